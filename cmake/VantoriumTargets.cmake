@@ -1,0 +1,39 @@
+# How every target of the project is built: the language, the warnings, the sanitizers, the compiler cache.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+  add_compile_options(-fpch-preprocess)
+endif()
+if(VANTORIUM_SANITIZE)
+  add_compile_options(-fsanitize=${VANTORIUM_SANITIZE} -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${VANTORIUM_SANITIZE})
+endif()
+
+function(vantorium_own_code target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()
+
+# vantorium_library(NAME FILES...): the static library of one folder.
+function(vantorium_library name)
+  add_library(${name} STATIC ${ARGN})
+  vantorium_own_code(${name})
+  target_precompile_headers(${name} PRIVATE <algorithm> <cstdint> <filesystem> <memory> <optional> <string> <string_view> <vector>)
+endfunction()
+
+# vantorium_test(NAME LIBRARIES... FILES files...): one test program of one folder.
+function(vantorium_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 TEST "" "" "LINK;FILES")
+  add_executable(${name} ${TEST_FILES})
+  vantorium_own_code(${name})
+  target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE VANTORIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <filesystem> <fstream> <memory> <string> <vector>)
+  include(GoogleTest)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
