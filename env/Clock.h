@@ -1,0 +1,14 @@
+#pragma once
+
+#include "env/CivilTime.h"
+
+namespace vantorium {
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  /// The present local date and time.
+  [[nodiscard]] virtual CivilTime Now() const = 0;
+};
+
+}  // namespace vantorium

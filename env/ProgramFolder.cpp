@@ -1,0 +1,62 @@
+#include "env/ProgramFolder.h"
+
+#include <cstdlib>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace vantorium {
+namespace {
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+std::string HomeFolder() {
+  if (std::string home = Variable("HOME"); !home.empty()) return home;
+  const passwd* user = ::getpwuid(::getuid());
+  return user == nullptr || user->pw_dir == nullptr ? "/" : user->pw_dir;
+}
+
+/// `folder` made absolute, without dots and without a slash at its end.
+fs::path Cleaned(const fs::path& folder) {
+  std::error_code error;
+  const fs::path absolute = fs::absolute(folder, error);
+  const fs::path clean = (error ? folder : absolute).lexically_normal();
+  return clean.has_filename() || !clean.has_relative_path() ? clean : clean.parent_path();
+}
+
+fs::path UserConfigurations(const Surroundings& around) {
+  const fs::path configured(around.xdgConfigHome);
+  return configured.is_absolute() ? configured : fs::path(around.home) / ".config";
+}
+
+}  // namespace
+
+Surroundings SurroundingsOfProcess() {
+  std::error_code ignored;
+  return {fs::read_symlink("/proc/self/exe", ignored), HomeFolder(), Variable("XDG_CONFIG_HOME")};
+}
+
+fs::path FindProgramFolder(const std::optional<fs::path>& given, const Surroundings& around) {
+  if (given) return Cleaned(*given);
+  std::error_code ignored;
+  const fs::path beside = around.executable.parent_path();
+  if (!beside.empty() && fs::is_regular_file(GetINIFileName(beside), ignored)) return Cleaned(beside);
+  return Cleaned(UserConfigurations(around) / "vantorium");
+}
+
+fs::path GetINIFileName(const fs::path& programFolder) {
+  return programFolder / "vantorium.ini";
+}
+
+std::string GetAppPath(const fs::path& programFolder, const PathMap& paths) {
+  std::string text = paths.ToText(programFolder);
+  while (text.ends_with('\\')) text.pop_back();
+  return text;
+}
+
+}  // namespace vantorium

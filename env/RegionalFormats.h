@@ -1,0 +1,30 @@
+#pragma once
+
+#include "env/CivilTime.h"
+
+#include <memory>
+#include <string>
+
+namespace vantorium {
+
+/// The named formats of the regional settings, by the numbers that the program gives them.
+enum class RegionalFormat { ShortDate = 0, LongDate = 1, ShortTime = 2, LongTime = 3 };
+
+/// Dates and times as the regional settings write them.
+class RegionalFormats {
+ public:
+  /// `locale`: an ICU or POSIX locale name such as "de_DE"; empty for that of the system's dates
+  /// and times (LC_ALL, LC_TIME, LANG).
+  explicit RegionalFormats(const std::string& locale = "");
+  ~RegionalFormats();
+  RegionalFormats(const RegionalFormats&) = delete;
+  RegionalFormats& operator=(const RegionalFormats&) = delete;
+
+  [[nodiscard]] std::string Format(const CivilTime& time, RegionalFormat format) const;
+
+ private:
+  struct Formatters;
+  std::unique_ptr<Formatters> formatters_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,44 @@
+#include "env/DriveTable.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+namespace vantorium {
+namespace {
+
+using Drives = std::map<char, std::string>;
+
+TEST(DriveTable, EachLetterOfTheSectionHasItsFolder) {
+  EXPECT_EQ(
+      DrivesOf("[FOLDERS]\r\nProjectFolder=\"C:\\x\"\r\n[DRIVES]\r\nC=\"/home/me\"\r\nd=/srv/photos\r\nZ=\"/\"\r\n"),
+      (Drives{{'C', "/home/me"}, {'D', "/srv/photos"}, {'Z', "/"}}));
+  EXPECT_EQ(DrivesOf(" [drives] \nC=\"/a b/\xC3\xA4\""), (Drives{{'C', "/a b/\xC3\xA4"}}));
+}
+
+TEST(DriveTable, AKeyOfAnotherSectionIsNoDrive) {
+  EXPECT_EQ(DrivesOf("C=\"/zero\"\n[A]\nC=\"/one\"\n[DRIVES]\nD=\"/two\"\n[B]\nC=\"/three\"\n"),
+            (Drives{{'D', "/two"}}));
+  EXPECT_EQ(DrivesOf("[DRIVES]\n[B]\nC=\"/three\"\n"), Drives());
+  EXPECT_EQ(DrivesOf("C=\"/last line\""), Drives());
+}
+
+TEST(DriveTable, TheFirstFolderOfALetterCounts) {
+  EXPECT_EQ(DrivesOf("[DRIVES]\nC=\"/one\"\nc=\"/two\"\n[DRIVES]\nC=\"/three\"\nD=\"/four\"\n"),
+            (Drives{{'C', "/one"}, {'D', "/four"}}));
+}
+
+TEST(DriveTable, WhatIsNoLetterOrNoAbsoluteFolderIsPassedOver) {
+  for (const char* line : {"CD=\"/a\"", "1=\"/a\"", "=\"/a\"", "C", "C:=\"/a\"", " C=\"/a\"", "C =\"/a\"", ";C=\"/a\"",
+                           "C=", "C=\"", "C=\"\"", "C=\"a/b\"", "C=\"C:\\a\"", "C=\"~\"", "C= \"/a\"", "\xC3=\"/a\""}) {
+    EXPECT_EQ(DrivesOf(std::string("[DRIVES]\n") + line), Drives()) << line;
+  }
+  EXPECT_EQ(DrivesOf(""), Drives());
+}
+
+TEST(DriveTable, AFileThatCannotBeReadHasNoDrives) {
+  const fakes::TemporaryFolder folder;
+  EXPECT_EQ(ReadDriveTable(folder.Path() / "none"), Drives());
+  EXPECT_EQ(ReadDriveTable(folder.Path()), Drives());
+  EXPECT_EQ(ReadDriveTable(folder.Write("vantorium.ini", "[DRIVES]\nC=\"/home/me\"\n")), (Drives{{'C', "/home/me"}}));
+}
+
+}  // namespace
+}  // namespace vantorium

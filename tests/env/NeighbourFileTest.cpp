@@ -1,0 +1,117 @@
+#include "env/NeighbourFile.h"
+#include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FolderNames.h"
+#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+
+namespace vantorium {
+namespace {
+
+namespace fs = std::filesystem;
+using fakes::FailureOf;
+using fakes::NamesIn;
+
+TEST(NeighbourFile, TheTargetAppearsOnlyWithItsName) {
+  const fakes::TemporaryFolder folder;
+  const auto target = folder.Path() / "a.jpg";
+  NeighbourFile file(target);
+  file.Write("one ");
+  file.Write("");
+  file.Write("two");
+  EXPECT_FALSE(fs::exists(target));
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 1U) << "the neighbour lies in the same folder";
+  file.Sync();
+  file.TakeTargetName();
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
+  EXPECT_EQ(folder.Read("a.jpg"), "one two");
+}
+
+TEST(NeighbourFile, WithoutTheNameItVanishes) {
+  const fakes::TemporaryFolder folder;
+  folder.Write("a.jpg", "old");
+  { NeighbourFile(folder.Path() / "a.jpg").Write("new"); }
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
+  EXPECT_EQ(folder.Read("a.jpg"), "old");
+}
+
+TEST(NeighbourFile, TwoOfOneTargetDoNotMeet) {
+  const fakes::TemporaryFolder folder;
+  NeighbourFile first(folder.Path() / "a.jpg");
+  NeighbourFile second(folder.Path() / "a.jpg");
+  first.Write("first");
+  second.Write("second");
+  second.TakeTargetName();
+  first.TakeTargetName();
+  EXPECT_EQ(folder.Read("a.jpg"), "first");
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
+}
+
+TEST(NeighbourFile, WhatAKilledProcessOfTheSameNumberLeftIsNoHindrance) {
+  const fakes::TemporaryFolder folder;
+  std::string left;
+  {
+    NeighbourFile probe(folder.Path() / "a.jpg");
+    left = NamesIn(folder.Path()).at(0);
+  }
+  // The names are numbered: occupy the next ones.
+  const auto dash = left.rfind('-');
+  const int number = std::stoi(left.substr(dash + 1));
+  for (int n = 1; n <= 3; ++n) folder.Write(left.substr(0, dash + 1) + std::to_string(number + n), "half");
+  NeighbourFile file(folder.Path() / "a.jpg");
+  file.Write("new");
+  file.TakeTargetName();
+  EXPECT_EQ(folder.Read("a.jpg"), "new");
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 4U) << "they are not ours to remove";
+}
+
+TEST(NeighbourFile, AFullDeviceIsAFailureOfWriting) {
+  const fakes::TemporaryFolder folder;
+  const fakes::FullDisk full(3);
+  NeighbourFile file(folder.Path() / "a.jpg");
+  file.Write("123");
+  EXPECT_EQ(FailureOf([&] { file.Write("4"); }), FailureKind::FileAccess);
+}
+
+TEST(NeighbourFile, ATargetThatBecameReadOnlyIsNotReplaced) {
+  const fakes::TemporaryFolder folder;
+  const auto target = folder.Write("a.jpg", "old");
+  {
+    NeighbourFile file(target);
+    file.Write("new");
+    fs::permissions(target, fs::perms(0444));
+    EXPECT_EQ(FailureOf([&] { file.TakeTargetName(); }), FailureKind::FileAccess);
+  }
+  EXPECT_EQ(folder.Read("a.jpg"), "old");
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
+}
+
+TEST(NeighbourFile, AProcessKilledWhileWritingCostsNoOldFile) {
+  const fakes::TemporaryFolder folder;
+  const auto target = folder.Write("a.jpg", "old");
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    NeighbourFile file(target);
+    file.Write("half");
+    ::kill(::getpid(), SIGKILL);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(folder.Read("a.jpg"), "old");
+}
+
+TEST(NeighbourFile, TheFailureNamesFileAndReason) {
+  try {
+    ThrowFileAccess("/a/b.jpg", ENOSPC);
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.Number(), 75);
+    EXPECT_EQ(failure.Description(), "/a/b.jpg: No space left on device");
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,107 @@
+#include "env/PathMap.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+namespace vantorium {
+namespace {
+
+const std::map<char, std::string> kDrives = {
+    {'C', "/home/me"}, {'D', "/home/me/photos/"}, {'E', "/home/me/photos"}, {'Z', "/"}};
+
+TEST(PathMap, ADriveLetterStandsForItsFolder) {
+  const PathMap map(kDrives);
+  const std::pair<const char*, const char*> cases[] = {{"C:\\photos\\a.jpg", "/home/me/photos/a.jpg"},
+                                                       {"c:\\a.jpg", "/home/me/a.jpg"},
+                                                       {"C:/photos/a.jpg", "/home/me/photos/a.jpg"},
+                                                       {"C:a.jpg", "/home/me/a.jpg"},
+                                                       {"C:", "/home/me/"},
+                                                       {"C:\\", "/home/me/"},
+                                                       {"D:\\a.jpg", "/home/me/photos/a.jpg"},
+                                                       {"Z:\\etc", "/etc"},
+                                                       {"Z:\\", "/"},
+                                                       {"C:\\\xC3\xA4 b.jpg", "/home/me/\xC3\xA4 b.jpg"}};
+  for (const auto& [text, native] : cases) EXPECT_EQ(map.ToNative(text), std::filesystem::path(native)) << text;
+}
+
+TEST(PathMap, OneLeadingSeparatorStandsForTheRootAndNoneForTheWorkingFolder) {
+  const PathMap map(kDrives);
+  EXPECT_EQ(map.ToNative("\\etc\\fonts"), std::filesystem::path("/etc/fonts"));
+  EXPECT_EQ(map.ToNative("/etc/fonts"), std::filesystem::path("/etc/fonts"));
+  EXPECT_EQ(map.ToNative("a\\b"), std::filesystem::path("a/b"));
+  EXPECT_EQ(map.ToNative(""), std::filesystem::path());
+  EXPECT_EQ(map.ToNative("1:\\a"), std::filesystem::path("1:/a"));
+}
+
+TEST(PathMap, WhatHasNoFolderHasNoNativePath) {
+  const PathMap map({{'C', "/home/me"}});
+  for (const char* text :
+       {"D:\\a", "z:", "\\\\server\\share\\a", "//server/share", "\\/server", "\\\\", "\\\\?\\C:\\a"}) {
+    EXPECT_EQ(map.ToNative(text), std::nullopt) << text;
+  }
+  EXPECT_EQ(map.ToNative(std::string_view("C:\\a\0b", 6)), std::nullopt);
+}
+
+TEST(PathMap, WithoutATableThereAreTheHomeFolderAndTheRoot) {
+  const PathMap map({}, "/home/me");
+  EXPECT_EQ(map.ToNative("C:\\a"), std::filesystem::path("/home/me/a"));
+  EXPECT_EQ(map.ToNative("Z:\\a"), std::filesystem::path("/a"));
+  EXPECT_EQ(map.ToNative("D:\\a"), std::nullopt);
+  EXPECT_EQ(map.ToText("/home/me/a"), "C:\\a");
+  EXPECT_EQ(map.ToText("/etc"), "Z:\\etc");
+}
+
+TEST(PathMap, ANativePathIsOnTheDriveOfItsLongestPrefix) {
+  const PathMap map(kDrives);
+  const std::pair<const char*, const char*> cases[] = {{"/home/me/a.jpg", "C:\\a.jpg"},
+                                                       {"/home/me/photos/a.jpg", "D:\\a.jpg"},
+                                                       {"/home/me/photos", "D:"},
+                                                       {"/home/me/photos2/a", "C:\\photos2\\a"},
+                                                       {"/home/meg/a", "Z:\\home\\meg\\a"},
+                                                       {"/", "Z:\\"},
+                                                       {"/home/me/", "C:\\"}};
+  for (const auto& [native, text] : cases) EXPECT_EQ(map.ToText(native), text) << native;
+}
+
+TEST(PathMap, ANativePathOnNoDriveIsBelowTheRoot) {
+  const PathMap map({{'C', "/home/me"}});
+  EXPECT_EQ(map.ToText("/etc/fonts"), "\\etc\\fonts");
+  EXPECT_EQ(map.ToText("/home"), "\\home");
+}
+
+TEST(PathMap, APathComesBackFromItsText) {
+  const PathMap maps[] = {PathMap(kDrives), PathMap({}, "/home/me"), PathMap({{'X', "/srv"}})};
+  for (const PathMap& map : maps) {
+    for (const char* native : {"/", "/srv", "/srv/a b/c.jpg", "/home/me/photos/a.jpg", "/home/me/x/\xC3\xA4", "/h"}) {
+      const auto back = map.ToNative(map.ToText(native));
+      ASSERT_TRUE(back) << native;
+      EXPECT_EQ((*back / "").lexically_normal(), (std::filesystem::path(native) / "").lexically_normal()) << native;
+    }
+  }
+}
+
+TEST(PathMap, PathTextThatAUserTypedStaysAndANativePathIsMapped) {
+  const PathMap map(kDrives);
+  EXPECT_EQ(map.ToTextFromUser("C:\\photos"), "C:\\photos");
+  EXPECT_EQ(map.ToTextFromUser("q:/photos"), "q:\\photos");
+  EXPECT_EQ(map.ToTextFromUser("\\\\server\\share"), "\\\\server\\share");
+  EXPECT_EQ(map.ToTextFromUser("/home/me/photos/../a.jpg"), "C:\\a.jpg");
+  EXPECT_EQ(map.ToTextFromUser("/home/me//a/./b"), "C:\\a\\b");
+  const std::string here = map.ToText(std::filesystem::current_path());
+  EXPECT_EQ(map.ToTextFromUser("a/b.jpg"), here + (here.ends_with('\\') ? "" : "\\") + "a\\b.jpg");
+}
+
+TEST(PathMap, AnEmptyTextOfAUserStaysEmpty) {
+  EXPECT_EQ(PathMap(kDrives).ToTextFromUser(""), "");
+}
+
+TEST(PathMap, AWorkingFolderThatIsGoneLeavesTheTextOfAUser) {
+  const auto before = std::filesystem::current_path();
+  const fakes::TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path() / "gone");
+  std::filesystem::current_path(folder.Path() / "gone");
+  std::filesystem::remove(folder.Path() / "gone");
+  EXPECT_EQ(PathMap(kDrives).ToTextFromUser("a/b"), "a\\b");
+  std::filesystem::current_path(before);
+}
+
+}  // namespace
+}  // namespace vantorium

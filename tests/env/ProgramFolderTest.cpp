@@ -1,0 +1,83 @@
+#include "env/ProgramFolder.h"
+#include "tests/fakes/FolderNames.h"
+#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+namespace vantorium {
+namespace {
+
+namespace fs = std::filesystem;
+using fakes::EnvironmentVariable;
+
+const Surroundings kInstalled = {"/usr/bin/vantorium-of-no-machine", "/home/me", ""};
+
+TEST(ProgramFolder, AGivenFolderIsTaken) {
+  EXPECT_EQ(FindProgramFolder("/srv/v", kInstalled), "/srv/v");
+  EXPECT_EQ(FindProgramFolder("/srv/./x/../v/", kInstalled), "/srv/v");
+  EXPECT_EQ(FindProgramFolder("/", kInstalled), "/");
+  EXPECT_EQ(FindProgramFolder("v", kInstalled), (fs::current_path() / "v").lexically_normal());
+}
+
+TEST(ProgramFolder, APreferencesFileBesideTheExecutableMakesItPortable) {
+  const fakes::TemporaryFolder folder;
+  const Surroundings around = {folder.Path() / "vantorium", "/home/me", "/etc/xdg"};
+  EXPECT_EQ(FindProgramFolder({}, around), "/etc/xdg/vantorium");
+  folder.Write("vantorium.ini", "");
+  EXPECT_EQ(FindProgramFolder({}, around), folder.Path());
+  EXPECT_EQ(FindProgramFolder("/srv/v", around), "/srv/v");
+}
+
+TEST(ProgramFolder, AFolderOfThatNameIsNoPreferencesFile) {
+  const fakes::TemporaryFolder folder;
+  fs::create_directory(folder.Path() / "vantorium.ini");
+  EXPECT_EQ(FindProgramFolder({}, {folder.Path() / "vantorium", "/home/me", ""}), "/home/me/.config/vantorium");
+}
+
+TEST(ProgramFolder, ElseItIsInTheUsersFolderForConfigurations) {
+  EXPECT_EQ(FindProgramFolder({}, kInstalled), "/home/me/.config/vantorium");
+  EXPECT_EQ(FindProgramFolder({}, {"", "/home/me", "/x/"}), "/x/vantorium");
+  EXPECT_EQ(FindProgramFolder({}, {"", "/home/me/", ""}), "/home/me/.config/vantorium");
+}
+
+TEST(ProgramFolder, ARelativeXdgFolderIsInvalidAndPassedOver) {
+  for (const char* relative : {".", "config", "../x", "~/.config"}) {
+    EXPECT_EQ(FindProgramFolder({}, {"", "/home/me", relative}), "/home/me/.config/vantorium") << relative;
+  }
+}
+
+TEST(ProgramFolder, NothingIsMade) {
+  const fakes::TemporaryFolder folder;
+  std::ignore = FindProgramFolder({}, {"", folder.Path().string(), (folder.Path() / "xdg").string()});
+  std::ignore = FindProgramFolder({}, {"", folder.Path().string(), ""});
+  EXPECT_TRUE(fakes::NamesIn(folder.Path()).empty());
+}
+
+TEST(ProgramFolder, TheProcessKnowsItsSurroundings) {
+  const EnvironmentVariable home("HOME", "/home/me");
+  const EnvironmentVariable xdg("XDG_CONFIG_HOME", "/x");
+  const Surroundings around = SurroundingsOfProcess();
+  EXPECT_EQ(around.executable.filename(), "test_env");
+  EXPECT_TRUE(fs::is_regular_file(around.executable));
+  EXPECT_EQ(around.home, "/home/me");
+  EXPECT_EQ(around.xdgConfigHome, "/x");
+}
+
+TEST(ProgramFolder, WithoutHomeTheUserDataBaseNamesIt) {
+  const EnvironmentVariable home("HOME", nullptr);
+  const EnvironmentVariable xdg("XDG_CONFIG_HOME", nullptr);
+  const Surroundings around = SurroundingsOfProcess();
+  EXPECT_TRUE(around.home.starts_with('/')) << around.home;
+  EXPECT_EQ(around.xdgConfigHome, "");
+}
+
+TEST(ProgramFolder, TheFilesLieInItAndItsTextEndsInNoBackslash) {
+  EXPECT_EQ(GetINIFileName("/srv/v"), "/srv/v/vantorium.ini");
+  const PathMap paths({{'C', "/home/me"}, {'Z', "/"}});
+  EXPECT_EQ(GetAppPath("/home/me/.config/vantorium", paths), "C:\\.config\\vantorium");
+  EXPECT_EQ(GetAppPath("/home/me/", paths), "C:");
+  EXPECT_EQ(GetAppPath("/", paths), "Z:");
+  EXPECT_EQ(GetAppPath("/srv/v", PathMap({{'C', "/home/me"}})), "\\srv\\v");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "env/EventLoop.h"
+
+#include <functional>
+
+namespace vantorium::fakes {
+
+/// Counts its turns, and does in each what the test asks for.
+class CountingEventLoop : public EventLoop {
+ public:
+  void Turn() override {
+    ++turns;
+    if (onTurn) onTurn(turns);
+  }
+
+  int turns = 0;
+  std::function<void(int turn)> onTurn;
+};
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "env/RuntimeFailure.h"
+
+#include <optional>
+#include <ostream>
+
+namespace vantorium {
+
+inline std::ostream& operator<<(std::ostream& stream, FailureKind kind) {
+  return stream << "failure " << static_cast<std::int32_t>(kind);
+}
+
+namespace fakes {
+
+/// The failure that `operation` ends with; nothing when it succeeds.
+template <typename Operation>
+std::optional<FailureKind> FailureOf(Operation operation) {
+  try {
+    operation();
+    return std::nullopt;
+  } catch (const RuntimeFailure& failure) {
+    return static_cast<FailureKind>(failure.Number());
+  }
+}
+
+}  // namespace fakes
+}  // namespace vantorium

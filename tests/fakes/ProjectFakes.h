@@ -1,0 +1,149 @@
+#pragma once
+
+#include "core/ImageListOperations.h"
+#include "core/ProjectFields.h"
+#include "core/ProjectSession.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <deque>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// The calls of all ports in their order.
+using Calls = std::vector<std::string>;
+
+class RecordingSessionHost : public ProjectSessionHost {
+ public:
+  explicit RecordingSessionHost(Calls& calls) : calls_(calls) {}
+
+  void SetStatusText(const std::string& text) override { calls_.push_back("status " + text); }
+  void ShowWaitPointer() override { calls_.emplace_back("wait pointer"); }
+  void ResetPointer() override { calls_.emplace_back("pointer"); }
+  void ShowInfoWindow(const std::string& text) override { calls_.push_back("info " + text); }
+  void HideInfoWindow() override { calls_.emplace_back("info hidden"); }
+  void EnableMainWindow(bool enabled) override { calls_.emplace_back(enabled ? "enabled" : "disabled"); }
+  void RefreshTitleBar() override { calls_.emplace_back("title bar"); }
+  void RefreshPreview() override { calls_.emplace_back("preview"); }
+  void RefreshCounts() override { calls_.emplace_back("counts"); }
+  void RefreshPageCount() override { calls_.emplace_back("page count"); }
+  void HideDescriptionsWindow() override { calls_.emplace_back("descriptions hidden"); }
+  void SelectFirstTab() override { calls_.emplace_back("first tab"); }
+  void FocusTitleField() override { calls_.emplace_back("title field"); }
+  void RebuildCustomColours() override { calls_.emplace_back("custom colours"); }
+
+ private:
+  Calls& calls_;
+};
+
+/// Chooses what `answers` holds, in order, and then nothing.
+class ScriptedProjectFileDialog : public ProjectFileDialog {
+ public:
+  explicit ScriptedProjectFileDialog(Calls& calls) : calls_(calls) {}
+
+  std::string Choose(const Request& request) override {
+    calls_.push_back("dialog " + request.title);
+    requests.push_back(request);
+    if (answers.empty()) return {};
+    std::string answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+
+  std::vector<Request> requests;
+  std::deque<std::string> answers;
+
+ private:
+  Calls& calls_;
+};
+
+/// A message box that also stands among the calls of the other ports, as its title.
+class RecordedBoxes : public RecordingMessageBox {
+ public:
+  explicit RecordedBoxes(Calls& calls) : calls_(calls) {}
+
+  BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override {
+    calls_.push_back("box " + title);
+    return RecordingMessageBox::Show(kind, buttons, title, text);
+  }
+
+ private:
+  Calls& calls_;
+};
+
+class CountingEvents : public EventLoop {
+ public:
+  void Turn() override { ++turns; }
+  int turns = 0;
+};
+
+/// One project, its session and a folder for its files.
+struct ProjectDesk {
+  TemporaryFolder folder;
+  Calls calls;
+  RecordedBoxes boxes{calls};
+  ScriptedProjectFileDialog dialog{calls};
+  RecordingSessionHost host{calls};
+  CountingEvents events;
+  PathMap paths{{}};
+  RegionalFormats formats;
+  mFileFunctions files{paths, formats};
+  ImageListDisplay display;
+  Project project;
+  ImageListOperations images{project, files, boxes, display};
+  ProjectSession session{project, images, {paths, boxes, dialog, host, events}};
+
+  /// Path text of a file below the folder, whether or not it is there.
+  [[nodiscard]] std::string PathOf(const std::string& name) const { return paths.ToText(folder.Path() / name); }
+
+  /// Path text of a new file.
+  std::string File(const std::string& name, std::string_view bytes = "bytes") const {
+    return paths.ToText(folder.Write(name, bytes));
+  }
+
+  void AddImage(const std::string& name, const std::string& description = {}, const std::string& thumbnail = {}) {
+    project.images.Insert(project.images.Count() + 1, {name, File(name), "", "", description, thumbnail});
+  }
+};
+
+/// All settings by their names, those of records as "ImageFilters.sliderFade", for comparisons that show what differs.
+inline std::map<std::string, std::string> SettingTexts(const GalleryProject& project) {
+  std::map<std::string, std::string> texts;
+  const auto put = [&texts](const std::string& name, const auto& value) {
+    if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) {
+      texts[name] = std::to_string(value);
+    } else {
+      texts[name] = value;
+    }
+  };
+  const auto putRecord = [&put](const std::string& name, const auto& record, const auto& fields) {
+    for (const auto& field : fields) {
+      std::visit([&](auto member) { put(name + "." + std::string(field.name), record.*member); }, field.member);
+    }
+  };
+  for (const ProjectField& field : ProjectFields()) {
+    const std::string name(field.name);
+    std::visit(
+        [&](auto member) {
+          const auto& value = project.*member;
+          using Value = std::decay_t<decltype(value)>;
+          if constexpr (std::is_same_v<Value, ImageFilterSettings>) {
+            putRecord(name, value, FilterFields());
+          } else if constexpr (std::is_same_v<Value, WatermarkSettings>) {
+            putRecord(name, value, WatermarkFields());
+          } else if constexpr (std::is_same_v<Value, LinkSettings>) {
+            putRecord(name, value, LinkFields());
+          } else {
+            put(name, value);
+          }
+        },
+        field.member);
+  }
+  return texts;
+}
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/ImageListDisplay.h"
+
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// Records what the operations on the image list ask of their window, in order.
+class RecordingImageListDisplay : public ImageListDisplay {
+ public:
+  void ShowWaitPointer() override { calls.emplace_back("wait"); }
+  void ResetPointer() override { calls.emplace_back("reset"); }
+  void RefreshPreview() override { calls.emplace_back("preview"); }
+  void RefreshCounts() override { calls.emplace_back("counts"); }
+  void ScrollIntoView(std::size_t position) override { calls.push_back("scroll " + std::to_string(position)); }
+
+  std::vector<std::string> calls;
+};
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "core/generation/RunHost.h"
+#include "env/Clock.h"
+#include "env/EventLoop.h"
+#include "env/RuntimeFailure.h"
+#include "env/Shell.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// What happened during a run, in its order, across all its ports.
+using Journal = std::vector<std::string>;
+
+/// An event loop that counts its turns and may do something in one of them.
+class ScriptedLoop : public EventLoop {
+ public:
+  void Turn() override {
+    ++turns;
+    if (onTurn) onTurn(turns);
+  }
+
+  int turns = 0;
+  std::function<void(int)> onTurn;
+};
+
+class FixedClock : public Clock {
+ public:
+  [[nodiscard]] CivilTime Now() const override { return now; }
+
+  CivilTime now{2026, 3, 4, 5, 6, 7};
+};
+
+class RecordingShell : public Shell {
+ public:
+  explicit RecordingShell(Journal& journal) : journal_(journal) {}
+
+  void Beep(BeepKind kind) override {
+    journal_.emplace_back(kind == BeepKind::Information ? "beep information" : "beep warning");
+  }
+  void OpenFile(const std::string& path) override {
+    journal_.push_back("open " + path);
+    if (fails) throw RuntimeFailure(FailureKind::FileNotFound);
+  }
+  void StartProgram(const std::string& executable, const std::string& file) override {
+    journal_.push_back("start " + executable + " " + file);
+    if (fails) throw RuntimeFailure(FailureKind::FileNotFound);
+  }
+
+  bool fails = false;
+
+ private:
+  Journal& journal_;
+};
+
+/// What a ProgressWindow was told. It outlives the window, which a run destroys at its end.
+struct ProgressRecord {
+  std::string caption;
+  std::string text1;
+  std::vector<std::string> texts2;
+  std::string log;
+  std::string written;
+  std::int32_t maximum = 0;
+  std::vector<std::int32_t> values;
+  bool cancelled = false;
+  bool logToFile = false;
+  bool unloaded = false;
+};
+
+class RecordingProgress : public ProgressWindow {
+ public:
+  RecordingProgress(ProgressRecord& record, Journal& journal) : record_(record), journal_(journal) {}
+  ~RecordingProgress() override {
+    record_.unloaded = true;
+    journal_.emplace_back("progress unloaded");
+  }
+  RecordingProgress(const RecordingProgress&) = delete;
+  RecordingProgress& operator=(const RecordingProgress&) = delete;
+
+  void Show() override {
+    record_.logToFile = LogToFile;
+    journal_.emplace_back("progress shown");
+  }
+  void SetCaption(const std::string& text) override { record_.caption = text; }
+  void SetText1(const std::string& text) override { record_.text1 = text; }
+  void SetText2(const std::string& text) override { record_.texts2.push_back(text); }
+  void SetText3(const std::string& text, bool append) override { record_.log = append ? record_.log + text : text; }
+  void SetMax(std::int32_t maximum) override { record_.maximum = maximum; }
+  [[nodiscard]] std::int32_t GetMax() const override { return record_.maximum; }
+  void SetProgress(std::int32_t value) override { record_.values.push_back(value); }
+  [[nodiscard]] std::int32_t GetProgress() const override { return record_.values.empty() ? 0 : record_.values.back(); }
+  void SetFileProgress(std::int16_t /*percentage*/) override {}
+  [[nodiscard]] bool IsCancelled() const override { return record_.cancelled; }
+  void SetIsCancelled(bool cancelled) override { record_.cancelled = cancelled; }
+  void ShowBusyPointer(bool busy) override { journal_.emplace_back(busy ? "progress busy" : "progress idle"); }
+  void OfferClose() override {
+    journal_.emplace_back("close offered");
+    CloseRequested = closesAtOnce;
+  }
+  [[nodiscard]] std::string LogBoxText() const override { return record_.log; }
+  void WriteLog(const std::string& text) override { record_.written += text; }
+
+  bool closesAtOnce = true;
+
+ private:
+  ProgressRecord& record_;
+  Journal& journal_;
+};
+
+class RecordingRunHost : public RunHost {
+ public:
+  explicit RecordingRunHost(Journal& journal) : journal_(journal) {}
+
+  [[nodiscard]] CreateChoice AskWhatToCreate() override {
+    journal_.emplace_back("asked");
+    return choice;
+  }
+  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
+    auto window = std::make_unique<RecordingProgress>(progress, journal_);
+    window->closesAtOnce = windowClosesAtOnce;
+    openWindow = window.get();
+    return window;
+  }
+  void ShowStatus(const std::string& text) override { statuses.push_back(text); }
+  void ShowBusyPointer(bool busy) override { journal_.emplace_back(busy ? "busy" : "idle"); }
+  void EnableMainWindow(bool enabled) override { journal_.emplace_back(enabled ? "window on" : "window off"); }
+  void EnableTrayIcon(bool enabled) override { journal_.emplace_back(enabled ? "tray on" : "tray off"); }
+
+  CreateChoice choice;
+  ProgressRecord progress;
+  std::vector<std::string> statuses;
+  bool windowClosesAtOnce = true;
+  RecordingProgress* openWindow = nullptr;
+
+ private:
+  Journal& journal_;
+};
+
+}  // namespace vantorium::fakes
