@@ -1,0 +1,132 @@
+// The pixel routines on a picture of 24 megapixels, one thread, and memcpy of the same picture. What counts is the
+// ratio to memcpy, which is printed below the table as the median of several rounds that measure both in turn.
+#include "image/Filters.h"
+#include "image/Resample.h"
+#include "image/ResampleLiteral.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace vantorium {
+namespace {
+
+constexpr std::int32_t kWidth = 6000;
+constexpr std::int32_t kHeight = 4000;
+
+std::size_t Bytes(const cDIBSection& dib) {
+  return static_cast<std::size_t>(dib.BytesPerScanLine()) * static_cast<std::size_t>(dib.height());
+}
+
+// The same random picture for all; filters change it, but no filter's time depends on the colours.
+cDIBSection& Picture() {
+  static cDIBSection picture = [] {
+    cDIBSection made;
+    if (!made.Create(kWidth, kHeight)) std::abort();
+    NoiseStream stream(1, 0);
+    RandomiseBits(made, false, stream);
+    return made;
+  }();
+  return picture;
+}
+
+std::vector<std::uint8_t>& Copy() {
+  static std::vector<std::uint8_t> copy(Bytes(Picture()));
+  return copy;
+}
+
+void CopyPicture() {
+  std::memcpy(Copy().data(), Picture().DIBSectionBitsPtr(), Copy().size());
+  benchmark::ClobberMemory();
+}
+
+void AddUniformNoise() {
+  NoiseStream stream(1, 2);
+  AddNoise(Picture(), 50, false, stream);
+}
+
+void AddRandomNoise() {
+  NoiseStream stream(1, 2);
+  AddNoise(Picture(), 50, true, stream);
+}
+
+template <auto resample>
+void Reduce() {
+  benchmark::DoNotOptimize(resample(Picture(), 300, 450));
+}
+
+template <auto resample>
+void Enlarge() {
+  benchmark::DoNotOptimize(resample(*resample(Picture(), 300, 450), 2000, 3000));
+}
+
+struct Work {
+  const char* name;
+  double limit;  // times memcpy; 0 when there is none
+  std::function<void()> run;
+};
+
+const std::vector<Work>& Works() {
+  static const std::vector<Work> works = {
+      {"GrayScale", 3, [] { GrayScale(Picture()); }},
+      {"Fade", 3, [] { Fade(Picture(), 250); }},
+      {"AddNoise", 10, AddUniformNoise},
+      {"AddNoise random", 10, AddRandomNoise},
+      {"Lighten", 15, [] { Lighten(Picture(), 25); }},
+      {"Resample to 450 x 300", 0, Reduce<Resample>},
+      {"ResampleLiteral to 450 x 300", 0, Reduce<ResampleLiteral>},
+      {"Resample to 3000 x 2000", 0, Enlarge<Resample>},
+  };
+  return works;
+}
+
+double Seconds(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double MedianRatio(const Work& work) {
+  std::vector<double> ratios;
+  for (int round = 0; round < 15; ++round) {
+    const double copying = Seconds(CopyPicture);
+    ratios.push_back(Seconds(work.run) / copying);
+  }
+  std::nth_element(ratios.begin(), ratios.begin() + 7, ratios.end());
+  return ratios[7];
+}
+
+void PrintRatios() {
+  std::printf("\n%-32s %8s %8s\n", "times memcpy", "ratio", "limit");
+  for (const Work& work : Works()) {
+    const std::string limit = work.limit > 0 ? std::to_string(static_cast<int>(work.limit)) : "";
+    std::printf("%-32s %8.2f %8s\n", work.name, MedianRatio(work), limit.c_str());
+  }
+}
+
+void Register(const char* name, const std::function<void()>& run) {
+  benchmark::RegisterBenchmark(name, [run](benchmark::State& state) {
+    for (auto _ : state) run();
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(Bytes(Picture())));
+  })->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+}  // namespace vantorium
+
+int main(int count, char** arguments) {
+  benchmark::Initialize(&count, arguments);
+  if (benchmark::ReportUnrecognizedArguments(count, arguments)) return 1;
+  vantorium::CopyPicture();  // so that no first touch of the memory is measured
+  vantorium::Register("memcpy", vantorium::CopyPicture);
+  for (const auto& work : vantorium::Works()) vantorium::Register(work.name, work.run);
+  benchmark::RunSpecifiedBenchmarks();
+  vantorium::PrintRatios();
+  return 0;
+}

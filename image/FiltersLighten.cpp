@@ -1,0 +1,180 @@
+#include "image/Filters.h"
+#include "image/FiltersLiteral.h"
+#include "image/VectorClones.h"
+
+#include <algorithm>
+
+namespace vantorium {
+namespace {
+
+// The conversion to hue, saturation and lightness and back as mHLSRGB does it, stage by stage over pieces of a row, so
+// that the compiler can work on several pixels at a time. No rounding differs from mHLSRGB's.
+//
+// The bytes alone decide which channel is the highest and on which side of its hue the pixel lies, so the channels are
+// sorted first, and put back at the end. Where the highest channel is there twice, mHLSRGB may come back with the other
+// one as the highest and this one as the middle one; both have the same byte then.
+
+// So many pixels stay in the nearest cache.
+constexpr std::size_t kPiece = 128;
+
+// The pixels of a piece, their channels in the order of their values.
+struct SortedBytes {
+  std::uint8_t high[kPiece];
+  std::uint8_t middle[kPiece];
+  std::uint8_t low[kPiece];
+  std::uint8_t place[kPiece];  // the hue of the highest channel, 0, 2 or 4, and kFalling when the pixel's hue is below
+};
+constexpr std::uint8_t kFalling = 1;
+
+// The same as parts of 1. What mHLSRGB stores as a single is one here too, only held in a double: vectors then have the
+// same pixels for every value.
+struct SortedParts {
+  double high[kPiece];
+  double middle[kPiece];
+  double low[kPiece];
+  double third[kPiece];  // the hue of the highest channel, negative when the pixel's hue is below
+  double delta[kPiece];
+  double light[kPiece];
+  double saturation[kPiece];
+};
+
+inline double Single(double value) {
+  return static_cast<double>(static_cast<float>(value));
+}
+
+// Adding 1.5 * 2^52 leaves no bits for a fraction, and the processor rounds ties to even.
+inline double Rounded(double value) {
+  constexpr double kNoFraction = 6755399441055744.0;
+  return (value + kNoFraction) - kNoFraction;
+}
+
+// Grey pixels have the dividend 0, and their quotient has to be 0. Any other divisor is at least 1 / 255.
+inline double AtLeastTiny(double divisor) {
+  return divisor < 0.001 ? 0.001 : divisor;
+}
+
+VANTORIUM_VECTOR_CLONES
+void Sort(const std::uint8_t* pixels, std::size_t count, SortedBytes& sorted) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint8_t b = pixels[3 * i];
+    const std::uint8_t g = pixels[3 * i + 1];
+    const std::uint8_t r = pixels[3 * i + 2];
+    const std::uint8_t high = std::max(std::max(r, g), b);
+    const std::uint8_t redFalls = g < b;
+    const std::uint8_t greenFalls = b < r;
+    const std::uint8_t blueFalls = r < g;
+    sorted.high[i] = high;
+    sorted.middle[i] = std::max(std::min(r, g), std::min(std::max(r, g), b));
+    sorted.low[i] = std::min(std::min(r, g), b);
+    sorted.place[i] = r == high   ? redFalls
+                      : g == high ? static_cast<std::uint8_t>(2 | greenFalls)
+                                  : static_cast<std::uint8_t>(4 | blueFalls);
+  }
+}
+
+// One operation on singles, rounded to a single, is the same in single and in double precision.
+VANTORIUM_VECTOR_CLONES
+void ToParts(const SortedBytes& sorted, SortedParts& parts) {
+  for (std::size_t i = 0; i < kPiece; ++i) {
+    const float high = static_cast<float>(sorted.high[i]) / 255.0F;
+    const float low = static_cast<float>(sorted.low[i]) / 255.0F;
+    const std::int32_t third = sorted.place[i] & 6;
+    parts.high[i] = high;
+    parts.middle[i] = static_cast<float>(sorted.middle[i]) / 255.0F;
+    parts.low[i] = low;
+    parts.light[i] = (high + low) / 2;
+    parts.delta[i] = high - low;
+    parts.third[i] = (sorted.place[i] & kFalling) != 0 ? -third : third;
+  }
+}
+
+VANTORIUM_VECTOR_CLONES
+void LightenParts(SortedParts& parts, double factor) {
+  for (std::size_t i = 0; i < kPiece; ++i) {
+    const double high = parts.high[i];
+    const double low = parts.low[i];
+    const double ofLight = 2 - high - low;
+    const double ofDark = high + low;
+    parts.saturation[i] = Single((high - low) / AtLeastTiny(parts.light[i] > 0.5 ? ofLight : ofDark));
+    const double light = Single(parts.light[i] * factor);
+    parts.light[i] = light > 1 ? 1.0 : light;
+  }
+}
+
+// `high` becomes the lowest channel of the result: it is not needed any more, while the old `low` is.
+VANTORIUM_VECTOR_CLONES
+void FindNewLow(SortedParts& parts) {
+  for (std::size_t i = 0; i < kPiece; ++i) {
+    const double light = parts.light[i];
+    const double ofLight = light - parts.saturation[i] * (1 - light);
+    const double ofDark = light * (1 - parts.saturation[i]);
+    parts.high[i] = Single(light > 0.5 ? ofLight : ofDark);
+  }
+}
+
+// The hue is rounded where it stands on the circle, and what counts of it is its distance from the highest channel.
+// Below that channel all is turned round: a negative hue plus the quotient is rounded as the hue minus the quotient is.
+VANTORIUM_VECTOR_CLONES
+void ToResult(SortedParts& parts) {
+  for (std::size_t i = 0; i < kPiece; ++i) {
+    const double third = parts.third[i];
+    const double hue = Single(third + (parts.middle[i] - parts.low[i]) / AtLeastTiny(parts.delta[i]));
+    const double min = parts.high[i];
+    const double max = Single(2 * parts.light[i] - min);
+    const double middle = Single((max - min) * (hue - third) + min);
+    parts.high[i] = Rounded(max * 255.0);
+    parts.middle[i] = Rounded(middle * 255.0);
+    parts.low[i] = Rounded(min * 255.0);
+  }
+}
+
+VANTORIUM_VECTOR_CLONES
+void ToBytes(const double* parts, std::uint8_t* bytes) {
+  for (std::size_t i = 0; i < kPiece; ++i) bytes[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(parts[i]));
+}
+
+VANTORIUM_VECTOR_CLONES
+void PutBack(const SortedBytes& sorted, std::size_t count, std::uint8_t* pixels) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint8_t high = sorted.high[i];
+    const bool falling = (sorted.place[i] & kFalling) != 0;
+    const std::uint8_t before = falling ? sorted.middle[i] : sorted.low[i];  // the channel before the highest
+    const std::uint8_t behind = falling ? sorted.low[i] : sorted.middle[i];
+    const int third = sorted.place[i] & 6;
+    pixels[3 * i] = third == 0 ? before : third == 2 ? behind : high;
+    pixels[3 * i + 1] = third == 0 ? behind : third == 2 ? high : before;
+    pixels[3 * i + 2] = third == 0 ? high : third == 2 ? before : behind;
+  }
+}
+
+void LightenPiece(std::uint8_t* pixels, std::size_t count, double factor) {
+  SortedBytes sorted = {};
+  SortedParts parts;
+  Sort(pixels, count, sorted);
+  ToParts(sorted, parts);
+  LightenParts(parts, factor);
+  FindNewLow(parts);
+  ToResult(parts);
+  ToBytes(parts.high, sorted.high);
+  ToBytes(parts.middle, sorted.middle);
+  ToBytes(parts.low, sorted.low);
+  PutBack(sorted, count, pixels);
+}
+
+}  // namespace
+
+void Lighten(cDIBSection& dib, std::int32_t amount) {
+  if (amount < -100 || amount > 100) {
+    LightenLiteral(dib, amount);
+    return;
+  }
+  const double factor = amount / 100.0 + 1.0;
+  const auto width = static_cast<std::size_t>(dib.width());
+  for (std::int32_t y = 0; y < dib.height(); ++y) {
+    for (std::size_t x = 0; x < width; x += kPiece) {
+      LightenPiece(dib.Row(y) + 3 * x, std::min(kPiece, width - x), factor);
+    }
+  }
+}
+
+}  // namespace vantorium

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+
+namespace vantorium {
+
+/// Decodes one JPEG file row by row, from the top of the picture down. The order of calls is Open, Start, then ReadRow
+/// and SkipRows until all rows are through, then Finish. Any call may answer false; the file is then given up.
+///
+/// Grey, YCbCr, RGB, CMYK and YCCK pictures of 8 bits a sample come out as blue, green, red. Decoding is the library's
+/// default: the accurate integer transform and smooth chroma. Orientation tags and colour profiles are not looked at.
+class JPEGDecoder {
+ public:
+  JPEGDecoder();
+  ~JPEGDecoder();
+  JPEGDecoder(const JPEGDecoder&) = delete;
+  JPEGDecoder& operator=(const JPEGDecoder&) = delete;
+
+  /// Opens the file and reads its header. False for whatever is no JPEG file.
+  [[nodiscard]] bool Open(const std::filesystem::path& path);
+  /// The picture's size in pixels; known once Open succeeded.
+  [[nodiscard]] std::int32_t width() const;
+  [[nodiscard]] std::int32_t height() const;
+  /// Whether a file of this size can hold as many pixels as its header claims. The others are refused by Start, which
+  /// would otherwise take memory and time for pictures that are not there.
+  [[nodiscard]] bool IsPlausible() const;
+  /// Whether the picture came in several scans: Start then reads the whole file and holds all its coefficients.
+  [[nodiscard]] bool HoldsWholePicture() const;
+
+  [[nodiscard]] bool Start();
+  /// Writes the next row, 3 bytes a pixel, to `bgr`. False as soon as the data turn out to be damaged or to end early.
+  [[nodiscard]] bool ReadRow(std::uint8_t* bgr);
+  /// Leaves out the next `count` rows. The rows behind them come out as if these had been read. Damage in the rows
+  /// that end the picture may go unnoticed when they are skipped.
+  [[nodiscard]] bool SkipRows(std::int32_t count);
+  /// Reads to the end mark. False when the data were damaged anywhere or rows are left.
+  [[nodiscard]] bool Finish();
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace vantorium {
+
+/// Encodes one picture row by row, from the top down, into memory: baseline, YCbCr with chroma halved in both
+/// directions, default Huffman tables, the accurate integer transform. Each call throws RuntimeFailure JPEGLibrary with
+/// "Failed to save to JPG " and the library's words, also for a side of 0 or one above 65500.
+class JPEGEncoder {
+ public:
+  /// `quality` is on the scale of the Independent JPEG Group, 1 to 100.
+  JPEGEncoder(std::int32_t width, std::int32_t height, std::int32_t quality);
+  ~JPEGEncoder();
+  JPEGEncoder(const JPEGEncoder&) = delete;
+  JPEGEncoder& operator=(const JPEGEncoder&) = delete;
+
+  /// The next row, 3 bytes a pixel: blue, green, red.
+  void WriteRow(const std::uint8_t* bgr);
+  /// The bytes of the file, once all rows are written. To be called once.
+  [[nodiscard]] std::string Finish();
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace vantorium

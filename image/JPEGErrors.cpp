@@ -1,0 +1,52 @@
+#include "image/JPEGErrors.h"
+
+#include <jerror.h>
+
+namespace vantorium {
+namespace {
+
+// Unknown versions, stray bytes between segments and the like are no damage: the picture is whole all the same.
+bool MeansDamage(int warning) {
+  switch (warning) {
+    case JWRN_ARITH_BAD_CODE:
+    case JWRN_HIT_MARKER:
+    case JWRN_HUFF_BAD_CODE:
+    case JWRN_JPEG_EOF:
+    case JWRN_MUST_RESYNC:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+JPEGErrors::JPEGErrors() {
+  jpeg_std_error(&record_.manager);
+  record_.manager.error_exit = OnError;
+  record_.manager.emit_message = OnMessage;
+  record_.manager.output_message = [](j_common_ptr) {};
+}
+
+void JPEGErrors::OnError(j_common_ptr codec) {
+  auto* record = reinterpret_cast<Record*>(codec->err);
+  record->manager.format_message(codec, record->text);
+  std::longjmp(record->jump, 1);
+}
+
+void JPEGErrors::OnMessage(j_common_ptr codec, int level) {
+  auto* record = reinterpret_cast<Record*>(codec->err);
+  if (level < 0 && MeansDamage(record->manager.msg_code)) record->damaged = true;
+}
+
+// The one place that the jump comes back to. It holds no object, so there is none whose destructor could be missed.
+bool JPEGErrors::RunGuarded(void (*work)(void*), void* context) {
+  if (failed_) return false;
+  failed_ = true;
+  if (setjmp(record_.jump) != 0) return false;
+  work(context);
+  failed_ = false;
+  return true;
+}
+
+}  // namespace vantorium

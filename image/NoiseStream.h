@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vantorium {
+
+/// The random numbers of one picture row. Number `index` is a pure function of the row's key and the index, so numbers
+/// may be asked for in any order.
+class NoiseRow {
+ public:
+  explicit NoiseRow(std::uint64_t key)
+      : first_(static_cast<std::uint32_t>(key >> 32)), second_(static_cast<std::uint32_t>(key)) {}
+
+  /// 24 random bits: the index keyed twice between the steps of a 32-bit mixer that lets each bit of its input turn
+  /// each bit of its output over half of the time.
+  [[nodiscard]] std::uint32_t Bits(std::uint32_t index) const {
+    std::uint32_t h = index ^ first_;
+    h = (h ^ (h >> 16)) * 0x21F0AAADU;
+    h = ((h ^ (h >> 15)) + second_) * 0xD35A2D97U;
+    return (h ^ (h >> 15)) >> 8;
+  }
+  /// Uniform in [0, 1): the bits as a single.
+  [[nodiscard]] float Uniform(std::uint32_t index) const { return static_cast<float>(Bits(index)) / 16777216.0F; }
+
+ private:
+  std::uint32_t first_;
+  std::uint32_t second_;
+};
+
+/// The random numbers of the pixels of one picture. They depend on the seed, the picture's number and the place in the
+/// picture alone: pictures may be worked on in any order, at the same time, with the same result.
+class NoiseStream {
+ public:
+  NoiseStream(std::uint64_t seed, std::uint64_t picture);
+
+  /// Begins the next pass over the picture, with numbers of its own.
+  void NextPass();
+  /// The numbers of a row in the present pass.
+  [[nodiscard]] NoiseRow Row(std::int32_t row) const;
+
+  /// Where the numbers of a row stand: one for each byte column, and one more for each pixel.
+  [[nodiscard]] static constexpr std::uint32_t OfByte(std::int32_t column) {
+    return static_cast<std::uint32_t>(column);
+  }
+  [[nodiscard]] static constexpr std::uint32_t OfPixel(std::int32_t column) {
+    return 0x80000000U | static_cast<std::uint32_t>(column);
+  }
+
+ private:
+  std::uint64_t key_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,110 @@
+#include "image/ResamplePlan.h"
+
+#include "image/VectorClones.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+
+namespace vantorium {
+namespace {
+
+static_assert(FLT_EVAL_METHOD == 0, "Roundings must happen where they are written");
+
+// Columns are worked on in pieces of this many pixels, which stay in the nearest cache.
+constexpr std::size_t kPiece = 128;
+
+struct Place {
+  std::int32_t index;
+  float weight;
+};
+
+// The scale approaches the last source pixel from below. Only with millions of new pixels may the single reach it.
+Place PlaceOf(float scale, std::int32_t position, std::int32_t side) {
+  const auto exact = static_cast<float>(static_cast<double>(scale) * position);
+  const float whole = std::floor(exact);
+  return {std::min(static_cast<std::int32_t>(whole), side - 1), exact - whole};
+}
+
+float ScaleOf(std::int32_t from, std::int32_t to) {
+  return static_cast<float>((from - 1) / static_cast<double>(to));
+}
+
+// Adding 1.5 * 2^52 leaves no bits for a fraction, and the processor rounds ties to even.
+inline double Rounded(double value) {
+  constexpr double kNoFraction = 6755399441055744.0;
+  return (value + kNoFraction) - kNoFraction;
+}
+
+// The neighbours of a piece of new bytes, one byte of each for each new byte.
+struct Neighbours {
+  std::uint8_t lowerLeft[3 * kPiece];
+  std::uint8_t lowerRight[3 * kPiece];
+  std::uint8_t upperLeft[3 * kPiece];
+  std::uint8_t upperRight[3 * kPiece];
+};
+
+VANTORIUM_VECTOR_CLONES
+void Blend(const Neighbours& near, float upperWeight, const float* rightWeights, std::size_t count,
+           std::uint8_t* __restrict result) {
+  const double up = upperWeight;
+  const double down = 1 - up;
+  for (std::size_t i = 0; i < count; ++i) {
+    const double left = Rounded(down * near.lowerLeft[i] + up * near.upperLeft[i]);
+    const double right = Rounded(down * near.lowerRight[i] + up * near.upperRight[i]);
+    const double share = rightWeights[i];
+    // A mean of bytes is a byte: there is nothing to clamp.
+    result[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(Rounded((1 - share) * left + share * right)));
+  }
+}
+
+}  // namespace
+
+ResamplePlan::ResamplePlan(PictureSize from, PictureSize to)
+    : from_(from), to_(to), yScale_(ScaleOf(from.height, to.height)) {
+  if (from == to) return;
+  const float xScale = ScaleOf(from.width, to.width);
+  leftBytes_.reserve(static_cast<std::size_t>(to.width));
+  rightWeights_.reserve(static_cast<std::size_t>(to.width) * 3);
+  for (std::int32_t x = 0; x < to.width; ++x) {
+    const Place place = PlaceOf(xScale, x, from.width);
+    leftBytes_.push_back(3 * place.index);
+    rightWeights_.insert(rightWeights_.end(), 3, place.weight);
+  }
+}
+
+ResamplePlan::SourceRows ResamplePlan::RowsOf(std::int32_t newRow) const {
+  if (from_ == to_) return {newRow, newRow, 0};
+  const Place place = PlaceOf(yScale_, newRow, from_.height);
+  const bool alone = place.weight == 0 || place.index + 1 == from_.height;
+  return {place.index, place.index + (alone ? 0 : 1), alone ? 0 : place.weight};
+}
+
+void ResamplePlan::GatherColumns(const std::uint8_t* row, std::size_t first, std::size_t count, std::uint8_t* left,
+                                 std::uint8_t* right) const {
+  const std::int32_t last = 3 * (from_.width - 1);
+  const std::int32_t* begins = leftBytes_.data() + first;
+  for (std::size_t i = 0; i < count; ++i) {
+    std::memcpy(left + 3 * i, row + begins[i], 3);
+    std::memcpy(right + 3 * i, row + std::min(begins[i] + 3, last), 3);
+  }
+}
+
+void ResamplePlan::CombineRows(const SourceRows& rows, const std::uint8_t* lower, const std::uint8_t* upper,
+                               std::uint8_t* result) const {
+  const auto width = static_cast<std::size_t>(to_.width);
+  if (from_ == to_) {
+    std::memcpy(result, lower, 3 * width);
+    return;
+  }
+  Neighbours near;
+  for (std::size_t x = 0; x < width; x += kPiece) {
+    const std::size_t count = std::min(kPiece, width - x);
+    GatherColumns(lower, x, count, near.lowerLeft, near.lowerRight);
+    GatherColumns(upper, x, count, near.upperLeft, near.upperRight);
+    Blend(near, rows.weight, rightWeights_.data() + 3 * x, 3 * count, result + 3 * x);
+  }
+}
+
+}  // namespace vantorium
