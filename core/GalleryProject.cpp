@@ -1,0 +1,68 @@
+#include "core/GalleryProject.h"
+
+#include "core/ProjectFields.h"
+#include "env/Numbers.h"
+#include "env/RuntimeFailure.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include <fmt/format.h>
+
+namespace vantorium {
+
+const char kThumbnailPageCentringHeader[] =
+    "<!-- This code is used to center the contents of the thumbnail page vertically -->\r\n"
+    "<TABLE WIDTH=\"100%\" HEIGHT=\"100%\">\r\n"
+    "<TR>\r\n"
+    "<TD VALIGN=\"CENTER\">";
+
+const char kImagePageCentringHeader[] =
+    "<!-- This code is used to center the contents of the image wrapper vertically and horizontally -->\r\n"
+    "<TABLE WIDTH=\"100%\" HEIGHT=\"100%\">\r\n"
+    "<TR>\r\n"
+    "<TD ALIGN=\"CENTER\" VALIGN=\"CENTER\">";
+
+const char kCentringFooter[] =
+    "</TD>\r\n"
+    "</TR>\r\n"
+    "</TABLE>";
+
+void ResetToDefaults(GalleryProject& project, const std::string& projectName) {
+  GalleryProject fresh;
+  fresh.textGalleryTitle = projectName;
+  for (const ProjectField& field : ProjectFields()) {
+    if (!field.keptByReset) continue;
+    std::visit([&](auto member) { fresh.*member = project.*member; }, field.member);
+  }
+  project = std::move(fresh);
+}
+
+std::int32_t ThumbnailsPerPage(const GalleryProject& project) {
+  const double rows = ParseNumber(project.textThumbnailsTableRows).value_or(0);
+  const double columns = ParseNumber(project.textThumbnailsTableColumns).value_or(0);
+  // More than any list can hold counts as that many.
+  return static_cast<std::int32_t>(
+      std::clamp<double>(RoundHalfEven(rows * columns), 0, std::numeric_limits<std::int32_t>::max()));
+}
+
+std::int32_t ThumbnailPageCount(const GalleryProject& project, std::int32_t imageCount) {
+  const std::int32_t perPage = ThumbnailsPerPage(project);
+  if (perPage == 0) return 0;
+  return imageCount / perPage + (imageCount % perPage != 0 ? 1 : 0);
+}
+
+std::string ColorToHex(Colour colour) {
+  return fmt::format("{:06X}", colour);
+}
+
+Colour HexToColor(const std::string& text) {
+  Colour colour = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), colour, 16);
+  if (error == std::errc::result_out_of_range) throw RuntimeFailure(FailureKind::Overflow);
+  if (error != std::errc() || end != text.data() + text.size()) throw RuntimeFailure(FailureKind::TypeMismatch);
+  return colour;
+}
+
+}  // namespace vantorium

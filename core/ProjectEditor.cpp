@@ -1,0 +1,114 @@
+#include "core/ProjectEditor.h"
+
+#include "core/ProjectFields.h"
+#include "env/Numbers.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantorium {
+namespace {
+
+using Project = GalleryProject;
+
+/// The text of a Digits field after an edit: the bound in place of a number below it.
+std::string Clamped(std::string Project::*field, std::string value) {
+  const auto number = ParseNumber(value);
+  if (field == &Project::textPageLinksThumbnailMaxDirectLinks && !number) return {};
+  const auto& range = FieldOf(field).range;
+  if (!number || !range || !range->lowerBound || *number >= *range->lowerBound) return value;
+  return std::to_string(*range->lowerBound);
+}
+
+void RepairEmpty(std::string& field, const char* value, bool& modified) {
+  if (!field.empty()) return;
+  field = value;
+  modified = true;
+}
+
+void RepairDisabledGraphic(LinkSettings& link) {
+  if (link.textLinkGraphicDisabled.empty()) link.textLinkGraphicDisabled = link.textLinkGraphic;
+}
+
+}  // namespace
+
+void ProjectEditor::Set(std::string Project::*field, std::string value) {
+  project_.*field = Clamped(field, std::move(value));
+  modified_ = true;
+  if (field == &Project::textGalleryFrameSize) FrameSizeEdited();
+}
+
+void ProjectEditor::Set(std::int16_t Project::*field, std::int16_t value) {
+  project_.*field = value;
+  modified_ = true;
+  if (field == &Project::comboGalleryLayoutType) ImageFrameNameForLayout(project_, value);
+  if (field == &Project::checkGalleryFrameSizeInPercent) FrameSizeEdited();
+  if (field == &Project::checkGallerySlideShow && value == 1) project_.checkImageWrapperUse = 1;
+  if (field == &Project::checkImageWrapperUse && value == 0) project_.checkGallerySlideShow = 0;
+}
+
+void ProjectEditor::Set(Colour Project::*field, Colour value) {
+  project_.*field = value;
+  modified_ = true;
+}
+
+void ProjectEditor::Set(LinkSettings Project::*field, LinkSettings value) {
+  project_.*field = std::move(value);
+  modified_ = true;
+}
+
+void ProjectEditor::Set(ImageFilterSettings Project::*field, ImageFilterSettings value) {
+  project_.*field = value;
+  modified_ = true;
+}
+
+void ProjectEditor::Set(WatermarkSettings Project::*field, WatermarkSettings value) {
+  project_.*field = std::move(value);
+  modified_ = true;
+}
+
+void ProjectEditor::FrameSizeEdited() {
+  std::string& size = project_.textGalleryFrameSize;
+  if (size.empty()) return;
+  if (project_.checkGalleryFrameSizeInPercent == 1 && ParseNumber(size).value_or(0) > 99) size = "99";
+  const std::int16_t pixelsOrPercent = ParseInt16(size);
+  (project_.comboGalleryFrameSizingPriority == 0 ? project_.ThumbnailFrameSize : project_.ImageFrameSize) =
+      pixelsOrPercent;
+}
+
+void ImageFrameNameForLayout(Project& project, Choice layoutType) {
+  constexpr std::array<std::string_view, 4> kBrowserTargets = {"_top", "_self", "_parent", "_blank"};
+  if (layoutType == 0) {
+    project.comboImageFrameName = "_self";
+  } else if (std::ranges::count(kBrowserTargets, project.comboImageFrameName) > 0) {
+    project.comboImageFrameName = "image_frame";
+  }
+}
+
+void NormalizeForOutput(Project& project, bool& modified) {
+  RepairEmpty(project.textThumbnailsImageWidth, "1", modified);
+  RepairEmpty(project.textThumbnailsImageHeight, "1", modified);
+  RepairEmpty(project.textThumbnailsTableRows, "1", modified);
+  RepairEmpty(project.textThumbnailsTableColumns, "1", modified);
+  RepairEmpty(project.textThumbnailsTableCellSpacing, "0", modified);
+  RepairEmpty(project.textThumbnailsTableCellPadding, "0", modified);
+  RepairEmpty(project.textThumbnailsTableBorder, "0", modified);
+  RepairEmpty(project.textGallerySlideShowDelay, "5", modified);
+  RepairEmpty(project.textGallerySlideShowAutoStartDelay, "10", modified);
+
+  const bool thumbnailNameTaken = project.comboImageFrameName == "thumbnail_frame";
+  RepairEmpty(project.textThumbnailFrameName, thumbnailNameTaken ? "thumbnail_frame_2" : "thumbnail_frame", modified);
+  const bool imageNameTaken = project.textThumbnailFrameName == "image_frame";
+  RepairEmpty(project.comboImageFrameName, imageNameTaken ? "image_frame_2" : "image_frame", modified);
+
+  RepairEmpty(project.textImageWrapperImageWidth, "1", modified);
+  RepairEmpty(project.textImageWrapperImageHeight, "1", modified);
+  RepairEmpty(project.textPageLinksThumbnailMaxDirectLinks, "0", modified);
+
+  RepairDisabledGraphic(project.ImageNextLink);
+  RepairDisabledGraphic(project.ImagePreviousLink);
+  RepairDisabledGraphic(project.ThumbnailNextLink);
+  RepairDisabledGraphic(project.ThumbnailPreviousLink);
+}
+
+}  // namespace vantorium

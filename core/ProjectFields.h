@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/GalleryProject.h"
+
+#include <optional>
+#include <span>
+#include <string_view>
+#include <variant>
+
+namespace vantorium {
+
+enum class FieldKind { Text, Digits, Flag, Choice, Colour, Size, Record };
+
+/// The numbers of a Digits field: where its spinner stops, and the bound below which an edit becomes the bound itself.
+struct DigitsRange {
+  std::int32_t spinnerMinimum;
+  std::int32_t spinnerMaximum;
+  std::optional<std::int32_t> lowerBound;
+};
+
+using ValueList = std::span<const std::string_view>;
+
+using FieldMember = std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*,
+                                 Colour GalleryProject::*, ImageFilterSettings GalleryProject::*,
+                                 WatermarkSettings GalleryProject::*, LinkSettings GalleryProject::*>;
+
+/// One field of GalleryProject. The alignment lists of captions and descriptions depend on the placement; `values` then
+/// is the list for a placement left or right.
+struct ProjectField {
+  std::string_view name;
+  FieldKind kind;
+  FieldMember member;
+  ValueList values = {};
+  std::optional<DigitsRange> range = std::nullopt;
+  bool keptByReset = false;
+};
+
+/// Every field of GalleryProject, once, in the order of the record.
+[[nodiscard]] std::span<const ProjectField> ProjectFields();
+
+/// The field of a member. Throws std::out_of_range for a member that is in no row, which is a mistake in the table.
+[[nodiscard]] const ProjectField& FieldOf(const FieldMember& member);
+
+/// The texts of an alignment list: those for a placement above or below, or those for left or right.
+[[nodiscard]] ValueList AlignmentTexts(bool aboveOrBelow);
+
+/// Fields of the records inside GalleryProject, for whoever walks them.
+template <typename Record>
+struct RecordField {
+  std::string_view name;
+  std::variant<std::string Record::*, std::int16_t Record::*, bool Record::*, std::uint32_t Record::*> member;
+};
+
+[[nodiscard]] std::span<const RecordField<ImageFilterSettings>> FilterFields();
+[[nodiscard]] std::span<const RecordField<WatermarkSettings>> WatermarkFields();
+[[nodiscard]] std::span<const RecordField<LinkSettings>> LinkFields();
+
+}  // namespace vantorium

@@ -1,0 +1,64 @@
+#include "core/ProjectFileReaderValues.h"
+
+#include "env/Numbers.h"
+#include "env/Text.h"
+
+namespace vantorium {
+
+// Parsing has folded every line end to LF.
+std::string MultilineText(pugi::xml_node element) {
+  return ReplaceAll(TextOf(element), "\n", kCrLf);
+}
+
+std::string TextOrEmpty(pugi::xml_node element, const char* attribute) {
+  return std::string(AttributeOf(element, attribute).value_or(""));
+}
+
+void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, std::string(*value));
+}
+
+void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
+                const char* absent) {
+  editor.Set(field, std::string(AttributeOf(element, attribute).value_or(absent)));
+}
+
+void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, std::to_string(ParseInt16(*value)));
+}
+
+void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, ParseInt16(*value));
+}
+
+void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, Flag{IsNumberOne(*value)});
+}
+
+void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words,
+              NumberField field) {
+  if (const auto index = IndexOfWord(words, AttributeOf(element, attribute).value_or(""))) editor.Set(field, *index);
+}
+
+void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field) {
+  ReadWord(editor, element, "ALIGN", kAlignmentBesideWords, field);
+  ReadWord(editor, element, "ALIGN", kAlignmentStackedWords, field);
+}
+
+void ReadColour(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Colour GalleryProject::*field,
+                NumberField use) {
+  const auto value = AttributeOf(element, attribute);
+  if (!value) return;
+  editor.Set(field, HexToColor(std::string(*value)));
+  editor.Set(use, Flag{1});
+}
+
+void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts) {
+  for (const TextElement& text : texts) editor.Set(text.text, MultilineText(parent.child(text.element)));
+}
+
+bool IsNumberOne(std::string_view text) {
+  return ParseNumber(text) == 1.0;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,108 @@
+#include "core/ProjectFileWriter.h"
+
+#include "core/ProjectFileElements.h"
+#include "core/XmlSyntax.h"
+#include "env/FileOutput.h"
+#include "env/RuntimeFailure.h"
+
+#include <fmt/format.h>
+#include <pugixml.hpp>
+
+// The file, with the attributes and children in their order; "?" marks what stands there only for some projects:
+//
+//   GALLERYPROJECT VERSION
+//     META NAME CONTENT
+//     GALLERY TITLE
+//       HEAD?  INFO?
+//       LAYOUT TYPE IMAGEFRAMENAME THUMBFRAMENAME FRAMESIZE RESIZABLE BORDERS
+//         SLIDESHOW? FIRSTSLIDE NEXTSLIDE STARTOVER AUTOSTART AUTOSTARTDELAY? DELAY
+//       IMAGES FOLDER
+//         IMAGE... INDEX NAME SOURCE
+//           DESCRIPTION?
+//         CAPTION?  CAPTION?  DESCRIPTIONHEADER  DESCRIPTIONFOOTER
+//         MODIFY
+//           SIZE?  FILTER...
+//       THUMBNAILS FOLDER
+//         THUMBNAIL... INDEX
+//           DESCRIPTION
+//         CAPTION?  CAPTION?  DESCRIPTIONHEADER  DESCRIPTIONFOOTER
+//         MODIFY
+//           SIZE  FILTER...
+//       THUMBNAILPAGE PREFIX EXTENSION colours? BACKGROUND?
+//         HEAD?  HEADER?  FOOTER?  ARRANGEMENT  THUMBNAILHEADER?  THUMBNAILFOOTER?
+//         PAGELINKS DIRECT? PLACE?
+//           FIRST  LAST  PREVIOUS  NEXT
+//       IMAGEPAGE? PREFIX EXTENSION colours? BACKGROUND? USE
+//         HEAD?  HEADER?  FOOTER?  IMAGEHEADER?  IMAGEFOOTER?
+//         PAGELINKS PLACE?
+//           FIRST  LAST  PREVIOUS  NEXT  INDEX
+
+namespace vantorium {
+namespace {
+
+class TextWriter : public pugi::xml_writer {
+ public:
+  void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
+  std::string text;
+};
+
+void PutGallery(pugi::xml_node document, const Project& project) {
+  const GalleryProject& settings = project.settings;
+  pugi::xml_node gallery = document.append_child("GALLERY");
+  PutAttribute(gallery, "TITLE", settings.textGalleryTitle);
+  PutTextElementUnlessEmpty(gallery, "HEAD", settings.GalleryHeadCode);
+  PutTextElementUnlessEmpty(gallery, "INFO", settings.GalleryInfoText);
+  PutLayout(gallery, settings);
+  PutImages(gallery, settings, project.images);
+  PutThumbnails(gallery, settings, project.images);
+  PutThumbnailPage(gallery, settings);
+  if (settings.checkImageWrapperUse == 1) PutImagePage(gallery, settings);
+}
+
+/// The file that a path means in the end; a link may lead to a file that is not there yet.
+std::filesystem::path BehindLinks(std::filesystem::path path) {
+  constexpr int kMostLinks = 40;  // as many as the system follows
+  std::error_code none;
+  for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(path, none); ++links) {
+    path = path.parent_path() / std::filesystem::read_symlink(path, none);
+  }
+  return path;
+}
+
+}  // namespace
+
+std::string ProjectFileText(const Project& project) {
+  pugi::xml_document document;
+  pugi::xml_node root = document.append_child("GALLERYPROJECT");
+  PutAttribute(root, "VERSION", "3.0");
+  pugi::xml_node meta = root.append_child("META");
+  PutAttribute(meta, "NAME", "GENERATOR");
+  PutAttribute(meta, "CONTENT", "Vantorium Image Gallery Creator 3.0");
+  PutGallery(root, project);
+
+  TextWriter writer;
+  document.save(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+  if (writer.text.size() > kLargestXmlFile || !IsWellFormedXml(writer.text)) {
+    throw RuntimeFailure(FailureKind::InvalidArgument);
+  }
+  return std::move(writer.text);
+}
+
+bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
+  status_.SetStatusText(fmt::format("Writing Project File \"{}\"...", path));
+  status_.ShowWaitPointer();
+  bool written = false;
+  try {
+    if (const auto native = paths_.ToNative(path)) {
+      WriteFileWhole(BehindLinks(*native), ProjectFileText(project_), Durability::Synced);
+      written = true;
+    }
+  } catch (const std::exception&) {
+    // The caller has the message for a file that could not be written.
+  }
+  status_.SetStatusText("");
+  status_.ResetPointer();
+  return written;
+}
+
+}  // namespace vantorium

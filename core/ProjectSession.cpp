@@ -1,0 +1,194 @@
+#include "core/ProjectSession.h"
+
+#include "core/ProjectEditor.h"
+#include "core/ProjectFileReader.h"
+#include "core/ProjectFileWriter.h"
+#include "env/PathText.h"
+#include "env/Text.h"
+
+#include <fmt/format.h>
+
+namespace vantorium {
+namespace {
+
+constexpr char kFileFilter[] = "Vantorium 3.0 Project Files (*.gpj)|*.gpj";
+
+void ShowFileError(MessageBoxPort& boxes, const std::string& text) {
+  boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "File Error", text);
+}
+
+}  // namespace
+
+void ProjectSession::NewProject() {
+  if (!MayLeaveProject()) return;
+  if (!project_.IsModified && project_.IsPristine) return;
+  ResetToDefaults(project_.settings, project_.UntitledName());
+  project_.images.Clear();
+  ports_.host.RefreshPreview();
+  ports_.host.RefreshCounts();
+  ports_.host.RefreshPageCount();
+  StartUntitledProject();
+}
+
+void ProjectSession::StartUntitledProject() {
+  project_.UntitledCounter = static_cast<std::int16_t>(project_.UntitledCounter + 1);
+  project_.ProjectFileName = project_.UntitledName();
+  project_.settings.textGalleryTitle = project_.UntitledName();
+  ports_.host.RefreshTitleBar();
+  ports_.host.HideDescriptionsWindow();
+  images_.StopSorting();
+  ports_.host.SelectFirstTab();
+  ports_.host.FocusTitleField();
+  project_.IsPristine = true;
+  project_.IsUntitled = true;
+  project_.IsModified = false;
+  ports_.host.RebuildCustomColours();
+}
+
+BoxAnswer ProjectSession::AskToSave() {
+  project_.IsPristine = false;
+  return ports_.boxes.Show(BoxKind::Question, BoxButtons::YesNoCancel, "Project modified",
+                           "The current Gallery Project has been modified.  Do you wish to save the changes?");
+}
+
+bool ProjectSession::MayLeaveProject() {
+  if (!project_.IsModified) return true;
+  const BoxAnswer answer = AskToSave();
+  return answer == BoxAnswer::Yes ? SaveProject() : answer == BoxAnswer::No;
+}
+
+void ProjectSession::OpenProject() {
+  if (project_.IsModified) {
+    const BoxAnswer answer = AskToSave();
+    // A save that fails doesn't stop the opening.
+    if (answer == BoxAnswer::Yes) SaveProject();
+    if (answer == BoxAnswer::Cancel) return;
+  }
+  const std::string path = ports_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Open,
+                                                 .title = "Open Gallery Project",
+                                                 .filter = kFileFilter,
+                                                 .defaultPattern = "*.gpj",
+                                                 .defaultExtension = "",
+                                                 .folder = project_.LastProjectFolder,
+                                                 .fileName = ""});
+  if (path.empty()) return;
+  project_.images.Clear();
+  images_.StopSorting();
+  ports_.host.ShowInfoWindow("Please wait... Reading Project File.");
+  ports_.host.EnableMainWindow(false);
+  const bool read = Read(path);
+  ports_.host.EnableMainWindow(true);
+  ports_.host.HideInfoWindow();
+  if (read) AdoptOpened(path);
+}
+
+void ProjectSession::OpenProjectFromCommandLine(std::string_view commandLine) {
+  const std::string path = ReplaceAll(commandLine, "\"", "");
+  if (path.empty()) return;
+  images_.StopSorting();
+  ports_.host.EnableMainWindow(false);
+  const bool read = Read(path);
+  ports_.host.EnableMainWindow(true);
+  if (read) AdoptOpened(path);
+}
+
+bool ProjectSession::LoadProject(const std::string& path) {
+  project_.images.Clear();
+  images_.StopSorting();
+  const bool read = Read(path);
+  if (read) AdoptOpened(path);
+  return read;
+}
+
+bool ProjectSession::Read(const std::string& path) {
+  ProjectFileReader reader(project_, images_, ports_.paths, ports_.boxes, ports_.host, ports_.events);
+  const bool read = reader.ReadProjectFile(path);
+  if (!read) {
+    ShowFileError(ports_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".", path));
+  }
+  return read;
+}
+
+void ProjectSession::AdoptOpened(const std::string& path) {
+  TakePath(path);
+  project_.IsUntitled = false;
+  project_.IsModified = false;
+  project_.IsPristine = false;
+  ports_.host.RefreshTitleBar();
+  ports_.host.RefreshPageCount();
+  ports_.host.RefreshCounts();
+  ports_.host.RefreshPreview();
+}
+
+void ProjectSession::TakePath(const std::string& path) {
+  // Not GetFilePath: it drops a leading separator, and the folder must lead back to the file.
+  const std::string whole = WithBackslashes(path);
+  const auto name = whole.rfind('\\') + 1;  // npos + 1 is 0
+  project_.ProjectFolder = whole.substr(0, name);
+  project_.ProjectFileName = whole.substr(name);
+  project_.LastProjectFolder = project_.ProjectFolder;
+}
+
+bool ProjectSession::SaveProject() {
+  NormalizeForOutput(project_.settings, project_.IsModified);
+  const bool saved = project_.IsUntitled ? WriteUntitled() : WriteTitled();
+  if (saved) AdoptSaved();
+  return saved;
+}
+
+void ProjectSession::SaveProjectAs() {
+  const bool wasUntitled = project_.IsUntitled;
+  project_.IsUntitled = true;
+  SaveProject();
+  project_.IsUntitled = wasUntitled;
+}
+
+bool ProjectSession::SaveProjectTo(const std::string& path) {
+  NormalizeForOutput(project_.settings, project_.IsModified);
+  if (!Write(path)) return false;
+  TakePath(path);
+  AdoptSaved();
+  return true;
+}
+
+bool ProjectSession::WriteUntitled() {
+  const std::string path = ports_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Save,
+                                                 .title = "Save Gallery Project As",
+                                                 .filter = kFileFilter,
+                                                 .defaultPattern = "",
+                                                 .defaultExtension = "gpj",
+                                                 .folder = project_.LastProjectFolder,
+                                                 .fileName = project_.ProjectFileName});
+  if (path.empty() || !Write(path)) return false;
+  TakePath(path);
+  return true;
+}
+
+bool ProjectSession::WriteTitled() {
+  constexpr std::string_view kExtension = ".gpj";
+  std::string& name = project_.ProjectFileName;
+  const bool hasExtension =
+      name.size() >= kExtension.size() &&
+      EqualsIgnoringCase(std::string_view(name).substr(name.size() - kExtension.size()), kExtension);
+  if (!hasExtension) name += kExtension;
+  return Write(project_.ProjectFolder + name);
+}
+
+bool ProjectSession::Write(const std::string& path) {
+  ports_.host.ShowInfoWindow("Please wait... Writing Project File.");
+  ports_.host.EnableMainWindow(false);
+  const bool written = ProjectFileWriter(project_, ports_.paths, ports_.host).WriteProjectFile(path);
+  if (!written) ShowFileError(ports_.boxes, "An error occurred while saving the Gallery Project.");
+  ports_.host.EnableMainWindow(true);
+  ports_.host.HideInfoWindow();
+  return written;
+}
+
+void ProjectSession::AdoptSaved() {
+  project_.IsUntitled = false;
+  project_.IsModified = false;
+  project_.IsPristine = false;
+  ports_.host.RefreshTitleBar();
+}
+
+}  // namespace vantorium

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/ProjectFileStatus.h"
+
+#include <string>
+
+namespace vantorium {
+
+/// What New, Open and Save ask of the main window. A program without a window takes this class as it is. Functions that
+/// other ports of a window have too mean the same there and here.
+class ProjectSessionHost : public ProjectFileStatus {
+ public:
+  /// A small window with one text, shown during a wait.
+  virtual void ShowInfoWindow(const std::string& /*text*/) {}
+  virtual void HideInfoWindow() {}
+  virtual void EnableMainWindow(bool /*enabled*/) {}
+
+  virtual void RefreshTitleBar() {}
+  /// The picture of the list's current row.
+  virtual void RefreshPreview() {}
+  /// The number of images, wherever it is shown.
+  virtual void RefreshCounts() {}
+  /// The label with the number of thumbnail pages.
+  virtual void RefreshPageCount() {}
+
+  virtual void HideDescriptionsWindow() {}
+  virtual void SelectFirstTab() {}
+  virtual void FocusTitleField() {}
+  /// Fills the custom colours of the colour dialog with the first 16 colours of the system.
+  virtual void RebuildCustomColours() {}
+};
+
+}  // namespace vantorium

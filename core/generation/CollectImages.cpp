@@ -1,0 +1,119 @@
+#include "core/generation/CollectImages.h"
+
+#include "core/generation/OutputNaming.h"
+#include "env/Numbers.h"
+#include "env/RuntimeFailure.h"
+#include "image/JPEG.h"
+
+#include <algorithm>
+
+namespace vantorium {
+namespace {
+
+/// Runs one statement of the collection. Its failure is ignored, and what it would have set keeps its value.
+template <typename Statement>
+void Ignoring(Statement statement) {
+  try {
+    statement();
+  } catch (const RuntimeFailure&) {
+  }
+}
+
+bool ReadSourceSize(const RunState& run, const ImageRunInfo& image, std::int32_t& width, std::int32_t& height) {
+  const auto native = run.files.Paths().ToNative(image.Path);
+  return native && ReadJPEGSize(*native, width, height);
+}
+
+void GivenWidthSetsHeight(const GalleryProject& project, ImageRunInfo& image, double w, double h) {
+  Ignoring([&] { image.Width = ParseInt32(project.textImageWrapperImageWidth); });
+  Ignoring([&] { image.Height = ToInt32(Divide(h, w) * image.Width); });
+}
+
+void GivenHeightSetsWidth(const GalleryProject& project, ImageRunInfo& image, double w, double h) {
+  Ignoring([&] { image.Height = ParseInt32(project.textImageWrapperImageHeight); });
+  Ignoring([&] { image.Width = ToInt32(Divide(w, h) * image.Height); });
+}
+
+void FindImageSize(const RunState& run, ImageRunInfo& image) {
+  const GalleryProject& project = run.project;
+  std::int32_t w = 0;
+  std::int32_t h = 0;
+  if (project.checkImageWrapperImageKeepSize == 1) {
+    Ignoring([&] { std::ignore = ReadSourceSize(run, image, image.Width, image.Height); });
+  } else if (project.checkImageWrapperImageKeepAspectRatio == 1) {
+    if (!ReadSourceSize(run, image, w, h)) return;
+    if (project.checkImageWrapperImageSetWidth == 1) {
+      GivenWidthSetsHeight(project, image, w, h);
+    } else {
+      GivenHeightSetsWidth(project, image, w, h);
+    }
+  } else {
+    Ignoring([&] { image.Width = ParseInt32(project.textImageWrapperImageWidth); });
+    Ignoring([&] { image.Height = ParseInt32(project.textImageWrapperImageHeight); });
+  }
+}
+
+/// The thumbnail follows the shape of the image as the gallery shows it, not that of the source.
+void FindThumbnailSize(const GalleryProject& project, ImageRunInfo& image) {
+  const bool keepRatio = project.checkThumbnailsImageKeepAspectRatio == 1;
+  const bool widthGiven = project.checkThumbnailsImageSetWidth == 1;
+  if (!keepRatio || widthGiven) {
+    Ignoring([&] { image.ThumbWidth = ParseInt32(project.textThumbnailsImageWidth); });
+  }
+  if (!keepRatio || !widthGiven) {
+    Ignoring([&] { image.ThumbHeight = ParseInt32(project.textThumbnailsImageHeight); });
+  }
+  if (!keepRatio) return;
+  if (widthGiven) {
+    Ignoring([&] { image.ThumbHeight = ToInt32(Divide(image.Height, image.Width) * image.ThumbWidth); });
+  } else {
+    Ignoring([&] { image.ThumbWidth = ToInt32(Divide(image.Width, image.Height) * image.ThumbHeight); });
+  }
+}
+
+void Raise(std::int32_t& maximum, std::int32_t value) {
+  maximum = std::max(maximum, value);
+}
+
+ImageRunInfo Collect(RunState& run, const ImageEntry& entry) {
+  ImageRunInfo image{.Path = entry.SourcePath, .FileName = BuildFileName(entry.ImageName, entry.SourcePath)};
+  Ignoring([&] { image.FileTime = run.files.GetFileWriteTime(image.Path); });
+  FindImageSize(run, image);
+  Raise(run.MaxImageWidth, image.Width);
+  Raise(run.MaxImageHeight, image.Height);
+  FindThumbnailSize(run.project, image);
+  Raise(run.MaxThumbWidth, image.ThumbWidth);
+  Raise(run.MaxThumbHeight, image.ThumbHeight);
+  return image;
+}
+
+void ShowCount(const RunContext& context, std::size_t collected, std::size_t total) {
+  context.progress.SetProgress(static_cast<std::int32_t>(collected));
+  context.Announce("Collecting Image Information (" + std::to_string(collected) + " out of " + std::to_string(total) +
+                   ")...");
+}
+
+}  // namespace
+
+PhaseResult CollectImages(const RunContext& context) {
+  constexpr std::size_t kDisplayEvery = 100;
+  RunState& run = context.run;
+  const std::size_t total = run.images.Count();
+  context.Announce("Collecting Image Information...");
+  run.RunInfo.clear();
+  run.RunInfo.reserve(total);
+  for (std::size_t index = 1; index <= total; ++index) {
+    context.loop.Turn();
+    if (context.cancel.CancelRequested()) return RunEnd::Cancelled;
+    run.RunInfo.push_back(Collect(run, run.images.Entry(index)));
+    if (index % kDisplayEvery == 0) ShowCount(context, index, total);
+  }
+  context.progress.SetProgress(static_cast<std::int32_t>(total));
+  context.Announce("Collecting Image Information (complete)...");
+  context.loop.Turn();
+  run.ImageCount = static_cast<std::int32_t>(total);
+  run.ThumbnailPageCount = ThumbnailPageCount(run.project, run.ImageCount);
+  return kGoOn;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,214 @@
+#include "core/generation/GenerateGallery.h"
+
+#include "core/ProjectEditor.h"
+#include "core/generation/AuxiliaryFiles.h"
+#include "core/generation/CollectImages.h"
+#include "core/generation/LocalTarget.h"
+#include "core/generation/OutputNaming.h"
+#include "core/generation/PagePhases.h"
+#include "core/generation/ProducePictures.h"
+#include "core/generation/RunContext.h"
+#include "env/PathText.h"
+#include "env/RuntimeFailure.h"
+
+#include <array>
+#include <new>
+
+namespace vantorium {
+namespace {
+
+struct ModeTexts {
+  const char* text1;
+  const char* caption;
+};
+
+/// By GenerationMode.
+constexpr std::array<ModeTexts, 4> kModeTexts = {{
+    {"Please wait while the Gallery is being created...", "Creating Gallery"},
+    {"Please wait while the Gallery is prepared for Preview...", "Preparing Gallery for Preview"},
+    {"Please wait while the Gallery is being published...", "Publishing Gallery"},
+    {"Please wait while the Folder is being uploaded...", "Uploading Folder"},
+}};
+
+bool SendsToServer(GenerationMode mode) {
+  return mode == GenerationMode::Publish || mode == GenerationMode::Upload;
+}
+
+PhaseResult StampAndSetPaths(const RunContext& context) {
+  RunState& run = context.run;
+  const bool preview = run.mode == GenerationMode::Preview;
+  run.GalleryCreationTime = context.clock.Now();
+  run.ImageUrlPrefix = preview ? "images/" : UrlFolder(run.project.textImageSettingsSubFolder);
+  run.ThumbUrlPrefix = preview ? "thumbs/" : UrlFolder(run.project.textThumbnailImageSettingsSubFolder);
+  run.LocalImagesDir = run.OutputFolder + WithBackslashes(run.ImageUrlPrefix);
+  run.LocalThumbsDir = run.OutputFolder + WithBackslashes(run.ThumbUrlPrefix);
+  return kGoOn;
+}
+
+PhaseResult MakeFolders(const RunContext& context) {
+  if (auto end = context.Begin("Creating Directories...")) return end;
+  return context.Settle(context.target.MakeFolders());
+}
+
+PhaseResult ProduceUnlessPreview(const RunContext& context) {
+  if (context.run.mode == GenerationMode::Preview) return kGoOn;
+  if (auto end = ProduceImages(context)) return end;
+  return ProduceThumbnails(context);
+}
+
+PhaseResult EndWithoutPages(const RunContext& context) {
+  if (!context.arguments.CreateHTML) return RunEnd::Success;
+  return kGoOn;
+}
+
+PhaseResult Succeed(const RunContext& /*context*/) {
+  return RunEnd::Success;
+}
+
+using Phase = PhaseResult (*)(const RunContext&);
+
+/// A run in its fixed order. The first phase that comes to an end ends the run.
+constexpr Phase kPhases[] = {
+    StampAndSetPaths,      //
+    CollectImages,         //
+    MakeFolders,           //
+    ProduceUnlessPreview,  //
+    CopyBackdrops,         //
+    CopyLinkGraphics,      //
+    EndWithoutPages,       //
+    WriteIndexPage,        //
+    WriteThumbnailPages,   //
+    WriteWrapperPages,     //
+    Succeed,
+};
+
+RunEnd GoThroughPhases(const RunContext& context) {
+  for (const Phase phase : kPhases) {
+    if (const auto end = phase(context)) return *end;
+  }
+  return RunEnd::Success;
+}
+
+RunEnd FailUnexpectedly(const RunContext& context, const std::string& description, std::int32_t number) {
+  context.boxes.Critical("Failure", "An Error has occurred during Creation of this Gallery:\r\r" + description +
+                                        "\r\rError #" + std::to_string(number));
+  return RunEnd::Failure;
+}
+
+/// The phases with unexpected failures trapped.
+RunEnd RunTrapped(const RunContext& context) {
+  constexpr std::int32_t kOutOfMemory = 7;
+  try {
+    return GoThroughPhases(context);
+  } catch (const RuntimeFailure& failure) {
+    return FailUnexpectedly(context, failure.Description(), failure.Number());
+  } catch (const std::bad_alloc&) {
+    return FailUnexpectedly(context, "Out of memory", kOutOfMemory);
+  }
+}
+
+/// The maximum of the run's bar: a step for each thing done to each image, and one for looking at it.
+std::int32_t ProgressMaximum(const Project& project, const RunArguments& arguments) {
+  if (arguments.Mode == GenerationMode::Upload) return 100;
+  const bool wrappers = project.settings.checkImageWrapperUse == 1;
+  const int phases = arguments.Mode == GenerationMode::Preview
+                         ? 1 + (wrappers ? 1 : 0)
+                         : int{arguments.CreateImages} + int{arguments.CreateThumbnails} + int{arguments.CreateHTML} +
+                               (wrappers && arguments.CreateHTML ? 1 : 0);
+  return static_cast<std::int32_t>(project.images.Count()) * (phases + 1);
+}
+
+std::unique_ptr<ProgressWindow> OpenProgressWindow(const Project& project, const RunArguments& arguments,
+                                                   const RunEnvironment& environment) {
+  auto progress = environment.host.CreateProgressWindow();
+  progress->LogToFile = SendsToServer(arguments.Mode);
+  progress->SetMax(ProgressMaximum(project, arguments));
+  progress->SetProgress(0);
+  progress->Show();
+  const ModeTexts& texts = kModeTexts.at(static_cast<std::size_t>(arguments.Mode));
+  progress->SetText1(texts.text1);
+  progress->SetText2("");
+  progress->SetText3("", /*append=*/false);
+  progress->SetCaption(texts.caption);
+  environment.loop.Turn();
+  return progress;
+}
+
+void EndInSuccess(const RunEnvironment& environment, ProgressWindow& progress) {
+  progress.SetProgress(progress.GetMax());
+  environment.host.EnableMainWindow(true);
+  environment.host.ShowBusyPointer(false);
+  progress.ShowBusyPointer(false);
+}
+
+/// The window stays, with its messages, until the user closes it.
+void EndInFailure(const RunEnvironment& environment, ProgressWindow& progress) {
+  progress.OfferClose();
+  environment.host.ShowStatus("");
+  progress.WriteLog(progress.LogBoxText());
+  progress.SetText3("", /*append=*/false);
+  environment.host.ShowBusyPointer(false);
+  progress.ShowBusyPointer(false);
+  environment.shell.Beep(BeepKind::Warning);
+  while (!progress.CloseRequested) environment.loop.Turn();
+  environment.host.EnableMainWindow(true);
+}
+
+void EndInCancel(const RunEnvironment& environment) {
+  environment.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Creation cancelled",
+                         "The User has cancelled Creation of the Gallery");
+  environment.host.ShowStatus("");
+  environment.host.ShowBusyPointer(false);
+  environment.host.EnableMainWindow(true);
+}
+
+void FinishRun(RunEnd end, const RunEnvironment& environment, ProgressWindow& progress) {
+  switch (end) {
+    case RunEnd::Failure:
+      return EndInFailure(environment, progress);
+    case RunEnd::Cancelled:
+      return EndInCancel(environment);
+    case RunEnd::Success:
+    case RunEnd::NotStarted:
+      return EndInSuccess(environment, progress);
+  }
+}
+
+/// Sizes in percent never reach a page, though the option can be set.
+void ForceOffSizesInPercent(Project& project) {
+  constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
+  if (project.settings.*kField != 0) ProjectEditor(project.settings, project.IsModified).Set(kField, std::int16_t{0});
+}
+
+}  // namespace
+
+RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const RunEnvironment& environment) {
+  ForceOffSizesInPercent(project);
+  environment.host.ShowBusyPointer(true);
+  environment.host.EnableMainWindow(false);
+  const auto progress = OpenProgressWindow(project, arguments, environment);
+
+  RunState run{.project = project.settings,
+               .images = project.images,
+               .files = environment.files,
+               .formats = environment.formats,
+               .mode = arguments.Mode,
+               .ProjectFolder = project.ProjectFolder,
+               .OutputFolder = arguments.OutputFolder,
+               .IndexFileName = arguments.IndexFileName};
+  LocalTarget target(run);
+  const RunContext context{.run = run,
+                           .arguments = arguments,
+                           .host = environment.host,
+                           .boxes = environment.boxes,
+                           .loop = environment.loop,
+                           .clock = environment.clock,
+                           .cancel = environment.cancel,
+                           .progress = *progress,
+                           .target = target};
+  const RunEnd end = RunTrapped(context);
+  FinishRun(end, environment, *progress);
+  return end;
+}
+
+}  // namespace vantorium

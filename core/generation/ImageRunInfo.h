@@ -1,0 +1,23 @@
+#pragma once
+
+#include "env/CivilTime.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vantorium {
+
+/// What one run knows of one image, beside its ImageEntry. Sizes are pixels.
+struct ImageRunInfo {
+  std::string Path{};              ///< path text of the source file
+  std::string FileName{};          ///< name of the output file
+  vantorium::FileTime FileTime{};  ///< last write time of the source file
+  std::int32_t Width = 0;
+  std::int32_t Height = 0;
+  std::int32_t ThumbWidth = 0;
+  std::int32_t ThumbHeight = 0;
+  std::string FileSize = "0KB";  ///< size of the output image as text, once known
+  std::string ThumbFileSize = "0KB";
+};
+
+}  // namespace vantorium

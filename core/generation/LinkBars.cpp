@@ -1,0 +1,103 @@
+#include "core/generation/LinkBars.h"
+
+#include "core/generation/PageLinks.h"
+
+namespace vantorium {
+namespace {
+
+constexpr std::string_view kEnd = "</A>";
+constexpr std::string_view kEndAndBlank = "</A>&nbsp;";
+constexpr std::string_view kBlank = "&nbsp;";
+
+/// One bar under way, of image or page `current` of `total`.
+class LinkBar {
+ public:
+  LinkBar(const RunState& run, std::int32_t current, std::int32_t total)
+      : run_(run), current_(current), total_(total) {}
+
+  /// First and Previous: a blank behind each form.
+  void Leading(LinkKind kind) {
+    const LinkSettings& link = LinkOf(run_.project, kind);
+    const std::string anchor = Anchor(kind);
+    if (!link.textLinkGraphic.empty()) {
+      Add(anchor, Graphic(kind), kEndAndBlank);
+      if (link.textLinkLabel.empty()) return;
+    }
+    Add(anchor, link.textLinkLabel, kEndAndBlank);
+  }
+
+  /// Next and Last: a blank before the first form and between them. The text form stands beside a graphic when
+  /// `testedLabel` is not empty.
+  void Trailing(LinkKind kind, const std::string& testedLabel) {
+    const LinkSettings& link = LinkOf(run_.project, kind);
+    const std::string anchor = Anchor(kind);
+    bar_ += kBlank;
+    if (link.textLinkGraphic.empty()) {
+      Add(anchor, link.textLinkLabel, kEnd);
+      return;
+    }
+    if (!testedLabel.empty()) Add(anchor, link.textLinkLabel, kEndAndBlank);
+    Add(anchor, Graphic(kind), kEnd);
+  }
+
+  /// With both forms the graphic stands on either side of the text.
+  void Index() {
+    const LinkSettings& link = LinkOf(run_.project, LinkKind::Index);
+    const std::string anchor = Anchor(LinkKind::Index);
+    if (link.textLinkGraphic.empty()) {
+      Add(anchor, link.textLinkLabel, kEnd);
+      return;
+    }
+    const std::string graphic = Graphic(LinkKind::Index);
+    Add(anchor, graphic, kEndAndBlank);
+    if (link.textLinkLabel.empty()) return;
+    Add(anchor, link.textLinkLabel, kEndAndBlank);
+    Add(anchor, graphic, kEnd);
+  }
+
+  void Text(std::string_view text) { bar_ += text; }
+
+  [[nodiscard]] std::string Take() { return std::move(bar_); }
+
+ private:
+  [[nodiscard]] std::string Anchor(LinkKind kind) const { return BuildLinkAnchor(run_, kind, current_, total_); }
+  [[nodiscard]] std::string Graphic(LinkKind kind) const { return BuildLinkGraphic(run_, kind, current_, total_); }
+
+  void Add(std::string_view anchor, std::string_view shown, std::string_view end) {
+    bar_.append(anchor).append(shown).append(end);
+  }
+
+  const RunState& run_;
+  std::int32_t current_;
+  std::int32_t total_;
+  std::string bar_;
+};
+
+}  // namespace
+
+std::string BuildThumbnailPageBar(const RunState& run, std::int32_t page) {
+  if (run.ThumbnailPageCount == 1) return {};
+  const GalleryProject& project = run.project;
+  LinkBar bar(run, page, run.ThumbnailPageCount);
+  bar.Leading(LinkKind::FirstThumbnailPage);
+  bar.Leading(LinkKind::PreviousThumbnailPage);
+  if (project.checkPageLinksThumbnailDirectLinks == 1) bar.Text(run.DirectLinksText);
+  bar.Trailing(LinkKind::NextThumbnailPage, project.ThumbnailNextLink.textLinkLabel);
+  bar.Trailing(LinkKind::LastThumbnailPage, project.ThumbnailLastLink.textLinkLabel);
+  return bar.Take();
+}
+
+std::string BuildImagePageBar(const RunState& run, std::int32_t image) {
+  if (run.ImageCount == 1) return {};
+  const GalleryProject& project = run.project;
+  LinkBar bar(run, image, run.ImageCount);
+  bar.Leading(LinkKind::FirstImage);
+  bar.Leading(LinkKind::PreviousImage);
+  if (project.comboGalleryLayoutType == 0) bar.Index();
+  // Next looks at the label of Previous; existing galleries come out so.
+  bar.Trailing(LinkKind::NextImage, project.ImagePreviousLink.textLinkLabel);
+  bar.Trailing(LinkKind::LastImage, project.ImageLastLink.textLinkLabel);
+  return bar.Take();
+}
+
+}  // namespace vantorium

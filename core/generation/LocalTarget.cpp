@@ -1,0 +1,113 @@
+#include "core/generation/LocalTarget.h"
+
+#include "core/generation/OutputNaming.h"
+#include "core/generation/SafeNames.h"
+#include "env/FileOutput.h"
+#include "env/PathText.h"
+#include "env/RuntimeFailure.h"
+#include "image/JPEG.h"
+
+namespace vantorium {
+namespace {
+
+std::filesystem::path NativeOrThrow(const RunState& run, const std::string& path) {
+  auto native = run.files.Paths().ToNative(path);
+  if (!native) throw RuntimeFailure(FailureKind::FileAccess, path);
+  return *std::move(native);
+}
+
+Refusal UnableToCopy(const std::string& source) {
+  return {"File Error", "Unable to copy the File \"" + source + "\"."};
+}
+
+bool MakeFolder(const RunState& run, const std::string& setting, const std::string& path) {
+  return !LeavesFolder(setting) && run.files.MakePath(path);
+}
+
+}  // namespace
+
+std::string LocalTarget::ImagePath(const ImageRunInfo& image) const {
+  return run_.LocalImagesDir + image.FileName;
+}
+
+std::string LocalTarget::ThumbnailPath(const ImageRunInfo& image) const {
+  return run_.LocalThumbsDir + ThumbnailFileName(run_.project, image);
+}
+
+Delivery LocalTarget::MakeFolders() {
+  if (!MakeFolder(run_, run_.ImageUrlPrefix, run_.LocalImagesDir)) {
+    return Refusal{"Directory Error", "Unable to create Images Subfolder."};
+  }
+  if (!MakeFolder(run_, run_.ThumbUrlPrefix, run_.LocalThumbsDir)) {
+    return Refusal{"Directory Error", "Unable to create Thumbnails Subfolder."};
+  }
+  return {};
+}
+
+bool LocalTarget::ImageExists(const ImageRunInfo& image) {
+  return run_.files.PathExists(ImagePath(image));
+}
+
+bool LocalTarget::ThumbnailExists(const ImageRunInfo& image) {
+  return run_.files.PathExists(ThumbnailPath(image));
+}
+
+std::string LocalTarget::ImageSizeText(const ImageRunInfo& image) {
+  return run_.files.GetFileSizeText(ImagePath(image));
+}
+
+Delivery LocalTarget::CopyImage(ImageRunInfo& image) {
+  image.FileSize = run_.files.GetFileSizeText(image.Path);
+  const bool copied =
+      IsPlainFileName(image.FileName) && run_.files.CopyLocalFile(image.Path, ImagePath(image), /*overwrite=*/true);
+  if (!copied) return UnableToCopy(image.Path);
+  return {};
+}
+
+Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
+  if (!IsPlainFileName(image.FileName)) return UnableToCopy(image.Path);
+  WriteJPEGFile(NativeOrThrow(run_, ImagePath(image)), jpeg);
+  run_.files.CopyFileTimes(image.Path, ImagePath(image));
+  image.FileSize = FileSizeText(jpeg.size());
+  return {};
+}
+
+Delivery LocalTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
+  if (!IsPlainFileName(image.FileName) || LeavesFolder(ThumbnailFileName(run_.project, image))) {
+    return Refusal{"File Error", "Unable to create Thumbnail for \"" + image.Path + "\"."};
+  }
+  WriteJPEGFile(NativeOrThrow(run_, ThumbnailPath(image)), jpeg);
+  return {};
+}
+
+Delivery LocalTarget::CopyAuxiliary(const std::string& source, const std::string& name, AuxiliarySpelling spelling) {
+  const bool copied =
+      IsPlainFileName(name) && run_.files.CopyLocalFile(source, run_.LocalImagesDir + name, /*overwrite=*/true);
+  if (copied) return {};
+  const std::string file = spelling == AuxiliarySpelling::File ? "File" : "file";
+  return Refusal{"File Error", "Unable to copy the " + file + " \"" + source + "\"."};
+}
+
+Delivery LocalTarget::StoreIndexPage(std::string_view page) {
+  WritePage(run_.IndexFileName, page);
+  return {};
+}
+
+Delivery LocalTarget::StoreThumbnailPage(std::int32_t number, std::string_view page) {
+  WritePage(ThumbnailPageName(run_.project, number), page);
+  return {};
+}
+
+Delivery LocalTarget::StoreWrapperPage(const std::string& listText, std::string_view page) {
+  const std::string name = WrapperPageName(run_.project, listText);
+  if (!IsPlainFileName(name)) throw RuntimeFailure(FailureKind::FileAccess, name);
+  WritePage(name, page);
+  return {};
+}
+
+void LocalTarget::WritePage(const std::string& name, std::string_view page) const {
+  if (LeavesFolder(name)) throw RuntimeFailure(FailureKind::FileAccess, name);
+  WriteFileWhole(NativeOrThrow(run_, run_.OutputFolder + name), page);
+}
+
+}  // namespace vantorium

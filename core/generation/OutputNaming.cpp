@@ -1,0 +1,46 @@
+#include "core/generation/OutputNaming.h"
+
+#include "env/PathText.h"
+
+namespace vantorium {
+
+std::string BuildFileName(const std::string& listText, const std::string& sourcePath) {
+  return listText + GetFileExtension(sourcePath);
+}
+
+std::string ThumbnailPageName(const GalleryProject& project, std::int32_t page) {
+  return project.textThumbnailPageSettingsFilePrefix + std::to_string(page) +
+         project.comboThumbnailPageSettingsFileExtension;
+}
+
+std::string WrapperPageName(const GalleryProject& project, const std::string& listText) {
+  return listText + project.comboImageWrapperSettingsFileExtension;
+}
+
+std::string ThumbnailFileName(const GalleryProject& project, const ImageRunInfo& image) {
+  return project.textThumbnailImageSettingsFilePrefix + image.FileName;
+}
+
+std::string UrlFolder(const std::string& folder) {
+  std::string url = WithSlashes(folder);
+  if (!url.ends_with('/')) url += '/';
+  return url;
+}
+
+std::string ImageUrl(const RunState& run, std::int32_t image) {
+  if (run.mode == GenerationMode::Preview) return SourceUrl(run, image);
+  return run.ImageUrlPrefix + run.Info(image).FileName;
+}
+
+std::string ImageTarget(const RunState& run, std::int32_t image) {
+  if (run.project.checkImageWrapperUse == 1) return WrapperPageName(run.project, run.ListText(image));
+  return ImageUrl(run, image);
+}
+
+std::string SourceUrl(const RunState& run, std::int32_t image) {
+  const std::string& path = run.Info(image).Path;
+  const auto native = run.files.Paths().ToNative(path);
+  return "file://" + (native ? native->string() : WithSlashes(path));
+}
+
+}  // namespace vantorium

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/generation/RunState.h"
+#include "image/Picture.h"
+
+#include <optional>
+
+namespace vantorium {
+
+/// What is to be made of a source for the image's file; nothing when the file is copied as it is.
+[[nodiscard]] std::optional<PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image);
+
+/// What is to be made of a source for the thumbnail: always a file of its own, from the source and not from the image.
+[[nodiscard]] PictureRecipe ThumbnailRecipe(const RunState& run, std::int32_t image);
+
+}  // namespace vantorium

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/generation/GenerationMode.h"
+
+#include <string>
+
+namespace vantorium {
+
+/// What one run is to do, and where. Folders and paths are path text; remote ones have forward slashes.
+struct RunArguments {
+  std::string OutputFolder;  ///< with its trailing backslash: the target, the temporary folder, or the folder to upload
+  std::string IndexFileName;  ///< inside OutputFolder
+  GenerationMode Mode = GenerationMode::Create;
+  bool CreateImages = true;
+  bool CreateThumbnails = true;
+  bool CreateHTML = true;
+  bool Overwrite = true;  ///< false: an image or thumbnail that exists at the target is not produced again
+  std::string RemoteFolder;
+  std::string RemoteIndexFileName;
+  std::string ServerAddress;
+  std::string UserName;
+  std::string Password;
+  std::string BaseDirectory;  ///< to change to after login; empty means none
+};
+
+}  // namespace vantorium

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "publish/ProgressWindow.h"
+
+#include <memory>
+#include <string>
+
+namespace vantorium {
+
+/// What the user chose in the dialog that decides on a run.
+struct CreateChoice {
+  enum class Option { Cancelled, CreateGallery, Publish, UploadFolder };
+
+  Option option = Option::Cancelled;
+  bool CreateImages = true;
+  bool CreateThumbnails = true;
+  bool CreateHTMLFiles = true;
+  bool Overwrite = true;
+  std::string FilePath;  ///< CreateGallery: path text of the index file
+};
+
+/// What a run asks of the main window. A face without windows answers from its command line.
+class RunHost {
+ public:
+  virtual ~RunHost() = default;
+
+  /// Shows the dialog that decides on a run, modally.
+  [[nodiscard]] virtual CreateChoice AskWhatToCreate() = 0;
+  [[nodiscard]] virtual std::unique_ptr<ProgressWindow> CreateProgressWindow() = 0;
+  /// Panel 1 of the status bar.
+  virtual void ShowStatus(const std::string& text) = 0;
+  virtual void ShowBusyPointer(bool busy) = 0;
+  virtual void EnableMainWindow(bool enabled) = 0;
+  /// Whether the tray icon answers.
+  virtual void EnableTrayIcon(bool enabled) = 0;
+};
+
+}  // namespace vantorium

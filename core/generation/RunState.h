@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/GalleryProject.h"
+#include "core/ImageList.h"
+#include "core/generation/GenerationMode.h"
+#include "core/generation/ImageRunInfo.h"
+#include "env/mFileFunctions.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vantorium {
+
+/// What a run knows and its page builders read. Images and pages count from 1.
+struct RunState {
+  const GalleryProject& project;
+  const ImageList& images;
+  const mFileFunctions& files;
+  const RegionalFormats& formats;
+  GenerationMode mode = GenerationMode::Create;
+
+  std::string ProjectFolder{};   ///< of the project file, path text
+  std::string OutputFolder{};    ///< path text with its trailing backslash
+  std::string IndexFileName{};   ///< inside OutputFolder
+  std::string ImageUrlPrefix{};  ///< folder of the images in addresses, ends in a slash
+  std::string ThumbUrlPrefix{};  ///< folder of the thumbnails in addresses, ends in a slash
+  std::string LocalImagesDir{};  ///< path text with its trailing backslash
+  std::string LocalThumbsDir{};  ///< path text with its trailing backslash
+
+  std::vector<ImageRunInfo> RunInfo{};  ///< image i at i - 1
+  std::int32_t ImageCount = 0;
+  std::int32_t ThumbnailPageCount = 0;
+  std::int32_t MaxImageWidth = 0;
+  std::int32_t MaxImageHeight = 0;
+  std::int32_t MaxThumbWidth = 0;
+  std::int32_t MaxThumbHeight = 0;
+  std::string DirectLinksText{};    ///< of the thumbnail page under way
+  CivilTime GalleryCreationTime{};  ///< local time
+
+  [[nodiscard]] const ImageRunInfo& Info(std::int32_t image) const {
+    return RunInfo.at(static_cast<std::size_t>(image) - 1);
+  }
+  [[nodiscard]] const ImageEntry& Entry(std::int32_t image) const {
+    return images.Entry(static_cast<std::size_t>(image));
+  }
+  /// The image's name in the list.
+  [[nodiscard]] const std::string& ListText(std::int32_t image) const { return Entry(image).ImageName; }
+};
+
+}  // namespace vantorium

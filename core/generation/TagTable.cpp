@@ -1,0 +1,127 @@
+#include "core/generation/TagTable.h"
+
+#include "core/generation/PageLinks.h"
+#include "env/Text.h"
+
+#include <fmt/format.h>
+
+namespace vantorium {
+namespace {
+
+using Scope = const TagScope&;
+
+std::string Number(std::int32_t value) {
+  return fmt::format_int(value).str();
+}
+
+const ImageRunInfo& Info(Scope at) {
+  return at.run.Info(at.image);
+}
+
+/// The file's date or time in UTC.
+template <RegionalFormat format>
+std::string FileDate(Scope at) {
+  return at.run.files.FormatFileTime(Info(at).FileTime, static_cast<int>(format));
+}
+
+template <RegionalFormat format>
+std::string CreationDate(Scope at) {
+  return at.run.formats.Format(at.run.GalleryCreationTime, format);
+}
+
+struct Place {
+  std::int32_t current;
+  std::int32_t total;
+};
+
+Place PlaceOf(Scope at, LinkKind kind) {
+  if (kind <= LinkKind::Index) return {at.image, at.run.ImageCount};
+  return {at.page, at.run.ThumbnailPageCount};
+}
+
+// At the end of the sequence the anchor is empty and its "</A>" stays.
+template <LinkKind kind>
+std::string LinkText(Scope at) {
+  const std::string& label = LinkOf(at.run.project, kind).textLinkLabel;
+  if (label.empty()) return {};
+  const auto [current, total] = PlaceOf(at, kind);
+  return BuildLinkAnchor(at.run, kind, current, total) + label + "</A>";
+}
+
+template <LinkKind kind>
+std::string LinkGraphic(Scope at) {
+  if (LinkOf(at.run.project, kind).textLinkGraphic.empty()) return {};
+  const auto [current, total] = PlaceOf(at, kind);
+  return BuildLinkAnchor(at.run, kind, current, total) + BuildLinkGraphic(at.run, kind, current, total) + "</A>";
+}
+
+constexpr auto kImage = TagNeeds::Image;
+constexpr auto kPage = TagNeeds::Page;
+constexpr auto kNothing = TagNeeds::Nothing;
+
+// clang-format off
+constexpr TagRow kRows[] = {
+    {kImage, "<VANTORIUM_IMAGE_INDEX>", [](Scope at) { return Number(at.image); }},
+    {kImage, "<VANTORIUM_IMAGE_TITLE>", [](Scope at) { return ReplaceAll(at.run.ListText(at.image), "_", " "); }},
+    {kImage, "<VANTORIUM_IMAGE_FILENAME>", [](Scope at) { return Info(at).FileName; }},
+    {kImage, "<VANTORIUM_IMAGE_FILEDATE_SHORT>", FileDate<RegionalFormat::ShortDate>},
+    {kImage, "<VANTORIUM_IMAGE_FILEDATE_LONG>", FileDate<RegionalFormat::LongDate>},
+    {kImage, "<VANTORIUM_IMAGE_FILETIME_SHORT>", FileDate<RegionalFormat::ShortTime>},
+    {kImage, "<VANTORIUM_IMAGE_FILETIME_LONG>", FileDate<RegionalFormat::LongTime>},
+    {kImage, "<VANTORIUM_IMAGE_FILESIZE>", [](Scope at) { return Info(at).FileSize; }},
+    {kImage, "<VANTORIUM_IMAGE_WIDTH>", [](Scope at) { return Number(Info(at).Width); }},
+    {kImage, "<VANTORIUM_IMAGE_HEIGHT>", [](Scope at) { return Number(Info(at).Height); }},
+    {kImage, "<VANTORIUM_THUMB_WIDTH>", [](Scope at) { return Number(Info(at).ThumbWidth); }},
+    {kImage, "<VANTORIUM_THUMB_HEIGHT>", [](Scope at) { return Number(Info(at).ThumbHeight); }},
+    {kImage, "<VANTORIUM_IMAGE_WIDTH_MAX>", [](Scope at) { return Number(at.run.MaxImageWidth); }},
+    {kImage, "<VANTORIUM_IMAGE_HEIGHT_MAX>", [](Scope at) { return Number(at.run.MaxImageHeight); }},
+    {kImage, "<VANTORIUM_THUMB_WIDTH_MAX>", [](Scope at) { return Number(at.run.MaxThumbWidth); }},
+    {kImage, "<VANTORIUM_THUMB_HEIGHT_MAX>", [](Scope at) { return Number(at.run.MaxThumbHeight); }},
+    {kNothing, "<VANTORIUM_IMAGE_COUNT>", [](Scope at) { return Number(at.run.ImageCount); }},
+    {kPage, "<VANTORIUM_THUMBPAGE_INDEX>", [](Scope at) { return Number(at.page); }},
+    {kNothing, "<VANTORIUM_THUMBPAGE_COUNT>", [](Scope at) { return Number(at.run.ThumbnailPageCount); }},
+    {kNothing, "<VANTORIUM_GALLERY_TITLE>", [](Scope at) { return at.run.project.textGalleryTitle; }},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>", CreationDate<RegionalFormat::ShortDate>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONDATE_LONG>", CreationDate<RegionalFormat::LongDate>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONTIME_SHORT>", CreationDate<RegionalFormat::ShortTime>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONTIME_LONG>", CreationDate<RegionalFormat::LongTime>},
+    {kImage, "<VANTORIUM_PAGELINK_FIRSTIMAGE_TEXT>", LinkText<LinkKind::FirstImage>},
+    {kImage, "<VANTORIUM_PAGELINK_FIRSTIMAGE_GRAPHIC>", LinkGraphic<LinkKind::FirstImage>},
+    {kImage, "<VANTORIUM_PAGELINK_PREVIMAGE_TEXT>", LinkText<LinkKind::PreviousImage>},
+    {kImage, "<VANTORIUM_PAGELINK_PREVIMAGE_GRAPHIC>", LinkGraphic<LinkKind::PreviousImage>},
+    {kImage, kNextImageTextTag, LinkText<LinkKind::NextImage>},
+    {kImage, kNextImageGraphicTag, LinkGraphic<LinkKind::NextImage>},
+    {kImage, "<VANTORIUM_PAGELINK_LASTIMAGE_TEXT>", LinkText<LinkKind::LastImage>},
+    {kImage, "<VANTORIUM_PAGELINK_LASTIMAGE_GRAPHIC>", LinkGraphic<LinkKind::LastImage>},
+    {kImage, "<VANTORIUM_PAGELINK_INDEX_TEXT>", LinkText<LinkKind::Index>},
+    {kImage, "<VANTORIUM_PAGELINK_INDEX_GRAPHIC>", LinkGraphic<LinkKind::Index>},
+    {kPage, "<VANTORIUM_PAGELINK_DIRECTTHUMBPAGE>", [](Scope at) { return at.run.DirectLinksText; }},
+    {kPage, "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_TEXT>", LinkText<LinkKind::FirstThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::FirstThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_TEXT>", LinkText<LinkKind::PreviousThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::PreviousThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_TEXT>", LinkText<LinkKind::NextThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::NextThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_TEXT>", LinkText<LinkKind::LastThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::LastThumbnailPage>},
+};
+// clang-format on
+
+constexpr DescriptionTags kDescriptionRows[] = {
+    {"<VANTORIUM_IMAGE_DESCRIPTION", "<VANTORIUM_IMAGE_DESCRIPTION>", "<VANTORIUM_IMAGE_DESCRIPTION_FULL>",
+     &GalleryProject::textHeader, &ImageEntry::ImageDescription, &GalleryProject::textFooter},
+    {"<VANTORIUM_THUMB_DESCRIPTION", "<VANTORIUM_THUMB_DESCRIPTION>", "<VANTORIUM_THUMB_DESCRIPTION_FULL>",
+     &GalleryProject::textThumbHeader, &ImageEntry::ThumbnailDescription, &GalleryProject::textThumbFooter},
+};
+
+}  // namespace
+
+std::span<const TagRow> TagRows() {
+  return kRows;
+}
+
+std::span<const DescriptionTags> DescriptionTagRows() {
+  return kDescriptionRows;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,104 @@
+#include "core/generation/TemplateTags.h"
+
+#include "core/generation/TagTable.h"
+#include "env/Text.h"
+
+namespace vantorium {
+namespace {
+
+/// Behind this an underscore follows. Nearly all texts hold few of those, and an underscore has no case: looking for it
+/// with the library's search makes a text without tags as cheap as its copy.
+constexpr std::string_view kBeforeUnderscore = "<VANTORIUM";
+constexpr std::size_t kLongestTag = 64;
+
+/// Position of the next "<VANTORIUM_" from `start` on, or npos.
+std::size_t FindTagStart(std::string_view text, std::size_t start) {
+  constexpr std::size_t kLength = kBeforeUnderscore.size();
+  std::size_t underscore = text.find('_', start + kLength);
+  while (underscore != std::string_view::npos) {
+    const std::size_t at = underscore - kLength;
+    if (text[at] == '<' && EqualsIgnoringCase(text.substr(at, kLength), kBeforeUnderscore)) return at;
+    underscore = text.find('_', underscore + 1);
+  }
+  return std::string_view::npos;
+}
+
+/// The tag that begins at `at`, through its ">"; empty when none ends there.
+std::string_view TagAt(std::string_view text, std::size_t at) {
+  const std::string_view rest = text.substr(at, kLongestTag);
+  const std::size_t end = rest.find('>');
+  return end == std::string_view::npos ? std::string_view() : rest.substr(0, end + 1);
+}
+
+bool Applies(const TagRow& row, const TagScope& scope) {
+  switch (row.needs) {
+    case TagNeeds::Image:
+      return scope.image != kNoIndex;
+    case TagNeeds::Page:
+      return scope.page != kNoIndex;
+    case TagNeeds::Nothing:
+      break;
+  }
+  return true;
+}
+
+/// The tag that a row replaces: its own, except that the text form of the next image's link, when that has no label,
+/// removes the graphic form and leaves itself. Existing galleries come out so.
+std::string_view ReplacedTag(const TagRow& row, const RunState& run) {
+  const bool removesGraphic =
+      row.tag.data() == kNextImageTextTag.data() && run.project.ImageNextLink.textLinkLabel.empty();
+  return removesGraphic ? kNextImageGraphicTag : row.tag;
+}
+
+/// The first row from `from` to before `end` that replaces `tag`, or `end`.
+std::size_t RowReplacing(std::string_view tag, const TagScope& scope, std::size_t from, std::size_t end) {
+  const auto rows = TagRows();
+  for (std::size_t row = from; row < end; ++row) {
+    const std::string_view replaced = ReplacedTag(rows[row], scope.run);
+    if (replaced.size() == tag.size() && Applies(rows[row], scope) && EqualsIgnoringCase(replaced, tag)) return row;
+  }
+  return end;
+}
+
+/// The first row from `from` on that finds something to replace in `text`, or the number of rows.
+std::size_t NextRow(std::string_view text, const TagScope& scope, std::size_t from) {
+  std::size_t next = TagRows().size();
+  for (std::size_t at = FindTagStart(text, 0); at != std::string_view::npos; at = FindTagStart(text, at + 1)) {
+    next = RowReplacing(TagAt(text, at), scope, from, next);
+  }
+  return next;
+}
+
+}  // namespace
+
+// The rows pass over the whole text one after the other, so that a later row sees what an earlier one put in, also
+// where that makes a tag together with the text around it. Only rows that find something are run.
+std::string ExpandTags(const RunState& run, std::string_view text, std::int32_t imageIndex, std::int32_t pageIndex) {
+  std::string expanded(text);
+  const TagScope scope{run, imageIndex, pageIndex};
+  const auto rows = TagRows();
+  for (std::size_t row = NextRow(expanded, scope, 0); row < rows.size(); row = NextRow(expanded, scope, row + 1)) {
+    expanded = ReplaceAllIgnoringCase(expanded, ReplacedTag(rows[row], run), rows[row].value(scope));
+  }
+  return expanded;
+}
+
+std::string ExpandDescriptionTags(const RunState& run, std::string text, std::int32_t imageIndex,
+                                  std::int32_t pageIndex) {
+  if (imageIndex == kNoIndex || FindTagStart(text, 0) == std::string::npos) return text;
+  const auto expand = [&](const std::string& part) { return ExpandTags(run, part, imageIndex, pageIndex); };
+  for (const DescriptionTags& tags : DescriptionTagRows()) {
+    if (FindIgnoringCase(text, tags.start) == std::string::npos) continue;
+    const std::string description = expand(run.Entry(imageIndex).*tags.description);
+    const std::string full = expand(run.project.*tags.header) + description + expand(run.project.*tags.footer);
+    text = ReplaceAllIgnoringCase(text, tags.tag, description);
+    text = ReplaceAllIgnoringCase(text, tags.fullTag, full);
+  }
+  return text;
+}
+
+std::string ExpandAllTags(const RunState& run, std::string_view text, std::int32_t imageIndex, std::int32_t pageIndex) {
+  return ExpandDescriptionTags(run, ExpandTags(run, text, imageIndex, pageIndex), imageIndex, pageIndex);
+}
+
+}  // namespace vantorium

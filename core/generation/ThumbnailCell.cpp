@@ -1,0 +1,179 @@
+#include "core/generation/ThumbnailCell.h"
+
+#include "core/generation/CellAlignments.h"
+#include "core/generation/OutputNaming.h"
+#include "core/generation/TemplateTags.h"
+
+namespace vantorium {
+namespace {
+
+constexpr std::string_view kDescriptionTable = R"(<TABLE WIDTH="100%" BORDER="0" CELLSPACING="1" CELLPADDING="0">)";
+constexpr std::string_view kCaptionTable = R"(<TABLE BORDER="0" CELLSPACING="1" CELLPADDING="0">)";
+constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
+
+/// A caption with blanks between it and the thumbnail, as its alignment wants them beside one.
+std::string SpacedCaption(const std::string& caption, Choice alignment) {
+  constexpr std::string_view kBlank = "&nbsp;";
+  const std::string_view before = alignment == 0 ? "" : kBlank;
+  const std::string_view behind = alignment == 0 || alignment == 1 ? kBlank : "";
+  return fmt::format("{}{}{}", before, caption, behind);
+}
+
+/// The content under way. A caption stands in a table inside that of the description.
+class CellContent {
+ public:
+  CellContent(const RunState& run, std::int32_t page, std::int32_t image)
+      : run_(run),
+        project_(run.project),
+        page_(page),
+        image_(image),
+        description_(DescriptionPlacement(project_.comboThumbnailDescriptionPlacement)),
+        hasCaption_(project_.checkCaptionsThumbnailsRegular == 1),
+        caption_(CaptionPlacement(project_.comboCaptionsThumbnailsRegularPlacement)) {}
+
+  std::string Compose() {
+    const std::string alt = Alt();
+    if (description_ != Placement::None) OpenDescription();
+    if (hasCaption_) OpenCaption();
+    AddThumbnail(alt);
+    if (hasCaption_) CloseCaption();
+    CloseDescription();
+    return std::move(content_);
+  }
+
+ private:
+  template <typename... Args>
+  void Add(fmt::format_string<Args...> format, Args&&... args) {
+    fmt::format_to(std::back_inserter(content_), format, std::forward<Args>(args)...);
+  }
+
+  [[nodiscard]] std::string Expanded(const std::string& text, std::int32_t page) const {
+    return ExpandAllTags(run_, text, image_, page);
+  }
+
+  [[nodiscard]] std::string Alt() const {
+    if (project_.checkCaptionsThumbnailsPopup != 1) return {};
+    return fmt::format(R"(ALT="{}")", Expanded(project_.ThumbnailPopupCaption, page_));
+  }
+
+  void OpenDescription() {
+    text_ = Expanded(project_.textThumbHeader, kNoIndex);
+    text_ += ExpandTags(run_, run_.Entry(image_).ThumbnailDescription, image_, kNoIndex);
+    text_ += Expanded(project_.textThumbFooter, kNoIndex);
+    cells_ = ThumbnailDescriptionCells(project_.comboThumbnailDescriptionAlignment, description_);
+    const std::int32_t width = run_.MaxThumbWidth;
+    // No blank stands between a WIDTH and the alignment of the thumbnail's cell.
+    switch (description_) {
+      case Placement::Left:
+        return Add(R"({}<TR><TD {}>{}</TD><TD WIDTH="{}"{}>)", kDescriptionTable, cells_.text, text_, width,
+                   cells_.picture);
+      case Placement::Right:
+        return Add(R"({}<TR><TD WIDTH="{}"{}>)", kDescriptionTable, width, cells_.picture);
+      case Placement::Above:
+        return OpenBelowText(kDescriptionTable);
+      case Placement::Below:
+        return Add("{}<TR><TD {}>", kDescriptionTable, cells_.picture);
+      case Placement::None:
+        break;
+    }
+  }
+
+  void OpenCaption() {
+    const Choice alignment = project_.comboCaptionsThumbnailsRegularAlignment;
+    const bool isBeside = caption_ == Placement::Left || caption_ == Placement::Right;
+    text_ = Expanded(project_.ThumbnailRegularCaption, page_);
+    if (isBeside) text_ = SpacedCaption(text_, alignment);
+    cells_ = ThumbnailCaptionCells(alignment, caption_);
+    switch (caption_) {
+      case Placement::Left:
+        return Add(R"({}<TR><TD {} WIDTH="100%">{}</TD><TD {}>)", kCaptionTable, cells_.text, text_, cells_.picture);
+      case Placement::Right:
+      case Placement::Below:
+        return Add("{}<TR><TD {}>", kCaptionTable, cells_.picture);
+      case Placement::Above:
+        return OpenBelowText(kCaptionTable);
+      case Placement::None:
+        break;
+    }
+  }
+
+  void OpenBelowText(std::string_view table) {
+    Add(R"({}<TR><TD {} HEIGHT="100%">{}</TD></TR><TR><TD {}>)", table, cells_.text, text_, cells_.picture);
+  }
+
+  /// A preview has no thumbnail files: the browser scales the source.
+  void AddThumbnail(const std::string& alt) {
+    const ImageRunInfo& info = run_.Info(image_);
+    Add(R"(<A HREF="{}" TARGET="{}">)", ImageTarget(run_, image_), project_.comboImageFrameName);
+    if (run_.mode == GenerationMode::Preview) {
+      Add(R"(<IMG SRC="{}" BORDER="0" WIDTH="{}" HEIGHT="{}" {}></A>)", SourceUrl(run_, image_), info.ThumbWidth,
+          info.ThumbHeight, alt);
+    } else {
+      Add(R"(<IMG SRC="{}{}" BORDER="0" {}></A>)", run_.ThumbUrlPrefix, ThumbnailFileName(project_, info), alt);
+    }
+  }
+
+  void CloseCaption() {
+    switch (caption_) {
+      case Placement::Right:
+        return Add(R"(</TD><TD {} WIDTH="100%">{}{})", cells_.text, text_, kTableEnd);
+      case Placement::Below:
+        return CloseAboveText();
+      case Placement::Left:
+      case Placement::Above:
+        return Add("{}", kTableEnd);
+      case Placement::None:
+        break;
+    }
+  }
+
+  /// With a caption text_ and cells_ are the caption's: it is shown once more in place of the description. Existing
+  /// galleries come out so.
+  void CloseDescription() {
+    switch (description_) {
+      case Placement::Right:
+        return Add("</TD><TD {}>{}{}", cells_.text, text_, kTableEnd);
+      case Placement::Below:
+        return CloseAboveText();
+      case Placement::Left:
+      case Placement::Above:
+        return Add("{}", kTableEnd);
+      case Placement::None:
+        break;
+    }
+  }
+
+  void CloseAboveText() { Add(R"(</TD></TR><TR><TD {} HEIGHT="100%">{}{})", cells_.text, text_, kTableEnd); }
+
+  const RunState& run_;
+  const GalleryProject& project_;
+  std::int32_t page_;
+  std::int32_t image_;
+  Placement description_;
+  bool hasCaption_;
+  Placement caption_;
+  std::string text_;  ///< what is shown around the thumbnail: the description, then the caption
+  CellPair cells_;    ///< alignments of the cells of text_ and thumbnail
+  std::string content_;
+};
+
+}  // namespace
+
+std::string ThumbnailCellContent(const RunState& run, std::int32_t page, std::int32_t image) {
+  return CellContent(run, page, image).Compose();
+}
+
+void AddThumbnailCell(PageText& text, const RunState& run, std::int32_t page, std::int32_t image) {
+  const auto expanded = [&](const std::string& code) { return ExpandAllTags(run, code, image, page); };
+  text.Line("<TD ALIGN=CENTER VALIGN=CENTER>");
+  // Left open: the place to which the Index link of the wrapper page jumps.
+  text.Format(R"(<A NAME="{}">)", run.ListText(image));
+  text.UserCode("THUMBNAIL IMAGE HEADER", expanded(run.project.ThumbnailHeader));
+  text.Line();
+  text.Line(ThumbnailCellContent(run, page, image));
+  text.UserCode("THUMBNAIL IMAGE FOOTER", expanded(run.project.ThumbnailFooter));
+  text.Line();
+  text.Line("</TD>");
+}
+
+}  // namespace vantorium

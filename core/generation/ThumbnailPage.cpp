@@ -1,0 +1,125 @@
+#include "core/generation/ThumbnailPage.h"
+
+#include "core/generation/LinkBars.h"
+#include "core/generation/PageParts.h"
+#include "core/generation/PageText.h"
+#include "core/generation/SlideShow.h"
+#include "core/generation/TemplateTags.h"
+#include "core/generation/ThumbnailCell.h"
+#include "env/Numbers.h"
+
+namespace vantorium {
+namespace {
+
+/// Bits of comboPageLinksThumbnailLinkPlacement: 1 above the table, 2 below it, 3 both.
+constexpr Choice kAbove = 1;
+constexpr Choice kBelow = 2;
+/// Value of comboThumbnailsTableAlignment.
+constexpr Choice kFitToPage = 0;
+
+std::int16_t GridNumber(const Digits& text) {
+  return ToInt16(ParseNumber(text).value_or(0));
+}
+
+bool HasBar(const RunState& run, Choice place) {
+  return run.ThumbnailPageCount > 1 && (run.project.comboPageLinksThumbnailLinkPlacement & place) != 0;
+}
+
+std::string_view DivAlignment(Choice alignment) {
+  switch (alignment) {
+    case 1:
+      return "LEFT";
+    case 3:
+      return "RIGHT";
+    default:
+      return "CENTER";
+  }
+}
+
+std::string PageBodyTag(const RunState& run) {
+  const GalleryProject& project = run.project;
+  const std::string backdrop = BackdropAttribute(run, "_backdrop_thumbpage", project.textThumbnailsPageBackdrop);
+  if (project.checkThumbnailsPageSetColors != 1) return BodyTag(backdrop);
+  return BodyTag({.background = project.ThumbnailPageBgColor,
+                  .text = project.ThumbnailPageTextColor,
+                  .link = project.ThumbnailPageLinkColor,
+                  .visitedLink = project.ThumbnailPageVLinkColor,
+                  .activeLink = project.ThumbnailPageALinkColor},
+                 backdrop);
+}
+
+void AddHead(PageText& text, const RunState& run, std::int32_t page) {
+  const GalleryProject& project = run.project;
+  text.Line("<HTML>");
+  text.Line("<HEAD>");
+  text.Format("<TITLE>{} Index Page {} of {}</TITLE>", project.textGalleryTitle, page, run.ThumbnailPageCount);
+  text.Line(kGeneratorTag);
+  if (const auto start = SlideShowStart(run)) text.Line(RefreshTag(project.textGallerySlideShowAutoStartDelay, *start));
+  text.UserCode("HEAD CODE", ExpandTags(run, project.ThumbnailPageHeadCode, kNoIndex, page));
+  text.Line("</HEAD>");
+}
+
+void AddTableTag(PageText& text, const RunState& run) {
+  const GalleryProject& project = run.project;
+  std::string colour;
+  if (project.checkThumbnailsTableUseBGColor == 1) {
+    colour = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
+  }
+  text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", colour,
+              BackdropAttribute(run, "_backdrop_thumbtable", project.textThumbnailsTableBackdrop),
+              project.textThumbnailsTableBorder, project.textThumbnailsTableCellSpacing,
+              project.textThumbnailsTableCellPadding,
+              project.comboThumbnailsTableAlignment == kFitToPage ? R"( WIDTH="100%")" : "");
+}
+
+/// The last row of the gallery is not filled up with empty cells.
+void AddGrid(PageText& text, const RunState& run, std::int32_t page, std::int32_t firstImage) {
+  const std::int16_t rows = GridNumber(run.project.textThumbnailsTableRows);
+  const std::int16_t columns = GridNumber(run.project.textThumbnailsTableColumns);
+  std::int32_t image = firstImage;
+  for (std::int32_t row = 1; row <= rows && image <= run.ImageCount; ++row) {
+    text.Line("<TR>");
+    for (std::int32_t column = 1; column <= columns && image <= run.ImageCount; ++column) {
+      AddThumbnailCell(text, run, page, image++);
+    }
+    text.Line("</TR>");
+  }
+}
+
+void AddTable(PageText& text, const RunState& run, std::int32_t page, std::int32_t firstImage) {
+  const std::string bar = BuildThumbnailPageBar(run, page);
+  text.Format(R"(<DIV ALIGN="{}">)", DivAlignment(run.project.comboThumbnailsTableAlignment));
+  if (HasBar(run, kAbove)) text.Line(bar);
+  AddTableTag(text, run);
+  AddGrid(text, run, page, firstImage);
+  text.Line("</TABLE>");
+  if (HasBar(run, kBelow)) text.Line(bar);
+  text.Line("</DIV>");
+}
+
+}  // namespace
+
+std::int32_t ImagesOnThumbnailPage(const RunState& run, std::int32_t firstImage) {
+  const std::int32_t rows = std::max<std::int32_t>(GridNumber(run.project.textThumbnailsTableRows), 0);
+  const std::int32_t columns = std::max<std::int32_t>(GridNumber(run.project.textThumbnailsTableColumns), 0);
+  return std::clamp(run.ImageCount - firstImage + 1, 0, rows * columns);
+}
+
+std::string BuildThumbnailPage(const RunState& run, std::int32_t page, std::int32_t firstImage) {
+  const GalleryProject& project = run.project;
+  PageText text;
+  AddHead(text, run, page);
+  text.Line(PageBodyTag(run));
+  text.Line();
+  text.UserCode("BODY HEADER", ExpandTags(run, project.ThumbnailPageBodyHeader, kNoIndex, page));
+  text.Line();
+  AddTable(text, run, page, firstImage);
+  text.Line();
+  text.UserCode("BODY FOOTER", ExpandTags(run, project.ThumbnailPageBodyFooter, kNoIndex, page));
+  text.Line();
+  text.Line("</BODY>");
+  text.Line("</HTML>");
+  return text.Take();
+}
+
+}  // namespace vantorium

@@ -1,0 +1,89 @@
+#include "core/generation/WrapperContent.h"
+
+#include "core/generation/CellAlignments.h"
+#include "core/generation/OutputNaming.h"
+#include "core/generation/TemplateTags.h"
+
+#include <fmt/format.h>
+
+namespace vantorium {
+namespace {
+
+constexpr std::string_view kTable = R"(<TABLE CELLSPACING="2" CELLPADDING="0" BORDER="0"><TR>)";
+constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
+
+/// HEIGHT brings a leading blank, also where it stands alone.
+std::string SizeAttributes(const GalleryProject& project) {
+  if (project.checkImageWrapperImageKeepSize == 1) return {};
+  const std::string_view unit = project.checkImageWrapperImageSizesInPercent == 1 ? "%" : "";
+  const std::string width = fmt::format(R"(WIDTH="{}{}")", project.textImageWrapperImageWidth, unit);
+  const std::string height = fmt::format(R"( HEIGHT="{}{}")", project.textImageWrapperImageHeight, unit);
+  if (project.checkImageWrapperImageKeepAspectRatio != 1) return width + height;
+  return project.checkImageWrapperImageSetWidth == 1 ? width : height;
+}
+
+std::string ImageTag(const RunState& run, std::int32_t image) {
+  std::string alt;
+  if (run.project.checkCaptionsImagesPopup == 1) {
+    alt = fmt::format(R"(ALT="{}")", ExpandAllTags(run, run.project.ImagePopupCaption, image, kNoIndex));
+  }
+  return fmt::format(R"(<IMG SRC="{}" BORDER="0" {} {}>)", ImageUrl(run, image), SizeAttributes(run.project), alt);
+}
+
+std::string WithCaption(const RunState& run, std::int32_t image, std::string content) {
+  const GalleryProject& project = run.project;
+  if (project.checkCaptionsImagesRegular != 1) return content;
+  const Placement placement = CaptionPlacement(project.comboCaptionsImagesRegularPlacement);
+  const CellPair cells = ImageCaptionCells(project.comboCaptionsImagesRegularAlignment, placement);
+  const std::string caption = ExpandAllTags(run, project.ImageRegularCaption, image, kNoIndex);
+  switch (placement) {
+    case Placement::Left:
+      return fmt::format("{}<TD {}>{}</TD><TD {}>{}{}", kTable, cells.text, caption, cells.picture, content, kTableEnd);
+    case Placement::Right:
+      return fmt::format("{}<TD {}>{}</TD><TD {}>{}{}", kTable, cells.picture, content, cells.text, caption, kTableEnd);
+    case Placement::Above:
+      return fmt::format("{}<TD {}>{}</TD></TR><TR><TD {}>{}{}", kTable, cells.text, caption, cells.picture, content,
+                         kTableEnd);
+    case Placement::Below:
+      return fmt::format("{}<TD {}>{}</TD></TR><TR><TD {}>{}{}", kTable, cells.picture, content, cells.text, caption,
+                         kTableEnd);
+    case Placement::None:
+      break;
+  }
+  return content;
+}
+
+std::string DescriptionText(const RunState& run, std::int32_t image) {
+  return ExpandAllTags(run, run.project.textHeader, image, kNoIndex) +
+         ExpandTags(run, run.Entry(image).ImageDescription, image, kNoIndex) +
+         ExpandAllTags(run, run.project.textFooter, image, kNoIndex);
+}
+
+/// The description stands around image and caption.
+std::string WithDescription(const RunState& run, std::int32_t image, std::string content) {
+  const Placement placement = DescriptionPlacement(run.project.comboImageDescriptionPlacement);
+  if (placement == Placement::None) return content;
+  const std::string_view cell = ImageDescriptionCell(run.project.comboImageDescriptionAlignment, placement);
+  const std::string text = DescriptionText(run, image);
+  switch (placement) {
+    case Placement::Left:
+      return fmt::format(R"({}<TD {}>{}</TD><TD ALIGN="CENTER">{}{})", kTable, cell, text, content, kTableEnd);
+    case Placement::Right:
+      return fmt::format(R"({}<TD ALIGN="CENTER">{}</TD><TD {}>{}{})", kTable, content, cell, text, kTableEnd);
+    case Placement::Above:
+      return fmt::format(R"({}<TD {}>{}</TD></TR><TR><TD ALIGN="CENTER">{}{})", kTable, cell, text, content, kTableEnd);
+    case Placement::Below:
+      return fmt::format(R"({}<TD ALIGN="CENTER">{}</TD></TR><TR><TD {}>{}{})", kTable, content, cell, text, kTableEnd);
+    case Placement::None:
+      break;
+  }
+  return content;
+}
+
+}  // namespace
+
+std::string WrapperContent(const RunState& run, std::int32_t image) {
+  return WithDescription(run, image, WithCaption(run, image, ImageTag(run, image)));
+}
+
+}  // namespace vantorium

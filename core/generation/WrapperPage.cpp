@@ -1,0 +1,94 @@
+#include "core/generation/WrapperPage.h"
+
+#include "core/generation/LinkBars.h"
+#include "core/generation/PageParts.h"
+#include "core/generation/PageText.h"
+#include "core/generation/SlideShow.h"
+#include "core/generation/TemplateTags.h"
+#include "core/generation/WrapperContent.h"
+
+namespace vantorium {
+namespace {
+
+/// Bits of comboPageLinksImageLinkPlacement: 1 above the image, 2 below it, 3 both.
+constexpr Choice kAbove = 1;
+constexpr Choice kBelow = 2;
+
+bool HasBar(const GalleryProject& project, Choice place) {
+  return (project.comboPageLinksImageLinkPlacement & place) != 0;
+}
+
+/// A graphic that is the backdrop of the thumbnail pages too is taken from there.
+std::string PageBodyTag(const RunState& run) {
+  const GalleryProject& project = run.project;
+  const bool shared = project.textImageWrapperBackdrop == project.textThumbnailsPageBackdrop;
+  const std::string backdrop =
+      BackdropAttribute(run, shared ? "_backdrop_thumbpage" : "_backdrop_imagepage", project.textImageWrapperBackdrop);
+  if (project.checkImageWrapperSetColors != 1) return BodyTag(backdrop);
+  return BodyTag({.background = project.ImagePageBgColor,
+                  .text = project.ImagePageTextColor,
+                  .link = project.ImagePageLinkColor,
+                  .visitedLink = project.ImagePageVLinkColor,
+                  .activeLink = project.ImagePageALinkColor},
+                 backdrop);
+}
+
+void AddHead(PageText& page, const RunState& run, std::int32_t image) {
+  constexpr std::string_view kIndent = "  ";
+  const GalleryProject& project = run.project;
+  page.Line("<HTML>");
+  page.Line("<HEAD>");
+  page.Format("<TITLE>{} Image {} of {}</TITLE>", project.textGalleryTitle, image, run.ImageCount);
+  page.Line(kGeneratorTag);
+  if (const auto next = SlideAfter(run, image)) page.Line(RefreshTag(project.textGallerySlideShowDelay, *next));
+  page.UserCode("HEAD CODE", ExpandTags(run, project.ImagePageHeadCode, image, kNoIndex), kIndent);
+  page.Line("</HEAD>");
+  page.Line();
+}
+
+void AddImage(PageText& page, const RunState& run, std::int32_t image) {
+  const auto expanded = [&](const std::string& code) { return ExpandAllTags(run, code, image, kNoIndex); };
+  page.UserCode("IMAGE HEADER", expanded(run.project.ImageHeader));
+  page.Line();
+  page.Line(WrapperContent(run, image));
+  page.Line();
+  page.UserCode("IMAGE FOOTER", expanded(run.project.ImageFooter));
+  page.Line();
+}
+
+/// With one image the bar is empty, its lines stand all the same.
+void AddImageWithBars(PageText& page, const RunState& run, std::int32_t image) {
+  constexpr std::string_view kLineBreak = "<BR>";
+  const std::string bar = BuildImagePageBar(run, image);
+  if (HasBar(run.project, kAbove)) {
+    page.Line(bar);
+    page.Line(kLineBreak);
+  }
+  AddImage(page, run, image);
+  if (HasBar(run.project, kBelow)) {
+    page.Line(kLineBreak);
+    page.Line(bar);
+  }
+}
+
+}  // namespace
+
+std::string BuildWrapperPage(const RunState& run, std::int32_t image) {
+  const auto expanded = [&](const std::string& code) { return ExpandAllTags(run, code, image, kNoIndex); };
+  PageText page;
+  AddHead(page, run, image);
+  page.Line(PageBodyTag(run));
+  page.UserCode("BODY HEADER", expanded(run.project.ImagePageBodyHeader));
+  page.Line();
+  AddImageWithBars(page, run, image);
+  page.Line("<BR><BR>");
+  page.Line();
+  page.Line();
+  page.UserCode("BODY FOOTER", expanded(run.project.ImagePageBodyFooter));
+  page.Line();
+  page.Line("</BODY>");
+  page.Line("</HTML>");
+  return page.Take();
+}
+
+}  // namespace vantorium

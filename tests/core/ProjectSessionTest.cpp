@@ -1,0 +1,366 @@
+#include "core/ProjectSession.h"
+#include "tests/fakes/ProjectReading.h"
+
+#include <gtest/gtest.h>
+
+using namespace vantorium;
+using namespace vantorium::fakes;
+
+namespace {
+
+const char kQuestion[] = "The current Gallery Project has been modified.  Do you wish to save the changes?";
+const char kFilter[] = "Vantorium 3.0 Project Files (*.gpj)|*.gpj";
+
+class ProjectSessionTest : public ::testing::Test {
+ protected:
+  void SetUp() override { session.NewProject(), desk.calls.clear(); }
+
+  /// As if the user had changed something.
+  void Modify() {
+    project.IsModified = true;
+    project.settings.textGalleryTitle = "Changed";
+  }
+  /// A project that has a file of its own.
+  void GiveItAFile(const std::string& name = "mine.gpj") {
+    ASSERT_TRUE(session.SaveProjectTo(desk.PathOf(name)));
+    desk.calls.clear();
+  }
+  std::string ValidFile(const std::string& name = "other.gpj") const {
+    return desk.File(name, ProjectFileParts{}.Text());
+  }
+  [[nodiscard]] std::string States() const {
+    return std::string(project.IsModified ? "modified " : "") + (project.IsPristine ? "pristine " : "") +
+           (project.IsUntitled ? "untitled" : "");
+  }
+  [[nodiscard]] Calls WriteCalls(const std::string& path) const {
+    return {"info Please wait... Writing Project File.",
+            "disabled",
+            "status Writing Project File \"" + path + "\"...",
+            "wait pointer",
+            "status ",
+            "pointer"};
+  }
+  [[nodiscard]] std::string Folder() const { return desk.paths.ToText(desk.folder.Path()) + "\\"; }
+
+  ProjectDesk desk;
+  Project& project = desk.project;
+  ProjectSession& session = desk.session;
+};
+
+Calls Joined(Calls calls, const Calls& more) {
+  calls.insert(calls.end(), more.begin(), more.end());
+  return calls;
+}
+
+}  // namespace
+
+TEST_F(ProjectSessionTest, TheFirstNewProjectIsGallery1) {
+  EXPECT_EQ(project.ProjectFileName, "Gallery1");
+  EXPECT_EQ(project.settings.textGalleryTitle, "Gallery1");
+  EXPECT_EQ(States(), "pristine untitled");
+}
+
+TEST_F(ProjectSessionTest, ANewProjectOnAPristineOneDoesNothing) {
+  session.NewProject();
+  EXPECT_EQ(desk.calls, Calls{});
+  EXPECT_EQ(project.ProjectFileName, "Gallery1");
+}
+
+TEST_F(ProjectSessionTest, ANewProjectBeginsEverythingAnewInItsOrder) {
+  project.IsPristine = false;
+  project.settings.ImageHeader = "old";
+  desk.AddImage("a.jpg");
+  desk.images.SetSortingOrder(1);
+  desk.boxes.boxes.clear();
+  desk.calls.clear();
+  project.IsModified = false;
+  session.NewProject();
+  EXPECT_EQ(desk.calls, (Calls{"preview", "counts", "page count", "title bar", "descriptions hidden", "first tab",
+                               "title field", "custom colours"}));
+  EXPECT_EQ(project.settings.ImageHeader, "");
+  EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
+  EXPECT_EQ(project.ProjectFileName, "Gallery2");
+  EXPECT_EQ(project.settings.comboImagesSortingOrder, 0);
+  EXPECT_FALSE(project.images.IsKeptSorted());
+  EXPECT_TRUE(project.images.Empty());
+  EXPECT_EQ(States(), "pristine untitled");
+}
+
+TEST_F(ProjectSessionTest, AModifiedProjectIsAskedAbout) {
+  Modify();
+  desk.boxes.answers = {BoxAnswer::Cancel};
+  session.NewProject();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Question);
+  EXPECT_EQ(desk.boxes.boxes[0].buttons, BoxButtons::YesNoCancel);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Project modified");
+  EXPECT_EQ(desk.boxes.boxes[0].text, kQuestion);
+}
+
+TEST_F(ProjectSessionTest, CancelKeepsTheProjectWhichIsNoLongerPristine) {
+  Modify();
+  desk.boxes.answers = {BoxAnswer::Cancel};
+  session.NewProject();
+  EXPECT_EQ(project.settings.textGalleryTitle, "Changed");
+  EXPECT_EQ(States(), "modified untitled");
+  EXPECT_EQ(desk.calls, Calls{"box Project modified"});
+}
+
+TEST_F(ProjectSessionTest, NoDropsTheChanges) {
+  Modify();
+  desk.boxes.answers = {BoxAnswer::No};
+  session.NewProject();
+  EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
+  EXPECT_EQ(States(), "pristine untitled");
+}
+
+TEST_F(ProjectSessionTest, YesSavesFirst) {
+  Modify();
+  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.dialog.answers = {desk.PathOf("saved.gpj")};
+  session.NewProject();
+  EXPECT_NE(desk.folder.Read("saved.gpj").find("TITLE=\"Changed\""), std::string::npos);
+  EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
+}
+
+TEST_F(ProjectSessionTest, ASaveThatFailsOrIsCancelledStopsNew) {
+  for (const std::string& chosen : {std::string(), desk.PathOf("no folder/a.gpj")}) {
+    Modify();
+    desk.boxes.answers = {BoxAnswer::Yes};
+    desk.dialog.answers = {chosen};
+    session.NewProject();
+    EXPECT_EQ(project.settings.textGalleryTitle, "Changed") << chosen;
+    EXPECT_EQ(States(), "modified untitled") << chosen;
+  }
+}
+
+TEST_F(ProjectSessionTest, LeavingAProjectAsksOnlyAboutAModifiedOne) {
+  EXPECT_TRUE(session.MayLeaveProject());
+  EXPECT_TRUE(desk.boxes.boxes.empty());
+  const std::pair<BoxAnswer, bool> cases[] = {{BoxAnswer::Cancel, false}, {BoxAnswer::No, true}};
+  for (const auto& [answer, may] : cases) {
+    Modify();
+    desk.boxes.answers = {answer};
+    EXPECT_EQ(session.MayLeaveProject(), may);
+    EXPECT_FALSE(project.IsPristine);
+  }
+}
+
+TEST_F(ProjectSessionTest, OpenAsksForAFileOfItsKind) {
+  project.LastProjectFolder = "C:\\projects\\";
+  session.OpenProject();
+  ASSERT_EQ(desk.dialog.requests.size(), 1U);
+  const ProjectFileDialog::Request& request = desk.dialog.requests[0];
+  EXPECT_EQ(request.purpose, ProjectFileDialog::Purpose::Open);
+  EXPECT_EQ(request.title, "Open Gallery Project");
+  EXPECT_EQ(request.filter, kFilter);
+  EXPECT_EQ(request.defaultPattern, "*.gpj");
+  EXPECT_EQ(request.folder, "C:\\projects\\");
+  EXPECT_EQ(request.fileName, "");
+}
+
+TEST_F(ProjectSessionTest, OpenWithoutAFileChangesNothing) {
+  desk.AddImage("a.jpg");
+  session.OpenProject();
+  EXPECT_EQ(desk.calls, Calls{"dialog Open Gallery Project"});
+  EXPECT_EQ(project.images.Count(), 1U);
+  EXPECT_EQ(States(), "pristine untitled");
+}
+
+TEST_F(ProjectSessionTest, OpenReadsTheFileInItsOrder) {
+  const std::string path = ValidFile();
+  desk.AddImage("old.jpg");
+  project.images.KeepSorted({SortColumn::ImageName, SortDirection::Ascending});
+  desk.dialog.answers = {path};
+  session.OpenProject();
+  EXPECT_EQ(desk.calls, (Calls{"dialog Open Gallery Project", "info Please wait... Reading Project File.", "disabled",
+                               "status Reading Project File \"" + path + "\"...", "wait pointer", "status ", "pointer",
+                               "enabled", "info hidden", "title bar", "page count", "counts", "preview"}));
+  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
+  EXPECT_EQ(project.ProjectFolder, Folder());
+  EXPECT_EQ(project.ProjectFileName, "other.gpj");
+  EXPECT_EQ(project.LastProjectFolder, Folder());
+  EXPECT_EQ(States(), "");
+  EXPECT_TRUE(project.images.Empty());
+  EXPECT_FALSE(project.images.IsKeptSorted());
+  EXPECT_EQ(project.settings.comboImagesSortingOrder, 0);
+}
+
+TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
+  const std::string path = desk.File("bad.gpj", "<GALLERYPROJECT/>");
+  desk.dialog.answers = {path};
+  session.OpenProject();
+  EXPECT_EQ(desk.calls,
+            (Calls{"dialog Open Gallery Project", "info Please wait... Reading Project File.", "disabled",
+                   "status Reading Project File \"" + path + "\"...", "wait pointer", "box Invalid Project File",
+                   "status ", "pointer", "box File Error", "enabled", "info hidden"}));
+  EXPECT_EQ(desk.boxes.boxes[1].kind, BoxKind::Exclamation);
+  EXPECT_EQ(desk.boxes.boxes[1].text, "An error occurred while opening the Gallery Project \"" + path + "\".");
+  EXPECT_EQ(project.ProjectFileName, "Gallery1");
+  EXPECT_EQ(project.LastProjectFolder, "");
+  EXPECT_EQ(States(), "pristine untitled");
+}
+
+TEST_F(ProjectSessionTest, OpenAsksAboutAModifiedProject) {
+  Modify();
+  desk.boxes.answers = {BoxAnswer::Cancel};
+  session.OpenProject();
+  EXPECT_EQ(desk.calls, Calls{"box Project modified"});
+  desk.calls.clear();
+  desk.boxes.answers = {BoxAnswer::No};
+  session.OpenProject();
+  EXPECT_EQ(desk.calls, (Calls{"box Project modified", "dialog Open Gallery Project"}));
+  EXPECT_EQ(States(), "modified untitled");
+}
+
+TEST_F(ProjectSessionTest, OpenGoesOnWhenTheSaveFails) {
+  Modify();
+  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.dialog.answers = {"", ValidFile()};
+  session.OpenProject();
+  EXPECT_EQ(desk.dialog.requests.size(), 2U);
+  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
+}
+
+TEST_F(ProjectSessionTest, TheCommandLineIsAPathInQuotes) {
+  const std::string path = ValidFile();
+  desk.AddImage("a.jpg");
+  session.OpenProjectFromCommandLine('"' + path + '"');
+  EXPECT_EQ(desk.calls, (Calls{"disabled", "status Reading Project File \"" + path + "\"...", "wait pointer", "status ",
+                               "pointer", "enabled", "title bar", "page count", "counts", "preview"}));
+  EXPECT_EQ(project.ProjectFileName, "other.gpj");
+  EXPECT_EQ(States(), "");
+  EXPECT_EQ(project.images.Count(), 1U);
+}
+
+TEST_F(ProjectSessionTest, AnEmptyCommandLineDoesNothing) {
+  for (const char* line : {"", "\"\"", "\""}) session.OpenProjectFromCommandLine(line);
+  EXPECT_EQ(desk.calls, Calls{});
+}
+
+TEST_F(ProjectSessionTest, ACommandLineThatIsNoProjectSaysSo) {
+  session.OpenProjectFromCommandLine(desk.PathOf("missing.gpj"));
+  ASSERT_EQ(desk.boxes.boxes.size(), 2U);
+  EXPECT_EQ(desk.boxes.boxes[1].title, "File Error");
+  EXPECT_EQ(desk.calls.back(), "enabled");
+}
+
+TEST_F(ProjectSessionTest, SavingAnUntitledProjectAsksForItsName) {
+  project.LastProjectFolder = "C:\\projects\\";
+  EXPECT_FALSE(session.SaveProject());
+  ASSERT_EQ(desk.dialog.requests.size(), 1U);
+  const ProjectFileDialog::Request& request = desk.dialog.requests[0];
+  EXPECT_EQ(request.purpose, ProjectFileDialog::Purpose::Save);
+  EXPECT_EQ(request.title, "Save Gallery Project As");
+  EXPECT_EQ(request.filter, kFilter);
+  EXPECT_EQ(request.defaultExtension, "gpj");
+  EXPECT_EQ(request.folder, "C:\\projects\\");
+  EXPECT_EQ(request.fileName, "Gallery1");
+  EXPECT_EQ(desk.calls, Calls{"dialog Save Gallery Project As"});
+  EXPECT_EQ(States(), "pristine untitled");
+}
+
+TEST_F(ProjectSessionTest, ASavedProjectHasTheChosenFile) {
+  Modify();
+  const std::string path = desk.PathOf("chosen.gpj");
+  desk.dialog.answers = {path};
+  EXPECT_TRUE(session.SaveProject());
+  EXPECT_EQ(desk.calls, Joined(Joined({"dialog Save Gallery Project As"}, WriteCalls(path)),
+                               {"enabled", "info hidden", "title bar"}));
+  EXPECT_EQ(project.ProjectFileName, "chosen.gpj");
+  EXPECT_EQ(project.ProjectFolder, Folder());
+  EXPECT_EQ(project.LastProjectFolder, Folder());
+  EXPECT_EQ(States(), "");
+}
+
+TEST_F(ProjectSessionTest, ATitledProjectIsSavedToItsFile) {
+  GiveItAFile();
+  Modify();
+  EXPECT_TRUE(session.SaveProject());
+  EXPECT_EQ(desk.calls, Joined(WriteCalls(desk.PathOf("mine.gpj")), {"enabled", "info hidden", "title bar"}));
+  EXPECT_NE(desk.folder.Read("mine.gpj").find("Changed"), std::string::npos);
+  EXPECT_EQ(States(), "");
+}
+
+TEST_F(ProjectSessionTest, AFileNameWithoutTheExtensionGetsIt) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"a", "a.gpj"}, {"b.jpg", "b.jpg.gpj"}, {"c.GPJ", "c.GPJ"}, {"d.Gpj", "d.Gpj"}, {"gpj", "gpj.gpj"}};
+  for (const auto& [name, saved] : cases) {
+    project.IsUntitled = false;
+    project.ProjectFolder = Folder();
+    project.ProjectFileName = name;
+    EXPECT_TRUE(session.SaveProject()) << name;
+    EXPECT_EQ(project.ProjectFileName, saved);
+    EXPECT_TRUE(std::filesystem::exists(desk.folder.Path() / saved)) << saved;
+  }
+}
+
+TEST_F(ProjectSessionTest, AFailedSaveSaysSoAndTheProjectStaysModified) {
+  GiveItAFile();
+  Modify();
+  project.ProjectFolder = Folder() + "no folder\\";
+  EXPECT_FALSE(session.SaveProject());
+  const std::string path = desk.PathOf("no folder/mine.gpj");
+  EXPECT_EQ(desk.calls, Joined(WriteCalls(path), {"box File Error", "enabled", "info hidden"}));
+  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Exclamation);
+  EXPECT_EQ(desk.boxes.boxes[0].text, "An error occurred while saving the Gallery Project.");
+  EXPECT_EQ(States(), "modified ");
+}
+
+TEST_F(ProjectSessionTest, SavingRepairsEmptySettings) {
+  project.settings.textThumbnailsTableColumns = "";
+  desk.dialog.answers = {""};
+  EXPECT_FALSE(session.SaveProject());
+  EXPECT_EQ(project.settings.textThumbnailsTableColumns, "1");
+  EXPECT_TRUE(project.IsModified);
+}
+
+TEST_F(ProjectSessionTest, SaveAsAsksForANameAlsoWithAFile) {
+  GiveItAFile();
+  desk.dialog.answers = {desk.PathOf("copy.gpj")};
+  session.SaveProjectAs();
+  EXPECT_EQ(desk.dialog.requests.at(0).fileName, "mine.gpj");
+  EXPECT_EQ(project.ProjectFileName, "copy.gpj");
+  EXPECT_EQ(States(), "");
+}
+
+TEST_F(ProjectSessionTest, SaveAsLeavesAnUntitledProjectUntitled) {
+  desk.dialog.answers = {desk.PathOf("copy.gpj")};
+  session.SaveProjectAs();
+  EXPECT_EQ(States(), "untitled");
+  EXPECT_EQ(project.ProjectFileName, "copy.gpj");
+  EXPECT_FALSE(session.SaveProject());
+  EXPECT_EQ(desk.dialog.requests.size(), 2U);
+}
+
+TEST_F(ProjectSessionTest, ACancelledSaveAsPutsTheStateBack) {
+  GiveItAFile();
+  session.SaveProjectAs();
+  EXPECT_EQ(States(), "");
+  EXPECT_EQ(project.ProjectFileName, "mine.gpj");
+}
+
+TEST_F(ProjectSessionTest, AProjectIsLoadedAndSavedWithoutAWindow) {
+  EXPECT_TRUE(session.LoadProject(ValidFile()));
+  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
+  EXPECT_EQ(States(), "");
+  EXPECT_TRUE(session.SaveProjectTo(desk.PathOf("out.gpj")));
+  EXPECT_EQ(project.ProjectFileName, "out.gpj");
+  EXPECT_TRUE(session.LoadProject(desk.PathOf("out.gpj")));
+  EXPECT_FALSE(session.LoadProject(desk.PathOf("missing.gpj")));
+  EXPECT_EQ(desk.boxes.boxes.size(), 2U);
+  EXPECT_FALSE(session.SaveProjectTo(desk.PathOf("no folder/out.gpj")));
+  EXPECT_EQ(desk.boxes.boxes.size(), 3U);
+}
+
+TEST_F(ProjectSessionTest, AProjectWithoutATitleHasTheNameOfTheNewProject) {
+  EXPECT_TRUE(session.LoadProject(desk.File("a.gpj", ProjectFileParts{.gallery = ""}.Text())));
+  EXPECT_EQ(project.settings.textGalleryTitle, "Gallery1");
+}
+
+TEST_F(ProjectSessionTest, TheFolderOfAProjectLeadsBackToItsFile) {
+  const std::string native = (desk.folder.Path() / "mine.gpj").string();  // begins with a separator
+  desk.folder.Write("mine.gpj", ProjectFileParts{}.Text());
+  ASSERT_TRUE(session.LoadProject(native));
+  EXPECT_TRUE(desk.files.PathExists(project.ProjectFolder + project.ProjectFileName)) << project.ProjectFolder;
+}

@@ -1,0 +1,111 @@
+#include "core/generation/AuxiliaryFiles.h"
+#include "tests/core/generation/RunFixture.h"
+
+namespace vantorium {
+namespace {
+
+class AuxiliaryFilesTest : public RunFixture {
+ protected:
+  AuxiliaryFilesTest() { AddPhotograph("a"); }
+
+  /// Runs without pages and gives the auxiliary files of the images folder.
+  std::set<std::string> Copied() {
+    RunArguments arguments = CreateArguments();
+    arguments.CreateHTML = false;
+    end = Run(arguments);
+    auto found = FilesIn("out/Images");
+    found.erase("a.jpg");
+    return found;
+  }
+
+  RunEnd end = RunEnd::NotStarted;
+};
+
+using Names = std::set<std::string>;
+
+TEST_F(AuxiliaryFilesTest, WithoutGraphicsNothingIsCopied) {
+  EXPECT_EQ(Copied(), Names{});
+  EXPECT_EQ(end, RunEnd::Success);
+}
+
+TEST_F(AuxiliaryFilesTest, EachSettingGoesToItsFixedNameWithTheSourcesExtension) {
+  folder.Write("project/g.GIF", "graphic");
+  auto& s = project.settings;
+  s.textThumbnailsTableBackdrop = s.textThumbnailsPageBackdrop = s.textImageWrapperBackdrop = "g.GIF";
+  for (auto link :
+       {&GalleryProject::ThumbnailFirstLink, &GalleryProject::ThumbnailPreviousLink, &GalleryProject::ThumbnailNextLink,
+        &GalleryProject::ThumbnailLastLink, &GalleryProject::ImageFirstLink, &GalleryProject::ImagePreviousLink,
+        &GalleryProject::ImageNextLink, &GalleryProject::ImageLastLink, &GalleryProject::ImageIndexLink}) {
+    (s.*link).textLinkGraphic = "g.GIF";
+    (s.*link).textLinkGraphicDisabled = "g.GIF";
+  }
+  Names expected;
+  for (const char* name :
+       {"_backdrop_thumbtable",   "_backdrop_thumbpage", "_backdrop_imagepage",       "_thumblink_first",
+        "_thumblink_first_first", "_thumblink_previous", "_thumblink_previous_first", "_thumblink_next",
+        "_thumblink_next_last",   "_thumblink_last",     "_thumblink_last_last",      "_imagelink_first",
+        "_imagelink_first_first", "_imagelink_previous", "_imagelink_previous_first", "_imagelink_next",
+        "_imagelink_next_last",   "_imagelink_last",     "_imagelink_last_last",      "_imagelink_index"}) {
+    expected.insert(std::string(name) + ".GIF");
+  }
+  EXPECT_EQ(Copied(), expected);
+  EXPECT_EQ(folder.Read("out/Images/_imagelink_index.GIF"), "graphic");
+}
+
+TEST_F(AuxiliaryFilesTest, AGraphicWithAFolderIsUsedAsItStands) {
+  folder.Write("elsewhere/g.gif", "there");
+  folder.Write("project/g.gif", "beside the project");
+  project.settings.textThumbnailsPageBackdrop = "T:/elsewhere/g.gif";
+  EXPECT_EQ(Copied(), Names{"_backdrop_thumbpage.gif"});
+  EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "there");
+}
+
+TEST_F(AuxiliaryFilesTest, AProjectFolderWithoutABackslashGetsOne) {
+  folder.Write("project/g.gif", "GIF");
+  project.ProjectFolder = "T:\\project";
+  project.settings.textThumbnailsPageBackdrop = "g.gif";
+  EXPECT_EQ(Copied(), Names{"_backdrop_thumbpage.gif"});
+}
+
+struct MissingCase {
+  std::string GalleryProject::*backdrop;
+  LinkSettings GalleryProject::*link;
+  const char* text;
+};
+
+TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunInTheSpellingOfItsKind) {
+  for (const MissingCase& c :
+       {MissingCase{&GalleryProject::textImageWrapperBackdrop, nullptr, "Unable to copy the File \"T:\\none.gif\"."},
+        MissingCase{nullptr, &GalleryProject::ThumbnailLastLink, "Unable to copy the File \"T:\\none.gif\"."},
+        MissingCase{nullptr, &GalleryProject::ImageFirstLink, "Unable to copy the file \"T:\\none.gif\"."},
+        MissingCase{nullptr, &GalleryProject::ImageIndexLink, "Unable to copy the file \"T:\\none.gif\"."}}) {
+    project.settings = {};
+    boxes.boxes.clear();
+    if (c.backdrop != nullptr) project.settings.*c.backdrop = "T:\\none.gif";
+    if (c.link != nullptr) (project.settings.*c.link).textLinkGraphic = "T:\\none.gif";
+    Copied();
+    EXPECT_EQ(end, RunEnd::Failure);
+    ASSERT_EQ(boxes.boxes.size(), 1U);
+    EXPECT_EQ(boxes.boxes[0].title, "File Error");
+    EXPECT_EQ(boxes.boxes[0].text, c.text);
+  }
+}
+
+TEST_F(AuxiliaryFilesTest, BothPageBackdropsAreCopiedEvenWhenTheyAreTheSame) {
+  folder.Write("project/g.gif", "GIF");
+  project.settings.textThumbnailsPageBackdrop = project.settings.textImageWrapperBackdrop = "g.gif";
+  EXPECT_EQ(Copied(), (Names{"_backdrop_thumbpage.gif", "_backdrop_imagepage.gif"}));
+}
+
+TEST_F(AuxiliaryFilesTest, TheyAreCopiedWithoutOverwriteToo) {
+  folder.Write("project/g.gif", "new");
+  folder.Write("out/Images/_backdrop_thumbpage.gif", "old");
+  project.settings.textThumbnailsPageBackdrop = "g.gif";
+  RunArguments arguments = CreateArguments();
+  arguments.Overwrite = false;
+  Run(arguments);
+  EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "new");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,57 @@
+#include "core/generation/CancelCheck.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/RunFakes.h"
+
+namespace vantorium {
+namespace {
+
+class CancelCheckTest : public ::testing::Test {
+ protected:
+  fakes::Journal journal;
+  fakes::ProgressRecord record;
+  fakes::RecordingProgress progress{record, journal};
+  fakes::RecordingMessageBox boxes;
+  CancelCheck cancel{boxes};
+};
+
+TEST_F(CancelCheckTest, WithoutThePressedButtonNothingIsAsked) {
+  EXPECT_FALSE(cancel.CheckForCancel(progress));
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(CancelCheckTest, YesRequestsTheCancelAndSaysSoInTheLog) {
+  record.cancelled = true;
+  EXPECT_TRUE(cancel.CheckForCancel(progress));
+  EXPECT_TRUE(cancel.CancelRequested());
+  EXPECT_EQ(record.log, "\r\nCancelling Request...\r\n");
+  EXPECT_EQ(journal, (fakes::Journal{"progress busy"}));
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Question);
+  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::YesNo);
+}
+
+TEST_F(CancelCheckTest, NoTakesThePressBack) {
+  record.cancelled = true;
+  boxes.answers = {BoxAnswer::No};
+  EXPECT_FALSE(cancel.CheckForCancel(progress));
+  EXPECT_FALSE(record.cancelled);
+  EXPECT_FALSE(cancel.CancelRequested());
+}
+
+TEST_F(CancelCheckTest, ARequestIsAskedAboutOnce) {
+  record.cancelled = true;
+  std::ignore = cancel.CheckForCancel(progress);
+  EXPECT_TRUE(cancel.CheckForCancel(progress));
+  EXPECT_EQ(boxes.boxes.size(), 1U);
+}
+
+TEST_F(CancelCheckTest, AfterARequestOnlyTheWindowsFlagCounts) {
+  record.cancelled = true;
+  std::ignore = cancel.CheckForCancel(progress);
+  record.cancelled = false;
+  EXPECT_FALSE(cancel.CheckForCancel(progress));
+  EXPECT_TRUE(cancel.CancelRequested());
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,137 @@
+#include "core/generation/CreateGallery.h"
+#include "env/PathText.h"
+#include "tests/core/generation/RunFixture.h"
+
+namespace vantorium {
+namespace {
+
+class CreateGalleryTest : public RunFixture {
+ protected:
+  CreateGalleryTest() {
+    preferences.TempFolderLocation = "T:\\place";
+    host.choice = {.option = CreateChoice::Option::CreateGallery, .FilePath = "T:\\web\\start.htm"};
+  }
+
+  RunEnd Create(GenerationMode mode, std::int16_t browserIndex = 0) {
+    GalleryCreator creator(project, preferences, "T:\\program", environment);
+    return creator.CreateGallery(mode, browserIndex);
+  }
+
+  Preferences preferences;
+};
+
+TEST_F(CreateGalleryTest, ACancelledDialogDoesNothing) {
+  AddPhotograph("a");
+  host.choice.option = CreateChoice::Option::Cancelled;
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
+  EXPECT_EQ(journal, (fakes::Journal{"asked"}));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / "place"));
+}
+
+TEST_F(CreateGalleryTest, TheChosenFileIsFolderAndNameOfTheGallery) {
+  AddPhotograph("a");
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
+  EXPECT_EQ(FilesIn("web").count("start.htm"), 1U);
+  EXPECT_EQ(preferences.CreateFolder, "T:\\web\\");
+  EXPECT_EQ(preferences.GalleryIndexFileName, "start.htm");
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "place/VANTORIUM_TEMP"));
+}
+
+TEST_F(CreateGalleryTest, ThePathBelowTheRootKeepsItsFirstSeparator) {
+  AddPhotograph("a");
+  host.choice.FilePath = WithBackslashes((folder.Path() / "web/start.htm").string());
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
+  EXPECT_EQ(FilesIn("web").count("start.htm"), 1U);
+}
+
+TEST_F(CreateGalleryTest, TheSwitchesOfTheDialogReachTheRun) {
+  AddPhotograph("a");
+  host.choice.CreateImages = false;
+  host.choice.CreateThumbnails = false;
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
+  EXPECT_EQ(FilesIn("web"), (std::set<std::string>{"start.htm", "thumbpage_1.htm", "a.htm"}));
+}
+
+TEST_F(CreateGalleryTest, AnEmptyListIsRefusedBeforeARun) {
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "No Images");
+  EXPECT_EQ(boxes.boxes[0].text, "You cannot create a Gallery without Images.");
+  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_TRUE(FilesIn("web").empty());
+}
+
+TEST_F(CreateGalleryTest, APreviewOfAnEmptyListIsRefusedBeforeAnyFolderIsMade) {
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::NotStarted);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].text, "You cannot preview a Gallery without Images.");
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / "place"));
+}
+
+TEST_F(CreateGalleryTest, APreviewAsksNothingAndOpensInTheDefaultBrowser) {
+  AddPhotograph("a");
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
+  EXPECT_EQ(std::ranges::count(journal, "asked"), 0);
+  EXPECT_EQ(std::ranges::count(journal, "open T:\\place\\VANTORIUM_TEMP\\index.htm"), 1);
+  EXPECT_EQ(FilesIn("place/VANTORIUM_TEMP").count("index.htm"), 1U);
+}
+
+TEST_F(CreateGalleryTest, APreviewOpensInTheListedBrowserOfItsIndex) {
+  AddPhotograph("a");
+  preferences.Browsers = {{"One", "T:\\one"}, {"Two", "T:\\two"}};
+  Create(GenerationMode::Preview, 2);
+  EXPECT_EQ(std::ranges::count(journal, "start T:\\two T:\\place\\VANTORIUM_TEMP\\index.htm"), 1);
+}
+
+TEST_F(CreateGalleryTest, ABrowserThatDoesNotStartIsTold) {
+  AddPhotograph("a");
+  shell.fails = true;
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "Error");
+  EXPECT_EQ(boxes.boxes[0].text, "Error: 53\r\rFile not found");
+}
+
+TEST_F(CreateGalleryTest, AFailedPreviewIsNotOpened) {
+  AddPhotograph("a");
+  AddPhotograph("b");
+  project.settings.textThumbnailsTableColumns = "0";
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Failure);
+  for (const auto& entry : journal) EXPECT_FALSE(entry.starts_with("open")) << entry;
+}
+
+TEST_F(CreateGalleryTest, ARunThatWasReachedEndsWithABeepTheTrayIconAndAnEmptyStatus) {
+  AddPhotograph("a");
+  Create(GenerationMode::Create);
+  EXPECT_EQ(journal, (fakes::Journal{"asked", "tray off", "busy", "window off", "progress shown", "window on", "idle",
+                                     "progress idle", "progress unloaded", "beep information", "tray on", "idle"}));
+  EXPECT_EQ(host.statuses.back(), "");
+}
+
+TEST_F(CreateGalleryTest, EmptySettingsAreRepairedFirst) {
+  AddPhotograph("a");
+  project.settings.textThumbnailsTableColumns = "";
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
+  EXPECT_EQ(project.settings.textThumbnailsTableColumns, "1");
+  EXPECT_TRUE(project.IsModified);
+}
+
+TEST_F(CreateGalleryTest, AnEmptyPlaceOfTheTemporaryFolderBecomesTheProgramsFolder) {
+  AddPhotograph("a");
+  preferences.TempFolderLocation = "";
+  Create(GenerationMode::Preview);
+  EXPECT_EQ(preferences.TempFolderLocation, "T:\\program");
+  EXPECT_EQ(FilesIn("program/VANTORIUM_TEMP").count("index.htm"), 1U);
+}
+
+TEST_F(CreateGalleryTest, ACancelOfAnEarlierRunIsForgotten) {
+  AddPhotograph("a");
+  CancelInTurn(2);
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Cancelled);
+  loop.onTurn = nullptr;
+  host.progress.cancelled = false;
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
+}
+
+}  // namespace
+}  // namespace vantorium

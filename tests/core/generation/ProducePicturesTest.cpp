@@ -1,0 +1,179 @@
+#include "core/generation/ProducePictures.h"
+#include "tests/core/generation/RunFixture.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace vantorium {
+namespace {
+
+class ProducePicturesTest : public RunFixture {
+ protected:
+  [[nodiscard]] std::pair<std::int32_t, std::int32_t> SizeOf(const std::string& file) const {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    EXPECT_TRUE(ReadJPEGSize(folder.Path() / file, width, height)) << file;
+    return {width, height};
+  }
+  void SetWriteTime(const std::string& file, std::int64_t seconds) const {
+    const timespec times[2] = {{seconds, 0}, {seconds, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, (folder.Path() / file).c_str(), times, 0), 0);
+  }
+  [[nodiscard]] std::int64_t WriteTime(const std::string& file) const {
+    struct stat status = {};
+    EXPECT_EQ(::stat((folder.Path() / file).c_str(), &status), 0) << file;
+    return status.st_mtim.tv_sec;
+  }
+};
+
+using Size = std::pair<std::int32_t, std::int32_t>;
+
+TEST_F(ProducePicturesTest, AnImageThatKeepsItsSizeIsCopiedByteForByte) {
+  AddPhotograph("a");
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  Run(CreateArguments());
+  EXPECT_EQ(folder.Read("out/Images/a.jpg"), folder.Read("photos/a.jpg"));
+}
+
+TEST_F(ProducePicturesTest, WithoutPhysicalResizeTheFileIsCopiedAndThePageAsksForTheSize) {
+  AddPhotograph("a");
+  project.settings.checkImageWrapperImagePhysicalResize = 0;
+  Run(CreateArguments());
+  EXPECT_EQ(folder.Read("out/Images/a.jpg"), folder.Read("photos/a.jpg"));
+  EXPECT_NE(folder.Read("out/a.htm").find("HEIGHT=\"300\""), std::string::npos);
+}
+
+TEST_F(ProducePicturesTest, AResizedImageHasTheGivenHeightAndTheSourcesShape) {
+  AddPhotograph("a", 40, 30);
+  project.settings.textImageWrapperImageHeight = "15";
+  Run(CreateArguments());
+  EXPECT_EQ(SizeOf("out/Images/a.jpg"), Size(20, 15));
+}
+
+TEST_F(ProducePicturesTest, AThumbnailFollowsTheShapeOfTheResizedImageAndComesFromTheSource) {
+  AddPhotograph("a", 40, 30);
+  auto& settings = project.settings;
+  settings.checkImageWrapperImageKeepAspectRatio = 0;
+  settings.textImageWrapperImageWidth = "10";
+  settings.textImageWrapperImageHeight = "20";
+  settings.checkThumbnailsImageKeepAspectRatio = 1;
+  settings.checkThumbnailsImageSetWidth = 1;
+  settings.textThumbnailsImageWidth = "8";
+  Run(CreateArguments());
+  EXPECT_EQ(SizeOf("out/Thumbs/thumb_a.jpg"), Size(8, 16));
+}
+
+TEST_F(ProducePicturesTest, AnImageCarriesTheTimesOfItsSourceAndAThumbnailDoesNot) {
+  AddPhotograph("copied");
+  SetWriteTime("photos/copied.jpg", 1'000'000'000);
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  Run(CreateArguments());
+  EXPECT_EQ(WriteTime("out/Images/copied.jpg"), 1'000'000'000);
+
+  project.settings.checkImageWrapperImageKeepSize = 0;
+  Run(CreateArguments());
+  EXPECT_EQ(WriteTime("out/Images/copied.jpg"), 1'000'000'000) << "encoded again";
+  EXPECT_NE(WriteTime("out/Thumbs/thumb_copied.jpg"), 1'000'000'000);
+}
+
+TEST_F(ProducePicturesTest, WithoutOverwriteWhatExistsIsNotTouchedButItsSizeIsKnown) {
+  AddPhotograph("a");
+  folder.Write("out/Images/a.jpg", std::string(2048, 'o'));
+  folder.Write("out/Thumbs/thumb_a.jpg", "old");
+  project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
+  RunArguments arguments = CreateArguments();
+  arguments.Overwrite = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  EXPECT_EQ(folder.Read("out/Images/a.jpg"), std::string(2048, 'o'));
+  EXPECT_EQ(folder.Read("out/Thumbs/thumb_a.jpg"), "old");
+  EXPECT_NE(folder.Read("out/a.htm").find("\r\n2KB\r\n"), std::string::npos);
+}
+
+TEST_F(ProducePicturesTest, WithoutOverwriteWhatIsMissingIsMade) {
+  AddPhotograph("a");
+  RunArguments arguments = CreateArguments();
+  arguments.Overwrite = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  EXPECT_EQ(FilesIn("out").count("Images/a.jpg"), 1U);
+  EXPECT_EQ(FilesIn("out").count("Thumbs/thumb_a.jpg"), 1U);
+}
+
+TEST_F(ProducePicturesTest, WithOverwriteAnOldFileIsReplaced) {
+  AddPhotograph("a");
+  folder.Write("out/Images/a.jpg", "old");
+  Run(CreateArguments());
+  EXPECT_NE(folder.Read("out/Images/a.jpg"), "old");
+}
+
+TEST_F(ProducePicturesTest, ARunWithoutImagesReadsTheSizesOfThoseThatAreThere) {
+  AddPhotograph("here");
+  AddPhotograph("missing");
+  folder.Write("out/Images/here.jpg", std::string(3000, 'x'));
+  project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
+  RunArguments arguments = CreateArguments();
+  arguments.CreateImages = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  EXPECT_NE(folder.Read("out/here.htm").find("\r\n2KB\r\n"), std::string::npos);
+  EXPECT_NE(folder.Read("out/missing.htm").find("\r\n0KB\r\n"), std::string::npos);
+  EXPECT_EQ(std::ranges::count(host.statuses, "Getting Image File Size for \"here\"..."), 1);
+}
+
+TEST_F(ProducePicturesTest, TheSizeOfACopiedImageIsThatOfItsSource) {
+  AddPhotograph("a");
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
+  Run(CreateArguments());
+  const auto size = std::filesystem::file_size(folder.Path() / "photos/a.jpg");
+  EXPECT_NE(folder.Read("out/a.htm").find("\r\n" + FileSizeText(size) + "\r\n"), std::string::npos);
+}
+
+TEST_F(ProducePicturesTest, AnImageThatDoesNotDecodeEndsTheRunWithItsMessage) {
+  folder.Write("photos/text.jpg", "this is no picture");
+  AddEntry("text", "T:\\photos\\text.jpg");
+  project.settings.checkImageWrapperImageKeepAspectRatio = 0;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(boxes.boxes.at(0).title, "File Error");
+  EXPECT_EQ(boxes.boxes.at(0).text, "Unable to copy the File \"T:\\photos\\text.jpg\".");
+}
+
+TEST_F(ProducePicturesTest, AFileThatIsNoPictureIsStillCopiedWhenNothingIsChanged) {
+  folder.Write("photos/text.jpg", "this is no picture");
+  AddEntry("text", "T:\\photos\\text.jpg");
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  RunArguments arguments = CreateArguments();
+  arguments.CreateThumbnails = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  EXPECT_EQ(folder.Read("out/Images/text.jpg"), "this is no picture");
+}
+
+TEST_F(ProducePicturesTest, AThumbnailThatDoesNotDecodeEndsTheRunWithItsMessage) {
+  folder.Write("photos/text.jpg", "this is no picture");
+  AddEntry("text", "T:\\photos\\text.jpg");
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(boxes.boxes.at(0).title, "File Error");
+  EXPECT_EQ(boxes.boxes.at(0).text, "Unable to load JPG Image \"T:\\photos\\text.jpg\".");
+}
+
+TEST_F(ProducePicturesTest, AReadOnlyImageIsNotReplacedAndItsSaveFails) {
+  AddPhotograph("a");
+  const auto old = folder.Write("out/Images/a.jpg", "old");
+  std::filesystem::permissions(old, std::filesystem::perms::owner_read);
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
+  EXPECT_NE(boxes.boxes.at(0).text.find("Failed to save to JPG "), std::string::npos) << boxes.boxes.at(0).text;
+  EXPECT_NE(boxes.boxes.at(0).text.find("Error #26001"), std::string::npos) << boxes.boxes.at(0).text;
+  EXPECT_EQ(folder.Read("out/Images/a.jpg"), "old");
+}
+
+TEST_F(ProducePicturesTest, ASizeWithoutPixelsFailsAndSaysWhich) {
+  AddPhotograph("flat", 90, 1);
+  project.settings.checkImageWrapperImageSetWidth = 1;
+  project.settings.textImageWrapperImageWidth = "10";
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
+  EXPECT_NE(boxes.boxes.at(0).text.find("10 x 0 pixels"), std::string::npos) << boxes.boxes.at(0).text;
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "core/Project.h"
+#include "core/generation/GenerateGallery.h"
+#include "env/FileOutput.h"
+#include "image/JPEG.h"
+#include "image/cDIBSection.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/RunFakes.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+
+/// The bytes of a JPEG file of one colour.
+inline std::string PlainJpeg(std::int32_t width, std::int32_t height, std::uint8_t level = 120) {
+  cDIBSection picture;
+  EXPECT_TRUE(picture.Create(width, height));
+  const auto size = static_cast<std::size_t>(picture.BytesPerScanLine()) * static_cast<std::size_t>(height);
+  std::fill_n(picture.DIBSectionBitsPtr(), size, level);
+  return EncodeJPEG(picture, 90);
+}
+
+/// A project in a temporary folder, which is drive T:, and all that a run needs, recorded. Photographs lie in
+/// T:\photos, the gallery goes to T:\out.
+class RunFixture : public ::testing::Test {
+ protected:
+  RunFixture() { project.ProjectFolder = "T:\\project\\"; }
+
+  /// Adds an image of that name, with the source T:\photos\<name>.jpg.
+  void AddPhotograph(const std::string& name, std::int32_t width = 40, std::int32_t height = 30) {
+    folder.Write("photos/" + name + ".jpg", PlainJpeg(width, height));
+    AddEntry(name, "T:\\photos\\" + name + ".jpg");
+  }
+
+  void AddEntry(const std::string& name, const std::string& source) {
+    ImageEntry entry;
+    entry.ImageName = name;
+    entry.SourcePath = source;
+    project.images.Insert(project.images.Count() + 1, entry);
+  }
+
+  [[nodiscard]] static RunArguments CreateArguments() { return Arguments(GenerationMode::Create, "T:\\out\\"); }
+  [[nodiscard]] static RunArguments PreviewArguments() { return Arguments(GenerationMode::Preview, "T:\\temp\\"); }
+  [[nodiscard]] static RunArguments Arguments(GenerationMode mode, const std::string& folder) {
+    RunArguments arguments;
+    arguments.OutputFolder = folder;
+    arguments.IndexFileName = "index.htm";
+    arguments.Mode = mode;
+    return arguments;
+  }
+
+  RunEnd Run(const RunArguments& arguments) { return GenerateGallery(project, arguments, environment); }
+
+  /// The files below a folder of drive T:, by their paths in it.
+  [[nodiscard]] std::set<std::string> FilesIn(const std::string& name) const {
+    std::set<std::string> found;
+    const auto top = folder.Path() / name;
+    if (!std::filesystem::exists(top)) return found;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(top)) {
+      if (entry.is_regular_file()) found.insert(entry.path().lexically_relative(top).string());
+    }
+    return found;
+  }
+
+  /// Presses the cancel button of the progress window in turn `turn` of the event loop.
+  void CancelInTurn(int turn) {
+    loop.onTurn = [this, turn](int now) {
+      if (now != turn) return;
+      host.openWindow->SetIsCancelled(true);
+      std::ignore = cancel.CheckForCancel(*host.openWindow);
+    };
+  }
+
+  fakes::TemporaryFolder folder;
+  PathMap paths{{{'T', folder.Path().string()}}};
+  RegionalFormats formats{"en_US"};
+  mFileFunctions files{paths, formats};
+  Project project;
+
+  fakes::Journal journal;
+  fakes::RecordingRunHost host{journal};
+  fakes::RecordingMessageBox boxes;
+  fakes::ScriptedLoop loop;
+  fakes::FixedClock clock;
+  fakes::RecordingShell shell{journal};
+  CancelCheck cancel{boxes};
+  RunEnvironment environment{host, boxes, loop, clock, shell, files, formats, cancel};
+};
+
+}  // namespace vantorium
