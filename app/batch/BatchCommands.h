@@ -1,0 +1,11 @@
+#pragma once
+
+#include "app/batch/BatchOptions.h"
+#include "app/batch/CommandLine.h"
+
+namespace vantorium {
+
+/// Carries out what the command line asks for.
+[[nodiscard]] ExitCode RunBatchCommand(const BatchOptions& options);
+
+}  // namespace vantorium

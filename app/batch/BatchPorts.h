@@ -1,0 +1,82 @@
+#pragma once
+
+#include "app/batch/Terminal.h"
+#include "core/generation/CancelCheck.h"
+#include "core/generation/RunHost.h"
+#include "env/Clock.h"
+#include "env/EventLoop.h"
+#include "env/MessageBoxPort.h"
+#include "env/PathMap.h"
+#include "env/Shell.h"
+
+#include <optional>
+#include <string>
+
+namespace vantorium {
+
+/// Message boxes as lines on standard error. Every question is answered Yes.
+class TerminalMessageBox : public MessageBoxPort {
+ public:
+  explicit TerminalMessageBox(Terminal& terminal) : terminal_(terminal) {}
+  BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override;
+
+ private:
+  Terminal& terminal_;
+};
+
+/// The present time, or the one that the command line gives.
+class BatchClock : public Clock {
+ public:
+  explicit BatchClock(std::optional<CivilTime> fixed) : fixed_(fixed) {}
+  [[nodiscard]] CivilTime Now() const override;
+
+ private:
+  std::optional<CivilTime> fixed_;
+};
+
+/// The desktop, of which a batch run needs only that a file is opened when that was asked for.
+class BatchShell : public Shell {
+ public:
+  BatchShell(const PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
+  void Beep(BeepKind kind) override;
+  void OpenFile(const std::string& path) override;
+  void StartProgram(const std::string& executable, const std::string& file) override;
+
+ private:
+  const PathMap& paths_;
+  bool mayOpenFiles_;
+};
+
+/// Ctrl+C as the cancel button of the progress window that is open. A second one ends the process at once.
+class InterruptLoop : public EventLoop {
+ public:
+  explicit InterruptLoop(CancelCheck& cancel);
+  void Turn() override;
+  void Watch(ProgressWindow* progress) { progress_ = progress; }
+
+ private:
+  CancelCheck& cancel_;
+  ProgressWindow* progress_ = nullptr;
+  bool pressed_ = false;
+};
+
+/// The main window that a batch run does not have.
+class BatchRunHost : public RunHost {
+ public:
+  BatchRunHost(Terminal& terminal, InterruptLoop& loop, CreateChoice choice)
+      : terminal_(terminal), loop_(loop), choice_(std::move(choice)) {}
+
+  [[nodiscard]] CreateChoice AskWhatToCreate() override { return choice_; }
+  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
+  void ShowStatus(const std::string& text) override { terminal_.ShowStatus(text); }
+  void ShowBusyPointer(bool /*busy*/) override {}
+  void EnableMainWindow(bool /*enabled*/) override {}
+  void EnableTrayIcon(bool /*enabled*/) override {}
+
+ private:
+  Terminal& terminal_;
+  InterruptLoop& loop_;
+  CreateChoice choice_;
+};
+
+}  // namespace vantorium

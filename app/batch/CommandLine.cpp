@@ -1,0 +1,124 @@
+#include "app/batch/CommandLine.h"
+
+#include <chrono>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+namespace vantorium {
+namespace {
+
+const char kDescription[] =
+    "Turns a list of JPEG photographs into a web gallery: HTML pages, resized images and thumbnails.\n"
+    "Works on the project files of Vantorium, without a window.";
+
+const char kFooter[] =
+    "Paths are native (/home/me/photos) or Windows path text (C:\\photos).\n"
+    "Ctrl+C cancels; a second one ends the program at once.\n"
+    "Exit code: 0 success, 1 failure, 2 wrong command line, 130 cancelled.";
+
+/// Reads "YYYY-MM-DD HH:MM:SS". Nothing when it is not that, or no time of any calendar.
+std::optional<CivilTime> ParseTime(const std::string& text) {
+  CivilTime time;
+  int read = 0;
+  const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &time.year, &time.month, &time.day,
+                                 &time.hour, &time.minute, &time.second, &read);
+  const std::string again = fmt::format("{:04}-{:02}-{:02} {:02}:{:02}:{:02}", time.year, time.month, time.day,
+                                        time.hour, time.minute, time.second);
+  const std::chrono::year_month_day date{std::chrono::year(time.year), std::chrono::month(unsigned(time.month)),
+                                         std::chrono::day(unsigned(time.day))};
+  const bool onTheClock = time.hour < 24 && time.minute < 60 && time.second < 60;
+  if (fields != 6 || again != text || !date.ok() || !onTheClock) return std::nullopt;
+  return time;
+}
+
+void AddCommonOptions(CLI::App& app, BatchOptions& options) {
+  app.add_option("--program-folder", options.programFolder, "Folder of the preferences, server list and upload log")
+      ->type_name("DIR");
+  app.add_option("--temp-folder", options.tempFolder, "Folder in which VANTORIUM_TEMP lies")->type_name("DIR");
+  app.add_option_function<std::string>(
+         "--creation-time",
+         [&options](const std::string& text) {
+           options.creationTime = ParseTime(text);
+           if (!options.creationTime) throw CLI::ValidationError("--creation-time", "no time YYYY-MM-DD HH:MM:SS");
+         },
+         "Creation time that the gallery states")
+      ->type_name("\"YYYY-MM-DD HH:MM:SS\"");
+  app.add_option("--jobs", options.jobs, "Images worked on at a time; all processors unless given")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1024));
+  app.add_flag("--quiet", options.quiet, "No progress");
+  app.add_flag("--verbose", options.verbose, "Each status text on a line of its own");
+}
+
+void AddRunSwitches(CLI::App& command, BatchOptions& options) {
+  command.add_flag("--no-images", options.noImages, "Make no images");
+  command.add_flag("--no-thumbnails", options.noThumbnails, "Make no thumbnails");
+  command.add_flag("--no-html", options.noHtml, "Make no pages");
+  command.add_flag("--keep-existing", options.keepExisting, "Keep images and thumbnails that exist");
+}
+
+CLI::App& AddCommand(CLI::App& app, BatchOptions& options, BatchCommand command, const char* name, const char* about) {
+  CLI::App* added = app.add_subcommand(name, about)->fallthrough();
+  added->callback([&options, command] { options.command = command; });
+  return *added;
+}
+
+void AddProject(CLI::App& command, BatchOptions& options) {
+  command.add_option("PROJECT.gpj", options.project, "The project file")->required();
+}
+
+void AddCommands(CLI::App& app, BatchOptions& options) {
+  CLI::App& make = AddCommand(app, options, BatchCommand::New, "new", "Make a project of images and folders");
+  make.add_option("OUT.gpj", options.output, "The project file to write")->required();
+  make.add_option("--title", options.title, "Title of the gallery")->type_name("TEXT");
+  make.add_flag("--recursive", options.recursive, "Take the folders' sub folders too");
+  make.add_option("PATH", options.paths, "Images, and folders of images")->required();
+
+  AddProject(AddCommand(app, options, BatchCommand::Show, "show", "Print a project as JSON"), options);
+
+  CLI::App& save = AddCommand(app, options, BatchCommand::Save, "save", "Read a project and write it as Save does");
+  AddProject(save, options);
+  save.add_option("OUT.gpj", options.output, "The project file to write")->required();
+
+  CLI::App& create = AddCommand(app, options, BatchCommand::Create, "create", "Create a project's gallery in a folder");
+  AddProject(create, options);
+  create.add_option("INDEX-FILE", options.output, "The gallery's index file, in the folder for the gallery")
+      ->required();
+  AddRunSwitches(create, options);
+
+  CLI::App& preview =
+      AddCommand(app, options, BatchCommand::Preview, "preview", "Make the pages in the temporary folder");
+  AddProject(preview, options);
+  preview.add_flag("--open", options.open, "Open the preview in the default browser");
+}
+
+/// The first line of what CLI11 says, which may go on with a hint about --help.
+std::string OneLine(const std::string& text) {
+  return text.substr(0, text.find('\n'));
+}
+
+}  // namespace
+
+std::variant<BatchOptions, ExitCode> ParseCommandLine(int argc, const char* const* argv) {
+  BatchOptions options;
+  CLI::App app(kDescription, "vantorium-batch");
+  app.footer(kFooter);
+  app.set_version_flag("--version", "vantorium-batch 3.0");
+  app.require_subcommand(1);
+  AddCommonOptions(app, options);
+  AddCommands(app, options);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::Success& success) {  // --help and --version
+    app.exit(success, std::cout, std::cerr);
+    return ExitCode::Success;
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "vantorium-batch: " << OneLine(error.what()) << " (see --help)\n";
+    return ExitCode::WrongUsage;
+  }
+  return options;
+}
+
+}  // namespace vantorium

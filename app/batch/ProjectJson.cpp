@@ -1,0 +1,75 @@
+#include "app/batch/ProjectJson.h"
+
+#include "core/ProjectFields.h"
+
+#include <nlohmann/json.hpp>
+
+namespace vantorium {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json Value(const std::string& text) {
+  return text;
+}
+Json Value(std::int16_t number) {
+  return number;
+}
+Json Value(std::uint32_t number) {
+  return number;
+}
+Json Value(bool flag) {
+  return flag ? 1 : 0;
+}
+
+template <typename Record>
+Json Object(const Record& record, std::span<const RecordField<Record>> fields) {
+  Json object;
+  for (const auto& field : fields) {
+    object[std::string(field.name)] = std::visit([&](auto member) { return Value(record.*member); }, field.member);
+  }
+  return object;
+}
+
+Json Value(const ImageFilterSettings& filters) {
+  return Object(filters, FilterFields());
+}
+Json Value(const WatermarkSettings& watermark) {
+  return Object(watermark, WatermarkFields());
+}
+Json Value(const LinkSettings& link) {
+  return Object(link, LinkFields());
+}
+
+Json Settings(const GalleryProject& project) {
+  Json object;
+  for (const ProjectField& field : ProjectFields()) {
+    object[std::string(field.name)] = std::visit([&](auto member) { return Value(project.*member); }, field.member);
+  }
+  return object;
+}
+
+Json Image(const ImageEntry& entry) {
+  return {{"ImageName", entry.ImageName},
+          {"SourcePath", entry.SourcePath},
+          {"SizeKey", entry.SizeKey},
+          {"DateKey", entry.DateKey},
+          {"ImageDescription", entry.ImageDescription},
+          {"ThumbnailDescription", entry.ThumbnailDescription}};
+}
+
+}  // namespace
+
+std::string ProjectAsJson(const Project& project) {
+  Json images = Json::array();
+  for (std::size_t position = 1; position <= project.images.Count(); ++position) {
+    images.push_back(Image(project.images.Entry(position)));
+  }
+  const auto count = static_cast<std::int32_t>(project.images.Count());
+  const Json whole = {{"project", Settings(project.settings)},
+                      {"images", std::move(images)},
+                      {"thumbnailPageCount", ThumbnailPageCount(project.settings, count)}};
+  return whole.dump(2, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
+}
+
+}  // namespace vantorium

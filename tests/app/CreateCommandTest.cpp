@@ -1,0 +1,195 @@
+#include "tests/app/Workplace.h"
+
+#include <filesystem>
+
+#include "image/JPEG.h"
+
+namespace vantorium {
+namespace {
+
+const char kWholeGallery[] =
+    "Images/a.jpg.jpg\n"
+    "Images/b.jpg.jpg\n"
+    "Thumbs/thumb_a.jpg.jpg\n"
+    "Thumbs/thumb_b.jpg.jpg\n"
+    "a.jpg.htm\n"
+    "b.jpg.htm\n"
+    "index.htm\n"
+    "thumbpage_1.htm\n";
+
+/// A workplace with the project "a.gpj" of the photographs a.jpg and b.jpg.
+class CreateCommand : public testing::Test {
+ protected:
+  CreateCommand() { place.Project("a.gpj", {"a.jpg", "b.jpg"}); }
+
+  /// Creates the gallery in "out".
+  ProcessResult Create(const std::vector<std::string>& more = {}) const {
+    std::vector<std::string> arguments = {"create", "a.gpj", "out/index.htm"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return place.Run(arguments);
+  }
+  [[nodiscard]] std::string Listing() const { return ListingOf(place.Path("out")); }
+
+  Workplace place;
+};
+
+std::pair<std::int32_t, std::int32_t> SizeOf(const std::filesystem::path& file) {
+  std::pair<std::int32_t, std::int32_t> size;
+  EXPECT_TRUE(ReadJPEGSize(file, size.first, size.second)) << file;
+  return size;
+}
+
+TEST_F(CreateCommand, MakesPagesImagesAndThumbnailsWithTheFoldersTheyNeed) {
+  const ProcessResult result = place.Run({"create", "a.gpj", "deep/er/out/start.html"});
+  ASSERT_TRUE(Succeeded(result));
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err, "");
+  std::string expected = kWholeGallery;
+  expected.replace(expected.find("index.htm"), 9, "start.html");
+  EXPECT_EQ(ListingOf(place.Path("deep/er/out")), expected);
+}
+
+TEST_F(CreateCommand, PicturesHaveTheSizesOfTheProject) {
+  ASSERT_TRUE(Succeeded(Create()));
+  EXPECT_EQ(SizeOf(place.Path("out/Images/a.jpg.jpg")), std::pair(400, 300));
+  EXPECT_EQ(SizeOf(place.Path("out/Thumbs/thumb_a.jpg.jpg")), std::pair(60, 60));
+}
+
+TEST_F(CreateCommand, AnIndexFileWithoutAFolderGoesToTheWorkingFolder) {
+  ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "index.htm"})));
+  EXPECT_TRUE(std::filesystem::exists(place.Path("index.htm")));
+  EXPECT_TRUE(std::filesystem::exists(place.Path("Images/a.jpg.jpg")));
+}
+
+TEST_F(CreateCommand, NoImagesLeavesOutTheImages) {
+  ASSERT_TRUE(Succeeded(Create({"--no-images"})));
+  EXPECT_EQ(Listing(), "Thumbs/thumb_a.jpg.jpg\nThumbs/thumb_b.jpg.jpg\na.jpg.htm\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
+}
+
+TEST_F(CreateCommand, NoThumbnailsLeavesOutTheThumbnails) {
+  ASSERT_TRUE(Succeeded(Create({"--no-thumbnails"})));
+  EXPECT_EQ(Listing(), "Images/a.jpg.jpg\nImages/b.jpg.jpg\na.jpg.htm\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
+}
+
+TEST_F(CreateCommand, NoHtmlLeavesOutThePages) {
+  ASSERT_TRUE(Succeeded(Create({"--no-html"})));
+  EXPECT_EQ(Listing(), "Images/a.jpg.jpg\nImages/b.jpg.jpg\nThumbs/thumb_a.jpg.jpg\nThumbs/thumb_b.jpg.jpg\n");
+}
+
+TEST_F(CreateCommand, AllThreeSwitchesLeaveOutEverything) {
+  ASSERT_TRUE(Succeeded(Create({"--no-html", "--no-images", "--no-thumbnails"})));
+  EXPECT_EQ(Listing(), "");
+}
+
+TEST_F(CreateCommand, WhatExistsIsMadeAgain) {
+  ASSERT_TRUE(Succeeded(Create()));
+  const auto before = FilesBelow(place.Path("out"));
+  for (const auto& [name, bytes] : before) place.Write("out/" + name, "old");
+  ASSERT_TRUE(Succeeded(Create()));
+  EXPECT_TRUE(FilesBelow(place.Path("out")) == before);
+}
+
+TEST_F(CreateCommand, KeepExistingMakesOnlyTheMissingPicturesAndAllPages) {
+  ASSERT_TRUE(Succeeded(Create()));
+  const std::string index = place.Read("out/index.htm");
+  for (const char* name : {"Images/a.jpg.jpg", "Thumbs/thumb_b.jpg.jpg", "index.htm"}) {
+    place.Write(std::filesystem::path("out") / name, "old");
+  }
+  std::filesystem::remove(place.Path("out/Images/b.jpg.jpg"));
+  ASSERT_TRUE(Succeeded(Create({"--keep-existing"})));
+  EXPECT_EQ(place.Read("out/Images/a.jpg.jpg"), "old");
+  EXPECT_EQ(place.Read("out/Thumbs/thumb_b.jpg.jpg"), "old");
+  EXPECT_EQ(SizeOf(place.Path("out/Images/b.jpg.jpg")), std::pair(400, 300));
+  EXPECT_EQ(place.Read("out/index.htm"), index);
+}
+
+TEST_F(CreateCommand, FilesOfOthersInTheTargetAreLeftAlone) {
+  place.Write("out/notes.txt", "mine");
+  place.Write("out/Images/other.jpg", "mine");
+  ASSERT_TRUE(Succeeded(Create()));
+  EXPECT_EQ(place.Read("out/notes.txt"), "mine");
+  EXPECT_EQ(place.Read("out/Images/other.jpg"), "mine");
+}
+
+TEST_F(CreateCommand, TheGalleryIsTheSameForEveryNumberOfJobs) {
+  place.LargeProject("many.gpj", 12, 200, 150);
+  for (const char* jobs : {"1", "2", "4", "1024"}) {
+    const std::string target = std::string("out") + jobs + "/index.htm";
+    ASSERT_TRUE(Succeeded(place.Run({"create", "many.gpj", target, "--jobs", jobs}))) << jobs;
+    EXPECT_TRUE(SameFiles(place.Path("out1"), place.Path(std::string("out") + jobs))) << jobs << " jobs";
+  }
+}
+
+TEST_F(CreateCommand, TheCreationTimeIsTheOneGiven) {
+  place.Replace("a.gpj", "<LAYOUT ", "<HEAD><![CDATA[<VANTORIUM_GALLERY_CREATIONDATE_SHORT>|"
+                                     "<VANTORIUM_GALLERY_CREATIONTIME_LONG>]]></HEAD><LAYOUT ");
+  const std::vector<std::string> early = {"--creation-time", "2001-02-03 04:05:06"};
+  ASSERT_TRUE(Succeeded(Create(early)));
+  std::filesystem::rename(place.Path("out"), place.Path("before"));
+  ASSERT_TRUE(Succeeded(Create(early)));
+  EXPECT_TRUE(SameFiles(place.Path("before"), place.Path("out")));
+  ASSERT_TRUE(Succeeded(Create({"--creation-time", "2022-02-03 04:05:06"})));
+  EXPECT_NE(place.Read("before/index.htm"), place.Read("out/index.htm"));
+}
+
+TEST_F(CreateCommand, AProjectWithoutImagesIsRefusedAndNothingIsMade) {
+  std::filesystem::create_directory(place.Path("empty"));
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "empty"})));
+  const ProcessResult result = Create();
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "No Images: You cannot create a Gallery without Images.\n");
+  EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
+}
+
+TEST_F(CreateCommand, AnInvalidProjectMakesNothing) {
+  place.Write("a.gpj", "no XML");
+  const ProcessResult result = Create();
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_NE(result.err.find("Invalid Project File: "), std::string::npos) << result.err;
+  EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
+}
+
+TEST_F(CreateCommand, APictureThatCannotBeReadEndsTheRunAndWhatWasMadeStays) {
+  place.Write("b.jpg", "no JPEG");
+  const ProcessResult result = Create();
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.Text("b.jpg") + "\".\n");
+  EXPECT_EQ(Listing(), "Images/a.jpg.jpg\n");
+}
+
+TEST_F(CreateCommand, ATargetFolderThatCannotBeMadeIsAFailureWithItsReason) {
+  const ProcessResult result = place.Run({"create", "a.gpj", "a.jpg/index.htm"});
+  EXPECT_TRUE(EndedWith(1, result));
+  const std::string beginning = "Failure: An Error has occurred during Creation of this Gallery:\n\n";
+  EXPECT_EQ(result.err.substr(0, beginning.size()), beginning);
+  EXPECT_NE(result.err.find("\n\nError #"), std::string::npos) << result.err;
+  EXPECT_EQ(result.err.find('\r'), std::string::npos) << result.err;
+}
+
+TEST_F(CreateCommand, AnIndexFileThatIsAFolderIsAFailure) {
+  std::filesystem::create_directories(place.Path("out/index.htm"));
+  for (const char* index : {"out/index.htm", "out/"}) {
+    const ProcessResult result = place.Run({"create", "a.gpj", index});
+    EXPECT_TRUE(EndedWith(1, result)) << index;
+    EXPECT_NE(result.err.find("Failure: "), std::string::npos) << result.err;
+  }
+}
+
+TEST_F(CreateCommand, ATargetWithoutAMappedFolderIsAFailure) {
+  for (const char* index : {"Q:\\out\\index.htm", "\\\\server\\share\\index.htm"}) {
+    EXPECT_TRUE(EndedWith(1, place.Run({"create", "a.gpj", index}))) << index;
+  }
+}
+
+TEST_F(CreateCommand, ALineOfAMessageIsItsTitleAndItsText) {
+  std::filesystem::remove(place.Path("a.jpg"));
+  const ProcessResult result = Create();
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: An Error occurred trying to read the image file \"" + place.Text("a.jpg") +
+                            "\":\n\nFile not found\n\nLoading Process cancelled.\n"
+                            "File Error: An error occurred while opening the Gallery Project \"" +
+                            place.Text("a.gpj") + "\".\n");
+}
+
+}  // namespace
+}  // namespace vantorium

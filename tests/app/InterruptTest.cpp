@@ -1,0 +1,153 @@
+#include "tests/app/Workplace.h"
+
+#include <csignal>
+#include <thread>
+
+#include <nlohmann/json.hpp>
+
+namespace vantorium {
+namespace {
+
+using namespace std::chrono_literals;
+
+const char kBoxesOfCancel[] =
+    "Cancel Request: Are you sure you wish to cancel?\n"
+    "Creation cancelled: The User has cancelled Creation of the Gallery\n";
+
+/// Whether a gallery's file is one to its end.
+bool IsWhole(const std::string& name, const std::string& bytes) {
+  if (name.ends_with(".jpg")) return bytes.starts_with("\xFF\xD8") && bytes.ends_with("\xFF\xD9");
+  return name.ends_with(".htm") && bytes.ends_with("</HTML>\r\n");
+}
+
+void ExpectWholeFilesOnly(const std::filesystem::path& folder) {
+  for (const auto& [name, bytes] : FilesBelow(folder)) {
+    EXPECT_TRUE(IsWhole(name, bytes)) << name << ", " << bytes.size() << " bytes";
+  }
+}
+
+/// A workplace with the project "a.gpj", which takes so long that there is time to interrupt it.
+class Interrupt : public testing::Test {
+ protected:
+  Interrupt() { place.LargeProject("a.gpj", 300, 320, 240); }
+
+  [[nodiscard]] StartOptions Create(const std::vector<std::string>& more = {}) const {
+    std::vector<std::string> arguments = {"create", "a.gpj", "out/index.htm"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return place.Options(arguments);
+  }
+
+  Workplace place;
+};
+
+TEST_F(Interrupt, CancelsTheRunWithTheBoxesOfTheCancelButton) {
+  ChildProcess program(Create({"--verbose"}));
+  program.WaitForError(R"(Copying File "many.jpg_9")");
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
+}
+
+TEST_F(Interrupt, CancelsWithoutProgressToo) {
+  ChildProcess program(Create({"--quiet"}));
+  while (!std::filesystem::exists(place.Path("out/Images/many.jpg.jpg")) && !program.HasEnded()) {
+    std::this_thread::sleep_for(1ms);
+  }
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_EQ(result.err, kBoxesOfCancel);
+}
+
+TEST_F(Interrupt, LeavesWhatWasMadeAndOnlyWholeFiles) {
+  for (const char* jobs : {"1", "4"}) {
+    std::filesystem::remove_all(place.Path("out"));
+    ChildProcess program(Create({"--verbose", "--jobs", jobs}));
+    program.WaitForError(R"(Copying File "many.jpg_20")");
+    program.Send(SIGINT);
+    EXPECT_TRUE(EndedWith(130, program.Finish())) << jobs;
+    EXPECT_TRUE(std::filesystem::exists(place.Path("out/Images/many.jpg_19.jpg"))) << jobs;
+    EXPECT_FALSE(std::filesystem::exists(place.Path("out/index.htm"))) << jobs;
+    ExpectWholeFilesOnly(place.Path("out"));
+  }
+}
+
+TEST_F(Interrupt, LeavesNoPictureBehindTheOneThatWasAnnounced) {
+  ChildProcess program(Create({"--verbose", "--jobs", "4"}));
+  program.WaitForError(R"(Copying File "many.jpg_30")");
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  for (const auto& [name, bytes] : FilesBelow(place.Path("out/Images"))) {
+    const std::string listText = name.substr(0, name.rfind('.'));
+    EXPECT_NE(result.err.find("\"" + listText + "\"..."), std::string::npos) << name;
+  }
+}
+
+TEST_F(Interrupt, CancelsWhilePagesAreWritten) {
+  ChildProcess program(Create({"--verbose", "--no-images", "--no-thumbnails"}));
+  program.WaitForError(R"(Creating Image Wrapper File for "many.jpg_9")");
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
+  ExpectWholeFilesOnly(place.Path("out"));
+}
+
+TEST_F(Interrupt, APreviewIsCancelledAndPrintsNoIndexFile) {
+  ChildProcess program(place.Options({"preview", "a.gpj", "--verbose"}));
+  program.WaitForError(R"(Creating Image Wrapper File for "many.jpg_9")");
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_EQ(result.out, "");
+}
+
+TEST_F(Interrupt, ControlCOnTheTerminalIsTheSame) {
+  StartOptions options = Create();
+  options.standardError = StandardError::Terminal;
+  ChildProcess program(options);
+  program.WaitForError(R"([1-9][0-9]*/1500)");
+  program.Type("\x03");
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_NE(result.err.find("Cancel Request: Are you sure you wish to cancel?\r\n"), std::string::npos) << result.err;
+  EXPECT_TRUE(result.err.ends_with("Creation cancelled: The User has cancelled Creation of the Gallery\r\n"))
+      << result.err;
+}
+
+TEST_F(Interrupt, TerminateCancelsToo) {
+  ChildProcess program(Create({"--verbose"}));
+  program.WaitForError(R"(Copying File "many.jpg_9")");
+  program.Send(SIGTERM);
+  EXPECT_TRUE(EndedWith(130, program.Finish()));
+}
+
+// The program hangs in its own output, where it can't come to the next look at the cancel button.
+TEST_F(Interrupt, ASecondOneEndsTheProgramAtOnce) {
+  ChildProcess program(Create({"--verbose"}));
+  program.WaitUntilErrorPipeIsFull();
+  program.Send(SIGINT);
+  std::this_thread::sleep_for(50ms);
+  EXPECT_FALSE(program.HasEnded()) << "the first one is the cancel button only";
+  while (!program.HasEnded()) {
+    program.Send(SIGINT);  // again and again, as two that come too close together count as one
+    std::this_thread::sleep_for(10ms);
+  }
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_EQ(result.err.find("cancel"), std::string::npos) << result.err;
+}
+
+TEST_F(Interrupt, ACancelledGalleryIsCompletedByTheNextRun) {
+  ChildProcess program(Create({"--verbose"}));
+  program.WaitForError(R"(Copying File "many.jpg_9")");
+  program.Send(SIGINT);
+  ASSERT_TRUE(EndedWith(130, program.Finish()));
+  ASSERT_TRUE(Succeeded(ChildProcess(Create({"--keep-existing"})).Finish()));
+  ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "whole/index.htm"})));
+  EXPECT_TRUE(SameFiles(place.Path("out"), place.Path("whole")));
+}
+
+}  // namespace
+}  // namespace vantorium

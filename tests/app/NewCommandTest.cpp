@@ -1,0 +1,181 @@
+#include "tests/app/Workplace.h"
+
+#include <filesystem>
+
+#include <nlohmann/json.hpp>
+
+namespace vantorium {
+namespace {
+
+using Json = nlohmann::json;
+using Texts = std::vector<std::string>;
+
+/// The program's own view of a project.
+Json Shown(const Workplace& place, const std::string& project) {
+  const ProcessResult result = place.Run({"show", project});
+  EXPECT_TRUE(Succeeded(result));
+  return Json::parse(result.out);
+}
+
+/// The field of every image.
+Texts Images(const Workplace& place, const std::string& project, const char* field) {
+  Texts texts;
+  const Json shown = Shown(place, project);
+  for (const Json& image : shown.at("images")) texts.push_back(image.at(field));
+  return texts;
+}
+
+Texts NamesAfterNew(const Workplace& place, const Texts& arguments) {
+  Texts command = {"new", "a.gpj"};
+  command.insert(command.end(), arguments.begin(), arguments.end());
+  EXPECT_TRUE(Succeeded(place.Run(command)));
+  return Images(place, "a.gpj", "ImageName");
+}
+
+TEST(NewCommand, ImagesKeepTheOrderOfTheCommandLine) {
+  const Workplace place;
+  for (const char* name : {"a.jpg", "b.jpeg", "c.JFIF"}) place.Photograph(name);
+  EXPECT_EQ(NamesAfterNew(place, {"c.JFIF", "a.jpg", "b.jpeg"}), (Texts{"c.JFIF", "a.jpg", "b.jpeg"}));
+}
+
+TEST(NewCommand, EachEntryHoldsTheFilesPathAndNoDescriptions) {
+  const Workplace place;
+  place.Photograph("holiday/a.jpg");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "holiday/a.jpg"})));
+  const Json image = Shown(place, "a.gpj").at("images").at(0);
+  EXPECT_EQ(image.at("SourcePath"), place.Text("holiday/a.jpg"));
+  EXPECT_EQ(image.at("ImageDescription"), "");
+  EXPECT_EQ(image.at("ThumbnailDescription"), "");
+  const std::string size = std::to_string(std::filesystem::file_size(place.Path("holiday/a.jpg")));
+  EXPECT_EQ(image.at("SizeKey"), std::string(20 - size.size(), '0') + size);
+}
+
+TEST(NewCommand, AFoldersImagesComeInTheOrderOfTheirNames) {
+  const Workplace place;
+  for (const char* name : {"c.jpg", "a.jpeg", "b.jfif", "D.JPG"}) place.Photograph("holiday" / std::filesystem::path(name));
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), (Texts{"D.JPG", "a.jpeg", "b.jfif", "c.jpg"}));
+}
+
+TEST(NewCommand, OtherFilesOfAFolderAreLeftOut) {
+  const Workplace place;
+  place.Photograph("holiday/a.jpg");
+  for (const char* name : {"holiday/b.png", "holiday/jpg", "holiday/c.jpg.txt", "holiday/notes"}) place.Write(name, "x");
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{"a.jpg"});
+}
+
+TEST(NewCommand, AHiddenFileIsAnImageLikeAnyOther) {
+  const Workplace place;
+  for (const char* name : {"holiday/.hidden.jpg", "holiday/a.jpg"}) place.Photograph(name);
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), (Texts{".hidden.jpg", "a.jpg"}));
+}
+
+TEST(NewCommand, SubFoldersAreLeftOut) {
+  const Workplace place;
+  for (const char* name : {"holiday/a.jpg", "holiday/sea/b.jpg"}) place.Photograph(name);
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{"a.jpg"});
+}
+
+TEST(NewCommand, RecursiveTakesSubFoldersBehindTheFoldersOwnImages) {
+  const Workplace place;
+  for (const char* name : {"holiday/z.jpg", "holiday/b/2.jpg", "holiday/b/deep/3.jpg", "holiday/a/1.jpg", "holiday/c/4.jpg"}) {
+    place.Photograph(name);
+  }
+  EXPECT_EQ(NamesAfterNew(place, {"--recursive", "holiday"}), (Texts{"z.jpg", "1.jpg", "2.jpg", "3.jpg", "4.jpg"}));
+}
+
+TEST(NewCommand, AFolderNamedLikeAnImageIsAFolder) {
+  const Workplace place;
+  place.Photograph("holiday/sea.jpg/a.jpg");
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{});
+  EXPECT_EQ(NamesAfterNew(place, {"--recursive", "holiday"}), Texts{"a.jpg"});
+}
+
+TEST(NewCommand, LinksToFoldersAreNotFollowed) {
+  const Workplace place;
+  place.Photograph("holiday/a.jpg");
+  place.Photograph("elsewhere/b.jpg");
+  std::filesystem::create_directory_symlink(place.Path("elsewhere"), place.Path("holiday/link"));
+  std::filesystem::create_directory_symlink(place.Path("holiday"), place.Path("holiday/again"));
+  EXPECT_EQ(NamesAfterNew(place, {"--recursive", "holiday"}), Texts{"a.jpg"});
+}
+
+TEST(NewCommand, ALinkToAnImageIsAnImageAndADeadOneIsNot) {
+  const Workplace place;
+  place.Photograph("elsewhere/b.jpg");
+  std::filesystem::create_directory(place.Path("holiday"));
+  std::filesystem::create_symlink(place.Path("elsewhere/b.jpg"), place.Path("holiday/a.jpg"));
+  std::filesystem::create_symlink(place.Path("nowhere.jpg"), place.Path("holiday/dead.jpg"));
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{"a.jpg"});
+}
+
+TEST(NewCommand, EqualNamesAreNumbered) {
+  const Workplace place;
+  for (const char* name : {"one/a.jpg", "two/a.jpg", "three/a.jpg"}) place.Photograph(name);
+  EXPECT_EQ(NamesAfterNew(place, {"one", "two", "three/a.jpg"}), (Texts{"a.jpg", "a.jpg_1", "a.jpg_2"}));
+  EXPECT_EQ(Images(place, "a.gpj", "SourcePath"),
+            (Texts{place.Text("one/a.jpg"), place.Text("two/a.jpg"), place.Text("three/a.jpg")}));
+}
+
+TEST(NewCommand, AnEmptyFolderGivesAProjectWithoutImages) {
+  const Workplace place;
+  std::filesystem::create_directory(place.Path("holiday"));
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{});
+}
+
+TEST(NewCommand, TitleIsTheGallerysTitle) {
+  const Workplace place;
+  place.Photograph("a.jpg");
+  for (const char* title : {"Two Words", "Ünïcödé & <tags> \"quoted\"", ""}) {
+    ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "--title", title, "a.jpg"}))) << title;
+    EXPECT_EQ(Shown(place, "a.gpj").at("project").at("textGalleryTitle"), title);
+  }
+}
+
+TEST(NewCommand, WithoutATitleItIsThatOfTheFirstNewProject) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  EXPECT_EQ(Shown(place, "a.gpj").at("project").at("textGalleryTitle"), "Gallery1");
+}
+
+TEST(NewCommand, NamesOfAnyLetters) {
+  const Workplace place;
+  const Texts names = {"a & b.jpg", "mit \"Zitat\".jpg", "Übersicht.jpg", "写真.jpg"};
+  for (const std::string& name : names) place.Photograph("holiday/" + name);
+  EXPECT_EQ(NamesAfterNew(place, {"holiday"}), names);
+}
+
+TEST(NewCommand, APathThatDoesNotExistIsNamedAndNothingIsWritten) {
+  const Workplace place;
+  place.Photograph("a.jpg");
+  const ProcessResult result = place.Run({"new", "a.gpj", "a.jpg", "nowhere"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: \"" + place.Path("nowhere").string() + "\" does not exist.\n");
+  EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
+}
+
+TEST(NewCommand, AFileThatIsNoJPEGIsNamedAndNothingIsWritten) {
+  const Workplace place;
+  place.Write("a.png", "x");
+  const ProcessResult result = place.Run({"new", "a.gpj", "a.png"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: \"" + place.Path("a.png").string() + "\" is no JPEG image (.jpg, .jpeg, .jfif).\n");
+  EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
+}
+
+TEST(NewCommand, AnOldProjectIsReplaced) {
+  const Workplace place;
+  place.Write("a.gpj", "old");
+  place.Photograph("a.jpg");
+  EXPECT_EQ(NamesAfterNew(place, {"a.jpg"}), Texts{"a.jpg"});
+}
+
+TEST(NewCommand, AProjectThatCannotBeWrittenIsAFailure) {
+  const Workplace place;
+  place.Photograph("a.jpg");
+  const ProcessResult result = place.Run({"new", "nowhere/a.gpj", "a.jpg"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: An error occurred while saving the Gallery Project.\n");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,129 @@
+#include "tests/app/Workplace.h"
+
+#include <algorithm>
+
+#include <nlohmann/json.hpp>
+
+namespace vantorium {
+namespace {
+
+/// The path texts of a project's sources.
+std::vector<std::string> Sources(const Workplace& place, const std::string& project) {
+  std::vector<std::string> sources;
+  const ProcessResult result = place.Run({"show", project});
+  EXPECT_TRUE(Succeeded(result));
+  const auto shown = nlohmann::json::parse(result.out);
+  for (const auto& image : shown.at("images")) sources.push_back(image.at("SourcePath"));
+  return sources;
+}
+
+std::string WithBackslashes(std::string path) {
+  std::ranges::replace(path, '/', '\\');
+  return path;
+}
+
+void UseDrives(const Workplace& place, const std::string& lines) {
+  place.Write("program/vantorium.ini", "[DRIVES]\r\n" + lines);
+}
+
+TEST(Paths, ARelativePathBeginsAtTheWorkingFolder) {
+  const Workplace place;
+  place.Photograph("sea/a.jpg");
+  for (const char* path : {"sea/a.jpg", "./sea/a.jpg", "home/../sea//a.jpg"}) {
+    ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", path}))) << path;
+    EXPECT_EQ(Sources(place, "a.gpj"), std::vector{place.Text("sea/a.jpg")}) << path;
+  }
+}
+
+TEST(Paths, AnAbsolutePathIsOnTheDriveOfTheRoot) {
+  const Workplace place;
+  const std::string file = place.Photograph("a.jpg").string();
+  ASSERT_TRUE(Succeeded(place.Run({"new", place.Path("a.gpj").string(), file})));
+  EXPECT_EQ(Sources(place, "a.gpj"), std::vector{"Z:" + WithBackslashes(file)});
+}
+
+TEST(Paths, APathBelowTheHomeFolderIsOnDriveC) {
+  const Workplace place;
+  place.Photograph("home/sea/a.jpg");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "home/sea/a.jpg"})));
+  EXPECT_EQ(Sources(place, "a.gpj"), std::vector<std::string>{"C:\\sea\\a.jpg"});
+}
+
+TEST(Paths, EveryArgumentMayBePathTextOfADrive) {
+  const Workplace place;
+  place.Photograph("home/sea/a.jpg");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "C:\\a.gpj", "C:\\sea", place.Text("home/sea/a.jpg")})));
+  ASSERT_TRUE(Succeeded(place.Run({"save", "c:\\a.gpj", "C:/b.gpj"})));
+  ASSERT_TRUE(Succeeded(place.Run({"create", "C:\\b.gpj", "C:\\out\\index.htm"})));
+  EXPECT_EQ(Sources(place, "home/b.gpj"),
+            (std::vector{std::string("C:\\sea\\a.jpg"), place.Text("home/sea/a.jpg")}));
+  EXPECT_TRUE(std::filesystem::exists(place.Path("home/out/index.htm")));
+}
+
+TEST(Paths, PathTextThatBeginsWithASeparatorIsBelowTheRoot) {
+  const Workplace place;
+  const std::string file = WithBackslashes(place.Photograph("a.jpg").string());
+  ASSERT_TRUE(Succeeded(place.Run({"new", WithBackslashes(place.Path("a.gpj").string()), file})));
+  ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", WithBackslashes(place.Path("out/index.htm").string())})));
+  EXPECT_TRUE(std::filesystem::exists(place.Path("out/Images/a.jpg.jpg")));
+}
+
+TEST(Paths, TheSectionDrivesReplacesTheDrives) {
+  const Workplace place;
+  place.Photograph("pictures/sea/a.jpg");
+  UseDrives(place, "P=\"" + place.Path("pictures").string() + "\"\r\nR=\"/\"\r\n");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "pictures/sea/a.jpg", "P:\\sea"})));
+  const std::string text = "P:\\sea\\a.jpg";
+  EXPECT_EQ(Sources(place, "a.gpj"), (std::vector{text, text}));
+  EXPECT_TRUE(EndedWith(1, place.Run({"save", "a.gpj", place.Text("b.gpj")}))) << "Z: is no drive any more";
+}
+
+TEST(Paths, APathIsOnTheDriveWithTheLongestFolder) {
+  const Workplace place;
+  place.Photograph("pictures/sea/a.jpg");
+  place.Photograph("pictures/sea side.jpg");
+  const std::string pictures = place.Path("pictures").string();
+  UseDrives(place, "A=\"/\"\r\nB=\"" + pictures + "/sea\"\r\nC=\"" + pictures + "\"\r\n");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "--recursive", "pictures"})));
+  EXPECT_EQ(Sources(place, "a.gpj"), (std::vector<std::string>{"C:\\sea side.jpg", "B:\\a.jpg"}));
+}
+
+TEST(Paths, APathOutsideAllDrivesBeginsWithASeparator) {
+  const Workplace place;
+  place.Photograph("a.jpg");
+  UseDrives(place, "C=\"" + place.Path("home").string() + "\"\r\n");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "a.jpg"})));
+  EXPECT_EQ(Sources(place, "a.gpj"), std::vector{WithBackslashes(place.Path("a.jpg").string())});
+  ASSERT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
+  const std::string page = place.Read("temp/VANTORIUM_TEMP/thumbpage_1.htm");
+  EXPECT_NE(page.find("\"file://" + place.Path("a.jpg").string() + "\""), std::string::npos) << page;
+}
+
+TEST(Paths, APreviewShowsTheSourcesOfMappedDrives) {
+  const Workplace place;
+  place.Photograph("pictures/a.jpg");
+  UseDrives(place, "P=\"" + place.Path("pictures").string() + "\"\r\nZ=\"/\"\r\n");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "P:\\a.jpg"})));
+  ASSERT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
+  const std::string page = place.Read("temp/VANTORIUM_TEMP/a.jpg.htm");
+  EXPECT_NE(page.find("\"file://" + place.Path("pictures/a.jpg").string() + "\""), std::string::npos) << page;
+}
+
+TEST(Paths, APathOfADriveWithoutAFolderDoesNotExist) {
+  const Workplace place;
+  for (const char* path : {"Q:\\a.jpg", "\\\\server\\share\\a.jpg"}) {
+    const ProcessResult result = place.Run({"new", "a.gpj", path});
+    EXPECT_TRUE(EndedWith(1, result)) << path;
+    EXPECT_NE(result.err.find("does not exist."), std::string::npos) << result.err;
+  }
+}
+
+TEST(Paths, ASourceInAProjectMayHaveSlashes) {
+  const Workplace place;
+  place.Project("a.gpj", {"sea/a.jpg"});
+  EXPECT_NE(place.Read("a.gpj").find("file://Z:" + place.Path("sea/a.jpg").string()), std::string::npos);
+  EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "out/index.htm"})));
+}
+
+}  // namespace
+}  // namespace vantorium

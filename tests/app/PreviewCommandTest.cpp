@@ -1,0 +1,88 @@
+#include "tests/app/Workplace.h"
+
+#include <filesystem>
+
+namespace vantorium {
+namespace {
+
+TEST(PreviewCommand, PrintsTheIndexFileAndMakesPagesAlone) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg", "b.jpg"});
+  const ProcessResult result = place.Run({"preview", "a.gpj"});
+  ASSERT_TRUE(Succeeded(result));
+  EXPECT_EQ(result.out, place.Path("temp/VANTORIUM_TEMP/index.htm").string() + "\n");
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(ListingOf(place.Path("temp/VANTORIUM_TEMP")), "a.jpg.htm\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
+}
+
+TEST(PreviewCommand, PagesLinkToTheSourcesAtTheirNativePlaces) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg", "home/b.jpg"});
+  ASSERT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
+  const std::string thumbnails = place.Read("temp/VANTORIUM_TEMP/thumbpage_1.htm");
+  const std::string a = "\"file://" + place.Path("a.jpg").string() + "\"";
+  const std::string b = "\"file://" + place.Path("home/b.jpg").string() + "\"";
+  EXPECT_NE(thumbnails.find("<IMG SRC=" + a), std::string::npos) << thumbnails;
+  EXPECT_NE(thumbnails.find("<IMG SRC=" + b), std::string::npos) << thumbnails;
+  const std::string wrapper = place.Read("temp/VANTORIUM_TEMP/b.jpg.htm");
+  EXPECT_NE(wrapper.find("<IMG SRC=" + b), std::string::npos) << wrapper;
+}
+
+TEST(PreviewCommand, AProjectWithoutImagesIsRefused) {
+  const Workplace place;
+  std::filesystem::create_directory(place.Path("empty"));
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "empty"})));
+  const ProcessResult result = place.Run({"preview", "a.gpj"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err, "No Images: You cannot preview a Gallery without Images.\n");
+}
+
+TEST(PreviewCommand, WithoutATemporaryFolderOnTheCommandLineThePreferencesNameIt) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  std::filesystem::create_directory(place.Path("elsewhere"));
+  place.Write("program/vantorium.ini", "[PREFERENCES]\r\nTempFolderLocation=\"" + place.Text("elsewhere") + "\"\r\n");
+  StartOptions options = place.Options({"preview", "a.gpj"});
+  std::erase(options.command, "--temp-folder");
+  std::erase(options.command, place.Path("temp").string());
+  const ProcessResult result = ChildProcess(options).Finish();
+  ASSERT_TRUE(Succeeded(result));
+  EXPECT_EQ(result.out, place.Path("elsewhere/VANTORIUM_TEMP/index.htm").string() + "\n");
+}
+
+/// A program in the place of the desktop's, which keeps what it was told to open.
+StartOptions WithOpener(const Workplace& place, const std::string& script, const std::vector<std::string>& arguments) {
+  const auto opener = place.Write("bin/xdg-open", "#!/bin/sh\n" + script + "\n");
+  std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
+  StartOptions options = place.Options(arguments);
+  options.environment["PATH"] = place.Path("bin").string() + ":/usr/bin:/bin";
+  return options;
+}
+
+TEST(PreviewCommand, OpenGivesTheIndexFileToTheDesktop) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  const std::string script = "printf '%s\\n' \"$@\" >'" + place.Path("opened").string() + "'";
+  ASSERT_TRUE(Succeeded(ChildProcess(WithOpener(place, script, {"preview", "a.gpj", "--open"})).Finish()));
+  EXPECT_EQ(place.Read("opened"), place.Path("temp/VANTORIUM_TEMP/index.htm").string() + "\n");
+}
+
+TEST(PreviewCommand, WithoutOpenNothingIsOpened) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  const std::string script = "touch '" + place.Path("opened").string() + "'";
+  ASSERT_TRUE(Succeeded(ChildProcess(WithOpener(place, script, {"preview", "a.gpj"})).Finish()));
+  EXPECT_FALSE(std::filesystem::exists(place.Path("opened")));
+}
+
+TEST(PreviewCommand, ADesktopThatCannotOpenIsTold) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  const ProcessResult result = ChildProcess(WithOpener(place, "exit 3", {"preview", "a.gpj", "--open"})).Finish();
+  EXPECT_EQ(result.err.substr(0, 14), "Error: Error: ") << result.err;
+  EXPECT_EQ(result.out, place.Path("temp/VANTORIUM_TEMP/index.htm").string() + "\n");
+}
+
+}  // namespace
+}  // namespace vantorium
