@@ -1,3 +1,5 @@
+cmake_minimum_required(VERSION 3.25)
+
 # Fails where a folder includes a header of a folder that it may not know.
 # Use: cmake -D ROOT=<source folder> -P CheckLayers.cmake
 #
