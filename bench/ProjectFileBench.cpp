@@ -5,6 +5,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 namespace vantorium {
 namespace {
@@ -54,9 +55,18 @@ class Bench {
   std::string target_;
 };
 
+/// Gives freed memory back, so that a small project does not profit from the memory of the round before: a user opens
+/// and saves with fresh memory whatever the size.
+void ForgetMemory(benchmark::State& state) {
+  state.PauseTiming();
+  ::malloc_trim(0);
+  state.ResumeTiming();
+}
+
 void WriteProject(benchmark::State& state, Names names) {
   Bench bench(static_cast<std::size_t>(state.range(0)), names);
   for (auto _ : state) {
+    ForgetMemory(state);
     if (!bench.Write()) state.SkipWithError("the project was not written");
   }
   state.SetComplexityN(state.range(0));
@@ -66,6 +76,7 @@ void ReadProject(benchmark::State& state, Names names) {
   Bench bench(static_cast<std::size_t>(state.range(0)), names);
   if (!bench.Write()) state.SkipWithError("the project was not written");
   for (auto _ : state) {
+    ForgetMemory(state);
     if (!bench.Read()) state.SkipWithError("the project was not read");
   }
   state.SetComplexityN(state.range(0));

@@ -30,7 +30,7 @@ std::string Numbered(const std::string& base, std::size_t number) {
 }  // namespace
 
 std::string UniqueNames::Take(const std::string& wanted) {
-  const std::string name = IsTaken(wanted) ? Numbered(wanted, LowestFreeNumber(wanted)) : wanted;
+  std::string name = IsTaken(wanted) ? Numbered(wanted, LowestFreeNumber(wanted)) : wanted;
   taken_.insert(name);
   if (const auto parts = TakenApart(name)) {
     const auto numbers = numbers_.find(parts->base);

@@ -24,7 +24,7 @@ struct stat StatusOf(const PathMap& paths, std::string_view path, FailureKind fa
   return status;
 }
 
-/// The folder's own two entries take part, so "*" matches in an empty folder.
+/// The folder's own two entries take part, so "*" and "*.*" match in every folder.
 bool FolderHoldsMatch(const fs::path& folder, std::string_view pattern) {
   std::error_code error;
   fs::directory_iterator entry(folder.empty() ? "." : folder, error);
@@ -94,7 +94,7 @@ bool mFileFunctions::FileExists(std::string_view pattern) const {
   if (!native || !native->has_filename()) return false;
   const std::string name = native->filename().string();
   if (name.find_first_of("*?") == std::string::npos) return PathExists(pattern);
-  return FolderHoldsMatch(native->parent_path(), name == "*.*" ? "*" : name);
+  return FolderHoldsMatch(native->parent_path(), name);
 }
 
 bool mFileFunctions::CopyLocalFile(std::string_view source, std::string_view destination, bool overwrite) const {

@@ -39,8 +39,8 @@ class mFileFunctions {
   /// Whether a file or folder of that name is there.
   [[nodiscard]] bool PathExists(std::string_view path) const;
 
-  /// Whether a file or folder matches; "*" and "?" may stand in the last part of the path, and "*.*" is "*". A folder's
-  /// "." and ".." count as in it. A path that ends in a separator matches nothing.
+  /// Whether a file or folder matches; "*" and "?" may stand in the last part of the path. The entries "." and ".." of
+  /// a folder count, so "*" and "*.*" match in every folder. A path that ends in a separator matches nothing.
   [[nodiscard]] bool FileExists(std::string_view pattern) const;
 
   /// Copies bytes, permissions and write time. The destination appears only when it is whole; with `overwrite` false an

@@ -59,16 +59,16 @@ void Sort(const std::uint8_t* pixels, std::size_t count, SortedBytes& sorted) {
     const std::uint8_t b = pixels[3 * i];
     const std::uint8_t g = pixels[3 * i + 1];
     const std::uint8_t r = pixels[3 * i + 2];
-    const std::uint8_t high = std::max(std::max(r, g), b);
-    const std::uint8_t redFalls = g < b;
-    const std::uint8_t greenFalls = b < r;
-    const std::uint8_t blueFalls = r < g;
+    const std::uint8_t more = std::max(r, g);
+    const std::uint8_t less = std::min(r, g);
+    const std::uint8_t high = std::max(more, b);
+    const std::uint8_t redPlace = g < b;
+    const std::uint8_t greenPlace = 2 + (b < r);
+    const std::uint8_t bluePlace = 4 + (r < g);
     sorted.high[i] = high;
-    sorted.middle[i] = std::max(std::min(r, g), std::min(std::max(r, g), b));
-    sorted.low[i] = std::min(std::min(r, g), b);
-    sorted.place[i] = r == high   ? redFalls
-                      : g == high ? static_cast<std::uint8_t>(2 | greenFalls)
-                                  : static_cast<std::uint8_t>(4 | blueFalls);
+    sorted.middle[i] = std::max(less, std::min(more, b));
+    sorted.low[i] = std::min(less, b);
+    sorted.place[i] = r == high ? redPlace : g == high ? greenPlace : bluePlace;
   }
 }
 

@@ -1,10 +1,11 @@
 #include "image/JPEGDecoder.h"
 
+#include "image/JPEGClaim.h"
 #include "image/JPEGErrors.h"
 #include "image/JPEGFile.h"
+#include "image/JPEGInks.h"
 
-#include <algorithm>
-#include <limits>
+#include <tuple>
 #include <vector>
 
 #include <jerror.h>
@@ -19,72 +20,88 @@ constexpr int kMostScans = 500;
 // For the coefficients of a picture in several scans: enough for 350 megapixels with halved chroma.
 constexpr long kMostMemory = 1L << 30;
 
-// Arithmetic coding has no least number of bits for a block. Up to 2^18 blocks, some 11 megapixels, such a picture is
-// cheap enough to be believed.
-constexpr std::uint64_t kBelievedBlocks = std::uint64_t{1} << 18;
-
-std::uint64_t BlocksOf(const jpeg_decompress_struct& codec) {
-  std::uint64_t blocks = 0;
-  for (int i = 0; i < codec.num_components; ++i) {
-    const auto& component = codec.comp_info[i];
-    blocks += std::uint64_t{component.width_in_blocks} * component.height_in_blocks;
-  }
-  return blocks;
-}
-
-// Huffman codes have at least one bit. A sequential block has two of them, its first coefficient and its end; of a
-// progressive block only the first coefficient is certain to have one.
-bool CanHold(std::uint64_t bytes, const jpeg_decompress_struct& codec) {
-  const std::uint64_t blocks = BlocksOf(codec);
-  const std::uint64_t bits = bytes * 8;
-  if (codec.arith_code != FALSE) return blocks <= std::max(bits, kBelievedBlocks);
-  return blocks <= (codec.progressive_mode != FALSE ? bits : bits / 2);
-}
-
+// Called by the library again and again while it reads a file in several scans.
 void LimitScans(j_common_ptr common) {
   const auto* codec = reinterpret_cast<j_decompress_ptr>(common);
-  if (codec->input_scan_number > kMostScans) ERREXIT(common, JERR_NOTIMPL);
+  const auto* stop = static_cast<const std::stop_token*>(codec->client_data);
+  if (codec->input_scan_number > kMostScans || stop->stop_requested()) ERREXIT(common, JERR_NOTIMPL);
 }
 
-std::uint8_t Product(unsigned left, unsigned right) {
-  return static_cast<std::uint8_t>((left * right + 127) / 255);
+// The reserved markers that the library stops at. Their segments have a length like all others; files of several
+// pictures in one (DE, DF) stay refused.
+bool IsReserved(int marker) {
+  return (marker >= 0x02 && marker <= 0xBF) || (marker >= 0xF0 && marker <= 0xFD);
 }
 
-// `light` has 255 for no ink: cyan, magenta, yellow, black. Each ink takes its share of the light, then black does.
-void LightToBGR(const std::uint8_t* light, std::int32_t width, std::uint8_t* bgr) {
-  for (std::int32_t x = 0; x < width; ++x, light += 4, bgr += 3) {
-    bgr[0] = Product(light[2], light[3]);
-    bgr[1] = Product(light[1], light[3]);
-    bgr[2] = Product(light[0], light[3]);
+unsigned NextByte(jpeg_decompress_struct& codec) {
+  jpeg_source_mgr& source = *codec.src;
+  if (source.bytes_in_buffer == 0) source.fill_input_buffer(&codec);
+  --source.bytes_in_buffer;
+  return *source.next_input_byte++;
+}
+
+void SkipSegment(jpeg_decompress_struct& codec) {
+  const unsigned high = NextByte(codec);
+  const unsigned length = high * 256 + NextByte(codec);
+  if (length > 2) codec.src->skip_input_data(&codec, static_cast<long>(length - 2));
+  codec.unread_marker = 0;
+}
+
+// Whether rows may be skipped from anywhere. The library loses its place when it leaves a group of rows that share
+// chroma in the middle, unless it interpolates chroma between groups; that it does for chroma of half the width and
+// height, more than two samples wide.
+bool SkipsFromAnywhere(const jpeg_decompress_struct& codec) {
+  if (codec.max_v_samp_factor <= 1) return true;
+  for (int i = 0; i < codec.num_components; ++i) {
+    const auto& component = codec.comp_info[i];
+    const bool halved = component.h_samp_factor * 2 == codec.max_h_samp_factor &&
+                        component.v_samp_factor * 2 == codec.max_v_samp_factor;
+    if (halved && component.downsampled_width > 2) return true;
   }
+  return false;
 }
 
 }  // namespace
 
 struct JPEGDecoder::State {
+  State() {
+    std::ignore = errors.Run([this] { Create(); });
+  }
   ~State() { jpeg_destroy_decompress(&codec); }
 
   [[nodiscard]] bool HasInks() const { return codec.out_color_space == JCS_CMYK; }
-  void ReadHeader();
+  void Create();
+  template <typename Work>
+  [[nodiscard]] bool RunPastReservedMarkers(Work work);
   void ChooseOutput();
-  void InksToBGR(std::uint8_t* bgr);
 
   JPEGErrors errors;
   FileHandle file;
   std::uint64_t fileSize = 0;
+  std::stop_token stop;
   jpeg_progress_mgr progress = {};
   jpeg_decompress_struct codec = {};
-  std::vector<std::uint8_t> inks;  // one row, when the file is in inks
+  std::vector<std::uint8_t> inks;      // one row, when the file is in inks
+  std::vector<std::uint8_t> unwanted;  // a row that could not be skipped
 };
 
-void JPEGDecoder::State::ReadHeader() {
+void JPEGDecoder::State::Create() {
   codec.err = errors.Manager();
   jpeg_create_decompress(&codec);
   codec.mem->max_memory_to_use = kMostMemory;
   progress.progress_monitor = LimitScans;
   codec.progress = &progress;
-  jpeg_stdio_src(&codec, file.get());
-  jpeg_read_header(&codec, TRUE);
+  codec.client_data = &stop;
+}
+
+// The library stops at such a marker as it stops where it waits for data, and takes the same call up again.
+template <typename Work>
+bool JPEGDecoder::State::RunPastReservedMarkers(Work work) {
+  while (!errors.Run(work)) {
+    if (!IsReserved(codec.unread_marker) || !errors.ForgiveUnknownMarker()) return false;
+    if (!errors.Run([this] { SkipSegment(codec); })) return false;
+  }
+  return true;
 }
 
 void JPEGDecoder::State::ChooseOutput() {
@@ -92,22 +109,20 @@ void JPEGDecoder::State::ChooseOutput() {
   codec.out_color_space = inInks ? JCS_CMYK : JCS_EXT_BGR;
 }
 
-// Files with the Adobe marker hold light, the others ink.
-void JPEGDecoder::State::InksToBGR(std::uint8_t* bgr) {
-  if (codec.saw_Adobe_marker == FALSE) {
-    for (auto& ink : inks) ink = static_cast<std::uint8_t>(255 - ink);
-  }
-  LightToBGR(inks.data(), static_cast<std::int32_t>(codec.output_width), bgr);
-}
-
 JPEGDecoder::JPEGDecoder() : state_(std::make_unique<State>()) {}
 JPEGDecoder::~JPEGDecoder() = default;
+
+void JPEGDecoder::StopWith(const std::stop_token& stop) {
+  stop_ = stop;
+}
 
 bool JPEGDecoder::Open(const std::filesystem::path& path) {
   state_ = std::make_unique<State>();
   State& state = *state_;
+  state.stop = stop_;
   state.file = OpenRegularFile(path, state.fileSize);
-  return state.file != nullptr && state.errors.Run([&state] { state.ReadHeader(); });
+  return state.file != nullptr && state.errors.Run([&state] { jpeg_stdio_src(&state.codec, state.file.get()); }) &&
+         state.RunPastReservedMarkers([&state] { jpeg_read_header(&state.codec, TRUE); });
 }
 
 std::int32_t JPEGDecoder::width() const {
@@ -119,11 +134,14 @@ std::int32_t JPEGDecoder::height() const {
 }
 
 bool JPEGDecoder::IsPlausible() const {
-  return CanHold(state_->fileSize, state_->codec);
+  return !state_->errors.Failed() && CanHold(state_->fileSize, state_->codec);
 }
 
-bool JPEGDecoder::HoldsWholePicture() const {
-  return jpeg_has_multiple_scans(&state_->codec) != FALSE;
+std::uint64_t JPEGDecoder::HeldBytes() const {
+  State& state = *state_;
+  bool severalScans = false;
+  const bool known = state.errors.Run([&] { severalScans = jpeg_has_multiple_scans(&state.codec) != FALSE; });
+  return known && severalScans ? BlocksOf(state.codec) * sizeof(JBLOCK) : 0;
 }
 
 bool JPEGDecoder::Start() {
@@ -131,7 +149,7 @@ bool JPEGDecoder::Start() {
   if (!IsPlausible()) return false;
   state.ChooseOutput();
   if (state.HasInks()) state.inks.resize(static_cast<std::size_t>(width()) * 4);
-  return state.errors.Run([&state] { jpeg_start_decompress(&state.codec); }) && !state.errors.Damaged();
+  return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && !state.errors.Damaged();
 }
 
 bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
@@ -140,12 +158,20 @@ bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
   JDIMENSION rows = 0;
   const bool done = state.errors.Run([&] { rows = jpeg_read_scanlines(&state.codec, &row, 1); });
   if (!done || rows != 1) return false;
-  if (state.HasInks()) state.InksToBGR(bgr);
+  // Files with the Adobe marker hold the light that is left, the others the ink.
+  if (state.HasInks()) InksToBGR(state.inks, state.codec.saw_Adobe_marker == FALSE, bgr);
   return !state.errors.Damaged();
 }
 
 bool JPEGDecoder::SkipRows(std::int32_t count) {
   State& state = *state_;
+  if (!SkipsFromAnywhere(state.codec)) {
+    const auto group = static_cast<JDIMENSION>(state.codec.max_v_samp_factor);
+    state.unwanted.resize(static_cast<std::size_t>(width()) * 3);
+    for (; count > 0 && state.codec.output_scanline % group != 0; --count) {
+      if (!ReadRow(state.unwanted.data())) return false;
+    }
+  }
   const auto wanted = static_cast<JDIMENSION>(count);
   JDIMENSION rows = 0;
   const bool done = state.errors.Run([&] { rows = jpeg_skip_scanlines(&state.codec, wanted); });
@@ -154,7 +180,7 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
 
 bool JPEGDecoder::Finish() {
   State& state = *state_;
-  return state.errors.Run([&state] { jpeg_finish_decompress(&state.codec); }) && !state.errors.Damaged();
+  return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && !state.errors.Damaged();
 }
 
 }  // namespace vantorium

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <stop_token>
 
 namespace vantorium {
 
@@ -18,6 +19,8 @@ class JPEGDecoder {
   JPEGDecoder(const JPEGDecoder&) = delete;
   JPEGDecoder& operator=(const JPEGDecoder&) = delete;
 
+  /// A stop ends the calls that follow, Start in the middle of a file too, as if the file were damaged.
+  void StopWith(const std::stop_token& stop);
   /// Opens the file and reads its header. False for whatever is no JPEG file.
   [[nodiscard]] bool Open(const std::filesystem::path& path);
   /// The picture's size in pixels; known once Open succeeded.
@@ -26,8 +29,8 @@ class JPEGDecoder {
   /// Whether a file of this size can hold as many pixels as its header claims. The others are refused by Start, which
   /// would otherwise take memory and time for pictures that are not there.
   [[nodiscard]] bool IsPlausible() const;
-  /// Whether the picture came in several scans: Start then reads the whole file and holds all its coefficients.
-  [[nodiscard]] bool HoldsWholePicture() const;
+  /// Bytes of coefficients that Start will hold: those of the whole picture when it came in several scans, else none.
+  [[nodiscard]] std::uint64_t HeldBytes() const;
 
   [[nodiscard]] bool Start();
   /// Writes the next row, 3 bytes a pixel, to `bgr`. False as soon as the data turn out to be damaged or to end early.
@@ -41,6 +44,7 @@ class JPEGDecoder {
  private:
   struct State;
   std::unique_ptr<State> state_;
+  std::stop_token stop_;
 };
 
 }  // namespace vantorium

@@ -28,6 +28,12 @@ JPEGErrors::JPEGErrors() {
   record_.manager.output_message = [](j_common_ptr) {};
 }
 
+bool JPEGErrors::ForgiveUnknownMarker() {
+  if (!failed_ || record_.manager.msg_code != JERR_UNKNOWN_MARKER) return false;
+  failed_ = false;
+  return true;
+}
+
 void JPEGErrors::OnError(j_common_ptr codec) {
   auto* record = reinterpret_cast<Record*>(codec->err);
   record->manager.format_message(codec, record->text);

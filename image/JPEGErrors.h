@@ -29,6 +29,11 @@ class JPEGErrors {
     return RunGuarded([](void* context) { (*static_cast<Work*>(context))(); }, &work);
   }
 
+  [[nodiscard]] bool Failed() const { return failed_; }
+  /// Whether the library gave up over a marker that it does not know. It may then be called again, once the marker is
+  /// out of its way.
+  [[nodiscard]] bool ForgiveUnknownMarker();
+
   /// Whether a warning said that picture data are missing or wrong.
   [[nodiscard]] bool Damaged() const { return record_.damaged; }
   /// The library's words for the error.

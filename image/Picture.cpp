@@ -1,44 +1,115 @@
 #include "image/Picture.h"
 
 #include "env/RuntimeFailure.h"
-#include "image/Filters.h"
-#include "image/JPEG.h"
-#include "image/Resample.h"
-#include "image/cDIBSection.h"
+#include "image/JPEGDecoder.h"
+#include "image/PictureOutput.h"
 
-#include <fmt/format.h>
+#include <algorithm>
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace vantorium {
 namespace {
 
-void ResizeTo(cDIBSection& picture, PixelSize size) {
-  auto resized = Resample(picture, size.height, size.width);
-  if (!resized) {
-    throw RuntimeFailure(FailureKind::InvalidArgument,
-                         fmt::format("A picture of {} x {} pixels cannot be made.", size.width, size.height));
+/// An output with its failure kept: the failure of one output is not that of the other, and comes only after the source
+/// proved to be a picture.
+class GuardedOutput {
+ public:
+  GuardedOutput(const std::optional<PictureRecipe>& recipe, PictureSize source, PictureFile& file) : file_(file) {
+    Guard([&] {
+      if (recipe) output_.emplace(*recipe, source);
+    });
   }
-  picture = std::move(*resized);
-}
 
-void ApplyFilters(cDIBSection& picture, const PictureRecipe& recipe) {
-  const ImageFilterSettings& filters = recipe.filters;
-  if (filters.checkBrightness == 1) Lighten(picture, filters.sliderBrightness);
-  if (filters.checkFade == 1) Fade(picture, filters.sliderFade);
-  if (filters.checkNoise == 1) {
-    NoiseStream stream(/*seed=*/0, recipe.noiseNumber);
-    AddNoise(picture, filters.sliderNoise, filters.checkNoiseRandom == 1, stream);
+  [[nodiscard]] std::int32_t NextSourceRow() const { return output_ ? output_->NextSourceRow() : -1; }
+  void TakeSourceRow(std::int32_t row, const std::uint8_t* bytes, const std::uint8_t* above) {
+    Guard([&] {
+      if (output_) output_->TakeSourceRow(row, bytes, above);
+    });
   }
-  if (filters.checkGrayscale == 1) GrayScale(picture);
+  void Finish() {
+    Guard([&] {
+      if (output_) file_.jpeg = output_->Finish();
+    });
+  }
+
+ private:
+  template <typename Work>
+  void Guard(Work work) {
+    try {
+      work();
+    } catch (const RuntimeFailure&) {
+      file_.failure = std::current_exception();
+      output_.reset();
+    }
+  }
+
+  PictureFile& file_;
+  std::optional<PictureOutput> output_;
+};
+
+/// Reads the rows that are asked for, from the top of the picture down, and keeps the last two.
+class RowReader {
+ public:
+  explicit RowReader(JPEGDecoder& decoder)
+      : decoder_(decoder),
+        position_(decoder.height()),
+        row_(static_cast<std::size_t>(decoder.width()) * 3),
+        above_(row_.size()) {}
+
+  /// Goes down to `row`. False when the data are damaged or end early.
+  [[nodiscard]] bool ReadRow(std::int32_t row) {
+    const std::int32_t skipped = position_ - row - 1;
+    if (skipped > 0 && !decoder_.SkipRows(skipped)) return false;
+    std::swap(row_, above_);
+    position_ = row;
+    return decoder_.ReadRow(row_.data());
+  }
+  [[nodiscard]] const std::uint8_t* Row() const { return row_.data(); }
+  [[nodiscard]] const std::uint8_t* RowAbove() const { return above_.data(); }
+
+ private:
+  JPEGDecoder& decoder_;
+  std::int32_t position_;
+  std::vector<std::uint8_t> row_;
+  std::vector<std::uint8_t> above_;
+};
+
+/// The bottom row is read in any case: the library tells of damage in the rows behind the last one read only then.
+bool PassRows(JPEGDecoder& decoder, GuardedOutput& image, GuardedOutput& thumbnail, const std::stop_token& stop) {
+  RowReader reader(decoder);
+  for (std::int32_t row = decoder.height(); row > 0;) {
+    row = std::max({image.NextSourceRow(), thumbnail.NextSourceRow(), 0});
+    if (stop.stop_requested() || !reader.ReadRow(row)) return false;
+    image.TakeSourceRow(row, reader.Row(), reader.RowAbove());
+    thumbnail.TakeSourceRow(row, reader.Row(), reader.RowAbove());
+  }
+  return decoder.Finish();
 }
 
 }  // namespace
 
-std::optional<std::string> MakePicture(const std::filesystem::path& source, const PictureRecipe& recipe) {
-  cDIBSection picture;
-  if (!LoadJPEGImage(picture, source)) return std::nullopt;
-  if (recipe.size) ResizeTo(picture, *recipe.size);
-  ApplyFilters(picture, recipe);
-  return EncodeJPEG(picture, recipe.filters.sliderQuality);
+const std::string& PictureFile::Bytes() const {
+  if (failure) std::rethrow_exception(failure);
+  return jpeg;
+}
+
+PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequest& request, const PictureWork& work) {
+  PictureFiles files;
+  JPEGDecoder decoder;
+  decoder.StopWith(work.stop);
+  if (!decoder.Open(source) || !decoder.IsPlausible()) return files;
+  const auto share = work.budget.Take(decoder.HeldBytes(), work.stop);
+  if (!decoder.Start()) return files;
+  const PictureSize size = {decoder.width(), decoder.height()};
+  GuardedOutput image(request.image, size, files.image);
+  GuardedOutput thumbnail(request.thumbnail, size, files.thumbnail);
+  if (!PassRows(decoder, image, thumbnail, work.stop)) return {};
+  image.Finish();
+  thumbnail.Finish();
+  files.decoded = true;
+  return files;
 }
 
 }  // namespace vantorium

@@ -1,31 +1,48 @@
 #pragma once
 
-#include "image/ImageFilterSettings.h"
+#include "image/CoefficientBudget.h"
+#include "image/PictureRecipe.h"
 
-#include <cstdint>
+#include <exception>
 #include <filesystem>
 #include <optional>
+#include <stop_token>
 #include <string>
 
 namespace vantorium {
 
-struct PixelSize {
-  std::int32_t width = 0;
-  std::int32_t height = 0;
+/// What is wanted of one photograph.
+struct PictureRequest {
+  std::optional<PictureRecipe> image;
+  std::optional<PictureRecipe> thumbnail;
 };
 
-/// What is made of one photograph for one of its outputs, in this order: the size, the filters, the JPEG file at the
-/// filters' quality.
-struct PictureRecipe {
-  std::uint64_t noiseNumber = 0;       ///< tells the noise of the pictures of a run apart
-  std::optional<PixelSize> size = {};  ///< pixels of the output; nothing keeps the source's
-  ImageFilterSettings filters = {};
+/// One output: the bytes of a JPEG file, or the RuntimeFailure that kept it from being made.
+struct PictureFile {
+  std::string jpeg;
+  std::exception_ptr failure;
+
+  /// The bytes. Throws the failure.
+  [[nodiscard]] const std::string& Bytes() const;
 };
 
-/// Makes one output of the JPEG file `source` and returns the bytes of a JPEG file. A pure function: nothing is shown
-/// or written, and the same source and recipe give the same bytes on every thread. Nothing when the source can't be
-/// decoded. Throws RuntimeFailure InvalidArgument for a size below 1 x 1 and JPEGLibrary when the picture can't be
-/// encoded.
-[[nodiscard]] std::optional<std::string> MakePicture(const std::filesystem::path& source, const PictureRecipe& recipe);
+/// The outputs of one photograph; those that were not wanted are empty.
+struct PictureFiles {
+  bool decoded = false;  ///< false: the source could not be decoded in whole, and there are no outputs
+  PictureFile image;
+  PictureFile thumbnail;
+};
+
+/// What the makers of pictures share: when to stop, and the memory for pictures in several scans.
+struct PictureWork {
+  std::stop_token stop;
+  CoefficientBudget& budget;
+};
+
+/// Makes the wanted outputs of the JPEG file `source`, decoding it once and only the rows that an output needs. A pure
+/// function: nothing is shown or written, and the same source and request give the same bytes on every thread. A stop
+/// ends it early, with nothing decoded.
+[[nodiscard]] PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequest& request,
+                                        const PictureWork& work);
 
 }  // namespace vantorium

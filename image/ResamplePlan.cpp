@@ -37,25 +37,33 @@ inline double Rounded(double value) {
   return (value + kNoFraction) - kNoFraction;
 }
 
-// The neighbours of a piece of new bytes, one byte of each for each new byte.
+// The neighbours of a piece of new bytes: those of the left column, then those of the right. One byte of slack behind
+// each, for pixels are copied four bytes at a time.
 struct Neighbours {
-  std::uint8_t lowerLeft[3 * kPiece];
-  std::uint8_t lowerRight[3 * kPiece];
-  std::uint8_t upperLeft[3 * kPiece];
-  std::uint8_t upperRight[3 * kPiece];
+  std::uint8_t left[3 * kPiece + 1];
+  std::uint8_t right[3 * kPiece + 1];
+};
+
+// The same between two rows, rounded.
+struct Means {
+  double left[3 * kPiece];
+  double right[3 * kPiece];
 };
 
 VANTORIUM_VECTOR_CLONES
-void Blend(const Neighbours& near, float upperWeight, const float* rightWeights, std::size_t count,
-           std::uint8_t* __restrict result) {
+void BlendRows(const std::uint8_t* lower, const std::uint8_t* upper, float upperWeight, double* __restrict means) {
   const double up = upperWeight;
   const double down = 1 - up;
+  for (std::size_t i = 0; i < 3 * kPiece; ++i) means[i] = Rounded(down * lower[i] + up * upper[i]);
+}
+
+// A mean of bytes is a byte: there is nothing to clamp.
+VANTORIUM_VECTOR_CLONES
+void BlendColumns(const Means& means, const float* rightWeights, std::size_t count, std::uint8_t* __restrict result) {
   for (std::size_t i = 0; i < count; ++i) {
-    const double left = Rounded(down * near.lowerLeft[i] + up * near.upperLeft[i]);
-    const double right = Rounded(down * near.lowerRight[i] + up * near.upperRight[i]);
     const double share = rightWeights[i];
-    // A mean of bytes is a byte: there is nothing to clamp.
-    result[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(Rounded((1 - share) * left + share * right)));
+    const double mean = Rounded((1 - share) * means.left[i] + share * means.right[i]);
+    result[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(mean));
   }
 }
 
@@ -70,6 +78,8 @@ ResamplePlan::ResamplePlan(PictureSize from, PictureSize to)
   for (std::int32_t x = 0; x < to.width; ++x) {
     const Place place = PlaceOf(xScale, x, from.width);
     leftBytes_.push_back(3 * place.index);
+    // Both neighbours and the byte behind them lie in the row.
+    if (3 * place.index + 7 <= 3 * from.width) roomyColumns_ = leftBytes_.size();
     rightWeights_.insert(rightWeights_.end(), 3, place.weight);
   }
 }
@@ -83,9 +93,14 @@ ResamplePlan::SourceRows ResamplePlan::RowsOf(std::int32_t newRow) const {
 
 void ResamplePlan::GatherColumns(const std::uint8_t* row, std::size_t first, std::size_t count, std::uint8_t* left,
                                  std::uint8_t* right) const {
-  const std::int32_t last = 3 * (from_.width - 1);
   const std::int32_t* begins = leftBytes_.data() + first;
-  for (std::size_t i = 0; i < count; ++i) {
+  const std::size_t roomy = std::clamp(roomyColumns_, first, first + count) - first;
+  for (std::size_t i = 0; i < roomy; ++i) {
+    std::memcpy(left + 3 * i, row + begins[i], 4);
+    std::memcpy(right + 3 * i, row + begins[i] + 3, 4);
+  }
+  const std::int32_t last = 3 * (from_.width - 1);
+  for (std::size_t i = roomy; i < count; ++i) {
     std::memcpy(left + 3 * i, row + begins[i], 3);
     std::memcpy(right + 3 * i, row + std::min(begins[i] + 3, last), 3);
   }
@@ -98,12 +113,16 @@ void ResamplePlan::CombineRows(const SourceRows& rows, const std::uint8_t* lower
     std::memcpy(result, lower, 3 * width);
     return;
   }
-  Neighbours near;
+  Neighbours ofLower = {};
+  Neighbours ofUpper = {};
+  Means means;
   for (std::size_t x = 0; x < width; x += kPiece) {
     const std::size_t count = std::min(kPiece, width - x);
-    GatherColumns(lower, x, count, near.lowerLeft, near.lowerRight);
-    GatherColumns(upper, x, count, near.upperLeft, near.upperRight);
-    Blend(near, rows.weight, rightWeights_.data() + 3 * x, 3 * count, result + 3 * x);
+    GatherColumns(lower, x, count, ofLower.left, ofLower.right);
+    GatherColumns(upper, x, count, ofUpper.left, ofUpper.right);
+    BlendRows(ofLower.left, ofUpper.left, rows.weight, means.left);
+    BlendRows(ofLower.right, ofUpper.right, rows.weight, means.right);
+    BlendColumns(means, rightWeights_.data() + 3 * x, 3 * count, result + 3 * x);
   }
 }
 

@@ -45,6 +45,7 @@ class ResamplePlan {
   PictureSize to_;
   float yScale_;
   std::vector<std::int32_t> leftBytes_;  // where the left neighbour of each new column begins
+  std::size_t roomyColumns_ = 0;         // so many first ones have a byte of the row behind their right neighbour
   std::vector<float> rightWeights_;      // share of the right neighbour, three times for each new column
 };
 

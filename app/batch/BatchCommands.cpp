@@ -8,8 +8,11 @@
 #include "core/generation/CreateGallery.h"
 #include "env/DriveTable.h"
 #include "env/ProgramFolder.h"
+#include "image/PangoTextRaster.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <thread>
 
 #include <fmt/format.h>
 
@@ -30,6 +33,10 @@ std::filesystem::path ProgramFolderOf(const BatchOptions& options) {
   std::optional<std::filesystem::path> given;
   if (!options.programFolder.empty()) given = std::filesystem::absolute(options.programFolder);
   return FindProgramFolder(given, SurroundingsOfProcess());
+}
+
+unsigned JobsOf(const BatchOptions& options) {
+  return options.jobs > 0 ? options.jobs : std::max(1U, std::thread::hardware_concurrency());
 }
 
 /// The whole program for the length of one command: the one project and everything around it.
@@ -66,6 +73,8 @@ class BatchProgram {
   CancelCheck cancel_{boxes_};
   InterruptLoop loop_{cancel_};
   TerminalStatus status_{terminal_};
+  Screen screen_;
+  PangoTextRaster texts_;
   Project project_;
   ImageListDisplay noDisplay_;
   ImageListOperations images_{project_, files_, boxes_, noDisplay_};
@@ -122,8 +131,9 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
   BatchShell shell(paths_, options_.open);
   const BatchClock clock(options_.creationTime);
   Preferences preferences = PreferencesOfRun();
-  GalleryCreator creator(project_, preferences, GetAppPath(programFolder_, paths_),
-                         {host, boxes_, loop_, clock, shell, files_, formats_, cancel_});
+  GalleryCreator creator(
+      project_, preferences, GetAppPath(programFolder_, paths_),
+      {host, boxes_, loop_, clock, shell, files_, formats_, cancel_, screen_, texts_, JobsOf(options_)});
   const RunEnd end = creator.CreateGallery(mode, 0);
   terminal_.EraseBar();
   if (end == RunEnd::Cancelled) return ExitCode::Cancelled;

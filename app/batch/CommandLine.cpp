@@ -28,8 +28,9 @@ std::optional<CivilTime> ParseTime(const std::string& text) {
                                         time.hour, time.minute, time.second);
   const std::chrono::year_month_day date{std::chrono::year(time.year), std::chrono::month(unsigned(time.month)),
                                          std::chrono::day(unsigned(time.day))};
+  const bool inTheCalendar = time.year > 0 && date.ok();
   const bool onTheClock = time.hour < 24 && time.minute < 60 && time.second < 60;
-  if (fields != 6 || again != text || !date.ok() || !onTheClock) return std::nullopt;
+  if (fields != 6 || again != text || !inTheCalendar || !onTheClock) return std::nullopt;
   return time;
 }
 
@@ -94,8 +95,12 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   preview.add_flag("--open", options.open, "Open the preview in the default browser");
 }
 
-/// The first line of what CLI11 says, which may go on with a hint about --help.
-std::string OneLine(const std::string& text) {
+/// What is wrong, in one line. CLI11 may go on with a hint about --help, and of an unknown command it only says that
+/// there is none.
+std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
+  const std::vector<std::string> unknown = app.remaining();
+  const bool hasCommand = !app.get_subcommands().empty();
+  const std::string text = hasCommand || unknown.empty() ? error.what() : "There is no command " + unknown.front();
   return text.substr(0, text.find('\n'));
 }
 
@@ -115,7 +120,7 @@ std::variant<BatchOptions, ExitCode> ParseCommandLine(int argc, const char* cons
     app.exit(success, std::cout, std::cerr);
     return ExitCode::Success;
   } catch (const CLI::ParseError& error) {
-    std::cerr << "vantorium-batch: " << OneLine(error.what()) << " (see --help)\n";
+    std::cerr << "vantorium-batch: " << WhatIsWrong(app, error) << " (see --help)\n";
     return ExitCode::WrongUsage;
   }
   return options;

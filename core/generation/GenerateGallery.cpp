@@ -6,6 +6,7 @@
 #include "core/generation/LocalTarget.h"
 #include "core/generation/OutputNaming.h"
 #include "core/generation/PagePhases.h"
+#include "core/generation/PictureRecipes.h"
 #include "core/generation/ProducePictures.h"
 #include "core/generation/RunContext.h"
 #include "env/PathText.h"
@@ -52,8 +53,8 @@ PhaseResult MakeFolders(const RunContext& context) {
 
 PhaseResult ProduceUnlessPreview(const RunContext& context) {
   if (context.run.mode == GenerationMode::Preview) return kGoOn;
-  if (auto end = ProduceImages(context)) return end;
-  return ProduceThumbnails(context);
+  PrepareWatermarks(context.run, context.screen, context.texts);
+  return ProducePictures(context);
 }
 
 PhaseResult EndWithoutPages(const RunContext& context) {
@@ -205,7 +206,10 @@ RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const Ru
                            .clock = environment.clock,
                            .cancel = environment.cancel,
                            .progress = *progress,
-                           .target = target};
+                           .target = target,
+                           .screen = environment.screen,
+                           .texts = environment.texts,
+                           .jobs = environment.jobs};
   const RunEnd end = RunTrapped(context);
   FinishRun(end, environment, *progress);
   return end;

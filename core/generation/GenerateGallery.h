@@ -8,8 +8,10 @@
 #include "env/Clock.h"
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
+#include "env/Screen.h"
 #include "env/Shell.h"
 #include "env/mFileFunctions.h"
+#include "image/TextRaster.h"
 
 namespace vantorium {
 
@@ -23,6 +25,9 @@ struct RunEnvironment {
   const mFileFunctions& files;
   const RegionalFormats& formats;
   CancelCheck& cancel;
+  const Screen& screen;
+  const TextRaster& texts;
+  unsigned jobs = 1;  ///< photographs worked on at a time; what comes out is the same for every number
 };
 
 /// One run: takes the project through the phases that turn it into files and ends in one of three ways. Whatever was

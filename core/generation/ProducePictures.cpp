@@ -1,100 +1,207 @@
 #include "core/generation/ProducePictures.h"
 
 #include "core/generation/PictureRecipes.h"
+#include "core/generation/PictureWorkshop.h"
+#include "core/generation/ThumbnailSpool.h"
 #include "env/RuntimeFailure.h"
-#include "image/Picture.h"
+
+#include <vector>
 
 namespace vantorium {
 namespace {
 
-const char kFileError[] = "File Error";
+/// A thumbnail that was made with its image.
+struct EarlyThumbnail {
+  SourceStamp source;
+  ThumbnailSpool::Place place;
+};
 
-std::string Announcement(const char* doing, const RunState& run, std::int32_t image) {
-  return std::string(doing) + " \"" + run.ListText(image) + "\"...";
-}
+class PictureProduction {
+ public:
+  explicit PictureProduction(const RunContext& context)
+      : context_(context),
+        run_(context.run),
+        spool_(run_.files.Paths().ToNative(run_.OutputFolder).value_or(".")),
+        early_(run_.RunInfo.size()) {}
 
-ImageRunInfo& InfoOf(const RunContext& context, std::int32_t image) {
-  return context.run.RunInfo.at(static_cast<std::size_t>(image) - 1);
-}
+  [[nodiscard]] PhaseResult Images();
+  [[nodiscard]] PhaseResult Sizes();
+  [[nodiscard]] PhaseResult Thumbnails();
 
-std::optional<std::string> MakeFrom(const RunContext& context, const ImageRunInfo& image, const PictureRecipe& recipe) {
-  const auto native = context.run.files.Paths().ToNative(image.Path);
-  if (!native) return std::nullopt;
-  return MakePicture(*native, recipe);
-}
+ private:
+  using Number = std::int32_t;
+  using Step = PhaseResult (PictureProduction::*)(PictureWorkshop&, Number);
 
-/// A picture that could not be loaded: the cancel's own doing when one is under way, else a failure with `text`.
-PhaseResult NotLoaded(const RunContext& context, const std::string& text) {
-  return context.Settle(Refusal{kFileError, text});
-}
+  [[nodiscard]] PhaseResult ForEach(PictureWorkshop& workshop, Step step);
+  [[nodiscard]] PhaseResult ImageStep(PictureWorkshop& workshop, Number number);
+  [[nodiscard]] PhaseResult SizeStep(Number number);
+  [[nodiscard]] PhaseResult ThumbnailStep(PictureWorkshop& workshop, Number number);
+  [[nodiscard]] PhaseResult MakeImage(PictureWorkshop& workshop, Number number);
+  [[nodiscard]] PhaseResult MakeThumbnail(PictureWorkshop& workshop, Number number);
 
-PhaseResult MakeImage(const RunContext& context, std::int32_t number) {
-  ImageRunInfo& image = InfoOf(context, number);
-  const auto recipe = ImageRecipe(context.run, number);
-  if (!recipe) return context.Settle(context.target.CopyImage(image));
-  const auto jpeg = MakeFrom(context, image, *recipe);
-  if (!jpeg) return NotLoaded(context, "Unable to copy the File \"" + image.Path + "\".");
-  return context.Settle(context.target.StoreImage(image, *jpeg));
-}
+  [[nodiscard]] std::optional<PictureTask> PlanImage(Number number);
+  [[nodiscard]] std::optional<PictureTask> PlanThumbnail(Number number);
+  [[nodiscard]] PictureTask Task(Number number, PictureRequest request) const;
+  [[nodiscard]] std::optional<PictureFiles> Take(PictureWorkshop& workshop, Number number, const PictureTask& task);
+  [[nodiscard]] std::optional<std::string> EarlyBytes(Number number) const;
+  void KeepThumbnail(Number number, const MadePictures& made);
 
-PhaseResult ImageStep(const RunContext& context, std::int32_t number) {
-  ImageRunInfo& image = InfoOf(context, number);
-  if (auto end = context.Begin(Announcement("Copying File", context.run, number))) return end;
-  if (!context.arguments.Overwrite && context.target.ImageExists(image)) {
-    image.FileSize = context.target.ImageSizeText(image);
-  } else if (auto end = MakeImage(context, number)) {
-    return end;
+  [[nodiscard]] bool KeepsExistingImage(Number number) {
+    return !context_.arguments.Overwrite && context_.target.ImageExists(run_.Info(number));
   }
-  context.Advance();
+  [[nodiscard]] bool KeepsExistingThumbnail(Number number) {
+    return !context_.arguments.Overwrite && context_.target.ThumbnailExists(run_.Info(number));
+  }
+  [[nodiscard]] ImageRunInfo& InfoOf(Number number) { return run_.RunInfo.at(static_cast<std::size_t>(number) - 1); }
+  [[nodiscard]] PhaseResult Begin(const char* doing, Number number) const {
+    return context_.Begin(std::string(doing) + " \"" + run_.ListText(number) + "\"...");
+  }
+  /// A picture that could not be loaded: a failure with `text`, or the cancel's own doing when one is under way.
+  [[nodiscard]] PhaseResult NotLoaded(const std::string& text) const {
+    return context_.Settle(Refusal{"File Error", text});
+  }
+
+  const RunContext& context_;
+  RunState& run_;
+  ThumbnailSpool spool_;
+  std::vector<std::optional<EarlyThumbnail>> early_;  // that of image i at i - 1
+};
+
+PhaseResult PictureProduction::ForEach(PictureWorkshop& workshop, Step step) {
+  for (Number number = 1; number <= run_.ImageCount; ++number) {
+    if (auto end = (this->*step)(workshop, number)) return end;
+  }
   return kGoOn;
 }
 
-PhaseResult SizeStep(const RunContext& context, std::int32_t number) {
-  ImageRunInfo& image = InfoOf(context, number);
-  if (auto end = context.Begin(Announcement("Getting Image File Size for", context.run, number))) return end;
+PhaseResult PictureProduction::Images() {
+  PictureWorkshop workshop(context_.jobs, run_.ImageCount, [this](Number number) { return PlanImage(number); });
+  return ForEach(workshop, &PictureProduction::ImageStep);
+}
+
+PhaseResult PictureProduction::Thumbnails() {
+  PictureWorkshop workshop(context_.jobs, run_.ImageCount, [this](Number number) { return PlanThumbnail(number); });
+  return ForEach(workshop, &PictureProduction::ThumbnailStep);
+}
+
+PhaseResult PictureProduction::Sizes() {
+  for (Number number = 1; number <= run_.ImageCount; ++number) {
+    if (auto end = SizeStep(number)) return end;
+  }
+  return kGoOn;
+}
+
+// Images
+
+PhaseResult PictureProduction::ImageStep(PictureWorkshop& workshop, Number number) {
+  if (auto end = Begin("Copying File", number)) return end;
+  if (KeepsExistingImage(number)) {
+    InfoOf(number).FileSize = context_.target.ImageSizeText(InfoOf(number));
+  } else if (auto end = MakeImage(workshop, number)) {
+    return end;
+  }
+  context_.Advance();
+  return kGoOn;
+}
+
+PhaseResult PictureProduction::MakeImage(PictureWorkshop& workshop, Number number) {
+  ImageRunInfo& image = InfoOf(number);
+  const auto recipe = ImageRecipe(run_, number);
+  if (!recipe) return context_.Settle(context_.target.CopyImage(image));
+  const auto files = Take(workshop, number, Task(number, {recipe, {}}));
+  if (!files) return RunEnd::Cancelled;
+  if (!files->decoded) return NotLoaded("Unable to copy the File \"" + image.Path + "\".");
+  return context_.Settle(context_.target.StoreImage(image, files->image.Bytes()));
+}
+
+std::optional<PictureTask> PictureProduction::PlanImage(Number number) {
+  const auto recipe = ImageRecipe(run_, number);
+  if (!recipe || KeepsExistingImage(number)) return std::nullopt;
+  PictureRequest request{recipe, {}};
+  if (context_.arguments.CreateThumbnails && !KeepsExistingThumbnail(number)) {
+    request.thumbnail = ThumbnailRecipe(run_, number);
+  }
+  return Task(number, std::move(request));
+}
+
+PhaseResult PictureProduction::SizeStep(Number number) {
+  if (auto end = Begin("Getting Image File Size for", number)) return end;
   try {
-    image.FileSize = context.target.ImageSizeText(image);
+    InfoOf(number).FileSize = context_.target.ImageSizeText(InfoOf(number));
   } catch (const RuntimeFailure&) {
     // An image that is not there keeps "0KB".
   }
   return kGoOn;
 }
 
-PhaseResult MakeThumbnail(const RunContext& context, std::int32_t number) {
-  const ImageRunInfo& image = InfoOf(context, number);
-  const auto jpeg = MakeFrom(context, image, ThumbnailRecipe(context.run, number));
-  if (!jpeg) return NotLoaded(context, "Unable to load JPG Image \"" + image.Path + "\".");
-  return context.Settle(context.target.StoreThumbnail(image, *jpeg));
-}
+// Thumbnails
 
-PhaseResult ThumbnailStep(const RunContext& context, std::int32_t number) {
-  const ImageRunInfo& image = InfoOf(context, number);
-  if (auto end = context.Begin(Announcement("Creating Thumbnail for File", context.run, number))) return end;
-  const bool kept = !context.arguments.Overwrite && context.target.ThumbnailExists(image);
-  if (!kept) {
-    if (auto end = MakeThumbnail(context, number)) return end;
+PhaseResult PictureProduction::ThumbnailStep(PictureWorkshop& workshop, Number number) {
+  if (auto end = Begin("Creating Thumbnail for File", number)) return end;
+  if (!KeepsExistingThumbnail(number)) {
+    if (auto end = MakeThumbnail(workshop, number)) return end;
   }
-  context.Advance();
+  context_.Advance();
   return kGoOn;
 }
 
-template <typename Step>
-PhaseResult ForEachImage(const RunContext& context, Step step) {
-  for (std::int32_t number = 1; number <= context.run.ImageCount; ++number) {
-    if (auto end = step(context, number)) return end;
-  }
-  return kGoOn;
+PhaseResult PictureProduction::MakeThumbnail(PictureWorkshop& workshop, Number number) {
+  const ImageRunInfo& image = run_.Info(number);
+  if (const auto bytes = EarlyBytes(number)) return context_.Settle(context_.target.StoreThumbnail(image, *bytes));
+  const auto files = Take(workshop, number, Task(number, {{}, ThumbnailRecipe(run_, number)}));
+  if (!files) return RunEnd::Cancelled;
+  if (!files->decoded) return NotLoaded("Unable to load JPG Image \"" + image.Path + "\".");
+  return context_.Settle(context_.target.StoreThumbnail(image, files->thumbnail.Bytes()));
+}
+
+std::optional<PictureTask> PictureProduction::PlanThumbnail(Number number) {
+  const bool isThere = early_.at(static_cast<std::size_t>(number) - 1).has_value();
+  if (isThere || KeepsExistingThumbnail(number)) return std::nullopt;
+  return Task(number, {{}, ThumbnailRecipe(run_, number)});
+}
+
+void PictureProduction::KeepThumbnail(Number number, const MadePictures& made) {
+  const PictureFile& thumbnail = made.files.thumbnail;
+  if (thumbnail.jpeg.empty() || !made.source) return;
+  const auto place = spool_.Put(thumbnail.jpeg);
+  if (place) early_.at(static_cast<std::size_t>(number) - 1) = EarlyThumbnail{*made.source, *place};
+}
+
+/// The thumbnail that was made with its image, if the source is still the same file.
+std::optional<std::string> PictureProduction::EarlyBytes(Number number) const {
+  const auto& early = early_.at(static_cast<std::size_t>(number) - 1);
+  const auto source = run_.files.Paths().ToNative(run_.Info(number).Path);
+  if (!early || !source || StampOf(*source) != early->source) return std::nullopt;
+  return spool_.Get(early->place);
+}
+
+// Both
+
+PictureTask PictureProduction::Task(Number number, PictureRequest request) const {
+  return {run_.files.Paths().ToNative(run_.Info(number).Path).value_or(""), std::move(request)};
+}
+
+/// What came of the work done ahead for `number`. Where none was done, or the source is another file by now, `task` is
+/// done at once. Nothing when the run was cancelled meanwhile.
+std::optional<PictureFiles> PictureProduction::Take(PictureWorkshop& workshop, Number number, const PictureTask& task) {
+  bool cancelled = false;
+  auto made = workshop.Take(number, [&] {
+    cancelled = context_.Cancelled();
+    return !cancelled;
+  });
+  if (cancelled) return std::nullopt;
+  if (!made || made->source != StampOf(task.source)) made = workshop.Make(task);
+  KeepThumbnail(number, *made);
+  return std::move(made->files);
 }
 
 }  // namespace
 
-PhaseResult ProduceImages(const RunContext& context) {
-  return ForEachImage(context, context.arguments.CreateImages ? ImageStep : SizeStep);
-}
-
-PhaseResult ProduceThumbnails(const RunContext& context) {
+PhaseResult ProducePictures(const RunContext& context) {
+  PictureProduction production(context);
+  if (auto end = context.arguments.CreateImages ? production.Images() : production.Sizes()) return end;
   if (!context.arguments.CreateThumbnails) return kGoOn;
-  return ForEachImage(context, ThumbnailStep);
+  return production.Thumbnails();
 }
 
 }  // namespace vantorium

@@ -9,6 +9,8 @@
 #include "env/Clock.h"
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
+#include "env/Screen.h"
+#include "image/TextRaster.h"
 
 #include <string>
 
@@ -25,6 +27,9 @@ struct RunContext {
   CancelCheck& cancel;
   ProgressWindow& progress;
   GalleryTarget& target;
+  const Screen& screen;
+  const TextRaster& texts;
+  unsigned jobs = 1;  ///< photographs worked on at a time
 
   /// Shows what is being done in the status bar and in the progress window.
   void Announce(const std::string& text) const {

@@ -5,8 +5,10 @@
 #include "core/generation/GenerationMode.h"
 #include "core/generation/ImageRunInfo.h"
 #include "env/mFileFunctions.h"
+#include "image/Watermark.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,6 +29,9 @@ struct RunState {
   std::string ThumbUrlPrefix{};  ///< folder of the thumbnails in addresses, ends in a slash
   std::string LocalImagesDir{};  ///< path text with its trailing backslash
   std::string LocalThumbsDir{};  ///< path text with its trailing backslash
+
+  std::shared_ptr<const WatermarkPainter> ImageWatermark{};      ///< nothing when images get none
+  std::shared_ptr<const WatermarkPainter> ThumbnailWatermark{};  ///< nothing when thumbnails get none
 
   std::vector<ImageRunInfo> RunInfo{};  ///< image i at i - 1
   std::int32_t ImageCount = 0;

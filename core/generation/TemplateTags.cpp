@@ -45,8 +45,7 @@ bool Applies(const TagRow& row, const TagScope& scope) {
 /// The tag that a row replaces: its own, except that the text form of the next image's link, when that has no label,
 /// removes the graphic form and leaves itself. Existing galleries come out so.
 std::string_view ReplacedTag(const TagRow& row, const RunState& run) {
-  const bool removesGraphic =
-      row.tag.data() == kNextImageTextTag.data() && run.project.ImageNextLink.textLinkLabel.empty();
+  const bool removesGraphic = row.tag == kNextImageTextTag && run.project.ImageNextLink.textLinkLabel.empty();
   return removesGraphic ? kNextImageGraphicTag : row.tag;
 }
 

@@ -1,5 +1,7 @@
 #include "tests/fakes/ProjectReading.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 using namespace vantorium;

@@ -1,6 +1,7 @@
 #include "core/ProjectFileWriter.h"
 #include "tests/fakes/ProjectReading.h"
 
+#include <algorithm>
 #include <functional>
 #include <set>
 

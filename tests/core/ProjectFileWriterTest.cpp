@@ -1,5 +1,6 @@
 #include "core/ProjectFileWriter.h"
 #include "env/RuntimeFailure.h"
+#include "env/Text.h"
 #include "tests/fakes/ProjectReading.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,10 @@ class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
   bool Write(const std::string& target) {
     desk.calls.clear();
     return ProjectFileWriter(desk.project, desk.paths, desk.host).WriteProjectFile(target);
+  }
+  /// Compares an element a line, so that a failure shows the one that differs.
+  void ExpectText(const std::string& expected) const {
+    EXPECT_EQ(ReplaceAll(Text(), "><", ">\n<"), ReplaceAll(expected, "><", ">\n<"));
   }
   /// The element of that name in the text, with its attributes and without what it holds.
   [[nodiscard]] std::string Tag(const std::string& name) const {
@@ -78,41 +83,40 @@ void FillIn(ProjectDesk& desk) {
 
 TEST_F(ProjectFileWriterTest, ANewProjectIsWrittenInItsOrder) {
   Edit().textGalleryTitle = "Gallery1";
-  EXPECT_EQ(Text(),
-            "<GALLERYPROJECT VERSION=\"3.0\"><META NAME=\"GENERATOR\" CONTENT=\"Vantorium Image Gallery Creator 3.0\"/>"
-            "<GALLERY TITLE=\"Gallery1\">"
-            "<LAYOUT TYPE=\"singleframe\" IMAGEFRAMENAME=\"_self\" THUMBFRAMENAME=\"thumb_frame\" FRAMESIZE=\"200\" "
-            "RESIZABLE=\"0\" BORDERS=\"0\"/>"
-            "<IMAGES FOLDER=\"Images\"><DESCRIPTIONHEADER><![CDATA[]]></DESCRIPTIONHEADER>"
-            "<DESCRIPTIONFOOTER><![CDATA[]]></DESCRIPTIONFOOTER>"
-            "<MODIFY><SIZE KEEPASPECTRATIO=\"1\" HEIGHT=\"300\" PHYSICALRESIZE=\"1\"/></MODIFY></IMAGES>"
-            "<THUMBNAILS FOLDER=\"Thumbs\"><DESCRIPTIONHEADER><![CDATA[]]></DESCRIPTIONHEADER>"
-            "<DESCRIPTIONFOOTER><![CDATA[]]></DESCRIPTIONFOOTER>"
-            "<MODIFY><SIZE KEEPASPECTRATIO=\"0\" WIDTH=\"60\" HEIGHT=\"60\"/></MODIFY></THUMBNAILS>"
-            "<THUMBNAILPAGE PREFIX=\"thumbpage_\" EXTENSION=\".htm\"><HEADER><![CDATA["
-            "<!-- This code is used to center the contents of the thumbnail page vertically -->\r\n"
-            "<TABLE WIDTH=\"100%\" HEIGHT=\"100%\">\r\n<TR>\r\n<TD VALIGN=\"CENTER\">]]></HEADER>"
-            "<FOOTER><![CDATA[</TD>\r\n</TR>\r\n</TABLE>]]></FOOTER>"
-            "<ARRANGEMENT ROWS=\"5\" COLS=\"5\" ALIGN=\"center\" BORDER=\"0\" CELLSPACING=\"2\" CELLPADDING=\"0\"/>"
-            "<PAGELINKS PLACE=\"top\"><FIRST CAPTION=\"FIRST\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
-            "<LAST CAPTION=\"LAST\" IMAGE=\"\" LASTIMAGE=\"\"/><PREVIOUS CAPTION=\"BACK\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
-            "<NEXT CAPTION=\"NEXT\" IMAGE=\"\" LASTIMAGE=\"\"/></PAGELINKS></THUMBNAILPAGE>"
-            "<IMAGEPAGE PREFIX=\"\" EXTENSION=\".htm\" USE=\"1\"><HEADER><![CDATA["
-            "<!-- This code is used to center the contents of the image wrapper vertically and horizontally -->\r\n"
-            "<TABLE WIDTH=\"100%\" HEIGHT=\"100%\">\r\n<TR>\r\n<TD ALIGN=\"CENTER\" VALIGN=\"CENTER\">]]></HEADER>"
-            "<FOOTER><![CDATA[</TD>\r\n</TR>\r\n</TABLE>]]></FOOTER>"
-            "<PAGELINKS PLACE=\"bottom\"><FIRST CAPTION=\"FIRST\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
-            "<LAST CAPTION=\"LAST\" IMAGE=\"\" LASTIMAGE=\"\"/><PREVIOUS CAPTION=\"BACK\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
-            "<NEXT CAPTION=\"NEXT\" IMAGE=\"\" LASTIMAGE=\"\"/><INDEX CAPTION=\"INDEX\" IMAGE=\"\"/></PAGELINKS>"
-            "</IMAGEPAGE></GALLERY></GALLERYPROJECT>");
+  ExpectText(
+      "<GALLERYPROJECT VERSION=\"3.0\"><META NAME=\"GENERATOR\" CONTENT=\"Vantorium Image Gallery Creator 3.0\"/>"
+      "<GALLERY TITLE=\"Gallery1\">"
+      "<LAYOUT TYPE=\"singleframe\" IMAGEFRAMENAME=\"_self\" THUMBFRAMENAME=\"thumb_frame\" FRAMESIZE=\"200\" "
+      "RESIZABLE=\"0\" BORDERS=\"0\"/>"
+      "<IMAGES FOLDER=\"Images\"><DESCRIPTIONHEADER><![CDATA[]]></DESCRIPTIONHEADER>"
+      "<DESCRIPTIONFOOTER><![CDATA[]]></DESCRIPTIONFOOTER>"
+      "<MODIFY><SIZE KEEPASPECTRATIO=\"1\" HEIGHT=\"300\" PHYSICALRESIZE=\"1\"/></MODIFY></IMAGES>"
+      "<THUMBNAILS FOLDER=\"Thumbs\"><DESCRIPTIONHEADER><![CDATA[]]></DESCRIPTIONHEADER>"
+      "<DESCRIPTIONFOOTER><![CDATA[]]></DESCRIPTIONFOOTER>"
+      "<MODIFY><SIZE KEEPASPECTRATIO=\"0\" WIDTH=\"60\" HEIGHT=\"60\"/></MODIFY></THUMBNAILS>"
+      "<THUMBNAILPAGE PREFIX=\"thumbpage_\" EXTENSION=\".htm\"><HEADER><![CDATA["
+      "<!-- This code is used to center the contents of the thumbnail page vertically -->\r\n"
+      "<TABLE WIDTH=\"100%\" HEIGHT=\"100%\">\r\n<TR>\r\n<TD VALIGN=\"CENTER\">]]></HEADER>"
+      "<FOOTER><![CDATA[</TD>\r\n</TR>\r\n</TABLE>]]></FOOTER>"
+      "<ARRANGEMENT ROWS=\"5\" COLS=\"5\" ALIGN=\"center\" BORDER=\"0\" CELLSPACING=\"2\" CELLPADDING=\"0\"/>"
+      "<PAGELINKS PLACE=\"top\"><FIRST CAPTION=\"FIRST\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
+      "<LAST CAPTION=\"LAST\" IMAGE=\"\" LASTIMAGE=\"\"/><PREVIOUS CAPTION=\"BACK\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
+      "<NEXT CAPTION=\"NEXT\" IMAGE=\"\" LASTIMAGE=\"\"/></PAGELINKS></THUMBNAILPAGE>"
+      "<IMAGEPAGE PREFIX=\"\" EXTENSION=\".htm\" USE=\"1\"><HEADER><![CDATA["
+      "<!-- This code is used to center the contents of the image wrapper vertically and horizontally -->\r\n"
+      "<TABLE WIDTH=\"100%\" HEIGHT=\"100%\">\r\n<TR>\r\n<TD ALIGN=\"CENTER\" VALIGN=\"CENTER\">]]></HEADER>"
+      "<FOOTER><![CDATA[</TD>\r\n</TR>\r\n</TABLE>]]></FOOTER>"
+      "<PAGELINKS PLACE=\"bottom\"><FIRST CAPTION=\"FIRST\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
+      "<LAST CAPTION=\"LAST\" IMAGE=\"\" LASTIMAGE=\"\"/><PREVIOUS CAPTION=\"BACK\" IMAGE=\"\" FIRSTIMAGE=\"\"/>"
+      "<NEXT CAPTION=\"NEXT\" IMAGE=\"\" LASTIMAGE=\"\"/><INDEX CAPTION=\"INDEX\" IMAGE=\"\"/></PAGELINKS>"
+      "</IMAGEPAGE></GALLERY></GALLERYPROJECT>");
 }
 
 TEST_F(ProjectFileWriterTest, AProjectWithEveryPartIsWrittenInItsOrder) {
   FillIn(desk);
-  EXPECT_EQ(
-      Text(),
+  ExpectText(
       "<GALLERYPROJECT VERSION=\"3.0\"><META NAME=\"GENERATOR\" CONTENT=\"Vantorium Image Gallery Creator 3.0\"/>"
-      "<GALLERY TITLE=\"A &quot;title&quot; &amp; &lt;more&gt;\"><HEAD><![CDATA[<META>\r\n]]></HEAD>"
+      "<GALLERY TITLE=\"A &quot;title&quot; &amp; &lt;more>\"><HEAD><![CDATA[<META>\r\n]]></HEAD>"
       "<INFO><![CDATA[info]]></INFO>"
       "<LAYOUT TYPE=\"singleframe\" IMAGEFRAMENAME=\"_self\" THUMBFRAMENAME=\"thumb_frame\" FRAMESIZE=\"200\" "
       "RESIZABLE=\"0\" BORDERS=\"0\"><SLIDESHOW FIRSTSLIDE=\"firstThumbPage\" NEXTSLIDE=\"nextImage\" "

@@ -11,10 +11,10 @@ namespace vantorium::fakes {
 struct ProjectFileParts {
   std::string gallery = "TITLE=\"Holidays\"";
   std::string layout = "<LAYOUT TYPE=\"singleframe\"/>";
-  std::string lists;  ///< IMAGES and THUMBNAILS
-  std::string thumbnailPageAttributes;
+  std::string lists = "";  ///< IMAGES and THUMBNAILS
+  std::string thumbnailPageAttributes = "";
   std::string thumbnailPage = "<ARRANGEMENT/><PAGELINKS/>";
-  std::string imagePage;
+  std::string imagePage = "";
 
   [[nodiscard]] std::string Text() const {
     return "<GALLERYPROJECT><GALLERY " + gallery + ">" + layout + lists + "<THUMBNAILPAGE " + thumbnailPageAttributes +

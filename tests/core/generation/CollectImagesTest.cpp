@@ -21,7 +21,7 @@ class CollectImagesTest : public RunFixture {
     const auto progress = host.CreateProgressWindow();
     const RunArguments arguments;
     LocalTarget target(run);
-    return CollectImages({run, arguments, host, boxes, loop, clock, cancel, *progress, target});
+    return CollectImages({run, arguments, host, boxes, loop, clock, cancel, *progress, target, screen, texts});
   }
   [[nodiscard]] Sizes SizesOf(std::int32_t image) const {
     const ImageRunInfo& info = run.Info(image);

@@ -19,6 +19,9 @@ class ProducePicturesTest : public RunFixture {
     const timespec times[2] = {{seconds, 0}, {seconds, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, (folder.Path() / file).c_str(), times, 0), 0);
   }
+  [[nodiscard]] bool IsShown(const std::string& text) const {
+    return !host.statuses.empty() && host.statuses.back() == text;
+  }
   [[nodiscard]] std::int64_t WriteTime(const std::string& file) const {
     struct stat status = {};
     EXPECT_EQ(::stat((folder.Path() / file).c_str(), &status), 0) << file;
@@ -173,6 +176,81 @@ TEST_F(ProducePicturesTest, ASizeWithoutPixelsFailsAndSaysWhich) {
   EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
   EXPECT_NE(boxes.boxes.at(0).text.find("10 x 0 pixels"), std::string::npos) << boxes.boxes.at(0).text;
+}
+
+// What the work done ahead must not show
+
+TEST_F(ProducePicturesTest, TheFilesAreTheSameForEveryNumberOfJobs) {
+  for (int i = 0; i < 12; ++i) AddPhotograph("p" + std::to_string(i), 30 + i, 50 - i);
+  project.settings.ImageFilters.checkNoise = 1;
+  project.settings.ThumbnailFilters.checkNoise = 1;
+  Run(CreateArguments());
+  const auto names = FilesIn("out");
+  std::filesystem::rename(folder.Path() / "out", folder.Path() / "first");
+  for (unsigned jobs : {2U, 4U}) {
+    RunEnvironment other = environment;
+    other.jobs = jobs;
+    EXPECT_EQ(GenerateGallery(project, CreateArguments(), other), RunEnd::Success);
+    EXPECT_EQ(FilesIn("out"), names);
+    for (const auto& name : names) EXPECT_EQ(folder.Read("out/" + name), folder.Read("first/" + name)) << name;
+  }
+}
+
+TEST_F(ProducePicturesTest, ASourceThatVanishesBehindItsImageFailsItsThumbnail) {
+  AddPhotograph("a");
+  AddPhotograph("b");
+  loop.onTurn = [this](int) {
+    if (IsShown("Creating Thumbnail for File \"b\"...")) {
+      std::filesystem::remove(folder.Path() / "photos/b.jpg");
+    }
+  };
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(boxes.boxes.at(0).text, "Unable to load JPG Image \"T:\\photos\\b.jpg\".");
+  EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg", "Images/b.jpg", "Thumbs/thumb_a.jpg"}));
+}
+
+TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsImageFailsThereAndNotAhead) {
+  for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
+  loop.onTurn = [this](int) {
+    if (IsShown("Copying File \"b\"...")) std::filesystem::remove(folder.Path() / "photos/b.jpg");
+  };
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(boxes.boxes.at(0).text, "Unable to copy the File \"T:\\photos\\b.jpg\".");
+  EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg"}));
+}
+
+TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
+  AddPhotograph("a", 40, 30);
+  loop.onTurn = [this](int) {
+    if (IsShown("Creating Thumbnail for File \"a\"...")) {
+      folder.Write("photos/a.jpg", PlainJpeg(40, 30, 250));
+    }
+  };
+  Run(CreateArguments());
+  cDIBSection thumbnail;
+  ASSERT_TRUE(LoadJPEGImage(thumbnail, folder.Path() / "out/Thumbs/thumb_a.jpg"));
+  EXPECT_GE(*thumbnail.Row(0), 245);
+}
+
+TEST_F(ProducePicturesTest, AnImageThatReplacesItsOwnSourceIsWhatItsThumbnailIsMadeOf) {
+  folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
+  AddEntry("a", "T:\\out\\Images\\a.jpg");
+  project.settings.textImageWrapperImageHeight = "8";
+  project.settings.checkThumbnailsImageKeepAspectRatio = 0;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(SizeOf("out/Images/a.jpg"), Size(8, 8));
+  EXPECT_EQ(SizeOf("out/Thumbs/thumb_a.jpg"), Size(60, 60));
+}
+
+TEST_F(ProducePicturesTest, AnImageThatIsThereByItsTurnIsKeptThoughItWasMadeAhead) {
+  AddPhotograph("a");
+  RunArguments arguments = CreateArguments();
+  arguments.Overwrite = false;
+  loop.onTurn = [this](int) {
+    if (IsShown("Creating Thumbnail for File \"a\"...")) folder.Write("out/Thumbs/thumb_a.jpg", "mine");
+  };
+  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  EXPECT_EQ(folder.Read("out/Thumbs/thumb_a.jpg"), "mine");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "core/generation/GenerateGallery.h"
 #include "env/FileOutput.h"
 #include "image/JPEG.h"
+#include "image/PangoTextRaster.h"
 #include "image/cDIBSection.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
@@ -90,7 +91,9 @@ class RunFixture : public ::testing::Test {
   fakes::FixedClock clock;
   fakes::RecordingShell shell{journal};
   CancelCheck cancel{boxes};
-  RunEnvironment environment{host, boxes, loop, clock, shell, files, formats, cancel};
+  Screen screen;
+  PangoTextRaster texts;
+  RunEnvironment environment{host, boxes, loop, clock, shell, files, formats, cancel, screen, texts};
 };
 
 }  // namespace vantorium

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+
+#include <jpeglib.h>
+
+namespace vantorium {
+
+// What the header of a JPEG file claims, once it was read.
+
+/// Blocks of 8 x 8 samples of all components.
+[[nodiscard]] std::uint64_t BlocksOf(const jpeg_decompress_struct& codec);
+
+/// Whether a file of so many bytes can hold the claimed blocks.
+[[nodiscard]] bool CanHold(std::uint64_t bytes, const jpeg_decompress_struct& codec);
+
+}  // namespace vantorium

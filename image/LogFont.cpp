@@ -1,0 +1,35 @@
+#include "image/LogFont.h"
+
+#include "env/Numbers.h"
+
+#include <cstdlib>
+
+namespace vantorium {
+namespace {
+
+constexpr std::size_t kFaceNameCharacters = 31;
+
+/// The first characters of a UTF-8 text, whole ones.
+std::string FirstCharacters(const std::string& text, std::size_t count) {
+  std::size_t end = 0;
+  for (; end < text.size(); ++end) {
+    const bool begins = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80U;
+    if (begins && count-- == 0) break;
+  }
+  return text.substr(0, end);
+}
+
+}  // namespace
+
+LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixelsPerInch) {
+  LogFont font;
+  font.lfHeight = -MulDivRounded(settings.FontSize, pixelsPerInch, 72);
+  font.lfWeight = std::abs(std::int32_t{settings.FontWeight});
+  font.lfItalic = settings.FontItalic ? 1 : 0;
+  font.lfUnderline = settings.FontUnderline ? 1 : 0;
+  font.lfStrikeOut = settings.FontStrikeout ? 1 : 0;
+  font.lfFaceName = FirstCharacters(settings.FontName, kFaceNameCharacters);
+  return font;
+}
+
+}  // namespace vantorium

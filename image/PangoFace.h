@@ -1,0 +1,48 @@
+#pragma once
+
+#include "image/LogFont.h"
+#include "image/PangoHandles.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vantorium {
+
+/// The fonts of the machine, as texts without antialiasing use them: what the user's settings say about hinting and
+/// smoothing counts for nothing, and "Arial" is Liberation Sans, which has the same widths.
+[[nodiscard]] GObjectHandle<PangoFontMap> MakeFontMap();
+
+/// One font at one size, upright. All measures are pixels.
+class PangoFace {
+ public:
+  /// `map` must live as long as the face.
+  PangoFace(PangoFontMap* map, const LogFont& font);
+
+  [[nodiscard]] std::int32_t EmHeight() const { return emHeight_; }
+  [[nodiscard]] std::int32_t Ascent() const { return ascent_; }
+  [[nodiscard]] std::int32_t LineHeight() const { return ascent_ + descent_; }
+  [[nodiscard]] std::int32_t Descent() const { return descent_; }
+
+  /// A horizontal stroke: the rows from `top` on, counted downwards from the base line.
+  struct Stroke {
+    std::int32_t top;
+    std::int32_t thickness;
+  };
+  [[nodiscard]] Stroke Underline() const;
+  [[nodiscard]] Stroke Strikeout() const;
+
+  /// A text of one line, shaped. UTF-8 without control characters.
+  [[nodiscard]] GObjectHandle<PangoLayout> Shape(const std::string& line) const;
+
+ private:
+  void SetHeights(const LogFont& font);
+
+  GObjectHandle<PangoContext> context_;
+  FontDescriptionHandle description_;
+  FontMetricsHandle metrics_;
+  std::int32_t emHeight_ = 0;
+  std::int32_t ascent_ = 0;
+  std::int32_t descent_ = 0;
+};
+
+}  // namespace vantorium

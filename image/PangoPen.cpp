@@ -1,0 +1,140 @@
+#include "image/PangoPen.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace vantorium {
+namespace {
+
+/// Letters up to this em are drawn pixel by pixel to the font's own rules, larger ones as the outlines that the rules
+/// would hardly change.
+constexpr std::int32_t kLargestBitmapEm = 1024;
+
+/// How far letters and their marks may reach out of their line, in ems.
+constexpr int kReach = 3;
+
+void DrawGlyphs(cairo_t* cairo, PangoFont* font, PangoGlyphString* glyphs, bool asOutlines) {
+  if (!asOutlines) {
+    pango_cairo_show_glyph_string(cairo, font, glyphs);
+    return;
+  }
+  pango_cairo_glyph_string_path(cairo, font, glyphs);
+  cairo_fill(cairo);
+}
+
+std::int64_t WidthOf(const PangoGlyphString& glyphs) {
+  std::int64_t width = 0;
+  for (int i = 0; i < glyphs.num_glyphs; ++i) width += glyphs.glyphs[i].geometry.width;
+  return width;
+}
+
+template <typename Visit>
+void ForEachRun(const PangoLayoutLine* line, Visit visit) {
+  for (const GSList* run = line->runs; run != nullptr; run = run->next) {
+    visit(*static_cast<const PangoLayoutRun*>(run->data));
+  }
+}
+
+/// Some neighbouring letters of a string, and where the first one stands, in the library's units. The letters stay
+/// those of the string.
+struct GlyphPart {
+  PangoGlyphString glyphs;
+  std::int64_t start;
+};
+
+/// The letters between two positions, from the string's first letter at `start`.
+GlyphPart PartBetween(const PangoGlyphString& whole, std::int64_t start, double from, double to) {
+  int first = 0;
+  std::int64_t position = start;
+  while (first < whole.num_glyphs && static_cast<double>(position + whole.glyphs[first].geometry.width) < from) {
+    position += whole.glyphs[first++].geometry.width;
+  }
+  int end = first;
+  for (std::int64_t at = position; end < whole.num_glyphs && static_cast<double>(at) <= to; ++end) {
+    at += whole.glyphs[end].geometry.width;
+  }
+  PangoGlyphString part = whole;
+  part.glyphs += first;
+  part.log_clusters += first;
+  part.num_glyphs = end - first;
+  return {part, position};
+}
+
+}  // namespace
+
+PangoLine::PangoLine(const PangoFace& face, const std::string& text)
+    : face_(face), layout_(face.Shape(text)), line_(pango_layout_get_line_readonly(layout_.get(), 0)) {
+  std::int64_t width = 0;
+  ForEachRun(line_, [&width](const PangoLayoutRun& run) { width += WidthOf(*run.glyphs); });
+  width_ = (width + PANGO_SCALE - 1) / PANGO_SCALE;
+}
+
+void PangoLine::DrawLetters(cairo_t* cairo, double from, double to) const {
+  const double reach = static_cast<double>(kReach) * face_.EmHeight();
+  std::int64_t start = 0;
+  ForEachRun(line_, [&](const PangoLayoutRun& run) {
+    GlyphPart part = PartBetween(*run.glyphs, start, (from - reach) * PANGO_SCALE, (to + reach) * PANGO_SCALE);
+    if (part.glyphs.num_glyphs > 0) {
+      cairo_move_to(cairo, static_cast<double>(part.start) / PANGO_SCALE, 0);
+      DrawGlyphs(cairo, run.item->analysis.font, &part.glyphs, face_.EmHeight() > kLargestBitmapEm);
+    }
+    start += WidthOf(*run.glyphs);
+  });
+}
+
+PangoPen::PangoPen(const PangoFace& face, const LogFont& font, cairo_surface_t* surface)
+    : face_(face),
+      underline_(font.lfUnderline != 0),
+      strikeout_(font.lfStrikeOut != 0),
+      surfaceWidth_(cairo_image_surface_get_width(surface)),
+      surfaceHeight_(cairo_image_surface_get_height(surface)),
+      cairo_(cairo_create(surface)) {
+  cairo_set_antialias(cairo_.get(), CAIRO_ANTIALIAS_NONE);
+}
+
+void PangoPen::Turn(double degrees) {
+  cairo_rotate(cairo_.get(), -degrees * std::numbers::pi / 180);
+}
+
+void PangoPen::Draw(const PangoLine& line, double top) {
+  cairo_save(cairo_.get());
+  cairo_translate(cairo_.get(), 0, top + face_.Ascent());
+  const Window window = Visible();
+  line.DrawLetters(cairo_.get(), window.left, window.right);
+  const double from = std::max(0.0, window.left);
+  const double to = std::min(static_cast<double>(line.Width()), window.right);
+  if (underline_) DrawStroke(face_.Underline(), from, to);
+  if (strikeout_) DrawStroke(face_.Strikeout(), from, to);
+  cairo_restore(cairo_.get());
+}
+
+bool PangoPen::Shows(double top, double height) const {
+  const double reach = static_cast<double>(kReach) * face_.EmHeight();
+  const Window window = Visible();
+  return top - reach <= window.bottom && top + height + reach >= window.top;
+}
+
+PangoPen::Window PangoPen::Visible() const {
+  Window window = {0, 0, 0, 0};
+  bool first = true;
+  for (double x : {0.0, surfaceWidth_}) {
+    for (double y : {0.0, surfaceHeight_}) {
+      double u = x;
+      double v = y;
+      cairo_device_to_user(cairo_.get(), &u, &v);
+      window = first ? Window{u, v, u, v}
+                     : Window{std::min(window.left, u), std::min(window.top, v), std::max(window.right, u),
+                              std::max(window.bottom, v)};
+      first = false;
+    }
+  }
+  return window;
+}
+
+void PangoPen::DrawStroke(PangoFace::Stroke stroke, double from, double to) {
+  if (from >= to) return;
+  cairo_rectangle(cairo_.get(), from, stroke.top, to - from, stroke.thickness);
+  cairo_fill(cairo_.get());
+}
+
+}  // namespace vantorium

@@ -1,0 +1,56 @@
+#include "core/generation/OutputNaming.h"
+#include "tests/core/generation/PageFixture.h"
+
+namespace vantorium::tests {
+namespace {
+
+using OutputNaming = PageTest;
+
+TEST_F(OutputNaming, AFileNameIsTheListTextWithTheSourcesExtension) {
+  EXPECT_EQ(BuildFileName("Sunset", "C:\\Photos\\IMG_1.JPG"), "Sunset.JPG");
+  EXPECT_EQ(BuildFileName("a.b", "C:\\Photos\\x.y.jpeg"), "a.b.jpeg");
+  EXPECT_EQ(BuildFileName("Sunset", "C:\\Photos\\IMG_1"), "Sunset");
+  EXPECT_EQ(BuildFileName("", "x.jpg"), ".jpg");
+}
+
+TEST_F(OutputNaming, PagesAreNumberedWithoutPadding) {
+  EXPECT_EQ(ThumbnailPageName(project, 1), "thumbpage_1.htm");
+  EXPECT_EQ(ThumbnailPageName(project, 100'000), "thumbpage_100000.htm");
+  project.textThumbnailPageSettingsFilePrefix = "";
+  EXPECT_EQ(ThumbnailPageName(project, 2), "2.htm");
+}
+
+TEST_F(OutputNaming, WrapperPagesAndThumbnailsBearTheNameOfTheirImage) {
+  AddImage("Sunset");
+  EXPECT_EQ(WrapperPageName(project, "Sunset"), "Sunset.htm");
+  EXPECT_EQ(ThumbnailFileName(project, run.Info(1)), "thumb_Sunset.JPG");
+}
+
+TEST_F(OutputNaming, AFolderInAddressesHasSlashesAndOneAtItsEnd) {
+  EXPECT_EQ(UrlFolder("Images"), "Images/");
+  EXPECT_EQ(UrlFolder("Images\\Big"), "Images/Big/");
+  EXPECT_EQ(UrlFolder("Images\\"), "Images/");
+  EXPECT_EQ(UrlFolder("Images/"), "Images/");
+  EXPECT_EQ(UrlFolder(""), "/");
+}
+
+TEST_F(OutputNaming, AnImageIsFoundInItsFolderAndInAPreviewAtItsSource) {
+  AddImage("Sunset");
+  Prepare();
+  EXPECT_EQ(ImageUrl(run, 1), "Images/Sunset.JPG");
+  EXPECT_EQ(ImageTarget(run, 1), "Sunset.htm");
+  project.checkImageWrapperUse = 0;
+  EXPECT_EQ(ImageTarget(run, 1), "Images/Sunset.JPG");
+  Prepare(GenerationMode::Preview);
+  EXPECT_EQ(ImageUrl(run, 1), "file:///home/anna/Photos/Sunset.JPG");
+  EXPECT_EQ(ImageTarget(run, 1), "file:///home/anna/Photos/Sunset.JPG");
+}
+
+TEST_F(OutputNaming, ASourceThatNoDriveHoldsKeepsItsTextWithSlashes) {
+  AddImage("Sunset");
+  run.RunInfo[0].Path = "Q:\\a b\\x.jpg";
+  EXPECT_EQ(SourceUrl(run, 1), "file://Q:/a b/x.jpg");
+}
+
+}  // namespace
+}  // namespace vantorium::tests

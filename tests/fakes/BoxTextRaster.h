@@ -1,0 +1,45 @@
+#pragma once
+
+#include "image/TextRaster.h"
+
+#include <algorithm>
+#include <atomic>
+#include <string>
+
+namespace vantorium::fakes {
+
+/// Texts as full boxes of a given size, not turned, and a record of what was asked.
+class BoxTextRaster : public TextRaster {
+ public:
+  BoxTextRaster(std::int64_t width, std::int64_t height) : extent{width, height} {}
+
+  [[nodiscard]] TextExtent Measure(const LogFont& /*font*/, std::string_view text, TextForm /*form*/) const override {
+    return text.empty() ? TextExtent{} : extent;
+  }
+
+  [[nodiscard]] TextMask Draw(const LogFont& /*font*/, std::string_view text, const TextPlace& place,
+                              std::int32_t pictureWidth, std::int32_t pictureHeight) const override {
+    ++drawn;
+    if (text.empty()) return {};
+    const auto width = static_cast<std::int32_t>(extent.width);
+    const auto height = static_cast<std::int32_t>(extent.height);
+    const std::int32_t left = place.form == TextForm::Line ? place.x - width / 2 : place.x;
+    const std::int32_t top = place.form == TextForm::Line ? place.y - height : place.y;
+    return Box(std::max(left, 0), std::max(top, 0), std::min(left + width, pictureWidth),
+               std::min(top + height, pictureHeight));
+  }
+
+  TextExtent extent;
+  mutable std::atomic<int> drawn = 0;
+
+ private:
+  static TextMask Box(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
+    TextMask mask(left, top, right - left, bottom - top);
+    for (std::int32_t y = top; y < bottom; ++y) {
+      for (std::int32_t x = left; x < right; ++x) mask.Cover(x, y);
+    }
+    return mask;
+  }
+};
+
+}  // namespace vantorium::fakes

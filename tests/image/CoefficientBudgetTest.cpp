@@ -1,0 +1,75 @@
+#include "image/CoefficientBudget.h"
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Takes a share on a thread of its own and tells when it has it.
+class Taker {
+ public:
+  Taker(CoefficientBudget& budget, std::uint64_t bytes)
+      : thread_([this, &budget, bytes](const std::stop_token& stop) {
+          const auto share = budget.Take(bytes, stop);
+          has_ = true;
+          has_.notify_all();
+          while (!stop.stop_requested()) std::this_thread::sleep_for(1ms);
+        }) {}
+  [[nodiscard]] bool HasSoon() const {
+    for (int i = 0; i < 50 && !has_; ++i) std::this_thread::sleep_for(1ms);
+    return has_;
+  }
+  void AwaitShare() const { has_.wait(false); }
+  void GiveBack() {
+    thread_.request_stop();
+    thread_.join();
+  }
+
+ private:
+  std::atomic<bool> has_ = false;
+  std::jthread thread_;
+};
+
+TEST(CoefficientBudget, SharesThatFitAreGivenAtOnce) {
+  CoefficientBudget budget(100);
+  const auto first = budget.Take(60, {});
+  const auto second = budget.Take(40, {});
+  const auto nothing = budget.Take(0, {});
+}
+
+TEST(CoefficientBudget, AShareThatDoesNotFitWaitsForOthersToEnd) {
+  CoefficientBudget budget(100);
+  Taker first(budget, 60);
+  first.AwaitShare();
+  Taker second(budget, 60);
+  EXPECT_FALSE(second.HasSoon());
+  first.GiveBack();
+  second.AwaitShare();
+}
+
+TEST(CoefficientBudget, AShareBeyondTheWholeIsGivenWhenItIsAlone) {
+  CoefficientBudget budget(100);
+  Taker small(budget, 1);
+  small.AwaitShare();
+  Taker large(budget, 1000);
+  EXPECT_FALSE(large.HasSoon());
+  small.GiveBack();
+  large.AwaitShare();
+}
+
+TEST(CoefficientBudget, AStopEndsTheWaiting) {
+  CoefficientBudget budget(100);
+  const auto whole = budget.Take(100, {});
+  Taker waiting(budget, 50);
+  EXPECT_FALSE(waiting.HasSoon());
+  waiting.GiveBack();
+}
+
+}  // namespace
+}  // namespace vantorium

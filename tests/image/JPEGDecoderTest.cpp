@@ -1,0 +1,149 @@
+#include "image/JPEGDecoder.h"
+#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <random>
+#include <stop_token>
+
+namespace vantorium {
+namespace {
+
+using Rows = std::vector<std::vector<std::uint8_t>>;
+
+constexpr std::uint8_t kGuard = 0xA5;
+
+// A file of one kind.
+struct Sample {
+  explicit Sample(const fakes::JpegRecipe& kind) : recipe(kind), path(folder.Write("picture.jpg", MakeJpeg(kind))) {}
+
+  fakes::JpegRecipe recipe;
+  fakes::TemporaryFolder folder;
+  std::filesystem::path path;
+};
+
+// With one more byte, which the decoder must leave alone.
+std::vector<std::uint8_t> NextRow(JPEGDecoder& decoder) {
+  std::vector<std::uint8_t> row(static_cast<std::size_t>(decoder.width()) * 3 + 1, kGuard);
+  EXPECT_TRUE(decoder.ReadRow(row.data()));
+  EXPECT_EQ(row.back(), kGuard);
+  return row;
+}
+
+Rows AllRows(const std::filesystem::path& path) {
+  JPEGDecoder decoder;
+  Rows rows;
+  if (!decoder.Open(path) || !decoder.Start()) return rows;
+  for (std::int32_t y = 0; y < decoder.height(); ++y) rows.push_back(NextRow(decoder));
+  EXPECT_TRUE(decoder.Finish());
+  return rows;
+}
+
+// Reads some rows and skips the others, now by single rows and now by many. The last row is always read, as by every
+// use of the pictures. The rows that were not as wanted.
+std::vector<std::int32_t> WrongRows(const std::filesystem::path& path, const Rows& wanted, unsigned seed) {
+  std::mt19937 generator(seed);
+  const auto most = static_cast<std::int32_t>(1 + generator() % 40);
+  JPEGDecoder decoder;
+  EXPECT_TRUE(decoder.Open(path) && decoder.Start());
+  std::vector<std::int32_t> wrong;
+  for (std::int32_t y = 0; y < decoder.height(); ++y) {
+    const auto skipped = std::min(static_cast<std::int32_t>(generator() % 1000) % most, decoder.height() - 1 - y);
+    EXPECT_TRUE(decoder.SkipRows(skipped));
+    y += skipped;
+    if (NextRow(decoder) != wanted.at(static_cast<std::size_t>(y))) wrong.push_back(y);
+  }
+  EXPECT_TRUE(decoder.Finish());
+  return wrong;
+}
+
+TEST(JPEGDecoder, RowsBehindSkippedOnesComeOutAsIfAllWereRead) {
+  for (const auto& recipe : fakes::EveryKindOfJpeg()) {
+    SCOPED_TRACE(testing::Message() << recipe);
+    const Sample sample(recipe);
+    const Rows rows = AllRows(sample.path);
+    ASSERT_EQ(rows.size(), static_cast<std::size_t>(recipe.height));
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+      ASSERT_EQ(WrongRows(sample.path, rows, seed), std::vector<std::int32_t>()) << "seed " << seed;
+    }
+  }
+}
+
+TEST(JPEGDecoder, OnlyFilesInSeveralScansHoldCoefficients) {
+  for (const auto& recipe : fakes::EveryKindOfJpeg()) {
+    const Sample sample(recipe);
+    JPEGDecoder decoder;
+    ASSERT_TRUE(decoder.Open(sample.path)) << recipe;
+    const auto pixels = static_cast<std::uint64_t>(recipe.width) * static_cast<std::uint64_t>(recipe.height);
+    if (recipe.progressive) {
+      EXPECT_GE(decoder.HeldBytes(), 2 * pixels) << recipe;
+    } else {
+      EXPECT_EQ(decoder.HeldBytes(), 0U) << recipe;
+    }
+  }
+}
+
+TEST(JPEGDecoder, AStopEndsTheDecoding) {
+  for (const auto& recipe : fakes::EveryKindOfJpeg()) {
+    const Sample sample(recipe);
+    std::stop_source stop;
+    JPEGDecoder decoder;
+    decoder.StopWith(stop.get_token());
+    ASSERT_TRUE(decoder.Open(sample.path)) << recipe;
+    stop.request_stop();
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(decoder.width()) * 3);
+    EXPECT_FALSE(decoder.Start() && decoder.ReadRow(row.data())) << recipe;
+  }
+}
+
+TEST(JPEGDecoder, CallsBeforeAFileIsOpenAreRefused) {
+  std::uint8_t row[3] = {};
+  JPEGDecoder decoder;
+  EXPECT_FALSE(decoder.Open("missing"));
+  EXPECT_EQ(decoder.HeldBytes(), 0U);
+  EXPECT_FALSE(decoder.Start());
+  EXPECT_FALSE(decoder.ReadRow(row));
+  EXPECT_FALSE(decoder.SkipRows(1));
+  EXPECT_FALSE(decoder.Finish());
+}
+
+TEST(JPEGDecoder, FinishingBeforeTheLastRowIsAFailure) {
+  const fakes::TemporaryFolder folder;
+  JPEGDecoder decoder;
+  ASSERT_TRUE(decoder.Open(folder.Write("picture.jpg", fakes::MakeJpeg({}))) && decoder.Start());
+  EXPECT_FALSE(decoder.Finish());
+}
+
+TEST(JPEGDecoder, AGivenUpFileStaysGivenUp) {
+  const fakes::TemporaryFolder folder;
+  const std::string jpeg = fakes::MakeJpeg({.width = 100, .height = 100});
+  JPEGDecoder decoder;
+  ASSERT_TRUE(decoder.Open(folder.Write("cut.jpg", jpeg.substr(0, jpeg.size() / 2))) && decoder.Start());
+  std::vector<std::uint8_t> row(300);
+  while (decoder.ReadRow(row.data())) {
+  }
+  EXPECT_FALSE(decoder.ReadRow(row.data()));
+  EXPECT_FALSE(decoder.SkipRows(1));
+  EXPECT_FALSE(decoder.Finish());
+}
+
+TEST(JPEGDecoder, AnotherFileMayBeOpenedBehindABadOne) {
+  const fakes::TemporaryFolder folder;
+  JPEGDecoder decoder;
+  EXPECT_FALSE(decoder.Open(folder.Write("text.jpg", "no picture")));
+  EXPECT_FALSE(decoder.Start());
+  ASSERT_TRUE(decoder.Open(folder.Write("good.jpg", fakes::MakeJpeg({}))));
+  EXPECT_TRUE(decoder.Start());
+}
+
+TEST(JPEGDecoder, DamageAmongSkippedRowsIsNoticed) {
+  const fakes::TemporaryFolder folder;
+  std::string jpeg = fakes::MakeJpeg({.width = 200, .height = 200, .restartEvery = 4});
+  jpeg.erase(fakes::PictureDataOf(jpeg) + 100, 400);
+  JPEGDecoder decoder;
+  ASSERT_TRUE(decoder.Open(folder.Write("damaged.jpg", jpeg)) && decoder.Start());
+  std::vector<std::uint8_t> row(600);
+  EXPECT_FALSE(decoder.SkipRows(199) && decoder.ReadRow(row.data()) && decoder.Finish());
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "image/cDIBSection.h"
+
+#include <cstdint>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// A pixel as a person thinks of it.
+struct RGB {
+  int r = 0;
+  int g = 0;
+  int b = 0;
+  bool operator==(const RGB&) const = default;
+};
+std::ostream& operator<<(std::ostream& stream, const RGB& colour);
+
+/// A picture of one colour; its padding bytes are 0xA5.
+[[nodiscard]] cDIBSection Plain(std::int32_t width, std::int32_t height, RGB colour);
+/// A picture of random bytes; its padding bytes are 0xA5.
+[[nodiscard]] cDIBSection Random(std::int32_t width, std::int32_t height, unsigned seed);
+/// 4096 x 4096 pixels: every colour there is once.
+[[nodiscard]] cDIBSection EveryColour();
+[[nodiscard]] cDIBSection CopyOf(const cDIBSection& dib);
+
+/// The pixel at a column from the left and a memory row.
+[[nodiscard]] RGB PixelAt(const cDIBSection& dib, std::int32_t x, std::int32_t y);
+
+/// Where two pictures differ first, in words; empty when all their bytes are equal, padding included.
+[[nodiscard]] std::string Difference(const cDIBSection& got, const cDIBSection& wanted);
+
+/// Whether all padding bytes are still 0xA5.
+[[nodiscard]] bool PaddingUntouched(const cDIBSection& dib);
+/// Sets all bytes to 0xA5.
+void Paint(cDIBSection& dib);
+
+}  // namespace vantorium::fakes
