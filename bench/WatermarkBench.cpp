@@ -1,0 +1,111 @@
+// The watermark on a picture of 24 megapixels, one thread, and memcpy of the same picture. What counts is the ratio to
+// memcpy, which is printed below the table as the median of several rounds that measure both in turn.
+#include "image/Filters.h"
+#include "image/PangoTextRaster.h"
+#include "image/TransparentCopy.h"
+#include "image/Watermark.h"
+#include "image/WatermarkLiteral.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace vantorium {
+namespace {
+
+constexpr std::int32_t kWidth = 6000;
+constexpr std::int32_t kHeight = 4000;
+
+cDIBSection Noise(std::uint64_t number) {
+  cDIBSection made;
+  if (!made.Create(kWidth, kHeight)) std::abort();
+  NoiseStream stream(1, number);
+  RandomiseBits(made, false, stream);
+  return made;
+}
+
+/// The pictures and tools of all measurements.
+struct Bench {
+  cDIBSection picture = Noise(0);
+  cDIBSection source = Noise(1);
+  cDIBSection copy = Noise(2);
+  PangoTextRaster raster;
+  WatermarkSettings settings = {.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
+  WatermarkPainter painter{settings, 96, raster};
+
+  void Copy() {
+    const auto bytes = static_cast<std::size_t>(picture.BytesPerScanLine()) * static_cast<std::size_t>(kHeight);
+    std::memcpy(copy.DIBSectionBitsPtr(), picture.DIBSectionBitsPtr(), bytes);
+    benchmark::ClobberMemory();
+  }
+  void Blend(std::uint8_t alpha) { benchmark::DoNotOptimize(TransparentCopy(source, picture, 0, alpha)); }
+  void DrawInPictureOfNewSize() { WatermarkPainter(settings, 96, raster).Draw(picture); }
+  void DrawLiterally() {
+    LogFont font = MakeWatermarkFont(settings, 96);
+    DrawWatermarkTextLiteral(picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color, 65,
+                             raster);
+  }
+};
+
+struct Work {
+  const char* name;
+  double limit;  // times memcpy; 0 when there is none
+  std::function<void()> run;
+};
+
+std::vector<Work> WorksOf(Bench& bench) {
+  return {
+      {"TransparentCopy, 65 percent", 3, [&bench] { bench.Blend(65); }},
+      {"TransparentCopy, 100 percent", 3, [&bench] { bench.Blend(100); }},
+      {"watermark, size seen before", 0, [&bench] { bench.painter.Draw(bench.picture); }},
+      {"watermark, new size", 0, [&bench] { bench.DrawInPictureOfNewSize(); }},
+      {"watermark, literal", 0, [&bench] { bench.DrawLiterally(); }},
+  };
+}
+
+double Seconds(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double MedianRatio(Bench& bench, const Work& work) {
+  std::vector<double> ratios;
+  for (int round = 0; round < 15; ++round) {
+    const double copying = Seconds([&bench] { bench.Copy(); });
+    ratios.push_back(Seconds(work.run) / copying);
+  }
+  std::nth_element(ratios.begin(), ratios.begin() + 7, ratios.end());
+  return ratios[7];
+}
+
+void Register(const char* name, const std::function<void()>& run) {
+  benchmark::RegisterBenchmark(name, [run](benchmark::State& state) {
+    for (auto _ : state) run();
+  })->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+}  // namespace vantorium
+
+int main(int count, char** arguments) {
+  benchmark::Initialize(&count, arguments);
+  if (benchmark::ReportUnrecognizedArguments(count, arguments)) return 1;
+  vantorium::Bench bench;
+  const auto works = vantorium::WorksOf(bench);
+  vantorium::Register("memcpy", [&bench] { bench.Copy(); });
+  for (const auto& work : works) vantorium::Register(work.name, work.run);
+  benchmark::RunSpecifiedBenchmarks();
+  std::printf("\n%-32s %8s %8s\n", "times memcpy", "ratio", "limit");
+  for (const auto& work : works) {
+    const std::string limit = work.limit > 0 ? std::to_string(static_cast<int>(work.limit)) : "";
+    std::printf("%-32s %8.3f %8s\n", work.name, vantorium::MedianRatio(bench, work), limit.c_str());
+  }
+  return 0;
+}
