@@ -75,11 +75,11 @@ int BytesWaiting(const FileDescriptor& stream) {
 
 }  // namespace
 
-// Standard error gets the smallest pipe there is, so that a test can fill it.
+// The smallest pipe there is, so that a test can fill it.
 ChildProcess::Stream ChildProcess::MakePipe() {
   int ends[2] = {};
   Checked(::pipe2(ends, O_CLOEXEC), "pipe2");
-  Checked(::fcntl(ends[0], F_SETPIPE_SZ, 4096), "F_SETPIPE_SZ");
+  Checked(::fcntl(ends[0], F_SETPIPE_SZ, 1), "F_SETPIPE_SZ");
   return {.ours = FileDescriptor(ends[0]), .childs = FileDescriptor(ends[1])};
 }
 

@@ -1,8 +1,7 @@
+#include "image/JPEG.h"
 #include "tests/app/Workplace.h"
 
 #include <filesystem>
-
-#include "image/JPEG.h"
 
 namespace vantorium {
 namespace {
@@ -63,7 +62,8 @@ TEST_F(CreateCommand, AnIndexFileWithoutAFolderGoesToTheWorkingFolder) {
 
 TEST_F(CreateCommand, NoImagesLeavesOutTheImages) {
   ASSERT_TRUE(Succeeded(Create({"--no-images"})));
-  EXPECT_EQ(Listing(), "Thumbs/thumb_a.jpg.jpg\nThumbs/thumb_b.jpg.jpg\na.jpg.htm\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
+  EXPECT_EQ(Listing(),
+            "Thumbs/thumb_a.jpg.jpg\nThumbs/thumb_b.jpg.jpg\na.jpg.htm\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
 }
 
 TEST_F(CreateCommand, NoThumbnailsLeavesOutTheThumbnails) {
@@ -121,8 +121,9 @@ TEST_F(CreateCommand, TheGalleryIsTheSameForEveryNumberOfJobs) {
 }
 
 TEST_F(CreateCommand, TheCreationTimeIsTheOneGiven) {
-  place.Replace("a.gpj", "<LAYOUT ", "<HEAD><![CDATA[<VANTORIUM_GALLERY_CREATIONDATE_SHORT>|"
-                                     "<VANTORIUM_GALLERY_CREATIONTIME_LONG>]]></HEAD><LAYOUT ");
+  place.Replace("a.gpj", "<LAYOUT ",
+                "<HEAD><![CDATA[<VANTORIUM_GALLERY_CREATIONDATE_SHORT>|"
+                "<VANTORIUM_GALLERY_CREATIONTIME_LONG>]]></HEAD><LAYOUT ");
   const std::vector<std::string> early = {"--creation-time", "2001-02-03 04:05:06"};
   ASSERT_TRUE(Succeeded(Create(early)));
   std::filesystem::rename(place.Path("out"), place.Path("before"));
@@ -153,7 +154,7 @@ TEST_F(CreateCommand, APictureThatCannotBeReadEndsTheRunAndWhatWasMadeStays) {
   place.Write("b.jpg", "no JPEG");
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.Text("b.jpg") + "\".\n");
+  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.SourceText("b.jpg") + "\".\n");
   EXPECT_EQ(Listing(), "Images/a.jpg.jpg\n");
 }
 
@@ -185,7 +186,7 @@ TEST_F(CreateCommand, ALineOfAMessageIsItsTitleAndItsText) {
   std::filesystem::remove(place.Path("a.jpg"));
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, "File Error: An Error occurred trying to read the image file \"" + place.Text("a.jpg") +
+  EXPECT_EQ(result.err, "File Error: An Error occurred trying to read the image file \"" + place.SourceText("a.jpg") +
                             "\":\n\nFile not found\n\nLoading Process cancelled.\n"
                             "File Error: An error occurred while opening the Gallery Project \"" +
                             place.Text("a.gpj") + "\".\n");

@@ -43,7 +43,7 @@ TEST(NewCommand, EachEntryHoldsTheFilesPathAndNoDescriptions) {
   place.Photograph("holiday/a.jpg");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "holiday/a.jpg"})));
   const Json image = Shown(place, "a.gpj").at("images").at(0);
-  EXPECT_EQ(image.at("SourcePath"), place.Text("holiday/a.jpg"));
+  EXPECT_EQ(image.at("SourcePath"), place.SourceText("holiday/a.jpg"));
   EXPECT_EQ(image.at("ImageDescription"), "");
   EXPECT_EQ(image.at("ThumbnailDescription"), "");
   const std::string size = std::to_string(std::filesystem::file_size(place.Path("holiday/a.jpg")));
@@ -52,14 +52,16 @@ TEST(NewCommand, EachEntryHoldsTheFilesPathAndNoDescriptions) {
 
 TEST(NewCommand, AFoldersImagesComeInTheOrderOfTheirNames) {
   const Workplace place;
-  for (const char* name : {"c.jpg", "a.jpeg", "b.jfif", "D.JPG"}) place.Photograph("holiday" / std::filesystem::path(name));
+  for (const char* name : {"c.jpg", "a.jpeg", "b.jfif", "D.JPG"})
+    place.Photograph("holiday" / std::filesystem::path(name));
   EXPECT_EQ(NamesAfterNew(place, {"holiday"}), (Texts{"D.JPG", "a.jpeg", "b.jfif", "c.jpg"}));
 }
 
 TEST(NewCommand, OtherFilesOfAFolderAreLeftOut) {
   const Workplace place;
   place.Photograph("holiday/a.jpg");
-  for (const char* name : {"holiday/b.png", "holiday/jpg", "holiday/c.jpg.txt", "holiday/notes"}) place.Write(name, "x");
+  for (const char* name : {"holiday/b.png", "holiday/jpg", "holiday/c.jpg.txt", "holiday/notes"})
+    place.Write(name, "x");
   EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{"a.jpg"});
 }
 
@@ -77,7 +79,8 @@ TEST(NewCommand, SubFoldersAreLeftOut) {
 
 TEST(NewCommand, RecursiveTakesSubFoldersBehindTheFoldersOwnImages) {
   const Workplace place;
-  for (const char* name : {"holiday/z.jpg", "holiday/b/2.jpg", "holiday/b/deep/3.jpg", "holiday/a/1.jpg", "holiday/c/4.jpg"}) {
+  for (const char* name :
+       {"holiday/z.jpg", "holiday/b/2.jpg", "holiday/b/deep/3.jpg", "holiday/a/1.jpg", "holiday/c/4.jpg"}) {
     place.Photograph(name);
   }
   EXPECT_EQ(NamesAfterNew(place, {"--recursive", "holiday"}), (Texts{"z.jpg", "1.jpg", "2.jpg", "3.jpg", "4.jpg"}));
@@ -113,7 +116,7 @@ TEST(NewCommand, EqualNamesAreNumbered) {
   for (const char* name : {"one/a.jpg", "two/a.jpg", "three/a.jpg"}) place.Photograph(name);
   EXPECT_EQ(NamesAfterNew(place, {"one", "two", "three/a.jpg"}), (Texts{"a.jpg", "a.jpg_1", "a.jpg_2"}));
   EXPECT_EQ(Images(place, "a.gpj", "SourcePath"),
-            (Texts{place.Text("one/a.jpg"), place.Text("two/a.jpg"), place.Text("three/a.jpg")}));
+            (Texts{place.SourceText("one/a.jpg"), place.SourceText("two/a.jpg"), place.SourceText("three/a.jpg")}));
 }
 
 TEST(NewCommand, AnEmptyFolderGivesAProjectWithoutImages) {
@@ -158,7 +161,8 @@ TEST(NewCommand, AFileThatIsNoJPEGIsNamedAndNothingIsWritten) {
   place.Write("a.png", "x");
   const ProcessResult result = place.Run({"new", "a.gpj", "a.png"});
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, "File Error: \"" + place.Path("a.png").string() + "\" is no JPEG image (.jpg, .jpeg, .jfif).\n");
+  EXPECT_EQ(result.err,
+            "File Error: \"" + place.Path("a.png").string() + "\" is no JPEG image (.jpg, .jpeg, .jfif).\n");
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 

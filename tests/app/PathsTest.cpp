@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-/// The path texts of a project's sources.
+/// The path texts of a project's sources, which stand in its file with slashes.
 std::vector<std::string> Sources(const Workplace& place, const std::string& project) {
   std::vector<std::string> sources;
   const ProcessResult result = place.Run({"show", project});
@@ -31,7 +31,7 @@ TEST(Paths, ARelativePathBeginsAtTheWorkingFolder) {
   place.Photograph("sea/a.jpg");
   for (const char* path : {"sea/a.jpg", "./sea/a.jpg", "home/../sea//a.jpg"}) {
     ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", path}))) << path;
-    EXPECT_EQ(Sources(place, "a.gpj"), std::vector{place.Text("sea/a.jpg")}) << path;
+    EXPECT_EQ(Sources(place, "a.gpj"), std::vector{place.SourceText("sea/a.jpg")}) << path;
   }
 }
 
@@ -39,24 +39,24 @@ TEST(Paths, AnAbsolutePathIsOnTheDriveOfTheRoot) {
   const Workplace place;
   const std::string file = place.Photograph("a.jpg").string();
   ASSERT_TRUE(Succeeded(place.Run({"new", place.Path("a.gpj").string(), file})));
-  EXPECT_EQ(Sources(place, "a.gpj"), std::vector{"Z:" + WithBackslashes(file)});
+  EXPECT_EQ(Sources(place, "a.gpj"), std::vector{"Z:" + file});
 }
 
 TEST(Paths, APathBelowTheHomeFolderIsOnDriveC) {
   const Workplace place;
   place.Photograph("home/sea/a.jpg");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "home/sea/a.jpg"})));
-  EXPECT_EQ(Sources(place, "a.gpj"), std::vector<std::string>{"C:\\sea\\a.jpg"});
+  EXPECT_EQ(Sources(place, "a.gpj"), std::vector<std::string>{"C:/sea/a.jpg"});
 }
 
 TEST(Paths, EveryArgumentMayBePathTextOfADrive) {
   const Workplace place;
   place.Photograph("home/sea/a.jpg");
-  ASSERT_TRUE(Succeeded(place.Run({"new", "C:\\a.gpj", "C:\\sea", place.Text("home/sea/a.jpg")})));
+  place.Photograph("b.jpg");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "C:\\a.gpj", "C:\\sea", place.Text("b.jpg")})));
   ASSERT_TRUE(Succeeded(place.Run({"save", "c:\\a.gpj", "C:/b.gpj"})));
   ASSERT_TRUE(Succeeded(place.Run({"create", "C:\\b.gpj", "C:\\out\\index.htm"})));
-  EXPECT_EQ(Sources(place, "home/b.gpj"),
-            (std::vector{std::string("C:\\sea\\a.jpg"), place.Text("home/sea/a.jpg")}));
+  EXPECT_EQ(Sources(place, "home/b.gpj"), (std::vector{std::string("C:/sea/a.jpg"), place.SourceText("b.jpg")}));
   EXPECT_TRUE(std::filesystem::exists(place.Path("home/out/index.htm")));
 }
 
@@ -73,7 +73,7 @@ TEST(Paths, TheSectionDrivesReplacesTheDrives) {
   place.Photograph("pictures/sea/a.jpg");
   UseDrives(place, "P=\"" + place.Path("pictures").string() + "\"\r\nR=\"/\"\r\n");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "pictures/sea/a.jpg", "P:\\sea"})));
-  const std::string text = "P:\\sea\\a.jpg";
+  const std::string text = "P:/sea/a.jpg";
   EXPECT_EQ(Sources(place, "a.gpj"), (std::vector{text, text}));
   EXPECT_TRUE(EndedWith(1, place.Run({"save", "a.gpj", place.Text("b.gpj")}))) << "Z: is no drive any more";
 }
@@ -85,7 +85,7 @@ TEST(Paths, APathIsOnTheDriveWithTheLongestFolder) {
   const std::string pictures = place.Path("pictures").string();
   UseDrives(place, "A=\"/\"\r\nB=\"" + pictures + "/sea\"\r\nC=\"" + pictures + "\"\r\n");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "--recursive", "pictures"})));
-  EXPECT_EQ(Sources(place, "a.gpj"), (std::vector<std::string>{"C:\\sea side.jpg", "B:\\a.jpg"}));
+  EXPECT_EQ(Sources(place, "a.gpj"), (std::vector<std::string>{"C:/sea side.jpg", "B:/a.jpg"}));
 }
 
 TEST(Paths, APathOutsideAllDrivesBeginsWithASeparator) {
@@ -93,7 +93,7 @@ TEST(Paths, APathOutsideAllDrivesBeginsWithASeparator) {
   place.Photograph("a.jpg");
   UseDrives(place, "C=\"" + place.Path("home").string() + "\"\r\n");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "a.jpg"})));
-  EXPECT_EQ(Sources(place, "a.gpj"), std::vector{WithBackslashes(place.Path("a.jpg").string())});
+  EXPECT_EQ(Sources(place, "a.gpj"), std::vector{place.Path("a.jpg").string()});
   ASSERT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
   const std::string page = place.Read("temp/VANTORIUM_TEMP/thumbpage_1.htm");
   EXPECT_NE(page.find("\"file://" + place.Path("a.jpg").string() + "\""), std::string::npos) << page;

@@ -42,7 +42,7 @@ TEST(PreviewCommand, WithoutATemporaryFolderOnTheCommandLineThePreferencesNameIt
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   std::filesystem::create_directory(place.Path("elsewhere"));
-  place.Write("program/vantorium.ini", "[PREFERENCES]\r\nTempFolderLocation=\"" + place.Text("elsewhere") + "\"\r\n");
+  place.Write("program/vantorium.ini", "[FOLDERS]\r\nTempFolderLocation=\"" + place.Text("elsewhere") + "\"\r\n");
   StartOptions options = place.Options({"preview", "a.gpj"});
   std::erase(options.command, "--temp-folder");
   std::erase(options.command, place.Path("temp").string());

@@ -28,10 +28,12 @@ TEST(SaveCommand, EmptySettingsAreRepaired) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   place.Replace("a.gpj", "THUMBFRAMENAME=\"thumb_frame\"", "THUMBFRAMENAME=\"\"");
-  place.Replace("a.gpj", "<PREVIOUS CAPTION=\"BACK\" IMAGE=\"\" FIRSTIMAGE=\"\"/><NEXT CAPTION=\"NEXT\" IMAGE=\"\" "
-                         "LASTIMAGE=\"\"/></PAGELINKS></THUMBNAILPAGE>",
-                "<PREVIOUS CAPTION=\"BACK\" IMAGE=\"file://back.gif\" FIRSTIMAGE=\"\"/><NEXT CAPTION=\"NEXT\" IMAGE=\"\" "
-                "LASTIMAGE=\"\"/></PAGELINKS></THUMBNAILPAGE>");
+  place.Replace(
+      "a.gpj",
+      "<PREVIOUS CAPTION=\"BACK\" IMAGE=\"\" FIRSTIMAGE=\"\"/><NEXT CAPTION=\"NEXT\" IMAGE=\"\" "
+      "LASTIMAGE=\"\"/></PAGELINKS></THUMBNAILPAGE>",
+      "<PREVIOUS CAPTION=\"BACK\" IMAGE=\"file://back.gif\" FIRSTIMAGE=\"\"/><NEXT CAPTION=\"NEXT\" IMAGE=\"\" "
+      "LASTIMAGE=\"\"/></PAGELINKS></THUMBNAILPAGE>");
   ASSERT_TRUE(Succeeded(place.Run({"save", "a.gpj", "b.gpj"})));
   const auto project = nlohmann::json::parse(place.Run({"show", "b.gpj"}).out).at("project");
   EXPECT_EQ(project.at("textThumbnailFrameName"), "thumbnail_frame");

@@ -50,14 +50,14 @@ TEST(ShowCommand, TheObjectHoldsProjectImagesAndPageCountAlone) {
 TEST(ShowCommand, AnImageIsShownWithAllItsFields) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
-  place.Replace("a.gpj", "a.jpg\"/>",
-                "a.jpg\"><DESCRIPTION><![CDATA[one\ntwo <b>&amp;</b>]]></DESCRIPTION></IMAGE>");
-  place.Replace("a.gpj", "<THUMBNAILS FOLDER=\"Thumbs\">",
-                "<THUMBNAILS FOLDER=\"Thumbs\"><THUMBNAIL INDEX=\"1\"><DESCRIPTION><![CDATA[thumb]]></DESCRIPTION></THUMBNAIL>");
+  place.Replace("a.gpj", "a.jpg\"/>", "a.jpg\"><DESCRIPTION><![CDATA[one\ntwo <b>&amp;</b>]]></DESCRIPTION></IMAGE>");
+  place.Replace(
+      "a.gpj", "<THUMBNAILS FOLDER=\"Thumbs\">",
+      "<THUMBNAILS FOLDER=\"Thumbs\"><THUMBNAIL INDEX=\"1\"><DESCRIPTION><![CDATA[thumb]]></DESCRIPTION></THUMBNAIL>");
   const Json image = ShowProject(place, "a.gpj").at("images").at(0);
   EXPECT_EQ(image.size(), 6U) << image;
   EXPECT_EQ(image.at("ImageName"), "a.jpg");
-  EXPECT_EQ(image.at("SourcePath"), place.Text("a.jpg"));
+  EXPECT_EQ(image.at("SourcePath"), place.SourceText("a.jpg"));
   EXPECT_EQ(image.at("SizeKey").get<std::string>().size(), 20U);
   EXPECT_EQ(image.at("DateKey").get<std::string>().size(), 17U);
   EXPECT_EQ(image.at("ImageDescription"), "one\r\ntwo <b>&amp;</b>");
@@ -92,8 +92,8 @@ TEST(ShowCommand, AFileThatIsNoProjectIsToldAndShownAsANewOne) {
     place.Write("a.gpj", bytes);
     const ProcessResult result = place.Run({"show", "a.gpj"});
     EXPECT_TRUE(EndedWith(1, result)) << bytes;
-    EXPECT_EQ(result.err, InvalidProject(place.Text("a.gpj"),
-                                         "The File does not contain a Gallery Project Description."));
+    EXPECT_EQ(result.err,
+              InvalidProject(place.Text("a.gpj"), "The File does not contain a Gallery Project Description."));
     EXPECT_EQ(Shown(result).at("images"), Json::array()) << bytes;
   }
 }
@@ -102,8 +102,8 @@ TEST(ShowCommand, AFileThatDoesNotExistIsTold) {
   const Workplace place;
   const ProcessResult result = place.Run({"show", "nowhere.gpj"});
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, InvalidProject(place.Text("nowhere.gpj"),
-                                       "The File does not contain a Gallery Project Description."));
+  EXPECT_EQ(result.err,
+            InvalidProject(place.Text("nowhere.gpj"), "The File does not contain a Gallery Project Description."));
 }
 
 TEST(ShowCommand, WhatWasReadBeforeTheFaultIsShown) {
@@ -126,8 +126,8 @@ TEST(ShowCommand, AnImageThatIsGoneEndsTheReading) {
   std::filesystem::remove(place.Path("b.jpg"));
   const ProcessResult result = place.Run({"show", "a.gpj"});
   EXPECT_TRUE(EndedWith(1, result));
-  const std::string first = "File Error: An Error occurred trying to read the image file \"" + place.Text("b.jpg") +
-                            "\":\n\nFile not found\n\nLoading Process cancelled.\n";
+  const std::string first = "File Error: An Error occurred trying to read the image file \"" +
+                            place.SourceText("b.jpg") + "\":\n\nFile not found\n\nLoading Process cancelled.\n";
   const std::string second =
       "File Error: An error occurred while opening the Gallery Project \"" + place.Text("a.gpj") + "\".\n";
   EXPECT_EQ(result.err, first + second);

@@ -54,9 +54,13 @@ fs::path Workplace::Path(const fs::path& name) const {
 }
 
 std::string Workplace::Text(const fs::path& name) const {
-  std::string text = "Z:" + Path(name).string();
+  std::string text = SourceText(name);
   std::ranges::replace(text, '/', '\\');
   return text;
+}
+
+std::string Workplace::SourceText(const fs::path& name) const {
+  return "Z:" + Path(name).string();
 }
 
 fs::path Workplace::Write(const fs::path& name, std::string_view bytes) const {
@@ -85,6 +89,11 @@ void Workplace::LargeProject(const fs::path& name, std::size_t images, int width
   ASSERT_TRUE(Succeeded(Run(arguments)));
 }
 
+void Workplace::SlowProject(const fs::path& name) const {
+  LargeProject(name, 300);
+  Replace(name, "HEIGHT=\"300\"", "HEIGHT=\"1500\"");
+}
+
 void Workplace::Replace(const fs::path& name, std::string_view old, std::string_view text) const {
   std::string bytes = Read(name);
   const auto at = bytes.find(old);
@@ -94,10 +103,10 @@ void Workplace::Replace(const fs::path& name, std::string_view old, std::string_
 }
 
 StartOptions Workplace::Options(const std::vector<std::string>& arguments) const {
-  StartOptions options{
-      .command = {VANTORIUM_BATCH, "--program-folder", Path("program").string(), "--temp-folder", Path("temp").string()},
-      .folder = Path(),
-      .environment = EnvironmentAt(Path("home"))};
+  StartOptions options{.command = {VANTORIUM_BATCH, "--program-folder", Path("program").string(), "--temp-folder",
+                                   Path("temp").string()},
+                       .folder = Path(),
+                       .environment = EnvironmentAt(Path("home"))};
   options.command.insert(options.command.end(), arguments.begin(), arguments.end());
   return options;
 }
@@ -111,8 +120,7 @@ std::map<std::string, std::string> FilesBelow(const fs::path& folder) {
   if (!fs::exists(folder)) return files;
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (!entry.is_directory()) {
-      files[entry.path().lexically_relative(folder).generic_string()] =
-          fakes::TemporaryFolder::ReadFile(entry.path());
+      files[entry.path().lexically_relative(folder).generic_string()] = fakes::TemporaryFolder::ReadFile(entry.path());
     }
   }
   return files;

@@ -13,8 +13,8 @@
 
 namespace vantorium {
 
-/// A folder with what the program needs around it: "home" (drive C:), "program" (preferences), "temp", and all else that
-/// a test puts into it. The program is started in it and finds none of the user's own settings.
+/// A folder with what the program needs around it: "home" (drive C:), "program" (preferences), "temp", and all else
+/// that a test puts into it. The program is started in it and finds none of the user's own settings.
 class Workplace {
  public:
   Workplace();
@@ -22,6 +22,8 @@ class Workplace {
   [[nodiscard]] std::filesystem::path Path(const std::filesystem::path& name = {}) const;
   /// The path text of a file that lies outside home.
   [[nodiscard]] std::string Text(const std::filesystem::path& name) const;
+  /// The same as it comes out of a project file, in which it stands with slashes.
+  [[nodiscard]] std::string SourceText(const std::filesystem::path& name) const;
   std::filesystem::path Write(const std::filesystem::path& name, std::string_view bytes) const;
   [[nodiscard]] std::string Read(const std::filesystem::path& name) const;
 
@@ -31,6 +33,8 @@ class Workplace {
   void Project(const std::filesystem::path& name, const std::vector<std::string>& photographs) const;
   /// A project of one photograph many times over.
   void LargeProject(const std::filesystem::path& name, std::size_t images, int width = 40, int height = 30) const;
+  /// The same with pictures so large that a run takes seconds: time to look at it and to end it.
+  void SlowProject(const std::filesystem::path& name) const;
   /// Puts `text` in the place of the only `old` in a file.
   void Replace(const std::filesystem::path& name, std::string_view old, std::string_view text) const;
 

@@ -1,0 +1,144 @@
+"""A browser that is driven through the WebDriver protocol (W3C recommendation), with the standard library alone."""
+
+import base64
+import http.client
+import json
+import os
+import re
+import shutil
+import signal
+import subprocess
+import time
+
+ELEMENT = "element-6066-11e4-a52e-4f735466cecf"  # the key of an element's id, fixed by the protocol
+PATIENCE = 15  # seconds for one thing to happen
+
+CHROMIUM_FLAGS = [
+    "--headless",
+    "--no-sandbox",
+    "--disable-gpu",
+    "--disable-dev-shm-usage",
+    "--no-first-run",
+    "--disable-background-networking",
+    "--disable-component-update",
+    "--disable-sync",
+    "--allow-file-access-from-files",
+    "--hide-scrollbars",
+]
+
+
+class BrowserError(Exception):
+    """The driver refused a command, or something did not happen in time."""
+
+
+def missing_programs():
+    """The programs that a browser needs and that are not installed."""
+    return [name for name in ("chromium", "chromedriver") if shutil.which(name) is None]
+
+
+class Browser:
+    """A headless Chromium with its driver. Both are gone after close(). `folder` takes everything that they write."""
+
+    def __init__(self, folder, width=1000, height=800):
+        self._session = None
+        os.makedirs(folder, exist_ok=True)
+        environment = dict(os.environ, HOME=folder, TMPDIR=folder)
+        self._driver = subprocess.Popen(
+            ["chromedriver", "--port=0"],
+            stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL,
+            env=environment,
+            start_new_session=True,  # so that the browser is in the driver's process group
+            text=True,
+        )
+        try:
+            self._connection = http.client.HTTPConnection("127.0.0.1", self._port_of_driver(), timeout=2 * PATIENCE)
+            self._start_session(folder, width, height)
+        except BaseException:
+            self.close()
+            raise
+
+    def _port_of_driver(self):
+        for line in self._driver.stdout:
+            started = re.search(r"started successfully on port (\d+)", line)
+            if started:
+                return int(started.group(1))
+        raise BrowserError("chromedriver did not start")
+
+    def _start_session(self, folder, width, height):
+        flags = CHROMIUM_FLAGS + [f"--user-data-dir={folder}/profile", f"--window-size={width},{height}"]
+        options = {"binary": shutil.which("chromium"), "args": flags}
+        capabilities = {"alwaysMatch": {"goog:chromeOptions": options, "timeouts": {"pageLoad": 1000 * PATIENCE}}}
+        self._session = self._send("POST", "/session", {"capabilities": capabilities})["sessionId"]
+
+    def close(self):
+        if self._session is not None:
+            try:
+                self._send("DELETE", f"/session/{self._session}")
+            except (BrowserError, OSError, http.client.HTTPException):
+                pass  # the processes are ended below in any case
+        self._end_processes()
+        self._driver.stdout.close()
+
+    def _end_processes(self):
+        """Ends what is left of the driver's process group, and waits a while until it is gone."""
+        for _ in range(100):
+            try:
+                os.killpg(self._driver.pid, signal.SIGKILL)
+            except ProcessLookupError:
+                return
+            self._driver.poll()
+            time.sleep(0.02)
+
+    def _send(self, method, path, body=None):
+        text = None if body is None else json.dumps(body)
+        self._connection.request(method, path, text, {"Content-Type": "application/json"})
+        value = json.loads(self._connection.getresponse().read())["value"]
+        if isinstance(value, dict) and "error" in value:
+            raise BrowserError(f"{value['error']}: {value['message']}")
+        return value
+
+    def _command(self, name, **body):
+        return self._send("POST", f"/session/{self._session}/{name}", body)
+
+    def open(self, file):
+        self._command("url", url="file://" + file)
+
+    def enter_frame(self, name):
+        """All that follows happens in the frame of that name of the top page; None is the top page itself."""
+        self._command("frame", id=None)
+        if name is not None:
+            frame = self._command("element", using="css selector", value=f'frame[name="{name}"]')
+            self._command("frame", id=frame)
+
+    def run(self, script, *arguments):
+        """What a script returns that runs in the present frame."""
+        return self._command("execute/sync", script=script, args=list(arguments))
+
+    def click(self, xpath):
+        element = self._command("element", using="xpath", value=xpath)
+        self._command(f"element/{element[ELEMENT]}/click")
+
+    def count(self, xpath):
+        return len(self._command("elements", using="xpath", value=xpath))
+
+    def screenshot(self, file):
+        self._command("frame", id=None)
+        picture = self._send("GET", f"/session/{self._session}/screenshot")
+        with open(file, "wb") as output:
+            output.write(base64.b64decode(picture))
+
+
+def wait_until(what, condition):
+    """The first true value of condition()."""
+    deadline = time.monotonic() + PATIENCE
+    while True:
+        try:
+            value = condition()
+        except BrowserError:  # a page that is just being exchanged
+            value = None
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise BrowserError("did not happen in time: " + what)
+        time.sleep(0.02)
