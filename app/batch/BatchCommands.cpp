@@ -85,12 +85,12 @@ class BatchProgram {
 ExitCode BatchProgram::New() {
   std::vector<std::string> found;
   for (const std::string& path : options_.paths) {
-    const auto images = FindImages(NativePathOf(path, paths_), options_.recursive);
+    const FoundImages images = FindImages(path, options_.recursive, paths_);
     if (!images.problem.empty()) {
       boxes_.Critical("File Error", images.problem);
       return ExitCode::Failure;
     }
-    for (const auto& image : images.files) found.push_back(paths_.ToText(image));
+    found.insert(found.end(), images.paths.begin(), images.paths.end());
   }
   if (options_.title) project_.settings.textGalleryTitle = *options_.title;
   if (!images_.AddFiles(found)) return ExitCode::Failure;

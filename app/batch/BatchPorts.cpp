@@ -61,9 +61,11 @@ void BatchShell::StartProgram(const std::string& executable, const std::string& 
   }
 }
 
-InterruptLoop::InterruptLoop(CancelCheck& cancel) : cancel_(cancel) {
-  std::signal(SIGINT, OnInterrupt);
-  std::signal(SIGTERM, OnInterrupt);
+void InterruptLoop::Watch(ProgressWindow* progress) {
+  progress_ = progress;
+  const auto handler = progress != nullptr ? OnInterrupt : SIG_DFL;
+  std::signal(SIGINT, handler);
+  std::signal(SIGTERM, handler);
 }
 
 void InterruptLoop::Turn() {

@@ -47,12 +47,14 @@ class BatchShell : public Shell {
   bool mayOpenFiles_;
 };
 
-/// Ctrl+C as the cancel button of the progress window that is open. A second one ends the process at once.
+/// Ctrl+C as the cancel button of the progress window that is open. A second one ends the process at once, and so does
+/// the first while no window is open.
 class InterruptLoop : public EventLoop {
  public:
-  explicit InterruptLoop(CancelCheck& cancel);
+  explicit InterruptLoop(CancelCheck& cancel) : cancel_(cancel) {}
   void Turn() override;
-  void Watch(ProgressWindow* progress) { progress_ = progress; }
+  /// The window whose button it is; null for none.
+  void Watch(ProgressWindow* progress);
 
  private:
   CancelCheck& cancel_;

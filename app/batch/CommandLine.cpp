@@ -61,8 +61,9 @@ void AddRunSwitches(CLI::App& command, BatchOptions& options) {
 }
 
 CLI::App& AddCommand(CLI::App& app, BatchOptions& options, BatchCommand command, const char* name, const char* about) {
-  CLI::App* added = app.add_subcommand(name, about)->fallthrough();
+  CLI::App* added = app.add_subcommand(name, about);
   added->callback([&options, command] { options.command = command; });
+  AddCommonOptions(*added, options);  // so that they may stand behind the command, and its help lists them
   return *added;
 }
 

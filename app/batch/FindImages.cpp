@@ -1,6 +1,7 @@
 #include "app/batch/FindImages.h"
 
 #include "core/ImageFormats.h"
+#include "core/XmlText.h"
 #include "env/PathText.h"
 
 #include <algorithm>
@@ -21,13 +22,15 @@ std::vector<fs::directory_entry> EntriesOf(const fs::path& folder) {
   return entries;
 }
 
-void AddFolder(const fs::path& top, bool recursive, std::vector<fs::path>& files) {
+/// The images below `top`, by their paths in it.
+std::vector<fs::path> ImagesOf(const fs::path& top, bool recursive) {
+  std::vector<fs::path> images;
   std::vector<fs::path> waiting = {top};
   while (!waiting.empty()) {
     const auto entries = EntriesOf(waiting.back());
     waiting.pop_back();
     for (const auto& entry : entries) {
-      if (entry.is_regular_file() && IsImage(entry.path())) files.push_back(entry.path());
+      if (entry.is_regular_file() && IsImage(entry.path())) images.push_back(entry.path().lexically_relative(top));
     }
     if (!recursive) continue;
     // The last one in is the next one out, so the first sub folder goes in last.
@@ -35,33 +38,43 @@ void AddFolder(const fs::path& top, bool recursive, std::vector<fs::path>& files
       if (entry->is_directory() && !entry->is_symlink()) waiting.push_back(entry->path());
     }
   }
+  return images;
 }
 
-}  // namespace
+/// What keeps an image from standing in a project; empty when nothing does.
+std::string ProblemOf(const std::string& path) {
+  if (IsXmlText(path)) return {};
+  return "\"" + ToXmlText(path) + "\" has a name that is no UTF-8 text and cannot stand in a project.";
+}
 
-FoundImages FindImages(const fs::path& path, bool recursive) {
+/// The images of a folder as path text: each on its own best drive when the folder is on its, else on the drive typed.
+FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, bool recursive, const PathMap& paths) {
   FoundImages found;
-  const std::string quoted = "\"" + path.string() + "\"";
-  std::error_code error;
-  const auto status = fs::status(path, error);
-  if (!fs::exists(status)) {
-    found.problem = quoted + " does not exist.";
-  } else if (!fs::is_directory(status)) {
-    found.files.push_back(path);
-    if (!IsImage(path)) found.problem = quoted + " is no JPEG image (.jpg, .jpeg, .jfif).";
-  } else {
-    try {
-      AddFolder(path, recursive, found.files);
-    } catch (const fs::filesystem_error& failure) {
-      found.problem = "\"" + failure.path1().string() + "\" cannot be read: " + failure.code().message() + ".";
+  const bool onBestDrive = folder == paths.ToText(native.has_filename() ? native : native.parent_path());
+  try {
+    for (const fs::path& image : ImagesOf(native, recursive)) {
+      found.paths.push_back(onBestDrive ? paths.ToText(native / image)
+                                        : WithTrailingBackslash(folder) + WithBackslashes(image.string()));
+      found.problem = ProblemOf(found.paths.back());
+      if (!found.problem.empty()) break;
     }
+  } catch (const fs::filesystem_error& failure) {
+    found.problem = "\"" + failure.path1().string() + "\" cannot be read: " + failure.code().message() + ".";
   }
   return found;
 }
 
-fs::path NativePathOf(const std::string& typed, const PathMap& paths) {
-  const auto native = paths.ToNative(paths.ToTextFromUser(typed));
-  return native ? *native : fs::path(typed);
+}  // namespace
+
+FoundImages FindImages(const std::string& typed, bool recursive, const PathMap& paths) {
+  const std::string path = paths.ToTextFromUser(typed);
+  const auto native = paths.ToNative(path);
+  std::error_code error;
+  const auto status = native ? fs::status(*native, error) : fs::file_status();
+  if (!fs::exists(status)) return {{}, "\"" + ToXmlText(typed) + "\" does not exist."};
+  if (fs::is_directory(status)) return FilesOfFolder(*native, path, recursive, paths);
+  if (!IsImage(*native)) return {{}, "\"" + ToXmlText(typed) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
+  return {{path}, ProblemOf(path)};
 }
 
 }  // namespace vantorium

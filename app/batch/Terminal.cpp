@@ -12,6 +12,7 @@ namespace vantorium {
 namespace {
 
 constexpr std::size_t kBarWidth = 24;
+constexpr std::size_t kColumnsForABar = 70;
 constexpr auto kRedrawEvery = std::chrono::milliseconds(100);
 
 std::size_t TerminalWidth() {
@@ -72,10 +73,12 @@ void Terminal::EraseBar() {
 void Terminal::DrawBar() {
   const double share = maximum_ > 0 ? static_cast<double>(value_) / static_cast<double>(maximum_) : 0;
   const auto filled = static_cast<std::size_t>(share * static_cast<double>(kBarWidth));
-  const std::string line =
-      fmt::format("[{}{}] {:3.0f}% {}/{}{}  {}", std::string(filled, '='), std::string(kBarWidth - filled, ' '),
-                  share * 100, value_, maximum_, TimeLeft(), status_);
-  fmt::print(stderr, "\r{}\033[K", CutTo(line, TerminalWidth() - 1));
+  const std::size_t columns = TerminalWidth();
+  std::string line = fmt::format("{:3.0f}% {}/{}{}  {}", share * 100, value_, maximum_, TimeLeft(), status_);
+  if (columns >= kColumnsForABar) {
+    line = fmt::format("[{}{}] ", std::string(filled, '='), std::string(kBarWidth - filled, ' ')) + line;
+  }
+  fmt::print(stderr, "\r{}\033[K", CutTo(line, columns - 1));
   std::fflush(stderr);
   barIsDrawn_ = true;
 }

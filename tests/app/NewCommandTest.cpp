@@ -1,3 +1,4 @@
+#include "env/Text.h"
 #include "tests/app/Workplace.h"
 
 #include <filesystem>
@@ -152,7 +153,7 @@ TEST(NewCommand, APathThatDoesNotExistIsNamedAndNothingIsWritten) {
   place.Photograph("a.jpg");
   const ProcessResult result = place.Run({"new", "a.gpj", "a.jpg", "nowhere"});
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, "File Error: \"" + place.Path("nowhere").string() + "\" does not exist.\n");
+  EXPECT_EQ(result.err, "File Error: \"nowhere\" does not exist.\n");
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 
@@ -161,8 +162,7 @@ TEST(NewCommand, AFileThatIsNoJPEGIsNamedAndNothingIsWritten) {
   place.Write("a.png", "x");
   const ProcessResult result = place.Run({"new", "a.gpj", "a.png"});
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err,
-            "File Error: \"" + place.Path("a.png").string() + "\" is no JPEG image (.jpg, .jpeg, .jfif).\n");
+  EXPECT_EQ(result.err, "File Error: \"a.png\" is no JPEG image (.jpg, .jpeg, .jfif).\n");
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 
@@ -179,6 +179,25 @@ TEST(NewCommand, AProjectThatCannotBeWrittenIsAFailure) {
   const ProcessResult result = place.Run({"new", "nowhere/a.gpj", "a.jpg"});
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_EQ(result.err, "File Error: An error occurred while saving the Gallery Project.\n");
+}
+
+TEST(NewCommand, APathTextKeepsTheDriveThatWasTyped) {
+  const Workplace place;
+  place.Photograph("home/pictures/a.jpg");
+  const std::string typed = "Z:" + ReplaceAll(place.Path("home/pictures").string(), "/", "\\");
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", typed, typed + "\\a.jpg"})));
+  const std::string source = "Z:" + place.Path("home/pictures/a.jpg").string();
+  EXPECT_EQ(Images(place, "a.gpj", "SourcePath"), (Texts{source, source}));
+}
+
+TEST(NewCommand, ANameThatIsNoTextIsNamedAndNothingIsWritten) {
+  const Workplace place;
+  place.Photograph("holiday/bad\xFFname.jpg");
+  const ProcessResult result = place.Run({"new", "a.gpj", "holiday"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_NE(result.err.find("bad\xEF\xBF\xBDname.jpg\" has a name that is no UTF-8 text"), std::string::npos)
+      << result.err;
+  EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 
 }  // namespace
