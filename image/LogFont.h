@@ -16,8 +16,8 @@ struct LogFont {
   std::uint8_t lfItalic = 0;
   std::uint8_t lfUnderline = 0;
   std::uint8_t lfStrikeOut = 0;
-  std::uint8_t lfQuality = 0;  ///< 3: no antialiasing
-  std::string lfFaceName;      ///< UTF-8, at most 31 characters
+  std::uint8_t lfQuality = 0;   ///< 3: no antialiasing
+  std::string lfFaceName = {};  ///< UTF-8, at most 31 characters
 };
 
 inline constexpr std::uint8_t kNonAntialiasedQuality = 3;

@@ -93,11 +93,17 @@ std::int32_t WholePixels(int pangoUnits) {
 
 }  // namespace
 
-GObjectHandle<PangoFontMap> MakeFontMap() {
-  GObjectHandle<PangoFontMap> map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
+// The map itself would keep its configuration for ever.
+void FontMapReleaser::operator()(PangoFontMap* map) const {
+  pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map), nullptr);
+  g_object_unref(map);
+}
+
+FontMapHandle MakeFontMap() {
   const FcConfigHandle config(FcInitLoadConfig());
   FcConfigParseAndLoadFromMemory(config.get(), reinterpret_cast<const FcChar8*>(kRules), FcFalse);
   FcConfigBuildFonts(config.get());
+  FontMapHandle map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
   pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map.get()), config.get());
   return map;
 }

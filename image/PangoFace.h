@@ -8,9 +8,14 @@
 
 namespace vantorium {
 
+struct FontMapReleaser {
+  void operator()(PangoFontMap* map) const;
+};
+using FontMapHandle = std::unique_ptr<PangoFontMap, FontMapReleaser>;
+
 /// The fonts of the machine, as texts without antialiasing use them: what the user's settings say about hinting and
 /// smoothing counts for nothing, and "Arial" is Liberation Sans, which has the same widths.
-[[nodiscard]] GObjectHandle<PangoFontMap> MakeFontMap();
+[[nodiscard]] FontMapHandle MakeFontMap();
 
 /// One font at one size, upright. All measures are pixels.
 class PangoFace {

@@ -31,7 +31,7 @@ void DrawUpright(PangoPen& pen, const PangoFace& face, const std::vector<std::st
 
 struct PangoTextRaster::Fonts {
   std::mutex mutex;
-  GObjectHandle<PangoFontMap> map;  // made when it is first needed
+  FontMapHandle map;  // made when it is first needed
 
   [[nodiscard]] PangoFontMap* Map() {
     if (!map) map = MakeFontMap();

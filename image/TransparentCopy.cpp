@@ -4,98 +4,94 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace vantorium {
 namespace {
 
-// Rows are worked on in blocks of whole pixels that also fill whole vectors. Nothing in a block branches.
-constexpr std::size_t kBlock = 96;
-using Block = std::array<std::uint8_t, kBlock>;
+// Rows are worked on in blocks that stay in the processor's nearest memory from one pass over them to the next. A block
+// is large enough for a pass to find what the one before it has stored. Nothing in a pass branches.
+constexpr std::size_t kBlockBytes = 3 * 1024;
+using Block = std::array<std::uint8_t, kBlockBytes>;
 
 /// The three bytes of a colour, over and over, in the order of a picture's bytes.
 Block Repeated(std::uint32_t color) {
   Block block;
-  for (std::size_t i = 0; i < kBlock; ++i) block[i] = static_cast<std::uint8_t>(color >> (16 - 8 * (i % 3)));
+  for (std::size_t i = 0; i < block.size(); ++i) block[i] = static_cast<std::uint8_t>(color >> (16 - 8 * (i % 3)));
   return block;
 }
 
 /// 255 at the first byte of each pixel, else 0.
 constexpr Block FirstBytes() {
   Block block = {};
-  for (std::size_t i = 0; i < kBlock; i += 3) block[i] = 255;
+  for (std::size_t i = 0; i < block.size(); i += 3) block[i] = 255;
   return block;
 }
 constexpr Block kFirstBytes = FirstBytes();
 
-/// For each byte 255 when its pixel differs from the one in `pattern`, else 0.
-inline void ComparePixels(const std::uint8_t* source, const std::uint8_t* pattern, std::uint8_t* differs) {
-  std::array<std::uint8_t, kBlock + 2> bytes;
-  for (std::size_t i = 0; i < kBlock; ++i) bytes[i] = source[i] == pattern[i] ? 0 : 255;
-  bytes[kBlock] = bytes[kBlock + 1] = 0;
-  // The answer of a pixel's three bytes is collected at its first byte and spread from there.
-  std::array<std::uint8_t, kBlock + 2> pixels;
-  pixels[0] = pixels[1] = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) {
-    pixels[i + 2] = static_cast<std::uint8_t>((bytes[i] | bytes[i + 1] | bytes[i + 2]) & kFirstBytes[i]);
+/// What tells the pixels of a block apart: at each pixel's first byte 255 if it differs from the pattern's, else 0; 0
+/// at the other bytes and two places before the block.
+using Marks = std::array<std::uint8_t, kBlockBytes + 2>;
+
+/// `bytes` are those of whole pixels, at least one.
+VANTORIUM_VECTOR_CLONES
+void MarkDifferent(const std::uint8_t* source, const std::uint8_t* pattern, std::size_t bytes, std::uint8_t* marks) {
+  marks[0] = marks[1] = 0;
+  for (std::size_t i = 0; i < bytes - 2; ++i) {
+    const auto difference = static_cast<std::uint8_t>((source[i] ^ pattern[i]) | (source[i + 1] ^ pattern[i + 1]) |
+                                                      (source[i + 2] ^ pattern[i + 2]));
+    const std::uint8_t differs = difference != 0 ? 255 : 0;
+    marks[i + 2] = static_cast<std::uint8_t>(differs & kFirstBytes[i]);
   }
-  for (std::size_t i = 0; i < kBlock; ++i) {
-    differs[i] = static_cast<std::uint8_t>(pixels[i] | pixels[i + 1] | pixels[i + 2]);
-  }
+  marks[bytes] = marks[bytes + 1] = 0;
 }
 
-/// (n + 50) / 100, one less when it is odd and there was a tie: all of it in 16 bits. The quotient by multiplication is
-/// exact for every sum that comes up, which is at most 25550.
-inline std::uint8_t Mixed(std::uint8_t source, std::uint8_t target, std::uint16_t alpha) {
-  const auto sum = static_cast<std::uint16_t>(target * (100 - alpha) + source * alpha + 50);
-  const auto quotient = static_cast<std::uint16_t>((sum * 41944U) >> 22);
+/// 255 if the pixel of byte `i` is marked, else 0.
+inline std::uint8_t MarkOf(const std::uint8_t* marks, std::size_t i) {
+  return static_cast<std::uint8_t>(marks[i] | marks[i + 1] | marks[i + 2]);
+}
+
+/// `one` where the mask is 255, `other` where it is 0.
+inline std::uint8_t Choose(std::uint8_t mask, std::uint8_t one, std::uint8_t other) {
+  return static_cast<std::uint8_t>(other ^ ((one ^ other) & mask));
+}
+
+/// (sum + 50) / 100, one less when it is odd and there was a tie: all of it in 16 bits. The quotient by multiplication
+/// is exact for every sum that comes up, which is at most 25550.
+inline std::uint8_t Mixed(std::uint8_t source, std::uint8_t target, std::uint16_t alpha, std::uint16_t rest) {
+  const auto sum = static_cast<std::uint16_t>(target * rest + source * alpha + 50);
+  const auto high = static_cast<std::uint16_t>((std::uint32_t{sum} * 41944U) >> 16);
+  const auto quotient = static_cast<std::uint16_t>(high >> 6);
   const auto tie = static_cast<std::uint16_t>(static_cast<std::uint16_t>(quotient * 100) == sum ? 1 : 0);
   return static_cast<std::uint8_t>(quotient - (tie & quotient));
 }
 
 VANTORIUM_VECTOR_CLONES
-void BlendBlocks(const std::uint8_t* source, std::uint8_t* target, std::size_t blocks, const std::uint8_t* key,
+void BlendMarked(const std::uint8_t* source, std::uint8_t* target, std::size_t bytes, const std::uint8_t* marks,
                  std::uint16_t alpha) {
-  for (; blocks != 0; --blocks, source += kBlock, target += kBlock) {
-    Block differs;
-    ComparePixels(source, key, differs.data());
-    for (std::size_t i = 0; i < kBlock; ++i) {
-      const std::uint8_t mixed = Mixed(source[i], target[i], alpha);
-      target[i] = static_cast<std::uint8_t>(target[i] ^ ((target[i] ^ mixed) & differs[i]));
-    }
+  const auto rest = static_cast<std::uint16_t>(100 - alpha);
+  for (std::size_t i = 0; i < bytes; ++i) {
+    target[i] = Choose(MarkOf(marks, i), Mixed(source[i], target[i], alpha, rest), target[i]);
   }
 }
 
 VANTORIUM_VECTOR_CLONES
-void CopyBlocks(const std::uint8_t* source, std::uint8_t* target, std::size_t blocks, const std::uint8_t* wanted) {
-  for (; blocks != 0; --blocks, source += kBlock, target += kBlock) {
-    Block differs;
-    ComparePixels(source, wanted, differs.data());
-    for (std::size_t i = 0; i < kBlock; ++i) {
-      target[i] = static_cast<std::uint8_t>(source[i] ^ ((source[i] ^ target[i]) & differs[i]));
+void CopyUnmarked(const std::uint8_t* source, std::uint8_t* target, std::size_t bytes, const std::uint8_t* marks) {
+  for (std::size_t i = 0; i < bytes; ++i) target[i] = Choose(MarkOf(marks, i), target[i], source[i]);
+}
+
+/// Marks the pixels of the source that differ from the pattern, block by block, and calls
+/// `work(source, target, bytes, marks)`.
+template <typename Work>
+void ForEachBlock(const cDIBSection& source, cDIBSection& target, const Block& pattern, Work work) {
+  const auto rowBytes = static_cast<std::size_t>(source.width()) * 3;
+  Marks marks;
+  for (std::int32_t y = 0; y < source.height(); ++y) {
+    for (std::size_t start = 0; start < rowBytes; start += kBlockBytes) {
+      const std::size_t bytes = std::min(kBlockBytes, rowBytes - start);
+      MarkDifferent(source.Row(y) + start, pattern.data(), bytes, marks.data());
+      work(source.Row(y) + start, target.Row(y) + start, bytes, marks.data());
     }
   }
-}
-
-/// Takes one row through `work(source, target, blocks)`; what fills no block at its end goes by way of whole ones.
-template <typename Work>
-void ByBlocks(const std::uint8_t* source, std::uint8_t* target, std::size_t bytes, Work work) {
-  const std::size_t whole = bytes / kBlock;
-  work(source, target, whole);
-  const std::size_t rest = bytes - whole * kBlock;
-  if (rest == 0) return;
-  Block lastSource = {};
-  Block lastTarget = {};
-  std::memcpy(lastSource.data(), source + whole * kBlock, rest);
-  std::memcpy(lastTarget.data(), target + whole * kBlock, rest);
-  work(lastSource.data(), lastTarget.data(), 1);
-  std::memcpy(target + whole * kBlock, lastTarget.data(), rest);
-}
-
-template <typename Work>
-void ForEachRow(const cDIBSection& source, cDIBSection& target, Work work) {
-  const auto bytes = static_cast<std::size_t>(source.width()) * 3;
-  for (std::int32_t y = 0; y < source.height(); ++y) ByBlocks(source.Row(y), target.Row(y), bytes, work);
 }
 
 }  // namespace
@@ -104,13 +100,12 @@ bool TransparentCopy(const cDIBSection& source, cDIBSection& target, std::uint32
   if (source.width() > target.width() || source.height() > target.height()) return false;
   if (source.DIBSectionBitsPtr() == nullptr || target.DIBSectionBitsPtr() == nullptr) return false;
   if (alpha < 100) {
-    ForEachRow(source, target, [alpha, pattern = Repeated(key)](const auto* from, auto* to, std::size_t blocks) {
-      BlendBlocks(from, to, blocks, pattern.data(), alpha);
-    });
+    ForEachBlock(source, target, Repeated(key),
+                 [alpha](const std::uint8_t* from, std::uint8_t* to, std::size_t bytes, const std::uint8_t* marks) {
+                   BlendMarked(from, to, bytes, marks, alpha);
+                 });
   } else {
-    ForEachRow(source, target, [pattern = Repeated(~key)](const auto* from, auto* to, std::size_t blocks) {
-      CopyBlocks(from, to, blocks, pattern.data());
-    });
+    ForEachBlock(source, target, Repeated(~key), CopyUnmarked);
   }
   return true;
 }

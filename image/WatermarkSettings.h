@@ -8,7 +8,7 @@ namespace vantorium {
 /// The watermark of one target (images or thumbnails).
 struct WatermarkSettings {
   std::int16_t checkUseWatermark = 0;  ///< 1 is on
-  std::string textWatermark;
+  std::string textWatermark = {};
   std::int16_t comboTextPlacement = 10;  ///< 0 top left, row by row, to 8 bottom right; 9 and 10 the diagonals
   std::int16_t sliderAlpha = 65;         ///< percentage of the text in the blend, 1 to 100
   std::string FontName = "Arial";

@@ -59,6 +59,17 @@ TEST(AddNoise, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
   }
 }
 
+// Ties between two bytes come once in a hundred thousand bytes.
+TEST(AddNoise, TiesAreRoundedAsTheLiteralFilterRoundsThem) {
+  cDIBSection fast = fakes::EveryColour();
+  cDIBSection literal = fakes::EveryColour();
+  NoiseStream one(1, 1);
+  NoiseStream other(1, 1);
+  AddNoise(fast, 100, false, one);
+  AddNoiseLiteral(literal, 100, false, other);
+  EXPECT_EQ(fakes::Difference(fast, literal), "");
+}
+
 TEST(AddNoise, OffsetsFillTheSpreadEvenlyAndIndependently) {
   const cDIBSection dib = Noisy(fakes::Plain(500, 400, {128, 128, 128}), 100, false);
   std::vector<int> channels[3];

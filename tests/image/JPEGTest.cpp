@@ -138,6 +138,13 @@ TEST_F(JPEG, DamagedDataAreNotLoaded) {
   }
 }
 
+TEST_F(JPEG, AMissingIntervalBetweenRestartMarkersIsDamage) {
+  const std::string jpeg = MakeJpeg({.width = 200, .height = 150, .restartEvery = 5});
+  const std::size_t second = jpeg.find("\xFF\xD1");
+  const std::size_t third = jpeg.find("\xFF\xD2");
+  EXPECT_FALSE(Loads(std::string(jpeg).erase(second, third - second)));
+}
+
 TEST_F(JPEG, HarmlessOdditiesAreLoaded) {
   const std::string jpeg = MakeJpeg({});
   ASSERT_TRUE(Loads(jpeg));
@@ -189,17 +196,17 @@ TEST_F(JPEG, AClaimOfMorePixelsThanTheFileCanHoldTakesNoMemory) {
   for (const bool progressive : {false, true}) {
     for (const bool arithmetic : {false, true}) {
       for (const auto colours : {JpegColours::Grey, JpegColours::YCbCr, JpegColours::YCCK}) {
-        const auto path = folder_.Write(
-            "claim.jpg",
-            fakes::ClaimingSize(MakeJpeg({.colours = colours, .progressive = progressive, .arithmetic = arithmetic}),
-                                65000, 65000));
-        cDIBSection dib = fakes::Plain(2, 2, {1, 2, 3});
-        EXPECT_FALSE(LoadJPEGImage(dib, path)) << progressive << arithmetic;
-        EXPECT_EQ(dib.DIBSectionBitsPtr(), nullptr);
-        std::int32_t width = 0;
-        std::int32_t height = 0;
-        EXPECT_TRUE(ReadJPEGSize(path, width, height));
-        EXPECT_EQ(width, 65000);
+        for (const int side : {9000, 65000}) {
+          const fakes::JpegRecipe recipe = {.colours = colours, .progressive = progressive, .arithmetic = arithmetic};
+          const auto path = folder_.Write("claim.jpg", fakes::ClaimingSize(MakeJpeg(recipe), side, side));
+          cDIBSection dib = fakes::Plain(2, 2, {1, 2, 3});
+          EXPECT_FALSE(LoadJPEGImage(dib, path)) << recipe;
+          EXPECT_EQ(dib.DIBSectionBitsPtr(), nullptr) << recipe;
+          std::int32_t width = 0;
+          std::int32_t height = 0;
+          EXPECT_TRUE(ReadJPEGSize(path, width, height)) << recipe;
+          EXPECT_EQ(width, side) << recipe;
+        }
       }
     }
   }
@@ -218,14 +225,19 @@ TEST_F(JPEG, TheFlattestPicturesAreBelieved) {
   }
 }
 
+// The first scan may be there again: it says the same again.
 TEST_F(JPEG, ThousandsOfScansAreNotSatThrough) {
   const std::string jpeg = MakeJpeg({.colours = JpegColours::Grey, .progressive = true});
-  // The last scan, from its marker to the end mark, again and again.
-  const std::size_t last = jpeg.rfind("\xFF\xDA");
-  const std::string scan = jpeg.substr(last, jpeg.size() - 2 - last);
-  std::string many = jpeg.substr(0, last);
-  for (int i = 0; i < 2000; ++i) many += scan;
-  EXPECT_FALSE(Loads(many + "\xFF\xD9"));
+  const std::size_t first = jpeg.find("\xFF\xDA");
+  const std::size_t tables = jpeg.find("\xFF\xC4", first);
+  const std::string scan = jpeg.substr(first, tables - first);
+  const auto repeated = [&](int times) {
+    std::string bytes = jpeg.substr(0, first);
+    for (int i = 0; i < times; ++i) bytes += scan;
+    return bytes + jpeg.substr(tables);
+  };
+  EXPECT_TRUE(Loads(repeated(20)));
+  EXPECT_FALSE(Loads(repeated(2000)));
 }
 
 TEST_F(JPEG, ASavedPictureIsLoadedAgain) {

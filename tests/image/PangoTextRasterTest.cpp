@@ -83,8 +83,8 @@ TEST_F(PangoTextRasterTest, AFontThatDoesNotExistHasAStandIn) {
 
 TEST_F(PangoTextRasterTest, TheHeightIsThatOfTheEm) {
   // A capital letter of this font is 1409 / 2048 of the em high.
-  for (const std::int32_t em : {20, 48, 100, 400, 600}) {
-    const TextMask letter = DrawLines(FontOf(-em), "H");
+  for (const std::int32_t em : {20, 48, 100, 400, 1024, 1025, 3000}) {
+    const TextMask letter = raster.Draw(FontOf(-em), "H", {}, 3000, 3000);
     EXPECT_NEAR(letter.height(), em * 1409.0 / 2048, 1) << em;
   }
 }

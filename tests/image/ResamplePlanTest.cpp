@@ -1,4 +1,3 @@
-#include "image/ResampleLiteral.h"
 #include "image/ResamplePlan.h"
 
 #include <cmath>
