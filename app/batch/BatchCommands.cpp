@@ -2,13 +2,16 @@
 
 #include "app/batch/BatchPorts.h"
 #include "app/batch/FindImages.h"
+#include "app/batch/Password.h"
 #include "app/batch/ProjectJson.h"
 #include "core/ImageListOperations.h"
 #include "core/ProjectSession.h"
 #include "core/generation/CreateGallery.h"
 #include "env/DriveTable.h"
+#include "env/PathText.h"
 #include "env/ProgramFolder.h"
 #include "image/PangoTextRaster.h"
+#include "publish/AsioFTPSocket.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -47,6 +50,7 @@ class BatchProgram {
         programFolder_(ProgramFolderOf(options)),
         paths_(ReadDriveTable(GetINIFileName(programFolder_)), SurroundingsOfProcess().home),
         terminal_(ChooseProgressStyle(options.quiet, options.verbose)) {
+    cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
     session_.NewProject();
   }
 
@@ -55,6 +59,8 @@ class BatchProgram {
   ExitCode Save();
   ExitCode Create();
   ExitCode Preview();
+  ExitCode Publish();
+  ExitCode Upload();
 
  private:
   [[nodiscard]] std::string PathText(const std::string& typed) const { return paths_.ToTextFromUser(typed); }
@@ -62,6 +68,9 @@ class BatchProgram {
   [[nodiscard]] ExitCode SaveTo(const std::string& typed);
   [[nodiscard]] ExitCode RunMode(GenerationMode mode, const CreateChoice& choice);
   [[nodiscard]] Preferences PreferencesOfRun() const;
+  [[nodiscard]] CreateChoice Switches(CreateChoice::Option option) const;
+  /// What the run needs to know of the server; nothing after a message about the password file.
+  [[nodiscard]] std::optional<CreateChoice> ServerChoice(CreateChoice::Option option);
 
   const BatchOptions& options_;
   std::filesystem::path programFolder_;
@@ -72,6 +81,8 @@ class BatchProgram {
   TerminalMessageBox boxes_{terminal_};
   CancelCheck cancel_{boxes_};
   InterruptLoop loop_{cancel_};
+  mFTP ftp_{
+      std::make_unique<AsioFTPSocket>(loop_), std::make_unique<AsioFTPSocket>(loop_), paths_, boxes_, loop_, cancel_};
   TerminalStatus status_{terminal_};
   Screen screen_;
   PangoTextRaster texts_;
@@ -113,12 +124,53 @@ ExitCode BatchProgram::SaveTo(const std::string& typed) {
 
 ExitCode BatchProgram::Create() {
   if (!Load()) return ExitCode::Failure;
-  return RunMode(GenerationMode::Create, {.option = CreateChoice::Option::CreateGallery,
-                                          .CreateImages = !options_.noImages,
-                                          .CreateThumbnails = !options_.noThumbnails,
-                                          .CreateHTMLFiles = !options_.noHtml,
-                                          .Overwrite = !options_.keepExisting,
-                                          .FilePath = PathText(options_.output)});
+  CreateChoice choice = Switches(CreateChoice::Option::CreateGallery);
+  choice.FilePath = PathText(options_.output);
+  return RunMode(GenerationMode::Create, choice);
+}
+
+ExitCode BatchProgram::Publish() {
+  const auto choice = ServerChoice(CreateChoice::Option::Publish);
+  if (!choice || !Load()) return ExitCode::Failure;
+  return RunMode(GenerationMode::Create, *choice);
+}
+
+ExitCode BatchProgram::Upload() {
+  auto choice = ServerChoice(CreateChoice::Option::UploadFolder);
+  if (!choice) return ExitCode::Failure;
+  choice->UploadSourceFolder = WithTrailingBackslash(PathText(options_.folder));
+  return RunMode(GenerationMode::Create, *choice);
+}
+
+CreateChoice BatchProgram::Switches(CreateChoice::Option option) const {
+  CreateChoice choice;
+  choice.option = option;
+  choice.CreateImages = !options_.noImages;
+  choice.CreateThumbnails = !options_.noThumbnails;
+  choice.CreateHTMLFiles = !options_.noHtml;
+  choice.Overwrite = !options_.keepExisting;
+  return choice;
+}
+
+std::optional<CreateChoice> BatchProgram::ServerChoice(CreateChoice::Option option) {
+  const auto password = ReadPassword(options_.passwordFile);
+  if (!password) {
+    boxes_.Critical("File Error", "The password file \"" + options_.passwordFile + "\" cannot be read.");
+    return std::nullopt;
+  }
+  CreateChoice choice = Switches(option);
+  choice.UploadServer = options_.server;
+  choice.UploadPort = options_.port;
+  choice.UploadUser = options_.user;
+  choice.UploadPassword = *password;
+  choice.UploadJumpTo = options_.baseDirectory;
+  choice.UploadIndexPath = options_.remote;
+  if (option == CreateChoice::Option::Publish) {
+    const std::size_t name = options_.remote.find_last_of("/\\") + 1;  // npos + 1 is 0
+    choice.UploadIndexPath = options_.remote.substr(0, name);
+    choice.UploadIndexFile = options_.remote.substr(name);
+  }
+  return choice;
 }
 
 ExitCode BatchProgram::Preview() {
@@ -133,7 +185,7 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
   Preferences preferences = PreferencesOfRun();
   GalleryCreator creator(
       project_, preferences, GetAppPath(programFolder_, paths_),
-      {host, boxes_, loop_, clock, shell, files_, formats_, cancel_, screen_, texts_, JobsOf(options_)});
+      {host, boxes_, loop_, clock, shell, files_, formats_, cancel_, screen_, texts_, &ftp_, JobsOf(options_)});
   const RunEnd end = creator.CreateGallery(mode, 0);
   terminal_.EraseBar();
   if (end == RunEnd::Cancelled) return ExitCode::Cancelled;
@@ -166,6 +218,10 @@ ExitCode RunBatchCommand(const BatchOptions& options) {
       return program.Create();
     case BatchCommand::Preview:
       return program.Preview();
+    case BatchCommand::Publish:
+      return program.Publish();
+    case BatchCommand::Upload:
+      return program.Upload();
   }
   return ExitCode::Failure;
 }

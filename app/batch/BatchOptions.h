@@ -2,13 +2,14 @@
 
 #include "env/CivilTime.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace vantorium {
 
-enum class BatchCommand { New, Show, Save, Create, Preview };
+enum class BatchCommand { New, Show, Save, Create, Preview, Publish, Upload };
 
 /// What the command line asks for. Paths are as they were typed.
 struct BatchOptions {
@@ -33,6 +34,13 @@ struct BatchOptions {
   bool noHtml = false;
   bool keepExisting = false;
   bool open = false;
+  std::string folder;  ///< to upload
+  std::string server;
+  std::uint16_t port = 21;
+  std::string user;
+  std::string passwordFile;  ///< "-" is standard input
+  std::string remote;        ///< FOLDER/INDEX-FILE of publish, FOLDER of upload
+  std::string baseDirectory;
 };
 
 }  // namespace vantorium

@@ -60,6 +60,21 @@ void AddRunSwitches(CLI::App& command, BatchOptions& options) {
   command.add_flag("--keep-existing", options.keepExisting, "Keep images and thumbnails that exist");
 }
 
+void AddServer(CLI::App& command, BatchOptions& options, const char* remote) {
+  command.add_option("--server", options.server, "Host of the FTP server")->type_name("HOST")->required();
+  command.add_option("--user", options.user, "Name to log in with")->type_name("NAME")->required();
+  command
+      .add_option("--password-file", options.passwordFile,
+                  "File with the password in its first line; - is standard input")
+      ->type_name("FILE")
+      ->required();
+  command.add_option("--remote", options.remote, "Where it goes on the server")->type_name(remote)->required();
+  command.add_option("--base-directory", options.baseDirectory, "Directory to change to after login")->type_name("DIR");
+  command.add_option("--port", options.port, "Port of the server; 21 unless given")
+      ->type_name("N")
+      ->check(CLI::Range(1, 65535));
+}
+
 CLI::App& AddCommand(CLI::App& app, BatchOptions& options, BatchCommand command, const char* name, const char* about) {
   CLI::App* added = app.add_subcommand(name, about);
   added->callback([&options, command] { options.command = command; });
@@ -94,6 +109,21 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
       AddCommand(app, options, BatchCommand::Preview, "preview", "Make the pages in the temporary folder");
   AddProject(preview, options);
   preview.add_flag("--open", options.open, "Open the preview in the default browser");
+
+  CLI::App& publish =
+      AddCommand(app, options, BatchCommand::Publish, "publish", "Send a project's gallery to a server");
+  AddProject(publish, options);
+  AddServer(publish, options, "FOLDER/INDEX-FILE");
+  publish.get_option("--remote")->check([](const std::string& path) {
+    const bool namesFile = !path.empty() && path.back() != '/' && path.back() != '\\';
+    return namesFile ? std::string() : std::string("it names no index file");
+  });
+  AddRunSwitches(publish, options);
+
+  CLI::App& upload = AddCommand(app, options, BatchCommand::Upload, "upload", "Send a folder to a server");
+  upload.add_option("FOLDER", options.folder, "The folder whose contents are sent")->required();
+  AddServer(upload, options, "FOLDER");
+  upload.add_flag("--keep-existing", options.keepExisting, "Keep files that the server has");
 }
 
 /// What is wrong, in one line. CLI11 may go on with a hint about --help, and of an unknown command it only says that

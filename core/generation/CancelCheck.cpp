@@ -8,6 +8,7 @@ bool CancelCheck::CheckForCancel(ProgressWindow& progress) {
     progress.SetText3("\r\nCancelling Request...\r\n", true);
     progress.ShowBusyPointer(true);
     cancelRequested_ = true;
+    if (onCancel_) onCancel_();
   } else {
     progress.SetIsCancelled(false);
   }

@@ -3,8 +3,30 @@
 #include "core/ProjectEditor.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
+#include "publish/FTPPath.h"
 
 namespace vantorium {
+namespace {
+
+/// Path text through its last separator. Unlike GetFilePath it keeps a separator in front.
+std::string FolderPart(const std::string& path) {
+  return path.substr(0, path.size() - GetFileName(path).size());
+}
+
+/// A folder on the server ready to be followed by a name.
+std::string WithTrailingSeparator(const std::string& folder) {
+  const bool needsOne = !folder.empty() && !folder.ends_with('\\') && !folder.ends_with('/');
+  return needsOne ? folder + '/' : folder;
+}
+
+void TakeSwitches(const CreateChoice& choice, RunArguments& arguments) {
+  arguments.CreateImages = choice.CreateImages;
+  arguments.CreateThumbnails = choice.CreateThumbnails;
+  arguments.CreateHTML = choice.CreateHTMLFiles;
+  arguments.Overwrite = choice.Overwrite;
+}
+
+}  // namespace
 
 RunEnd GalleryCreator::CreateGallery(GenerationMode& mode, std::int16_t browserIndex) {
   if (preferences_.TempFolderLocation.empty()) preferences_.TempFolderLocation = programFolder_;
@@ -26,7 +48,21 @@ RunEnd GalleryCreator::CreateGallery(GenerationMode& mode, std::int16_t browserI
 bool GalleryCreator::Prepare(GenerationMode& mode, RunArguments& arguments) {
   if (mode == GenerationMode::Preview) return PreparePreview(arguments);
   const CreateChoice choice = environment_.host.AskWhatToCreate();
-  return choice.option == CreateChoice::Option::CreateGallery && PrepareCreate(choice, arguments);
+  TakeSwitches(choice, arguments);
+  switch (choice.option) {
+    case CreateChoice::Option::Cancelled:
+      return false;
+    case CreateChoice::Option::CreateGallery:
+      return PrepareCreate(choice, arguments);
+    case CreateChoice::Option::Publish:
+      mode = GenerationMode::Publish;
+      return PreparePublish(choice, arguments);
+    case CreateChoice::Option::UploadFolder:
+      mode = GenerationMode::Upload;
+      PrepareUpload(choice, arguments);
+      return true;
+  }
+  return false;
 }
 
 bool GalleryCreator::PreparePreview(RunArguments& arguments) {
@@ -40,14 +76,36 @@ bool GalleryCreator::PreparePreview(RunArguments& arguments) {
 bool GalleryCreator::PrepareCreate(const CreateChoice& choice, RunArguments& arguments) {
   MakeTempFolder();
   arguments.IndexFileName = GetFileName(choice.FilePath);
-  arguments.OutputFolder = choice.FilePath.substr(0, choice.FilePath.size() - arguments.IndexFileName.size());
+  arguments.OutputFolder = FolderPart(choice.FilePath);
   preferences_.CreateFolder = arguments.OutputFolder;
   preferences_.GalleryIndexFileName = arguments.IndexFileName;
-  arguments.CreateImages = choice.CreateImages;
-  arguments.CreateThumbnails = choice.CreateThumbnails;
-  arguments.CreateHTML = choice.CreateHTMLFiles;
-  arguments.Overwrite = choice.Overwrite;
   return !RefuseEmptyList("You cannot create a Gallery without Images.");
+}
+
+bool GalleryCreator::PreparePublish(const CreateChoice& choice, RunArguments& arguments) {
+  TakeServer(choice, arguments);
+  const std::string remote = WithTrailingSeparator(choice.UploadIndexPath) + choice.UploadIndexFile;
+  arguments.RemoteFolder = FTPGetFilePath(remote);
+  arguments.RemoteIndexFileName = FTPGetFileName(remote);
+  MakeTempFolder();
+  arguments.OutputFolder = TempFolder() + "\\";
+  arguments.IndexFileName = arguments.RemoteIndexFileName;
+  return !RefuseEmptyList("You cannot upload a Gallery without Images.");
+}
+
+void GalleryCreator::PrepareUpload(const CreateChoice& choice, RunArguments& arguments) {
+  TakeServer(choice, arguments);
+  arguments.OutputFolder = FolderPart(choice.UploadSourceFolder);
+  arguments.RemoteFolder = FTPGetFilePath(WithTrailingSeparator(choice.UploadIndexPath));
+}
+
+void GalleryCreator::TakeServer(const CreateChoice& choice, RunArguments& arguments) {
+  if (environment_.ftp != nullptr && environment_.ftp->IsConnected()) environment_.ftp->Disconnect();
+  arguments.ServerAddress = choice.UploadServer;
+  arguments.Port = choice.UploadPort;
+  arguments.UserName = choice.UploadUser;
+  arguments.Password = choice.UploadPassword;
+  arguments.BaseDirectory = choice.UploadJumpTo;
 }
 
 bool GalleryCreator::RefuseEmptyList(const char* text) {

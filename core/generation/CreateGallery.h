@@ -23,6 +23,9 @@ class GalleryCreator {
   [[nodiscard]] bool RefuseEmptyList(const char* text);
   [[nodiscard]] bool PreparePreview(RunArguments& arguments);
   [[nodiscard]] bool PrepareCreate(const CreateChoice& choice, RunArguments& arguments);
+  [[nodiscard]] bool PreparePublish(const CreateChoice& choice, RunArguments& arguments);
+  void PrepareUpload(const CreateChoice& choice, RunArguments& arguments);
+  void TakeServer(const CreateChoice& choice, RunArguments& arguments);
   [[nodiscard]] bool Prepare(GenerationMode& mode, RunArguments& arguments);
   [[nodiscard]] RunEnd Run(const RunArguments& arguments);
   void MakeTempFolder();

@@ -9,6 +9,8 @@
 #include "core/generation/PictureRecipes.h"
 #include "core/generation/ProducePictures.h"
 #include "core/generation/RunContext.h"
+#include "core/generation/ServerPhases.h"
+#include "core/generation/ServerTarget.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 
@@ -70,6 +72,8 @@ using Phase = PhaseResult (*)(const RunContext&);
 
 /// A run in its fixed order. The first phase that comes to an end ends the run.
 constexpr Phase kPhases[] = {
+    OpenServerSession,     //
+    UploadFolderAndEnd,    //
     StampAndSetPaths,      //
     CollectImages,         //
     MakeFolders,           //
@@ -175,6 +179,31 @@ void FinishRun(RunEnd end, const RunEnvironment& environment, ProgressWindow& pr
   }
 }
 
+/// The FTP client during a run: it logs to the run's window. At the end the window is unloaded, and then a connection
+/// that still stands is closed.
+class ServerUse {
+ public:
+  ServerUse(mFTP* ftp, std::unique_ptr<ProgressWindow>& progress) : ftp_(ftp), progress_(progress) {
+    if (ftp_ != nullptr) ftp_->FTPProgress = progress_.get();
+  }
+  ~ServerUse() {
+    if (ftp_ != nullptr) ftp_->FTPProgress = nullptr;
+    progress_.reset();
+    if (ftp_ != nullptr && ftp_->IsConnected()) ftp_->Disconnect();
+  }
+  ServerUse(const ServerUse&) = delete;
+  ServerUse& operator=(const ServerUse&) = delete;
+
+ private:
+  mFTP* ftp_;
+  std::unique_ptr<ProgressWindow>& progress_;
+};
+
+std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunArguments& arguments, mFTP* ftp) {
+  if (arguments.Mode == GenerationMode::Publish) return std::make_unique<ServerTarget>(run, arguments, *ftp);
+  return std::make_unique<LocalTarget>(run);
+}
+
 /// Sizes in percent never reach a page, though the option can be set.
 void ForceOffSizesInPercent(Project& project) {
   constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
@@ -187,7 +216,8 @@ RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const Ru
   ForceOffSizesInPercent(project);
   environment.host.ShowBusyPointer(true);
   environment.host.EnableMainWindow(false);
-  const auto progress = OpenProgressWindow(project, arguments, environment);
+  auto progress = OpenProgressWindow(project, arguments, environment);
+  const ServerUse server(environment.ftp, progress);
 
   RunState run{.project = project.settings,
                .images = project.images,
@@ -197,7 +227,8 @@ RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const Ru
                .ProjectFolder = project.ProjectFolder,
                .OutputFolder = arguments.OutputFolder,
                .IndexFileName = arguments.IndexFileName};
-  LocalTarget target(run);
+  mFTP* const ftp = SendsToServer(arguments.Mode) ? environment.ftp : nullptr;
+  const auto target = TargetOf(run, arguments, ftp);
   const RunContext context{.run = run,
                            .arguments = arguments,
                            .host = environment.host,
@@ -206,9 +237,10 @@ RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const Ru
                            .clock = environment.clock,
                            .cancel = environment.cancel,
                            .progress = *progress,
-                           .target = target,
+                           .target = *target,
                            .screen = environment.screen,
                            .texts = environment.texts,
+                           .ftp = ftp,
                            .jobs = environment.jobs};
   const RunEnd end = RunTrapped(context);
   FinishRun(end, environment, *progress);

@@ -12,6 +12,7 @@
 #include "env/Shell.h"
 #include "env/mFileFunctions.h"
 #include "image/TextRaster.h"
+#include "publish/mFTP.h"
 
 namespace vantorium {
 
@@ -27,7 +28,8 @@ struct RunEnvironment {
   CancelCheck& cancel;
   const Screen& screen;
   const TextRaster& texts;
-  unsigned jobs = 1;  ///< photographs worked on at a time; what comes out is the same for every number
+  mFTP* ftp = nullptr;  ///< the FTP client; a program that only creates and previews has none
+  unsigned jobs = 1;    ///< photographs worked on at a time; what comes out is the same for every number
 };
 
 /// One run: takes the project through the phases that turn it into files and ends in one of three ways. Whatever was

@@ -18,6 +18,7 @@ struct RunArguments {
   std::string RemoteFolder;
   std::string RemoteIndexFileName;
   std::string ServerAddress;
+  std::uint16_t Port = 21;
   std::string UserName;
   std::string Password;
   std::string BaseDirectory;  ///< to change to after login; empty means none

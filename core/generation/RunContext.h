@@ -11,6 +11,7 @@
 #include "env/MessageBoxPort.h"
 #include "env/Screen.h"
 #include "image/TextRaster.h"
+#include "publish/mFTP.h"
 
 #include <string>
 
@@ -29,7 +30,8 @@ struct RunContext {
   GalleryTarget& target;
   const Screen& screen;
   const TextRaster& texts;
-  unsigned jobs = 1;  ///< photographs worked on at a time
+  mFTP* ftp = nullptr;  ///< of a run that goes to a server
+  unsigned jobs = 1;    ///< photographs worked on at a time
 
   /// Shows what is being done in the status bar and in the progress window.
   void Announce(const std::string& text) const {

@@ -2,6 +2,7 @@
 
 #include "publish/ProgressWindow.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -16,7 +17,15 @@ struct CreateChoice {
   bool CreateThumbnails = true;
   bool CreateHTMLFiles = true;
   bool Overwrite = true;
-  std::string FilePath;  ///< CreateGallery: path text of the index file
+  std::string FilePath;            ///< CreateGallery: path text of the index file
+  std::string UploadIndexPath;     ///< folder on the server
+  std::string UploadIndexFile;     ///< Publish: name of the index file on the server
+  std::string UploadServer;        //
+  std::uint16_t UploadPort = 21;   //
+  std::string UploadUser;          //
+  std::string UploadPassword;      ///< for this run only
+  std::string UploadJumpTo;        ///< directory to change to after login
+  std::string UploadSourceFolder;  ///< UploadFolder: path text of the folder, with its trailing backslash
 };
 
 /// What a run asks of the main window. A face without windows answers from its command line.

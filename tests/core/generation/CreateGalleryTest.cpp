@@ -9,7 +9,8 @@ class CreateGalleryTest : public RunFixture {
  protected:
   CreateGalleryTest() {
     preferences.TempFolderLocation = "T:\\place";
-    host.choice = {.option = CreateChoice::Option::CreateGallery, .FilePath = "T:\\web\\start.htm"};
+    host.choice.option = CreateChoice::Option::CreateGallery;
+    host.choice.FilePath = "T:\\web\\start.htm";
   }
 
   RunEnd Create(GenerationMode mode, std::int16_t browserIndex = 0) {
@@ -131,6 +132,16 @@ TEST_F(CreateGalleryTest, ACancelOfAnEarlierRunIsForgotten) {
   loop.onTurn = nullptr;
   host.progress.cancelled = false;
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
+}
+
+TEST_F(CreateGalleryTest, AnEmptyListIsNotPublished) {
+  host.choice.option = CreateChoice::Option::Publish;
+  GenerationMode mode = GenerationMode::Create;
+  GalleryCreator creator(project, preferences, "T:\\program", environment);
+  EXPECT_EQ(creator.CreateGallery(mode, 0), RunEnd::NotStarted);
+  EXPECT_EQ(mode, GenerationMode::Publish) << "the mode is written back";
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].text, "You cannot upload a Gallery without Images.");
 }
 
 }  // namespace

@@ -1,0 +1,59 @@
+#include "core/generation/ServerPhases.h"
+
+#include "publish/UploadFolder.h"
+
+namespace vantorium {
+namespace {
+
+const char kFtpError[] = "FTP Error";
+
+/// The end of an operation on the server that has, or has not, worked. A cancel counts more than either.
+PhaseResult After(const RunContext& context, bool worked, const std::string& text) {
+  if (context.cancel.CancelRequested()) return RunEnd::Cancelled;
+  if (worked) return kGoOn;
+  return context.Fail(kFtpError, text);
+}
+
+/// The same for an operation without which the connection is of no use.
+PhaseResult AfterClosing(const RunContext& context, bool worked, const std::string& text) {
+  if (!worked) context.ftp->Disconnect();
+  return After(context, worked, text);
+}
+
+}  // namespace
+
+PhaseResult OpenServerSession(const RunContext& context) {
+  if (context.ftp == nullptr) return kGoOn;
+  const RunArguments& arguments = context.arguments;
+  context.progress.SetText2("Connecting...");
+  if (auto end = After(context, context.ftp->FTPConnect(arguments.ServerAddress, arguments.Port),
+                       "Cannot connect to Server.  Please check your Internet Connection and Server URL.")) {
+    return end;
+  }
+  context.progress.SetText2("Logging in...");
+  if (auto end = AfterClosing(context, context.ftp->FTPLogin(arguments.UserName, arguments.Password),
+                              "Invalid User ID or Password.")) {
+    return end;
+  }
+  if (arguments.BaseDirectory.empty()) return kGoOn;
+  context.progress.SetText2("Switching to Base Directory...");
+  return AfterClosing(context, context.ftp->FTPChangeDirectory(arguments.BaseDirectory),
+                      "Cannot switch to specified base Directory \"" + arguments.BaseDirectory + "\".");
+}
+
+PhaseResult UploadFolderAndEnd(const RunContext& context) {
+  if (context.run.mode != GenerationMode::Upload) return kGoOn;
+  const RunArguments& arguments = context.arguments;
+  FolderUpload upload({*context.ftp, context.run.files.Paths(), context.boxes, context.cancel, context.progress,
+                       [&context](const std::string& text) { context.host.ShowStatus(text); }});
+  std::int32_t counter = 0;
+  const bool counted =
+      upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
+  if (!counted && context.cancel.CancelRequested()) return RunEnd::Failure;
+  context.progress.SetMax(counter);
+  counter = -1;
+  const bool sent = upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
+  return sent ? RunEnd::Success : RunEnd::Failure;
+}
+
+}  // namespace vantorium

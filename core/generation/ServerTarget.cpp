@@ -1,0 +1,117 @@
+#include "core/generation/ServerTarget.h"
+
+#include "core/generation/OutputNaming.h"
+#include "core/generation/SafeNames.h"
+#include "env/PathText.h"
+#include "image/JPEG.h"
+
+namespace vantorium {
+namespace {
+
+const char kTransferError[] = "FTP File Error";
+
+std::string UnableToCopy(const std::string& path) {
+  return "Unable to copy the File \"" + path + "\".";
+}
+
+}  // namespace
+
+std::string ServerTarget::RemoteImagesDir() const {
+  return WithSlashes(arguments_.RemoteFolder + run_.ImageUrlPrefix);
+}
+
+std::string ServerTarget::RemoteThumbsDir() const {
+  return WithSlashes(arguments_.RemoteFolder + run_.ThumbUrlPrefix);
+}
+
+std::string ServerTarget::RemoteThumbnail(const ImageRunInfo& image) const {
+  return RemoteThumbsDir() + ThumbnailFileName(run_.project, image);
+}
+
+Delivery ServerTarget::MakeFolders() {
+  if (auto refusal = local_.MakeFolders()) return refusal;
+  if (!ftp_.FTPCreateDirectoryPath(RemoteImagesDir())) {
+    return Refusal{"FTP Directory Error", "Unable to create Images Subfolder."};
+  }
+  if (!ftp_.FTPCreateDirectoryPath(RemoteThumbsDir())) {
+    return Refusal{"FTP Directory Error", "Unable to create Thumbnails Subfolder."};
+  }
+  return {};
+}
+
+bool ServerTarget::ImageExists(const ImageRunInfo& image) {
+  return ftp_.FTPFileExists(RemoteImagesDir() + image.FileName);
+}
+
+bool ServerTarget::ThumbnailExists(const ImageRunInfo& image) {
+  return ftp_.FTPFileExists(RemoteThumbnail(image));
+}
+
+std::string ServerTarget::ImageSizeText(const ImageRunInfo& image) {
+  return ftp_.FTPGetFileSize(RemoteImagesDir() + image.FileName);
+}
+
+Delivery ServerTarget::CopyImage(ImageRunInfo& image) {
+  image.FileSize = run_.files.GetFileSizeText(image.Path);
+  const bool sent = IsPlainFileName(image.FileName) &&
+                    ftp_.FTPCopyFile(image.Path, RemoteImagesDir() + image.FileName, /*overwrite=*/true);
+  if (!sent) return Refusal{kTransferError, UnableToCopy(image.Path)};
+  return {};
+}
+
+Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
+  const std::string copy = run_.OutputFolder + image.FileName;
+  const auto native = run_.files.Paths().ToNative(copy);
+  if (!IsPlainFileName(image.FileName) || !native) {
+    return Refusal{"File Error", "Unable to create temporary Copy of the File \"" + image.Path + "\"."};
+  }
+  WriteJPEGFile(*native, jpeg);
+  run_.files.CopyFileTimes(image.Path, copy);
+  image.FileSize = FileSizeText(jpeg.size());
+  if (!ftp_.FTPCopyFile(copy, RemoteImagesDir() + image.FileName, /*overwrite=*/true)) {
+    return Refusal{kTransferError, UnableToCopy(image.Path)};
+  }
+  return {};
+}
+
+Delivery ServerTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
+  if (auto refusal = local_.StoreThumbnail(image, jpeg)) return refusal;
+  return Move(run_.LocalThumbsDir + ThumbnailFileName(run_.project, image), RemoteThumbnail(image),
+              "Unable to create Thumbnail for \"" + image.Path + "\".");
+}
+
+Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::string& name,
+                                     AuxiliarySpelling /*spelling*/) {
+  const bool sent = IsPlainFileName(name) && ftp_.FTPCopyFile(source, RemoteImagesDir() + name, /*overwrite=*/true);
+  if (!sent) return Refusal{kTransferError, UnableToCopy(source)};
+  return {};
+}
+
+Delivery ServerTarget::StoreIndexPage(std::string_view page) {
+  if (auto refusal = local_.StoreIndexPage(page)) return refusal;
+  return Move(run_.OutputFolder + run_.IndexFileName, arguments_.RemoteFolder + arguments_.RemoteIndexFileName,
+              "Unable to create the Gallery Index File.");
+}
+
+Delivery ServerTarget::StoreThumbnailPage(std::int32_t number, std::string_view page) {
+  if (auto refusal = local_.StoreThumbnailPage(number, page)) return refusal;
+  return SendPage(ThumbnailPageName(run_.project, number));
+}
+
+Delivery ServerTarget::StoreWrapperPage(const std::string& listText, std::string_view page) {
+  if (auto refusal = local_.StoreWrapperPage(listText, page)) return refusal;
+  return SendPage(WrapperPageName(run_.project, listText));
+}
+
+Delivery ServerTarget::SendPage(const std::string& name) {
+  const std::string remote = arguments_.RemoteFolder + name;
+  return Move(run_.OutputFolder + name, remote, "Unable to create the File \"" + remote + "\".");
+}
+
+Delivery ServerTarget::Move(const std::string& localPath, const std::string& remotePath, const std::string& text) {
+  if (!ftp_.FTPCopyFile(localPath, remotePath, /*overwrite=*/true)) return Refusal{kTransferError, text};
+  run_.files.DeleteLocalFile(localPath);
+  return {};
+}
+
+}  // namespace vantorium

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace vantorium {
+
+/// Whether the user has confirmed a cancel of the run under way.
+class CancelState {
+ public:
+  virtual ~CancelState() = default;
+  [[nodiscard]] virtual bool CancelRequested() const = 0;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "env/EventLoop.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace vantorium {
+
+/// One blocking call's waiting: slice after slice, with a turn of the event loop between two of them, until it is
+/// over, the time limit has passed or the call was abandoned from inside a turn. Time spent in turns does not count.
+class SlicedWait {
+ public:
+  using Milliseconds = std::chrono::milliseconds;
+
+  /// `abandoned` is looked at after each turn. A limit of 0 is none.
+  SlicedWait(EventLoop& loop, Milliseconds limit, const bool& abandoned)
+      : loop_(loop), limit_(limit), abandoned_(abandoned) {}
+
+  /// Calls `isOver`, which waits at most the time it is given, until it returns true. False when that never came.
+  template <typename IsOver>
+  [[nodiscard]] bool Until(IsOver isOver) {
+    while (!IsExpired()) {
+      const auto begin = Clock::now();
+      const bool over = isOver(NextSlice());
+      waited_ += Clock::now() - begin;
+      if (over) return true;
+      if (!Turn()) return false;
+    }
+    return false;
+  }
+
+  /// Gives the event loop a turn; false when the call was abandoned in it.
+  [[nodiscard]] bool Turn() {
+    loop_.Turn();
+    return !abandoned_;
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  static constexpr Milliseconds kSlice{20};
+
+  [[nodiscard]] bool IsExpired() const { return limit_.count() > 0 && waited_ >= limit_; }
+  [[nodiscard]] Milliseconds NextSlice() const {
+    if (limit_.count() == 0) return kSlice;
+    return std::min(kSlice, std::chrono::ceil<Milliseconds>(limit_ - waited_));
+  }
+
+  EventLoop& loop_;
+  Milliseconds limit_;
+  const bool& abandoned_;
+  Clock::duration waited_{};
+};
+
+}  // namespace vantorium

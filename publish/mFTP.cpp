@@ -1,0 +1,189 @@
+#include "publish/mFTP.h"
+
+#include "env/Numbers.h"
+#include "env/PathText.h"
+#include "env/Text.h"
+#include "env/mFileFunctions.h"
+#include "publish/FTPReply.h"
+
+#include <utility>
+
+namespace vantorium {
+namespace {
+
+constexpr std::uint16_t kFTPPort = 21;
+constexpr std::size_t kReplyPiece = 512;
+
+std::string WithoutBlanksAround(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+bool IsOneLine(std::string_view text) {
+  return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
+}
+
+/// As FileSizeText; a server may also claim a negative size, which stays as it is.
+std::string ClaimedSizeText(std::int32_t size) {
+  if (size < 0) return std::to_string(size) + " Bytes";
+  return FileSizeText(static_cast<std::uint64_t>(size));
+}
+
+}  // namespace
+
+mFTP::mFTP(std::unique_ptr<FTPSocket> sockCmd, std::unique_ptr<FTPSocket> sockData, const PathMap& paths,
+           MessageBoxPort& boxes, EventLoop& loop, const CancelState& cancel, FTPTimeLimits limits)
+    : sockCmd_(std::move(sockCmd)),
+      sockData_(std::move(sockData)),
+      paths_(paths),
+      boxes_(boxes),
+      loop_(loop),
+      cancel_(cancel),
+      limits_(limits) {}
+
+void mFTP::Disconnect() {
+  sockData_->Close();
+  sockCmd_->Close();
+}
+
+bool mFTP::FTPConnect(std::string_view host, std::uint16_t port) {
+  if (sockCmd_->IsConnected()) sockCmd_->Close();
+  FTPSocketSettings settings;
+  settings.host = WithoutBlanksAround(host);
+  settings.port = port == 0 ? kFTPPort : port;
+  settings.timeLimit = limits_.control;
+  if (settings.host.empty()) return false;
+  sockCmd_->Configure(settings);
+  if (sockCmd_->Connect() != 0) return false;
+
+  std::string greeting;
+  if (FTPReadReply(greeting, Logging::Logged) == 220) return true;
+  sockCmd_->Close();
+  return false;
+}
+
+bool mFTP::FTPLogin(std::string_view user, std::string_view password) {
+  auto code = FTPSendCommand("USER " + WithoutBlanksAround(user));
+  if (code == 331) code = FTPSendCommand("PASS " + WithoutBlanksAround(password));
+  return code == 230;
+}
+
+bool mFTP::DirectoryCommand(const std::string& command) {
+  if (FTPSendCommand(command) == 250) return true;
+  sockData_->Close();
+  return false;
+}
+
+bool mFTP::FTPChangeDirectory(const std::string& path) {
+  return DirectoryCommand("CWD " + path);
+}
+
+bool mFTP::FTPMakeDirectory(const std::string& path) {
+  return DirectoryCommand("MKD " + path);
+}
+
+bool mFTP::FTPCreateDirectoryPath(const std::string& path) {
+  FTPLog("Creating directory " + path + "\r\n");
+  std::string rest = WithSlashes(path);
+  if (!rest.ends_with('/')) rest += '/';
+  if (rest.starts_with('/')) rest.erase(0, 1);
+
+  int depth = 0;
+  for (auto slash = rest.find('/'); slash != std::string::npos && slash > 0; slash = rest.find('/')) {
+    loop_.Turn();
+    const std::string level = rest.substr(0, slash);
+    FTPMakeDirectory(level);
+    if (!FTPChangeDirectory(level)) return false;
+    ++depth;
+    rest.erase(0, slash + 1);
+  }
+  return LeaveDirectories(depth);
+}
+
+bool mFTP::LeaveDirectories(int depth) {
+  for (; depth > 0; --depth) {
+    loop_.Turn();
+    if (!FTPChangeDirectory("..")) return false;
+  }
+  return true;
+}
+
+bool mFTP::FTPFileExists(const std::string& path) {
+  if (FTPSendCommand("RNFR " + path, Logging::Quiet) != 350) return false;
+  FTPSendCommand("RNTO " + path, Logging::Quiet);
+  return true;
+}
+
+bool mFTP::FTPDeleteFile(const std::string& path) {
+  FTPLog("Deleting file " + path + "\r\n");
+  return FTPSendCommand("DELE " + path) == 250;
+}
+
+std::string mFTP::FTPGetFileSize(const std::string& path) {
+  const std::string unknown = "0KB";
+  FTPLog("Reading file size for " + path + " ... ");
+  if (path.empty()) return unknown;
+  std::string reply;
+  if (FTPExecute("SIZE " + path, reply, Logging::Logged) == 213) return ClaimedSizeText(ParseInt32(reply));
+  sockData_->Close();
+  return unknown;
+}
+
+void mFTP::FTPCancelData() {
+  if (sockData_->IsBlocking()) sockData_->CancelBlockingCall();
+  if (sockCmd_->IsBlocking()) sockCmd_->CancelBlockingCall();
+  FTPSocketSettings settings;
+  settings.timeLimit = limits_.afterCancel;
+  sockCmd_->Configure(settings);
+}
+
+std::int16_t mFTP::FTPSendCommand(const std::string& command, Logging logging) {
+  std::string unused;
+  return FTPExecute(command, unused, logging);
+}
+
+std::int16_t mFTP::FTPExecute(const std::string& command, std::string& replyText, Logging logging) {
+  if (!IsOneLine(command)) return 0;
+  const std::string line = command + "\r\n";
+  const auto count = sockCmd_->Write(line);
+  if (count == static_cast<std::ptrdiff_t>(line.size())) return FTPReadReply(replyText, logging);
+  if (count == -1) {
+    sockCmd_->Close();
+    FTPShowError("Connection with the server has been terminated");
+  }
+  return 0;
+}
+
+std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
+  FTPReply reply;
+  for (;;) {
+    const std::string piece = sockCmd_->Read(kReplyPiece);
+    if (piece.empty()) break;
+    if (logging == Logging::Logged) FTPLog(piece);
+    reply.Take(piece);
+    if (reply.IsTooLong()) break;
+    if (reply.IsComplete()) {
+      replyText = reply.Text();
+      return reply.Code();
+    }
+    loop_.Turn();
+  }
+  sockCmd_->Close();
+  return 0;
+}
+
+// A transfer that the user cancels fails by that alone and needs no message.
+void mFTP::FTPShowError(const std::string& text) {
+  if (!cancel_.CancelRequested()) boxes_.Show(BoxKind::Exclamation, BoxButtons::Ok, "FTP Error", text);
+}
+
+void mFTP::FTPLog(const std::string& text) {
+  if (FTPProgress != nullptr) FTPProgress->SetText3(text, true);
+}
+
+void mFTP::ShowPercentage(std::int16_t percentage) {
+  if (FTPProgress != nullptr) FTPProgress->SetFileProgress(percentage);
+}
+
+}  // namespace vantorium

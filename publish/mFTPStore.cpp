@@ -1,0 +1,110 @@
+// Storing: the data connection and what goes through it.
+#include "env/PathText.h"
+#include "env/RuntimeFailure.h"
+#include "publish/FTPPercentage.h"
+#include "publish/LocalFile.h"
+#include "publish/mFTP.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace vantorium {
+namespace {
+
+constexpr std::int32_t kBlockSize = 4096;
+
+}  // namespace
+
+bool mFTP::FTPCopyFile(const std::string& localPath, const std::string& remotePath, bool overwrite) {
+  FTPLog("Copying file " + localPath + " to " + remotePath + "\r\n");
+  const std::string target = WithSlashes(remotePath);
+  if (FTPStoreFile(localPath, target, overwrite)) return true;
+  FTPDeleteFile(target);
+  return false;
+}
+
+bool mFTP::FTPStoreFile(const std::string& localPath, const std::string& remotePath, bool overwrite) {
+  ShowPercentage(0);
+  if (localPath.empty() || remotePath.empty()) return false;
+  std::int32_t length = 0;
+  try {
+    length = LengthOfFile(paths_.ToNative(localPath));
+  } catch (const RuntimeFailure& failure) {
+    FTPShowError(failure.Description());
+    return false;
+  }
+  if (!overwrite && FTPFileExists(remotePath)) return true;
+  return OpenDataConnection(remotePath) && SendFile(localPath, length);
+}
+
+bool mFTP::FTPOpenDataPort() {
+  FTPSocketSettings settings;
+  settings.portAddress = sockCmd_->LocalAddress();
+  settings.acceptFrom = sockCmd_->PeerAddress();
+  sockData_->Configure(settings);
+  if (sockData_->Listen() == 0 && FTPSendCommand("PORT " + sockData_->PortArgument()) == 200 &&
+      FTPSendCommand("TYPE I") == 200) {
+    return true;
+  }
+  sockData_->Close();
+  return false;
+}
+
+bool mFTP::OpenDataConnection(const std::string& remotePath) {
+  if (!FTPOpenDataPort()) return false;
+  if (FTPSendCommand("STOR " + remotePath) == 150 && AcceptData()) return true;
+  sockData_->Close();
+  return false;
+}
+
+bool mFTP::AcceptData() {
+  try {
+    sockData_->Accept(*sockCmd_);
+    return true;
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+}
+
+bool mFTP::SendFile(const std::string& localPath, std::int32_t length) {
+  std::optional<LocalFile> file;
+  try {
+    file.emplace(paths_.ToNative(localPath).value_or(""));
+  } catch (const RuntimeFailure& failure) {
+    sockData_->Close();
+    FTPShowError(failure.Description());
+    return false;
+  }
+  const bool sent = SendBlocks(*file, length);
+  ShowPercentage(100);
+  file.reset();
+  // The end of the connection is the end of the file, so one that broke off must not look like an end.
+  if (sent) {
+    sockData_->Close();
+  } else {
+    sockData_->Reset();
+  }
+  // Once the bytes are out the result stands, whatever the server has to say.
+  std::string closingReply;
+  FTPReadReply(closingReply, Logging::Logged);
+  return sent;
+}
+
+bool mFTP::SendBlocks(const LocalFile& file, std::int32_t length) {
+  std::vector<char> buffer(static_cast<std::size_t>(std::clamp(length, 0, kBlockSize)));
+  std::int32_t remaining = length;
+  do {
+    if (const auto percentage = FTPPercentage(length - remaining, length)) ShowPercentage(*percentage);
+    loop_.Turn();
+    // A cancel may have been confirmed where no call on the data connection was there to be aborted.
+    if (cancel_.CancelRequested()) return false;
+    const std::int32_t size = std::min(remaining, kBlockSize);
+    const auto block = std::span(buffer).first(static_cast<std::size_t>(size));
+    if (!file.Read(block) || sockData_->WriteBytes(block) != block.size()) return false;
+    remaining -= size;
+  } while (remaining > 0);
+  return true;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,256 @@
+#include "publish/AsioFTPSocket.h"
+#include "tests/core/generation/RunFixture.h"
+#include "tests/fakes/ScriptedFtpServer.h"
+
+namespace vantorium {
+namespace {
+
+using fakes::ScriptedFtpServer;
+using Script = ScriptedFtpServer::Script;
+using Session = ScriptedFtpServer::Session;
+using Texts = std::vector<std::string>;
+
+/// Runs that go to a server. Drive T: as in the fixture; the temporary folder is T:\temp.
+class PublishRunTest : public RunFixture {
+ protected:
+  PublishRunTest() {
+    environment.ftp = &ftp;
+    cancel.OnCancel([this] { ftp.FTPCancelData(); });
+  }
+
+  [[nodiscard]] static RunArguments PublishTo(const ScriptedFtpServer& server) {
+    RunArguments arguments = Arguments(GenerationMode::Publish, "T:\\temp\\");
+    arguments.RemoteFolder = "web/";
+    arguments.RemoteIndexFileName = "index.htm";
+    arguments.ServerAddress = "127.0.0.1";
+    arguments.Port = server.Port();
+    arguments.UserName = "me";
+    arguments.Password = "secret";
+    return arguments;
+  }
+  [[nodiscard]] static RunArguments UploadTo(const ScriptedFtpServer& server) {
+    RunArguments arguments = PublishTo(server);
+    arguments.Mode = GenerationMode::Upload;
+    arguments.OutputFolder = "T:\\folder\\";
+    return arguments;
+  }
+  /// The box that a failed run ends with.
+  [[nodiscard]] std::string LastBox() const {
+    return boxes.boxes.empty() ? "" : boxes.boxes.back().title + ": " + boxes.boxes.back().text;
+  }
+  [[nodiscard]] static std::set<std::string> NamesOn(const ScriptedFtpServer& server) {
+    std::set<std::string> names;
+    for (const auto& [name, bytes] : server.Files()) names.insert(name);
+    return names;
+  }
+  /// A server that answers `verb` in this way and all others well.
+  [[nodiscard]] static Script Answering(const std::string& verb, const std::string& reply) {
+    Script script;
+    script.on[verb] = [reply](Session& session, const std::string&) { session.Say(reply); };
+    return script;
+  }
+
+  std::unique_ptr<AsioFTPSocket> ownedData = std::make_unique<AsioFTPSocket>(loop);
+  const AsioFTPSocket* data = ownedData.get();
+  mFTP ftp{std::make_unique<AsioFTPSocket>(loop),
+           std::move(ownedData),
+           paths,
+           boxes,
+           loop,
+           cancel,
+           FTPTimeLimits{std::chrono::seconds(20), std::chrono::milliseconds(300)}};
+};
+
+TEST_F(PublishRunTest, APublishedGalleryEqualsTheCreatedOneFileByFile) {
+  for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
+  folder.Write("project/back.gif", "GIF");
+  project.settings.textThumbnailsPageBackdrop = "back.gif";
+  project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << LastBox();
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+
+  const auto published = server.Files();
+  const auto created = FilesIn("out");
+  EXPECT_EQ(published.size(), created.size());
+  for (const auto& name : created) {
+    const auto file = published.find("web/" + name);
+    ASSERT_NE(file, published.end()) << name;
+    EXPECT_EQ(file->second, folder.Read("out/" + name)) << name;
+  }
+}
+
+TEST_F(PublishRunTest, PagesAndThumbnailsAreDeletedHereAfterSendingAndImagesStay) {
+  AddPhotograph("a");
+  ScriptedFtpServer server;
+  Run(PublishTo(server));
+  EXPECT_EQ(FilesIn("temp"), std::set<std::string>{"a.jpg"});
+}
+
+TEST_F(PublishRunTest, TheRunLogsAndTellsItsStepsToTheServer) {
+  AddPhotograph("a");
+  ScriptedFtpServer server;
+  RunArguments arguments = PublishTo(server);
+  arguments.BaseDirectory = "home";
+  Run(arguments);
+  EXPECT_TRUE(host.progress.logToFile);
+  EXPECT_EQ(host.progress.caption, "Publishing Gallery");
+  const Texts firstTexts(host.progress.texts2.begin(), host.progress.texts2.begin() + 4);
+  EXPECT_EQ(firstTexts, (Texts{"", "Connecting...", "Logging in...", "Switching to Base Directory..."}));
+  EXPECT_EQ(host.progress.log.find("secret"), std::string::npos);
+  EXPECT_FALSE(ftp.IsConnected()) << "closed at the end";
+  EXPECT_EQ(ftp.FTPProgress, nullptr);
+}
+
+TEST_F(PublishRunTest, WithoutOverwriteWhatTheServerHasIsNotSentAgainAndItsSizeIsRead) {
+  AddPhotograph("a");
+  ScriptedFtpServer server;
+  server.PutFile("web/Images/a.jpg", std::string(3000, 'x'));
+  server.PutFile("web/Thumbs/thumb_a.jpg", "old");
+  project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
+  RunArguments arguments = PublishTo(server);
+  arguments.Overwrite = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+  EXPECT_EQ(server.Files().at("web/Thumbs/thumb_a.jpg"), "old");
+  EXPECT_EQ(server.Files().at("web/Images/a.jpg"), std::string(3000, 'x'));
+  EXPECT_NE(server.Files().at("web/a.htm").find("\r\n2KB\r\n"), std::string::npos);
+}
+
+struct RefusalCase {
+  const char* verb;
+  const char* reply;
+  const char* box;
+};
+
+TEST_F(PublishRunTest, EachRefusalOfTheServerEndsTheRunWithItsMessage) {
+  AddPhotograph("a");
+  for (const RefusalCase& c :
+       {RefusalCase{"USER", "530 no\r\n", "FTP Error: Invalid User ID or Password."},
+        RefusalCase{"PASS", "530 no\r\n", "FTP Error: Invalid User ID or Password."},
+        RefusalCase{"CWD", "550 no\r\n", "FTP Error: Cannot switch to specified base Directory \"home\"."},
+        RefusalCase{"STOR", "553 no\r\n", "FTP File Error: Unable to copy the File \"T:\\photos\\a.jpg\"."},
+        RefusalCase{"STOR", "125 no\r\n", "FTP File Error: Unable to copy the File \"T:\\photos\\a.jpg\"."}}) {
+    boxes.boxes.clear();
+    ScriptedFtpServer server(Answering(c.verb, c.reply));
+    RunArguments arguments = PublishTo(server);
+    arguments.BaseDirectory = "home";
+    EXPECT_EQ(Run(arguments), RunEnd::Failure) << c.verb;
+    EXPECT_EQ(LastBox(), c.box);
+    EXPECT_TRUE(NamesOn(server).empty()) << c.verb;
+    EXPECT_FALSE(ftp.IsConnected()) << c.verb;
+  }
+}
+
+TEST_F(PublishRunTest, AGreetingThatIsNoneEndsTheRun) {
+  AddPhotograph("a");
+  Script script;
+  script.greet = [](Session& session) { session.Say("421 full\r\n"); };
+  ScriptedFtpServer server(script);
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "FTP Error: Cannot connect to Server.  Please check your Internet Connection and Server URL.");
+}
+
+TEST_F(PublishRunTest, AFolderThatCannotBeEnteredEndsTheRun) {
+  AddPhotograph("a");
+  ScriptedFtpServer server(Answering("CWD", "550 no\r\n"));
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "FTP Directory Error: Unable to create Images Subfolder.");
+}
+
+TEST_F(PublishRunTest, EachStageNamesWhatCouldNotBeSent) {
+  AddPhotograph("a");
+  for (const auto& [refused, box] : {
+           std::pair{"web/Thumbs/thumb_a.jpg", "FTP File Error: Unable to create Thumbnail for \"T:\\photos\\a.jpg\"."},
+           std::pair{"web/index.htm", "FTP File Error: Unable to create the Gallery Index File."},
+           std::pair{"web/thumbpage_1.htm", "FTP File Error: Unable to create the File \"web/thumbpage_1.htm\"."},
+           std::pair{"web/a.htm", "FTP File Error: Unable to create the File \"web/a.htm\"."},
+       }) {
+    boxes.boxes.clear();
+    Script script;
+    const std::string name = refused;
+    script.on["STOR"] = [name](Session& session, const std::string& argument) {
+      if (argument == name) return session.Say("553 no\r\n");
+      session.Answer("STOR", argument);
+    };
+    ScriptedFtpServer server(script);
+    EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure) << refused;
+    EXPECT_EQ(LastBox(), box);
+    EXPECT_EQ(NamesOn(server).count(refused), 0U);
+  }
+}
+
+TEST_F(PublishRunTest, AListTextThatLeavesTheFolderIsNotSent) {
+  folder.Write("photos/x.jpg", PlainJpeg(8, 8));
+  AddEntry("../evil", "T:\\photos\\x.jpg");
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "File Error: Unable to create temporary Copy of the File \"T:\\photos\\x.jpg\".");
+  EXPECT_TRUE(NamesOn(server).empty());
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / "evil.jpg"));
+}
+
+TEST_F(PublishRunTest, ACancelDuringATransferEndsInTheCancelAndNotInAMessageAboutIt) {
+  AddPhotograph("a", 400, 300);
+  Script script;
+  script.on["STOR"] = [](Session& session, const std::string&) {
+    session.Say("150 go on\r\n");
+    session.OpenData();
+    session.StaySilent();
+  };
+  ScriptedFtpServer server(script);
+  folder.Write("photos/a.jpg", PlainJpeg(400, 300) + std::string(32 << 20, 'x'));
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  loop.onTurn = [&, pressed = false](int) mutable {
+    if (pressed || !data->IsConnected() || !data->IsBlocking()) return;
+    pressed = true;
+    host.openWindow->SetIsCancelled(true);
+    std::ignore = cancel.CheckForCancel(*host.openWindow);
+  };
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Cancelled);
+  EXPECT_EQ(LastBox(), "Creation cancelled: The User has cancelled Creation of the Gallery");
+  EXPECT_EQ(boxes.boxes.size(), 2U);
+}
+
+// Upload
+
+TEST_F(PublishRunTest, AnUploadSendsTheFolderWithItsTreeAndFillsTheBar) {
+  folder.Write("folder/a.txt", "1");
+  folder.Write("folder/sub/b.txt", "22");
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(UploadTo(server)), RunEnd::Success) << LastBox();
+  const std::map<std::string, std::string> expected = {{"web/a.txt", "1"}, {"web/sub/b.txt", "22"}};
+  EXPECT_EQ(server.Files(), expected);
+  EXPECT_EQ(host.progress.caption, "Uploading Folder");
+  EXPECT_EQ(host.progress.maximum, 5);
+  EXPECT_EQ(*(host.progress.values.end() - 2), 5) << "the passes agree";
+}
+
+TEST_F(PublishRunTest, AnUploadCollectsNothingAndNeedsNoImages) {
+  folder.Write("folder/a.txt", "1");
+  ScriptedFtpServer server;
+  Run(UploadTo(server));
+  for (const auto& text : host.statuses) EXPECT_FALSE(text.starts_with("Collecting")) << text;
+}
+
+TEST_F(PublishRunTest, AFileThatTheServerRefusesEndsTheUploadInFailure) {
+  folder.Write("folder/a.txt", "1");
+  ScriptedFtpServer server(Answering("STOR", "553 no\r\n"));
+  EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
+  EXPECT_TRUE(NamesOn(server).empty());
+}
+
+TEST_F(PublishRunTest, ACancelOfAnUploadHasItsOwnBoxAndEndsInFailure) {
+  for (int i = 0; i < 20; ++i) folder.Write("folder/f" + std::to_string(i), "x");
+  ScriptedFtpServer server;
+  loop.onTurn = [&, pressed = false](int) mutable {
+    if (pressed || host.statuses.empty() || !host.statuses.back().ends_with("f3\"...")) return;
+    pressed = true;
+    host.openWindow->SetIsCancelled(true);  // asked about at the next entry
+  };
+  EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "Upload cancelled: The User has cancelled Upload of the Gallery");
+  EXPECT_LT(NamesOn(server).size(), 20U);
+}
+
+}  // namespace
+}  // namespace vantorium

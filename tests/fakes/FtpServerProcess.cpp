@@ -1,0 +1,199 @@
+#include "tests/fakes/FtpServerProcess.h"
+
+#include "env/FileDescriptor.h"
+
+#include <chrono>
+#include <csignal>
+#include <stdexcept>
+#include <thread>
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <grp.h>
+#include <netinet/in.h>
+#include <pwd.h>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace vantorium::fakes {
+namespace {
+
+/// Of the password "open sesame", as crypt(3) makes it.
+constexpr const char* kPasswordHash =
+    "$6$loopback$kkZXx2HbVINfBu18JfwVcTxcTnx.sz4BJMh0UtcuB47XtY9AbTbuR8kCsqZvmM6Bo5LXVZPGh320/A37NhdUU/";
+
+/// The root folder is writable, and the server has to live with that since it may not leave it.
+constexpr const char* kVsftpdSettings = R"(listen=YES
+listen_ipv6=NO
+listen_address=127.0.0.1
+listen_port={port}
+background=NO
+run_as_launching_user=YES
+anonymous_enable=YES
+anon_root={root}
+allow_writeable_chroot=YES
+write_enable=YES
+anon_upload_enable=YES
+anon_mkdir_write_enable=YES
+anon_other_write_enable=YES
+anon_world_readable_only=NO
+anon_umask=022
+connect_from_port_20=NO
+seccomp_sandbox=NO
+xferlog_enable=NO
+)";
+
+constexpr const char* kProftpdSettings = R"(ServerName "loopback"
+ServerType standalone
+Port {port}
+DefaultAddress 127.0.0.1
+UseIPv6 off
+UseReverseDNS off
+RequireValidShell off
+RootLogin on
+AuthOrder mod_auth_file.c
+AuthUserFile {folder}/users
+AuthPAM off
+WtmpLog off
+TransferLog none
+SystemLog {folder}/log
+PidFile {folder}/pid
+ScoreboardFile {folder}/scoreboard
+AllowOverwrite on
+User {user}
+Group {group}
+<IfModule mod_ctrls.c>
+  ControlsEngine off
+</IfModule>
+<IfModule mod_delay.c>
+  DelayEngine off
+</IfModule>
+)";
+
+sockaddr_in Loopback(std::uint16_t port) {
+  sockaddr_in name = {};
+  name.sin_family = AF_INET;
+  name.sin_port = htons(port);
+  name.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  return name;
+}
+
+std::uint16_t FreePort() {
+  const FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  sockaddr_in name = Loopback(0);
+  socklen_t size = sizeof name;
+  auto* plain = reinterpret_cast<sockaddr*>(&name);
+  if (::bind(probe.Get(), plain, size) != 0 || ::getsockname(probe.Get(), plain, &size) != 0) {
+    throw std::runtime_error("there is no free port on loopback");
+  }
+  return ntohs(name.sin_port);
+}
+
+bool IsListening(std::uint16_t port) {
+  const FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  const sockaddr_in name = Loopback(port);
+  return ::connect(probe.Get(), reinterpret_cast<const sockaddr*>(&name), sizeof name) == 0;
+}
+
+/// The first of these files that is there; an empty path when none is.
+fs::path FirstOf(const std::vector<fs::path>& candidates) {
+  for (const auto& candidate : candidates) {
+    if (fs::exists(candidate)) return candidate;
+  }
+  return {};
+}
+
+/// Becomes the program, in a process group of its own that does not outlive the test, and silently.
+[[noreturn]] void Become(const std::vector<std::string>& command) {
+  ::setpgid(0, 0);
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  const int nowhere = ::open("/dev/null", O_RDWR);
+  for (const int stream : {0, 1, 2}) ::dup2(nowhere, stream);
+  std::vector<char*> arguments;
+  for (const auto& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
+  arguments.push_back(nullptr);
+  ::execv(arguments[0], arguments.data());
+  ::_exit(127);
+}
+
+}  // namespace
+
+FtpServerProcess::FtpServerProcess(FtpServerKind kind) {
+  fs::create_directory(Root());
+  // Another process may take the free port before the server does.
+  for (int attempt = 0; attempt < 3; ++attempt) {
+    port_ = FreePort();
+    const auto command = kind == FtpServerKind::Vsftpd ? VsftpdCommand() : ProftpdCommand();
+    if (command.empty()) return;
+    Start(command);
+    if (WaitUntilItListens()) return;
+    End();
+  }
+  whyNot_ = "the server did not start to listen";
+}
+
+FtpServerProcess::~FtpServerProcess() {
+  End();
+}
+
+std::vector<std::string> FtpServerProcess::VsftpdCommand() {
+  user_ = "anonymous";
+  const auto program = FirstOf({VANTORIUM_SOURCE_DIR "/build/test-servers/vsftpd/usr/sbin/vsftpd", "/usr/sbin/vsftpd"});
+  if (program.empty()) whyNot_ = "vsftpd is not here: packaging/install-dependencies tests";
+  if (!whyNot_.empty()) return {};
+  using fmt::arg;
+  const std::string settings = fmt::format(kVsftpdSettings, arg("port", port_), arg("root", Root().string()));
+  return {program.string(), folder_.Write("vsftpd.conf", settings).string()};
+}
+
+std::vector<std::string> FtpServerProcess::ProftpdCommand() {
+  user_ = "uploader";
+  const auto program =
+      FirstOf({VANTORIUM_SOURCE_DIR "/build/test-servers/proftpd-core/usr/sbin/proftpd", "/usr/sbin/proftpd"});
+  if (program.empty()) whyNot_ = "ProFTPD is not here: packaging/install-dependencies tests";
+  const passwd* self = ::getpwuid(::getuid());
+  const group* ownGroup = ::getgrgid(::getgid());
+  if (self == nullptr || ownGroup == nullptr) whyNot_ = "ProFTPD wants the test's user and group to have names";
+  if (!whyNot_.empty()) return {};
+  const auto users = folder_.Write(
+      "users", fmt::format("{}:{}:{}:{}::{}:/bin/sh\n", user_, kPasswordHash, ::getuid(), ::getgid(), Root().string()));
+  fs::permissions(users, fs::perms::owner_read);
+  using fmt::arg;
+  const std::string settings = fmt::format(kProftpdSettings, arg("port", port_), arg("folder", folder_.Path().string()),
+                                           arg("user", self->pw_name), arg("group", ownGroup->gr_name));
+  return {program.string(), "-n", "-q", "-c", folder_.Write("proftpd.conf", settings).string()};
+}
+
+void FtpServerProcess::Start(const std::vector<std::string>& command) {
+  process_ = ::fork();
+  if (process_ == 0) Become(command);
+}
+
+bool FtpServerProcess::HasEnded() {
+  if (process_ > 0 && ::waitpid(process_, nullptr, WNOHANG) == process_) process_ = -1;
+  return process_ <= 0;
+}
+
+bool FtpServerProcess::WaitUntilItListens() {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (std::chrono::steady_clock::now() < end && !HasEnded()) {
+    if (IsListening(port_)) return !HasEnded();
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return false;
+}
+
+// The processes of open sessions belong to the server's group and end with it.
+void FtpServerProcess::End() {
+  if (HasEnded()) return;
+  ::kill(-process_, SIGKILL);
+  ::waitpid(process_, nullptr, 0);
+  process_ = -1;
+}
+
+}  // namespace vantorium::fakes

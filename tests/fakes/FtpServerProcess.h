@@ -1,0 +1,50 @@
+#pragma once
+
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace vantorium::fakes {
+
+enum class FtpServerKind { Vsftpd, Proftpd };
+
+/// A real FTP server on loopback, on a port and with a folder of its own, for the user that runs the test, with the
+/// rights of that user. It is gone with the object, or when the test dies.
+class FtpServerProcess {
+ public:
+  explicit FtpServerProcess(FtpServerKind kind);
+  ~FtpServerProcess();
+  FtpServerProcess(const FtpServerProcess&) = delete;
+  FtpServerProcess& operator=(const FtpServerProcess&) = delete;
+
+  /// Why the server does not run; empty when it does.
+  [[nodiscard]] const std::string& WhyNot() const { return whyNot_; }
+
+  [[nodiscard]] std::uint16_t Port() const { return port_; }
+  [[nodiscard]] std::string User() const { return user_; }
+  [[nodiscard]] std::string Password() const { return "open sesame"; }
+  /// What the client sees as its first folder.
+  [[nodiscard]] std::filesystem::path Root() const { return folder_.Path() / "root"; }
+
+ private:
+  [[nodiscard]] std::vector<std::string> VsftpdCommand();
+  [[nodiscard]] std::vector<std::string> ProftpdCommand();
+  void Start(const std::vector<std::string>& command);
+  [[nodiscard]] bool WaitUntilItListens();
+  [[nodiscard]] bool HasEnded();
+  void End();
+
+  TemporaryFolder folder_;
+  std::uint16_t port_ = 0;
+  std::string user_;
+  std::string whyNot_;
+  pid_t process_ = -1;
+};
+
+}  // namespace vantorium::fakes

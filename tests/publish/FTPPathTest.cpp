@@ -1,0 +1,29 @@
+#include "publish/FTPPath.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+struct Case {
+  const char* path;
+  const char* folder;
+  const char* name;
+};
+
+constexpr Case kCases[] = {
+    {"a/b/c.htm", "a/b/", "c.htm"}, {"a\\b\\c.htm", "a/b/", "c.htm"},
+    {"name", "", "name"},           {"", "", ""},
+    {"/name", "", "name"},          {"a/b/", "a/b/", ""},
+    {"//a/b", "/a/", "b"},
+};
+
+TEST(FTPPath, FolderAndNameHaveForwardSlashes) {
+  for (const auto& [path, folder, name] : kCases) {
+    EXPECT_EQ(FTPGetFilePath(path), folder) << path;
+    EXPECT_EQ(FTPGetFileName(path), name) << path;
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

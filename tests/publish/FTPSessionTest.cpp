@@ -1,0 +1,324 @@
+// Whole sessions with a server that misbehaves: what the user is told, and what is left on the server.
+#include "env/RuntimeFailure.h"
+#include "tests/fakes/FailureOf.h"
+#include "tests/fakes/ScriptedFtpServer.h"
+#include "tests/publish/NetworkClient.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using fakes::ScriptedFtpServer;
+using Session = ScriptedFtpServer::Session;
+using Texts = std::vector<std::string>;
+using Files = std::map<std::string, std::string>;
+
+const Texts kNothing;
+const Texts kTerminated = {"Connection with the server has been terminated"};
+constexpr FTPTimeLimits kShort = {std::chrono::milliseconds(500), std::chrono::milliseconds(500)};
+
+/// A client that is logged in to a server with a script, and a file to send that is larger than all buffers between.
+class FTPSession {
+ public:
+  explicit FTPSession(ScriptedFtpServer::Script script = {}, FTPTimeLimits limits = NoHurry())
+      : server(std::move(script)), client(limits), photograph(std::size_t{16} << 20U, 'p') {
+    for (std::size_t at = 0; at < photograph.size(); at += 1000) photograph[at] = static_cast<char>('a' + at % 23);
+    client.folder.Write("p.jpg", photograph);
+    client.folder.Write("small.jpg", "12345");
+  }
+  FTPSession& LogIn() {
+    EXPECT_TRUE(client.ftp.FTPConnect("127.0.0.1", server.Port()));
+    EXPECT_TRUE(client.ftp.FTPLogin("me", "open sesame"));
+    return *this;
+  }
+  [[nodiscard]] bool Copy(const std::string& name = "small.jpg", const std::string& target = "t.jpg") {
+    return client.ftp.FTPCopyFile("C:\\" + name, target, true);
+  }
+  [[nodiscard]] bool Change() { return client.ftp.FTPChangeDirectory("x"); }
+
+  static constexpr FTPTimeLimits NoHurry() { return {std::chrono::seconds(20), std::chrono::seconds(20)}; }
+
+  ScriptedFtpServer server;
+  NetworkClient client;
+  std::string photograph;
+};
+
+ScriptedFtpServer::Script On(const std::string& verb, ScriptedFtpServer::Handler handler) {
+  ScriptedFtpServer::Script script;
+  script.on[verb] = std::move(handler);
+  return script;
+}
+
+TEST(FTPSession, StoresFilesOneAfterTheOther) {
+  FTPSession session;
+  auto& ftp = session.LogIn().client.ftp;
+  EXPECT_TRUE(session.Copy());
+  EXPECT_TRUE(session.Copy("p.jpg", "images\\p.jpg"));
+  EXPECT_EQ(session.server.Files(), (Files{{"t.jpg", "12345"}, {"images/p.jpg", session.photograph}}));
+  EXPECT_TRUE(ftp.FTPFileExists("t.jpg"));
+  EXPECT_FALSE(ftp.FTPFileExists("u.jpg"));
+  EXPECT_EQ(ftp.FTPGetFileSize("images/p.jpg"), "16MB");
+  EXPECT_EQ(ftp.FTPGetFileSize("u.jpg"), "0KB");
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+}
+
+TEST(FTPSession, ThePasswordReachesTheServerOnly) {
+  FTPSession session(On("PASS", [](Session& server, const std::string&) { server.Say("530 No\r\n"); }));
+  EXPECT_TRUE(session.client.ftp.FTPConnect("127.0.0.1", session.server.Port()));
+  EXPECT_FALSE(session.client.ftp.FTPLogin("me", "open sesame"));
+  EXPECT_EQ(session.server.Commands(), (Texts{"USER me", "PASS open sesame"}));
+  EXPECT_EQ(session.client.window.log, "220 Ready\r\n331 Password\r\n530 No\r\n");
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+}
+
+TEST(FTPSession, RepliesMayComeByteByByte) {
+  ScriptedFtpServer::Script script;
+  script.greet = [](Session& server) { server.SayByteByByte("220-Welcome\r\n here\r\n220 Ready\r\n"); };
+  script.on["CWD"] = [](Session& server, const std::string&) { server.SayByteByByte("250-a\r\n250 b\r\n"); };
+  FTPSession session(script);
+  session.LogIn();
+  for (int time = 0; time < 3; ++time) EXPECT_TRUE(session.Change());
+  EXPECT_TRUE(session.Copy());
+}
+
+TEST(FTPSession, AServerThatAnswers125IsRefused) {
+  FTPSession session(On("STOR", [](Session& server, const std::string& name) {
+    server.Say("125 Data connection already open\r\n");
+    std::ignore = server.OpenData() && server.Receive(name);
+    server.CloseData();
+    server.Say("226 Stored\r\n");
+  }));
+  EXPECT_FALSE(session.LogIn().Copy());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_TRUE(session.server.WaitToHear("DELE t.jpg"));
+}
+
+TEST(FTPSession, AServerThatLeavesWith421EndsTheSession) {
+  FTPSession session(On("STOR", [](Session& server, const std::string&) {
+    server.Say("421 Shutting down\r\n");
+    server.HangUp();
+  }));
+  EXPECT_FALSE(session.LogIn().Copy());
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing) << "the caller reports its file";
+  EXPECT_FALSE(session.Change());
+  EXPECT_EQ(session.client.BoxTexts(), kTerminated);
+  EXPECT_EQ(session.server.Files(), Files{});
+}
+
+TEST(FTPSession, AFullServerIsNoConnection) {
+  ScriptedFtpServer::Script script;
+  script.greet = [](Session& server) { server.Say("421 Too many users\r\n"); };
+  FTPSession session(script);
+  EXPECT_FALSE(session.client.ftp.FTPConnect("127.0.0.1", session.server.Port()));
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_EQ(session.client.window.log, "421 Too many users\r\n");
+}
+
+TEST(FTPSession, ARefusedPortIsARefusedFile) {
+  FTPSession session(On("PORT", [](Session& server, const std::string&) { server.Say("500 Illegal PORT\r\n"); }));
+  EXPECT_FALSE(session.LogIn().Copy());
+  EXPECT_EQ(session.server.Files(), Files{});
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_TRUE(session.Change()) << "the session goes on";
+}
+
+TEST(FTPSession, ADataConnectionThatTheServerCannotOpenFailsTheFile) {
+  FTPSession session(On("STOR", [](Session& server, const std::string&) {
+    server.Say("150 Opening\r\n");
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    server.Say("425 Cannot open data connection\r\n");
+  }));
+  EXPECT_FALSE(session.LogIn().Copy());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_TRUE(session.server.WaitToHear("DELE t.jpg"));
+}
+
+/// Takes the beginning of a file, ends the data connection in some way, and says so.
+ScriptedFtpServer::Handler StoreAPart(const std::function<void(Session&)>& end) {
+  return [end](Session& server, const std::string& name) {
+    server.Say("150 Send\r\n");
+    std::ignore = server.OpenData() && server.Receive(name, 10000);
+    end(server);
+    server.Say("426 Broken\r\n");
+  };
+}
+
+TEST(FTPSession, AResetInMidFileLeavesNothingOnTheServer) {
+  FTPSession session(On("STOR", StoreAPart([](Session& server) { server.ResetData(); })));
+  EXPECT_FALSE(session.LogIn().Copy("p.jpg"));
+  EXPECT_EQ(session.server.Files(), Files{});
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"));
+  EXPECT_TRUE(session.Change()) << "the session goes on";
+}
+
+TEST(FTPSession, AServerThatStopsReadingEarlyLeavesNothingOnTheServer) {
+  FTPSession session(On("STOR", StoreAPart([](Session& server) { server.CloseData(); })));
+  EXPECT_FALSE(session.LogIn().Copy("p.jpg"));
+  EXPECT_EQ(session.server.Files(), Files{});
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+}
+
+TEST(FTPSession, AControlConnectionLostInMidFileShowsWithTheNextCommand) {
+  FTPSession session(On("STOR", [](Session& server, const std::string& name) {
+    server.Say("150 Send\r\n");
+    if (!server.OpenData()) return;
+    server.HangUp();
+    std::ignore = server.Receive(name);
+  }));
+  EXPECT_TRUE(session.LogIn().Copy("p.jpg")) << "the bytes are out";
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_FALSE(session.Change());
+  EXPECT_EQ(session.client.BoxTexts(), kTerminated);
+}
+
+TEST(FTPSession, BothConnectionsLostInMidFileLeaveAPartAndTellTheUser) {
+  FTPSession session(On("STOR", StoreAPart([](Session& server) {
+                          server.HangUp();
+                          server.ResetData();
+                        })));
+  EXPECT_FALSE(session.LogIn().Copy("p.jpg"));
+  EXPECT_EQ(session.client.BoxTexts(), kTerminated) << "the deletion finds the connection closed";
+  EXPECT_EQ(session.server.Files(), (Files{{"t.jpg", session.photograph.substr(0, 10000)}}));
+}
+
+TEST(FTPSession, AServerThatNeverSpeaksIsGivenUp) {
+  ScriptedFtpServer::Script script;
+  script.greet = [](Session& server) { server.StaySilent(); };
+  FTPSession session(script, kShort);
+  EXPECT_FALSE(session.client.ftp.FTPConnect("127.0.0.1", session.server.Port()));
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+}
+
+TEST(FTPSession, AServerThatFallsSilentIsGivenUp) {
+  FTPSession session(On("CWD", [](Session& server, const std::string&) { server.StaySilent(); }), kShort);
+  EXPECT_FALSE(session.LogIn().Change());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_FALSE(session.Change());
+  EXPECT_EQ(session.client.BoxTexts(), kTerminated);
+}
+
+TEST(FTPSession, AFileWithoutClosingReplyIsStoredAllTheSame) {
+  FTPSession session(On("STOR",
+                        [](Session& server, const std::string& name) {
+                          server.Say("150 Send\r\n");
+                          std::ignore = server.OpenData() && server.Receive(name);
+                          server.StaySilent();
+                        }),
+                     kShort);
+  EXPECT_TRUE(session.LogIn().Copy());
+  EXPECT_EQ(session.server.Files(), (Files{{"t.jpg", "12345"}}));
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+}
+
+TEST(FTPSession, AReplyWithoutEndIsGivenUp) {
+  FTPSession session(
+      On("CWD", [](Session& server, const std::string&) { server.Say(std::string(std::size_t{4} << 20U, 'x')); }));
+  EXPECT_FALSE(session.LogIn().Change());
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+}
+
+TEST(FTPSession, AStrangerOnTheDataPortIsTurnedAway) {
+  FTPSession session(On("STOR", [](Session& server, const std::string& name) {
+    server.Say("150 Send\r\n");
+    EXPECT_TRUE(server.OpenData("127.0.0.2"));
+    server.ResetData();
+    std::ignore = server.OpenData() && server.Receive(name);
+    server.CloseData();
+    server.Say("226 Stored\r\n");
+  }));
+  EXPECT_TRUE(session.LogIn().Copy());
+  EXPECT_EQ(session.server.Files(), (Files{{"t.jpg", "12345"}}));
+}
+
+TEST(FTPSession, AnEmptyFileFailsAndTheNextOneIsStored) {
+  FTPSession session;
+  session.LogIn().client.folder.Write("empty.jpg", "");
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = session.Copy("empty.jpg", "e.jpg"); }), FailureKind::DivisionByZero);
+  EXPECT_TRUE(session.server.WaitToHear("STOR e.jpg"));
+  // The reply to the empty file is still to come when the next command is sent, so one answer is taken for another.
+  std::ignore = session.Copy();
+  session.client.ftp.Disconnect();
+  EXPECT_TRUE(session.LogIn().Copy());
+  EXPECT_EQ(session.server.Files().at("t.jpg"), "12345");
+}
+
+// Cancelling, in each call that can block.
+
+TEST(FTPSessionCancel, InTheWaitForTheGreeting) {
+  ScriptedFtpServer::Script script;
+  script.greet = [](Session& server) { server.StaySilent(); };
+  FTPSession session(script);
+  session.client.CancelWhen([] { return true; });
+  EXPECT_FALSE(session.client.ftp.FTPConnect("127.0.0.1", session.server.Port()));
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+}
+
+TEST(FTPSessionCancel, InTheWaitForAReply) {
+  FTPSession session(On("STOR", [](Session& server, const std::string&) { server.StaySilent(); }));
+  session.LogIn().client.CancelWhen([&] { return session.server.HasHeard("STOR"); });
+  EXPECT_FALSE(session.Copy());
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing) << "the user knows";
+  EXPECT_EQ(session.server.Files(), Files{});
+}
+
+TEST(FTPSessionCancel, InTheWaitForTheDataConnection) {
+  FTPSession session(On("STOR", [](Session& server, const std::string&) { server.Say("150 Send\r\n"); }));
+  session.LogIn().client.CancelWhen([&] { return session.client.window.log.ends_with("150 Send\r\n"); });
+  EXPECT_FALSE(session.Copy());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_TRUE(session.client.window.log.ends_with("Deleting file t.jpg\r\n550 None\r\n"));
+  EXPECT_TRUE(session.client.ftp.IsConnected());
+}
+
+TEST(FTPSessionCancel, InAWriteThatWaits) {
+  FTPSession session(On("STOR", [](Session& server, const std::string& name) {
+    server.Say("150 Send\r\n");
+    if (!server.OpenData()) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));  // the client fills all buffers meanwhile
+    const bool isWhole = server.Receive(name);
+    server.CloseData();
+    server.Say(isWhole ? "226 Stored\r\n" : "426 Broken\r\n");
+  }));
+  session.LogIn().client.CancelWhen([&] { return session.client.IsInsideAWrite(); });
+  EXPECT_FALSE(session.Copy("p.jpg"));
+  EXPECT_TRUE(session.client.cancel.isRequested);
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_EQ(session.server.Files(), Files{}) << "the part that arrived is deleted";
+  EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
+      << session.client.window.log;
+}
+
+TEST(FTPSessionCancel, BeforeABlock) {
+  FTPSession session;
+  session.LogIn().client.CancelWhen([&] { return session.client.window.percentages.size() == 3; });
+  EXPECT_FALSE(session.Copy("p.jpg"));
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_EQ(session.server.Files(), Files{}) << "the part that arrived is deleted";
+  EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
+      << session.client.window.log;
+}
+
+TEST(FTPSessionCancel, AServerThatIsSilentAfterwardsIsGivenUpSoon) {
+  FTPSession session(On("STOR",
+                        [](Session& server, const std::string&) {
+                          server.Say("150 Send\r\n");
+                          std::ignore = server.OpenData();
+                          server.StaySilent();
+                        }),
+                     {std::chrono::minutes(10), std::chrono::milliseconds(150)});
+  session.LogIn().client.CancelWhen([&] { return session.client.IsInsideAWrite(); });
+  EXPECT_FALSE(session.Copy("p.jpg"));
+  EXPECT_FALSE(session.client.ftp.IsConnected());
+  EXPECT_EQ(session.client.BoxTexts(), kNothing);
+}
+
+}  // namespace
+}  // namespace vantorium

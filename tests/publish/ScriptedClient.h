@@ -1,0 +1,53 @@
+#pragma once
+
+#include "publish/mFTP.h"
+#include "tests/fakes/CountingEventLoop.h"
+#include "tests/fakes/FTPRunWindow.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/ScriptedFTPSocket.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+
+/// The FTP client on two sockets without a network. Drive C is a folder of the test's own.
+class ScriptedClient : public testing::Test {
+ protected:
+  using Journal = std::vector<std::string>;
+
+  ScriptedClient() {
+    ftp.FTPProgress = &window;
+    cmd.isConnected = true;
+  }
+
+  /// What the server says from now on: one piece for each read.
+  void Replies(const std::deque<std::string>& pieces) { cmd.reads = pieces; }
+
+  /// The texts of the message boxes, which all have to be the client's kind.
+  [[nodiscard]] std::vector<std::string> BoxTexts() const {
+    std::vector<std::string> texts;
+    for (const auto& box : boxes.boxes) {
+      EXPECT_EQ(box.title, "FTP Error");
+      EXPECT_EQ(box.kind, BoxKind::Exclamation);
+      EXPECT_EQ(box.buttons, BoxButtons::Ok);
+      texts.push_back(box.text);
+    }
+    return texts;
+  }
+
+  Journal journal;
+  std::unique_ptr<fakes::ScriptedFTPSocket> ownedCmd = std::make_unique<fakes::ScriptedFTPSocket>("cmd", journal);
+  std::unique_ptr<fakes::ScriptedFTPSocket> ownedData = std::make_unique<fakes::ScriptedFTPSocket>("data", journal);
+  fakes::ScriptedFTPSocket& cmd = *ownedCmd;
+  fakes::ScriptedFTPSocket& data = *ownedData;
+  fakes::TemporaryFolder folder;
+  PathMap paths{{{'C', folder.Path().string()}}};
+  fakes::RecordingMessageBox boxes;
+  fakes::CountingEventLoop loop;
+  fakes::CancelSwitch cancel;
+  fakes::FTPRunWindow window;
+  mFTP ftp{std::move(ownedCmd), std::move(ownedData), paths, boxes, loop, cancel};
+};
+
+}  // namespace vantorium
