@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::uint16_t kFTPPort = 21;
 constexpr std::size_t kReplyPiece = 512;
+constexpr const char* kUnknownSize = "0KB";
 
 std::string WithoutBlanksAround(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
@@ -121,13 +122,12 @@ bool mFTP::FTPDeleteFile(const std::string& path) {
 }
 
 std::string mFTP::FTPGetFileSize(const std::string& path) {
-  const std::string unknown = "0KB";
   FTPLog("Reading file size for " + path + " ... ");
-  if (path.empty()) return unknown;
+  if (path.empty()) return kUnknownSize;
   std::string reply;
   if (FTPExecute("SIZE " + path, reply, Logging::Logged) == 213) return ClaimedSizeText(ParseInt32(reply));
   sockData_->Close();
-  return unknown;
+  return kUnknownSize;
 }
 
 void mFTP::FTPCancelData() {

@@ -33,6 +33,7 @@ listen_ipv6=NO
 listen_address=127.0.0.1
 listen_port={port}
 background=NO
+ftpd_banner={name}
 run_as_launching_user=YES
 anonymous_enable=YES
 anon_root={root}
@@ -48,7 +49,7 @@ seccomp_sandbox=NO
 xferlog_enable=NO
 )";
 
-constexpr const char* kProftpdSettings = R"(ServerName "loopback"
+constexpr const char* kProftpdSettings = R"(ServerName "{name}"
 ServerType standalone
 Port {port}
 DefaultAddress 127.0.0.1
@@ -94,10 +95,17 @@ std::uint16_t FreePort() {
   return ntohs(name.sin_port);
 }
 
-bool IsListening(std::uint16_t port) {
+/// The beginning of what the server on that port says first; empty when there is none.
+std::string GreetingOf(std::uint16_t port) {
   const FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  const timeval patience = {5, 0};
+  ::setsockopt(probe.Get(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
   const sockaddr_in name = Loopback(port);
-  return ::connect(probe.Get(), reinterpret_cast<const sockaddr*>(&name), sizeof name) == 0;
+  if (::connect(probe.Get(), reinterpret_cast<const sockaddr*>(&name), sizeof name) != 0) return {};
+  std::string greeting(200, '\0');
+  const auto count = ::recv(probe.Get(), greeting.data(), greeting.size(), 0);
+  greeting.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+  return greeting;
 }
 
 /// The first of these files that is there; an empty path when none is.
@@ -147,7 +155,8 @@ std::vector<std::string> FtpServerProcess::VsftpdCommand() {
   if (program.empty()) whyNot_ = "vsftpd is not here: packaging/install-dependencies tests";
   if (!whyNot_.empty()) return {};
   using fmt::arg;
-  const std::string settings = fmt::format(kVsftpdSettings, arg("port", port_), arg("root", Root().string()));
+  const std::string settings =
+      fmt::format(kVsftpdSettings, arg("port", port_), arg("root", Root().string()), arg("name", Name()));
   return {program.string(), folder_.Write("vsftpd.conf", settings).string()};
 }
 
@@ -164,8 +173,9 @@ std::vector<std::string> FtpServerProcess::ProftpdCommand() {
       "users", fmt::format("{}:{}:{}:{}::{}:/bin/sh\n", user_, kPasswordHash, ::getuid(), ::getgid(), Root().string()));
   fs::permissions(users, fs::perms::owner_read);
   using fmt::arg;
-  const std::string settings = fmt::format(kProftpdSettings, arg("port", port_), arg("folder", folder_.Path().string()),
-                                           arg("user", self->pw_name), arg("group", ownGroup->gr_name));
+  const std::string settings =
+      fmt::format(kProftpdSettings, arg("port", port_), arg("folder", folder_.Path().string()), arg("name", Name()),
+                  arg("user", self->pw_name), arg("group", ownGroup->gr_name));
   return {program.string(), "-n", "-q", "-c", folder_.Write("proftpd.conf", settings).string()};
 }
 
@@ -182,7 +192,8 @@ bool FtpServerProcess::HasEnded() {
 bool FtpServerProcess::WaitUntilItListens() {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
   while (std::chrono::steady_clock::now() < end && !HasEnded()) {
-    if (IsListening(port_)) return !HasEnded();
+    // The server of another test may have been quicker: each has a name of its own.
+    if (GreetingOf(port_).find(Name()) != std::string::npos) return true;
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
   return false;

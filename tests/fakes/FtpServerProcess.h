@@ -33,6 +33,7 @@ class FtpServerProcess {
   [[nodiscard]] std::filesystem::path Root() const { return folder_.Path() / "root"; }
 
  private:
+  [[nodiscard]] std::string Name() const { return folder_.Path().filename().string(); }
   [[nodiscard]] std::vector<std::string> VsftpdCommand();
   [[nodiscard]] std::vector<std::string> ProftpdCommand();
   void Start(const std::vector<std::string>& command);

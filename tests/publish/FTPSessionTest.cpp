@@ -291,7 +291,7 @@ TEST(FTPSessionCancel, InAWriteThatWaits) {
   EXPECT_FALSE(session.Copy("p.jpg"));
   EXPECT_TRUE(session.client.cancel.isRequested);
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_EQ(session.server.Files(), Files{}) << "the part that arrived is deleted";
+  EXPECT_EQ(session.server.Files(), Files{}) << "what has arrived is deleted";
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
       << session.client.window.log;
 }
@@ -301,7 +301,7 @@ TEST(FTPSessionCancel, BeforeABlock) {
   session.LogIn().client.CancelWhen([&] { return session.client.window.percentages.size() == 3; });
   EXPECT_FALSE(session.Copy("p.jpg"));
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_EQ(session.server.Files(), Files{}) << "the part that arrived is deleted";
+  EXPECT_EQ(session.server.Files(), Files{}) << "what has arrived is deleted";
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
       << session.client.window.log;
 }
