@@ -12,16 +12,16 @@ namespace vantorium {
 
 /// A part of the progress window that has changed and is to be drawn.
 enum class ProgressPart {
-  Window,         ///< it comes up
-  Caption,        //
-  Text1,          //
-  Text2,          //
-  LogBox,         ///< has a new text
-  LogBoxEnd,      ///< has more text; both LogBox changes put the caret on the last character
-  Progress,       ///< the bar of the whole run
-  FileProgress,   ///< the bar of the file under way
-  Buttons,        //
-  Pointer,        //
+  Window,        ///< it comes up
+  Caption,       //
+  Text1,         //
+  Text2,         //
+  LogBox,        ///< has a new text
+  LogBoxEnd,     ///< has more text; both LogBox changes put the caret on the last character
+  Progress,      ///< the bar of the whole run
+  FileProgress,  ///< the bar of the file under way
+  Buttons,       //
+  Pointer,       //
 };
 
 /// The most characters that the log box takes before more are added.

@@ -29,10 +29,10 @@ class FolderUpload {
   explicit FolderUpload(UploadEnvironment environment) : environment_(std::move(environment)) {}
 
   /// Sends the contents of `localFolder` (path text) to `remotePath`, which is made first. With a `counter` above -1
-  /// nothing is sent: what there is to do is added to the counter. With -1 the same number of steps goes to the progress
-  /// window. Folders and files come in the order of their names, a folder with all it holds. The first thing that fails
-  /// ends the whole upload. False for a failure or a cancel, of which the user has heard where this operation has
-  /// something to say; a folder that can't be read is passed up in silence.
+  /// nothing is sent: what there is to do is added to the counter. With -1 the same number of steps goes to the
+  /// progress window. Folders and files come in the order of their names, a folder with all it holds. The first thing
+  /// that fails ends the whole upload. False for a failure or a cancel, of which the user has heard where this
+  /// operation has something to say; a folder that can't be read is passed up in silence.
   [[nodiscard]] bool UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite,
                                   std::int32_t& counter);
 

@@ -66,8 +66,7 @@ void UploadLog::Write(std::string_view bytes, Opening opening) {
   try {
     WriteToFile(file_, bytes, opening == Opening::Truncate ? O_TRUNC : O_APPEND);
   } catch (const RuntimeFailure& failure) {
-    boxes_.Critical("Error writing Log",
-                    "An error has occurred writing the log file: \r\r" + failure.Description());
+    boxes_.Critical("Error writing Log", "An error has occurred writing the log file: \r\r" + failure.Description());
   }
 }
 

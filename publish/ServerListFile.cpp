@@ -1,0 +1,92 @@
+#include "publish/ServerListFile.h"
+
+#include "env/FileInput.h"
+#include "env/FileOutput.h"
+#include "env/INIText.h"
+#include "env/Numbers.h"
+#include "env/RuntimeFailure.h"
+#include "env/mINIFileFunctions.h"
+
+#include <algorithm>
+
+namespace vantorium {
+namespace {
+
+constexpr std::string_view kSection = "PUBLISH";
+
+std::string ValueLine(const std::string& key, const std::string& value) {
+  return key + "=\"" + value + "\"\r\n";
+}
+
+std::string ProfileLines(const ServerProfile& profile, const std::string& index) {
+  return ValueLine("ServerName" + index, profile.ServerName) + ValueLine("ServerURL" + index, profile.ServerURL) +
+         ValueLine("UserName" + index, profile.UserName) +
+         ValueLine("IndexFile" + index, profile.IndexPath + "/" + profile.IndexFile) +
+         ValueLine("TimeOut" + index, std::to_string(profile.TimeOut)) + ValueLine("JumpTo" + index, profile.JumpTo);
+}
+
+}  // namespace
+
+std::filesystem::path ServerListFileName(const std::filesystem::path& programFolder) {
+  return programFolder / "vantorium.pub";
+}
+
+ServerListValues::ServerListValues(const std::filesystem::path& file) {
+  try {
+    text_ = ReadFileWhole(file, kMostINIBytes);
+  } catch (const RuntimeFailure&) {
+    return;
+  }
+  Index();
+}
+
+/// What counts are the lines behind the section's line, and without one the last line of all.
+void ServerListValues::Index() {
+  bool inSection = false;
+  std::string_view line;
+  for (std::string_view rest = text_; !rest.empty();) {
+    line = TakeINILine(rest).content;
+    if (inSection) Keep(line);
+    inSection = inSection || IsSectionLine(line, kSection);
+  }
+  if (!inSection) Keep(line);
+}
+
+void ServerListValues::Keep(std::string_view line) {
+  const auto equals = line.find('=');
+  if (equals == std::string_view::npos) return;
+  values_.try_emplace(AsciiUpper(line.substr(0, equals)), line.substr(equals + 1));
+}
+
+std::string ServerListValues::Text(std::string_view key) const {
+  const auto found = values_.find(AsciiUpper(key));
+  if (found == values_.end()) throw RuntimeFailure(FailureKind::Preferences);
+  return std::string(WithoutMarks(found->second));
+}
+
+std::int32_t ServerListValues::Integer(std::string_view key) const {
+  return ParseInt32(Text(key));
+}
+
+bool FitsServerListFile(const ServerProfile& profile) {
+  constexpr std::string_view kBreaks("\r\n\0", 3);
+  const auto texts = {&profile.ServerName, &profile.ServerURL, &profile.UserName,
+                      &profile.IndexPath,  &profile.IndexFile, &profile.JumpTo};
+  return std::ranges::none_of(
+      texts, [&](const std::string* text) { return text->find_first_of(kBreaks) != std::string::npos; });
+}
+
+void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<std::size_t> selected,
+                     const std::filesystem::path& file) {
+  if (!std::ranges::all_of(profiles, FitsServerListFile)) throw RuntimeFailure(FailureKind::Preferences);
+  const std::size_t preferred = selected ? *selected + 1 : 0;
+  std::string text = "[" + std::string(kSection) + "]\r\n" + ValueLine("ServerCount", std::to_string(profiles.size())) +
+                     ValueLine("PreferredServer", std::to_string(preferred));
+  for (std::size_t i = 0; i < profiles.size(); ++i) text += ProfileLines(profiles[i], std::to_string(i + 1));
+
+  std::error_code ignored;  // writing finds out
+  std::filesystem::create_directories(file.parent_path(), ignored);
+  WriteFileWhole(file, text, Durability::Synced);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "env/RuntimeFailure.h"
+#include "publish/CancelPoll.h"
+#include "publish/FTPUploads.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// A server that takes everything, writes down what it was asked, and refuses or fails where the test wants it.
+class RecordingUploads : public FTPUploads {
+ public:
+  [[nodiscard]] bool FTPCreateDirectoryPath(const std::string& path) override { return Answer("make " + path, path); }
+  [[nodiscard]] bool FTPCopyFile(const std::string& localPath, const std::string& remotePath, bool overwrite) override {
+    return Answer("copy " + localPath + " to " + remotePath + (overwrite ? "" : " unless there"), remotePath);
+  }
+
+  std::vector<std::string> calls;
+  std::string refused;  ///< remote path for which the answer is false
+  std::string broken;   ///< remote path for which the client fails at run time
+  std::function<void()> onCall;
+
+ private:
+  bool Answer(const std::string& call, const std::string& path) {
+    calls.push_back(call);
+    if (onCall) onCall();
+    if (!broken.empty() && path == broken) throw RuntimeFailure(FailureKind::DivisionByZero);
+    return refused.empty() || path != refused;
+  }
+};
+
+/// Counts the polls; it is a cancel from one of them on, or as soon as the test says so.
+class ScriptedCancel : public CancelPoll {
+ public:
+  [[nodiscard]] bool CheckForCancel(ProgressWindow& progress) override {
+    ++polls;
+    if (onPoll) onPoll(progress);
+    return cancelled || (cancelAtPoll > 0 && polls >= cancelAtPoll);
+  }
+
+  int polls = 0;
+  int cancelAtPoll = 0;
+  bool cancelled = false;
+  std::function<void(ProgressWindow&)> onPoll;
+};
+
+}  // namespace vantorium::fakes

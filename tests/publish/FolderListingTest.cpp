@@ -1,0 +1,75 @@
+#include "publish/FolderListing.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace vantorium {
+
+void PrintTo(const FolderEntry& entry, std::ostream* stream) {
+  *stream << entry.name << (entry.kind == EntryKind::Folder ? "/" : "");
+}
+
+namespace {
+
+namespace fs = std::filesystem;
+using Entries = std::vector<FolderEntry>;
+
+class AListing : public testing::Test {
+ protected:
+  [[nodiscard]] FolderListing List() const { return ListFolder(folder.Path()); }
+
+  fakes::TemporaryFolder folder;
+};
+
+TEST_F(AListing, IsInTheOrderOfTheNames) {
+  for (const char* name : {"b", "a", "B", "10", "9", ".hidden", "\xC3\xA4"}) folder.Write(name, "x");
+  fs::create_directory(folder.Path() / "ab");
+  const FolderListing listing = List();
+  EXPECT_TRUE(listing.started);
+  EXPECT_TRUE(listing.complete);
+  std::string names;
+  for (const auto& entry : listing.entries) names += entry.name + " ";
+  EXPECT_EQ(names, ".hidden 10 9 B a ab b \xC3\xA4 ");
+}
+
+TEST_F(AListing, TellsFoldersFromFiles) {
+  folder.Write("file", "");
+  fs::create_directory(folder.Path() / "folder");
+  EXPECT_EQ(List().entries, (Entries{{"file", EntryKind::File}, {"folder", EntryKind::Folder}}));
+}
+
+TEST_F(AListing, ALinkToAFileIsAFileAndALinkToAFolderIsLeftOut) {
+  const auto file = folder.Write("a", "x");
+  fs::create_symlink(file, folder.Path() / "link");
+  fs::create_directory_symlink(folder.Path(), folder.Path() / "above");
+  EXPECT_EQ(List().entries, (Entries{{"a", EntryKind::File}, {"link", EntryKind::File}}));
+}
+
+TEST_F(AListing, WhatIsNeitherFileNorFolderIsLeftOut) {
+  fs::create_symlink(folder.Path() / "nowhere", folder.Path() / "dangling");
+  fs::create_symlink("itself", folder.Path() / "itself");
+  ASSERT_EQ(::mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
+  const FolderListing listing = List();
+  EXPECT_EQ(listing.entries, Entries());
+  EXPECT_TRUE(listing.complete);
+}
+
+TEST_F(AListing, OfAnEmptyFolderIsCompleteAndEmpty) {
+  const FolderListing listing = List();
+  EXPECT_TRUE(listing.started);
+  EXPECT_TRUE(listing.complete);
+  EXPECT_EQ(listing.entries, Entries());
+}
+
+TEST_F(AListing, OfWhatIsNoFolderDoesNotStart) {
+  for (const fs::path& path : {folder.Write("file", "x"), folder.Path() / "missing", fs::path()}) {
+    const FolderListing listing = ListFolder(path);
+    EXPECT_FALSE(listing.started) << path;
+    EXPECT_FALSE(listing.complete) << path;
+    EXPECT_EQ(listing.entries, Entries()) << path;
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,323 @@
+#include "publish/UploadFolder.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/RunFakes.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "tests/fakes/UploadFakes.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Lines = std::vector<std::string>;
+
+/// A server, and the folder "site" of drive C: to send to it.
+class UploadFolderTest : public testing::Test {
+ protected:
+  UploadFolderTest() { fs::create_directory(drive.Path() / "site"); }
+
+  void Write(const std::string& name) const { drive.Write("site/" + name, name); }
+  void MakeFolder(const std::string& name) const { fs::create_directories(drive.Path() / "site" / name); }
+
+  bool Send(const std::string& local = "C:\\site", const std::string& remote = "web", bool overwrite = true) {
+    std::int32_t counter = -1;
+    const bool result = upload.UploadFolder(local, remote, overwrite, counter);
+    EXPECT_EQ(counter, -1);
+    return result;
+  }
+  std::int32_t Count(const std::string& local = "C:\\site") {
+    std::int32_t counter = 0;
+    EXPECT_TRUE(upload.UploadFolder(local, "web", true, counter)) << local;
+    return counter;
+  }
+  [[nodiscard]] std::int32_t Progress() const { return progress.GetProgress(); }
+
+  void ExpectOneBox(BoxKind kind, const std::string& title, const std::string& text) const {
+    ASSERT_EQ(boxes.boxes.size(), 1U);
+    EXPECT_EQ(boxes.boxes[0].kind, kind);
+    EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::Ok);
+    EXPECT_EQ(boxes.boxes[0].title, title);
+    EXPECT_EQ(boxes.boxes[0].text, text);
+  }
+  void ExpectCancelReportedOnce() const {
+    ExpectOneBox(BoxKind::Exclamation, "Upload cancelled", "The User has cancelled Upload of the Gallery");
+  }
+
+  fakes::TemporaryFolder drive;
+  PathMap paths{{{'C', drive.Path().string()}}};
+  fakes::RecordingUploads server;
+  fakes::RecordingMessageBox boxes;
+  fakes::ScriptedCancel cancel;
+  fakes::Journal journal;
+  fakes::ProgressRecord record;
+  fakes::RecordingProgress progress{record, journal};
+  Lines statuses;
+  FolderUpload upload{{server, paths, boxes, cancel, progress, [this](const auto& text) { statuses.push_back(text); }}};
+};
+
+TEST_F(UploadFolderTest, TheContentsLandInTheRemotePathWithTheSameTreeBelow) {
+  for (const char* name : {"b.htm", "a.htm", "sub/c.jpg", "sub/deep/d.jpg"}) Write(name);
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(server.calls, (Lines{
+                              "make web",
+                              "copy C:\\site\\a.htm to web/a.htm",
+                              "copy C:\\site\\b.htm to web/b.htm",
+                              "make web/sub",
+                              "copy C:\\site\\sub\\c.jpg to web/sub/c.jpg",
+                              "make web/sub/deep",
+                              "copy C:\\site\\sub\\deep\\d.jpg to web/sub/deep/d.jpg",
+                          }));
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(UploadFolderTest, AFolderComesInItsPlaceAmongTheNames) {
+  for (const char* name : {"z", "m/file", "a"}) Write(name);
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a to web/a", "make web/m",
+                                 "copy C:\\site\\m\\file to web/m/file", "copy C:\\site\\z to web/z"}));
+}
+
+TEST_F(UploadFolderTest, WhatIsDoneIsShownInTheWindowAndInTheStatusBar) {
+  Write("sub/a.htm");
+  EXPECT_TRUE(Send());
+  const Lines expected = {"Creating Directory \"web\"...", "Creating Directory \"web/sub\"...",
+                          "Uploading File \"C:\\site\\sub\\a.htm\"..."};
+  EXPECT_EQ(record.texts2, expected);
+  EXPECT_EQ(statuses, expected);
+}
+
+TEST_F(UploadFolderTest, TheOverwriteFlagGoesWithEachFile) {
+  Write("sub/a.htm");
+  EXPECT_TRUE(Send("C:\\site", "web", /*overwrite=*/false));
+  EXPECT_EQ(server.calls,
+            (Lines{"make web", "make web/sub", "copy C:\\site\\sub\\a.htm to web/sub/a.htm unless there"}));
+}
+
+TEST_F(UploadFolderTest, OneSeparatorAtTheEndOfEachPathIsDropped) {
+  Write("a");
+  struct Case {
+    const char* local;
+    const char* remote;
+    Lines calls;
+  };
+  const Case cases[] = {
+      {"C:\\site\\", "web/", {"make web", "copy C:\\site\\a to web/a"}},
+      {"C:\\site", "web\\x\\", {"make web/x", "copy C:\\site\\a to web/x/a"}},
+      {"C:\\site\\\\", "web//", {"make web/", "copy C:\\site\\\\a to web//a"}},
+      {"C:\\site", "/", {"make ", "copy C:\\site\\a to /a"}},
+      {"C:\\site", "", {"make ", "copy C:\\site\\a to /a"}},
+  };
+  for (const auto& [local, remote, calls] : cases) {
+    server.calls.clear();
+    EXPECT_TRUE(Send(local, remote)) << local << " to " << remote;
+    EXPECT_EQ(server.calls, calls) << local << " to " << remote;
+  }
+}
+
+TEST_F(UploadFolderTest, TheRootOfADriveCanBeSent) {
+  Write("a");
+  EXPECT_TRUE(Send("C:\\"));
+  EXPECT_EQ(server.calls, (Lines{"make web", "make web/site", "copy C:\\site\\a to web/site/a"}));
+}
+
+TEST_F(UploadFolderTest, CountingSendsAndShowsNothing) {
+  Write("sub/a");
+  EXPECT_EQ(Count(), 4);
+  EXPECT_EQ(server.calls, Lines());
+  EXPECT_EQ(record.texts2, Lines());
+  EXPECT_EQ(statuses, Lines());
+  EXPECT_TRUE(record.values.empty());
+}
+
+TEST_F(UploadFolderTest, AFolderCountsForItselfAndForTheFolderItLiesIn) {
+  for (const char* name : {"a", "b", "sub/c", "sub/d"}) Write(name);
+  EXPECT_EQ(Count(), 7);
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(record.values, (std::vector<std::int32_t>{1, 2, 3, 4, 5, 6, 7}));
+}
+
+TEST_F(UploadFolderTest, TheCountAddsToWhatTheCounterHolds) {
+  Write("a");
+  std::int32_t counter = 40;
+  EXPECT_TRUE(upload.UploadFolder("C:\\site", "web", true, counter));
+  EXPECT_EQ(counter, 42);
+}
+
+TEST_F(UploadFolderTest, BothPassesAgreeOnEveryTree) {
+  const std::vector<Lines> trees = {
+      {}, {"a"}, {"a/b/c/d"}, {"a", "b", "c/1", "c/2", "d/e/1", "d/e/2", "d/3"}, {".hidden/.file", "x y/z"}};
+  for (std::size_t i = 0; i < trees.size(); ++i) {
+    const std::string top = "C:\\site\\" + std::to_string(i);
+    MakeFolder(std::to_string(i) + "/empty");
+    for (const std::string& name : trees[i]) Write(std::to_string(i) + "/" + name);
+    fs::create_directory_symlink("..", drive.Path() / "site" / std::to_string(i) / "loop");
+    record.values.clear();
+    const std::int32_t counted = Count(top);
+    EXPECT_TRUE(Send(top)) << top;
+    EXPECT_EQ(Progress(), counted) << top;
+    EXPECT_EQ(counted, static_cast<std::int32_t>(record.values.size())) << top;
+  }
+}
+
+TEST_F(UploadFolderTest, AnEmptyFolderStillCreatesItsDirectoryAndCountsOne) {
+  EXPECT_EQ(Count(), 1);
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(server.calls, Lines{"make web"});
+  EXPECT_EQ(Progress(), 1);
+}
+
+TEST_F(UploadFolderTest, ALinkToAFileIsSentAsTheFileAndALinkToAFolderIsNotFollowed) {
+  Write("a");
+  fs::create_symlink("a", drive.Path() / "site/link");
+  fs::create_directory_symlink(drive.Path() / "site", drive.Path() / "site/again");
+  EXPECT_EQ(Count(), 3);
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a to web/a", "copy C:\\site\\link to web/link"}));
+}
+
+TEST_F(UploadFolderTest, ADirectoryThatCannotBeMadeEndsTheUploadWithoutAStep) {
+  Write("a");
+  server.refused = "web";
+  EXPECT_FALSE(Send());
+  EXPECT_EQ(server.calls, Lines{"make web"});
+  EXPECT_TRUE(record.values.empty());
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(UploadFolderTest, AFileThatFailsInASubfolderEndsTheWholeUpload) {
+  for (const char* name : {"sub/a", "sub/b", "sub2/c", "z"}) Write(name);
+  server.refused = "web/sub/a";
+  EXPECT_FALSE(Send());
+  EXPECT_EQ(server.calls, (Lines{"make web", "make web/sub", "copy C:\\site\\sub\\a to web/sub/a"}));
+  EXPECT_EQ(Progress(), 4) << "the failed file is a step too";
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsInSilenceBehindItsRemoteDirectory) {
+  drive.Write("file", "x");
+  for (const char* local : {"C:\\missing", "C:\\file", "Q:\\site", "\\\\server\\share"}) {
+    server.calls.clear();
+    EXPECT_FALSE(Send(local)) << local;
+    EXPECT_EQ(server.calls, Lines{"make web"}) << local;
+    std::int32_t counter = 0;
+    EXPECT_FALSE(upload.UploadFolder(local, "web", true, counter)) << local;
+    EXPECT_EQ(counter, 1) << local;
+  }
+  EXPECT_TRUE(boxes.boxes.empty());
+  EXPECT_EQ(cancel.polls, 0);
+}
+
+TEST_F(UploadFolderTest, NoFolderAtAllIsNotTheRootFolder) {
+  EXPECT_FALSE(Send(""));
+  EXPECT_EQ(server.calls, Lines());
+}
+
+TEST_F(UploadFolderTest, AFailureAtRunTimeIsShownOnceAndEndsTheWholeUpload) {
+  for (const char* name : {"deep/sub/a", "deep/sub/b", "z"}) Write(name);
+  server.broken = "web/deep/sub/a";
+  EXPECT_FALSE(Send());
+  ExpectOneBox(BoxKind::Critical, "Failure",
+               "An Error has occurred during the Upload of this Gallery:\r\rDivision by zero\r\rError #11");
+  EXPECT_EQ(server.calls.back(), "copy C:\\site\\deep\\sub\\a to web/deep/sub/a");
+}
+
+TEST_F(UploadFolderTest, AFailureInMakingTheDirectoryIsShownToo) {
+  server.broken = "web";
+  EXPECT_FALSE(Send());
+  EXPECT_EQ(boxes.boxes.size(), 1U);
+}
+
+TEST_F(UploadFolderTest, ANameThatIsAPathToOthersIsRefused) {
+  for (const char* name : {"a\\b", "..\\..\\etc"}) {
+    const auto file = drive.Write(std::string("site/") + name, "x");
+    boxes.boxes.clear();
+    server.calls.clear();
+    EXPECT_EQ(Count(), 2) << name;
+    EXPECT_TRUE(boxes.boxes.empty()) << name;
+    EXPECT_FALSE(Send()) << name;
+    EXPECT_EQ(server.calls, Lines{"make web"}) << name;
+    ExpectOneBox(BoxKind::Critical, "Failure",
+                 "An Error has occurred during the Upload of this Gallery:\r\r\"" + std::string(name) +
+                     "\" has a backslash in its name.\r\rError #75");
+    fs::remove(file);
+  }
+}
+
+TEST_F(UploadFolderTest, ACancelIsNoticedBeforeEachEntry) {
+  for (const char* name : {"a", "b", "c"}) Write(name);
+  server.onCall = [this] { cancel.cancelled = server.calls.back() == "copy C:\\site\\b to web/b"; };
+  EXPECT_FALSE(Send());
+  EXPECT_EQ(server.calls.back(), "copy C:\\site\\b to web/b");
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, ACancelDeepInTheTreeIsReportedOnce) {
+  for (const char* name : {"1/2/3/a", "1/2/3/b", "z"}) Write(name);
+  server.onCall = [this] { cancel.cancelled = server.calls.size() == 5; };
+  EXPECT_FALSE(Send());
+  EXPECT_EQ(server.calls.back(), "copy C:\\site\\1\\2\\3\\a to web/1/2/3/a");
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, EveryPollMayBeTheCancelAndEndsTheUploadWithOneBox) {
+  for (const char* name : {"a", "s/b", "s/t/c", "z"}) Write(name);
+  EXPECT_TRUE(Send());
+  const int polls = cancel.polls;
+  const std::size_t calls = server.calls.size();
+  for (int at = 1; at <= polls; ++at) {
+    cancel.polls = 0;
+    cancel.cancelAtPoll = at;
+    boxes.boxes.clear();
+    server.calls.clear();
+    FolderUpload another({server, paths, boxes, cancel, progress, [](const auto& /*text*/) {}});
+    std::int32_t counter = -1;
+    EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true, counter)) << "poll " << at;
+    EXPECT_EQ(boxes.boxes.size(), 1U) << "poll " << at;
+    EXPECT_LE(server.calls.size(), calls) << "poll " << at;
+  }
+}
+
+TEST_F(UploadFolderTest, ACancelBehindTheLastFileOfASubfolderIsNoticed) {
+  Write("sub/a");
+  server.onCall = [this] { cancel.cancelled = server.calls.size() == 3; };
+  EXPECT_FALSE(Send());
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, ACancelWhileAnEmptyFolderIsMadeIsNoticed) {
+  server.onCall = [this] { cancel.cancelled = true; };
+  EXPECT_FALSE(Send());
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfTheTopFolderIsNotReported) {
+  for (const char* name : {"a", "b"}) Write(name);
+  server.refused = "web/a";
+  server.onCall = [this] { cancel.cancelled = server.calls.size() == 2; };
+  EXPECT_FALSE(Send());
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfASubfolderIsReported) {
+  Write("sub/a");
+  server.refused = "web/sub/a";
+  server.onCall = [this] { cancel.cancelled = server.calls.size() == 3; };
+  EXPECT_FALSE(Send());
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, ACancelOfTheCountIsNotReportedAgainByTheUpload) {
+  Write("a");
+  cancel.cancelled = true;
+  std::int32_t counter = 0;
+  EXPECT_FALSE(upload.UploadFolder("C:\\site", "web", true, counter));
+  EXPECT_EQ(counter, 1);
+  EXPECT_FALSE(Send());
+  EXPECT_EQ(server.calls, Lines{"make web"});
+  ExpectCancelReportedOnce();
+}
+
+}  // namespace
+}  // namespace vantorium
