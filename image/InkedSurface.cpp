@@ -20,7 +20,8 @@ class BitRows {
   /// Pixels 32 * index to 32 * index + 31 of a row, from the lowest bit to the highest.
   [[nodiscard]] std::uint32_t Word(std::int32_t row, std::int32_t index) const {
     std::uint32_t word = 0;
-    std::memcpy(&word, bytes_ + static_cast<std::ptrdiff_t>(row) * stride_ + index * 4, sizeof word);
+    std::memcpy(&word, bytes_ + static_cast<std::ptrdiff_t>(row) * stride_ + static_cast<std::ptrdiff_t>(index) * 4,
+                sizeof word);
     return std::endian::native == std::endian::little ? word : Reversed(word);
   }
 

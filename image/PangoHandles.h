@@ -26,6 +26,7 @@ using FontOptionsHandle = std::unique_ptr<cairo_font_options_t, HandleReleaser<c
 using SurfaceHandle = std::unique_ptr<cairo_surface_t, HandleReleaser<cairo_surface_destroy>>;
 using CairoHandle = std::unique_ptr<cairo_t, HandleReleaser<cairo_destroy>>;
 using FcConfigHandle = std::unique_ptr<FcConfig, HandleReleaser<FcConfigDestroy>>;
+using BlobHandle = std::unique_ptr<hb_blob_t, HandleReleaser<hb_blob_destroy>>;
 using ShaperFontHandle = std::unique_ptr<hb_font_t, HandleReleaser<hb_font_destroy>>;
 
 }  // namespace vantorium

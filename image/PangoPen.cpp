@@ -3,23 +3,54 @@
 #include <algorithm>
 #include <numbers>
 
+#include <hb-ot.h>
+
 namespace vantorium {
 namespace {
 
 /// Letters up to this em are drawn pixel by pixel to the font's own rules, larger ones as the outlines that the rules
 /// would hardly change.
-constexpr std::int32_t kLargestBitmapEm = 1024;
+constexpr std::int32_t kLargestBitmapEm = 512;
 
 /// How far letters and their marks may reach out of their line, in ems.
 constexpr int kReach = 3;
 
-void DrawGlyphs(cairo_t* cairo, PangoFont* font, PangoGlyphString* glyphs, bool asOutlines) {
-  if (!asOutlines) {
-    pango_cairo_show_glyph_string(cairo, font, glyphs);
-    return;
+bool HasTable(hb_face_t* face, hb_tag_t tag) {
+  const BlobHandle table(hb_face_reference_table(face, tag));
+  return hb_blob_get_length(table.get()) > 0;
+}
+
+/// Whether the letters of a font are curves and not pictures.
+bool HasOutlines(PangoFont* font) {
+  hb_face_t* face = hb_font_get_face(pango_font_get_hb_font(font));
+  if (hb_ot_color_has_png(face) != 0) return false;
+  return HasTable(face, HB_TAG('g', 'l', 'y', 'f')) || HasTable(face, HB_TAG('C', 'F', 'F', ' ')) ||
+         HasTable(face, HB_TAG('C', 'F', 'F', '2'));
+}
+
+/// A box for each letter, from `x` on the base line.
+void DrawBoxes(cairo_t* cairo, const PangoGlyphString& glyphs, double x, double em) {
+  constexpr double kBoxHeight = 0.75;
+  for (int i = 0; i < glyphs.num_glyphs; ++i) {
+    const double width = static_cast<double>(glyphs.glyphs[i].geometry.width) / PANGO_SCALE;
+    cairo_rectangle(cairo, x, -kBoxHeight * em, width, kBoxHeight * em);
+    x += width;
   }
-  pango_cairo_glyph_string_path(cairo, font, glyphs);
   cairo_fill(cairo);
+}
+
+/// Draws letters from `x` on the base line. A picture of a letter would be enlarged in memory, whatever its size, so
+/// large ones are boxes.
+void DrawGlyphs(cairo_t* cairo, PangoFont* font, PangoGlyphString* glyphs, double x, std::int32_t em) {
+  cairo_move_to(cairo, x, 0);
+  if (em <= kLargestBitmapEm) {
+    pango_cairo_show_glyph_string(cairo, font, glyphs);
+  } else if (HasOutlines(font)) {
+    pango_cairo_glyph_string_path(cairo, font, glyphs);
+    cairo_fill(cairo);
+  } else {
+    DrawBoxes(cairo, *glyphs, x, em);
+  }
 }
 
 std::int64_t WidthOf(const PangoGlyphString& glyphs) {
@@ -75,8 +106,8 @@ void PangoLine::DrawLetters(cairo_t* cairo, double from, double to) const {
   ForEachRun(line_, [&](const PangoLayoutRun& run) {
     GlyphPart part = PartBetween(*run.glyphs, start, (from - reach) * PANGO_SCALE, (to + reach) * PANGO_SCALE);
     if (part.glyphs.num_glyphs > 0) {
-      cairo_move_to(cairo, static_cast<double>(part.start) / PANGO_SCALE, 0);
-      DrawGlyphs(cairo, run.item->analysis.font, &part.glyphs, face_.EmHeight() > kLargestBitmapEm);
+      DrawGlyphs(cairo, run.item->analysis.font, &part.glyphs, static_cast<double>(part.start) / PANGO_SCALE,
+                 face_.EmHeight());
     }
     start += WidthOf(*run.glyphs);
   });

@@ -15,7 +15,8 @@ namespace {
 void DrawTurned(PangoPen& pen, const PangoFace& face, const LogFont& font, const std::string& text) {
   const PangoLine line(face, text);
   pen.Turn(font.lfEscapement / 10.0);
-  pen.MoveTo(-static_cast<double>(line.Width() / 2), -face.LineHeight());
+  const std::int64_t half = line.Width() / 2;
+  pen.MoveTo(-static_cast<double>(half), -face.LineHeight());
   pen.Draw(line, 0);
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 // Rows are worked on in blocks that stay in the processor's nearest memory from one pass over them to the next. A block
 // is large enough for a pass to find what the one before it has stored. Nothing in a pass branches.
-constexpr std::size_t kBlockBytes = 3 * 1024;
+constexpr std::size_t kBlockBytes = 3072;
 using Block = std::array<std::uint8_t, kBlockBytes>;
 
 /// The three bytes of a colour, over and over, in the order of a picture's bytes.

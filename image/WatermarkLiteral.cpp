@@ -25,7 +25,8 @@ void DrawWatermarkTextLiteral(cDIBSection& dib, LogFont& font, const std::string
   const std::uint32_t key = 0xFFFFFFU - color;
   for (std::int32_t y = 0; y < mask.height(); ++y) {
     std::uint8_t* row = mask.Row(mask.height() - 1 - y);
-    for (std::int32_t x = 0; x < mask.width(); ++x) SetPixel(row + 3 * x, drawn.Covers(x, y) ? color : key);
+    for (std::int32_t x = 0; x < mask.width(); ++x)
+      SetPixel(row + static_cast<std::ptrdiff_t>(x) * 3, drawn.Covers(x, y) ? color : key);
   }
   std::ignore = TransparentCopyLiteral(mask, dib, key, alpha);
 }

@@ -83,7 +83,7 @@ TEST_F(PangoTextRasterTest, AFontThatDoesNotExistHasAStandIn) {
 
 TEST_F(PangoTextRasterTest, TheHeightIsThatOfTheEm) {
   // A capital letter of this font is 1409 / 2048 of the em high.
-  for (const std::int32_t em : {20, 48, 100, 400, 1024, 1025, 3000}) {
+  for (const std::int32_t em : {20, 48, 100, 400, 512, 513, 3000}) {
     const TextMask letter = raster.Draw(FontOf(-em), "H", {}, 3000, 3000);
     EXPECT_NEAR(letter.height(), em * 1409.0 / 2048, 1) << em;
   }
@@ -258,6 +258,16 @@ TEST_F(PangoTextRasterTest, HugeLettersKeepTheirMeasures) {
   const TextMask stem = raster.Draw(FontOf(-43689, 700), "H", {TextForm::Lines, -4500, -20000}, kWidth, kHeight);
   EXPECT_EQ(PixelsOf(stem).size(), std::size_t{kWidth * kHeight});
   EXPECT_TRUE(PixelsOf(DrawLine(FontOf(-2147483647 - 1), "H", 36)).size() <= std::size_t{kWidth * kHeight});
+}
+
+TEST_F(PangoTextRasterTest, HugeLettersOfEveryScriptAreDrawn) {
+  for (const char* text : {"\u0627\u0644", "\u092E\u0928", "\u6F22", "\U0001F600\U0001F600", "\U0010FFFD"}) {
+    for (const std::int32_t em : {600, 5000, 43689}) {
+      const TextPlace place = {TextForm::Lines, -em / 8, -em / 2};
+      EXPECT_LE(PixelsOf(raster.Draw(FontOf(-em), text, place, 64, 48)).size(), 64U * 48U) << text << " of " << em;
+      EXPECT_GT(raster.Measure(FontOf(-em), text, TextForm::Lines).width, em / 5) << text << " of " << em;
+    }
+  }
 }
 
 TEST_F(PangoTextRasterTest, LongTextsKeepTheirMeasures) {

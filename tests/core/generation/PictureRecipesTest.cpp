@@ -1,0 +1,93 @@
+#include "core/generation/PictureRecipes.h"
+#include "image/JPEG.h"
+#include "tests/core/generation/RunFixture.h"
+
+namespace vantorium {
+namespace {
+
+class PictureRecipesTest : public RunFixture {
+ protected:
+  PictureRecipesTest() {
+    AddPhotograph("a", 120, 90);
+    project.settings.checkImageWrapperImageKeepSize = 1;
+  }
+
+  /// The brightest green of a picture of the gallery.
+  [[nodiscard]] int Brightest(const std::string& name) const {
+    cDIBSection picture;
+    EXPECT_TRUE(LoadJPEGImage(picture, folder.Path() / "out" / name)) << name;
+    int brightest = 0;
+    for (std::int32_t y = 0; y < picture.height(); ++y) {
+      for (std::int32_t x = 0; x < picture.width(); ++x)
+        brightest = std::max<int>(brightest, picture.Row(y)[3 * x + 1]);
+    }
+    return brightest;
+  }
+
+  RunState StateOfRun() {
+    RunState run{.project = project.settings, .images = project.images, .files = files, .formats = formats};
+    run.RunInfo.resize(1);
+    run.ImageCount = 1;
+    return run;
+  }
+};
+
+TEST_F(PictureRecipesTest, WithoutAWatermarkThereIsNoPainter) {
+  RunState run = StateOfRun();
+  PrepareWatermarks(run, screen, texts);
+  EXPECT_EQ(run.ImageWatermark, nullptr);
+  EXPECT_EQ(run.ThumbnailWatermark, nullptr);
+  EXPECT_FALSE(ImageRecipe(run, 1));
+  EXPECT_EQ(ThumbnailRecipe(run, 1).watermark, nullptr);
+}
+
+TEST_F(PictureRecipesTest, EachTargetHasOnePainterForTheWholeRun) {
+  project.settings.ImageWatermark.checkUseWatermark = 1;
+  project.settings.ThumbnailWatermark.checkUseWatermark = 1;
+  RunState run = StateOfRun();
+  PrepareWatermarks(run, screen, texts);
+  ASSERT_TRUE(ImageRecipe(run, 1));
+  EXPECT_EQ(ImageRecipe(run, 1)->watermark, run.ImageWatermark);
+  EXPECT_EQ(ThumbnailRecipe(run, 1).watermark, run.ThumbnailWatermark);
+  EXPECT_NE(run.ImageWatermark, run.ThumbnailWatermark);
+}
+
+TEST_F(PictureRecipesTest, AnImageWithAWatermarkIsNotCopied) {
+  project.settings.ImageWatermark.checkUseWatermark = 1;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_GT(Brightest("Images/a.jpg"), 180);
+  EXPECT_LT(Brightest("Thumbs/thumb_a.jpg"), 140);
+}
+
+TEST_F(PictureRecipesTest, AThumbnailHasAWatermarkOfItsOwn) {
+  project.settings.ThumbnailWatermark.checkUseWatermark = 1;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_LT(Brightest("Images/a.jpg"), 140);
+  EXPECT_GT(Brightest("Thumbs/thumb_a.jpg"), 180);
+}
+
+TEST_F(PictureRecipesTest, AWatermarkTooLargeForItsCoordinatesEndsTheRun) {
+  project.settings.ImageWatermark = {.checkUseWatermark = 1, .textWatermark = "WIDE", .FontSize = 32767};
+  project.settings.ImageWatermark.comboTextPlacement = 4;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes.front().title, "Failure");
+  EXPECT_NE(boxes.boxes.front().text.find("Error #6"), std::string::npos) << boxes.boxes.front().text;
+}
+
+TEST_F(PictureRecipesTest, TheTextGrowsWithThePixelsOfAnInch) {
+  class FineScreen : public Screen {
+   public:
+    [[nodiscard]] std::int32_t PixelsPerInch() const override { return 192; }
+  };
+  project.settings.ImageWatermark = {.checkUseWatermark = 1, .textWatermark = "H", .FontSize = 14};
+  project.settings.ImageWatermark.comboTextPlacement = 0;
+  RunState run = StateOfRun();
+  PrepareWatermarks(run, screen, texts);
+  const auto coarse = run.ImageWatermark->MaskFor(200, 200);
+  PrepareWatermarks(run, FineScreen(), texts);
+  EXPECT_NEAR(run.ImageWatermark->MaskFor(200, 200)->height(), 2 * coarse->height(), 1);
+}
+
+}  // namespace
+}  // namespace vantorium
