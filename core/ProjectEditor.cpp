@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vantorium {
 namespace {
@@ -33,9 +34,14 @@ void RepairDisabledGraphic(LinkSettings& link) {
 }  // namespace
 
 void ProjectEditor::Set(std::string Project::*field, std::string value) {
-  project_.*field = Clamped(field, std::move(value));
+  const std::string before = std::exchange(project_.*field, Clamped(field, std::move(value)));
+  try {
+    if (field == &Project::textGalleryFrameSize) FrameSizeEdited();
+  } catch (...) {
+    project_.*field = before;
+    throw;
+  }
   modified_ = true;
-  if (field == &Project::textGalleryFrameSize) FrameSizeEdited();
 }
 
 void ProjectEditor::Set(std::int16_t Project::*field, std::int16_t value) {

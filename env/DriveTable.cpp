@@ -27,7 +27,7 @@ std::map<char, std::string> DrivesOf(std::string_view preferences) {
     const char letter = inside ? LetterOf(line) : '\0';
     if (letter == '\0') continue;
     const std::string_view folder = WithoutMarks(line.substr(2));
-    if (folder.starts_with('/')) drives.emplace(letter, folder);
+    if (folder.starts_with('/') && folder.find('\0') == std::string_view::npos) drives.emplace(letter, folder);
   }
   return drives;
 }

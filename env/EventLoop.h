@@ -9,6 +9,8 @@ class EventLoop {
   virtual ~EventLoop() = default;
   /// Handles what is waiting and returns at once.
   virtual void Turn() = 0;
+  /// Sleeps until there is something to handle, and handles it. A loop that cannot sleep takes a turn.
+  virtual void Wait() { Turn(); }
 };
 
 }  // namespace vantorium

@@ -116,7 +116,9 @@ std::string WithINIString(std::string_view text, std::string_view section, std::
     return result.replace(place.begin, oldLine.size(), ValueLine(KeyOf(oldLine), value));
   }
   const bool open = !EndsWithLineEnd(std::string_view(result).substr(0, place.begin));
-  return result.insert(place.begin, (open ? lineEnd : "") + ValueLine(key, value) + lineEnd);
+  // A CR in front of an LF would make one line end of two, and swallow an empty line.
+  const bool merges = lineEnd == "\r" && std::string_view(result).substr(place.begin).starts_with('\n');
+  return result.insert(place.begin, (open ? lineEnd : "") + ValueLine(key, value) + (merges ? "\r\n" : lineEnd));
 }
 
 }  // namespace vantorium

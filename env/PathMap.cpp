@@ -63,4 +63,8 @@ std::string PathMap::ToTextFromUser(std::string_view typed) const {
   return ToText(absolute.lexically_normal());
 }
 
+std::string PathMap::ToTextIfNative(std::string_view typed) const {
+  return typed.starts_with('/') ? ToTextFromUser(typed) : std::string(typed);
+}
+
 }  // namespace vantorium

@@ -25,6 +25,10 @@ class PathMap {
   /// Path text out of what a user typed: path text as it stands, a native path (relative to the working folder) mapped.
   [[nodiscard]] std::string ToTextFromUser(std::string_view typed) const;
 
+  /// Of an absolute native path its path text; any other text as it stands. For settings, where a name without a folder
+  /// means something else than a file of the working folder.
+  [[nodiscard]] std::string ToTextIfNative(std::string_view typed) const;
+
  private:
   std::map<char, std::string> drives_;
 };

@@ -120,6 +120,7 @@ bool JPEGDecoder::Open(const std::filesystem::path& path) {
   state_ = std::make_unique<State>();
   State& state = *state_;
   state.stop = stop_;
+  divisor_ = 1;
   state.file = OpenRegularFile(path, state.fileSize);
   return state.file != nullptr && state.errors.Run([&state] { jpeg_stdio_src(&state.codec, state.file.get()); }) &&
          state.RunPastReservedMarkers([&state] { jpeg_read_header(&state.codec, TRUE); });
@@ -131,6 +132,18 @@ std::int32_t JPEGDecoder::width() const {
 
 std::int32_t JPEGDecoder::height() const {
   return static_cast<std::int32_t>(state_->codec.image_height);
+}
+
+void JPEGDecoder::ReduceBy(int divisor) {
+  divisor_ = divisor;
+}
+
+std::int32_t JPEGDecoder::OutputWidth() const {
+  return (width() + divisor_ - 1) / divisor_;
+}
+
+std::int32_t JPEGDecoder::OutputHeight() const {
+  return (height() + divisor_ - 1) / divisor_;
 }
 
 bool JPEGDecoder::IsPlausible() const {
@@ -148,7 +161,9 @@ bool JPEGDecoder::Start() {
   State& state = *state_;
   if (!IsPlausible()) return false;
   state.ChooseOutput();
-  if (state.HasInks()) state.inks.resize(static_cast<std::size_t>(width()) * 4);
+  state.codec.scale_num = 1;
+  state.codec.scale_denom = static_cast<unsigned>(divisor_);
+  if (state.HasInks()) state.inks.resize(static_cast<std::size_t>(OutputWidth()) * 4);
   return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && !state.errors.Damaged();
 }
 

@@ -32,6 +32,13 @@ class JPEGDecoder {
   /// Bytes of coefficients that Start will hold: those of the whole picture when it came in several scans, else none.
   [[nodiscard]] std::uint64_t HeldBytes() const;
 
+  /// Between Open and Start: the picture shall come out with both sides divided by 1, 2, 4 or 8, rounded up, which
+  /// takes much less time. SkipRows is not for such a picture.
+  void ReduceBy(int divisor);
+  /// The size of what comes out, in pixels.
+  [[nodiscard]] std::int32_t OutputWidth() const;
+  [[nodiscard]] std::int32_t OutputHeight() const;
+
   [[nodiscard]] bool Start();
   /// Writes the next row, 3 bytes a pixel, to `bgr`. False as soon as the data turn out to be damaged or to end early.
   [[nodiscard]] bool ReadRow(std::uint8_t* bgr);
@@ -45,6 +52,7 @@ class JPEGDecoder {
   struct State;
   std::unique_ptr<State> state_;
   std::stop_token stop_;
+  int divisor_ = 1;
 };
 
 }  // namespace vantorium

@@ -3,6 +3,7 @@
 #include "env/NeighbourFile.h"
 #include "env/RuntimeFailure.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
 
@@ -12,6 +13,9 @@
 
 namespace vantorium {
 namespace {
+
+/// Blocks are small: read one by one they would cost more in calls of the system than in copying.
+constexpr std::size_t kReadAhead = 64 * 1024;
 
 [[noreturn]] void ThrowWhyNot(const std::filesystem::path& file) {
   if (errno == ENOENT || errno == ENOTDIR) throw RuntimeFailure(FailureKind::FileNotFound);
@@ -36,13 +40,25 @@ LocalFile::LocalFile(const std::filesystem::path& file)
   if (!file_.IsOpen()) ThrowWhyNot(file);
 }
 
-bool LocalFile::Read(std::span<char> block) const {
+bool LocalFile::Read(std::span<char> block) {
   while (!block.empty()) {
-    const auto count = ::read(file_.Get(), block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return false;
-    block = block.subspan(static_cast<std::size_t>(count));
+    if (ahead_.empty() && !ReadAhead()) return false;
+    const auto piece = ahead_.first(std::min(ahead_.size(), block.size()));
+    std::ranges::copy(piece, block.begin());
+    ahead_ = ahead_.subspan(piece.size());
+    block = block.subspan(piece.size());
   }
+  return true;
+}
+
+bool LocalFile::ReadAhead() {
+  buffer_.resize(kReadAhead);
+  ssize_t count = 0;
+  do {
+    count = ::read(file_.Get(), buffer_.data(), buffer_.size());
+  } while (count < 0 && errno == EINTR);
+  if (count <= 0) return false;
+  ahead_ = std::span(buffer_).first(static_cast<std::size_t>(count));
   return true;
 }
 

@@ -48,7 +48,7 @@ class ProgressModel : public ProgressWindow {
   void SetFileProgress(std::int16_t percentage) final;
   void SetIsCancelled(bool cancelled) final { isCancelled_ = cancelled; }
   void ShowBusyPointer(bool busy) final;
-  void OfferClose() final;
+  void OfferClose() override;
   /// Writes whether or not LogToFile is set. Only, a run without it makes no program folder for its text.
   void WriteLog(const std::string& text) final;
 

@@ -91,7 +91,7 @@ class mFTP : public FTPUploads {
   [[nodiscard]] bool AcceptData();
   [[nodiscard]] bool SendFile(const std::string& localPath, std::int32_t length);
   /// Throws as FTPStoreFile.
-  [[nodiscard]] bool SendBlocks(const class LocalFile& file, std::int32_t length);
+  [[nodiscard]] bool SendBlocks(class LocalFile& file, std::int32_t length);
 
   void FTPShowError(const std::string& text);
   void FTPLog(const std::string& text);

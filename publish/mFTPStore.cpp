@@ -91,7 +91,7 @@ bool mFTP::SendFile(const std::string& localPath, std::int32_t length) {
   return sent;
 }
 
-bool mFTP::SendBlocks(const LocalFile& file, std::int32_t length) {
+bool mFTP::SendBlocks(LocalFile& file, std::int32_t length) {
   std::vector<char> buffer(static_cast<std::size_t>(std::clamp(length, 0, kBlockSize)));
   std::int32_t remaining = length;
   do {

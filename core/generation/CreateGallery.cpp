@@ -1,6 +1,7 @@
 #include "core/generation/CreateGallery.h"
 
 #include "core/ProjectEditor.h"
+#include "env/LaunchCommands.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 #include "publish/FTPPath.h"
@@ -130,15 +131,21 @@ void GalleryCreator::MakeTempFolder() {
 
 void GalleryCreator::OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex) {
   try {
-    if (browserIndex == 0) {
-      environment_.shell.OpenFile(indexFile);
-    } else {
-      environment_.shell.StartProgram(preferences_.Browsers.at(static_cast<std::size_t>(browserIndex) - 1).Location,
-                                      indexFile);
-    }
+    const PathMap& paths = environment_.files.Paths();
+    Launch(browserIndex == 0 ? DefaultOpener(indexFile, paths)
+                             : ListedBrowser(BrowserLocation(browserIndex), indexFile, paths),
+           environment_.shell);
   } catch (const RuntimeFailure& failure) {
     environment_.boxes.Critical("Error", "Error: " + std::to_string(failure.Number()) + "\r\r" + failure.Description());
   }
+}
+
+std::string GalleryCreator::BrowserLocation(std::int16_t browserIndex) const {
+  const auto& browsers = preferences_.Browsers;
+  if (browserIndex < 1 || static_cast<std::size_t>(browserIndex) > browsers.size()) {
+    throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+  }
+  return browsers[static_cast<std::size_t>(browserIndex) - 1].Location;
 }
 
 }  // namespace vantorium

@@ -31,6 +31,7 @@ class GalleryCreator {
   void MakeTempFolder();
   [[nodiscard]] std::string TempFolder() const;
   void OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex);
+  [[nodiscard]] std::string BrowserLocation(std::int16_t browserIndex) const;
 
   Project& project_;
   Preferences& preferences_;

@@ -155,7 +155,7 @@ void EndInFailure(const RunEnvironment& environment, ProgressWindow& progress) {
   environment.host.ShowBusyPointer(false);
   progress.ShowBusyPointer(false);
   environment.shell.Beep(BeepKind::Warning);
-  while (!progress.CloseRequested) environment.loop.Turn();
+  while (!progress.CloseRequested) environment.loop.Wait();
   environment.host.EnableMainWindow(true);
 }
 

@@ -3,6 +3,8 @@
 #include "core/generation/TagTable.h"
 #include "env/Text.h"
 
+#include <new>
+
 namespace vantorium {
 namespace {
 
@@ -68,6 +70,17 @@ std::size_t NextRow(std::string_view text, const TagScope& scope, std::size_t fr
   return next;
 }
 
+/// All occurrences of `tag` replaced, unless that makes the text too long.
+std::string WithTagReplaced(std::string_view text, std::string_view tag, std::string_view value) {
+  std::size_t length = text.size();
+  for (auto at = FindIgnoringCase(text, tag); at != std::string_view::npos;
+       at = FindIgnoringCase(text, tag, at + tag.size())) {
+    length += value.size();
+    if (length > kLongestExpandedText) throw std::bad_alloc();
+  }
+  return ReplaceAllIgnoringCase(text, tag, value);
+}
+
 }  // namespace
 
 // The rows pass over the whole text one after the other, so that a later row sees what an earlier one put in, also
@@ -77,7 +90,7 @@ std::string ExpandTags(const RunState& run, std::string_view text, std::int32_t 
   const TagScope scope{run, imageIndex, pageIndex};
   const auto rows = TagRows();
   for (std::size_t row = NextRow(expanded, scope, 0); row < rows.size(); row = NextRow(expanded, scope, row + 1)) {
-    expanded = ReplaceAllIgnoringCase(expanded, ReplacedTag(rows[row], run), rows[row].value(scope));
+    expanded = WithTagReplaced(expanded, ReplacedTag(rows[row], run), rows[row].value(scope));
   }
   return expanded;
 }
@@ -90,8 +103,8 @@ std::string ExpandDescriptionTags(const RunState& run, std::string text, std::in
     if (FindIgnoringCase(text, tags.start) == std::string::npos) continue;
     const std::string description = expand(run.Entry(imageIndex).*tags.description);
     const std::string full = expand(run.project.*tags.header) + description + expand(run.project.*tags.footer);
-    text = ReplaceAllIgnoringCase(text, tags.tag, description);
-    text = ReplaceAllIgnoringCase(text, tags.fullTag, full);
+    text = WithTagReplaced(text, tags.tag, description);
+    text = WithTagReplaced(text, tags.fullTag, full);
   }
   return text;
 }

@@ -2,6 +2,7 @@
 
 #include "core/generation/RunState.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -13,6 +14,10 @@ namespace vantorium {
 
 /// Stands for no image, or no thumbnail page. Tags that need one then stay.
 inline constexpr std::int32_t kNoIndex = -1;
+
+/// Values with tags in them can make a text of any length out of a small project. One that would grow beyond so many
+/// bytes is treated as one that there is no memory for: std::bad_alloc.
+inline constexpr std::size_t kLongestExpandedText = std::size_t{64} << 20U;
 
 /// `text` with its tags replaced, one tag after the other in the order of TagRows, each throughout the text: a tag in a
 /// value put in is replaced when its row comes later. Values are made only for tags that occur. Throws what making the

@@ -33,6 +33,10 @@ TEST(DriveTable, WhatIsNoLetterOrNoAbsoluteFolderIsPassedOver) {
   EXPECT_EQ(DrivesOf(""), Drives());
 }
 
+TEST(DriveTable, AFolderWithANulIsPassedOver) {
+  EXPECT_EQ(DrivesOf("[DRIVES]\nC=\"/a" + std::string(1, 0) + "/b\"\nD=\"/c\"\n"), (Drives{{'D', "/c"}}));
+}
+
 TEST(DriveTable, AFileThatCannotBeReadHasNoDrives) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(ReadDriveTable(folder.Path() / "none"), Drives());

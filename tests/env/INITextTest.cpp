@@ -103,6 +103,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Writing{"[Folders]\na=1\n\n\n[Other]\nKey=1\n", "[Folders]\na=1\nKey=\"v\"\n\n\n[Other]\nKey=1\n"},
                     Writing{"[Folders]\n\n[Other]\n", "[Folders]\nKey=\"v\"\n\n[Other]\n"},
                     Writing{"[Folders]\ra=1\r", "[Folders]\ra=1\rKey=\"v\"\r"},
+                    Writing{"[Folders]\ra=1\r\n\n[Other]\n", "[Folders]\ra=1\r\nKey=\"v\"\r\n\n[Other]\n"},
                     Writing{"[Folders]\na=1", "[Folders]\na=1\nKey=\"v\"\n"},
                     Writing{"[Folders]\n;Key=1\n", "[Folders]\n;Key=1\nKey=\"v\"\n"},
                     Writing{"[Folders]\nKey\nKeys=1\n", "[Folders]\nKey\nKeys=1\nKey=\"v\"\n"},

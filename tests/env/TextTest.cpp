@@ -36,6 +36,16 @@ TEST(Text, AFindOverlooksTheCase) {
   }
 }
 
+TEST(Text, ATextOfFixedSizeEndsAtItsFirstNulAndIsTrimmed) {
+  const std::pair<std::string_view, std::string_view> cases[] = {{{"  a b  \0 c\0\0", 12}, "a b"},
+                                                                 {{"\0a", 2}, ""},
+                                                                 {{"   \0", 4}, ""},
+                                                                 {"no NUL ", "no NUL"},
+                                                                 {"\t a\t", "\t a\t"},
+                                                                 {"", ""}};
+  for (const auto& [fixed, text] : cases) EXPECT_EQ(TrimNull(fixed), text) << fixed;
+}
+
 TEST(Text, AReplacementIsNotSearchedAgain) {
   EXPECT_EQ(ReplaceAll("aaa", "a", "aa"), "aaaaaa");
   EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/generation/RunHost.h"
-#include "env/Clock.h"
 #include "env/EventLoop.h"
 #include "env/RuntimeFailure.h"
 #include "env/Shell.h"
+#include "tests/fakes/FixedClock.h"
 
 #include <functional>
 #include <string>
@@ -27,13 +27,6 @@ class ScriptedLoop : public EventLoop {
   std::function<void(int)> onTurn;
 };
 
-class FixedClock : public Clock {
- public:
-  [[nodiscard]] CivilTime Now() const override { return now; }
-
-  CivilTime now{2026, 3, 4, 5, 6, 7};
-};
-
 class RecordingShell : public Shell {
  public:
   explicit RecordingShell(Journal& journal) : journal_(journal) {}
@@ -45,12 +38,15 @@ class RecordingShell : public Shell {
     journal_.push_back("open " + path);
     if (fails) throw RuntimeFailure(FailureKind::FileNotFound);
   }
-  void StartProgram(const std::string& executable, const std::string& file) override {
-    journal_.push_back("start " + executable + " " + file);
-    if (fails) throw RuntimeFailure(FailureKind::FileNotFound);
+  void Start(const ShellCommand& command) override {
+    std::string line = "start";
+    for (const std::string& word : command.words) line += " " + word;
+    journal_.push_back(line);
+    if (startsThatFail-- > 0) throw RuntimeFailure(FailureKind::FileAccess, "\"" + command.words.front() + "\" failed");
   }
 
-  bool fails = false;
+  bool fails = false;      ///< OpenFile does
+  int startsThatFail = 0;  ///< so many calls of Start fail first
 
  private:
   Journal& journal_;
@@ -65,6 +61,7 @@ struct ProgressRecord {
   std::string written;
   std::int32_t maximum = 0;
   std::vector<std::int32_t> values;
+  std::vector<std::int16_t> filePercentages;
   bool cancelled = false;
   bool logToFile = false;
   bool unloaded = false;
@@ -92,7 +89,7 @@ class RecordingProgress : public ProgressWindow {
   [[nodiscard]] std::int32_t GetMax() const override { return record_.maximum; }
   void SetProgress(std::int32_t value) override { record_.values.push_back(value); }
   [[nodiscard]] std::int32_t GetProgress() const override { return record_.values.empty() ? 0 : record_.values.back(); }
-  void SetFileProgress(std::int16_t /*percentage*/) override {}
+  void SetFileProgress(std::int16_t percentage) override { record_.filePercentages.push_back(percentage); }
   [[nodiscard]] bool IsCancelled() const override { return record_.cancelled; }
   void SetIsCancelled(bool cancelled) override { record_.cancelled = cancelled; }
   void ShowBusyPointer(bool busy) override { journal_.emplace_back(busy ? "progress busy" : "progress idle"); }

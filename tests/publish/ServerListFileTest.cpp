@@ -146,7 +146,7 @@ TEST_F(ServerListFile, IsReadAsEveryPreferenceLikeFile) {
   const std::vector<std::string> lines = {"[PUBLISH]", " [publish] ", "[OTHER]", "A=\"1\"", "a=2", "A =3", " A=4",
                                           "B=\"open",  "B=\"",        "b",       "",        "=5",  "B==6", "ServerA=7"};
   unsigned state = 1;
-  for (int round = 0; round < 2000; ++round) {
+  for (int round = 0; round < 500; ++round) {
     std::string text;
     for (int i = 0; i < 6; ++i) {
       state = state * 1664525U + 1013904223U;

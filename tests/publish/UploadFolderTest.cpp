@@ -1,4 +1,5 @@
 #include "publish/UploadFolder.h"
+#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"
@@ -207,6 +208,19 @@ TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsInSilenceBehindItsRemoteDire
   }
   EXPECT_TRUE(boxes.boxes.empty());
   EXPECT_EQ(cancel.polls, 0);
+}
+
+TEST_F(UploadFolderTest, ASubfolderWithoutRightsEndsTheWholeUploadInSilence) {
+  for (const char* name : {"a/file", "secret/file", "z/file"}) Write(name);
+  const fs::path secret = drive.Path() / "site/secret";
+  fs::permissions(secret, fs::perms::none);
+  {
+    const fakes::LockedFolder locked(drive.Path() / "site");
+    EXPECT_FALSE(Send());
+  }
+  fs::permissions(secret, fs::perms::owner_all);
+  EXPECT_EQ(server.calls, (Lines{"make web", "make web/a", "copy C:\\site\\a\\file to web/a/file", "make web/secret"}));
+  EXPECT_TRUE(boxes.boxes.empty());
 }
 
 TEST_F(UploadFolderTest, NoFolderAtAllIsNotTheRootFolder) {

@@ -1,6 +1,7 @@
 // Storing files, on sockets without a network.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/Hindrances.h"
 #include "tests/publish/ScriptedClient.h"
 
 #include <filesystem>
@@ -127,8 +128,18 @@ TEST_F(mFTPStoreTest, ALocalFileThatGoesMeanwhileIsShownAndClosesTheDataSocket) 
   EXPECT_EQ(journal.back(), "data close");
 }
 
+TEST_F(mFTPStoreTest, ALocalFileThatMayNotBeReadIsShownAndClosesTheDataSocket) {
+  std::filesystem::permissions(folder.Path() / "a.jpg", std::filesystem::perms::none);
+  const fakes::LockedFolder locked(folder.Path());
+  Replies(kGoodReplies);
+  EXPECT_FALSE(Store());
+  ASSERT_EQ(BoxTexts().size(), 1U);
+  EXPECT_NE(BoxTexts()[0].find("Permission denied"), std::string::npos) << BoxTexts()[0];
+  EXPECT_EQ(journal.back(), "data close");
+}
+
 TEST_F(mFTPStoreTest, ALocalFileThatGetsShorterBreaksTheTransfer) {
-  folder.Write("b.jpg", std::string(10000, 'x'));
+  folder.Write("b.jpg", std::string(200'000, 'x'));  // more than is read ahead
   data.onWriteBytes = [&](std::size_t size) {
     std::filesystem::resize_file(folder.Path() / "b.jpg", 5000);
     return size;

@@ -18,6 +18,21 @@ class CreateGalleryTest : public RunFixture {
     return creator.CreateGallery(mode, browserIndex);
   }
 
+  /// The programs that were started.
+  [[nodiscard]] fakes::Journal Started() const {
+    fakes::Journal started;
+    std::ranges::copy_if(journal, std::back_inserter(started),
+                         [](const std::string& line) { return line.starts_with("start "); });
+    return started;
+  }
+  [[nodiscard]] std::string PreviewIndex() const { return (folder.Path() / "place/VANTORIUM_TEMP/index.htm").string(); }
+  void ExpectErrorBox(const std::string& text) const {
+    ASSERT_EQ(boxes.boxes.size(), 1U);
+    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].title, "Error");
+    EXPECT_EQ(boxes.boxes[0].text, text);
+  }
+
   Preferences preferences;
 };
 
@@ -73,7 +88,7 @@ TEST_F(CreateGalleryTest, APreviewAsksNothingAndOpensInTheDefaultBrowser) {
   AddPhotograph("a");
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
   EXPECT_EQ(std::ranges::count(journal, "asked"), 0);
-  EXPECT_EQ(std::ranges::count(journal, "open T:\\place\\VANTORIUM_TEMP\\index.htm"), 1);
+  EXPECT_EQ(Started(), (fakes::Journal{"start xdg-open " + PreviewIndex()}));
   EXPECT_EQ(FilesIn("place/VANTORIUM_TEMP").count("index.htm"), 1U);
 }
 
@@ -81,16 +96,60 @@ TEST_F(CreateGalleryTest, APreviewOpensInTheListedBrowserOfItsIndex) {
   AddPhotograph("a");
   preferences.Browsers = {{"One", "T:\\one"}, {"Two", "T:\\two"}};
   Create(GenerationMode::Preview, 2);
-  EXPECT_EQ(std::ranges::count(journal, "start T:\\two T:\\place\\VANTORIUM_TEMP\\index.htm"), 1);
+  EXPECT_EQ(Started(), (fakes::Journal{"start " + folder.Path().string() + "/two " + PreviewIndex()}));
 }
 
-TEST_F(CreateGalleryTest, ABrowserThatDoesNotStartIsTold) {
+TEST_F(CreateGalleryTest, AnOpenerThatDoesNotStartIsFollowedByTheOther) {
   AddPhotograph("a");
-  shell.fails = true;
+  shell.startsThatFail = 1;
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
-  ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].title, "Error");
-  EXPECT_EQ(boxes.boxes[0].text, "Error: 53\r\rFile not found");
+  EXPECT_EQ(Started(), (fakes::Journal{"start xdg-open " + PreviewIndex(), "start gio open " + PreviewIndex()}));
+  EXPECT_TRUE(boxes.boxes.empty()) << boxes.boxes[0].text;
+}
+
+TEST_F(CreateGalleryTest, AListedBrowserThatDoesNotStartIsTriedAsACommandLine) {
+  AddPhotograph("a");
+  preferences.Browsers = {{"One", "one --new"}};
+  shell.startsThatFail = 1;
+  EXPECT_EQ(Create(GenerationMode::Preview, 1), RunEnd::Success);
+  EXPECT_EQ(Started(), (fakes::Journal{"start one --new " + PreviewIndex(),
+                                       "start /bin/sh -c one --new \"$1\" sh " + PreviewIndex()}));
+  EXPECT_TRUE(boxes.boxes.empty()) << boxes.boxes[0].text;
+}
+
+TEST_F(CreateGalleryTest, WhenBothAttemptsFailedTheSecondFailureIsTold) {
+  AddPhotograph("a");
+  shell.startsThatFail = 2;
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
+  EXPECT_EQ(Started().size(), 2U);
+  ExpectErrorBox("Error: 75\r\r\"gio\" failed");
+}
+
+TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailureIsTold) {
+  AddPhotograph("a");
+  preferences.Browsers = {{"One", "one"}};
+  shell.startsThatFail = 2;
+  EXPECT_EQ(Create(GenerationMode::Preview, 1), RunEnd::Success);
+  ExpectErrorBox("Error: 75\r\r\"/bin/sh\" failed");
+}
+
+TEST_F(CreateGalleryTest, ABrowserThatIsNotListedIsTold) {
+  AddPhotograph("a");
+  preferences.Browsers = {{"One", "one"}};
+  for (const std::int16_t index : {std::int16_t{2}, std::int16_t{-1}, std::int16_t{32767}, std::int16_t{-32768}}) {
+    boxes.boxes.clear();
+    EXPECT_EQ(Create(GenerationMode::Preview, index), RunEnd::Success) << index;
+    ExpectErrorBox("Error: 9\r\rSubscript out of range");
+  }
+  EXPECT_TRUE(Started().empty());
+}
+
+TEST_F(CreateGalleryTest, AListedBrowserWithoutALocationIsTold) {
+  AddPhotograph("a");
+  preferences.Browsers = {{"One", ""}};
+  EXPECT_EQ(Create(GenerationMode::Preview, 1), RunEnd::Success);
+  EXPECT_TRUE(Started().empty());
+  ExpectErrorBox("Error: 53\r\rFile not found");
 }
 
 TEST_F(CreateGalleryTest, AFailedPreviewIsNotOpened) {
@@ -98,7 +157,7 @@ TEST_F(CreateGalleryTest, AFailedPreviewIsNotOpened) {
   AddPhotograph("b");
   project.settings.textThumbnailsTableColumns = "0";
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Failure);
-  for (const auto& entry : journal) EXPECT_FALSE(entry.starts_with("open")) << entry;
+  EXPECT_TRUE(Started().empty());
 }
 
 TEST_F(CreateGalleryTest, ARunThatWasReachedEndsWithABeepTheTrayIconAndAnEmptyStatus) {

@@ -157,6 +157,28 @@ TEST_F(PublishRunTest, AFolderThatCannotBeEnteredEndsTheRun) {
   EXPECT_EQ(LastBox(), "FTP Directory Error: Unable to create Images Subfolder.");
 }
 
+TEST_F(PublishRunTest, AThumbnailsFolderThatCannotBeEnteredEndsTheRunBeforeAnythingIsSent) {
+  AddPhotograph("a");
+  Script script;
+  script.on["CWD"] = [](Session& session, const std::string& argument) {
+    session.Say(argument == "Thumbs" ? "550 no\r\n" : "250 there\r\n");
+  };
+  ScriptedFtpServer server(script);
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "FTP Directory Error: Unable to create Thumbnails Subfolder.");
+  EXPECT_FALSE(server.HasHeard("STOR"));
+}
+
+TEST_F(PublishRunTest, OnlyARunThatSendsFilesShowsTheirProgress) {
+  AddPhotograph("a");
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(PreviewArguments()), RunEnd::Success);
+  EXPECT_TRUE(host.progress.filePercentages.empty());
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << LastBox();
+  EXPECT_FALSE(host.progress.filePercentages.empty());
+}
+
 TEST_F(PublishRunTest, EachStageNamesWhatCouldNotBeSent) {
   AddPhotograph("a");
   for (const auto& [refused, box] : {
@@ -230,6 +252,14 @@ TEST_F(PublishRunTest, AnUploadCollectsNothingAndNeedsNoImages) {
   ScriptedFtpServer server;
   Run(UploadTo(server));
   for (const auto& text : host.statuses) EXPECT_FALSE(text.starts_with("Collecting")) << text;
+}
+
+TEST_F(PublishRunTest, AnUploadOfAFolderThatIsNotThereFailsInSilence) {
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
+  EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
+  EXPECT_TRUE(server.HasHeard("MKD web"));
+  EXPECT_FALSE(server.HasHeard("STOR"));
 }
 
 TEST_F(PublishRunTest, AFileThatTheServerRefusesEndsTheUploadInFailure) {

@@ -281,5 +281,21 @@ TEST_F(TemplateTags, WithoutAnImageDescriptionTagsStay) {
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", kNoIndex, 1), "<VANTORIUM_IMAGE_DESCRIPTION>");
 }
 
+TEST_F(TemplateTags, ATextThatWouldGrowBeyondAllBoundsIsOutOfMemory) {
+  const auto many = [](std::string_view tag) {
+    std::string tags;
+    for (int i = 0; i < 100; ++i) tags += tag;
+    return tags;
+  };
+  project.textGalleryTitle = many("<VANTORIUM_PAGELINK_FIRSTIMAGE_TEXT>");
+  project.ImageFirstLink.textLinkLabel = many("<VANTORIUM_PAGELINK_NEXTIMAGE_TEXT>");
+  project.ImageNextLink.textLinkLabel = many("<VANTORIUM_PAGELINK_INDEX_TEXT>");
+  EXPECT_THROW(Expand(many("<VANTORIUM_GALLERY_TITLE>")), std::bad_alloc);
+  images.SetImageDescription(2, std::string(kLongestExpandedText / 100, 'x'));
+  EXPECT_THROW(ExpandAll(many("<VANTORIUM_IMAGE_DESCRIPTION>")), std::bad_alloc);
+  project.textGalleryTitle = std::string(kLongestExpandedText / 200, 'x');
+  EXPECT_EQ(Expand(many("<VANTORIUM_GALLERY_TITLE>")).size(), project.textGalleryTitle.size() * 100);
+}
+
 }  // namespace
 }  // namespace vantorium::tests

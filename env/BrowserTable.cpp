@@ -1,0 +1,35 @@
+#include "env/BrowserTable.h"
+
+#include "env/RuntimeFailure.h"
+
+namespace vantorium {
+namespace {
+
+bool Write(const std::vector<Browser>& browsers, const std::filesystem::path& file) {
+  try {
+    std::error_code ignored;  // writing finds out
+    std::filesystem::create_directories(file.parent_path(), ignored);
+    WriteBrowsers(browsers, file);
+    return true;
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool EditBrowsers(std::vector<Browser>& browsers, const std::filesystem::path& preferencesFile, BrowserTableHost& host,
+                  BrowserEntryDialog& dialog, MessageBoxPort& boxes) {
+  BrowserList list(browsers, dialog, boxes);
+  host.ShowBrowserList(list);
+  browsers = list.Entries();
+  host.ShowBrowserMenus(RebuildBrowserMenus(browsers));
+  host.ShowBusyPointer(true);
+  host.ShowStatus("Writing file \"vantorium.ini\"...");
+  const bool written = Write(browsers, preferencesFile);
+  host.ShowStatus("");
+  host.ShowBusyPointer(false);
+  return written;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "env/PathMap.h"
+#include "env/Shell.h"
+
+#include <array>
+#include <string>
+
+namespace vantorium {
+
+/// What is tried to open a file: the second command only when the first one could not be started.
+using LaunchAttempts = std::array<ShellCommand, 2>;
+
+/// Opens `file` (path text) with the desktop's default program for it:
+///
+///   xdg-open FILE       what every desktop brings along; it knows which one is running
+///   gio open FILE       of GLib, for a desktop without the former
+///
+/// Throws RuntimeFailure FileNotFound for a file on no drive.
+[[nodiscard]] LaunchAttempts DefaultOpener(const std::string& file, const PathMap& paths);
+
+/// Opens `file` (path text) in the browser that the user listed as `location`:
+///
+///   LOCATION FILE                        a program by its path (path text or native) or by its name
+///   /bin/sh -c 'LOCATION "$1"' sh FILE   a command line: a program with options, with a variable or "~" in its path
+///
+/// Throws RuntimeFailure FileNotFound for a file on no drive, and for an empty location.
+[[nodiscard]] LaunchAttempts ListedBrowser(const std::string& location, const std::string& file, const PathMap& paths);
+
+/// Makes the attempts. Throws the RuntimeFailure of the second one when both failed.
+void Launch(const LaunchAttempts& attempts, Shell& shell);
+
+}  // namespace vantorium

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "env/Clock.h"
+
+namespace vantorium {
+
+/// The machine's local time.
+class SystemClock : public Clock {
+ public:
+  [[nodiscard]] CivilTime Now() const override;
+};
+
+}  // namespace vantorium

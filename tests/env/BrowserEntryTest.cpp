@@ -1,0 +1,76 @@
+#include "env/BrowserEntry.h"
+
+namespace vantorium {
+namespace {
+
+TEST(BrowserEntry, OKIsEnabledWhenItComesUpOnlyWithBothTexts) {
+  for (const auto& [name, location, enabled] : {std::tuple{"", "", false},
+                                                {"name", "", false},
+                                                {"", "C:\\b", false},
+                                                {"name", "C:\\b", true},
+                                                {" ", " ", true}}) {
+    BrowserEntry entry("Edit Browser", {name, location});
+    EXPECT_FALSE(entry.IsOKEnabled()) << "not before it comes up";
+    entry.ComeUp();
+    EXPECT_EQ(entry.IsOKEnabled(), enabled) << name << " at " << location;
+    EXPECT_EQ(entry.Title(), "Edit Browser");
+    EXPECT_EQ(entry.Texts(), (Browser{name, location}));
+  }
+}
+
+TEST(BrowserEntry, EachChangeDecidesAgain) {
+  BrowserEntry entry("Add Browser", {});
+  entry.ComeUp();
+  entry.ChangeName("a");
+  EXPECT_FALSE(entry.IsOKEnabled());
+  entry.ChangeLocation("b");
+  EXPECT_TRUE(entry.IsOKEnabled());
+  entry.ChangeName("");
+  EXPECT_FALSE(entry.IsOKEnabled());
+  entry.ChangeName("a");
+  entry.ChangeLocation("");
+  EXPECT_FALSE(entry.IsOKEnabled());
+}
+
+TEST(BrowserEntry, AChosenExecutableEnablesOKWhateverTheNameIs) {
+  BrowserEntry entry("Add Browser", {});
+  entry.ComeUp();
+  entry.TakeExecutable("");
+  EXPECT_FALSE(entry.IsOKEnabled());
+  entry.TakeExecutable("C:\\b");
+  EXPECT_EQ(entry.Texts(), (Browser{"", "C:\\b"}));
+  EXPECT_TRUE(entry.IsOKEnabled());
+  entry.ChangeName("");
+  EXPECT_FALSE(entry.IsOKEnabled()) << "until the next change";
+}
+
+TEST(BrowserEntry, NoChosenExecutableLeavesTheLocation) {
+  BrowserEntry entry("Edit Browser", {"a", "b"});
+  entry.ComeUp();
+  entry.TakeExecutable("");
+  EXPECT_EQ(entry.Texts(), (Browser{"a", "b"}));
+}
+
+TEST(BrowserEntry, OnlyAnEnabledOKConfirms) {
+  BrowserEntry entry("Add Browser", {"a", ""});
+  entry.ComeUp();
+  entry.PressOK();
+  EXPECT_TRUE(entry.Cancelled());
+  entry.ChangeLocation("b");
+  entry.PressOK();
+  EXPECT_FALSE(entry.Cancelled());
+  entry.PressCancel();
+  EXPECT_TRUE(entry.Cancelled());
+}
+
+TEST(BrowserEntry, EachTimeItComesUpItIsNotConfirmedYet) {
+  BrowserEntry entry("Add Browser", {"a", "b"});
+  entry.ComeUp();
+  entry.PressOK();
+  entry.ComeUp();
+  EXPECT_TRUE(entry.Cancelled()) << "closing the window is a cancel";
+  EXPECT_EQ(entry.Texts(), (Browser{"a", "b"}));
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "env/BrowserEntry.h"
+#include "tests/fakes/RecordingMessageBox.h"
+
+#include <deque>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+
+inline std::ostream& operator<<(std::ostream& stream, const Browser& browser) {
+  return stream << browser.Name << " at " << browser.Location;
+}
+
+namespace fakes {
+
+/// A user of frmAddBrowser who does one thing each time it comes up, and beyond the script cancels.
+class ScriptedEntryDialog : public BrowserEntryDialog {
+ public:
+  void Show(BrowserEntry& entry) override {
+    shown.push_back(entry.Title() + ": " + entry.Texts().Name + ", " + entry.Texts().Location);
+    if (script.empty()) return entry.PressCancel();
+    const auto act = script.front();
+    script.pop_front();
+    act(entry);
+  }
+
+  /// Types both texts and confirms.
+  void Types(const std::string& name, const std::string& location) {
+    script.emplace_back([=](BrowserEntry& entry) {
+      entry.ChangeName(name);
+      entry.ChangeLocation(location);
+      entry.PressOK();
+    });
+  }
+  void Cancels() {
+    script.emplace_back([](BrowserEntry& entry) { entry.PressCancel(); });
+  }
+
+  std::vector<std::string> shown;  ///< title and texts, each time it came up
+  std::deque<std::function<void(BrowserEntry&)>> script;
+};
+
+}  // namespace fakes
+
+using Browsers = std::vector<Browser>;
+
+/// Browsers of the names 1 to `count`.
+inline Browsers Numbered(std::size_t count) {
+  Browsers browsers;
+  for (std::size_t n = 1; n <= count; ++n) {
+    browsers.push_back({std::to_string(n), "C:\\" + std::to_string(n)});
+  }
+  return browsers;
+}
+
+/// That there was one critical box of that text.
+inline void ExpectOneBox(const fakes::RecordingMessageBox& boxes, const std::string& title, const std::string& text) {
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(boxes.boxes[0].title, title);
+  EXPECT_EQ(boxes.boxes[0].text, text);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,49 @@
+#include "env/BundledFiles.h"
+#include "tests/fakes/TemporaryFolder.h"
+
+namespace vantorium {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(BundledFiles, TheFirstFolderThatHasTheFileCounts) {
+  const fakes::TemporaryFolder folder;
+  folder.Write("own/preview.jpg", "own");
+  folder.Write("installed/preview.jpg", "installed");
+  folder.Write("installed/help.html", "help");
+  const BundledFiles files({folder.Path() / "own", folder.Path() / "installed"});
+  EXPECT_EQ(files.Find("preview.jpg"), folder.Path() / "own/preview.jpg");
+  EXPECT_EQ(files.Find("help.html"), folder.Path() / "installed/help.html");
+}
+
+TEST(BundledFiles, WhatIsNowhereIsNotFound) {
+  const fakes::TemporaryFolder folder;
+  EXPECT_EQ(BundledFiles({folder.Path(), folder.Path() / "missing"}).Find("preview.jpg"), std::nullopt);
+  EXPECT_EQ(BundledFiles({}).Find("preview.jpg"), std::nullopt);
+  EXPECT_EQ(BundledFiles({folder.Path()}).Find(""), std::nullopt);
+}
+
+TEST(BundledFiles, AFolderOrALinkToNothingIsPassedOver) {
+  const fakes::TemporaryFolder folder;
+  fs::create_directories(folder.Path() / "a/preview.jpg");
+  fs::create_directories(folder.Path() / "b");
+  fs::create_symlink("nothing", folder.Path() / "b/preview.jpg");
+  folder.Write("c/preview.jpg", "c");
+  const BundledFiles files({folder.Path() / "a", folder.Path() / "b", folder.Path() / "c"});
+  EXPECT_EQ(files.Find("preview.jpg"), folder.Path() / "c/preview.jpg");
+}
+
+TEST(BundledFiles, TheFoldersAreTheProgramsAndTheInstallations) {
+  const Surroundings around = {"/usr/bin/vantorium", "/home/me", ""};
+  EXPECT_EQ(BundledFolders("/home/me/.config/vantorium", around),
+            (std::vector<fs::path>{"/home/me/.config/vantorium", "/usr/share/vantorium"}));
+  EXPECT_EQ(BundledFolders("/p", {"/build/dev/bin/vantorium", "", ""}),
+            (std::vector<fs::path>{"/p", "/build/dev/share/vantorium"}));
+}
+
+TEST(BundledFiles, WithoutAnExecutableOnlyTheProgramsFolderIsLookedThrough) {
+  EXPECT_EQ(BundledFolders("/p", {"", "/home/me", ""}), (std::vector<fs::path>{"/p"}));
+}
+
+}  // namespace
+}  // namespace vantorium

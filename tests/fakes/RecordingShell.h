@@ -1,0 +1,22 @@
+#pragma once
+
+#include "env/Shell.h"
+
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// Records what the desktop is asked for.
+class RecordingShell : public Shell {
+ public:
+  void Beep(BeepKind kind) override { beeps.push_back(kind); }
+  void OpenFile(const std::string& path) override { opened.push_back(path); }
+  void Start(const ShellCommand& command) override { started.push_back(command.words); }
+
+  std::vector<BeepKind> beeps;
+  std::vector<std::string> opened;
+  std::vector<std::vector<std::string>> started;
+};
+
+}  // namespace vantorium::fakes

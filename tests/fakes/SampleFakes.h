@@ -1,0 +1,91 @@
+#pragma once
+
+#include "image/JPEG.h"
+#include "tests/fakes/CountingEventLoop.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/SampleDialog.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// A picture in one colour, 0x00BBGGRR, with a ramp of brightness in its rows where `ramp` is not 0.
+inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::uint32_t colour, int ramp = 0) {
+  cDIBSection picture;
+  if (!picture.Create(width, height)) throw std::runtime_error("no picture");
+  for (std::int32_t y = 0; y < height; ++y) {
+    for (std::int32_t x = 0; x < width; ++x) {
+      for (int channel = 0; channel < 3; ++channel) {
+        const auto byte = (colour >> (16 - 8 * channel) & 0xFF) + static_cast<unsigned>(ramp * x);
+        picture.Row(y)[3 * x + channel] = static_cast<std::uint8_t>(byte);
+      }
+    }
+  }
+  return picture;
+}
+
+/// The bytes of a picture without its padding, for comparisons.
+inline std::string BytesOf(const cDIBSection& picture) {
+  std::string bytes;
+  for (std::int32_t y = 0; y < picture.height(); ++y) {
+    bytes.append(reinterpret_cast<const char*>(picture.Row(y)), static_cast<std::size_t>(picture.width()) * 3);
+  }
+  return bytes;
+}
+
+class RecordingSampleBox : public SampleBox {
+ public:
+  [[nodiscard]] PictureSize SizeInPixels() const override { return size; }
+  [[nodiscard]] double PixelRatio() const override { return ratio; }
+  void Clear() override { calls += "clear "; }
+  void PaintPicture(const cDIBSection& picture) override {
+    calls += "paint ";
+    painted.push_back(BytesOf(picture));
+    paintedSize = {picture.width(), picture.height()};
+  }
+  void HideDialog() override { calls += "hide "; }
+
+  /// Red, green and blue of the middle of the last picture, each rounded to a multiple of 32.
+  [[nodiscard]] std::string MiddleColour() const {
+    if (painted.empty()) return "none";
+    const auto at = static_cast<std::size_t>(paintedSize.height / 2 * paintedSize.width + paintedSize.width / 2) * 3;
+    const auto rough = [&](std::size_t channel) {
+      return std::to_string((static_cast<unsigned char>(painted.back()[at + channel]) + 16) / 32 * 32);
+    };
+    return rough(2) + " " + rough(1) + " " + rough(0);
+  }
+
+  PictureSize size{40, 30};
+  double ratio = 1;
+  std::string calls;
+  std::vector<std::string> painted;
+  PictureSize paintedSize;
+};
+
+/// A folder with sample pictures and a temporary folder.
+struct SampleDesk {
+  SampleDesk() { std::filesystem::create_directories(TempFile().parent_path()); }
+
+  /// Writes a JPEG file of one colour and returns its path text.
+  std::string Jpeg(const std::string& name, std::uint32_t colour, std::int32_t width = 64, std::int32_t height = 48,
+                   int ramp = 0) {
+    SaveJPEGImage(PlainPicture(width, height, colour, ramp), folder.Path() / name, 95);
+    return paths.ToText(folder.Path() / name);
+  }
+  [[nodiscard]] std::string Missing() const { return paths.ToText(folder.Path() / "missing.jpg"); }
+  [[nodiscard]] std::string TempFolderLocation() const { return paths.ToText(folder.Path() / "temp"); }
+  [[nodiscard]] std::filesystem::path TempFile() const {
+    return folder.Path() / "temp" / "VANTORIUM_TEMP" / "preview_temp.jpg";
+  }
+  [[nodiscard]] SamplePorts Ports() { return {paths, boxes, loop}; }
+
+  TemporaryFolder folder;
+  PathMap paths{{}};
+  RecordingMessageBox boxes;
+  CountingEventLoop loop;
+};
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "env/mCommonDialogs.h"
+
+#include <deque>
+#include <optional>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// Answers with what the script holds, in order; nothing, and at its end, is Cancel. A font that is chosen keeps what
+/// the test does not change.
+class ScriptedCommonDialogs : public mCommonDialogs {
+ public:
+  [[nodiscard]] bool ShowColorDialog(std::uint32_t& colour, CustomColours& /*custom*/) override {
+    coloursShown.push_back(colour);
+    return Answer(colour, colours);
+  }
+  [[nodiscard]] bool ShowFontDialog(FontDescription& font) override {
+    fontsShown.push_back(font);
+    return Answer(font, fonts);
+  }
+
+  std::vector<std::uint32_t> coloursShown;
+  std::vector<FontDescription> fontsShown;
+  std::deque<std::optional<std::uint32_t>> colours;
+  std::deque<std::optional<FontDescription>> fonts;
+
+ private:
+  template <typename Value>
+  static bool Answer(Value& value, std::deque<std::optional<Value>>& script) {
+    if (script.empty()) return false;
+    const std::optional<Value> answer = script.front();
+    script.pop_front();
+    if (answer) value = *answer;
+    return answer.has_value();
+  }
+};
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/model/FileBrowser.h"
+
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// Has the user choose `answer` each time.
+class ScriptedFileBrowser : public FileBrowser {
+ public:
+  FileDialogResult DisplayFileDialog(const FileDialogRequest& request) override {
+    requests.push_back(request);
+    return answer;
+  }
+
+  std::vector<FileDialogRequest> requests;
+  FileDialogResult answer;
+};
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/model/FileBrowser.h"
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantorium::fakes {
+
+/// Chooses the folders of its script, in order; nothing, and at its end, is Cancel.
+class ScriptedFolderBrowser : public FolderBrowser {
+ public:
+  [[nodiscard]] std::optional<std::string> BrowseForFolder(const std::string& title,
+                                                           const std::string& initialFolder) override {
+    asked.push_back(title + ": " + initialFolder);
+    if (answers.empty()) return std::nullopt;
+    const std::optional<std::string> answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+
+  std::vector<std::string> asked;  ///< title and first folder, each time
+  std::deque<std::optional<std::string>> answers;
+};
+
+}  // namespace vantorium::fakes
