@@ -42,6 +42,12 @@ unsigned JobsOf(const BatchOptions& options) {
   return options.jobs > 0 ? options.jobs : std::max(1U, std::thread::hardware_concurrency());
 }
 
+bool CanList(const std::optional<std::filesystem::path>& folder) {
+  std::error_code error;
+  if (folder) const std::filesystem::directory_iterator entries(*folder, error);
+  return folder && !error;
+}
+
 /// The whole program for the length of one command: the one project and everything around it.
 class BatchProgram {
  public:
@@ -67,6 +73,7 @@ class BatchProgram {
   [[nodiscard]] bool Load() { return session_.LoadProject(PathText(options_.project)); }
   [[nodiscard]] ExitCode SaveTo(const std::string& typed);
   [[nodiscard]] ExitCode RunMode(GenerationMode mode, const CreateChoice& choice);
+  [[nodiscard]] ExitCode EndOfFailedRun();
   [[nodiscard]] Preferences PreferencesOfRun() const;
   [[nodiscard]] CreateChoice Switches(CreateChoice::Option option) const;
   /// What the run needs to know of the server; nothing after a message about the password file.
@@ -79,6 +86,8 @@ class BatchProgram {
   mFileFunctions files_{paths_, formats_};
   Terminal terminal_;
   TerminalMessageBox boxes_{terminal_};
+  BatchClock present_{std::nullopt};  ///< the log tells when a run was, whatever creation time it has
+  UploadLog log_{programFolder_, present_, boxes_};
   CancelCheck cancel_{boxes_};
   InterruptLoop loop_{cancel_};
   mFTP ftp_{
@@ -136,9 +145,14 @@ ExitCode BatchProgram::Publish() {
 }
 
 ExitCode BatchProgram::Upload() {
+  const std::string folder = PathText(options_.folder);
+  if (!CanList(paths_.ToNative(folder))) {
+    boxes_.Critical("File Error", "The folder \"" + options_.folder + "\" cannot be read.");
+    return ExitCode::Failure;
+  }
   auto choice = ServerChoice(CreateChoice::Option::UploadFolder);
   if (!choice) return ExitCode::Failure;
-  choice->UploadSourceFolder = WithTrailingBackslash(PathText(options_.folder));
+  choice->UploadSourceFolder = WithTrailingBackslash(folder);
   return RunMode(GenerationMode::Create, *choice);
 }
 
@@ -179,7 +193,7 @@ ExitCode BatchProgram::Preview() {
 }
 
 ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) {
-  BatchRunHost host(terminal_, loop_, choice);
+  BatchRunHost host(terminal_, loop_, log_, choice);
   BatchShell shell(paths_, options_.open);
   const BatchClock clock(options_.creationTime);
   Preferences preferences = PreferencesOfRun();
@@ -188,13 +202,23 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
       {host, boxes_, loop_, clock, shell, files_, formats_, cancel_, screen_, texts_, &ftp_, JobsOf(options_)});
   const RunEnd end = creator.CreateGallery(mode, 0);
   terminal_.EraseBar();
-  if (end == RunEnd::Cancelled) return ExitCode::Cancelled;
-  if (end != RunEnd::Success) return ExitCode::Failure;
+  if (end != RunEnd::Success) return EndOfFailedRun();
   if (mode == GenerationMode::Preview) {
     const auto index = paths_.ToNative(preferences.TempFolderLocation + "\\VANTORIUM_TEMP\\index.htm");
     fmt::print("{}\n", index.value_or("").string());
   }
   return ExitCode::Success;
+}
+
+/// The cancelled upload of a folder is a failure with a message of its own, but not to the caller of the program.
+ExitCode BatchProgram::EndOfFailedRun() {
+  if (cancel_.CancelRequested()) return ExitCode::Cancelled;
+  // A window has a button for the log in the place of a message about what the server refused.
+  if (!boxes_.HaveSpoken()) {
+    const std::string log = (programFolder_ / "ftplog.txt").string();
+    boxes_.Critical("Upload failed", "What the server has answered is in the file \"" + log + "\".");
+  }
+  return ExitCode::Failure;
 }
 
 Preferences BatchProgram::PreferencesOfRun() const {

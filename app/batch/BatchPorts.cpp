@@ -1,13 +1,13 @@
 #include "app/batch/BatchPorts.h"
 
 #include "app/batch/TerminalProgress.h"
-#include "env/RuntimeFailure.h"
+#include "env/LaunchCommands.h"
+#include "env/StartProcess.h"
 
 #include <atomic>
 #include <csignal>
 #include <ctime>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace vantorium {
@@ -21,21 +21,11 @@ void OnInterrupt(int /*signal*/) {
   if (interrupted.exchange(true)) ::_exit(kExitCodeOfInterrupt);
 }
 
-/// Starts a program and tells whether it could be started and ended well.
-bool Start(const std::string& program, const std::string& argument) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    ::execlp(program.c_str(), program.c_str(), argument.c_str(), nullptr);
-    ::_exit(127);
-  }
-  int status = 0;
-  return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
 }  // namespace
 
 BoxAnswer TerminalMessageBox::Show(BoxKind /*kind*/, BoxButtons buttons, const std::string& title,
                                    const std::string& text) {
+  haveSpoken_ = true;
   terminal_.PrintMessage(title, text);
   return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Yes;
 }
@@ -51,14 +41,11 @@ CivilTime BatchClock::Now() const {
 void BatchShell::Beep(BeepKind /*kind*/) {}
 
 void BatchShell::OpenFile(const std::string& path) {
-  if (mayOpenFiles_) StartProgram("xdg-open", path);
+  Launch(DefaultOpener(path, paths_), *this);
 }
 
-void BatchShell::StartProgram(const std::string& executable, const std::string& file) {
-  const auto native = paths_.ToNative(file);
-  if (!native || !Start(executable, native->string())) {
-    throw RuntimeFailure(FailureKind::FileNotFound, "\"" + executable + "\" could not be started.");
-  }
+void BatchShell::Start(const ShellCommand& command) {
+  if (mayOpenFiles_) StartProcess(command);
 }
 
 void InterruptLoop::Watch(ProgressWindow* progress) {
@@ -76,7 +63,7 @@ void InterruptLoop::Turn() {
 }
 
 std::unique_ptr<ProgressWindow> BatchRunHost::CreateProgressWindow() {
-  return std::make_unique<TerminalProgress>(terminal_, loop_);
+  return std::make_unique<TerminalProgress>(log_, terminal_, loop_);
 }
 
 }  // namespace vantorium

@@ -8,6 +8,7 @@
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
 #include "env/Shell.h"
+#include "publish/UploadLog.h"
 
 #include <optional>
 #include <string>
@@ -19,9 +20,12 @@ class TerminalMessageBox : public MessageBoxPort {
  public:
   explicit TerminalMessageBox(Terminal& terminal) : terminal_(terminal) {}
   BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override;
+  /// Whether the user has been told anything yet.
+  [[nodiscard]] bool HaveSpoken() const { return haveSpoken_; }
 
  private:
   Terminal& terminal_;
+  bool haveSpoken_ = false;
 };
 
 /// The present time, or the one that the command line gives.
@@ -40,7 +44,7 @@ class BatchShell : public Shell {
   BatchShell(const PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
   void Beep(BeepKind kind) override;
   void OpenFile(const std::string& path) override;
-  void StartProgram(const std::string& executable, const std::string& file) override;
+  void Start(const ShellCommand& command) override;
 
  private:
   const PathMap& paths_;
@@ -65,8 +69,8 @@ class InterruptLoop : public EventLoop {
 /// The main window that a batch run does not have.
 class BatchRunHost : public RunHost {
  public:
-  BatchRunHost(Terminal& terminal, InterruptLoop& loop, CreateChoice choice)
-      : terminal_(terminal), loop_(loop), choice_(std::move(choice)) {}
+  BatchRunHost(Terminal& terminal, InterruptLoop& loop, UploadLog& log, CreateChoice choice)
+      : terminal_(terminal), loop_(loop), log_(log), choice_(std::move(choice)) {}
 
   [[nodiscard]] CreateChoice AskWhatToCreate() override { return choice_; }
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
@@ -78,6 +82,7 @@ class BatchRunHost : public RunHost {
  private:
   Terminal& terminal_;
   InterruptLoop& loop_;
+  UploadLog& log_;
   CreateChoice choice_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "env/Text.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include <fmt/format.h>
@@ -51,7 +52,7 @@ void Terminal::ShowStatus(const std::string& text) {
 }
 
 void Terminal::ShowProgress(std::int64_t value, std::int64_t maximum) {
-  value_ = value;
+  value_ = std::min(value, maximum);  // a folder can grow while it is sent
   maximum_ = maximum;
   const auto now = SteadyClock::now();
   if (style_ != ProgressStyle::Bar || now - drawn_ < kRedrawEvery) return;

@@ -2,19 +2,30 @@
 
 namespace vantorium {
 
-void TerminalProgress::Show() {
-  terminal_.StartClock();
-  loop_.Watch(this);
+TerminalProgress::~TerminalProgress() {
+  loop_.Watch(nullptr);
+  terminal_.EraseBar();
 }
 
-void TerminalProgress::SetText3(const std::string& text, bool append) {
-  if (!append) log_.clear();
-  log_ += text;
+void TerminalProgress::OfferClose() {
+  ProgressModel::OfferClose();
+  CloseRequested = true;
 }
 
-void TerminalProgress::SetProgress(std::int32_t value) {
-  value_ = value;
-  terminal_.ShowProgress(value_, maximum_);
+void TerminalProgress::Draw(ProgressPart part) {
+  switch (part) {
+    case ProgressPart::Window:
+      terminal_.StartClock();
+      return loop_.Watch(this);
+    case ProgressPart::Text1:
+      return terminal_.ShowStatus(Text1());
+    case ProgressPart::Text2:
+      return terminal_.ShowStatus(Text2());
+    case ProgressPart::Progress:
+      return terminal_.ShowProgress(GetProgress(), GetMax());
+    default:
+      return;
+  }
 }
 
 }  // namespace vantorium

@@ -48,7 +48,7 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& e
   const bool onTerminal = options.standardError == StandardError::Terminal;
   ::setsid();
   if (onTerminal) ::ioctl(err, TIOCSCTTY, 0);
-  const int in = onTerminal ? err : ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+  const int in = onTerminal ? err : ::open(options.standardInput.c_str(), O_RDONLY | O_CLOEXEC);
   ::dup2(in, STDIN_FILENO);
   ::dup2(out, STDOUT_FILENO);
   ::dup2(err, STDERR_FILENO);

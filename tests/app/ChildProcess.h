@@ -18,6 +18,7 @@ struct StartOptions {
   std::vector<std::string> command;  ///< the program's path and its arguments
   std::filesystem::path folder;      ///< to work in
   std::map<std::string, std::string> environment;
+  std::filesystem::path standardInput = "/dev/null";  ///< unless there is a terminal
   StandardError standardError = StandardError::Pipe;
   unsigned short columns = 80;  ///< of the terminal
 };

@@ -33,8 +33,9 @@ TEST(CommandLine, HelpNamesEveryCommandAndOption) {
   const ProcessResult result = Workplace().Run({"--help"});
   ASSERT_TRUE(Succeeded(result));
   EXPECT_EQ(result.err, "");
-  for (const char* word : {"new", "show", "save", "create", "preview", "--program-folder", "--temp-folder",
-                           "--creation-time", "--jobs", "--quiet", "--verbose", "--help", "--version", "130"}) {
+  for (const char* word :
+       {"new", "show", "save", "create", "preview", "publish", "upload", "--program-folder", "--temp-folder",
+        "--creation-time", "--jobs", "--quiet", "--verbose", "--help", "--version", "130"}) {
     EXPECT_NE(result.out.find(word), std::string::npos) << word << " is not in\n" << result.out;
   }
 }
@@ -46,6 +47,12 @@ TEST(CommandLine, HelpOfACommandNamesItsSwitches) {
       {"save", {"PROJECT.gpj", "OUT.gpj"}},
       {"create", {"PROJECT.gpj", "INDEX-FILE", "--no-images", "--no-thumbnails", "--no-html", "--keep-existing"}},
       {"preview", {"PROJECT.gpj", "--open"}},
+      {"publish",
+       {"PROJECT.gpj", "FOLDER/INDEX-FILE", "--server", "--user", "--password-file", "--remote", "--base-directory",
+        "--port", "--no-images", "--no-thumbnails", "--no-html", "--keep-existing"}},
+      {"upload",
+       {"FOLDER", "--server", "--user", "--password-file", "--remote", "--base-directory", "--port",
+        "--keep-existing"}},
   };
   for (const auto& [command, words] : commands) {
     const ProcessResult result = Workplace().Run({command, "--help"});
@@ -87,6 +94,7 @@ TEST(CommandLine, ASwitchOfAnotherCommandIsUnknown) {
   EXPECT_TRUE(IsRefused({"save", "a.gpj", "b.gpj", "--recursive"}, "--recursive"));
   EXPECT_TRUE(IsRefused({"preview", "a.gpj", "--no-html"}, "--no-html"));
   EXPECT_TRUE(IsRefused({"create", "a.gpj", "index.htm", "--open"}, "--open"));
+  EXPECT_TRUE(IsRefused({"create", "a.gpj", "index.htm", "--server", "example.com"}, "--server"));
 }
 
 TEST(CommandLine, AMissingArgumentIsNamed) {
@@ -110,6 +118,60 @@ TEST(CommandLine, AnOptionWithoutItsValueIsNamed) {
 TEST(CommandLine, AnArgumentTooManyIsNamed) {
   EXPECT_TRUE(IsRefused({"show", "a.gpj", "b.gpj"}, "b.gpj"));
   EXPECT_TRUE(IsRefused({"create", "a.gpj", "index.htm", "more.htm"}, "more.htm"));
+}
+
+/// A whole command line of publish or upload without the option and its value.
+Arguments Without(const std::string& option, const std::string& command) {
+  Arguments arguments = {command, "what"};
+  for (const auto& [name, value] : {std::pair{"--server", "example.com"}, std::pair{"--user", "me"},
+                                    std::pair{"--password-file", "password"}, std::pair{"--remote", "web/index.htm"}}) {
+    if (name != option) arguments.insert(arguments.end(), {name, value});
+  }
+  return arguments;
+}
+
+TEST(CommandLine, WhatLeadsToAServerIsRequired) {
+  for (const char* command : {"publish", "upload"}) {
+    for (const char* option : {"--server", "--user", "--password-file", "--remote"}) {
+      EXPECT_TRUE(IsRefused(Without(option, command), option));
+      Arguments withoutValue = Without(option, command);
+      withoutValue.emplace_back(option);
+      EXPECT_TRUE(IsRefused(withoutValue, option));
+    }
+    EXPECT_TRUE(IsRefused({command}, command == std::string("publish") ? "PROJECT.gpj" : "FOLDER"));
+  }
+}
+
+TEST(CommandLine, APasswordIsNoArgument) {
+  for (const char* command : {"publish", "upload"}) {
+    Arguments arguments = Without("", command);
+    arguments.insert(arguments.end(), {"--password", "hush"});
+    EXPECT_TRUE(IsRefused(arguments, "--password"));
+  }
+}
+
+TEST(CommandLine, AnUploadHasNoSwitchesOfAGallery) {
+  for (const char* option : {"--no-images", "--no-thumbnails", "--no-html"}) {
+    Arguments arguments = Without("", "upload");
+    arguments.emplace_back(option);
+    EXPECT_TRUE(IsRefused(arguments, option));
+  }
+}
+
+TEST(CommandLine, PortIsTheNumberOfAPort) {
+  for (const char* port : {"0", "65536", "-1", "ftp", "21x", ""}) {
+    Arguments arguments = Without("", "upload");
+    arguments.insert(arguments.end(), {"--port", port});
+    EXPECT_TRUE(IsRefused(arguments, "--port"));
+  }
+}
+
+TEST(CommandLine, TheRemotePathOfAGalleryNamesItsIndexFile) {
+  for (const char* remote : {"web/", "web\\", "/", ""}) {
+    Arguments arguments = Without("--remote", "publish");
+    arguments.insert(arguments.end(), {"--remote", remote});
+    EXPECT_TRUE(IsRefused(arguments, "--remote"));
+  }
 }
 
 TEST(CommandLine, JobsIsANumberFromOneOn) {

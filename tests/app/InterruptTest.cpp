@@ -1,4 +1,4 @@
-#include "tests/app/Workplace.h"
+#include "tests/app/ServerPlace.h"
 
 #include <csignal>
 #include <thread>
@@ -150,6 +150,45 @@ TEST_F(Interrupt, ACancelledGalleryIsCompletedByTheNextRun) {
   ASSERT_TRUE(Succeeded(ChildProcess(Create({"--keep-existing"})).Finish()));
   ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "whole/index.htm"})));
   EXPECT_TRUE(SameFiles(place.Path("out"), place.Path("whole")));
+}
+
+class InterruptOfARunToAServer : public EachServerPlace {};
+
+INSTANTIATE_TEST_SUITE_P(At, InterruptOfARunToAServer, kEachServer, NameOfServer);
+
+TEST_P(InterruptOfARunToAServer, CancelsThePublishing) {
+  place.LargeProject("a.gpj", 100);
+  ChildProcess program(Options("publish", "a.gpj", "web/index.htm", {"--verbose"}));
+  program.WaitForError(R"(Copying File "many.jpg_9")");
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
+  EXPECT_NE(Log().find("End of Upload Log"), std::string::npos) << Log();
+}
+
+TEST_P(InterruptOfARunToAServer, CancelsTheUploadOfAFolderWithItsOwnBox) {
+  for (int file = 1000; file < 1200; ++file) place.Write("site/sub/" + std::to_string(file), "x");
+  ChildProcess program(Options("upload", "site", "web", {"--verbose"}));
+  program.WaitForError("Uploading File .*1050");
+  program.Send(SIGINT);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_TRUE(
+      result.err.ends_with("Cancel Request: Are you sure you wish to cancel?\n"
+                           "Upload cancelled: The User has cancelled Upload of the Gallery\n"))
+      << result.err;
+  EXPECT_TRUE(std::filesystem::exists(OnServer("web/sub/1049")));
+  EXPECT_FALSE(std::filesystem::exists(OnServer("web/sub/1199")));
+}
+
+TEST_P(InterruptOfARunToAServer, LeavesNoPartOfAFileOnTheServer) {
+  std::filesystem::resize_file(place.Write("site/large", ""), 0x7FFFFFFF);
+  ChildProcess program(Options("upload", "site", "web"));
+  while (!std::filesystem::exists(OnServer("web/large")) && !program.HasEnded()) std::this_thread::sleep_for(1ms);
+  program.Send(SIGINT);
+  EXPECT_TRUE(EndedWith(130, program.Finish()));
+  EXPECT_FALSE(std::filesystem::exists(OnServer("web/large"))) << Log();
 }
 
 }  // namespace

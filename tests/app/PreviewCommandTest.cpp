@@ -51,10 +51,12 @@ TEST(PreviewCommand, WithoutATemporaryFolderOnTheCommandLineThePreferencesNameIt
   EXPECT_EQ(result.out, place.Path("elsewhere/VANTORIUM_TEMP/index.htm").string() + "\n");
 }
 
-/// A program in the place of the desktop's, which keeps what it was told to open.
+/// Programs in the place of the desktop's, which keep what it was told to open.
 StartOptions WithOpener(const Workplace& place, const std::string& script, const std::vector<std::string>& arguments) {
-  const auto opener = place.Write("bin/xdg-open", "#!/bin/sh\n" + script + "\n");
-  std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
+  for (const char* name : {"bin/xdg-open", "bin/gio"}) {
+    const auto opener = place.Write(name, "#!/bin/sh\n" + script + "\n");
+    std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
+  }
   StartOptions options = place.Options(arguments);
   options.environment["PATH"] = place.Path("bin").string() + ":/usr/bin:/bin";
   return options;

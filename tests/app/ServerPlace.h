@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tests/app/Workplace.h"
+#include "tests/fakes/FtpServerProcess.h"
+
+namespace vantorium {
+
+/// A workplace and a real server on loopback, whose password lies in the file "password". Where the server cannot be
+/// started, the tests are skipped.
+class ServerPlace : public testing::Test {
+ protected:
+  explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
+    place.Write("password", server.Password() + "\n");
+  }
+  void SetUp() override {
+    if (!server.WhyNot().empty()) GTEST_SKIP() << server.WhyNot();
+  }
+
+  /// The options that lead to the server, the last of them the remote path.
+  [[nodiscard]] std::vector<std::string> At(const std::string& remote) const {
+    return {"--server", "127.0.0.1",   "--port",          std::to_string(server.Port()),
+            "--user",   server.User(), "--password-file", "password",
+            "--remote", remote};
+  }
+  /// publish or upload of a project or a folder.
+  [[nodiscard]] StartOptions Options(const std::string& command, const std::string& what, const std::string& remote,
+                                     const std::vector<std::string>& more = {}) const {
+    std::vector<std::string> arguments = {command, what};
+    for (const auto& options : {At(remote), more}) arguments.insert(arguments.end(), options.begin(), options.end());
+    return place.Options(arguments);
+  }
+  [[nodiscard]] ProcessResult Publish(const std::string& remote, const std::vector<std::string>& more = {}) const {
+    return ChildProcess(Options("publish", "a.gpj", remote, more)).Finish();
+  }
+  [[nodiscard]] ProcessResult Upload(const std::string& remote, const std::vector<std::string>& more = {}) const {
+    return ChildProcess(Options("upload", "site", remote, more)).Finish();
+  }
+
+  [[nodiscard]] std::filesystem::path OnServer(const std::string& path) const { return server.Root() / path; }
+  [[nodiscard]] std::string Log() const { return place.Read("program/ftplog.txt"); }
+
+  Workplace place;
+  fakes::FtpServerProcess server;
+};
+
+/// The same with each of the servers in turn.
+class EachServerPlace : public ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
+ protected:
+  EachServerPlace() : ServerPlace(GetParam()) {}
+};
+
+inline const auto kEachServer = testing::Values(fakes::FtpServerKind::Vsftpd, fakes::FtpServerKind::Proftpd);
+inline std::string NameOfServer(const testing::TestParamInfo<fakes::FtpServerKind>& info) {
+  return info.param == fakes::FtpServerKind::Vsftpd ? "vsftpd" : "ProFTPD";
+}
+
+}  // namespace vantorium
