@@ -1,0 +1,100 @@
+// Preference-like files: the lines of the input but its last are the file, the last is a value to write.
+#include "env/INIText.h"
+#include "env/Preferences.h"
+#include "env/RuntimeFailure.h"
+#include "env/Text.h"
+#include "env/mINIFileFunctions.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "tests/fuzz/FuzzTarget.h"
+
+#include <algorithm>
+
+using namespace vantorium;
+
+namespace {
+
+constexpr std::string_view kSection = "FOLDERS";
+constexpr std::string_view kKey = "ProjectFolder";
+
+/// The preferences file of a program that is alone in its folder.
+struct Place {
+  fakes::TemporaryFolder folder;
+  std::filesystem::path file = folder.Path() / "preferences";
+  PathMap paths{{{'C', folder.Path().string()}}};
+  RegionalFormats formats{"en_US"};
+  mFileFunctions functions{paths, formats};
+
+  [[nodiscard]] Preferences Read() const { return ReadPreferences(file, "C:\\program", functions); }
+};
+
+std::vector<std::string> LinesOf(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) lines.emplace_back(TakeINILine(text).content);
+  return lines;
+}
+
+/// The lines of `before` that are not in `after`, which has others in one place.
+std::vector<std::string> LinesLost(std::string_view before, std::string_view after) {
+  const auto old = LinesOf(before);
+  const auto now = LinesOf(after);
+  const auto begin = std::ranges::mismatch(old, now).in1;
+  const auto kept = begin - old.begin();
+  const auto most = std::min(old.size(), now.size()) - static_cast<std::size_t>(kept);
+  std::size_t behind = 0;
+  while (behind < most && old[old.size() - 1 - behind] == now[now.size() - 1 - behind]) ++behind;
+  return {begin, old.end() - static_cast<std::ptrdiff_t>(behind)};
+}
+
+void CheckWriting(const std::string& text, const std::string& value) {
+  const std::string written = WithINIString(text, kSection, kKey, value);
+  fuzz::RequireEqual(FindINIString(written, kSection, kKey).value_or("(nothing)"), value, "a value comes back");
+  fuzz::RequireEqual(WithINIString(written, kSection, kKey, value), written, "writing it again changes nothing");
+  const auto lost = LinesLost(text, written);
+  fuzz::Require(lost.size() <= 1, "at most one line is changed");
+  fuzz::Require(lost.empty() || FindIgnoringCase(lost[0], kKey) != std::string::npos, "and that is the key's");
+}
+
+void CheckInteger(const Place& place) {
+  try {
+    const std::int32_t number = ReadINIInteger("SETTINGS", "ImagesPreview", place.file);
+    WriteINIString("SETTINGS", "ImagesPreview", std::to_string(number), place.file);
+    fuzz::Require(ReadINIInteger("SETTINGS", "ImagesPreview", place.file) == number, "a number comes back");
+  } catch (const RuntimeFailure&) {
+  }
+}
+
+/// `writable`: no value can hold a NUL. Such a value is not written, and may be missing then.
+void CheckPreferences(const Place& place, bool writable) {
+  Preferences preferences = place.Read();
+  fuzz::Require(preferences.Browsers.size() <= kMostBrowsers, "there are no more browsers than may be");
+  fuzz::Require(!preferences.CreateFolder.empty() && !preferences.GalleryIndexFileName.empty(), "defaults stand in");
+  WritePreferences(preferences, place.file);
+  const Preferences again = place.Read();
+  preferences.Browsers = again.Browsers;  // not written here; a key of theirs may be found in any section
+  fuzz::Require(again == preferences || !writable, "preferences come back");
+}
+
+void CheckBrowsers(const Place& place) {
+  const std::vector<Browser> browsers = place.Read().Browsers;
+  try {
+    WriteBrowsers(browsers, place.file);
+    fuzz::Require(place.Read().Browsers == browsers, "browsers come back");
+  } catch (const RuntimeFailure&) {  // a text that a value can't be
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const Place place;
+  const std::string input = fuzz::InputText(data, size);
+  const auto lastLine = input.rfind('\n') + 1;  // npos + 1 is 0
+  const std::string text = input.substr(0, lastLine);
+  const std::string value = ReplaceAll(input.substr(lastLine), "\r", "");
+  CheckWriting(text, value);
+  place.folder.Write("preferences", text);
+  CheckInteger(place);
+  CheckPreferences(place, text.find('\0') == std::string::npos);
+  CheckBrowsers(place);
+  return 0;
+}

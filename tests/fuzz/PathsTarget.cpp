@@ -1,0 +1,69 @@
+// Paths and drives: the lines of the input but its last are a preferences file with drives, the last is a path.
+#include "env/DriveTable.h"
+#include "env/PathMap.h"
+#include "env/PathText.h"
+#include "env/Wildcards.h"
+#include "tests/fuzz/FuzzTarget.h"
+
+#include <algorithm>
+
+using namespace vantorium;
+
+namespace {
+
+void CheckText(const std::string& path) {
+  const std::string backslashes = WithBackslashes(path);
+  const std::string prepared = backslashes.starts_with('\\') ? backslashes.substr(1) : backslashes;
+  fuzz::RequireEqual(GetFilePath(path) + GetFileName(path), prepared, "folder and name are the whole path");
+  fuzz::Require(GetFileName(path).find('\\') == std::string::npos, "a name has no separator");
+  fuzz::Require(path.ends_with(GetFileExtension(path)), "an extension is the end of its path");
+  fuzz::RequireEqual(WithSlashes(backslashes), WithSlashes(path), "separators are turned, and nothing else");
+  fuzz::Require(WithTrailingBackslash(path).ends_with('\\'), "a folder ends in a backslash");
+}
+
+void CheckDrives(const std::map<char, std::string>& drives) {
+  for (const auto& [letter, folder] : drives) {
+    fuzz::Require(letter >= 'A' && letter <= 'Z', "a drive is a capital letter");
+    fuzz::Require(folder.starts_with('/'), "the folder of a drive is absolute");
+  }
+}
+
+/// Whether the path has a text of its own: on some systems a name may hold what is a separator in path text.
+bool HasItsOwnText(const std::filesystem::path& native) {
+  const std::string path = native.string();
+  return native.is_absolute() && !path.starts_with("//") &&
+         path.find_first_of(std::string_view("\\\0", 2)) == std::string::npos;
+}
+
+std::string NormalForm(const std::filesystem::path& native) {
+  std::string path = native.lexically_normal().string();
+  while (path.size() > 1 && path.ends_with('/')) path.pop_back();
+  return path;
+}
+
+void CheckMap(const PathMap& map, const std::string& path) {
+  if (const auto native = map.ToNative(path)) {
+    fuzz::Require(native->string().find('\0') == std::string::npos, "a native path has no NUL");
+    if (HasItsOwnText(*native)) {
+      const auto again = map.ToNative(map.ToText(*native));
+      fuzz::Require(again.has_value(), "the text of a native path is a path");
+      fuzz::RequireEqual(NormalForm(*again), NormalForm(*native), "and leads back");
+    }
+  }
+  std::ignore = map.ToTextFromUser(path);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string input = fuzz::InputText(data, size);
+  const auto lastLine = input.rfind('\n') + 1;  // npos + 1 is 0
+  const std::string path = input.substr(lastLine);
+  const auto drives = DrivesOf(std::string_view(input).substr(0, lastLine));
+  CheckText(path);
+  CheckDrives(drives);
+  CheckMap(PathMap(drives, "/home/anna"), path);
+  fuzz::Require(MatchesWildcards(path, "*"), "everything matches a star");
+  std::ignore = MatchesWildcards(input, path);
+  return 0;
+}

@@ -1,0 +1,93 @@
+// Project files, in any encoding: what is read is written, and comes back.
+#include "core/ProjectFileWriter.h"
+#include "core/XmlEncoding.h"
+#include "core/XmlNode.h"
+#include "core/XmlSyntax.h"
+#include "env/PathText.h"
+#include "env/Text.h"
+#include "tests/fakes/ProjectFakes.h"
+#include "tests/fuzz/FuzzTarget.h"
+
+using namespace vantorium;
+
+namespace {
+
+/// A session with a drive of its own, on which the two photographs of the corpus lie.
+class Desk : public fakes::ProjectDesk {
+ public:
+  Desk() {
+    paths = PathMap({{'P', folder.Path().string()}});
+    folder.Write("a.jpg", "bytes");
+    folder.Write("b.jpg", "more bytes");
+  }
+
+  [[nodiscard]] bool Read(std::string_view bytes) {
+    folder.Write("project.gpj", bytes);
+    boxes.boxes.clear();
+    calls.clear();
+    return session.LoadProject("P:\\project.gpj");
+  }
+
+  /// The text of a project file, which has CR LF or LF for what was any line end before.
+  [[nodiscard]] std::string Written() const { return OneLineEnd(ProjectFileText(project)); }
+
+  /// The images as the file holds them: separators are slashes in it, and line ends of their texts CR LF.
+  [[nodiscard]] std::string Images() const {
+    std::string text;
+    for (std::size_t position = 1; position <= project.images.Count(); ++position) {
+      const ImageEntry& entry = project.images.Entry(position);
+      text += entry.ImageName + "\n" + WithSlashes(entry.SourcePath) + "\n" + OneLineEnd(entry.ImageDescription) +
+              "\n" + OneLineEnd(entry.ThumbnailDescription) + "\n";
+    }
+    return text;
+  }
+
+ private:
+  /// References can put a CR anywhere; written in a section, it is a line end like any other.
+  static std::string OneLineEnd(const std::string& text) {
+    return ReplaceAll(ReplaceAll(text, kCrLf, "\n"), "\r", "\n");
+  }
+};
+
+/// What the writer puts where the reader does not look, see docs/project-file.md.
+void LoseWhatIsNotReadBack(GalleryProject& settings) {
+  constexpr Choice kAbove = 2;
+  constexpr Choice kBelow = 3;
+  settings.textThumbnailsTableBackdrop.clear();
+  for (Choice* placement :
+       {&settings.comboCaptionsImagesRegularPlacement, &settings.comboCaptionsThumbnailsRegularPlacement}) {
+    if (*placement == kAbove) *placement = kBelow;
+  }
+}
+
+void CheckXml(const std::string& bytes) {
+  const auto text = DecodeXml(bytes);
+  XmlFile file;
+  const bool parsed = file.Parse(bytes);
+  fuzz::Require(parsed == (text && IsWellFormedXml(*text)), "what is well-formed is parsed, and nothing else");
+  if (!parsed) return;
+  std::size_t nodes = 0;
+  for (auto node = file.Root(); node; node = NextInDocument(node, file.Root())) ++nodes;
+  fuzz::Require(nodes > 0 && nodes <= text->size(), "a document has an element, and no more nodes than bytes");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static Desk desk;
+  const std::string input = fuzz::InputText(data, size);
+  CheckXml(input);
+  if (!desk.Read(input)) {
+    fuzz::Require(!desk.boxes.boxes.empty(), "a project that can't be read gives a box");
+    std::ignore = ProjectFileText(desk.project);  // what was read so far may be saved
+    return 0;
+  }
+  fuzz::Require(desk.boxes.boxes.empty(), "a project that was read gives no box");
+  LoseWhatIsNotReadBack(desk.project.settings);
+  const std::string images = desk.Images();
+  const std::string written = desk.Written();
+  fuzz::Require(desk.Read(ProjectFileText(desk.project)), "what was read can be written and read again");
+  fuzz::RequireEqual(desk.Images(), images, "the images come back");
+  fuzz::RequireEqual(desk.Written(), written, "the same project gives the same file");
+  return 0;
+}

@@ -1,0 +1,106 @@
+// Templates with tags, against the plain routine. The lines of the input: the template, then the texts that tags stand
+// for.
+#include "core/generation/TagTable.h"
+#include "core/generation/TemplateTags.h"
+#include "env/RuntimeFailure.h"
+#include "env/Text.h"
+#include "tests/fuzz/FuzzTarget.h"
+
+#include <new>
+
+using namespace vantorium;
+
+namespace {
+
+constexpr std::int32_t kImages = 3;
+
+/// Three images on three pages. The texts of all three are the input's.
+class Run {
+ public:
+  Run() { project_.textThumbnailsTableRows = project_.textThumbnailsTableColumns = "1"; }
+  Run(const Run&) = delete;
+  Run& operator=(const Run&) = delete;
+
+  void TakeTexts(std::string_view lines) {
+    for (std::string* text : {&project_.textGalleryTitle, &project_.ImageFirstLink.textLinkLabel,
+                              &project_.ImageNextLink.textLinkLabel, &project_.ImageNextLink.textLinkGraphic,
+                              &project_.ImageIndexLink.textLinkLabel, &project_.ThumbnailNextLink.textLinkLabel,
+                              &project_.textHeader, &project_.textThumbFooter, &state.DirectLinksText}) {
+      *text = fuzz::TakePart(lines, '\n');
+    }
+    const std::string name = fuzz::TakePart(lines, '\n');
+    const std::string description = fuzz::TakePart(lines, '\n');
+    for (std::int32_t i = 1; i <= kImages; ++i) AddImage(name, description);
+    state.ImageCount = state.ThumbnailPageCount = kImages;
+  }
+
+ private:
+  void AddImage(const std::string& name, const std::string& description) {
+    ImageRunInfo info;
+    info.Path = "C:\\" + name;
+    info.FileName = name;
+    state.RunInfo.push_back(info);
+    images_.Insert(images_.Count() + 1, {.ImageName = name,
+                                         .SourcePath = info.Path,
+                                         .SizeKey = {},
+                                         .DateKey = {},
+                                         .ImageDescription = description,
+                                         .ThumbnailDescription = description});
+  }
+
+  GalleryProject project_;
+  ImageList images_;
+  PathMap paths_{{{'C', "/"}}};
+  // Expensive to make, and the same for all.
+  static const RegionalFormats& Formats() {
+    static const RegionalFormats formats{"en_US"};
+    return formats;
+  }
+  mFileFunctions files_{paths_, Formats()};
+
+ public:
+  RunState state{.project = project_, .images = images_, .files = files_, .formats = Formats()};
+};
+
+/// What ExpandTags is to do, done plainly: every row over the whole text.
+std::string ExpandedPlainly(const RunState& run, std::string text, std::int32_t image, std::int32_t page) {
+  for (const TagRow& row : TagRows()) {
+    if ((row.needs == TagNeeds::Image && image == kNoIndex) || (row.needs == TagNeeds::Page && page == kNoIndex)) {
+      continue;
+    }
+    const bool removesGraphic = row.tag == kNextImageTextTag && run.project.ImageNextLink.textLinkLabel.empty();
+    const std::string_view tag = removesGraphic ? kNextImageGraphicTag : row.tag;
+    if (FindIgnoringCase(text, tag) == std::string::npos) continue;
+    text = ReplaceAllIgnoringCase(text, tag, row.value({run, image, page}));
+  }
+  return text;
+}
+
+void Check(const RunState& run, const std::string& text, std::int32_t image, std::int32_t page) {
+  std::string expanded;
+  try {
+    expanded = ExpandTags(run, text, image, page);
+    std::ignore = ExpandAllTags(run, text, image, page);
+  } catch (const std::bad_alloc&) {
+    return;  // texts that put each other in grow beyond any memory
+  }
+  fuzz::RequireEqual(expanded, ExpandedPlainly(run, text, image, page), "tags are replaced row by row");
+  if (FindIgnoringCase(text, "<VANTORIUM_") == std::string::npos) {
+    fuzz::RequireEqual(ExpandAllTags(run, text, image, page), text, "a text without tags stays");
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string input = fuzz::InputText(data, size);
+  std::string_view lines = input;
+  const std::string text = fuzz::TakePart(lines, '\n');
+  Run run;
+  run.TakeTexts(lines);
+  Check(run.state, text, 1, kNoIndex);
+  Check(run.state, text, 2, 2);
+  Check(run.state, text, kNoIndex, kImages);
+  Check(run.state, text, kNoIndex, kNoIndex);
+  return 0;
+}
