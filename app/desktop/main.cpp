@@ -1,0 +1,88 @@
+#include "env/BundledFiles.h"
+#include "env/DriveTable.h"
+#include "env/ProgramFolder.h"
+#include "env/SystemClock.h"
+#include "image/PangoTextRaster.h"
+#include "ui/Resources.h"
+#include "ui/frmBrowseForFolder.h"
+#include "ui/frmFileBrowser.h"
+#include "ui/frmMain.h"
+#include "ui/ports/QtCommonDialogs.h"
+#include "ui/ports/QtEventLoop.h"
+#include "ui/ports/QtMessageBox.h"
+#include "ui/ports/QtScreen.h"
+#include "ui/ports/QtShell.h"
+#include "ui/ports/QtText.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <algorithm>
+#include <thread>
+
+namespace vantorium {
+namespace {
+
+/// Everything around the main window, for the length of the program.
+class Desktop {
+ public:
+  [[nodiscard]] DesktopPorts Ports() {
+    return {paths_,
+            formats_,
+            files_,
+            boxes_,
+            loop_,
+            shell_,
+            clock_,
+            screen_,
+            texts_,
+            dialogs_,
+            browser_,
+            folders_,
+            programFolder_,
+            bundled_,
+            {VANTORIUM_VERSION_MAJOR, VANTORIUM_VERSION_MINOR, VANTORIUM_VERSION_REVISION},
+            std::max(1U, std::thread::hardware_concurrency())};
+  }
+  [[nodiscard]] std::string PathTextOf(const QString& argument) const {
+    return argument.isEmpty() ? std::string() : paths_.ToTextFromUser(FromQt(argument));
+  }
+
+ private:
+  Surroundings around_ = SurroundingsOfProcess();
+  std::filesystem::path programFolder_ = FindProgramFolder(std::nullopt, around_);
+  PathMap paths_{ReadDriveTable(GetINIFileName(programFolder_)), around_.home};
+  RegionalFormats formats_;
+  mFileFunctions files_{paths_, formats_};
+  BundledFiles bundled_{BundledFolders(programFolder_, around_)};
+  QtMessageBox boxes_;
+  QtEventLoop loop_;
+  QtShell shell_{paths_};
+  SystemClock clock_;
+  QtScreen screen_;
+  PangoTextRaster texts_;
+  QtCommonDialogs dialogs_;
+  frmFileBrowser browser_{paths_, boxes_, files_};
+  QtFolderBrowser folders_{paths_};
+};
+
+int Run(int argc, char** argv) {
+  QApplication application(argc, argv);
+  LoadVantoriumResources();
+  QApplication::setApplicationName("vantorium");
+  QApplication::setDesktopFileName("vantorium");
+  QApplication::setWindowIcon(QIcon(":/vantorium/vantorium.svg"));
+
+  Desktop desktop;
+  frmMain window(desktop.Ports());
+  QObject::connect(&window, &frmMain::Closed, &application, &QApplication::quit, Qt::QueuedConnection);
+  window.Start(desktop.PathTextOf(QApplication::arguments().value(1)));
+  window.show();
+  return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace vantorium
+
+int main(int argc, char** argv) {
+  return vantorium::Run(argc, argv);
+}

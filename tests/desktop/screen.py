@@ -1,0 +1,69 @@
+"""A screen of its own for a program, and hands that use its keyboard."""
+
+import os
+import shutil
+import subprocess
+import time
+
+TOOLS = ("Xvfb", "xdotool")
+
+
+def tools_are_there():
+    return all(shutil.which(tool) for tool in TOOLS)
+
+
+class Screen:
+    """An X server without a window manager, ended with the block."""
+
+    def __enter__(self):
+        read, write = os.pipe()
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-noreset"],
+                                        pass_fds=[write], stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as answer:
+            self.display = ":" + answer.readline().strip()
+        return self
+
+    def __exit__(self, *failure):
+        self._server.terminate()
+        self._server.wait(timeout=10)
+
+    def _xdotool(self, *words):
+        environment = dict(os.environ, DISPLAY=self.display)
+        return subprocess.run(["xdotool", *words], capture_output=True, text=True, env=environment, timeout=30).stdout
+
+    def wait_for_window(self, title, seconds=30):
+        """Waits for a window whose title holds the text, and puts the keyboard there."""
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            found = self._xdotool("search", "--onlyvisible", "--name", title).split()
+            if found:
+                self._xdotool("windowfocus", "--sync", found[-1])
+                return
+            time.sleep(0.1)
+        raise AssertionError(f'no window "{title}" came up; there are: {self.titles()}')
+
+    def wait_for_no_window(self, title, seconds=30):
+        end = time.monotonic() + seconds
+        while self._xdotool("search", "--onlyvisible", "--name", title).split():
+            if time.monotonic() > end:
+                raise AssertionError(f'the window "{title}" stays')
+            time.sleep(0.1)
+
+    def titles(self):
+        windows = self._xdotool("search", "--onlyvisible", "--name", ".").split()
+        return [self._xdotool("getwindowname", window).strip() for window in windows]
+
+    def press(self, *keys):
+        for key in keys:
+            self._xdotool("key", "--delay", "30", key)
+            time.sleep(0.05)
+
+    def type(self, text):
+        self._xdotool("type", "--delay", "10", text)
+        time.sleep(0.1)
+
+    def write(self, key, text):
+        """Goes to a text box by its letter and writes it anew."""
+        self.press(key, "ctrl+a")
+        self.type(text)

@@ -1,0 +1,116 @@
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/ui/FormDriver.h"
+#include "ui/FieldBinder.h"
+#include "ui/UpDown.h"
+
+#include <QVBoxLayout>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::Type;
+
+class FieldBinding : public testing::Test {
+ protected:
+  FieldBinding() {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{&title, &frameSize, &spinner, &wrappers, &slideShow, &layout}) {
+      column.addWidget(control);
+    }
+    binder.Bind(title, &GalleryProject::textGalleryTitle);
+    binder.Bind(frameSize, spinner, &GalleryProject::textGalleryFrameSize);
+    binder.Bind(wrappers, &GalleryProject::checkImageWrapperUse);
+    binder.Bind(slideShow, &GalleryProject::checkGallerySlideShow);
+    binder.Bind(layout, &GalleryProject::comboGalleryLayoutType);
+    binder.Refresh();
+    form.show();
+    QObject::connect(&binder, &FieldBinder::Edited, [this] { ++edits; });
+  }
+
+  GalleryProject project;
+  bool modified = false;
+  ProjectEditor editor{project, modified};
+  fakes::RecordingMessageBox boxes;
+  FieldBinder binder{editor, boxes};
+  QWidget form;
+  QVBoxLayout column{&form};
+  QLineEdit title;
+  QLineEdit frameSize;
+  UpDown spinner;
+  QCheckBox wrappers{"Wrappers"};
+  QCheckBox slideShow{"Slideshow"};
+  QComboBox layout;
+  int edits = 0;
+};
+
+TEST_F(FieldBinding, RefreshShowsTheProjectAndIsNoEdit) {
+  project.textGalleryTitle = "Zürich";
+  project.comboGalleryLayoutType = 3;
+  binder.Refresh();
+  EXPECT_EQ(title.text(), "Zürich");
+  EXPECT_EQ(frameSize.text(), "200");
+  EXPECT_TRUE(wrappers.isChecked());
+  EXPECT_EQ(layout.currentText(), "thumbnail frame top");
+  EXPECT_FALSE(modified);
+  EXPECT_EQ(edits, 0);
+}
+
+TEST_F(FieldBinding, WhatIsTypedReachesTheField) {
+  Type(title, "Ferien");
+  EXPECT_EQ(project.textGalleryTitle, "Ferien");
+  EXPECT_TRUE(modified);
+  EXPECT_GT(edits, 0);
+}
+
+TEST_F(FieldBinding, AnEditRunsTheRulesOfOtherFields) {
+  Click(wrappers);
+  EXPECT_EQ(project.checkImageWrapperUse, 0);
+  Click(slideShow);
+  EXPECT_TRUE(wrappers.isChecked());
+  Click(wrappers);
+  EXPECT_FALSE(slideShow.isChecked());
+}
+
+TEST_F(FieldBinding, ANumberBelowItsBoundBecomesTheBound) {
+  Type(frameSize, "0");
+  EXPECT_EQ(frameSize.text(), "1");
+}
+
+TEST_F(FieldBinding, AnEmptyNumberStaysEmpty) {
+  Type(frameSize, "");
+  EXPECT_EQ(frameSize.text(), "");
+  EXPECT_EQ(project.textGalleryFrameSize, "");
+}
+
+TEST_F(FieldBinding, LettersCannotBeTypedIntoANumber) {
+  Type(frameSize, "3a4");
+  EXPECT_EQ(frameSize.text(), "34");
+}
+
+TEST_F(FieldBinding, ANumberThatIsTooLargeIsToldAndTakenBack) {
+  Type(frameSize, "32768");
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].text, "Overflow");
+  EXPECT_EQ(frameSize.text(), "3276");
+  EXPECT_EQ(project.ThumbnailFrameSize, 3276);
+}
+
+TEST_F(FieldBinding, TheSpinnerStepsWithinItsRange) {
+  QTest::keyClick(&frameSize, Qt::Key_Up);
+  EXPECT_EQ(project.textGalleryFrameSize, "201");
+  Type(frameSize, "2");
+  QTest::keyClick(&frameSize, Qt::Key_Down);
+  QTest::keyClick(&frameSize, Qt::Key_Down);
+  EXPECT_EQ(project.textGalleryFrameSize, "1");
+}
+
+TEST_F(FieldBinding, AListIsChosenFromWithTheKeyboard) {
+  layout.setFocus();
+  QTest::keyClick(&layout, Qt::Key_Down);
+  EXPECT_EQ(project.comboGalleryLayoutType, 1);
+  EXPECT_EQ(project.comboImageFrameName, "image_frame");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,15 @@
+#include "ui/Resources.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+// Runs tests of forms without a screen.
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  LoadVantoriumResources();
+  QApplication::setQuitOnLastWindowClosed(false);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "tests/fakes/BoxTextRaster.h"
+#include "tests/fakes/FixedClock.h"
+#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/RecordingShell.h"
+#include "tests/fakes/ScriptedCommonDialogs.h"
+#include "tests/fakes/ScriptedFileBrowser.h"
+#include "tests/fakes/ScriptedFolderBrowser.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "tests/ui/FormDriver.h"
+#include "ui/frmMain.h"
+#include "ui/ports/QtEventLoop.h"
+#include "ui/ports/QtText.h"
+
+#include <QAction>
+#include <QTabWidget>
+#include <memory>
+
+namespace vantorium::fakes {
+
+/// The main window on a folder of its own, with answers from scripts. Drive T: is the folder; the program's folder is
+/// T:\program, the program's own files are in T:\data.
+class MainDesk {
+ public:
+  MainDesk() { folder.Write("data/preview.jpg", MakeJpeg({})); }
+
+  /// Makes the window and starts it, as the program does.
+  void Start(const std::string& commandLine = {}) {
+    window.reset();
+    window = std::make_unique<frmMain>(DesktopPorts{paths,
+                                                    formats,
+                                                    files,
+                                                    boxes,
+                                                    loop,
+                                                    shell,
+                                                    clock,
+                                                    screen,
+                                                    texts,
+                                                    dialogs,
+                                                    fileBrowser,
+                                                    folderBrowser,
+                                                    folder.Path() / "program",
+                                                    bundled,
+                                                    {3, 0, 1},
+                                                    2});
+    QObject::connect(window.get(), &frmMain::Closed, [this] { ++closed; });
+    window->Start(commandLine);
+    window->show();
+    window->activateWindow();
+    std::ignore = QTest::qWaitForWindowActive(window.get());
+  }
+
+  void AddPhotograph(const std::string& name) {
+    folder.Write(name, MakeJpeg({.width = 64, .height = 48}));
+    fileBrowser.answer = {"T:\\" + name, "T:\\", {name}};
+    GoTo(1);
+    Click(*window, "btnImagesAddFiles");
+  }
+  void GoTo(int tab) { Find<QTabWidget>(*window, "tsMain").setCurrentIndex(tab); }
+  void Trigger(const char* action) {
+    auto* found = window->findChild<QAction*>(action);
+    if (found == nullptr) throw std::runtime_error(std::string("no action ") + action);
+    found->trigger();
+  }
+  [[nodiscard]] const GalleryProject& Settings() const { return window->CurrentProject().settings; }
+  [[nodiscard]] std::string Title() const { return FromQt(window->windowTitle()); }
+  [[nodiscard]] std::string TitleOfLastBox() const { return boxes.boxes.empty() ? "" : boxes.boxes.back().title; }
+
+  TemporaryFolder folder;
+  PathMap paths{{{'T', folder.Path().string()}}};
+  RegionalFormats formats;
+  mFileFunctions files{paths, formats};
+  RecordingMessageBox boxes;
+  QtEventLoop loop;
+  RecordingShell shell;
+  FixedClock clock;
+  Screen screen;
+  BoxTextRaster texts{20, 10};
+  ScriptedCommonDialogs dialogs;
+  ScriptedFileBrowser fileBrowser;
+  ScriptedFolderBrowser folderBrowser;
+  BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
+  std::unique_ptr<frmMain> window;
+  int closed = 0;
+};
+
+}  // namespace vantorium::fakes

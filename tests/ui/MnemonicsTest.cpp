@@ -1,0 +1,45 @@
+// Letters that reach controls of the main window with the keyboard.
+#include "tests/ui/MainDesk.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMenuBar>
+#include <map>
+
+namespace vantorium {
+namespace {
+
+using fakes::MainDesk;
+
+QString LetterOf(const QString& text) {
+  return QKeySequence::mnemonic(text).toString();
+}
+
+TEST(Mnemonics, AreUniqueOnEachPageAndAgainstTheMenus) {
+  MainDesk desk;
+  desk.Start();
+  for (const char* name :
+       {"frmGallery", "frmImages", "frmImageWrapper", "frmThumbnails", "frmCaptions", "frmPageLinks"}) {
+    std::map<QString, QString> taken;
+    for (const QAction* menu : desk.window->menuBar()->actions()) taken[LetterOf(menu->text())] = menu->text();
+    const auto take = [&](const QString& text, const QWidget& control) {
+      const QString letter = LetterOf(text);
+      // These two frames are never shown together.
+      const QWidget* frames =
+          fakes::Find<QWidget>(*desk.window, "frmFrameLayoutMultipleFrames").findChild<QWidget*>(control.objectName());
+      if (letter.isEmpty() || frames != nullptr) return;
+      // This text is to have two letters; the second one is its own.
+      if (control.objectName() == "btnGalleryFileNameSettings") return;
+      EXPECT_EQ(taken.count(letter), 0U) << name << ": " << FromQt(text) << " and " << FromQt(taken[letter]);
+      taken[letter] = text;
+    };
+    QWidget& page = fakes::Find<QWidget>(*desk.window, name);
+    for (const auto* button : page.findChildren<QAbstractButton*>()) take(button->text(), *button);
+    for (const auto* label : page.findChildren<QLabel*>()) {
+      if (label->buddy() != nullptr) take(label->text(), *label);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "publish/ServerListFile.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/ScriptedFileBrowser.h"
+#include "tests/fakes/ScriptedFolderBrowser.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "tests/ui/FormDriver.h"
+#include "ui/frmCreateGallery.h"
+#include "ui/frmPublish.h"
+
+namespace vantorium::fakes {
+
+/// Whether a control has its window's focus. Without a screen no window comes to the front behind a dialog's end.
+inline bool GetsFocus(QWidget& form, const char* name) {
+  return form.focusWidget() == &Find<QWidget>(form, name);
+}
+
+/// A program's folder with a list of servers, and all that the dialogs before a run work with.
+class PublishDesk {
+ public:
+  PublishDesk() { WriteServers(0); }
+
+  void WriteServers(std::size_t selected) const { WriteServerList({kOne, kTwo}, selected, ServerFile()); }
+  [[nodiscard]] std::filesystem::path ServerFile() const { return ServerListFileName(program.Path()); }
+  [[nodiscard]] std::string ServerText() const { return program.Read("vantorium.pub"); }
+  [[nodiscard]] frmCreateGallery::Parts Parts() {
+    return {.preferences = preferences,
+            .serverListFile = ServerFile(),
+            .paths = paths,
+            .boxes = boxes,
+            .fileBrowser = fileBrowser,
+            .folderBrowser = folderBrowser};
+  }
+
+  const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
+  const ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
+
+  TemporaryFolder program;
+  Preferences preferences;
+  PathMap paths{{{'C', "/home/me"}}};
+  RecordingMessageBox boxes;
+  ScriptedFileBrowser fileBrowser;
+  ScriptedFolderBrowser folderBrowser;
+};
+
+}  // namespace vantorium::fakes

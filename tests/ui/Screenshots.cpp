@@ -1,0 +1,204 @@
+// Writes a picture of every window and page for the documents. Use: vantorium-screenshots FOLDER
+//
+// The windows are those of the program, on a small project with photographs of /usr/share/backgrounds or, where there
+// are none, with the sample picture.
+#include "core/generation/RunHost.h"
+#include "tests/ui/MainDesk.h"
+#include "ui/Resources.h"
+#include "ui/frmAbout.h"
+#include "ui/frmBrowseForFolder.h"
+#include "ui/frmFileBrowser.h"
+#include "ui/frmInfo.h"
+#include "ui/frmInvalidImage.h"
+#include "ui/frmProgress.h"
+#include "ui/frmShutdown.h"
+#include "ui/frmSplash.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QPixmap>
+#include <iostream>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+
+class Photographer {
+ public:
+  explicit Photographer(std::filesystem::path folder) : folder_(std::move(folder)) {
+    std::filesystem::create_directories(folder_);
+    desk_.folder.Write("data/preview.jpg", fakes::TemporaryFolder::ReadFile(
+                                               std::filesystem::path(VANTORIUM_SOURCE_DIR) / "data/preview.jpg"));
+    desk_.folder.Write("program/vantorium.ini",
+                       "[BROWSERS]\r\nCount=\"2\"\r\nName1=\"Chromium\"\r\nLocation1=\"Z:\\usr\\bin\\chromium\"\r\n"
+                       "Name2=\"Text Browser\"\r\nLocation2=\"Z:\\usr\\bin\\links\"\r\n");
+    desk_.folder.Write("program/vantorium.pub",
+                       "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"My Web Space\"\r\n"
+                       "ServerURL1=\"ftp.example.org\"\r\nUserName1=\"anna\"\r\nIndexFile1=\"gallery/index.htm\"\r\n"
+                       "TimeOut1=\"0\"\r\nJumpTo1=\"web\"\r\n");
+    desk_.Start();
+    AddPhotographs();
+  }
+
+  void TakeAll() {
+    TakePages();
+    TakeDialogs();
+    TakeRunWindows();
+  }
+
+ private:
+  void AddPhotographs() {
+    for (const char* name : {"Lake", "Portrait", "Balloons", "Harbour", "Evening", "Morning"}) {
+      const std::string file = std::string(name) + ".jpg";
+      desk_.folder.Write(file, desk_.folder.Read("data/preview.jpg"));
+      desk_.fileBrowser.answer = {"T:\\" + file, "T:\\", {file}};
+      desk_.GoTo(1);
+      Click(*desk_.window, "btnImagesAddFiles");
+    }
+    auto& list = Find<QWidget>(*desk_.window, "lvImagesList");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Home);
+    QTest::qWait(300);  // the preview
+  }
+
+  void Take(QWidget& window, const std::string& name) const {
+    QApplication::processEvents();
+    if (!window.grab().save(QString::fromStdString((folder_ / (name + ".png")).string()))) {
+      std::cerr << "cannot write " << name << '\n';
+    }
+  }
+
+  void TakePages() {
+    const char* const names[] = {"gallery", "images", "image-wrappers", "thumbnails", "captions", "page-links"};
+    desk_.GoTo(0);
+    Click(*desk_.window, "checkGallerySlideShow");
+    for (int tab = 0; tab < 6; ++tab) {
+      desk_.GoTo(tab);
+      Take(*desk_.window, std::string("main-") + names[tab]);
+    }
+    desk_.GoTo(0);
+    auto& layout = Find<QComboBox>(*desk_.window, "comboGalleryLayoutType");
+    layout.setFocus();
+    QTest::keyClick(&layout, Qt::Key_Down);
+    Take(*desk_.window, "main-gallery-frames");
+    QTest::keyClick(&layout, Qt::Key_Up);
+  }
+
+  /// Opens a modal dialog, takes it and closes it.
+  void TakeModal(const std::function<void()>& open, const std::function<void(QWidget&)>& prepare = {}) {
+    DriveModal(open, [&](QWidget& dialog) {
+      if (prepare) prepare(dialog);
+      QTest::qWait(150);
+      Take(dialog, dialog.objectName().toStdString());
+    });
+  }
+  void TakeOnClick(int tab, const char* button) {
+    desk_.GoTo(tab);
+    TakeModal([&] { Click(*desk_.window, button); });
+  }
+
+  void TakeDialogs() {
+    TakeOnClick(0, "btnGalleryInfo");
+    TakeOnClick(0, "btnGalleryFileNameSettings");
+    TakeOnClick(0, "btnGallerySingleFrameNames");
+    TakeOnClick(1, "btnImagesFilters");
+    TakeOnClick(1, "btnImagesWatermark");
+    TakeOnClick(1, "btnImagesRename");
+    TakeOnClick(1, "btnImagesFind");
+    desk_.GoTo(2);
+    Click(*desk_.window, "checkImageWrapperSetColors");
+    TakeOnClick(2, "btnImageWrapperBODY");
+    TakeOnClick(2, "btnImageWrapperColors");
+    TakeOnClick(5, "btnPageLinksImageFirstLink");
+    TakeModal([&] { desk_.Trigger("menuActionsCreate"); });
+    TakeModal([&] { desk_.Trigger("menuActionsCreate"); },
+              [&](QWidget& create) {
+                Click(create, "optionUploadGallery");
+                TakeModal([&] { Click(create, "btnBrowsePublishDestination"); },
+                          [&](QWidget& publish) { TakeModal([&] { Click(publish, "btnNew"); }); });
+              });
+    TakeModal([&] { desk_.Trigger("menuOptionsAvailableBrowsers"); },
+              [&](QWidget& list) { TakeModal([&] { Click(list, "btnAddBrowser"); }); });
+    TakeModal([&] { desk_.Trigger("menuOptionsSetTempFolderLocation"); });
+    TakeModal([&] { desk_.Trigger("menuHelpAbout"); });
+    desk_.GoTo(1);
+    Click(*desk_.window, "btnImagesDescriptions");
+    auto& descriptions = Find<QWidget>(*desk_.window, "frmImageDescriptions");
+    Take(descriptions, "frmImageDescriptions");
+    descriptions.close();
+    TakeModal([&] { Click(*desk_.window, "btnImagesAddFolder"); });
+
+    frmFileBrowser files(desk_.paths, desk_.boxes, desk_.files);
+    TakeModal(
+        [&] {
+          std::ignore = files.DisplayFileDialog({.title = "Select Link Graphic",
+                                                 .initialFolder = "T:\\",
+                                                 .fileName = "Lake.jpg",
+                                                 .filter = "All Files (*.*)|*.*",
+                                                 .preview = true});
+        },
+        [](QWidget& dialog) {
+          auto& view = Find<QWidget>(dialog, "treeView");
+          view.setFocus();
+          QTest::keyClick(&view, Qt::Key_End);
+          QTest::qWait(400);
+        });
+    QtFolderBrowser folders(desk_.paths);
+    TakeModal([&] { std::ignore = folders.BrowseForFolder("Select Source Folder", "T:\\data"); });
+    frmInvalidImage invalid(desk_.shell, nullptr);
+    TakeModal([&] { std::ignore = invalid.ShowDialog("Lake.jpg"); });
+  }
+
+  void TakeRunWindows() {
+    UploadLog log(desk_.folder.Path() / "program", desk_.clock, desk_.boxes);
+    CancelCheck cancel(desk_.boxes);
+    frmProgress progress(log, cancel, desk_.shell, "T:\\program", nullptr);
+    progress.SetMax(100);
+    progress.Show();
+    progress.SetCaption("Publishing Gallery");
+    progress.SetText1("Please wait while the Gallery is being published...");
+    progress.SetText2("Creating Image \"Lake.jpg\"...");
+    progress.SetProgress(42);
+    progress.SetFileProgress(70);
+    progress.SetText3("220 Service ready\r\n331 Password required\r\n230 User logged in\r\n150 Opening connection\r\n",
+                      true);
+    QTest::qWait(100);
+    Take(progress, "frmProgress");
+    frmSplash splash;
+    for (int i = 0; i < 4; ++i) splash.Step();
+    splash.show();
+    Take(splash, "frmSplash");
+    frmShutdown shutdown;
+    shutdown.ShowStep("Saving Preferences");
+    shutdown.show();
+    Take(shutdown, "frmShutdown");
+    frmInfo info;
+    info.SetText("Please wait... Clearing Temporary Folder.");
+    info.show();
+    Take(info, "frmInfo");
+  }
+
+  std::filesystem::path folder_;
+  fakes::MainDesk desk_;
+};
+
+}  // namespace
+}  // namespace vantorium
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  LoadVantoriumResources();
+  QApplication::setQuitOnLastWindowClosed(false);
+  if (argc != 2) {
+    std::cerr << "Use: vantorium-screenshots FOLDER\n";
+    return 2;
+  }
+  vantorium::Photographer(argv[1]).TakeAll();
+  return 0;
+}

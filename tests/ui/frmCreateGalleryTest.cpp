@@ -1,0 +1,305 @@
+#include "tests/ui/PublishDesk.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::GetsFocus;
+using fakes::Type;
+using Option = CreateChoice::Option;
+using Controls = std::vector<const char*>;
+
+const Controls kOptions = {"optionCreateGallery", "optionUploadGallery", "optionUploadFolder"};
+const Controls kLocalFields = {"textCreateFilePath", "btnBrowseCreateFilePath"};
+const Controls kPublishFields = {"textPublishDestination", "btnBrowsePublishDestination", "textPublishPassword"};
+const Controls kUploadFields = {"textUploadDestination", "btnBrowseUploadDestination", "textUploadPassword",
+                                "textUploadSourceFolder", "btnBrowseUploadSourceFolder"};
+const Controls kBoxes = {"checkCreateImages", "checkCreateThumbnails", "checkCreateHTMLFiles", "checkOverwrite"};
+
+class CreateForm : public testing::Test {
+ protected:
+  CreateChoice Ask(const std::function<void(QWidget&)>& drive) {
+    CreateChoice choice;
+    DriveModal([&] { choice = form.Ask(); }, drive);
+    return choice;
+  }
+  static QString Text(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).text(); }
+  static void ExpectEnabled(QWidget& form, const Controls& controls, bool enabled) {
+    for (const char* name : controls) EXPECT_EQ(Find<QWidget>(form, name).isEnabled(), enabled) << name;
+  }
+  static void Uncheck(QWidget& form, const Controls& boxes) {
+    for (const char* name : boxes) {
+      if (Find<QCheckBox>(form, name).isChecked()) Click(form, name);
+    }
+  }
+  static QLineEdit::EchoMode Echo(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).echoMode(); }
+
+  fakes::PublishDesk desk;
+  frmCreateGallery form{desk.Parts(), nullptr};
+};
+
+TEST_F(CreateForm, ComesUpForALocalGalleryWithEverythingChecked) {
+  desk.preferences.CreateFolder = "D:\\web";
+  const CreateChoice choice = Ask([](QWidget& form) {
+    EXPECT_EQ(form.windowTitle(), "Create Gallery");
+    EXPECT_TRUE(Find<QRadioButton>(form, "optionCreateGallery").isChecked());
+    EXPECT_EQ(Text(form, "textCreateFilePath"), "D:\\web\\index.htm");
+    for (const char* name : kBoxes) EXPECT_TRUE(Find<QCheckBox>(form, name).isChecked()) << name;
+    QTest::keyClick(&form, Qt::Key_Return);
+  });
+  EXPECT_EQ(choice.option, Option::CreateGallery);
+  EXPECT_EQ(choice.FilePath, "D:\\web\\index.htm");
+  EXPECT_TRUE(choice.CreateImages && choice.CreateThumbnails && choice.CreateHTMLFiles && choice.Overwrite);
+}
+
+TEST_F(CreateForm, TheFieldsOfTheChosenOptionAreEnabled) {
+  Ask([](QWidget& form) {
+    for (const char* chosen : kOptions) {
+      Click(form, chosen);
+      ExpectEnabled(form, kLocalFields, chosen == kOptions[0]);
+      ExpectEnabled(form, kPublishFields, chosen == kOptions[1]);
+      ExpectEnabled(form, kUploadFields, chosen == kOptions[2]);
+      ExpectEnabled(form, kBoxes, chosen != kOptions[2]);
+      ExpectEnabled(form, {"frmOptions"}, chosen != kOptions[2]);
+    }
+  });
+}
+
+TEST_F(CreateForm, TheCaptionOfTheChosenOptionIsHighlighted) {
+  const auto expectHighlight = [](QWidget& form, const char* chosen) {
+    for (const char* name : kOptions) {
+      const auto expected = name == chosen ? QPalette::Highlight : QPalette::ButtonText;
+      EXPECT_EQ(Find<QWidget>(form, name).palette().color(QPalette::WindowText), form.palette().color(expected))
+          << name << " while " << chosen;
+    }
+  };
+  Ask([&](QWidget& form) {
+    for (const char* chosen : kOptions) {
+      Click(form, chosen);
+      expectHighlight(form, chosen);
+    }
+    QPalette other = form.palette();
+    other.setColor(QPalette::Highlight, Qt::magenta);
+    form.setPalette(other);
+    expectHighlight(form, "optionUploadFolder");
+  });
+}
+
+TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Click(form, "checkOverwrite");
+    Click(form, "checkCreateImages");
+    ExpectEnabled(form, {"checkOverwrite"}, true);
+    Click(form, "checkCreateThumbnails");
+    ExpectEnabled(form, {"checkOverwrite"}, false);
+    Click(form, "checkCreateThumbnails");
+    ExpectEnabled(form, {"checkOverwrite"}, true);
+    Click(form, "OKButton");
+  });
+  EXPECT_FALSE(choice.CreateImages);
+  EXPECT_TRUE(choice.CreateThumbnails);
+  EXPECT_TRUE(choice.CreateHTMLFiles);
+  EXPECT_FALSE(choice.Overwrite);
+}
+
+TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
+  const CreateChoice choice = Ask([](QWidget& form) {
+    auto& box = Find<QLineEdit>(form, "textCreateFilePath");
+    Type(box, "D:/web");
+    EXPECT_EQ(box.text(), "D:\\web");
+    QTest::keyClick(&box, Qt::Key_Tab);
+    EXPECT_EQ(box.text(), "D:\\web\\index.htm");
+    Type(box, "/home/me/site");
+    EXPECT_EQ(box.text(), "/home/me/site");
+    QTest::keyClick(&box, Qt::Key_Tab);
+    EXPECT_EQ(box.text(), "C:\\site\\index.htm");
+    Type(box, "E:");
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_EQ(choice.FilePath, "E:\\index.htm");
+}
+
+TEST_F(CreateForm, TheFileIsBrowsedFor) {
+  desk.fileBrowser.answer.result = "F:\\new\\page.html";
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Click(form, "btnBrowseCreateFilePath");
+    EXPECT_EQ(Text(form, "textCreateFilePath"), "F:\\new\\page.html");
+    Click(form, "OKButton");
+  });
+  EXPECT_EQ(choice.FilePath, "F:\\new\\page.html");
+  EXPECT_EQ(desk.fileBrowser.requests.size(), 1U);
+}
+
+TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Click(form, "optionUploadGallery");
+    EXPECT_EQ(Text(form, "textPublishDestination"), "one.example.org/a/b/start.htm");
+    Type(Find<QLineEdit>(form, "textPublishPassword"), "old");
+    DriveModal([&] { Click(form, "btnBrowsePublishDestination"); },
+               [](QWidget& servers) {
+                 EXPECT_TRUE(Find<QLineEdit>(servers, "textGalleryIndexFile").isVisible());
+                 Type(Find<QLineEdit>(servers, "textServerURL"), "new.example.org");
+                 Click(servers, "OKButton");
+               });
+    EXPECT_EQ(Text(form, "textPublishDestination"), "new.example.org/a/b/start.htm");
+    EXPECT_EQ(Text(form, "textUploadDestination"), "new.example.org/a/b");
+    EXPECT_EQ(Text(form, "textPublishPassword"), "");
+    EXPECT_TRUE(GetsFocus(form, "textPublishPassword"));
+    QTest::keyClicks(&Find<QLineEdit>(form, "textPublishPassword"), "secret");
+    EXPECT_EQ(Text(form, "textUploadPassword"), "secret");
+    QTest::keyClick(&form, Qt::Key_Return);
+  });
+  EXPECT_EQ(choice.option, Option::Publish);
+  EXPECT_EQ(choice.UploadServer, "new.example.org");
+  EXPECT_EQ(choice.UploadUser, "me");
+  EXPECT_EQ(choice.UploadIndexPath, "a/b");
+  EXPECT_EQ(choice.UploadIndexFile, "start.htm");
+  EXPECT_EQ(choice.UploadJumpTo, "www");
+  EXPECT_EQ(choice.UploadPassword, "secret");
+  EXPECT_EQ(choice.UploadPort, 21);
+}
+
+TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
+  desk.folderBrowser.answers = {"D:\\photos"};
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Click(form, "optionUploadFolder");
+    EXPECT_EQ(Text(form, "textUploadDestination"), "one.example.org/a/b/");
+    DriveModal([&] { Click(form, "btnBrowseUploadDestination"); },
+               [](QWidget& servers) {
+                 EXPECT_FALSE(Find<QLineEdit>(servers, "textGalleryIndexFile").isVisible());
+                 QTest::keyClick(&Find<QWidget>(servers, "comboServers"), Qt::Key_Down);
+                 Click(servers, "OKButton");
+               });
+    EXPECT_EQ(Text(form, "textUploadDestination"), "two.example.org/");
+    EXPECT_TRUE(GetsFocus(form, "textUploadPassword"));
+    Find<QWidget>(form, "textUploadDestination").setFocus();
+    Click(form, "btnBrowseUploadSourceFolder");
+    EXPECT_EQ(Text(form, "textUploadSourceFolder"), "D:\\photos");
+    EXPECT_TRUE(GetsFocus(form, "textUploadPassword"));
+    QTest::keyClicks(&Find<QLineEdit>(form, "textUploadPassword"), "me@home");
+    EXPECT_EQ(Text(form, "textPublishPassword"), "me@home");
+    Click(form, "OKButton");
+  });
+  EXPECT_EQ(choice.option, Option::UploadFolder);
+  EXPECT_EQ(choice.UploadServer, "two.example.org");
+  EXPECT_EQ(choice.UploadPassword, "me@home");
+  EXPECT_EQ(choice.UploadSourceFolder, "D:\\photos\\");
+  EXPECT_NE(desk.ServerText().find("PreferredServer=\"2\""), std::string::npos);
+}
+
+TEST_F(CreateForm, ThePasswordOfAServerThatIsOpenToEveryoneIsSeen) {
+  Ask([](QWidget& form) {
+    EXPECT_EQ(Echo(form, "textPublishPassword"), QLineEdit::Password);
+    EXPECT_EQ(Echo(form, "textUploadPassword"), QLineEdit::Password);
+    Click(form, "optionUploadGallery");
+    DriveModal([&] { Click(form, "btnBrowsePublishDestination"); },
+               [](QWidget& servers) {
+                 Find<QWidget>(servers, "comboServers").setFocus();
+                 QTest::keyClick(&Find<QWidget>(servers, "comboServers"), Qt::Key_Down);
+                 Click(servers, "OKButton");
+               });
+    EXPECT_EQ(Echo(form, "textPublishPassword"), QLineEdit::Normal);
+    EXPECT_EQ(Echo(form, "textUploadPassword"), QLineEdit::Normal);
+  });
+}
+
+TEST_F(CreateForm, ACancelledChoiceOfAServerChangesNothingButThePassword) {
+  Ask([](QWidget& form) {
+    Click(form, "optionUploadGallery");
+    Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
+    DriveModal([&] { Click(form, "btnBrowsePublishDestination"); },
+               [](QWidget& servers) {
+                 Type(Find<QLineEdit>(servers, "textServerURL"), "new.example.org");
+                 QTest::keyClick(&servers, Qt::Key_Escape);
+               });
+    EXPECT_EQ(Text(form, "textPublishDestination"), "one.example.org/a/b/start.htm");
+    EXPECT_EQ(Text(form, "textPublishPassword"), "");
+  });
+}
+
+TEST_F(CreateForm, ADestinationEditedByHandEmptiesThePasswords) {
+  Ask([](QWidget& form) {
+    for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
+             {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
+      Click(form, "optionUploadGallery");
+      Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
+      Click(form, option);
+      QTest::keyClicks(&Find<QLineEdit>(form, destination), "x");
+      EXPECT_EQ(Text(form, "textPublishPassword"), "") << destination;
+      EXPECT_EQ(Text(form, "textUploadPassword"), "") << destination;
+    }
+  });
+}
+
+TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Click(form, "optionUploadFolder");
+    auto& box = Find<QLineEdit>(form, "textUploadSourceFolder");
+    Type(box, "photos/one");
+    Click(form, "OKButton");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(box.text(), "photos\\one\\");
+    EXPECT_TRUE(box.hasFocus());
+    Type(box, "/home/me/photos");
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Path");
+  EXPECT_EQ(choice.UploadSourceFolder, "C:\\photos\\");
+}
+
+TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Uncheck(form, {"checkCreateImages", "checkCreateThumbnails", "checkCreateHTMLFiles"});
+    Click(form, "OKButton");
+    EXPECT_TRUE(form.isVisible());
+    Click(form, "CancelButton");
+  });
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Cannot create Gallery");
+  EXPECT_EQ(choice.option, Option::Cancelled);
+}
+
+TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
+  EXPECT_EQ(Ask([](QWidget& form) {
+              Click(form, "optionUploadGallery");
+              Click(form, "checkCreateImages");
+              Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
+              Click(form, "OKButton");
+            }).option,
+            Option::Publish);
+  desk.preferences.CreateFolder = "D:\\later\\";
+  EXPECT_EQ(Ask([](QWidget& form) {
+              EXPECT_TRUE(Find<QRadioButton>(form, "optionUploadGallery").isChecked());
+              EXPECT_FALSE(Find<QCheckBox>(form, "checkCreateImages").isChecked());
+              EXPECT_EQ(Text(form, "textPublishPassword"), "");
+              EXPECT_EQ(Text(form, "textCreateFilePath"), "D:\\later\\index.htm");
+              QTest::keyClick(&form, Qt::Key_Escape);
+            }).option,
+            Option::Cancelled);
+}
+
+TEST_F(CreateForm, EveryMnemonicIsItsOwn) {
+  QString taken;
+  for (const auto* label : form.findChildren<QLabel*>()) taken += label->text() + ' ';
+  for (const auto* button : form.findChildren<QAbstractButton*>()) taken += button->text() + ' ';
+  std::string mnemonics;
+  for (qsizetype at = taken.indexOf('&'); at >= 0; at = taken.indexOf('&', at + 1)) {
+    const char letter = taken[at + 1].toLower().toLatin1();
+    EXPECT_EQ(mnemonics.find(letter), std::string::npos) << letter << " in " << taken.toStdString();
+    mnemonics += letter;
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

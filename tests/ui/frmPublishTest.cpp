@@ -1,0 +1,225 @@
+#include "tests/ui/PublishDesk.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::GetsFocus;
+using fakes::Type;
+
+class PublishForm : public testing::Test {
+ protected:
+  /// Drives the dialog; true when it was left with OK.
+  bool Drive(const std::function<void(QWidget&)>& drive, bool hideIndexFile = false) {
+    frmPublish form(desk.ServerFile(), desk.boxes, nullptr);
+    form.SetHideIndexFile(hideIndexFile);
+    QObject::connect(&form, &frmPublish::Left, [this] { ++left; });
+    DriveModal([&] { form.exec(); }, drive);
+    timeout = form.GetTimeout();
+    return form.QueryPublish();
+  }
+  static QString Text(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).text(); }
+  static bool IsEnabled(QWidget& form, const char* name) { return Find<QWidget>(form, name).isEnabled(); }
+  /// Presses New and gives it a name.
+  static void AddNew(QWidget& form, const QString& name) {
+    DriveModal([&] { Click(form, "btnNew"); },
+               [&](QWidget& question) {
+                 Type(Find<QLineEdit>(question, "textServerName"), name);
+                 Click(question, "OKButton");
+               });
+  }
+
+  fakes::PublishDesk desk;
+  int left = 0;
+  int timeout = 0;
+};
+
+TEST_F(PublishForm, ShowsThePreferredServer) {
+  desk.WriteServers(0);
+  Drive([](QWidget& form) {
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "One");
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 2);
+    EXPECT_EQ(Text(form, "textServerURL"), "one.example.org");
+    EXPECT_EQ(Text(form, "textUserName"), "me");
+    EXPECT_EQ(Text(form, "textGalleryIndexPath"), "a/b");
+    EXPECT_EQ(Text(form, "textGalleryIndexFile"), "start.htm");
+    EXPECT_EQ(Text(form, "textJumpTo"), "www");
+    EXPECT_EQ(Text(form, "textTimeout"), "0");
+    EXPECT_TRUE(IsEnabled(form, "OKButton"));
+    EXPECT_TRUE(IsEnabled(form, "btnDelete"));
+    EXPECT_TRUE(IsEnabled(form, "CancelButton"));
+  });
+}
+
+TEST_F(PublishForm, TheIndexFileIsHiddenForAFolder) {
+  for (const bool hide : {true, false}) {
+    Drive(
+        [hide](QWidget& form) {
+          EXPECT_EQ(Find<QLabel>(form, "lblGalleryIndexFile").isVisible(), !hide);
+          EXPECT_EQ(Find<QLineEdit>(form, "textGalleryIndexFile").isVisible(), !hide);
+        },
+        hide);
+  }
+}
+
+TEST_F(PublishForm, AServerIsChosenWithTheKeyboardAndBecomesThePreferredOne) {
+  EXPECT_TRUE(Drive([](QWidget& form) {
+    auto& combo = Find<QComboBox>(form, "comboServers");
+    combo.setFocus();
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(Text(form, "textServerURL"), "two.example.org");
+    EXPECT_EQ(Text(form, "textUserName"), "anonymous");
+    QTest::keyClick(&form, Qt::Key_Return);
+  }));
+  EXPECT_NE(desk.ServerText().find("PreferredServer=\"2\""), std::string::npos) << desk.ServerText();
+  EXPECT_GE(left, 1);
+}
+
+TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
+  EXPECT_TRUE(Drive([this](QWidget& form) {
+    Type(Find<QLineEdit>(form, "textServerURL"), "host\\a");
+    Type(Find<QLineEdit>(form, "textUserName"), "domain\\some body");
+    Type(Find<QLineEdit>(form, "textJumpTo"), "web\\my site");
+    Type(Find<QLineEdit>(form, "textGalleryIndexPath"), "my gallery\\one");
+    Type(Find<QLineEdit>(form, "textGalleryIndexFile"), "my start.htm");
+    Type(Find<QLineEdit>(form, "textTimeout"), "30s");
+    Click(form, "OKButton");
+  }));
+  const std::string text = desk.ServerText();
+  for (const char* line : {"ServerURL1=\"host/a\"", "UserName1=\"domain\\some body\"", "JumpTo1=\"web/my site\"",
+                           "IndexFile1=\"my_gallery/one/my_start.htm\"", "TimeOut1=\"15\""}) {
+    EXPECT_NE(text.find(line), std::string::npos) << line << " in " << text;
+  }
+  EXPECT_EQ(timeout, 30);
+}
+
+TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
+  Drive([](QWidget& form) {
+    auto& box = Find<QLineEdit>(form, "textGalleryIndexPath");
+    box.setSelection(0, 1);
+    QTest::keyClick(&box, Qt::Key_Space);
+    EXPECT_EQ(box.text(), "_/b");
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(box.text(), "/b");
+  });
+}
+
+TEST_F(PublishForm, WithoutAHostThereIsNoOk) {
+  EXPECT_FALSE(Drive([](QWidget& form) {
+    Type(Find<QLineEdit>(form, "textServerURL"), "");
+    EXPECT_FALSE(IsEnabled(form, "OKButton"));
+    QTest::keyClick(&form, Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible());
+    Type(Find<QLineEdit>(form, "textServerURL"), "h");
+    EXPECT_TRUE(IsEnabled(form, "OKButton"));
+  }));
+}
+
+TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndTakesTheFocus) {
+  EXPECT_FALSE(Drive([](QWidget& form) {
+    Type(Find<QLineEdit>(form, "textGalleryIndexFile"), "a/b.htm");
+    Type(Find<QLineEdit>(form, "textServerURL"), "ftp://host/");
+    Click(form, "OKButton");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(GetsFocus(form, "textGalleryIndexFile"));
+    EXPECT_EQ(Text(form, "textServerURL"), "host/");
+  }));
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Index File Name");
+}
+
+TEST_F(PublishForm, ANewServerIsNamedInItsOwnDialog) {
+  EXPECT_TRUE(Drive([this](QWidget& form) {
+    AddNew(form, "Three");
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "Three");
+    EXPECT_EQ(Text(form, "textGalleryIndexPath"), "gallery");
+    EXPECT_TRUE(GetsFocus(form, "textServerURL"));
+    EXPECT_FALSE(IsEnabled(form, "OKButton"));
+    EXPECT_FALSE(IsEnabled(form, "CancelButton"));
+    EXPECT_NE(desk.ServerText().find("ServerName3=\"Three\""), std::string::npos);
+    QTest::keyClicks(&Find<QLineEdit>(form, "textServerURL"), "three.example.org");
+    Click(form, "OKButton");
+  }));
+  EXPECT_NE(desk.ServerText().find("ServerURL3=\"three.example.org\""), std::string::npos) << desk.ServerText();
+}
+
+TEST_F(PublishForm, ANameThatIsTakenAddsNothing) {
+  Drive([](QWidget& form) {
+    AddNew(form, "Two");
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 2);
+    EXPECT_TRUE(IsEnabled(form, "CancelButton"));
+  });
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Name Exists");
+}
+
+TEST_F(PublishForm, ANewServerCanBeCancelled) {
+  Drive([](QWidget& form) {
+    DriveModal([&] { Click(form, "btnNew"); },
+               [](QWidget& question) {
+                 auto& name = Find<QLineEdit>(question, "textServerName");
+                 EXPECT_EQ(name.selectedText(), "Server");
+                 EXPECT_TRUE(name.hasFocus());
+                 QTest::keyClick(&name, Qt::Key_Delete);
+                 EXPECT_FALSE(IsEnabled(question, "OKButton"));
+                 QTest::keyClick(&name, Qt::Key_Return);
+                 EXPECT_TRUE(question.isVisible());
+                 Click(question, "CancelButton");
+                 EXPECT_FALSE(question.isVisible());
+               });
+    DriveModal([&] { Click(form, "btnNew"); }, [](QWidget& question) { QTest::keyClick(&question, Qt::Key_Escape); });
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 2);
+    EXPECT_TRUE(IsEnabled(form, "CancelButton"));
+  });
+}
+
+TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatStillCloses) {
+  EXPECT_FALSE(Drive([](QWidget& form) {
+    Click(form, "btnDelete");
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "Two");
+    EXPECT_EQ(Text(form, "textServerURL"), "two.example.org");
+    EXPECT_FALSE(IsEnabled(form, "CancelButton"));
+    EXPECT_TRUE(IsEnabled(form, "OKButton"));
+    Click(form, "btnDelete");
+    EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 0);
+    EXPECT_EQ(Text(form, "textServerURL"), "");
+    EXPECT_FALSE(IsEnabled(form, "btnDelete"));
+    EXPECT_FALSE(IsEnabled(form, "OKButton"));
+    EXPECT_TRUE(IsEnabled(form, "btnNew"));
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_FALSE(form.isVisible());
+  }));
+  EXPECT_NE(desk.ServerText().find("ServerCount=\"2\""), std::string::npos);
+}
+
+TEST_F(PublishForm, CancelLeavesTheFileAndShowsTheServerOfTheOpening) {
+  const std::string before = desk.ServerText();
+  for (const bool byButton : {true, false}) {
+    EXPECT_FALSE(Drive([byButton](QWidget& form) {
+      Type(Find<QLineEdit>(form, "textUserName"), "x");
+      Find<QComboBox>(form, "comboServers").setCurrentIndex(1);
+      byButton ? Click(form, "CancelButton") : QTest::keyClick(&form, Qt::Key_Escape);
+      EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "One");
+    }));
+    EXPECT_EQ(desk.ServerText(), before);
+  }
+}
+
+TEST_F(PublishForm, AMissingFileIsToldAndGivesAnEmptyDialog) {
+  std::filesystem::remove(desk.ServerFile());
+  Drive([](QWidget& form) { EXPECT_FALSE(IsEnabled(form, "textServerURL")); });
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
+}
+
+}  // namespace
+}  // namespace vantorium

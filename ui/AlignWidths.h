@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QWidget>
+#include <algorithm>
+#include <initializer_list>
+
+namespace vantorium {
+
+/// Makes the controls as wide as the widest of them, so that what stands beside them in different groups is aligned.
+inline void AlignWidths(std::initializer_list<QWidget*> controls) {
+  int width = 0;
+  for (const QWidget* control : controls) width = std::max(width, control->sizeHint().width());
+  for (QWidget* control : controls) control->setMinimumWidth(width);
+}
+
+}  // namespace vantorium

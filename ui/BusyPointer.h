@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QApplication>
+
+namespace vantorium {
+
+/// Shows the busy pointer over all windows of the program as long as it lives.
+class BusyPointer {
+ public:
+  BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+  BusyPointer(const BusyPointer&) = delete;
+  BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,49 @@
+#include "ui/CodeBoxes.h"
+
+#include "ui/model/CodeEditor.h"
+#include "ui/ports/QtText.h"
+
+#include <vector>
+
+namespace vantorium {
+namespace {
+
+/// The box's lines with LF between them. The box's own toPlainText would turn blanks that do not break into others.
+QString LinesOf(const QPlainTextEdit& box) {
+  QString text = box.toPlainText();
+  text.replace(QChar::ParagraphSeparator, '\n');
+  text.replace(QChar::LineSeparator, '\n');
+  return text;
+}
+
+void Select(QPlainTextEdit& box, std::string_view inFront, std::size_t length) {
+  QTextCursor cursor = box.textCursor();
+  const auto start = static_cast<int>(ToQt(inFront).size());
+  cursor.setPosition(start);
+  cursor.setPosition(start + static_cast<int>(length), QTextCursor::KeepAnchor);
+  box.setTextCursor(cursor);
+}
+
+}  // namespace
+
+void ShowCode(QPlainTextEdit& box, std::string_view text) {
+  box.setPlainText(LinesToQt(text));
+}
+
+std::string CodeOf(const QPlainTextEdit& box, std::string_view shown) {
+  const QString lines = LinesOf(box);
+  return lines == LinesToQt(shown) ? std::string(shown) : LinesFromQt(lines);
+}
+
+bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, MessageBoxPort& port) {
+  std::vector<std::string> texts;
+  for (const QPlainTextEdit* box : boxes) texts.push_back(FromQt(LinesOf(*box)));
+  const auto refused = FindRefusedCode(texts, port);
+  if (!refused) return true;
+  QPlainTextEdit& box = **(boxes.begin() + refused->text);
+  Select(box, std::string_view(texts[refused->text]).substr(0, refused->position), kRefusedLength);
+  box.setFocus();
+  return false;
+}
+
+}  // namespace vantorium

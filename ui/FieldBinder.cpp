@@ -1,0 +1,103 @@
+#include "ui/FieldBinder.h"
+
+#include "env/PathMap.h"
+#include "env/RuntimeFailure.h"
+#include "ui/ColourButton.h"
+#include "ui/UpDown.h"
+#include "ui/model/ColourDialog.h"
+#include "ui/ports/QtText.h"
+
+#include <QRegularExpressionValidator>
+#include <QSignalBlocker>
+
+namespace vantorium {
+namespace {
+
+void ShowText(QLineEdit& control, const QString& text) {
+  if (control.text() == text) return;
+  const QSignalBlocker quiet(control);
+  const int cursor = control.cursorPosition();
+  control.setText(text);
+  control.setCursorPosition(cursor);
+}
+
+}  // namespace
+
+void FieldBinder::Bind(QLineEdit& control, std::string GalleryProject::*field) {
+  fields_.push_back(&FieldOf(field));
+  connect(&control, &QLineEdit::textEdited, this, [this, field](const QString& text) {
+    Edit([&](ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
+  });
+  show_.push_back([&control, field](const GalleryProject& project) { ShowText(control, ToQt(project.*field)); });
+}
+
+void FieldBinder::BindPath(QLineEdit& control, const PathMap& paths, std::string GalleryProject::*field) {
+  Bind(control, field);
+  connect(&control, &QLineEdit::editingFinished, this, [this, &paths, field] {
+    const std::string& typed = Project().*field;
+    const std::string path = paths.ToTextIfNative(typed);
+    if (path != typed) Edit([&](ProjectEditor& editor) { editor.Set(field, path); });
+  });
+}
+
+void FieldBinder::Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProject::*field) {
+  Bind(control, field);
+  control.setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,6}"), &control));
+  const auto& range = FieldOf(field).range.value();
+  spinner.Attach(control, range.spinnerMinimum, range.spinnerMaximum);
+  connect(&spinner, &UpDown::Stepped, this, [this, field](const QString& text) {
+    Edit([&](ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
+  });
+}
+
+void FieldBinder::Bind(QCheckBox& control, Flag GalleryProject::*field) {
+  fields_.push_back(&FieldOf(field));
+  connect(&control, &QCheckBox::clicked, this, [this, field](bool checked) {
+    Edit([&](ProjectEditor& editor) { editor.Set(field, static_cast<Flag>(checked ? 1 : 0)); });
+  });
+  show_.push_back([&control, field](const GalleryProject& project) {
+    const QSignalBlocker quiet(control);
+    control.setChecked(project.*field != 0);
+  });
+}
+
+void FieldBinder::Bind(QComboBox& control, Choice GalleryProject::*field) {
+  Bind(control, field, [this, field](Choice index) { Edit([&](ProjectEditor& editor) { editor.Set(field, index); }); });
+}
+
+void FieldBinder::Bind(QComboBox& control, Choice GalleryProject::*field, std::function<void(Choice)> choose) {
+  const ProjectField& row = FieldOf(field);
+  fields_.push_back(&row);
+  for (const std::string_view text : row.values) control.addItem(ToQt(text));
+  connect(&control, &QComboBox::activated, this,
+          [choose = std::move(choose)](int index) { choose(static_cast<Choice>(index)); });
+  show_.push_back([&control, field](const GalleryProject& project) {
+    const QSignalBlocker quiet(control);
+    control.setCurrentIndex(project.*field);
+  });
+}
+
+void FieldBinder::Bind(ColourButton& control, ColourDialog& dialog, Colour GalleryProject::*field) {
+  fields_.push_back(&FieldOf(field));
+  connect(&control, &ColourButton::clicked, this, [this, &dialog, field] {
+    Colour colour = Project().*field;
+    if (dialog.DisplayColorDialog2(colour)) Edit([&](ProjectEditor& editor) { editor.Set(field, colour); });
+  });
+  show_.push_back([&control, field](const GalleryProject& project) { control.SetColour(project.*field); });
+}
+
+void FieldBinder::Edit(const std::function<void(ProjectEditor&)>& edit) {
+  try {
+    edit(editor_);
+  } catch (const RuntimeFailure& failure) {
+    boxes_.Critical("Invalid Value", failure.Description());
+  }
+  Refresh();
+  emit Edited();
+}
+
+void FieldBinder::Refresh() {
+  for (const auto& show : show_) show(editor_.Project());
+}
+
+}  // namespace vantorium

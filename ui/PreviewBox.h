@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QFrame>
+#include <QImage>
+
+namespace vantorium {
+
+/// A framed picture, stretched over all of its box, that can be clicked; the space bar is a click too.
+class PreviewBox : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit PreviewBox(QWidget* parent = nullptr);
+
+  /// A null picture clears the box.
+  void Show(const QImage& picture);
+  [[nodiscard]] const QImage& Picture() const { return picture_; }
+  /// Room inside of the frame, in pixels of the screen.
+  [[nodiscard]] QSize SizeInPixels() const;
+
+ signals:
+  void Clicked();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QImage picture_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+
+namespace vantorium {
+
+/// A spinner beside a text box: two small buttons that step the number in the box by 1 within a range. The arrow keys
+/// in the box do the same. A text that is no number counts as the range's minimum.
+class UpDown : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit UpDown(QWidget* parent = nullptr);
+
+  /// `box` belongs to somebody else and outlives this.
+  void Attach(QLineEdit& box, int minimum, int maximum);
+
+ signals:
+  /// The number that the box is to show.
+  void Stepped(const QString& text);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Step(int by);
+
+  QLineEdit* box_ = nullptr;
+  int minimum_ = 0;
+  int maximum_ = 0;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QWidget>
+
+namespace vantorium {
+
+/// Shows the wait pointer over a window as long as it lives. Message boxes above the window keep theirs.
+class WaitPointer {
+ public:
+  explicit WaitPointer(QWidget& window) : window_(window) { window_.setCursor(Qt::WaitCursor); }
+  ~WaitPointer() { window_.unsetCursor(); }
+  WaitPointer(const WaitPointer&) = delete;
+  WaitPointer& operator=(const WaitPointer&) = delete;
+
+ private:
+  QWidget& window_;
+};
+
+}  // namespace vantorium

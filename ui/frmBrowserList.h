@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class frmBrowserList;
+}
+
+namespace vantorium {
+
+class BrowserList;
+
+/// Shows the list of browsers and lets the user edit it. However it is closed, the list is as it was shown last.
+class frmBrowserList : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmBrowserList(BrowserList& list, QWidget* parent = nullptr);
+  ~frmBrowserList() override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Press(void (BrowserList::*button)());
+  void ShowEntries();
+  void Select();
+
+  BrowserList& list_;
+  std::unique_ptr<Ui::frmBrowserList> ui_;
+};
+
+}  // namespace vantorium

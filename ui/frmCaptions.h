@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class frmCaptions;
+}
+
+namespace vantorium {
+
+class FieldBinder;
+
+/// The page of the captions.
+class frmCaptions : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit frmCaptions(FieldBinder& binder, QWidget* parent = nullptr);
+  ~frmCaptions() override;
+
+ private:
+  std::unique_ptr<Ui::frmCaptions> ui_;
+};
+
+}  // namespace vantorium

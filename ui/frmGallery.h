@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class frmGallery;
+}
+
+namespace vantorium {
+
+class FieldBinder;
+
+/// The page of the gallery as a whole: title, layout, frames, slideshow.
+class frmGallery : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit frmGallery(FieldBinder& binder, QWidget* parent = nullptr);
+  ~frmGallery() override;
+
+ private:
+  std::unique_ptr<Ui::frmGallery> ui_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,41 @@
+#include "ui/frmHTML.h"
+
+#include "ui/CodeBoxes.h"
+#include "ui/ports/QtText.h"
+#include "ui/ucPopupMenu.h"
+#include "ui_frmHTML.h"
+
+#include <QFontDatabase>
+
+namespace vantorium {
+
+frmHTML::frmHTML(const std::string& caption, HeaderAndFooter texts, MessageBoxPort& boxes, QWidget* owner)
+    : QDialog(owner), ui_(std::make_unique<Ui::frmHTML>()), shown_(std::move(texts)) {
+  ui_->setupUi(this);
+  setWindowTitle(ToQt(caption));
+  ShowCode(*ui_->textHeader, shown_.header);
+  ShowCode(*ui_->textFooter, shown_.footer);
+  auto* menu = new ucPopupMenu(*this);
+  for (QPlainTextEdit* box : {ui_->textHeader, ui_->textFooter}) {
+    box->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    menu->Serve(*box);
+  }
+  connect(ui_->btnClose, &QPushButton::clicked, this, [this, &boxes] {
+    if (MayKeepCode({ui_->textHeader, ui_->textFooter}, boxes)) accept();
+  });
+}
+
+frmHTML::~frmHTML() = default;
+
+HeaderAndFooter frmHTML::Texts() const {
+  return {CodeOf(*ui_->textHeader, shown_.header), CodeOf(*ui_->textFooter, shown_.footer)};
+}
+
+HeaderAndFooter EditHTML(const std::string& caption, const HeaderAndFooter& texts, MessageBoxPort& boxes,
+                         QWidget* owner) {
+  frmHTML dialog(caption, texts, boxes, owner);
+  dialog.exec();
+  return dialog.Texts();
+}
+
+}  // namespace vantorium

@@ -1,0 +1,36 @@
+#include "ui/frmHTMLSingle.h"
+
+#include "ui/CodeBoxes.h"
+#include "ui/ports/QtText.h"
+#include "ui/ucPopupMenu.h"
+#include "ui_frmHTMLSingle.h"
+
+#include <QFontDatabase>
+
+namespace vantorium {
+
+frmHTMLSingle::frmHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes, QWidget* owner)
+    : QDialog(owner), ui_(std::make_unique<Ui::frmHTMLSingle>()), shown_(text) {
+  ui_->setupUi(this);
+  setWindowTitle(ToQt(caption));
+  ui_->textHTML->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  ShowCode(*ui_->textHTML, text);
+  (new ucPopupMenu(*this))->Serve(*ui_->textHTML);
+  connect(ui_->btnClose, &QPushButton::clicked, this, [this, &boxes] {
+    if (MayKeepCode({ui_->textHTML}, boxes)) accept();
+  });
+}
+
+frmHTMLSingle::~frmHTMLSingle() = default;
+
+std::string frmHTMLSingle::Text() const {
+  return CodeOf(*ui_->textHTML, shown_);
+}
+
+std::string EditHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes, QWidget* owner) {
+  frmHTMLSingle dialog(caption, text, boxes, owner);
+  dialog.exec();
+  return dialog.Text();
+}
+
+}  // namespace vantorium

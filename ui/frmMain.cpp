@@ -1,0 +1,180 @@
+#include "ui/frmMain.h"
+
+#include "core/ImageListTexts.h"
+#include "env/ProgramFolder.h"
+#include "publish/AsioFTPSocket.h"
+#include "publish/ServerListFile.h"
+#include "ui/SettingsDialogs.h"
+#include "ui/SettingsPages.h"
+#include "ui/frmBrowseForImageFolders.h"
+#include "ui/frmCaptions.h"
+#include "ui/frmCreateGallery.h"
+#include "ui/frmFileNameSettings.h"
+#include "ui/frmFrameNameSettings.h"
+#include "ui/frmGallery.h"
+#include "ui/frmImageDescriptions.h"
+#include "ui/frmImageWrapper.h"
+#include "ui/frmImages.h"
+#include "ui/frmInfo.h"
+#include "ui/frmPageLinks.h"
+#include "ui/frmPreview.h"
+#include "ui/frmSplash.h"
+#include "ui/frmSysTray.h"
+#include "ui/frmThumbnails.h"
+#include "ui/ports/QtText.h"
+#include "ui_frmMain.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QToolButton>
+
+namespace vantorium {
+
+frmMain::frmMain(const DesktopPorts& ports)
+    : ports_(ports),
+      appPath_(GetAppPath(ports.programFolder, ports.paths)),
+      preferencesFile_(GetINIFileName(ports.programFolder)),
+      session_(project_, images_, {ports.paths, ports.boxes, projectDialog_, *this, ports.loop}),
+      log_(ports.programFolder, ports.clock, ports.boxes),
+      ftp_(std::make_unique<AsioFTPSocket>(ports.loop), std::make_unique<AsioFTPSocket>(ports.loop), ports.paths,
+           ports.boxes, ports.loop, cancel_),
+      ui_(std::make_unique<Ui::frmMain>()),
+      splash_(std::make_unique<frmSplash>()) {
+  splash_->show();
+  cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
+  BuildTray();
+  Step();
+  ui_->setupUi(this);
+  BuildPages();
+  Step();
+  ConnectCommands();
+  Step();
+}
+
+// The windows go before the project that they show; as children alone they would go after it.
+frmMain::~frmMain() {
+  delete descriptions_;
+  delete ui_->frmMainPages;
+}
+
+/// A stage of the start is through.
+void frmMain::Step() {
+  splash_->Step();
+  ports_.loop.Turn();
+}
+
+void frmMain::BuildTray() {
+  tray_ = std::make_unique<frmSysTray>(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"));
+  connect(tray_.get(), &frmSysTray::MenuClick, this,
+          [this](int /*index*/, const QString& key) { OnTrayMenu(FromQt(key)); });
+  connect(tray_.get(), &frmSysTray::SysTrayDoubleClick, this, &frmMain::BringToFront);
+  connect(tray_.get(), &frmSysTray::SysTrayMouseDown, this, [this](Qt::MouseButton button) {
+    if (button == Qt::RightButton) tray_->ShowMenu();
+  });
+}
+
+void frmMain::BuildPages() {
+  imagesPage_ =
+      new frmImages({project_, images_, binder_, ports_.boxes, ports_.loop, ports_.shell, ports_.clock, ports_.paths,
+                     ports_.fileBrowser, preferences_, [this] { return AskForImageFolders(); }});
+  ui_->tsMain->addTab(new frmGallery(binder_), tr("Gallery"));
+  ui_->tsMain->addTab(imagesPage_, tr("Images"));
+  ui_->tsMain->addTab(new frmImageWrapper(binder_, ports_.paths), tr("Image Wrappers"));
+  ui_->tsMain->addTab(new frmThumbnails(binder_, ports_.paths, colours_), tr("Thumbnails"));
+  ui_->tsMain->addTab(new frmCaptions(binder_), tr("Captions"));
+  ui_->tsMain->addTab(new frmPageLinks(binder_), tr("Page Links"));
+  connect(ui_->tsMain, &QTabWidget::currentChanged, this, &frmMain::ShowPage);
+
+  statusText_ = new QLabel;
+  statusText_->setObjectName("sbMainText");
+  imageCount_ = new QLabel;
+  imageCount_->setObjectName("sbMainCount");
+  ui_->sbMain->addWidget(statusText_, 1);
+  ui_->sbMain->addPermanentWidget(imageCount_);
+  statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long text widens no window
+
+  pages_ = new SettingsPages(*this);
+  pages_->setParent(this);
+  auto* dialogs = new SettingsDialogs({binder_, colours_, ports_, [this] { return Samples(); }}, *this);
+  dialogs->setParent(this);
+  descriptions_ = new frmImageDescriptions(project_, binder_, ports_.boxes, this);
+  create_ = std::make_unique<frmCreateGallery>(
+      frmCreateGallery::Parts{preferences_, ServerListFileName(ports_.programFolder), ports_.paths, ports_.boxes,
+                              ports_.fileBrowser, ports_.folderBrowser},
+      this);
+  info_ = std::make_unique<frmInfo>(this);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmMain::ConnectCommands() {
+  const auto command = [this](std::initializer_list<QAction*> actions, auto run) {
+    for (QAction* action : actions) connect(action, &QAction::triggered, this, run);
+  };
+  command({ui_->menuFileNew, ui_->tbMainNew}, [this] { NewProject(); });
+  command({ui_->menuFileOpen, ui_->tbMainOpen}, [this] { OpenProject(); });
+  command({ui_->menuFileSave, ui_->tbMainSave}, [this] { SaveProject(); });
+  command({ui_->menuFileSaveAs}, [this] { SaveProjectAs(); });
+  command({ui_->menuFileExit}, [this] { close(); });
+  command({ui_->menuActionsViewDefault, ui_->tbMainView}, [this] { ViewInBrowser(0); });
+  command({ui_->menuActionsCreate, ui_->tbMainCreate}, [this] { RunCreateGallery(GenerationMode::Create, 0); });
+  command({ui_->menuOptionsAvailableBrowsers}, [this] { EditBrowserList(); });
+  command({ui_->menuOptionsSetTempFolderLocation}, [this] { SetTempFolderLocation(); });
+  command({ui_->menuOptionsClearTempFolder}, [this] { ClearTemporaryFolder(); });
+  command({ui_->menuHelpOnlineHelp}, [this] { ShowHelp(); });
+  command({ui_->menuHelpAbout}, [this] { ShowAbout(); });
+
+  const auto button = [this](const char* name, auto run) {
+    connect(findChild<QAbstractButton*>(name), &QAbstractButton::clicked, this, run);
+  };
+  button("btnGalleryFileNameSettings", [this] { frmFileNameSettings(binder_, this).exec(); });
+  button("btnGalleryMultiFrameNames", [this] { frmFrameNameSettings(binder_, this).exec(); });
+  button("btnGallerySingleFrameNames", [this] { frmFrameNameSettings(binder_, this).exec(); });
+  button("btnImagesDescriptions", [this] { ShowDescriptions(); });
+
+  connect(&binder_, &FieldBinder::Edited, this, [this] {
+    pages_->Refresh(project_.settings);
+    RefreshPageCount();
+  });
+  connect(imagesPage_, &frmImages::CurrentChanged, this, [this] { descriptions_->FollowSelection(); });
+  connect(imagesPage_, &frmImages::ListChanged, this, &frmMain::RefreshCounts);
+  connect(imagesPage_, &frmImages::FullScreenPreviewAsked, this,
+          [this](const std::string& description, const std::string& file) {
+            frmPreview preview(ports_.paths, this);
+            preview.SetPicture(description, file);
+            preview.exec();
+          });
+  static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView))->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void frmMain::Start(const std::string& commandLine) {
+  preferences_ = ReadPreferences(preferencesFile_, appPath_, ports_.files);
+  project_.LastProjectFolder = preferences_.ProjectFolder;
+  Step();
+  ShowBrowserMenus(RebuildBrowserMenus(preferences_.Browsers));
+  Step();
+  ShowPage(0);
+  Step();
+  project_.IsModified = false;
+  project_.IsPristine = false;
+  session_.NewProject();
+  session_.OpenProjectFromCommandLine(commandLine);
+  ShowProject();
+  Step();
+  splash_.reset();
+}
+
+void frmMain::ShowPage(int index) {
+  for (int i = 0; i < ui_->tsMain->count(); ++i) ui_->tsMain->widget(i)->setEnabled(i == index);
+}
+
+void frmMain::ShowProject() {
+  binder_.Refresh();
+  pages_->Refresh(project_.settings);
+  imagesPage_->RefreshList();
+  descriptions_->FollowSelection();
+  RefreshTitleBar();
+  RefreshPreview();
+  RefreshCounts();
+}
+
+}  // namespace vantorium

@@ -1,0 +1,210 @@
+// What the menus, the tool bar and the tray do.
+#include "core/generation/CreateGallery.h"
+#include "env/RuntimeFailure.h"
+#include "env/TempFolder.h"
+#include "ui/AddBrowserDialog.h"
+#include "ui/frmAbout.h"
+#include "ui/frmBrowseForImageFolders.h"
+#include "ui/frmBrowserList.h"
+#include "ui/frmCreateGallery.h"
+#include "ui/frmImageDescriptions.h"
+#include "ui/frmImages.h"
+#include "ui/frmInfo.h"
+#include "ui/frmMain.h"
+#include "ui/frmShutdown.h"
+#include "ui/frmSysTray.h"
+#include "ui/frmTempFolderLocation.h"
+#include "ui/ports/QtText.h"
+#include "ui_frmMain.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QToolButton>
+
+namespace vantorium {
+
+void frmMain::NewProject() {
+  session_.NewProject();
+  ShowProject();
+}
+
+void frmMain::OpenProject() {
+  session_.OpenProject();
+  ShowProject();
+}
+
+// The descriptions window keeps its lists to itself until it is closed: what is saved or made has them too.
+void frmMain::SaveProject() {
+  descriptions_->StorePlacings();
+  session_.SaveProject();
+  ShowProject();
+}
+
+void frmMain::SaveProjectAs() {
+  descriptions_->StorePlacings();
+  session_.SaveProjectAs();
+  ShowProject();
+}
+
+void frmMain::ViewInBrowser(std::int16_t browserIndex) {
+  RunCreateGallery(GenerationMode::Preview, browserIndex);
+}
+
+void frmMain::RunCreateGallery(GenerationMode mode, std::int16_t browserIndex) {
+  descriptions_->StorePlacings();
+  GalleryCreator creator(project_, preferences_, appPath_,
+                         {*this, ports_.boxes, ports_.loop, ports_.clock, ports_.shell, ports_.files, ports_.formats,
+                          cancel_, ports_.screen, ports_.texts, &ftp_, ports_.jobs});
+  creator.CreateGallery(mode, browserIndex);
+  binder_.Refresh();  // empty settings were repaired
+}
+
+void frmMain::EditBrowserList() {
+  AddBrowserDialog entry(ports_.fileBrowser, ports_.paths, appPath_);
+  std::ignore = EditBrowsers(preferences_.Browsers, preferencesFile_, *this, entry, ports_.boxes);
+}
+
+void frmMain::ShowBrowserList(BrowserList& list) {
+  frmBrowserList(list, this).exec();
+}
+
+void frmMain::ShowBrowserMenus(const BrowserMenus& menus) {
+  ui_->menuActionsView->clear();
+  AddBrowserActions(*ui_->menuActionsView, menus);
+  auto* button = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
+  delete button->menu();
+  auto* dropDown = new QMenu(button);
+  dropDown->setObjectName("tbMainViewDropDown");
+  AddBrowserActions(*dropDown, menus);
+  button->setMenu(dropDown);
+}
+
+void frmMain::AddBrowserActions(QMenu& menu, const BrowserMenus& menus) {
+  for (std::size_t i = 0; i < menus.DropDown.size(); ++i) {
+    const BrowserMenuEntry& entry = menus.DropDown[i];
+    if (entry.IsSeparator()) {
+      menu.addSeparator();
+    } else if (entry.Key == "default" && &menu == ui_->menuActionsView) {
+      menu.addAction(ui_->menuActionsViewDefault);
+    } else {
+      const BrowserClick click = DropDownClick(kViewButton, entry.Key, static_cast<std::int16_t>(i + 1));
+      QAction* action = menu.addAction(ToQt(entry.Text).replace('&', "&&"), this, [this, click] {
+        if (click.kind == BrowserClick::Kind::View) ViewInBrowser(click.BrowserIndex);
+        if (click.kind == BrowserClick::Kind::List) EditBrowserList();
+      });
+      action->setObjectName(ToQt(entry.Key));
+    }
+  }
+}
+
+void frmMain::SetTempFolderLocation() {
+  EditTempFolderLocation(preferences_, appPath_, ports_.boxes, ports_.files, ports_.folderBrowser, this);
+}
+
+void frmMain::ClearTemporaryFolder() {
+  ShowBusyPointer(true);
+  EnableMainWindow(false);
+  ShowInfoWindow("Please wait... Clearing Temporary Folder.");
+  ports_.loop.Turn();
+  ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
+  EnableMainWindow(true);
+  HideInfoWindow();
+  ShowBusyPointer(false);
+  ports_.loop.Turn();
+}
+
+void frmMain::ShowHelp() {
+  const auto help = ports_.bundled.Find("help/index.html");
+  if (!help) {
+    ports_.boxes.Critical("File Error", "The Help File cannot be found.");
+    return;
+  }
+  try {
+    ports_.shell.OpenFile(ports_.paths.ToText(*help));
+  } catch (const RuntimeFailure& failure) {
+    ports_.boxes.Critical("File Error", failure.Description());
+  }
+}
+
+void frmMain::ShowAbout() {
+  frmAbout(ports_.version, this).exec();
+}
+
+void frmMain::BringToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void frmMain::OnTrayMenu(const std::string& key) {
+  if (key == "vantorium") BringToFront();
+  if (key == "help") ShowHelp();
+  if (key == "about") ShowAbout();
+  if (key == "close") close();
+}
+
+void frmMain::ShowDescriptions() {
+  descriptions_->FollowSelection();
+  descriptions_->show();
+  descriptions_->raise();
+  descriptions_->activateWindow();
+}
+
+SampleSources frmMain::Samples() const {
+  SampleSources sources;
+  if (project_.images.Current() != 0)
+    sources.selectedFile = project_.images.Entry(project_.images.Current()).SourcePath;
+  sources.defaultSamples.push_back(appPath_ + "\\preview.jpg");
+  if (const auto sample = ports_.bundled.Find("preview.jpg")) {
+    sources.defaultSamples.push_back(ports_.paths.ToText(*sample));
+  }
+  sources.tempFolderLocation = preferences_.TempFolderLocation;
+  return sources;
+}
+
+std::vector<std::string> frmMain::AskForImageFolders() {
+  frmBrowseForImageFolders browser(ports_.paths, preferences_.ImageSourceFolder, this);
+  browser.exec();
+  return browser.Cancelled ? std::vector<std::string>{} : browser.Folders();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!isEnabled()) return;  // a run is under way
+  descriptions_->StorePlacings();
+  if (!session_.MayLeaveProject()) return;
+  ShutDown();
+  event->accept();
+  emit Closed();
+}
+
+void frmMain::ShutDown() {
+  frmShutdown shutdown;
+  shutdown.show();
+  const auto step = [&](const char* text) {
+    shutdown.ShowStep(text);
+    ports_.loop.Turn();
+  };
+  step("Saving Preferences");
+  preferences_.ProjectFolder = project_.LastProjectFolder;
+  WritePreferences(preferences_, preferencesFile_);
+  ShowBusyPointer(true);
+  step("Clearing Project");
+  project_.images.Clear();
+  imagesPage_->RefreshList();
+  EnableMainWindow(false);
+  if (preferences_.TempFolderAutoClear == 1) {
+    step("Clearing Temporary Folder");
+    ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
+  }
+  EnableMainWindow(true);
+  step("Cleanup");
+  descriptions_->hide();
+  create_.reset();
+  info_.reset();
+  tray_.reset();
+  ShowBusyPointer(false);
+}
+
+}  // namespace vantorium

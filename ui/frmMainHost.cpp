@@ -1,0 +1,98 @@
+// What the parts of the program below the window ask of it.
+#include "core/ImageListTexts.h"
+#include "ui/frmCreateGallery.h"
+#include "ui/frmImageDescriptions.h"
+#include "ui/frmImages.h"
+#include "ui/frmInfo.h"
+#include "ui/frmMain.h"
+#include "ui/frmProgress.h"
+#include "ui/frmSysTray.h"
+#include "ui/ports/QtColour.h"
+#include "ui/ports/QtText.h"
+#include "ui_frmMain.h"
+
+#include <QLabel>
+
+namespace vantorium {
+
+void frmMain::SetStatusText(const std::string& text) {
+  statusText_->setText(ToQt(text));
+}
+
+void frmMain::ShowInfoWindow(const std::string& text) {
+  info_->SetText(text);
+  info_->show();
+}
+
+void frmMain::HideInfoWindow() {
+  info_->hide();
+}
+
+void frmMain::EnableMainWindow(bool enabled) {
+  setEnabled(enabled);
+}
+
+void frmMain::RefreshTitleBar() {
+  setWindowTitle(ToQt("Vantorium 3.0 - [" + project_.ProjectFileName + "]"));
+}
+
+void frmMain::RefreshPreview() {
+  imagesPage_->RefreshPreview();
+}
+
+void frmMain::RefreshCounts() {
+  imageCount_->setText(ToQt(ImageCountText(static_cast<std::int32_t>(project_.images.Count()))));
+  RefreshPageCount();
+}
+
+void frmMain::RefreshPageCount() {
+  const auto images = static_cast<std::int32_t>(project_.images.Count());
+  findChild<QLabel*>("lblThumbnailsPageCount")
+      ->setText(ToQt(PageCountText(images, ThumbnailPageCount(project_.settings, images))));
+}
+
+void frmMain::HideDescriptionsWindow() {
+  descriptions_->hide();
+}
+
+void frmMain::SelectFirstTab() {
+  ui_->tsMain->setCurrentIndex(0);
+}
+
+void frmMain::FocusTitleField() {
+  findChild<QWidget*>("textGalleryTitle")->setFocus();
+}
+
+void frmMain::RebuildCustomColours() {
+  CustomColours colours = {};
+  for (std::size_t i = 0; i < colours.size(); ++i) {
+    colours[i] = FromQt(palette().color(static_cast<QPalette::ColorRole>(i)));
+  }
+  colours_.RebuildCustomColours(colours);
+}
+
+CreateChoice frmMain::AskWhatToCreate() {
+  return create_->Ask();
+}
+
+std::unique_ptr<ProgressWindow> frmMain::CreateProgressWindow() {
+  return std::make_unique<frmProgress>(log_, cancel_, ports_.shell, appPath_, this);
+}
+
+void frmMain::ShowBusyPointer(bool busy) {
+  if (busy) {
+    if (!pointer_) pointer_.emplace();
+  } else {
+    pointer_.reset();
+  }
+}
+
+void frmMain::EnableTrayIcon(bool enabled) {
+  tray_->SetEnabled(enabled);
+}
+
+void frmMain::ScrollIntoView(std::size_t position) {
+  imagesPage_->ScrollIntoView(position);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class frmPageLinks;
+}
+
+namespace vantorium {
+
+class FieldBinder;
+
+/// The page of the links between pages.
+class frmPageLinks : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit frmPageLinks(FieldBinder& binder, QWidget* parent = nullptr);
+  ~frmPageLinks() override;
+
+ private:
+  std::unique_ptr<Ui::frmPageLinks> ui_;
+};
+
+}  // namespace vantorium

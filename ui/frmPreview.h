@@ -1,0 +1,36 @@
+#pragma once
+
+#include "env/PathMap.h"
+
+#include <QDialog>
+#include <memory>
+#include <string>
+
+namespace Ui {
+class frmPreview;
+}
+
+namespace vantorium {
+
+/// A picture that fills the screen: pixel for pixel in the middle, what the screen has no room for cut off at all
+/// sides. Shown modal; a key or a click closes it.
+class frmPreview : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmPreview(const PathMap& paths, QWidget* parent = nullptr);
+  ~frmPreview() override;
+
+  /// `description` goes into the title. A `file` (path text) that can't be shown leaves the screen empty.
+  void SetPicture(const std::string& description, const std::string& file);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  const PathMap& paths_;
+  std::unique_ptr<Ui::frmPreview> ui_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "publish/ProgressModel.h"
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <bitset>
+#include <memory>
+
+namespace Ui {
+class frmProgress;
+}
+
+namespace vantorium {
+
+/// The progress window of a run in front of the main window, which the run disables. What the run tells it is drawn at
+/// most 30 times a second, the last of it always.
+class frmProgress : public QDialog, public ProgressModel {
+  Q_OBJECT
+
+ public:
+  /// `appPath`: the program's folder as path text.
+  frmProgress(UploadLog& log, CancelPoll& cancel, Shell& shell, std::string appPath, QWidget* parent);
+  ~frmProgress() override;
+
+  /// Escape and the title bar: as CancelButton.
+  void reject() override;
+
+ protected:
+  void Draw(ProgressPart part) override;
+
+ private:
+  void ComeUp();
+  void DrawChanges();
+  void DrawTexts();
+  void DrawLog();
+  void AppendLog(const std::string& log);
+  void DrawBars();
+  void DrawButtons();
+  [[nodiscard]] bool HasChanged(ProgressPart part) const { return changed_.test(static_cast<std::size_t>(part)); }
+
+  CancelPoll& cancel_;
+  Shell& shell_;
+  std::string appPath_;
+  std::unique_ptr<Ui::frmProgress> ui_;
+  std::bitset<16> changed_;   // by ProgressPart
+  QElapsedTimer drawn_;       // since the last drawing
+  QTimer due_;                // for the next one
+  std::size_t shownLog_ = 0;  // bytes of the log box's text that infoText shows
+  bool isAsking_ = false;
+};
+
+}  // namespace vantorium

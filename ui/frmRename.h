@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class frmRename;
+}
+
+namespace vantorium {
+
+class RenameModel;
+
+/// Asks for a new name of the current image or of all; the answer is in the model.
+class frmRename : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmRename(RenameModel& model, QWidget* parent = nullptr);
+  ~frmRename() override;
+
+  void accept() override;
+  void reject() override;
+
+ private:
+  void TakeNameBase(const QString& nameBase);
+
+  RenameModel& model_;
+  std::unique_ptr<Ui::frmRename> ui_;
+};
+
+}  // namespace vantorium

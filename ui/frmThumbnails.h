@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class frmThumbnails;
+}
+
+namespace vantorium {
+
+class ColourDialog;
+class FieldBinder;
+class PathMap;
+
+/// The page of the thumbnails and their pages.
+class frmThumbnails : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmThumbnails(FieldBinder& binder, const PathMap& paths, ColourDialog& colours, QWidget* parent = nullptr);
+  ~frmThumbnails() override;
+
+ private:
+  std::unique_ptr<Ui::frmThumbnails> ui_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "env/PathMap.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace vantorium {
+
+/// A drive of path text, and the native folder that it stands for.
+struct Drive {
+  char letter;
+  std::filesystem::path folder;
+};
+
+/// All drives whose folders exist, by letter.
+[[nodiscard]] std::vector<Drive> DrivesOf(const PathMap& paths);
+
+}  // namespace vantorium

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vantorium {
+
+inline constexpr std::int32_t kNormalWeight = 400;
+inline constexpr std::int32_t kBoldWeight = 700;
+
+/// Points that a font dialog offers.
+inline constexpr std::int32_t kSmallestFont = 1;
+inline constexpr std::int32_t kLargestFont = 999;
+
+/// Whether a weight shows as bold.
+[[nodiscard]] constexpr bool IsBold(std::int32_t weight) {
+  return weight >= 600;
+}
+
+/// The weight of a font whose bold switch was set so: a weight that shows that way already stays as it is.
+[[nodiscard]] constexpr std::int32_t WeightFor(bool bold, std::int32_t weight) {
+  if (bold == IsBold(weight)) return weight;
+  return bold ? kBoldWeight : kNormalWeight;
+}
+
+/// Whether a sample in this colour (0x00BBGGRR) is to be shown on a dark ground, by the eye's share of each channel.
+[[nodiscard]] constexpr bool NeedsDarkGround(std::uint32_t colour) {
+  const std::uint32_t light = 222 * (colour & 0xFF) + 707 * (colour >> 8 & 0xFF) + 71 * (colour >> 16 & 0xFF);
+  return light > 128U * 1000U;
+}
+
+}  // namespace vantorium

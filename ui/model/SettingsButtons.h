@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/GalleryProject.h"
+
+#include <span>
+#include <string_view>
+
+namespace vantorium {
+
+// The buttons of the settings pages that open a dialog on some settings, by their object names.
+
+/// Opens an editor for one text.
+struct CodeButton {
+  std::string_view button;
+  std::string_view title;
+  std::string GalleryProject::*code;
+};
+
+/// Opens an editor for two texts, one in front of something and one behind it.
+struct HeaderFooterButton {
+  std::string_view button;
+  std::string_view title;
+  std::string GalleryProject::*header;
+  std::string GalleryProject::*footer;
+};
+
+/// Opens the file dialog for the path in a text box.
+struct BackdropButton {
+  std::string_view button;
+  std::string_view title;
+  std::string GalleryProject::*path;
+};
+
+/// The colours of a kind of page.
+struct PageColourFields {
+  Colour GalleryProject::*background;
+  Colour GalleryProject::*text;
+  Colour GalleryProject::*link;
+  Colour GalleryProject::*visitedLink;
+  Colour GalleryProject::*activeLink;
+};
+
+/// Opens the dialog for the five colours of a page; it offers to copy those of the other kind of page.
+struct ColoursButton {
+  std::string_view button;
+  std::string_view title;
+  const PageColourFields& colours;
+  const PageColourFields& others;
+};
+
+/// Opens the dialog for a page link. An empty label: the link has no second picture.
+struct LinkButton {
+  std::string_view button;
+  std::string_view title;
+  std::string_view disabledGraphicLabel;
+  LinkSettings GalleryProject::*link;
+};
+
+struct FiltersButton {
+  std::string_view button;
+  std::string_view title;
+  ImageFilterSettings GalleryProject::*filters;
+};
+
+/// The quality of a watermarked picture is a setting of its filters.
+struct WatermarkButton {
+  std::string_view button;
+  std::string_view title;
+  WatermarkSettings GalleryProject::*watermark;
+  ImageFilterSettings GalleryProject::*filters;
+};
+
+[[nodiscard]] std::span<const CodeButton> CodeButtons();
+[[nodiscard]] std::span<const HeaderFooterButton> HeaderFooterButtons();
+[[nodiscard]] std::span<const BackdropButton> BackdropButtons();
+[[nodiscard]] std::span<const ColoursButton> ColoursButtons();
+[[nodiscard]] std::span<const LinkButton> LinkButtons();
+[[nodiscard]] std::span<const FiltersButton> FiltersButtons();
+[[nodiscard]] std::span<const WatermarkButton> WatermarkButtons();
+
+}  // namespace vantorium

@@ -1,0 +1,32 @@
+#include "ui/ports/QtCommonDialogs.h"
+
+#include "ui/frmFont.h"
+#include "ui/ports/QtColour.h"
+
+#include <QApplication>
+#include <QColorDialog>
+
+namespace vantorium {
+
+bool QtCommonDialogs::ShowColorDialog(std::uint32_t& colour, CustomColours& custom) {
+  for (std::size_t i = 0; i < custom.size(); ++i) QColorDialog::setCustomColor(static_cast<int>(i), ToQt(custom[i]));
+  QColorDialog dialog(ToQt(colour), QApplication::activeWindow());
+  dialog.setObjectName("ColorDialog");
+  dialog.setOption(QColorDialog::DontUseNativeDialog);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  colour = FromQt(dialog.selectedColor());
+  for (std::size_t i = 0; i < custom.size(); ++i) custom[i] = FromQt(QColorDialog::customColor(static_cast<int>(i)));
+  lastCustom_ = custom;
+  return true;
+}
+
+bool QtCommonDialogs::ShowFontDialog(FontDescription& font) {
+  frmFont dialog(
+      font, [this](std::uint32_t& colour) { return ShowColorDialog(colour, lastCustom_); },
+      QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return false;
+  font = dialog.Font();
+  return true;
+}
+
+}  // namespace vantorium

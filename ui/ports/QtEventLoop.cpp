@@ -1,0 +1,15 @@
+#include "ui/ports/QtEventLoop.h"
+
+#include <QCoreApplication>
+
+namespace vantorium {
+
+void QtEventLoop::Turn() {
+  QCoreApplication::processEvents();
+}
+
+void QtEventLoop::Wait() {
+  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+}  // namespace vantorium
