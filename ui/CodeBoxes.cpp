@@ -10,7 +10,7 @@ namespace {
 
 /// The box's lines with LF between them. The box's own toPlainText would turn blanks that do not break into others.
 QString LinesOf(const QPlainTextEdit& box) {
-  QString text = box.toPlainText();
+  QString text = box.document()->toRawText();
   text.replace(QChar::ParagraphSeparator, '\n');
   text.replace(QChar::LineSeparator, '\n');
   return text;

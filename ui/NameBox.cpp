@@ -13,7 +13,7 @@ QLineEdit* LineOf(QWidget& control, const NameField& name) {
   auto* list = qobject_cast<QComboBox*>(&control);
   if (list == nullptr) return qobject_cast<QLineEdit*>(&control);
   for (const std::string_view text : name.offers) list->addItem(ToQt(text));
-
+  list->setCompleter(nullptr);  // what is typed stays what is typed
   return list->lineEdit();
 }
 
@@ -42,7 +42,7 @@ bool NameBox::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const QString key = static_cast<QKeyEvent*>(event)->text();
     const QString typed = ToQt(NameKey(name_, FromQt(key)));
-    if (false) {
+    if (typed != key) {
       line_->insert(typed);
       return true;
     }

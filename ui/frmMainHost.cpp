@@ -72,7 +72,9 @@ void frmMain::RebuildCustomColours() {
 }
 
 CreateChoice frmMain::AskWhatToCreate() {
-  return create_->Ask();
+  CreateChoice choice = create_->Ask();
+  choice.UploadPort = ports_.ftpPort;
+  return choice;
 }
 
 std::unique_ptr<ProgressWindow> frmMain::CreateProgressWindow() {

@@ -44,6 +44,7 @@ class MainDesk {
                                                     folder.Path() / "program",
                                                     bundled,
                                                     {3, 0, 1},
+                                                    ftpPort,
                                                     2});
     QObject::connect(window.get(), &frmMain::Closed, [this] { ++closed; });
     window->Start(commandLine);
@@ -83,6 +84,7 @@ class MainDesk {
   ScriptedFolderBrowser folderBrowser;
   BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
   std::unique_ptr<frmMain> window;
+  std::uint16_t ftpPort = 21;
   int closed = 0;
 };
 

@@ -58,7 +58,7 @@ void Descriptions::TakePlacings() {
   if (!justLoaded_ && stored == taken_ && project_.ProjectFileName == takenFromFile_) return;
   shown_ = taken_ = stored;
   takenFromFile_ = project_.ProjectFileName;
-  justLoaded_ = true;
+  justLoaded_ = false;
 }
 
 void Descriptions::ChoosePlacement(const DescriptionKind& kind, Choice placement) {
@@ -74,7 +74,7 @@ void Descriptions::ChooseAlignment(const DescriptionKind& kind, Choice alignment
 
 ValueList Descriptions::Alignments(const DescriptionKind& kind) const {
   const Choice placement = Shown(kind).placement;
-  const bool leftOrRight = placement == 1;
+  const bool leftOrRight = placement == 1 || placement == 2;
   return AlignmentTexts(!leftOrRight);
 }
 

@@ -1,0 +1,132 @@
+// From the mouse to the web server: galleries and folders sent from the window to real servers on loopback.
+#include "tests/fakes/FtpServerProcess.h"
+#include "tests/ui/MainDesk.h"
+
+#include <QLineEdit>
+#include <QTimer>
+#include <map>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::FtpServerKind;
+using fakes::MainDesk;
+using fakes::Type;
+
+/// The files below a folder, by their paths.
+std::map<std::string, std::string> FilesBelow(const std::filesystem::path& folder) {
+  std::map<std::string, std::string> files;
+  if (!std::filesystem::is_directory(folder)) return files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+    if (!entry.is_regular_file()) continue;
+    files[entry.path().lexically_relative(folder).string()] = fakes::TemporaryFolder::ReadFile(entry.path());
+  }
+  return files;
+}
+
+class WindowToServer : public testing::TestWithParam<FtpServerKind> {
+ protected:
+  void SetUp() override {
+    if (!server.WhyNot().empty()) GTEST_SKIP() << server.WhyNot();
+    desk.ftpPort = server.Port();
+    desk.folder.Write("program/vantorium.pub",
+                      "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"Mine\"\r\n"
+                      "ServerURL1=\"elsewhere\"\r\nUserName1=\"nobody\"\r\nIndexFile1=\"web/start.htm\"\r\n"
+                      "TimeOut1=\"0\"\r\nJumpTo1=\"\"\r\n");
+    desk.Start();
+    desk.AddPhotograph("a.jpg");
+    desk.AddPhotograph("b.jpg");
+  }
+
+  /// Edits the server of the list in its dialog, which `button` of the create dialog opens.
+  void ChooseServer(QWidget& create, const char* button) {
+    DriveModal([&] { Click(create, button); },
+               [&](QWidget& publish) {
+                 Type(Find<QLineEdit>(publish, "textServerURL"), "127.0.0.1");
+                 Type(Find<QLineEdit>(publish, "textUserName"), ToQt(server.User()));
+                 Click(publish, "OKButton");
+               });
+  }
+  void Publish(const std::string& password) {
+    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+               [&](QWidget& create) {
+                 Click(create, "optionUploadGallery");
+                 ChooseServer(create, "btnBrowsePublishDestination");
+                 Type(Find<QLineEdit>(create, "textPublishPassword"), ToQt(password));
+                 Click(create, "OKButton");
+               });
+  }
+  [[nodiscard]] std::string Log() const { return desk.folder.Read("program/ftplog.txt"); }
+
+  fakes::FtpServerProcess server{GetParam()};
+  MainDesk desk;
+};
+
+INSTANTIATE_TEST_SUITE_P(To, WindowToServer, testing::Values(FtpServerKind::Vsftpd, FtpServerKind::Proftpd),
+                         [](const auto& test) { return test.param == FtpServerKind::Vsftpd ? "vsftpd" : "ProFTPD"; });
+
+TEST_P(WindowToServer, APublishedGalleryEqualsTheCreatedOne) {
+  Publish(server.Password());
+  EXPECT_TRUE(desk.boxes.boxes.empty()) << desk.TitleOfLastBox() << Log();
+  DriveModal([&] { desk.Trigger("tbMainCreate"); },
+             [&](QWidget& create) {
+               Click(create, "optionCreateGallery");
+               Type(Find<QLineEdit>(create, "textCreateFilePath"), "T:\\out\\start.htm");
+               Click(create, "OKButton");
+             });
+  const auto created = FilesBelow(desk.folder.Path() / "out");
+  EXPECT_GE(created.size(), 8U);
+  EXPECT_EQ(FilesBelow(server.Root() / "web"), created);
+  EXPECT_EQ(Log().find(server.Password()), std::string::npos);
+  EXPECT_TRUE(desk.window->isEnabled());
+}
+
+TEST_P(WindowToServer, AFolderIsUploadedWithAllItHolds) {
+  desk.folder.Write("site/index.htm", "index");
+  desk.folder.Write("site/sub/deep/x.txt", "x");
+  DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+             [&](QWidget& create) {
+               Click(create, "optionUploadFolder");
+               ChooseServer(create, "btnBrowseUploadDestination");
+               Type(Find<QLineEdit>(create, "textUploadSourceFolder"), "T:\\site");
+               Type(Find<QLineEdit>(create, "textUploadPassword"), ToQt(server.Password()));
+               Click(create, "OKButton");
+             });
+  EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(desk.folder.Path() / "site")) << Log();
+}
+
+/// The other server is started so that it takes every password.
+class ServerWithPassword : public WindowToServer {};
+INSTANTIATE_TEST_SUITE_P(To, ServerWithPassword, testing::Values(FtpServerKind::Proftpd),
+                         [](const auto&) { return "ProFTPD"; });
+
+TEST_P(ServerWithPassword, AWrongPasswordFailsWithALogThatCanBeReadAndAWindowToClose) {
+  // The failed run's window stays until its button, now "&Close", is pressed.
+  QTimer closer;
+  int shown = 0;
+  QObject::connect(&closer, &QTimer::timeout, [&] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() != "frmProgress" || !window->isVisible()) continue;
+      auto& button = Find<QAbstractButton>(*window, "CancelButton");
+      if (button.text() != "&Close") continue;
+      ++shown;
+      EXPECT_TRUE(Find<QWidget>(*window, "btnShowLog").isVisible());
+      Click(*window, "btnShowLog");
+      Click(button);
+    }
+  });
+  closer.start(20);
+  Publish("wrong");
+  EXPECT_EQ(shown, 1);
+  EXPECT_EQ(desk.shell.opened, (std::vector<std::string>{"T:\\program/ftplog.txt"}));
+  EXPECT_NE(Log().find("530"), std::string::npos) << Log();
+  EXPECT_EQ(Log().find("wrong"), std::string::npos);
+  EXPECT_TRUE(FilesBelow(server.Root()).empty());
+  EXPECT_TRUE(desk.window->isEnabled());
+}
+
+}  // namespace
+}  // namespace vantorium
