@@ -1,4 +1,4 @@
-#include "tests/fakes/RecordingShell.h"
+#include "tests/fakes/RecordingDesktop.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/frmAddFoldersProcess.h"
 #include "ui/frmFind.h"
@@ -100,7 +100,7 @@ TEST(frmRename, CancelAndEscapeChangeNoName) {
 }
 
 TEST(frmInvalidImage, EachAnswerHasItsNumber) {
-  fakes::RecordingShell shell;
+  fakes::RecordingDesktop shell;
   frmInvalidImage dialog(shell);
   EXPECT_EQ(dialog.windowTitle(), "Corrupted Image");
   EXPECT_EQ(Find<QLabel>(dialog, "lblInfo").text(), "The following Image appears to be corrupted:");
@@ -121,13 +121,13 @@ TEST(frmInvalidImage, EachAnswerHasItsNumber) {
 }
 
 TEST(frmInvalidImage, HasAnIconThatWarns) {
-  fakes::RecordingShell shell;
+  fakes::RecordingDesktop shell;
   frmInvalidImage question(shell, nullptr);
   EXPECT_FALSE(Find<QLabel>(question, "lblIcon").pixmap().isNull());
 }
 
 TEST(frmInvalidImage, EscapeAndEnterIgnore) {
-  fakes::RecordingShell shell;
+  fakes::RecordingDesktop shell;
   frmInvalidImage dialog(shell);
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
     InvalidImageAnswer answer = InvalidImageAnswer::Remove;

@@ -3,8 +3,8 @@
 #include "env/SystemClock.h"
 #include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/RecordingDesktop.h"
 #include "tests/fakes/RecordingMessageBox.h"
-#include "tests/fakes/RecordingShell.h"
 #include "tests/fakes/ScriptedFileBrowser.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/ui/FormDriver.h"
@@ -95,7 +95,7 @@ class ImagesDesk : public ImageListDisplay {
   Project project;
   RecordingMessageBox boxes;
   CountingEventLoop loop;
-  RecordingShell shell;
+  RecordingDesktop shell;
   SystemClock clock;
   PathMap paths{{}};
   RegionalFormats formats;

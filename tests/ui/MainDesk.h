@@ -3,8 +3,8 @@
 #include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/FixedClock.h"
 #include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/RecordingDesktop.h"
 #include "tests/fakes/RecordingMessageBox.h"
-#include "tests/fakes/RecordingShell.h"
 #include "tests/fakes/ScriptedCommonDialogs.h"
 #include "tests/fakes/ScriptedFileBrowser.h"
 #include "tests/fakes/ScriptedFolderBrowser.h"
@@ -75,7 +75,7 @@ class MainDesk {
   mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
   QtEventLoop loop;
-  RecordingShell shell;
+  RecordingDesktop shell;
   FixedClock clock;
   Screen screen;
   BoxTextRaster texts{20, 10};

@@ -8,7 +8,7 @@
 namespace vantorium::fakes {
 
 /// Records what the desktop is asked for.
-class RecordingShell : public Shell {
+class RecordingDesktop : public Shell {
  public:
   void Beep(BeepKind kind) override { beeps.push_back(kind); }
   void OpenFile(const std::string& path) override { opened.push_back(path); }
