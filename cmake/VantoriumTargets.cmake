@@ -31,6 +31,18 @@ function(vantorium_library name)
   target_precompile_headers(${name} PRIVATE <algorithm> <cstdint> <filesystem> <memory> <optional> <string> <string_view> <vector>)
 endfunction()
 
+# What each test that runs the program's code needs in its environment: what is known of foreign libraries is left out of
+# the sanitizers' reports.
+set(VANTORIUM_TEST_ENVIRONMENT "")
+if(VANTORIUM_SANITIZE)
+  set(known ${PROJECT_SOURCE_DIR}/cmake/sanitizers)
+  if(VANTORIUM_SANITIZE MATCHES thread)
+    set(VANTORIUM_TEST_ENVIRONMENT TSAN_OPTIONS=suppressions=${known}/threads.txt)
+  else()
+    set(VANTORIUM_TEST_ENVIRONMENT LSAN_OPTIONS=suppressions=${known}/leaks.txt:print_suppressions=0)
+  endif()
+endif()
+
 # vantorium_test(NAME LIBRARIES... FILES files...): one test program of one folder.
 function(vantorium_test name)
   cmake_parse_arguments(PARSE_ARGV 1 TEST "" "" "LINK;FILES")
@@ -40,16 +52,6 @@ function(vantorium_test name)
   target_compile_definitions(${name} PRIVATE VANTORIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <filesystem> <fstream> <memory> <string> <vector>)
   include(GoogleTest)
-  set(environment "")
-  if(VANTORIUM_SANITIZE)
-    # What is known of foreign libraries is left out of the reports.
-    set(known ${PROJECT_SOURCE_DIR}/cmake/sanitizers)
-    if(VANTORIUM_SANITIZE MATCHES thread)
-      set(environment ENVIRONMENT TSAN_OPTIONS=suppressions=${known}/threads.txt)
-    else()
-      set(environment ENVIRONMENT LSAN_OPTIONS=suppressions=${known}/leaks.txt:print_suppressions=0)
-    endif()
-  endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-    PROPERTIES TIMEOUT 300 LABELS ${name} ${environment})
+    PROPERTIES TIMEOUT 300 LABELS ${name} ENVIRONMENT "${VANTORIUM_TEST_ENVIRONMENT}")
 endfunction()
