@@ -35,8 +35,8 @@ struct DesktopPorts {
   std::filesystem::path programFolder;  ///< of the preferences, the server list and the log; native
   const BundledFiles& bundled;
   ProgramVersion version;
-  std::uint16_t ftpPort = 21;
   unsigned jobs = 1;  ///< photographs worked on at a time
+  std::uint16_t ftpPort = 21;
 };
 
 }  // namespace vantorium

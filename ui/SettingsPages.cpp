@@ -28,7 +28,7 @@ void KeepRoom(QWidget& control) {
 SettingsPages::SettingsPages(QWidget& form) : form_(form) {
   for (const ControlRule& rule : ControlRules()) {
     QWidget& control = Find<QWidget>(rule.control);
-    controls_[ToQt(rule.control)] = &control;
+    controls_.push_back(&control);
     if (rule.property == ControlProperty::Visible) KeepRoom(control);
   }
 }
@@ -41,8 +41,9 @@ Control& SettingsPages::Find(std::string_view name) const {
 }
 
 void SettingsPages::Refresh(const GalleryProject& project) {
-  for (const ControlRule& rule : ControlRules()) {
-    QWidget& control = *controls_[ToQt(rule.control)];
+  for (std::size_t i = 0; i < controls_.size(); ++i) {
+    const ControlRule& rule = ControlRules()[i];
+    QWidget& control = *controls_[i];
     if (rule.property == ControlProperty::Visible) {
       control.setVisible(rule.holds(project));
     } else {

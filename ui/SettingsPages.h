@@ -2,9 +2,10 @@
 
 #include "core/GalleryProject.h"
 
-#include <QMap>
 #include <QObject>
 #include <QWidget>
+#include <string_view>
+#include <vector>
 
 namespace vantorium {
 
@@ -25,7 +26,7 @@ class SettingsPages : public QObject {
   void RefreshLayoutPicture(const GalleryProject& project);
 
   QWidget& form_;
-  QMap<QString, QWidget*> controls_;
+  std::vector<QWidget*> controls_;  ///< of ControlRules, in its order
   int layoutPicture_ = 0;
 };
 

@@ -1,12 +1,10 @@
 #include "ui/frmMain.h"
 
-#include "core/ImageListTexts.h"
 #include "env/ProgramFolder.h"
 #include "publish/AsioFTPSocket.h"
 #include "publish/ServerListFile.h"
 #include "ui/SettingsDialogs.h"
 #include "ui/SettingsPages.h"
-#include "ui/frmBrowseForImageFolders.h"
 #include "ui/frmCaptions.h"
 #include "ui/frmCreateGallery.h"
 #include "ui/frmFileNameSettings.h"
@@ -131,10 +129,7 @@ void frmMain::ConnectCommands() {
   button("btnGallerySingleFrameNames", [this] { frmFrameNameSettings(binder_, this).exec(); });
   button("btnImagesDescriptions", [this] { ShowDescriptions(); });
 
-  connect(&binder_, &FieldBinder::Edited, this, [this] {
-    pages_->Refresh(project_.settings);
-    RefreshPageCount();
-  });
+  connect(&binder_, &FieldBinder::Edited, this, &frmMain::FollowSettings);
   connect(imagesPage_, &frmImages::CurrentChanged, this, [this] { descriptions_->FollowSelection(); });
   connect(imagesPage_, &frmImages::ListChanged, this, &frmMain::RefreshCounts);
   connect(imagesPage_, &frmImages::FullScreenPreviewAsked, this,
@@ -167,11 +162,19 @@ void frmMain::ShowPage(int index) {
   for (int i = 0; i < ui_->tsMain->count(); ++i) ui_->tsMain->widget(i)->setEnabled(i == index);
 }
 
-void frmMain::ShowProject() {
-  binder_.Refresh();
+void frmMain::FollowSettings() {
   pages_->Refresh(project_.settings);
+  RefreshPageCount();
+}
+
+void frmMain::ShowSettings() {
+  binder_.Refresh();
+  FollowSettings();
+}
+
+void frmMain::ShowProject() {
+  ShowSettings();
   imagesPage_->RefreshList();
-  descriptions_->FollowSelection();
   RefreshTitleBar();
   RefreshPreview();
   RefreshCounts();

@@ -111,6 +111,10 @@ class frmMain : public QMainWindow,
   void OnTrayMenu(const std::string& key);
 
   void ShowPage(int index);
+  /// Shows what depends on the settings.
+  void FollowSettings();
+  /// Shows the settings as they are now, for after something that repairs empty ones.
+  void ShowSettings();
   /// Shows the whole project anew.
   void ShowProject();
   void AddBrowserActions(QMenu& menu, const BrowserMenus& menus);

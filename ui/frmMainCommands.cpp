@@ -37,13 +37,13 @@ void frmMain::OpenProject() {
 void frmMain::SaveProject() {
   descriptions_->StorePlacings();
   session_.SaveProject();
-  ShowProject();
+  ShowSettings();
 }
 
 void frmMain::SaveProjectAs() {
   descriptions_->StorePlacings();
   session_.SaveProjectAs();
-  ShowProject();
+  ShowSettings();
 }
 
 void frmMain::ViewInBrowser(std::int16_t browserIndex) {
@@ -56,7 +56,7 @@ void frmMain::RunCreateGallery(GenerationMode mode, std::int16_t browserIndex) {
                          {*this, ports_.boxes, ports_.loop, ports_.clock, ports_.shell, ports_.files, ports_.formats,
                           cancel_, ports_.screen, ports_.texts, &ftp_, ports_.jobs});
   creator.CreateGallery(mode, browserIndex);
-  binder_.Refresh();  // empty settings were repaired
+  ShowSettings();
 }
 
 void frmMain::EditBrowserList() {

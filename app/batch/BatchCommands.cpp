@@ -86,7 +86,7 @@ class BatchProgram {
   mFileFunctions files_{paths_, formats_};
   Terminal terminal_;
   TerminalMessageBox boxes_{terminal_};
-  BatchClock present_{std::nullopt};  ///< the log tells when a run was, whatever creation time it has
+  SystemClock present_;  ///< the log tells when a run was, whatever creation time it has
   UploadLog log_{programFolder_, present_, boxes_};
   CancelCheck cancel_{boxes_};
   InterruptLoop loop_{cancel_};

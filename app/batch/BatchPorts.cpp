@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <csignal>
-#include <ctime>
 
 #include <unistd.h>
 
@@ -31,11 +30,7 @@ BoxAnswer TerminalMessageBox::Show(BoxKind /*kind*/, BoxButtons buttons, const s
 }
 
 CivilTime BatchClock::Now() const {
-  if (fixed_) return *fixed_;
-  const std::time_t now = std::time(nullptr);
-  std::tm local = {};
-  ::localtime_r(&now, &local);
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+  return fixed_ ? *fixed_ : SystemClock::Now();
 }
 
 void BatchShell::Beep(BeepKind /*kind*/) {}

@@ -3,11 +3,11 @@
 #include "app/batch/Terminal.h"
 #include "core/generation/CancelCheck.h"
 #include "core/generation/RunHost.h"
-#include "env/Clock.h"
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
 #include "env/Shell.h"
+#include "env/SystemClock.h"
 #include "publish/UploadLog.h"
 
 #include <optional>
@@ -29,7 +29,7 @@ class TerminalMessageBox : public MessageBoxPort {
 };
 
 /// The present time, or the one that the command line gives.
-class BatchClock : public Clock {
+class BatchClock : public SystemClock {
  public:
   explicit BatchClock(std::optional<CivilTime> fixed) : fixed_(fixed) {}
   [[nodiscard]] CivilTime Now() const override;

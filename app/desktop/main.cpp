@@ -22,8 +22,6 @@
 namespace vantorium {
 namespace {
 
-constexpr std::uint16_t kFtpPort = 21;  // RFC 959
-
 /// Everything around the main window, for the length of the program.
 class Desktop {
  public:
@@ -43,7 +41,6 @@ class Desktop {
             programFolder_,
             bundled_,
             {VANTORIUM_VERSION_MAJOR, VANTORIUM_VERSION_MINOR, VANTORIUM_VERSION_REVISION},
-            kFtpPort,
             std::max(1U, std::thread::hardware_concurrency())};
   }
   [[nodiscard]] std::string PathTextOf(const QString& argument) const {

@@ -115,17 +115,6 @@ ProcessResult Workplace::Run(const std::vector<std::string>& arguments) const {
   return ChildProcess(Options(arguments)).Finish();
 }
 
-std::map<std::string, std::string> FilesBelow(const fs::path& folder) {
-  std::map<std::string, std::string> files;
-  if (!fs::exists(folder)) return files;
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-    if (!entry.is_directory()) {
-      files[entry.path().lexically_relative(folder).generic_string()] = fakes::TemporaryFolder::ReadFile(entry.path());
-    }
-  }
-  return files;
-}
-
 std::string ListingOf(const fs::path& folder) {
   std::string listing;
   for (const auto& [name, bytes] : FilesBelow(folder)) listing += name + "\n";

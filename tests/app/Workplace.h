@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/app/ChildProcess.h"
+#include "tests/fakes/FilesBelow.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <filesystem>
@@ -45,8 +46,8 @@ class Workplace {
   fakes::TemporaryFolder folder_;
 };
 
-/// The bytes of all files below a folder by their paths in it, with slashes.
-[[nodiscard]] std::map<std::string, std::string> FilesBelow(const std::filesystem::path& folder);
+using fakes::FilesBelow;
+
 /// The paths alone, a line each.
 [[nodiscard]] std::string ListingOf(const std::filesystem::path& folder);
 

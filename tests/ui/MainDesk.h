@@ -44,8 +44,8 @@ class MainDesk {
                                                     folder.Path() / "program",
                                                     bundled,
                                                     {3, 0, 1},
-                                                    ftpPort,
-                                                    2});
+                                                    2,
+                                                    ftpPort});
     QObject::connect(window.get(), &frmMain::Closed, [this] { ++closed; });
     window->Start(commandLine);
     window->show();

@@ -1,31 +1,21 @@
 // From the mouse to the web server: galleries and folders sent from the window to real servers on loopback.
+#include "tests/fakes/FilesBelow.h"
 #include "tests/fakes/FtpServerProcess.h"
 #include "tests/ui/MainDesk.h"
 
 #include <QLineEdit>
 #include <QTimer>
-#include <map>
 
 namespace vantorium {
 namespace {
 
 using fakes::Click;
 using fakes::DriveModal;
+using fakes::FilesBelow;
 using fakes::Find;
 using fakes::FtpServerKind;
 using fakes::MainDesk;
 using fakes::Type;
-
-/// The files below a folder, by their paths.
-std::map<std::string, std::string> FilesBelow(const std::filesystem::path& folder) {
-  std::map<std::string, std::string> files;
-  if (!std::filesystem::is_directory(folder)) return files;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-    if (!entry.is_regular_file()) continue;
-    files[entry.path().lexically_relative(folder).string()] = fakes::TemporaryFolder::ReadFile(entry.path());
-  }
-  return files;
-}
 
 class WindowToServer : public testing::TestWithParam<FtpServerKind> {
  protected:

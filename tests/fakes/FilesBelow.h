@@ -1,0 +1,23 @@
+#pragma once
+
+#include "tests/fakes/TemporaryFolder.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+namespace vantorium::fakes {
+
+/// The bytes of the files in `folder` and all folders in it, by their names below it. None when there is no folder.
+[[nodiscard]] inline std::map<std::string, std::string> FilesBelow(const std::filesystem::path& folder) {
+  std::map<std::string, std::string> files;
+  if (!std::filesystem::exists(folder)) return files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+    if (!entry.is_directory()) {
+      files[entry.path().lexically_relative(folder).generic_string()] = TemporaryFolder::ReadFile(entry.path());
+    }
+  }
+  return files;
+}
+
+}  // namespace vantorium::fakes
