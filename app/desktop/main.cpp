@@ -22,6 +22,12 @@
 namespace vantorium {
 namespace {
 
+/// The port of FTP servers: 21 unless the variable VANTORIUM_FTP_PORT holds another.
+std::uint16_t FtpPort() {
+  const int port = qEnvironmentVariableIntValue("VANTORIUM_FTP_PORT");
+  return port > 0 && port <= 65535 ? static_cast<std::uint16_t>(port) : 21;
+}
+
 /// Everything around the main window, for the length of the program.
 class Desktop {
  public:
@@ -41,7 +47,8 @@ class Desktop {
             programFolder_,
             bundled_,
             {VANTORIUM_VERSION_MAJOR, VANTORIUM_VERSION_MINOR, VANTORIUM_VERSION_REVISION},
-            std::max(1U, std::thread::hardware_concurrency())};
+            std::max(1U, std::thread::hardware_concurrency()),
+            FtpPort()};
   }
   [[nodiscard]] std::string PathTextOf(const QString& argument) const {
     return argument.isEmpty() ? std::string() : paths_.ToTextFromUser(FromQt(argument));

@@ -1,0 +1,113 @@
+"""Runs that do not reach their end: cancelled while pictures are made or while a server is silent, and failed with a log
+to read. What was made until then is whole, and the window works on."""
+
+import os
+import socket
+
+from desk import expect, expect_within, files_below, wait_for_file
+from screen import Skipped
+
+
+def run(desk):
+    cancel_creation(desk)
+    write_server_list(desk)
+    cancel_before_silent_server(desk)
+    fail_with_wrong_password(desk)
+
+
+def cancel_creation(desk):
+    """Of far more and larger pictures than the keys take."""
+    os.makedirs(desk.path("many"))
+    for number in range(300):
+        os.link(desk.path("a.jpg"), desk.path("many", f"{number:03}.jpg"))
+    desk.make_project("many.gpj", "many")
+    with open(desk.path("many.gpj"), "r+b") as file:
+        larger = file.read().replace(b'HEIGHT="300"', b'HEIGHT="3000"')
+        file.seek(0)
+        file.write(larger)
+    screen = desk.screen
+    with desk.project("many.gpj"):
+        screen.press("ctrl+g")
+        screen.wait_for_window("Create Gallery")
+        screen.press("Return")
+        screen.wait_for_window("Creating Gallery")
+        screen.press("Escape")
+        screen.wait_for_window("Cancel Request")
+        screen.press("Escape")  # and this means No
+        screen.wait_for_no_window("Cancel Request")
+        screen.wait_for_window("Creating Gallery")
+        wait_for_file(desk.path("gallery", "Images", "005.jpg.jpg"))
+        confirm_cancel(screen, "Creating Gallery")
+        screen.wait_for_window("Creation cancelled")
+        screen.press("Return")
+        screen.wait_for_no_window("Creating Gallery")
+    made = files_below(desk.path("gallery"))
+    expect(False, "index.htm" in made, "index behind a cancelled run")
+    for name in made:
+        picture = desk.read("gallery", name)
+        expect(True, name.endswith(".jpg") and picture.endswith(b"\xff\xd9"), f"{name} is a whole picture")
+
+
+def confirm_cancel(screen, title):
+    screen.wait_for_window(title)
+    screen.press("Escape")
+    screen.wait_for_window("Cancel Request")
+    screen.press("Return")
+    screen.wait_for_no_window("Cancel Request")
+
+
+def write_server_list(desk):
+    """The program reads the server that a user had listed."""
+    desk.make_project("p.gpj", "a.jpg", "b.jpg")
+    with open(desk.path("config", "vantorium", "vantorium.pub"), "w", newline="\r\n") as file:
+        file.write('[PUBLISH]\nServerCount="1"\nPreferredServer="1"\nServerName1="Mine"\nServerURL1="127.0.0.1"\n'
+                   'UserName1="me"\nIndexFile1="web/index.htm"\nTimeOut1="0"\nJumpTo1=""\n')
+
+
+def publish(screen, password, user="me"):
+    screen.press("ctrl+g")
+    screen.wait_for_window("Create Gallery")
+    screen.press("alt+u", "Tab", "Tab", "space")
+    screen.wait_for_window("Select Web Server")
+    screen.write("alt+s", user)
+    screen.press("Return")
+    screen.wait_for_no_window("Select Web Server")
+    screen.wait_for_window("Create Gallery")
+    screen.type(password)
+    screen.press("Return")
+    screen.wait_for_no_window("Create Gallery")
+
+
+def cancel_before_silent_server(desk):
+    """One that takes the connection and never says a word."""
+    screen = desk.screen
+    with socket.create_server(("127.0.0.1", 0)) as server:
+        with desk.project("p.gpj", ftp_port=server.getsockname()[1]):
+            publish(screen, "secret")
+            confirm_cancel(screen, "Publishing Gallery")
+            screen.wait_for_window("Creation cancelled")
+            screen.press("Return")
+            screen.wait_for_no_window("Publishing Gallery")
+
+
+def fail_with_wrong_password(desk):
+    """The window stays with its log until it is closed."""
+    screen = desk.screen
+    with desk.ftp_server("proftpd") as server:
+        if server is None:
+            raise Skipped("ProFTPD is not installed")
+        with desk.project("p.gpj", ftp_port=server["port"]):
+            publish(screen, "wrong", server["user"])
+            screen.wait_for_window("FTP Error")
+            screen.press("Return")
+            screen.wait_for_no_window("FTP Error")
+            screen.wait_for_window("Publishing Gallery")
+            screen.press("alt+s")
+            wait_for_file(desk.path("opened"))
+            screen.press("Escape")
+            screen.wait_for_no_window("Publishing Gallery")
+        expect([], files_below(server["root"]), "files on the server")
+    expect_within("vantorium/ftplog.txt", desk.text("opened"), "what was opened")
+    log = desk.text("config", "vantorium", "ftplog.txt")
+    expect_within("530", log, "log")
+    expect(False, "wrong" in log, "password in the log")

@@ -1,0 +1,88 @@
+"""From the mouse to the web server: a gallery is published and a folder uploaded to a server that the user lists first.
+The server then holds what the batch program sends of the same."""
+
+import os
+
+from desk import expect, expect_equal_folders, expect_within, files_below
+from screen import Skipped
+
+
+def run(desk):
+    desk.make_project("p.gpj", "a.jpg", "b.jpg")
+    with desk.ftp_server("vsftpd") as server:
+        if server is None:
+            raise Skipped("vsftpd is not installed")
+        with desk.project("p.gpj", ftp_port=server["port"]):
+            publish(desk.screen, server)
+            upload(desk.screen, server)
+        check_log(desk, server)
+        check_published(desk, server)
+        check_uploaded(desk, server)
+
+
+def publish(screen, server):
+    screen.press("ctrl+g")
+    screen.wait_for_window("Create Gallery")
+    screen.press("alt+u", "Tab", "Tab", "space")  # the button behind the destination
+    screen.wait_for_window("File Error")  # there is no list of servers yet
+    screen.press("Return")
+    screen.wait_for_window("Select Web Server")
+    screen.press("alt+n")
+    screen.wait_for_window("New Web Server")
+    screen.type("Mine")
+    screen.press("Return")
+    screen.wait_for_window("Select Web Server")
+    screen.write("alt+u", "127.0.0.1")
+    screen.write("alt+s", server["user"])
+    screen.write("alt+p", "web")
+    screen.press("Return")
+    give_password_and_watch(screen, server, "Publishing Gallery")
+
+
+def upload(screen, server):
+    """The home's folder "bin", into a folder beside the gallery."""
+    screen.press("ctrl+g")
+    screen.wait_for_window("Create Gallery")
+    screen.press("alt+f")
+    screen.write("alt+s", "C:\\bin")
+    screen.press("alt+e", "Tab", "space")
+    screen.wait_for_window("Select Web Server")
+    screen.write("alt+p", "site")
+    screen.press("Return")
+    give_password_and_watch(screen, server, "Uploading Folder")
+
+
+def give_password_and_watch(screen, server, title):
+    """The password's box has the keyboard behind the choice of a server."""
+    screen.wait_for_no_window("Select Web Server")
+    screen.wait_for_window("Create Gallery")
+    screen.type(server["password"])
+    screen.press("Return")
+    screen.wait_for_no_window("Create Gallery")
+    screen.wait_for_no_window(title)
+    screen.wait_for_window("p.gpj")
+
+
+def check_log(desk, server):
+    log = desk.text("config", "vantorium", "ftplog.txt")
+    expect_within("End of Upload Log", log, "log")
+    expect(False, server["password"] in log, "password in the log")
+
+
+def to_server(desk, server, command, what, remote):
+    with open(desk.path("password"), "w") as file:
+        file.write(server["password"])
+    desk.batch(command, desk.path(what), "--server", "127.0.0.1", "--port", str(server["port"]), "--user",
+               server["user"], "--password-file", desk.path("password"), "--remote", remote)
+
+
+def check_published(desk, server):
+    to_server(desk, server, "publish", "p.gpj", "twin/index.htm")
+    expect(8, len(files_below(os.path.join(server["root"], "twin"))), "files of the gallery")
+    expect_equal_folders(os.path.join(server["root"], "twin"), os.path.join(server["root"], "web"))
+
+
+def check_uploaded(desk, server):
+    expect_equal_folders(desk.path("bin"), os.path.join(server["root"], "site"))
+    to_server(desk, server, "upload", "bin", "twinsite")
+    expect_equal_folders(os.path.join(server["root"], "twinsite"), os.path.join(server["root"], "site"))

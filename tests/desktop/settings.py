@@ -1,0 +1,72 @@
+"""A project is made, saved, opened again, previewed and created into a folder; what comes out equals what the batch
+program makes of the same project."""
+
+from desk import expect, expect_equal_folders, expect_within, wait_for_file
+
+
+def run(desk):
+    make_project(desk)
+    check_project(desk)
+    preview_and_create(desk)
+    desk.batch("create", desk.path("ferien.gpj"), desk.path("twin", "index.htm"))
+    expect_equal_folders(desk.path("twin"), desk.path("out"))
+    expect_within("VANTORIUM_TEMP/index.htm", desk.text("opened"), "what the preview opened")
+
+
+def make_project(desk):
+    """A new project with two photographs and a change on each page, saved and left."""
+    screen = desk.screen
+    with desk.window():
+        screen.wait_for_window("Gallery1")
+        screen.write("alt+t", "Ferien")
+        screen.press("alt+s")  # a slideshow
+
+        screen.press("ctrl+Tab", "alt+l")
+        screen.wait_for_window("Add")
+        screen.type('"a.jpg" "b.jpg"')
+        screen.press("Return")
+        screen.wait_for_no_window("Add")
+        screen.wait_for_window("Gallery1")
+
+        screen.press("ctrl+Tab", "alt+z")  # sizes in percent
+        screen.press("ctrl+Tab")
+        screen.write("alt+r", "2")
+        screen.write("alt+c", "1")
+        screen.press("ctrl+Tab", "alt+r")  # a regular caption
+        screen.press("ctrl+Tab", "alt+d")  # direct links
+        screen.press("ctrl+s")
+        screen.wait_for_window("Save Gallery Project As")
+        screen.type("C:\\ferien")
+        screen.press("Return")
+        screen.wait_for_window("ferien.gpj")
+        desk.leave()
+
+
+def check_project(desk):
+    shown = desk.show("ferien.gpj")
+    project = shown["project"]
+    for field, value in {"textGalleryTitle": "Ferien", "checkGallerySlideShow": 1, "textThumbnailsTableRows": "2",
+                         "textThumbnailsTableColumns": "1", "checkCaptionsImagesRegular": 1,
+                         "checkPageLinksThumbnailDirectLinks": 1}.items():
+        expect(value, project[field], field)
+    expect(["a.jpg", "b.jpg"], [image["ImageName"] for image in shown["images"]], "images")
+    expect(1, shown["thumbnailPageCount"], "pages")
+    desk.batch("save", desk.path("ferien.gpj"), desk.path("again.gpj"))
+    expect(desk.read("again.gpj"), desk.read("ferien.gpj"), "the project written by the batch program")
+
+
+def preview_and_create(desk):
+    """The project on the command line is previewed, created and left."""
+    screen = desk.screen
+    with desk.project("ferien.gpj"):
+        screen.press("ctrl+i")
+        wait_for_file(desk.path("opened"))
+        screen.wait_for_window("ferien.gpj")
+        screen.press("ctrl+g")
+        screen.wait_for_window("Create Gallery")
+        screen.press("alt+l", "Tab", "ctrl+a")  # the box behind the option
+        screen.type("C:\\out\\index.htm")
+        screen.press("Return")
+        screen.wait_for_no_window("Create Gallery")
+        screen.wait_for_no_window("Creating Gallery")
+        wait_for_file(desk.path("out", "index.htm"))
