@@ -1,5 +1,8 @@
 #include "env/BrowserEntry.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace vantorium {
 
 void BrowserEntry::ComeUp() {
@@ -15,6 +18,13 @@ void BrowserEntry::ChangeName(const std::string& text) {
 void BrowserEntry::ChangeLocation(const std::string& text) {
   texts_.Location = text;
   EnableOK();
+}
+
+void BrowserEntry::LeaveLocation(const PathMap& paths) {
+  std::error_code ignored;
+  std::string& location = texts_.Location;
+  if (location.find(' ') != std::string::npos && !std::filesystem::exists(location, ignored)) return;
+  location = paths.ToTextIfNative(location);
 }
 
 void BrowserEntry::TakeExecutable(const std::string& path) {

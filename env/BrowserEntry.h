@@ -1,5 +1,6 @@
 #pragma once
 
+#include "env/PathMap.h"
 #include "env/Preferences.h"
 
 #include <string>
@@ -16,6 +17,9 @@ class BrowserEntry {
   /// A change of the text boxes browserName and browserLocation.
   void ChangeName(const std::string& text);
   void ChangeLocation(const std::string& text);
+  /// browserLocation was left. A native path becomes path text; one with blanks that no file has may be a command line,
+  /// and stays.
+  void LeaveLocation(const PathMap& paths);
   /// The file that was chosen behind btnBrowse; none when it is empty. It enables OKButton whatever the name is.
   void TakeExecutable(const std::string& path);
   /// OKButton and the cancel button, which both hide the dialog. OKButton does nothing while it is disabled.

@@ -156,8 +156,9 @@ std::int16_t mFTP::FTPExecute(const std::string& command, std::string& replyText
 }
 
 std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
+  const bool wasCancelled = cancel_.CancelRequested();
   FTPReply reply;
-  for (;;) {
+  do {
     const std::string piece = sockCmd_->Read(kReplyPiece);
     if (piece.empty()) break;
     if (logging == Logging::Logged) FTPLog(piece);
@@ -168,8 +169,9 @@ std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
       return reply.Code();
     }
     loop_.Turn();
-  }
-  sockCmd_->Close();
+  } while (!wasCancelled);
+  // A server that is too slow for a user who has cancelled still gets the command that clears up.
+  if (!wasCancelled) sockCmd_->Close();
   return 0;
 }
 

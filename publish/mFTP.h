@@ -19,8 +19,8 @@ namespace vantorium {
 struct FTPTimeLimits {
   /// Of each blocking call on the control connection.
   std::chrono::milliseconds control{60000};
-  /// The same once a cancel is confirmed: the server may still answer, but the user waits no longer for it.
-  std::chrono::milliseconds afterCancel{10000};
+  /// The same once a cancel is confirmed: a server that is near answers by then, and the user waits for no other.
+  std::chrono::milliseconds afterCancel{30};
 };
 
 /// A small, strictly synchronous FTP client (RFC 959) that only stores files, in active mode. A session is FTPConnect,

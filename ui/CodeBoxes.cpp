@@ -8,12 +8,16 @@
 namespace vantorium {
 namespace {
 
+/// With LF for each character at which a box begins a new line.
+QString WithLf(QString text) {
+  constexpr QChar kEnds[] = {QChar::ParagraphSeparator, QChar::LineSeparator, QChar(0xFDD0), QChar(0xFDD1)};
+  for (const QChar end : kEnds) text.replace(end, '\n');
+  return text;
+}
+
 /// The box's lines with LF between them. The box's own toPlainText would turn blanks that do not break into others.
 QString LinesOf(const QPlainTextEdit& box) {
-  QString text = box.document()->toRawText();
-  text.replace(QChar::ParagraphSeparator, '\n');
-  text.replace(QChar::LineSeparator, '\n');
-  return text;
+  return WithLf(box.document()->toRawText());
 }
 
 void Select(QPlainTextEdit& box, std::string_view inFront, std::size_t length) {
@@ -32,7 +36,7 @@ void ShowCode(QPlainTextEdit& box, std::string_view text) {
 
 std::string CodeOf(const QPlainTextEdit& box, std::string_view shown) {
   const QString lines = LinesOf(box);
-  return lines == LinesToQt(shown) ? std::string(shown) : LinesFromQt(lines);
+  return lines == WithLf(LinesToQt(shown)) ? std::string(shown) : LinesFromQt(lines);
 }
 
 bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, MessageBoxPort& port) {

@@ -1,5 +1,7 @@
 #include "ui/ElidedLabel.h"
 
+#include "ui/PlainToolTip.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -27,7 +29,7 @@ bool ElidedLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || fontMetrics().horizontalAdvance(text()) <= contentsRect().width()) {
     return QLabel::event(event);
   }
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), PlainTip(text()), this);
   return true;
 }
 

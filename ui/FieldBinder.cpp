@@ -3,6 +3,7 @@
 #include "env/PathMap.h"
 #include "env/RuntimeFailure.h"
 #include "ui/ColourButton.h"
+#include "ui/OneLineValidator.h"
 #include "ui/UpDown.h"
 #include "ui/model/ColourDialog.h"
 #include "ui/ports/QtText.h"
@@ -25,6 +26,7 @@ void ShowText(QLineEdit& control, const QString& text) {
 
 void FieldBinder::Bind(QLineEdit& control, std::string GalleryProject::*field) {
   fields_.push_back(&FieldOf(field));
+  control.setValidator(new OneLineValidator(&control));
   connect(&control, &QLineEdit::textEdited, this, [this, field](const QString& text) {
     Edit([&](ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
   });

@@ -79,7 +79,7 @@ void SettingsDialogs::Edit(const ColoursButton& row) {
   });
 }
 
-// Each change counts as an edit at once: the dialog has no way to take one back.
+// A change counts as an edit even when it was typed back: the dialog has no Cancel.
 void SettingsDialogs::Edit(const LinkButton& row) {
   bool edited = false;
   const LinkSettings link = EditLink(

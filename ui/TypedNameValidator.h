@@ -12,10 +12,14 @@ class TypedNameValidator : public QValidator {
  public:
   using QValidator::QValidator;
 
-  State validate(QString& text, int& /*cursor*/) const override {
-    text = ToQt(TypedName(FromQt(text)));
+  State validate(QString& text, int& cursor) const override {
+    cursor = static_cast<int>(Typed(text.left(cursor)).size());
+    text = Typed(text);
     return Acceptable;
   }
+
+ private:
+  static QString Typed(const QString& text) { return ToQt(TypedName(FromQt(text))); }
 };
 
 }  // namespace vantorium

@@ -1,6 +1,7 @@
 #include "ui/frmAddBrowser.h"
 
 #include "env/BrowserEntry.h"
+#include "ui/OneLineValidator.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmAddBrowser.h"
 
@@ -16,6 +17,7 @@ frmAddBrowser::frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const Path
       ui_(std::make_unique<Ui::frmAddBrowser>()) {
   ui_->setupUi(this);
   setWindowTitle(ToQt(entry_.Title()));
+  for (QLineEdit* box : {ui_->browserName, ui_->browserLocation}) box->setValidator(new OneLineValidator(box));
   ui_->browserName->setText(ToQt(entry_.Texts().Name));
   ui_->browserLocation->setText(ToQt(entry_.Texts().Location));
   EnableOK();
@@ -36,10 +38,9 @@ void frmAddBrowser::ChangeLocation() {
 }
 
 void frmAddBrowser::ShowLocationAsPathText() {
-  const std::string& location = entry_.Texts().Location;
-  if (const std::string text = paths_.ToTextIfNative(location); text != location) {
-    ui_->browserLocation->setText(ToQt(text));
-  }
+  entry_.LeaveLocation(paths_);
+  const QString location = ToQt(entry_.Texts().Location);
+  if (ui_->browserLocation->text() != location) ui_->browserLocation->setText(location);
 }
 
 void frmAddBrowser::Browse() {

@@ -33,6 +33,11 @@ void frmBrowseForFolder::reject() {
   QDialog::reject();
 }
 
+void frmBrowseForFolder::showEvent(QShowEvent* event) {
+  Cancelled = false;
+  QDialog::showEvent(event);
+}
+
 std::optional<std::string> QtFolderBrowser::BrowseForFolder(const std::string& title,
                                                             const std::string& initialFolder) {
   frmBrowseForFolder form(paths_, QApplication::activeWindow());

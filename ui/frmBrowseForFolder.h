@@ -29,6 +29,9 @@ class frmBrowseForFolder : public QDialog {
 
   void reject() override;
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   LocalFolders folders_;
   std::unique_ptr<Ui::frmBrowseForFolder> ui_;

@@ -1,6 +1,7 @@
 #include "ui/frmBrowserList.h"
 
 #include "env/BrowserList.h"
+#include "ui/PlainToolTip.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmBrowserList.h"
 
@@ -40,7 +41,7 @@ void frmBrowserList::ShowEntries() {
   ui_->lvBrowsers->clear();
   for (const Browser& browser : list_.Entries()) {
     auto* item = new QTreeWidgetItem(ui_->lvBrowsers, {ToQt(browser.Name), ToQt(browser.Location)});
-    item->setToolTip(1, ToQt(browser.Location));
+    item->setToolTip(1, PlainTip(ToQt(browser.Location)));
   }
   if (list_.Selected()) {
     ui_->lvBrowsers->setCurrentItem(ui_->lvBrowsers->topLevelItem(static_cast<int>(*list_.Selected())));

@@ -1,6 +1,7 @@
 #include "ui/frmCreateGallery.h"
 
 #include "ui/FocusLoss.h"
+#include "ui/OneLineValidator.h"
 #include "ui/TypedKeys.h"
 #include "ui/frmPublish.h"
 #include "ui/ports/QtText.h"
@@ -71,6 +72,7 @@ void frmCreateGallery::BindSwitch(QCheckBox& control, CreateGalleryModel::Switch
 }
 
 void frmCreateGallery::BindText(QLineEdit& control, Edit edit) {
+  control.setValidator(new OneLineValidator(&control));
   connect(&control, &QLineEdit::textEdited, this, [this, edit](const QString& text) {
     (model_.*edit)(FromQt(text));
     ShowPasswords();

@@ -1,5 +1,6 @@
 #include "ui/frmFont.h"
 
+#include "ui/OneLineValidator.h"
 #include "ui/model/FontModel.h"
 #include "ui/ports/QtColour.h"
 #include "ui/ports/QtText.h"
@@ -38,6 +39,7 @@ QStringList Families() {
 frmFont::frmFont(const FontDescription& font, PickColour pickColour, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmFont>()), font_(font), pickColour_(std::move(pickColour)) {
   ui_->setupUi(this);
+  ui_->textFontName->setValidator(new OneLineValidator(this));
   ui_->listFontNames->addItems(Families());
   ui_->spinFontSize->setRange(kSmallestFont, kLargestFont);
   ShowFont();

@@ -1,6 +1,7 @@
 #include "ui/frmLinks.h"
 
 #include "ui/FocusLoss.h"
+#include "ui/OneLineValidator.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmLinks.h"
 
@@ -23,6 +24,9 @@ frmLinks::frmLinks(const std::string& title, const std::string& disabledGraphicL
   for (QWidget* control : std::initializer_list<QWidget*>{ui_->lblFirstLastLink, ui_->textLinkGraphicDisabled,
                                                           ui_->btnLinkGraphicDisabledBrowse}) {
     control->setVisible(!disabledGraphicLabel.empty());
+  }
+  for (QLineEdit* box : {ui_->textLinkLabel, ui_->textLinkGraphic, ui_->textLinkGraphicDisabled}) {
+    box->setValidator(new OneLineValidator(box));
   }
   ui_->textLinkLabel->setText(ToQt(model_.Link().textLinkLabel));
   ShowGraphics();

@@ -3,6 +3,7 @@
 #include "env/ProgramFolder.h"
 #include "publish/AsioFTPSocket.h"
 #include "publish/ServerListFile.h"
+#include "ui/PlainToolTip.h"
 #include "ui/SettingsDialogs.h"
 #include "ui/SettingsPages.h"
 #include "ui/frmCaptions.h"
@@ -24,6 +25,7 @@
 
 #include <QLabel>
 #include <QLayout>
+#include <QMenu>
 #include <QToolButton>
 
 namespace vantorium {
@@ -63,8 +65,10 @@ void frmMain::Step() {
 
 void frmMain::BuildTray() {
   tray_ = std::make_unique<frmSysTray>(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"));
-  connect(tray_.get(), &frmSysTray::MenuClick, this,
-          [this](int /*index*/, const QString& key) { OnTrayMenu(FromQt(key)); });
+  // Behind the menu's own work: the tray with its menu goes when the program is closed.
+  connect(
+      tray_.get(), &frmSysTray::MenuClick, this, [this](int /*index*/, const QString& key) { OnTrayMenu(FromQt(key)); },
+      Qt::QueuedConnection);
   connect(tray_.get(), &frmSysTray::SysTrayDoubleClick, this, &frmMain::BringToFront);
   connect(tray_.get(), &frmSysTray::SysTrayMouseDown, this, [this](Qt::MouseButton button) {
     if (button == Qt::RightButton) tray_->ShowMenu();
@@ -85,6 +89,7 @@ void frmMain::BuildPages() {
 
   statusText_ = new QLabel;
   statusText_->setObjectName("sbMainText");
+  statusText_->setTextFormat(Qt::PlainText);
   imageCount_ = new QLabel;
   imageCount_->setObjectName("sbMainCount");
   ui_->sbMain->addWidget(statusText_, 1);
@@ -101,6 +106,9 @@ void frmMain::BuildPages() {
                               ports_.fileBrowser, ports_.folderBrowser},
       this);
   info_ = std::make_unique<frmInfo>(this);
+  for (QWidget* control : findChildren<QWidget*>()) {
+    if (Qt::mightBeRichText(control->toolTip())) new PlainToolTip(*control);
+  }
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -138,7 +146,11 @@ void frmMain::ConnectCommands() {
             preview.SetPicture(description, file);
             preview.exec();
           });
-  static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView))->setPopupMode(QToolButton::MenuButtonPopup);
+  auto* view = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
+  auto* dropDown = new QMenu(view);
+  dropDown->setObjectName("tbMainViewDropDown");
+  view->setMenu(dropDown);
+  view->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void frmMain::Start(const std::string& commandLine) {

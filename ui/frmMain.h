@@ -16,6 +16,7 @@
 #include "ui/model/SampleDialog.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 #include <optional>
 
@@ -144,6 +145,7 @@ class frmMain : public QMainWindow,
   std::unique_ptr<frmSysTray> tray_;
   std::unique_ptr<frmInfo> info_;
   std::unique_ptr<frmCreateGallery> create_;
+  QPointer<QWidget> focus_;  // what had the focus when the window was disabled
   // The following are children of this window.
   QLabel* statusText_ = nullptr;
   QLabel* imageCount_ = nullptr;

@@ -19,21 +19,34 @@
 
 #include <QCloseEvent>
 #include <QMenu>
-#include <QToolButton>
 
 namespace vantorium {
+namespace {
 
+/// An entry of the menu may be what asks for this, so its entries live until it has been handled.
+void RemoveEntries(QMenu& menu) {
+  for (QAction* entry : menu.actions()) {
+    menu.removeAction(entry);
+    if (entry->parent() == &menu) entry->deleteLater();
+  }
+}
+
+}  // namespace
+
+// The descriptions window keeps its lists to itself until it is closed: what is saved or made has them too, also what
+// is saved because the user leaves it for another project.
 void frmMain::NewProject() {
+  descriptions_->StorePlacings();
   session_.NewProject();
   ShowProject();
 }
 
 void frmMain::OpenProject() {
+  descriptions_->StorePlacings();
   session_.OpenProject();
   ShowProject();
 }
 
-// The descriptions window keeps its lists to itself until it is closed: what is saved or made has them too.
 void frmMain::SaveProject() {
   descriptions_->StorePlacings();
   session_.SaveProject();
@@ -69,14 +82,10 @@ void frmMain::ShowBrowserList(BrowserList& list) {
 }
 
 void frmMain::ShowBrowserMenus(const BrowserMenus& menus) {
-  ui_->menuActionsView->clear();
-  AddBrowserActions(*ui_->menuActionsView, menus);
-  auto* button = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
-  delete button->menu();
-  auto* dropDown = new QMenu(button);
-  dropDown->setObjectName("tbMainViewDropDown");
-  AddBrowserActions(*dropDown, menus);
-  button->setMenu(dropDown);
+  for (QMenu* menu : {ui_->menuActionsView, findChild<QMenu*>("tbMainViewDropDown")}) {
+    RemoveEntries(*menu);
+    AddBrowserActions(*menu, menus);
+  }
 }
 
 void frmMain::AddBrowserActions(QMenu& menu, const BrowserMenus& menus) {
@@ -92,7 +101,8 @@ void frmMain::AddBrowserActions(QMenu& menu, const BrowserMenus& menus) {
         if (click.kind == BrowserClick::Kind::View) ViewInBrowser(click.BrowserIndex);
         if (click.kind == BrowserClick::Kind::List) EditBrowserList();
       });
-      action->setObjectName(ToQt(entry.Key));
+      const bool isArray = &menu == ui_->menuActionsView && click.kind == BrowserClick::Kind::View;
+      action->setObjectName(isArray ? "menuActionsViewBrowser" + QString::number(click.BrowserIndex) : ToQt(entry.Key));
     }
   }
 }
@@ -138,6 +148,7 @@ void frmMain::BringToFront() {
 }
 
 void frmMain::OnTrayMenu(const std::string& key) {
+  if (splash_) return;  // the window is not ready
   if (key == "vantorium") BringToFront();
   if (key == "help") ShowHelp();
   if (key == "about") ShowAbout();
@@ -171,7 +182,8 @@ std::vector<std::string> frmMain::AskForImageFolders() {
 
 void frmMain::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!isEnabled()) return;  // a run is under way
+  // A run or a dialog is under way, and the tray could close the window all the same.
+  if (!isEnabled() || QApplication::activeModalWidget() != nullptr) return;
   descriptions_->StorePlacings();
   if (!session_.MayLeaveProject()) return;
   ShutDown();

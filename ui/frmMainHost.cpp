@@ -28,8 +28,13 @@ void frmMain::HideInfoWindow() {
   info_->hide();
 }
 
+// A disabled window gives its focus away; whoever types on behind a save goes on where they were.
 void frmMain::EnableMainWindow(bool enabled) {
+  if (!enabled && isEnabled()) focus_ = focusWidget();
   setEnabled(enabled);
+  if (!enabled || focus_ == nullptr) return;
+  if (focus_->isVisible()) focus_->setFocus();
+  focus_.clear();
 }
 
 void frmMain::RefreshTitleBar() {

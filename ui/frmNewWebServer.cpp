@@ -1,5 +1,6 @@
 #include "ui/frmNewWebServer.h"
 
+#include "ui/OneLineValidator.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmNewWebServer.h"
 
@@ -7,6 +8,7 @@ namespace vantorium {
 
 frmNewWebServer::frmNewWebServer(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmNewWebServer>()) {
   ui_->setupUi(this);
+  ui_->textServerName->setValidator(new OneLineValidator(this));
   ui_->textServerName->setText(ToQt(model_.Text()));
   ui_->textServerName->selectAll();
   connect(ui_->textServerName, &QLineEdit::textChanged, this, [this](const QString& text) {

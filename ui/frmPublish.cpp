@@ -1,5 +1,6 @@
 #include "ui/frmPublish.h"
 
+#include "ui/OneLineValidator.h"
 #include "ui/TypedKeys.h"
 #include "ui/frmNewWebServer.h"
 #include "ui/ports/QtText.h"
@@ -36,6 +37,7 @@ frmPublish::frmPublish(std::filesystem::path serverListFile, MessageBoxPort& box
 frmPublish::~frmPublish() = default;
 
 void frmPublish::BindField(QLineEdit& control, ServerField field) {
+  control.setValidator(new OneLineValidator(&control));
   new TypedKeys(control,
                 [field](const QString& /*before*/, const QString& key) { return ToQt(ServerKey(field, FromQt(key))); });
   connect(&control, &QLineEdit::textEdited, this, [this, field](const QString& text) {

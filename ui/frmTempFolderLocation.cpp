@@ -1,5 +1,6 @@
 #include "ui/frmTempFolderLocation.h"
 
+#include "ui/OneLineValidator.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmTempFolderLocation.h"
 
@@ -8,6 +9,7 @@ namespace vantorium {
 frmTempFolderLocation::frmTempFolderLocation(TempFolderLocation& model, FolderBrowser& folders, QWidget* parent)
     : QDialog(parent), model_(model), ui_(std::make_unique<Ui::frmTempFolderLocation>()) {
   ui_->setupUi(this);
+  ui_->textTempFolderLocation->setValidator(new OneLineValidator(this));
   ShowModel();
   ui_->textTempFolderLocation->selectAll();
   connect(ui_->textTempFolderLocation, &QLineEdit::textEdited, this,

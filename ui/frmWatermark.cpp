@@ -1,6 +1,7 @@
 #include "ui/frmWatermark.h"
 
 #include "ui/AlignWidths.h"
+#include "ui/CodeBoxes.h"
 #include "ui/FocusLoss.h"
 #include "ui/WaitPointer.h"
 #include "ui/ports/QtText.h"
@@ -39,7 +40,7 @@ frmWatermark::~frmWatermark() = default;
 void frmWatermark::ShowSettings() {
   const WatermarkSettings& settings = model_->Settings();
   ui_->checkUseWatermark->setChecked(settings.checkUseWatermark == 1);
-  ui_->textWatermark->setPlainText(LinesToQt(settings.textWatermark));
+  ShowCode(*ui_->textWatermark, settings.textWatermark);
   ui_->textWatermark->selectAll();
   ShowLines(*ui_->textWatermark, 3);
   for (const std::string_view placement : TextPlacements()) ui_->comboTextPlacement->addItem(ToQt(placement));
@@ -50,7 +51,7 @@ void frmWatermark::ShowSettings() {
 void frmWatermark::ConnectCaption() {
   connect(ui_->checkUseWatermark, &QCheckBox::clicked, this, [this](bool use) { model_->SetUseWatermark(use); });
   connect(ui_->textWatermark, &QPlainTextEdit::textChanged, this,
-          [this] { model_->EditText(LinesFromQt(ui_->textWatermark->toPlainText())); });
+          [this] { model_->EditText(CodeOf(*ui_->textWatermark)); });
   ui_->textWatermark->installEventFilter(this);
   connect(ui_->comboTextPlacement, &QComboBox::currentIndexChanged, this,
           [this](int index) { model_->SetPlacement(static_cast<std::int16_t>(index)); });

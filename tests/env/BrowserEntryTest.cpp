@@ -1,4 +1,5 @@
 #include "env/BrowserEntry.h"
+#include "tests/fakes/TemporaryFolder.h"
 
 namespace vantorium {
 namespace {
@@ -49,6 +50,25 @@ TEST(BrowserEntry, NoChosenExecutableLeavesTheLocation) {
   entry.ComeUp();
   entry.TakeExecutable("");
   EXPECT_EQ(entry.Texts(), (Browser{"a", "b"}));
+}
+
+TEST(BrowserEntry, ANativePathBecomesPathTextAndACommandLineStays) {
+  const fakes::TemporaryFolder disk;
+  const PathMap paths{{{'C', disk.Path().string()}}};
+  const std::string folder = disk.Write("bin dir/fox", "").parent_path().string();
+  const std::string usr = disk.Path().string() + "/usr";
+  for (const auto& [typed, stored] : {std::pair{folder + "/fox", std::string("C:\\bin dir\\fox")},
+                                      {folder + "/fox --new", folder + "/fox --new"},
+                                      {usr + "/fox", "C:\\usr\\fox"},
+                                      {usr + "/fox --new", usr + "/fox --new"},
+                                      {"fox", "fox"},
+                                      {"C:\\bin\\fox -x", "C:\\bin\\fox -x"},
+                                      {"/" + std::string(100000, 'a') + " b", "/" + std::string(100000, 'a') + " b"},
+                                      {"", ""}}) {
+    BrowserEntry entry("Add Browser", {"a", typed});
+    entry.LeaveLocation(paths);
+    EXPECT_EQ(entry.Texts(), (Browser{"a", stored})) << typed;
+  }
 }
 
 TEST(BrowserEntry, OnlyAnEnabledOKConfirms) {

@@ -4,6 +4,8 @@
 #include "tests/fakes/FtpServerProcess.h"
 #include "tests/publish/NetworkClient.h"
 
+#include <thread>
+
 #include <gtest/gtest.h>
 
 namespace vantorium {
@@ -111,6 +113,20 @@ TEST_P(FTPServers, KeepNothingOfAFileThatIsCancelled) {
   EXPECT_TRUE(client.cancel.isRequested);
   EXPECT_TRUE(client.boxes.boxes.empty());
   EXPECT_FALSE(fs::exists(server.Root() / "large")) << client.window.log;
+}
+
+TEST_P(FTPServers, KeepNothingOfAFileWhoseCancellingUserDoesNotWaitForThem) {
+  NetworkClient hasty({std::chrono::seconds(20), std::chrono::milliseconds(1)});
+  ASSERT_TRUE(hasty.ftp.FTPConnect("127.0.0.1", server.Port()));
+  ASSERT_TRUE(hasty.ftp.FTPLogin(server.User(), server.Password()));
+  fs::resize_file(hasty.folder.Write("large", ""), std::uintmax_t{1} << 30U);
+  hasty.CancelWhen([&] { return hasty.IsInsideAWrite(); });
+  EXPECT_FALSE(hasty.ftp.FTPCopyFile("C:\\large", "large", true));
+  hasty.ftp.Disconnect();
+  for (int look = 0; look < 1000 && fs::exists(server.Root() / "large"); ++look) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  EXPECT_FALSE(fs::exists(server.Root() / "large")) << hasty.window.log;
 }
 
 TEST_P(FTPServers, NeverSeeACommandInsideAFileName) {

@@ -316,8 +316,25 @@ TEST(FTPSessionCancel, AServerThatIsSilentAfterwardsIsGivenUpSoon) {
                      {std::chrono::minutes(10), std::chrono::milliseconds(150)});
   session.LogIn().client.CancelWhen([&] { return session.client.IsInsideAWrite(); });
   EXPECT_FALSE(session.Copy("p.jpg"));
-  EXPECT_FALSE(session.client.ftp.IsConnected());
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
+  EXPECT_TRUE(session.client.window.log.ends_with("150 Send\r\nDeleting file t.jpg\r\n")) << session.client.window.log;
+}
+
+TEST(FTPSessionCancel, AServerThatIsTooSlowForTheUserStillDeletesWhatHasArrived) {
+  FTPSession session(On("STOR",
+                        [](Session& server, const std::string& name) {
+                          server.Say("150 Send\r\n");
+                          if (!server.OpenData()) return;
+                          std::ignore = server.Receive(name, 100'000);
+                          std::this_thread::sleep_for(std::chrono::milliseconds(300));
+                          server.CloseData();
+                          server.Say("426 Broken\r\n");
+                        }),
+                     {std::chrono::minutes(10), std::chrono::milliseconds(10)});
+  session.LogIn().client.CancelWhen([&] { return session.client.IsInsideAWrite(); });
+  EXPECT_FALSE(session.Copy("p.jpg"));
+  session.client.ftp.Disconnect();
+  EXPECT_TRUE(session.server.WaitToHear("DELE t.jpg"));
 }
 
 }  // namespace

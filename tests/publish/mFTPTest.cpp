@@ -238,7 +238,7 @@ TEST_F(mFTPTest, ACancelAbortsTheCallThatBlocks) {
   cmd.isBlocking = true;
   ftp.FTPCancelData();
   EXPECT_EQ(journal, (Journal{"data cancel", "cmd cancel"}));
-  EXPECT_EQ(cmd.settings.timeLimit, std::chrono::milliseconds(10000)) << "nobody waits a minute after a cancel";
+  EXPECT_EQ(cmd.settings.timeLimit, std::chrono::milliseconds(30)) << "nobody waits a minute after a cancel";
 }
 
 TEST_F(mFTPTest, WorksWithoutAWindow) {

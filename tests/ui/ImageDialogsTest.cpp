@@ -28,6 +28,7 @@ TEST(frmFind, HasItsTextsAndLooksForATextOnly) {
   frmFind dialog(model);
   dialog.show();
   EXPECT_EQ(dialog.windowTitle(), "Find Image");
+  EXPECT_EQ(Find<QLabel>(dialog, "lblTitle").text().remove('&'), "Image Title");
   EXPECT_EQ(Find<QPushButton>(dialog, "OKButton").text(), "&Find");
   EXPECT_EQ(Find<QPushButton>(dialog, "CancelButton").text(), "&Cancel");
   EXPECT_FALSE(Find<QPushButton>(dialog, "OKButton").isEnabled());
@@ -57,6 +58,20 @@ TEST(frmFind, BlanksThatAreTypedOrPastedBecomeUnderscores) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
+TEST(frmFind, ALineThatIsPastedLosesItsEnd) {
+  FindModel model;
+  frmFind dialog(model);
+  dialog.show();
+  auto& title = Find<QLineEdit>(dialog, "textTitle");
+  Type(title, "ab");
+  QApplication::clipboard()->setText("\tmy photo.jpg\r\n");
+  title.setCursorPosition(1);
+  title.paste();
+  EXPECT_EQ(title.text(), "amy_photo.jpgb");
+  EXPECT_EQ(title.cursorPosition(), 13);
+  EXPECT_EQ(model.Title(), "amy_photo.jpgb");
+}
+
 TEST(frmFind, OpensWithTheLastTextSelectedAndEscapeGivesNone) {
   FindModel model;
   model.SetTitle("last");
@@ -64,6 +79,9 @@ TEST(frmFind, OpensWithTheLastTextSelectedAndEscapeGivesNone) {
   frmFind dialog(model);
   dialog.show();
   EXPECT_EQ(Find<QLineEdit>(dialog, "textTitle").selectedText(), "last");
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_TRUE(Find<QLineEdit>(dialog, "textTitle").hasFocus());
   EXPECT_TRUE(Find<QPushButton>(dialog, "OKButton").isEnabled());
   QTest::keyClick(&dialog, Qt::Key_Escape);
   EXPECT_EQ(model.Result, "");
@@ -75,6 +93,7 @@ TEST(frmRename, HasItsTextsAndAcceptsATextOnly) {
   frmRename dialog(model);
   dialog.show();
   EXPECT_EQ(dialog.windowTitle(), "Rename Image(s)");
+  EXPECT_EQ(Find<QLabel>(dialog, "lblNameBase").text().remove('&'), "Rename to");
   EXPECT_EQ(Find<QCheckBox>(dialog, "CheckRenameAll").text(), "Rename &all Images");
   EXPECT_EQ(Find<QPushButton>(dialog, "OKButton").text(), "OK");
   EXPECT_EQ(Find<QPushButton>(dialog, "CancelButton").text(), "&Cancel");
@@ -126,6 +145,21 @@ TEST(frmInvalidImage, HasAnIconThatWarns) {
   EXPECT_FALSE(Find<QLabel>(question, "lblIcon").pixmap().isNull());
 }
 
+TEST(frmInvalidImage, ALongNameMakesItNoWider) {
+  fakes::RecordingDesktop shell;
+  frmInvalidImage question(shell);
+  int width = 0;
+  for (const std::string& name : {std::string("a.jpg"), std::string(255, 'W'), std::string(255, '_')}) {
+    DriveModal([&] { std::ignore = question.ShowDialog(name); },
+               [&](QWidget& shown) {
+                 EXPECT_EQ(Find<QLabel>(shown, "lblImageName").text().toStdString(), name);
+                 if (width == 0) width = shown.width();
+                 EXPECT_EQ(shown.width(), width) << name;
+                 Click(shown, "btnIgnore");
+               });
+  }
+}
+
 TEST(frmInvalidImage, EscapeAndEnterIgnore) {
   fakes::RecordingDesktop shell;
   frmInvalidImage dialog(shell);
@@ -142,6 +176,7 @@ TEST(frmAddFoldersProcess, ShowsTheFolderAndTheCount) {
   EXPECT_TRUE(dialog.isVisible() && dialog.isModal());
   dialog.Show("C:\\photos\\" + std::string(200, 'x'), 12);
   EXPECT_EQ(Find<QLabel>(dialog, "Label1").text(), "Adding Images...");
+  EXPECT_EQ(Find<QPushButton>(dialog, "OKButton").text(), "&Stop");
   EXPECT_TRUE(Find<QLabel>(dialog, "lblFolder").text().startsWith("Processing: C:\\photos\\xxx"));
   EXPECT_EQ(Find<QLabel>(dialog, "lblCount").text(), "12 Image(s)");
   EXPECT_LT(dialog.width(), 600) << "a long folder does not make the window longer";
@@ -170,14 +205,28 @@ TEST(frmShuffle, ShowsHowFarItIsAndCanBeStopped) {
   EXPECT_TRUE(dialog.isVisible() && dialog.isModal());
   EXPECT_EQ(Find<QLabel>(dialog, "lblShuffle").text(), "Shuffling Images...");
   EXPECT_EQ(Find<QPushButton>(dialog, "OKButton").text(), "&Stop");
+  const auto& bar = Find<QProgressBar>(dialog, "pbShuffle");
+  EXPECT_EQ(bar.minimum(), 0);
+  EXPECT_EQ(bar.maximum(), 100);
   dialog.SetPercent(41.7);
-  EXPECT_EQ(Find<QProgressBar>(dialog, "pbShuffle").value(), 41);
+  EXPECT_EQ(bar.value(), 41);
   EXPECT_FALSE(dialog.StopRequested());
   Click(dialog, "OKButton");
   EXPECT_TRUE(dialog.StopRequested());
   EXPECT_TRUE(dialog.isVisible());
   dialog.Close();
   EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(frmShuffle, EscapeAndTheTitleBarStopItUntilItIsOpenedAgain) {
+  frmShuffle dialog;
+  for (const bool escape : {true, false}) {
+    dialog.Open();
+    EXPECT_FALSE(dialog.StopRequested());
+    escape ? QTest::keyClick(&dialog, Qt::Key_Escape) : static_cast<void>(dialog.close());
+    EXPECT_TRUE(dialog.StopRequested()) << escape;
+    EXPECT_TRUE(dialog.isVisible()) << "until the shuffle closes it";
+  }
 }
 
 }  // namespace

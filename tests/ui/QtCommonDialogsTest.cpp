@@ -2,7 +2,9 @@
 #include "ui/ColourButton.h"
 #include "ui/ports/QtCommonDialogs.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -137,6 +139,15 @@ TEST_F(SystemDialogs, AFaceThatTheMachineLacksIsKept) {
   }));
   EXPECT_EQ(font.Name, "No Such Face");
   EXPECT_EQ(font.Size, 12);
+}
+
+TEST_F(SystemDialogs, AFaceThatIsPastedLosesItsLineEnd) {
+  EXPECT_TRUE(FontDialog([](QWidget& dialog) {
+    QApplication::clipboard()->setText("Liberation Serif\r\n");
+    Find<QLineEdit>(dialog, "textFontName").paste();
+    Click(dialog, "OKButton");
+  }));
+  EXPECT_EQ(font.Name, "Liberation Serif");
 }
 
 TEST_F(SystemDialogs, AFontNeedsAName) {

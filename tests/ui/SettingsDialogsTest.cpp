@@ -1,5 +1,6 @@
 // What is applied in a dialog of the settings pages reaches the project, and what is cancelled does not.
 #include "tests/ui/MainDesk.h"
+#include "ui/PictureBox.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -135,6 +136,59 @@ TEST_F(DialogsOfPages, WatermarksShareTheQualityOfTheirFilters) {
   EXPECT_EQ(Settings().ImageWatermark.checkUseWatermark, 0);
   Drive(3, "btnThumbnailsImageFilters",
         [](QWidget& filters) { EXPECT_EQ(Find<QSlider>(filters, "sliderQuality").value(), 84); });
+}
+
+TEST_F(DialogsOfPages, TheQualityOfFiltersIsThatOfTheirWatermark) {
+  Drive(1, "btnImagesFilters", [](QWidget& filters) {
+    QTest::keyClick(&Find<QSlider>(filters, "sliderQuality"), Qt::Key_Home);
+    Click(filters, "btnOK");
+  });
+  Drive(1, "btnImagesWatermark", [](QWidget& watermark) {
+    EXPECT_EQ(Find<QSlider>(watermark, "sliderQuality").value(), 1);
+    QTest::keyClick(&Find<QSlider>(watermark, "sliderQuality"), Qt::Key_End);
+    Click(watermark, "CancelButton");
+  });
+  EXPECT_EQ(Settings().ImageFilters.sliderQuality, 1);
+}
+
+TEST_F(DialogsOfPages, ApplyWithoutAChangeIsAnEditToo) {
+  const std::tuple<int, const char*, const char*> dialogs[] = {{1, "btnImagesFilters", "btnOK"},
+                                                               {1, "btnImagesWatermark", "OKButton"},
+                                                               {2, "btnImageWrapperColors", "OKButton"}};
+  for (const auto& [page, button, apply] : dialogs) {
+    desk.Start();
+    desk.GoTo(2);
+    Click(*desk.window, "checkImageWrapperSetColors");
+    desk.fileBrowser.answer = {"T:\\a.gpj", "T:\\", {"T:\\a.gpj"}};
+    desk.Trigger("menuFileSave");
+    EXPECT_FALSE(Modified());
+    Drive(page, button, [apply = apply](QWidget& dialog) { Click(dialog, apply); });
+    EXPECT_TRUE(Modified()) << button;
+  }
+}
+
+TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
+  const auto plain = [](std::uint8_t red, std::uint8_t blue) {
+    return fakes::MakeJpeg({}, [=](int, int) { return std::array<std::uint8_t, 4>{red, 0, blue, 0}; });
+  };
+  const auto middle = [this](const char* button) {
+    QColor colour;
+    Drive(1, button, [&](QWidget& dialog) {
+      const QImage& sample = Find<PictureBox>(dialog, "pbPreview").Shown();
+      colour = sample.pixelColor(sample.rect().center());
+    });
+    return std::pair(colour.red() / 64, colour.blue() / 64);
+  };
+  desk.folder.Write("program/preview.jpg", plain(255, 0));
+  EXPECT_EQ(middle("btnImagesFilters"), std::pair(3, 0)) << "the one beside the program";
+  desk.AddPhotograph("a.jpg");
+  desk.folder.Write("a.jpg", plain(0, 255));
+  QTest::keyClick(&Find<QWidget>(*desk.window, "lvImagesList"), Qt::Key_Home);
+  EXPECT_EQ(middle("btnImagesFilters"), std::pair(0, 3));
+  EXPECT_EQ(middle("btnImagesWatermark"), std::pair(0, 3));
+  std::filesystem::remove(desk.folder.Path() / "a.jpg");
+  EXPECT_EQ(middle("btnImagesWatermark"), std::pair(3, 0)) << "silently";
+  EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
 TEST_F(DialogsOfPages, FileNamesAndFrameNames) {

@@ -2,6 +2,7 @@
 #include "core/ProjectFields.h"
 #include "tests/ui/MainDesk.h"
 #include "ui/ColourButton.h"
+#include "ui/model/ControlRules.h"
 #include "ui/model/SettingsButtons.h"
 
 #include <QCheckBox>
@@ -400,6 +401,45 @@ TEST_F(SettingsOnPages, ThumbnailSettingsStayWithoutWrappers) {
   EXPECT_TRUE(Shown("frmCaptionsThumbnails"));
   desk.GoTo(PageLinks);
   EXPECT_TRUE(Shown("frmPageLinksOnThumbnailPages"));
+}
+
+/// Which controls are hidden or disabled by a rule, and the labels that name a unit.
+std::string RuledControls(QWidget& window) {
+  std::string told;
+  for (const ControlRule& rule : ControlRules()) {
+    const std::string name(rule.control);
+    const auto& control = Find<QWidget>(window, name.c_str());
+    const bool holds =
+        rule.property == ControlProperty::Visible ? !control.isHidden() : control.isEnabledTo(control.parentWidget());
+    told += name + (holds ? " +\n" : " -\n");
+  }
+  for (const UnitLabel& label : UnitLabels()) {
+    told += FromQt(Find<QLabel>(window, std::string(label.control).c_str()).text()) + "\n";
+  }
+  return told;
+}
+
+TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
+  const auto before = RuledControls(*desk.window);
+  for (const char* box :
+       {"checkImageWrapperSetColors", "checkImageWrapperImageKeepAspectRatio", "checkImageWrapperImageKeepSize"}) {
+    ClickOn(Wrappers, box);
+  }
+  for (const char* box :
+       {"checkThumbnailsTableUseBGColor", "checkThumbnailsPageSetColors", "checkThumbnailsImageKeepAspectRatio"}) {
+    ClickOn(Thumbnails, box);
+  }
+  ClickOn(PageLinks, "checkPageLinksThumbnailDirectLinks");
+  ClickOn(Captions, "checkCaptionsImagesRegular");
+  ClickOn(Captions, "checkCaptionsThumbnailsPopup");
+  ClickOn(Wrappers, "checkImageWrapperUse");
+  ChooseNext(Gallery, "comboGalleryLayoutType");
+  ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
+  EXPECT_NE(RuledControls(*desk.window), before);
+  desk.boxes.answers = {BoxAnswer::No};
+  desk.Trigger("menuFileNew");
+  EXPECT_EQ(RuledControls(*desk.window), before);
+  EXPECT_FALSE(desk.window->CurrentProject().IsModified);
 }
 
 // Each button and the title of the dialog that it opens.

@@ -2,6 +2,8 @@
 #include "tests/ui/FormDriver.h"
 #include "ui/AddBrowserDialog.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -103,6 +105,27 @@ TEST_F(AddBrowserForm, ACancelledBrowseChangesNothing) {
     EXPECT_EQ(Find<QLineEdit>(form, "browserLocation").text(), "old");
     EXPECT_FALSE(Find<QPushButton>(form, "OKButton").isEnabled());
   });
+}
+
+TEST_F(AddBrowserForm, ACommandLineStaysAsItIsTyped) {
+  EXPECT_EQ(Edit({"a", ""},
+                 [](QWidget& form) {
+                   Type(Find<QLineEdit>(form, "browserLocation"), "/usr/bin/fox --new-window");
+                   QTest::keyClick(&form, Qt::Key_Return);
+                 }),
+            "a|/usr/bin/fox --new-window");
+}
+
+TEST_F(AddBrowserForm, ATextThatIsPastedWithLineBreaksIsOneLine) {
+  EXPECT_EQ(Edit({},
+                 [](QWidget& form) {
+                   QApplication::clipboard()->setText("Fire\r\nfox\n");
+                   Find<QLineEdit>(form, "browserName").paste();
+                   QApplication::clipboard()->setText("C:\\fox\r\n");
+                   Find<QLineEdit>(form, "browserLocation").paste();
+                   Click(form, "OKButton");
+                 }),
+            "Firefox|C:\\fox");
 }
 
 }  // namespace

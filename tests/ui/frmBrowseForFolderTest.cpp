@@ -77,7 +77,11 @@ TEST_F(FolderDialog, KeepsWhetherItWasCancelled) {
   EXPECT_FALSE(form.Cancelled);
   DriveModal([&] { form.exec(); }, [](QWidget& dialog) { Click(dialog, "CancelButton"); });
   EXPECT_TRUE(form.Cancelled);
-  DriveModal([&] { form.exec(); }, [](QWidget& dialog) { Click(dialog, "OKButton"); });
+  DriveModal([&] { form.exec(); },
+             [&](QWidget& dialog) {
+               EXPECT_FALSE(form.Cancelled) << "opened again";
+               Click(dialog, "OKButton");
+             });
   EXPECT_FALSE(form.Cancelled);
 }
 

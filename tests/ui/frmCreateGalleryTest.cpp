@@ -1,6 +1,8 @@
 #include "tests/ui/PublishDesk.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -127,6 +129,22 @@ TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
     QTest::keyClick(&box, Qt::Key_Return);
   });
   EXPECT_EQ(choice.FilePath, "E:\\index.htm");
+}
+
+TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
+  const CreateChoice choice = Ask([](QWidget& form) {
+    Click(form, "optionUploadFolder");
+    for (const auto& [name, text] : std::vector<std::pair<const char*, const char*>>{
+             {"textUploadPassword", "secret\n"}, {"textUploadSourceFolder", "D:\\photos\r\n"}}) {
+      QApplication::clipboard()->setText(text);
+      auto& box = Find<QLineEdit>(form, name);
+      box.selectAll();
+      box.paste();
+    }
+    Click(form, "OKButton");
+  });
+  EXPECT_EQ(choice.UploadPassword, "secret");
+  EXPECT_EQ(choice.UploadSourceFolder, "D:\\photos\\");
 }
 
 TEST_F(CreateForm, TheFileIsBrowsedFor) {

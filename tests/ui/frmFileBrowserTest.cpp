@@ -136,6 +136,7 @@ TEST_F(FileDialog, WithoutMultiSelectASecondFileReplacesTheFirst) {
 TEST_F(FileDialog, TheSelectedPhotographIsShownWithItsSize) {
   Show(Images(), [](QWidget& dialog) {
     EXPECT_TRUE(Find<QCheckBox>(dialog, "checkPreview").isChecked());
+    EXPECT_EQ(Find<QWidget>(dialog, "extendedArea").width(), Find<QWidget>(dialog, "pbPreview").width() + 20);
     EXPECT_EQ(SizeText(dialog), "");
     ClickFile(dialog, "b.JPG");
     EXPECT_TRUE(PictureComes(dialog));

@@ -2,7 +2,9 @@
 #include "tests/ui/FormDriver.h"
 #include "ui/frmHTMLSingle.h"
 
+#include <QContextMenuEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -48,8 +50,8 @@ TEST_F(CodeEditing, GivesBackWhatWasTypedWithCrLf) {
 }
 
 TEST_F(CodeEditing, AnUntouchedTextComesBackToTheByte) {
-  for (const char* text :
-       {"", "a\nb", "a\r\nb\r\n", "a\rb", "Zürich 山 \U0001F5FB", "no\u00A0break", "tab\there", "<a href=\"&amp;\">"}) {
+  for (const char* text : {"", "a\u2028b\u2029c", "\uFDD0", "a\nb", "a\r\nb\r\n", "a\rb", "Zürich 山 \U0001F5FB",
+                           "no\u00A0break", "tab\there", "<a href=\"&amp;\">"}) {
     EXPECT_EQ(Edit(text, [](QWidget& form) { Click(form, "btnClose"); }), text);
   }
 }
@@ -95,6 +97,18 @@ TEST_F(CodeEditing, TheTitleBarAndEscapeLetTheTextOutUnchecked) {
                  }),
             "y]]>");
   EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(CodeEditing, TheMenuPutsATagIntoTheText) {
+  const std::string edited = Edit("old", [](QWidget& form) {
+    EXPECT_NE(form.findChild<QObject*>("ucPopupMenu"), nullptr);
+    QWidget& inside = *Find<QPlainTextEdit>(form, "textHTML").viewport();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(4, 4), inside.mapToGlobal(QPoint(4, 4)));
+    QApplication::sendEvent(&inside, &event);
+    Find<QAction>(form, "mnuEditTagsGallery4").trigger();
+    Find<QMenu>(form, "mnuEditTOP").close();
+  });
+  EXPECT_EQ(edited, "<VANTORIUM_GALLERY_TITLE>old");
 }
 
 TEST_F(CodeEditing, TheKeyboardAloneIsEnough) {

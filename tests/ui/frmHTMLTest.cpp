@@ -2,7 +2,9 @@
 #include "tests/ui/FormDriver.h"
 #include "ui/frmHTML.h"
 
+#include <QContextMenuEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -105,6 +107,22 @@ TEST_F(HeaderAndFooterEditing, BothTextsShareTheRoomOfTheWindow) {
       EXPECT_LE(std::abs(header.height() - footer.height()), 1);
     }
   });
+}
+
+TEST_F(HeaderAndFooterEditing, TheMenuPutsATagIntoTheBoxThatWasClicked) {
+  const HeaderAndFooter edited = Edit({}, [](QWidget& form) {
+    EXPECT_NE(form.findChild<QObject*>("ucPopupMenu"), nullptr);
+    const std::pair<const char*, const char*> tags[] = {{"textHeader", "mnuEditTagsGallery4"},
+                                                        {"textFooter", "mnuEditTagsImage0"}};
+    for (const auto& [name, tag] : tags) {
+      QWidget& inside = *Find<QPlainTextEdit>(form, name).viewport();
+      QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(4, 4), inside.mapToGlobal(QPoint(4, 4)));
+      QApplication::sendEvent(&inside, &event);
+      Find<QAction>(form, tag).trigger();
+      Find<QMenu>(form, "mnuEditTOP").close();
+    }
+  });
+  EXPECT_EQ(edited, (HeaderAndFooter{"<VANTORIUM_GALLERY_TITLE>", "<VANTORIUM_IMAGE_COUNT>"}));
 }
 
 TEST_F(HeaderAndFooterEditing, TheTabKeyGoesThroughTheForm) {

@@ -335,11 +335,22 @@ TEST_F(DescriptionsWindow, TheEditorOfHeaderAndFooterLeftUntouchedIsNoChange) {
 }
 
 TEST_F(DescriptionsWindow, ATagFromTheMenuIsAnEdit) {
-  QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), form.mapToGlobal(QPoint(1, 1)));
-  QApplication::sendEvent(&Box("textDescription"), &event);
-  Find<QAction>(form, "mnuEditTagsImage7").trigger();
-  Find<QMenu>(form, "mnuEditTOP").close();
-  EXPECT_EQ(project.images.Entry(1).ImageDescription, "<VANTORIUM_IMAGE_TITLE>the Alps");
+  const auto insertTag = [this](const char* name) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), form.mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(&Box(name), &event);
+    Find<QAction>(form, "mnuEditTagsImage7").trigger();
+    Find<QMenu>(form, "mnuEditTOP").close();
+  };
+  for (const char* name : {"textHeader", "textFooter", "textDescription"}) insertTag(name);
+  ShowThumbnails();
+  for (const char* name : {"textThumbHeader", "textThumbFooter", "textThumbDescription"}) insertTag(name);
+  const std::string tag = "<VANTORIUM_IMAGE_TITLE>";
+  EXPECT_EQ(project.settings.textHeader, tag + "<p>");
+  EXPECT_EQ(project.settings.textFooter, tag);
+  EXPECT_EQ(project.images.Entry(1).ImageDescription, tag + "the Alps");
+  EXPECT_EQ(project.settings.textThumbHeader, tag);
+  EXPECT_EQ(project.settings.textThumbFooter, tag + "</b>");
+  EXPECT_EQ(project.images.Entry(1).ThumbnailDescription, tag + "A");
   EXPECT_TRUE(project.IsModified);
 }
 

@@ -53,7 +53,30 @@ TEST_F(ImageFiltersForm, ShowsItsSettingsAndItsSample) {
     ASSERT_FALSE(sample.isNull());
     const QColor middle = sample.pixelColor(sample.rect().center());
     EXPECT_EQ(middle.red(), middle.blue()) << "grey";
-    EXPECT_FALSE(Find<QLabel>(form, "lbl").text().isEmpty());
+  });
+}
+
+TEST_F(ImageFiltersForm, HasItsTextsAndToolTips) {
+  struct Text {
+    const char* button;
+    const char* caption;
+    const char* toolTip;
+  };
+  Edit([](QWidget& form) {
+    for (const Text& text :
+         {Text{"checkGrayscale", "Grayscale", "Convert the Image into Grayscale (remove Color Information)"},
+          Text{"checkBrightness", "Brightness", "Make the Image brighter or darker"},
+          Text{"checkFade", "Fade", "Fade the Image"}, Text{"checkNoise", "Noise", "Create Noise on the Image"},
+          Text{"checkNoiseRandom", "Random",
+               "Check this Box to create random Noise; otherwise, uniform Noise will be generated"},
+          Text{"btnOK", "&Apply", "Use these Filter Settings"},
+          Text{"btnPreview", "&Preview", "Preview current Filter Settings using the Image on the Right"},
+          Text{"btnCancel", "&Cancel", "Discard these Filter Settings"}}) {
+      EXPECT_EQ(Find<QAbstractButton>(form, text.button).text(), text.caption);
+      EXPECT_EQ(Find<QWidget>(form, text.button).toolTip(), text.toolTip) << text.button;
+    }
+    EXPECT_EQ(Find<QSlider>(form, "sliderQuality").toolTip(), "JPG Image Output Quality");
+    EXPECT_EQ(Find<QLabel>(form, "lbl").text(), "JPEG Quality");
     EXPECT_EQ(Find<QLabel>(form, "Label1").text(),
               "Please note that Filter Settings cannot be seen in Gallery Preview Mode.");
     EXPECT_EQ(Find<QLabel>(form, "Label2").text(),
@@ -119,6 +142,26 @@ TEST_F(ImageFiltersForm, ThePreviewButtonShowsTheSampleAnew) {
     Click(form, "btnPreview");
     EXPECT_NE(box.Shown().pixel(50, 50), before);
     EXPECT_TRUE(form.isVisible());
+  });
+}
+
+TEST_F(ImageFiltersForm, ASliderThatIsDraggedChangesTheSettingsAndThePictureOnlyWithTheButton) {
+  Edit([](QWidget& form) {
+    const auto& model = dynamic_cast<frmImageFilters&>(form).Model();
+    const QImage before = Find<PictureBox>(form, "pbPreview").Shown();
+    for (const char* name : {"sliderBrightness", "sliderFade", "sliderNoise", "sliderQuality"}) {
+      if (model.SettingsChanged()) Click(form, "btnPreview");
+      EXPECT_FALSE(model.SettingsChanged());
+      auto& slider = Find<QSlider>(form, name);
+      slider.setSliderDown(true);
+      slider.setSliderPosition(5);
+      EXPECT_TRUE(model.SettingsChanged()) << name;
+      EXPECT_EQ(Find<QLabel>(form, (std::string("lbl") + (name + 6)).c_str()).text(), "5");
+      slider.setSliderDown(false);
+    }
+    EXPECT_EQ(Find<PictureBox>(form, "pbPreview").Shown(), before);
+    Click(form, "btnPreview");
+    EXPECT_NE(Find<PictureBox>(form, "pbPreview").Shown(), before);
   });
 }
 

@@ -2,7 +2,10 @@
 #include "tests/ui/FormDriver.h"
 #include "ui/frmLinks.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -44,6 +47,7 @@ TEST_F(LinksForm, ShowsItsLinkWithTheFocusOnTheLabel) {
     EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphic").text(), "C:\\a.gif");
     EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphicDisabled").text(), "C:\\b.gif");
     EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "Link Graphic on last Image Wrapper");
+    EXPECT_EQ(Find<QPushButton>(form, "OKButton").text(), "&Close");
     Click(form, "OKButton");
   });
   EXPECT_EQ(result, "NEXT|C:\\a.gif|C:\\b.gif");
@@ -60,6 +64,27 @@ TEST_F(LinksForm, WithoutALabelTheSecondGraphicIsHidden) {
         EXPECT_TRUE(Find<QWidget>(form, "btnLinkGraphicBrowse").isVisible());
       },
       "");
+}
+
+TEST_F(LinksForm, WithoutTextsOfItsCallerItHasItsOwn) {
+  LinksModel model({}, paths, folder, [] {});
+  frmLinks form("", "", model, browser, nullptr);
+  EXPECT_EQ(form.windowTitle(), "Link");
+  EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "First/Last Link Graphic");
+}
+
+TEST_F(LinksForm, WhatIsPastedIsOneLine) {
+  EXPECT_EQ(Edit({"NEXT", "", "C:\\b.gif"},
+                 [](QWidget& form) {
+                   QApplication::clipboard()->setText("\tC:\\next.gif\r\n");
+                   Find<QLineEdit>(form, "textLinkGraphic").paste();
+                   auto& label = Find<QLineEdit>(form, "textLinkLabel");
+                   QApplication::clipboard()->setText("\r\nT\r\nüR");
+                   label.setCursorPosition(2);
+                   label.paste();
+                   EXPECT_EQ(label.cursorPosition(), 5);
+                 }),
+            "NETüRXT|C:\\next.gif|C:\\b.gif");
 }
 
 TEST_F(LinksForm, TheLabelIsEdited) {

@@ -1,12 +1,14 @@
 // The main window: its menus, its tool bar, how it starts, what it asks before it closes.
 #include "tests/ui/MainDesk.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -266,6 +268,33 @@ TEST_F(MainWindow, BrowsersAreEditedAndWritten) {
   EXPECT_EQ(Status(), "");
 }
 
+TEST_F(MainWindow, TheEntryThatAsksForTheBrowsersOutlivesItsMenusRebuild) {
+  desk.Start();
+  for (const char* name : {"tbMainViewDropDown", "menuActionsView"}) {
+    auto& menu = Find<QMenu>(*desk.window, name);
+    const QPointer<QAction> entry = menu.actions().back();
+    menu.popup(QPoint(0, 0));
+    menu.setActiveAction(entry);
+    DriveModal([&] { QTest::keyClick(&menu, Qt::Key_Return); },
+               [](QWidget& list) { EXPECT_EQ(list.objectName(), "frmBrowserList"); });
+    EXPECT_NE(entry, nullptr) << name << " is still at work on its key";
+    EXPECT_NE(menu.actions().back(), entry) << name;
+    EXPECT_EQ(EntriesOf(menu).back(), "Available Browsers...") << name;
+  }
+}
+
+TEST_F(MainWindow, WhatDisablesItLeavesTheFocusWhereItWas) {
+  desk.Start();
+  auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+  for (const char* command : {"menuFileSave", "menuOptionsClearTempFolder"}) {
+    ChooseFile("T:\\a.gpj");
+    title.setFocus();
+    desk.Trigger(command);
+    EXPECT_TRUE(desk.window->isEnabled());
+    EXPECT_EQ(desk.window->focusWidget(), &title) << command;
+  }
+}
+
 TEST_F(MainWindow, AGalleryWithoutImagesIsRefused) {
   desk.Start();
   desk.Trigger("menuActionsViewDefault");
@@ -290,9 +319,12 @@ TEST_F(MainWindow, AListedBrowserIsStartedWithThePreview) {
   desk.folder.Write("program/vantorium.ini", "[BROWSERS]\r\nCount=\"1\"\r\nName1=\"One\"\r\nLocation1=\"T:\\one\"\r\n");
   desk.Start();
   desk.AddPhotograph("a.jpg");
-  desk.Trigger("browser1");
-  ASSERT_EQ(desk.shell.started.size(), 1U);
-  EXPECT_EQ(desk.shell.started[0].front(), (desk.folder.Path() / "one").string());
+  for (const char* entry : {"browser1", "menuActionsViewBrowser1"}) {
+    desk.shell.started.clear();
+    desk.Trigger(entry);
+    ASSERT_EQ(desk.shell.started.size(), 1U) << entry;
+    EXPECT_EQ(desk.shell.started[0].front(), (desk.folder.Path() / "one").string()) << entry;
+  }
 }
 
 TEST_F(MainWindow, AGalleryIsCreatedWhereTheDialogSays) {
@@ -353,6 +385,24 @@ TEST_F(MainWindow, DescriptionsFollowTheListAndComeWithASave) {
   desk.boxes.answers = {BoxAnswer::No};
   desk.Trigger("menuFileNew");
   EXPECT_FALSE(tool.isVisible());
+}
+
+TEST_F(MainWindow, PlacementsInTheOpenDescriptionsWindowAreSavedBeforeAnotherProjectComes) {
+  for (const char* leave : {"menuFileNew", "menuFileOpen"}) {
+    desk.Start();
+    desk.fileBrowser.answer = {"T:\\saved.gpj", "T:\\", {"T:\\saved.gpj"}};
+    desk.Trigger("menuFileSave");
+    desk.GoTo(1);
+    Click(*desk.window, "btnImagesDescriptions");
+    auto& tool = Find<QWidget>(*desk.window, "frmImageDescriptions");
+    auto& placement = Find<QComboBox>(tool, "comboImageDescriptionPlacement");
+    QTest::keyClick(&placement, Qt::Key_End);
+    desk.boxes.answers = {BoxAnswer::Yes};
+    desk.fileBrowser.answer = {};
+    desk.Trigger(leave);
+    desk.Start("T:\\saved.gpj");
+    EXPECT_EQ(desk.Settings().comboImageDescriptionPlacement, 4) << leave;
+  }
 }
 
 TEST_F(MainWindow, DoesNotCloseWhileItIsDisabled) {

@@ -1,5 +1,7 @@
 #include "tests/ui/PublishDesk.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -102,6 +104,29 @@ TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
   EXPECT_EQ(timeout, 30);
 }
 
+TEST_F(PublishForm, TheEndOfALineIsNotPasted) {
+  EXPECT_TRUE(Drive([](QWidget& form) {
+    QApplication::clipboard()->setText("pasted\r\n");
+    for (const char* name :
+         {"textServerURL", "textUserName", "textJumpTo", "textGalleryIndexPath", "textGalleryIndexFile"}) {
+      auto& box = Find<QLineEdit>(form, name);
+      box.selectAll();
+      box.paste();
+      EXPECT_EQ(box.text(), "pasted") << name;
+    }
+    DriveModal([&] { Click(form, "btnNew"); },
+               [](QWidget& question) {
+                 Find<QLineEdit>(question, "textServerName").paste();
+                 Click(question, "OKButton");
+               });
+    Type(Find<QLineEdit>(form, "textServerURL"), "h");
+    Click(form, "OKButton");
+  }));
+  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_NE(desk.ServerText().find("ServerURL1=\"pasted\"\r\n"), std::string::npos) << desk.ServerText();
+  EXPECT_NE(desk.ServerText().find("ServerName3=\"pasted\"\r\n"), std::string::npos) << desk.ServerText();
+}
+
 TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
   Drive([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textGalleryIndexPath");
@@ -150,6 +175,15 @@ TEST_F(PublishForm, ANewServerIsNamedInItsOwnDialog) {
     Click(form, "OKButton");
   }));
   EXPECT_NE(desk.ServerText().find("ServerURL3=\"three.example.org\""), std::string::npos) << desk.ServerText();
+}
+
+TEST_F(PublishForm, ALongNameDoesNotWidenTheDialog) {
+  ServerProfile profile = desk.kOne;
+  int width = 0;
+  Drive([&](QWidget& form) { width = form.width(); });
+  profile.ServerName = std::string(1000, 'x');
+  WriteServerList({profile}, 0, desk.ServerFile());
+  Drive([&](QWidget& form) { EXPECT_EQ(form.width(), width); });
 }
 
 TEST_F(PublishForm, ANameThatIsTakenAddsNothing) {

@@ -64,7 +64,13 @@ TEST_F(SelectColorsForm, ShowsItsColoursWithTheFocusOnApply) {
     EXPECT_EQ(Find<QLabel>(form, "lblLink").text(), "Regular Link");
     EXPECT_EQ(Find<QLabel>(form, "lblVisitedLink").text(), "Visited Link");
     EXPECT_EQ(Find<QLabel>(form, "lblActiveLink").text(), "Active Link");
+    EXPECT_EQ(Find<QWidget>(form, "btnBGColor").toolTip(), "Page Background Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnFGColor").toolTip(), "Page Foreground Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnLinkColor").toolTip(), "Page Link Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnVisitedLinkColor").toolTip(), "Page Visited Link Color");
     EXPECT_EQ(Find<QWidget>(form, "btnActiveLinkColor").toolTip(), "Page Active Link Color");
+    EXPECT_EQ(Find<QPushButton>(form, "OKButton").text(), "&Apply");
+    EXPECT_EQ(Find<QPushButton>(form, "CancelButton").text(), "&Cancel");
   });
 }
 
@@ -89,6 +95,19 @@ TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColour) {
       colours = before;
     }
   }
+}
+
+TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColours) {
+  dialogs.colours = {0x123456};
+  Edit([this](QWidget& form) {
+    Click(form, "btnBGColor");
+    for (const Pair& pair : kPairs) {
+      const QPalette palette = Find<QWidget>(form, pair.element).palette();
+      EXPECT_EQ(FromQt(palette.color(QPalette::Window)), 0x123456U) << pair.element;
+      if (pair.colour == &PageColours::background) continue;
+      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), colours.*pair.colour) << pair.element;
+    }
+  });
 }
 
 TEST_F(SelectColorsForm, AClickOnALabelIsNotOneOnThePage) {

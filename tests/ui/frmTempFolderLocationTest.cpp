@@ -4,7 +4,9 @@
 #include "tests/ui/FormDriver.h"
 #include "ui/frmTempFolderLocation.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -46,7 +48,14 @@ TEST_F(TempFolderLocationForm, ComesUpWithTheLocationSelected) {
     EXPECT_EQ(text.selectedText(), "C:\\temp");
     EXPECT_EQ(text.toolTip(), "Path that will contain the Folder named VANTORIUM_TEMP");
     EXPECT_TRUE(Find<QCheckBox>(form, "checkAutoClear").isChecked());
-    EXPECT_TRUE(Find<QLabel>(form, "lblText").text().contains("(\"VANTORIUM_TEMP\").  This Folder"));
+    EXPECT_EQ(Find<QLabel>(form, "lblText").text(),
+              "Please specify the Location of Vantorium's Temporary Folder (\"VANTORIUM_TEMP\").  This Folder will be "
+              "used for Storage during a Gallery Preview and should be cleared regularly.");
+    EXPECT_EQ(Find<QCheckBox>(form, "checkAutoClear").text(), "Clear &automatically when closing Vantorium");
+    EXPECT_EQ(Find<QCheckBox>(form, "checkAutoClear").toolTip(),
+              "Specifies that Vantorium will clear the contents of the Temporary Folder automatically when closed");
+    EXPECT_EQ(Find<QAbstractButton>(form, "btnReset").text(), "&Reset to Default");
+    EXPECT_EQ(Find<QAbstractButton>(form, "OKButton").text(), "&Use this Path");
     Click(form, "OKButton");
   }));
   EXPECT_EQ(preferences.TempFolderLocation, "C:\\temp");
@@ -122,6 +131,15 @@ TEST_F(TempFolderLocationForm, BrowseAndResetFillTheControls) {
   EXPECT_EQ(folders.asked, std::vector<std::string>{"Location of Temporary Folder: C:\\temp"});
   EXPECT_EQ(preferences.TempFolderLocation, "C:\\program");
   EXPECT_EQ(preferences.TempFolderAutoClear, 1);
+}
+
+TEST_F(TempFolderLocationForm, APathThatIsPastedWithItsLineEndLosesThat) {
+  EXPECT_TRUE(Edit([](QWidget& form) {
+    QApplication::clipboard()->setText("C:\\pasted\r\n");
+    Find<QLineEdit>(form, "textTempFolderLocation").paste();
+    Click(form, "OKButton");
+  }));
+  EXPECT_EQ(preferences.TempFolderLocation, "C:\\pasted");
 }
 
 TEST_F(TempFolderLocationForm, ANativePathBecomesPathTextWhenItsBoxIsLeft) {

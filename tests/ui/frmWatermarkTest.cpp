@@ -57,9 +57,45 @@ TEST_F(WatermarkForm, ShowsItsSettingsAndItsSample) {
     EXPECT_EQ(placements.currentText(), "Bottom Left to Top Right");
     EXPECT_EQ(Find<QLabel>(form, "lblAlpha").text(), "65");
     EXPECT_EQ(Find<QLabel>(form, "lblQuality").text(), "85");
-    EXPECT_EQ(Find<QLabel>(form, "Label5").text(),
-              "Please note that Watermark Text Settings cannot be seen in Gallery Preview Mode.");
     EXPECT_FALSE(Sample(form).isNull());
+  });
+}
+
+TEST_F(WatermarkForm, HasItsTextsAndToolTips) {
+  Edit([](QWidget& form) {
+    const auto caption = [&](const char* name) { return Find<QAbstractButton>(form, name).text(); };
+    EXPECT_EQ(caption("checkUseWatermark"), "Use Watermark Text");
+    EXPECT_EQ(caption("btnBrowseFont"), "&Font...");
+    EXPECT_EQ(caption("btnPreview"), "&Preview");
+    EXPECT_EQ(caption("OKButton"), "&Apply");
+    EXPECT_EQ(caption("CancelButton"), "&Cancel");
+    const auto toolTip = [&](const char* name) { return Find<QWidget>(form, name).toolTip(); };
+    EXPECT_EQ(toolTip("checkUseWatermark"),
+              "Check this Box if you want Vantorium to add Watermark Captions to all Images");
+    EXPECT_EQ(toolTip("textWatermark"), "The Caption that You wish to place on all Images");
+    EXPECT_EQ(toolTip("comboTextPlacement"), "Caption Placement in the Image");
+    EXPECT_EQ(toolTip("btnBrowseFont"), "Click here to select a Font, Size and Color for the Caption");
+    EXPECT_EQ(toolTip("sliderAlpha"), "Alpha Value for the Caption (\"Transparency\")");
+    EXPECT_EQ(toolTip("sliderQuality"), "JPG Image Output Quality");
+    EXPECT_EQ(toolTip("OKButton"), "Use these Settings");
+    EXPECT_EQ(toolTip("CancelButton"), "Discard these Settings");
+    const auto label = [&](const char* name) { return Find<QLabel>(form, name).text(); };
+    EXPECT_EQ(label("lblCaption"), "Caption");
+    EXPECT_EQ(label("lblPlacement"), "Placement");
+    EXPECT_EQ(label("lblAlphaValue"), "Alpha Value");
+    EXPECT_EQ(label("lblJPEGQuality"), "JPEG Quality");
+    EXPECT_EQ(label("Label5"), "Please note that Watermark Text Settings cannot be seen in Gallery Preview Mode.");
+  });
+}
+
+TEST_F(WatermarkForm, AFontOfAnyNameIsToldAsItIsAndMakesTheDialogNoWider) {
+  dialogs.fonts = {FontDescription{.Name = "<B>" + std::string(300, 'W'), .Size = 20}};
+  Edit([](QWidget& form) {
+    const int width = form.width();
+    Click(form, "btnBrowseFont");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form.width(), width);
+    EXPECT_EQ(Find<QLabel>(form, "lblFont").textFormat(), Qt::PlainText);
   });
 }
 
@@ -106,6 +142,19 @@ TEST_F(WatermarkForm, AppliesWhatWasSetWithKeysAndMouse) {
   EXPECT_TRUE(watermark.FontItalic);
   EXPECT_EQ(watermark.Color, 0x0000FFU);
   EXPECT_EQ(quality, 84);
+}
+
+TEST_F(WatermarkForm, AnEditLeavesTheRestOfTheTextAsItWas) {
+  watermark.textWatermark = "\u00A9\u00A02026 \U0001F5FB\r\n\r\n]]> ";
+  const std::string before = watermark.textWatermark;
+  EXPECT_TRUE(Edit([](QWidget& form) {
+    auto& text = Find<QPlainTextEdit>(form, "textWatermark");
+    text.setFocus();
+    QTest::keyClick(&text, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClicks(&text, "!");
+    Click(form, "OKButton");
+  }));
+  EXPECT_EQ(watermark.textWatermark, before + "!");
 }
 
 TEST_F(WatermarkForm, TheSampleFollowsItsControlsAtOnce) {
@@ -171,6 +220,14 @@ TEST_F(WatermarkForm, CancelLeavesTheSettingsAlone) {
     EXPECT_EQ(watermark.FontName, "Arial");
     EXPECT_EQ(quality, 85);
   }
+}
+
+TEST_F(WatermarkForm, WithoutASampleItClosesAtOnceWithTheBox) {
+  sources = {"", {desk.Missing()}, desk.TempFolderLocation()};
+  EXPECT_FALSE(
+      EditWatermark("Image Watermarks", watermark, quality, sources, desk.Ports(), {dialogs, texts, screen}, nullptr));
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
 }
 
 TEST_F(WatermarkForm, ATemporaryFolderThatGoesAwayClosesItWithTheBox) {

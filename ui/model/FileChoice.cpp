@@ -1,5 +1,6 @@
 #include "ui/model/FileChoice.h"
 
+#include "core/XmlText.h"
 #include "env/PathText.h"
 #include "env/Text.h"
 #include "ui/model/FileNameBox.h"
@@ -82,6 +83,10 @@ std::string FileChoice::WithDefaultExtension(const std::string& path) const {
 }
 
 bool FileChoice::MayBeChosen(const std::string& path) {
+  if (!IsXmlText(path)) {
+    Tell(ToXmlText(GetFileName(path)) + "\r\nThis name cannot stand in a project.");
+    return false;
+  }
   if (!files_.Paths().ToNative(path)) {
     Tell(path + "\r\nPath does not exist.\r\nPlease check the path and try again.");
     return false;

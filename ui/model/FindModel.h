@@ -10,7 +10,7 @@ class FindModel {
  public:
   /// The dialog comes up.
   void Open() { Result.clear(); }
-  /// The text of the field; names of images have no blanks, so each becomes an underscore.
+  /// The text of the field, as TypedName makes it.
   void SetTitle(const std::string& title);
   [[nodiscard]] const std::string& Title() const { return title_; }
   [[nodiscard]] bool CanFind() const { return !title_.empty(); }

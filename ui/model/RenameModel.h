@@ -9,7 +9,7 @@ namespace vantorium {
 /// The question for a new name of the current image or of all.
 class RenameModel {
  public:
-  /// The text of the field; names of images have no blanks, so each becomes an underscore.
+  /// The text of the field, as TypedName makes it.
   void SetNameBase(const std::string& nameBase);
   [[nodiscard]] const std::string& NameBase() const { return nameBase_; }
   [[nodiscard]] bool CanAccept() const { return !nameBase_.empty(); }

@@ -49,6 +49,17 @@ QMessageBox::StandardButton EscapeButtonOf(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
+/// The window in front, also while the user is in another program: the box then waits there.
+QWidget* Owner() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const bool isPlain = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
+    if (isPlain && window->isVisible() && window->isEnabled()) return window;
+  }
+  return nullptr;
+}
+
 BoxAnswer AnswerOf(int button) {
   switch (button) {
     case QMessageBox::Yes:
@@ -65,7 +76,7 @@ BoxAnswer AnswerOf(int button) {
 }  // namespace
 
 BoxAnswer QtMessageBox::Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(Owner());
   box.setObjectName("MessageBox");
   box.setIcon(IconOf(kind));
   box.setWindowTitle(ToQt(title));

@@ -60,6 +60,15 @@ TEST_F(Choosing, AFileToOpenMustExist) {
   EXPECT_EQ(choice.Result().result, "");
 }
 
+TEST_F(Choosing, ANameThatCannotStandInAProjectIsTold) {
+  disk.Write("photos/bell\a.jpg", "");
+  EXPECT_EQ(OpenOne().Ok("C:\\photos", "bell\a.jpg"), Step::Stay);
+  EXPECT_EQ(OpenSeveral().Ok("C:\\photos", "\"a.jpg\" \"bell\a.jpg\""), Step::Stay);
+  EXPECT_EQ(Save().Ok("C:\\", "bell\a"), Step::Stay);
+  ASSERT_EQ(boxes.boxes.size(), 3U);
+  EXPECT_EQ(boxes.boxes[0].text, "bell\uFFFD.jpg\r\nThis name cannot stand in a project.");
+}
+
 TEST_F(Choosing, ADriveWithoutAFolderIsTold) {
   EXPECT_EQ(OpenOne().Ok("C:\\photos", "X:\\a.jpg"), Step::Stay);
   EXPECT_EQ(Save().Ok("C:\\photos", "\\\\server\\share\\a.gpj"), Step::Stay);

@@ -18,6 +18,14 @@ TEST(FindModel, ABlankBecomesAnUnderscore) {
   EXPECT_EQ(model.Title(), "_my_photo__1.jpg_");
 }
 
+TEST(FindModel, LineEndsAndOtherControlCharactersAreLeftOut) {
+  FindModel model;
+  model.SetTitle("a\tb\r\nc\x7F ü\n");
+  EXPECT_EQ(model.Title(), "abc_ü");
+  model.SetTitle("\r\n");
+  EXPECT_EQ(model.Title(), "");
+}
+
 TEST(FindModel, AcceptGivesTheTextAndCancelNothing) {
   FindModel model;
   model.SetTitle("a b");

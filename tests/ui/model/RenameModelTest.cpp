@@ -16,6 +16,14 @@ TEST(RenameModel, ABlankBecomesAnUnderscore) {
   EXPECT_EQ(model.NameBase(), "the_high_Alps");
 }
 
+TEST(RenameModel, LineEndsAndOtherControlCharactersAreLeftOut) {
+  RenameModel model;
+  model.SetNameBase("a\tb\r\nc\x7F ü\n");
+  EXPECT_EQ(model.NameBase(), "abc_ü");
+  model.SetNameBase("\r\n");
+  EXPECT_EQ(model.NameBase(), "");
+}
+
 TEST(RenameModel, WithoutAnAnswerNoNameChanges) {
   RenameModel model;
   model.SetNameBase("Alps");

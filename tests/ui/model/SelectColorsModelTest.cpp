@@ -35,6 +35,32 @@ TEST(SelectColorsModel, AChosenColourReplacesItsOwnOnly) {
   }
 }
 
+/// Its user adds a custom colour each time, and confirms every other time.
+class CustomColourUser : public fakes::ScriptedCommonDialogs {
+ public:
+  [[nodiscard]] bool ShowColorDialog(std::uint32_t& /*colour*/, CustomColours& custom) override {
+    shown.push_back(custom);
+    custom[shown.size()] = 0xABCDEF;
+    return shown.size() % 2 == 1;
+  }
+
+  std::vector<CustomColours> shown;
+};
+
+TEST(ColourDialogs, TheUsersOwnColoursAreThereTheNextTime) {
+  CustomColourUser user;
+  ColourDialog dialog(user);
+  const CustomColours first = {0x111111};
+  dialog.RebuildCustomColours(first);
+  Colour colour = 0;
+  EXPECT_TRUE(dialog.DisplayColorDialog2(colour));
+  EXPECT_FALSE(dialog.DisplayColorDialog2(colour));
+  EXPECT_EQ(user.shown.at(0), first);
+  CustomColours second = first;
+  second[1] = 0xABCDEF;
+  EXPECT_EQ(user.shown.at(1), second);
+}
+
 TEST(SelectColorsModel, TheOthersAreCopiedIntoTheDialogOnly) {
   SelectColorsModel model("", kOwn, kOthers);
   model.UseOtherColors();

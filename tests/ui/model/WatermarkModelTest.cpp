@@ -7,13 +7,15 @@
 #include "ui/model/WatermarkModel.h"
 
 #include <limits>
+#include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 namespace vantorium {
 namespace {
 
-/// Remembers the height of the last font.
+/// Remembers the last font.
 class FontRecordingRaster : public fakes::BoxTextRaster {
  public:
   using BoxTextRaster::BoxTextRaster;
@@ -60,12 +62,10 @@ class WatermarkDialog : public testing::Test {
 };
 
 TEST(TextPlacements, AreElevenInTheOrderOfTheirNumbers) {
-  ASSERT_EQ(TextPlacements().size(), 11U);
-  EXPECT_EQ(TextPlacements()[0], "Top Left");
-  EXPECT_EQ(TextPlacements()[4], "Center");
-  EXPECT_EQ(TextPlacements()[8], "Bottom Right");
-  EXPECT_EQ(TextPlacements()[9], "Top Left to Bottom Right");
-  EXPECT_EQ(TextPlacements()[10], "Bottom Left to Top Right");
+  EXPECT_EQ(std::vector<std::string_view>(TextPlacements().begin(), TextPlacements().end()),
+            (std::vector<std::string_view>{"Top Left", "Top Center", "Top Right", "Left Center", "Center",
+                                           "Right Center", "Bottom Left", "Bottom Center", "Bottom Right",
+                                           "Top Left to Bottom Right", "Bottom Left to Top Right"}));
 }
 
 TEST_F(WatermarkDialog, TheSampleIsResizedThenMarkedThenCompressed) {

@@ -1,0 +1,195 @@
+// How long a run goes on behind "Cancel" and "Yes": the longest of many runs in their window, each cancelled at a
+// moment of its own. The clock starts when the button is due to be pressed, so a window that does not answer counts
+// too. Use: bench_cancel PHOTOGRAPHS  with PHOTOGRAPHS a folder of large ones
+#include "publish/AsioFTPSocket.h"
+#include "tests/fakes/RecordingImageListDisplay.h"
+#include "tests/fakes/ScriptedFtpServer.h"
+#include "tests/ui/RunDesk.h"
+#include "ui/frmAddFoldersProcess.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTimer>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <random>
+
+#include <fmt/format.h>
+
+namespace vantorium {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Milliseconds = std::chrono::duration<double, std::milli>;
+using Script = fakes::ScriptedFtpServer::Script;
+using Session = fakes::ScriptedFtpServer::Session;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr int kRuns = 20;
+constexpr double kLimit = 100;
+
+/// The longest of some waits.
+class Longest {
+ public:
+  void Add(Milliseconds wait) {
+    longest_ = std::max(longest_, wait);
+    ++count_;
+  }
+  void Print(const std::string& what) const {
+    fmt::print("{:<40} {:>3} cancelled, the longest took {:6.1f} ms, {:.2f} of the limit\n", what, count_,
+               longest_.count(), longest_.count() / kLimit);
+    std::fflush(stdout);
+  }
+
+ private:
+  Milliseconds longest_{0};
+  int count_ = 0;
+};
+
+class Bench {
+ public:
+  explicit Bench(const fs::path& photographs) : photographs_(fs::absolute(photographs)) {}
+
+  void WhilePicturesAreMade(unsigned jobs) {
+    Measure(fmt::format("pictures, {} at a time", jobs), milliseconds(3000), [&](fakes::RunDesk& desk) {
+      AddPhotographs(desk);
+      return desk.Create(nullptr, jobs);
+    });
+  }
+  void AgainstServer(const char* what, const Script& script) {
+    Measure(what, milliseconds(1000), [&](fakes::RunDesk& desk) {
+      fakes::ScriptedFtpServer server(script);
+      desk.folder.Write("site/large.bin", std::string(50'000'000, 'x'));
+      return Upload(desk, server.Port());
+    });
+  }
+  void WhileManyFilesAreSent() {
+    Measure("4,000 small files of 200 folders", milliseconds(1000), [&](fakes::RunDesk& desk) {
+      fakes::ScriptedFtpServer server;
+      for (int i = 0; i < 4000; ++i) desk.folder.Write(fmt::format("site/{}/{}.txt", i / 20, i), "x");
+      return Upload(desk, server.Port());
+    });
+  }
+  void WhileFoldersAreAdded() {
+    Longest longest;
+    fakes::RunDesk desk;
+    for (int file = 0; file < 40'000; ++file) desk.folder.Write(fmt::format("many/{}.jpg", file), "x");
+    for (int i = 0; i < kRuns; ++i) {
+      desk.project.images.Clear();
+      fakes::RecordingImageListDisplay display;
+      ImageListOperations images(desk.project, desk.files, desk.boxes, display);
+      frmAddFoldersProcess progress;
+      const auto due = PressLater(progress, "OKButton", milliseconds(120));
+      FolderWalk({desk.project, images, desk.paths, desk.boxes, desk.loop}).Run({"T:\\many"}, progress);
+      if (progress.Cancelled) longest.Add(steady_clock::now() - due);
+    }
+    longest.Print("adding a folder of 40,000 photographs");
+  }
+
+ private:
+  using Run = std::function<RunEnd(fakes::RunDesk&)>;
+
+  void AddPhotographs(fakes::RunDesk& desk) const {
+    fs::create_directory_symlink(photographs_, desk.folder.Path() / "photos");
+    for (const auto& file : fs::directory_iterator(photographs_)) {
+      desk.AddImage(file.path().stem().string(), "T:\\photos\\" + file.path().filename().string());
+    }
+  }
+  static RunEnd Upload(fakes::RunDesk& desk, std::uint16_t port) {
+    CreateChoice& choice = desk.host.choice;
+    choice.option = CreateChoice::Option::UploadFolder;
+    choice.UploadServer = "127.0.0.1";
+    choice.UploadPort = port;
+    choice.UploadUser = "me";
+    choice.UploadIndexPath = "web";
+    choice.UploadSourceFolder = "T:\\site\\";
+    mFTP ftp(std::make_unique<AsioFTPSocket>(desk.loop), std::make_unique<AsioFTPSocket>(desk.loop), desk.paths,
+             desk.boxes, desk.loop, desk.cancel);
+    desk.cancel.OnCancel([&ftp] { ftp.FTPCancelData(); });
+    return desk.Create(&ftp);
+  }
+  /// Presses the button between 50 ms and `latest` from now; when.
+  steady_clock::time_point PressLater(QWidget& window, const char* button, milliseconds latest) {
+    const milliseconds delay{std::uniform_int_distribution<int>(50, static_cast<int>(latest.count()))(random_)};
+    QTimer::singleShot(delay, Qt::PreciseTimer, &window,
+                       [&window, button] { window.findChild<QPushButton*>(button)->click(); });
+    return steady_clock::now() + delay;
+  }
+  /// A cancelled upload of a folder ends as a failed one, in a window that is there to be closed.
+  static void CloseWhenItEnded(frmProgress& progress, steady_clock::time_point& ended) {
+    auto* look = new QTimer(&progress);
+    QObject::connect(look, &QTimer::timeout, &progress, [&progress, &ended] {
+      if (progress.CancelButtonCaption() != "&Close" || ended != steady_clock::time_point()) return;
+      ended = steady_clock::now();
+      progress.findChild<QPushButton*>("CancelButton")->click();
+    });
+    look->start(1);
+  }
+  void Measure(const std::string& what, milliseconds latest, const Run& run) {
+    Longest longest;
+    for (int i = 0; i < kRuns; ++i) {
+      fakes::RunDesk desk;
+      steady_clock::time_point due;
+      steady_clock::time_point ended;
+      desk.host.onProgress = [&](frmProgress& progress) {
+        due = PressLater(progress, "CancelButton", latest);
+        CloseWhenItEnded(progress, ended);
+      };
+      if (run(desk) == RunEnd::Cancelled) ended = steady_clock::now();
+      if (ended > due) longest.Add(ended - due);
+    }
+    longest.Print(what);
+  }
+
+  fs::path photographs_;
+  std::mt19937 random_{1};
+};
+
+Script NeverGreets() {
+  Script script;
+  script.greet = [](Session& session) { session.StaySilent(); };
+  return script;
+}
+
+Script StopsToAnswer() {
+  Script script;
+  script.on["TYPE"] = [](Session& session, const std::string&) { session.StaySilent(); };
+  return script;
+}
+
+Script StopsToRead() {
+  Script script;
+  script.on["STOR"] = [](Session& session, const std::string& name) {
+    session.Say("150 go on\r\n");
+    if (session.OpenData()) std::ignore = session.Receive(name, 100'000);
+    session.StaySilent();
+  };
+  return script;
+}
+
+int Main(int argc, char** argv) {
+  if (argc != 2) {
+    fmt::print(stderr, "Use: bench_cancel PHOTOGRAPHS\n");
+    return 2;
+  }
+  QApplication application(argc, argv);
+  Bench bench(argv[1]);
+  bench.WhilePicturesAreMade(1);
+  bench.WhilePicturesAreMade(2);
+  bench.AgainstServer("a server that never greets", NeverGreets());
+  bench.AgainstServer("a server that stops to answer", StopsToAnswer());
+  bench.AgainstServer("a server that stops to read", StopsToRead());
+  bench.WhileManyFilesAreSent();
+  bench.WhileFoldersAreAdded();
+  return 0;
+}
+
+}  // namespace
+}  // namespace vantorium
+
+int main(int argc, char** argv) {
+  return vantorium::Main(argc, argv);
+}

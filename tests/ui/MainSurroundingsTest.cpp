@@ -1,0 +1,191 @@
+// The main window among others: the tray, the windows of its start and end, and what they leave as it was.
+#include "tests/ui/MainDesk.h"
+
+#include <QClipboard>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QTextDocumentFragment>
+#include <QTimer>
+#include <QToolTip>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::MainDesk;
+using fakes::Type;
+
+class AroundTheMainWindow : public testing::Test {
+ protected:
+  [[nodiscard]] const Project& Now() const { return desk.window->CurrentProject(); }
+
+  MainDesk desk;
+};
+
+// The tray
+
+/// The menu behind the tray's icon, if there is one. Without a parent it is found among the windows only.
+QMenu* FindTrayMenu() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == "mnuPopup") return qobject_cast<QMenu*>(widget);
+  }
+  return nullptr;
+}
+
+/// Chooses an entry with the keyboard, as from the icon.
+void ChooseInTray(Qt::Key key) {
+  QMenu* menu = FindTrayMenu();
+  ASSERT_NE(menu, nullptr);
+  menu->popup({});
+  QTest::keyClick(menu, key);
+  QCoreApplication::processEvents();
+}
+
+TEST_F(AroundTheMainWindow, TheTrayBringsBackAHiddenOrMinimisedWindow) {
+  desk.Start();
+  desk.window->hide();
+  ChooseInTray(Qt::Key_V);
+  EXPECT_TRUE(desk.window->isVisible());
+  desk.window->showMinimized();
+  ChooseInTray(Qt::Key_V);
+  EXPECT_FALSE(desk.window->isMinimized());
+}
+
+TEST_F(AroundTheMainWindow, TheTrayHasHelpAboutAndClose) {
+  desk.folder.Write("data/help/index.html", "x");
+  desk.Start();
+  ChooseInTray(Qt::Key_H);
+  EXPECT_EQ(desk.shell.opened, (std::vector<std::string>{"T:\\data\\help\\index.html"}));
+  QString about;
+  DriveModal([&] { ChooseInTray(Qt::Key_A); }, [&](QWidget& dialog) { about = dialog.windowTitle(); });
+  EXPECT_EQ(about, "About Vantorium");
+  ChooseInTray(Qt::Key_C);
+  EXPECT_EQ(desk.closed, 1);
+}
+
+TEST_F(AroundTheMainWindow, TheTrayClosesNothingUnderADialog) {
+  desk.Start();
+  desk.AddPhotograph("a.jpg");
+  DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+             [&](QWidget& dialog) {
+               ChooseInTray(Qt::Key_C);
+               EXPECT_TRUE(dialog.isVisible());
+               Click(dialog, "CancelButton");
+             });
+  EXPECT_EQ(desk.closed, 0);
+  EXPECT_TRUE(desk.window->isVisible());
+}
+
+TEST_F(AroundTheMainWindow, NothingIsChosenInTheTrayBeforeTheWindowIsReady) {
+  QTimer watch;
+  bool chosen = false;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    QMenu* menu = FindTrayMenu();
+    if (menu == nullptr) return;
+    watch.stop();
+    for (const char* entry : {"mnuSysTray3", "mnuSysTray5"}) menu->findChild<QAction*>(entry)->trigger();
+    chosen = true;
+  });
+  watch.start(0);
+  desk.Start();
+  EXPECT_TRUE(chosen);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(desk.closed, 0);
+}
+
+TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
+  desk.Start();
+  auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+  Type(title, "x");
+  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  desk.Trigger("menuFileSave");
+  EXPECT_TRUE(title.hasFocus());
+}
+
+TEST_F(AroundTheMainWindow, TheStatusIsNoMarkup) {
+  desk.Start();
+  EXPECT_EQ(Find<QLabel>(*desk.window, "sbMainText").textFormat(), Qt::PlainText);
+}
+
+TEST_F(AroundTheMainWindow, ATipWithAWordInAngleBracketsIsShownToTheLetter) {
+  desk.Start();
+  for (const auto& [page, name] : std::vector<std::pair<int, const char*>>{
+           {0, "btnGalleryHEAD"}, {2, "btnImageWrapperHEAD"}, {3, "btnThumbnailsPageHEAD"}}) {
+    desk.GoTo(page);
+    auto& button = Find<QWidget>(*desk.window, name);
+    EXPECT_EQ(button.toolTip(), "Custom Code to be placed in the <HEAD> Section") << name;
+    QHelpEvent help(QEvent::ToolTip, button.rect().center(), button.mapToGlobal(button.rect().center()));
+    QApplication::sendEvent(&button, &help);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), button.toolTip()) << name;
+    QToolTip::hideText();
+  }
+}
+
+/// The texts of the small windows, in their order, while the event loop has its turns.
+class SmallWindows {
+ public:
+  SmallWindows() {
+    QObject::connect(&watch_, &QTimer::timeout, [this] { Look(); });
+    watch_.start(0);
+  }
+
+  std::vector<std::string> seen;
+
+ private:
+  void Look() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      for (const char* name : {"lblWait", "lblMessage", "Label1"}) {
+        const auto* label = window->findChild<QLabel*>(name, Qt::FindDirectChildrenOnly);
+        if (label == nullptr || !window->isVisible()) continue;
+        if (seen.empty() || seen.back() != FromQt(label->text())) seen.push_back(FromQt(label->text()));
+      }
+    }
+  }
+
+  QTimer watch_;
+};
+
+TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreToldStepByStep) {
+  SmallWindows windows;
+  desk.Start();
+  EXPECT_EQ(windows.seen, (std::vector<std::string>{"Please wait while Vantorium is initializing..."}));
+  windows.seen.clear();
+  desk.Trigger("menuOptionsClearTempFolder");
+  EXPECT_EQ(windows.seen, (std::vector<std::string>{"Please wait... Clearing Temporary Folder."}));
+  windows.seen.clear();
+  desk.window->close();
+  EXPECT_EQ(windows.seen, (std::vector<std::string>{"Saving Preferences", "Clearing Project",
+                                                    "Clearing Temporary Folder", "Cleanup"}));
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {
+  int stages = 0;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == "frmSplash") stages = Find<QProgressBar>(*window, "pb1").value();
+    }
+  });
+  watch.start(0);
+  desk.Start();
+  EXPECT_EQ(stages, 7);
+  for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_NE(window->objectName(), "frmSplash");
+}
+
+TEST_F(AroundTheMainWindow, APastedTitleIsOneLine) {
+  desk.Start();
+  QGuiApplication::clipboard()->setText("one\r\n");
+  auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+  title.selectAll();
+  title.paste();
+  EXPECT_EQ(Now().settings.textGalleryTitle, "one");
+}
+
+}  // namespace
+}  // namespace vantorium

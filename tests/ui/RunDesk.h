@@ -1,0 +1,88 @@
+#pragma once
+
+#include "core/generation/CreateGallery.h"
+#include "image/PangoTextRaster.h"
+#include "tests/fakes/FixedClock.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/RunFakes.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/frmProgress.h"
+#include "ui/ports/QtEventLoop.h"
+
+#include <QPointer>
+#include <functional>
+
+namespace vantorium::fakes {
+
+/// The main window of a run, as far as the run knows it, with the real window of its progress.
+class RunWindow : public RunHost {
+ public:
+  using MakeProgress = std::function<std::unique_ptr<frmProgress>(QWidget* owner)>;
+
+  explicit RunWindow(MakeProgress makeProgress) : makeProgress_(std::move(makeProgress)) { window.show(); }
+
+  [[nodiscard]] CreateChoice AskWhatToCreate() override { return choice; }
+  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
+    auto made = makeProgress_(&window);
+    progress = made.get();
+    if (onProgress) onProgress(*made);
+    return made;
+  }
+  void ShowStatus(const std::string& text) override { status = text; }
+  void ShowBusyPointer(bool /*busy*/) override {}
+  void EnableMainWindow(bool enabled) override { window.setEnabled(enabled); }
+  void EnableTrayIcon(bool /*enabled*/) override {}
+
+  std::function<void(frmProgress&)> onProgress;  ///< told of each run's window
+  QWidget window;
+  QPointer<frmProgress> progress;
+  CreateChoice choice;
+  std::string status;
+
+ private:
+  MakeProgress makeProgress_;
+};
+
+/// All that real runs with a real window of their progress need. The folder is drive T:, the gallery goes to T:\\out.
+class RunDesk {
+ public:
+  RunDesk() {
+    project.settings.checkImageWrapperUse = 1;
+    preferences.TempFolderLocation = "T:\\temp";
+    host.choice.option = CreateChoice::Option::CreateGallery;
+    host.choice.FilePath = "T:\\out\\index.htm";
+  }
+
+  void AddImage(const std::string& name, const std::string& path) {
+    ImageEntry entry;
+    entry.ImageName = name;
+    entry.SourcePath = path;
+    project.images.Insert(project.images.Count() + 1, entry);
+  }
+  RunEnd Create(mFTP* ftp = nullptr, unsigned jobs = 1) {
+    GenerationMode mode = GenerationMode::Create;
+    return GalleryCreator(project, preferences, "T:\\program",
+                          {host, boxes, loop, clock, shell, files, formats, cancel, screen, texts, ftp, jobs})
+        .CreateGallery(mode, 0);
+  }
+
+  TemporaryFolder folder;
+  PathMap paths{{{'T', folder.Path().string()}}};
+  RegionalFormats formats{"en_US"};
+  mFileFunctions files{paths, formats};
+  Project project;
+  Preferences preferences;
+  RecordingMessageBox boxes;
+  Journal journal;
+  RecordingShell shell{journal};
+  FixedClock clock;
+  QtEventLoop loop;
+  Screen screen;
+  PangoTextRaster texts;
+  CancelCheck cancel{boxes};
+  UploadLog log{folder.Path() / "program", clock, boxes};
+  RunWindow host{
+      [this](QWidget* owner) { return std::make_unique<frmProgress>(log, cancel, shell, "T:\\program", owner); }};
+};
+
+}  // namespace vantorium::fakes
