@@ -61,7 +61,7 @@ class Screen:
         for key in keys:
             self._xdotool("key", "--delay", "30", key)
             # A button that is pressed by its letter acts a tenth of a second later.
-            time.sleep(0.15 if key.startswith("alt+") else 0.05)
+            time.sleep(0.3 if key.startswith("alt+") else 0.05)
 
     def type(self, text):
         self._xdotool("type", "--delay", "10", text)
