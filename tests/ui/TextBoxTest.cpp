@@ -1,0 +1,70 @@
+#include "tests/ui/FormDriver.h"
+#include "ui/TextBox.h"
+
+#include <QClipboard>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+/// A box with a text in it, and the cursor behind that.
+class TextBoxTest : public testing::Test {
+ protected:
+  TextBoxTest() {
+    box.setPlainText("one ");
+    box.moveCursor(QTextCursor::End);
+  }
+  void Paste(std::unique_ptr<QMimeData> clip) {
+    QApplication::clipboard()->setMimeData(clip.release());
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+  }
+  static std::unique_ptr<QMimeData> Clip(const QString& text) {
+    auto clip = std::make_unique<QMimeData>();
+    clip->setText(text);
+    return clip;
+  }
+
+  TextBox box;
+};
+
+TEST_F(TextBoxTest, AnEmptyClipboardPastesNothing) {
+  Paste(std::make_unique<QMimeData>());
+  EXPECT_EQ(box.toPlainText(), "one ");
+  QApplication::clipboard()->clear();
+  QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(box.toPlainText(), "one ");
+}
+
+TEST_F(TextBoxTest, APastedTextComesInAtTheCursorAndIsOneStepOfUndo) {
+  Paste(Clip("two\r\nthree"));
+  EXPECT_EQ(box.toPlainText(), "one two\nthree");
+  box.undo();
+  EXPECT_EQ(box.toPlainText(), "one ");
+}
+
+TEST_F(TextBoxTest, MarkedUpTextIsPastedToTheLetter) {
+  auto clip = std::make_unique<QMimeData>();
+  clip->setData("text/markdown", "**two**\n\n- three");
+  clip->setHtml("<b>two</b>");
+  clip->setText("**two**\n\n- three");
+  Paste(std::move(clip));
+  EXPECT_EQ(box.toPlainText(), "one **two**\n\n- three");
+}
+
+TEST_F(TextBoxTest, APictureInTheClipboardPastesNothing) {
+  auto clip = std::make_unique<QMimeData>();
+  clip->setData("image/png", "x");
+  Paste(std::move(clip));
+  EXPECT_EQ(box.toPlainText(), "one ");
+}
+
+TEST_F(TextBoxTest, ABoxThatIsOnlyReadTakesNothing) {
+  box.setReadOnly(true);
+  Paste(Clip("two"));
+  EXPECT_EQ(box.toPlainText(), "one ");
+}
+
+}  // namespace
+}  // namespace vantorium
