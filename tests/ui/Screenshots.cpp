@@ -6,11 +6,15 @@
 #include "tests/ui/MainDesk.h"
 #include "ui/Resources.h"
 #include "ui/frmAbout.h"
+#include "ui/frmAddFoldersProcess.h"
 #include "ui/frmBrowseForFolder.h"
 #include "ui/frmFileBrowser.h"
+#include "ui/frmFont.h"
 #include "ui/frmInfo.h"
 #include "ui/frmInvalidImage.h"
+#include "ui/frmPreview.h"
 #include "ui/frmProgress.h"
+#include "ui/frmShuffle.h"
 #include "ui/frmShutdown.h"
 #include "ui/frmSplash.h"
 
@@ -49,6 +53,7 @@ class Photographer {
     TakePages();
     TakeDialogs();
     TakeRunWindows();
+    TakeSmallWindows();
   }
 
  private:
@@ -169,6 +174,29 @@ class Photographer {
                       true);
     QTest::qWait(100);
     Take(progress, "frmProgress");
+  }
+
+  void TakeSmallWindows() {
+    frmShuffle shuffle;
+    shuffle.Open();
+    shuffle.SetPercent(60);
+    Take(shuffle, "frmShuffle");
+    frmAddFoldersProcess adding;
+    adding.Open();
+    adding.Show("C:\\Photographs\\Holidays", 128);
+    Take(adding, "frmAddFoldersProcess");
+    FontDescription watermark;
+    watermark.Name = "Liberation Sans";
+    watermark.Size = 36;
+    watermark.Weight = 700;
+    frmFont font(
+        watermark, [](std::uint32_t&) { return false; }, nullptr);
+    font.show();
+    Take(font, "frmFont");
+    frmPreview preview(desk_.paths);
+    preview.SetPicture("Lake.jpg", "T:\\Lake.jpg");
+    preview.resize(960, 700);
+    Take(preview, "frmPreview");
     frmSplash splash;
     for (int i = 0; i < 4; ++i) splash.Step();
     splash.show();
