@@ -195,7 +195,7 @@ class Photographer {
     Take(font, "frmFont");
     frmPreview preview(desk_.paths);
     preview.SetPicture("Lake.jpg", "T:\\Lake.jpg");
-    preview.resize(960, 700);
+    preview.resize(480, 320);
     Take(preview, "frmPreview");
     frmSplash splash;
     for (int i = 0; i < 4; ++i) splash.Step();
