@@ -32,7 +32,7 @@ std::unique_ptr<Ui::frmImageDescriptions> SetUp(frmImageDescriptions& form) {
 
 frmImageDescriptions::frmImageDescriptions(Project& project, FieldBinder& binder, MessageBoxPort& boxes,
                                            QWidget* parent)
-    : QDialog(parent, Qt::Tool),
+    : QDialog(parent),  // no tool window of the toolkit: in those the letters of the main window's controls count too
       project_(project),
       binder_(binder),
       boxes_(boxes),

@@ -26,6 +26,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
+#include <QStyle>
 #include <QToolButton>
 
 namespace vantorium {
@@ -92,6 +93,7 @@ void frmMain::BuildPages() {
   statusText_->setTextFormat(Qt::PlainText);
   imageCount_ = new QLabel;
   imageCount_->setObjectName("sbMainCount");
+  imageCount_->setContentsMargins(0, 0, style()->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
   ui_->sbMain->addWidget(statusText_, 1);
   ui_->sbMain->addPermanentWidget(imageCount_);
   statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long text widens no window
@@ -128,6 +130,9 @@ void frmMain::ConnectCommands() {
   command({ui_->menuOptionsClearTempFolder}, [this] { ClearTemporaryFolder(); });
   command({ui_->menuHelpOnlineHelp}, [this] { ShowHelp(); });
   command({ui_->menuHelpAbout}, [this] { ShowAbout(); });
+
+  // The keys of the commands work in the descriptions window, too.
+  for (QAction* action : findChildren<QAction*>()) action->setShortcutContext(Qt::ApplicationShortcut);
 
   const auto button = [this](const char* name, auto run) {
     connect(findChild<QAbstractButton*>(name), &QAbstractButton::clicked, this, run);

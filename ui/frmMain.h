@@ -17,6 +17,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -145,7 +146,7 @@ class frmMain : public QMainWindow,
   std::unique_ptr<frmSysTray> tray_;
   std::unique_ptr<frmInfo> info_;
   std::unique_ptr<frmCreateGallery> create_;
-  QPointer<QWidget> focus_;  // what had the focus when the window was disabled
+  std::array<QPointer<QWidget>, 2> focus_;  // what this window and the descriptions had the focus on when disabled
   // The following are children of this window.
   QLabel* statusText_ = nullptr;
   QLabel* imageCount_ = nullptr;

@@ -12,6 +12,7 @@
 #include "ui_frmMain.h"
 
 #include <QLabel>
+#include <utility>
 
 namespace vantorium {
 
@@ -28,13 +29,16 @@ void frmMain::HideInfoWindow() {
   info_->hide();
 }
 
-// A disabled window gives its focus away; whoever types on behind a save goes on where they were.
+// A disabled window gives its focus away, and so does the descriptions window with it; whoever types on behind a save
+// goes on where they were.
 void frmMain::EnableMainWindow(bool enabled) {
-  if (!enabled && isEnabled()) focus_ = focusWidget();
+  if (!enabled && isEnabled()) focus_ = {focusWidget(), descriptions_->focusWidget()};
   setEnabled(enabled);
-  if (!enabled || focus_ == nullptr) return;
-  if (focus_->isVisible()) focus_->setFocus();
-  focus_.clear();
+  if (!enabled) return;
+  for (const QPointer<QWidget>& control : std::exchange(focus_, {})) {
+    // The window itself is not shown yet while it starts.
+    if (control != nullptr && control->isVisibleTo(control->window())) control->setFocus();
+  }
 }
 
 void frmMain::RefreshTitleBar() {

@@ -3,16 +3,18 @@
 #include "core/generation/OutputNaming.h"
 #include "core/generation/SafeNames.h"
 #include "env/FileOutput.h"
+#include "env/NeighbourFile.h"
 #include "env/PathText.h"
-#include "env/RuntimeFailure.h"
 #include "image/JPEG.h"
+
+#include <cerrno>
 
 namespace vantorium {
 namespace {
 
 std::filesystem::path NativeOrThrow(const RunState& run, const std::string& path) {
   auto native = run.files.Paths().ToNative(path);
-  if (!native) throw RuntimeFailure(FailureKind::FileAccess, path);
+  if (!native) ThrowFileAccess(path, ENODEV);
   return *std::move(native);
 }
 
@@ -100,13 +102,13 @@ Delivery LocalTarget::StoreThumbnailPage(std::int32_t number, std::string_view p
 
 Delivery LocalTarget::StoreWrapperPage(const std::string& listText, std::string_view page) {
   const std::string name = WrapperPageName(run_.project, listText);
-  if (!IsPlainFileName(name)) throw RuntimeFailure(FailureKind::FileAccess, name);
+  if (!IsPlainFileName(name)) ThrowFileAccess(name, EACCES);
   WritePage(name, page);
   return {};
 }
 
 void LocalTarget::WritePage(const std::string& name, std::string_view page) const {
-  if (LeavesFolder(name)) throw RuntimeFailure(FailureKind::FileAccess, name);
+  if (LeavesFolder(name)) ThrowFileAccess(name, EACCES);
   WriteFileWhole(NativeOrThrow(run_, run_.OutputFolder + name), page);
 }
 

@@ -31,6 +31,7 @@ def cancel_creation(desk):
         screen.wait_for_window("Create Gallery")
         screen.press("Return")
         screen.wait_for_window("Creating Gallery")
+        screen.press("ctrl+g", "ctrl+n")  # commands have to wait
         screen.press("Escape")
         screen.wait_for_window("Cancel Request")
         screen.press("Escape")  # and this means No

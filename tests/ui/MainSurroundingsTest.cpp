@@ -107,6 +107,45 @@ TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
   EXPECT_TRUE(title.hasFocus());
 }
 
+TEST_F(AroundTheMainWindow, TheKeyboardIsInTheTitleBehindAStartWithAProject) {
+  desk.Start();
+  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  desk.Trigger("menuFileSave");
+  for (const char* file : {"T:\\x.gpj", "T:\\missing.gpj"}) {
+    desk.Start(file);
+    EXPECT_TRUE(Find<QLineEdit>(*desk.window, "textGalleryTitle").hasFocus()) << file;
+  }
+}
+
+TEST_F(AroundTheMainWindow, LettersInTheDescriptionsWindowReachItsOwnControls) {
+  desk.Start();
+  desk.AddPhotograph("a.jpg");
+  Click(*desk.window, "btnImagesDescriptions");
+  auto& descriptions = Find<QWidget>(*desk.window, "frmImageDescriptions");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&descriptions));
+  for (const auto& [letter, control] : std::vector<std::pair<Qt::Key, const char*>>{
+           {Qt::Key_P, "comboImageDescriptionPlacement"}, {Qt::Key_H, "textHeader"}, {Qt::Key_F, "textFooter"}}) {
+    auto& text = Find<QWidget>(descriptions, "textDescription");
+    text.setFocus();
+    QTest::keyClick(descriptions.windowHandle(), letter, Qt::AltModifier);
+    EXPECT_EQ(FromQt(descriptions.focusWidget()->objectName()), control);
+  }
+}
+
+TEST_F(AroundTheMainWindow, TheKeysOfCommandsWorkInTheDescriptionsWindow) {
+  desk.Start();
+  desk.GoTo(1);
+  Click(*desk.window, "btnImagesDescriptions");
+  auto& descriptions = Find<QWidget>(*desk.window, "frmImageDescriptions");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&descriptions));
+  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  auto& header = Find<QWidget>(descriptions, "textHeader");
+  header.setFocus();
+  QTest::keyClick(&header, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(desk.Title(), "Vantorium 3.0 - [x.gpj]");
+  EXPECT_EQ(descriptions.focusWidget(), &header);
+}
+
 TEST_F(AroundTheMainWindow, TheStatusIsNoMarkup) {
   desk.Start();
   EXPECT_EQ(Find<QLabel>(*desk.window, "sbMainText").textFormat(), Qt::PlainText);

@@ -59,10 +59,9 @@ class DescriptionsWindow : public testing::Test {
   frmImageDescriptions form{project, binder, boxes, nullptr};
 };
 
-TEST_F(DescriptionsWindow, IsAToolWindowBesideTheMainWindow) {
+TEST_F(DescriptionsWindow, StandsBesideTheMainWindow) {
   EXPECT_EQ(form.objectName(), "frmImageDescriptions");
   EXPECT_EQ(form.windowTitle(), "Image Descriptions ToolBox");
-  EXPECT_EQ(form.windowType(), Qt::Tool);
   EXPECT_FALSE(form.isModal());
   EXPECT_EQ(form.focusWidget(), &Box("textDescription"));
   EXPECT_FALSE(project.IsModified);

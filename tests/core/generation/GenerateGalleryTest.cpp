@@ -281,6 +281,16 @@ TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsToldWithItsDescriptionAndNumber
             "An Error has occurred during Creation of this Gallery:\r\rDivision by zero\r\rError #11");
 }
 
+TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsToldWithTheReason) {
+  AddPhotograph("a");
+  RunArguments arguments = CreateArguments();
+  arguments.OutputFolder = "Q:\\";
+  EXPECT_EQ(Run(arguments), RunEnd::Failure);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].text,
+            "An Error has occurred during Creation of this Gallery:\r\rQ:\\Images\\a.jpg: No such device\r\rError #75");
+}
+
 TEST_F(GenerateGalleryTest, WhatWasWrittenBeforeAFailureStays) {
   AddPhotograph("a");
   AddEntry("gone", "T:\\photos\\gone.jpg");
@@ -317,7 +327,8 @@ TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsForItsThumbnailAndI
   arguments.CreateThumbnails = false;
   EXPECT_EQ(Run(arguments), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
-  EXPECT_NE(boxes.boxes.at(0).text.find("Error #75"), std::string::npos) << boxes.boxes.at(0).text;
+  EXPECT_NE(boxes.boxes.at(0).text.find("evil.htm: Permission denied\r\rError #75"), std::string::npos)
+      << boxes.boxes.at(0).text;
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "evil.htm"));
 }
 
