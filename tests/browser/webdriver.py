@@ -43,26 +43,31 @@ class Browser:
         self._session = None
         os.makedirs(folder, exist_ok=True)
         environment = dict(os.environ, HOME=folder, TMPDIR=folder)
-        self._driver = subprocess.Popen(
-            ["chromedriver", "--port=0"],
-            stdout=subprocess.PIPE,
-            stderr=subprocess.DEVNULL,
-            env=environment,
-            start_new_session=True,  # so that the browser is in the driver's process group
-            text=True,
-        )
         try:
-            self._connection = http.client.HTTPConnection("127.0.0.1", self._port_of_driver(), timeout=2 * PATIENCE)
+            self._connection = http.client.HTTPConnection("127.0.0.1", self._start_driver(environment),
+                                                          timeout=2 * PATIENCE)
             self._start_session(folder, width, height)
         except BaseException:
             self.close()
             raise
 
-    def _port_of_driver(self):
-        for line in self._driver.stdout:
-            started = re.search(r"started successfully on port (\d+)", line)
-            if started:
-                return int(started.group(1))
+    def _start_driver(self, environment):
+        """Starts the driver on a port that it chooses, and returns that port. Where another program takes the same port
+        for the other kind of address in that moment, the driver ends at once, so it gets more than one chance."""
+        for _ in range(5):
+            self._driver = subprocess.Popen(
+                ["chromedriver", "--port=0"],
+                stdout=subprocess.PIPE,
+                stderr=subprocess.DEVNULL,
+                env=environment,
+                start_new_session=True,  # so that the browser is in the driver's process group
+                text=True,
+            )
+            for line in self._driver.stdout:
+                started = re.search(r"started successfully on port (\d+)", line)
+                if started:
+                    return int(started.group(1))
+            self._end_processes()
         raise BrowserError("chromedriver did not start")
 
     def _start_session(self, folder, width, height):
