@@ -14,7 +14,8 @@
 namespace vantorium {
 namespace {
 
-void ShowText(QLineEdit& control, const QString& text) {
+/// Not as ShowText.h has it: the user may be typing in this very line, so the cursor stays and nobody is told.
+void ShowQuietly(QLineEdit& control, const QString& text) {
   if (control.text() == text) return;
   const QSignalBlocker quiet(control);
   const int cursor = control.cursorPosition();
@@ -25,12 +26,16 @@ void ShowText(QLineEdit& control, const QString& text) {
 }  // namespace
 
 void FieldBinder::Bind(QLineEdit& control, std::string GalleryProject::*field) {
+  BindText(control, field, new OneLineValidator(&control));
+}
+
+void FieldBinder::BindText(QLineEdit& control, std::string GalleryProject::*field, QValidator* validator) {
   fields_.push_back(&FieldOf(field));
-  control.setValidator(new OneLineValidator(&control));
+  control.setValidator(validator);
   connect(&control, &QLineEdit::textEdited, this, [this, field](const QString& text) {
     Edit([&](ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
   });
-  show_.push_back([&control, field](const GalleryProject& project) { ShowText(control, ToQt(project.*field)); });
+  show_.push_back([&control, field](const GalleryProject& project) { ShowQuietly(control, ToQt(project.*field)); });
 }
 
 void FieldBinder::BindPath(QLineEdit& control, const PathMap& paths, std::string GalleryProject::*field) {
@@ -43,8 +48,7 @@ void FieldBinder::BindPath(QLineEdit& control, const PathMap& paths, std::string
 }
 
 void FieldBinder::Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProject::*field) {
-  Bind(control, field);
-  control.setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,6}"), &control));
+  BindText(control, field, new QRegularExpressionValidator(QRegularExpression("[0-9]{0,6}"), &control));
   const auto& range = FieldOf(field).range.value();
   spinner.Attach(control, range.spinnerMinimum, range.spinnerMaximum);
   connect(&spinner, &UpDown::Stepped, this, [this, field](const QString& text) {

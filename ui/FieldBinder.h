@@ -55,6 +55,8 @@ class FieldBinder : public QObject {
   void Edited();
 
  private:
+  void BindText(QLineEdit& control, std::string GalleryProject::*field, QValidator* validator);
+
   ProjectEditor& editor_;
   MessageBoxPort& boxes_;
   std::vector<const ProjectField*> fields_;

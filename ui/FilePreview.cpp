@@ -5,6 +5,7 @@
 #include "env/PathText.h"
 #include "env/mFileFunctions.h"
 #include "image/JPEG.h"
+#include "ui/DevicePixels.h"
 #include "ui/PictureFile.h"
 #include "ui/PreviewLoader.h"
 #include "ui/frmPreview.h"
@@ -60,7 +61,7 @@ void FilePreview::ShowJPEG(const std::filesystem::path& native) {
   std::int32_t height = 0;
   if (!ReadJPEGSize(native, width, height)) return Clear();
   ShowSize(width, height);
-  const QSize box = ui_->pbPreview->SizeInPixels();
+  const QSize box = DevicePixels(*ui_->pbPreview);
   loader_->Load(native, {box.width(), box.height()});
 }
 

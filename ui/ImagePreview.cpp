@@ -1,5 +1,7 @@
 #include "ui/ImagePreview.h"
 
+#include "ui/DevicePixels.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -16,7 +18,7 @@ ImagePreview::ImagePreview(QWidget* parent) : QFrame(parent) {
 }
 
 void ImagePreview::Load(const std::optional<std::filesystem::path>& file) {
-  const QSize box = DevicePixels().expandedTo(kSmallestBox);
+  const QSize box = DevicePixels(*this).expandedTo(kSmallestBox);
   loader_.Load(file, {.width = box.width(), .height = box.height()});
 }
 
@@ -37,12 +39,8 @@ void ImagePreview::Show(const QImage& picture) {
   }
 }
 
-QSize ImagePreview::DevicePixels() const {
-  return (QSizeF(contentsRect().size()) * devicePixelRatioF()).toSize();
-}
-
 void ImagePreview::FitPicture() {
-  const QSize size = picture_.size().scaled(DevicePixels(), Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  const QSize size = picture_.size().scaled(DevicePixels(*this), Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
   if (fitted_.size() == size && fitted_.devicePixelRatio() == devicePixelRatioF()) return;
   fitted_ = QPixmap::fromImage(picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   fitted_.setDevicePixelRatio(devicePixelRatioF());

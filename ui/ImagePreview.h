@@ -34,7 +34,6 @@ class ImagePreview : public QFrame {
 
  private:
   void Show(const QImage& picture);
-  [[nodiscard]] QSize DevicePixels() const;
   void FitPicture();
 
   PreviewLoader loader_;

@@ -1,9 +1,9 @@
 #include "ui/PictureBox.h"
 
+#include "ui/DevicePixels.h"
 #include "ui/ports/QtPicture.h"
 
 #include <QPainter>
-#include <cmath>
 
 namespace vantorium {
 namespace {
@@ -22,8 +22,8 @@ QSize PictureBox::sizeHint() const {
 }
 
 PictureSize PictureBox::SizeInPixels() const {
-  const auto pixels = [this](int units) { return static_cast<std::int32_t>(std::lround(units * devicePixelRatioF())); };
-  return {pixels(contentsRect().width()), pixels(contentsRect().height())};
+  const QSize size = DevicePixels(*this);
+  return {size.width(), size.height()};
 }
 
 void PictureBox::Clear() {

@@ -18,10 +18,6 @@ void PreviewBox::Show(const QImage& picture) {
   update();
 }
 
-QSize PreviewBox::SizeInPixels() const {
-  return (QSizeF(contentsRect().size()) * devicePixelRatioF()).toSize();
-}
-
 void PreviewBox::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   QPainter painter(this);

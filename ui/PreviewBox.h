@@ -15,8 +15,6 @@ class PreviewBox : public QFrame {
   /// A null picture clears the box.
   void Show(const QImage& picture);
   [[nodiscard]] const QImage& Picture() const { return picture_; }
-  /// Room inside of the frame, in pixels of the screen.
-  [[nodiscard]] QSize SizeInPixels() const;
 
  signals:
   void Clicked();

@@ -2,6 +2,7 @@
 
 #include "env/BrowserEntry.h"
 #include "ui/OneLineValidator.h"
+#include "ui/ShowText.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmAddBrowser.h"
 
@@ -39,8 +40,7 @@ void frmAddBrowser::ChangeLocation() {
 
 void frmAddBrowser::ShowLocationAsPathText() {
   entry_.LeaveLocation(paths_);
-  const QString location = ToQt(entry_.Texts().Location);
-  if (ui_->browserLocation->text() != location) ui_->browserLocation->setText(location);
+  ShowText(*ui_->browserLocation, entry_.Texts().Location);
 }
 
 void frmAddBrowser::Browse() {

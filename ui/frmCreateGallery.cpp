@@ -2,20 +2,13 @@
 
 #include "ui/FocusLoss.h"
 #include "ui/OneLineValidator.h"
+#include "ui/ShowText.h"
 #include "ui/TypedKeys.h"
 #include "ui/frmPublish.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmCreateGallery.h"
 
 namespace vantorium {
-namespace {
-
-void ShowText(QLineEdit& control, const std::string& text) {
-  const QString shown = ToQt(text);
-  if (control.text() != shown) control.setText(shown);
-}
-
-}  // namespace
 
 frmCreateGallery::frmCreateGallery(const Parts& parts, QWidget* parent)
     : QDialog(parent),

@@ -17,11 +17,6 @@ void FillList(QComboBox& list, ValueList texts) {
   for (const std::string_view text : texts) list.addItem(ToQt(text));
 }
 
-/// Titles of frames take "&" for the mark of a mnemonic.
-QString WithoutMnemonics(std::string_view text) {
-  return ToQt(text).replace('&', "&&");
-}
-
 std::unique_ptr<Ui::frmImageDescriptions> SetUp(frmImageDescriptions& form) {
   auto ui = std::make_unique<Ui::frmImageDescriptions>();
   ui->setupUi(&form);

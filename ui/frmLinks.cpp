@@ -2,18 +2,11 @@
 
 #include "ui/FocusLoss.h"
 #include "ui/OneLineValidator.h"
+#include "ui/ShowText.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmLinks.h"
 
 namespace vantorium {
-namespace {
-
-void ShowText(QLineEdit& control, const std::string& text) {
-  const QString shown = ToQt(text);
-  if (control.text() != shown) control.setText(shown);
-}
-
-}  // namespace
 
 frmLinks::frmLinks(const std::string& title, const std::string& disabledGraphicLabel, LinksModel& model,
                    FileBrowser& browser, QWidget* owner)

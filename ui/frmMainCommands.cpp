@@ -97,7 +97,7 @@ void frmMain::AddBrowserActions(QMenu& menu, const BrowserMenus& menus) {
       menu.addAction(ui_->menuActionsViewDefault);
     } else {
       const BrowserClick click = DropDownClick(kViewButton, entry.Key, static_cast<std::int16_t>(i + 1));
-      QAction* action = menu.addAction(ToQt(entry.Text).replace('&', "&&"), this, [this, click] {
+      QAction* action = menu.addAction(WithoutMnemonics(entry.Text), this, [this, click] {
         if (click.kind == BrowserClick::Kind::View) ViewInBrowser(click.BrowserIndex);
         if (click.kind == BrowserClick::Kind::List) EditBrowserList();
       });

@@ -1,6 +1,7 @@
 #include "ui/frmTempFolderLocation.h"
 
 #include "ui/OneLineValidator.h"
+#include "ui/ShowText.h"
 #include "ui/ports/QtText.h"
 #include "ui_frmTempFolderLocation.h"
 
@@ -40,8 +41,7 @@ void frmTempFolderLocation::accept() {
 }
 
 void frmTempFolderLocation::ShowModel() {
-  const QString location = ToQt(model_.textTempFolderLocation);
-  if (ui_->textTempFolderLocation->text() != location) ui_->textTempFolderLocation->setText(location);
+  ShowText(*ui_->textTempFolderLocation, model_.textTempFolderLocation);
   ui_->checkAutoClear->setChecked(model_.checkAutoClear != 0);
 }
 

@@ -16,6 +16,11 @@ namespace vantorium {
   return text.toStdString();
 }
 
+/// For captions of menus and frames, which take "&" for the mark of a mnemonic.
+[[nodiscard]] inline QString WithoutMnemonics(std::string_view text) {
+  return ToQt(text).replace('&', "&&");
+}
+
 /// For a control of several lines: CR LF, and a CR of its own, become LF.
 [[nodiscard]] QString LinesToQt(std::string_view text);
 

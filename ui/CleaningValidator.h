@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QValidator>
+
+namespace vantorium {
+
+/// Has every text of a field cleaned as it comes in, whether it is typed or pasted. The cursor stays where it was.
+class CleaningValidator : public QValidator {
+ public:
+  using Clean = QString (*)(const QString& text);
+
+  CleaningValidator(Clean clean, QObject* parent) : QValidator(parent), clean_(clean) {}
+
+  State validate(QString& text, int& cursor) const override {
+    cursor = static_cast<int>(clean_(text.left(cursor)).size());
+    text = clean_(text);
+    return Acceptable;
+  }
+
+ private:
+  Clean clean_;
+};
+
+}  // namespace vantorium
