@@ -37,6 +37,16 @@ class ImagesPage : public testing::Test {
                  drive(dialog);
                });
   }
+  /// More images than the list has room for.
+  void FillWithMany() {
+    for (int i = 0; i < 200; ++i)
+      images.Insert(1, {.ImageName = "x",
+                        .SourcePath = {},
+                        .SizeKey = {},
+                        .DateKey = {},
+                        .ImageDescription = {},
+                        .ThumbnailDescription = {}});
+  }
 
   fakes::ImagesDesk desk;
   ImageList& images = desk.project.images;
@@ -339,13 +349,7 @@ TEST_F(ImagesPage, TheSelectedImagesMoveUpAndDown) {
 }
 
 TEST_F(ImagesPage, AMovedImageIsScrolledIntoView) {
-  for (int i = 0; i < 200; ++i)
-    images.Insert(1, {.ImageName = "x",
-                      .SourcePath = {},
-                      .SizeKey = {},
-                      .DateKey = {},
-                      .ImageDescription = {},
-                      .ThumbnailDescription = {}});
+  FillWithMany();
   desk.page->RefreshList();
   images.Select(150);
   Click(*desk.page, "btnImagesMoveUp");
@@ -490,13 +494,7 @@ TEST_F(ImagesPage, ShuffleKeepsTheImagesAndMakesTheFirstOneCurrent) {
 }
 
 TEST_F(ImagesPage, AShuffleCanBeStopped) {
-  for (int i = 0; i < 200; ++i)
-    images.Insert(1, {.ImageName = "x",
-                      .SourcePath = {},
-                      .SizeKey = {},
-                      .DateKey = {},
-                      .ImageDescription = {},
-                      .ThumbnailDescription = {}});
+  FillWithMany();
   desk.preferences.checkImagesPreview = 0;
   desk.page->RefreshList();
   desk.loop.onTurn = [&](int) { Click(Find<QDialog>(*desk.page, "frmShuffle"), "OKButton"); };
