@@ -43,14 +43,18 @@ if(VANTORIUM_SANITIZE)
   endif()
 endif()
 
-# vantorium_test(NAME LIBRARIES... FILES files...): one test program of one folder.
-function(vantorium_test name)
+# vantorium_test_program(NAME LINK libraries... FILES files...): one test program of one folder, to be run by hand.
+function(vantorium_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 TEST "" "" "LINK;FILES")
   add_executable(${name} ${TEST_FILES})
   vantorium_own_code(${name})
-  target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gtest_main)
-  target_compile_definitions(${name} PRIVATE VANTORIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE ${TEST_LINK} vantorium_fakes GTest::gtest_main)
   target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <filesystem> <fstream> <memory> <string> <vector>)
+endfunction()
+
+# vantorium_test(...): the same, and ctest runs each of its tests.
+function(vantorium_test name)
+  vantorium_test_program(${name} ${ARGN})
   include(GoogleTest)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 300 LABELS ${name} ENVIRONMENT "${VANTORIUM_TEST_ENVIRONMENT}")

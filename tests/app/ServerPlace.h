@@ -5,15 +5,11 @@
 
 namespace vantorium {
 
-/// A workplace and a real server on loopback, whose password lies in the file "password". Where the server cannot be
-/// started, the tests are skipped.
+/// A workplace and a real server on loopback, whose password lies in the file "password".
 class ServerPlace : public testing::Test {
  protected:
   explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
     place.Write("password", server.Password() + "\n");
-  }
-  void SetUp() override {
-    if (!server.WhyNot().empty()) GTEST_SKIP() << server.WhyNot();
   }
 
   /// The options that lead to the server, the last of them the remote path.

@@ -1,4 +1,5 @@
 #include "tests/app/Workplace.h"
+#include "tests/fakes/SourceFolder.h"
 
 #include <nlohmann/json.hpp>
 
@@ -33,7 +34,7 @@ TEST(ShowCommand, ANewProjectIsShownWithEveryField) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const Json expected =
-      Json::parse(fakes::TemporaryFolder::ReadFile(VANTORIUM_SOURCE_DIR "/tests/app/NewProject.json"));
+      Json::parse(fakes::TemporaryFolder::ReadFile(fakes::SourceFolder() / "tests/app/NewProject.json"));
   EXPECT_EQ(Json::diff(expected, ShowProject(place, "a.gpj").at("project")), Json::array());
 }
 

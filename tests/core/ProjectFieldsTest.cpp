@@ -1,4 +1,5 @@
 #include "core/ProjectFields.h"
+#include "tests/fakes/SourceFolder.h"
 
 #include <cctype>
 #include <cstddef>
@@ -41,7 +42,7 @@ std::optional<Declared> MemberIn(const std::string& line) {
 
 /// The data members of a struct as its header declares them, in order.
 std::vector<Declared> MembersDeclaredIn(const std::string& header, const std::string& structName) {
-  std::ifstream file(std::string(VANTORIUM_SOURCE_DIR) + "/" + header);
+  std::ifstream file(fakes::SourceFolder() / header);
   std::vector<Declared> members;
   bool inside = false;
   for (std::string line; std::getline(file, line);) {

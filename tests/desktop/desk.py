@@ -87,11 +87,10 @@ class Desk:
 
     @contextlib.contextmanager
     def ftp_server(self, kind):
-        """Where a real server on loopback is, as its port, user, password and root; None where it is not installed."""
+        """Where a real server on loopback is, as its port, user, password and root."""
         server = subprocess.Popen([self._programs.ftp_server, kind], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
-            place = server.stdout.readline()
-            yield json.loads(place) if place else None
+            yield json.loads(server.stdout.readline())
         finally:
             server.communicate(timeout=30)
 

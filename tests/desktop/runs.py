@@ -5,7 +5,6 @@ import os
 import socket
 
 from desk import expect, expect_within, files_below, wait_for_file
-from screen import Skipped
 
 
 def run(desk):
@@ -95,8 +94,6 @@ def fail_with_wrong_password(desk):
     """The window stays with its log until it is closed."""
     screen = desk.screen
     with desk.ftp_server("proftpd") as server:
-        if server is None:
-            raise Skipped("ProFTPD is not installed")
         with desk.project("p.gpj", ftp_port=server["port"]):
             publish(screen, "wrong", server["user"])
             screen.wait_for_window("FTP Error")

@@ -8,17 +8,13 @@ import time
 TOOLS = ("Xvfb", "xdotool")
 
 
-class Skipped(Exception):
-    """What a journey needs is not installed."""
-
-
 class Screen:
     """An X server without a window manager, ended with the block."""
 
     def __enter__(self):
         for tool in TOOLS:
             if not shutil.which(tool):
-                raise Skipped(f"{tool} is not installed")
+                raise RuntimeError(f"{tool} is not installed: run packaging/install-dependencies tests")
         read, write = os.pipe()
         self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-noreset"],
                                         pass_fds=[write], stderr=subprocess.DEVNULL)

@@ -1,6 +1,7 @@
 #include "tests/fakes/FtpServerProcess.h"
 
 #include "env/FileDescriptor.h"
+#include "tests/fakes/SourceFolder.h"
 
 #include <chrono>
 #include <csignal>
@@ -27,7 +28,8 @@ namespace {
 constexpr const char* kPasswordHash =
     "$6$loopback$kkZXx2HbVINfBu18JfwVcTxcTnx.sz4BJMh0UtcuB47XtY9AbTbuR8kCsqZvmM6Bo5LXVZPGh320/A37NhdUU/";
 
-/// The root folder is writable, and the server has to live with that since it may not leave it.
+/// The root folder is writable, and the server has to live with that since it may not leave it. The user that stands for
+/// anonymous ones must exist; "nobody" does on every system, "ftp" only where the server's package was installed.
 constexpr const char* kVsftpdSettings = R"(listen=YES
 listen_ipv6=NO
 listen_address=127.0.0.1
@@ -36,6 +38,7 @@ background=NO
 ftpd_banner={name}
 run_as_launching_user=YES
 anonymous_enable=YES
+ftp_username=nobody
 anon_root={root}
 allow_writeable_chroot=YES
 write_enable=YES
@@ -108,20 +111,21 @@ std::string GreetingOf(std::uint16_t port) {
   return greeting;
 }
 
-/// The first of these files that is there; an empty path when none is.
+/// The first of these files that is there.
 fs::path FirstOf(const std::vector<fs::path>& candidates) {
   for (const auto& candidate : candidates) {
     if (fs::exists(candidate)) return candidate;
   }
-  return {};
+  throw std::runtime_error(candidates.front().string() + " is missing: run packaging/install-dependencies tests");
 }
 
-/// Becomes the program, in a process group of its own that does not outlive the test, and silently.
-[[noreturn]] void Become(const std::vector<std::string>& command) {
+/// Becomes the program, in a process group of its own that does not outlive the test. What it prints goes to a file.
+[[noreturn]] void Become(const std::vector<std::string>& command, const fs::path& output) {
   ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-  const int nowhere = ::open("/dev/null", O_RDWR);
-  for (const int stream : {0, 1, 2}) ::dup2(nowhere, stream);
+  ::dup2(::open("/dev/null", O_RDONLY), 0);
+  const int file = ::open(output.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
+  for (const int stream : {1, 2}) ::dup2(file, stream);
   std::vector<char*> arguments;
   for (const auto& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
@@ -137,12 +141,11 @@ FtpServerProcess::FtpServerProcess(FtpServerKind kind) {
   for (int attempt = 0; attempt < 3; ++attempt) {
     port_ = FreePort();
     const auto command = kind == FtpServerKind::Vsftpd ? VsftpdCommand() : ProftpdCommand();
-    if (command.empty()) return;
     Start(command);
     if (WaitUntilItListens()) return;
     End();
   }
-  whyNot_ = "the server did not start to listen";
+  throw std::runtime_error("the FTP server did not start to listen: " + TemporaryFolder::ReadFile(Output()));
 }
 
 FtpServerProcess::~FtpServerProcess() {
@@ -151,9 +154,7 @@ FtpServerProcess::~FtpServerProcess() {
 
 std::vector<std::string> FtpServerProcess::VsftpdCommand() {
   user_ = "anonymous";
-  const auto program = FirstOf({VANTORIUM_SOURCE_DIR "/build/test-servers/vsftpd/usr/sbin/vsftpd", "/usr/sbin/vsftpd"});
-  if (program.empty()) whyNot_ = "vsftpd is not here: packaging/install-dependencies tests";
-  if (!whyNot_.empty()) return {};
+  const auto program = FirstOf({SourceFolder() / "build/test-servers/vsftpd/usr/sbin/vsftpd", "/usr/sbin/vsftpd"});
   using fmt::arg;
   const std::string settings =
       fmt::format(kVsftpdSettings, arg("port", port_), arg("root", Root().string()), arg("name", Name()));
@@ -163,12 +164,12 @@ std::vector<std::string> FtpServerProcess::VsftpdCommand() {
 std::vector<std::string> FtpServerProcess::ProftpdCommand() {
   user_ = "uploader";
   const auto program =
-      FirstOf({VANTORIUM_SOURCE_DIR "/build/test-servers/proftpd-core/usr/sbin/proftpd", "/usr/sbin/proftpd"});
-  if (program.empty()) whyNot_ = "ProFTPD is not here: packaging/install-dependencies tests";
+      FirstOf({SourceFolder() / "build/test-servers/proftpd-core/usr/sbin/proftpd", "/usr/sbin/proftpd"});
   const passwd* self = ::getpwuid(::getuid());
   const group* ownGroup = ::getgrgid(::getgid());
-  if (self == nullptr || ownGroup == nullptr) whyNot_ = "ProFTPD wants the test's user and group to have names";
-  if (!whyNot_.empty()) return {};
+  if (self == nullptr || ownGroup == nullptr) {
+    throw std::runtime_error("ProFTPD needs a name for the test's user and group");
+  }
   const auto users = folder_.Write(
       "users", fmt::format("{}:{}:{}:{}::{}:/bin/sh\n", user_, kPasswordHash, ::getuid(), ::getgid(), Root().string()));
   fs::permissions(users, fs::perms::owner_read);
@@ -181,7 +182,7 @@ std::vector<std::string> FtpServerProcess::ProftpdCommand() {
 
 void FtpServerProcess::Start(const std::vector<std::string>& command) {
   process_ = ::fork();
-  if (process_ == 0) Become(command);
+  if (process_ == 0) Become(command, Output());
 }
 
 bool FtpServerProcess::HasEnded() {

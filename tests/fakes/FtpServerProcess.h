@@ -18,13 +18,11 @@ enum class FtpServerKind { Vsftpd, Proftpd };
 /// rights of that user. It is gone with the object, or when the test dies.
 class FtpServerProcess {
  public:
+  /// Throws std::runtime_error where the server is not installed or does not start, with what it said.
   explicit FtpServerProcess(FtpServerKind kind);
   ~FtpServerProcess();
   FtpServerProcess(const FtpServerProcess&) = delete;
   FtpServerProcess& operator=(const FtpServerProcess&) = delete;
-
-  /// Why the server does not run; empty when it does.
-  [[nodiscard]] const std::string& WhyNot() const { return whyNot_; }
 
   [[nodiscard]] std::uint16_t Port() const { return port_; }
   [[nodiscard]] std::string User() const { return user_; }
@@ -33,6 +31,7 @@ class FtpServerProcess {
   [[nodiscard]] std::filesystem::path Root() const { return folder_.Path() / "root"; }
 
  private:
+  [[nodiscard]] std::filesystem::path Output() const { return folder_.Path() / "output"; }
   [[nodiscard]] std::string Name() const { return folder_.Path().filename().string(); }
   [[nodiscard]] std::vector<std::string> VsftpdCommand();
   [[nodiscard]] std::vector<std::string> ProftpdCommand();
@@ -44,7 +43,6 @@ class FtpServerProcess {
   TemporaryFolder folder_;
   std::uint16_t port_ = 0;
   std::string user_;
-  std::string whyNot_;
   pid_t process_ = -1;
 };
 

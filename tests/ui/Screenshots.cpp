@@ -3,6 +3,7 @@
 // The windows are those of the program, on a small project with photographs of /usr/share/backgrounds or, where there
 // are none, with the sample picture.
 #include "core/generation/RunHost.h"
+#include "tests/fakes/SourceFolder.h"
 #include "tests/ui/MainDesk.h"
 #include "ui/Resources.h"
 #include "ui/frmAbout.h"
@@ -37,7 +38,7 @@ class Photographer {
   explicit Photographer(std::filesystem::path folder) : folder_(std::move(folder)) {
     std::filesystem::create_directories(folder_);
     desk_.folder.Write("data/preview.jpg", fakes::TemporaryFolder::ReadFile(
-                                               std::filesystem::path(VANTORIUM_SOURCE_DIR) / "data/preview.jpg"));
+                                               fakes::SourceFolder() / "data/preview.jpg"));
     desk_.folder.Write("program/vantorium.ini",
                        "[BROWSERS]\r\nCount=\"2\"\r\nName1=\"Chromium\"\r\nLocation1=\"Z:\\usr\\bin\\chromium\"\r\n"
                        "Name2=\"Text Browser\"\r\nLocation2=\"Z:\\usr\\bin\\links\"\r\n");

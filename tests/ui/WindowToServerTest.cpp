@@ -20,7 +20,6 @@ using fakes::Type;
 class WindowToServer : public testing::TestWithParam<FtpServerKind> {
  protected:
   void SetUp() override {
-    if (!server.WhyNot().empty()) GTEST_SKIP() << server.WhyNot();
     desk.ftpPort = server.Port();
     desk.folder.Write("program/vantorium.pub",
                       "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"Mine\"\r\n"

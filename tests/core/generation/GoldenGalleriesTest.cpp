@@ -6,6 +6,7 @@
 #include "core/generation/ThumbnailPage.h"
 #include "core/generation/WrapperPage.h"
 #include "tests/core/generation/PageFixture.h"
+#include "tests/fakes/SourceFolder.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <cstdlib>
@@ -233,7 +234,7 @@ std::vector<Gallery> Galleries() {
 }
 
 fs::path GoldenFolder() {
-  return fs::path(VANTORIUM_SOURCE_DIR) / "tests" / "golden";
+  return fakes::SourceFolder() / "tests" / "golden";
 }
 
 /// With this in the environment the golden files are made anew instead of compared: look at every difference.

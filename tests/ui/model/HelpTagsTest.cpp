@@ -1,3 +1,4 @@
+#include "tests/fakes/SourceFolder.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/TagMenu.h"
 
@@ -6,7 +7,7 @@ namespace {
 
 TEST(HelpTags, TheHelpExplainsEveryTagOfTheEditors) {
   const std::string help =
-      fakes::TemporaryFolder::ReadFile(std::filesystem::path(VANTORIUM_SOURCE_DIR) / "docs/help/tags.html");
+      fakes::TemporaryFolder::ReadFile(fakes::SourceFolder() / "docs/help/tags.html");
   for (const TagMenu& menu : TagMenus()) {
     for (const TagMenuEntry& entry : menu.entries) {
       if (entry.tag.empty()) continue;
