@@ -3,6 +3,7 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+add_compile_options(-pthread)  # everywhere, or precompiled headers could not be shared
 
 find_program(CCACHE ccache)
 if(CCACHE)
@@ -43,13 +44,17 @@ if(VANTORIUM_SANITIZE)
   endif()
 endif()
 
-# vantorium_test_program(NAME LINK libraries... FILES files...): one test program of one folder, to be run by hand.
+# vantorium_test_program(NAME LINK libraries... FILES files... [HEADERS target]): one test program of one folder, to be
+# run by hand. It uses the precompiled headers of that target, vantorium_fakes unless given.
 function(vantorium_test_program name)
-  cmake_parse_arguments(PARSE_ARGV 1 TEST "" "" "LINK;FILES")
+  cmake_parse_arguments(PARSE_ARGV 1 TEST "" "HEADERS" "LINK;FILES")
+  if(NOT TEST_HEADERS)
+    set(TEST_HEADERS vantorium_fakes)
+  endif()
   add_executable(${name} ${TEST_FILES})
   vantorium_own_code(${name})
   target_link_libraries(${name} PRIVATE ${TEST_LINK} vantorium_fakes GTest::gtest_main)
-  target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <filesystem> <fstream> <memory> <string> <vector>)
+  target_precompile_headers(${name} REUSE_FROM ${TEST_HEADERS})
 endfunction()
 
 # vantorium_test(...): the same, and ctest runs each of its tests.
