@@ -15,6 +15,7 @@
 #include "env/RuntimeFailure.h"
 
 #include <array>
+#include <exception>
 #include <new>
 
 namespace vantorium {
@@ -100,15 +101,20 @@ RunEnd FailUnexpectedly(const RunContext& context, const std::string& descriptio
   return RunEnd::Failure;
 }
 
-/// The phases with unexpected failures trapped.
+/// The phases with unexpected failures trapped: the program's own, and whatever the libraries below it throw.
 RunEnd RunTrapped(const RunContext& context) {
   constexpr std::int32_t kOutOfMemory = 7;
+  constexpr std::int32_t kInternal = 51;
   try {
     return GoThroughPhases(context);
   } catch (const RuntimeFailure& failure) {
     return FailUnexpectedly(context, failure.Description(), failure.Number());
   } catch (const std::bad_alloc&) {
     return FailUnexpectedly(context, "Out of memory", kOutOfMemory);
+  } catch (const std::exception& failure) {
+    return FailUnexpectedly(context, failure.what(), kInternal);
+  } catch (...) {
+    return FailUnexpectedly(context, "Internal error", kInternal);
   }
 }
 
