@@ -8,6 +8,7 @@
 #include "core/generation/PagePhases.h"
 #include "core/generation/PictureRecipes.h"
 #include "core/generation/ProducePictures.h"
+#include "core/generation/ProtectSources.h"
 #include "core/generation/RunContext.h"
 #include "core/generation/ServerPhases.h"
 #include "core/generation/ServerTarget.h"
@@ -54,9 +55,13 @@ PhaseResult MakeFolders(const RunContext& context) {
   return context.Settle(context.target.MakeFolders());
 }
 
+PhaseResult PrepareWatermarksOfRun(const RunContext& context) {
+  PrepareWatermarks(context.run, context.screen, context.texts);
+  return kGoOn;
+}
+
 PhaseResult ProduceUnlessPreview(const RunContext& context) {
   if (context.run.mode == GenerationMode::Preview) return kGoOn;
-  PrepareWatermarks(context.run, context.screen, context.texts);
   return ProducePictures(context);
 }
 
@@ -73,18 +78,20 @@ using Phase = PhaseResult (*)(const RunContext&);
 
 /// A run in its fixed order. The first phase that comes to an end ends the run.
 constexpr Phase kPhases[] = {
-    OpenServerSession,     //
-    UploadFolderAndEnd,    //
-    StampAndSetPaths,      //
-    CollectImages,         //
-    MakeFolders,           //
-    ProduceUnlessPreview,  //
-    CopyBackdrops,         //
-    CopyLinkGraphics,      //
-    EndWithoutPages,       //
-    WriteIndexPage,        //
-    WriteThumbnailPages,   //
-    WriteWrapperPages,     //
+    OpenServerSession,       //
+    UploadFolderAndEnd,      //
+    StampAndSetPaths,        //
+    CollectImages,           //
+    MakeFolders,             //
+    PrepareWatermarksOfRun,  //
+    ProtectSources,          //
+    ProduceUnlessPreview,    //
+    CopyBackdrops,           //
+    CopyLinkGraphics,        //
+    EndWithoutPages,         //
+    WriteIndexPage,          //
+    WriteThumbnailPages,     //
+    WriteWrapperPages,       //
     Succeed,
 };
 
@@ -210,6 +217,11 @@ std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunArguments&
   return std::make_unique<LocalTarget>(run);
 }
 
+std::string ProjectFileOf(const Project& project) {
+  if (project.IsUntitled || project.ProjectFileName.empty()) return {};
+  return WithTrailingBackslash(project.ProjectFolder) + project.ProjectFileName;
+}
+
 /// Sizes in percent never reach a page, though the option can be set.
 void ForceOffSizesInPercent(Project& project) {
   constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
@@ -231,6 +243,7 @@ RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const Ru
                .formats = environment.formats,
                .mode = arguments.Mode,
                .ProjectFolder = project.ProjectFolder,
+               .ProjectFile = ProjectFileOf(project),
                .OutputFolder = arguments.OutputFolder,
                .IndexFileName = arguments.IndexFileName};
   mFTP* const ftp = SendsToServer(arguments.Mode) ? environment.ftp : nullptr;

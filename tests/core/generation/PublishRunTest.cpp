@@ -169,6 +169,23 @@ TEST_F(PublishRunTest, ASourceThatIsGoneBeforeItsPlainCopyIsNamed) {
   EXPECT_TRUE(NamesOn(server).empty());
 }
 
+TEST_F(PublishRunTest, ATemporaryCopyDoesNotReplaceASource) {
+  folder.Write("temp/a.jpg", PlainJpeg(40, 30));
+  AddEntry("a", "T:\\temp\\a.jpg");
+  const std::string photograph = folder.Read("temp/a.jpg");
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(),
+            "File Error: Unable to create temporary Copy of the File \"T:\\temp\\a.jpg\".  It would replace "
+            "\"T:\\temp\\a.jpg\", which this Gallery is made from.");
+  EXPECT_EQ(folder.Read("temp/a.jpg"), photograph);
+  EXPECT_TRUE(NamesOn(server).empty());
+
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << "sent as it is";
+  EXPECT_EQ(folder.Read("temp/a.jpg"), photograph);
+}
+
 struct RefusalCase {
   const char* verb;
   const char* reply;
