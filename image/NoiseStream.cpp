@@ -13,14 +13,15 @@ std::uint64_t Mixed(std::uint64_t key) {
 
 }  // namespace
 
-NoiseStream::NoiseStream(std::uint64_t seed, std::uint64_t picture) : key_(Mixed(Mixed(seed) ^ picture)) {}
+NoiseStream::NoiseStream(std::uint64_t seed, std::uint64_t picture, std::int32_t firstRow)
+    : key_(Mixed(Mixed(seed) ^ picture)), firstRow_(firstRow) {}
 
 void NoiseStream::NextPass() {
   key_ = Mixed(key_);
 }
 
 NoiseRow NoiseStream::Row(std::int32_t row) const {
-  return NoiseRow(Mixed(key_ ^ static_cast<std::uint32_t>(row)));
+  return NoiseRow(Mixed(key_ ^ static_cast<std::uint32_t>(firstRow_ + row)));
 }
 
 }  // namespace vantorium

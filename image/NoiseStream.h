@@ -31,7 +31,8 @@ class NoiseRow {
 /// picture alone: pictures may be worked on in any order, at the same time, with the same result.
 class NoiseStream {
  public:
-  NoiseStream(std::uint64_t seed, std::uint64_t picture);
+  /// For the rows of the picture from `firstRow` on, which Row counts from 0: a picture may be worked on in parts.
+  NoiseStream(std::uint64_t seed, std::uint64_t picture, std::int32_t firstRow = 0);
 
   /// Begins the next pass over the picture, with numbers of its own.
   void NextPass();
@@ -48,6 +49,7 @@ class NoiseStream {
 
  private:
   std::uint64_t key_;
+  std::int32_t firstRow_;
 };
 
 }  // namespace vantorium

@@ -2,7 +2,6 @@
 
 #include "env/RuntimeFailure.h"
 #include "image/Filters.h"
-#include "image/JPEG.h"
 
 #include <fmt/format.h>
 
@@ -20,38 +19,37 @@ PictureSize SizeOf(const PictureRecipe& recipe, PictureSize source) {
   return size;
 }
 
-void ApplyFilters(cDIBSection& picture, const PictureRecipe& recipe) {
+/// Row `y` of the whole picture, counted from the bottom. The noise of a row depends on its place.
+void ApplyFilters(cDIBSection& row, std::int32_t y, const PictureRecipe& recipe) {
   const ImageFilterSettings& filters = recipe.filters;
-  if (filters.checkBrightness == 1) Lighten(picture, filters.sliderBrightness);
-  if (filters.checkFade == 1) Fade(picture, filters.sliderFade);
+  if (filters.checkBrightness == 1) Lighten(row, filters.sliderBrightness);
+  if (filters.checkFade == 1) Fade(row, filters.sliderFade);
   if (filters.checkNoise == 1) {
-    NoiseStream stream(/*seed=*/0, recipe.noiseNumber);
-    AddNoise(picture, filters.sliderNoise, filters.checkNoiseRandom == 1, stream);
+    NoiseStream stream(/*seed=*/0, recipe.noiseNumber, y);
+    AddNoise(row, filters.sliderNoise, filters.checkNoiseRandom == 1, stream);
   }
-  if (filters.checkGrayscale == 1) GrayScale(picture);
+  if (filters.checkGrayscale == 1) GrayScale(row);
+}
+
+std::shared_ptr<const TextMask> MaskOf(const PictureRecipe& recipe, PictureSize size) {
+  return recipe.watermark ? recipe.watermark->MaskFor(size.width, size.height) : nullptr;
 }
 
 }  // namespace
 
 PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source)
-    : recipe_(recipe),
-      plan_(source, SizeOf(recipe, source)),
-      newRow_(plan_.NewSize().height),
-      lastSeen_(source.height) {
-  const auto [width, height] = plan_.NewSize();
-  if (NeedsWholePicture()) {
-    if (!whole_.Create(width, height)) ThrowNoSuchPicture(plan_.NewSize());
-  }
-  if (recipe_.watermark) mask_ = recipe_.watermark->MaskFor(width, height);
-  if (!NeedsWholePicture()) {
-    encoder_ = std::make_unique<JPEGEncoder>(width, height, recipe_.filters.sliderQuality);
-    encodedRow_.resize(static_cast<std::size_t>(width) * 3);
-  }
-  BeginRow();
-}
+    : PictureOutput(recipe, source, SizeOf(recipe, source)) {}
 
-bool PictureOutput::NeedsWholePicture() const {
-  return recipe_.filters.AnyFilter();
+// The watermark and the encoder refuse what is too large for them before memory is taken for a size.
+PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size)
+    : recipe_(recipe),
+      mask_(MaskOf(recipe, size)),
+      encoder_(size.width, size.height, recipe.filters.sliderQuality),
+      plan_(source, size),
+      newRow_(size.height),
+      lastSeen_(source.height) {
+  if (!row_.Create(size.width, 1)) ThrowNoSuchPicture(size);
+  BeginRow();
 }
 
 void PictureOutput::BeginRow() {
@@ -67,24 +65,19 @@ void PictureOutput::TakeSourceRow(std::int32_t row, const std::uint8_t* bytes, c
   lastSeen_ = row;
   // An enlargement makes several new rows of one pair.
   for (; newRow_ >= 0 && rows_.lower == row; BeginRow()) {
-    std::uint8_t* result = encoder_ ? encodedRow_.data() : whole_.Row(newRow_);
-    plan_.CombineRows(rows_, bytes, rows_.upper == row ? bytes : above, result);
-    if (encoder_) WriteEncodedRow();
+    plan_.CombineRows(rows_, bytes, rows_.upper == row ? bytes : above, row_.Row(0));
+    FinishRow();
   }
 }
 
-void PictureOutput::WriteEncodedRow() {
-  if (mask_) {
-    recipe_.watermark->Ink().ApplyToRow(*mask_, plan_.NewSize().height - 1 - newRow_, encodedRow_.data());
-  }
-  encoder_->WriteRow(encodedRow_.data());
+void PictureOutput::FinishRow() {
+  ApplyFilters(row_, newRow_, recipe_);
+  if (mask_) recipe_.watermark->Ink().ApplyToRow(*mask_, plan_.NewSize().height - 1 - newRow_, row_.Row(0));
+  encoder_.WriteRow(row_.Row(0));
 }
 
 std::string PictureOutput::Finish() {
-  if (encoder_) return encoder_->Finish();
-  ApplyFilters(whole_, recipe_);
-  if (mask_) recipe_.watermark->Ink().Apply(*mask_, whole_);
-  return EncodeJPEG(whole_, recipe_.filters.sliderQuality);
+  return encoder_.Finish();
 }
 
 }  // namespace vantorium

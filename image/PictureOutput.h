@@ -6,14 +6,13 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace vantorium {
 
-/// One output of a photograph, made of the rows of its source as they come, from the top of the picture down. Rows go
-/// straight into the file where no operation needs the whole output. Each call may throw RuntimeFailure InvalidArgument
-/// for a size below 1 x 1 or one that there is no memory for, JPEGLibrary when the picture can't be encoded, and what
-/// the watermark throws.
+/// One output of a photograph, made of the rows of its source as they come, from the top of the picture down. Each row
+/// is finished and goes into the file before the next one is made, so that no size needs more memory than a few rows.
+/// Each call may throw RuntimeFailure InvalidArgument for a size below 1 x 1, JPEGLibrary when the picture can't be
+/// encoded, and what the watermark and the filters throw. A size that is refused takes no memory.
 class PictureOutput {
  public:
   PictureOutput(const PictureRecipe& recipe, PictureSize source);
@@ -26,19 +25,19 @@ class PictureOutput {
   [[nodiscard]] std::string Finish();
 
  private:
-  [[nodiscard]] bool NeedsWholePicture() const;
+  PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size);
+
   void BeginRow();
-  void WriteEncodedRow();
+  void FinishRow();
 
   PictureRecipe recipe_;
-  ResamplePlan plan_;
-  std::int32_t newRow_;                   // the new row under way, from the bottom
-  std::int32_t lastSeen_;                 // the last source row that came
-  ResamplePlan::SourceRows rows_ = {};    // of the new row
-  cDIBSection whole_;                     // where an operation needs the whole output
-  std::unique_ptr<JPEGEncoder> encoder_;  // where none does
   std::shared_ptr<const TextMask> mask_;  // of the watermark, if there is one
-  std::vector<std::uint8_t> encodedRow_;  // the new row on its way to the encoder
+  JPEGEncoder encoder_;
+  ResamplePlan plan_;
+  std::int32_t newRow_;                 // the new row under way, from the bottom
+  std::int32_t lastSeen_;               // the last source row that came
+  ResamplePlan::SourceRows rows_ = {};  // of the new row
+  cDIBSection row_;                     // the new row on its way to the encoder
 };
 
 }  // namespace vantorium

@@ -26,9 +26,8 @@ std::uint8_t Mixed(int ink, int picture, int alpha) {
   return static_cast<std::uint8_t>(up ? quotient + 1 : quotient);
 }
 
-std::uint8_t CheckedAlpha(std::int16_t alpha) {
+void CheckAlpha(std::int16_t alpha) {
   if (alpha < 0 || alpha > 255) throw RuntimeFailure(FailureKind::Overflow);
-  return static_cast<std::uint8_t>(alpha);
 }
 
 }  // namespace
@@ -67,7 +66,8 @@ WatermarkPainter::WatermarkPainter(const WatermarkSettings& settings, std::int32
     : text_(settings.textWatermark),
       placement_(settings.comboTextPlacement),
       font_(MakeWatermarkFont(settings, pixelsPerInch)),
-      ink_(settings.Color, CheckedAlpha(settings.sliderAlpha)),
+      alpha_(settings.sliderAlpha),
+      ink_(settings.Color, static_cast<std::uint8_t>(settings.sliderAlpha)),
       raster_(raster) {}
 
 void WatermarkPainter::Draw(cDIBSection& dib) const {
@@ -76,6 +76,7 @@ void WatermarkPainter::Draw(cDIBSection& dib) const {
 }
 
 std::shared_ptr<const TextMask> WatermarkPainter::MaskFor(std::int32_t width, std::int32_t height) const {
+  CheckAlpha(alpha_);
   const std::lock_guard lock(mutex_);
   const auto found = std::find_if(known_.begin(), known_.end(), [width, height](const KnownMask& known) {
     return known.width == width && known.height == height;

@@ -38,14 +38,14 @@ class WatermarkInk {
 /// text are worked out once for pictures of one size; those of the few last sizes are kept.
 class WatermarkPainter {
  public:
-  /// `raster` must live as long as the painter. Throws RuntimeFailure Overflow for an alpha that is no byte.
+  /// `raster` must live as long as the painter. Settings that can't be drawn fail only when they are to be drawn.
   WatermarkPainter(const WatermarkSettings& settings, std::int32_t pixelsPerInch, const TextRaster& raster);
 
-  /// Throws as DrawWatermarkText.
+  /// Throws as DrawWatermarkText, and RuntimeFailure Overflow for an alpha that is no byte.
   void Draw(cDIBSection& dib) const;
 
   /// The pixels that Draw changes in a picture of that size, and the change row by row, for a picture that is never
-  /// held in whole. Throws as DrawWatermarkText.
+  /// held in whole. Throws as Draw.
   [[nodiscard]] std::shared_ptr<const TextMask> MaskFor(std::int32_t width, std::int32_t height) const;
   [[nodiscard]] const WatermarkInk& Ink() const { return ink_; }
 
@@ -59,6 +59,7 @@ class WatermarkPainter {
   std::string text_;
   std::int16_t placement_;
   LogFont font_;
+  std::int16_t alpha_;
   WatermarkInk ink_;
   const TextRaster& raster_;
   mutable std::mutex mutex_;

@@ -18,7 +18,8 @@ constexpr std::array<Backdrop, 3> kBackdrops = {{
     {"_backdrop_imagepage", &GalleryProject::textImageWrapperBackdrop},
 }};
 
-/// A link's two graphics: the normal one, and the one for the end of the sequence under the name with `endSuffix`.
+/// A link's two graphics: the normal one, and the one for the end of the sequence under the name with `endSuffix`. The
+/// Index link has no end.
 struct LinkGraphics {
   const char* fixedName;
   const char* endSuffix;
@@ -29,7 +30,7 @@ struct LinkGraphics {
 constexpr auto kBig = AuxiliarySpelling::File;
 constexpr auto kSmall = AuxiliarySpelling::file;
 
-constexpr std::array<LinkGraphics, 8> kLinkGraphics = {{
+constexpr std::array<LinkGraphics, 9> kLinkGraphics = {{
     {"_thumblink_first", "_first", &GalleryProject::ThumbnailFirstLink, kBig},
     {"_thumblink_previous", "_first", &GalleryProject::ThumbnailPreviousLink, kBig},
     {"_thumblink_next", "_last", &GalleryProject::ThumbnailNextLink, kBig},
@@ -38,54 +39,67 @@ constexpr std::array<LinkGraphics, 8> kLinkGraphics = {{
     {"_imagelink_previous", "_first", &GalleryProject::ImagePreviousLink, kSmall},
     {"_imagelink_next", "_last", &GalleryProject::ImageNextLink, kSmall},
     {"_imagelink_last", "_last", &GalleryProject::ImageLastLink, kSmall},
+    {"_imagelink_index", nullptr, &GalleryProject::ImageIndexLink, kSmall},
 }};
 
 /// A source without a folder lies beside the project file.
-std::string Resolved(const RunContext& context, const std::string& source) {
+std::string Resolved(const RunState& run, const std::string& source) {
   if (!GetFilePath(source).empty()) return source;
-  return WithTrailingBackslash(context.run.ProjectFolder) + source;
+  return WithTrailingBackslash(run.ProjectFolder) + source;
 }
 
-PhaseResult CopyAuxiliaryFile(const RunContext& context, const std::string& source, const std::string& fixedName,
-                              AuxiliarySpelling spelling) {
-  const std::string target = fixedName + GetFileExtension(source);
-  return context.Settle(context.target.CopyAuxiliary(source, target, spelling));
+/// Adds the file of a setting, unless that is empty.
+void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::string& setting,
+             const std::string& fixedName, AuxiliarySpelling spelling) {
+  if (setting.empty()) return;
+  const std::string source = Resolved(run, setting);
+  files.push_back({source, fixedName + GetFileExtension(source), spelling});
 }
 
-PhaseResult CopyGraphic(const RunContext& context, const std::string& setting, const std::string& fixedName,
-                        AuxiliarySpelling spelling) {
-  if (setting.empty()) return kGoOn;
-  return CopyAuxiliaryFile(context, Resolved(context, setting), fixedName, spelling);
+/// Links between images stand on wrapper pages only.
+bool IsUsed(const LinkGraphics& graphics, const RunState& run) {
+  return graphics.spelling == kBig || run.project.checkImageWrapperUse == 1;
 }
 
-PhaseResult CopyBackdrop(const RunContext& context, const Backdrop& backdrop) {
-  const std::string& setting = context.run.project.*backdrop.source;
-  if (setting.empty()) return kGoOn;
-  const std::string source = Resolved(context, setting);
-  if (auto end = context.Begin("Copying Backdrop Image File \"" + source + "\"...")) return end;
-  return CopyAuxiliaryFile(context, source, backdrop.fixedName, kBig);
+PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
+  return context.Settle(context.target.CopyAuxiliary(file.source, file.name, file.spelling));
 }
 
 }  // namespace
 
+std::vector<AuxiliaryFile> Backdrops(const RunState& run) {
+  std::vector<AuxiliaryFile> files;
+  for (const auto& [name, source] : kBackdrops) AddFile(files, run, run.project.*source, name, kBig);
+  return files;
+}
+
+std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
+  std::vector<AuxiliaryFile> files;
+  for (const LinkGraphics& graphics : kLinkGraphics) {
+    if (!IsUsed(graphics, run)) continue;
+    const LinkSettings& link = run.project.*graphics.link;
+    AddFile(files, run, link.textLinkGraphic, graphics.fixedName, graphics.spelling);
+    if (graphics.endSuffix == nullptr) continue;
+    AddFile(files, run, link.textLinkGraphicDisabled, std::string(graphics.fixedName) + graphics.endSuffix,
+            graphics.spelling);
+  }
+  return files;
+}
+
 PhaseResult CopyBackdrops(const RunContext& context) {
-  for (const Backdrop& backdrop : kBackdrops) {
-    if (auto end = CopyBackdrop(context, backdrop)) return end;
+  for (const AuxiliaryFile& file : Backdrops(context.run)) {
+    if (auto end = context.Begin("Copying Backdrop Image File \"" + file.source + "\"...")) return end;
+    if (auto end = Copy(context, file)) return end;
   }
   return kGoOn;
 }
 
 PhaseResult CopyLinkGraphics(const RunContext& context) {
-  const GalleryProject& project = context.run.project;
   if (auto end = context.Begin("Copying Page Link Image Files...")) return end;
-  for (const auto& [name, endSuffix, link, spelling] : kLinkGraphics) {
-    const LinkSettings& settings = project.*link;
-    if (auto end = CopyGraphic(context, settings.textLinkGraphic, name, spelling)) return end;
-    if (auto end = CopyGraphic(context, settings.textLinkGraphicDisabled, std::string(name) + endSuffix, spelling)) {
-      return end;
-    }
+  for (const AuxiliaryFile& file : PageLinkGraphics(context.run)) {
+    if (auto end = Copy(context, file)) return end;
   }
-  return CopyGraphic(context, project.ImageIndexLink.textLinkGraphic, "_imagelink_index", kSmall);
+  return kGoOn;
 }
 
 }  // namespace vantorium

@@ -19,6 +19,12 @@ using Delivery = std::optional<Refusal>;  ///< nothing when it went well
 /// Which spelling the message about an auxiliary file has.
 enum class AuxiliarySpelling { File, file };
 
+/// That message.
+[[nodiscard]] inline std::string UnableToCopyAuxiliary(const std::string& source, AuxiliarySpelling spelling) {
+  return std::string("Unable to copy the ") + (spelling == AuxiliarySpelling::File ? "File" : "file") + " \"" + source +
+         "\".";
+}
+
 /// Where a run puts the files it makes: a folder of this machine, or a server by way of the temporary folder. Names are
 /// those of the gallery; a name that would lead out of its folder is refused like a file that can't be written. What is
 /// stored appears under its name only when it is whole.
@@ -28,13 +34,16 @@ class GalleryTarget {
 
   [[nodiscard]] virtual Delivery MakeFolders() = 0;
 
+  /// Whether the next two questions may be asked ahead of an image's turn. To a server they are a part of the run's
+  /// dialogue, and each is asked once.
+  [[nodiscard]] virtual bool MayAskAhead() const = 0;
   [[nodiscard]] virtual bool ImageExists(const ImageRunInfo& image) = 0;
   [[nodiscard]] virtual bool ThumbnailExists(const ImageRunInfo& image) = 0;
   /// Size of an image at the target as text. Throws RuntimeFailure when it can't be read.
   [[nodiscard]] virtual std::string ImageSizeText(const ImageRunInfo& image) = 0;
 
-  /// The source file as it is; sets the image's FileSize. Throws RuntimeFailure when the source has no size.
-  [[nodiscard]] virtual Delivery CopyImage(ImageRunInfo& image) = 0;
+  /// The source file as it is.
+  [[nodiscard]] virtual Delivery CopyImage(const ImageRunInfo& image) = 0;
   /// An encoded image under the source's file times; sets the image's FileSize. Throws RuntimeFailure JPEGLibrary when
   /// it can't be written.
   [[nodiscard]] virtual Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) = 0;

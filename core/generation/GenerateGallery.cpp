@@ -8,6 +8,7 @@
 #include "core/generation/PagePhases.h"
 #include "core/generation/PictureRecipes.h"
 #include "core/generation/ProducePictures.h"
+#include "core/generation/ProtectSources.h"
 #include "core/generation/RunContext.h"
 #include "core/generation/ServerPhases.h"
 #include "core/generation/ServerTarget.h"
@@ -15,6 +16,7 @@
 #include "env/RuntimeFailure.h"
 
 #include <array>
+#include <exception>
 #include <new>
 
 namespace vantorium {
@@ -53,9 +55,13 @@ PhaseResult MakeFolders(const RunContext& context) {
   return context.Settle(context.target.MakeFolders());
 }
 
+PhaseResult PrepareWatermarksOfRun(const RunContext& context) {
+  PrepareWatermarks(context.run, context.screen, context.texts);
+  return kGoOn;
+}
+
 PhaseResult ProduceUnlessPreview(const RunContext& context) {
   if (context.run.mode == GenerationMode::Preview) return kGoOn;
-  PrepareWatermarks(context.run, context.screen, context.texts);
   return ProducePictures(context);
 }
 
@@ -72,18 +78,20 @@ using Phase = PhaseResult (*)(const RunContext&);
 
 /// A run in its fixed order. The first phase that comes to an end ends the run.
 constexpr Phase kPhases[] = {
-    OpenServerSession,     //
-    UploadFolderAndEnd,    //
-    StampAndSetPaths,      //
-    CollectImages,         //
-    MakeFolders,           //
-    ProduceUnlessPreview,  //
-    CopyBackdrops,         //
-    CopyLinkGraphics,      //
-    EndWithoutPages,       //
-    WriteIndexPage,        //
-    WriteThumbnailPages,   //
-    WriteWrapperPages,     //
+    OpenServerSession,       //
+    UploadFolderAndEnd,      //
+    StampAndSetPaths,        //
+    CollectImages,           //
+    MakeFolders,             //
+    PrepareWatermarksOfRun,  //
+    ProtectSources,          //
+    ProduceUnlessPreview,    //
+    CopyBackdrops,           //
+    CopyLinkGraphics,        //
+    EndWithoutPages,         //
+    WriteIndexPage,          //
+    WriteThumbnailPages,     //
+    WriteWrapperPages,       //
     Succeed,
 };
 
@@ -100,15 +108,20 @@ RunEnd FailUnexpectedly(const RunContext& context, const std::string& descriptio
   return RunEnd::Failure;
 }
 
-/// The phases with unexpected failures trapped.
+/// The phases with unexpected failures trapped: the program's own, and whatever the libraries below it throw.
 RunEnd RunTrapped(const RunContext& context) {
   constexpr std::int32_t kOutOfMemory = 7;
+  constexpr std::int32_t kInternal = 51;
   try {
     return GoThroughPhases(context);
   } catch (const RuntimeFailure& failure) {
     return FailUnexpectedly(context, failure.Description(), failure.Number());
   } catch (const std::bad_alloc&) {
     return FailUnexpectedly(context, "Out of memory", kOutOfMemory);
+  } catch (const std::exception& failure) {
+    return FailUnexpectedly(context, failure.what(), kInternal);
+  } catch (...) {
+    return FailUnexpectedly(context, "Internal error", kInternal);
   }
 }
 
@@ -204,6 +217,11 @@ std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunArguments&
   return std::make_unique<LocalTarget>(run);
 }
 
+std::string ProjectFileOf(const Project& project) {
+  if (project.IsUntitled || project.ProjectFileName.empty()) return {};
+  return WithTrailingBackslash(project.ProjectFolder) + project.ProjectFileName;
+}
+
 /// Sizes in percent never reach a page, though the option can be set.
 void ForceOffSizesInPercent(Project& project) {
   constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
@@ -225,6 +243,7 @@ RunEnd GenerateGallery(Project& project, const RunArguments& arguments, const Ru
                .formats = environment.formats,
                .mode = arguments.Mode,
                .ProjectFolder = project.ProjectFolder,
+               .ProjectFile = ProjectFileOf(project),
                .OutputFolder = arguments.OutputFolder,
                .IndexFileName = arguments.IndexFileName};
   mFTP* const ftp = SendsToServer(arguments.Mode) ? environment.ftp : nullptr;

@@ -28,14 +28,6 @@ bool MakeFolder(const RunState& run, const std::string& setting, const std::stri
 
 }  // namespace
 
-std::string LocalTarget::ImagePath(const ImageRunInfo& image) const {
-  return run_.LocalImagesDir + image.FileName;
-}
-
-std::string LocalTarget::ThumbnailPath(const ImageRunInfo& image) const {
-  return run_.LocalThumbsDir + ThumbnailFileName(run_.project, image);
-}
-
 Delivery LocalTarget::MakeFolders() {
   if (!MakeFolder(run_, run_.ImageUrlPrefix, run_.LocalImagesDir)) {
     return Refusal{"Directory Error", "Unable to create Images Subfolder."};
@@ -47,29 +39,28 @@ Delivery LocalTarget::MakeFolders() {
 }
 
 bool LocalTarget::ImageExists(const ImageRunInfo& image) {
-  return run_.files.PathExists(ImagePath(image));
+  return run_.files.PathExists(LocalImagePath(run_, image));
 }
 
 bool LocalTarget::ThumbnailExists(const ImageRunInfo& image) {
-  return run_.files.PathExists(ThumbnailPath(image));
+  return run_.files.PathExists(LocalThumbnailPath(run_, image));
 }
 
 std::string LocalTarget::ImageSizeText(const ImageRunInfo& image) {
-  return run_.files.GetFileSizeText(ImagePath(image));
+  return run_.files.GetFileSizeText(LocalImagePath(run_, image));
 }
 
-Delivery LocalTarget::CopyImage(ImageRunInfo& image) {
-  image.FileSize = run_.files.GetFileSizeText(image.Path);
-  const bool copied =
-      IsPlainFileName(image.FileName) && run_.files.CopyLocalFile(image.Path, ImagePath(image), /*overwrite=*/true);
+Delivery LocalTarget::CopyImage(const ImageRunInfo& image) {
+  const bool copied = IsPlainFileName(image.FileName) &&
+                      run_.files.CopyLocalFile(image.Path, LocalImagePath(run_, image), /*overwrite=*/true);
   if (!copied) return UnableToCopy(image.Path);
   return {};
 }
 
 Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
   if (!IsPlainFileName(image.FileName)) return UnableToCopy(image.Path);
-  WriteJPEGFile(NativeOrThrow(run_, ImagePath(image)), jpeg);
-  run_.files.CopyFileTimes(image.Path, ImagePath(image));
+  WriteJPEGFile(NativeOrThrow(run_, LocalImagePath(run_, image)), jpeg);
+  run_.files.CopyFileTimes(image.Path, LocalImagePath(run_, image));
   image.FileSize = FileSizeText(jpeg.size());
   return {};
 }
@@ -78,7 +69,7 @@ Delivery LocalTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view
   if (!IsPlainFileName(image.FileName) || LeavesFolder(ThumbnailFileName(run_.project, image))) {
     return Refusal{"File Error", "Unable to create Thumbnail for \"" + image.Path + "\"."};
   }
-  WriteJPEGFile(NativeOrThrow(run_, ThumbnailPath(image)), jpeg);
+  WriteJPEGFile(NativeOrThrow(run_, LocalThumbnailPath(run_, image)), jpeg);
   return {};
 }
 
@@ -86,8 +77,7 @@ Delivery LocalTarget::CopyAuxiliary(const std::string& source, const std::string
   const bool copied =
       IsPlainFileName(name) && run_.files.CopyLocalFile(source, run_.LocalImagesDir + name, /*overwrite=*/true);
   if (copied) return {};
-  const std::string file = spelling == AuxiliarySpelling::File ? "File" : "file";
-  return Refusal{"File Error", "Unable to copy the " + file + " \"" + source + "\"."};
+  return Refusal{"File Error", UnableToCopyAuxiliary(source, spelling)};
 }
 
 Delivery LocalTarget::StoreIndexPage(std::string_view page) {

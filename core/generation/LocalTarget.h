@@ -11,10 +11,11 @@ class LocalTarget : public GalleryTarget {
   explicit LocalTarget(const RunState& run) : run_(run) {}
 
   [[nodiscard]] Delivery MakeFolders() override;
+  [[nodiscard]] bool MayAskAhead() const override { return true; }
   [[nodiscard]] bool ImageExists(const ImageRunInfo& image) override;
   [[nodiscard]] bool ThumbnailExists(const ImageRunInfo& image) override;
   [[nodiscard]] std::string ImageSizeText(const ImageRunInfo& image) override;
-  [[nodiscard]] Delivery CopyImage(ImageRunInfo& image) override;
+  [[nodiscard]] Delivery CopyImage(const ImageRunInfo& image) override;
   [[nodiscard]] Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) override;
   [[nodiscard]] Delivery StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) override;
   [[nodiscard]] Delivery CopyAuxiliary(const std::string& source, const std::string& name,
@@ -24,8 +25,6 @@ class LocalTarget : public GalleryTarget {
   [[nodiscard]] Delivery StoreWrapperPage(const std::string& listText, std::string_view page) override;
 
  private:
-  [[nodiscard]] std::string ImagePath(const ImageRunInfo& image) const;
-  [[nodiscard]] std::string ThumbnailPath(const ImageRunInfo& image) const;
   void WritePage(const std::string& name, std::string_view page) const;
 
   const RunState& run_;

@@ -21,6 +21,14 @@ std::string ThumbnailFileName(const GalleryProject& project, const ImageRunInfo&
   return project.textThumbnailImageSettingsFilePrefix + image.FileName;
 }
 
+std::string LocalImagePath(const RunState& run, const ImageRunInfo& image) {
+  return (run.mode == GenerationMode::Publish ? run.OutputFolder : run.LocalImagesDir) + image.FileName;
+}
+
+std::string LocalThumbnailPath(const RunState& run, const ImageRunInfo& image) {
+  return run.LocalThumbsDir + ThumbnailFileName(run.project, image);
+}
+
 std::string UrlFolder(const std::string& folder) {
   std::string url = WithSlashes(folder);
   if (!url.ends_with('/')) url += '/';

@@ -19,6 +19,13 @@ namespace vantorium {
 /// Name of an image's thumbnail file.
 [[nodiscard]] std::string ThumbnailFileName(const GalleryProject& project, const ImageRunInfo& image);
 
+/// Where a run writes an image's file on this machine, path text: in the images folder, on the way to a server in the
+/// temporary folder itself.
+[[nodiscard]] std::string LocalImagePath(const RunState& run, const ImageRunInfo& image);
+
+/// The same for its thumbnail, which has its folder in both.
+[[nodiscard]] std::string LocalThumbnailPath(const RunState& run, const ImageRunInfo& image);
+
 /// A folder setting as addresses show it: slashes, one at the end.
 [[nodiscard]] std::string UrlFolder(const std::string& folder);
 

@@ -9,7 +9,7 @@
 namespace vantorium {
 
 /// Makes the painters of the watermarks that the project uses, one for each target and for the whole run. `texts` must
-/// live as long as the run. Throws RuntimeFailure Overflow for a percentage that is no byte.
+/// live as long as the run.
 void PrepareWatermarks(RunState& run, const Screen& screen, const TextRaster& texts);
 
 /// What is to be made of a source for the image's file; nothing when the file is copied as it is.

@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <chrono>
+#include <exception>
+#include <thread>
+#include <vector>
 
 #define ASIO_STANDALONE
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
 #include <asio/post.hpp>
-#include <asio/thread_pool.hpp>
 
 namespace vantorium {
 namespace {
@@ -18,20 +22,36 @@ constexpr auto kWaitingSlice = std::chrono::milliseconds(20);
 }  // namespace
 
 struct PictureWorkshop::Workers {
-  explicit Workers(unsigned jobs) : pool(jobs) {}
-  asio::thread_pool pool;
+  explicit Workers(unsigned jobs);
+  ~Workers();
+  Workers(const Workers&) = delete;
+  Workers& operator=(const Workers&) = delete;
+
+  asio::io_context tasks;
+  asio::executor_work_guard<asio::io_context::executor_type> open{tasks.get_executor()};
+  std::vector<std::thread> threads;
 };
 
+PictureWorkshop::Workers::Workers(unsigned jobs) {
+  try {
+    threads.reserve(jobs);
+    while (threads.size() < jobs) threads.emplace_back([this] { tasks.run(); });
+  } catch (const std::exception&) {
+    // The system has no more threads, or no memory for them. Those that are there do the work.
+  }
+}
+
+PictureWorkshop::Workers::~Workers() {
+  open.reset();
+  for (std::thread& thread : threads) thread.join();
+}
+
 PictureWorkshop::PictureWorkshop(unsigned jobs, std::int32_t count, Plan plan)
-    : plan_(std::move(plan)),
-      count_(count),
-      window_(static_cast<std::int32_t>(2 * jobs)),
-      budget_(kCoefficientBytes),
-      workers_(std::make_unique<Workers>(jobs)) {}
+    : plan_(std::move(plan)), count_(count), budget_(kCoefficientBytes), workers_(std::make_unique<Workers>(jobs)) {}
 
 PictureWorkshop::~PictureWorkshop() {
   stop_.request_stop();
-  workers_->pool.join();
+  workers_.reset();
 }
 
 MadePictures PictureWorkshop::Make(const PictureTask& task) {
@@ -39,16 +59,21 @@ MadePictures PictureWorkshop::Make(const PictureTask& task) {
   return {MakePictures(task.source, task.request, {stop_.get_token(), budget_}), stamp};
 }
 
+/// How many numbers are planned at a time, the one that is asked for among them.
+std::int32_t PictureWorkshop::Window() const {
+  return std::max(1, 2 * static_cast<std::int32_t>(workers_->threads.size()));
+}
+
 void PictureWorkshop::PlanAhead(std::int32_t number) {
   planned_ = std::max(planned_, number - 1);
-  while (planned_ < std::min(count_, number + window_ - 1)) {
+  while (planned_ < std::min(count_, number + Window() - 1)) {
     auto task = plan_(++planned_);
     if (!task) continue;
-    // The pool takes only what can be copied.
+    // Only what can be copied can be posted.
     auto work = std::make_shared<std::packaged_task<MadePictures()>>(
         [this, task = *std::move(task)] { return stop_.stop_requested() ? MadePictures() : Make(task); });
     ahead_.push_back({planned_, work->get_future()});
-    asio::post(workers_->pool, [work] { (*work)(); });
+    asio::post(workers_->tasks, [work] { (*work)(); });
   }
 }
 
@@ -58,6 +83,7 @@ std::optional<MadePictures> PictureWorkshop::Take(std::int32_t number, const Wai
   if (ahead_.empty() || ahead_.front().number != number) return std::nullopt;
   auto made = std::move(ahead_.front().made);
   ahead_.pop_front();
+  if (workers_->threads.empty()) workers_->tasks.poll();
   while (made.wait_for(kWaitingSlice) != std::future_status::ready) {
     if (!waiting()) return std::nullopt;
   }

@@ -25,7 +25,8 @@ struct MadePictures {
 };
 
 /// Makes pictures on its workers, a bounded number of them ahead of their turn. The caller plans and takes them in the
-/// order of their numbers, on its own thread.
+/// order of their numbers, on its own thread. Where the system has fewer threads to give than are asked for, those work
+/// alone; where it has none, the caller's thread makes a picture when it is taken.
 class PictureWorkshop {
  public:
   /// What is to be done for a number; nothing when there is no work in it.
@@ -54,11 +55,11 @@ class PictureWorkshop {
   };
   struct Workers;
 
+  [[nodiscard]] std::int32_t Window() const;
   void PlanAhead(std::int32_t number);
 
   Plan plan_;
   std::int32_t count_;
-  std::int32_t window_;
   std::int32_t planned_ = 0;  // the last number that was planned
   CoefficientBudget budget_;
   std::stop_source stop_;

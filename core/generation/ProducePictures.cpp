@@ -36,6 +36,7 @@ class PictureProduction {
   [[nodiscard]] PhaseResult ImageStep(PictureWorkshop& workshop, Number number);
   [[nodiscard]] PhaseResult SizeStep(Number number);
   [[nodiscard]] PhaseResult ThumbnailStep(PictureWorkshop& workshop, Number number);
+  [[nodiscard]] PhaseResult CopyImage(Number number);
   [[nodiscard]] PhaseResult MakeImage(PictureWorkshop& workshop, Number number);
   [[nodiscard]] PhaseResult MakeThumbnail(PictureWorkshop& workshop, Number number);
 
@@ -52,6 +53,14 @@ class PictureProduction {
   [[nodiscard]] bool KeepsExistingThumbnail(Number number) {
     return !context_.arguments.Overwrite && context_.target.ThumbnailExists(run_.Info(number));
   }
+  /// Whether it is known ahead that a picture will be kept. Where that can't be asked ahead, it is made ahead, in vain
+  /// should it be there: work is done ahead only behind a picture that was not.
+  [[nodiscard]] bool WillKeepImage(Number number) {
+    return context_.target.MayAskAhead() && KeepsExistingImage(number);
+  }
+  [[nodiscard]] bool WillKeepThumbnail(Number number) {
+    return context_.target.MayAskAhead() && KeepsExistingThumbnail(number);
+  }
   [[nodiscard]] ImageRunInfo& InfoOf(Number number) { return run_.RunInfo.at(static_cast<std::size_t>(number) - 1); }
   [[nodiscard]] PhaseResult Begin(const char* doing, Number number) const {
     return context_.Begin(std::string(doing) + " \"" + run_.ListText(number) + "\"...");
@@ -59,6 +68,10 @@ class PictureProduction {
   /// A picture that could not be loaded: a failure with `text`, or the cancel's own doing when one is under way.
   [[nodiscard]] PhaseResult NotLoaded(const std::string& text) const {
     return context_.Settle(Refusal{"File Error", text});
+  }
+
+  [[nodiscard]] PhaseResult ImageNotLoaded(Number number) const {
+    return NotLoaded("Unable to copy the File \"" + run_.Info(number).Path + "\".");
   }
 
   const RunContext& context_;
@@ -104,21 +117,32 @@ PhaseResult PictureProduction::ImageStep(PictureWorkshop& workshop, Number numbe
   return kGoOn;
 }
 
+/// The file's size is read first: without one there is no file to copy.
+PhaseResult PictureProduction::CopyImage(Number number) {
+  ImageRunInfo& image = InfoOf(number);
+  try {
+    image.FileSize = run_.files.GetFileSizeText(image.Path);
+  } catch (const RuntimeFailure&) {
+    return ImageNotLoaded(number);
+  }
+  return context_.Settle(context_.target.CopyImage(image));
+}
+
 PhaseResult PictureProduction::MakeImage(PictureWorkshop& workshop, Number number) {
   ImageRunInfo& image = InfoOf(number);
   const auto recipe = ImageRecipe(run_, number);
-  if (!recipe) return context_.Settle(context_.target.CopyImage(image));
+  if (!recipe) return CopyImage(number);
   const auto files = Take(workshop, number, Task(number, {recipe, {}}));
   if (!files) return RunEnd::Cancelled;
-  if (!files->decoded) return NotLoaded("Unable to copy the File \"" + image.Path + "\".");
+  if (!files->decoded) return ImageNotLoaded(number);
   return context_.Settle(context_.target.StoreImage(image, files->image.Bytes()));
 }
 
 std::optional<PictureTask> PictureProduction::PlanImage(Number number) {
   const auto recipe = ImageRecipe(run_, number);
-  if (!recipe || KeepsExistingImage(number)) return std::nullopt;
+  if (!recipe || WillKeepImage(number)) return std::nullopt;
   PictureRequest request{recipe, {}};
-  if (context_.arguments.CreateThumbnails && !KeepsExistingThumbnail(number)) {
+  if (context_.arguments.CreateThumbnails && !WillKeepThumbnail(number)) {
     request.thumbnail = ThumbnailRecipe(run_, number);
   }
   return Task(number, std::move(request));
@@ -156,7 +180,7 @@ PhaseResult PictureProduction::MakeThumbnail(PictureWorkshop& workshop, Number n
 
 std::optional<PictureTask> PictureProduction::PlanThumbnail(Number number) {
   const bool isThere = early_.at(static_cast<std::size_t>(number) - 1).has_value();
-  if (isThere || KeepsExistingThumbnail(number)) return std::nullopt;
+  if (isThere || WillKeepThumbnail(number)) return std::nullopt;
   return Task(number, {{}, ThumbnailRecipe(run_, number)});
 }
 

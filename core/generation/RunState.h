@@ -23,6 +23,7 @@ struct RunState {
   GenerationMode mode = GenerationMode::Create;
 
   std::string ProjectFolder{};   ///< of the project file, path text
+  std::string ProjectFile{};     ///< path text; empty for a project without a file
   std::string OutputFolder{};    ///< path text with its trailing backslash
   std::string IndexFileName{};   ///< inside OutputFolder
   std::string ImageUrlPrefix{};  ///< folder of the images in addresses, ends in a slash

@@ -51,8 +51,7 @@ std::string ServerTarget::ImageSizeText(const ImageRunInfo& image) {
   return ftp_.FTPGetFileSize(RemoteImagesDir() + image.FileName);
 }
 
-Delivery ServerTarget::CopyImage(ImageRunInfo& image) {
-  image.FileSize = run_.files.GetFileSizeText(image.Path);
+Delivery ServerTarget::CopyImage(const ImageRunInfo& image) {
   const bool sent = IsPlainFileName(image.FileName) &&
                     ftp_.FTPCopyFile(image.Path, RemoteImagesDir() + image.FileName, /*overwrite=*/true);
   if (!sent) return Refusal{kTransferError, UnableToCopy(image.Path)};
@@ -60,7 +59,7 @@ Delivery ServerTarget::CopyImage(ImageRunInfo& image) {
 }
 
 Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
-  const std::string copy = run_.OutputFolder + image.FileName;
+  const std::string copy = LocalImagePath(run_, image);
   const auto native = run_.files.Paths().ToNative(copy);
   if (!IsPlainFileName(image.FileName) || !native) {
     return Refusal{"File Error", "Unable to create temporary Copy of the File \"" + image.Path + "\"."};
@@ -76,7 +75,7 @@ Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
 
 Delivery ServerTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
   if (auto refusal = local_.StoreThumbnail(image, jpeg)) return refusal;
-  return Move(run_.LocalThumbsDir + ThumbnailFileName(run_.project, image), RemoteThumbnail(image),
+  return Move(LocalThumbnailPath(run_, image), RemoteThumbnail(image),
               "Unable to create Thumbnail for \"" + image.Path + "\".");
 }
 

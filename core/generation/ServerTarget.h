@@ -14,10 +14,11 @@ class ServerTarget : public GalleryTarget {
       : run_(run), arguments_(arguments), ftp_(ftp), local_(run) {}
 
   [[nodiscard]] Delivery MakeFolders() override;
+  [[nodiscard]] bool MayAskAhead() const override { return false; }
   [[nodiscard]] bool ImageExists(const ImageRunInfo& image) override;
   [[nodiscard]] bool ThumbnailExists(const ImageRunInfo& image) override;
   [[nodiscard]] std::string ImageSizeText(const ImageRunInfo& image) override;
-  [[nodiscard]] Delivery CopyImage(ImageRunInfo& image) override;
+  [[nodiscard]] Delivery CopyImage(const ImageRunInfo& image) override;
   [[nodiscard]] Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) override;
   [[nodiscard]] Delivery StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) override;
   [[nodiscard]] Delivery CopyAuxiliary(const std::string& source, const std::string& name,

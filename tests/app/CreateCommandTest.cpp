@@ -54,6 +54,19 @@ TEST_F(CreateCommand, PicturesHaveTheSizesOfTheProject) {
   EXPECT_EQ(SizeOf(place.Path("out/Thumbs/thumb_a.jpg.jpg")), std::pair(60, 60));
 }
 
+TEST_F(CreateCommand, APhotographInTheGallerysOwnImagesFolderIsNotWrittenOver) {
+  place.Photograph("out/Images/own.jpg");
+  const std::string photograph = place.Read("out/Images/own.jpg");
+  place.Project("own.gpj", {"out/Images/own.jpg"});
+  place.Replace("own.gpj", "NAME=\"own.jpg\"", "NAME=\"own\"");
+  const ProcessResult result = place.Run({"create", "own.gpj", "out/index.htm"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_NE(result.err.find("It would replace \"" + place.Text("out/Images/own.jpg") + "\""), std::string::npos)
+      << result.err;
+  EXPECT_EQ(place.Read("out/Images/own.jpg"), photograph);
+  EXPECT_EQ(Listing(), "Images/own.jpg\n");
+}
+
 TEST_F(CreateCommand, AnIndexFileWithoutAFolderGoesToTheWorkingFolder) {
   ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "index.htm"})));
   EXPECT_TRUE(std::filesystem::exists(place.Path("index.htm")));

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include <sys/resource.h>
@@ -28,6 +30,24 @@ class FullDisk {
  private:
   rlimit old_ = {};
   void (*oldAction_)(int);
+};
+
+/// While it lives, the program gets no more than `bytes` of address space beyond what it has.
+class MemoryLimit {
+ public:
+  explicit MemoryLimit(std::uint64_t bytes) {
+    ::getrlimit(RLIMIT_AS, &old_);
+    std::uint64_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlimit limit = {pages * static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE)) + bytes, old_.rlim_max};
+    ::setrlimit(RLIMIT_AS, &limit);
+  }
+  ~MemoryLimit() { ::setrlimit(RLIMIT_AS, &old_); }
+  MemoryLimit(const MemoryLimit&) = delete;
+  MemoryLimit& operator=(const MemoryLimit&) = delete;
+
+ private:
+  rlimit old_ = {};
 };
 
 /// While it lives, nothing can be made or removed in `folder`, not even when the tests run as root: they do without

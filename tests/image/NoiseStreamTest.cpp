@@ -26,6 +26,16 @@ TEST(NoiseStream, EqualSeedsPicturesAndPlacesGiveEqualNumbers) {
   EXPECT_EQ(one.Row(7).Bits(8), other.Row(7).Bits(8));
 }
 
+TEST(NoiseStream, AStreamThatBeginsWithALaterRowHasTheNumbersOfThatRow) {
+  NoiseStream whole(5, 6);
+  NoiseStream part(5, 6, 70);
+  whole.NextPass();
+  part.NextPass();
+  EXPECT_EQ(part.Row(0).Bits(8), whole.Row(70).Bits(8));
+  EXPECT_EQ(part.Row(3).Bits(8), whole.Row(73).Bits(8));
+  EXPECT_NE(part.Row(0).Bits(8), whole.Row(0).Bits(8));
+}
+
 TEST(NoiseStream, SeedPicturePassRowAndPlaceAllCount) {
   std::set<std::uint32_t> numbers;
   int asked = 0;

@@ -1,3 +1,4 @@
+#include "env/RuntimeFailure.h"
 #include "image/Filters.h"
 #include "image/JPEG.h"
 #include "image/PangoTextRaster.h"
@@ -5,6 +6,7 @@
 #include "image/WatermarkLiteral.h"
 #include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/Hindrances.h"
 #include "tests/image/PictureFixtures.h"
 
 #include <gtest/gtest.h>
@@ -76,6 +78,37 @@ TEST(PictureOutput, APictureWiderThanAWatermarkCanCountFailsOnlyWithOne) {
   EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), std::nullopt);
   recipe.watermark = PainterOf(0, raster);
   EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), FailureKind::Overflow);
+}
+
+TEST(PictureOutput, ASideThatNoFileCanHaveIsRefusedInTheEncodersWordsWithoutMemoryForIt) {
+  const auto refusal = [](const PictureRecipe& recipe) -> std::string {
+    try {
+      const PictureOutput output(recipe, {kWidth, kHeight});
+      return "";
+    } catch (const RuntimeFailure& failure) {
+      return failure.Description();
+    }
+  };
+  const fakes::MemoryLimit limit(std::uint64_t{64} << 20);
+  for (const PictureSize size : {PictureSize{65501, 4}, {4, 65501}, {1'000'000'000, 4}, {4, 2'147'483'647}}) {
+    for (const std::int16_t filter : {std::int16_t{0}, std::int16_t{1}}) {
+      PictureRecipe recipe;
+      recipe.size = size;
+      recipe.filters.checkFade = filter;
+      EXPECT_EQ(refusal(recipe), "Failed to save to JPG Maximum supported image dimension is 65500 pixels")
+          << size.width << " x " << size.height;
+    }
+  }
+}
+
+TEST(PictureOutput, TheLargestPictureTakesMemoryForAFewRowsWithFiltersToo) {
+  PictureRecipe recipe = {.size = PictureSize{65500, 65500}};
+  recipe.filters.checkBrightness = recipe.filters.checkNoise = recipe.filters.checkGrayscale = 1;
+  const std::vector<std::uint8_t> row(3 * 4, 77);
+  const fakes::MemoryLimit limit(std::uint64_t{64} << 20);
+  PictureOutput output(recipe, {4, 65000});
+  for (int rows = 0; rows < 20; ++rows) output.TakeSourceRow(output.NextSourceRow(), row.data(), row.data());
+  EXPECT_GT(output.NextSourceRow(), 64000);
 }
 
 }  // namespace

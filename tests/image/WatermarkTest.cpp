@@ -221,12 +221,15 @@ TEST_F(WatermarkPainting, OnlyTheLastSizesAreKept) {
   EXPECT_FALSE(last.expired());
 }
 
-TEST_F(WatermarkPainting, APercentageThatIsNoByteOverflows) {
+TEST_F(WatermarkPainting, APercentageThatIsNoByteOverflowsWhereItIsDrawn) {
   const BoxTextRaster raster(4, 2);
   for (const std::int16_t alpha : {std::int16_t{-1}, std::int16_t{256}, std::int16_t{32767}}) {
     WatermarkSettings settings = Settings(10);
     settings.sliderAlpha = alpha;
-    EXPECT_EQ(FailureOf([&] { const WatermarkPainter painter(settings, 96, raster); }), FailureKind::Overflow) << alpha;
+    const WatermarkPainter painter(settings, 96, raster);
+    EXPECT_EQ(FailureOf([&] { std::ignore = painter.MaskFor(20, 10); }), FailureKind::Overflow) << alpha;
+    cDIBSection picture = Plain(20, 10, kBlack);
+    EXPECT_EQ(FailureOf([&] { painter.Draw(picture); }), FailureKind::Overflow) << alpha;
   }
 }
 

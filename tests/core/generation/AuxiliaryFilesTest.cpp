@@ -91,6 +91,26 @@ TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunInTheSpellingOfItsKind) {
   }
 }
 
+TEST_F(AuxiliaryFilesTest, WithoutWrapperPagesTheImageLinksHaveNoGraphics) {
+  folder.Write("project/g.gif", "GIF");
+  project.settings.checkImageWrapperUse = 0;
+  for (auto link : {&GalleryProject::ImageFirstLink, &GalleryProject::ImagePreviousLink, &GalleryProject::ImageNextLink,
+                    &GalleryProject::ImageLastLink, &GalleryProject::ImageIndexLink}) {
+    (project.settings.*link).textLinkGraphic = "g.gif";
+    (project.settings.*link).textLinkGraphicDisabled = "missing.gif";
+  }
+  project.settings.ThumbnailNextLink.textLinkGraphic = "g.gif";
+  project.settings.textImageWrapperBackdrop = "g.gif";
+  EXPECT_EQ(Copied(), (Names{"_backdrop_imagepage.gif", "_thumblink_next.gif"}));
+  EXPECT_EQ(end, RunEnd::Success);
+}
+
+TEST_F(AuxiliaryFilesTest, TheIndexLinkHasNoGraphicForAnEnd) {
+  folder.Write("project/g.gif", "GIF");
+  project.settings.ImageIndexLink.textLinkGraphicDisabled = "g.gif";
+  EXPECT_EQ(Copied(), Names{});
+}
+
 TEST_F(AuxiliaryFilesTest, BothPageBackdropsAreCopiedEvenWhenTheyAreTheSame) {
   folder.Write("project/g.gif", "GIF");
   project.settings.textThumbnailsPageBackdrop = project.settings.textImageWrapperBackdrop = "g.gif";

@@ -75,6 +75,43 @@ TEST_F(PictureRecipesTest, AWatermarkTooLargeForItsCoordinatesEndsTheRun) {
   EXPECT_NE(boxes.boxes.front().text.find("Error #6"), std::string::npos) << boxes.boxes.front().text;
 }
 
+TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt) {
+  const WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = 300};
+  RunArguments arguments = CreateArguments();
+  arguments.CreateThumbnails = false;
+  project.settings.ImageWatermark = bad;
+  EXPECT_EQ(Run(arguments), RunEnd::Failure);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_NE(boxes.boxes[0].text.find("Overflow\r\rError #6"), std::string::npos) << boxes.boxes[0].text;
+  EXPECT_EQ(host.statuses.back(), "") << "ended";
+
+  project.settings.ImageWatermark = {};
+  project.settings.ThumbnailWatermark = bad;
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(FilesIn("out"), std::set<std::string>{"Images/a.jpg"});
+}
+
+TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeIsNothingToRunsThatDoNotDrawIt) {
+  const WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = -1};
+  project.settings.ImageWatermark = bad;
+  RunArguments arguments = CreateArguments();
+  arguments.CreateImages = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success) << "no image is made";
+  EXPECT_EQ(Run(PreviewArguments()), RunEnd::Success) << "a preview";
+
+  project.settings.ImageWatermark = {};
+  project.settings.ThumbnailWatermark = bad;
+  arguments.CreateImages = true;
+  arguments.CreateThumbnails = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success) << "no thumbnail is made";
+
+  folder.Write("out/Thumbs/thumb_a.jpg", "old");
+  arguments.CreateThumbnails = true;
+  arguments.Overwrite = false;
+  EXPECT_EQ(Run(arguments), RunEnd::Success) << "the thumbnail is there";
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
 TEST_F(PictureRecipesTest, TheTextGrowsWithThePixelsOfAnInch) {
   class FineScreen : public Screen {
    public:

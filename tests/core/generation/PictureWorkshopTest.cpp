@@ -1,5 +1,6 @@
 #include "core/generation/PictureWorkshop.h"
 #include "image/JPEG.h"
+#include "tests/core/generation/ThreadLimit.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <algorithm>
@@ -96,6 +97,25 @@ TEST_F(PictureWorkshopTest, AMissingSourceIsNotDecodedAndHasNoStamp) {
 TEST_F(PictureWorkshopTest, WorkThatIsNotTakenIsStoppedAtTheEnd) {
   PictureWorkshop workshop(1, 1000, plan);
   std::ignore = workshop.Take(1, wait);
+}
+
+TEST_F(PictureWorkshopTest, WithFewerThreadsThanAskedForThoseThatAreThereDoTheWork) {
+  for (int threads : {0, 1, 2}) {
+    const fakes::ThreadLimit limit(threads);
+    PictureWorkshop workshop(4, 9, plan);
+    for (std::int32_t number = 1; number <= 9; ++number) {
+      const auto made = workshop.Take(number, wait);
+      ASSERT_TRUE(made) << number;
+      EXPECT_EQ(WidthOf(*made), number) << threads << " threads";
+    }
+  }
+}
+
+TEST_F(PictureWorkshopTest, WithoutAThreadNothingIsMadeAhead) {
+  const fakes::ThreadLimit limit(0);
+  PictureWorkshop workshop(2, 9, plan);
+  std::ignore = workshop.Take(1, wait);
+  EXPECT_EQ(planned, std::vector<std::int32_t>{1});
 }
 
 TEST_F(PictureWorkshopTest, ATaskCanBeDoneAtOnce) {

@@ -219,6 +219,19 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsImageFailsThereAndNotAhe
   EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg"}));
 }
 
+TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsPlainCopyIsNamed) {
+  for (const char* name : {"a", "b"}) AddPhotograph(name);
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  loop.onTurn = [this](int) {
+    if (IsShown("Copying File \"b\"...")) std::filesystem::remove(folder.Path() / "photos/b.jpg");
+  };
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "File Error");
+  EXPECT_EQ(boxes.boxes[0].text, "Unable to copy the File \"T:\\photos\\b.jpg\".");
+  EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg"}));
+}
+
 TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
   AddPhotograph("a", 40, 30);
   loop.onTurn = [this](int) {
@@ -230,16 +243,6 @@ TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
   cDIBSection thumbnail;
   ASSERT_TRUE(LoadJPEGImage(thumbnail, folder.Path() / "out/Thumbs/thumb_a.jpg"));
   EXPECT_GE(*thumbnail.Row(0), 245);
-}
-
-TEST_F(ProducePicturesTest, AnImageThatReplacesItsOwnSourceIsWhatItsThumbnailIsMadeOf) {
-  folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
-  AddEntry("a", "T:\\out\\Images\\a.jpg");
-  project.settings.textImageWrapperImageHeight = "8";
-  project.settings.checkThumbnailsImageKeepAspectRatio = 0;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
-  EXPECT_EQ(SizeOf("out/Images/a.jpg"), Size(8, 8));
-  EXPECT_EQ(SizeOf("out/Thumbs/thumb_a.jpg"), Size(60, 60));
 }
 
 TEST_F(ProducePicturesTest, AnImageThatIsThereByItsTurnIsKeptThoughItWasMadeAhead) {

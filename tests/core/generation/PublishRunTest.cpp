@@ -43,6 +43,18 @@ class PublishRunTest : public RunFixture {
     for (const auto& [name, bytes] : server.Files()) names.insert(name);
     return names;
   }
+  /// How often the server was asked for a file.
+  [[nodiscard]] static std::size_t Questions(const ScriptedFtpServer& server) {
+    const Texts commands = server.Commands();
+    return static_cast<std::size_t>(
+        std::ranges::count_if(commands, [](const std::string& line) { return line.starts_with("RNFR "); }));
+  }
+  /// What was said to the server, but for the ports of the data connections.
+  [[nodiscard]] static Texts Dialogue(const ScriptedFtpServer& server) {
+    Texts commands = server.Commands();
+    std::erase_if(commands, [](const std::string& line) { return line.starts_with("PORT "); });
+    return commands;
+  }
   /// A server that answers `verb` in this way and all others well.
   [[nodiscard]] static Script Answering(const std::string& verb, const std::string& reply) {
     Script script;
@@ -114,6 +126,64 @@ TEST_F(PublishRunTest, WithoutOverwriteWhatTheServerHasIsNotSentAgainAndItsSizeI
   EXPECT_EQ(server.Files().at("web/Thumbs/thumb_a.jpg"), "old");
   EXPECT_EQ(server.Files().at("web/Images/a.jpg"), std::string(3000, 'x'));
   EXPECT_NE(server.Files().at("web/a.htm").find("\r\n2KB\r\n"), std::string::npos);
+}
+
+TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedForEachFileOnceAtItsTurnForEveryNumberOfJobs) {
+  for (const char* name : {"a", "b", "c", "d", "e", "f"}) AddPhotograph(name);
+  Texts firstDialogue;
+  for (unsigned jobs : {1U, 2U, 5U}) {
+    ScriptedFtpServer server;
+    for (const char* name : {"web/Images/a.jpg", "web/Images/d.jpg", "web/Thumbs/thumb_e.jpg"}) {
+      server.PutFile(name, "old");
+    }
+    // How many questions were asked by the poll of each file.
+    std::map<std::string, std::size_t> questions;
+    loop.onTurn = [&](int) {
+      const std::string status = host.statuses.empty() ? "" : host.statuses.back();
+      if (status.find("File \"") != std::string::npos) questions.emplace(status, Questions(server));
+    };
+    RunArguments arguments = PublishTo(server);
+    arguments.Overwrite = false;
+    arguments.CreateHTML = false;
+    environment.jobs = jobs;
+    host.statuses.clear();
+    EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+
+    EXPECT_EQ(Questions(server), 12U) << jobs << " jobs";
+    for (std::size_t i = 0; i < 6; ++i) {
+      const std::string name(1, static_cast<char>('a' + i));
+      EXPECT_EQ(questions.at("Copying File \"" + name + "\"..."), i) << jobs << " jobs";
+      EXPECT_EQ(questions.at("Creating Thumbnail for File \"" + name + "\"..."), 6 + i) << jobs << " jobs";
+    }
+    if (firstDialogue.empty()) firstDialogue = Dialogue(server);
+    EXPECT_EQ(Dialogue(server), firstDialogue) << jobs << " jobs";
+  }
+}
+
+TEST_F(PublishRunTest, ASourceThatIsGoneBeforeItsPlainCopyIsNamed) {
+  AddEntry("gone", "T:\\photos\\gone.jpg");
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "File Error: Unable to copy the File \"T:\\photos\\gone.jpg\".");
+  EXPECT_TRUE(NamesOn(server).empty());
+}
+
+TEST_F(PublishRunTest, ATemporaryCopyDoesNotReplaceASource) {
+  folder.Write("temp/a.jpg", PlainJpeg(40, 30));
+  AddEntry("a", "T:\\temp\\a.jpg");
+  const std::string photograph = folder.Read("temp/a.jpg");
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(),
+            "File Error: Unable to create temporary Copy of the File \"T:\\temp\\a.jpg\".  It would replace "
+            "\"T:\\temp\\a.jpg\", which this Gallery is made from.");
+  EXPECT_EQ(folder.Read("temp/a.jpg"), photograph);
+  EXPECT_TRUE(NamesOn(server).empty());
+
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << "sent as it is";
+  EXPECT_EQ(folder.Read("temp/a.jpg"), photograph);
 }
 
 struct RefusalCase {

@@ -1,0 +1,197 @@
+#include "core/generation/ProtectSources.h"
+#include "tests/core/generation/RunFixture.h"
+
+namespace vantorium {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ProtectSourcesTest : public RunFixture {
+ protected:
+  /// The run ends with this box before it has made anything beside `before`, and all of `before` is as it was.
+  void ExpectRefusal(const RunArguments& arguments, const std::string& text) {
+    const auto names = FilesIn(".");
+    std::map<std::string, std::string> before;
+    for (const auto& name : names) before[name] = folder.Read(name);
+    EXPECT_EQ(Run(arguments), RunEnd::Failure) << text;
+    ASSERT_EQ(boxes.boxes.size(), 1U) << text;
+    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].title, "File Error");
+    EXPECT_EQ(boxes.boxes[0].text, text);
+    EXPECT_EQ(FilesIn("."), names);
+    for (const auto& name : names) EXPECT_EQ(folder.Read(name), before[name]) << name;
+    boxes.boxes.clear();
+  }
+  void ExpectSuccess(const RunArguments& arguments) {
+    EXPECT_EQ(Run(arguments), RunEnd::Success) << (boxes.boxes.empty() ? "" : boxes.boxes[0].text);
+  }
+  void Link(const std::string& from, const std::string& to) const {
+    fs::create_directories((folder.Path() / from).parent_path());
+    fs::create_symlink(folder.Path() / to, folder.Path() / from);
+  }
+  void HardLink(const std::string& from, const std::string& to) const {
+    fs::create_directories((folder.Path() / from).parent_path());
+    fs::create_hard_link(folder.Path() / to, folder.Path() / from);
+  }
+
+  [[nodiscard]] static std::string Replacing(const std::string& path) {
+    return "  It would replace \"" + path + "\", which this Gallery is made from.";
+  }
+  [[nodiscard]] static std::string ImageText(const std::string& source, const std::string& path) {
+    return "Unable to copy the File \"" + source + "\"." + Replacing(path);
+  }
+  [[nodiscard]] static std::string PageTextOf(const std::string& path) {
+    return "Unable to create the File \"" + path + "\"." + Replacing(path);
+  }
+};
+
+const char kOwnImage[] = "T:\\out\\Images\\a.jpg";
+
+TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceItsOwnSource) {
+  AddPhotograph("first");
+  folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
+  AddEntry("a", kOwnImage);
+  ExpectRefusal(CreateArguments(), ImageText(kOwnImage, kOwnImage));
+}
+
+TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceTheSourceOfAnother) {
+  folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
+  AddEntry("other", kOwnImage);
+  AddPhotograph("a");
+  for (const Flag keepSize : {Flag{0}, Flag{1}}) {
+    project.settings.checkImageWrapperImageKeepSize = keepSize;
+    ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+  }
+}
+
+TEST_F(ProtectSourcesTest, ASourceIsKnownBehindLinksAndOtherPaths) {
+  AddPhotograph("a");
+  Link("out/Images/a.jpg", "photos/a.jpg");
+  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+
+  fs::remove(folder.Path() / "out/Images/a.jpg");
+  HardLink("out/Images/a.jpg", "photos/a.jpg");
+  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+
+  fs::remove_all(folder.Path() / "out");
+  fs::create_directories(folder.Path() / "out");
+  fs::create_directory_symlink(folder.Path() / "photos", folder.Path() / "out/Images");
+  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+
+  fs::remove_all(folder.Path() / "out");
+  RunArguments arguments = CreateArguments();
+  arguments.OutputFolder = "T:\\out\\..\\";
+  project.settings.textImageSettingsSubFolder = "photos";
+  ExpectRefusal(arguments, ImageText("T:\\photos\\a.jpg", "T:\\out\\..\\photos\\a.jpg"));
+}
+
+TEST_F(ProtectSourcesTest, AThumbnailDoesNotReplaceASource) {
+  AddPhotograph("a");
+  folder.Write("out/Thumbs/thumb_a.jpg", PlainJpeg(64, 64));
+  AddEntry("b", "T:\\out\\Thumbs\\thumb_a.jpg");
+  ExpectRefusal(CreateArguments(),
+                "Unable to create Thumbnail for \"T:\\photos\\a.jpg\"." + Replacing("T:\\out\\Thumbs\\thumb_a.jpg"));
+}
+
+TEST_F(ProtectSourcesTest, ABackdropOrLinkGraphicReplacesNoSourceAndIsReplacedByNone) {
+  AddPhotograph("a");
+  folder.Write("out/Images/_backdrop_thumbpage.gif", "GIF");
+  folder.Write("project/back.gif", "new");
+  project.settings.textThumbnailsTableBackdrop = "T:\\out\\Images\\_backdrop_thumbpage.gif";
+  project.settings.textThumbnailsPageBackdrop = "back.gif";
+  ExpectRefusal(CreateArguments(), ImageText("T:\\project\\back.gif", "T:\\out\\Images\\_backdrop_thumbpage.gif"));
+
+  project.settings.textThumbnailsPageBackdrop = "";
+  project.settings.ImageNextLink.textLinkGraphic = "T:\\out\\Images\\a.jpg";
+  folder.Write("out/Images/a.jpg", "graphic");
+  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+}
+
+TEST_F(ProtectSourcesTest, APageReplacesNeitherTheProjectNorAPhotograph) {
+  AddPhotograph("a");
+  project.ProjectFolder = "T:\\out";
+  for (const auto& name : {"index.htm", "thumbpage_1.htm", "a.htm"}) {
+    project.ProjectFileName = name;
+    folder.Write(std::string("out/") + name, "the project");
+    for (GenerationMode mode : {GenerationMode::Create, GenerationMode::Preview}) {
+      RunArguments arguments = CreateArguments();
+      arguments.Mode = mode;
+      ExpectRefusal(arguments, PageTextOf(std::string("T:\\out\\") + name));
+    }
+  }
+  project.ProjectFileName = "";
+  AddEntry("page", "T:\\out\\index.htm");
+  RunArguments arguments = CreateArguments();
+  arguments.CreateImages = arguments.CreateThumbnails = false;
+  ExpectRefusal(arguments, PageTextOf("T:\\out\\index.htm"));
+}
+
+TEST_F(ProtectSourcesTest, WhatTheRunDoesNotWriteIsNoReasonToRefuse) {
+  folder.Write("out/Images/a.jpg", PlainJpeg(40, 30));
+  AddEntry("a", kOwnImage);
+  const std::string photograph = folder.Read("out/Images/a.jpg");
+  RunArguments arguments = CreateArguments();
+  arguments.Overwrite = false;
+  ExpectSuccess(arguments);
+  arguments.Overwrite = true;
+  arguments.CreateImages = false;
+  ExpectSuccess(arguments);
+  ExpectSuccess(PreviewArguments());
+  EXPECT_EQ(folder.Read("out/Images/a.jpg"), photograph);
+
+  folder.Write("out/index.htm", "the project");
+  project.ProjectFolder = "T:\\out\\";
+  project.ProjectFileName = "index.htm";
+  arguments.CreateHTML = false;
+  ExpectSuccess(arguments);
+}
+
+TEST_F(ProtectSourcesTest, ACopyOntoItselfChangesNothingAndGoesThrough) {
+  folder.Write("out/Images/a.jpg", PlainJpeg(40, 30));
+  folder.Write("out/Images/_backdrop_thumbpage.gif", "GIF");
+  AddEntry("a", kOwnImage);
+  project.settings.checkImageWrapperImageKeepSize = 1;
+  project.settings.textThumbnailsPageBackdrop = "T:\\out\\Images\\_backdrop_thumbpage.gif";
+  const std::string photograph = folder.Read("out/Images/a.jpg");
+  ExpectSuccess(CreateArguments());
+  EXPECT_EQ(folder.Read("out/Images/a.jpg"), photograph);
+  EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "GIF");
+}
+
+TEST_F(ProtectSourcesTest, ASecondRunIntoTheSameFolderReplacesWhatTheFirstOneMade) {
+  AddPhotograph("a");
+  folder.Write("project/gallery.gpj", "the project");
+  project.ProjectFileName = "gallery.gpj";
+  ExpectSuccess(CreateArguments());
+  project.settings.textImageWrapperImageHeight = "8";
+  ExpectSuccess(CreateArguments());
+  EXPECT_NE(folder.Read("out/a.htm").find("HEIGHT=\"8\""), std::string::npos);
+}
+
+TEST_F(ProtectSourcesTest, AFileNamedLikeAnUntitledProjectIsNotTheProject) {
+  AddPhotograph("a");
+  folder.Write("out/index.htm", "an old page");
+  project.ProjectFolder = "T:\\out\\";
+  project.ProjectFileName = "index.htm";
+  project.IsUntitled = true;
+  ExpectSuccess(CreateArguments());
+}
+
+TEST_F(ProtectSourcesTest, ALongListIsLookedThroughWithTurnsAndCanBeCancelled) {
+  folder.Write("photos/a.jpg", PlainJpeg(8, 8));
+  for (int i = 0; i < 2500; ++i) AddEntry("i" + std::to_string(i), "T:\\photos\\a.jpg");
+  int turns = 0;
+  loop.onTurn = [&](int) {
+    if (host.statuses.empty() || host.statuses.back() != "Creating Directories...") return;
+    if (++turns == 4) {
+      host.openWindow->SetIsCancelled(true);
+      std::ignore = cancel.CheckForCancel(*host.openWindow);
+    }
+  };
+  EXPECT_EQ(Run(CreateArguments()), RunEnd::Cancelled);
+  EXPECT_EQ(turns, 4);
+  EXPECT_TRUE(FilesIn("out").empty());
+}
+
+}  // namespace
+}  // namespace vantorium
