@@ -34,12 +34,10 @@ LaunchAttempts ListedBrowser(const std::string& location, const std::string& fil
   return {{{{program, native}, milliseconds(0)}, {{"/bin/sh", "-c", commandLine, "sh", native}, kInterpreterWatched}}};
 }
 
-void Launch(const LaunchAttempts& attempts, Shell& shell) {
-  try {
-    shell.Start(attempts[0]);
-  } catch (const RuntimeFailure&) {
-    shell.Start(attempts[1]);
-  }
+void Launch(const LaunchAttempts& attempts, Shell& shell, const StartFailed& failed) {
+  shell.Start(attempts[0], [&shell, second = attempts[1], failed](const RuntimeFailure& /*failure*/) {
+    shell.Start(second, failed);
+  });
 }
 
 }  // namespace vantorium

@@ -27,7 +27,7 @@ using LaunchAttempts = std::array<ShellCommand, 2>;
 /// Throws RuntimeFailure FileNotFound for a file on no drive, and for an empty location.
 [[nodiscard]] LaunchAttempts ListedBrowser(const std::string& location, const std::string& file, const PathMap& paths);
 
-/// Makes the attempts. Throws the RuntimeFailure of the second one when both failed.
-void Launch(const LaunchAttempts& attempts, Shell& shell);
+/// Makes the attempts. `failed` hears of the second one's failure when both failed, perhaps later (see Shell::Start).
+void Launch(const LaunchAttempts& attempts, Shell& shell, const StartFailed& failed);
 
 }  // namespace vantorium

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "env/RuntimeFailure.h"
+
 #include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,6 +20,9 @@ struct ShellCommand {
   std::chrono::milliseconds watched{0};
 };
 
+/// Hears why a program could not be started.
+using StartFailed = std::function<void(const RuntimeFailure&)>;
+
 /// What the program asks of the desktop around it.
 class Shell {
  public:
@@ -25,8 +31,9 @@ class Shell {
   /// Opens a file (path text) with the desktop's default program for it. Throws RuntimeFailure when nothing could be
   /// started.
   virtual void OpenFile(const std::string& path) = 0;
-  /// Starts a program, which then runs by itself. Throws RuntimeFailure when it could not be started.
-  virtual void Start(const ShellCommand& command) = 0;
+  /// Starts a program, which then runs by itself. `failed` is called when it could not be started: from within this
+  /// call, or later while the program is watched. A desktop with windows does not wait for that.
+  virtual void Start(const ShellCommand& command, const StartFailed& failed) = 0;
 };
 
 }  // namespace vantorium

@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <optional>
 #include <system_error>
 #include <thread>
 
@@ -49,6 +48,7 @@ class SpawnSettings {
 };
 
 pid_t Spawn(std::vector<std::string> words) {
+  if (words.empty()) throw RuntimeFailure(FailureKind::FileNotFound);
   std::vector<char*> arguments;
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
@@ -61,18 +61,6 @@ pid_t Spawn(std::vector<std::string> words) {
                          words.front() + ": " + std::strerror(error));
   }
   return child;
-}
-
-/// Waits for the end of a process; nothing when it goes on for longer than `watched`.
-std::optional<int> StatusWithin(pid_t child, std::chrono::milliseconds watched) {
-  constexpr std::chrono::milliseconds kPause{5};
-  const auto end = std::chrono::steady_clock::now() + watched;
-  int status = 0;
-  while (::waitpid(child, &status, WNOHANG) != child) {
-    if (std::chrono::steady_clock::now() >= end) return std::nullopt;
-    std::this_thread::sleep_for(kPause);
-  }
-  return status;
 }
 
 /// The system keeps a process that has ended until somebody asks how.
@@ -102,15 +90,27 @@ void RefuseFailure(int status, const std::string& program) {
 
 }  // namespace
 
-void StartProcess(const ShellCommand& command) {
-  if (command.words.empty()) throw RuntimeFailure(FailureKind::FileNotFound);
-  const pid_t child = Spawn(command.words);
-  if (command.watched.count() > 0) {
-    if (const auto status = StatusWithin(child, command.watched)) {
-      return RefuseFailure(*status, command.words.front());
-    }
+StartedProcess::StartedProcess(const ShellCommand& command)
+    : process_(Spawn(command.words)),
+      program_(command.words.front()),
+      isWatched_(command.watched.count() > 0),
+      end_(std::chrono::steady_clock::now() + command.watched) {}
+
+bool StartedProcess::IsWatched() const {
+  int status = 0;
+  if (isWatched_ && ::waitpid(process_, &status, WNOHANG) == process_) {
+    RefuseFailure(status, program_);
+    return false;
   }
-  ForgetItsEnd(child);
+  if (std::chrono::steady_clock::now() < end_) return true;
+  ForgetItsEnd(process_);
+  return false;
+}
+
+void StartProcess(const ShellCommand& command) {
+  constexpr std::chrono::milliseconds kPause{5};
+  const StartedProcess process(command);
+  while (process.IsWatched()) std::this_thread::sleep_for(kPause);
 }
 
 }  // namespace vantorium

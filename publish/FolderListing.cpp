@@ -11,21 +11,22 @@ namespace {
 std::optional<EntryKind> KindOf(const fs::directory_entry& entry) {
   std::error_code error;
   if (entry.is_regular_file(error)) return EntryKind::File;
-  if (entry.is_directory(error) && !entry.is_symlink(error)) return EntryKind::Folder;
-  return std::nullopt;
+  if (!entry.is_directory(error)) return std::nullopt;
+  return entry.is_symlink(error) ? EntryKind::LinkedFolder : EntryKind::Folder;
 }
 
 }  // namespace
 
-FolderListing ListFolder(const fs::path& folder) {
+FolderListing ListFolder(const fs::path& folder, const std::function<bool()>& goOn) {
   FolderListing listing;
   std::error_code error;
   fs::directory_iterator entry(folder, error);
-  listing.started = !error;
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+  bool goesOn = !error && goOn();
+  for (; goesOn && entry != fs::directory_iterator(); goesOn = !error && goOn()) {
     if (const auto kind = KindOf(*entry)) listing.entries.push_back({entry->path().filename().string(), *kind});
+    entry.increment(error);
   }
-  listing.complete = !error;
+  listing.complete = goesOn;
   std::ranges::sort(listing.entries, {}, &FolderEntry::name);
   return listing;
 }

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace vantorium {
 
-enum class EntryKind { Folder, File };
+enum class EntryKind { Folder, File, LinkedFolder };
 
 struct FolderEntry {
   std::string name;
@@ -18,12 +19,12 @@ struct FolderEntry {
 /// What is in a folder, in the order of the names' bytes, so that it is the same everywhere.
 struct FolderListing {
   std::vector<FolderEntry> entries;
-  bool started = false;   ///< the folder could be read at all
-  bool complete = false;  ///< it could be read to its end
+  bool complete = false;  ///< the folder could be read to its end
 };
 
-/// Lists a folder. A link to a file is a file. A link to a folder is left out, since it may lead back to a folder above
-/// it, and so is what is neither of the two and has nothing to send: devices, pipes, links that lead nowhere.
-[[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder);
+/// Lists a folder. A link to a file is a file, a link to a folder a LinkedFolder. What is none of these has nothing to
+/// send and is left out: devices, pipes, links that lead nowhere. `goOn` is asked once for a folder that can be read
+/// and behind each of its entries, as there may be very many; its first no ends the listing.
+[[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder, const std::function<bool()>& goOn);
 
 }  // namespace vantorium

@@ -1,7 +1,10 @@
 #include "publish/UploadFolder.h"
 
-#include "env/PathText.h"
 #include "env/RuntimeFailure.h"
+#include "env/Text.h"
+#include "publish/FTPPath.h"
+
+#include <algorithm>
 
 namespace vantorium {
 namespace {
@@ -11,11 +14,19 @@ std::string WithoutOneAtEnd(std::string text, char separator) {
   return text;
 }
 
-/// A name of another system's file that would be a path here and on the server, perhaps one that leads elsewhere.
-void RefuseSeparators(const std::string& name) {
-  if (name.find('\\') != std::string::npos) {
-    throw RuntimeFailure(FailureKind::FileAccess, "\"" + name + "\" has a backslash in its name.");
-  }
+/// A name as one line of a message.
+std::string OnOneLine(const std::string& name) {
+  return ReplaceAll(ReplaceAll(name, "\r", "\\r"), "\n", "\\n");
+}
+
+/// A name of another system's file that would be a path here and on the server, perhaps one that leads elsewhere, or
+/// that no command to the server can hold.
+void RefuseName(const std::string& name) {
+  const auto refuse = [&name](const char* what) {
+    throw RuntimeFailure(FailureKind::FileAccess, "\"" + OnOneLine(name) + "\" has a " + what + " in its name.");
+  };
+  if (name.find('\\') != std::string::npos) refuse("backslash");
+  if (name.find_first_of("\r\n") != std::string::npos) refuse("line break");
 }
 
 }  // namespace
@@ -29,16 +40,24 @@ struct FolderUpload::Place {
 
   [[nodiscard]] bool OnlyCounts() const { return counter > -1; }
   [[nodiscard]] std::string LocalPath(const std::string& name) const { return local + "\\" + name; }
-  [[nodiscard]] std::string RemotePath(const std::string& name) const { return remote + "/" + name; }
+  [[nodiscard]] std::string RemotePath(const std::string& name) const {
+    return remote.empty() ? name : remote + "/" + name;
+  }
 };
 
 bool FolderUpload::UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite,
                                 std::int32_t& counter) {
+  // Without this an empty text would stand for the root folder once a separator is behind it.
+  if (localFolder.empty()) return false;
+  const bool uploaded = UploadTrapped(
+      {WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(RelativeToSession(remotePath), '/'), overwrite, counter});
+  // A cancel may have been what broke the last file, or have come behind it.
+  return !Cancelled() && uploaded;
+}
+
+bool FolderUpload::UploadTrapped(const Place& place) {
   try {
-    // Without this an empty text would stand for the root folder once a separator is behind it.
-    if (localFolder.empty()) return false;
-    return UploadPlace(
-        {WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(WithSlashes(remotePath), '/'), overwrite, counter});
+    return UploadPlace(place);
   } catch (const RuntimeFailure& failure) {
     environment_.boxes.Critical("Failure", "An Error has occurred during the Upload of this Gallery:\r\r" +
                                                failure.Description() + "\r\rError #" +
@@ -50,8 +69,6 @@ bool FolderUpload::UploadFolder(const std::string& localFolder, const std::strin
 bool FolderUpload::UploadPlace(const Place& place) {
   if (!EnterFolder(place)) return false;
   const FolderListing listing = List(place.local);
-  // A folder's own entries "." and ".." are polled at like all others, so a cancel is noticed in an empty folder too.
-  if (listing.started && Cancelled()) return false;
   for (const FolderEntry& entry : listing.entries) {
     if (Cancelled() || !UploadEntry(place, entry)) return false;
   }
@@ -68,15 +85,18 @@ bool FolderUpload::EnterFolder(const Place& place) {
 }
 
 bool FolderUpload::UploadEntry(const Place& place, const FolderEntry& entry) {
-  if (!place.OnlyCounts()) RefuseSeparators(entry.name);
+  if (entry.kind == EntryKind::LinkedFolder) {
+    LeaveOut(place, entry.name);
+    return true;
+  }
+  if (!place.OnlyCounts()) RefuseName(entry.name);
   return entry.kind == EntryKind::Folder ? UploadSubfolder(place, entry.name) : SendFile(place, entry.name);
 }
 
 /// A folder is a step of the folder it lies in, and then one of its own.
 bool FolderUpload::UploadSubfolder(const Place& place, const std::string& name) {
   Step(place);
-  const bool uploaded = UploadFolder(place.LocalPath(name), place.RemotePath(name), place.overwrite, place.counter);
-  return !Cancelled() && uploaded;
+  return UploadFolder(place.LocalPath(name), place.RemotePath(name), place.overwrite, place.counter);
 }
 
 bool FolderUpload::SendFile(const Place& place, const std::string& name) {
@@ -89,9 +109,31 @@ bool FolderUpload::SendFile(const Place& place, const std::string& name) {
   return sent;
 }
 
-FolderListing FolderUpload::List(const std::string& localFolder) const {
+void FolderUpload::LeaveOut(const Place& place, const std::string& name) {
+  if (place.OnlyCounts()) return;
+  leftOut_.push_back(place.LocalPath(OnOneLine(name)));
+  environment_.progress.SetText3("Leaving out symbolic link " + leftOut_.back() + "\r\n", true);
+}
+
+void FolderUpload::TellLeftOut() const {
+  if (leftOut_.empty()) return;
+  constexpr std::size_t kMostInBox = 10;
+  std::string text = "These Folders are symbolic Links and were not uploaded:\r";
+  const std::size_t named = std::min(leftOut_.size(), kMostInBox);
+  for (std::size_t i = 0; i < named; ++i) text += "\r" + leftOut_[i];
+  const std::size_t more = leftOut_.size() - named;
+  if (more > 0) text += "\r\r" + std::to_string(more) + " more are named in the Log.";
+  environment_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Folders left out", text);
+}
+
+/// Large folders and slow disks take their time, in which the window stays alive and a cancel is obeyed.
+FolderListing FolderUpload::List(const std::string& localFolder) {
   const auto native = environment_.paths.ToNative(localFolder + "\\");
-  return native ? ListFolder(*native) : FolderListing();
+  if (!native) return {};
+  return ListFolder(*native, [this] {
+    environment_.loop.Turn();
+    return !Cancelled();
+  });
 }
 
 bool FolderUpload::Cancelled() {

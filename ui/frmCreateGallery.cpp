@@ -173,6 +173,9 @@ void frmCreateGallery::accept() {
   ShowTexts();
   if (result == Application::Done) return QDialog::accept();
   if (result == Application::NoSourceFolder) ui_->textUploadSourceFolder->setFocus();
+  if (result == Application::NoDestination) {
+    (model_.Chosen() == Option::Publish ? ui_->textPublishDestination : ui_->textUploadDestination)->setFocus();
+  }
 }
 
 void frmCreateGallery::reject() {

@@ -36,11 +36,16 @@ CivilTime BatchClock::Now() const {
 void BatchShell::Beep(BeepKind /*kind*/) {}
 
 void BatchShell::OpenFile(const std::string& path) {
-  Launch(DefaultOpener(path, paths_), *this);
+  Launch(DefaultOpener(path, paths_), *this, [](const RuntimeFailure& failure) { throw RuntimeFailure(failure); });
 }
 
-void BatchShell::Start(const ShellCommand& command) {
-  if (mayOpenFiles_) StartProcess(command);
+void BatchShell::Start(const ShellCommand& command, const StartFailed& failed) {
+  if (!mayOpenFiles_) return;
+  try {
+    StartProcess(command);
+  } catch (const RuntimeFailure& failure) {
+    failed(failure);
+  }
 }
 
 void InterruptLoop::Watch(ProgressWindow* progress) {

@@ -44,7 +44,7 @@ class BatchShell : public Shell {
   BatchShell(const PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
   void Beep(BeepKind kind) override;
   void OpenFile(const std::string& path) override;
-  void Start(const ShellCommand& command) override;
+  void Start(const ShellCommand& command, const StartFailed& failed) override;
 
  private:
   const PathMap& paths_;

@@ -129,14 +129,18 @@ void GalleryCreator::MakeTempFolder() {
   std::ignore = environment_.files.MakePath(TempFolder());
 }
 
+/// The failure may be known only when this run, and the object that made it, are long gone.
 void GalleryCreator::OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex) {
+  const StartFailed tell = [&boxes = environment_.boxes](const RuntimeFailure& failure) {
+    boxes.Critical("Error", "Error: " + std::to_string(failure.Number()) + "\r\r" + failure.Description());
+  };
   try {
     const PathMap& paths = environment_.files.Paths();
     Launch(browserIndex == 0 ? DefaultOpener(indexFile, paths)
                              : ListedBrowser(BrowserLocation(browserIndex), indexFile, paths),
-           environment_.shell);
+           environment_.shell, tell);
   } catch (const RuntimeFailure& failure) {
-    environment_.boxes.Critical("Error", "Error: " + std::to_string(failure.Number()) + "\r\r" + failure.Description());
+    tell(failure);
   }
 }
 

@@ -44,8 +44,8 @@ PhaseResult OpenServerSession(const RunContext& context) {
 PhaseResult UploadFolderAndEnd(const RunContext& context) {
   if (context.run.mode != GenerationMode::Upload) return kGoOn;
   const RunArguments& arguments = context.arguments;
-  FolderUpload upload({*context.ftp, context.run.files.Paths(), context.boxes, context.cancel, context.progress,
-                       [&context](const std::string& text) { context.host.ShowStatus(text); }});
+  FolderUpload upload({*context.ftp, context.run.files.Paths(), context.boxes, context.loop, context.cancel,
+                       context.progress, [&context](const std::string& text) { context.host.ShowStatus(text); }});
   std::int32_t counter = 0;
   const bool counted =
       upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
@@ -53,7 +53,9 @@ PhaseResult UploadFolderAndEnd(const RunContext& context) {
   context.progress.SetMax(counter);
   counter = -1;
   const bool sent = upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
-  return sent ? RunEnd::Success : RunEnd::Failure;
+  if (!sent) return RunEnd::Failure;
+  upload.TellLeftOut();
+  return RunEnd::Success;
 }
 
 }  // namespace vantorium

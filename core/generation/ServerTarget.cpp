@@ -2,8 +2,8 @@
 
 #include "core/generation/OutputNaming.h"
 #include "core/generation/SafeNames.h"
-#include "env/PathText.h"
 #include "image/JPEG.h"
+#include "publish/FTPPath.h"
 
 namespace vantorium {
 namespace {
@@ -17,11 +17,11 @@ std::string UnableToCopy(const std::string& path) {
 }  // namespace
 
 std::string ServerTarget::RemoteImagesDir() const {
-  return WithSlashes(arguments_.RemoteFolder + run_.ImageUrlPrefix);
+  return RelativeToSession(arguments_.RemoteFolder + run_.ImageUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbsDir() const {
-  return WithSlashes(arguments_.RemoteFolder + run_.ThumbUrlPrefix);
+  return RelativeToSession(arguments_.RemoteFolder + run_.ThumbUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbnail(const ImageRunInfo& image) const {
@@ -88,7 +88,8 @@ Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::strin
 
 Delivery ServerTarget::StoreIndexPage(std::string_view page) {
   if (auto refusal = local_.StoreIndexPage(page)) return refusal;
-  return Move(run_.OutputFolder + run_.IndexFileName, arguments_.RemoteFolder + arguments_.RemoteIndexFileName,
+  return Move(run_.OutputFolder + run_.IndexFileName,
+              RelativeToSession(arguments_.RemoteFolder + arguments_.RemoteIndexFileName),
               "Unable to create the Gallery Index File.");
 }
 
@@ -103,7 +104,7 @@ Delivery ServerTarget::StoreWrapperPage(const std::string& listText, std::string
 }
 
 Delivery ServerTarget::SendPage(const std::string& name) {
-  const std::string remote = arguments_.RemoteFolder + name;
+  const std::string remote = RelativeToSession(arguments_.RemoteFolder + name);
   return Move(run_.OutputFolder + name, remote, "Unable to create the File \"" + remote + "\".");
 }
 

@@ -72,6 +72,29 @@ TEST(StartProcess, AProgramThatGoesOnIsLeftToItself) {
   EXPECT_TRUE(std::filesystem::exists(done));
 }
 
+TEST(StartedProcess, IsWatchedWithoutWaitingUntilItEnds) {
+  const fakes::TemporaryFolder folder;
+  const std::string go = (folder.Path() / "go").string();
+  for (const char* code : {"0", "3"}) {
+    const std::string script = "until test -e \"$0\"; do sleep 0.01; done; exit " + std::string(code);
+    const StartedProcess process({{"/bin/sh", "-c", script, go}, kLong});
+    EXPECT_TRUE(process.IsWatched()) << code;
+    EXPECT_TRUE(process.IsWatched()) << code;
+    folder.Write("go", "");
+    const auto look = [&process] {
+      while (process.IsWatched()) std::this_thread::sleep_for(milliseconds(5));
+    };
+    const bool good = std::string(code) == "0";
+    EXPECT_EQ(FailureOf(look), good ? std::nullopt : std::optional(FailureKind::FileAccess)) << code;
+    std::filesystem::remove(go);
+  }
+}
+
+TEST(StartedProcess, IsLeftToItselfBehindItsTime) {
+  const StartedProcess process({{"/bin/sh", "-c", "exit 3"}, milliseconds(0)});
+  EXPECT_FALSE(process.IsWatched());
+}
+
 TEST(StartProcess, ItsStreamsAreEmptyAndItsSessionIsItsOwn) {
   const fakes::TemporaryFolder folder;
   const std::string out = (folder.Path() / "out").string();

@@ -12,7 +12,7 @@ class RecordingDesktop : public Shell {
  public:
   void Beep(BeepKind kind) override { beeps.push_back(kind); }
   void OpenFile(const std::string& path) override { opened.push_back(path); }
-  void Start(const ShellCommand& command) override { started.push_back(command.words); }
+  void Start(const ShellCommand& command, const StartFailed& /*failed*/) override { started.push_back(command.words); }
 
   std::vector<BeepKind> beeps;
   std::vector<std::string> opened;

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantorium::fakes {
@@ -38,15 +39,23 @@ class RecordingShell : public Shell {
     journal_.push_back("open " + path);
     if (fails) throw RuntimeFailure(FailureKind::FileNotFound);
   }
-  void Start(const ShellCommand& command) override {
+  void Start(const ShellCommand& command, const StartFailed& failed) override {
     std::string line = "start";
     for (const std::string& word : command.words) line += " " + word;
     journal_.push_back(line);
-    if (startsThatFail-- > 0) throw RuntimeFailure(FailureKind::FileAccess, "\"" + command.words.front() + "\" failed");
+    if (startsThatFail-- <= 0) return;
+    later = [failed, program = command.words.front()] {
+      failed(RuntimeFailure(FailureKind::FileAccess, "\"" + program + "\" failed"));
+    };
+    if (!failsLater) LetFail();
   }
+  /// The program that was started last is found to have failed.
+  void LetFail() { std::exchange(later, nullptr)(); }
 
-  bool fails = false;      ///< OpenFile does
-  int startsThatFail = 0;  ///< so many calls of Start fail first
+  bool fails = false;           ///< OpenFile does
+  int startsThatFail = 0;       ///< so many calls of Start fail first
+  bool failsLater = false;      ///< these wait for LetFail
+  std::function<void()> later;  ///< what LetFail does
 
  private:
   Journal& journal_;

@@ -25,5 +25,12 @@ TEST(FTPPath, FolderAndNameHaveForwardSlashes) {
   }
 }
 
+TEST(FTPPath, APathRelativeToTheSessionHasNoSlashInFront) {
+  for (const auto& [path, relative] : std::vector<std::pair<const char*, const char*>>{
+           {"a/b.htm", "a/b.htm"}, {"/a/b/", "a/b/"}, {"//a//b", "a//b"}, {"\\a\\b", "a/b"}, {"/", ""}, {"", ""}}) {
+    EXPECT_EQ(RelativeToSession(path), relative) << path;
+  }
+}
+
 }  // namespace
 }  // namespace vantorium

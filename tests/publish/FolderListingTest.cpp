@@ -7,7 +7,8 @@
 namespace vantorium {
 
 void PrintTo(const FolderEntry& entry, std::ostream* stream) {
-  *stream << entry.name << (entry.kind == EntryKind::Folder ? "/" : "");
+  *stream << entry.name << (entry.kind == EntryKind::File ? "" : "/")
+          << (entry.kind == EntryKind::LinkedFolder ? "@" : "");
 }
 
 namespace {
@@ -17,16 +18,21 @@ using Entries = std::vector<FolderEntry>;
 
 class AListing : public testing::Test {
  protected:
-  [[nodiscard]] FolderListing List() const { return ListFolder(folder.Path()); }
+  [[nodiscard]] FolderListing List() { return List(folder.Path()); }
+  [[nodiscard]] FolderListing List(const fs::path& path) {
+    asked = 0;
+    return ListFolder(path, [this] { return ++asked != noAt; });
+  }
 
   fakes::TemporaryFolder folder;
+  int asked = 0;  ///< how often whether to go on
+  int noAt = 0;   ///< the question that is answered with no; 0 is none
 };
 
 TEST_F(AListing, IsInTheOrderOfTheNames) {
   for (const char* name : {"b", "a", "B", "10", "9", ".hidden", "\xC3\xA4"}) folder.Write(name, "x");
   fs::create_directory(folder.Path() / "ab");
   const FolderListing listing = List();
-  EXPECT_TRUE(listing.started);
   EXPECT_TRUE(listing.complete);
   std::string names;
   for (const auto& entry : listing.entries) names += entry.name + " ";
@@ -39,11 +45,12 @@ TEST_F(AListing, TellsFoldersFromFiles) {
   EXPECT_EQ(List().entries, (Entries{{"file", EntryKind::File}, {"folder", EntryKind::Folder}}));
 }
 
-TEST_F(AListing, ALinkToAFileIsAFileAndALinkToAFolderIsLeftOut) {
+TEST_F(AListing, ALinkToAFileIsAFileAndALinkToAFolderIsALinkedFolder) {
   const auto file = folder.Write("a", "x");
   fs::create_symlink(file, folder.Path() / "link");
   fs::create_directory_symlink(folder.Path(), folder.Path() / "above");
-  EXPECT_EQ(List().entries, (Entries{{"a", EntryKind::File}, {"link", EntryKind::File}}));
+  EXPECT_EQ(List().entries,
+            (Entries{{"a", EntryKind::File}, {"above", EntryKind::LinkedFolder}, {"link", EntryKind::File}}));
 }
 
 TEST_F(AListing, WhatIsNeitherFileNorFolderIsLeftOut) {
@@ -57,15 +64,28 @@ TEST_F(AListing, WhatIsNeitherFileNorFolderIsLeftOut) {
 
 TEST_F(AListing, OfAnEmptyFolderIsCompleteAndEmpty) {
   const FolderListing listing = List();
-  EXPECT_TRUE(listing.started);
   EXPECT_TRUE(listing.complete);
   EXPECT_EQ(listing.entries, Entries());
 }
 
+TEST_F(AListing, AsksAtItsStartAndBehindEachEntryWhetherToGoOn) {
+  EXPECT_TRUE(List().complete);
+  EXPECT_EQ(asked, 1);
+  for (const char* name : {"a", "b", "c"}) folder.Write(name, "x");
+  EXPECT_TRUE(List().complete);
+  EXPECT_EQ(asked, 4);
+  for (noAt = 1; noAt <= 4; ++noAt) {
+    const FolderListing listing = List();
+    EXPECT_FALSE(listing.complete) << noAt;
+    EXPECT_EQ(asked, noAt);
+    EXPECT_EQ(listing.entries.size(), static_cast<std::size_t>(noAt - 1));
+  }
+}
+
 TEST_F(AListing, OfWhatIsNoFolderDoesNotStart) {
   for (const fs::path& path : {folder.Write("file", "x"), folder.Path() / "missing", fs::path()}) {
-    const FolderListing listing = ListFolder(path);
-    EXPECT_FALSE(listing.started) << path;
+    const FolderListing listing = List(path);
+    EXPECT_EQ(asked, 0) << path;
     EXPECT_FALSE(listing.complete) << path;
     EXPECT_EQ(listing.entries, Entries()) << path;
   }

@@ -1,4 +1,5 @@
 #include "publish/UploadFolder.h"
+#include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/Hindrances.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
@@ -50,12 +51,14 @@ class UploadFolderTest : public testing::Test {
   PathMap paths{{{'C', drive.Path().string()}}};
   fakes::RecordingUploads server;
   fakes::RecordingMessageBox boxes;
+  fakes::CountingEventLoop loop;
   fakes::ScriptedCancel cancel;
   fakes::Journal journal;
   fakes::ProgressRecord record;
   fakes::RecordingProgress progress{record, journal};
   Lines statuses;
-  FolderUpload upload{{server, paths, boxes, cancel, progress, [this](const auto& text) { statuses.push_back(text); }}};
+  FolderUpload upload{
+      {server, paths, boxes, loop, cancel, progress, [this](const auto& text) { statuses.push_back(text); }}};
 };
 
 TEST_F(UploadFolderTest, TheContentsLandInTheRemotePathWithTheSameTreeBelow) {
@@ -107,13 +110,29 @@ TEST_F(UploadFolderTest, OneSeparatorAtTheEndOfEachPathIsDropped) {
       {"C:\\site\\", "web/", {"make web", "copy C:\\site\\a to web/a"}},
       {"C:\\site", "web\\x\\", {"make web/x", "copy C:\\site\\a to web/x/a"}},
       {"C:\\site\\\\", "web//", {"make web/", "copy C:\\site\\\\a to web//a"}},
-      {"C:\\site", "/", {"make ", "copy C:\\site\\a to /a"}},
-      {"C:\\site", "", {"make ", "copy C:\\site\\a to /a"}},
   };
   for (const auto& [local, remote, calls] : cases) {
     server.calls.clear();
     EXPECT_TRUE(Send(local, remote)) << local << " to " << remote;
     EXPECT_EQ(server.calls, calls) << local << " to " << remote;
+  }
+}
+
+TEST_F(UploadFolderTest, PathsAreRelativeToWhereTheSessionStands) {
+  for (const char* name : {"a.txt", "sub/b.txt"}) Write(name);
+  for (const char* remote : {"", "/", "//", "\\"}) {
+    server.calls.clear();
+    EXPECT_TRUE(Send("C:\\site", remote)) << remote;
+    EXPECT_EQ(server.calls,
+              (Lines{"make ", "copy C:\\site\\a.txt to a.txt", "make sub", "copy C:\\site\\sub\\b.txt to sub/b.txt"}))
+        << remote;
+  }
+  for (const char* remote : {"/web", "//web/", "\\web"}) {
+    server.calls.clear();
+    EXPECT_TRUE(Send("C:\\site", remote)) << remote;
+    EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a.txt to web/a.txt", "make web/sub",
+                                   "copy C:\\site\\sub\\b.txt to web/sub/b.txt"}))
+        << remote;
   }
 }
 
@@ -169,6 +188,35 @@ TEST_F(UploadFolderTest, AnEmptyFolderStillCreatesItsDirectoryAndCountsOne) {
   EXPECT_EQ(Progress(), 1);
 }
 
+TEST_F(UploadFolderTest, BothPassesGiveTheLoopATurnForEachEntryAndForEachFolder) {
+  for (const char* name : {"a", "b", "sub/c"}) Write(name);
+  MakeFolder("empty");
+  constexpr int kEntries = 5;
+  constexpr int kFolders = 3;
+  EXPECT_EQ(Count(), 8);
+  EXPECT_EQ(loop.turns, kEntries + kFolders);
+  loop.turns = 0;
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(loop.turns, kEntries + kFolders);
+}
+
+TEST_F(UploadFolderTest, ACancelInAnyTurnOfTheCountEndsItThenWithItsBox) {
+  for (const char* name : {"a", "b", "sub/c"}) Write(name);
+  EXPECT_EQ(Count(), 6);
+  const int turns = loop.turns;
+  for (int at = 1; at <= turns; ++at) {
+    loop.turns = 0;
+    cancel.cancelled = false;
+    boxes.boxes.clear();
+    loop.onTurn = [this, at](int turn) { cancel.cancelled = turn == at; };
+    FolderUpload another({server, paths, boxes, loop, cancel, progress, [](const auto& /*text*/) {}});
+    std::int32_t counter = 0;
+    EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true, counter)) << "turn " << at;
+    EXPECT_EQ(loop.turns, at) << "nothing is read behind it";
+    ExpectCancelReportedOnce();
+  }
+}
+
 TEST_F(UploadFolderTest, ALinkToAFileIsSentAsTheFileAndALinkToAFolderIsNotFollowed) {
   Write("a");
   fs::create_symlink("a", drive.Path() / "site/link");
@@ -176,6 +224,40 @@ TEST_F(UploadFolderTest, ALinkToAFileIsSentAsTheFileAndALinkToAFolderIsNotFollow
   EXPECT_EQ(Count(), 3);
   EXPECT_TRUE(Send());
   EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a to web/a", "copy C:\\site\\link to web/link"}));
+}
+
+TEST_F(UploadFolderTest, EachLinkToAFolderIsNamedInTheLogAndAtTheEnd) {
+  MakeFolder("sub/real");
+  fs::create_directory_symlink("..", drive.Path() / "site/sub/up");
+  fs::create_directory_symlink("/", drive.Path() / "site/all");
+  fs::create_directory_symlink("sub", drive.Path() / "site/two\nlines");
+  Count();
+  EXPECT_EQ(record.log, "");
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(record.log,
+            "Leaving out symbolic link C:\\site\\all\r\nLeaving out symbolic link C:\\site\\sub\\up\r\n"
+            "Leaving out symbolic link C:\\site\\two\\nlines\r\n");
+  EXPECT_TRUE(boxes.boxes.empty());
+  upload.TellLeftOut();
+  ExpectOneBox(BoxKind::Exclamation, "Folders left out",
+               "These Folders are symbolic Links and were not uploaded:\r\rC:\\site\\all\rC:\\site\\sub\\up\r"
+               "C:\\site\\two\\nlines");
+}
+
+TEST_F(UploadFolderTest, ManyLinksToFoldersAreCountedInTheBox) {
+  for (int i = 10; i < 23; ++i) fs::create_directory_symlink("/", drive.Path() / "site" / std::to_string(i));
+  EXPECT_TRUE(Send());
+  upload.TellLeftOut();
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_TRUE(boxes.boxes[0].text.ends_with("\rC:\\site\\19\r\r3 more are named in the Log.")) << boxes.boxes[0].text;
+}
+
+TEST_F(UploadFolderTest, WithoutLinksToFoldersThereIsNothingToTell) {
+  Write("sub/a");
+  EXPECT_TRUE(Send());
+  upload.TellLeftOut();
+  EXPECT_TRUE(boxes.boxes.empty());
+  EXPECT_EQ(record.log, "");
 }
 
 TEST_F(UploadFolderTest, ADirectoryThatCannotBeMadeEndsTheUploadWithoutAStep) {
@@ -207,7 +289,7 @@ TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsInSilenceBehindItsRemoteDire
     EXPECT_EQ(counter, 1) << local;
   }
   EXPECT_TRUE(boxes.boxes.empty());
-  EXPECT_EQ(cancel.polls, 0);
+  EXPECT_EQ(loop.turns, 0);
 }
 
 TEST_F(UploadFolderTest, ASubfolderWithoutRightsEndsTheWholeUploadInSilence) {
@@ -259,6 +341,24 @@ TEST_F(UploadFolderTest, ANameThatIsAPathToOthersIsRefused) {
   }
 }
 
+TEST_F(UploadFolderTest, ANameWithALineBreakIsRefusedAndShownOnOneLine) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"a\nb", "a\\nb"}, {"a\rb", "a\\rb"}, {"a\r\nDELE b", "a\\r\\nDELE b"}, {"\n", "\\n"}};
+  for (const auto& [name, shown] : cases) {
+    for (const bool folder : {true, false}) {
+      folder ? MakeFolder(name) : Write(name);
+      boxes.boxes.clear();
+      server.calls.clear();
+      EXPECT_FALSE(Send()) << shown;
+      EXPECT_EQ(server.calls, Lines{"make web"}) << shown;
+      ExpectOneBox(BoxKind::Critical, "Failure",
+                   "An Error has occurred during the Upload of this Gallery:\r\r\"" + std::string(shown) +
+                       "\" has a line break in its name.\r\rError #75");
+      fs::remove(drive.Path() / "site" / name);
+    }
+  }
+}
+
 TEST_F(UploadFolderTest, ACancelIsNoticedBeforeEachEntry) {
   for (const char* name : {"a", "b", "c"}) Write(name);
   server.onCall = [this] { cancel.cancelled = server.calls.back() == "copy C:\\site\\b to web/b"; };
@@ -285,7 +385,7 @@ TEST_F(UploadFolderTest, EveryPollMayBeTheCancelAndEndsTheUploadWithOneBox) {
     cancel.cancelAtPoll = at;
     boxes.boxes.clear();
     server.calls.clear();
-    FolderUpload another({server, paths, boxes, cancel, progress, [](const auto& /*text*/) {}});
+    FolderUpload another({server, paths, boxes, loop, cancel, progress, [](const auto& /*text*/) {}});
     std::int32_t counter = -1;
     EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true, counter)) << "poll " << at;
     EXPECT_EQ(boxes.boxes.size(), 1U) << "poll " << at;
@@ -306,12 +406,26 @@ TEST_F(UploadFolderTest, ACancelWhileAnEmptyFolderIsMadeIsNoticed) {
   ExpectCancelReportedOnce();
 }
 
-TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfTheTopFolderIsNotReported) {
+TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfTheTopFolderIsReported) {
   for (const char* name : {"a", "b"}) Write(name);
   server.refused = "web/a";
   server.onCall = [this] { cancel.cancelled = server.calls.size() == 2; };
   EXPECT_FALSE(Send());
-  EXPECT_TRUE(boxes.boxes.empty());
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, ACancelThatBreaksTheMakingOfTheDirectoryIsReported) {
+  server.refused = "web";
+  server.onCall = [this] { cancel.cancelled = true; };
+  EXPECT_FALSE(Send());
+  ExpectCancelReportedOnce();
+}
+
+TEST_F(UploadFolderTest, ACancelDuringTheLastFileIsReported) {
+  Write("a");
+  server.onCall = [this] { cancel.cancelled = server.calls.size() == 2; };
+  EXPECT_FALSE(Send());
+  ExpectCancelReportedOnce();
 }
 
 TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfASubfolderIsReported) {

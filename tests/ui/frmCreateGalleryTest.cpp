@@ -259,6 +259,45 @@ TEST_F(CreateForm, ADestinationEditedByHandEmptiesThePasswords) {
   });
 }
 
+TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
+  const auto askWith = [this](const char* option, const char* field, const char* destination) {
+    return Ask([=](QWidget& form) {
+      Click(form, option);
+      Type(Find<QLineEdit>(form, "textUploadSourceFolder"), "D:\\photos");
+      Type(Find<QLineEdit>(form, field), destination);
+      Click(form, "OKButton");
+    });
+  };
+  const CreateChoice publish = askWith("optionUploadGallery", "textPublishDestination", "new.example.org/web/page.htm");
+  EXPECT_EQ(publish.UploadServer, "new.example.org");
+  EXPECT_EQ(publish.UploadIndexPath, "web/");
+  EXPECT_EQ(publish.UploadIndexFile, "page.htm");
+  const CreateChoice upload = askWith("optionUploadFolder", "textUploadDestination", "new.example.org/web");
+  EXPECT_EQ(upload.UploadServer, "new.example.org");
+  EXPECT_EQ(upload.UploadIndexPath, "web");
+  EXPECT_TRUE(desk.boxes.boxes.empty());
+}
+
+TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocus) {
+  for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
+           {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
+    desk.boxes.boxes.clear();
+    const CreateChoice choice = Ask([&](QWidget& form) {
+      Click(form, option);
+      Type(Find<QLineEdit>(form, "textUploadSourceFolder"), "D:\\photos");
+      Type(Find<QLineEdit>(form, destination), "gallery.htm");
+      Click(form, "OKButton");
+      EXPECT_TRUE(form.isVisible()) << option;
+      EXPECT_EQ(Text(form, destination), "gallery.htm");
+      EXPECT_TRUE(GetsFocus(form, destination)) << option;
+      Click(form, "CancelButton");
+    });
+    ASSERT_EQ(desk.boxes.boxes.size(), 1U) << option;
+    EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Destination");
+    EXPECT_EQ(choice.option, Option::Cancelled);
+  }
+}
+
 TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
   const CreateChoice choice = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");

@@ -5,6 +5,7 @@
 #include "env/Text.h"
 #include "publish/FTPPath.h"
 #include "publish/ServerListFile.h"
+#include "ui/model/ServerPlace.h"
 
 namespace vantorium {
 namespace {
@@ -76,11 +77,17 @@ void CreateGalleryModel::ComeUp() {
   const auto server = PreferredServer(serverListFile_);
   if (!server) {
     TakeUploadValues({});
-    return SetDestinations("", "");
+    return FillIn("", "");
   }
   TakeUploadValues(*server);
   isPasswordHidden_ = !IsAnonymous(*server);
-  SetDestinations(WithSingleSlashes(PublishText(*server)), WithSingleSlashes(UploadText(*server)));
+  FillIn(WithSingleSlashes(PublishText(*server)), WithSingleSlashes(UploadText(*server)));
+}
+
+void CreateGalleryModel::FillIn(const std::string& publish, const std::string& upload) {
+  SetDestinations(publish, upload);
+  filledPublishDestination_ = publish;
+  filledUploadDestination_ = upload;
 }
 
 /// What is typed by hand has slashes of either kind, or is a path of the system.
@@ -127,8 +134,8 @@ void CreateGalleryModel::SetDestinations(const std::string& publish, const std::
 
 void CreateGalleryModel::TakeServer(const ServerProfile& profile) {
   TakeUploadValues(profile);
-  SetDestinations(WithSingleSlashes(profile.ServerURL + "/" + profile.IndexPath + "/" + profile.IndexFile),
-                  WithSingleSlashes(UploadText(profile)));
+  FillIn(WithSingleSlashes(profile.ServerURL + "/" + profile.IndexPath + "/" + profile.IndexFile),
+         WithSingleSlashes(UploadText(profile)));
 }
 
 void CreateGalleryModel::TakeUploadValues(const ServerProfile& profile) {
@@ -148,6 +155,38 @@ bool CreateGalleryModel::NothingIsMade() const {
   return Produces() && !choice_.CreateImages && !choice_.CreateThumbnails && !choice_.CreateHTMLFiles;
 }
 
+std::optional<std::string> CreateGalleryModel::TypedDestination() const {
+  const auto unlessFilledIn = [](const std::string& text, const std::string& filledIn) {
+    return text == filledIn ? std::nullopt : std::optional(text);
+  };
+  if (choice_.option == Option::Publish) return unlessFilledIn(publishDestination_, filledPublishDestination_);
+  if (choice_.option == Option::UploadFolder) return unlessFilledIn(uploadDestination_, filledUploadDestination_);
+  return std::nullopt;
+}
+
+bool CreateGalleryModel::RefuseDestination() const {
+  const auto typed = TypedDestination();
+  if (!typed || ReadServerPlace(*typed)) return false;
+  boxes_.Critical("Invalid Destination",
+                  choice_.option == Option::Publish
+                      ? "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\"."
+                      : "Please give Server and Folder, such as \"ftp.example.org/gallery\".");
+  return true;
+}
+
+/// Without a file name the index file is the one that a folder stands for everywhere.
+void CreateGalleryModel::TakeTypedDestination(CreateChoice& choice) const {
+  const auto typed = TypedDestination();
+  const auto place = typed ? ReadServerPlace(*typed) : std::nullopt;
+  if (!place) return;
+  choice.UploadServer = place->host;
+  choice.UploadIndexPath = place->path;
+  if (choice.option != Option::Publish) return;
+  choice.UploadIndexPath = FTPGetFilePath(place->path);
+  choice.UploadIndexFile = FTPGetFileName(place->path);
+  if (choice.UploadIndexFile.empty()) choice.UploadIndexFile = "index.htm";
+}
+
 Application CreateGalleryModel::Apply() {
   if (NothingIsMade()) {
     boxes_.Critical("Cannot create Gallery", "Please make sure you have one of the Options checked!");
@@ -158,12 +197,14 @@ Application CreateGalleryModel::Apply() {
     LeaveSourceFolder();
     if (!NormalizeFolderPath(choice_.UploadSourceFolder, boxes_)) return Application::NoSourceFolder;
   }
+  if (RefuseDestination()) return Application::NoDestination;
   Cancelled = false;
   return Application::Done;
 }
 
 CreateChoice CreateGalleryModel::Choice() const {
   CreateChoice choice = choice_;
+  TakeTypedDestination(choice);
   if (Cancelled) choice.option = Option::Cancelled;
   return choice;
 }

@@ -8,6 +8,7 @@
 #include "ui/model/FileBrowser.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,7 @@ enum class Application {
   Done,            ///< the dialog ends
   Refused,         ///< the user was told why, and it stays
   NoSourceFolder,  ///< the same, for the folder to be uploaded
+  NoDestination,   ///< the same, for the place on the server
 };
 
 /// The last question before a run that writes a result: what to make, where it goes, and the password for there. It
@@ -63,7 +65,8 @@ class CreateGalleryModel {
   /// True when a folder was chosen.
   [[nodiscard]] bool BrowseSourceFolder(FolderBrowser& browser);
 
-  /// Where a gallery and where a folder go, as the user sees it. A change by hand changes only that.
+  /// Where a gallery and where a folder go, as the user sees it. A change by hand gives the host and the path of this
+  /// run; user and base directory stay those of the server that was filled in.
   [[nodiscard]] const std::string& PublishDestination() const { return publishDestination_; }
   [[nodiscard]] const std::string& UploadDestination() const { return uploadDestination_; }
   void EditPublishDestination(const std::string& text) { SetDestinations(text, uploadDestination_); }
@@ -86,7 +89,12 @@ class CreateGalleryModel {
   bool Cancelled = true;
 
  private:
+  void FillIn(const std::string& publish, const std::string& upload);
   void SetDestinations(const std::string& publish, const std::string& upload);
+  /// The chosen destination, when it is not the one that was filled in.
+  [[nodiscard]] std::optional<std::string> TypedDestination() const;
+  [[nodiscard]] bool RefuseDestination() const;
+  void TakeTypedDestination(CreateChoice& choice) const;
   void TakeUploadValues(const ServerProfile& profile);
   [[nodiscard]] std::string Finished(const std::string& typed) const;
   [[nodiscard]] bool NothingIsMade() const;
@@ -98,6 +106,8 @@ class CreateGalleryModel {
   CreateChoice choice_;
   std::string publishDestination_;
   std::string uploadDestination_;
+  std::string filledPublishDestination_;
+  std::string filledUploadDestination_;
   bool isPasswordHidden_ = true;
 };
 

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QTimer>
 #include <QUrl>
 
 namespace vantorium {
@@ -15,6 +16,25 @@ QString NativeOf(const PathMap& paths, const std::string& path) {
   const auto native = paths.ToNative(path);
   if (!native) throw RuntimeFailure(FailureKind::FileNotFound);
   return ToQt(native->string());
+}
+
+/// The timer stops first: `failed` may show a message box, whose event loop runs timers too.
+void WatchOn(QObject& owner, const StartedProcess& process, const StartFailed& failed) {
+  constexpr std::chrono::milliseconds kPause{20};
+  auto* const timer = new QTimer(&owner);
+  QObject::connect(timer, &QTimer::timeout, timer, [timer, process, failed] {
+    const auto stop = [timer] {
+      timer->stop();
+      timer->deleteLater();
+    };
+    try {
+      if (!process.IsWatched()) stop();
+    } catch (const RuntimeFailure& failure) {
+      stop();
+      failed(failure);
+    }
+  });
+  timer->start(kPause);
 }
 
 [[noreturn]] void FailToStart(const std::string& what) {
@@ -31,8 +51,13 @@ void QtShell::OpenFile(const std::string& path) {
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(NativeOf(paths_, path)))) FailToStart(path);
 }
 
-void QtShell::Start(const ShellCommand& command) {
-  StartProcess(command);
+void QtShell::Start(const ShellCommand& command, const StartFailed& failed) {
+  try {
+    const StartedProcess process(command);
+    if (process.IsWatched()) WatchOn(watches_, process, failed);
+  } catch (const RuntimeFailure& failure) {
+    failed(failure);
+  }
 }
 
 }  // namespace vantorium

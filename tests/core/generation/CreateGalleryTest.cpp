@@ -133,6 +133,28 @@ TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailure
   ExpectErrorBox("Error: 75\r\r\"/bin/sh\" failed");
 }
 
+TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerWhoseFailureIsToldWhenItIsFound) {
+  AddPhotograph("a");
+  shell.startsThatFail = 2;
+  shell.failsLater = true;
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
+  EXPECT_TRUE(host.progress.unloaded);
+  EXPECT_EQ(journal.back(), "idle") << "the run is over";
+  EXPECT_EQ(Started().size(), 1U);
+  shell.LetFail();
+  EXPECT_EQ(Started().size(), 2U);
+  EXPECT_TRUE(boxes.boxes.empty());
+  shell.LetFail();
+  ExpectErrorBox("Error: 75\r\r\"gio\" failed");
+}
+
+TEST_F(CreateGalleryTest, AnOpenerIsStartedBehindTheEndOfTheProgressWindow) {
+  AddPhotograph("a");
+  Create(GenerationMode::Preview);
+  const auto unloaded = std::ranges::find(journal, "progress unloaded");
+  EXPECT_LT(unloaded, std::ranges::find(journal, Started().at(0)));
+}
+
 TEST_F(CreateGalleryTest, ABrowserThatIsNotListedIsTold) {
   AddPhotograph("a");
   preferences.Browsers = {{"One", "one"}};

@@ -317,6 +317,61 @@ TEST_F(PublishRunTest, AnUploadSendsTheFolderWithItsTreeAndFillsTheBar) {
   EXPECT_EQ(*(host.progress.values.end() - 2), 5) << "the passes agree";
 }
 
+TEST_F(PublishRunTest, AnUploadWithoutARemoteFolderStaysBelowTheBaseDirectory) {
+  folder.Write("folder/a.txt", "1");
+  folder.Write("folder/sub/b.txt", "22");
+  for (const char* remote : {"", "/"}) {
+    ScriptedFtpServer server;
+    RunArguments arguments = UploadTo(server);
+    arguments.BaseDirectory = "htdocs";
+    arguments.RemoteFolder = remote;
+    EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+    EXPECT_TRUE(server.HasHeard("CWD htdocs"));
+    EXPECT_EQ(NamesOn(server), (std::set<std::string>{"a.txt", "sub/b.txt"})) << remote;
+  }
+}
+
+TEST_F(PublishRunTest, AGalleryWithoutARemoteFolderStaysBelowTheBaseDirectory) {
+  AddPhotograph("a");
+  for (const char* remote : {"", "/"}) {
+    for (const char* images : {"Images", "", "/Images", "\\Images"}) {
+      project.settings.textImageSettingsSubFolder = images;
+      ScriptedFtpServer server;
+      RunArguments arguments = PublishTo(server);
+      arguments.BaseDirectory = "htdocs";
+      arguments.RemoteFolder = remote;
+      EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+      EXPECT_TRUE(server.HasHeard("STOR a.htm")) << images;
+      EXPECT_TRUE(server.HasHeard("STOR index.htm")) << images;
+      EXPECT_FALSE(server.HasHeard("STOR /"))
+          << "a remote folder \"" << remote << "\" and images in \"" << images << "\"";
+    }
+  }
+}
+
+TEST_F(PublishRunTest, AnUploadTellsAtItsEndWhichFoldersItLeftOut) {
+  folder.Write("folder/a.txt", "1");
+  std::filesystem::create_directory_symlink("/", folder.Path() / "folder/all");
+  ScriptedFtpServer server;
+  EXPECT_EQ(Run(UploadTo(server)), RunEnd::Success);
+  EXPECT_EQ(LastBox(), "Folders left out: These Folders are symbolic Links and were not uploaded:\r\rT:\\folder\\all");
+  EXPECT_EQ(NamesOn(server), std::set<std::string>{"web/a.txt"});
+}
+
+TEST_F(PublishRunTest, ACancelWhileAFolderIsCountedIsObeyedThen) {
+  for (int i = 0; i < 50; ++i) folder.Write("folder/f" + std::to_string(i), "x");
+  ScriptedFtpServer server;
+  int turns = 0;
+  loop.onTurn = [&](int) {
+    if (!server.HasHeard("PASS") || ++turns != 10) return;
+    host.openWindow->SetIsCancelled(true);
+    std::ignore = cancel.CheckForCancel(*host.openWindow);
+  };
+  EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "Upload cancelled: The User has cancelled Upload of the Gallery");
+  EXPECT_FALSE(server.HasHeard("MKD"));
+}
+
 TEST_F(PublishRunTest, AnUploadCollectsNothingAndNeedsNoImages) {
   folder.Write("folder/a.txt", "1");
   ScriptedFtpServer server;

@@ -320,6 +320,132 @@ TEST_F(CreateGalleryModelTest, ThePasswordGoesWithItsDestination) {
   }
 }
 
+struct TypedCase {
+  const char* typed;
+  const char* host;
+  const char* path;
+  const char* file;
+};
+
+TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
+  for (const auto& [typed, host, path, file] :
+       {TypedCase{"other.example.org/web/new/page.html", "other.example.org", "web/new/", "page.html"},
+        TypedCase{"other.example.org/page.html", "other.example.org", "", "page.html"},
+        TypedCase{"other.example.org/web/", "other.example.org", "web/", "index.htm"},
+        TypedCase{"other.example.org/", "other.example.org", "", "index.htm"},
+        TypedCase{"other.example.org//web\\page.html", "other.example.org", "web/", "page.html"},
+        TypedCase{"one.example.org/a/b/other.htm", "one.example.org", "a/b/", "other.htm"}}) {
+    ComeUpWith({kOne});
+    model.Choose(Option::Publish);
+    model.EditPublishDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+    const CreateChoice choice = model.Choice();
+    EXPECT_EQ(choice.UploadServer, host) << typed;
+    EXPECT_EQ(choice.UploadIndexPath, path) << typed;
+    EXPECT_EQ(choice.UploadIndexFile, file) << typed;
+    EXPECT_EQ(choice.UploadUser, "me") << typed;
+    EXPECT_EQ(choice.UploadJumpTo, "www") << typed;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
+  for (const auto& [typed, host, path, file] :
+       {TypedCase{"other.example.org/web/new", "other.example.org", "web/new", ""},
+        TypedCase{"other.example.org/web/", "other.example.org", "web/", ""},
+        TypedCase{"other.example.org/", "other.example.org", "", ""}}) {
+    ComeUpWith({kOne});
+    model.Choose(Option::UploadFolder);
+    model.EditSourceFolder("D:\\photos");
+    model.EditUploadDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+    EXPECT_EQ(model.Choice().UploadServer, host) << typed;
+    EXPECT_EQ(model.Choice().UploadIndexPath, path) << typed;
+    EXPECT_EQ(model.Choice().UploadUser, "me") << typed;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlone) {
+  ComeUpWith({kOne});
+  const std::string servers = program.Read("vantorium.pub");
+  model.Choose(Option::Publish);
+  model.EditPublishDestination("other.example.org/x.htm");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(program.Read("vantorium.pub"), servers);
+  model.ComeUp();
+  EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().UploadServer, "one.example.org");
+  EXPECT_EQ(model.Choice().UploadIndexFile, "start.htm");
+}
+
+TEST_F(CreateGalleryModelTest, ADestinationThatStandsAsItWasFilledInIsTheServersOwn) {
+  for (const char* index : {"a//b//start.htm", "", "start.htm", "a/b/"}) {
+    ComeUpWithIndex(index);
+    const CreateChoice before = [this] {
+      EXPECT_EQ(model.Apply(), Application::Done);
+      return model.Choice();
+    }();
+    for (const Option option : {Option::Publish, Option::UploadFolder}) {
+      model.Choose(option);
+      model.EditSourceFolder("D:\\photos");
+      const std::string publish = model.PublishDestination();
+      const std::string upload = model.UploadDestination();
+      model.EditPublishDestination("elsewhere");
+      model.EditUploadDestination("elsewhere");
+      model.EditPublishDestination(publish);
+      model.EditUploadDestination(upload);
+      EXPECT_EQ(model.Apply(), Application::Done) << index;
+      EXPECT_EQ(model.Choice().UploadServer, before.UploadServer) << index;
+      EXPECT_EQ(model.Choice().UploadIndexPath, before.UploadIndexPath) << index;
+      EXPECT_EQ(model.Choice().UploadIndexFile, before.UploadIndexFile) << index;
+    }
+    model.Choose(Option::CreateGallery);
+  }
+}
+
+TEST_F(CreateGalleryModelTest, AServerChosenBehindAChangeByHandTakesItsPlace) {
+  ComeUpWith({kOne});
+  model.Choose(Option::Publish);
+  model.EditPublishDestination("other.example.org/x.htm");
+  model.TakeServer(kTwo);
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().UploadServer, "two.example.org");
+  EXPECT_EQ(model.Choice().UploadIndexFile, "index.htm");
+}
+
+TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsToldBeforeTheRun) {
+  for (const char* typed :
+       {"", "x", "gallery.htm", "/gallery/index.htm", "http://host/a", "host:2121/a", "me@host/a"}) {
+    ComeUpWith({kOne});
+    boxes.boxes.clear();
+    model.Choose(Option::Publish);
+    model.EditPublishDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
+    EXPECT_EQ(model.Choice().option, Option::Cancelled) << typed;
+    ExpectBox("Invalid Destination",
+              "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\".");
+    boxes.boxes.clear();
+    model.Choose(Option::UploadFolder);
+    model.EditSourceFolder("D:\\photos");
+    model.EditUploadDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
+    ExpectBox("Invalid Destination", "Please give Server and Folder, such as \"ftp.example.org/gallery\".");
+    model.EditUploadDestination("host/" + std::string(typed));
+    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
+  ComeUpWith({kOne});
+  model.EditPublishDestination("x");
+  EXPECT_EQ(model.Apply(), Application::Done) << "a local gallery";
+  model.Choose(Option::UploadFolder);
+  model.EditSourceFolder("D:\\photos");
+  EXPECT_EQ(model.Apply(), Application::Done) << "a folder";
+  EXPECT_EQ(model.Choice().UploadServer, "one.example.org");
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
 TEST_F(CreateGalleryModelTest, LeavingTheServersHidesThePasswordAsTheirUserNeedsIt) {
   model.LeaveServers(kTwo);
   EXPECT_FALSE(model.IsPasswordHidden());

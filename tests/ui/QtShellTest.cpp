@@ -1,0 +1,91 @@
+#include "env/LaunchCommands.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/ports/QtShell.h"
+
+#include <QTest>
+#include <chrono>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using std::chrono::milliseconds;
+using Texts = std::vector<std::string>;
+
+/// Long enough for anything that ends by itself.
+constexpr milliseconds kLong{30000};
+
+class QtShellTest : public testing::Test {
+ protected:
+  /// Goes on until there is a file of that name, and then ends with that exit code.
+  [[nodiscard]] ShellCommand WaitingFor(const std::string& name, int code, milliseconds watched = kLong) const {
+    const std::string script = "until test -e \"$0\"; do sleep 0.01; done; exit " + std::to_string(code);
+    return {{"/bin/sh", "-c", script, (folder.Path() / name).string()}, watched};
+  }
+  void LetGoOn(const std::string& name) const { folder.Write(name, ""); }
+  static bool WaitUntil(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, static_cast<int>(kLong.count()));
+  }
+
+  fakes::TemporaryFolder folder;
+  PathMap paths{{{'C', folder.Path().string()}}};
+  QtShell shell{paths};
+  Texts failures;
+  StartFailed note = [this](const RuntimeFailure& failure) { failures.push_back(failure.Description()); };
+};
+
+TEST_F(QtShellTest, AProgramIsWatchedFromTheEventLoopWhileTheWindowGoesOn) {
+  shell.Start(WaitingFor("go", 3), note);
+  EXPECT_EQ(failures, Texts()) << "the program has not ended";
+  LetGoOn("go");
+  EXPECT_TRUE(WaitUntil([this] { return !failures.empty(); }));
+  EXPECT_EQ(failures, Texts{"/bin/sh ended with the exit code 3"});
+}
+
+TEST_F(QtShellTest, AProgramThatIsNotThereFailsAtOnce) {
+  shell.Start({{"no-such-program-here"}, kLong}, note);
+  EXPECT_EQ(failures, Texts{"no-such-program-here: No such file or directory"});
+}
+
+TEST_F(QtShellTest, TheSecondAttemptIsMadeWhenTheFirstHasFailedAndItsFailureIsToldOnce) {
+  Launch({WaitingFor("first", 3), WaitingFor("second", 4)}, shell, note);
+  LetGoOn("first");
+  EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200)) << "the second attempt goes on";
+  LetGoOn("second");
+  EXPECT_TRUE(WaitUntil([this] { return !failures.empty(); }));
+  EXPECT_FALSE(QTest::qWaitFor([this] { return failures.size() > 1; }, 200));
+  EXPECT_EQ(failures, Texts{"/bin/sh ended with the exit code 4"});
+}
+
+TEST_F(QtShellTest, AProgramThatEndsWellOrGoesOnOrIsNotWatchedHasNotFailed) {
+  shell.Start({{"/bin/sh", "-c", "exit 0"}, kLong}, note);
+  shell.Start({{"/bin/sh", "-c", "exit 3"}, milliseconds(0)}, note);
+  shell.Start(WaitingFor("late", 3, milliseconds(50)), note);
+  QTest::qWait(300);
+  LetGoOn("late");
+  QTest::qWait(200);
+  EXPECT_EQ(failures, Texts());
+}
+
+TEST_F(QtShellTest, AMessageAboutTheFailureIsNotShownTwiceWhileItsEventLoopRuns) {
+  shell.Start(WaitingFor("go", 3), [this](const RuntimeFailure& failure) {
+    note(failure);
+    QTest::qWait(200);
+  });
+  LetGoOn("go");
+  EXPECT_TRUE(WaitUntil([this] { return !failures.empty(); }));
+  EXPECT_EQ(failures.size(), 1U);
+}
+
+TEST_F(QtShellTest, NothingIsToldBehindTheEndOfTheDesktop) {
+  auto desktop = std::make_unique<QtShell>(paths);
+  desktop->Start(WaitingFor("go", 3), note);
+  desktop.reset();
+  LetGoOn("go");
+  EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200));
+}
+
+}  // namespace
+}  // namespace vantorium
