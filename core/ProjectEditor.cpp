@@ -12,15 +12,6 @@ namespace {
 
 using Project = GalleryProject;
 
-/// The text of a Digits field after an edit: the bound in place of a number below it.
-std::string Clamped(std::string Project::*field, std::string value) {
-  const auto number = ParseNumber(value);
-  if (field == &Project::textPageLinksThumbnailMaxDirectLinks && !number) return {};
-  const auto& range = FieldOf(field).range;
-  if (!number || !range || !range->lowerBound || *number >= *range->lowerBound) return value;
-  return std::to_string(*range->lowerBound);
-}
-
 void RepairEmpty(std::string& field, const char* value, bool& modified) {
   if (!field.empty()) return;
   field = value;
@@ -32,6 +23,14 @@ void RepairDisabledGraphic(LinkSettings& link) {
 }
 
 }  // namespace
+
+std::string Clamped(std::string Project::*field, std::string value) {
+  const auto number = ParseNumber(value);
+  if (field == &Project::textPageLinksThumbnailMaxDirectLinks && !number) return {};
+  const auto& range = FieldOf(field).range;
+  if (!number || !range || !range->lowerBound || *number >= *range->lowerBound) return value;
+  return std::to_string(*range->lowerBound);
+}
 
 void ProjectEditor::Set(std::string Project::*field, std::string value) {
   const std::string before = std::exchange(project_.*field, Clamped(field, std::move(value)));

@@ -30,6 +30,10 @@ class ProjectEditor {
   bool& modified_;
 };
 
+/// The text of a field after an edit to `value`: in a Digits field the bound in place of a number below it, and nothing
+/// in place of what is no number where the field can do without one.
+[[nodiscard]] std::string Clamped(std::string GalleryProject::*field, std::string value);
+
 /// The image frame's name after the layout became `layoutType`: "_self" for the single frame; for the others
 /// "image_frame" in place of a browser target, and any other name as it was.
 void ImageFrameNameForLayout(GalleryProject& project, Choice layoutType);

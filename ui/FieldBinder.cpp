@@ -4,11 +4,12 @@
 #include "env/RuntimeFailure.h"
 #include "ui/ColourButton.h"
 #include "ui/OneLineValidator.h"
+#include "ui/TypedKeys.h"
 #include "ui/UpDown.h"
 #include "ui/model/ColourDialog.h"
 #include "ui/ports/QtText.h"
 
-#include <QRegularExpressionValidator>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 
 namespace vantorium {
@@ -21,6 +22,33 @@ void ShowQuietly(QLineEdit& control, const QString& text) {
   const int cursor = control.cursorPosition();
   control.setText(text);
   control.setCursorPosition(cursor);
+}
+
+QString WithoutBlanks(const QString& text) {
+  QString digits = text;
+  digits.removeIf([](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; });
+  return digits;
+}
+
+/// Takes what a number's field makes up to six digits of, the blanks and line ends around it removed.
+class DigitsValidator : public CleaningValidator {
+ public:
+  DigitsValidator(Digits GalleryProject::*field, QObject* parent)
+      : CleaningValidator(WithoutBlanks, parent), field_(field) {}
+
+  State validate(QString& text, int& cursor) const override {
+    static const QRegularExpression kDigits("^[0-9]{0,6}$");
+    CleaningValidator::validate(text, cursor);
+    return kDigits.match(ToQt(Clamped(field_, FromQt(text)))).hasMatch() ? Acceptable : Invalid;
+  }
+
+ private:
+  Digits GalleryProject::*field_;
+};
+
+/// A key that is no digit types nothing, where the same character in a pasted text counts.
+QString TypedDigit(const QString& /*before*/, const QString& key) {
+  return key.size() == 1 && key[0].isPrint() && !key[0].isDigit() ? QString() : key;
 }
 
 }  // namespace
@@ -48,7 +76,8 @@ void FieldBinder::BindPath(QLineEdit& control, const PathMap& paths, std::string
 }
 
 void FieldBinder::Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProject::*field) {
-  BindText(control, field, new QRegularExpressionValidator(QRegularExpression("[0-9]{0,6}"), &control));
+  BindText(control, field, new DigitsValidator(field, &control));
+  new TypedKeys(control, TypedDigit);
   const auto& range = FieldOf(field).range.value();
   spinner.Attach(control, range.spinnerMinimum, range.spinnerMaximum);
   connect(&spinner, &UpDown::Stepped, this, [this, field](const QString& text) {

@@ -6,7 +6,8 @@
 
 namespace vantorium {
 
-/// Has other characters typed into a line than those of the keys. Texts that come in otherwise stay as they are.
+/// Has other characters typed into a line than those of the keys, or none. Texts that come in otherwise stay as they
+/// are, and commands of the keyboard do.
 class TypedKeys : public QObject {
  public:
   /// What is typed for the text of a key, behind the text that stands before it.
@@ -21,11 +22,13 @@ class TypedKeys : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
+    constexpr auto kCommand = Qt::ControlModifier | Qt::MetaModifier;
+    if (static_cast<QKeyEvent*>(event)->modifiers() & kCommand) return false;
     const QString key = static_cast<QKeyEvent*>(event)->text();
     const int start = line_.hasSelectedText() ? line_.selectionStart() : line_.cursorPosition();
     const QString typed = replacement_(line_.text().left(start), key);
     if (typed == key) return false;
-    line_.insert(typed);
+    if (!typed.isEmpty()) line_.insert(typed);
     return true;
   }
 

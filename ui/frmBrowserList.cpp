@@ -5,6 +5,7 @@
 #include "ui/ports/QtText.h"
 #include "ui_frmBrowserList.h"
 
+#include <QKeyEvent>
 #include <QShowEvent>
 #include <QSignalBlocker>
 
@@ -13,6 +14,7 @@ namespace vantorium {
 frmBrowserList::frmBrowserList(BrowserList& list, QWidget* parent)
     : QDialog(parent), list_(list), ui_(std::make_unique<Ui::frmBrowserList>()) {
   ui_->setupUi(this);
+  ui_->lvBrowsers->installEventFilter(this);
   ShowEntries();
   connect(ui_->lvBrowsers, &QTreeWidget::itemSelectionChanged, this, &frmBrowserList::Select);
   connect(ui_->lvBrowsers, &QTreeWidget::itemDoubleClicked, this, [this] { Press(&BrowserList::PressEdit); });
@@ -31,6 +33,19 @@ void frmBrowserList::showEvent(QShowEvent* event) {
   ui_->lvBrowsers->setColumnWidth(1, width * 6 / 10);
 }
 
+// An arrow key selects the row that it leads to. The row that only has the focus is selected by a key that leads
+// nowhere, or the only row never could be.
+bool frmBrowserList::eventFilter(QObject* watched, QEvent* event) {
+  QTreeWidgetItem* current = ui_->lvBrowsers->currentItem();
+  if (event->type() == QEvent::KeyPress && current != nullptr && !current->isSelected()) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool leadsNowhere = (key == Qt::Key_Up && ui_->lvBrowsers->itemAbove(current) == nullptr) ||
+                              (key == Qt::Key_Down && ui_->lvBrowsers->itemBelow(current) == nullptr);
+    if (leadsNowhere) current->setSelected(true);
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
 void frmBrowserList::Press(void (BrowserList::*button)()) {
   (list_.*button)();
   ShowEntries();
@@ -41,7 +56,7 @@ void frmBrowserList::ShowEntries() {
   ui_->lvBrowsers->clear();
   for (const Browser& browser : list_.Entries()) {
     auto* item = new QTreeWidgetItem(ui_->lvBrowsers, {ToQt(browser.Name), ToQt(browser.Location)});
-    item->setToolTip(1, PlainTip(ToQt(browser.Location)));
+    for (const int column : {0, 1}) item->setToolTip(column, PlainTip(item->text(column)));
   }
   if (list_.Selected()) {
     ui_->lvBrowsers->setCurrentItem(ui_->lvBrowsers->topLevelItem(static_cast<int>(*list_.Selected())));

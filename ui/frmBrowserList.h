@@ -21,6 +21,7 @@ class frmBrowserList : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Press(void (BrowserList::*button)());

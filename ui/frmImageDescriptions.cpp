@@ -8,6 +8,8 @@
 #include "ui_frmImageDescriptions.h"
 
 #include <QSignalBlocker>
+#include <QTabBar>
+#include <utility>
 
 namespace vantorium {
 namespace {
@@ -46,7 +48,7 @@ frmImageDescriptions::frmImageDescriptions(Project& project, FieldBinder& binder
     for (QPlainTextEdit* box : {&page.header, &page.footer, &page.text}) menu->Serve(*box);
     Connect(page);
   }
-  connect(ui_->tabDescription, &QTabWidget::currentChanged, this, &frmImageDescriptions::EnablePage);
+  connect(ui_->tabDescription, &QTabWidget::currentChanged, this, &frmImageDescriptions::TurnPage);
   connect(ui_->btnClearAll, &QPushButton::clicked, this, &frmImageDescriptions::ClearAll);
   connect(ui_->btnClose, &QPushButton::clicked, this, &frmImageDescriptions::reject);
   EnablePage();
@@ -76,13 +78,14 @@ void frmImageDescriptions::WriteSetting(QPlainTextEdit& box, std::string Gallery
 }
 
 void frmImageDescriptions::FollowSelection() {
-  const Subject subject = {project_.ProjectFileName, model_.ImageName()};
-  const bool same = std::exchange(shown_, subject) == subject;
+  const std::string image = model_.ImageName();
+  const bool sameProject = std::exchange(shownProject_, project_.ProjectFileName) == project_.ProjectFileName;
+  const bool sameImage = std::exchange(shownImage_, image) == image && sameProject;
   for (const Page& page : pages_) {
     page.caption.setTitle(WithoutMnemonics(model_.Caption(page.kind)));
-    Fill(page.text, model_.Text(page.kind), same);
-    Fill(page.header, project_.settings.*page.kind.header, same);
-    Fill(page.footer, project_.settings.*page.kind.footer, same);
+    Fill(page.text, model_.Text(page.kind), sameImage);
+    Fill(page.header, project_.settings.*page.kind.header, sameProject);
+    Fill(page.footer, project_.settings.*page.kind.footer, sameProject);
   }
   if (isVisible()) ShowPlacings();
 }
@@ -115,6 +118,12 @@ const frmImageDescriptions::Page& frmImageDescriptions::CurrentPage() const {
 
 void frmImageDescriptions::EnablePage() {
   for (const Page& page : pages_) page.frame.setEnabled(&page == &CurrentPage());
+}
+
+// The page that goes leaves the focus to whatever comes next, which is the button that clears everything.
+void frmImageDescriptions::TurnPage() {
+  EnablePage();
+  if (focusWidget() != ui_->tabDescription->tabBar()) CurrentPage().text.setFocus();
 }
 
 void frmImageDescriptions::EditHeaderAndFooter(const Page& page) {

@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <array>
 #include <memory>
-#include <utility>
+#include <string>
 
 class QComboBox;
 class QFrame;
@@ -58,14 +58,13 @@ class frmImageDescriptions : public QDialog {
     QGroupBox& caption;
     QPlainTextEdit& text;
   };
-  /// A project's file and the name of an image.
-  using Subject = std::pair<std::string, std::string>;
 
   void Connect(const Page& page);
   void WriteSetting(QPlainTextEdit& box, std::string GalleryProject::*field);
   void Fill(QPlainTextEdit& box, const std::string& text, bool sameSubject);
   [[nodiscard]] const Page& CurrentPage() const;
   void EnablePage();
+  void TurnPage();
   void ShowPlacings();
   void ShowAlignments(const Page& page);
   void EditHeaderAndFooter(const Page& page);
@@ -77,7 +76,8 @@ class frmImageDescriptions : public QDialog {
   Descriptions model_;
   std::unique_ptr<Ui::frmImageDescriptions> ui_;
   std::array<Page, 2> pages_;
-  Subject shown_;
+  std::string shownProject_;  // its file
+  std::string shownImage_;
 };
 
 }  // namespace vantorium

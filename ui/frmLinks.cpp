@@ -16,7 +16,7 @@ frmLinks::frmLinks(const std::string& title, const std::string& disabledGraphicL
   if (!disabledGraphicLabel.empty()) ui_->lblFirstLastLink->setText(ToQt(disabledGraphicLabel));
   for (QWidget* control : std::initializer_list<QWidget*>{ui_->lblFirstLastLink, ui_->textLinkGraphicDisabled,
                                                           ui_->btnLinkGraphicDisabledBrowse}) {
-    control->setVisible(!disabledGraphicLabel.empty());
+    control->setVisible(model_.ShowDisabledGraphic());
   }
   for (QLineEdit* box : {ui_->textLinkLabel, ui_->textLinkGraphic, ui_->textLinkGraphicDisabled}) {
     box->setValidator(new OneLineValidator(box));
@@ -49,7 +49,7 @@ void frmLinks::Bind(QLineEdit& control, QAbstractButton& button, LinksModel::Gra
 
 void frmLinks::ShowGraphics() {
   ShowText(*ui_->textLinkGraphic, model_.Link().textLinkGraphic);
-  ShowText(*ui_->textLinkGraphicDisabled, model_.Link().textLinkGraphicDisabled);
+  if (model_.ShowDisabledGraphic()) ShowText(*ui_->textLinkGraphicDisabled, model_.Link().textLinkGraphicDisabled);
 }
 
 bool frmLinks::eventFilter(QObject* watched, QEvent* event) {
@@ -69,7 +69,7 @@ void frmLinks::done(int result) {
 LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel, const LinkSettings& link,
                       std::string& graphicsFolder, FileBrowser& browser, const PathMap& paths,
                       const std::function<void()>& edited, QWidget* owner) {
-  LinksModel model(link, paths, graphicsFolder, edited);
+  LinksModel model(link, paths, graphicsFolder, edited, !disabledGraphicLabel.empty());
   frmLinks(title, disabledGraphicLabel, model, browser, owner).exec();
   return model.Link();
 }

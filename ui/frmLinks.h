@@ -20,7 +20,8 @@ class frmLinks : public QDialog {
   Q_OBJECT
 
  public:
-  /// `model` and `browser` must live as long as the form. An empty `disabledGraphicLabel`: there is no second graphic.
+  /// `model` and `browser` must live as long as the form. An empty `disabledGraphicLabel`: the
+  /// label has its own text.
   frmLinks(const std::string& title, const std::string& disabledGraphicLabel, LinksModel& model, FileBrowser& browser,
            QWidget* owner);
   ~frmLinks() override;

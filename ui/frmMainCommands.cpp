@@ -137,6 +137,10 @@ void frmMain::ShowHelp() {
 }
 
 void frmMain::ShowAbout() {
+  if (auto* about = findChild<frmAbout*>()) {  // the tray's menu can be used while it is open
+    about->raise();
+    return about->activateWindow();
+  }
   frmAbout(ports_.version, this).exec();
 }
 

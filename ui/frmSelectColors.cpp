@@ -16,7 +16,7 @@ void SetColour(QWidget& control, QPalette::ColorRole role, Colour colour) {
   control.setPalette(colours);
 }
 
-bool IsClick(const QEvent& event) {
+bool IsRelease(const QEvent& event) {
   return event.type() == QEvent::MouseButtonRelease &&
          static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
 }
@@ -72,8 +72,9 @@ void frmSelectColors::ShowColours() {
 
 bool frmSelectColors::eventFilter(QObject* watched, QEvent* event) {
   const auto row = std::find_if(rows_.begin(), rows_.end(), [watched](const Row& r) { return r.element == watched; });
-  if (row != rows_.end() && IsClick(*event)) {
-    Choose(row->colour);
+  if (row != rows_.end() && IsRelease(*event)) {
+    // Let go elsewhere, it is no click.
+    if (row->element->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) Choose(row->colour);
     return true;  // a label's click is not one on the page behind it
   }
   return QDialog::eventFilter(watched, event);

@@ -2,12 +2,24 @@
 
 #include "ui/ports/QtText.h"
 
+#include <QApplication>
 #include <QCursor>
+#include <QTimer>
 
 namespace vantorium {
+namespace {
 
-frmSysTray::frmSysTray(SysTrayMenu menu, const QIcon& icon, QObject* parent)
-    : QObject(parent), menu_(std::move(menu)), trayIcon_(icon) {
+constexpr std::chrono::seconds kTrayWatch{2};
+
+/// Whether `click` was started and is no longer ago than the second click of a double click may be.
+bool IsRecent(const QElapsedTimer& click) {
+  return click.isValid() && click.elapsed() < QApplication::doubleClickInterval();
+}
+
+}  // namespace
+
+frmSysTray::frmSysTray(SysTrayMenu menu, const QIcon& icon, TrayCheck isTrayAvailable, QObject* parent)
+    : QObject(parent), menu_(std::move(menu)), trayIcon_(icon), isTrayAvailable_(std::move(isTrayAvailable)) {
   setObjectName("frmSysTray");
   popup_.setObjectName("mnuPopup");
   trayIcon_.setObjectName("trayIcon");
@@ -15,7 +27,22 @@ frmSysTray::frmSysTray(SysTrayMenu menu, const QIcon& icon, QObject* parent)
   trayIcon_.setContextMenu(&popup_);  // some desktops draw the menu themselves and tell no mouse button
   Show();
   connect(&trayIcon_, &QSystemTrayIcon::activated, this, &frmSysTray::Activate);
-  if (QSystemTrayIcon::isSystemTrayAvailable()) trayIcon_.show();
+  if (!ShowIcon()) WatchForTray();
+}
+
+bool frmSysTray::ShowIcon() {
+  if (!isTrayAvailable_()) return false;
+  trayIcon_.show();
+  return true;
+}
+
+void frmSysTray::WatchForTray() {
+  auto* watch = new QTimer(this);
+  watch->setObjectName("trayWatch");
+  connect(watch, &QTimer::timeout, this, [this, watch] {
+    if (ShowIcon()) watch->stop();
+  });
+  watch->start(kTrayWatch);
 }
 
 std::int32_t frmSysTray::AddMenuItem(const std::string& caption, const std::string& key, bool isDefault) {
@@ -73,15 +100,30 @@ void frmSysTray::Activate(QSystemTrayIcon::ActivationReason reason) {
   if (!enabled_) return;
   switch (reason) {
     case QSystemTrayIcon::Trigger:
-      return emit SysTrayMouseDown(Qt::LeftButton);
+      return Trigger();
     case QSystemTrayIcon::Context:
       return emit SysTrayMouseDown(Qt::RightButton);
     case QSystemTrayIcon::DoubleClick:
-      emit SysTrayDoubleClick();
-      return Choose(menu_.DefaultMenuIndex());
+      return DoubleClick();
     default:
       return;
   }
+}
+
+// A tray whose messages come over the session bus tells the two clicks of a double click and no more; others tell the
+// first click and the double click.
+void frmSysTray::Trigger() {
+  if (IsRecent(trigger_)) return DoubleClick();
+  trigger_.start();
+  emit SysTrayMouseDown(Qt::LeftButton);
+}
+
+void frmSysTray::DoubleClick() {
+  trigger_.invalidate();
+  if (IsRecent(doubleClick_)) return;
+  doubleClick_.start();
+  emit SysTrayDoubleClick();
+  Choose(menu_.DefaultMenuIndex());
 }
 
 void frmSysTray::Choose(std::int32_t index) {

@@ -2,19 +2,25 @@
 
 #include "ui/model/SysTrayMenu.h"
 
+#include <QElapsedTimer>
 #include <QIcon>
 #include <QMenu>
 #include <QObject>
 #include <QSystemTrayIcon>
+#include <functional>
 
 namespace vantorium {
 
-/// The icon in the desktop's tray and its menu. Without a tray there is no icon, and everything else works the same.
+/// The icon in the desktop's tray and its menu. Without a tray there is no icon until one comes, and everything else
+/// works the same.
 class frmSysTray : public QObject {
   Q_OBJECT
 
  public:
-  explicit frmSysTray(SysTrayMenu menu, const QIcon& icon, QObject* parent = nullptr);
+  using TrayCheck = std::function<bool()>;
+
+  explicit frmSysTray(SysTrayMenu menu, const QIcon& icon,
+                      TrayCheck isTrayAvailable = QSystemTrayIcon::isSystemTrayAvailable, QObject* parent = nullptr);
 
   // As in SysTrayMenu.
   std::int32_t AddMenuItem(const std::string& caption, const std::string& key, bool isDefault = false);
@@ -39,12 +45,19 @@ class frmSysTray : public QObject {
  private:
   void Show();
   void AddAction(std::int32_t index);
+  [[nodiscard]] bool ShowIcon();
+  void WatchForTray();
   void Activate(QSystemTrayIcon::ActivationReason reason);
+  void Trigger();
+  void DoubleClick();
   void Choose(std::int32_t index);
 
   SysTrayMenu menu_;
   QMenu popup_;
   QSystemTrayIcon trayIcon_;
+  TrayCheck isTrayAvailable_;
+  QElapsedTimer trigger_;      ///< since the click that may be the first of two
+  QElapsedTimer doubleClick_;  ///< since the last one that was acted on
   bool enabled_ = true;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/ucPopupMenu.h"
 
+#include "ui/TextBox.h"
 #include "ui/ports/QtText.h"
 
 #include <QClipboard>
@@ -12,15 +13,6 @@ namespace {
 bool ClipboardHasText() {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   return data != nullptr && data->hasText();
-}
-
-void Replace(QPlainTextEdit& box, const QString& text) {
-  QTextCursor cursor = box.textCursor();
-  cursor.beginEditBlock();
-  cursor.insertText(text);
-  cursor.endEditBlock();
-  box.document()->setModified(false);  // what is typed next is a step of its own, and doesn't join this one
-  box.setTextCursor(cursor);
 }
 
 }  // namespace
@@ -55,7 +47,7 @@ void ucPopupMenu::AddTags(QMenu& parent, const TagMenu& tags) {
     action->setObjectName(menu->objectName() + QString::number(index++));
     action->setSeparator(entry.tag.empty());
     connect(action, &QAction::triggered, this, [this, tag = ToQt(entry.tag)] {
-      if (box_ != nullptr) Replace(*box_, tag);
+      if (box_ != nullptr) ReplaceSelection(*box_, tag);
     });
   }
 }
@@ -96,7 +88,7 @@ void ucPopupMenu::Run(EditCommand command) {
     case EditCommand::Paste:
       return box_->paste();
     case EditCommand::Clear:
-      return Replace(*box_, {});
+      return ReplaceSelection(*box_, {});
     case EditCommand::SelectAll:
       return box_->selectAll();
     case EditCommand::Separator:

@@ -52,7 +52,7 @@ def confirm_cancel(screen, title):
     screen.wait_for_window(title)
     screen.press("Escape")
     screen.wait_for_window("Cancel Request")
-    screen.press("Return")
+    screen.press("alt+y")
     screen.wait_for_no_window("Cancel Request")
 
 

@@ -3,6 +3,7 @@
 #include "ui/FieldBinder.h"
 #include "ui/UpDown.h"
 
+#include <QClipboard>
 #include <QVBoxLayout>
 
 namespace vantorium {
@@ -15,17 +16,28 @@ class FieldBinding : public testing::Test {
  protected:
   FieldBinding() {
     for (QWidget* control :
-         std::initializer_list<QWidget*>{&title, &frameSize, &spinner, &wrappers, &slideShow, &layout}) {
+         std::initializer_list<QWidget*>{&title, &frameSize, &spinner, &rows, &rowsSpinner, &delay, &delaySpinner,
+                                         &directLinks, &directLinksSpinner, &wrappers, &slideShow, &layout}) {
       column.addWidget(control);
     }
     binder.Bind(title, &GalleryProject::textGalleryTitle);
     binder.Bind(frameSize, spinner, &GalleryProject::textGalleryFrameSize);
+    binder.Bind(rows, rowsSpinner, &GalleryProject::textThumbnailsTableRows);
+    binder.Bind(delay, delaySpinner, &GalleryProject::textGallerySlideShowDelay);
+    binder.Bind(directLinks, directLinksSpinner, &GalleryProject::textPageLinksThumbnailMaxDirectLinks);
     binder.Bind(wrappers, &GalleryProject::checkImageWrapperUse);
     binder.Bind(slideShow, &GalleryProject::checkGallerySlideShow);
     binder.Bind(layout, &GalleryProject::comboGalleryLayoutType);
     binder.Refresh();
     form.show();
     QObject::connect(&binder, &FieldBinder::Edited, [this] { ++edits; });
+  }
+
+  /// In place of what the box holds.
+  static void Paste(QLineEdit& box, const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
   }
 
   GalleryProject project;
@@ -38,6 +50,12 @@ class FieldBinding : public testing::Test {
   QLineEdit title;
   QLineEdit frameSize;
   UpDown spinner;
+  QLineEdit rows;
+  UpDown rowsSpinner;
+  QLineEdit delay;
+  UpDown delaySpinner;
+  QLineEdit directLinks;
+  UpDown directLinksSpinner;
   QCheckBox wrappers{"Wrappers"};
   QCheckBox slideShow{"Slideshow"};
   QComboBox layout;
@@ -86,6 +104,55 @@ TEST_F(FieldBinding, AnEmptyNumberStaysEmpty) {
 TEST_F(FieldBinding, LettersCannotBeTypedIntoANumber) {
   Type(frameSize, "3a4");
   EXPECT_EQ(frameSize.text(), "34");
+}
+
+TEST_F(FieldBinding, APastedNumberComesWithoutItsBlanksAndLineEnds) {
+  for (const char* pasted : {" 13 ", "13\r\n", "\t13", "13"}) {
+    Paste(frameSize, pasted);
+    EXPECT_EQ(frameSize.text(), "13") << pasted;
+    EXPECT_EQ(project.textGalleryFrameSize, "13") << pasted;
+    Paste(frameSize, "200");
+  }
+}
+
+TEST_F(FieldBinding, APastedNumberBelowItsBoundBecomesTheBound) {
+  Paste(frameSize, "-5");
+  EXPECT_EQ(project.textGalleryFrameSize, "1");
+  Paste(rows, " -5\n");
+  EXPECT_EQ(rows.text(), "0");
+  EXPECT_EQ(project.textThumbnailsTableRows, "0");
+}
+
+TEST_F(FieldBinding, WhatIsNoNumberEmptiesTheDirectLinksAndLeavesOtherNumbersAlone) {
+  Paste(directLinks, "12");
+  Paste(directLinks, "7x");
+  EXPECT_EQ(directLinks.text(), "");
+  EXPECT_EQ(project.textPageLinksThumbnailMaxDirectLinks, "");
+  for (const char* pasted : {"7x", "x", "1.5", "+5", "1234567", "１３"}) {
+    Paste(rows, pasted);
+    EXPECT_EQ(rows.text(), "5") << pasted;
+    EXPECT_EQ(project.textThumbnailsTableRows, "5") << pasted;
+    Paste(delay, pasted);
+    EXPECT_EQ(delay.text(), "5") << pasted;
+  }
+  Paste(delay, "-5");
+  EXPECT_EQ(project.textGallerySlideShowDelay, "5") << "it has no bound";
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(FieldBinding, AKeyThatIsNoDigitDoesNothing) {
+  modified = false;
+  for (const char* box : {"x", "-", " ", "."}) {
+    for (QLineEdit* number : {&frameSize, &directLinks}) {
+      const QString before = number->text();
+      number->setCursorPosition(0);
+      QTest::keyClicks(number, box);
+      number->selectAll();
+      QTest::keyClicks(number, box);
+      EXPECT_EQ(number->text(), before) << box;
+    }
+  }
+  EXPECT_FALSE(modified);
 }
 
 TEST_F(FieldBinding, ANumberThatIsTooLargeIsToldAndTakenBack) {

@@ -68,6 +68,28 @@ TEST_F(AroundTheMainWindow, TheTrayHasHelpAboutAndClose) {
   EXPECT_EQ(desk.closed, 1);
 }
 
+TEST_F(AroundTheMainWindow, AboutIsOpenedOnceFromWhereverItIsAsked) {
+  desk.Start();
+  DriveModal([&] { desk.Trigger("menuHelpAbout"); },
+             [&](QWidget& about) {
+               bool another = false;
+               QTimer watch;
+               QObject::connect(&watch, &QTimer::timeout, [&] {
+                 QWidget* front = QApplication::activeModalWidget();
+                 if (front == &about) return;
+                 another = true;
+                 front->close();
+               });
+               watch.start(1);
+               ChooseInTray(Qt::Key_A);
+               desk.Trigger("menuHelpAbout");
+               EXPECT_FALSE(another);
+               EXPECT_TRUE(about.isVisible());
+             });
+  DriveModal([&] { ChooseInTray(Qt::Key_A); },
+             [](QWidget& about) { EXPECT_EQ(about.objectName(), "frmAbout") << "and again when it is closed"; });
+}
+
 TEST_F(AroundTheMainWindow, TheTrayClosesNothingUnderADialog) {
   desk.Start();
   desk.AddPhotograph("a.jpg");

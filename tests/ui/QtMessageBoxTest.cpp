@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -51,6 +53,30 @@ TEST(QtMessageBox, BelongsToADialogThatWaitsForTheUser) {
   dialog.show();
   ASSERT_EQ(QApplication::activeModalWidget(), &dialog);
   EXPECT_EQ(OwnerOfABox(), &dialog);
+}
+
+BoxAnswer AnswerTo(BoxButtons buttons, const std::function<void(QWidget&)>& answer) {
+  BoxAnswer given = BoxAnswer::Ok;
+  QtMessageBox boxes;
+  DriveModal([&] { given = boxes.Show(BoxKind::Question, buttons, "Title", "Are you sure?"); }, answer);
+  return given;
+}
+
+BoxAnswer AnswerTo(BoxButtons buttons, Qt::Key key) {
+  return AnswerTo(buttons, [key](QWidget& box) { QTest::keyClick(&box, key); });
+}
+
+TEST(QtMessageBox, ReturnAndEscapeAgreeToNothingThatCannotBeTakenBack) {
+  EXPECT_EQ(AnswerTo(BoxButtons::YesNo, Qt::Key_Return), BoxAnswer::No);
+  EXPECT_EQ(AnswerTo(BoxButtons::YesNo, Qt::Key_Escape), BoxAnswer::No);
+  const auto pressYes = [](QWidget& box) { fakes::Click(*static_cast<QMessageBox&>(box).button(QMessageBox::Yes)); };
+  EXPECT_EQ(AnswerTo(BoxButtons::YesNo, pressYes), BoxAnswer::Yes);
+}
+
+TEST(QtMessageBox, ReturnSavesAndEscapeCancels) {
+  EXPECT_EQ(AnswerTo(BoxButtons::YesNoCancel, Qt::Key_Return), BoxAnswer::Yes);
+  EXPECT_EQ(AnswerTo(BoxButtons::YesNoCancel, Qt::Key_Escape), BoxAnswer::Cancel);
+  EXPECT_EQ(AnswerTo(BoxButtons::Ok, Qt::Key_Return), BoxAnswer::Ok);
 }
 
 }  // namespace

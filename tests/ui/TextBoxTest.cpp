@@ -44,6 +44,31 @@ TEST_F(TextBoxTest, APastedTextComesInAtTheCursorAndIsOneStepOfUndo) {
   EXPECT_EQ(box.toPlainText(), "one ");
 }
 
+TEST_F(TextBoxTest, WhatIsTypedBeforeAndBehindAPasteIsUndoneApartFromIt) {
+  for (const char* pasted : {"two", "two\nthree"}) {
+    box.setPlainText("");
+    QTest::keyClicks(&box, "a");
+    Paste(Clip(pasted));
+    Paste(Clip(pasted));
+    QTest::keyClicks(&box, "b");
+    const std::string text = pasted;
+    for (const std::string& left : {"a" + text + text, "a" + text, std::string("a"), std::string()}) {
+      box.undo();
+      EXPECT_EQ(box.toPlainText().toStdString(), left);
+    }
+    for (int i = 0; i < 4; ++i) box.redo();
+    EXPECT_EQ(box.toPlainText().toStdString(), "a" + text + text + "b");
+  }
+}
+
+TEST_F(TextBoxTest, APasteOverASelectionIsOneStep) {
+  box.selectAll();
+  Paste(Clip("two"));
+  EXPECT_EQ(box.toPlainText(), "two");
+  box.undo();
+  EXPECT_EQ(box.toPlainText(), "one ");
+}
+
 TEST_F(TextBoxTest, MarkedUpTextIsPastedToTheLetter) {
   auto clip = std::make_unique<QMimeData>();
   clip->setData("text/markdown", "**two**\n\n- three");

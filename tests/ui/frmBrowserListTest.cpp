@@ -160,6 +160,44 @@ TEST_F(BrowserListForm, RemoveSelectsTheNextEntryByTheKeyboardToo) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
+TEST_F(BrowserListForm, TheArrowKeysSelectTheOnlyRow) {
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up}) {
+    BrowserList one({{"a", "x"}}, dialog, boxes);
+    DriveModal([&] { frmBrowserList(one).exec(); },
+               [key](QWidget& form) {
+                 auto& view = Find<QTreeWidget>(form, "lvBrowsers");
+                 view.setFocus();
+                 EXPECT_EQ(Shown(form), "[a=x]");
+                 QTest::keyClick(&view, key);
+                 EXPECT_EQ(Shown(form), "[*a=x]");
+               });
+    EXPECT_EQ(one.Selected(), 0U);
+  }
+}
+
+TEST_F(BrowserListForm, AnArrowKeySelectsTheRowThatItLeadsTo) {
+  Drive([](QWidget& form) {
+    auto& view = Find<QTreeWidget>(form, "lvBrowsers");
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Left);
+    EXPECT_EQ(Shown(form), "[b=Z:\\bin\\b][a=Z:\\bin\\a]");
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(Shown(form), "[b=Z:\\bin\\b][*a=Z:\\bin\\a]");
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_EQ(Shown(form), "[*b=Z:\\bin\\b][a=Z:\\bin\\a]");
+  });
+}
+
+TEST_F(BrowserListForm, TheTipsHaveWhatTheColumnsCut) {
+  BrowserList long_({{"<i>" + std::string(90, 'n'), "Z:\\bin\\a"}}, dialog, boxes);
+  DriveModal([&] { frmBrowserList(long_).exec(); },
+             [](QWidget& form) {
+               const QTreeWidgetItem* item = Find<QTreeWidget>(form, "lvBrowsers").topLevelItem(0);
+               EXPECT_EQ(item->toolTip(0), "&lt;i&gt;" + QString(90, 'n'));
+               EXPECT_EQ(item->toolTip(1), "Z:\\bin\\a");
+             });
+}
+
 TEST_F(BrowserListForm, WithEightEntriesAddRefusesBeforeTheDialogOpens) {
   BrowserList full(Numbered(8), dialog, boxes);
   DriveModal([&] { frmBrowserList(full).exec(); }, [](QWidget& form) { Click(form, "btnAddBrowser"); });

@@ -1,17 +1,20 @@
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/ui/FormDriver.h"
+#include "ui/ElidedGroupBox.h"
 #include "ui/FieldBinder.h"
 #include "ui/frmImageDescriptions.h"
 
 #include <QContextMenuEvent>
 #include <QFrame>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolTip>
 
 namespace vantorium {
 namespace {
@@ -160,6 +163,32 @@ TEST_F(DescriptionsWindow, FollowingToTheSameRowLeavesCursorAndUndoAlone) {
   EXPECT_TRUE(Box("textDescription").document()->isUndoAvailable());
 }
 
+TEST_F(DescriptionsWindow, MovingInTheListKeepsTheUndoOfHeadersAndFooters) {
+  const char* const names[] = {"textHeader", "textFooter", "textThumbHeader", "textThumbFooter"};
+  std::string before;
+  for (const char* name : names) {
+    before += Box(name).toPlainText().toStdString() + "|";
+    Box(name).insertPlainText("new");
+  }
+  GoTo(2);
+  GoTo(0);
+  GoTo(1);
+  std::string after;
+  for (const char* name : names) {
+    Box(name).undo();
+    after += Box(name).toPlainText().toStdString() + "|";
+  }
+  EXPECT_EQ(after, before);
+  EXPECT_EQ(project.settings.textHeader, "<p>");
+}
+
+TEST_F(DescriptionsWindow, AnotherProjectTakesTheUndoOfHeadersAndFootersAway) {
+  Type(Box("textHeader"), "same");
+  project.ProjectFileName = "D:\\Other.gpj";
+  form.FollowSelection();
+  EXPECT_FALSE(Box("textHeader").document()->isUndoAvailable());
+}
+
 TEST_F(DescriptionsWindow, HeadersAndFootersReachTheProject) {
   Type(Box("textHeader"), "h");
   EXPECT_TRUE(project.IsModified);
@@ -281,6 +310,24 @@ TEST_F(DescriptionsWindow, TheTabEnablesItsFrameAlone) {
   EXPECT_EQ(tabs.currentIndex(), 1);
 }
 
+TEST_F(DescriptionsWindow, AClickOnTheOtherTabGivesTheFocusToItsDescription) {
+  auto& tabs = Find<QTabWidget>(form, "tabDescription");
+  for (const auto& [tab, box] : {std::pair(1, "textThumbDescription"), std::pair(0, "textDescription")}) {
+    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(tab).center());
+    EXPECT_EQ(form.focusWidget()->objectName().toStdString(), box);
+    QTest::keyClicks(form.focusWidget(), " y\r");
+    EXPECT_NE(Box(box).toPlainText().indexOf(" y"), -1);
+  }
+  EXPECT_TRUE(boxes.boxes.empty()) << "nothing was typed into a button";
+}
+
+TEST_F(DescriptionsWindow, ATabKeptByTheKeyboardKeepsTheFocus) {
+  QTabBar* bar = Find<QTabWidget>(form, "tabDescription").tabBar();
+  bar->setFocus();
+  QTest::keyClick(bar, Qt::Key_Right);
+  EXPECT_EQ(form.focusWidget(), bar);
+}
+
 TEST_F(DescriptionsWindow, ClearAllClearsTheKindOfItsTab) {
   Click(form, "btnClearAll");
   ASSERT_EQ(boxes.boxes.size(), 1U);
@@ -358,6 +405,20 @@ TEST_F(DescriptionsWindow, ALongNameDoesNotWidenIt) {
   project.images.Rename(1, std::string(300, 'w'));
   form.FollowSelection();
   EXPECT_EQ(form.minimumSizeHint().width(), before.width());
+}
+
+TEST_F(DescriptionsWindow, ALongNameIsCutWithAnEllipsisAndTheTipHasItAll) {
+  auto& frame = Find<ElidedGroupBox>(form, "frmImageDescription");
+  EXPECT_EQ(frame.ShownTitle(), "Image Description: Alps");
+  project.images.Rename(1, "A & " + std::string(300, 'w'));
+  form.FollowSelection();
+  EXPECT_TRUE(frame.ShownTitle().startsWith("Image Description: A && www")) << frame.ShownTitle().toStdString();
+  EXPECT_TRUE(frame.ShownTitle().endsWith("w\u2026"));
+  EXPECT_LT(frame.fontMetrics().size(Qt::TextShowMnemonic, frame.ShownTitle()).width(), frame.width());
+  EXPECT_TRUE(frame.title().endsWith("www"));
+  QHelpEvent asks(QEvent::ToolTip, QPoint(9, 3), frame.mapToGlobal(QPoint(9, 3)));
+  QApplication::sendEvent(&frame, &asks);
+  EXPECT_EQ(QToolTip::text(), "Image Description: A & " + QString(300, 'w'));
 }
 
 TEST_F(DescriptionsWindow, TheTabKeyGoesThroughTheForm) {

@@ -22,7 +22,7 @@ class LinksForm : public testing::Test {
  protected:
   /// The link as it comes out of the dialog, its fields with "|" between them.
   std::string Edit(const LinkSettings& link, const std::function<void(QWidget&)>& drive,
-                   const std::string& label = "Link Graphic on last Image Wrapper") {
+                   const std::string& label = "Link Graphic &on last Image Wrapper") {
     LinkSettings result;
     DriveModal(
         [&] {
@@ -46,7 +46,7 @@ TEST_F(LinksForm, ShowsItsLinkWithTheFocusOnTheLabel) {
     EXPECT_EQ(Find<QLineEdit>(form, "textLinkLabel").text(), "NEXT");
     EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphic").text(), "C:\\a.gif");
     EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphicDisabled").text(), "C:\\b.gif");
-    EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "Link Graphic on last Image Wrapper");
+    EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "Link Graphic &on last Image Wrapper");
     EXPECT_EQ(Find<QPushButton>(form, "OKButton").text(), "&Close");
     Click(form, "OKButton");
   });
@@ -66,11 +66,36 @@ TEST_F(LinksForm, WithoutALabelTheSecondGraphicIsHidden) {
       "");
 }
 
+TEST_F(LinksForm, TheOnlyGraphicOfALinkCanBeTakenAway) {
+  const auto type = [this](const LinkSettings& link, const char* text) {
+    return Edit(
+        link,
+        [text](QWidget& form) {
+          Type(Find<QWidget>(form, "textLinkGraphic"), text);
+          EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphicDisabled").text(), "") << "what is hidden is not filled";
+          Click(form, "OKButton");
+        },
+        "");
+  };
+  EXPECT_EQ(type({"INDEX", "", ""}, "C:\\a.gif"), "INDEX|C:\\a.gif|");
+  EXPECT_EQ(type({"INDEX", "C:\\a.gif", ""}, ""), "INDEX||");
+  EXPECT_EQ(type({"INDEX", "C:\\a.gif", "C:\\a.gif"}, ""), "INDEX||C:\\a.gif") << "left by an older project";
+}
+
+TEST_F(LinksForm, TheSecondGraphicHasALetter) {
+  Edit({}, [](QWidget& form) {
+    QTest::keyClick(&form, Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(Find<QWidget>(form, "textLinkGraphicDisabled").hasFocus());
+    QTest::keyClick(&form, Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(Find<QWidget>(form, "textLinkGraphic").hasFocus());
+  });
+}
+
 TEST_F(LinksForm, WithoutTextsOfItsCallerItHasItsOwn) {
   LinksModel model({}, paths, folder, [] {});
   frmLinks form("", "", model, browser, nullptr);
   EXPECT_EQ(form.windowTitle(), "Link");
-  EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "First/Last Link Graphic");
+  EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "&First/Last Link Graphic");
 }
 
 TEST_F(LinksForm, WhatIsPastedIsOneLine) {

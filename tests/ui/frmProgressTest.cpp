@@ -9,6 +9,7 @@
 #include "ui/ports/QtText.h"
 
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -224,7 +225,7 @@ TEST_F(ProgressForm, AMessageBoxOverTheDisabledMainWindowCanBeAnswered) {
   QtMessageBox realBoxes;
   bool yes = false;
   fakes::DriveModal([&] { yes = realBoxes.AskYesNo("Cancel Request", "Are you sure you wish to cancel?"); },
-                    [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+                    [](QWidget& box) { Click(*static_cast<QMessageBox&>(box).button(QMessageBox::Yes)); });
   EXPECT_TRUE(yes);
 }
 

@@ -116,6 +116,17 @@ TEST_F(SelectColorsForm, AClickOnALabelIsNotOneOnThePage) {
   EXPECT_EQ(dialogs.coloursShown.size(), 1U);
 }
 
+TEST_F(SelectColorsForm, APressThatIsLetGoElsewhereOpensNothing) {
+  Edit([](QWidget& form) {
+    for (const Pair& pair : kPairs) {
+      auto& element = Find<QWidget>(form, pair.element);
+      QTest::mousePress(&element, Qt::LeftButton, {}, QPoint(2, 2));
+      QTest::mouseRelease(&element, Qt::LeftButton, {}, QPoint(2, -3));
+    }
+  });
+  EXPECT_TRUE(dialogs.coloursShown.empty());
+}
+
 TEST_F(SelectColorsForm, TheOtherPagesColoursAreCopied) {
   EXPECT_TRUE(Edit([this](QWidget& form) {
     EXPECT_EQ(Find<QPushButton>(form, "btnUseOtherColors").text(), "Copy Image Wrapper Colors");

@@ -2,6 +2,7 @@
 #include "ui/frmSysTray.h"
 
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -96,6 +97,52 @@ TEST_F(SysTrayForm, TheMouseOverTheIconIsTold) {
   Activate(QSystemTrayIcon::MiddleClick);
   Activate(QSystemTrayIcon::Unknown);
   EXPECT_EQ(Sent(), "");
+}
+
+TEST_F(SysTrayForm, TwoTriggersAreADoubleClickAndActOnce) {
+  Activate(QSystemTrayIcon::Trigger);
+  Activate(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(Sent(), "click 0 vantorium; button 1; double; ");
+  Activate(QSystemTrayIcon::DoubleClick);
+  EXPECT_EQ(Sent(), "") << "it was taken for one already";
+  Activate(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(Sent(), "button 1; ") << "the first of the next";
+}
+
+TEST_F(SysTrayForm, ADoubleClickThatIsToldIsNoFirstTrigger) {
+  Activate(QSystemTrayIcon::Trigger);
+  Activate(QSystemTrayIcon::DoubleClick);
+  Activate(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(Sent(), "click 0 vantorium; button 1; button 1; double; ");
+}
+
+TEST_F(SysTrayForm, TwoTriggersThatAreFarApartAreTwoClicks) {
+  const int interval = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(0);
+  Activate(QSystemTrayIcon::Trigger);
+  Activate(QSystemTrayIcon::Trigger);
+  QApplication::setDoubleClickInterval(interval);
+  EXPECT_EQ(Sent(), "button 1; button 1; ");
+}
+
+TEST(SysTray, ATrayThatStartsAfterTheProgramGetsTheIcon) {
+  bool isThere = false;
+  int asked = 0;
+  const frmSysTray tray(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"), [&] { return ++asked, isThere; });
+  const auto* icon = tray.findChild<QSystemTrayIcon*>("trayIcon");
+  auto* watch = tray.findChild<QTimer*>("trayWatch");
+  watch->setInterval(1);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return asked > 2; }));
+  EXPECT_FALSE(icon->isVisible());
+  isThere = true;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return icon->isVisible(); }));
+  EXPECT_FALSE(watch->isActive());
+}
+
+TEST(SysTray, ATrayThatIsThereIsNotWatchedFor) {
+  const frmSysTray tray(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"), [] { return true; });
+  EXPECT_TRUE(tray.findChild<QSystemTrayIcon*>("trayIcon")->isVisible());
+  EXPECT_EQ(tray.findChild<QTimer*>("trayWatch"), nullptr);
 }
 
 TEST_F(SysTrayForm, WithoutADefaultADoubleClickChoosesNothing) {

@@ -110,6 +110,19 @@ TEST_F(MenuOfATextBox, UndoGoesBackStepByStep) {
   EXPECT_EQ(box.toPlainText(), typed);
 }
 
+TEST_F(MenuOfATextBox, AClearIsAStepOfItsOwnBetweenTwoDeletions) {
+  box.moveCursor(QTextCursor::End);
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  Select(8, 12);
+  Choose("mnuEdit5");
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  EXPECT_EQ(box.toPlainText().toStdString(), "one two");
+  for (const char* left : {"one two ", "one two thre", "one two three"}) {
+    Choose("mnuEdit0");
+    EXPECT_EQ(box.toPlainText().toStdString(), left);
+  }
+}
+
 TEST_F(MenuOfATextBox, CutCopyPasteClearAndSelectAllDoAsTheySay) {
   Select(0, 4);
   Choose("mnuEdit2");

@@ -15,8 +15,12 @@ LinksModel::Graphic OtherOf(LinksModel::Graphic box) {
 }  // namespace
 
 LinksModel::LinksModel(const LinkSettings& link, const PathMap& paths, std::string& graphicsFolder,
-                       std::function<void()> edited)
-    : link_(link), paths_(paths), graphicsFolder_(graphicsFolder), edited_(std::move(edited)) {}
+                       std::function<void()> edited, bool showDisabledGraphic)
+    : link_(link),
+      paths_(paths),
+      graphicsFolder_(graphicsFolder),
+      edited_(std::move(edited)),
+      showDisabledGraphic_(showDisabledGraphic) {}
 
 void LinksModel::EditLabel(const std::string& text) {
   if (link_.textLinkLabel == text) return;
@@ -29,7 +33,7 @@ void LinksModel::EditGraphic(Graphic box, const std::string& text) {
   link_.*box = text;
   typedInto_ = box;
   const Graphic other = OtherOf(box);
-  if ((link_.*other).empty()) mirrorGraphics_ = true;
+  if (showDisabledGraphic_ && (link_.*other).empty()) mirrorGraphics_ = true;
   if (mirrorGraphics_) link_.*other = text;
   edited_();
 }
@@ -57,7 +61,7 @@ void LinksModel::Browse(Graphic box, FileBrowser& browser) {
 
 void LinksModel::Close() {
   if (typedInto_ != nullptr) FinishTyping(typedInto_);
-  if (link_.textLinkGraphic.empty() == link_.textLinkGraphicDisabled.empty()) return;
+  if (!showDisabledGraphic_ || link_.textLinkGraphic.empty() == link_.textLinkGraphicDisabled.empty()) return;
   const Graphic missing =
       link_.textLinkGraphic.empty() ? &LinkSettings::textLinkGraphic : &LinkSettings::textLinkGraphicDisabled;
   link_.*missing = link_.*OtherOf(missing);

@@ -12,8 +12,10 @@ namespace vantorium {
 /// The dialog for one page link. It has no Cancel: each change counts at once.
 class LinksModel {
  public:
-  /// `edited` is called at each change. `graphicsFolder` is the folder in which graphics were last browsed for.
-  LinksModel(const LinkSettings& link, const PathMap& paths, std::string& graphicsFolder, std::function<void()> edited);
+  /// `edited` is called at each change. `graphicsFolder` is the folder in which graphics were last browsed for. Without
+  /// `showDisabledGraphic` the link has one graphic only, and its second one stays as it is.
+  LinksModel(const LinkSettings& link, const PathMap& paths, std::string& graphicsFolder, std::function<void()> edited,
+             bool showDisabledGraphic = true);
 
   /// One of the two graphics.
   using Graphic = std::string LinkSettings::*;
@@ -24,10 +26,11 @@ class LinksModel {
   /// The focus left a box: the graphics no longer follow each other. A native path that was typed becomes path text.
   void LeaveGraphic(Graphic box);
   void Browse(Graphic box, FileBrowser& browser);
-  /// A graphic that is missing takes the other one.
+  /// A graphic that is missing takes the other one, where the link has both.
   void Close();
 
   [[nodiscard]] const LinkSettings& Link() const { return link_; }
+  [[nodiscard]] bool ShowDisabledGraphic() const { return showDisabledGraphic_; }
   [[nodiscard]] bool MirrorGraphics() const { return mirrorGraphics_; }
 
  private:
@@ -37,6 +40,7 @@ class LinksModel {
   const PathMap& paths_;
   std::string& graphicsFolder_;
   std::function<void()> edited_;
+  bool showDisabledGraphic_;
   bool mirrorGraphics_ = false;
   Graphic typedInto_ = nullptr;  // the box that has a typed text
 };

@@ -44,19 +44,19 @@ constexpr ColoursButton kColours[] = {
 };
 
 constexpr LinkButton kLinks[] = {
-    {"btnPageLinksImageFirstLink", "\"First Image\" Link", "Link Graphic on first Image Wrapper", &P::ImageFirstLink},
-    {"btnPageLinksImageLastLink", "\"Last Image\" Link", "Link Graphic on last Image Wrapper", &P::ImageLastLink},
-    {"btnPageLinksImagePreviousLink", "\"Previous Image\" Link", "Link Graphic on first Image Wrapper",
+    {"btnPageLinksImageFirstLink", "\"First Image\" Link", "Link Graphic &on first Image Wrapper", &P::ImageFirstLink},
+    {"btnPageLinksImageLastLink", "\"Last Image\" Link", "Link Graphic &on last Image Wrapper", &P::ImageLastLink},
+    {"btnPageLinksImagePreviousLink", "\"Previous Image\" Link", "Link Graphic &on first Image Wrapper",
      &P::ImagePreviousLink},
-    {"btnPageLinksImageNextLink", "\"Next Image\" Link", "Link Graphic on last Image Wrapper", &P::ImageNextLink},
+    {"btnPageLinksImageNextLink", "\"Next Image\" Link", "Link Graphic &on last Image Wrapper", &P::ImageNextLink},
     {"btnPageLinksImageIndexLink", "\"Index Page\" Link", "", &P::ImageIndexLink},
-    {"btnPageLinksThumbnailFirstLink", "\"First Thumbnail Page\" Link", "Link Graphic on first Thumbnail Page",
+    {"btnPageLinksThumbnailFirstLink", "\"First Thumbnail Page\" Link", "Link Graphic &on first Thumbnail Page",
      &P::ThumbnailFirstLink},
-    {"btnPageLinksThumbnailLastLink", "\"Last Thumbnail Page\" Link", "Link Graphic on last Thumbnail Page",
+    {"btnPageLinksThumbnailLastLink", "\"Last Thumbnail Page\" Link", "Link Graphic &on last Thumbnail Page",
      &P::ThumbnailLastLink},
-    {"btnPageLinksThumbnailPreviousLink", "\"Previous Thumbnail Page\" Link", "Link Graphic on first Thumbnail Page",
+    {"btnPageLinksThumbnailPreviousLink", "\"Previous Thumbnail Page\" Link", "Link Graphic &on first Thumbnail Page",
      &P::ThumbnailPreviousLink},
-    {"btnPageLinksThumbnailNextLink", "\"Next Thumbnail Page\" Link", "Link Graphic on last Thumbnail Page",
+    {"btnPageLinksThumbnailNextLink", "\"Next Thumbnail Page\" Link", "Link Graphic &on last Thumbnail Page",
      &P::ThumbnailNextLink},
 };
 

@@ -49,6 +49,19 @@ QMessageBox::StandardButton EscapeButtonOf(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
+/// Return alone agrees to nothing that cannot be taken back; a save is harmless.
+QMessageBox::StandardButton DefaultButtonOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+      return QMessageBox::Yes;
+    case BoxButtons::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
 /// The window in front, also while the user is in another program: the box then waits there.
 QWidget* Owner() {
   if (QWidget* active = QApplication::activeWindow()) return active;
@@ -83,7 +96,7 @@ BoxAnswer QtMessageBox::Show(BoxKind kind, BoxButtons buttons, const std::string
   box.setTextFormat(Qt::PlainText);
   box.setText(LinesToQt(text));
   box.setStandardButtons(ButtonsOf(buttons));
-  box.setDefaultButton(buttons == BoxButtons::Ok ? QMessageBox::Ok : QMessageBox::Yes);
+  box.setDefaultButton(DefaultButtonOf(buttons));
   box.setEscapeButton(EscapeButtonOf(buttons));
   return AnswerOf(box.exec());
 }

@@ -32,6 +32,23 @@ TEST_F(LinkDialog, ComingUpIsNoEdit) {
   EXPECT_EQ(Graphics(model), "C:\\a.gif|");
 }
 
+TEST_F(LinkDialog, WithoutASecondGraphicTheFirstIsNeitherMirroredNorPutBack) {
+  LinksModel model(
+      {"INDEX", "", ""}, paths, folder, [this] { ++edits; }, false);
+  model.EditGraphic(kFirst, "C:\\a.gif");
+  EXPECT_EQ(Graphics(model), "C:\\a.gif|");
+  browser.answer.result = "C:\\b.gif";
+  model.Browse(kFirst, browser);
+  model.Close();
+  EXPECT_EQ(Graphics(model), "C:\\b.gif|");
+  EXPECT_EQ(edits, 2);
+  LinksModel filled(
+      {"INDEX", "C:\\a.gif", "C:\\old.gif"}, paths, folder, [] {}, false);
+  filled.EditGraphic(kFirst, "");
+  filled.Close();
+  EXPECT_EQ(Graphics(filled), "|C:\\old.gif") << "a graphic that was there unseen fills nothing either";
+}
+
 TEST_F(LinkDialog, AnEditOfTheLabelCounts) {
   LinksModel model = Model({"NEXT", "", ""});
   model.EditLabel("NEXT");

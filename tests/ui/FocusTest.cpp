@@ -1,0 +1,42 @@
+// Where the keyboard goes when what it was on goes away.
+#include "tests/ui/MainDesk.h"
+
+#include <QTabBar>
+
+namespace vantorium {
+namespace {
+
+using fakes::Find;
+using fakes::MainDesk;
+
+/// A press on one of these takes something away.
+constexpr const char* kDestroys[] = {"btnImagesShuffle", "btnImagesRemove", "btnImagesRemoveAll"};
+
+/// The first control of the page that takes the focus.
+QWidget* FirstControl(QWidget& page) {
+  QWidget* control = &page;
+  do {
+    control = control->nextInFocusChain();
+  } while (!(control->focusPolicy() & Qt::TabFocus) || !control->isVisible() || !page.isAncestorOf(control));
+  return control;
+}
+
+TEST(Focus, NoPageThatGoesLeavesItToAButtonThatDestroys) {
+  MainDesk desk;
+  desk.Start();
+  desk.AddPhotograph("a.jpg");
+  auto& pages = Find<QTabWidget>(*desk.window, "tsMain");
+  for (int from = 0; from < pages.count(); ++from) {
+    for (int to = 0; to < pages.count(); ++to) {
+      pages.setCurrentIndex(from);
+      FirstControl(*pages.currentWidget())->setFocus();
+      QTest::mouseClick(pages.tabBar(), Qt::LeftButton, {}, pages.tabBar()->tabRect(to).center());
+      ASSERT_EQ(pages.currentIndex(), to);
+      const QWidget* focus = desk.window->focusWidget();
+      for (const char* button : kDestroys) EXPECT_NE(focus, &Find<QWidget>(*desk.window, button)) << from << "-" << to;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vantorium
