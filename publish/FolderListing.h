@@ -23,7 +23,8 @@ struct FolderListing {
 };
 
 /// Lists a folder. A link to a file is a file. A link to a folder is left out, since it may lead back to a folder above
-/// it, and so is what is neither of the two and has nothing to send: devices, pipes, links that lead nowhere.
+/// it, and so is what is neither of the two and has nothing to send: devices, pipes, links that lead nowhere. A file
+/// that this program has not finished (env/NeighbourFile.h), or never will as it was killed, is left out too.
 [[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder);
 
 }  // namespace vantorium

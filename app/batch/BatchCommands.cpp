@@ -54,7 +54,7 @@ class BatchProgram {
   explicit BatchProgram(const BatchOptions& options)
       : options_(options),
         programFolder_(ProgramFolderOf(options)),
-        paths_(ReadDriveTable(GetINIFileName(programFolder_)), SurroundingsOfProcess().home),
+        paths_(ReadPathMap(GetINIFileName(programFolder_), SurroundingsOfProcess().home)),
         terminal_(ChooseProgressStyle(options.quiet, options.verbose)) {
     cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
     session_.NewProject();
