@@ -59,16 +59,6 @@ void PutGallery(pugi::xml_node document, const Project& project) {
   if (settings.checkImageWrapperUse == 1) PutImagePage(gallery, settings);
 }
 
-/// The file that a path means in the end; a link may lead to a file that is not there yet.
-std::filesystem::path BehindLinks(std::filesystem::path path) {
-  constexpr int kMostLinks = 40;  // as many as the system follows
-  std::error_code none;
-  for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(path, none); ++links) {
-    path = path.parent_path() / std::filesystem::read_symlink(path, none);
-  }
-  return path;
-}
-
 }  // namespace
 
 std::string ProjectFileText(const Project& project) {
@@ -94,7 +84,7 @@ bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
   bool written = false;
   try {
     if (const auto native = paths_.ToNative(path)) {
-      WriteFileWhole(BehindLinks(*native), ProjectFileText(project_), Durability::Synced);
+      WriteKeptFile(*native, ProjectFileText(project_));
       written = true;
     }
   } catch (const std::exception&) {

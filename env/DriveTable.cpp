@@ -1,6 +1,5 @@
 #include "env/DriveTable.h"
 
-#include "env/FileInput.h"
 #include "env/INIText.h"
 #include "env/RuntimeFailure.h"
 #include "env/Text.h"
@@ -32,11 +31,11 @@ std::map<char, std::string> DrivesOf(std::string_view preferences) {
   return drives;
 }
 
-std::map<char, std::string> ReadDriveTable(const std::filesystem::path& preferencesFile) {
+PathMap ReadPathMap(const std::filesystem::path& preferencesFile, const std::filesystem::path& home) {
   try {
-    return DrivesOf(ReadFileWhole(preferencesFile, kMostINIBytes));
+    return PathMap(DrivesOf(ReadINIFile(preferencesFile)), home);
   } catch (const RuntimeFailure&) {
-    return {};
+    return PathMap::WithoutDrives();
   }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "env/PathMap.h"
+
 #include <filesystem>
 #include <map>
 #include <string>
@@ -12,7 +14,9 @@ namespace vantorium {
 /// folder that is not absolute, or holds a NUL, is passed over; of two folders of a letter the first counts.
 [[nodiscard]] std::map<char, std::string> DrivesOf(std::string_view preferences);
 
-/// The same for a file; empty when it cannot be read.
-[[nodiscard]] std::map<char, std::string> ReadDriveTable(const std::filesystem::path& preferencesFile);
+/// The map of these drives for a file, with the usual drives of `home` when it names none or is not there. A file that
+/// is there and cannot be read gives a map without drives: nobody knows what a letter stands for, and a guess would put
+/// the user's files elsewhere.
+[[nodiscard]] PathMap ReadPathMap(const std::filesystem::path& preferencesFile, const std::filesystem::path& home);
 
 }  // namespace vantorium

@@ -29,10 +29,10 @@ void CopyBytes(int source, int target, const std::filesystem::path& name) {
 
 /// Permissions and times are a courtesy: a file system that has none still gets the copy. The owner may always write
 /// the copy, so that the next run can replace it.
-void CopyAttributes(const struct stat& source, int target) {
+void CopyAttributes(const struct stat& source, const NeighbourFile& target) {
   const std::array<timespec, 2> times = {source.st_atim, source.st_mtim};
-  std::ignore = ::fchmod(target, (source.st_mode & 0777) | S_IWUSR);
-  std::ignore = ::futimens(target, times.data());
+  if (!target.ReplacesFile()) std::ignore = ::fchmod(target.Descriptor(), (source.st_mode & 0777) | S_IWUSR);
+  std::ignore = ::futimens(target.Descriptor(), times.data());
 }
 
 }  // namespace
@@ -48,7 +48,7 @@ void CopyFileWhole(const std::filesystem::path& source, const std::filesystem::p
   if (::stat(target.c_str(), &old) == 0 && IsSameFile(status, old)) return;
   NeighbourFile to(target);
   CopyBytes(from.Get(), to.Descriptor(), target);
-  CopyAttributes(status, to.Descriptor());
+  CopyAttributes(status, to);
   to.TakeTargetName();
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <string_view>
 #include <tuple>
 #include <utility>
-
-#include <unistd.h>
 
 namespace vantorium {
 
@@ -18,13 +17,13 @@ class FileDescriptor {
   [[nodiscard]] int Get() const { return descriptor_; }
   [[nodiscard]] bool IsOpen() const { return descriptor_ >= 0; }
   /// Closes it now; false when the system reports a failure, as a full disk may do only here.
-  [[nodiscard]] bool Close() {
-    const int descriptor = std::exchange(descriptor_, -1);
-    return descriptor < 0 || ::close(descriptor) == 0;
-  }
+  [[nodiscard]] bool Close();
 
  private:
   int descriptor_;
 };
+
+/// Writes all of `bytes` to an open file. False, with the reason in errno, when the system does not take them all.
+[[nodiscard]] bool WriteAll(int descriptor, std::string_view bytes);
 
 }  // namespace vantorium

@@ -3,12 +3,30 @@
 #include "env/NeighbourFile.h"
 
 namespace vantorium {
+namespace {
 
-void WriteFileWhole(const std::filesystem::path& target, std::string_view bytes, Durability durability) {
+/// The file that a path means in the end.
+std::filesystem::path BehindLinks(std::filesystem::path path) {
+  constexpr int kMostLinks = 40;  // as many as the system follows
+  std::error_code none;
+  for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(path, none); ++links) {
+    path = path.parent_path() / std::filesystem::read_symlink(path, none);
+  }
+  return path;
+}
+
+}  // namespace
+
+void WriteFileWhole(const std::filesystem::path& target, std::string_view bytes) {
   NeighbourFile file(target);
-  file.TakeTargetPermissions();
   file.Write(bytes);
-  if (durability == Durability::Synced) file.Sync();
+  file.TakeTargetName();
+}
+
+void WriteKeptFile(const std::filesystem::path& target, std::string_view bytes) {
+  NeighbourFile file(BehindLinks(target));
+  file.Write(bytes);
+  file.Sync();
   file.TakeTargetName();
 }
 

@@ -4,6 +4,8 @@
 
 #include <atomic>
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstring>
 #include <optional>
 #include <string>
@@ -16,20 +18,48 @@
 namespace vantorium {
 namespace {
 
+constexpr std::string_view kPrefix = ".vantorium-";
+
 std::filesystem::path NeighbourOf(const std::filesystem::path& target) {
   static std::atomic<unsigned> count = 0;
-  return target.parent_path() / (".vantorium-" + std::to_string(::getpid()) + "-" + std::to_string(count++));
+  return target.parent_path() / (std::string(kPrefix) + std::to_string(::getpid()) + "-" + std::to_string(count++));
 }
 
-/// The permissions of a regular file of that name; nothing when there is none.
-std::optional<mode_t> PermissionsOf(const std::filesystem::path& target) {
+/// The file that the target's name shows now; nothing when a link or no file does. Throws for what is no file: a
+/// folder, a device, a pipe or a socket is somebody's own, and for a file that its owner may not write.
+std::optional<struct stat> FileToReplace(const std::filesystem::path& target) {
   struct stat old = {};
-  if (::lstat(target.c_str(), &old) != 0 || !S_ISREG(old.st_mode)) return std::nullopt;
-  return old.st_mode & 0777U;
+  if (::lstat(target.c_str(), &old) != 0 || S_ISLNK(old.st_mode)) return std::nullopt;
+  if (S_ISDIR(old.st_mode)) ThrowFileAccess(target, EISDIR);
+  if (!S_ISREG(old.st_mode)) ThrowFileAccess(target, EINVAL);
+  if ((old.st_mode & S_IWUSR) == 0) ThrowFileAccess(target, EACCES);
+  return old;
 }
 
-void RefuseReadOnly(const std::filesystem::path& target) {
-  if ((PermissionsOf(target).value_or(S_IWUSR) & S_IWUSR) == 0) ThrowFileAccess(target, EACCES);
+/// What the system refuses to give stays the process's own: only root may give files to others, and a file system may
+/// know no owners at all.
+void TakeOwnership(int file, const struct stat& old) {
+  std::ignore = ::fchown(file, static_cast<uid_t>(-1), old.st_gid);
+  std::ignore = ::fchown(file, old.st_uid, static_cast<gid_t>(-1));
+  std::ignore = ::fchmod(file, old.st_mode & 0777U);
+}
+
+/// The process in a neighbour's name; nothing for any other name.
+std::optional<pid_t> MakerOf(std::string_view name) {
+  if (!name.starts_with(kPrefix)) return std::nullopt;
+  name.remove_prefix(kPrefix.size());
+  const char* const end = name.data() + name.size();
+  pid_t maker = 0;
+  unsigned number = 0;
+  const auto dash = std::from_chars(name.data(), end, maker);
+  if (dash.ec != std::errc() || maker <= 0 || dash.ptr == end || *dash.ptr != '-') return std::nullopt;
+  const auto last = std::from_chars(dash.ptr + 1, end, number);
+  if (last.ec != std::errc() || last.ptr != end) return std::nullopt;
+  return maker;
+}
+
+bool IsGone(pid_t process) {
+  return ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
 }  // namespace
@@ -44,11 +74,15 @@ NeighbourFile::NeighbourFile(const std::filesystem::path& target) : target_(targ
 
 /// A name may be taken: a process that was killed left its neighbour behind, and numbers of processes come again.
 int NeighbourFile::CreateNeighbour() {
+  const auto old = FileToReplace(target_);
+  replacesFile_ = old.has_value();
+  const mode_t mode = replacesFile_ ? 0600 : 0666;  // until it has that of the old file, nobody else may look into it
   int descriptor = -1;
   do {
     path_ = NeighbourOf(target_);
-    descriptor = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  } while (descriptor < 0 && errno == EEXIST);
+    descriptor = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  } while (descriptor < 0 && (errno == EEXIST || errno == EINTR));
+  if (descriptor >= 0 && old) TakeOwnership(descriptor, *old);
   return descriptor;
 }
 
@@ -57,27 +91,34 @@ NeighbourFile::~NeighbourFile() {
 }
 
 void NeighbourFile::Write(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const auto written = ::write(file_.Get(), bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) ThrowFileAccess(target_);
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-}
-
-void NeighbourFile::TakeTargetPermissions() {
-  // A file system without permissions refuses, and has nothing to keep.
-  if (const auto old = PermissionsOf(target_)) std::ignore = ::fchmod(file_.Get(), *old);
+  if (!WriteAll(file_.Get(), bytes)) ThrowFileAccess(target_);
 }
 
 void NeighbourFile::Sync() {
-  if (::fsync(file_.Get()) != 0) ThrowFileAccess(target_);
+  while (::fsync(file_.Get()) != 0) {
+    if (errno != EINTR) ThrowFileAccess(target_);
+  }
 }
 
 void NeighbourFile::TakeTargetName() {
-  RefuseReadOnly(target_);
+  std::ignore = FileToReplace(target_);
   if (!file_.Close() || ::rename(path_.c_str(), target_.c_str()) != 0) ThrowFileAccess(target_);
   renamed_ = true;
+}
+
+bool IsNeighbourName(std::string_view name) {
+  return MakerOf(name).has_value();
+}
+
+void RemoveAbandonedNeighbours(const std::filesystem::path& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    const auto maker = MakerOf(entry->path().filename().string());
+    std::error_code ignored;
+    const bool abandoned = maker && IsGone(*maker) && std::filesystem::is_regular_file(entry->symlink_status(ignored));
+    if (abandoned) ::unlink(entry->path().c_str());
+  }
 }
 
 }  // namespace vantorium

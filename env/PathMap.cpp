@@ -30,6 +30,12 @@ PathMap::PathMap(std::map<char, std::string> drives, const std::filesystem::path
   if (drives_.empty()) drives_ = {{'C', home.string()}, {'Z', "/"}};
 }
 
+PathMap PathMap::WithoutDrives() {
+  PathMap map({});
+  map.drives_.clear();
+  return map;
+}
+
 std::optional<std::filesystem::path> PathMap::ToNative(std::string_view text) const {
   const std::string path = WithSlashes(text);
   if (path.starts_with("//") || path.find('\0') != std::string::npos) return std::nullopt;

@@ -14,6 +14,9 @@ class PathMap {
   /// `drives`: folder of each drive letter (capitals), native and absolute. With none, `C:` is `home` and `Z:` is `/`.
   explicit PathMap(std::map<char, std::string> drives, const std::filesystem::path& home = "/");
 
+  /// One in which no letter stands for anything.
+  [[nodiscard]] static PathMap WithoutDrives();
+
   /// The native path of path text: a letter and a colon stand for the drive's folder, one leading separator for the
   /// root, anything else is relative to the working folder. Nothing for a drive without a folder and for a UNC path.
   [[nodiscard]] std::optional<std::filesystem::path> ToNative(std::string_view text) const;

@@ -92,6 +92,15 @@ Preferences ReadPreferences(const std::filesystem::path& file, const std::string
   return preferences;
 }
 
+std::string ProblemOfPreferences(const std::filesystem::path& file) {
+  try {
+    std::ignore = ReadINIFile(file);
+    return {};
+  } catch (const RuntimeFailure& failure) {
+    return "The preferences file cannot be read.  Without it no drive letter has a folder.\r\r" + failure.Description();
+  }
+}
+
 void WritePreferences(const Preferences& preferences, const std::filesystem::path& file) {
   std::error_code ignored;
   std::filesystem::create_directories(file.parent_path(), ignored);

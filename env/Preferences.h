@@ -34,11 +34,15 @@ struct Preferences {
 
 inline constexpr std::size_t kMostBrowsers = 8;
 
-/// Reads the preferences `file` at start-up. No failure is reported: what cannot be read has its default, and without a
-/// file that is everything. The temporary folder belongs into the program's folder `appPath` (path text, no backslash
-/// at its end) unless the file names another place; only then is it made here.
+/// Reads the preferences `file` at start-up. No failure is reported here: what cannot be read has its default, and
+/// without a file that is everything. The temporary folder belongs into the program's folder `appPath` (path text, no
+/// backslash at its end) unless the file names another place; only then is it made here.
 [[nodiscard]] Preferences ReadPreferences(const std::filesystem::path& file, const std::string& appPath,
                                           const mFileFunctions& files);
+
+/// What the user must hear of a preferences file that is there and cannot be read, as it takes the meaning of the drive
+/// letters with it (ReadPathMap); empty for any other.
+[[nodiscard]] std::string ProblemOfPreferences(const std::filesystem::path& file);
 
 /// Writes all but the browsers, on exit, one value after the other; the file's folder is made when it is missing. A
 /// value that cannot be written is passed over.

@@ -28,7 +28,7 @@ class SpawnSettings {
     sigset_t signals;
     ::sigemptyset(&signals);
     ::posix_spawnattr_setsigmask(&attributes_, &signals);
-    for (const int signal : {SIGHUP, SIGINT, SIGPIPE, SIGTERM}) ::sigaddset(&signals, signal);
+    for (const int signal : {SIGHUP, SIGINT, SIGPIPE, SIGTERM, SIGXFSZ}) ::sigaddset(&signals, signal);
     ::posix_spawnattr_setsigdefault(&attributes_, &signals);
     ::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
   }

@@ -1,7 +1,9 @@
 #include "env/TempFolder.h"
 
 #include "env/FileDescriptor.h"
+#include "env/OpenFolder.h"
 #include "env/PathText.h"
+#include "env/TempFolderLock.h"
 
 #include <algorithm>
 #include <optional>
@@ -10,42 +12,14 @@
 #include <tuple>
 #include <vector>
 
-#include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace vantorium {
 namespace {
 
 constexpr std::string_view kTempFolder = "\\VANTORIUM_TEMP\\";
 constexpr int kFilesToTurn = 200;
-constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-
-/// The entries of an open folder.
-class FolderListing {
- public:
-  explicit FolderListing(int folder) : listing_(::fdopendir(folder)) {
-    if (listing_ == nullptr) ::close(folder);
-  }
-  ~FolderListing() {
-    if (listing_ != nullptr) ::closedir(listing_);
-  }
-  FolderListing(const FolderListing&) = delete;
-  FolderListing& operator=(const FolderListing&) = delete;
-
-  [[nodiscard]] std::optional<std::string> Next() {
-    while (const dirent* entry = ::readdir(listing_)) {
-      const std::string name = entry->d_name;
-      if (name != "." && name != "..") return name;
-    }
-    return std::nullopt;
-  }
-  [[nodiscard]] bool IsOpen() const { return listing_ != nullptr; }
-  [[nodiscard]] int Descriptor() const { return ::dirfd(listing_); }
-
- private:
-  DIR* listing_;
-};
 
 enum class EntryKind { Folder, Link, Other };
 
@@ -59,7 +33,7 @@ bool DeleteTreeIn(int parent, const std::string& name, EventLoop& loop);
 
 /// Deletes what an open folder holds. False when a folder within could not be deleted. A file that could not be ends
 /// the work, and the folder's own removal finds out.
-bool DeleteEntries(FolderListing& folder, EventLoop& loop) {
+bool DeleteEntries(OpenFolder& folder, EventLoop& loop) {
   int countdown = kFilesToTurn;
   while (const auto name = folder.Next()) {
     if (KindOf(folder.Descriptor(), *name) == EntryKind::Folder) {
@@ -79,9 +53,8 @@ bool DeleteEntries(FolderListing& folder, EventLoop& loop) {
 /// Deletes the folder `name` of the open folder `parent`. Everything is reached through open folders, so nothing that
 /// is moved or linked meanwhile can lead out of the tree.
 bool DeleteTreeIn(int parent, const std::string& name, EventLoop& loop) {
-  const int opened = ::openat(parent, name.c_str(), kFolderFlags | O_NOFOLLOW);
-  if (opened >= 0) {
-    FolderListing folder(opened);
+  {
+    OpenFolder folder(::openat(parent, name.c_str(), kFolderFlags | O_NOFOLLOW));
     if (folder.IsOpen() && !DeleteEntries(folder, loop)) return false;
   }
   return ::unlinkat(parent, name.c_str(), AT_REMOVEDIR) == 0;
@@ -127,7 +100,9 @@ bool DeleteFolderTree(std::string_view folder, const PathMap& paths, EventLoop& 
 
 bool ClearTempFolder(std::string_view tempFolderLocation, const mFileFunctions& files, EventLoop& loop) {
   if (tempFolderLocation.empty()) return false;
-  const std::string folder = WithTrailingBackslash(tempFolderLocation) + "VANTORIUM_TEMP\\";
+  const std::string folder = WithTrailingBackslash(tempFolderLocation) + "VANTORIUM_TEMP";
+  const TempFolderLock lock(files.Paths().ToNative(folder).value_or(""));
+  if (lock.IsTakenElsewhere()) return false;
   const bool deleted = DeleteFolderTree(folder, files.Paths(), loop);
   std::ignore = files.MakePath(folder);
   return deleted;

@@ -15,7 +15,8 @@ namespace vantorium {
 [[nodiscard]] bool DeleteFolderTree(std::string_view folder, const PathMap& paths, EventLoop& loop);
 
 /// Empties the folder VANTORIUM_TEMP in `tempFolderLocation` (path text): deletes it and makes it again, which is tried
-/// whatever came of the deletion. True when it was deleted; false, and nothing is touched, for an empty location.
+/// whatever came of the deletion. True when it was deleted; false, and nothing is touched, for an empty location and
+/// while another process works in the folder.
 bool ClearTempFolder(std::string_view tempFolderLocation, const mFileFunctions& files, EventLoop& loop);
 
 }  // namespace vantorium

@@ -9,16 +9,6 @@
 namespace vantorium {
 namespace {
 
-std::string ReadIfThere(const std::filesystem::path& file) {
-  try {
-    return ReadFileWhole(file, kMostINIBytes);
-  } catch (const RuntimeFailure& failure) {
-    // Any other failure means a file that is there: it may not be replaced by one with a single value.
-    if (failure.Number() != static_cast<std::int32_t>(FailureKind::FileNotFound)) throw;
-    return {};
-  }
-}
-
 void RefuseLineBreaks(std::string_view text) {
   if (text.find_first_of(std::string_view("\r\n\0", 3)) != std::string_view::npos) {
     throw RuntimeFailure(FailureKind::Preferences);
@@ -26,6 +16,15 @@ void RefuseLineBreaks(std::string_view text) {
 }
 
 }  // namespace
+
+std::string ReadINIFile(const std::filesystem::path& file) {
+  try {
+    return ReadFileWhole(file, kMostINIBytes);
+  } catch (const RuntimeFailure& failure) {
+    if (failure.Number() != static_cast<std::int32_t>(FailureKind::FileNotFound)) throw;
+    return {};
+  }
+}
 
 std::string ReadINIString(std::string_view section, std::string_view key, const std::filesystem::path& file) {
   auto value = FindINIString(ReadFileWhole(file, kMostINIBytes), section, key);
@@ -47,7 +46,8 @@ void WriteINIString(std::string_view section, std::string_view key, std::string_
                     const std::filesystem::path& file) {
   for (const std::string_view text : {section, key, value}) RefuseLineBreaks(text);
   try {
-    WriteFileWhole(file, WithINIString(ReadIfThere(file), section, key, value), Durability::Synced);
+    // A file that is there and can't be read may not be replaced by one with a single value.
+    WriteKeptFile(file, WithINIString(ReadINIFile(file), section, key, value));
   } catch (const RuntimeFailure&) {
     throw RuntimeFailure(FailureKind::Preferences);
   }

@@ -13,6 +13,9 @@ namespace vantorium {
 /// The most bytes that such a file may have.
 inline constexpr std::size_t kMostINIBytes = std::size_t{16} << 20;
 
+/// The whole text of such a file, empty when there is none. Throws FileAccess for one that cannot be read.
+[[nodiscard]] std::string ReadINIFile(const std::filesystem::path& file);
+
 /// The value of `key` as text. Throws the program's own failure when there is none, and the system's, FileNotFound or
 /// FileAccess, for a file that is missing or cannot be read.
 [[nodiscard]] std::string ReadINIString(std::string_view section, std::string_view key,

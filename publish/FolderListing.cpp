@@ -1,5 +1,7 @@
 #include "publish/FolderListing.h"
 
+#include "env/NeighbourFile.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -23,7 +25,10 @@ FolderListing ListFolder(const fs::path& folder, const std::function<bool()>& go
   fs::directory_iterator entry(folder, error);
   bool goesOn = !error && goOn();
   for (; goesOn && entry != fs::directory_iterator(); goesOn = !error && goOn()) {
-    if (const auto kind = KindOf(*entry)) listing.entries.push_back({entry->path().filename().string(), *kind});
+    const std::string name = entry->path().filename().string();
+    const auto kind = KindOf(*entry);
+    const bool unfinished = kind == EntryKind::File && IsNeighbourName(name);
+    if (kind && !unfinished) listing.entries.push_back({name, *kind});
     entry.increment(error);
   }
   listing.complete = goesOn;

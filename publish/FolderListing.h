@@ -23,8 +23,9 @@ struct FolderListing {
 };
 
 /// Lists a folder. A link to a file is a file, a link to a folder a LinkedFolder. What is none of these has nothing to
-/// send and is left out: devices, pipes, links that lead nowhere. `goOn` is asked once for a folder that can be read
-/// and behind each of its entries, as there may be very many; its first no ends the listing.
+/// send and is left out: devices, pipes, links that lead nowhere. So is a file that this program has not finished
+/// (env/NeighbourFile.h), or never will as it was killed. `goOn` is asked once for a folder that can be read and behind
+/// each of its entries, as there may be very many; its first no ends the listing.
 [[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder, const std::function<bool()>& goOn);
 
 }  // namespace vantorium

@@ -86,7 +86,7 @@ void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<s
 
   std::error_code ignored;  // writing finds out
   std::filesystem::create_directories(file.parent_path(), ignored);
-  WriteFileWhole(file, text, Durability::Synced);
+  WriteKeptFile(file, text);
 }
 
 }  // namespace vantorium

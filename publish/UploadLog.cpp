@@ -5,8 +5,6 @@
 #include "env/RuntimeFailure.h"
 #include "env/Text.h"
 
-#include <cerrno>
-
 #include <fcntl.h>
 #include <fmt/format.h>
 
@@ -31,13 +29,7 @@ int OpenToWrite(const std::filesystem::path& file, int more) {
 void WriteToFile(const std::filesystem::path& path, std::string_view bytes, int opening) {
   FileDescriptor file(OpenToWrite(path, opening));
   if (!file.IsOpen()) ThrowFileAccess(path);
-  while (!bytes.empty()) {
-    const auto written = ::write(file.Get(), bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) ThrowFileAccess(path);
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  if (!file.Close()) ThrowFileAccess(path);
+  if (!WriteAll(file.Get(), bytes) || !file.Close()) ThrowFileAccess(path);
 }
 
 }  // namespace

@@ -159,6 +159,9 @@ void frmMain::ConnectCommands() {
 }
 
 void frmMain::Start(const std::string& commandLine) {
+  if (const std::string problem = ProblemOfPreferences(preferencesFile_); !problem.empty()) {
+    ports_.boxes.Critical("File Error", problem);
+  }
   preferences_ = ReadPreferences(preferencesFile_, appPath_, ports_.files);
   project_.LastProjectFolder = preferences_.ProjectFolder;
   Step();

@@ -2,6 +2,7 @@
 
 #include "app/batch/BatchPorts.h"
 #include "app/batch/FindImages.h"
+#include "app/batch/OutputNames.h"
 #include "app/batch/Password.h"
 #include "app/batch/ProjectJson.h"
 #include "core/ImageListOperations.h"
@@ -14,10 +15,7 @@
 #include "publish/AsioFTPSocket.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <thread>
-
-#include <fmt/format.h>
 
 namespace vantorium {
 namespace {
@@ -54,12 +52,15 @@ class BatchProgram {
   explicit BatchProgram(const BatchOptions& options)
       : options_(options),
         programFolder_(ProgramFolderOf(options)),
-        paths_(ReadDriveTable(GetINIFileName(programFolder_)), SurroundingsOfProcess().home),
+        paths_(ReadPathMap(GetINIFileName(programFolder_), SurroundingsOfProcess().home)),
         terminal_(ChooseProgressStyle(options.quiet, options.verbose)) {
     cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
     session_.NewProject();
   }
 
+  ExitCode Run();
+
+ private:
   ExitCode New();
   ExitCode Show();
   ExitCode Save();
@@ -68,9 +69,12 @@ class BatchProgram {
   ExitCode Publish();
   ExitCode Upload();
 
- private:
   [[nodiscard]] std::string PathText(const std::string& typed) const { return paths_.ToTextFromUser(typed); }
   [[nodiscard]] bool Load() { return session_.LoadProject(PathText(options_.project)); }
+  /// Whether the output is one of the inputs (as typed), which is then said.
+  [[nodiscard]] bool OutputIsAmong(const std::vector<std::string>& inputs) const;
+  /// Says what there is to say; true when there is something.
+  bool Refuse(const std::string& refusal);
   [[nodiscard]] ExitCode SaveTo(const std::string& typed);
   [[nodiscard]] ExitCode RunMode(GenerationMode mode, const CreateChoice& choice);
   [[nodiscard]] ExitCode EndOfFailedRun();
@@ -102,14 +106,27 @@ class BatchProgram {
   ProjectSession session_{project_, images_, {paths_, boxes_, noDialog_, status_, loop_}};
 };
 
+bool BatchProgram::OutputIsAmong(const std::vector<std::string>& inputs) const {
+  const auto isOutput = [&](const std::string& input) {
+    return IsSameFile(PathText(options_.output), PathText(input), paths_);
+  };
+  if (std::ranges::none_of(inputs, isOutput)) return false;
+  SayInOneLine("\"" + options_.output + "\" is an input too (see --help)");
+  return true;
+}
+
+bool BatchProgram::Refuse(const std::string& refusal) {
+  if (!refusal.empty()) boxes_.Critical("File Error", refusal);
+  return !refusal.empty();
+}
+
 ExitCode BatchProgram::New() {
+  if (OutputIsAmong(options_.paths)) return ExitCode::WrongUsage;
+  if (Refuse(RefusalOfNewProject(PathText(options_.output), options_.force, paths_))) return ExitCode::Failure;
   std::vector<std::string> found;
   for (const std::string& path : options_.paths) {
     const FoundImages images = FindImages(path, options_.recursive, paths_);
-    if (!images.problem.empty()) {
-      boxes_.Critical("File Error", images.problem);
-      return ExitCode::Failure;
-    }
+    if (Refuse(images.problem)) return ExitCode::Failure;
     found.insert(found.end(), images.paths.begin(), images.paths.end());
   }
   if (options_.title) project_.settings.textGalleryTitle = *options_.title;
@@ -119,11 +136,12 @@ ExitCode BatchProgram::New() {
 
 ExitCode BatchProgram::Show() {
   const bool loaded = Load();
-  fmt::print("{}\n", ProjectAsJson(project_));
-  return loaded ? ExitCode::Success : ExitCode::Failure;
+  const bool printed = PrintResult(ProjectAsJson(project_) + "\n");
+  return loaded && printed ? ExitCode::Success : ExitCode::Failure;
 }
 
 ExitCode BatchProgram::Save() {
+  if (OutputIsAmong({options_.project})) return ExitCode::WrongUsage;
   return Load() ? SaveTo(options_.output) : ExitCode::Failure;
 }
 
@@ -132,9 +150,10 @@ ExitCode BatchProgram::SaveTo(const std::string& typed) {
 }
 
 ExitCode BatchProgram::Create() {
-  if (!Load()) return ExitCode::Failure;
+  if (OutputIsAmong({options_.project})) return ExitCode::WrongUsage;
   CreateChoice choice = Switches(CreateChoice::Option::CreateGallery);
-  choice.FilePath = PathText(options_.output);
+  choice.FilePath = IndexFileOf(PathText(options_.output), paths_);
+  if (Refuse(RefusalOfIndexFile(choice.FilePath, paths_)) || !Load()) return ExitCode::Failure;
   return RunMode(GenerationMode::Create, choice);
 }
 
@@ -205,7 +224,8 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
   if (end != RunEnd::Success) return EndOfFailedRun();
   if (mode == GenerationMode::Preview) {
     const auto index = paths_.ToNative(preferences.TempFolderLocation + "\\VANTORIUM_TEMP\\index.htm");
-    fmt::print("{}\n", index.value_or("").string());
+    const bool printed = PrintResult(index.value_or("").string() + "\n");
+    if (!printed || !shell.HasOpened()) return ExitCode::Failure;
   }
   return ExitCode::Success;
 }
@@ -227,27 +247,31 @@ Preferences BatchProgram::PreferencesOfRun() const {
   return preferences;
 }
 
+ExitCode BatchProgram::Run() {
+  if (Refuse(ProblemOfPreferences(GetINIFileName(programFolder_)))) return ExitCode::Failure;
+  switch (options_.command) {
+    case BatchCommand::New:
+      return New();
+    case BatchCommand::Show:
+      return Show();
+    case BatchCommand::Save:
+      return Save();
+    case BatchCommand::Create:
+      return Create();
+    case BatchCommand::Preview:
+      return Preview();
+    case BatchCommand::Publish:
+      return Publish();
+    case BatchCommand::Upload:
+      return Upload();
+  }
+  return ExitCode::Failure;
+}
+
 }  // namespace
 
 ExitCode RunBatchCommand(const BatchOptions& options) {
-  BatchProgram program(options);
-  switch (options.command) {
-    case BatchCommand::New:
-      return program.New();
-    case BatchCommand::Show:
-      return program.Show();
-    case BatchCommand::Save:
-      return program.Save();
-    case BatchCommand::Create:
-      return program.Create();
-    case BatchCommand::Preview:
-      return program.Preview();
-    case BatchCommand::Publish:
-      return program.Publish();
-    case BatchCommand::Upload:
-      return program.Upload();
-  }
-  return ExitCode::Failure;
+  return BatchProgram(options).Run();
 }
 
 }  // namespace vantorium

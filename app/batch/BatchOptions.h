@@ -28,6 +28,7 @@ struct BatchOptions {
   std::string output;  ///< OUT.gpj, or INDEX-FILE
   std::optional<std::string> title;
   bool recursive = false;
+  bool force = false;  ///< a project that exists is replaced
   std::vector<std::string> paths;
   bool noImages = false;
   bool noThumbnails = false;

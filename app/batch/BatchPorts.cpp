@@ -2,6 +2,7 @@
 
 #include "app/batch/TerminalProgress.h"
 #include "env/LaunchCommands.h"
+#include "env/RuntimeFailure.h"
 #include "env/StartProcess.h"
 
 #include <atomic>
@@ -15,9 +16,20 @@ namespace {
 // A signal handler can reach nothing but a global.
 std::atomic<bool> interrupted = false;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
-void OnInterrupt(int /*signal*/) {
+void OnInterrupt(int signal) {
   constexpr int kExitCodeOfInterrupt = 130;
-  if (interrupted.exchange(true)) ::_exit(kExitCodeOfInterrupt);
+  if (interrupted.exchange(true) && signal != SIGHUP) ::_exit(kExitCodeOfInterrupt);
+}
+
+bool IsIgnored(int signal) {
+  struct sigaction action = {};
+  return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+std::string InWords(const ShellCommand& command) {
+  std::string text;
+  for (const std::string& word : command.words) text += (text.empty() ? "" : " ") + word;
+  return "\"" + text + "\"";
 }
 
 }  // namespace
@@ -43,8 +55,10 @@ void BatchShell::Start(const ShellCommand& command, const StartFailed& failed) {
   if (!mayOpenFiles_) return;
   try {
     StartProcess(command);
+    opened_ = true;
   } catch (const RuntimeFailure& failure) {
-    failed(failure);
+    tried_ += "\nTried " + InWords(command) + ": " + failure.Description();
+    failed(RuntimeFailure(static_cast<FailureKind>(failure.Number()), "Nothing could open the preview." + tried_));
   }
 }
 
@@ -53,6 +67,7 @@ void InterruptLoop::Watch(ProgressWindow* progress) {
   const auto handler = progress != nullptr ? OnInterrupt : SIG_DFL;
   std::signal(SIGINT, handler);
   std::signal(SIGTERM, handler);
+  if (!IsIgnored(SIGHUP)) std::signal(SIGHUP, handler);
 }
 
 void InterruptLoop::Turn() {

@@ -44,15 +44,21 @@ class BatchShell : public Shell {
   BatchShell(const PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
   void Beep(BeepKind kind) override;
   void OpenFile(const std::string& path) override;
+  /// The failure names this command and those that failed before.
   void Start(const ShellCommand& command, const StartFailed& failed) override;
+  /// False when a file was to be opened and none of the programs could be started.
+  [[nodiscard]] bool HasOpened() const { return tried_.empty() || opened_; }
 
  private:
   const PathMap& paths_;
   bool mayOpenFiles_;
+  std::string tried_;  ///< the commands that failed, and why
+  bool opened_ = false;
 };
 
 /// Ctrl+C as the cancel button of the progress window that is open. A second one ends the process at once, and so does
-/// the first while no window is open.
+/// the first while no window is open. The wish of the system that the program may end is the same, and so is a terminal
+/// that goes away, unless the program was started to outlive it; but that may be told more than once.
 class InterruptLoop : public EventLoop {
  public:
   explicit InterruptLoop(CancelCheck& cancel) : cancel_(cancel) {}

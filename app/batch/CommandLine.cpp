@@ -1,7 +1,9 @@
 #include "app/batch/CommandLine.h"
 
+#include "app/batch/Terminal.h"
+
 #include <chrono>
-#include <iostream>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -91,6 +93,7 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   make.add_option("OUT.gpj", options.output, "The project file to write")->required();
   make.add_option("--title", options.title, "Title of the gallery")->type_name("TEXT");
   make.add_flag("--recursive", options.recursive, "Take the folders' sub folders too");
+  make.add_flag("--force", options.force, "Replace a project that exists; any other file never is");
   make.add_option("PATH", options.paths, "Images, and folders of images")->required();
 
   AddProject(AddCommand(app, options, BatchCommand::Show, "show", "Print a project as JSON"), options);
@@ -101,8 +104,11 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
 
   CLI::App& create = AddCommand(app, options, BatchCommand::Create, "create", "Create a project's gallery in a folder");
   AddProject(create, options);
-  create.add_option("INDEX-FILE", options.output, "The gallery's index file, in the folder for the gallery")
-      ->required();
+  create
+      .add_option("INDEX-FILE", options.output,
+                  "The gallery's index file, in the folder for the gallery; of a folder its index.htm")
+      ->required()
+      ->check([](const std::string& path) { return std::string(path.empty() ? "it is empty" : ""); });
   AddRunSwitches(create, options);
 
   CLI::App& preview =
@@ -148,10 +154,11 @@ std::variant<BatchOptions, ExitCode> ParseCommandLine(int argc, const char* cons
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& success) {  // --help and --version
-    app.exit(success, std::cout, std::cerr);
-    return ExitCode::Success;
+    std::ostringstream text;
+    app.exit(success, text, text);
+    return PrintResult(text.str()) ? ExitCode::Success : ExitCode::Failure;
   } catch (const CLI::ParseError& error) {
-    std::cerr << "vantorium-batch: " << WhatIsWrong(app, error) << " (see --help)\n";
+    SayInOneLine(WhatIsWrong(app, error) + " (see --help)");
     return ExitCode::WrongUsage;
   }
   return options;

@@ -1,8 +1,10 @@
 #include "app/batch/Password.h"
 
-#include <fstream>
-#include <iostream>
+#include "env/FileDescriptor.h"
 
+#include <cerrno>
+
+#include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -12,14 +14,17 @@ namespace {
 /// Longer than any password. A file that goes on beyond it is another one, or a device without end.
 constexpr std::size_t kLongest = 4096;
 
-std::optional<std::string> FirstLine(std::istream& stream) {
+/// Nothing also when the file can't be read at all, as a standard input that is closed.
+std::optional<std::string> FirstLine(int file) {
   std::string line;
-  char character = 0;
-  while (stream.get(character) && character != '\n') {
-    if (line.size() == kLongest) return std::nullopt;
-    line += character;
+  for (char character = 0; character != '\n';) {
+    const auto read = ::read(file, &character, 1);
+    if (read < 0 && errno == EINTR) continue;
+    if (read < 0 || line.size() > kLongest) return std::nullopt;
+    if (read == 0) break;
+    if (character != '\n') line += character;
   }
-  if (stream.bad()) return std::nullopt;
+  if (line.size() > kLongest) return std::nullopt;
   if (line.ends_with('\r')) line.pop_back();
   return line;
 }
@@ -33,7 +38,7 @@ class HiddenTyping {
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     hidden.c_lflag |= ECHONL;
     ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
-    std::cerr << "Password: " << std::flush;
+    std::ignore = WriteAll(STDERR_FILENO, "Password: ");
   }
   ~HiddenTyping() {
     if (isTerminal_) ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
@@ -51,11 +56,10 @@ class HiddenTyping {
 std::optional<std::string> ReadPassword(const std::string& file) {
   if (file == "-") {
     const HiddenTyping hidden;
-    return FirstLine(std::cin);
+    return FirstLine(STDIN_FILENO);
   }
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream.is_open()) return std::nullopt;
-  return FirstLine(stream);
+  const FileDescriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  return FirstLine(opened.Get());
 }
 
 }  // namespace vantorium

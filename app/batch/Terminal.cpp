@@ -1,9 +1,13 @@
 #include "app/batch/Terminal.h"
 
+#include "env/FileDescriptor.h"
 #include "env/Text.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <cerrno>
+#include <cstring>
+#include <optional>
+#include <tuple>
 
 #include <fmt/format.h>
 #include <sys/ioctl.h>
@@ -31,7 +35,57 @@ std::string CutTo(const std::string& text, std::size_t columns) {
   return text.substr(0, at);
 }
 
+/// Lost is lost.
+void Say(std::string_view text) {
+  std::ignore = WriteAll(STDERR_FILENO, text);
+}
+
+std::string OneLine(std::string_view text) {
+  return ReplaceAll(Harmless(text), "\n", "\\u000A");
+}
+
+/// How many bytes the UTF-8 character at the beginning of `text` has; 1 for a byte that begins none.
+std::size_t CharacterSize(std::string_view text) {
+  const auto lead = static_cast<unsigned char>(text[0]);
+  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+  if (text.size() < size) return 1;
+  const auto follows = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
+  return std::ranges::all_of(text.substr(1, size - 1), follows) ? size : 1;
+}
+
+/// Whether a terminal may take it for a command: the control characters of ASCII and those from 0x80 on, in UTF-8 or as
+/// single bytes.
+std::optional<unsigned> ControlCodeOf(std::string_view character) {
+  const auto byte = static_cast<unsigned char>(character.back());
+  const bool isSecondSet = byte >= 0x80 && byte < 0xA0;
+  if (character.size() == 1 && (byte < 0x20 || byte == 0x7F || isSecondSet)) return byte;
+  if (character.size() == 2 && character[0] == '\xC2' && isSecondSet) return byte;
+  return std::nullopt;
+}
+
 }  // namespace
+
+std::string Harmless(std::string_view text) {
+  std::string result;
+  while (!text.empty()) {
+    const std::string_view character = text.substr(0, CharacterSize(text));
+    const auto code = character == "\n" ? std::nullopt : ControlCodeOf(character);
+    result += code ? fmt::format("\\u{:04X}", *code) : std::string(character);
+    text.remove_prefix(character.size());
+  }
+  return result;
+}
+
+void SayInOneLine(std::string_view text) {
+  Say("vantorium-batch: " + OneLine(text) + "\n");
+}
+
+bool PrintResult(std::string_view text) {
+  const bool onTerminal = ::isatty(STDOUT_FILENO) == 1;
+  if (WriteAll(STDOUT_FILENO, onTerminal ? Harmless(text) : std::string(text))) return true;
+  SayInOneLine(std::string("The output cannot be written: ") + std::strerror(errno));
+  return false;
+}
 
 ProgressStyle ChooseProgressStyle(bool quiet, bool verbose) {
   if (quiet) return ProgressStyle::None;
@@ -42,13 +96,14 @@ ProgressStyle ChooseProgressStyle(bool quiet, bool verbose) {
 void Terminal::PrintMessage(const std::string& title, const std::string& text) {
   EraseBar();
   const std::string lines = ReplaceAll(ReplaceAll(text, kCrLf, "\n"), "\r", "\n");
-  fmt::print(stderr, "{}: {}\n", title, lines);
+  Say(fmt::format("{}: {}\n", OneLine(title), Harmless(lines)));
 }
 
 void Terminal::ShowStatus(const std::string& text) {
-  if (text.empty() || text == status_) return;
-  status_ = text;
-  if (style_ == ProgressStyle::Lines) fmt::print(stderr, "{}\n", text);
+  const std::string line = OneLine(text);
+  if (line.empty() || line == status_) return;
+  status_ = line;
+  if (style_ == ProgressStyle::Lines) Say(line + "\n");
 }
 
 void Terminal::ShowProgress(std::int64_t value, std::int64_t maximum) {
@@ -66,8 +121,7 @@ void Terminal::StartClock() {
 
 void Terminal::EraseBar() {
   if (!barIsDrawn_) return;
-  fmt::print(stderr, "\r\033[K");
-  std::fflush(stderr);
+  Say("\r\033[K");
   barIsDrawn_ = false;
 }
 
@@ -79,8 +133,7 @@ void Terminal::DrawBar() {
   if (columns >= kColumnsForABar) {
     line = fmt::format("[{}{}] ", std::string(filled, '='), std::string(kBarWidth - filled, ' ')) + line;
   }
-  fmt::print(stderr, "\r{}\033[K", CutTo(line, columns - 1));
-  std::fflush(stderr);
+  Say("\r" + CutTo(line, columns - 1) + "\033[K");
   barIsDrawn_ = true;
 }
 

@@ -2,13 +2,25 @@
 
 #include <chrono>
 #include <string>
+#include <string_view>
 
 namespace vantorium {
 
 enum class ProgressStyle { None, Bar, Lines };
 
+/// `text` as it may reach a terminal: control characters but LF are written as \u and four digits, as JSON has them, so
+/// that a name cannot give the terminal commands.
+[[nodiscard]] std::string Harmless(std::string_view text);
+
+/// Prints "vantorium-batch: " and the text on standard error. What is said there never decides anything: it may be
+/// lost.
+void SayInOneLine(std::string_view text);
+
+/// Prints a command's result on standard output. False, after a message, when it cannot be written.
+[[nodiscard]] bool PrintResult(std::string_view text);
+
 /// Standard error as the user sees it: messages, each a paragraph of its own, and below them the progress, which is a
-/// bar that is drawn over itself, or a line for each text.
+/// bar that is drawn over itself, or a line for each text. A terminal that goes away is no failure.
 class Terminal {
  public:
   explicit Terminal(ProgressStyle style) : style_(style) {}

@@ -1,16 +1,22 @@
 #include "app/batch/BatchCommands.h"
+#include "app/batch/Terminal.h"
+#include "env/StandardStreams.h"
 
+#include <csignal>
 #include <exception>
-#include <iostream>
 
 int main(int argc, char** argv) {
   using vantorium::ExitCode;
+  vantorium::HoldStandardStreams();
+  // What cannot be written is a failure of that one writing, which says so, and not the end of the program.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     const auto parsed = vantorium::ParseCommandLine(argc, argv);
     if (const auto* end = std::get_if<ExitCode>(&parsed)) return static_cast<int>(*end);
     return static_cast<int>(vantorium::RunBatchCommand(std::get<vantorium::BatchOptions>(parsed)));
   } catch (const std::exception& failure) {
-    std::cerr << "vantorium-batch: " << failure.what() << '\n';
+    vantorium::SayInOneLine(failure.what());
     return static_cast<int>(ExitCode::Failure);
   }
 }

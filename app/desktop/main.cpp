@@ -1,6 +1,7 @@
 #include "env/BundledFiles.h"
 #include "env/DriveTable.h"
 #include "env/ProgramFolder.h"
+#include "env/StandardStreams.h"
 #include "env/SystemClock.h"
 #include "image/PangoTextRaster.h"
 #include "ui/Resources.h"
@@ -57,7 +58,7 @@ class Desktop {
  private:
   Surroundings around_ = SurroundingsOfProcess();
   std::filesystem::path programFolder_ = FindProgramFolder(std::nullopt, around_);
-  PathMap paths_{ReadDriveTable(GetINIFileName(programFolder_)), around_.home};
+  PathMap paths_ = ReadPathMap(GetINIFileName(programFolder_), around_.home);
   RegionalFormats formats_;
   mFileFunctions files_{paths_, formats_};
   BundledFiles bundled_{BundledFolders(programFolder_, around_)};
@@ -91,5 +92,6 @@ int Run(int argc, char** argv) {
 }  // namespace vantorium
 
 int main(int argc, char** argv) {
+  vantorium::HoldStandardStreams();
   return vantorium::Run(argc, argv);
 }

@@ -35,6 +35,9 @@ RunEnd GalleryCreator::CreateGallery(GenerationMode& mode, std::int16_t browserI
   RunArguments arguments;
   if (!Prepare(mode, arguments)) return RunEnd::NotStarted;
   arguments.Mode = mode;
+  const bool usesTempFolder = mode == GenerationMode::Preview || mode == GenerationMode::Publish;
+  const TempFolderLock lock(usesTempFolder ? NativeTempFolder() : std::filesystem::path());
+  if (usesTempFolder && RefuseTempFolder(lock)) return RunEnd::NotStarted;
   const RunEnd end = Run(arguments);
   if (end == RunEnd::Success && mode == GenerationMode::Preview) {
     OpenInBrowser(arguments.OutputFolder + arguments.IndexFileName, browserIndex);
@@ -123,6 +126,21 @@ RunEnd GalleryCreator::Run(const RunArguments& arguments) {
 
 std::string GalleryCreator::TempFolder() const {
   return preferences_.TempFolderLocation + "\\VANTORIUM_TEMP";
+}
+
+std::filesystem::path GalleryCreator::NativeTempFolder() const {
+  return environment_.files.Paths().ToNative(TempFolder()).value_or("");
+}
+
+bool GalleryCreator::RefuseTempFolder(const TempFolderLock& lock) {
+  const std::filesystem::path folder = NativeTempFolder();
+  const std::string problem = lock.IsTakenElsewhere()
+                                  ? "Another run is using the temporary folder \"" + folder.string() +
+                                        "\".  Please wait for its end, or choose another location."
+                                  : RefusalOfTempFolder(folder);
+  if (problem.empty()) return false;
+  environment_.boxes.Critical("Directory Error", problem);
+  return true;
 }
 
 void GalleryCreator::MakeTempFolder() {

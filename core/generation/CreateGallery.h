@@ -2,6 +2,7 @@
 
 #include "core/generation/GenerateGallery.h"
 #include "env/Preferences.h"
+#include "env/TempFolderLock.h"
 
 namespace vantorium {
 
@@ -16,7 +17,8 @@ class GalleryCreator {
         environment_(environment) {}
 
   /// Repairs empty settings, asks what to do when `mode` is Create, and runs. A Preview that went well is opened in
-  /// browser `browserIndex`, 0 being the system's own. The dialog may turn the mode from Create into another one.
+  /// browser `browserIndex`, 0 being the system's own. The dialog may turn the mode from Create into another one. A run
+  /// that makes its files in the temporary folder has that to itself, or does not start.
   RunEnd CreateGallery(GenerationMode& mode, std::int16_t browserIndex);
 
  private:
@@ -29,6 +31,9 @@ class GalleryCreator {
   [[nodiscard]] bool Prepare(GenerationMode& mode, RunArguments& arguments);
   [[nodiscard]] RunEnd Run(const RunArguments& arguments);
   void MakeTempFolder();
+  [[nodiscard]] std::filesystem::path NativeTempFolder() const;
+  /// True after a box that says why the run may not put its files there.
+  [[nodiscard]] bool RefuseTempFolder(const TempFolderLock& lock);
   [[nodiscard]] std::string TempFolder() const;
   void OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex);
   [[nodiscard]] std::string BrowserLocation(std::int16_t browserIndex) const;

@@ -12,6 +12,7 @@
 #include "core/generation/RunContext.h"
 #include "core/generation/ServerPhases.h"
 #include "core/generation/ServerTarget.h"
+#include "env/NeighbourFile.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 
@@ -50,9 +51,18 @@ PhaseResult StampAndSetPaths(const RunContext& context) {
   return kGoOn;
 }
 
+/// Files that a run which was killed has not finished would stay for ever.
+void TidyFolders(const RunState& run) {
+  for (const std::string& folder : {run.OutputFolder, run.LocalImagesDir, run.LocalThumbsDir}) {
+    if (const auto native = run.files.Paths().ToNative(folder)) RemoveAbandonedNeighbours(*native);
+  }
+}
+
 PhaseResult MakeFolders(const RunContext& context) {
   if (auto end = context.Begin("Creating Directories...")) return end;
-  return context.Settle(context.target.MakeFolders());
+  auto end = context.Settle(context.target.MakeFolders());
+  if (!end) TidyFolders(context.run);
+  return end;
 }
 
 PhaseResult PrepareWatermarksOfRun(const RunContext& context) {

@@ -52,6 +52,9 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& e
   ::dup2(in, STDIN_FILENO);
   ::dup2(out, STDOUT_FILENO);
   ::dup2(err, STDERR_FILENO);
+  if (!options.standardOutput.empty()) ::dup2(::open(options.standardOutput.c_str(), O_WRONLY), STDOUT_FILENO);
+  for (const int stream : options.closedStreams) ::close(stream);
+  ::signal(SIGHUP, options.outlivesTerminal ? SIG_IGN : SIG_DFL);
   if (::chdir(options.folder.c_str()) == 0) ::execve(arguments[0], arguments, environment);
   ::_exit(127);
 }
@@ -139,6 +142,10 @@ void ChildProcess::WaitUntilErrorPipeIsFull() const {
 
 void ChildProcess::Send(int signal) const {
   Checked(::kill(process_, signal), "kill");
+}
+
+void ChildProcess::HangUp() {
+  std::ignore = err_.ours.Close();
 }
 
 void ChildProcess::Type(std::string_view keys) const {

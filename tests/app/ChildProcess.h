@@ -20,7 +20,10 @@ struct StartOptions {
   std::map<std::string, std::string> environment;
   std::filesystem::path standardInput = "/dev/null";  ///< unless there is a terminal
   StandardError standardError = StandardError::Pipe;
-  unsigned short columns = 80;  ///< of the terminal
+  std::filesystem::path standardOutput = {};  ///< a file in place of the pipe
+  std::vector<int> closedStreams = {};
+  bool outlivesTerminal = false;  ///< as with nohup
+  unsigned short columns = 80;    ///< of the terminal
 };
 
 /// What a process left behind. `exitCode` is -1 when a signal ended it.
@@ -45,6 +48,10 @@ class ChildProcess {
   /// Waits, without reading, until the process writes no more to standard error since the pipe is full.
   void WaitUntilErrorPipeIsFull() const;
   void Send(int signal) const;
+  /// The number that the process has, or had.
+  [[nodiscard]] pid_t Number() const { return process_; }
+  /// Takes the terminal away; what it showed after the last reading is lost.
+  void HangUp();
   /// Types on the keyboard of the terminal.
   void Type(std::string_view keys) const;
   /// Whether the process has ended by itself; never waits.

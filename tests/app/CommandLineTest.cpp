@@ -42,7 +42,7 @@ TEST(CommandLine, HelpNamesEveryCommandAndOption) {
 
 TEST(CommandLine, HelpOfACommandNamesItsSwitches) {
   const std::pair<const char*, Arguments> commands[] = {
-      {"new", {"OUT.gpj", "PATH", "--title", "--recursive"}},
+      {"new", {"OUT.gpj", "PATH", "--title", "--recursive", "--force"}},
       {"show", {"PROJECT.gpj"}},
       {"save", {"PROJECT.gpj", "OUT.gpj"}},
       {"create", {"PROJECT.gpj", "INDEX-FILE", "--no-images", "--no-thumbnails", "--no-html", "--keep-existing"}},
@@ -105,6 +105,7 @@ TEST(CommandLine, AMissingArgumentIsNamed) {
   EXPECT_TRUE(IsRefused({"save", "a.gpj"}, "OUT.gpj"));
   EXPECT_TRUE(IsRefused({"create"}, "PROJECT.gpj"));
   EXPECT_TRUE(IsRefused({"create", "a.gpj"}, "INDEX-FILE"));
+  EXPECT_TRUE(IsRefused({"create", "a.gpj", ""}, "INDEX-FILE"));
   EXPECT_TRUE(IsRefused({"preview"}, "PROJECT.gpj"));
 }
 

@@ -1,7 +1,10 @@
 #include "image/JPEG.h"
 #include "tests/app/Workplace.h"
+#include "tests/fakes/Hindrances.h"
 
 #include <filesystem>
+
+#include <sys/stat.h>
 
 namespace vantorium {
 namespace {
@@ -148,7 +151,7 @@ TEST_F(CreateCommand, TheCreationTimeIsTheOneGiven) {
 
 TEST_F(CreateCommand, AProjectWithoutImagesIsRefusedAndNothingIsMade) {
   std::filesystem::create_directory(place.Path("empty"));
-  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "empty"})));
+  ASSERT_TRUE(Succeeded(place.Run({"new", "--force", "a.gpj", "empty"})));
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_EQ(result.err, "No Images: You cannot create a Gallery without Images.\n");
@@ -180,13 +183,60 @@ TEST_F(CreateCommand, ATargetFolderThatCannotBeMadeIsAFailureWithItsReason) {
   EXPECT_EQ(result.err.find('\r'), std::string::npos) << result.err;
 }
 
-TEST_F(CreateCommand, AnIndexFileThatIsAFolderIsAFailure) {
-  std::filesystem::create_directories(place.Path("out/index.htm"));
-  for (const char* index : {"out/index.htm", "out/"}) {
+TEST_F(CreateCommand, AFolderMeansTheIndexFileInIt) {
+  std::filesystem::create_directory(place.Path("there"));
+  for (const char* folder : {"new/", "there", "there/", "home/..", "C:\\text\\", "C:\\", "C:"}) {
+    ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", folder}))) << folder;
+  }
+  for (const char* folder : {"new", "there", "", "home/text", "home"}) {
+    EXPECT_TRUE(std::filesystem::is_regular_file(place.Path(std::filesystem::path(folder) / "index.htm"))) << folder;
+  }
+}
+
+TEST_F(CreateCommand, AnIndexFileThatIsNoFileIsRefusedBeforeAnythingIsMade) {
+  std::filesystem::create_directories(place.Path("out/index.htm/index.htm"));
+  ASSERT_EQ(::mkfifo(place.Path("out/pipe.htm").c_str(), 0600), 0);
+  for (const auto& [index, file] :
+       {std::pair{"out/", "out/index.htm"}, std::pair{"out", "out/index.htm"},
+        std::pair{"out/index.htm", "out/index.htm/index.htm"}, std::pair{"out/pipe.htm", "out/pipe.htm"}}) {
     const ProcessResult result = place.Run({"create", "a.gpj", index});
     EXPECT_TRUE(EndedWith(1, result)) << index;
-    EXPECT_NE(result.err.find("Failure: "), std::string::npos) << result.err;
+    EXPECT_EQ(result.err, "File Error: \"" + place.Path(file).string() +
+                              "\" cannot be the index file, as it is there and is no file.\n");
   }
+  EXPECT_FALSE(std::filesystem::exists(place.Path("out/Images")));
+  EXPECT_TRUE(std::filesystem::is_fifo(place.Path("out/pipe.htm")));
+}
+
+TEST_F(CreateCommand, TheProjectAsIndexFileIsAWrongCommandLine) {
+  const std::string before = place.Read("a.gpj");
+  const ProcessResult result = place.Run({"create", "a.gpj", "home/../a.gpj"});
+  EXPECT_TRUE(EndedWith(2, result));
+  EXPECT_EQ(result.err, "vantorium-batch: \"home/../a.gpj\" is an input too (see --help)\n");
+  EXPECT_EQ(place.Read("a.gpj"), before);
+}
+
+TEST_F(CreateCommand, WhatAKilledRunLeftIsRemoved) {
+  ChildProcess gone(place.Options({"show", "a.gpj"}));
+  ASSERT_TRUE(Succeeded(gone.Finish()));
+  for (const char* folder : {"out", "out/Images", "out/Thumbs"}) {
+    place.Write(std::string(folder) + "/.vantorium-" + std::to_string(gone.Number()) + "-0", "half");
+  }
+  place.Write("out/.vantorium-mine", "kept");
+  ASSERT_TRUE(Succeeded(Create()));
+  EXPECT_EQ(Listing(), ".vantorium-mine\n" + std::string(kWholeGallery));
+}
+
+TEST_F(CreateCommand, AFileThatIsTooLargeForTheSystemIsAFailureThatLeavesNothing) {
+  ProcessResult result;
+  {
+    const fakes::FullDisk full(1000);
+    std::signal(SIGXFSZ, SIG_DFL);  // as the program finds it
+    result = Create();
+  }
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_NE(result.err.find("File too large"), std::string::npos) << result.err;
+  EXPECT_EQ(Listing(), "");
 }
 
 TEST_F(CreateCommand, ATargetWithoutAMappedFolderIsAFailure) {

@@ -118,11 +118,25 @@ TEST_F(Interrupt, ControlCOnTheTerminalIsTheSame) {
       << result.err;
 }
 
-TEST_F(Interrupt, TerminateCancelsToo) {
+TEST_F(Interrupt, TerminateAndHangUpCancelToo) {
+  for (const int signal : {SIGTERM, SIGHUP}) {
+    ChildProcess program(Create({"--verbose"}));
+    program.WaitForError(R"(Copying File "many.jpg_9")");
+    program.Send(signal);
+    EXPECT_TRUE(EndedWith(130, program.Finish())) << signal;
+    ExpectWholeFilesOnly(place.Path("out"));
+  }
+}
+
+TEST_F(Interrupt, ASecondHangUpDoesNotEndTheProgramAtOnce) {
   ChildProcess program(Create({"--verbose"}));
-  program.WaitForError(R"(Copying File "many.jpg_9")");
-  program.Send(SIGTERM);
-  EXPECT_TRUE(EndedWith(130, program.Finish()));
+  program.WaitUntilErrorPipeIsFull();
+  program.Send(SIGHUP);
+  std::this_thread::sleep_for(50ms);
+  program.Send(SIGHUP);
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(EndedWith(130, result));
+  EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
 }
 
 // The program hangs in its own output, where it can't come to the next look at the cancel button.

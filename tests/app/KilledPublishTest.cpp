@@ -87,6 +87,7 @@ TEST_F(KilledPublish, LeavesEveryFileWholeAndTheNextRunEndsWell) {
     ExpectAllIsWhole(before);
     RunToTheEnd();
     ExpectAllIsWhole(before);
+    EXPECT_EQ(ListingOf(place.Path("temp")).find(".vantorium-"), std::string::npos) << ListingOf(place.Path("temp"));
     if (HasFailure()) return;
   }
 }

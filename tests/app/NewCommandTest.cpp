@@ -27,7 +27,7 @@ Texts Images(const Workplace& place, const std::string& project, const char* fie
 }
 
 Texts NamesAfterNew(const Workplace& place, const Texts& arguments) {
-  Texts command = {"new", "a.gpj"};
+  Texts command = {"new", "--force", "a.gpj"};
   command.insert(command.end(), arguments.begin(), arguments.end());
   EXPECT_TRUE(Succeeded(place.Run(command)));
   return Images(place, "a.gpj", "ImageName");
@@ -130,7 +130,7 @@ TEST(NewCommand, TitleIsTheGallerysTitle) {
   const Workplace place;
   place.Photograph("a.jpg");
   for (const char* title : {"Two Words", "Ünïcödé & <tags> \"quoted\"", ""}) {
-    ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "--title", title, "a.jpg"}))) << title;
+    ASSERT_TRUE(Succeeded(place.Run({"new", "--force", "a.gpj", "--title", title, "a.jpg"}))) << title;
     EXPECT_EQ(Shown(place, "a.gpj").at("project").at("textGalleryTitle"), title);
   }
 }
@@ -166,11 +166,50 @@ TEST(NewCommand, AFileThatIsNoJPEGIsNamedAndNothingIsWritten) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 
-TEST(NewCommand, AnOldProjectIsReplaced) {
+TEST(NewCommand, AProjectIsReplacedOnlyByForce) {
   const Workplace place;
-  place.Write("a.gpj", "old");
+  place.Project("a.gpj", {"a.jpg"});
+  const std::string before = place.Read("a.gpj");
+  place.Photograph("b.jpg");
+  const ProcessResult result = place.Run({"new", "a.gpj", "b.jpg"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err,
+            "File Error: \"" + place.Path("a.gpj").string() + "\" exists.  It is replaced only with --force.\n");
+  EXPECT_EQ(place.Read("a.gpj"), before);
+  ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "b.jpg", "--force"})));
+  EXPECT_EQ(Images(place, "a.gpj", "ImageName"), Texts{"b.jpg"});
+}
+
+TEST(NewCommand, AnyOtherFileIsNeverReplaced) {
+  const Workplace place;
   place.Photograph("a.jpg");
-  EXPECT_EQ(NamesAfterNew(place, {"a.jpg"}), Texts{"a.jpg"});
+  place.Photograph("b.jpg");
+  place.Write("notes.gpj", "mine");
+  place.Write("page.gpj", "<HTML></HTML>");
+  std::filesystem::create_symlink("a.jpg", place.Path("link.gpj"));
+  const auto before = FilesBelow(place.Path());
+  for (const char* target : {"a.jpg", "notes.gpj", "page.gpj", "link.gpj", "temp"}) {
+    for (const Texts& command : {Texts{"new", target, "b.jpg"}, Texts{"new", "--force", target, "b.jpg"}}) {
+      const ProcessResult result = place.Run(command);
+      EXPECT_TRUE(EndedWith(1, result)) << target;
+      EXPECT_EQ(result.err, "File Error: \"" + place.Path(target).string() +
+                                "\" exists and is no project, so it is not replaced.\n");
+    }
+  }
+  EXPECT_EQ(FilesBelow(place.Path()), before);
+}
+
+TEST(NewCommand, AnOutputThatIsAnInputIsAWrongCommandLine) {
+  const Workplace place;
+  place.Photograph("a.jpg");
+  std::filesystem::create_hard_link(place.Path("a.jpg"), place.Path("other.jpg"));
+  const auto before = FilesBelow(place.Path());
+  for (const char* target : {"a.jpg", "./home/../a.jpg", "other.jpg"}) {
+    const ProcessResult result = place.Run({"new", "--force", target, "a.jpg"});
+    EXPECT_TRUE(EndedWith(2, result)) << target;
+    EXPECT_EQ(result.err, "vantorium-batch: \"" + std::string(target) + "\" is an input too (see --help)\n");
+  }
+  EXPECT_EQ(FilesBelow(place.Path()), before);
 }
 
 TEST(NewCommand, AProjectThatCannotBeWrittenIsAFailure) {

@@ -72,6 +72,15 @@ TEST_F(Password, IsNeverACommandOfItsOwn) {
   }
 }
 
+TEST_F(Password, OfAClosedStandardInputIsNone) {
+  StartOptions options = FromStandardInput();
+  options.closedStreams = {0};
+  const ProcessResult result = ChildProcess(options).Finish();
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: The password file \"-\" cannot be read.\n");
+  EXPECT_FALSE(fs::exists(place.Path("program/ftplog.txt")));
+}
+
 TEST_F(Password, FileThatCannotBeReadIsAFailureBeforeAnyConnection) {
   place.Write("long", std::string(5000, 'x'));
   for (const char* file : {"missing", "site", "", "long", "/dev/zero"}) {

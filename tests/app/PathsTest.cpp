@@ -30,7 +30,7 @@ TEST(Paths, ARelativePathBeginsAtTheWorkingFolder) {
   const Workplace place;
   place.Photograph("sea/a.jpg");
   for (const char* path : {"sea/a.jpg", "./sea/a.jpg", "home/../sea//a.jpg"}) {
-    ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", path}))) << path;
+    ASSERT_TRUE(Succeeded(place.Run({"new", "--force", "a.gpj", path}))) << path;
     EXPECT_EQ(Sources(place, "a.gpj"), std::vector{place.SourceText("sea/a.jpg")}) << path;
   }
 }
@@ -116,6 +116,28 @@ TEST(Paths, APathOfADriveWithoutAFolderDoesNotExist) {
     EXPECT_TRUE(EndedWith(1, result)) << path;
     EXPECT_NE(result.err.find("does not exist."), std::string::npos) << result.err;
   }
+}
+
+TEST(Paths, PreferencesThatCannotBeReadAreAFailureAndNoOtherPlace) {
+  const Workplace place;
+  place.Project("a.gpj", {"home/a.jpg"});
+  std::filesystem::create_directory(place.Path("program/vantorium.ini"));
+  for (const std::vector<std::string>& command : {std::vector<std::string>{"create", "a.gpj", "C:\\out\\index.htm"},
+                                                  {"create", "a.gpj", "out/index.htm"},
+                                                  {"show", "a.gpj"},
+                                                  {"new", "b.gpj", "home/a.jpg"},
+                                                  {"save", "a.gpj", "b.gpj"},
+                                                  {"preview", "a.gpj"}}) {
+    const ProcessResult result = place.Run(command);
+    EXPECT_TRUE(EndedWith(1, result)) << command[0];
+    EXPECT_EQ(result.out, "") << command[0];
+    EXPECT_EQ(result.err,
+              "File Error: The preferences file cannot be read.  Without it no drive letter has a folder.\n\n" +
+                  place.Path("program/vantorium.ini").string() + ": Invalid argument\n");
+  }
+  EXPECT_FALSE(std::filesystem::exists(place.Path("home/out")));
+  EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
+  EXPECT_FALSE(std::filesystem::exists(place.Path("b.gpj")));
 }
 
 TEST(Paths, ASourceInAProjectMayHaveSlashes) {

@@ -2,6 +2,9 @@
 
 #include <filesystem>
 
+#include <fcntl.h>
+#include <sys/file.h>
+
 namespace vantorium {
 namespace {
 
@@ -78,12 +81,57 @@ TEST(PreviewCommand, WithoutOpenNothingIsOpened) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("opened")));
 }
 
-TEST(PreviewCommand, ADesktopThatCannotOpenIsTold) {
+TEST(PreviewCommand, ADesktopThatCannotOpenIsAFailureThatNamesWhatWasTried) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const ProcessResult result = ChildProcess(WithOpener(place, "exit 3", {"preview", "a.gpj", "--open"})).Finish();
-  EXPECT_EQ(result.err.substr(0, 14), "Error: Error: ") << result.err;
-  EXPECT_EQ(result.out, place.Path("temp/VANTORIUM_TEMP/index.htm").string() + "\n");
+  EXPECT_TRUE(EndedWith(1, result));
+  const std::string index = place.Path("temp/VANTORIUM_TEMP/index.htm").string();
+  EXPECT_EQ(result.err, "Error: Error: 75\n\nNothing could open the preview.\nTried \"xdg-open " + index +
+                            "\": xdg-open ended with the exit code 3\nTried \"gio open " + index +
+                            "\": gio ended with the exit code 3\n");
+  EXPECT_EQ(result.out, index + "\n") << "the preview is made";
+}
+
+TEST(PreviewCommand, TheSecondOpenerIsEnough) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  const std::string script = "case $0 in *xdg-open) exit 3;; esac";
+  const ProcessResult result = ChildProcess(WithOpener(place, script, {"preview", "a.gpj", "--open"})).Finish();
+  EXPECT_TRUE(Succeeded(result));
+  EXPECT_EQ(result.err, "");
+}
+
+TEST(PreviewCommand, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  const auto folder = place.Path("temp/VANTORIUM_TEMP");
+  std::filesystem::create_directory(folder);
+  {
+    const FileDescriptor other(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    ASSERT_EQ(::flock(other.Get(), LOCK_EX), 0);
+    const ProcessResult result = place.Run({"preview", "a.gpj"});
+    EXPECT_TRUE(EndedWith(1, result));
+    EXPECT_EQ(result.err, "Directory Error: Another run is using the temporary folder \"" + folder.string() +
+                              "\".  Please wait for its end, or choose another location.\n");
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+    EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "out/index.htm"}))) << "a run that needs no such folder";
+  }
+  EXPECT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
+}
+
+TEST(PreviewCommand, ALinkInTheTemporaryFolderIsRefused) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  const auto link = place.Path("temp/VANTORIUM_TEMP/images");
+  std::filesystem::create_directories(place.Path("stranger"));
+  std::filesystem::create_directories(link.parent_path());
+  std::filesystem::create_directory_symlink(place.Path("stranger"), link);
+  const ProcessResult result = place.Run({"preview", "a.gpj"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err,
+            "Directory Error: The temporary folder is not used, as \"" + link.string() + "\" is a symbolic link.\n");
+  EXPECT_TRUE(std::filesystem::is_empty(place.Path("stranger")));
 }
 
 }  // namespace

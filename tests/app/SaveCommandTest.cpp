@@ -40,12 +40,25 @@ TEST(SaveCommand, EmptySettingsAreRepaired) {
   EXPECT_EQ(project.at("ThumbnailPreviousLink").at("textLinkGraphicDisabled"), "back.gif");
 }
 
-TEST(SaveCommand, AProjectMayBeSavedOverItself) {
+TEST(SaveCommand, AProjectSavedOverItselfIsAWrongCommandLine) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
+  std::filesystem::create_symlink("a.gpj", place.Path("link.gpj"));
   const std::string before = place.Read("a.gpj");
-  ASSERT_TRUE(Succeeded(place.Run({"save", "a.gpj", "a.gpj"})));
+  for (const char* target : {"a.gpj", "home/../a.gpj", "link.gpj"}) {
+    const ProcessResult result = place.Run({"save", "a.gpj", target});
+    EXPECT_TRUE(EndedWith(2, result)) << target;
+    EXPECT_EQ(result.err, "vantorium-batch: \"" + std::string(target) + "\" is an input too (see --help)\n");
+  }
   EXPECT_EQ(place.Read("a.gpj"), before);
+}
+
+TEST(SaveCommand, AnotherProjectIsReplaced) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  place.Write("b.gpj", "old");
+  ASSERT_TRUE(Succeeded(place.Run({"save", "a.gpj", "b.gpj"})));
+  EXPECT_EQ(place.Read("b.gpj"), place.Read("a.gpj"));
 }
 
 TEST(SaveCommand, AnInvalidProjectIsNotSaved) {

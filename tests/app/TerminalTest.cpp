@@ -139,5 +139,85 @@ TEST(Terminal, OnANarrowTerminalTheCountStaysWholeAndTheLineIsCut) {
   EXPECT_EQ(CountOf(result.err, R"(\r[ 0-9][^\r\x1b]{39})"), 0U) << result.err;
 }
 
+TEST(Terminal, ControlCharactersOfANameReachItEscaped) {
+  const Workplace place;
+  const std::string name =
+      "a\x7F\xC2\x9B"
+      "2J.jpg";
+  place.Project("a.gpj", {name});
+  const std::string harmless = "a\\u007F\\u009B2J.jpg";
+  const ProcessResult run = place.Run({"create", "a.gpj", "out/index.htm", "--verbose"});
+  EXPECT_NE(run.err.find("Copying File \"" + harmless + "\"...\n"), std::string::npos) << run.err;
+  for (const char* argument : {"\x1B]0;x\a", "a\r\x9B"}) {
+    const ProcessResult result = place.Run({"show", argument, "--quiet"});
+    EXPECT_EQ(result.err.find_first_of("\x1B\a\r\x9B"), std::string::npos) << testing::PrintToString(result.err);
+    EXPECT_NE(result.err.find("\\u00"), std::string::npos) << result.err;
+  }
+  EXPECT_NE(place.Run({"\x1B[2J"}).err.find("\\u001B[2J"), std::string::npos);
+}
+
+TEST(Terminal, LettersOfAllLanguagesStayAsTheyAre) {
+  const Workplace place;
+  const std::string name = "Übersicht 写真 🌊.jpg";
+  place.Project("a.gpj", {name});
+  const ProcessResult result = place.Run({"create", "a.gpj", "out/index.htm", "--verbose"});
+  EXPECT_NE(result.err.find("Copying File \"" + name + "\"...\n"), std::string::npos) << result.err;
+}
+
+TEST(Terminal, ErrorOutputThatIsLostDecidesNothing) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "whole/index.htm"})));
+  for (const std::vector<int>& closed : {std::vector<int>{2}, {1, 2}, {0, 1, 2}}) {
+    std::filesystem::remove_all(place.Path("out"));
+    StartOptions options = place.Options({"create", "a.gpj", "out/index.htm", "--verbose"});
+    options.closedStreams = closed;
+    EXPECT_TRUE(Succeeded(ChildProcess(options).Finish())) << closed.size();
+    EXPECT_TRUE(SameFiles(place.Path("out"), place.Path("whole"))) << closed.size();
+  }
+}
+
+TEST(Terminal, OneThatGoesAwayCancelsTheRun) {
+  const Workplace place;
+  place.SlowProject("a.gpj");
+  ChildProcess program(OnTerminal(place, {"create", "a.gpj", "out/index.htm"}));
+  program.WaitForError("Copying File");
+  program.HangUp();
+  EXPECT_TRUE(EndedWith(130, program.Finish()));
+  EXPECT_EQ(ListingOf(place.Path("out")).find(".vantorium-"), std::string::npos);
+}
+
+TEST(Terminal, ARunThatIsToOutliveItGoesOnWhenItGoesAway) {
+  const Workplace place;
+  place.LargeProject("a.gpj", 60);
+  place.Replace("a.gpj", "HEIGHT=\"300\"", "HEIGHT=\"900\"");
+  StartOptions options = OnTerminal(place, {"create", "a.gpj", "out/index.htm", "--verbose"});
+  options.outlivesTerminal = true;
+  ChildProcess program(options);
+  program.WaitForError("Copying File");
+  program.HangUp();
+  EXPECT_TRUE(EndedWith(0, program.Finish()));
+  EXPECT_TRUE(std::filesystem::exists(place.Path("out/many.jpg_59.htm")));
+}
+
+TEST(Terminal, AResultThatCannotBeWrittenIsAFailure) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  for (const std::vector<std::string>& command : {std::vector<std::string>{"show", "a.gpj"},
+                                                  {"preview", "a.gpj"},
+                                                  {"--help"},
+                                                  {"create", "--help"},
+                                                  {"--version"}}) {
+    StartOptions full = place.Options(command);
+    full.standardOutput = "/dev/full";
+    const ProcessResult result = ChildProcess(full).Finish();
+    EXPECT_TRUE(EndedWith(1, result)) << command[0];
+    EXPECT_EQ(result.err, "vantorium-batch: The output cannot be written: No space left on device\n") << command[0];
+    StartOptions closed = place.Options(command);
+    closed.closedStreams = {1};
+    EXPECT_TRUE(EndedWith(1, ChildProcess(closed).Finish())) << command[0];
+  }
+}
+
 }  // namespace
 }  // namespace vantorium

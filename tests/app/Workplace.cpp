@@ -78,14 +78,14 @@ fs::path Workplace::Photograph(const fs::path& name, int width, int height) cons
 }
 
 void Workplace::Project(const fs::path& name, const std::vector<std::string>& photographs) const {
-  std::vector<std::string> arguments = {"new", Path(name).string()};
+  std::vector<std::string> arguments = {"new", "--force", Path(name).string()};
   for (const std::string& photograph : photographs) arguments.push_back(Photograph(photograph).string());
   ASSERT_TRUE(Succeeded(Run(arguments)));
 }
 
 void Workplace::LargeProject(const fs::path& name, std::size_t images, int width, int height) const {
-  std::vector<std::string> arguments = {"new", Path(name).string()};
-  arguments.resize(images + 2, Photograph("many.jpg", width, height).string());
+  std::vector<std::string> arguments = {"new", "--force", Path(name).string()};
+  arguments.resize(images + 3, Photograph("many.jpg", width, height).string());
   ASSERT_TRUE(Succeeded(Run(arguments)));
 }
 

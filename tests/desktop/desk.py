@@ -80,7 +80,7 @@ class Desk:
         return finished.stdout
 
     def make_project(self, name, *photographs):
-        self.batch("new", self.path(name), *[self.path(photograph) for photograph in photographs])
+        self.batch("new", "--force", self.path(name), *[self.path(photograph) for photograph in photographs])
 
     def show(self, name):
         return json.loads(self.batch("show", self.path(name)))

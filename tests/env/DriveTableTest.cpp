@@ -37,11 +37,28 @@ TEST(DriveTable, AFolderWithANulIsPassedOver) {
   EXPECT_EQ(DrivesOf("[DRIVES]\nC=\"/a" + std::string(1, 0) + "/b\"\nD=\"/c\"\n"), (Drives{{'D', "/c"}}));
 }
 
-TEST(DriveTable, AFileThatCannotBeReadHasNoDrives) {
+std::string FolderOfC(const PathMap& paths) {
+  return paths.ToNative("C:\\a").value_or("none").string();
+}
+
+TEST(DriveTable, AFileNamesTheDrives) {
   const fakes::TemporaryFolder folder;
-  EXPECT_EQ(ReadDriveTable(folder.Path() / "none"), Drives());
-  EXPECT_EQ(ReadDriveTable(folder.Path()), Drives());
-  EXPECT_EQ(ReadDriveTable(folder.Write("vantorium.ini", "[DRIVES]\nC=\"/home/me\"\n")), (Drives{{'C', "/home/me"}}));
+  const auto file = folder.Write("vantorium.ini", "[DRIVES]\nC=\"/srv\"\n");
+  EXPECT_EQ(FolderOfC(ReadPathMap(file, "/home/me")), "/srv/a");
+}
+
+TEST(DriveTable, WithoutAFileOrItsSectionTheDrivesAreTheUsualOnes) {
+  const fakes::TemporaryFolder folder;
+  EXPECT_EQ(FolderOfC(ReadPathMap(folder.Path() / "none", "/home/me")), "/home/me/a");
+  EXPECT_EQ(FolderOfC(ReadPathMap(folder.Write("vantorium.ini", "[FOLDERS]\n"), "/home/me")), "/home/me/a");
+}
+
+TEST(DriveTable, AFileThatIsThereAndCannotBeReadGivesNoLetterAFolder) {
+  const fakes::TemporaryFolder folder;
+  const PathMap paths = ReadPathMap(folder.Path(), "/home/me");
+  for (const char* path : {"C:\\a", "Z:\\a", "C:", "Z:"}) EXPECT_EQ(paths.ToNative(path), std::nullopt) << path;
+  EXPECT_EQ(paths.ToNative("\\a"), "/a");
+  EXPECT_EQ(paths.ToText("/home/me/a"), "\\home\\me\\a");
 }
 
 }  // namespace

@@ -82,6 +82,26 @@ TEST(FileCopy, WhatIsNoFileCannotBeCopied) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"pipe"});
 }
 
+TEST(FileCopy, AReplacedFileKeepsItsPermissions) {
+  const fakes::TemporaryFolder folder;
+  const auto source = folder.Write("a.jpg", "new");
+  const auto target = folder.Write("b.jpg", "old");
+  fs::permissions(source, fs::perms(0644));
+  fs::permissions(target, fs::perms(0600));
+  CopyFileWhole(source, target, true);
+  EXPECT_EQ(folder.Read("b.jpg"), "new");
+  EXPECT_EQ(fs::status(target).permissions(), fs::perms(0600));
+}
+
+TEST(FileCopy, WhatIsNoRegularFileIsNoTarget) {
+  const fakes::TemporaryFolder folder;
+  const auto source = folder.Write("a.jpg", "new");
+  const auto pipe = folder.Path() / "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(FailureOf([&] { CopyFileWhole(source, pipe, true); }), FailureKind::FileAccess);
+  EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
 TEST(FileCopy, AFullDiskLeavesTheOldTarget) {
   const fakes::TemporaryFolder folder;
   const auto source = folder.Write("a.jpg", std::string(5000, 'x'));

@@ -1,8 +1,13 @@
+#include "env/FileDescriptor.h"
 #include "env/FileOutput.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/FolderNames.h"
 #include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 
 namespace vantorium {
 namespace {
@@ -13,9 +18,9 @@ using fakes::NamesIn;
 
 TEST(FileOutput, TheTargetHoldsTheBytes) {
   const fakes::TemporaryFolder folder;
-  for (const Durability durability : {Durability::Cached, Durability::Synced}) {
+  for (const auto write : {WriteFileWhole, WriteKeptFile}) {
     for (const std::string& bytes : {std::string(), std::string("a\0b\r\n", 5), std::string(3'000'000, 'x')}) {
-      WriteFileWhole(folder.Path() / "a.htm", bytes, durability);
+      write(folder.Path() / "a.htm", bytes);
       EXPECT_TRUE(folder.Read("a.htm") == bytes) << bytes.size();
     }
   }
@@ -93,6 +98,61 @@ TEST(FileOutput, ALinkIsReplacedAndNotWhatItPointsTo) {
   WriteFileWhole(folder.Path() / "a.htm", "new");
   EXPECT_EQ(folder.Read("other"), "kept");
   EXPECT_EQ(folder.Read("a.htm"), "new");
+}
+
+TEST(FileOutput, AKeptFileIsWrittenThroughItsLinks) {
+  const fakes::TemporaryFolder folder;
+  folder.Write("real/a.ini", "old");
+  fs::create_symlink("real/a.ini", folder.Path() / "one");
+  fs::create_symlink("one", folder.Path() / "two");
+  fs::create_symlink("real/new.ini", folder.Path() / "dangling");
+  WriteKeptFile(folder.Path() / "two", "new");
+  WriteKeptFile(folder.Path() / "dangling", "made");
+  for (const char* link : {"one", "two", "dangling"}) EXPECT_TRUE(fs::is_symlink(folder.Path() / link)) << link;
+  EXPECT_EQ(folder.Read("real/a.ini"), "new");
+  EXPECT_EQ(folder.Read("real/new.ini"), "made");
+  EXPECT_EQ(NamesIn(folder.Path() / "real"), (std::vector<std::string>{"a.ini", "new.ini"}));
+}
+
+TEST(FileOutput, WhatIsNoRegularFileIsNotReplaced) {
+  const fakes::TemporaryFolder folder;
+  const auto pipe = folder.Path() / "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+  sockaddr_un address = {};
+  address.sun_family = AF_UNIX;
+  (folder.Path() / "socket").string().copy(address.sun_path, sizeof address.sun_path - 1);
+  ASSERT_EQ(::bind(socket.Get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  fs::create_symlink("pipe", folder.Path() / "link");
+  fs::create_directory(folder.Path() / "sub");
+  for (const char* name : {"pipe", "socket", "sub"}) {
+    EXPECT_EQ(FailureOf([&] { WriteFileWhole(folder.Path() / name, "x"); }), FailureKind::FileAccess) << name;
+    EXPECT_EQ(FailureOf([&] { WriteKeptFile(folder.Path() / name, "x"); }), FailureKind::FileAccess) << name;
+  }
+  EXPECT_EQ(FailureOf([&] { WriteKeptFile(folder.Path() / "link", "x"); }), FailureKind::FileAccess);
+  EXPECT_EQ(FailureOf([&] { WriteKeptFile("/dev/null", "x"); }), FailureKind::FileAccess);
+  EXPECT_TRUE(fs::is_fifo(pipe));
+  EXPECT_TRUE(fs::is_socket(folder.Path() / "socket"));
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+  EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"link", "pipe", "socket", "sub"}));
+}
+
+TEST(FileOutput, OwnerGroupAndPermissionsOfTheOldFileStay) {
+  const bool isRoot = ::geteuid() == 0;  // who alone may give files away
+  const uid_t owner = isRoot ? 1234 : ::geteuid();
+  const gid_t group = isRoot ? 2345 : ::getegid();
+  const fakes::TemporaryFolder folder;
+  const auto target = folder.Write("vantorium.ini", "old");
+  ASSERT_EQ(::chown(target.c_str(), owner, group), 0);
+  fs::permissions(target, fs::perms(0640));
+  for (const auto write : {WriteFileWhole, WriteKeptFile}) {
+    write(target, "new");
+    struct stat status = {};
+    ASSERT_EQ(::stat(target.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, owner);
+    EXPECT_EQ(status.st_gid, group);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  }
 }
 
 TEST(FileOutput, AReaderOfTheOldFileKeepsIt) {

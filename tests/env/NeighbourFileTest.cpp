@@ -5,6 +5,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 namespace vantorium {
@@ -102,6 +103,55 @@ TEST(NeighbourFile, AProcessKilledWhileWritingCostsNoOldFile) {
   ASSERT_EQ(::waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFSIGNALED(status));
   EXPECT_EQ(folder.Read("a.jpg"), "old");
+}
+
+/// The number of a process that has ended.
+pid_t DeadProcess() {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(0);
+  ::waitpid(child, nullptr, 0);
+  return child;
+}
+
+TEST(NeighbourFile, WhatProcessesThatAreGoneLeftIsRemovedAndNothingElse) {
+  const fakes::TemporaryFolder folder;
+  const std::string dead = std::to_string(DeadProcess());
+  const std::string abandoned = ".vantorium-" + dead + "-";
+  folder.Write(abandoned + "0", "half");
+  folder.Write(abandoned + "17", "");
+  const std::vector<std::string> kept = {".vantorium-" + std::to_string(::getpid()) + "-99999",
+                                         ".vantorium-1-0",
+                                         abandoned,
+                                         abandoned + "x",
+                                         abandoned + "0x",
+                                         abandoned + "0-1",
+                                         abandoned + "-1",
+                                         ".vantorium-" + dead,
+                                         ".vantorium--" + dead + "-0",
+                                         ".vantorium-0-0",
+                                         ".vantorium-99999999999999999999-0",
+                                         "x" + abandoned + "0",
+                                         "vantorium-" + dead + "-0"};
+  for (const std::string& name : kept) folder.Write(name, "kept");
+  fs::create_directory(folder.Path() / (abandoned + "1"));
+  fs::create_symlink("nowhere", folder.Path() / (abandoned + "2"));
+  RemoveAbandonedNeighbours(folder.Path());
+  for (const std::string& name : kept) EXPECT_TRUE(fs::exists(folder.Path() / name)) << name;
+  EXPECT_EQ(NamesIn(folder.Path()).size(), kept.size() + 2);
+  RemoveAbandonedNeighbours(folder.Path() / "none");
+}
+
+TEST(NeighbourFile, AFileThatAppearsAsAPipeIsNotReplaced) {
+  const fakes::TemporaryFolder folder;
+  const auto target = folder.Path() / "a.jpg";
+  {
+    NeighbourFile file(target);
+    file.Write("new");
+    ASSERT_EQ(::mkfifo(target.c_str(), 0600), 0);
+    EXPECT_EQ(FailureOf([&] { file.TakeTargetName(); }), FailureKind::FileAccess);
+  }
+  EXPECT_TRUE(fs::is_fifo(target));
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
 }
 
 TEST(NeighbourFile, TheFailureNamesFileAndReason) {

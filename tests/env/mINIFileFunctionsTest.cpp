@@ -86,6 +86,14 @@ TEST_F(mINIFileFunctionsTest, AFailedWriteLeavesTheFile) {
   EXPECT_EQ(fakes::NamesIn(folder.Path()), std::vector<std::string>{"vantorium.ini"});
 }
 
+TEST_F(mINIFileFunctionsTest, ALinkStaysAndTheFileBehindItIsWritten) {
+  folder.Write("kept/real.ini", "[A]\r\nx=\"1\"\r\n");
+  fs::create_symlink("kept/real.ini", file);
+  WriteINIString("A", "x", "2", file);
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_EQ(folder.Read("kept/real.ini"), "[A]\r\nx=\"2\"\r\n");
+}
+
 TEST_F(mINIFileFunctionsTest, AFileThatCannotBeReadIsNotReplaced) {
   fs::create_directory(file);
   EXPECT_EQ(FailureOfWriting("A", "x", "1"), FailureKind::Preferences);

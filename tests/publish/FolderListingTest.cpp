@@ -62,6 +62,14 @@ TEST_F(AListing, WhatIsNeitherFileNorFolderIsLeftOut) {
   EXPECT_TRUE(listing.complete);
 }
 
+TEST_F(AListing, WhatARunHasNotFinishedIsLeftOut) {
+  folder.Write(".vantorium-1234567-0", "half");
+  folder.Write(".vantorium-1-17", "half");
+  folder.Write(".vantorium-mine", "x");
+  fs::create_directory(folder.Path() / ".vantorium-1-18");
+  EXPECT_EQ(List().entries, (Entries{{".vantorium-1-18", EntryKind::Folder}, {".vantorium-mine", EntryKind::File}}));
+}
+
 TEST_F(AListing, OfAnEmptyFolderIsCompleteAndEmpty) {
   const FolderListing listing = List();
   EXPECT_TRUE(listing.complete);

@@ -60,6 +60,15 @@ TEST_F(ServerListFile, TakesThePlaceOfTheOldOneWithAllThatWasInIt) {
   EXPECT_EQ(Text(), "[PUBLISH]\r\nServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n");
 }
 
+TEST_F(ServerListFile, IsWrittenThroughALink) {
+  program.Write("kept/servers", "old");
+  std::filesystem::create_directories(File().parent_path());
+  std::filesystem::create_symlink(program.Path() / "kept/servers", File());
+  WriteServerList({}, std::nullopt, File());
+  EXPECT_TRUE(std::filesystem::is_symlink(File()));
+  EXPECT_EQ(program.Read("kept/servers"), "[PUBLISH]\r\nServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n");
+}
+
 TEST_F(ServerListFile, GetsItsFolderWhenThatIsMissing) {
   WriteServerList({kFirst}, 0, program.Path() / "not/yet/vantorium.pub");
   EXPECT_EQ(ServerListValues(program.Path() / "not/yet/vantorium.pub").Text("ServerName1"), "Home");

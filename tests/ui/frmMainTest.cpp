@@ -122,6 +122,21 @@ TEST_F(MainWindow, ListsTheBrowsersOfThePreferences) {
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuActionsView"))[2], "...in One");
 }
 
+TEST_F(MainWindow, PreferencesThatCannotBeReadAreToldOnceAtTheStart) {
+  desk.Start();
+  EXPECT_TRUE(desk.boxes.boxes.empty());
+  const auto file = desk.folder.Path() / "program/vantorium.ini";
+  std::filesystem::create_directories(file);
+  desk.Start();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
+  EXPECT_EQ(desk.boxes.boxes[0].text,
+            "The preferences file cannot be read.  Without it no drive letter has a folder.\r\r" + file.string() +
+                ": Invalid argument");
+  EXPECT_TRUE(desk.window->isVisible());
+}
+
 TEST_F(MainWindow, OpensTheProjectOfTheCommandLine) {
   desk.Start();
   ChangeTitle("Ferien");

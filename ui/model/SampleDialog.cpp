@@ -1,6 +1,7 @@
 #include "ui/model/SampleDialog.h"
 
 #include "env/RuntimeFailure.h"
+#include "env/TempFolderLock.h"
 #include "image/JPEG.h"
 
 namespace vantorium {
@@ -41,7 +42,7 @@ std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
 
 bool SampleDialog::Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const {
   const auto file = ports_.paths.ToNative(TempFile());
-  if (!file) return false;
+  if (!file || !RefusalOfTempFolder(file->parent_path()).empty()) return false;
   try {
     SaveJPEGImage(picture, *file, quality);
   } catch (const RuntimeFailure&) {

@@ -206,6 +206,45 @@ TEST_F(CreateGalleryTest, AnEmptyPlaceOfTheTemporaryFolderBecomesTheProgramsFold
   EXPECT_EQ(FilesIn("program/VANTORIUM_TEMP").count("index.htm"), 1U);
 }
 
+TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
+  AddPhotograph("a");
+  const auto place = folder.Path() / "place/VANTORIUM_TEMP";
+  std::filesystem::create_directories(place);
+  {
+    const TempFolderLock other(place);
+    EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::NotStarted);
+    host.choice.option = CreateChoice::Option::Publish;
+    EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
+    ASSERT_EQ(boxes.boxes.size(), 2U);
+    for (const auto& shown : boxes.boxes) {
+      EXPECT_EQ(shown.title, "Directory Error");
+      EXPECT_EQ(shown.text, "Another run is using the temporary folder \"" + place.string() +
+                                "\".  Please wait for its end, or choose another location.");
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(place));
+    host.choice.option = CreateChoice::Option::CreateGallery;
+    EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success) << "it makes nothing there";
+  }
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
+}
+
+TEST_F(CreateGalleryTest, ARunGivesTheTemporaryFolderBackAtItsEnd) {
+  AddPhotograph("a");
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
+  EXPECT_FALSE(TempFolderLock(folder.Path() / "place/VANTORIUM_TEMP").IsTakenElsewhere());
+}
+
+TEST_F(CreateGalleryTest, ALinkInTheTemporaryFolderIsRefused) {
+  AddPhotograph("a");
+  std::filesystem::create_directories(folder.Path() / "place/VANTORIUM_TEMP");
+  std::filesystem::create_directory(folder.Path() / "stranger");
+  std::filesystem::create_directory_symlink(folder.Path() / "stranger", folder.Path() / "place/VANTORIUM_TEMP/thumbs");
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::NotStarted);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_NE(boxes.boxes[0].text.find("thumbs\" is a symbolic link."), std::string::npos) << boxes.boxes[0].text;
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path() / "stranger"));
+}
+
 TEST_F(CreateGalleryTest, ACancelOfAnEarlierRunIsForgotten) {
   AddPhotograph("a");
   CancelInTurn(2);

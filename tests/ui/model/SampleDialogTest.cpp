@@ -99,6 +99,18 @@ TEST_F(SampleDialogs, APictureGoesThroughAFileInTheTemporaryFolder) {
   EXPECT_NE(fakes::BytesOf(coarse), fakes::BytesOf(fine));
 }
 
+TEST_F(SampleDialogs, ATemporaryFolderThatIsALinkIsNotWrittenTo) {
+  const auto place = desk.paths.ToNative(desk.TempFolderLocation() + "\\VANTORIUM_TEMP").value_or("");
+  const auto stranger = desk.folder.Path() / "stranger";
+  std::filesystem::remove_all(place);
+  std::filesystem::create_directory(stranger);
+  std::filesystem::create_directory_symlink(stranger, place);
+  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  cDIBSection result;
+  EXPECT_FALSE(SampleDialog({"", {}, desk.TempFolderLocation()}, desk.Ports(), box).Compress(picture, 85, result));
+  EXPECT_TRUE(std::filesystem::is_empty(stranger));
+}
+
 TEST_F(SampleDialogs, ATemporaryFolderThatIsNoneFails) {
   desk.folder.Write("file", "");
   const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);

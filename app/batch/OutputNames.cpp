@@ -1,0 +1,61 @@
+#include "app/batch/OutputNames.h"
+
+#include "core/XmlNode.h"
+#include "core/XmlSyntax.h"
+#include "env/FileInput.h"
+#include "env/PathText.h"
+#include "env/RuntimeFailure.h"
+
+namespace fs = std::filesystem;
+
+namespace vantorium {
+namespace {
+
+std::string Quoted(const std::string& path, const PathMap& paths) {
+  const auto native = paths.ToNative(path);
+  return "\"" + (native ? native->string() : path) + "\"";
+}
+
+fs::file_status StatusOf(const std::string& path, const PathMap& paths) {
+  const auto native = paths.ToNative(path);
+  std::error_code error;
+  return native ? fs::status(*native, error) : fs::file_status();
+}
+
+bool IsProject(const fs::path& file) {
+  try {
+    XmlFile xml;
+    return xml.Parse(ReadFileWhole(file, kLargestXmlFile)) && std::string_view(xml.Root().name()) == "GALLERYPROJECT";
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool IsSameFile(const std::string& one, const std::string& other, const PathMap& paths) {
+  const auto first = paths.ToNative(one);
+  const auto second = paths.ToNative(other);
+  std::error_code error;  // one of them is not there
+  return first && second && fs::equivalent(*first, *second, error);
+}
+
+std::string RefusalOfNewProject(const std::string& file, bool force, const PathMap& paths) {
+  if (!fs::exists(StatusOf(file, paths))) return {};
+  const std::string exists = Quoted(file, paths) + " exists";
+  if (!IsProject(paths.ToNative(file).value_or(""))) return exists + " and is no project, so it is not replaced.";
+  return force ? "" : exists + ".  It is replaced only with --force.";
+}
+
+std::string IndexFileOf(const std::string& path, const PathMap& paths) {
+  const bool isFolder = path.ends_with('\\') || fs::is_directory(StatusOf(path, paths));
+  return isFolder ? WithTrailingBackslash(path) + "index.htm" : path;
+}
+
+std::string RefusalOfIndexFile(const std::string& path, const PathMap& paths) {
+  const fs::file_status status = StatusOf(path, paths);
+  if (!fs::exists(status) || fs::is_regular_file(status)) return {};
+  return Quoted(path, paths) + " cannot be the index file, as it is there and is no file.";
+}
+
+}  // namespace vantorium

@@ -1,0 +1,30 @@
+#include "env/FileDescriptor.h"
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace vantorium {
+
+bool FileDescriptor::Close() {
+  const int descriptor = std::exchange(descriptor_, -1);
+  // A signal comes in the way of the waiting only: the file is closed, and its number may already be another's.
+  return descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR;
+}
+
+bool WriteAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written > 0) {
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    } else if (written == 0) {
+      errno = EIO;  // a device that takes nothing would be asked for ever
+      return false;
+    } else if (errno != EINTR) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,23 @@
+#include "env/OpenFolder.h"
+
+#include <unistd.h>
+
+namespace vantorium {
+
+OpenFolder::OpenFolder(int folder) : listing_(folder >= 0 ? ::fdopendir(folder) : nullptr) {
+  if (listing_ == nullptr && folder >= 0) ::close(folder);
+}
+
+OpenFolder::~OpenFolder() {
+  if (listing_ != nullptr) ::closedir(listing_);
+}
+
+std::optional<std::string> OpenFolder::Next() {
+  while (const dirent* entry = ::readdir(listing_)) {
+    const std::string name = entry->d_name;
+    if (name != "." && name != "..") return name;
+  }
+  return std::nullopt;
+}
+
+}  // namespace vantorium
