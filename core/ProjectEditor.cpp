@@ -12,13 +12,15 @@ namespace {
 
 using Project = GalleryProject;
 
-/// The text of a Digits field after an edit: the bound in place of a number below it.
+/// The text of a Digits field after an edit: the bound in place of a number beyond it.
 std::string Clamped(std::string Project::*field, std::string value) {
   const auto number = ParseNumber(value);
   if (field == &Project::textPageLinksThumbnailMaxDirectLinks && !number) return {};
   const auto& range = FieldOf(field).range;
-  if (!number || !range || !range->lowerBound || *number >= *range->lowerBound) return value;
-  return std::to_string(*range->lowerBound);
+  if (!number || !range) return value;
+  if (range->lowerBound && *number < *range->lowerBound) return std::to_string(*range->lowerBound);
+  if (range->upperBound && *number > *range->upperBound) return std::to_string(*range->upperBound);
+  return value;
 }
 
 void RepairEmpty(std::string& field, const char* value, bool& modified) {
@@ -77,7 +79,7 @@ void ProjectEditor::FrameSizeEdited() {
   std::string& size = project_.textGalleryFrameSize;
   if (size.empty()) return;
   if (project_.checkGalleryFrameSizeInPercent == 1 && ParseNumber(size).value_or(0) > 99) size = "99";
-  const std::int16_t pixelsOrPercent = ParseInt16(size);
+  const std::int32_t pixelsOrPercent = ParseInt32(size);
   (project_.comboGalleryFrameSizingPriority == 0 ? project_.ThumbnailFrameSize : project_.ImageFrameSize) =
       pixelsOrPercent;
 }
