@@ -31,6 +31,7 @@ bool Load(XmlFile& file, const PathMap& paths, const std::string& path) {
 bool ProjectFileReader::ReadProjectFile(const std::string& path) {
   status_.SetStatusText(fmt::format("Reading Project File \"{}\"...", path));
   status_.ShowWaitPointer();
+  events_.Turn();
   ResetToDefaults(project_.settings, project_.UntitledName());
   bool modified = false;  // the edits of a reading are none of the user's
   ProjectEditor editor(project_.settings, modified);
@@ -63,6 +64,7 @@ ReadResult ProjectFileReader::ReadInto(ProjectEditor& editor, const std::string&
   if (!Load(file, paths_, path) || std::string_view(file.Root().name()) != "GALLERYPROJECT") {
     return ReadResult::NoProject;
   }
+  events_.Turn();
   const pugi::xml_node gallery = file.Root().child("GALLERY");
   return gallery ? ReadGallery(gallery, editor) : ReadResult::NoGallery;
 }
@@ -74,7 +76,7 @@ ReadResult ProjectFileReader::ReadGallery(pugi::xml_node gallery, ProjectEditor&
   if (result != ReadResult::Complete) return result;
   editor.Set(&GalleryProject::GalleryHeadCode, MultilineText(gallery.child("HEAD")));
 
-  if (const pugi::xml_node images = gallery.child("IMAGES")) result = ReadImages(images, editor, images_);
+  if (const pugi::xml_node images = gallery.child("IMAGES")) result = ReadImages(images, editor, images_, events_);
   if (result != ReadResult::Complete) return result;
   if (const pugi::xml_node thumbnails = gallery.child("THUMBNAILS")) {
     result = ReadThumbnails(thumbnails, editor, project_.images, events_);

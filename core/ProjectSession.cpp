@@ -177,7 +177,7 @@ bool ProjectSession::WriteTitled() {
 bool ProjectSession::Write(const std::string& path) {
   ports_.host.ShowInfoWindow("Please wait... Writing Project File.");
   ports_.host.EnableMainWindow(false);
-  const bool written = ProjectFileWriter(project_, ports_.paths, ports_.host).WriteProjectFile(path);
+  const bool written = ProjectFileWriter(project_, ports_.paths, ports_.host, ports_.events).WriteProjectFile(path);
   if (!written) ShowFileError(ports_.boxes, "An error occurred while saving the Gallery Project.");
   ports_.host.EnableMainWindow(true);
   ports_.host.HideInfoWindow();
