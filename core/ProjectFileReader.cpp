@@ -7,6 +7,7 @@
 #include "env/RuntimeFailure.h"
 
 #include <new>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -16,11 +17,13 @@ namespace {
 constexpr char kProgramTitle[] = "Vantorium";
 
 /// False for a file that can't be read, or is no XML document.
-bool Load(XmlFile& file, const PathMap& paths, const std::string& path) {
+bool Load(XmlFile& file, const PathMap& paths, const std::string& path, EventLoop& events) {
   const auto native = paths.ToNative(path);
   if (!native) return false;
   try {
-    return file.Parse(ReadFileWhole(*native, kLargestXmlFile));
+    std::string bytes = ReadFileWhole(*native, kLargestXmlFile);
+    events.Turn();
+    return file.Parse(std::move(bytes));
   } catch (const RuntimeFailure&) {
     return false;
   }
@@ -61,7 +64,7 @@ void ProjectFileReader::ReportInvalidProjectFile(const std::string& path, const 
 
 ReadResult ProjectFileReader::ReadInto(ProjectEditor& editor, const std::string& path) {
   XmlFile file;
-  if (!Load(file, paths_, path) || std::string_view(file.Root().name()) != "GALLERYPROJECT") {
+  if (!Load(file, paths_, path, events_) || std::string_view(file.Root().name()) != "GALLERYPROJECT") {
     return ReadResult::NoProject;
   }
   events_.Turn();

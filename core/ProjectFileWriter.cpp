@@ -105,7 +105,9 @@ bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
   bool written = false;
   try {
     if (const auto native = paths_.ToNative(path)) {
-      WriteFileWhole(BehindLinks(*native), ProjectFileText(project_, events_), Durability::Synced);
+      const std::string text = ProjectFileText(project_, events_);
+      events_.Turn();
+      WriteFileWhole(BehindLinks(*native), text, Durability::Synced);
       written = true;
     }
   } catch (const std::exception&) {
