@@ -36,8 +36,8 @@ struct GalleryProject {
   Flag checkGalleryFrameSizeInPercent = 0;
   Digits textGalleryFrameSize = "200";         ///< pixels, or percent
   Choice comboGalleryFrameSizingPriority = 0;  ///< the frame that is given its size: 0 thumbnails, 1 image
-  std::int16_t ThumbnailFrameSize = 200;       ///< what textGalleryFrameSize last stored here
-  std::int16_t ImageFrameSize = 0;
+  std::int32_t ThumbnailFrameSize = 200;       ///< what textGalleryFrameSize last stored here
+  std::int32_t ImageFrameSize = 0;
   Flag checkGalleryFramesResizable = 0;
   Flag checkGalleryFramesDisplayBorders = 0;
   std::string textThumbnailFrameName = "thumb_frame";

@@ -28,8 +28,10 @@ std::string Clamped(std::string Project::*field, std::string value) {
   const auto number = ParseNumber(value);
   if (field == &Project::textPageLinksThumbnailMaxDirectLinks && !number) return {};
   const auto& range = FieldOf(field).range;
-  if (!number || !range || !range->lowerBound || *number >= *range->lowerBound) return value;
-  return std::to_string(*range->lowerBound);
+  if (!number || !range) return value;
+  if (range->lowerBound && *number < *range->lowerBound) return std::to_string(*range->lowerBound);
+  if (range->upperBound && *number > *range->upperBound) return std::to_string(*range->upperBound);
+  return value;
 }
 
 void ProjectEditor::Set(std::string Project::*field, std::string value) {
@@ -76,7 +78,7 @@ void ProjectEditor::FrameSizeEdited() {
   std::string& size = project_.textGalleryFrameSize;
   if (size.empty()) return;
   if (project_.checkGalleryFrameSizeInPercent == 1 && ParseNumber(size).value_or(0) > 99) size = "99";
-  const std::int16_t pixelsOrPercent = ParseInt16(size);
+  const std::int32_t pixelsOrPercent = ParseInt32(size);
   (project_.comboGalleryFrameSizingPriority == 0 ? project_.ThumbnailFrameSize : project_.ImageFrameSize) =
       pixelsOrPercent;
 }

@@ -11,8 +11,8 @@ class ProjectEditor {
  public:
   ProjectEditor(GalleryProject& project, bool& modified) : project_(project), modified_(modified) {}
 
-  /// A text or a Digits field. A Digits text below its bound becomes the bound; an empty one stays empty. Throws
-  /// RuntimeFailure TypeMismatch or Overflow for a frame size that is no 16-bit number, and then nothing is changed.
+  /// A text or a Digits field. A Digits text beyond one of its bounds becomes the bound; an empty one stays empty.
+  /// Throws RuntimeFailure TypeMismatch for a frame size that is no number, and then nothing is changed.
   void Set(std::string GalleryProject::*field, std::string value);
   /// A Flag or a Choice.
   void Set(std::int16_t GalleryProject::*field, std::int16_t value);

@@ -11,18 +11,21 @@ namespace vantorium {
 
 enum class FieldKind { Text, Digits, Flag, Choice, Colour, Size, Record };
 
-/// The numbers of a Digits field: where its spinner stops, and the bound below which an edit becomes the bound itself.
+/// The numbers of a Digits field: where its spinner stops, and the bounds below and above which an edit becomes the
+/// bound itself.
 struct DigitsRange {
   std::int32_t spinnerMinimum;
   std::int32_t spinnerMaximum;
   std::optional<std::int32_t> lowerBound;
+  std::optional<std::int32_t> upperBound;
 };
 
 using ValueList = std::span<const std::string_view>;
 
-using FieldMember = std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*,
-                                 Colour GalleryProject::*, ImageFilterSettings GalleryProject::*,
-                                 WatermarkSettings GalleryProject::*, LinkSettings GalleryProject::*>;
+using FieldMember =
+    std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*, std::int32_t GalleryProject::*,
+                 Colour GalleryProject::*, ImageFilterSettings GalleryProject::*, WatermarkSettings GalleryProject::*,
+                 LinkSettings GalleryProject::*>;
 
 /// One field of GalleryProject. The alignment lists of captions and descriptions depend on the placement; `values` then
 /// is the list for a placement left or right.

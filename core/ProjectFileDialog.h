@@ -14,7 +14,7 @@ class ProjectFileDialog {
     std::string title;
     std::string filter;  ///< pairs of a description and a pattern, all between "|"
     std::string defaultPattern;
-    std::string defaultExtension;  ///< goes behind a name without one, has no dot
+    std::string defaultExtension;  ///< goes behind a name that does not end in it, has no dot
     std::string folder;            ///< path text, where the dialog begins
     std::string fileName;          ///< the name proposed
   };

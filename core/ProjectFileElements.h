@@ -3,6 +3,7 @@
 #include "core/GalleryProject.h"
 #include "core/ImageList.h"
 #include "core/ProjectFileNames.h"
+#include "env/EventLoop.h"
 
 #include <string_view>
 
@@ -23,10 +24,10 @@ void PutText(pugi::xml_node element, std::string_view text);
 pugi::xml_node PutTextElement(pugi::xml_node parent, const char* name, std::string_view text);
 void PutTextElementUnlessEmpty(pugi::xml_node parent, const char* name, std::string_view text);
 
-// The children of GALLERY.
+// The children of GALLERY. The event loop gets a turn every 100 images and thumbnails.
 void PutLayout(pugi::xml_node gallery, const GalleryProject& project);
-void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images);
-void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images);
+void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, EventLoop& events);
+void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, EventLoop& events);
 void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project);
 void PutImagePage(pugi::xml_node gallery, const GalleryProject& project);
 

@@ -1,5 +1,6 @@
 #include "core/ProjectFileElements.h"
 #include "core/ProjectFileFields.h"
+#include "core/RegularTurns.h"
 #include "core/XmlText.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
@@ -65,11 +66,13 @@ pugi::xml_node PutSize(pugi::xml_node modify, const GalleryProject& project, con
 
 }  // namespace
 
-void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list) {
+void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node images = gallery.append_child("IMAGES");
   PutAttribute(images, "FOLDER", project.textImageSettingsSubFolder);
+  RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutImage(images, position, list.Entry(position));
+    turns.Step();
   }
   PutCaptions(images, project, kImageCaptions);
   PutDescriptionFrame(images, project, kImageDescriptionFrame);
@@ -81,11 +84,13 @@ void PutImages(pugi::xml_node gallery, const GalleryProject& project, const Imag
   PutImageFilters(modify, project);
 }
 
-void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list) {
+void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node thumbnails = gallery.append_child("THUMBNAILS");
   PutAttribute(thumbnails, "FOLDER", project.textThumbnailImageSettingsSubFolder);
+  RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutThumbnail(thumbnails, position, list.Entry(position));
+    turns.Step();
   }
   PutCaptions(thumbnails, project, kThumbnailCaptions);
   PutDescriptionFrame(thumbnails, project, kThumbnailDescriptionFrame);

@@ -7,6 +7,7 @@
 #include "env/RuntimeFailure.h"
 
 #include <new>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -16,11 +17,13 @@ namespace {
 constexpr char kProgramTitle[] = "Vantorium";
 
 /// False for a file that can't be read, or is no XML document.
-bool Load(XmlFile& file, const PathMap& paths, const std::string& path) {
+bool Load(XmlFile& file, const PathMap& paths, const std::string& path, EventLoop& events) {
   const auto native = paths.ToNative(path);
   if (!native) return false;
   try {
-    return file.Parse(ReadFileWhole(*native, kLargestXmlFile));
+    std::string bytes = ReadFileWhole(*native, kLargestXmlFile);
+    events.Turn();
+    return file.Parse(std::move(bytes));
   } catch (const RuntimeFailure&) {
     return false;
   }
@@ -31,6 +34,7 @@ bool Load(XmlFile& file, const PathMap& paths, const std::string& path) {
 bool ProjectFileReader::ReadProjectFile(const std::string& path) {
   status_.SetStatusText(fmt::format("Reading Project File \"{}\"...", path));
   status_.ShowWaitPointer();
+  events_.Turn();
   ResetToDefaults(project_.settings, project_.UntitledName());
   bool modified = false;  // the edits of a reading are none of the user's
   ProjectEditor editor(project_.settings, modified);
@@ -60,9 +64,10 @@ void ProjectFileReader::ReportInvalidProjectFile(const std::string& path, const 
 
 ReadResult ProjectFileReader::ReadInto(ProjectEditor& editor, const std::string& path) {
   XmlFile file;
-  if (!Load(file, paths_, path) || std::string_view(file.Root().name()) != "GALLERYPROJECT") {
+  if (!Load(file, paths_, path, events_) || std::string_view(file.Root().name()) != "GALLERYPROJECT") {
     return ReadResult::NoProject;
   }
+  events_.Turn();
   const pugi::xml_node gallery = file.Root().child("GALLERY");
   return gallery ? ReadGallery(gallery, editor) : ReadResult::NoGallery;
 }
@@ -74,7 +79,7 @@ ReadResult ProjectFileReader::ReadGallery(pugi::xml_node gallery, ProjectEditor&
   if (result != ReadResult::Complete) return result;
   editor.Set(&GalleryProject::GalleryHeadCode, MultilineText(gallery.child("HEAD")));
 
-  if (const pugi::xml_node images = gallery.child("IMAGES")) result = ReadImages(images, editor, images_);
+  if (const pugi::xml_node images = gallery.child("IMAGES")) result = ReadImages(images, editor, images_, events_);
   if (result != ReadResult::Complete) return result;
   if (const pugi::xml_node thumbnails = gallery.child("THUMBNAILS")) {
     result = ReadThumbnails(thumbnails, editor, project_.images, events_);

@@ -18,7 +18,8 @@ namespace vantorium {
 
 class ProjectEditor;
 
-/// Reads a project file into the one project.
+/// Reads a project file into the one project. The event loop gets its turns meanwhile, so that what is shown of the
+/// reading is drawn.
 class ProjectFileReader {
  public:
   ProjectFileReader(Project& project, ImageListOperations& images, const PathMap& paths, MessageBoxPort& boxes,

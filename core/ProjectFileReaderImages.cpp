@@ -1,5 +1,6 @@
 #include "core/ProjectFileReaderSections.h"
 #include "core/ProjectFileReaderValues.h"
+#include "core/RegularTurns.h"
 #include "env/Numbers.h"
 #include "env/Text.h"
 
@@ -81,10 +82,12 @@ void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
 
 }  // namespace
 
-ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list) {
+ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
   ReadTextOr(editor, images, "FOLDER", &GalleryProject::textImageSettingsSubFolder, "Images");
+  RegularTurns turns(events);
   for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
     if (!AddImageElement(node, list)) return ReadResult::ImageRefused;
+    turns.Step();
   }
   ReadCaptions(images, editor, kImageCaptions);
   ReadDescriptionFrame(images, editor, kImageDescriptionFrame, kImageDescriptionFrame);
@@ -93,13 +96,12 @@ ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOpe
 }
 
 ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list, EventLoop& events) {
-  constexpr int kThumbnailsATurn = 100;
   ReadTextOr(editor, thumbnails, "FOLDER", &GalleryProject::textThumbnailImageSettingsSubFolder, "1");
-  int count = 0;
+  RegularTurns turns(events);
   for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
        node = NextElement(node, thumbnails, "THUMBNAIL")) {
     if (!DescribeThumbnail(node, list)) return ReadResult::InvalidThumbnailIndex;
-    if (++count % kThumbnailsATurn == 0) events.Turn();
+    turns.Step();
   }
   ReadCaptions(thumbnails, editor, kThumbnailCaptions);
   // An absent header clears that of the images: existing files read so.

@@ -1,6 +1,5 @@
 #include "core/ProjectFileReaderSections.h"
 #include "core/ProjectFileReaderValues.h"
-#include "env/Numbers.h"
 #include "env/Text.h"
 
 namespace vantorium {
@@ -8,7 +7,7 @@ namespace {
 
 /// Seconds; none are 0.
 void ReadDelay(ProjectEditor& editor, pugi::xml_node show, const char* attribute, TextField field) {
-  editor.Set(field, std::to_string(ParseInt16(AttributeOf(show, attribute).value_or("0"))));
+  editor.Set(field, WholeNumber(AttributeOf(show, attribute).value_or("0")));
 }
 
 void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {

@@ -1,6 +1,5 @@
 #include "core/ProjectFileReaderSections.h"
 #include "core/ProjectFileReaderValues.h"
-#include "env/Numbers.h"
 #include "env/Text.h"
 
 namespace vantorium {
@@ -25,8 +24,7 @@ void ReadDirectLinks(pugi::xml_node links, ProjectEditor& editor) {
   editor.Set(&GalleryProject::checkPageLinksThumbnailDirectLinks, Flag{direct.has_value()});
   if (!direct) return;
   const bool unlimited = EqualsIgnoringCase(*direct, kUnlimitedLinksWord);
-  editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks,
-             unlimited ? "0" : std::to_string(ParseInt16(*direct)));
+  editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, unlimited ? "0" : WholeNumber(*direct));
 }
 
 std::string LinkPath(pugi::xml_node link, const char* attribute) {

@@ -16,8 +16,10 @@ namespace vantorium {
 /// LAYOUT below `gallery`, with the slide show.
 [[nodiscard]] ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor);
 
-/// IMAGES: the images, their captions, the frame of their descriptions, their size and filters.
-[[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list);
+/// IMAGES: the images, their captions, the frame of their descriptions, their size and filters. The event loop gets a
+/// turn every 100 images.
+[[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list,
+                                    EventLoop& events);
 
 /// THUMBNAILS: the descriptions of the thumbnails, and the rest as for the images. The event loop gets a turn every 100
 /// thumbnails.

@@ -1,7 +1,11 @@
 #include "core/ProjectFileReaderValues.h"
 
 #include "env/Numbers.h"
+#include "env/RuntimeFailure.h"
 #include "env/Text.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace vantorium {
 
@@ -23,8 +27,15 @@ void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attri
   editor.Set(field, std::string(AttributeOf(element, attribute).value_or(absent)));
 }
 
+std::string WholeNumber(std::string_view text) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const auto number = ParseNumber(text);
+  if (!number) throw RuntimeFailure(FailureKind::TypeMismatch);
+  return std::to_string(ToInt32(std::clamp<double>(*number, Limits::min(), Limits::max())));
+}
+
 void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field) {
-  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, std::to_string(ParseInt16(*value)));
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, WholeNumber(*value));
 }
 
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {

@@ -11,7 +11,8 @@
 namespace vantorium {
 
 // From attributes and texts of an element to settings. An absent attribute leaves the setting as it is, an empty one is
-// a value like any other. A number that is none, or that does not fit, is the RuntimeFailure TypeMismatch or Overflow.
+// a value like any other. A number that is none is the RuntimeFailure TypeMismatch, a Flag or a Choice that does not
+// fit is Overflow.
 
 using TextField = std::string GalleryProject::*;
 using NumberField = std::int16_t GalleryProject::*;
@@ -25,6 +26,8 @@ using NumberField = std::int16_t GalleryProject::*;
 void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
                 const char* absent);
+/// The decimal text of a whole number, which may be beyond every setting: an edit then makes it the setting's bound.
+[[nodiscard]] std::string WholeNumber(std::string_view text);
 /// A whole number, kept as its decimal text.
 void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);

@@ -1,6 +1,7 @@
 #include "core/ProjectFileWriter.h"
 
 #include "core/ProjectFileElements.h"
+#include "core/RegularTurns.h"
 #include "core/XmlSyntax.h"
 #include "env/FileOutput.h"
 #include "env/RuntimeFailure.h"
@@ -42,35 +43,44 @@ namespace {
 
 class TextWriter : public pugi::xml_writer {
  public:
-  void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
+  explicit TextWriter(EventLoop& events) : turns_(events) {}
+
+  void write(const void* data, std::size_t size) override {
+    text.append(static_cast<const char*>(data), size);
+    turns_.Step();
+  }
+
   std::string text;
+
+ private:
+  RegularTurns turns_;
 };
 
-void PutGallery(pugi::xml_node document, const Project& project) {
+void PutGallery(pugi::xml_node document, const Project& project, EventLoop& events) {
   const GalleryProject& settings = project.settings;
   pugi::xml_node gallery = document.append_child("GALLERY");
   PutAttribute(gallery, "TITLE", settings.textGalleryTitle);
   PutTextElementUnlessEmpty(gallery, "HEAD", settings.GalleryHeadCode);
   PutTextElementUnlessEmpty(gallery, "INFO", settings.GalleryInfoText);
   PutLayout(gallery, settings);
-  PutImages(gallery, settings, project.images);
-  PutThumbnails(gallery, settings, project.images);
+  PutImages(gallery, settings, project.images, events);
+  PutThumbnails(gallery, settings, project.images, events);
   PutThumbnailPage(gallery, settings);
   if (settings.checkImageWrapperUse == 1) PutImagePage(gallery, settings);
 }
 
 }  // namespace
 
-std::string ProjectFileText(const Project& project) {
+std::string ProjectFileText(const Project& project, EventLoop& events) {
   pugi::xml_document document;
   pugi::xml_node root = document.append_child("GALLERYPROJECT");
   PutAttribute(root, "VERSION", "3.0");
   pugi::xml_node meta = root.append_child("META");
   PutAttribute(meta, "NAME", "GENERATOR");
   PutAttribute(meta, "CONTENT", "Vantorium Image Gallery Creator 3.0");
-  PutGallery(root, project);
+  PutGallery(root, project, events);
 
-  TextWriter writer;
+  TextWriter writer(events);
   document.save(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
   if (writer.text.size() > kLargestXmlFile || !IsWellFormedXml(writer.text)) {
     throw RuntimeFailure(FailureKind::InvalidArgument);
@@ -81,10 +91,13 @@ std::string ProjectFileText(const Project& project) {
 bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
   status_.SetStatusText(fmt::format("Writing Project File \"{}\"...", path));
   status_.ShowWaitPointer();
+  events_.Turn();
   bool written = false;
   try {
     if (const auto native = paths_.ToNative(path)) {
-      WriteKeptFile(*native, ProjectFileText(project_));
+      const std::string text = ProjectFileText(project_, events_);
+      events_.Turn();
+      WriteKeptFile(*native, text);
       written = true;
     }
   } catch (const std::exception&) {

@@ -37,6 +37,7 @@ void ProjectSession::StartUntitledProject() {
   ports_.host.RefreshTitleBar();
   ports_.host.HideDescriptionsWindow();
   images_.StopSorting();
+  holdsPartOfAnotherFile_ = false;
   ports_.host.SelectFirstTab();
   ports_.host.FocusTitleField();
   project_.IsPristine = true;
@@ -83,8 +84,9 @@ void ProjectSession::OpenProject() {
 }
 
 void ProjectSession::OpenProjectFromCommandLine(std::string_view commandLine) {
-  const std::string path = ReplaceAll(commandLine, "\"", "");
-  if (path.empty()) return;
+  const std::string typed = ReplaceAll(commandLine, "\"", "");
+  if (typed.empty()) return;
+  const std::string path = ports_.paths.ToTextFromUser(typed);
   images_.StopSorting();
   ports_.host.EnableMainWindow(false);
   const bool read = Read(path);
@@ -104,6 +106,7 @@ bool ProjectSession::Read(const std::string& path) {
   ProjectFileReader reader(project_, images_, ports_.paths, ports_.boxes, ports_.host, ports_.events);
   const bool read = reader.ReadProjectFile(path);
   if (!read) {
+    holdsPartOfAnotherFile_ = true;
     ShowFileError(ports_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".", path));
   }
   return read;
@@ -111,6 +114,7 @@ bool ProjectSession::Read(const std::string& path) {
 
 void ProjectSession::AdoptOpened(const std::string& path) {
   TakePath(path);
+  holdsPartOfAnotherFile_ = false;
   project_.IsUntitled = false;
   project_.IsModified = false;
   project_.IsPristine = false;
@@ -131,7 +135,8 @@ void ProjectSession::TakePath(const std::string& path) {
 
 bool ProjectSession::SaveProject() {
   NormalizeForOutput(project_.settings, project_.IsModified);
-  const bool saved = project_.IsUntitled ? WriteUntitled() : WriteTitled();
+  const bool asksForName = project_.IsUntitled || holdsPartOfAnotherFile_;
+  const bool saved = asksForName ? WriteToChosenFile() : WriteToItsFile();
   if (saved) AdoptSaved();
   return saved;
 }
@@ -151,7 +156,7 @@ bool ProjectSession::SaveProjectTo(const std::string& path) {
   return true;
 }
 
-bool ProjectSession::WriteUntitled() {
+bool ProjectSession::WriteToChosenFile() {
   const std::string path = ports_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Save,
                                                  .title = "Save Gallery Project As",
                                                  .filter = kFileFilter,
@@ -164,20 +169,15 @@ bool ProjectSession::WriteUntitled() {
   return true;
 }
 
-bool ProjectSession::WriteTitled() {
-  constexpr std::string_view kExtension = ".gpj";
-  std::string& name = project_.ProjectFileName;
-  const bool hasExtension =
-      name.size() >= kExtension.size() &&
-      EqualsIgnoringCase(std::string_view(name).substr(name.size() - kExtension.size()), kExtension);
-  if (!hasExtension) name += kExtension;
-  return Write(project_.ProjectFolder + name);
+bool ProjectSession::WriteToItsFile() {
+  project_.ProjectFileName = WithExtension(project_.ProjectFileName, ".gpj");
+  return Write(project_.ProjectFolder + project_.ProjectFileName);
 }
 
 bool ProjectSession::Write(const std::string& path) {
   ports_.host.ShowInfoWindow("Please wait... Writing Project File.");
   ports_.host.EnableMainWindow(false);
-  const bool written = ProjectFileWriter(project_, ports_.paths, ports_.host).WriteProjectFile(path);
+  const bool written = ProjectFileWriter(project_, ports_.paths, ports_.host, ports_.events).WriteProjectFile(path);
   if (!written) ShowFileError(ports_.boxes, "An error occurred while saving the Gallery Project.");
   ports_.host.EnableMainWindow(true);
   ports_.host.HideInfoWindow();
@@ -185,6 +185,7 @@ bool ProjectSession::Write(const std::string& path) {
 }
 
 void ProjectSession::AdoptSaved() {
+  holdsPartOfAnotherFile_ = false;
   project_.IsUntitled = false;
   project_.IsModified = false;
   project_.IsPristine = false;

@@ -31,10 +31,11 @@ class ProjectSession {
   /// Does nothing on a new project with which nothing has happened yet.
   void NewProject();
   void OpenProject();
-  /// `commandLine`: the path of a project file, perhaps in quotes; an empty one does nothing. The images go behind
-  /// those that are in the list.
+  /// `commandLine`: the path of a project file as the user typed it, path text or native, perhaps in quotes; an empty
+  /// one does nothing. The images go behind those that are in the list.
   void OpenProjectFromCommandLine(std::string_view commandLine);
-  /// True when the project is saved.
+  /// Asks for a name when the project has no file, or when an opening that failed has put its own settings under the
+  /// old file's name. True when the project is saved.
   bool SaveProject();
   /// An untitled project stays untitled, so that the next Save asks for a name again.
   void SaveProjectAs();
@@ -56,14 +57,15 @@ class ProjectSession {
   [[nodiscard]] bool Read(const std::string& path);
   void AdoptOpened(const std::string& path);
   void TakePath(const std::string& path);
-  [[nodiscard]] bool WriteUntitled();
-  [[nodiscard]] bool WriteTitled();
+  [[nodiscard]] bool WriteToChosenFile();
+  [[nodiscard]] bool WriteToItsFile();
   [[nodiscard]] bool Write(const std::string& path);
   void AdoptSaved();
 
   Project& project_;
   ImageListOperations& images_;
   Ports ports_;
+  bool holdsPartOfAnotherFile_ = false;  ///< an opening failed, and the project's file must not be replaced unasked
 };
 
 }  // namespace vantorium

@@ -35,6 +35,12 @@ std::string WithBackslashes(std::string_view path) {
   return ReplaceAll(path, "/", "\\");
 }
 
+std::string WithExtension(std::string_view path, std::string_view extension) {
+  const bool complete =
+      path.size() >= extension.size() && EqualsIgnoringCase(path.substr(path.size() - extension.size()), extension);
+  return std::string(path).append(complete ? std::string_view() : extension);
+}
+
 std::string WithTrailingBackslash(std::string_view folder) {
   std::string text(folder);
   if (!text.ends_with('\\')) text += '\\';

@@ -21,6 +21,9 @@ namespace vantorium {
 [[nodiscard]] std::string WithSlashes(std::string_view path);
 [[nodiscard]] std::string WithBackslashes(std::string_view path);
 
+/// `path` with `extension`, which has its dot, appended unless it ends in it, upper and lower case being the same.
+[[nodiscard]] std::string WithExtension(std::string_view path, std::string_view extension);
+
 /// `folder` with a backslash appended unless it ends in one.
 [[nodiscard]] std::string WithTrailingBackslash(std::string_view folder);
 

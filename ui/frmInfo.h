@@ -3,6 +3,7 @@
 #include "ui/BusyPointer.h"
 
 #include <QDialog>
+#include <QPointer>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,7 +15,7 @@ class frmInfo;
 namespace vantorium {
 
 /// A small window that says what the program is busy with. While it is shown the busy pointer is on. The user can't
-/// close it.
+/// close it, and the keyboard stays with, or goes back to, the window that has it.
 class frmInfo : public QDialog {
   Q_OBJECT
 
@@ -24,6 +25,7 @@ class frmInfo : public QDialog {
 
   void SetText(const std::string& text);
 
+  void setVisible(bool visible) override;
   void reject() override {}
 
  protected:
@@ -33,6 +35,7 @@ class frmInfo : public QDialog {
  private:
   std::unique_ptr<Ui::frmInfo> ui_;
   std::optional<BusyPointer> pointer_;
+  QPointer<QWidget> activeBefore_;
 };
 
 }  // namespace vantorium

@@ -53,8 +53,8 @@ class frmMain : public QMainWindow,
   explicit frmMain(const DesktopPorts& ports);
   ~frmMain() override;
 
-  /// Reads the preferences, makes a new project and opens that of the command line, which is path text and may be
-  /// empty. Called once, before the window is shown.
+  /// Reads the preferences, makes a new project and opens that of the command line, which is a path as the user
+  /// typed it and may be empty. Called once, before the window is shown.
   void Start(const std::string& commandLine);
 
   [[nodiscard]] const Project& CurrentProject() const { return project_; }

@@ -154,6 +154,7 @@ void frmMain::BringToFront() {
 void frmMain::OnTrayMenu(const std::string& key) {
   if (splash_) return;  // the window is not ready
   if (key == "vantorium") BringToFront();
+  if (!isEnabled()) return;  // busy, and a window from here would hold it up
   if (key == "help") ShowHelp();
   if (key == "about") ShowAbout();
   if (key == "close") close();

@@ -34,6 +34,7 @@ void frmMain::HideInfoWindow() {
 void frmMain::EnableMainWindow(bool enabled) {
   if (!enabled && isEnabled()) focus_ = {focusWidget(), descriptions_->focusWidget()};
   setEnabled(enabled);
+  info_->setEnabled(true);  // its line is there to be read while this window waits
   if (!enabled) return;
   for (const QPointer<QWidget>& control : std::exchange(focus_, {})) {
     // The window itself is not shown yet while it starts.

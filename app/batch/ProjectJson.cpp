@@ -15,6 +15,9 @@ Json Value(const std::string& text) {
 Json Value(std::int16_t number) {
   return number;
 }
+Json Value(std::int32_t number) {
+  return number;
+}
 Json Value(std::uint32_t number) {
   return number;
 }

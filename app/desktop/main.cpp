@@ -51,9 +51,6 @@ class Desktop {
             std::max(1U, std::thread::hardware_concurrency()),
             FtpPort()};
   }
-  [[nodiscard]] std::string PathTextOf(const QString& argument) const {
-    return argument.isEmpty() ? std::string() : paths_.ToTextFromUser(FromQt(argument));
-  }
 
  private:
   Surroundings around_ = SurroundingsOfProcess();
@@ -83,7 +80,7 @@ int Run(int argc, char** argv) {
   Desktop desktop;
   frmMain window(desktop.Ports());
   QObject::connect(&window, &frmMain::Closed, &application, &QApplication::quit, Qt::QueuedConnection);
-  window.Start(desktop.PathTextOf(QApplication::arguments().value(1)));
+  window.Start(FromQt(QApplication::arguments().value(1)));
   window.show();
   return QApplication::exec();
 }

@@ -39,7 +39,7 @@ void AddSingleFrame(PageText& page, const RunState& run) {
   page.Line("</FRAMESET>");
 }
 
-std::string SizeText(std::int16_t size, const GalleryProject& project) {
+std::string SizeText(std::int32_t size, const GalleryProject& project) {
   return fmt::format("{}{}", size, project.checkGalleryFrameSizeInPercent == 1 ? "%" : "");
 }
 

@@ -17,8 +17,8 @@ constexpr Choice kBelow = 2;
 /// Value of comboThumbnailsTableAlignment.
 constexpr Choice kFitToPage = 0;
 
-std::int16_t GridNumber(const Digits& text) {
-  return ToInt16(ParseNumber(text).value_or(0));
+std::int32_t GridNumber(const Digits& text) {
+  return ToInt32(ParseNumber(text).value_or(0));
 }
 
 bool HasBar(const RunState& run, Choice place) {
@@ -74,8 +74,8 @@ void AddTableTag(PageText& text, const RunState& run) {
 
 /// The last row of the gallery is not filled up with empty cells.
 void AddGrid(PageText& text, const RunState& run, std::int32_t page, std::int32_t firstImage) {
-  const std::int16_t rows = GridNumber(run.project.textThumbnailsTableRows);
-  const std::int16_t columns = GridNumber(run.project.textThumbnailsTableColumns);
+  const std::int32_t rows = GridNumber(run.project.textThumbnailsTableRows);
+  const std::int32_t columns = GridNumber(run.project.textThumbnailsTableColumns);
   std::int32_t image = firstImage;
   for (std::int32_t row = 1; row <= rows && image <= run.ImageCount; ++row) {
     text.Line("<TR>");
@@ -100,9 +100,10 @@ void AddTable(PageText& text, const RunState& run, std::int32_t page, std::int32
 }  // namespace
 
 std::int32_t ImagesOnThumbnailPage(const RunState& run, std::int32_t firstImage) {
-  const std::int32_t rows = std::max<std::int32_t>(GridNumber(run.project.textThumbnailsTableRows), 0);
-  const std::int32_t columns = std::max<std::int32_t>(GridNumber(run.project.textThumbnailsTableColumns), 0);
-  return std::clamp(run.ImageCount - firstImage + 1, 0, rows * columns);
+  const std::int64_t rows = std::max(GridNumber(run.project.textThumbnailsTableRows), 0);
+  const std::int64_t columns = std::max(GridNumber(run.project.textThumbnailsTableColumns), 0);
+  const std::int64_t imagesLeft = run.ImageCount - firstImage + 1;
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(imagesLeft, 0, rows * columns));
 }
 
 std::string BuildThumbnailPage(const RunState& run, std::int32_t page, std::int32_t firstImage) {

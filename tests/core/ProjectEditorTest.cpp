@@ -41,14 +41,14 @@ TEST_F(ProjectEditorTest, EveryFieldStoresWhatItIsGivenAndMarksTheProject) {
       const auto member = std::get<Colour GalleryProject::*>(field.member);
       editor.Set(member, Colour{0x123456});
       EXPECT_EQ(project.*member, 0x123456U);
-    } else if (field.kind != FieldKind::Record) {
+    } else if (field.kind == FieldKind::Flag || field.kind == FieldKind::Choice) {
       const auto member = std::get<std::int16_t GalleryProject::*>(field.member);
       for (const std::int16_t value : {std::int16_t{1}, std::int16_t{0}}) {
         editor.Set(member, value);
         EXPECT_EQ(project.*member, value);
       }
     }
-    EXPECT_EQ(modified, field.kind != FieldKind::Record);
+    EXPECT_EQ(modified, field.kind != FieldKind::Record && field.kind != FieldKind::Size);
   }
 }
 
@@ -88,20 +88,47 @@ TEST_F(ProjectEditorTest, ANumberBelowItsBoundBecomesTheBound) {
   };
   for (const Field field : fromOne) {
     for (const char* low : {"0", "-1", "-99999", "0.5", "00"}) expectEdit(field, low, "1");
-    for (const char* good : {"1", "2", "32767", "01"}) expectEdit(field, good, good);
+    for (const char* good : {"1", "2", "32768", "99999", "01"}) expectEdit(field, good, good);
   }
   for (const Field field : fromZero) {
     for (const char* low : {"-1", "-2", "-0.5"}) expectEdit(field, low, "0");
-    for (const char* good : {"0", "1", "99999", "100000"}) expectEdit(field, good, good);
+    for (const char* good : {"0", "1", "32768", "99999"}) expectEdit(field, good, good);
   }
 }
 
-TEST_F(ProjectEditorTest, TheDelaysHaveNoBound) {
-  for (const char* typed : {"-5", "0", "99999999", "abc", ""}) {
+TEST_F(ProjectEditorTest, ANumberBeyondWhatItsFieldHoldsBecomesTheMostThatItHolds) {
+  using Field = std::string GalleryProject::*;
+  const Field toFiveDigits[] = {&GalleryProject::textGalleryFrameSize,
+                                &GalleryProject::textThumbnailsTableRows,
+                                &GalleryProject::textThumbnailsTableColumns,
+                                &GalleryProject::textThumbnailsTableBorder,
+                                &GalleryProject::textThumbnailsTableCellSpacing,
+                                &GalleryProject::textThumbnailsTableCellPadding,
+                                &GalleryProject::textPageLinksThumbnailMaxDirectLinks};
+  for (const Field field : toFiveDigits) {
+    for (const char* high : {"100000", "99999.5", "999999", "4294967297", "1e300"}) {
+      editor.Set(field, high);
+      EXPECT_EQ(project.*field, "99999") << FieldOf(field).name << " = " << high;
+    }
+  }
+}
+
+TEST_F(ProjectEditorTest, TheSizesOfPicturesHaveNoUpperBound) {
+  for (const auto field : {&GalleryProject::textImageWrapperImageWidth, &GalleryProject::textThumbnailsImageHeight}) {
+    editor.Set(field, "999999");
+    EXPECT_EQ(project.*field, "999999") << FieldOf(field).name;
+  }
+}
+
+TEST_F(ProjectEditorTest, TheDelaysHaveAnUpperBoundOnly) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"-5", "-5"},   {"0", "0"}, {"999999", "999999"}, {"1000000", "999999"}, {"1e99", "999999"},
+      {"abc", "abc"}, {"", ""}};
+  for (const auto& [typed, expected] : cases) {
     editor.Set(&GalleryProject::textGallerySlideShowDelay, typed);
-    EXPECT_EQ(project.textGallerySlideShowDelay, typed);
+    EXPECT_EQ(project.textGallerySlideShowDelay, expected) << typed;
     editor.Set(&GalleryProject::textGallerySlideShowAutoStartDelay, typed);
-    EXPECT_EQ(project.textGallerySlideShowAutoStartDelay, typed);
+    EXPECT_EQ(project.textGallerySlideShowAutoStartDelay, expected) << typed;
   }
 }
 
@@ -167,13 +194,14 @@ TEST_F(ProjectEditorTest, TheSizingPriorityDecidesWhichFrameGetsTheSize) {
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
 }
 
-TEST_F(ProjectEditorTest, AFrameSizeThatIsNoSixteenBitNumberIsAFailure) {
+TEST_F(ProjectEditorTest, AFrameSizeThatIsNoNumberIsAFailureAndALargeOneIsNot) {
   EXPECT_EQ(FailureOfFrameSize("abc"), static_cast<std::int32_t>(FailureKind::TypeMismatch));
-  EXPECT_EQ(FailureOfFrameSize("32768"), static_cast<std::int32_t>(FailureKind::Overflow));
-  EXPECT_EQ(FailureOfFrameSize("99999"), static_cast<std::int32_t>(FailureKind::Overflow));
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
-  EXPECT_EQ(FailureOfFrameSize("32767"), 0);
-  EXPECT_EQ(project.ThumbnailFrameSize, 32767);
+  const std::pair<const char*, std::int32_t> cases[] = {{"32768", 32768}, {"99999", 99999}, {"1e300", 99999}};
+  for (const auto& [typed, stored] : cases) {
+    EXPECT_EQ(FailureOfFrameSize(typed), 0) << typed;
+    EXPECT_EQ(project.ThumbnailFrameSize, stored) << typed;
+  }
 }
 
 TEST_F(ProjectEditorTest, ASlideshowHasWrapperPages) {

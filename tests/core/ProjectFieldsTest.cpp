@@ -67,7 +67,7 @@ const char* DeclaredTypeOf(const ProjectField& field) {
     case FieldKind::Colour:
       return "Colour";
     case FieldKind::Size:
-      return "std::int16_t";
+      return "std::int32_t";
     case FieldKind::Record:
       break;
   }
@@ -113,6 +113,9 @@ std::string TextOf(const std::string& text) {
   return text;
 }
 std::string TextOf(std::int16_t number) {
+  return std::to_string(number);
+}
+std::string TextOf(std::int32_t number) {
   return std::to_string(number);
 }
 std::string TextOf(Colour colour) {
@@ -280,6 +283,7 @@ const std::vector<std::pair<std::string, std::string>>& NewProjectValues() {
 struct Changed {
   void operator()(std::string& text) const { text += "#changed"; }
   void operator()(std::int16_t& number) const { number = 77; }
+  void operator()(std::int32_t& number) const { number = 77; }
   void operator()(Colour& colour) const { colour = 0x123456; }
   void operator()(LinkSettings& link) const { link = {"a", "b", "c"}; }
   void operator()(ImageFilterSettings& filters) const { filters = {1, 1, 1, 1, 1, 1, 1, 1, 1}; }
@@ -339,19 +343,19 @@ TEST(ProjectFields, ResetBringsBackEveryFieldButTheOneThatKeepsItsValue) {
 
 TEST(ProjectFields, DigitsHaveTheRangesOfTheirSpinnersAndTheirBounds) {
   const std::map<std::string_view, DigitsRange> expected = {
-      {"textGalleryFrameSize", {1, 99999, 1}},
-      {"textGallerySlideShowAutoStartDelay", {0, 999999, std::nullopt}},
-      {"textGallerySlideShowDelay", {0, 999999, std::nullopt}},
-      {"textImageWrapperImageWidth", {1, 99999, 1}},
-      {"textImageWrapperImageHeight", {1, 99999, 1}},
-      {"textThumbnailsTableRows", {1, 99999, 0}},
-      {"textThumbnailsTableColumns", {1, 99999, 0}},
-      {"textThumbnailsTableBorder", {0, 99999, 0}},
-      {"textThumbnailsTableCellSpacing", {0, 99999, 0}},
-      {"textThumbnailsTableCellPadding", {0, 99999, 0}},
-      {"textThumbnailsImageWidth", {1, 99999, 1}},
-      {"textThumbnailsImageHeight", {1, 99999, 1}},
-      {"textPageLinksThumbnailMaxDirectLinks", {0, 99999, 0}},
+      {"textGalleryFrameSize", {1, 99999, 1, 99999}},
+      {"textGallerySlideShowAutoStartDelay", {0, 999999, std::nullopt, 999999}},
+      {"textGallerySlideShowDelay", {0, 999999, std::nullopt, 999999}},
+      {"textImageWrapperImageWidth", {1, 99999, 1, std::nullopt}},
+      {"textImageWrapperImageHeight", {1, 99999, 1, std::nullopt}},
+      {"textThumbnailsTableRows", {1, 99999, 0, 99999}},
+      {"textThumbnailsTableColumns", {1, 99999, 0, 99999}},
+      {"textThumbnailsTableBorder", {0, 99999, 0, 99999}},
+      {"textThumbnailsTableCellSpacing", {0, 99999, 0, 99999}},
+      {"textThumbnailsTableCellPadding", {0, 99999, 0, 99999}},
+      {"textThumbnailsImageWidth", {1, 99999, 1, std::nullopt}},
+      {"textThumbnailsImageHeight", {1, 99999, 1, std::nullopt}},
+      {"textPageLinksThumbnailMaxDirectLinks", {0, 99999, 0, 99999}},
   };
   std::size_t found = 0;
   for (const ProjectField& field : ProjectFields()) {
@@ -363,6 +367,7 @@ TEST(ProjectFields, DigitsHaveTheRangesOfTheirSpinnersAndTheirBounds) {
     EXPECT_EQ(field.range->spinnerMinimum, range.spinnerMinimum) << field.name;
     EXPECT_EQ(field.range->spinnerMaximum, range.spinnerMaximum) << field.name;
     EXPECT_EQ(field.range->lowerBound, range.lowerBound) << field.name;
+    EXPECT_EQ(field.range->upperBound, range.upperBound) << field.name;
   }
   EXPECT_EQ(found, expected.size());
 }

@@ -242,9 +242,16 @@ TEST_F(ProjectFileReaderImagesTest, AThumbnailOfNoImageFailsAndTheImagesStay) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, TheEventLoopGetsATurnEvery100Thumbnails) {
-  std::string thumbnails;
+TEST_F(ProjectFileReaderImagesTest, TheEventLoopGetsATurnEvery100ImagesAndThumbnails) {
+  std::string images, thumbnails;
+  for (int count = 0; count < 350; ++count) images += Image("1", "a");
   for (int count = 0; count < 250; ++count) thumbnails += "<THUMBNAIL INDEX='1'/>";
-  ASSERT_TRUE(ReadThumbnails(thumbnails));
-  EXPECT_EQ(desk.events.turns, 2);
+  const auto turnsOf = [&](const std::string& lists) {
+    desk.events.turns = 0;
+    EXPECT_TRUE(ReadLists(lists));
+    return desk.events.turns;
+  };
+  const int few = turnsOf("<IMAGES>" + Image("1", "a") + "</IMAGES><THUMBNAILS><THUMBNAIL INDEX='1'/></THUMBNAILS>");
+  EXPECT_EQ(turnsOf("<IMAGES>" + images + "</IMAGES>"), few + 3);
+  EXPECT_EQ(turnsOf("<IMAGES>" + Image("1", "a") + "</IMAGES><THUMBNAILS>" + thumbnails + "</THUMBNAILS>"), few + 2);
 }

@@ -94,11 +94,19 @@ TEST_F(ProjectFileReaderLayoutTest, AnAbsentFrameSizeStaysThatOfANewProject) {
 }
 
 TEST_F(ProjectFileReaderLayoutTest, AFrameSizeThatIsNoNumberFails) {
-  const std::pair<std::string, std::string> cases[] = {
-      {"wide", "Type mismatch"}, {"x%", "Type mismatch"}, {"40000", "Overflow"}};
-  for (const auto& [size, failure] : cases) {
+  for (const std::string size : {"wide", "x%"}) {
     EXPECT_FALSE(ReadLayout("TYPE='singleframe' FRAMESIZE='" + size + "'")) << size;
-    EXPECT_EQ(Box(), "Vantorium: " + failure) << size;
+    EXPECT_EQ(Box(), "Vantorium: Type mismatch") << size;
+  }
+}
+
+TEST_F(ProjectFileReaderLayoutTest, ALargeFrameSizeIsReadAndOneBeyondItsFieldBecomesTheBound) {
+  const std::pair<std::string, std::int32_t> cases[] = {
+      {"32768", 32768}, {"99999", 99999}, {"100000", 99999}, {"1e300", 99999}, {"32768%", 99}};
+  for (const auto& [size, stored] : cases) {
+    ASSERT_TRUE(ReadLayout("TYPE='thumbsleft' FRAMESIZE='" + size + "'")) << size;
+    EXPECT_EQ(Settings().textGalleryFrameSize, std::to_string(stored)) << size;
+    EXPECT_EQ(Settings().ThumbnailFrameSize, stored) << size;
   }
 }
 
@@ -146,8 +154,18 @@ TEST_F(ProjectFileReaderLayoutTest, AutoStartThatIsNoNumberIsOff) {
 TEST_F(ProjectFileReaderLayoutTest, ADelayThatIsNoNumberFails) {
   EXPECT_FALSE(ReadSlideShow("DELAY=''"));
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
-  EXPECT_FALSE(ReadSlideShow("AUTOSTARTDELAY='100000'"));
-  EXPECT_EQ(Box(), "Vantorium: Overflow");
+  EXPECT_FALSE(ReadSlideShow("AUTOSTARTDELAY='soon'"));
+  EXPECT_EQ(Box(), "Vantorium: Type mismatch");
+}
+
+TEST_F(ProjectFileReaderLayoutTest, ALongDelayIsReadAndOneBeyondItsFieldBecomesTheBound) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"32768", "32768"}, {"999999", "999999"}, {"1000000", "999999"}, {"1e300", "999999"}, {"-5", "-5"}};
+  for (const auto& [delay, read] : cases) {
+    ASSERT_TRUE(ReadSlideShow("DELAY='" + delay + "' AUTOSTARTDELAY='" + delay + "'")) << delay;
+    EXPECT_EQ(Settings().textGallerySlideShowDelay, read) << delay;
+    EXPECT_EQ(Settings().textGallerySlideShowAutoStartDelay, read) << delay;
+  }
 }
 
 TEST_F(ProjectFileReaderLayoutTest, ASlideShowOfTwoFramesIsNotRead) {

@@ -58,8 +58,14 @@ TEST_F(ProjectFileReaderLinksTest, DirectLinksAreUnlimitedOrANumber) {
     int flag;
     std::string most;
   };
-  const Case cases[] = {{"", 0, "0"},           {"DIRECT='all'", 1, "0"}, {"DIRECT='All'", 1, "0"},
-                        {"DIRECT='7'", 1, "7"}, {"DIRECT='-3'", 1, "0"},  {"DIRECT='2.5'", 1, "2"}};
+  const Case cases[] = {{"", 0, "0"},
+                        {"DIRECT='all'", 1, "0"},
+                        {"DIRECT='All'", 1, "0"},
+                        {"DIRECT='7'", 1, "7"},
+                        {"DIRECT='-3'", 1, "0"},
+                        {"DIRECT='2.5'", 1, "2"},
+                        {"DIRECT='32768'", 1, "32768"},
+                        {"DIRECT='1e9'", 1, "99999"}};
   for (const Case& row : cases) {
     ASSERT_TRUE(ReadThumbnailLinks(row.direct)) << row.direct;
     EXPECT_EQ(Settings().checkPageLinksThumbnailDirectLinks, row.flag) << row.direct;

@@ -108,8 +108,22 @@ TEST_F(ProjectFileReaderPagesTest, NumbersOfTheArrangementThatAreNoneFail) {
   for (const char* name : {"ROWS", "COLS", "BORDER", "CELLSPACING", "CELLPADDING"}) {
     EXPECT_FALSE(ReadArrangement(name + std::string("='x5'"))) << name;
     EXPECT_EQ(Box(), "Vantorium: Type mismatch") << name;
-    EXPECT_FALSE(ReadArrangement(name + std::string("='-32769'"))) << name;
-    EXPECT_EQ(Box(), "Vantorium: Overflow") << name;
+  }
+}
+
+TEST_F(ProjectFileReaderPagesTest, LargeNumbersOfTheArrangementAreReadAndThoseBeyondTheirFieldsBecomeTheBound) {
+  const std::pair<std::string, std::string> cases[] = {{"32768", "32768"}, {"99999", "99999"}, {"100000", "99999"},
+                                                       {"9e18", "99999"},  {"1e300", "99999"}, {"-32769", "0"},
+                                                       {"-1e300", "0"}};
+  for (const auto& [number, read] : cases) {
+    ASSERT_TRUE(ReadArrangement("ROWS='" + number + "' COLS='" + number + "' BORDER='" + number + "' CELLSPACING='" +
+                                number + "' CELLPADDING='" + number + "'"))
+        << number;
+    EXPECT_EQ(Settings().textThumbnailsTableRows, read) << number;
+    EXPECT_EQ(Settings().textThumbnailsTableColumns, read) << number;
+    EXPECT_EQ(Settings().textThumbnailsTableBorder, read) << number;
+    EXPECT_EQ(Settings().textThumbnailsTableCellSpacing, read) << number;
+    EXPECT_EQ(Settings().textThumbnailsTableCellPadding, read) << number;
   }
 }
 

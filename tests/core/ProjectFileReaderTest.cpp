@@ -121,8 +121,20 @@ TEST_F(ProjectFileReaderTest, AnUnreadableNumberShowsItsFailureAndLeavesTheStatu
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
   EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Plain);
   EXPECT_EQ(desk.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "box Vantorium"}));
-  EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPage = "<ARRANGEMENT ROWS='32768'/><PAGELINKS/>"}));
+  EXPECT_FALSE(Read(ProjectFileParts{.lists = "<IMAGES><MODIFY><SIZE KEEPASPECTRATIO='32768'/></MODIFY></IMAGES>"}));
   EXPECT_EQ(Box(), "Vantorium: Overflow");
+}
+
+TEST_F(ProjectFileReaderTest, TheEventLoopGetsATurnBehindTheStatusTextAndBeforeTheSettingsAreTouched) {
+  desk.project.settings.ImageHeader = "old";
+  Calls callsThen;
+  desk.events.onTurn = [&](int turn) {
+    if (turn != 1) return;
+    callsThen = desk.calls;
+    EXPECT_EQ(Settings().ImageHeader, "old");
+  };
+  ASSERT_TRUE(Read(ProjectFileParts{}));
+  EXPECT_EQ(callsThen, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer"}));
 }
 
 TEST_F(ProjectFileReaderTest, AReadingBeginsWithTheSettingsOfANewProject) {

@@ -69,7 +69,7 @@ class ProjectFileRoundTrip : public ::testing::Test, public ProjectReading {
     for (const ProjectField& field : ProjectFields()) Change(project, field);
     edit(project);
     const auto written = SettingTexts(project);
-    EXPECT_TRUE(Read(ProjectFileText(desk.project))) << Box();
+    EXPECT_TRUE(Read(ProjectFileText(desk.project, desk.events))) << Box();
     const auto read = SettingTexts(Settings());
     Names lost;
     for (const auto& [name, value] : written) {
@@ -141,7 +141,7 @@ TEST_F(ProjectFileRoundTrip, ACaptionAboveComesBackBelow) {
   project.checkCaptionsImagesRegular = project.checkCaptionsThumbnailsRegular = 1;
   project.comboCaptionsImagesRegularPlacement = project.comboCaptionsThumbnailsRegularPlacement = 2;
   project.comboCaptionsImagesRegularAlignment = 0;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(project.comboCaptionsImagesRegularPlacement, 3);
   EXPECT_EQ(project.comboCaptionsThumbnailsRegularPlacement, 3);
   EXPECT_EQ(project.comboCaptionsImagesRegularAlignment, 0);
@@ -153,7 +153,7 @@ TEST_F(ProjectFileRoundTrip, StrikeoutComesBackAsTheUnderline) {
   for (const bool underline : {false, true}) {
     watermark.FontUnderline = underline;
     watermark.FontStrikeout = !underline;
-    ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+    ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
     EXPECT_EQ(watermark.FontUnderline, underline);
     EXPECT_EQ(watermark.FontStrikeout, underline);
   }
@@ -162,10 +162,10 @@ TEST_F(ProjectFileRoundTrip, StrikeoutComesBackAsTheUnderline) {
 TEST_F(ProjectFileRoundTrip, AWatermarkOfTheThumbnailsAloneIsLostAndOneOfTheImagesAloneIsGained) {
   GalleryProject& project = desk.project.settings;
   project.ThumbnailWatermark.checkUseWatermark = 1;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(project.ThumbnailWatermark.checkUseWatermark, 0);
   project.ImageWatermark.checkUseWatermark = 1;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(project.ImageWatermark.checkUseWatermark, 1);
   EXPECT_EQ(project.ThumbnailWatermark.checkUseWatermark, 1);
 }
@@ -173,14 +173,14 @@ TEST_F(ProjectFileRoundTrip, AWatermarkOfTheThumbnailsAloneIsLostAndOneOfTheImag
 TEST_F(ProjectFileRoundTrip, AQualityAloneIsLost) {
   GalleryProject& project = desk.project.settings;
   project.ImageFilters.sliderQuality = 10;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(project.ImageFilters.sliderQuality, 85);
 }
 
 TEST_F(ProjectFileRoundTrip, TheTableBackdropIsLost) {
   GalleryProject& project = desk.project.settings;
   project.textThumbnailsTableBackdrop = "b.gif";
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(project.textThumbnailsTableBackdrop, "");
 }
 
@@ -188,7 +188,7 @@ TEST_F(ProjectFileRoundTrip, WithoutWrapperPagesTheirLinksRevert) {
   GalleryProject& project = desk.project.settings;
   project.checkImageWrapperUse = 0;
   project.ImageNextLink.textLinkLabel = "mine";
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(project.checkImageWrapperUse, 0);
   EXPECT_EQ(project.ImageNextLink.textLinkLabel, "NEXT");
 }
@@ -208,7 +208,7 @@ TEST_F(ProjectFileRoundTrip, TheImagesComeBackInTheirOrder) {
     return rows;
   };
   const auto before = texts();
-  ASSERT_TRUE(Read(ProjectFileText(desk.project)));
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
   EXPECT_EQ(texts(), before);
 }
 
@@ -218,8 +218,27 @@ TEST_F(ProjectFileRoundTrip, AListLongerThan16BitsCountComesBack) {
   for (std::size_t position = 1; position <= kImages; ++position) {
     desk.project.images.Insert(position, {"photo", source, "", "", "", "t"});
   }
-  ASSERT_TRUE(Read(ProjectFileText(desk.project))) << Box();
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events))) << Box();
   ASSERT_EQ(desk.project.images.Count(), kImages);
   EXPECT_EQ(desk.project.images.Entry(kImages).ImageName, "photo_39999");
   EXPECT_EQ(desk.project.images.Entry(kImages).ThumbnailDescription, "t");
+}
+
+TEST_F(ProjectFileRoundTrip, WhatAFieldHoldsAtMostComesBack) {
+  GalleryProject& project = desk.project.settings;
+  project.checkGallerySlideShow = project.checkGallerySlideShowAutoStart = 1;
+  project.comboGallerySlideShowBeginWith = 0;
+  project.checkPageLinksThumbnailDirectLinks = 1;
+  const auto isBounded = [](const ProjectField& field) { return field.range && field.range->upperBound; };
+  for (const ProjectField& field : ProjectFields()) {
+    if (!isBounded(field)) continue;
+    project.*std::get<Digits GalleryProject::*>(field.member) = std::to_string(*field.range->upperBound);
+  }
+  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events))) << Box();
+  for (const ProjectField& field : ProjectFields()) {
+    if (!isBounded(field)) continue;
+    EXPECT_EQ(project.*std::get<Digits GalleryProject::*>(field.member), std::to_string(*field.range->upperBound))
+        << field.name;
+  }
+  EXPECT_EQ(project.ThumbnailFrameSize, 99999);
 }

@@ -13,17 +13,17 @@ namespace {
 class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
  public:
   GalleryProject& Edit() { return desk.project.settings; }
-  [[nodiscard]] std::string Text() const { return ProjectFileText(desk.project); }
+  [[nodiscard]] std::string Text() { return ProjectFileText(desk.project, desk.events); }
   bool Write(const std::string& target) {
     desk.calls.clear();
-    return ProjectFileWriter(desk.project, desk.paths, desk.host).WriteProjectFile(target);
+    return ProjectFileWriter(desk.project, desk.paths, desk.host, desk.events).WriteProjectFile(target);
   }
   /// Compares an element a line, so that a failure shows the one that differs.
-  void ExpectText(const std::string& expected) const {
+  void ExpectText(const std::string& expected) {
     EXPECT_EQ(ReplaceAll(Text(), "><", ">\n<"), ReplaceAll(expected, "><", ">\n<"));
   }
   /// The element of that name in the text, with its attributes and without what it holds.
-  [[nodiscard]] std::string Tag(const std::string& name) const {
+  [[nodiscard]] std::string Tag(const std::string& name) {
     const std::string text = Text();
     const auto at = text.find('<' + name);
     return at == std::string::npos ? "none" : text.substr(at, text.find('>', at) + 1 - at);
@@ -348,4 +348,26 @@ TEST_F(ProjectFileWriterTest, ALinkToItselfIsNotFollowedForEver) {
   std::filesystem::create_symlink("loop.gpj", desk.folder.Path() / "loop.gpj");
   std::ignore = Write(desk.PathOf("loop.gpj"));
   SUCCEED();
+}
+
+TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnBehindTheStatusText) {
+  Calls callsThen;
+  desk.events.onTurn = [&](int turn) {
+    if (turn == 1) callsThen = desk.calls;
+  };
+  const std::string target = desk.PathOf("out.gpj");
+  ASSERT_TRUE(Write(target));
+  EXPECT_EQ(callsThen, (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer"}));
+}
+
+TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnEvery100ImagesAndAsTheTextGrows) {
+  const auto turnsWith = [&](std::size_t images, const std::string& description) {
+    while (desk.project.images.Count() < images) desk.AddImage("a.jpg", description);
+    desk.events.turns = 0;
+    std::ignore = Text();
+    return desk.events.turns;
+  };
+  const int few = turnsWith(1, "");
+  EXPECT_EQ(turnsWith(350, ""), few + 2 * 3) << "for the images and for their thumbnails";
+  EXPECT_GT(turnsWith(1'050, std::string(5'000, 'a')), few + 2 * 10);
 }

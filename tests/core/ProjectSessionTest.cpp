@@ -201,6 +201,53 @@ TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
   EXPECT_EQ(States(), "pristine untitled");
 }
 
+TEST_F(ProjectSessionTest, ASaveBehindAFailedOpenAsksForANameAndTheOldFileStays) {
+  GiveItAFile();
+  const std::string before = desk.folder.Read("mine.gpj");
+  desk.dialog.answers = {desk.File("bad.gpj", ProjectFileParts{.imagePage = "<IMAGEPAGE/>"}.Text())};
+  session.OpenProject();
+  EXPECT_EQ(project.ProjectFileName, "mine.gpj");
+  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays") << "what was read so far";
+  EXPECT_EQ(States(), "");
+  for (int save = 0; save < 2; ++save) {
+    EXPECT_FALSE(session.SaveProject()) << "nothing was chosen";
+    EXPECT_EQ(desk.dialog.requests.back().title, "Save Gallery Project As");
+    EXPECT_EQ(desk.dialog.requests.back().fileName, "mine.gpj");
+  }
+  session.SaveProjectAs();
+  EXPECT_FALSE(session.SaveProject()) << "a cancelled Save As changes nothing about it";
+  EXPECT_EQ(desk.folder.Read("mine.gpj"), before);
+}
+
+TEST_F(ProjectSessionTest, ASaveGoesToItsFileAgainOnceTheProjectHasOne) {
+  const std::string bad = desk.File("bad.gpj", "<GALLERYPROJECT/>");
+  const auto expectNoQuestion = [this](const char* how) {
+    const std::size_t asked = desk.dialog.requests.size();
+    EXPECT_TRUE(session.SaveProject()) << how;
+    EXPECT_EQ(desk.dialog.requests.size(), asked) << how;
+  };
+  GiveItAFile();
+  desk.dialog.answers = {bad, desk.PathOf("saved.gpj")};
+  session.OpenProject();
+  EXPECT_TRUE(session.SaveProject());
+  EXPECT_EQ(project.ProjectFileName, "saved.gpj");
+  expectNoQuestion("saved under a name");
+
+  desk.dialog.answers = {bad, ValidFile()};
+  session.OpenProject();
+  session.OpenProject();
+  expectNoQuestion("another one was opened");
+
+  desk.dialog.answers = {bad, desk.PathOf("as.gpj")};
+  session.OpenProject();
+  session.SaveProjectAs();
+  expectNoQuestion("saved by Save As");
+
+  EXPECT_FALSE(session.LoadProject(bad));
+  EXPECT_TRUE(session.SaveProjectTo(desk.PathOf("to.gpj")));
+  expectNoQuestion("saved to a path");
+}
+
 TEST_F(ProjectSessionTest, OpenAsksAboutAModifiedProject) {
   Modify();
   desk.boxes.answers = {BoxAnswer::Cancel};
@@ -231,6 +278,20 @@ TEST_F(ProjectSessionTest, TheCommandLineIsAPathInQuotes) {
   EXPECT_EQ(project.ProjectFileName, "other.gpj");
   EXPECT_EQ(States(), "");
   EXPECT_EQ(project.images.Count(), 1U);
+}
+
+TEST_F(ProjectSessionTest, TheCommandLineLosesItsQuotesBeforeItsPathIsMadeWhole) {
+  ValidFile("my own.gpj");
+  const std::string native = (desk.folder.Path() / "my own.gpj").string();
+  const std::string relative =
+      std::filesystem::path(native).lexically_relative(std::filesystem::current_path()).string();
+  for (const std::string& path : {native, relative, desk.PathOf("my own.gpj")}) {
+    desk.boxes.boxes.clear();
+    project.ProjectFileName.clear();
+    session.OpenProjectFromCommandLine('"' + path + '"');
+    EXPECT_TRUE(desk.boxes.boxes.empty()) << path;
+    EXPECT_EQ(project.ProjectFolder + project.ProjectFileName, desk.PathOf("my own.gpj")) << path;
+  }
 }
 
 TEST_F(ProjectSessionTest, AnEmptyCommandLineDoesNothing) {

@@ -40,6 +40,15 @@ TEST(PathText, SeparatorsAreTurnedRound) {
   EXPECT_EQ(WithSlashes(""), "");
 }
 
+TEST(PathText, AnExtensionIsAppendedUnlessThePathEndsInItInAnyCase) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"a", "a.gpj"},     {"a.gpj", "a.gpj"},       {"a.GPJ", "a.GPJ"},
+      {"gpj", "gpj.gpj"}, {".gpj", ".gpj"},         {"24.12", "24.12.gpj"},
+      {"a.", "a..gpj"},   {"a.gpjx", "a.gpjx.gpj"}, {"C:\\b.gpj\\a", "C:\\b.gpj\\a.gpj"},
+      {"", ".gpj"}};
+  for (const auto& [path, expected] : cases) EXPECT_EQ(WithExtension(path, ".gpj"), expected) << path;
+}
+
 TEST(PathText, ABackslashIsAppendedOnce) {
   EXPECT_EQ(WithTrailingBackslash("C:\\a"), "C:\\a\\");
   EXPECT_EQ(WithTrailingBackslash("C:\\a\\"), "C:\\a\\");

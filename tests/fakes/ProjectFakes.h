@@ -3,6 +3,7 @@
 #include "core/ImageListOperations.h"
 #include "core/ProjectFields.h"
 #include "core/ProjectSession.h"
+#include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/TemporaryFolder.h"
 
@@ -75,12 +76,6 @@ class RecordedBoxes : public RecordingMessageBox {
   Calls& calls_;
 };
 
-class CountingEvents : public EventLoop {
- public:
-  void Turn() override { ++turns; }
-  int turns = 0;
-};
-
 /// One project, its session and a folder for its files.
 struct ProjectDesk {
   TemporaryFolder folder;
@@ -88,7 +83,7 @@ struct ProjectDesk {
   RecordedBoxes boxes{calls};
   ScriptedProjectFileDialog dialog{calls};
   RecordingSessionHost host{calls};
-  CountingEvents events;
+  CountingEventLoop events;
   PathMap paths{{}};
   RegionalFormats formats;
   mFileFunctions files{paths, formats};

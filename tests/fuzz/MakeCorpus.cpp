@@ -1,6 +1,7 @@
 // Writes what no editor can of the corpus.
 // Use: fuzz_corpus tests/fuzz/corpus
 #include "core/ProjectFileWriter.h"
+#include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/JpegMaker.h"
 
 #include <filesystem>
@@ -100,7 +101,8 @@ void WriteProjects(const fs::path& folder) {
     return fmt::format("<?xml version=\"1.0\" encoding=\"{}\"?>", encoding);
   };
   const std::string wide = SmallProject("", "\xE4");
-  Write(folder / "full.gpj", ProjectFileText(FullProject()));
+  fakes::CountingEventLoop events;
+  Write(folder / "full.gpj", ProjectFileText(FullProject(), events));
   Write(folder / "utf8_mark.gpj", "\xEF\xBB\xBF" + SmallProject("", "\xC3\xA4"));
   Write(folder / "utf16le_mark.gpj", "\xFF\xFE" + Widened(wide, 2, false));
   Write(folder / "utf16be_mark.gpj", "\xFE\xFF" + Widened(wide, 2, true));

@@ -29,7 +29,7 @@ class Desk : public fakes::ProjectDesk {
   }
 
   /// The text of a project file, which has CR LF or LF for what was any line end before.
-  [[nodiscard]] std::string Written() const { return OneLineEnd(ProjectFileText(project)); }
+  [[nodiscard]] std::string Written() { return OneLineEnd(ProjectFileText(project, events)); }
 
   /// The images as the file holds them: separators are slashes in it, and line ends of their texts CR LF.
   [[nodiscard]] std::string Images() const {
@@ -79,14 +79,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckXml(input);
   if (!desk.Read(input)) {
     fuzz::Require(!desk.boxes.boxes.empty(), "a project that can't be read gives a box");
-    std::ignore = ProjectFileText(desk.project);  // what was read so far may be saved
+    std::ignore = ProjectFileText(desk.project, desk.events);  // what was read so far may be saved
     return 0;
   }
   fuzz::Require(desk.boxes.boxes.empty(), "a project that was read gives no box");
   LoseWhatIsNotReadBack(desk.project.settings);
   const std::string images = desk.Images();
   const std::string written = desk.Written();
-  fuzz::Require(desk.Read(ProjectFileText(desk.project)), "what was read can be written and read again");
+  fuzz::Require(desk.Read(ProjectFileText(desk.project, desk.events)), "what was read can be written and read again");
   fuzz::RequireEqual(desk.Images(), images, "the images come back");
   fuzz::RequireEqual(desk.Written(), written, "the same project gives the same file");
   return 0;

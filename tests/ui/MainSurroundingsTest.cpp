@@ -10,6 +10,7 @@
 #include <QTextDocumentFragment>
 #include <QTimer>
 #include <QToolTip>
+#include <set>
 
 namespace vantorium {
 namespace {
@@ -126,7 +127,7 @@ TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
   Type(title, "x");
   desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   desk.Trigger("menuFileSave");
-  EXPECT_TRUE(title.hasFocus());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return title.hasFocus(); }));
 }
 
 TEST_F(AroundTheMainWindow, TheKeyboardIsInTheTitleBehindAStartWithAProject) {
@@ -223,6 +224,67 @@ TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreToldStepByStep) {
   EXPECT_EQ(windows.seen, (std::vector<std::string>{"Saving Preferences", "Clearing Project",
                                                     "Clearing Temporary Folder", "Cleanup"}));
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+/// What the info window and the status bar have painted, each text once; "greyed" in front of a disabled info line.
+class PaintedTexts : public QObject {
+ public:
+  PaintedTexts() { qApp->installEventFilter(this); }
+
+  std::set<std::string> texts;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto* label = event->type() == QEvent::Paint ? qobject_cast<QLabel*>(watched) : nullptr;
+    if (label == nullptr || label->text().isEmpty()) return false;
+    if (label->objectName() == "sbMainText") texts.insert(FromQt(label->text()));
+    if (label->objectName() == "Label1") texts.insert((label->isEnabled() ? "" : "greyed ") + FromQt(label->text()));
+    return false;
+  }
+};
+
+TEST_F(AroundTheMainWindow, AReadingAndAWritingAreToldAndTheirTextsArePainted) {
+  desk.Start();
+  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  PaintedTexts writing;
+  desk.Trigger("menuFileSave");
+  EXPECT_EQ(writing.texts,
+            (std::set<std::string>{"Please wait... Writing Project File.", "Writing Project File \"T:\\x.gpj\"..."}));
+  PaintedTexts reading;
+  desk.Trigger("menuFileOpen");
+  EXPECT_EQ(reading.texts,
+            (std::set<std::string>{"Please wait... Reading Project File.", "Reading Project File \"T:\\x.gpj\"..."}));
+  PaintedTexts clearing;
+  desk.Trigger("menuOptionsClearTempFolder");
+  EXPECT_EQ(clearing.texts, (std::set<std::string>{"Please wait... Clearing Temporary Folder."}));
+}
+
+TEST_F(AroundTheMainWindow, NothingElseBeginsWhileAProjectIsWritten) {
+  desk.folder.Write("data/help/index.html", "x");
+  desk.Start();
+  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  bool tried = false;
+  int dialogs = 0;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog != nullptr && dialog->close()) ++dialogs;
+  });
+  watch.start(10);
+  QTimer::singleShot(0, [&] {
+    EXPECT_FALSE(desk.window->isEnabled());
+    tried = true;
+    desk.window->close();
+    for (const Qt::Key key : {Qt::Key_H, Qt::Key_A, Qt::Key_C}) ChooseInTray(key);
+  });
+  desk.Trigger("menuFileSave");
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(tried);
+  EXPECT_EQ(dialogs, 0);
+  EXPECT_EQ(desk.Title(), "Vantorium 3.0 - [x.gpj]");
+  EXPECT_TRUE(desk.shell.opened.empty());
+  EXPECT_EQ(desk.closed, 0);
+  EXPECT_TRUE(desk.window->isVisible());
 }
 
 TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {

@@ -59,6 +59,21 @@ TEST(InfoForm, HasTheBusyPointerWhileItIsShown) {
   }
 }
 
+TEST(InfoForm, LeavesTheKeyboardWithTheWindowThatHadIt) {
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  frmInfo info;
+  EXPECT_TRUE(info.testAttribute(Qt::WA_ShowWithoutActivating));
+  info.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&info));
+  info.activateWindow();  // for the desktops that activate it all the same
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&info));
+  info.hide();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+}
+
 TEST(InfoForm, GivesThePointerBackWhenItGoesWhileShown) {
   {
     frmInfo info;

@@ -14,7 +14,7 @@ struct FileDialogRequest {
   std::string initialFolder = {};
   std::string fileName = {};
   std::string filter = {};            ///< pairs of a description and a pattern, all between "|"
-  std::string defaultExtension = {};  ///< goes behind a name without one, has no dot
+  std::string defaultExtension = {};  ///< goes behind a name that does not end in it, has no dot
   bool preview = false;               ///< with a picture of the chosen file
   std::size_t filterIndex = 0;        ///< the filter to begin with, from 1; 0 for the first
 };

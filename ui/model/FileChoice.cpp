@@ -77,9 +77,8 @@ std::string FileChoice::PathOf(const std::string& folder, const std::string& nam
 }
 
 std::string FileChoice::WithDefaultExtension(const std::string& path) const {
-  const bool complete = request_.defaultExtension.empty() || !GetFileExtension(GetFileName(path)).empty() ||
-                        (request_.open && files_.PathExists(path));
-  return complete ? path : path + '.' + request_.defaultExtension;
+  const bool complete = request_.defaultExtension.empty() || (request_.open && files_.PathExists(path));
+  return complete ? path : WithExtension(path, '.' + request_.defaultExtension);
 }
 
 bool FileChoice::MayBeChosen(const std::string& path) {

@@ -28,8 +28,8 @@ class FileChoice {
   void Browsed(std::string file) { lastBrowsed_ = std::move(file); }
 
   /// What OK does with `text` while the dialog shows `folder`. A file to open must exist and an existing file is only
-  /// replaced after a question; a name without an extension gets the default one; several files lie in one folder; what
-  /// cannot stand in a project is refused.
+  /// replaced after a question; a name that does not end in the default extension gets it; several files lie in one
+  /// folder; what cannot stand in a project is refused.
   [[nodiscard]] Step Ok(const std::string& folder, const std::string& text);
 
   [[nodiscard]] const std::string& Folder() const { return folder_; }

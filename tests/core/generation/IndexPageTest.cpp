@@ -27,6 +27,12 @@ TEST_F(IndexPage, OfASingleFrameIsAFramesetWithOneFrame) {
                    "</HTML>"}));
 }
 
+TEST_F(IndexPage, AFrameIsAsWideAsItsFieldHolds) {
+  project.comboGalleryLayoutType = 1;
+  project.ThumbnailFrameSize = 99999;
+  EXPECT_EQ(Frameset(), R"(<FRAMESET COLS="99999,*" BORDER="0" >)");
+}
+
 TEST_F(IndexPage, OfTwoFramesHasThemInOrder) {
   project.comboGalleryLayoutType = 1;
   EXPECT_EQ(

@@ -96,7 +96,8 @@ TEST_F(ThumbnailPage, TellsHowManyImagesStandOnAPage) {
   for (const GridCase& each :
        {GridCase{"2", "2", 1, 4}, GridCase{"2", "2", 5, 3}, GridCase{"2", "2", 7, 1}, GridCase{"2", "2", 8, 0},
         GridCase{"5", "5", 1, 7}, GridCase{"0", "5", 1, 0}, GridCase{"5", "0", 1, 0}, GridCase{"-2", "-2", 1, 0},
-        GridCase{"", "2", 1, 0}, GridCase{"1.5", "2.5", 1, 4}, GridCase{"32767", "32767", 3, 5}}) {
+        GridCase{"", "2", 1, 0}, GridCase{"1.5", "2.5", 1, 4}, GridCase{"32768", "1", 3, 5},
+        GridCase{"99999", "99999", 3, 5}, GridCase{"99999", "99999", 8, 0}}) {
     SetGrid(each.rows, each.columns);
     run.ImageCount = 7;
     run.ThumbnailPageCount = 2;
@@ -109,7 +110,7 @@ TEST_F(ThumbnailPage, TellsHowManyImagesStandOnAPage) {
 TEST_F(ThumbnailPage, AGridThatNoPageCanHoldIsAnOverflow) {
   AddImages(1);
   run.ImageCount = 1;
-  SetGrid("1e9", "0.000001");
+  SetGrid("1e10", "0.000001");
   EXPECT_THROW((void)ImagesOnThumbnailPage(run, 1), RuntimeFailure);
   EXPECT_THROW((void)Page(), RuntimeFailure);
 }

@@ -87,12 +87,14 @@ TEST_F(Choosing, TheNameOfAFolderLeadsIntoIt) {
   EXPECT_EQ(choice.Folder(), "C:\\photos\\");
 }
 
-TEST_F(Choosing, ANameToSaveGetsTheDefaultExtension) {
+TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItEndsInIt) {
   FileChoice choice = Save();
   ASSERT_EQ(choice.Ok("C:\\", "new"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\new.gpj");
-  ASSERT_EQ(choice.Ok("C:\\", "new.xml"), Step::Accept);
-  EXPECT_EQ(choice.Result().result, "C:\\new.xml");
+  ASSERT_EQ(choice.Ok("C:\\", "Holiday 24.12"), Step::Accept);
+  EXPECT_EQ(choice.Result().result, "C:\\Holiday 24.12.gpj");
+  ASSERT_EQ(choice.Ok("C:\\", "new.GPJ"), Step::Accept);
+  EXPECT_EQ(choice.Result().result, "C:\\new.GPJ");
   ASSERT_EQ(choice.Ok("C:\\v1.5", "new"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\v1.5\\new.gpj");
   EXPECT_TRUE(boxes.boxes.empty());

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "env/EventLoop.h"
+
+namespace vantorium {
+
+/// Gives the event loop a turn at every 100th step of a long work.
+class RegularTurns {
+ public:
+  explicit RegularTurns(EventLoop& events) : events_(events) {}
+
+  void Step() {
+    if (++steps_ % 100 == 0) events_.Turn();
+  }
+
+ private:
+  EventLoop& events_;
+  int steps_ = 0;
+};
+
+}  // namespace vantorium
