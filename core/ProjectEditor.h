@@ -30,7 +30,7 @@ class ProjectEditor {
   bool& modified_;
 };
 
-/// The text of a field after an edit to `value`: in a Digits field the bound in place of a number below it, and nothing
+/// The text of a field after an edit to `value`: in a Digits field its bound in place of a number beyond it, and nothing
 /// in place of what is no number where the field can do without one.
 [[nodiscard]] std::string Clamped(std::string GalleryProject::*field, std::string value);
 
