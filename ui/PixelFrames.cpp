@@ -1,7 +1,5 @@
 #include "ui/PixelFrames.h"
 
-#include "ui/DevicePixels.h"
-
 #include <QPainter>
 #include <QStyleOptionFrame>
 #include <cmath>
@@ -10,14 +8,14 @@ namespace vantorium {
 
 void PixelFrames::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
-  const qreal scale = painter->device()->devicePixelRatioF();
+  const QTransform toPixels = painter->deviceTransform();
+  const qreal scale = toPixels.m11();
   const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
   if (element != CE_ShapedFrame || frame == nullptr || scale == std::floor(scale)) {
     return QProxyStyle::drawControl(element, option, painter, widget);
   }
-  const QTransform toPixels = painter->deviceTransform();
   QStyleOptionFrame onPixels = *frame;
-  onPixels.rect = WholePixels(toPixels, option->rect);
+  onPixels.rect = toPixels.mapRect(QRectF(option->rect)).toRect();
   painter->save();
   painter->setTransform(toPixels.inverted(), true);
   QProxyStyle::drawControl(element, &onPixels, painter, widget);

@@ -348,6 +348,10 @@ TEST_F(FileDialog, ATypedFolderIsEntered) {
   EXPECT_EQ(result.result, "C:\\photos\\sub\\d.jpg");
 }
 
+int WidthNeeded(const QAbstractItemView& list, int column) {
+  return list.sizeHintForColumn(column);
+}
+
 TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
   desk.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
   Show(Images(), [](QWidget& dialog) {
@@ -355,7 +359,7 @@ TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
     const auto fits = [&] {
       int width = details.columnWidth(0);
       for (int column = 1; column < details.model()->columnCount(); ++column) {
-        if (details.columnWidth(column) < details.sizeHintForColumn(column)) return false;
+        if (details.columnWidth(column) < WidthNeeded(details, column)) return false;
         width += details.columnWidth(column);
       }
       return width == details.viewport()->width();
@@ -376,7 +380,7 @@ TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
   Show(Images(), [&](QWidget& dialog) {
     auto& details = Find<QTreeView>(dialog, "treeView");
     EXPECT_TRUE(RowOf(details, "a.jpg").isValid());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return details.columnWidth(1) >= details.sizeHintForColumn(1); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return details.columnWidth(1) >= WidthNeeded(details, 1); }));
     QApplication::processEvents();
     details.setColumnWidth(1, 33);
     desk.disk.Write("photos/new.jpg", fakes::MakeJpeg({}));
