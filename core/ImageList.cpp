@@ -22,6 +22,13 @@ const std::string& TextOf(const ImageEntry& entry, SortColumn column) {
   return entry.DateKey;
 }
 
+bool BeginsWithWord(std::string_view name, const std::string& foldedWord) {
+  const std::string folded = FoldCase(name);
+  if (!folded.starts_with(foldedWord)) return false;
+  const std::string_view rest = std::string_view(folded).substr(foldedWord.size());
+  return !BeginsWithLetterOrDigit(rest);
+}
+
 void CheckPosition(std::size_t position, std::size_t last) {
   if (position < 1 || position > last) throw RuntimeFailure(FailureKind::IndexOutOfBounds);
 }
@@ -141,10 +148,10 @@ std::optional<std::size_t> ImageList::PositionOf(std::string_view name) const {
   return static_cast<std::size_t>(found - rows_.begin()) + 1;
 }
 
-std::optional<std::size_t> ImageList::FindIgnoringCase(std::string_view name) const {
-  const std::string wanted = FoldCase(name);
+std::optional<std::size_t> ImageList::FindWord(std::string_view word) const {
+  const std::string wanted = FoldCase(word);
   const auto found =
-      std::ranges::find_if(rows_, [&](const RowOwner& row) { return FoldCase(row->entry.ImageName) == wanted; });
+      std::ranges::find_if(rows_, [&](const RowOwner& row) { return BeginsWithWord(row->entry.ImageName, wanted); });
   if (found == rows_.end()) return std::nullopt;
   return static_cast<std::size_t>(found - rows_.begin()) + 1;
 }

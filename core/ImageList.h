@@ -67,8 +67,9 @@ class ImageList {
 
   /// Position of the row with exactly that name.
   [[nodiscard]] std::optional<std::size_t> PositionOf(std::string_view name) const;
-  /// Position of the first row whose whole name is `name`, upper and lower case being the same.
-  [[nodiscard]] std::optional<std::size_t> FindIgnoringCase(std::string_view name) const;
+  /// Position of the first row whose name begins with `word`, upper and lower case being the same, and has its end or a
+  /// character that is neither letter nor digit behind it.
+  [[nodiscard]] std::optional<std::size_t> FindWord(std::string_view word) const;
 
  private:
   struct Row {

@@ -24,15 +24,19 @@ constexpr std::array<ListOrder, 8> kOrders = {{{SortColumn::ImageName, SortDirec
 bool ImageListOperations::AddImage(std::size_t index, const std::string& sourcePath, const std::string& imageName,
                                    [[maybe_unused]] bool flag, const std::string& imageDescription,
                                    const std::string& thumbnailDescription) {
-  ImageEntry entry = {.ImageName = imageName,
-                      .SourcePath = std::string(WithoutFilePrefix(sourcePath)),
-                      .SizeKey = {},
-                      .DateKey = {},
-                      .ImageDescription = imageDescription,
-                      .ThumbnailDescription = thumbnailDescription};
-  if (!Keys(entry)) return false;
-  project_.images.Insert(index, std::move(entry));
-  return true;
+  const auto position = Add(index, {.ImageName = imageName,
+                                    .SourcePath = std::string(WithoutFilePrefix(sourcePath)),
+                                    .SizeKey = {},
+                                    .DateKey = {},
+                                    .ImageDescription = imageDescription,
+                                    .ThumbnailDescription = thumbnailDescription});
+  return position.has_value();
+}
+
+/// The position at which the row now stands; nothing when its file could not be read.
+std::optional<std::size_t> ImageListOperations::Add(std::size_t index, ImageEntry entry) {
+  if (!Keys(entry)) return std::nullopt;
+  return project_.images.Insert(index, std::move(entry));
 }
 
 /// Reads the sort keys of an entry from its file; a box and false when that fails.
@@ -49,11 +53,18 @@ bool ImageListOperations::Keys(ImageEntry& entry) {
   }
 }
 
+bool ImageListOperations::AddFile(const std::string& path) {
+  ImageEntry entry;
+  entry.ImageName = GetFileName(path);
+  entry.SourcePath = WithoutFilePrefix(path);
+  const auto position = Add(project_.images.Count() + 1, std::move(entry));
+  if (position && project_.images.Current() == 0) SelectAsCurrent(*position);
+  return position.has_value();
+}
+
 bool ImageListOperations::AddFiles(const std::vector<std::string>& paths) {
   const std::size_t before = project_.images.Count();
-  const bool all = std::ranges::all_of(paths, [this](const std::string& path) {
-    return AddImage(project_.images.Count() + 1, path, GetFileName(path), false, {}, {});
-  });
+  const bool all = std::ranges::all_of(paths, [this](const std::string& path) { return AddFile(path); });
   if (project_.images.Count() != before) project_.IsModified = true;
   RefreshPreviewAndCounts();
   return all;
@@ -63,7 +74,7 @@ void ImageListOperations::RemoveSelected() {
   display_.ShowWaitPointer();
   const std::size_t first = project_.images.RemoveSelected();
   if (first != 0) {
-    MakeCurrentAtOrBefore(first);
+    SelectAtOrBefore(first);
     project_.IsModified = true;
   }
   display_.ResetPointer();
@@ -85,8 +96,7 @@ void ImageListOperations::RemoveCorrupted() {
   if (position == 0) return;
   project_.images.Remove(position);
   project_.IsModified = true;
-  MakeCurrentAtOrBefore(position);
-  if (project_.images.Current() != 0) project_.images.Select(project_.images.Current());
+  SelectAtOrBefore(position);
   RefreshPreviewAndCounts();
 }
 
@@ -168,7 +178,7 @@ void ImageListOperations::Shuffle(const ShuffleTools& tools) {
   StopSorting();
   tools.random.SeedFromClock();
   if (ShuffleRows(images, tools)) images.DeselectAll();
-  MakeCurrentAtOrBefore(1);
+  SelectAtOrBefore(1);
   display_.RefreshPreview();
   display_.ResetPointer();
   tools.progress.Close();
@@ -176,12 +186,13 @@ void ImageListOperations::Shuffle(const ShuffleTools& tools) {
 
 void ImageListOperations::FindByName(const std::string& text) {
   if (project_.images.Empty() || text.empty()) return;
-  const auto found = project_.images.FindIgnoringCase(text);
+  const auto found = project_.images.FindWord(text);
   if (!found) {
     boxes_.Critical("Image not found", "This Gallery does not contain an Image named \"" + text + "\".");
     return;
   }
   display_.ScrollIntoView(*found);
+  project_.images.DeselectAll();
   SelectAsCurrent(*found);
   display_.RefreshPreview();
 }
@@ -199,14 +210,18 @@ void ImageListOperations::Rename(const std::string& nameBase, RenameScope scope)
   project_.IsModified = true;
 }
 
+void ImageListOperations::SelectFirstIfNoneIsCurrent() {
+  if (project_.images.Current() == 0) SelectAtOrBefore(1);
+}
+
 void ImageListOperations::SelectAsCurrent(std::size_t position) {
   project_.images.Select(position);
   project_.images.SetCurrent(position);
 }
 
-/// For after a removal: the row that moved up to `position` becomes the current one, past the end the last one.
-void ImageListOperations::MakeCurrentAtOrBefore(std::size_t position) {
-  project_.images.SetCurrent(std::min(position, project_.images.Count()));
+/// For after a removal: the row that moved up to `position`, past the end the last one.
+void ImageListOperations::SelectAtOrBefore(std::size_t position) {
+  if (!project_.images.Empty()) SelectAsCurrent(std::min(position, project_.images.Count()));
 }
 
 void ImageListOperations::RefreshPreviewAndCounts() {

@@ -7,6 +7,7 @@
 #include "env/mFileFunctions.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ inline constexpr char kNoNameBase[] = "?&null&?";
 enum class RenameScope { CurrentImage, AllImages };
 
 /// What a user does with the image list of the project. Positions count from 1. Whatever changes the project sets
-/// IsModified, except AddImage, MoveEntry and StopSorting, which are steps of other operations.
+/// IsModified, except AddImage, AddFile, MoveEntry and StopSorting, which are steps of other operations.
 class ImageListOperations {
  public:
   ImageListOperations(Project& project, const mFileFunctions& files, MessageBoxPort& boxes, ImageListDisplay& display)
@@ -30,10 +31,14 @@ class ImageListOperations {
   [[nodiscard]] bool AddImage(std::size_t index, const std::string& sourcePath, const std::string& imageName, bool flag,
                               const std::string& imageDescription, const std::string& thumbnailDescription);
 
-  /// Adds each file at the end of the list under its file name. The first one that cannot be read ends it; what was
-  /// added before stays. True when all were added.
+  /// Adds a file at the end of the list under its file name, as AddImage does. Where no row is current, the new one
+  /// becomes so and is selected.
+  [[nodiscard]] bool AddFile(const std::string& path);
+  /// Adds each file as AddFile does. The first one that cannot be read ends it; what was added before stays. True when
+  /// all were added.
   bool AddFiles(const std::vector<std::string>& paths);
 
+  /// Selects the row now at the place of the first one, or the one before, and makes it current.
   void RemoveSelected();
   /// Asks first.
   void RemoveAll();
@@ -59,23 +64,28 @@ class ImageListOperations {
   /// Sets the sorting order to 0 and nothing else: what a new project and a reading of a file begin with.
   void StopSorting();
 
-  /// Asks first, and only with more than one row.
+  /// Asks first, and only with more than one row. The first row is current and selected afterwards.
   void Shuffle(const ShuffleTools& tools);
 
-  /// Selects the image of that name, in any case, and makes it current. Nothing happens with an empty text or list.
+  /// Selects the image that ImageList::FindWord gives, and no other, and makes it current. Nothing happens with an
+  /// empty text or list.
   void FindByName(const std::string& text);
 
   /// Gives the current image, or all of them, the name `nameBase`, numbered from the second one on in list order. An
   /// empty base and kNoNameBase change nothing.
   void Rename(const std::string& nameBase, RenameScope scope);
 
+  /// Where no row is current, selects the first one and makes it current: for a list that was filled by other means.
+  void SelectFirstIfNoneIsCurrent();
+
  private:
   enum class Step { Up, Down };
 
+  [[nodiscard]] std::optional<std::size_t> Add(std::size_t index, ImageEntry entry);
   [[nodiscard]] bool Keys(ImageEntry& entry);
   void MoveSelected(Step step);
   void SelectAsCurrent(std::size_t position);
-  void MakeCurrentAtOrBefore(std::size_t position);
+  void SelectAtOrBefore(std::size_t position);
   void RefreshPreviewAndCounts();
 
   Project& project_;

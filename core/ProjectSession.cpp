@@ -105,6 +105,7 @@ bool ProjectSession::LoadProject(const std::string& path) {
 bool ProjectSession::Read(const std::string& path) {
   ProjectFileReader reader(project_, images_, ports_.paths, ports_.boxes, ports_.host, ports_.events);
   const bool read = reader.ReadProjectFile(path);
+  images_.SelectFirstIfNoneIsCurrent();
   if (!read) {
     holdsPartOfAnotherFile_ = true;
     ShowFileError(ports_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".", path));

@@ -2,12 +2,14 @@
 
 #include "ui/FilePreview.h"
 #include "ui/FolderPathBox.h"
+#include "ui/PixelFrames.h"
 #include "ui/model/DialogPlace.h"
 #include "ui/model/FileFilters.h"
 #include "ui/ports/QtText.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QFileInfo>
@@ -21,6 +23,8 @@
 
 namespace vantorium {
 namespace {
+
+constexpr int kLeastNameWidth = 120;
 
 /// The toolkit takes the last pair of brackets for the patterns and shows what is before it.
 QString NameFilter(const FileFilter& filter) {
@@ -86,6 +90,12 @@ void FileWindow::SetUpLayout(const FileDialogRequest& request) {
   preview_ = new FilePreview(files_, request.preview, this);
   grid->addWidget(preview_, 1, grid->columnCount());
   resize(request.preview ? QSize(860, 480) : QSize(680, 460));
+
+  auto* const frames = new PixelFrames;
+  frames->setParent(this);
+  for (QFrame* frame : findChildren<QFrame*>()) {
+    if (frame->frameShape() != QFrame::NoFrame) frame->setStyle(frames);
+  }
 }
 
 void FileWindow::FollowSelection() {
@@ -101,7 +111,8 @@ void FileWindow::FollowSelection() {
     RefreshOk();
   });
   ok_->installEventFilter(this);
-  connect(model_, &QFileSystemModel::directoryLoaded, this, &FileWindow::FitColumns, Qt::QueuedConnection);
+  connect(model_, &QFileSystemModel::rootPathChanged, this, &FileWindow::EnterFolder, Qt::QueuedConnection);
+  connect(model_, &QFileSystemModel::directoryLoaded, this, &FileWindow::TakeLoadedFolder, Qt::QueuedConnection);
 }
 
 void FileWindow::Begin(const FileDialogRequest& request, const std::filesystem::path& home) {
@@ -166,17 +177,28 @@ void FileWindow::RefreshOk() {
   ok_->setEnabled(limit_.AllowsOk() && !name_->text().isEmpty());
 }
 
-/// Once, so that the user's own widths stay: the names get the room that the other columns leave.
-void FileWindow::FitColumns(const QString& loadedFolder) {
-  if (columnsFit_ || loadedFolder != model_->rootPath()) return;
-  columnsFit_ = true;
+/// The completions on the screen are those of the folder before.
+void FileWindow::EnterFolder(const QString& folder) {
+  if (QCompleter* completer = name_->completer()) completer->popup()->hide();
+  if (loadedFolders_.contains(folder)) FitColumns();
+}
+
+/// A folder whose files change is loaded again, and then the user's own widths stay.
+void FileWindow::TakeLoadedFolder(const QString& folder) {
+  if (loadedFolders_.contains(folder)) return;
+  loadedFolders_.insert(folder);
+  if (folder == model_->rootPath()) FitColumns();
+}
+
+/// The names get the room that the other columns leave.
+void FileWindow::FitColumns() {
   auto& details = *findChild<QTreeView*>("treeView");
-  int room = details.viewport()->width();
+  int others = 0;
   for (int column = 1; column < model_->columnCount(); ++column) {
     details.resizeColumnToContents(column);
-    room -= details.columnWidth(column);
+    others += details.columnWidth(column);
   }
-  details.setColumnWidth(0, std::max(room, details.columnWidth(0) / 2));
+  details.setColumnWidth(0, std::max(details.viewport()->width() - others, kLeastNameWidth));
 }
 
 }  // namespace vantorium

@@ -4,6 +4,7 @@
 #include "ui/model/FileNameBox.h"
 
 #include <QFileDialog>
+#include <QSet>
 #include <QTimer>
 #include <filesystem>
 
@@ -46,7 +47,9 @@ class FileWindow : public QFileDialog {
   void TellSelection();
   void TakePathText();
   void RefreshOk();
-  void FitColumns(const QString& loadedFolder);
+  void EnterFolder(const QString& folder);
+  void TakeLoadedFolder(const QString& folder);
+  void FitColumns();
 
   const mFileFunctions& files_;
   FileNameLimit limit_;
@@ -57,7 +60,7 @@ class FileWindow : public QFileDialog {
   QLineEdit* name_ = nullptr;
   QPushButton* ok_ = nullptr;
   FilePreview* preview_ = nullptr;
-  bool columnsFit_ = false;
+  QSet<QString> loadedFolders_;  // native
 };
 
 }  // namespace vantorium

@@ -1,5 +1,7 @@
 #include "ui/PreviewBox.h"
 
+#include "ui/DevicePixels.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -22,7 +24,10 @@ void PreviewBox::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (!picture_.isNull()) painter.drawImage(contentsRect(), picture_);
+  if (!picture_.isNull()) {
+    const QTransform toPixels = painter.deviceTransform();
+    painter.drawImage(toPixels.inverted().mapRect(QRectF(WholePixels(toPixels, contentsRect()))), picture_);
+  }
   if (!hasFocus()) return;
   QStyleOptionFocusRect focus;
   focus.initFrom(this);

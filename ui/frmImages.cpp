@@ -63,6 +63,8 @@ void frmImages::ConnectButtons() {
   connectTo(ui_->btnImagesAddFiles, &frmImages::AddChosenFiles);
   connectTo(ui_->btnImagesAddFolder, &frmImages::AddChosenFolders);
   connectTo(ui_->btnImagesRename, &frmImages::Rename);
+  connect(this, &frmImages::CurrentChanged, ui_->btnImagesRename,
+          [this] { ui_->btnImagesRename->setEnabled(CurrentEntry() != nullptr); });
   connectTo(ui_->btnImagesFind, &frmImages::Find);
   connectTo(ui_->btnImagesShuffle, &frmImages::Shuffle);
 
@@ -159,9 +161,8 @@ void frmImages::AddChosenFolders() {
 }
 
 void frmImages::Rename() {
-  if (parts_.project.images.Empty()) return;
   RenameModel model;
-  if (const ImageEntry* entry = CurrentEntry()) model.SetNameBase(entry->ImageName);
+  model.SetNameBase(CurrentEntry()->ImageName);  // without a current image the button is disabled
   frmRename(model, this).exec();
   Do([&] { parts_.images.Rename(model.GetNameBase(), model.Scope()); });
 }

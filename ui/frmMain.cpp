@@ -4,8 +4,10 @@
 #include "publish/AsioFTPSocket.h"
 #include "publish/ServerListFile.h"
 #include "ui/PlainToolTip.h"
+#include "ui/PopupTextMenu.h"
 #include "ui/SettingsDialogs.h"
 #include "ui/SettingsPages.h"
+#include "ui/WheelGuard.h"
 #include "ui/frmCaptions.h"
 #include "ui/frmCreateGallery.h"
 #include "ui/frmFileNameSettings.h"
@@ -30,6 +32,17 @@
 #include <QToolButton>
 
 namespace vantorium {
+namespace {
+
+/// Forms of Qt Designer have no names for the lines of a menu.
+void NameSeparators(const QMenu& menu, const QStringList& names) {
+  qsizetype next = 0;
+  for (QAction* action : menu.actions()) {
+    if (action->isSeparator()) action->setObjectName(names.at(next++));
+  }
+}
+
+}  // namespace
 
 frmMain::frmMain(const DesktopPorts& ports)
     : ports_(ports),
@@ -45,7 +58,9 @@ frmMain::frmMain(const DesktopPorts& ports)
   cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
   BuildTray();
   Step();
+  new WheelGuard(this);
   ui_->setupUi(this);
+  BuildMenus();
   BuildPages();
   Step();
   ConnectCommands();
@@ -114,6 +129,18 @@ void frmMain::BuildPages() {
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+void frmMain::BuildMenus() {
+  NameSeparators(*ui_->menuFile, {"menuFileSeparator1", "menuFileSeparator2"});
+  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator"});
+  NameSeparators(*ui_->menuHelp, {"menuHelpSeparator1"});
+  MakePopupTextMenu(*this);
+  auto* view = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
+  auto* dropDown = new QMenu(view);
+  dropDown->setObjectName("tbMainViewDropDown");
+  view->setMenu(dropDown);
+  view->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
 void frmMain::ConnectCommands() {
   const auto command = [this](std::initializer_list<QAction*> actions, auto run) {
     for (QAction* action : actions) connect(action, &QAction::triggered, this, run);
@@ -151,11 +178,6 @@ void frmMain::ConnectCommands() {
             preview.SetPicture(description, file);
             preview.exec();
           });
-  auto* view = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
-  auto* dropDown = new QMenu(view);
-  dropDown->setObjectName("tbMainViewDropDown");
-  view->setMenu(dropDown);
-  view->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void frmMain::Start(const std::string& commandLine) {

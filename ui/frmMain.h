@@ -8,7 +8,6 @@
 #include "env/BrowserTable.h"
 #include "publish/UploadLog.h"
 #include "publish/mFTP.h"
-#include "ui/BusyPointer.h"
 #include "ui/DesktopPorts.h"
 #include "ui/FieldBinder.h"
 #include "ui/model/ColourDialog.h"
@@ -19,7 +18,6 @@
 #include <QPointer>
 #include <array>
 #include <memory>
-#include <optional>
 
 class QLabel;
 class QMenu;
@@ -93,6 +91,7 @@ class frmMain : public QMainWindow,
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void BuildMenus();
   void BuildPages();
   void BuildTray();
   void ConnectCommands();
@@ -124,6 +123,7 @@ class frmMain : public QMainWindow,
   [[nodiscard]] SampleSources Samples() const;
   [[nodiscard]] std::vector<std::string> AskForImageFolders();
   void ShutDown();
+  void KeepPointerWhileDisabled();
 
   DesktopPorts ports_;
   std::string appPath_;
@@ -140,7 +140,6 @@ class frmMain : public QMainWindow,
   CancelCheck cancel_{ports_.boxes};
   mFTP ftp_;
 
-  std::optional<BusyPointer> pointer_;
   std::unique_ptr<Ui::frmMain> ui_;
   std::unique_ptr<frmSplash> splash_;
   std::unique_ptr<frmSysTray> tray_;

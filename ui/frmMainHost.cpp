@@ -12,6 +12,7 @@
 #include "ui_frmMain.h"
 
 #include <QLabel>
+#include <QWindow>
 #include <utility>
 
 namespace vantorium {
@@ -35,6 +36,7 @@ void frmMain::EnableMainWindow(bool enabled) {
   if (!enabled && isEnabled()) focus_ = {focusWidget(), descriptions_->focusWidget()};
   setEnabled(enabled);
   info_->setEnabled(true);  // its line is there to be read while this window waits
+  KeepPointerWhileDisabled();
   if (!enabled) return;
   for (const QPointer<QWidget>& control : std::exchange(focus_, {})) {
     // The window itself is not shown yet while it starts.
@@ -88,15 +90,20 @@ CreateChoice frmMain::AskWhatToCreate() {
 }
 
 std::unique_ptr<ProgressWindow> frmMain::CreateProgressWindow() {
-  return std::make_unique<frmProgress>(log_, cancel_, ports_.shell, appPath_, this);
+  auto progress = std::make_unique<frmProgress>(log_, cancel_, ports_.shell, appPath_, this);
+  // Some window managers pass the keyboard on to no window of a program when a window above a disabled one goes.
+  connect(progress.get(), &QObject::destroyed, this, &QWidget::activateWindow);
+  return progress;
 }
 
 void frmMain::ShowBusyPointer(bool busy) {
-  if (busy) {
-    if (!pointer_) pointer_.emplace();
-  } else {
-    pointer_.reset();
-  }
+  busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+  KeepPointerWhileDisabled();
+}
+
+/// Qt takes the pointer of a window away while it is disabled. No other window of the program has this one's pointer.
+void frmMain::KeepPointerWhileDisabled() {
+  if (!isEnabled() && windowHandle() != nullptr) windowHandle()->setCursor(cursor());
 }
 
 void frmMain::EnableTrayIcon(bool enabled) {

@@ -32,5 +32,14 @@ TEST(CaseFolding, BytesThatAreNoTextStay) {
   for (const auto& [text, expected] : cases) EXPECT_EQ(FoldCase(text), expected);
 }
 
+TEST(CaseFolding, LettersAndDigitsOfEveryScriptAreKnown) {
+  for (const char* text : {"a", "Z.", "7", "\u00E9", "\u0416x", "\u0663", "\u6F22", "\U00010400"}) {
+    EXPECT_TRUE(BeginsWithLetterOrDigit(text)) << text;
+  }
+  for (const char* text : {"", ".a", "_a", " a", "-", "\u20AC", "\u2026", "\xFF", "\xC3"}) {
+    EXPECT_FALSE(BeginsWithLetterOrDigit(text)) << text;
+  }
+}
+
 }  // namespace
 }  // namespace vantorium

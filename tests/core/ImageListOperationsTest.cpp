@@ -110,6 +110,47 @@ TEST_F(ImageListDesk, AddFilesEndsAtTheFirstFileThatCannotBeRead) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
+TEST_F(ImageListDesk, AddFilesWithNoCurrentRowSelectsTheFirstFileAndMakesItCurrent) {
+  for (const char* name : {"b.jpg", "c.jpg", "a.jpg"}) WriteFile(name);
+  Fill({"before"});
+  EXPECT_TRUE(operations.AddFiles({"C:\\b.jpg", "C:\\c.jpg"}));
+  EXPECT_EQ(images.Current(), 2U);
+  EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
+  EXPECT_TRUE(operations.AddFiles({"C:\\a.jpg"}));
+  EXPECT_EQ(images.Current(), 2U) << "what was current stays so";
+  EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
+}
+
+TEST_F(ImageListDesk, AddFilesFollowsItsFirstFileThroughAKeptOrder) {
+  for (const char* name : {"b.jpg", "c.jpg", "a.jpg"}) WriteFile(name);
+  operations.SetSortingOrder(1);
+  EXPECT_TRUE(operations.AddFiles({"C:\\b.jpg", "C:\\a.jpg", "C:\\c.jpg"}));
+  EXPECT_EQ(ListNames(), (Names{"a.jpg", "b.jpg", "c.jpg"}));
+  EXPECT_EQ(images.Current(), 2U);
+  EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
+}
+
+TEST_F(ImageListDesk, AddFileTellsOfAFileThatCannotBeReadAndSelectsNothing) {
+  Fill({"a"});
+  EXPECT_FALSE(operations.AddFile("C:\\missing.jpg"));
+  ExpectFileErrorBox("C:\\missing.jpg");
+  EXPECT_EQ(images.Current(), 0U);
+  EXPECT_TRUE(SelectedNames().empty());
+}
+
+TEST_F(ImageListDesk, TheFirstRowIsSelectedWhereNoneIsCurrent) {
+  operations.SelectFirstIfNoneIsCurrent();
+  EXPECT_EQ(images.Current(), 0U) << "there is none";
+  Fill({"a", "b"});
+  operations.SelectFirstIfNoneIsCurrent();
+  EXPECT_EQ(images.Current(), 1U);
+  EXPECT_EQ(SelectedNames(), Names{"a"});
+  images.SetCurrent(2);
+  operations.SelectFirstIfNoneIsCurrent();
+  EXPECT_EQ(images.Current(), 2U);
+  EXPECT_FALSE(project.IsModified);
+}
+
 TEST_F(ImageListDesk, AddFilesThatAddsNothingModifiesNothing) {
   EXPECT_TRUE(operations.AddFiles({}));
   EXPECT_FALSE(operations.AddFiles({"C:\\missing.jpg"}));
@@ -118,24 +159,26 @@ TEST_F(ImageListDesk, AddFilesThatAddsNothingModifiesNothing) {
 
 using Remove = ImageListDesk;
 
-TEST_F(Remove, SelectedRowsGoAndTheRowAtTheFirstOfThemBecomesCurrent) {
+TEST_F(Remove, SelectedRowsGoAndTheRowAtTheFirstOfThemBecomesCurrentAndSelected) {
   Fill({"a", "b", "c", "d", "e"});
   Select({"b", "d"});
   images.SetCurrent(5);
   operations.RemoveSelected();
   EXPECT_EQ(ListNames(), (Names{"a", "c", "e"}));
   EXPECT_EQ(images.Current(), 2U);
+  EXPECT_EQ(SelectedNames(), Names{"c"});
   EXPECT_TRUE(project.IsModified);
   EXPECT_EQ(display.calls, (Calls{"wait", "reset", "preview", "counts"}));
   EXPECT_TRUE(boxes.boxes.empty()) << "no question is asked";
 }
 
-TEST_F(Remove, SelectedRowsAtTheEndMakeTheRowBeforeCurrent) {
+TEST_F(Remove, SelectedRowsAtTheEndMakeTheRowBeforeCurrentAndSelected) {
   Fill({"a", "b", "c"});
   Select({"b", "c"});
   operations.RemoveSelected();
   EXPECT_EQ(ListNames(), Names{"a"});
   EXPECT_EQ(images.Current(), 1U);
+  EXPECT_EQ(SelectedNames(), Names{"a"});
 }
 
 TEST_F(Remove, AllRowsSelectedLeaveNoCurrentRow) {
@@ -145,6 +188,15 @@ TEST_F(Remove, AllRowsSelectedLeaveNoCurrentRow) {
   operations.RemoveSelected();
   EXPECT_TRUE(images.Empty());
   EXPECT_EQ(images.Current(), 0U);
+}
+
+TEST_F(Remove, RowsGoOneByOneWithoutSelectingAnew) {
+  Fill({"a", "b", "c"});
+  Select({"b"});
+  for (const Names& left : {Names{"a", "c"}, Names{"a"}, Names{}}) {
+    operations.RemoveSelected();
+    EXPECT_EQ(ListNames(), left);
+  }
 }
 
 TEST_F(Remove, NothingSelectedOnlyRefreshes) {
@@ -229,12 +281,24 @@ TEST_F(Find, AHitIsScrolledIntoViewSelectedAndPreviewed) {
   EXPECT_FALSE(project.IsModified);
 }
 
+TEST_F(Find, AHitIsTheOnlySelectedRow) {
+  Fill({"a.jpg", "Aqua.jpg", "b.jpg"});
+  Select({"a.jpg", "b.jpg"});
+  images.SetCurrent(3);
+  operations.FindByName("aqua");
+  EXPECT_EQ(SelectedNames(), Names{"Aqua.jpg"});
+  operations.RemoveSelected();
+  EXPECT_EQ(ListNames(), (Names{"a.jpg", "b.jpg"})) << "only what was looked for goes";
+}
+
 TEST_F(Find, NoHitIsSaid) {
-  Fill({"photo_1"});
+  Fill({"photo1", "a"});
+  Select({"a"});
   operations.FindByName("photo");
   ExpectOneBox(BoxKind::Critical, BoxButtons::Ok, "Image not found",
                "This Gallery does not contain an Image named \"photo\".");
   EXPECT_EQ(images.Current(), 0U);
+  EXPECT_EQ(SelectedNames(), Names{"a"});
   EXPECT_TRUE(display.calls.empty());
 }
 

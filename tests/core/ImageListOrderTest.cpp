@@ -103,7 +103,7 @@ TEST_F(ShuffleOperation, AsksNothingOfFewerThanTwoRows) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ShuffleOperation, AsksAndShufflesAndEndsAtTheFirstRow) {
+TEST_F(ShuffleOperation, AsksAndShufflesAndSelectsTheFirstRow) {
   Fill({"a", "b", "c"});
   Select({"b"});
   images.SetCurrent(3);
@@ -113,7 +113,7 @@ TEST_F(ShuffleOperation, AsksAndShufflesAndEndsAtTheFirstRow) {
   EXPECT_EQ(script.calls, (Calls{"open", "seed", "close"}));
   EXPECT_EQ(script.percents.size(), 6U);
   EXPECT_EQ(display.calls, (Calls{"wait", "preview", "reset"}));
-  EXPECT_EQ(SelectedNames(), Names{});
+  EXPECT_EQ(SelectedNames(), Names{images.Entry(1).ImageName});
   EXPECT_EQ(images.Current(), 1U);
   EXPECT_TRUE(project.IsModified);
 }
@@ -146,7 +146,9 @@ TEST_F(ShuffleOperation, StopSkipsOnlyTheDeselection) {
   script.stopInTurn = 1;
   operations.Shuffle(script.Tools());
   EXPECT_EQ(script.percents.size(), 249U);
-  EXPECT_EQ(SelectedNames(), Names{"7"});
+  EXPECT_TRUE(images.IsSelected(images.PositionOf("7").value()));
+  EXPECT_TRUE(images.IsSelected(1)) << "the row that becomes current";
+  EXPECT_EQ(SelectedNames().size(), 2U);
   EXPECT_EQ(images.Current(), 1U);
   EXPECT_EQ(script.calls, (Calls{"open", "seed", "close"}));
   EXPECT_EQ(display.calls, (Calls{"wait", "preview", "reset"}));

@@ -355,14 +355,24 @@ TEST(ImageList, PositionOfComparesExactly) {
   EXPECT_FALSE(list.PositionOf(""));
 }
 
-TEST(ImageList, FindIgnoringCaseTakesTheFirstWholeName) {
-  const ImageList list = ListOf({"photo_10", "Photo_1", "PHOTO_1", "Stra\u00DFe", "\u00C9T\u00C9"});
-  EXPECT_EQ(list.FindIgnoringCase("photo_1"), 2U);
-  EXPECT_EQ(list.FindIgnoringCase("PHOTO_10"), 1U);
-  EXPECT_EQ(list.FindIgnoringCase("STRASSE"), 4U);
-  EXPECT_EQ(list.FindIgnoringCase("\u00E9t\u00E9"), 5U);
-  for (const char* missing : {"photo", "hoto_1", "photo_1 ", "", "\xFF"}) {
-    EXPECT_FALSE(list.FindIgnoringCase(missing)) << missing;
+TEST(ImageList, FindWordTakesTheFirstNameThatBeginsWithItInAnyCase) {
+  const ImageList list = ListOf({"photo_10", "Photo_1", "PHOTO_1.jpg", "Stra\u00DFe.jpg", "\u00C9T\u00C9", "Aquarium",
+                                 "aqua.jpg", "Aqua", "sea\xFF", "5\u20AC"});
+  struct Case {
+    const char* word;
+    std::size_t position;
+  };
+  for (const auto& [word, position] :
+       {Case{"photo", 1}, Case{"PHOTO_10", 1}, Case{"photo_1", 2}, Case{"photo_1.jpg", 3}, Case{"STRASSE", 4},
+        Case{"\u00E9t\u00E9", 5}, Case{"Aqua", 7}, Case{"sea", 9}, Case{"5", 10}}) {
+    EXPECT_EQ(list.FindWord(word), position) << word;
+  }
+}
+
+TEST(ImageList, FindWordLeavesOutNamesInWhichALetterOrADigitOfAnyScriptGoesOn) {
+  const ImageList list = ListOf({"photo1", "seaside", "sea\u00E9", "sea\u0436", "sea\u0663", "a sea", "se"});
+  for (const char* missing : {"photo", "sea", "s", "hoto1", "photo1.", "photo1 ", "", "\xFF"}) {
+    EXPECT_FALSE(list.FindWord(missing)) << missing;
   }
 }
 

@@ -186,6 +186,20 @@ TEST_F(ProjectSessionTest, OpenReadsTheFileInItsOrder) {
   EXPECT_EQ(project.settings.comboImagesSortingOrder, 0);
 }
 
+TEST_F(ProjectSessionTest, TheFirstImageOfAnOpenedProjectIsCurrentAndSelected) {
+  desk.AddImage("a.jpg");
+  desk.AddImage("b.jpg");
+  const std::string path = desk.PathOf("two.gpj");
+  ASSERT_TRUE(session.SaveProjectTo(path));
+  desk.dialog.answers = {path};
+  session.OpenProject();
+  ASSERT_EQ(project.images.Count(), 2U);
+  EXPECT_EQ(project.images.Current(), 1U);
+  EXPECT_TRUE(project.images.IsSelected(1));
+  EXPECT_FALSE(project.images.IsSelected(2));
+  EXPECT_EQ(States(), "");
+}
+
 TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
   const std::string path = desk.File("bad.gpj", "<GALLERYPROJECT/>");
   desk.dialog.answers = {path};

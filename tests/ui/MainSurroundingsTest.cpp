@@ -2,15 +2,22 @@
 #include "tests/ui/MainDesk.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QTextDocumentFragment>
 #include <QTimer>
 #include <QToolTip>
+#include <QWheelEvent>
 #include <set>
+
+#include <QtTest/qtestspontaneevent.h>
 
 namespace vantorium {
 namespace {
@@ -299,6 +306,50 @@ TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {
   desk.Start();
   EXPECT_EQ(stages, 7);
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_NE(window->objectName(), "frmSplash");
+}
+
+// The wheel
+
+/// As the screen's own event: those that a program sends neither give the keyboard nor go on to other controls.
+void TurnWheel(QWidget& control) {
+  const QPointF at = control.rect().center();
+  QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&turn);
+  qApp->notify(&control, &turn);
+}
+
+TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheKeyboard) {
+  desk.Start();
+  auto& layout = Find<QComboBox>(*desk.window, "comboGalleryLayoutType");
+  Find<QLineEdit>(*desk.window, "textGalleryTitle").setFocus();
+  TurnWheel(layout);
+  EXPECT_EQ(layout.currentIndex(), 0);
+  EXPECT_FALSE(layout.hasFocus());
+  EXPECT_FALSE(Now().IsModified);
+  layout.setFocus();
+  TurnWheel(layout);
+  EXPECT_EQ(layout.currentIndex(), 1);
+}
+
+TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrASpinnerWithoutTheKeyboardGoesToWhatIsBehind) {
+  desk.Start();
+  QScrollArea area;
+  auto* form = new QWidget;
+  form->setFixedSize(100, 1000);
+  QComboBox list(form);
+  list.addItems({"a", "b"});
+  QSpinBox spinner(form);
+  area.setWidget(form);
+  area.resize(200, 200);
+  area.show();
+  area.setFocus();
+  for (QWidget* control : {static_cast<QWidget*>(&list), static_cast<QWidget*>(&spinner)}) {
+    area.verticalScrollBar()->setValue(0);
+    TurnWheel(*control);
+    EXPECT_GT(area.verticalScrollBar()->value(), 0) << control->metaObject()->className();
+  }
+  EXPECT_EQ(list.currentIndex(), 0);
+  EXPECT_EQ(spinner.value(), 0);
 }
 
 TEST_F(AroundTheMainWindow, APastedTitleIsOneLine) {

@@ -5,11 +5,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeView>
 
 namespace vantorium {
 namespace {
@@ -343,6 +346,62 @@ TEST_F(FileDialog, ATypedFolderIsEntered) {
     Click(Ok(dialog));
   });
   EXPECT_EQ(result.result, "C:\\photos\\sub\\d.jpg");
+}
+
+int WidthNeeded(const QAbstractItemView& list, int column) {
+  return list.sizeHintForColumn(column);
+}
+
+TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
+  desk.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
+  Show(Images(), [](QWidget& dialog) {
+    auto& details = Find<QTreeView>(dialog, "treeView");
+    const auto fits = [&] {
+      int width = details.columnWidth(0);
+      for (int column = 1; column < details.model()->columnCount(); ++column) {
+        if (details.columnWidth(column) < WidthNeeded(details, column)) return false;
+        width += details.columnWidth(column);
+      }
+      return width == details.viewport()->width();
+    };
+    EXPECT_TRUE(RowOf(details, "a.jpg").isValid());
+    EXPECT_TRUE(QTest::qWaitFor(fits)) << "the first folder";
+    for (const char* folder : {"C:\\photos\\sub", "C:\\photos", "C:\\photos\\sub"}) {
+      for (int column = 0; column < 4; ++column) details.setColumnWidth(column, 30);
+      Type(NameBox(dialog), folder);
+      QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
+      EXPECT_TRUE(QTest::qWaitFor(fits)) << folder;
+    }
+    Click(Cancel(dialog));
+  });
+}
+
+TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
+  Show(Images(), [&](QWidget& dialog) {
+    auto& details = Find<QTreeView>(dialog, "treeView");
+    EXPECT_TRUE(RowOf(details, "a.jpg").isValid());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return details.columnWidth(1) >= WidthNeeded(details, 1); }));
+    QApplication::processEvents();
+    details.setColumnWidth(1, 33);
+    desk.disk.Write("photos/new.jpg", fakes::MakeJpeg({}));
+    EXPECT_TRUE(RowOf(details, "new.jpg").isValid());
+    QApplication::processEvents();
+    EXPECT_EQ(details.columnWidth(1), 33);
+    Click(Cancel(dialog));
+  });
+}
+
+TEST_F(FileDialog, CompletionsCloseWhenAFolderIsEntered) {
+  Show(Images(), [&](QWidget& dialog) {
+    const QWidget& completions = *NameBox(dialog).completer()->popup();
+    EXPECT_TRUE(RowOf(List(dialog), "sub").isValid());
+    Type(NameBox(dialog), "s");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return completions.isVisible(); }));
+    dynamic_cast<QFileDialog&>(dialog).setDirectory(desk.Native("photos/sub"));
+    EXPECT_TRUE(RowOf(List(dialog), "d.jpg").isValid());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !completions.isVisible(); }));
+    Click(Cancel(dialog));
+  });
 }
 
 TEST_F(FileDialog, TheFolderIsShownAsPathTextWithThoseAboveIt) {

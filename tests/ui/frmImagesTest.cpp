@@ -272,6 +272,9 @@ TEST_F(ImagesPage, TheButtonAndTheInsertKeyAddFiles) {
   EXPECT_EQ(desk.ShownText(1), "a.jpg_1");
   EXPECT_EQ(desk.preferences.ImageSourceFolder, folder);
   EXPECT_EQ(told, 2);
+  EXPECT_EQ(desk.ShownAsSelected(), (Positions{1})) << "the first of those that came when no row was current";
+  EXPECT_EQ(desk.list->currentIndex().row(), 0);
+  EXPECT_TRUE(PreviewShows());
 }
 
 TEST_F(ImagesPage, FoldersAreAddedUnderAWindowThatTellsHowFarItIs) {
@@ -291,6 +294,9 @@ TEST_F(ImagesPage, FoldersAreAddedUnderAWindowThatTellsHowFarItIs) {
   EXPECT_EQ(desk.list->model()->rowCount(), 2);
   EXPECT_TRUE(desk.project.IsModified);
   EXPECT_EQ(desk.preferences.ImageSourceFolder, desk.folders[0]);
+  EXPECT_EQ(desk.ShownAsSelected(), (Positions{1}));
+  EXPECT_EQ(desk.list->currentIndex().row(), 0);
+  EXPECT_TRUE(PreviewShows());
 }
 
 TEST_F(ImagesPage, AddingFoldersCanBeStopped) {
@@ -320,8 +326,19 @@ TEST_F(ImagesPage, TheDeleteKeyAndTheButtonRemoveTheSelection) {
   desk.ClickRow(0, Qt::ControlModifier);
   Click(*desk.page, "btnImagesRemove");
   EXPECT_EQ(desk.Names(), (Names{"c.jpg"}));
-  EXPECT_TRUE(desk.ShownAsSelected().empty());
+  EXPECT_EQ(desk.ShownAsSelected(), (Positions{1}));
   EXPECT_TRUE(desk.boxes.boxes.empty());
+}
+
+TEST_F(ImagesPage, DeleteTakesRowAfterRowWithoutSelectingAnew) {
+  desk.AddAll({"a.jpg", "b.jpg", "c.jpg"});
+  desk.ClickRow(1);
+  for (const Names& left : {Names{"a.jpg", "c.jpg"}, Names{"a.jpg"}, Names{}}) {
+    QTest::keyClick(desk.list, Qt::Key_Delete);
+    EXPECT_EQ(desk.Names(), left);
+    EXPECT_EQ(desk.ShownAsSelected().size(), left.empty() ? 0U : 1U);
+  }
+  EXPECT_TRUE(desk.list->selectionModel()->selectedRows().empty());
 }
 
 TEST_F(ImagesPage, AllAreRemovedOnlyAfterAQuestion) {
@@ -408,6 +425,17 @@ TEST_F(ImagesPage, RenameGivesTheCurrentImageAName) {
   EXPECT_EQ(desk.ShownText(1), "High_Alps");
 }
 
+TEST_F(ImagesPage, RenameIsThereWhileAnImageIsCurrent) {
+  const auto& button = Find<QPushButton>(*desk.page, "btnImagesRename");
+  EXPECT_FALSE(button.isEnabled());
+  desk.AddAll({"a.jpg"});
+  EXPECT_FALSE(button.isEnabled()) << "there is a row, but none is current";
+  desk.ClickRow(0);
+  EXPECT_TRUE(button.isEnabled());
+  QTest::keyClick(desk.list, Qt::Key_Delete);
+  EXPECT_FALSE(button.isEnabled());
+}
+
 TEST_F(ImagesPage, RenameCanNameAllImagesOrNone) {
   desk.AddAll({"a.jpg", "b.jpg"});
   desk.MakeCurrent(1);
@@ -437,15 +465,16 @@ TEST_F(ImagesPage, AnEmptyListIsNotRenamedAndNotSearched) {
 
 TEST_F(ImagesPage, FindMakesTheImageOfThatNameTheCurrentOne) {
   desk.AddAll({"a.jpg", "b_c.jpg"});
+  desk.ClickRow(0);
   DriveModal([&] { Click(*desk.page, "btnImagesFind"); },
              [](QWidget& dialog) {
                EXPECT_FALSE(Find<QPushButton>(dialog, "OKButton").isEnabled());
-               QTest::keyClicks(&Find<QLineEdit>(dialog, "textTitle"), "B C.JPG");
+               QTest::keyClicks(&Find<QLineEdit>(dialog, "textTitle"), "B C");
                Click(dialog, "OKButton");
              });
   EXPECT_EQ(images.Current(), 2U);
   EXPECT_EQ(desk.list->currentIndex().row(), 1);
-  EXPECT_EQ(desk.ShownAsSelected(), (Positions{2}));
+  EXPECT_EQ(desk.ShownAsSelected(), (Positions{2})) << "what was selected before is not";
   EXPECT_TRUE(PreviewShows());
 }
 
@@ -486,6 +515,7 @@ TEST_F(ImagesPage, ShuffleKeepsTheImagesAndMakesTheFirstOneCurrent) {
   EXPECT_GT(desk.loop.turns, 0);
   EXPECT_NE(desk.Names(), names);
   EXPECT_EQ(images.Current(), 1U);
+  EXPECT_EQ(desk.ShownAsSelected(), (Positions{1}));
   EXPECT_EQ(desk.ShownText(0).toStdString(), images.Entry(1).ImageName);
   Names shuffled = desk.Names();
   std::ranges::sort(shuffled);

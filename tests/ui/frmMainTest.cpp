@@ -99,6 +99,39 @@ TEST_F(MainWindow, HasItsMenus) {
   EXPECT_EQ(bar, (Entries{"&File", "&Actions", "&Options", "&Help"}));
 }
 
+TEST_F(MainWindow, TheLinesOfItsMenusHaveNames) {
+  desk.Start();
+  const std::pair<const char*, Entries> menus[] = {{"menuFile", {"menuFileSeparator1", "menuFileSeparator2"}},
+                                                   {"menuOptions", {"menuOptionsSeparator"}},
+                                                   {"menuHelp", {"menuHelpSeparator1"}}};
+  for (const auto& [menu, expected] : menus) {
+    Entries names;
+    for (const QAction* action : Find<QMenu>(*desk.window, menu).actions()) {
+      if (action->isSeparator()) names.push_back(FromQt(action->objectName()));
+    }
+    EXPECT_EQ(names, expected) << menu;
+  }
+}
+
+TEST_F(MainWindow, TheMenuForTextFieldsPutsTagsWhereTheKeyboardIs) {
+  desk.Start();
+  const auto& menu = Find<QMenu>(*desk.window, "menuPopupText");
+  EXPECT_EQ(EntriesOf(menu), Entries{"Insert &Vantorium Tag"});
+  EXPECT_FALSE(desk.window->menuBar()->actions().contains(menu.menuAction()));
+  const auto& tags = Find<QMenu>(*desk.window, "menuPopupTextInsertVantoriumTag");
+  EXPECT_EQ(menu.actions()[0]->menu(), &tags);
+  EXPECT_EQ(EntriesOf(tags), (Entries{"Gallery Creation Date (long)", "Gallery Creation Date (short)", "Image Count",
+                                      "Image File Date", "Image File Name"}));
+  ChangeTitle("a b");
+  auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+  title.setSelection(2, 1);
+  tags.actions()[2]->trigger();
+  EXPECT_EQ(title.text(), "a <VANTORIUM_IMAGE_COUNT>");
+  Find<QTabWidget>(*desk.window, "tsMain").setFocus();
+  tags.actions()[4]->trigger();
+  EXPECT_EQ(title.text(), "a <VANTORIUM_IMAGE_COUNT>") << "no text field has the keyboard";
+}
+
 TEST_F(MainWindow, HasItsToolBar) {
   desk.Start();
   Entries buttons;

@@ -67,7 +67,7 @@ bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
     problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", ToXmlText(path)));
     return true;
   }
-  if (!parts_.images.AddImage(parts_.project.images.Count() + 1, path, name, false, {}, {})) return false;
+  if (!parts_.images.AddFile(path)) return false;
   ++added_;
   return true;
 }

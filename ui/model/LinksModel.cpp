@@ -52,7 +52,8 @@ void LinksModel::Browse(Graphic box, FileBrowser& browser) {
   const FileDialogResult chosen = browser.DisplayFileDialog({.title = "Select Link Graphic",
                                                              .initialFolder = graphicsFolder_,
                                                              .fileName = link_.*box,
-                                                             .filter = "All Files (*.*)|*.*"});
+                                                             .filter = "All Files (*.*)|*.*",
+                                                             .preview = true});
   if (chosen.result.empty()) return;
   EditGraphic(box, chosen.result);
   typedInto_ = nullptr;

@@ -71,10 +71,22 @@ constexpr TagMenu kMenus[] = {
     {"mnuEditTagsLinks", "Page Link Tags", kLinksTags},
 };
 
+constexpr TagMenuEntry kPopupTextTags[] = {
+    {"Gallery Creation Date (long)", "<VANTORIUM_GALLERY_CREATIONDATE_LONG>"},
+    {"Gallery Creation Date (short)", "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>"},
+    {"Image Count", "<VANTORIUM_IMAGE_COUNT>"},
+    {"Image File Date", "<VANTORIUM_IMAGE_FILEDATE_LONG>"},
+    {"Image File Name", "<VANTORIUM_IMAGE_FILENAME>"},
+};
+
 }  // namespace
 
 std::span<const TagMenu> TagMenus() {
   return kMenus;
+}
+
+std::span<const TagMenuEntry> PopupTextTags() {
+  return kPopupTextTags;
 }
 
 }  // namespace vantorium

@@ -20,4 +20,7 @@ struct TagMenu {
 
 [[nodiscard]] std::span<const TagMenu> TagMenus();
 
+/// The few tags of the main window's "menuPopupText".
+[[nodiscard]] std::span<const TagMenuEntry> PopupTextTags();
+
 }  // namespace vantorium

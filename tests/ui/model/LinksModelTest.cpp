@@ -112,7 +112,7 @@ TEST_F(LinkDialog, APathThatWasNotTypedStaysAsItIs) {
   EXPECT_EQ(edits, 0);
 }
 
-TEST_F(LinkDialog, BrowsingBeginsAtTheLastFolderAndTheTextOfTheBox) {
+TEST_F(LinkDialog, BrowsingHasAPreviewAndBeginsAtTheLastFolderAndTheTextOfTheBox) {
   LinksModel model = Model({"", "C:\\old.gif", "C:\\dim.gif"});
   browser.answer.result = "C:\\new\\next.gif";
   model.Browse(kFirst, browser);
@@ -122,6 +122,7 @@ TEST_F(LinkDialog, BrowsingBeginsAtTheLastFolderAndTheTextOfTheBox) {
   EXPECT_EQ(request.initialFolder, "C:\\last\\");
   EXPECT_EQ(request.fileName, "C:\\old.gif");
   EXPECT_TRUE(request.open);
+  EXPECT_TRUE(request.preview);
   EXPECT_EQ(Graphics(model), "C:\\new\\next.gif|C:\\dim.gif");
   EXPECT_EQ(folder, "C:\\new\\");
   browser.answer.result = "";

@@ -28,6 +28,11 @@ TEST(TagMenu, HoldsEveryTagThatPagesReplaceOnceAndNoOther) {
   EXPECT_EQ(offered, KnownTags());
 }
 
+TEST(TagMenu, TheShortListForTextFieldsHasTagsThatPagesReplace) {
+  ASSERT_EQ(PopupTextTags().size(), 5U);
+  for (const TagMenuEntry& entry : PopupTextTags()) EXPECT_TRUE(KnownTags().contains(entry.tag)) << entry.caption;
+}
+
 TEST(TagMenu, HasFourMenusOfTheirSizes) {
   struct Case {
     const char* name;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QObject>
+
+namespace vantorium {
+
+/// Keeps the mouse wheel from changing a list box or a spinner that does not have the keyboard: it scrolls what is
+/// behind, or does nothing. This goes for all windows of the program that are made while the guard lives.
+class WheelGuard : public QObject {
+ public:
+  explicit WheelGuard(QObject* parent);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+}  // namespace vantorium
