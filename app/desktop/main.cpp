@@ -67,7 +67,7 @@ class Desktop {
   SystemClock clock_;
   QtScreen screen_;
   PangoTextRaster texts_;
-  QtCommonDialogs dialogs_;
+  QtCommonDialogs dialogs_{texts_};
   frmFileBrowser browser_{paths_, boxes_, files_};
   QtFolderBrowser folders_{paths_};
 };
