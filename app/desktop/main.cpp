@@ -1,6 +1,7 @@
 #include "env/BundledFiles.h"
 #include "env/DriveTable.h"
 #include "env/ProgramFolder.h"
+#include "env/RuntimeFailure.h"
 #include "env/SystemClock.h"
 #include "image/PangoTextRaster.h"
 #include "ui/Resources.h"
@@ -16,6 +17,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
 #include <algorithm>
 #include <thread>
 
@@ -72,6 +74,15 @@ class Desktop {
   QtFolderBrowser folders_{paths_};
 };
 
+int ShowWindow() {
+  Desktop desktop;
+  frmMain window(desktop.Ports());
+  QObject::connect(&window, &frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
+  window.Start(desktop.PathTextOf(QApplication::arguments().value(1)));
+  window.show();
+  return QApplication::exec();
+}
+
 int Run(int argc, char** argv) {
   QApplication application(argc, argv);
   LoadVantoriumResources();
@@ -79,12 +90,12 @@ int Run(int argc, char** argv) {
   QApplication::setDesktopFileName("vantorium");
   QApplication::setWindowIcon(QIcon(":/vantorium/vantorium.svg"));
 
-  Desktop desktop;
-  frmMain window(desktop.Ports());
-  QObject::connect(&window, &frmMain::Closed, &application, &QApplication::quit, Qt::QueuedConnection);
-  window.Start(desktop.PathTextOf(QApplication::arguments().value(1)));
-  window.show();
-  return QApplication::exec();
+  try {
+    return ShowWindow();
+  } catch (const RuntimeFailure& failure) {  // of what the window is set up with
+    QMessageBox::critical(nullptr, "Vantorium", ToQt(failure.Description()));
+    return 1;
+  }
 }
 
 }  // namespace
