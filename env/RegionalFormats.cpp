@@ -1,5 +1,7 @@
 #include "env/RegionalFormats.h"
 
+#include "env/RuntimeFailure.h"
+
 #include <array>
 #include <cstdlib>
 
@@ -16,7 +18,8 @@ using icu::DateFormat;
 /// All formatters work in UTC on calendar times that are taken as UTC: what is shown is what is passed.
 std::unique_ptr<DateFormat> InUtc(DateFormat* format) {
   std::unique_ptr<DateFormat> owned(format);
-  if (owned) owned->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+  if (!owned) throw RuntimeFailure(FailureKind::FileNotFound, "The formats of dates and times cannot be loaded.");
+  owned->adoptTimeZone(icu::TimeZone::getGMT()->clone());
   return owned;
 }
 
@@ -62,7 +65,6 @@ RegionalFormats::~RegionalFormats() = default;
 std::string RegionalFormats::Format(const CivilTime& time, RegionalFormat format) const {
   const auto& formatter = formatters_->byKind.at(static_cast<std::size_t>(format));
   std::string text;
-  if (!formatter) return text;
   icu::UnicodeString formatted;
   formatter->format(ToUDate(time), formatted);
   // Recent locale data sets AM and PM off by a narrow no-break space, which would make a page of pure ASCII another

@@ -14,7 +14,7 @@ enum class RegionalFormat { ShortDate = 0, LongDate = 1, ShortTime = 2, LongTime
 class RegionalFormats {
  public:
   /// `locale`: an ICU or POSIX locale name such as "de_DE"; empty for that of the system's dates
-  /// and times (LC_ALL, LC_TIME, LANG).
+  /// and times (LC_ALL, LC_TIME, LANG). Throws RuntimeFailure FileNotFound when ICU has no data to work with.
   explicit RegionalFormats(const std::string& locale = "");
   ~RegionalFormats();
   RegionalFormats(const RegionalFormats&) = delete;

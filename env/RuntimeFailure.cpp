@@ -9,6 +9,7 @@ constexpr std::pair<FailureKind, const char*> kDescriptions[] = {
     {FailureKind::FileTimeNotFound, "Application-defined or object-defined error"},
     {FailureKind::InvalidArgument, "Invalid procedure call or argument"},
     {FailureKind::Overflow, "Overflow"},
+    {FailureKind::OutOfMemory, "Out of memory"},
     {FailureKind::SubscriptOutOfRange, "Subscript out of range"},
     {FailureKind::DivisionByZero, "Division by zero"},
     {FailureKind::TypeMismatch, "Type mismatch"},

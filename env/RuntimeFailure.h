@@ -11,6 +11,7 @@ enum class FailureKind : std::int32_t {
   FileTimeNotFound = 1,
   InvalidArgument = 5,
   Overflow = 6,
+  OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   DivisionByZero = 11,
   TypeMismatch = 13,

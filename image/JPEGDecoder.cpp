@@ -5,6 +5,8 @@
 #include "image/JPEGFile.h"
 #include "image/JPEGInks.h"
 
+#include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <vector>
 
@@ -61,6 +63,19 @@ bool SkipsFromAnywhere(const jpeg_decompress_struct& codec) {
   return false;
 }
 
+// Whether the scans read so far brought every coefficient to the last bit. Of arithmetic codes nobody can say so: what
+// their data lack at the end counts as zeros.
+bool HasEveryCoefficient(const jpeg_decompress_struct& codec) {
+  if (codec.arith_code != FALSE) return false;
+  for (int i = 0; i < codec.num_components; ++i) {
+    if (codec.comp_info[i].quant_table == nullptr) return false;  // set by the component's first scan
+    if (codec.progressive_mode == FALSE) continue;
+    const auto& missingBits = codec.coef_bits[i];
+    if (std::any_of(std::begin(missingBits), std::end(missingBits), [](int bits) { return bits != 0; })) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 struct JPEGDecoder::State {
@@ -74,6 +89,7 @@ struct JPEGDecoder::State {
   template <typename Work>
   [[nodiscard]] bool RunPastReservedMarkers(Work work);
   void ChooseOutput();
+  [[nodiscard]] bool IsWhole() const;
 
   JPEGErrors errors;
   FileHandle file;
@@ -107,6 +123,11 @@ bool JPEGDecoder::State::RunPastReservedMarkers(Work work) {
 void JPEGDecoder::State::ChooseOutput() {
   const bool inInks = codec.jpeg_color_space == JCS_CMYK || codec.jpeg_color_space == JCS_YCCK;
   codec.out_color_space = inInks ? JCS_CMYK : JCS_EXT_BGR;
+}
+
+// Whether nothing is known to be missing of the data read so far.
+bool JPEGDecoder::State::IsWhole() const {
+  return !errors.Damaged() && (!errors.EndedEarly() || HasEveryCoefficient(codec));
 }
 
 JPEGDecoder::JPEGDecoder() : state_(std::make_unique<State>()) {}
@@ -164,7 +185,7 @@ bool JPEGDecoder::Start() {
   state.codec.scale_num = 1;
   state.codec.scale_denom = static_cast<unsigned>(divisor_);
   if (state.HasInks()) state.inks.resize(static_cast<std::size_t>(OutputWidth()) * 4);
-  return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && !state.errors.Damaged();
+  return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && state.IsWhole();
 }
 
 bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
@@ -175,7 +196,7 @@ bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
   if (!done || rows != 1) return false;
   // Files with the Adobe marker hold the light that is left, the others the ink.
   if (state.HasInks()) InksToBGR(state.inks, state.codec.saw_Adobe_marker == FALSE, bgr);
-  return !state.errors.Damaged();
+  return state.IsWhole();
 }
 
 bool JPEGDecoder::SkipRows(std::int32_t count) {
@@ -190,12 +211,12 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
   const auto wanted = static_cast<JDIMENSION>(count);
   JDIMENSION rows = 0;
   const bool done = state.errors.Run([&] { rows = jpeg_skip_scanlines(&state.codec, wanted); });
-  return done && rows == wanted && !state.errors.Damaged();
+  return done && rows == wanted && state.IsWhole();
 }
 
 bool JPEGDecoder::Finish() {
   State& state = *state_;
-  return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && !state.errors.Damaged();
+  return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && state.IsWhole();
 }
 
 }  // namespace vantorium

@@ -45,7 +45,8 @@ class JPEGDecoder {
   /// Leaves out the next `count` rows. The rows behind them come out as if these had been read. Damage in the rows
   /// that end the picture may go unnoticed when they are skipped.
   [[nodiscard]] bool SkipRows(std::int32_t count);
-  /// Reads to the end mark. False when the data were damaged anywhere or rows are left.
+  /// Reads to the end mark, or to the end of a file that lacks nothing else. False when the data were damaged anywhere
+  /// or rows are left.
   [[nodiscard]] bool Finish();
 
  private:

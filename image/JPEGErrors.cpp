@@ -11,7 +11,6 @@ bool MeansDamage(int warning) {
     case JWRN_ARITH_BAD_CODE:
     case JWRN_HIT_MARKER:
     case JWRN_HUFF_BAD_CODE:
-    case JWRN_JPEG_EOF:
     case JWRN_MUST_RESYNC:
       return true;
     default:
@@ -42,7 +41,9 @@ void JPEGErrors::OnError(j_common_ptr codec) {
 
 void JPEGErrors::OnMessage(j_common_ptr codec, int level) {
   auto* record = reinterpret_cast<Record*>(codec->err);
-  if (level < 0 && MeansDamage(record->manager.msg_code)) record->damaged = true;
+  if (level >= 0) return;
+  if (MeansDamage(record->manager.msg_code)) record->damaged = true;
+  if (record->manager.msg_code == JWRN_JPEG_EOF) record->endedEarly = true;
 }
 
 // The one place that the jump comes back to. It holds no object, so there is none whose destructor could be missed.

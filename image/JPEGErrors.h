@@ -36,6 +36,9 @@ class JPEGErrors {
 
   /// Whether a warning said that picture data are missing or wrong.
   [[nodiscard]] bool Damaged() const { return record_.damaged; }
+  /// Whether the file ended without an end mark. That alone is no damage: the library goes on as if there were one, and
+  /// says of Huffman codes that it misses that they are missing.
+  [[nodiscard]] bool EndedEarly() const { return record_.endedEarly; }
   /// The library's words for the error.
   [[nodiscard]] std::string Text() const { return record_.text; }
 
@@ -45,6 +48,7 @@ class JPEGErrors {
     jpeg_error_mgr manager = {};
     std::jmp_buf jump = {};
     bool damaged = false;
+    bool endedEarly = false;
     char text[JMSG_LENGTH_MAX] = {};
   };
 

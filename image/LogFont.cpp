@@ -21,6 +21,10 @@ std::string FirstCharacters(const std::string& text, std::size_t count) {
 
 }  // namespace
 
+std::string FaceNameOf(const std::string& name) {
+  return FirstCharacters(name, kFaceNameCharacters);
+}
+
 LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixelsPerInch) {
   LogFont font;
   font.lfHeight = -MulDivRounded(settings.FontSize, pixelsPerInch, 72);
@@ -28,7 +32,7 @@ LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixels
   font.lfItalic = settings.FontItalic ? 1 : 0;
   font.lfUnderline = settings.FontUnderline ? 1 : 0;
   font.lfStrikeOut = settings.FontStrikeout ? 1 : 0;
-  font.lfFaceName = FirstCharacters(settings.FontName, kFaceNameCharacters);
+  font.lfFaceName = FaceNameOf(settings.FontName);
   return font;
 }
 

@@ -22,6 +22,9 @@ struct LogFont {
 
 inline constexpr std::uint8_t kNonAntialiasedQuality = 3;
 
+/// What a LogFont has room for of the name of a face.
+[[nodiscard]] std::string FaceNameOf(const std::string& name);
+
 /// The font that a watermark is set in. `pixelsPerInch` are those of a vertical inch of the screen: the size of the
 /// text depends on them and on its points, never on the picture.
 [[nodiscard]] LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixelsPerInch);

@@ -1,7 +1,7 @@
 #include "image/PangoFace.h"
 
 #include "env/Numbers.h"
-#include "env/Text.h"
+#include "image/TextFailure.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -101,9 +101,11 @@ void FontMapReleaser::operator()(PangoFontMap* map) const {
 
 FontMapHandle MakeFontMap() {
   const FcConfigHandle config(FcInitLoadConfig());
+  CheckFontSettings(config != nullptr);
   FcConfigParseAndLoadFromMemory(config.get(), reinterpret_cast<const FcChar8*>(kRules), FcFalse);
   FcConfigBuildFonts(config.get());
   FontMapHandle map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
+  CheckFontSettings(map != nullptr);
   pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map.get()), config.get());
   return map;
 }
@@ -119,6 +121,7 @@ PangoFace::PangoFace(PangoFontMap* map, const LogFont& font)
 void PangoFace::SetHeights(const LogFont& font) {
   pango_font_description_set_absolute_size(description_.get(), double{PANGO_SCALE} * kDefaultEmHeight);
   const GObjectHandle<PangoFont> any(pango_context_load_font(context_.get(), description_.get()));
+  CheckFont(any.get());
   const DesignHeights design = HeightsOf(any.get());
   emHeight_ = kDefaultEmHeight;
   if (font.lfHeight < 0) emHeight_ = std::min(-std::max(font.lfHeight, -kLargestEmHeight), kLargestEmHeight);

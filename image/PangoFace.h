@@ -14,13 +14,14 @@ struct FontMapReleaser {
 using FontMapHandle = std::unique_ptr<PangoFontMap, FontMapReleaser>;
 
 /// The fonts of the machine, as texts without antialiasing use them: what the user's settings say about hinting and
-/// smoothing counts for nothing, and "Arial" is Liberation Sans, which has the same widths.
+/// smoothing counts for nothing, and "Arial" is Liberation Sans, which has the same widths. Throws as
+/// CheckFontSettings.
 [[nodiscard]] FontMapHandle MakeFontMap();
 
 /// One font at one size, upright. All measures are pixels.
 class PangoFace {
  public:
-  /// `map` must live as long as the face.
+  /// `map` must live as long as the face. Throws as CheckFont.
   PangoFace(PangoFontMap* map, const LogFont& font);
 
   [[nodiscard]] std::int32_t EmHeight() const { return emHeight_; }

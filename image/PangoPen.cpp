@@ -1,5 +1,7 @@
 #include "image/PangoPen.h"
 
+#include "image/TextFailure.h"
+
 #include <algorithm>
 #include <numbers>
 
@@ -106,6 +108,7 @@ void PangoLine::DrawLetters(cairo_t* cairo, double from, double to) const {
   ForEachRun(line_, [&](const PangoLayoutRun& run) {
     GlyphPart part = PartBetween(*run.glyphs, start, (from - reach) * PANGO_SCALE, (to + reach) * PANGO_SCALE);
     if (part.glyphs.num_glyphs > 0) {
+      CheckFont(run.item->analysis.font);
       DrawGlyphs(cairo, run.item->analysis.font, &part.glyphs, static_cast<double>(part.start) / PANGO_SCALE,
                  face_.EmHeight());
     }
@@ -127,9 +130,9 @@ void PangoPen::Turn(double degrees) {
   cairo_rotate(cairo_.get(), -degrees * std::numbers::pi / 180);
 }
 
-void PangoPen::Draw(const PangoLine& line, double top) {
+void PangoPen::Draw(const PangoLine& line) {
   cairo_save(cairo_.get());
-  cairo_translate(cairo_.get(), 0, top + face_.Ascent());
+  cairo_translate(cairo_.get(), 0, face_.Ascent());
   const Window window = Visible();
   line.DrawLetters(cairo_.get(), window.left, window.right);
   const double from = std::max(0.0, window.left);
@@ -137,6 +140,7 @@ void PangoPen::Draw(const PangoLine& line, double top) {
   if (underline_) DrawStroke(face_.Underline(), from, to);
   if (strikeout_) DrawStroke(face_.Strikeout(), from, to);
   cairo_restore(cairo_.get());
+  CheckDrawing(cairo_status(cairo_.get()));
 }
 
 bool PangoPen::Shows(double top, double height) const {

@@ -35,8 +35,8 @@ class PangoPen {
   void MoveTo(double x, double y) { cairo_translate(cairo_.get(), x, y); }
   void Turn(double degrees);
 
-  /// Draws a line with its upper left corner `top` pixels below the origin.
-  void Draw(const PangoLine& line, double top);
+  /// Draws a line with its upper left corner at the origin. Throws as CheckFont and CheckDrawing.
+  void Draw(const PangoLine& line);
   /// Whether anything `height` pixels high and `top` pixels below the origin may show.
   [[nodiscard]] bool Shows(double top, double height) const;
 

@@ -1,8 +1,10 @@
 #include "image/PangoTextRaster.h"
 
+#include "image/FaceNames.h"
 #include "image/InkedSurface.h"
 #include "image/PangoFace.h"
 #include "image/PangoPen.h"
+#include "image/TextFailure.h"
 #include "image/TextLines.h"
 
 #include <algorithm>
@@ -11,21 +13,18 @@
 namespace vantorium {
 namespace {
 
-/// The line hangs at the middle of its lower edge, turned about it.
-void DrawTurned(PangoPen& pen, const PangoFace& face, const LogFont& font, const std::string& text) {
+/// Draws a line turned about the middle of its lower edge, at which it hangs from the pen's origin.
+void DrawTurned(PangoPen& pen, const PangoFace& face, double degrees, const std::string& text) {
+  pen.Turn(degrees);
+  if (!pen.Shows(-face.LineHeight(), face.LineHeight())) return;
   const PangoLine line(face, text);
-  pen.Turn(font.lfEscapement / 10.0);
   const std::int64_t half = line.Width() / 2;
   pen.MoveTo(-static_cast<double>(half), -face.LineHeight());
-  pen.Draw(line, 0);
+  pen.Draw(line);
 }
 
-void DrawUpright(PangoPen& pen, const PangoFace& face, const std::vector<std::string>& lines) {
-  double top = 0;
-  for (const std::string& line : lines) {
-    if (pen.Shows(top, face.LineHeight())) pen.Draw(PangoLine(face, line), top);
-    top += face.LineHeight();
-  }
+void DrawUpright(PangoPen& pen, const PangoFace& face, const std::string& text) {
+  if (pen.Shows(0, face.LineHeight())) pen.Draw(PangoLine(face, text));
 }
 
 }  // namespace
@@ -35,6 +34,7 @@ struct PangoTextRaster::Fonts {
   FontMapHandle map;  // made when it is first needed
 
   [[nodiscard]] PangoFontMap* Map() {
+    CheckThreadsToSpare();
     if (!map) map = MakeFontMap();
     return map.get();
   }
@@ -44,7 +44,8 @@ PangoTextRaster::PangoTextRaster() : fonts_(std::make_unique<Fonts>()) {}
 PangoTextRaster::~PangoTextRaster() = default;
 
 TextExtent PangoTextRaster::Measure(const LogFont& font, std::string_view text, TextForm form) const {
-  const auto lines = LinesOfText(text, form);
+  const auto lines = LinesOfText(text);
+  if (lines.empty()) return {};
   const std::lock_guard lock(fonts_->mutex);
   const PangoFace face(fonts_->Map(), font);
   TextExtent extent;
@@ -52,23 +53,35 @@ TextExtent PangoTextRaster::Measure(const LogFont& font, std::string_view text, 
     extent.width = std::max(extent.width, PangoLine(face, line).Width());
     extent.height += face.LineHeight();
   }
+  if (form == TextForm::Turned) extent.height = std::min<std::int64_t>(extent.height, face.LineHeight());
   return extent;
 }
 
 TextMask PangoTextRaster::Draw(const LogFont& font, std::string_view text, const TextPlace& place,
                                std::int32_t pictureWidth, std::int32_t pictureHeight) const {
-  const auto lines = LinesOfText(text, place.form);
+  const auto lines = LinesOfText(text);
+  if (lines.empty() || pictureWidth < 1 || pictureHeight < 1) return {};
   const std::lock_guard lock(fonts_->mutex);
   const SurfaceHandle surface = MakeOneBitSurface(pictureWidth, pictureHeight);
+  CheckDrawing(cairo_surface_status(surface.get()));
   const PangoFace face(fonts_->Map(), font);
-  PangoPen pen(face, font, surface.get());
-  pen.MoveTo(place.x, place.y);
-  if (place.form == TextForm::Lines) {
-    DrawUpright(pen, face, lines);
-  } else if (!lines.empty()) {
-    DrawTurned(pen, face, font, lines.front());
+  double y = place.y;
+  for (const std::string& line : lines) {
+    PangoPen pen(face, font, surface.get());
+    pen.MoveTo(place.x, y);
+    if (place.form == TextForm::Lines) {
+      DrawUpright(pen, face, line);
+    } else {
+      DrawTurned(pen, face, font.lfEscapement / 10.0, line);
+    }
+    y += face.LineHeight();
   }
   return InkOf(surface.get());
+}
+
+std::vector<std::string> PangoTextRaster::FaceNames() const {
+  const std::lock_guard lock(fonts_->mutex);
+  return FaceNamesOf(fonts_->Map());
 }
 
 }  // namespace vantorium

@@ -19,6 +19,7 @@ class PangoTextRaster : public TextRaster {
   [[nodiscard]] TextExtent Measure(const LogFont& font, std::string_view text, TextForm form) const override;
   [[nodiscard]] TextMask Draw(const LogFont& font, std::string_view text, const TextPlace& place,
                               std::int32_t pictureWidth, std::int32_t pictureHeight) const override;
+  [[nodiscard]] std::vector<std::string> FaceNames() const override;
 
  private:
   // The libraries' objects are not to be used from two threads at once.

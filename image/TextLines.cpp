@@ -22,7 +22,7 @@ std::string Drawable(std::string_view line) {
 
 }  // namespace
 
-std::vector<std::string> LinesOfText(std::string_view text, TextForm form) {
+std::vector<std::string> LinesOfText(std::string_view text) {
   std::vector<std::string> lines;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
@@ -31,10 +31,7 @@ std::vector<std::string> LinesOfText(std::string_view text, TextForm form) {
     if (text.starts_with("\r\n")) text.remove_prefix(1);
     if (!text.empty()) text.remove_prefix(1);
   }
-  if (form == TextForm::Lines || lines.size() < 2) return lines;
-  std::string joined;
-  for (const std::string& line : lines) joined += (&line == lines.data() ? "" : " ") + line;
-  return {joined};
+  return lines;
 }
 
 }  // namespace vantorium

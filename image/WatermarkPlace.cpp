@@ -39,8 +39,8 @@ TextPlace PlaceDiagonal(LogFont& font, std::string_view text, std::int16_t place
   const int sign = placement == kTopLeftToBottomRight ? -1 : 1;
   const double angle = std::atan(Divide(height, width));
   Turn(font, sign * 10 * static_cast<std::int32_t>(std::floor(angle * 180 / kPi)));
-  const double half = static_cast<double>(raster.Measure(font, text, TextForm::Line).height) / 2.0;
-  return {TextForm::Line, ToInt16(width / 2.0 + sign * (half * std::sin(angle))),
+  const double half = static_cast<double>(raster.Measure(font, text, TextForm::Turned).height) / 2.0;
+  return {TextForm::Turned, ToInt16(width / 2.0 + sign * (half * std::sin(angle))),
           ToInt16(height / 2.0 + half * std::cos(angle))};
 }
 

@@ -16,7 +16,7 @@ inline constexpr std::int16_t kBottomLeftToTopRight = 10;
 /// left.
 ///
 /// Sets `lfQuality`, `lfEscapement` and `lfOrientation` of the font. A diagonal text runs at the diagonal's angle cut
-/// to whole degrees, its line centred on the middle of the picture.
+/// to whole degrees, its first line centred on the middle of the picture.
 ///
 /// Throws RuntimeFailure Overflow when a side of the picture, the size of a straight text or a coordinate exceeds 16
 /// bits, and DivisionByZero for the diagonal of a picture without width.

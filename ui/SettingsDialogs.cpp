@@ -114,7 +114,7 @@ void SettingsDialogs::SetIfOther(std::string GalleryProject::*field, const std::
 }
 
 SamplePorts SettingsDialogs::PortsOfSamples() const {
-  return {parts_.ports.paths, parts_.ports.boxes, parts_.ports.loop};
+  return {parts_.ports.files, parts_.ports.boxes, parts_.ports.loop};
 }
 
 }  // namespace vantorium

@@ -6,7 +6,6 @@
 #include "ui/ports/QtText.h"
 #include "ui_frmFont.h"
 
-#include <QFontDatabase>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
@@ -26,21 +25,14 @@ QFont SampleFontOf(const FontDescription& font) {
   return result;
 }
 
-QStringList Families() {
-  QStringList families;
-  for (const QString& family : QFontDatabase::families()) {
-    if (!QFontDatabase::isPrivateFamily(family)) families.append(family);
-  }
-  return families;
-}
-
 }  // namespace
 
-frmFont::frmFont(const FontDescription& font, PickColour pickColour, QWidget* parent)
+frmFont::frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColour pickColour,
+                 QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmFont>()), font_(font), pickColour_(std::move(pickColour)) {
   ui_->setupUi(this);
   ui_->textFontName->setValidator(new OneLineValidator(this));
-  ui_->listFontNames->addItems(Families());
+  for (const std::string& face : faces) ui_->listFontNames->addItem(ToQt(face));
   ui_->spinFontSize->setRange(kSmallestFont, kLargestFont);
   ShowFont();
   ConnectFace();

@@ -5,6 +5,8 @@
 #include <QDialog>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace Ui {
 class frmFont;
@@ -21,7 +23,8 @@ class frmFont : public QDialog {
   /// Lets its user choose a colour; true when it changed.
   using PickColour = std::function<bool(std::uint32_t& colour)>;
 
-  frmFont(const FontDescription& font, PickColour pickColour, QWidget* parent);
+  /// Offers `faces`.
+  frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColour pickColour, QWidget* parent);
   ~frmFont() override;
 
   [[nodiscard]] const FontDescription& Font() const { return font_; }

@@ -10,7 +10,7 @@
 namespace vantorium {
 
 frmHTML::frmHTML(const std::string& caption, HeaderAndFooter texts, MessageBoxPort& boxes, QWidget* owner)
-    : QDialog(owner), ui_(std::make_unique<Ui::frmHTML>()), shown_(std::move(texts)) {
+    : QDialog(owner), ui_(std::make_unique<Ui::frmHTML>()), shown_(std::move(texts)), boxes_(boxes) {
   ui_->setupUi(this);
   setWindowTitle(ToQt(caption));
   ShowCode(*ui_->textHeader, shown_.header);
@@ -20,12 +20,19 @@ frmHTML::frmHTML(const std::string& caption, HeaderAndFooter texts, MessageBoxPo
     box->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     menu->Serve(*box);
   }
-  connect(ui_->btnClose, &QPushButton::clicked, this, [this, &boxes] {
-    if (MayKeepCode({ui_->textHeader, ui_->textFooter}, boxes)) accept();
-  });
+  connect(ui_->btnClose, &QPushButton::clicked, this, &frmHTML::reject);
 }
 
 frmHTML::~frmHTML() = default;
+
+void frmHTML::reject() {
+  if (MayKeepCode({ui_->textHeader, ui_->textFooter}, boxes_)) accept();
+}
+
+void frmHTML::closeEvent(QCloseEvent* event) {
+  accept();
+  QDialog::closeEvent(event);
+}
 
 HeaderAndFooter frmHTML::Texts() const {
   return {CodeOf(*ui_->textHeader, shown_.header), CodeOf(*ui_->textFooter, shown_.footer)};

@@ -19,8 +19,8 @@ struct HeaderAndFooter {
   bool operator==(const HeaderAndFooter&) const = default;
 };
 
-/// The editor of two texts of custom code. Its button refuses texts that a project file can't keep, the header first;
-/// the title bar and Escape close it with the texts as they are.
+/// The editor of two texts of custom code. Its button refuses texts that a project file can't keep, the header first,
+/// and so does Escape; the title bar closes it with the texts as they are.
 class frmHTML : public QDialog {
   Q_OBJECT
 
@@ -31,9 +31,16 @@ class frmHTML : public QDialog {
   /// As the user left them.
   [[nodiscard]] HeaderAndFooter Texts() const;
 
+  /// What the button and Escape do.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
  private:
   std::unique_ptr<Ui::frmHTML> ui_;
   HeaderAndFooter shown_;
+  MessageBoxPort& boxes_;
 };
 
 /// Shows the editor and waits until it is closed. Returns the texts as the user left them, with CR LF.

@@ -12,8 +12,8 @@ class frmHTMLSingle;
 
 namespace vantorium {
 
-/// The editor of one text of custom code. Its button refuses a text that a project file can't keep; the title bar and
-/// Escape close it with the text as it is.
+/// The editor of one text of custom code. Its button refuses a text that a project file can't keep, and so does Escape;
+/// the title bar closes it with the text as it is.
 class frmHTMLSingle : public QDialog {
   Q_OBJECT
 
@@ -24,9 +24,16 @@ class frmHTMLSingle : public QDialog {
   /// As the user left it.
   [[nodiscard]] std::string Text() const;
 
+  /// What the button and Escape do.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
  private:
   std::unique_ptr<Ui::frmHTMLSingle> ui_;
   std::string shown_;
+  MessageBoxPort& boxes_;
 };
 
 /// Shows the editor and waits until it is closed. Returns the text as the user left it, with CR LF.

@@ -151,6 +151,13 @@ void frmImageDescriptions::reject() {
   QDialog::reject();
 }
 
+// A dialog of the toolkit takes its first size and the middle of its owner again.
+void frmImageDescriptions::setVisible(bool visible) {
+  if (isVisible() && !visible) place_ = saveGeometry();
+  if (!isVisible() && visible && !place_.isEmpty()) restoreGeometry(place_);
+  QDialog::setVisible(visible);
+}
+
 void frmImageDescriptions::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     ShowPlacings();

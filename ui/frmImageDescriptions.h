@@ -2,6 +2,7 @@
 
 #include "ui/model/Descriptions.h"
 
+#include <QByteArray>
 #include <QDialog>
 #include <array>
 #include <memory>
@@ -41,6 +42,9 @@ class frmImageDescriptions : public QDialog {
   /// Closing by the title bar and Escape do as the button does.
   void reject() override;
 
+  /// Comes back where its user left it, in the size that it had.
+  void setVisible(bool visible) override;
+
  protected:
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -78,6 +82,7 @@ class frmImageDescriptions : public QDialog {
   std::array<Page, 2> pages_;
   std::string shownProject_;  // its file
   std::string shownImage_;
+  QByteArray place_;  // when it was last hidden; empty before
 };
 
 }  // namespace vantorium

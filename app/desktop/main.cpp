@@ -1,6 +1,7 @@
 #include "env/BundledFiles.h"
 #include "env/DriveTable.h"
 #include "env/ProgramFolder.h"
+#include "env/RuntimeFailure.h"
 #include "env/StandardStreams.h"
 #include "env/SystemClock.h"
 #include "image/PangoTextRaster.h"
@@ -17,6 +18,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
 #include <algorithm>
 #include <thread>
 
@@ -65,10 +67,19 @@ class Desktop {
   SystemClock clock_;
   QtScreen screen_;
   PangoTextRaster texts_;
-  QtCommonDialogs dialogs_;
+  QtCommonDialogs dialogs_{texts_};
   frmFileBrowser browser_{paths_, boxes_, files_};
   QtFolderBrowser folders_{paths_};
 };
+
+int ShowWindow() {
+  Desktop desktop;
+  frmMain window(desktop.Ports());
+  QObject::connect(&window, &frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
+  window.Start(FromQt(QApplication::arguments().value(1)));
+  window.show();
+  return QApplication::exec();
+}
 
 int Run(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -77,12 +88,12 @@ int Run(int argc, char** argv) {
   QApplication::setDesktopFileName("vantorium");
   QApplication::setWindowIcon(QIcon(":/vantorium/vantorium.svg"));
 
-  Desktop desktop;
-  frmMain window(desktop.Ports());
-  QObject::connect(&window, &frmMain::Closed, &application, &QApplication::quit, Qt::QueuedConnection);
-  window.Start(FromQt(QApplication::arguments().value(1)));
-  window.show();
-  return QApplication::exec();
+  try {
+    return ShowWindow();
+  } catch (const RuntimeFailure& failure) {  // of what the window is set up with
+    QMessageBox::critical(nullptr, "Vantorium", ToQt(failure.Description()));
+    return 1;
+  }
 }
 
 }  // namespace

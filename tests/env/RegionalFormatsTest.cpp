@@ -1,5 +1,11 @@
 #include "env/RegionalFormats.h"
+#include "env/RuntimeFailure.h"
 #include "tests/fakes/Hindrances.h"
+
+#include <cstdlib>
+#include <iostream>
+
+#include <unicode/uclean.h>
 
 namespace vantorium {
 namespace {
@@ -70,6 +76,27 @@ TEST(RegionalFormats, AnUnknownLocaleStillWritesSomething) {
     EXPECT_FALSE(formats.Format(kAfternoon, RegionalFormat::LongDate).empty()) << locale;
     EXPECT_FALSE(formats.Format(kAfternoon, RegionalFormat::LongTime).empty()) << locale;
   }
+}
+
+/// In a process of its own, whose ICU gets no memory: the end, with the failure's words on standard error.
+[[noreturn]] void MakeFormatsWithoutMemory() {
+  UErrorCode status = U_ZERO_ERROR;
+  u_setMemoryFunctions(
+      nullptr, [](const void*, std::size_t) -> void* { return nullptr; },
+      [](const void*, void*, std::size_t) -> void* { return nullptr; }, [](const void*, void*) {}, &status);
+  try {
+    const RegionalFormats formats("de_DE");
+  } catch (const RuntimeFailure& failure) {
+    std::cerr << failure.Description();
+    std::_Exit(1);
+  }
+  std::_Exit(0);
+}
+
+TEST(RegionalFormatsDeathTest, FormatsThatCannotBeLoadedAreAFailureThatSaysSo) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(MakeFormatsWithoutMemory(), testing::ExitedWithCode(1),
+              "The formats of dates and times cannot be loaded.");
 }
 
 TEST(RegionalFormats, TheFirstAndTheFurthestDayHaveAText) {

@@ -23,11 +23,13 @@ class BoxTextRaster : public TextRaster {
     if (text.empty()) return {};
     const auto width = static_cast<std::int32_t>(extent.width);
     const auto height = static_cast<std::int32_t>(extent.height);
-    const std::int32_t left = place.form == TextForm::Line ? place.x - width / 2 : place.x;
-    const std::int32_t top = place.form == TextForm::Line ? place.y - height : place.y;
+    const std::int32_t left = place.form == TextForm::Turned ? place.x - width / 2 : place.x;
+    const std::int32_t top = place.form == TextForm::Turned ? place.y - height : place.y;
     return Box(std::max(left, 0), std::max(top, 0), std::min(left + width, pictureWidth),
                std::min(top + height, pictureHeight));
   }
+
+  [[nodiscard]] std::vector<std::string> FaceNames() const override { return {"Box"}; }
 
   TextExtent extent;
   mutable std::atomic<int> drawn = 0;

@@ -20,6 +20,13 @@ void ChooseColours(jpeg_compress_struct& codec, JpegColours colours) {
   jpeg_set_colorspace(&codec, kInFile[static_cast<int>(colours)]);
 }
 
+std::vector<jpeg_scan_info> ScanPerChannel(int channels) {
+  std::vector<jpeg_scan_info> scans;
+  for (int i = 0; i < channels; ++i)
+    scans.push_back({.comps_in_scan = 1, .component_index = {i}, .Ss = 0, .Se = 63, .Ah = 0, .Al = 0});
+  return scans;
+}
+
 void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
   codec.image_width = static_cast<JDIMENSION>(recipe.width);
   codec.image_height = static_cast<JDIMENSION>(recipe.height);
@@ -71,8 +78,9 @@ std::ostream& operator<<(std::ostream& stream, const JpegRecipe& recipe) {
   constexpr const char* kNames[] = {"grey", "YCbCr", "RGB", "CMYK", "YCCK"};
   return stream << recipe.width << " x " << recipe.height << " " << kNames[static_cast<int>(recipe.colours)] << " "
                 << recipe.horizontal << "x" << recipe.vertical << (recipe.progressive ? " progressive" : "")
-                << (recipe.arithmetic ? " arithmetic" : "") << " restart " << recipe.restartEvery << " quality "
-                << recipe.quality << (recipe.adobeMarker ? "" : " no Adobe marker");
+                << (recipe.scanPerChannel ? " a scan per channel" : "") << (recipe.arithmetic ? " arithmetic" : "")
+                << " restart " << recipe.restartEvery << " quality " << recipe.quality
+                << (recipe.adobeMarker ? "" : " no Adobe marker");
 }
 
 std::vector<JpegRecipe> EveryKindOfJpeg() {
@@ -116,6 +124,11 @@ std::string MakeJpeg(const JpegRecipe& recipe, const JpegPixels& pixels) {
   unsigned long size = 0;
   jpeg_mem_dest(&codec, &bytes, &size);
   Configure(codec, recipe);
+  const auto scans = ScanPerChannel(codec.num_components);
+  if (recipe.scanPerChannel) {
+    codec.scan_info = scans.data();
+    codec.num_scans = static_cast<int>(scans.size());
+  }
   jpeg_start_compress(&codec, TRUE);
   const auto channels = static_cast<std::size_t>(codec.input_components);
   for (int y = 0; y < recipe.height; ++y) {

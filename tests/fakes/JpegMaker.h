@@ -20,6 +20,7 @@ struct JpegRecipe {
   int horizontal = 2;  ///< chroma is so many times coarser
   int vertical = 2;
   bool progressive = false;
+  bool scanPerChannel = false;  ///< each channel in a scan of its own, one after the other
   bool arithmetic = false;
   unsigned restartEvery = 0;  ///< blocks of pixels between restart markers; 0 is none
   int quality = 90;

@@ -80,10 +80,17 @@ struct SampleDesk {
   [[nodiscard]] std::filesystem::path TempFile() const {
     return folder.Path() / "temp" / "VANTORIUM_TEMP" / "preview_temp.jpg";
   }
-  [[nodiscard]] SamplePorts Ports() { return {paths, boxes, loop}; }
+  [[nodiscard]] SamplePorts Ports() { return {files, boxes, loop}; }
+  /// Puts a file where the temporary folder was, so that none can be made.
+  void BlockTempFolder() {
+    std::filesystem::remove_all(TempFile().parent_path());
+    folder.Write(TempFile().parent_path().lexically_relative(folder.Path()), "");
+  }
 
   TemporaryFolder folder;
   PathMap paths{{}};
+  RegionalFormats formats;
+  mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
   CountingEventLoop loop;
 };

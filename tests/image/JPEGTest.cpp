@@ -37,6 +37,14 @@ class JPEG : public testing::Test {
     return {};
   }
 
+  [[nodiscard]] bool ShowsTheSameAs(const cDIBSection& other) const {
+    bool same = dib_.width() == other.width() && dib_.height() == other.height();
+    for (std::int32_t y = 0; same && y < other.height(); ++y) {
+      same = std::equal(other.Row(y), other.Row(y) + 3 * static_cast<std::ptrdiff_t>(other.width()), dib_.Row(y));
+    }
+    return same;
+  }
+
   fakes::TemporaryFolder folder_;
   cDIBSection dib_;
 };
@@ -110,16 +118,52 @@ TEST_F(JPEG, InksBecomeTheLightThatTheyLeave) {
   }
 }
 
-TEST_F(JPEG, AFileCutOffAnywhereIsNotLoaded) {
-  for (const bool progressive : {false, true}) {
+constexpr std::size_t kEndMark = 2;
+
+TEST_F(JPEG, AFileWhoseDataAreCutOffAnywhereIsNotLoaded) {
+  for (const fakes::JpegRecipe& kind :
+       {fakes::JpegRecipe{}, {.progressive = true}, {.scanPerChannel = true}, {.arithmetic = true}}) {
     for (const unsigned restart : {0U, 2U}) {
-      const std::string jpeg = MakeJpeg({.progressive = progressive, .restartEvery = restart});
-      for (std::size_t length = 0; length < jpeg.size(); length += length + 40 < jpeg.size() ? 7 : 1) {
-        EXPECT_FALSE(Loads(jpeg.substr(0, length)))
-            << length << " of " << jpeg.size() << (progressive ? " progressive" : "") << " restart " << restart;
+      fakes::JpegRecipe recipe = kind;
+      recipe.restartEvery = restart;
+      const std::string jpeg = MakeJpeg(recipe);
+      const std::size_t whole = jpeg.size() - kEndMark;
+      for (std::size_t length = 0; length < whole; length += length + 40 < whole ? 7 : 1) {
+        EXPECT_FALSE(Loads(jpeg.substr(0, length))) << length << " of " << jpeg.size() << " " << recipe;
       }
-      EXPECT_TRUE(Loads(jpeg));
+      EXPECT_TRUE(Loads(jpeg)) << recipe;
     }
+  }
+}
+
+TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkIsLoaded) {
+  auto kinds = fakes::EveryKindOfJpeg();
+  kinds.push_back({.scanPerChannel = true});
+  for (const auto& recipe : kinds) {
+    if (recipe.arithmetic) continue;  // such data are never known to be complete without the mark
+    const std::string jpeg = MakeJpeg(recipe);
+    ASSERT_TRUE(Loads(jpeg)) << recipe;
+    const cDIBSection whole = std::move(dib_);
+    for (const std::size_t lost : {std::size_t{1}, kEndMark}) {
+      ASSERT_TRUE(Loads(jpeg.substr(0, jpeg.size() - lost))) << recipe << " without the last " << lost;
+      EXPECT_TRUE(ShowsTheSameAs(whole)) << recipe;
+    }
+  }
+}
+
+// All rows of such a picture are there, but not all of what each of them is made of.
+TEST_F(JPEG, AFileThatEndsBetweenTwoOfItsScansIsNotLoaded) {
+  for (const bool progressive : {false, true}) {
+    const std::string jpeg = MakeJpeg({.progressive = progressive, .scanPerChannel = !progressive});
+    std::size_t scans = 0;
+    for (std::size_t scan = jpeg.find("\xFF\xDA"); scan != std::string::npos; scan = jpeg.find("\xFF\xDA", scan + 1)) {
+      ++scans;
+      const std::size_t tables = jpeg.rfind("\xFF\xC4", scan);
+      for (const std::size_t end : {scan, tables}) {
+        EXPECT_FALSE(Loads(jpeg.substr(0, end))) << "in front of scan " << scans << (progressive ? " progressive" : "");
+      }
+    }
+    EXPECT_GE(scans, 3U);
   }
 }
 
@@ -162,9 +206,7 @@ TEST_F(JPEG, HarmlessOdditiesAreLoaded) {
   };
   for (const auto& bytes : odd) {
     ASSERT_TRUE(Loads(bytes)) << &bytes - odd;
-    for (std::int32_t y = 0; y < plain.height(); ++y) {
-      EXPECT_TRUE(std::equal(plain.Row(y), plain.Row(y) + 3 * plain.width(), dib_.Row(y))) << &bytes - odd;
-    }
+    EXPECT_TRUE(ShowsTheSameAs(plain)) << &bytes - odd;
   }
 }
 

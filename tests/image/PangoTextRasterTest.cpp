@@ -55,7 +55,7 @@ class PangoTextRasterTest : public ::testing::Test {
   /// A line turned about the middle of the picture.
   [[nodiscard]] TextMask DrawLine(LogFont font, const std::string& text, std::int32_t degrees) const {
     font.lfEscapement = font.lfOrientation = degrees * 10;
-    return raster.Draw(font, text, {TextForm::Line, kWidth / 2, kHeight / 2}, kWidth, kHeight);
+    return raster.Draw(font, text, {TextForm::Turned, kWidth / 2, kHeight / 2}, kWidth, kHeight);
   }
 
   PangoTextRaster raster;
@@ -112,7 +112,6 @@ TEST_F(PangoTextRasterTest, EachLineAddsItsHeight) {
   }
   EXPECT_EQ(raster.Measure(font, "HHH\r\n", TextForm::Lines), one);
   EXPECT_EQ(raster.Measure(font, "", TextForm::Lines), TextExtent());
-  EXPECT_EQ(raster.Measure(font, "HHH\r\nI", TextForm::Line).height, one.height);
 }
 
 TEST_F(PangoTextRasterTest, LinesStandBelowEachOtherAtTheLeft) {
@@ -175,10 +174,31 @@ TEST_F(PangoTextRasterTest, SeveralLinesAreNeverTurned) {
   EXPECT_EQ(PixelsOf(DrawLines(turned, "SAMPLE")), PixelsOf(DrawLines(FontOf(-48), "SAMPLE")));
 }
 
-TEST_F(PangoTextRasterTest, OnATurnedLineABreakIsABlank) {
-  for (const char* text : {"one\r\ntwo", "one\ntwo", "one\rtwo", "one\ttwo"}) {
-    EXPECT_EQ(PixelsOf(DrawLine(FontOf(-30), text, 36)), PixelsOf(DrawLine(FontOf(-30), "one two", 36))) << text;
+TEST_F(PangoTextRasterTest, EachFurtherTurnedLineIsALineHeightStraightBelow) {
+  LogFont font = FontOf(-30, 700);
+  const std::int32_t lineHeight = 33;
+  ASSERT_EQ(raster.Measure(font, "x", TextForm::Turned).height, lineHeight);
+  for (const std::int32_t degrees : {36, -36, 0, 89}) {
+    font.lfEscapement = degrees * 10;
+    const auto drawAt = [&](const std::string& text, std::int32_t y) {
+      return PixelsOf(raster.Draw(font, text, {TextForm::Turned, kWidth / 2, y}, kWidth, kHeight));
+    };
+    Pixels wanted = drawAt("a first one", 150);
+    wanted.merge(drawAt("two", 150 + lineHeight));
+    wanted.merge(drawAt("the last", 150 + 3 * lineHeight));
+    for (const char* text :
+         {"a first one\r\ntwo\r\n\r\nthe last", "a first one\ntwo\n\nthe last\n", "a first one\rtwo\r\rthe last"}) {
+      EXPECT_EQ(drawAt(text, 150), wanted) << degrees << " degrees: " << text;
+    }
   }
+}
+
+TEST_F(PangoTextRasterTest, ATurnedTextIsMeasuredByItsFirstLine) {
+  const LogFont font = FontOf(-48);
+  for (const char* text : {"HHH", "HHH\r\nI", "HHH\nI\nI\n", "\n\n"}) {
+    EXPECT_EQ(raster.Measure(font, text, TextForm::Turned).height, 53) << text;
+  }
+  EXPECT_EQ(raster.Measure(font, "", TextForm::Turned), TextExtent());
 }
 
 TEST_F(PangoTextRasterTest, BoldHasMoreInkAndItalicLeans) {
@@ -250,7 +270,7 @@ TEST_F(PangoTextRasterTest, AnEmptyTextDrawsNothing) {
 
 TEST_F(PangoTextRasterTest, HugeLettersKeepTheirMeasures) {
   for (const std::int32_t em : {1025, 5000, 43689, 65535, 1000000}) {
-    EXPECT_EQ(raster.Measure(FontOf(-em), "H", TextForm::Line).height,
+    EXPECT_EQ(raster.Measure(FontOf(-em), "H", TextForm::Turned).height,
               std::lround(em * 1854.0 / 2048) + std::lround(em * 434.0 / 2048))
         << em;
   }
@@ -273,8 +293,8 @@ TEST_F(PangoTextRasterTest, HugeLettersOfEveryScriptAreDrawn) {
 TEST_F(PangoTextRasterTest, LongTextsKeepTheirMeasures) {
   const std::string text(100000, 'H');
   EXPECT_EQ(raster.Measure(FontOf(-48), text, TextForm::Lines).width, 100000 * 35);
-  const std::int64_t wide = raster.Measure(FontOf(-43689), "H", TextForm::Line).width;
-  EXPECT_EQ(raster.Measure(FontOf(-43689), text, TextForm::Line).width, 100000 * wide);
+  const std::int64_t wide = raster.Measure(FontOf(-43689), "H", TextForm::Turned).width;
+  EXPECT_EQ(raster.Measure(FontOf(-43689), text, TextForm::Turned).width, 100000 * wide);
   // What can be seen of it is what can be seen of a shorter one.
   EXPECT_EQ(PixelsOf(DrawLine(FontOf(-48), text, 36)), PixelsOf(DrawLine(FontOf(-48), std::string(100, 'H'), 36)));
 }

@@ -106,6 +106,17 @@ TEST_F(PictureTest, AFileThatEndsEarlyIsNotDecodedWhereverItEnds) {
   }
 }
 
+TEST_F(PictureTest, AFileThatLacksOnlyItsEndMarkMakesTheSamePictures) {
+  for (const bool progressive : {false, true}) {
+    const std::string jpeg = fakes::MakeJpeg({.width = 64, .height = 64, .progressive = progressive});
+    const auto whole = Make(jpeg, {Sized(5, 5), Sized(2, 2)});
+    const auto cut = Make(jpeg.substr(0, jpeg.size() - 2), {Sized(5, 5), Sized(2, 2)});
+    ASSERT_TRUE(cut.decoded) << progressive;
+    EXPECT_EQ(cut.image.Bytes(), whole.image.Bytes()) << progressive;
+    EXPECT_EQ(cut.thumbnail.Bytes(), whole.thumbnail.Bytes()) << progressive;
+  }
+}
+
 TEST_F(PictureTest, WhatIsNoPictureIsNotDecoded) {
   for (const std::string& bytes : {std::string(), std::string("text"), std::string(5000, '\xFF')}) {
     EXPECT_FALSE(Make(bytes, {Sized(5, 5), {}}).decoded) << bytes.substr(0, 10);

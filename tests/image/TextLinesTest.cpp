@@ -15,41 +15,33 @@ TEST(TextLines, EachKindOfBreakEndsALine) {
   for (const Case& c : {Case{"a", {"a"}}, Case{"a\r\nb", {"a", "b"}}, Case{"a\nb", {"a", "b"}},
                         Case{"a\rb", {"a", "b"}}, Case{"a\r\n\r\nb", {"a", "", "b"}}, Case{"a\n\rb", {"a", "", "b"}},
                         Case{"\r\na", {"", "a"}}, Case{"a\n\n\nb", {"a", "", "", "b"}}}) {
-    EXPECT_EQ(LinesOfText(c.text, TextForm::Lines), c.lines) << c.text;
+    EXPECT_EQ(LinesOfText(c.text), c.lines) << c.text;
   }
 }
 
 TEST(TextLines, ABreakAtTheEndBeginsNoLine) {
-  EXPECT_EQ(LinesOfText("a\r\n", TextForm::Lines), Lines({"a"}));
-  EXPECT_EQ(LinesOfText("a\r\n\r\n", TextForm::Lines), Lines({"a", ""}));
-  EXPECT_EQ(LinesOfText("\n", TextForm::Lines), Lines({""}));
+  EXPECT_EQ(LinesOfText("a\r\n"), Lines({"a"}));
+  EXPECT_EQ(LinesOfText("a\r\n\r\n"), Lines({"a", ""}));
+  EXPECT_EQ(LinesOfText("\n"), Lines({""}));
 }
 
 TEST(TextLines, AnEmptyTextHasNone) {
-  EXPECT_EQ(LinesOfText("", TextForm::Lines), Lines());
-  EXPECT_EQ(LinesOfText("", TextForm::Line), Lines());
-}
-
-TEST(TextLines, OneLineHasBlanksForTheBreaks) {
-  EXPECT_EQ(LinesOfText("a\r\nb\nc\rd", TextForm::Line), Lines({"a b c d"}));
-  EXPECT_EQ(LinesOfText("a\r\n", TextForm::Line), Lines({"a"}));
+  EXPECT_EQ(LinesOfText(""), Lines());
 }
 
 TEST(TextLines, ControlCharactersAreBlanks) {
   EXPECT_EQ(LinesOfText("a\tb\x01"
                         "c\x7F"
-                        "d",
-                        TextForm::Lines),
+                        "d"),
             Lines({"a b c d"}));
 }
 
 TEST(TextLines, WhatIsNoTextIsReplaced) {
   EXPECT_EQ(LinesOfText("a\xFF"
-                        "b",
-                        TextForm::Lines),
+                        "b"),
             Lines({"a\uFFFDb"}));
-  EXPECT_EQ(LinesOfText("\xC3", TextForm::Lines), Lines({"\uFFFD"}));
-  EXPECT_EQ(LinesOfText(std::string_view("a\0b", 3), TextForm::Lines), Lines({"a\uFFFDb"}));
+  EXPECT_EQ(LinesOfText("\xC3"), Lines({"\uFFFD"}));
+  EXPECT_EQ(LinesOfText(std::string_view("a\0b", 3)), Lines({"a\uFFFDb"}));
 }
 
 }  // namespace

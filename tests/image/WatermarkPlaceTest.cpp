@@ -9,7 +9,7 @@
 namespace vantorium {
 
 std::ostream& operator<<(std::ostream& stream, const TextPlace& place) {
-  return stream << (place.form == TextForm::Line ? "line" : "lines") << " at " << place.x << ", " << place.y;
+  return stream << (place.form == TextForm::Turned ? "turned" : "lines") << " at " << place.x << ", " << place.y;
 }
 
 namespace {
@@ -78,9 +78,9 @@ TEST(WatermarkPlace, TheDiagonalsAngleIsCutToWholeDegrees) {
 
 TEST(WatermarkPlace, ADiagonalLineIsCentredOnTheMiddleOfThePicture) {
   // Of 640 x 480 the sine is 0.6 and the cosine 0.8.
-  EXPECT_EQ(Place(9, 640, 480, BoxTextRaster(9999, 53)), (TextPlace{TextForm::Line, 304, 261}));
-  EXPECT_EQ(Place(10, 640, 480, BoxTextRaster(9999, 53)), (TextPlace{TextForm::Line, 336, 261}));
-  EXPECT_EQ(Place(10, 641, 481, BoxTextRaster(9999, 1)), (TextPlace{TextForm::Line, 321, 241}));
+  EXPECT_EQ(Place(9, 640, 480, BoxTextRaster(9999, 53)), (TextPlace{TextForm::Turned, 304, 261}));
+  EXPECT_EQ(Place(10, 640, 480, BoxTextRaster(9999, 53)), (TextPlace{TextForm::Turned, 336, 261}));
+  EXPECT_EQ(Place(10, 641, 481, BoxTextRaster(9999, 1)), (TextPlace{TextForm::Turned, 321, 241}));
 }
 
 TEST(WatermarkPlace, TheFontIsSetForTheDrawing) {

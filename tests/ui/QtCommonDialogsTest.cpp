@@ -1,3 +1,4 @@
+#include "image/PangoTextRaster.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/ColourButton.h"
 #include "ui/ports/QtCommonDialogs.h"
@@ -31,7 +32,8 @@ class SystemDialogs : public testing::Test {
     return answer;
   }
 
-  QtCommonDialogs dialogs;
+  PangoTextRaster texts;
+  QtCommonDialogs dialogs{texts};
   FontDescription font{.Name = "Liberation Sans", .Size = 36, .Weight = 700, .Color = 0xFFFFFF};
 };
 
@@ -111,6 +113,17 @@ TEST_F(SystemDialogs, EverythingOfAFontIsChosenWithKeysAndMouse) {
                                    .Underline = true,
                                    .Strikeout = true,
                                    .Color = 0x0000FF}));
+}
+
+TEST_F(SystemDialogs, TheFontsAreThoseThatTextsAreDrawnWithEachOnce) {
+  std::vector<std::string> listed;
+  FontDialog([&](QWidget& dialog) {
+    const auto& list = Find<QListWidget>(dialog, "listFontNames");
+    for (int row = 0; row < list.count(); ++row) listed.push_back(list.item(row)->text().toStdString());
+    Click(dialog, "CancelButton");
+  });
+  EXPECT_FALSE(listed.empty());
+  EXPECT_EQ(listed, texts.FaceNames());
 }
 
 TEST_F(SystemDialogs, TheListOfFontsAndTheNameFollowEachOther) {

@@ -1,3 +1,4 @@
+#include "image/PangoTextRaster.h"
 // Writes a picture of every window and page for the documents. Use: vantorium-screenshots FOLDER
 //
 // The windows are those of the program, on a small project with photographs of /usr/share/backgrounds or, where there
@@ -37,8 +38,8 @@ class Photographer {
  public:
   explicit Photographer(std::filesystem::path folder) : folder_(std::move(folder)) {
     std::filesystem::create_directories(folder_);
-    desk_.folder.Write("data/preview.jpg", fakes::TemporaryFolder::ReadFile(
-                                               fakes::SourceFolder() / "data/preview.jpg"));
+    desk_.folder.Write("data/preview.jpg",
+                       fakes::TemporaryFolder::ReadFile(fakes::SourceFolder() / "data/preview.jpg"));
     desk_.folder.Write("program/vantorium.ini",
                        "[BROWSERS]\r\nCount=\"2\"\r\nName1=\"Chromium\"\r\nLocation1=\"Z:\\usr\\bin\\chromium\"\r\n"
                        "Name2=\"Text Browser\"\r\nLocation2=\"Z:\\usr\\bin\\links\"\r\n");
@@ -191,7 +192,7 @@ class Photographer {
     watermark.Size = 36;
     watermark.Weight = 700;
     frmFont font(
-        watermark, [](std::uint32_t&) { return false; }, nullptr);
+        watermark, PangoTextRaster().FaceNames(), [](std::uint32_t&) { return false; }, nullptr);
     font.show();
     Take(font, "frmFont");
     frmPreview preview(desk_.paths);

@@ -15,6 +15,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolTip>
+#include <QWindow>
 
 namespace vantorium {
 namespace {
@@ -68,6 +69,20 @@ TEST_F(DescriptionsWindow, StandsBesideTheMainWindow) {
   EXPECT_FALSE(form.isModal());
   EXPECT_EQ(form.focusWidget(), &Box("textDescription"));
   EXPECT_FALSE(project.IsModified);
+}
+
+// As a window manager moves and resizes it, which the toolkit does not take for its program's own doing.
+TEST_F(DescriptionsWindow, ComesBackWhereItsUserLeftIt) {
+  const QRect left(31, 47, form.width() + 60, form.height() + 20);
+  form.windowHandle()->setGeometry(left);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return form.geometry() == left; }));
+  for (const bool byButton : {true, false}) {
+    byButton ? Click(form, "btnClose") : form.hide();
+    ASSERT_FALSE(form.isVisible());
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+    EXPECT_EQ(form.geometry(), left) << byButton;
+  }
 }
 
 TEST_F(DescriptionsWindow, SaysWhatItsControlsAreFor) {

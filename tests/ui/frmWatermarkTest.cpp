@@ -230,9 +230,9 @@ TEST_F(WatermarkForm, WithoutASampleItClosesAtOnceWithTheBox) {
   EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
 }
 
-TEST_F(WatermarkForm, ATemporaryFolderThatGoesAwayClosesItWithTheBox) {
+TEST_F(WatermarkForm, ATemporaryFolderThatIsBlockedClosesItWithTheBox) {
   EXPECT_FALSE(Edit([this](QWidget& form) {
-    std::filesystem::remove_all(desk.TempFile().parent_path());
+    desk.BlockTempFolder();
     Type(Find<QPlainTextEdit>(form, "textWatermark"), "other");
     Click(form, "OKButton");
   }));

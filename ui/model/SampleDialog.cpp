@@ -33,26 +33,22 @@ bool SampleDialog::Open() {
 
 std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
   auto picture = std::make_unique<cDIBSection>();
-  if (Load(*picture, sources_.selectedFile, ports_.paths)) return picture;
+  if (Load(*picture, sources_.selectedFile, ports_.files.Paths())) return picture;
   for (const std::string& sample : sources_.defaultSamples) {
-    if (Load(*picture, sample, ports_.paths)) return picture;
+    if (Load(*picture, sample, ports_.files.Paths())) return picture;
   }
   return nullptr;
 }
 
 bool SampleDialog::Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const {
-  const auto file = ports_.paths.ToNative(TempFile());
-  if (!file || !RefusalOfTempFolder(file->parent_path()).empty()) return false;
+  const auto file = ports_.files.Paths().ToNative(TempFile());
+  if (!file || !ports_.files.MakePath(TempFolder()) || !RefusalOfTempFolder(file->parent_path()).empty()) return false;
   try {
     SaveJPEGImage(picture, *file, quality);
   } catch (const RuntimeFailure&) {
     return false;
   }
   return LoadJPEGImage(result, *file);
-}
-
-std::string SampleDialog::TempFile() const {
-  return sources_.tempFolderLocation + "\\VANTORIUM_TEMP\\preview_temp.jpg";
 }
 
 void SampleDialog::Close(bool cancelled) {

@@ -2,7 +2,7 @@
 
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
-#include "env/PathMap.h"
+#include "env/mFileFunctions.h"
 #include "image/ResamplePlan.h"
 #include "image/cDIBSection.h"
 
@@ -21,7 +21,7 @@ struct SampleSources {
 
 /// What a dialog with a sample needs of the program.
 struct SamplePorts {
-  const PathMap& paths;
+  const mFileFunctions& files;
   MessageBoxPort& boxes;
   EventLoop& loop;
 };
@@ -57,9 +57,9 @@ class SampleDialog {
   [[nodiscard]] const cDIBSection& Source() const { return *source_; }
 
   /// `picture` as it comes out of a JPEG file of that quality, 1 to 100. False when the temporary file can't be written
-  /// or read. `result` may be `picture`.
+  /// or read; a folder that is missing for it is made. `result` may be `picture`.
   [[nodiscard]] bool Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const;
-  [[nodiscard]] std::string TempFile() const;
+  [[nodiscard]] std::string TempFile() const { return TempFolder() + "\\preview_temp.jpg"; }
 
   /// Hides the dialog; nothing when it is closed already.
   void Close(bool cancelled);
@@ -68,6 +68,7 @@ class SampleDialog {
   [[nodiscard]] bool Cancelled() const { return cancelled_; }
 
  private:
+  [[nodiscard]] std::string TempFolder() const { return sources_.tempFolderLocation + "\\VANTORIUM_TEMP"; }
   [[nodiscard]] std::unique_ptr<cDIBSection> LoadSource() const;
 
   SampleSources sources_;

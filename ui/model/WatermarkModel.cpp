@@ -1,7 +1,6 @@
 #include "ui/model/WatermarkModel.h"
 
 #include "env/Numbers.h"
-#include "env/RuntimeFailure.h"
 #include "image/Resample.h"
 #include "image/Watermark.h"
 #include "ui/model/FontModel.h"
@@ -111,8 +110,10 @@ void WatermarkModel::SetQuality(std::int16_t quality) {
   Preview();
 }
 
-void WatermarkModel::BrowseFont() {
+void WatermarkModel::BrowseFont() try {
   if (ports_.dialogs.ShowFontDialog(workingFont_)) Preview();
+} catch (const RuntimeFailure& failure) {
+  Tell(failure);
 }
 
 void WatermarkModel::Preview() {
@@ -135,7 +136,12 @@ void WatermarkModel::DrawWatermark(cDIBSection& picture) const try {
   DrawWatermarkText(picture, font, working.textWatermark, working.comboTextPlacement, working.Color,
                     static_cast<std::uint8_t>(working.sliderAlpha), ports_.texts);
 } catch (const RuntimeFailure& failure) {
-  samplePorts_.boxes.Critical("Invalid Value", failure.Description());  // a text of thousands of letters
+  Tell(failure);
+}
+
+void WatermarkModel::Tell(const RuntimeFailure& failure) const {
+  const bool tooLarge = failure.Number() == static_cast<std::int32_t>(FailureKind::Overflow);  // thousands of letters
+  samplePorts_.boxes.Critical(tooLarge ? "Invalid Value" : "Watermark", failure.Description());
 }
 
 WatermarkSettings WatermarkModel::WorkingSettings() const {

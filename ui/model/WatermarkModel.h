@@ -1,5 +1,6 @@
 #pragma once
 
+#include "env/RuntimeFailure.h"
 #include "env/Screen.h"
 #include "env/mCommonDialogs.h"
 #include "image/TextRaster.h"
@@ -63,6 +64,7 @@ class WatermarkModel {
  private:
   [[nodiscard]] WatermarkSettings WorkingSettings() const;
   void DrawWatermark(cDIBSection& picture) const;
+  void Tell(const RuntimeFailure& failure) const;
 
   WatermarkSettings settings_;
   std::int16_t quality_;

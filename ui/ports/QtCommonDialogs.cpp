@@ -22,7 +22,7 @@ bool QtCommonDialogs::ShowColorDialog(std::uint32_t& colour, CustomColours& cust
 
 bool QtCommonDialogs::ShowFontDialog(FontDescription& font) {
   frmFont dialog(
-      font, [this](std::uint32_t& colour) { return ShowColorDialog(colour, lastCustom_); },
+      font, texts_.FaceNames(), [this](std::uint32_t& colour) { return ShowColorDialog(colour, lastCustom_); },
       QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   font = dialog.Font();

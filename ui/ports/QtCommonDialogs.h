@@ -1,6 +1,7 @@
 #pragma once
 
 #include "env/mCommonDialogs.h"
+#include "image/TextRaster.h"
 
 namespace vantorium {
 
@@ -8,13 +9,16 @@ namespace vantorium {
 /// every desktop.
 class QtCommonDialogs : public mCommonDialogs {
  public:
-  QtCommonDialogs() { lastCustom_.fill(0xFFFFFF); }
+  /// `texts` draws with the fonts that the font dialog lists.
+  explicit QtCommonDialogs(const TextRaster& texts) : texts_(texts) { lastCustom_.fill(0xFFFFFF); }
 
   [[nodiscard]] bool ShowColorDialog(std::uint32_t& colour, CustomColours& custom) override;
-  /// Its colours are chosen with the custom colours of the colour dialog that was last shown.
+  /// Its colours are chosen with the custom colours of the colour dialog that was last shown. Throws as
+  /// TextRaster::FaceNames.
   [[nodiscard]] bool ShowFontDialog(FontDescription& font) override;
 
  private:
+  const TextRaster& texts_;
   CustomColours lastCustom_;
 };
 

@@ -141,8 +141,8 @@ TEST_F(ImageFiltersDialog, CancelHidesTheDialog) {
   EXPECT_TRUE(box.calls.ends_with("hide "));
 }
 
-TEST_F(ImageFiltersDialog, ATemporaryFolderThatIsMissingClosesItWithThePathOfTheFile) {
-  std::filesystem::remove_all(desk.TempFile().parent_path());
+TEST_F(ImageFiltersDialog, ATemporaryFolderThatCannotBeMadeClosesItWithThePathOfTheFile) {
+  desk.BlockTempFolder();
   const auto model = Opened();
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +

@@ -111,12 +111,22 @@ TEST_F(SampleDialogs, ATemporaryFolderThatIsALinkIsNotWrittenTo) {
   EXPECT_TRUE(std::filesystem::is_empty(stranger));
 }
 
+TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
+  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  for (const char* missing : {"temp", "other/parent"}) {
+    std::filesystem::remove_all(desk.folder.Path() / missing);
+    const std::string location = desk.paths.ToText(desk.folder.Path() / missing);
+    cDIBSection result;
+    EXPECT_TRUE(SampleDialog({"", {}, location}, desk.Ports(), box).Compress(picture, 85, result)) << missing;
+    EXPECT_TRUE(std::filesystem::exists(desk.folder.Path() / missing / "VANTORIUM_TEMP" / "preview_temp.jpg"));
+  }
+}
+
 TEST_F(SampleDialogs, ATemporaryFolderThatIsNoneFails) {
   desk.folder.Write("file", "");
   const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   for (const std::string& location :
-       {desk.paths.ToText(desk.folder.Path()), desk.paths.ToText(desk.folder.Path() / "file"), std::string("Q:\\temp"),
-        std::string("\\\\server\\share")}) {
+       {desk.paths.ToText(desk.folder.Path() / "file"), std::string("Q:\\temp"), std::string("\\\\server\\share")}) {
     cDIBSection result;
     EXPECT_FALSE(SampleDialog({"", {}, location}, desk.Ports(), box).Compress(picture, 85, result)) << location;
   }

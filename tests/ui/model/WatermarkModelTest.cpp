@@ -1,3 +1,4 @@
+#include "env/RuntimeFailure.h"
 #include "image/Resample.h"
 #include "image/Watermark.h"
 #include "tests/fakes/BoxTextRaster.h"
@@ -203,9 +204,9 @@ TEST_F(WatermarkDialog, CancelHidesTheDialog) {
   EXPECT_EQ(box.calls, "clear paint hide ");
 }
 
-TEST_F(WatermarkDialog, ATemporaryFolderThatIsMissingClosesItWithItsPath) {
+TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
   const auto model = Opened(on);
-  std::filesystem::remove_all(desk.TempFile().parent_path());
+  desk.BlockTempFolder();
   model->SetAlpha(3);
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
@@ -213,6 +214,43 @@ TEST_F(WatermarkDialog, ATemporaryFolderThatIsMissingClosesItWithItsPath) {
                                           "\".  Please check the Temporary Folder Location.");
   EXPECT_TRUE(model->Cancelled());
   EXPECT_EQ(box.calls, "clear paint hide ");
+}
+
+/// A machine without fonts.
+class FailingRaster : public fakes::BoxTextRaster {
+ public:
+  FailingRaster() : BoxTextRaster(20, 10) {}
+  [[nodiscard]] TextMask Draw(const LogFont& /*font*/, std::string_view /*text*/, const TextPlace& /*place*/,
+                              std::int32_t /*width*/, std::int32_t /*height*/) const override {
+    throw RuntimeFailure(FailureKind::FileNotFound, "no font");
+  }
+};
+
+TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsToldAndTheSampleShownWithoutIt) {
+  const FailingRaster failing;
+  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, failing, screen}, box);
+  model.Open();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Watermark");
+  EXPECT_EQ(desk.boxes.boxes[0].text, "no font");
+  WatermarkSettings off = on;
+  off.checkUseWatermark = 0;
+  EXPECT_EQ(box.painted.at(0), Expected(off, 85));
+}
+
+TEST_F(WatermarkDialog, AFontDialogThatFailsIsToldAndTheFontKept) {
+  class Failing : public fakes::ScriptedCommonDialogs {
+   public:
+    [[nodiscard]] bool ShowFontDialog(FontDescription& /*font*/) override {
+      throw RuntimeFailure(FailureKind::OutOfMemory, "no fonts");
+    }
+  } failing;
+  WatermarkModel model(on, 85, sources, desk.Ports(), {failing, texts, screen}, box);
+  model.Open();
+  model.BrowseFont();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].text, "no fonts");
+  EXPECT_EQ(model.WorkingFont().Name, "Arial");
 }
 
 TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsToldAndTheSampleShownWithoutIt) {
