@@ -5,7 +5,7 @@
 #include "tests/fakes/RecordingImageListDisplay.h"
 #include "tests/fakes/ScriptedFtpServer.h"
 #include "tests/ui/RunDesk.h"
-#include "ui/frmAddFoldersProcess.h"
+#include "ui/files/frmAddFoldersProcess.h"
 
 #include <QApplication>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 // ratio to memcpy, which is printed below the table as the median of several rounds that measure both in turn.
 #include "image/Filters.h"
 #include "image/Resample.h"
-#include "image/ResampleLiteral.h"
+#include "image/literal/ResampleLiteral.h"
 
 #include <algorithm>
 #include <cstdio>

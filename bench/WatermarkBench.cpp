@@ -4,7 +4,7 @@
 #include "image/PangoTextRaster.h"
 #include "image/TransparentCopy.h"
 #include "image/Watermark.h"
-#include "image/WatermarkLiteral.h"
+#include "image/literal/WatermarkLiteral.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,8 +1,8 @@
 #include "core/ProjectSession.h"
 
 #include "core/ProjectEditor.h"
-#include "core/ProjectFileReader.h"
-#include "core/ProjectFileWriter.h"
+#include "core/file/ProjectFileReader.h"
+#include "core/file/ProjectFileWriter.h"
 #include "env/PathText.h"
 #include "env/Text.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ProjectFileStatus.h"
+#include "core/file/ProjectFileStatus.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "app/batch/FindImages.h"
 
 #include "core/ImageFormats.h"
-#include "core/XmlText.h"
+#include "core/file/XmlText.h"
 #include "env/PathText.h"
 
 #include <algorithm>

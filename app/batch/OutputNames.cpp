@@ -1,7 +1,7 @@
 #include "app/batch/OutputNames.h"
 
-#include "core/XmlNode.h"
-#include "core/XmlSyntax.h"
+#include "core/file/XmlNode.h"
+#include "core/file/XmlSyntax.h"
 #include "env/FileInput.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"

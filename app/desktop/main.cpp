@@ -6,15 +6,15 @@
 #include "env/SystemClock.h"
 #include "image/PangoTextRaster.h"
 #include "ui/Resources.h"
-#include "ui/frmBrowseForFolder.h"
-#include "ui/frmFileBrowser.h"
-#include "ui/frmMain.h"
+#include "ui/files/frmBrowseForFolder.h"
+#include "ui/files/frmFileBrowser.h"
+#include "ui/main/frmMain.h"
 #include "ui/ports/QtCommonDialogs.h"
 #include "ui/ports/QtEventLoop.h"
 #include "ui/ports/QtMessageBox.h"
 #include "ui/ports/QtScreen.h"
 #include "ui/ports/QtShell.h"
-#include "ui/ports/QtText.h"
+#include "ui/qt/QtText.h"
 
 #include <QApplication>
 #include <QIcon>

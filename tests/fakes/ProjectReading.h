@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ProjectFileReader.h"
+#include "core/file/ProjectFileReader.h"
 #include "tests/fakes/ProjectFakes.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/model/FolderWalk.h"
+#include "ui/model/files/FolderWalk.h"
 
 #include <string>
 #include <vector>

@@ -4,7 +4,7 @@
 #include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/TemporaryFolder.h"
-#include "ui/model/SampleDialog.h"
+#include "ui/model/dialogs/SampleDialog.h"
 
 #include <stdexcept>
 #include <string>

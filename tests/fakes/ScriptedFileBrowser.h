@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/model/FileBrowser.h"
+#include "ui/model/files/FileBrowser.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 // Writes what no editor can of the corpus.
 // Use: fuzz_corpus tests/fuzz/corpus
-#include "core/ProjectFileWriter.h"
+#include "core/file/ProjectFileWriter.h"
 #include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/JpegMaker.h"
 

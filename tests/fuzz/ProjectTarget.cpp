@@ -1,8 +1,8 @@
 // Project files, in any encoding: what is read is written, and comes back.
-#include "core/ProjectFileWriter.h"
-#include "core/XmlEncoding.h"
-#include "core/XmlNode.h"
-#include "core/XmlSyntax.h"
+#include "core/file/ProjectFileWriter.h"
+#include "core/file/XmlEncoding.h"
+#include "core/file/XmlNode.h"
+#include "core/file/XmlSyntax.h"
 #include "env/PathText.h"
 #include "env/Text.h"
 #include "tests/fakes/ProjectFakes.h"

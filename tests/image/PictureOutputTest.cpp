@@ -3,7 +3,7 @@
 #include "image/JPEG.h"
 #include "image/PangoTextRaster.h"
 #include "image/PictureOutput.h"
-#include "image/WatermarkLiteral.h"
+#include "image/literal/WatermarkLiteral.h"
 #include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/Hindrances.h"

@@ -2,7 +2,7 @@
 #include "image/Filters.h"
 #include "image/JPEG.h"
 #include "image/Picture.h"
-#include "image/ResampleLiteral.h"
+#include "image/literal/ResampleLiteral.h"
 #include "tests/fakes/JpegMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
 #include "image/Resample.h"
-#include "image/ResampleLiteral.h"
+#include "image/literal/ResampleLiteral.h"
 #include "tests/image/PictureFixtures.h"
 
 #include <limits>

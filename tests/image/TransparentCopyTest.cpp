@@ -1,5 +1,5 @@
 #include "image/TransparentCopy.h"
-#include "image/TransparentCopyLiteral.h"
+#include "image/literal/TransparentCopyLiteral.h"
 #include "tests/image/PictureFixtures.h"
 
 #include <random>

@@ -1,6 +1,6 @@
 #include "image/PangoTextRaster.h"
 #include "image/Watermark.h"
-#include "image/WatermarkLiteral.h"
+#include "image/literal/WatermarkLiteral.h"
 #include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/image/PictureFixtures.h"

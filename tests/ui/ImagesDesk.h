@@ -8,8 +8,8 @@
 #include "tests/fakes/ScriptedFileBrowser.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/ui/FormDriver.h"
-#include "ui/ImageListView.h"
-#include "ui/frmImages.h"
+#include "ui/main/ImageListView.h"
+#include "ui/main/frmImages.h"
 
 #include <memory>
 #include <string>

@@ -10,9 +10,9 @@
 #include "tests/fakes/ScriptedFolderBrowser.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/ui/FormDriver.h"
-#include "ui/frmMain.h"
+#include "ui/main/frmMain.h"
 #include "ui/ports/QtEventLoop.h"
-#include "ui/ports/QtText.h"
+#include "ui/qt/QtText.h"
 
 #include <QAction>
 #include <QTabWidget>

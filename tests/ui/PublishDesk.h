@@ -6,8 +6,8 @@
 #include "tests/fakes/ScriptedFolderBrowser.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/ui/FormDriver.h"
-#include "ui/frmCreateGallery.h"
-#include "ui/frmPublish.h"
+#include "ui/dialogs/frmCreateGallery.h"
+#include "ui/dialogs/frmPublish.h"
 
 namespace vantorium::fakes {
 

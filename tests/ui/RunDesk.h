@@ -6,7 +6,7 @@
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"
-#include "ui/frmProgress.h"
+#include "ui/dialogs/frmProgress.h"
 #include "ui/ports/QtEventLoop.h"
 
 #include <QPointer>

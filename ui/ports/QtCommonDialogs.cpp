@@ -1,7 +1,7 @@
 #include "ui/ports/QtCommonDialogs.h"
 
-#include "ui/frmFont.h"
-#include "ui/ports/QtColour.h"
+#include "ui/dialogs/frmFont.h"
+#include "ui/qt/QtColour.h"
 
 #include <QApplication>
 #include <QColorDialog>

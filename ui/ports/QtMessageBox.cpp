@@ -1,6 +1,6 @@
 #include "ui/ports/QtMessageBox.h"
 
-#include "ui/ports/QtText.h"
+#include "ui/qt/QtText.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -2,7 +2,7 @@
 
 #include "env/RuntimeFailure.h"
 #include "env/StartProcess.h"
-#include "ui/ports/QtText.h"
+#include "ui/qt/QtText.h"
 
 #include <QApplication>
 #include <QDesktopServices>

@@ -1,0 +1,35 @@
+#include "core/file/ProjectFileElements.h"
+
+#include "core/file/XmlText.h"
+
+namespace vantorium {
+
+void PutAttribute(pugi::xml_node element, const char* name, std::string_view value) {
+  element.append_attribute(name).set_value(ToXmlText(value).c_str());
+}
+
+void PutAttribute(pugi::xml_node element, const char* name, std::int64_t value) {
+  PutAttribute(element, name, std::string_view(std::to_string(value)));
+}
+
+void PutAttribute(pugi::xml_node element, const char* name, FileWords words, std::int16_t index) {
+  const std::string_view word = WordOf(words, index);
+  if (!word.empty()) PutAttribute(element, name, word);
+}
+
+// The document model closes the section inside a "]]>" and opens another one when it writes the text.
+void PutText(pugi::xml_node element, std::string_view text) {
+  element.append_child(pugi::node_cdata).set_value(ToXmlText(text).c_str());
+}
+
+pugi::xml_node PutTextElement(pugi::xml_node parent, const char* name, std::string_view text) {
+  const pugi::xml_node element = parent.append_child(name);
+  PutText(element, text);
+  return element;
+}
+
+void PutTextElementUnlessEmpty(pugi::xml_node parent, const char* name, std::string_view text) {
+  if (!text.empty()) PutTextElement(parent, name, text);
+}
+
+}  // namespace vantorium

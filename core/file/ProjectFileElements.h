@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/GalleryProject.h"
+#include "core/ImageList.h"
+#include "core/file/ProjectFileNames.h"
+#include "env/EventLoop.h"
+
+#include <string_view>
+
+#include <pugixml.hpp>
+
+namespace vantorium {
+
+// Building the tree of the project file. Each function appends, so the order of calls is the order in the file.
+
+void PutAttribute(pugi::xml_node element, const char* name, std::string_view value);
+void PutAttribute(pugi::xml_node element, const char* name, std::int64_t value);
+/// The word of `index`; no attribute for an index without a word.
+void PutAttribute(pugi::xml_node element, const char* name, FileWords words, std::int16_t index);
+
+/// A text as the CDATA of its element. A text that holds "]]>" takes more than one section.
+void PutText(pugi::xml_node element, std::string_view text);
+/// A child that holds nothing but the text.
+pugi::xml_node PutTextElement(pugi::xml_node parent, const char* name, std::string_view text);
+void PutTextElementUnlessEmpty(pugi::xml_node parent, const char* name, std::string_view text);
+
+// The children of GALLERY. The event loop gets a turn every 100 images and thumbnails.
+void PutLayout(pugi::xml_node gallery, const GalleryProject& project);
+void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, EventLoop& events);
+void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, EventLoop& events);
+void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project);
+void PutImagePage(pugi::xml_node gallery, const GalleryProject& project);
+
+/// The filters of MODIFY for one target.
+void PutImageFilters(pugi::xml_node modify, const GalleryProject& project);
+void PutThumbnailFilters(pugi::xml_node modify, const GalleryProject& project);
+
+}  // namespace vantorium

@@ -1,0 +1,63 @@
+#include "core/file/ProjectFileElements.h"
+
+namespace vantorium {
+namespace {
+
+pugi::xml_node PutFilter(pugi::xml_node modify, std::string_view type) {
+  pugi::xml_node filter = modify.append_child("FILTER");
+  PutAttribute(filter, "TYPE", type);
+  return filter;
+}
+
+void PutFilterWithValue(pugi::xml_node modify, std::string_view type, std::int16_t value) {
+  PutAttribute(PutFilter(modify, type), "VALUE", value);
+}
+
+/// The four filters; the watermark and the quality stand in another order for either target.
+void PutFilters(pugi::xml_node modify, const ImageFilterSettings& filters) {
+  if (filters.checkGrayscale == 1) PutFilter(modify, kGrayscaleWord);
+  if (filters.checkNoise == 1) {
+    pugi::xml_node noise = PutFilter(modify, kNoiseWord);
+    PutAttribute(noise, "RANDOM", filters.checkNoiseRandom);
+    PutAttribute(noise, "VALUE", filters.sliderNoise);
+  }
+  if (filters.checkBrightness == 1) PutFilterWithValue(modify, kBrightnessWord, filters.sliderBrightness);
+  if (filters.checkFade == 1) PutFilterWithValue(modify, kFadeWord, filters.sliderFade);
+}
+
+void PutWatermark(pugi::xml_node modify, const WatermarkSettings& watermark) {
+  pugi::xml_node filter = PutFilter(modify, kWatermarkWord);
+  PutAttribute(filter, "CAPTION", watermark.textWatermark);
+  PutAttribute(filter, "ALPHA", watermark.sliderAlpha);
+  PutAttribute(filter, "AUTOPOSITION", kAutoPositionWords, watermark.comboTextPlacement);
+  pugi::xml_node font = filter.append_child("FONT");
+  PutAttribute(font, "FACE", watermark.FontName);
+  PutAttribute(font, "HEIGHT", watermark.FontSize);
+  PutAttribute(font, "WEIGHT", watermark.FontWeight);
+  PutAttribute(font, "ITALIC", watermark.FontItalic ? 1 : 0);
+  PutAttribute(font, "UNDERLINE", watermark.FontUnderline ? 1 : 0);
+  PutAttribute(font, "STRIKEOUT", watermark.FontUnderline ? 1 : 0);  // the underline once more, as files have it
+  PutAttribute(font, "COLOR", ColorToHex(watermark.Color));
+}
+
+}  // namespace
+
+void PutImageFilters(pugi::xml_node modify, const GalleryProject& project) {
+  const bool watermark = project.ImageWatermark.checkUseWatermark == 1;
+  PutFilters(modify, project.ImageFilters);
+  if (watermark) PutWatermark(modify, project.ImageWatermark);
+  if (watermark || project.ImageFilters.AnyFilter()) {
+    PutFilterWithValue(modify, kQualityWord, project.ImageFilters.sliderQuality);
+  }
+}
+
+// The switch of the images' watermark decides about that of the thumbnails: files have it so.
+void PutThumbnailFilters(pugi::xml_node modify, const GalleryProject& project) {
+  PutFilters(modify, project.ThumbnailFilters);
+  if (project.ThumbnailFilters.AnyFilter()) {
+    PutFilterWithValue(modify, kQualityWord, project.ThumbnailFilters.sliderQuality);
+  }
+  if (project.ImageWatermark.checkUseWatermark == 1) PutWatermark(modify, project.ThumbnailWatermark);
+}
+
+}  // namespace vantorium

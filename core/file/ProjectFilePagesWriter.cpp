@@ -1,0 +1,87 @@
+#include "core/file/ProjectFileElements.h"
+#include "core/file/ProjectFileFields.h"
+#include "env/Numbers.h"
+
+namespace vantorium {
+namespace {
+
+void PutAttributeUnlessEmpty(pugi::xml_node element, const char* name, std::string_view value) {
+  if (!value.empty()) PutAttribute(element, name, value);
+}
+
+void PutColours(pugi::xml_node page, const GalleryProject& project, const PageColourFields& fields) {
+  if (project.*fields.use != 1) return;
+  for (const ColourField& field : fields.colours) {
+    PutAttribute(page, field.attribute, ColorToHex(project.*field.colour));
+  }
+}
+
+void PutTexts(pugi::xml_node page, const GalleryProject& project, std::span<const TextElement> texts) {
+  for (const TextElement& text : texts) PutTextElementUnlessEmpty(page, text.element, project.*text.text);
+}
+
+std::string LinkPath(const std::string& path) {
+  return path.empty() ? path : std::string(kFilePrefix) + path;
+}
+
+void PutLinks(pugi::xml_node links, const GalleryProject& project, Choice placement,
+              std::span<const LinkElement> elements) {
+  PutAttribute(links, "PLACE", kLinkPlaceWords, placement);
+  for (const LinkElement& element : elements) {
+    const LinkSettings& link = project.*element.link;
+    pugi::xml_node node = links.append_child(element.element);
+    PutAttribute(node, "CAPTION", link.textLinkLabel);
+    PutAttribute(node, "IMAGE", LinkPath(link.textLinkGraphic));
+    if (element.disabledAttribute != nullptr) {
+      PutAttribute(node, element.disabledAttribute, LinkPath(link.textLinkGraphicDisabled));
+    }
+  }
+}
+
+void PutArrangement(pugi::xml_node page, const GalleryProject& project) {
+  pugi::xml_node arrangement = page.append_child("ARRANGEMENT");
+  PutAttribute(arrangement, "ROWS", project.textThumbnailsTableRows);
+  PutAttribute(arrangement, "COLS", project.textThumbnailsTableColumns);
+  PutAttribute(arrangement, "ALIGN", kTableAlignmentWords, project.comboThumbnailsTableAlignment);
+  PutAttribute(arrangement, "BORDER", project.textThumbnailsTableBorder);
+  PutAttribute(arrangement, "CELLSPACING", project.textThumbnailsTableCellSpacing);
+  PutAttribute(arrangement, "CELLPADDING", project.textThumbnailsTableCellPadding);
+  PutAttributeUnlessEmpty(arrangement, "BACKGROUND", project.textThumbnailsTableBackdrop);
+  if (project.checkThumbnailsTableUseBGColor == 1) {
+    PutAttribute(arrangement, "BGCOLOR", ColorToHex(project.btnThumbnailsTableBGColor));
+  }
+}
+
+std::string_view DirectLinks(const GalleryProject& project) {
+  const std::string& most = project.textPageLinksThumbnailMaxDirectLinks;
+  return ParseNumber(most) == 0.0 ? kUnlimitedLinksWord : std::string_view(most);
+}
+
+}  // namespace
+
+void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project) {
+  pugi::xml_node page = gallery.append_child("THUMBNAILPAGE");
+  PutAttribute(page, "PREFIX", project.textThumbnailPageSettingsFilePrefix);
+  PutAttribute(page, "EXTENSION", project.comboThumbnailPageSettingsFileExtension);
+  PutColours(page, project, kThumbnailPageColours);
+  PutAttributeUnlessEmpty(page, "BACKGROUND", project.textThumbnailsPageBackdrop);
+  PutTexts(page, project, kThumbnailPageTexts);
+  PutArrangement(page, project);
+  PutTexts(page, project, kThumbnailFrameTexts);
+  pugi::xml_node links = page.append_child("PAGELINKS");
+  if (project.checkPageLinksThumbnailDirectLinks == 1) PutAttribute(links, "DIRECT", DirectLinks(project));
+  PutLinks(links, project, project.comboPageLinksThumbnailLinkPlacement, kThumbnailPageLinks);
+}
+
+void PutImagePage(pugi::xml_node gallery, const GalleryProject& project) {
+  pugi::xml_node page = gallery.append_child("IMAGEPAGE");
+  PutAttribute(page, "PREFIX", "");
+  PutAttribute(page, "EXTENSION", project.comboImageWrapperSettingsFileExtension);
+  PutColours(page, project, kImagePageColours);
+  PutAttributeUnlessEmpty(page, "BACKGROUND", project.textImageWrapperBackdrop);
+  PutAttribute(page, "USE", project.checkImageWrapperUse);
+  PutTexts(page, project, kImagePageTexts);
+  PutLinks(page.append_child("PAGELINKS"), project, project.comboPageLinksImageLinkPlacement, kImagePageLinks);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,92 @@
+#include "core/file/ProjectFileReader.h"
+
+#include "core/file/ProjectFileReaderSections.h"
+#include "core/file/ProjectFileReaderValues.h"
+#include "core/file/XmlSyntax.h"
+#include "env/FileInput.h"
+#include "env/RuntimeFailure.h"
+
+#include <new>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace vantorium {
+namespace {
+
+constexpr char kProgramTitle[] = "Vantorium";
+
+/// False for a file that can't be read, or is no XML document.
+bool Load(XmlFile& file, const PathMap& paths, const std::string& path, EventLoop& events) {
+  const auto native = paths.ToNative(path);
+  if (!native) return false;
+  try {
+    std::string bytes = ReadFileWhole(*native, kLargestXmlFile);
+    events.Turn();
+    return file.Parse(std::move(bytes));
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool ProjectFileReader::ReadProjectFile(const std::string& path) {
+  status_.SetStatusText(fmt::format("Reading Project File \"{}\"...", path));
+  status_.ShowWaitPointer();
+  events_.Turn();
+  ResetToDefaults(project_.settings, project_.UntitledName());
+  bool modified = false;  // the edits of a reading are none of the user's
+  ProjectEditor editor(project_.settings, modified);
+  ReadResult result = ReadResult::Complete;
+  try {
+    result = ReadInto(editor, path);
+  } catch (const RuntimeFailure& failure) {
+    // The status text and the pointer stay, as the program's users know it.
+    boxes_.Show(BoxKind::Plain, BoxButtons::Ok, kProgramTitle, failure.Description());
+    return false;
+  } catch (const std::bad_alloc&) {
+    boxes_.Show(BoxKind::Plain, BoxButtons::Ok, kProgramTitle, "Out of memory");
+    return false;
+  }
+  if (const std::string reason = ReasonOf(result); !reason.empty()) ReportInvalidProjectFile(path, reason);
+  status_.SetStatusText("");
+  status_.ResetPointer();
+  return result == ReadResult::Complete;
+}
+
+void ProjectFileReader::ReportInvalidProjectFile(const std::string& path, const std::string& reason) {
+  boxes_.Critical("Invalid Project File",
+                  fmt::format("\"{}\" could not be loaded in whole because it is not a valid Vantorium 3.0 Project "
+                              "File.\r\rReason: {}",
+                              path, reason));
+}
+
+ReadResult ProjectFileReader::ReadInto(ProjectEditor& editor, const std::string& path) {
+  XmlFile file;
+  if (!Load(file, paths_, path, events_) || std::string_view(file.Root().name()) != "GALLERYPROJECT") {
+    return ReadResult::NoProject;
+  }
+  events_.Turn();
+  const pugi::xml_node gallery = file.Root().child("GALLERY");
+  return gallery ? ReadGallery(gallery, editor) : ReadResult::NoGallery;
+}
+
+ReadResult ProjectFileReader::ReadGallery(pugi::xml_node gallery, ProjectEditor& editor) {
+  ReadText(editor, gallery, "TITLE", &GalleryProject::textGalleryTitle);
+  editor.Set(&GalleryProject::GalleryInfoText, MultilineText(gallery.child("INFO")));
+  ReadResult result = ReadLayout(gallery, editor);
+  if (result != ReadResult::Complete) return result;
+  editor.Set(&GalleryProject::GalleryHeadCode, MultilineText(gallery.child("HEAD")));
+
+  if (const pugi::xml_node images = gallery.child("IMAGES")) result = ReadImages(images, editor, images_, events_);
+  if (result != ReadResult::Complete) return result;
+  if (const pugi::xml_node thumbnails = gallery.child("THUMBNAILS")) {
+    result = ReadThumbnails(thumbnails, editor, project_.images, events_);
+  }
+  if (result != ReadResult::Complete) return result;
+  result = ReadThumbnailPage(gallery.child("THUMBNAILPAGE"), editor);
+  return result == ReadResult::Complete ? ReadImagePage(gallery.child("IMAGEPAGE"), editor) : result;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "core/ImageListOperations.h"
+#include "core/Project.h"
+#include "core/file/ProjectFileStatus.h"
+#include "core/file/ProjectReadResult.h"
+#include "env/EventLoop.h"
+#include "env/MessageBoxPort.h"
+#include "env/PathMap.h"
+
+#include <string>
+
+namespace pugi {
+class xml_node;
+}
+
+namespace vantorium {
+
+class ProjectEditor;
+
+/// Reads a project file into the one project. The event loop gets its turns meanwhile, so that what is shown of the
+/// reading is drawn.
+class ProjectFileReader {
+ public:
+  ProjectFileReader(Project& project, ImageListOperations& images, const PathMap& paths, MessageBoxPort& boxes,
+                    ProjectFileStatus& status, EventLoop& events)
+      : project_(project), images_(images), paths_(paths), boxes_(boxes), status_(status), events_(events) {}
+
+  /// Sets the settings to those of a new project and then to those of the file at `path` (path text), through the rules
+  /// of an edit, and adds the file's images to the list, which the caller has cleared. False after a box that says why;
+  /// the project then holds what was read so far. The project's states (its name, IsModified and so on) stay as they
+  /// are.
+  [[nodiscard]] bool ReadProjectFile(const std::string& path);
+
+  /// Says that the file at `path` is no project file, and why.
+  void ReportInvalidProjectFile(const std::string& path, const std::string& reason);
+
+ private:
+  [[nodiscard]] ReadResult ReadInto(ProjectEditor& editor, const std::string& path);
+  [[nodiscard]] ReadResult ReadGallery(pugi::xml_node gallery, ProjectEditor& editor);
+
+  Project& project_;
+  ImageListOperations& images_;
+  const PathMap& paths_;
+  MessageBoxPort& boxes_;
+  ProjectFileStatus& status_;
+  EventLoop& events_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,92 @@
+#include "core/file/ProjectFileReaderSections.h"
+#include "core/file/ProjectFileReaderValues.h"
+#include "env/Numbers.h"
+#include "env/Text.h"
+
+namespace vantorium {
+namespace {
+
+/// A record of the settings while its fields are read. It goes back to the settings at the end, also at that of a
+/// reading that fails half way.
+template <typename Record>
+class RecordEdit {
+ public:
+  RecordEdit(ProjectEditor& editor, Record GalleryProject::*field)
+      : value(editor.Project().*field), editor_(editor), field_(field) {}
+  ~RecordEdit() { editor_.Set(field_, std::move(value)); }
+  RecordEdit(const RecordEdit&) = delete;
+  RecordEdit& operator=(const RecordEdit&) = delete;
+
+  Record value;
+
+ private:
+  ProjectEditor& editor_;
+  Record GalleryProject::*field_;
+};
+
+void ReadNumberInto(std::int16_t& number, pugi::xml_node element, const char* attribute) {
+  if (const auto value = AttributeOf(element, attribute)) number = ParseInt16(*value);
+}
+
+void ReadTextInto(std::string& text, pugi::xml_node element, const char* attribute) {
+  if (const auto value = AttributeOf(element, attribute)) text = *value;
+}
+
+void ReadBooleanInto(bool& flag, pugi::xml_node element, const char* attribute) {
+  if (const auto value = AttributeOf(element, attribute)) flag = ParseInt16(*value) != 0;
+}
+
+void ReadFont(WatermarkSettings& watermark, pugi::xml_node font) {
+  ReadTextInto(watermark.FontName, font, "FACE");
+  ReadNumberInto(watermark.FontSize, font, "HEIGHT");
+  ReadNumberInto(watermark.FontWeight, font, "WEIGHT");
+  ReadBooleanInto(watermark.FontItalic, font, "ITALIC");
+  ReadBooleanInto(watermark.FontUnderline, font, "UNDERLINE");
+  ReadBooleanInto(watermark.FontStrikeout, font, "STRIKEOUT");
+  if (const auto colour = AttributeOf(font, "COLOR")) watermark.Color = HexToColor(std::string(*colour));
+}
+
+void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
+  watermark.checkUseWatermark = 1;
+  ReadTextInto(watermark.textWatermark, filter, "CAPTION");
+  ReadNumberInto(watermark.sliderAlpha, filter, "ALPHA");
+  const auto place = IndexOfWord(kAutoPositionWords, AttributeOf(filter, "AUTOPOSITION").value_or(""));
+  if (place) watermark.comboTextPlacement = *place;
+  if (const pugi::xml_node font = filter.child("FONT")) ReadFont(watermark, font);
+}
+
+void ReadFilter(ImageFilterSettings& filters, pugi::xml_node filter, std::string_view type) {
+  if (EqualsIgnoringCase(type, kGrayscaleWord)) {
+    filters.checkGrayscale = 1;
+  } else if (EqualsIgnoringCase(type, kNoiseWord)) {
+    filters.checkNoise = 1;
+    ReadNumberInto(filters.checkNoiseRandom, filter, "RANDOM");
+    ReadNumberInto(filters.sliderNoise, filter, "VALUE");
+  } else if (EqualsIgnoringCase(type, kBrightnessWord)) {
+    filters.checkBrightness = 1;
+    ReadNumberInto(filters.sliderBrightness, filter, "VALUE");
+  } else if (EqualsIgnoringCase(type, kFadeWord)) {
+    filters.checkFade = 1;
+    ReadNumberInto(filters.sliderFade, filter, "VALUE");
+  } else if (EqualsIgnoringCase(type, kQualityWord)) {
+    ReadNumberInto(filters.sliderQuality, filter, "VALUE");
+  }
+}
+
+}  // namespace
+
+void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettings GalleryProject::*filters,
+                 WatermarkSettings GalleryProject::*watermark) {
+  RecordEdit filterEdit(editor, filters);
+  RecordEdit watermarkEdit(editor, watermark);
+  for (auto node = NextElement(modify, modify, "FILTER"); node; node = NextElement(node, modify, "FILTER")) {
+    const std::string_view type = AttributeOf(node, "TYPE").value_or("");
+    if (EqualsIgnoringCase(type, kWatermarkWord)) {
+      ReadWatermark(watermarkEdit.value, node);
+    } else {
+      ReadFilter(filterEdit.value, node, type);
+    }
+  }
+}
+
+}  // namespace vantorium

@@ -1,0 +1,113 @@
+#include "core/RegularTurns.h"
+#include "core/file/ProjectFileReaderSections.h"
+#include "core/file/ProjectFileReaderValues.h"
+#include "env/Numbers.h"
+#include "env/Text.h"
+
+namespace vantorium {
+namespace {
+
+// Positions are wide, so that a list longer than 16 bits count comes back as it was.
+[[nodiscard]] bool AddImageElement(pugi::xml_node image, ImageListOperations& list) {
+  const auto index = ParseInt32(AttributeOf(image, "INDEX").value_or(""));
+  return list.AddImage(static_cast<std::size_t>(index), TextOrEmpty(image, "SOURCE"), TextOrEmpty(image, "NAME"), true,
+                       MultilineText(image.child("DESCRIPTION")), "");
+}
+
+[[nodiscard]] bool DescribeThumbnail(pugi::xml_node thumbnail, ImageList& list) {
+  const auto index = AttributeOf(thumbnail, "INDEX");
+  if (!index) return true;
+  const std::int64_t position = ParseInt32(*index);
+  if (position < 1 || position > static_cast<std::int64_t>(list.Count())) return false;
+  list.SetThumbnailDescription(static_cast<std::size_t>(position), MultilineText(thumbnail.child("DESCRIPTION")));
+  return true;
+}
+
+void ReadCaption(pugi::xml_node caption, ProjectEditor& editor, const CaptionFields& fields) {
+  const std::string_view type = AttributeOf(caption, "TYPE").value_or("");
+  if (EqualsIgnoringCase(type, kPopupCaptionWord)) {
+    editor.Set(fields.popup, Flag{1});
+    editor.Set(fields.popupText, MultilineText(caption));
+  } else if (EqualsIgnoringCase(type, kRegularCaptionWord)) {
+    editor.Set(fields.regular, Flag{1});
+    editor.Set(fields.regularText, MultilineText(caption));
+    ReadWord(editor, caption, "PLACE", kReadCaptionPlaceWords, fields.placement);
+    ReadAlignment(editor, caption, fields.alignment);
+  }
+}
+
+void ReadCaptions(pugi::xml_node parent, ProjectEditor& editor, const CaptionFields& fields) {
+  editor.Set(fields.regularText, "");
+  editor.Set(fields.popupText, "");
+  for (auto node = NextElement(parent, parent, "CAPTION"); node; node = NextElement(node, parent, "CAPTION")) {
+    ReadCaption(node, editor, fields);
+  }
+}
+
+/// An absent header empties that of `whenAbsent`.
+void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const DescriptionFrameFields& fields,
+                          const DescriptionFrameFields& whenAbsent) {
+  if (const pugi::xml_node header = parent.child("DESCRIPTIONHEADER")) {
+    editor.Set(fields.header, MultilineText(header));
+    ReadWord(editor, header, "PLACE", kDescriptionPlaceWords, fields.placement);
+    ReadAlignment(editor, header, fields.alignment);
+  } else {
+    editor.Set(whenAbsent.header, "");
+    editor.Set(whenAbsent.placement, Choice{0});
+  }
+  editor.Set(fields.footer, MultilineText(parent.child("DESCRIPTIONFOOTER")));
+}
+
+void ReadSize(pugi::xml_node size, ProjectEditor& editor, const SizeFields& fields) {
+  ReadNumber(editor, size, "KEEPASPECTRATIO", fields.keepAspectRatio);
+  ReadText(editor, size, "WIDTH", fields.width);
+  editor.Set(fields.setWidth, Flag{AttributeOf(size, "WIDTH").has_value()});
+  ReadText(editor, size, "HEIGHT", fields.height);
+}
+
+void ReadImageModifications(pugi::xml_node modify, ProjectEditor& editor) {
+  const pugi::xml_node size = modify.child("SIZE");
+  editor.Set(&GalleryProject::checkImageWrapperImageKeepSize, Flag{!size});
+  if (size) {
+    ReadSize(size, editor, kImageSize);
+    ReadNumber(editor, size, "PHYSICALRESIZE", &GalleryProject::checkImageWrapperImagePhysicalResize);
+  }
+  ReadFilters(modify, editor, &GalleryProject::ImageFilters, &GalleryProject::ImageWatermark);
+}
+
+void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
+  if (const pugi::xml_node size = modify.child("SIZE")) ReadSize(size, editor, kThumbnailSize);
+  ReadFilters(modify, editor, &GalleryProject::ThumbnailFilters, &GalleryProject::ThumbnailWatermark);
+}
+
+}  // namespace
+
+ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
+  ReadTextOr(editor, images, "FOLDER", &GalleryProject::textImageSettingsSubFolder, "Images");
+  RegularTurns turns(events);
+  for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
+    if (!AddImageElement(node, list)) return ReadResult::ImageRefused;
+    turns.Step();
+  }
+  ReadCaptions(images, editor, kImageCaptions);
+  ReadDescriptionFrame(images, editor, kImageDescriptionFrame, kImageDescriptionFrame);
+  if (const pugi::xml_node modify = images.child("MODIFY")) ReadImageModifications(modify, editor);
+  return ReadResult::Complete;
+}
+
+ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list, EventLoop& events) {
+  ReadTextOr(editor, thumbnails, "FOLDER", &GalleryProject::textThumbnailImageSettingsSubFolder, "1");
+  RegularTurns turns(events);
+  for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
+       node = NextElement(node, thumbnails, "THUMBNAIL")) {
+    if (!DescribeThumbnail(node, list)) return ReadResult::InvalidThumbnailIndex;
+    turns.Step();
+  }
+  ReadCaptions(thumbnails, editor, kThumbnailCaptions);
+  // An absent header clears that of the images: existing files read so.
+  ReadDescriptionFrame(thumbnails, editor, kThumbnailDescriptionFrame, kImageDescriptionFrame);
+  if (const pugi::xml_node modify = thumbnails.child("MODIFY")) ReadThumbnailModifications(modify, editor);
+  return ReadResult::Complete;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,63 @@
+#include "core/file/ProjectFileReaderSections.h"
+#include "core/file/ProjectFileReaderValues.h"
+#include "env/Text.h"
+
+namespace vantorium {
+namespace {
+
+/// Seconds; none are 0.
+void ReadDelay(ProjectEditor& editor, pugi::xml_node show, const char* attribute, TextField field) {
+  editor.Set(field, WholeNumber(AttributeOf(show, attribute).value_or("0")));
+}
+
+void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
+  editor.Set(&GalleryProject::checkGallerySlideShow, Flag{1});
+  ReadWord(editor, show, "FIRSTSLIDE", kFirstSlideWords, &GalleryProject::comboGallerySlideShowBeginWith);
+  ReadWord(editor, show, "NEXTSLIDE", kNextSlideWords, &GalleryProject::comboGallerySlideShowActionAfterImage);
+  ReadWord(editor, show, "STARTOVER", kStartOverWords, &GalleryProject::comboGallerySlideShowStartOverWith);
+  editor.Set(&GalleryProject::checkGallerySlideShowAutoStart,
+             Flag{IsNumberOne(AttributeOf(show, "AUTOSTART").value_or(""))});
+  ReadDelay(editor, show, "AUTOSTARTDELAY", &GalleryProject::textGallerySlideShowAutoStartDelay);
+  ReadDelay(editor, show, "DELAY", &GalleryProject::textGallerySlideShowDelay);
+}
+
+/// Absent names get one in a single frame only: in the other layouts the names of a new project stay.
+void ReadFrameNames(pugi::xml_node layout, ProjectEditor& editor, bool singleFrame) {
+  ReadText(editor, layout, "IMAGEFRAMENAME", &GalleryProject::comboImageFrameName);
+  if (singleFrame && !AttributeOf(layout, "IMAGEFRAMENAME")) {
+    editor.Set(&GalleryProject::comboImageFrameName, "_self");
+  }
+  ReadText(editor, layout, "THUMBFRAMENAME", &GalleryProject::textThumbnailFrameName);
+  if (singleFrame && !AttributeOf(layout, "THUMBFRAMENAME")) {
+    const bool taken = editor.Project().comboImageFrameName == "thumb_frame";
+    editor.Set(&GalleryProject::textThumbnailFrameName, taken ? "thumb_frame_2" : "thumb_frame");
+  }
+}
+
+void ReadFrameSize(pugi::xml_node layout, ProjectEditor& editor) {
+  const auto value = AttributeOf(layout, "FRAMESIZE");
+  if (!value) return;
+  std::string size(*value);
+  const bool percent = size.ends_with('%');
+  if (percent) size.pop_back();
+  editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, Flag{percent});
+  editor.Set(&GalleryProject::textGalleryFrameSize, std::move(size));
+}
+
+}  // namespace
+
+ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor) {
+  const pugi::xml_node layout = gallery.child("LAYOUT");
+  const auto type = AttributeOf(layout, "TYPE");
+  if (!type) return ReadResult::NoLayout;
+  ReadWord(editor, layout, "TYPE", kLayoutTypeWords, &GalleryProject::comboGalleryLayoutType);
+  const bool singleFrame = EqualsIgnoringCase(*type, kLayoutTypeWords[0]);
+  if (const pugi::xml_node show = layout.child("SLIDESHOW"); singleFrame && show) ReadSlideShow(show, editor);
+  ReadFrameNames(layout, editor, singleFrame);
+  ReadFrameSize(layout, editor);
+  ReadSwitch(editor, layout, "RESIZABLE", &GalleryProject::checkGalleryFramesResizable);
+  ReadSwitch(editor, layout, "BORDERS", &GalleryProject::checkGalleryFramesDisplayBorders);
+  return ReadResult::Complete;
+}
+
+}  // namespace vantorium

@@ -1,0 +1,76 @@
+#include "core/file/ProjectFileReaderSections.h"
+#include "core/file/ProjectFileReaderValues.h"
+#include "env/Text.h"
+
+namespace vantorium {
+namespace {
+
+/// Whether a list of words between commas holds `word`. One word alone is no list.
+bool ListHolds(const std::string& list, const std::string& word) {
+  return list.ends_with(',' + word) || list.starts_with(word + ',') || list.find(',' + word + ',') != std::string::npos;
+}
+
+void ReadPlace(pugi::xml_node links, ProjectEditor& editor, NumberField field) {
+  const auto value = AttributeOf(links, "PLACE");
+  const std::string place = AsciiUpper(value.value_or(""));
+  const bool top = place == "TOP" || ListHolds(place, "TOP");
+  const bool bottom = place == "BOTTOM" || ListHolds(place, "BOTTOM");
+  if (value && !top && !bottom) return;
+  editor.Set(field, static_cast<Choice>((top ? 1 : 0) + (bottom ? 2 : 0)));
+}
+
+void ReadDirectLinks(pugi::xml_node links, ProjectEditor& editor) {
+  const auto direct = AttributeOf(links, "DIRECT");
+  editor.Set(&GalleryProject::checkPageLinksThumbnailDirectLinks, Flag{direct.has_value()});
+  if (!direct) return;
+  const bool unlimited = EqualsIgnoringCase(*direct, kUnlimitedLinksWord);
+  editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, unlimited ? "0" : WholeNumber(*direct));
+}
+
+std::string LinkPath(pugi::xml_node link, const char* attribute) {
+  return std::string(WithoutFilePrefix(AttributeOf(link, attribute).value_or("")));
+}
+
+/// An absent element or attribute gives an empty text.
+void ReadLink(pugi::xml_node links, ProjectEditor& editor, const LinkElement& element) {
+  const pugi::xml_node node = links.child(element.element);
+  LinkSettings link;
+  link.textLinkLabel = TextOrEmpty(node, "CAPTION");
+  link.textLinkGraphic = LinkPath(node, "IMAGE");
+  if (element.disabledAttribute != nullptr) link.textLinkGraphicDisabled = LinkPath(node, element.disabledAttribute);
+  editor.Set(element.link, std::move(link));
+}
+
+bool IsNext(const LinkElement& element) {
+  return std::string_view(element.element) == "NEXT";
+}
+
+}  // namespace
+
+// The two answers to an absent NEXT are odd, and existing files rely on them.
+
+void ReadThumbnailPageLinks(pugi::xml_node links, ProjectEditor& editor) {
+  ReadDirectLinks(links, editor);
+  ReadPlace(links, editor, &GalleryProject::comboPageLinksThumbnailLinkPlacement);
+  for (const LinkElement& element : kThumbnailPageLinks) {
+    if (IsNext(element) && !links.child("NEXT")) {
+      editor.Set(&GalleryProject::ThumbnailNextLink,
+                 LinkSettings{editor.Project().ThumbnailNextLink.textLinkLabel, "", ""});
+    } else {
+      ReadLink(links, editor, element);
+    }
+  }
+}
+
+void ReadImagePageLinks(pugi::xml_node links, ProjectEditor& editor) {
+  ReadPlace(links, editor, &GalleryProject::comboPageLinksImageLinkPlacement);
+  for (const LinkElement& element : kImagePageLinks) {
+    if (IsNext(element) && !links.child("NEXT")) {
+      editor.Set(&GalleryProject::ImageFirstLink, LinkSettings{});
+    } else {
+      ReadLink(links, editor, element);
+    }
+  }
+}
+
+}  // namespace vantorium

@@ -1,0 +1,56 @@
+#include "core/file/ProjectFileReaderSections.h"
+#include "core/file/ProjectFileReaderValues.h"
+
+namespace vantorium {
+namespace {
+
+void ReadColours(pugi::xml_node page, ProjectEditor& editor, const PageColourFields& fields) {
+  for (const ColourField& field : fields.colours) ReadColour(editor, page, field.attribute, field.colour, fields.use);
+}
+
+void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
+  ReadDigits(editor, arrangement, "ROWS", &GalleryProject::textThumbnailsTableRows);
+  ReadDigits(editor, arrangement, "COLS", &GalleryProject::textThumbnailsTableColumns);
+  ReadDigits(editor, arrangement, "BORDER", &GalleryProject::textThumbnailsTableBorder);
+  ReadDigits(editor, arrangement, "CELLSPACING", &GalleryProject::textThumbnailsTableCellSpacing);
+  ReadDigits(editor, arrangement, "CELLPADDING", &GalleryProject::textThumbnailsTableCellPadding);
+  ReadWord(editor, arrangement, "ALIGN", kTableAlignmentWords, &GalleryProject::comboThumbnailsTableAlignment);
+  // The writer's name for it is BACKGROUND: a written backdrop is not read back, as ever.
+  ReadText(editor, arrangement, "BACKDROP", &GalleryProject::textThumbnailsTableBackdrop);
+  ReadColour(editor, arrangement, "BGCOLOR", &GalleryProject::btnThumbnailsTableBGColor,
+             &GalleryProject::checkThumbnailsTableUseBGColor);
+}
+
+}  // namespace
+
+ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor) {
+  if (!page) return ReadResult::NoThumbnailPage;
+  ReadText(editor, page, "PREFIX", &GalleryProject::textThumbnailPageSettingsFilePrefix);
+  ReadText(editor, page, "EXTENSION", &GalleryProject::comboThumbnailPageSettingsFileExtension);
+  ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textThumbnailsPageBackdrop, "");
+  ReadColours(page, editor, kThumbnailPageColours);
+  ReadChildTexts(editor, page, kThumbnailPageTexts);
+  const pugi::xml_node arrangement = page.child("ARRANGEMENT");
+  if (!arrangement) return ReadResult::NoArrangement;
+  ReadArrangement(arrangement, editor);
+  ReadChildTexts(editor, page, kThumbnailFrameTexts);
+  const pugi::xml_node links = page.child("PAGELINKS");
+  if (!links) return ReadResult::NoPageLinks;
+  ReadThumbnailPageLinks(links, editor);
+  return ReadResult::Complete;
+}
+
+ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor) {
+  editor.Set(&GalleryProject::checkImageWrapperUse, Flag{!page.empty()});
+  if (!page) return ReadResult::Complete;
+  ReadText(editor, page, "EXTENSION", &GalleryProject::comboImageWrapperSettingsFileExtension);
+  ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textImageWrapperBackdrop, "");
+  ReadColours(page, editor, kImagePageColours);
+  ReadChildTexts(editor, page, kImagePageTexts);
+  const pugi::xml_node links = page.child("PAGELINKS");
+  if (!links) return ReadResult::NoPageLinks;
+  ReadImagePageLinks(links, editor);
+  return ReadResult::Complete;
+}
+
+}  // namespace vantorium

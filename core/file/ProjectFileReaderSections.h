@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/ImageListOperations.h"
+#include "core/Project.h"
+#include "core/ProjectEditor.h"
+#include "core/file/ProjectReadResult.h"
+#include "env/EventLoop.h"
+
+#include <pugixml.hpp>
+
+namespace vantorium {
+
+// The sections of the project file, each read into the settings and the images. A reading that fails keeps what it has
+// read so far. A value that can't be converted is a RuntimeFailure.
+
+/// LAYOUT below `gallery`, with the slide show.
+[[nodiscard]] ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor);
+
+/// IMAGES: the images, their captions, the frame of their descriptions, their size and filters. The event loop gets a
+/// turn every 100 images.
+[[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list,
+                                    EventLoop& events);
+
+/// THUMBNAILS: the descriptions of the thumbnails, and the rest as for the images. The event loop gets a turn every 100
+/// thumbnails.
+[[nodiscard]] ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list,
+                                        EventLoop& events);
+
+/// The FILTER elements of a MODIFY, and the watermark among them.
+void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettings GalleryProject::*filters,
+                 WatermarkSettings GalleryProject::*watermark);
+
+/// THUMBNAILPAGE and IMAGEPAGE with their links.
+[[nodiscard]] ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor);
+[[nodiscard]] ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor);
+
+/// The links below a PAGELINKS, and where they stand.
+void ReadThumbnailPageLinks(pugi::xml_node links, ProjectEditor& editor);
+void ReadImagePageLinks(pugi::xml_node links, ProjectEditor& editor);
+
+}  // namespace vantorium

@@ -1,0 +1,75 @@
+#include "core/file/ProjectFileReaderValues.h"
+
+#include "env/Numbers.h"
+#include "env/RuntimeFailure.h"
+#include "env/Text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace vantorium {
+
+// Parsing has folded every line end to LF.
+std::string MultilineText(pugi::xml_node element) {
+  return ReplaceAll(TextOf(element), "\n", kCrLf);
+}
+
+std::string TextOrEmpty(pugi::xml_node element, const char* attribute) {
+  return std::string(AttributeOf(element, attribute).value_or(""));
+}
+
+void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, std::string(*value));
+}
+
+void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
+                const char* absent) {
+  editor.Set(field, std::string(AttributeOf(element, attribute).value_or(absent)));
+}
+
+std::string WholeNumber(std::string_view text) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const auto number = ParseNumber(text);
+  if (!number) throw RuntimeFailure(FailureKind::TypeMismatch);
+  return std::to_string(ToInt32(std::clamp<double>(*number, Limits::min(), Limits::max())));
+}
+
+void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, WholeNumber(*value));
+}
+
+void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, ParseInt16(*value));
+}
+
+void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, Flag{IsNumberOne(*value)});
+}
+
+void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words,
+              NumberField field) {
+  if (const auto index = IndexOfWord(words, AttributeOf(element, attribute).value_or(""))) editor.Set(field, *index);
+}
+
+void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field) {
+  ReadWord(editor, element, "ALIGN", kAlignmentBesideWords, field);
+  ReadWord(editor, element, "ALIGN", kAlignmentStackedWords, field);
+}
+
+void ReadColour(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Colour GalleryProject::*field,
+                NumberField use) {
+  const auto value = AttributeOf(element, attribute);
+  if (!value) return;
+  editor.Set(field, HexToColor(std::string(*value)));
+  editor.Set(use, Flag{1});
+}
+
+void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts) {
+  for (const TextElement& text : texts) editor.Set(text.text, MultilineText(parent.child(text.element)));
+}
+
+bool IsNumberOne(std::string_view text) {
+  return ParseNumber(text) == 1.0;
+}
+
+}  // namespace vantorium

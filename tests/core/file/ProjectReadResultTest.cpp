@@ -1,0 +1,13 @@
+#include "core/file/ProjectReadResult.h"
+
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+using namespace vantorium;
+
+TEST(ProjectReadResult, OnlyAnInvalidFileHasAReason) {
+  EXPECT_EQ(std::string_view(ReasonOf(ReadResult::Complete)), "");
+  EXPECT_EQ(std::string_view(ReasonOf(ReadResult::ImageRefused)), "");
+  EXPECT_EQ(std::string_view(ReasonOf(ReadResult::NoArrangement)), "ARRANGEMENT?");
+}

@@ -1,0 +1,167 @@
+#include "tests/fakes/ScriptedCommonDialogs.h"
+#include "tests/ui/FormDriver.h"
+#include "ui/dialogs/frmSelectColors.h"
+#include "ui/qt/QtColour.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+
+/// A button and what shows its colour.
+struct Pair {
+  const char* button;
+  const char* element;
+  Colour PageColours::*colour;
+};
+
+constexpr Pair kPairs[] = {{"btnBGColor", "textBG", &PageColours::background},
+                           {"btnFGColor", "lblText", &PageColours::text},
+                           {"btnLinkColor", "lblLink", &PageColours::link},
+                           {"btnVisitedLinkColor", "lblVisitedLink", &PageColours::visitedLink},
+                           {"btnActiveLinkColor", "lblActiveLink", &PageColours::activeLink}};
+
+class SelectColorsForm : public testing::Test {
+ protected:
+  bool Edit(const std::function<void(QWidget&)>& drive, const char* title = "Select Thumbnail Page Colors") {
+    bool answer = false;
+    DriveModal([&] { answer = SelectColors(title, colours, others, dialog, nullptr); }, drive);
+    return answer;
+  }
+
+  /// What the buttons show; and that the page shows the same.
+  static PageColours Shown(QWidget& form) {
+    PageColours shown;
+    for (const Pair& pair : kPairs) {
+      shown.*pair.colour = Find<ColourButton>(form, pair.button).GetColour();
+      const QPalette palette = Find<QWidget>(form, pair.element).palette();
+      EXPECT_EQ(FromQt(palette.color(QPalette::Window)), Find<ColourButton>(form, "btnBGColor").GetColour());
+      if (pair.colour == &PageColours::background) continue;
+      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), shown.*pair.colour) << pair.element;
+    }
+    return shown;
+  }
+
+  fakes::ScriptedCommonDialogs dialogs;
+  ColourDialog dialog{dialogs};
+  PageColours colours = {0xFFFFFF, 0x000000, 0xA00000, 0x800080, 0x0000FF};
+  const PageColours others = {0x111111, 0x222222, 0x333333, 0x444444, 0x555555};
+};
+
+TEST_F(SelectColorsForm, ShowsItsColoursWithTheFocusOnApply) {
+  Edit([this](QWidget& form) {
+    EXPECT_EQ(form.windowTitle(), "Select Thumbnail Page Colors");
+    EXPECT_EQ(Shown(form), colours);
+    EXPECT_TRUE(Find<QPushButton>(form, "OKButton").hasFocus());
+    EXPECT_EQ(Find<QLabel>(form, "lblText").text(), "Regular Text");
+    EXPECT_EQ(Find<QLabel>(form, "lblLink").text(), "Regular Link");
+    EXPECT_EQ(Find<QLabel>(form, "lblVisitedLink").text(), "Visited Link");
+    EXPECT_EQ(Find<QLabel>(form, "lblActiveLink").text(), "Active Link");
+    EXPECT_EQ(Find<QWidget>(form, "btnBGColor").toolTip(), "Page Background Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnFGColor").toolTip(), "Page Foreground Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnLinkColor").toolTip(), "Page Link Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnVisitedLinkColor").toolTip(), "Page Visited Link Color");
+    EXPECT_EQ(Find<QWidget>(form, "btnActiveLinkColor").toolTip(), "Page Active Link Color");
+    EXPECT_EQ(Find<QPushButton>(form, "OKButton").text(), "&Apply");
+    EXPECT_EQ(Find<QPushButton>(form, "CancelButton").text(), "&Cancel");
+  });
+}
+
+TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColour) {
+  for (const Pair& pair : kPairs) {
+    for (const char* control : {pair.button, pair.element}) {
+      const PageColours before = colours;
+      dialogs.colours = {0x123456};
+      EXPECT_TRUE(Edit([&](QWidget& form) {
+        if (control == pair.element && pair.colour == &PageColours::background) {
+          QTest::mouseClick(&Find<QWidget>(form, control), Qt::LeftButton, {}, QPoint(4, 4));  // beside the labels
+        } else {
+          Click(form, control);
+        }
+        PageColours expected = before;
+        expected.*pair.colour = 0x123456;
+        EXPECT_EQ(Shown(form), expected) << control;
+        Click(form, "OKButton");
+      }));
+      EXPECT_EQ(dialogs.coloursShown.back(), before.*pair.colour) << control;
+      EXPECT_EQ(colours.*pair.colour, 0x123456U) << control;
+      colours = before;
+    }
+  }
+}
+
+TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColours) {
+  dialogs.colours = {0x123456};
+  Edit([this](QWidget& form) {
+    Click(form, "btnBGColor");
+    for (const Pair& pair : kPairs) {
+      const QPalette palette = Find<QWidget>(form, pair.element).palette();
+      EXPECT_EQ(FromQt(palette.color(QPalette::Window)), 0x123456U) << pair.element;
+      if (pair.colour == &PageColours::background) continue;
+      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), colours.*pair.colour) << pair.element;
+    }
+  });
+}
+
+TEST_F(SelectColorsForm, AClickOnALabelIsNotOneOnThePage) {
+  dialogs.colours = {std::nullopt};
+  Edit([](QWidget& form) { Click(form, "lblLink"); });
+  EXPECT_EQ(dialogs.coloursShown.size(), 1U);
+}
+
+TEST_F(SelectColorsForm, APressThatIsLetGoElsewhereOpensNothing) {
+  Edit([](QWidget& form) {
+    for (const Pair& pair : kPairs) {
+      auto& element = Find<QWidget>(form, pair.element);
+      QTest::mousePress(&element, Qt::LeftButton, {}, QPoint(2, 2));
+      QTest::mouseRelease(&element, Qt::LeftButton, {}, QPoint(2, -3));
+    }
+  });
+  EXPECT_TRUE(dialogs.coloursShown.empty());
+}
+
+TEST_F(SelectColorsForm, TheOtherPagesColoursAreCopied) {
+  EXPECT_TRUE(Edit([this](QWidget& form) {
+    EXPECT_EQ(Find<QPushButton>(form, "btnUseOtherColors").text(), "Copy Image Wrapper Colors");
+    Click(form, "btnUseOtherColors");
+    EXPECT_EQ(Shown(form), others);
+    Click(form, "OKButton");
+  }));
+  EXPECT_EQ(colours, others);
+}
+
+TEST_F(SelectColorsForm, ACopyThatIsCancelledChangesNothing) {
+  const PageColours before = colours;
+  for (const bool byButton : {true, false}) {
+    EXPECT_FALSE(Edit(
+        [byButton](QWidget& form) {
+          EXPECT_EQ(Find<QPushButton>(form, "btnUseOtherColors").text(), "Copy Thumbnail Page Colors");
+          Click(form, "btnUseOtherColors");
+          if (byButton) {
+            Click(form, "CancelButton");
+          } else {
+            QTest::keyClick(&form, Qt::Key_Escape);
+          }
+        },
+        "Select Image Wrapper Colors"));
+    EXPECT_EQ(colours, before);
+  }
+}
+
+TEST_F(SelectColorsForm, EnterApplies) {
+  EXPECT_TRUE(Edit([](QWidget& form) { QTest::keyClick(&form, Qt::Key_Return); }));
+}
+
+TEST_F(SelectColorsForm, WithoutATitleItHasItsOwn) {
+  Edit([](QWidget& form) { EXPECT_EQ(form.windowTitle(), "Color Settings"); }, "");
+}
+
+}  // namespace
+}  // namespace vantorium

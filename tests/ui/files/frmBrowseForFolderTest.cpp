@@ -1,0 +1,134 @@
+#include "tests/ui/BrowserDesk.h"
+#include "ui/files/FolderTree.h"
+#include "ui/files/frmBrowseForFolder.h"
+
+#include <QDir>
+#include <QPushButton>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::ClickRow;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::RowOf;
+
+class FolderDialog : public testing::Test {
+ protected:
+  FolderDialog() {
+    desk.disk.Write("photos/2005/June/x", "");
+    desk.disk.Write(".cache/temp/x", "");
+  }
+
+  void Browse(const std::string& initialFolder, const std::function<void(QWidget&)>& drive) {
+    DriveModal([&] { chosen = browser.BrowseForFolder("Select Source Folder", initialFolder); }, drive);
+  }
+
+  static FolderTree& Tree(QWidget& dialog) { return Find<FolderTree>(dialog, "ftvFolders"); }
+
+  fakes::BrowserDesk desk;
+  QtFolderBrowser browser{desk.paths};
+  std::optional<std::string> chosen;
+};
+
+TEST_F(FolderDialog, BeginsAtTheFolderOfTheCaller) {
+  Browse("C:\\photos\\2005", [](QWidget& dialog) {
+    EXPECT_EQ(dialog.objectName(), "frmBrowseForFolder");
+    EXPECT_EQ(dialog.windowTitle(), "Select Source Folder");
+    EXPECT_EQ(Find<QPushButton>(dialog, "CancelButton").text(), "Cancel");
+    EXPECT_EQ(Tree(dialog).SelectedPath(), "C:\\photos\\2005");
+    EXPECT_TRUE(Tree(dialog).currentItem()->isExpanded());
+    EXPECT_TRUE(Tree(dialog).viewport()->rect().contains(Tree(dialog).visualItemRect(Tree(dialog).currentItem())));
+    Click(dialog, "OKButton");
+  });
+  EXPECT_EQ(chosen, "C:\\photos\\2005");
+}
+
+TEST_F(FolderDialog, AFolderIsChosenWithTheMouse) {
+  Browse("C:\\photos", [](QWidget& dialog) {
+    ClickRow(Tree(dialog), RowOf(Tree(dialog), "sub"));
+    Click(dialog, "OKButton");
+  });
+  EXPECT_EQ(chosen, "C:\\photos\\sub");
+}
+
+TEST_F(FolderDialog, AndWithTheKeyboard) {
+  Browse("C:\\photos", [](QWidget& dialog) {
+    QTest::keyClick(&Tree(dialog), Qt::Key_Down);
+    QTest::keyClick(&Tree(dialog), Qt::Key_Right);
+    QTest::keyClick(&Tree(dialog), Qt::Key_Right);
+    QTest::keyClick(&Tree(dialog), Qt::Key_Return);
+  });
+  EXPECT_EQ(chosen, "C:\\photos\\2005\\June");
+}
+
+TEST_F(FolderDialog, CancelChoosesNothing) {
+  Browse("C:\\photos", [](QWidget& dialog) { Click(dialog, "CancelButton"); });
+  EXPECT_EQ(chosen, std::nullopt);
+  Browse("C:\\photos", [](QWidget& dialog) { QTest::keyClick(&Tree(dialog), Qt::Key_Escape); });
+  EXPECT_EQ(chosen, std::nullopt);
+  Browse("C:\\photos", [](QWidget& dialog) { dialog.close(); });
+  EXPECT_EQ(chosen, std::nullopt);
+}
+
+TEST_F(FolderDialog, KeepsWhetherItWasCancelled) {
+  frmBrowseForFolder form(desk.paths);
+  EXPECT_FALSE(form.Cancelled);
+  DriveModal([&] { form.exec(); }, [](QWidget& dialog) { Click(dialog, "CancelButton"); });
+  EXPECT_TRUE(form.Cancelled);
+  DriveModal([&] { form.exec(); },
+             [&](QWidget& dialog) {
+               EXPECT_FALSE(form.Cancelled) << "opened again";
+               Click(dialog, "OKButton");
+             });
+  EXPECT_FALSE(form.Cancelled);
+}
+
+struct Begin {
+  std::string initial;
+  std::string selected;
+};
+
+TEST_F(FolderDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
+  const std::vector<Begin> cases = {
+      {"C:\\photos\\1999\\May", "C:\\photos"},
+      {"C:\\photos\\2005\\", "C:\\photos\\2005"},
+      {"c:\\photos", "C:\\photos"},
+      {"C:\\", "C:\\"},
+      {"", "C:\\"},
+      {"X:\\photos", "C:\\"},
+      {"\\\\server\\share", "C:\\"},
+      {"C:\\.cache\\temp", "C:\\.cache\\temp"},
+  };
+  for (const Begin& row : cases) {
+    Browse(row.initial, [&](QWidget& dialog) { EXPECT_EQ(Tree(dialog).SelectedPath(), row.selected) << row.initial; });
+  }
+}
+
+TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
+  const PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', desk.disk.Path().string()}, {'Z', "/"}}};
+  frmBrowseForFolder form(paths);
+  form.SetSelectedPath("D:\\photos");
+  const FolderTree& tree = Tree(form);
+  ASSERT_EQ(tree.topLevelItemCount(), 3);
+  EXPECT_EQ(tree.topLevelItem(0)->text(0), "Home (C:)");
+  EXPECT_EQ(tree.topLevelItem(1)->text(0).toStdString(), desk.disk.Path().filename().string() + " (D:)");
+  EXPECT_EQ(tree.topLevelItem(2)->text(0), "File System (Z:)");
+  const QTreeWidgetItem& drive = *tree.topLevelItem(1);
+  ASSERT_EQ(drive.childCount(), 1);
+  EXPECT_EQ(drive.child(0)->text(0), "photos");
+  ASSERT_EQ(drive.child(0)->childCount(), 2);
+  EXPECT_EQ(drive.child(0)->child(0)->text(0), "2005");
+  EXPECT_EQ(drive.child(0)->child(1)->text(0), "sub");
+}
+
+TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
+  frmBrowseForFolder form(desk.paths);
+  form.SetSelectedPath("C:\\photos\\sub");
+  EXPECT_EQ(Tree(form).currentItem()->childIndicatorPolicy(), QTreeWidgetItem::DontShowIndicatorWhenChildless);
+  EXPECT_EQ(Tree(form).currentItem()->childCount(), 0);
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,82 @@
+#include "tests/ui/ImagesDesk.h"
+#include "ui/main/ImageListView.h"
+
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTimer>
+
+namespace vantorium {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class DraggingRows : public testing::Test {
+ protected:
+  DraggingRows() { desk.AddAll({"a.jpg", "b.jpg", "c.jpg", "d.jpg"}); }
+
+  [[nodiscard]] QPoint MiddleOf(int row) const {
+    return desk.list->visualRect(desk.list->model()->index(row, 0)).center();
+  }
+
+  void MoveWithButtonDown(QPoint to) const {
+    QWidget* viewport = desk.list->viewport();
+    QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(viewport, &move);
+  }
+
+  // A drag has an event loop of its own, in which the mouse goes on.
+  void Drag(int row, QPoint to) const {
+    QWidget* viewport = desk.list->viewport();
+    QTimer mouse;
+    int step = 0;
+    QObject::connect(&mouse, &QTimer::timeout, [&] {
+      QWindow* window = desk.page->window()->windowHandle();
+      const QPoint at = viewport->mapTo(desk.page->window(), to);
+      if (step++ < 2) {
+        QTest::mouseMove(window, at);
+      } else {
+        QTest::mouseRelease(window, Qt::LeftButton, {}, at);
+      }
+    });
+    QTest::mousePress(viewport, Qt::LeftButton, {}, MiddleOf(row));
+    mouse.start(20);
+    MoveWithButtonDown(MiddleOf(row) + QPoint(0, 3));
+    MoveWithButtonDown(MiddleOf(row) + QPoint(40, 12));
+    QTest::qWait(150);
+  }
+
+  fakes::ImagesDesk desk;
+};
+
+TEST_F(DraggingRows, ARowIsDroppedOnAnother) {
+  Drag(0, MiddleOf(2));
+  EXPECT_EQ(desk.Names(), (Names{"b.jpg", "c.jpg", "a.jpg", "d.jpg"}));
+  EXPECT_EQ(desk.project.images.Current(), 3U);
+  EXPECT_EQ(desk.list->currentIndex().row(), 2);
+  EXPECT_TRUE(desk.project.IsModified);
+}
+
+TEST_F(DraggingRows, BelowAllRowsItBecomesTheLast) {
+  Drag(1, QPoint(20, desk.list->viewport()->height() - 5));
+  EXPECT_EQ(desk.Names(), (Names{"a.jpg", "c.jpg", "d.jpg", "b.jpg"}));
+}
+
+TEST_F(DraggingRows, AListThatIsKeptSortedRefuses) {
+  desk.operations.SetSortingOrder(1);
+  Drag(0, MiddleOf(2));
+  EXPECT_EQ(desk.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));
+  ASSERT_FALSE(desk.boxes.boxes.empty());
+  EXPECT_EQ(desk.boxes.boxes.back().title, "Item cannot be moved");
+}
+
+TEST_F(DraggingRows, WhatComesFromElsewhereIsIgnored) {
+  QMimeData foreign;
+  foreign.setText("a.jpg");
+  QDropEvent drop(MiddleOf(2), Qt::MoveAction | Qt::CopyAction, &foreign, Qt::LeftButton, {});
+  QApplication::sendEvent(desk.list->viewport(), &drop);
+  EXPECT_FALSE(drop.isAccepted());
+  EXPECT_EQ(desk.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,118 @@
+// Runs from the main window: what they make of its pointer and of the keyboard.
+#include "tests/ui/MainDesk.h"
+#include "ui/dialogs/frmProgress.h"
+
+#include <QLineEdit>
+#include <QTimer>
+#include <QWindow>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::MainDesk;
+using fakes::Type;
+
+frmProgress* VisibleProgress() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* progress = dynamic_cast<frmProgress*>(window);
+    if (progress != nullptr && progress->isVisible()) return progress;
+  }
+  return nullptr;
+}
+
+class RunOfTheMainWindow : public testing::Test {
+ protected:
+  RunOfTheMainWindow() {
+    desk.Start();
+    for (int i = 0; i < 20; ++i) desk.AddPhotograph(std::to_string(i) + ".jpg");
+  }
+
+  /// Creates a gallery; `look` is called once, in the middle of the run.
+  void Create(const std::function<void(frmProgress&)>& look) {
+    QTimer watch;
+    bool looked = false;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+      frmProgress* progress = VisibleProgress();
+      if (progress == nullptr || looked) return;
+      looked = true;
+      look(*progress);
+    });
+    watch.start(0);
+    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+               [](QWidget& dialog) {
+                 Type(Find<QLineEdit>(dialog, "textCreateFilePath"), "T:\\out\\index.htm");
+                 Click(dialog, "OKButton");
+               });
+    EXPECT_TRUE(looked);
+    EXPECT_EQ(VisibleProgress(), nullptr);
+  }
+  [[nodiscard]] Qt::CursorShape MainPointer() const { return desk.window->windowHandle()->cursor().shape(); }
+
+  MainDesk desk;
+};
+
+TEST_F(RunOfTheMainWindow, HasTheWaitPointerOnTheMainWindowAndOnNoOtherBeforeAConfirmedCancel) {
+  desk.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  Create([&](frmProgress& progress) {
+    EXPECT_EQ(MainPointer(), Qt::WaitCursor);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "it would lie over all windows";
+    EXPECT_FALSE(progress.IsPointerBusy());
+    Click(progress, "CancelButton");
+    EXPECT_FALSE(progress.IsPointerBusy()) << "the answer was No";
+    Click(progress, "CancelButton");
+    EXPECT_TRUE(progress.IsPointerBusy());
+  });
+  EXPECT_EQ(desk.TitleOfLastBox(), "Creation cancelled");
+  EXPECT_EQ(MainPointer(), Qt::ArrowCursor);
+}
+
+TEST_F(RunOfTheMainWindow, GivesThePointerBackWithItsSuccess) {
+  Create([&](frmProgress&) { EXPECT_EQ(MainPointer(), Qt::WaitCursor); });
+  EXPECT_EQ(MainPointer(), Qt::ArrowCursor);
+  EXPECT_EQ(desk.window->cursor().shape(), Qt::ArrowCursor);
+}
+
+/// Ends of a run, each with another program's window in front.
+class EndOfARun : public RunOfTheMainWindow {
+ protected:
+  void ExpectTheKeyboardBehind(const std::function<void(frmProgress&)>& end) {
+    QWidget other;
+    auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+    desk.GoTo(0);
+    title.setFocus();
+    Create([&](frmProgress& progress) {
+      other.show();
+      other.activateWindow();
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+      end(progress);
+    });
+    EXPECT_TRUE(QTest::qWaitForWindowActive(desk.window.get()));
+    EXPECT_EQ(QApplication::focusWidget(), &title);
+  }
+};
+
+TEST_F(EndOfARun, InACancelGivesTheKeyboardToTheMainWindow) {
+  ExpectTheKeyboardBehind([](frmProgress& progress) { Click(progress, "CancelButton"); });
+  EXPECT_EQ(desk.TitleOfLastBox(), "Creation cancelled");
+}
+
+TEST_F(EndOfARun, InSuccessGivesTheKeyboardToTheMainWindow) {
+  ExpectTheKeyboardBehind([](frmProgress&) {});
+}
+
+TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
+  std::filesystem::remove(desk.folder.Path() / "19.jpg");
+  QTimer closer;
+  QObject::connect(&closer, &QTimer::timeout, [] {
+    frmProgress* progress = VisibleProgress();
+    if (progress != nullptr && progress->CancelButtonCaption() == "&Close") Click(*progress, "CancelButton");
+  });
+  closer.start(5);
+  ExpectTheKeyboardBehind([](frmProgress&) {});
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,504 @@
+// The six pages of settings: each control with its field, and what the settings make of the controls.
+#include "core/ProjectFields.h"
+#include "tests/ui/MainDesk.h"
+#include "ui/model/main/ControlRules.h"
+#include "ui/model/main/SettingsButtons.h"
+#include "ui/widgets/ColourButton.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <set>
+
+namespace vantorium {
+namespace {
+
+using fakes::Click;
+using fakes::DriveModal;
+using fakes::Find;
+using fakes::MainDesk;
+using fakes::Type;
+
+enum Page { Gallery, Images, Wrappers, Thumbnails, Captions, PageLinks };
+
+struct StartedDesk : MainDesk {
+  StartedDesk() { Start(); }
+};
+
+class SettingsOnPages : public testing::Test {
+ protected:
+  template <typename Control>
+  [[nodiscard]] Control& On(Page page, const char* name) {
+    desk.GoTo(page);
+    return Find<Control>(*desk.window, name);
+  }
+  [[nodiscard]] bool Shown(const char* name) { return Find<QWidget>(*desk.window, name).isVisible(); }
+  [[nodiscard]] bool Usable(const char* name) { return Find<QWidget>(*desk.window, name).isEnabled(); }
+  [[nodiscard]] QString Text(const char* name) { return Find<QLabel>(*desk.window, name).text(); }
+  void ClickOn(Page page, const char* name) { Click(On<QWidget>(page, name)); }
+  /// Chooses with the arrow key.
+  void ChooseNext(Page page, const char* name) {
+    auto& list = On<QComboBox>(page, name);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Down);
+  }
+
+  StartedDesk desk;
+  const GalleryProject& settings = desk.Settings();
+};
+
+TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
+  std::set<std::string_view> edited;
+  for (const ProjectField* field : desk.window->Binder().BoundFields()) {
+    EXPECT_TRUE(edited.insert(field->name).second) << field->name << " has two controls";
+  }
+  const auto add = [&edited](auto member) {
+    EXPECT_TRUE(edited.insert(FieldOf(member).name).second) << FieldOf(member).name;
+  };
+  for (const auto& row : CodeButtons()) add(row.code);
+  for (const auto& row : HeaderFooterButtons()) {
+    add(row.header);
+    add(row.footer);
+  }
+  for (const auto& row : ColoursButtons()) {
+    for (const auto colour : {row.colours.background, row.colours.text, row.colours.link, row.colours.visitedLink,
+                              row.colours.activeLink}) {
+      add(colour);
+    }
+  }
+  for (const auto& row : LinkButtons()) add(row.link);
+  for (const auto& row : FiltersButtons()) add(row.filters);
+  for (const auto& row : WatermarkButtons()) add(row.watermark);
+
+  // The windows of descriptions, file names and frame names edit these.
+  for (const char* name :
+       {"textHeader", "textFooter", "comboImageDescriptionPlacement", "comboImageDescriptionAlignment",
+        "textThumbHeader", "textThumbFooter", "comboThumbnailDescriptionPlacement",
+        "comboThumbnailDescriptionAlignment", "textImageSettingsSubFolder", "textThumbnailImageSettingsSubFolder",
+        "textThumbnailImageSettingsFilePrefix", "textThumbnailPageSettingsFilePrefix",
+        "comboThumbnailPageSettingsFileExtension", "comboImageWrapperSettingsFileExtension", "textThumbnailFrameName",
+        "comboImageFrameName"}) {
+    edited.insert(name);
+  }
+  // These two follow textGalleryFrameSize.
+  edited.insert("ThumbnailFrameSize");
+  edited.insert("ImageFrameSize");
+
+  for (const ProjectField& field : ProjectFields()) EXPECT_EQ(edited.count(field.name), 1U) << field.name;
+  EXPECT_EQ(edited.size(), ProjectFields().size());
+}
+
+TEST_F(SettingsOnPages, EveryTextReachesItsField) {
+  struct Row {
+    Page page;
+    const char* control;
+    std::string GalleryProject::*field;
+  };
+  ClickOn(Wrappers, "checkImageWrapperImageKeepAspectRatio");
+  const Row rows[] = {
+      {Gallery, "textGalleryTitle", &GalleryProject::textGalleryTitle},
+      {Gallery, "textGallerySlideShowDelay", &GalleryProject::textGallerySlideShowDelay},
+      {Wrappers, "textImageWrapperImageWidth", &GalleryProject::textImageWrapperImageWidth},
+      {Wrappers, "textImageWrapperImageHeight", &GalleryProject::textImageWrapperImageHeight},
+      {Wrappers, "textImageWrapperBackdrop", &GalleryProject::textImageWrapperBackdrop},
+      {Thumbnails, "textThumbnailsTableRows", &GalleryProject::textThumbnailsTableRows},
+      {Thumbnails, "textThumbnailsTableColumns", &GalleryProject::textThumbnailsTableColumns},
+      {Thumbnails, "textThumbnailsTableBorder", &GalleryProject::textThumbnailsTableBorder},
+      {Thumbnails, "textThumbnailsTableCellSpacing", &GalleryProject::textThumbnailsTableCellSpacing},
+      {Thumbnails, "textThumbnailsTableCellPadding", &GalleryProject::textThumbnailsTableCellPadding},
+      {Thumbnails, "textThumbnailsTableBackdrop", &GalleryProject::textThumbnailsTableBackdrop},
+      {Thumbnails, "textThumbnailsPageBackdrop", &GalleryProject::textThumbnailsPageBackdrop},
+      {Thumbnails, "textThumbnailsImageWidth", &GalleryProject::textThumbnailsImageWidth},
+      {Thumbnails, "textThumbnailsImageHeight", &GalleryProject::textThumbnailsImageHeight},
+  };
+  for (const Row& row : rows) {
+    Type(On<QLineEdit>(row.page, row.control), "17");
+    EXPECT_EQ(settings.*row.field, "17") << row.control;
+    EXPECT_TRUE(desk.window->CurrentProject().IsModified) << row.control;
+  }
+}
+
+TEST_F(SettingsOnPages, EveryNumberHasASpinner) {
+  struct Row {
+    Page page;
+    const char* text;
+    const char* spinner;
+    std::string GalleryProject::*field;
+  };
+  ClickOn(Wrappers, "checkImageWrapperImageKeepAspectRatio");
+  ClickOn(PageLinks, "checkPageLinksThumbnailDirectLinks");
+  const Row rows[] = {
+      {Gallery, "textGalleryFrameSize", "udGalleryFrameSize", &GalleryProject::textGalleryFrameSize},
+      {Gallery, "textGallerySlideShowAutoStartDelay", "udGallerySlideShowAutoStartDelay",
+       &GalleryProject::textGallerySlideShowAutoStartDelay},
+      {Gallery, "textGallerySlideShowDelay", "udGallerySlideShowDelay", &GalleryProject::textGallerySlideShowDelay},
+      {Wrappers, "textImageWrapperImageWidth", "udImageWrapperImageWidth", &GalleryProject::textImageWrapperImageWidth},
+      {Wrappers, "textImageWrapperImageHeight", "udImageWrapperImageHeight",
+       &GalleryProject::textImageWrapperImageHeight},
+      {Thumbnails, "textThumbnailsTableRows", "udThumbnailsTableRows", &GalleryProject::textThumbnailsTableRows},
+      {Thumbnails, "textThumbnailsTableColumns", "udThumbnailsTableColumns",
+       &GalleryProject::textThumbnailsTableColumns},
+      {Thumbnails, "textThumbnailsTableBorder", "udThumbnailsTableBorder", &GalleryProject::textThumbnailsTableBorder},
+      {Thumbnails, "textThumbnailsTableCellSpacing", "udThumbnailsTableCellSpacing",
+       &GalleryProject::textThumbnailsTableCellSpacing},
+      {Thumbnails, "textThumbnailsTableCellPadding", "udThumbnailsTableCellPadding",
+       &GalleryProject::textThumbnailsTableCellPadding},
+      {Thumbnails, "textThumbnailsImageWidth", "udThumbnailsImageWidth", &GalleryProject::textThumbnailsImageWidth},
+      {Thumbnails, "textThumbnailsImageHeight", "udThumbnailsImageHeight", &GalleryProject::textThumbnailsImageHeight},
+      {PageLinks, "textPageLinksThumbnailMaxDirectLinks", "udPageLinksThumbnailMaxDirectLinks",
+       &GalleryProject::textPageLinksThumbnailMaxDirectLinks},
+  };
+  for (const Row& row : rows) {
+    desk.GoTo(row.page);
+    const int before = std::stoi(settings.*row.field);
+    Click(*Find<QWidget>(*desk.window, row.spinner).findChildren<QToolButton*>().at(0));
+    EXPECT_EQ(settings.*row.field, std::to_string(before + 1)) << row.spinner;
+    EXPECT_EQ(Find<QLineEdit>(*desk.window, row.text).text(), QString::number(before + 1)) << row.text;
+  }
+}
+
+TEST_F(SettingsOnPages, EveryCheckBoxReachesItsField) {
+  struct Row {
+    Page page;
+    const char* control;
+    Flag GalleryProject::*field;
+  };
+  const Row rows[] = {
+      {Wrappers, "checkImageWrapperImagePhysicalResize", &GalleryProject::checkImageWrapperImagePhysicalResize},
+      {Wrappers, "checkImageWrapperImageSizesInPercent", &GalleryProject::checkImageWrapperImageSizesInPercent},
+      {Wrappers, "checkImageWrapperImageSetWidth", &GalleryProject::checkImageWrapperImageSetWidth},
+      {Wrappers, "checkImageWrapperImageKeepAspectRatio", &GalleryProject::checkImageWrapperImageKeepAspectRatio},
+      {Wrappers, "checkImageWrapperImageKeepSize", &GalleryProject::checkImageWrapperImageKeepSize},
+      {Wrappers, "checkImageWrapperSetColors", &GalleryProject::checkImageWrapperSetColors},
+      {Wrappers, "checkImageWrapperUse", &GalleryProject::checkImageWrapperUse},
+      {Gallery, "checkGallerySlideShow", &GalleryProject::checkGallerySlideShow},
+      {Thumbnails, "checkThumbnailsTableUseBGColor", &GalleryProject::checkThumbnailsTableUseBGColor},
+      {Thumbnails, "checkThumbnailsPageSetColors", &GalleryProject::checkThumbnailsPageSetColors},
+      {Thumbnails, "checkThumbnailsImageKeepAspectRatio", &GalleryProject::checkThumbnailsImageKeepAspectRatio},
+      {Thumbnails, "checkThumbnailsImageSetWidth", &GalleryProject::checkThumbnailsImageSetWidth},
+      {Captions, "checkCaptionsImagesRegular", &GalleryProject::checkCaptionsImagesRegular},
+      {Captions, "checkCaptionsImagesPopup", &GalleryProject::checkCaptionsImagesPopup},
+      {Captions, "checkCaptionsThumbnailsRegular", &GalleryProject::checkCaptionsThumbnailsRegular},
+      {Captions, "checkCaptionsThumbnailsPopup", &GalleryProject::checkCaptionsThumbnailsPopup},
+      {PageLinks, "checkPageLinksThumbnailDirectLinks", &GalleryProject::checkPageLinksThumbnailDirectLinks},
+  };
+  for (const Row& row : rows) {
+    const Flag before = settings.*row.field;
+    auto& box = On<QCheckBox>(row.page, row.control);
+    EXPECT_EQ(box.isChecked(), before == 1) << row.control;
+    Click(box);
+    EXPECT_EQ(settings.*row.field, 1 - before) << row.control;
+    EXPECT_EQ(box.isChecked(), before == 0) << row.control;
+  }
+}
+
+TEST_F(SettingsOnPages, EveryListReachesItsFieldAndHasItsTexts) {
+  struct Row {
+    Page page;
+    const char* control;
+    Choice GalleryProject::*field;
+  };
+  ClickOn(Gallery, "checkGallerySlideShow");
+  ClickOn(Captions, "checkCaptionsImagesRegular");
+  ClickOn(Captions, "checkCaptionsThumbnailsRegular");
+  const Row rows[] = {
+      {Gallery, "comboGallerySlideShowBeginWith", &GalleryProject::comboGallerySlideShowBeginWith},
+      {Gallery, "comboGallerySlideShowStartOverWith", &GalleryProject::comboGallerySlideShowStartOverWith},
+      {Gallery, "comboGallerySlideShowActionAfterImage", &GalleryProject::comboGallerySlideShowActionAfterImage},
+      {Thumbnails, "comboThumbnailsTableAlignment", &GalleryProject::comboThumbnailsTableAlignment},
+      {Captions, "comboCaptionsImagesRegularPlacement", &GalleryProject::comboCaptionsImagesRegularPlacement},
+      {Captions, "comboCaptionsImagesRegularAlignment", &GalleryProject::comboCaptionsImagesRegularAlignment},
+      {Captions, "comboCaptionsThumbnailsRegularPlacement", &GalleryProject::comboCaptionsThumbnailsRegularPlacement},
+      {Captions, "comboCaptionsThumbnailsRegularAlignment", &GalleryProject::comboCaptionsThumbnailsRegularAlignment},
+      {PageLinks, "comboPageLinksThumbnailLinkPlacement", &GalleryProject::comboPageLinksThumbnailLinkPlacement},
+      {PageLinks, "comboPageLinksImageLinkPlacement", &GalleryProject::comboPageLinksImageLinkPlacement},
+      {Gallery, "comboGalleryLayoutType", &GalleryProject::comboGalleryLayoutType},
+      {Gallery, "comboGalleryFrameSizingPriority", &GalleryProject::comboGalleryFrameSizingPriority},
+  };
+  for (const Row& row : rows) {
+    auto& list = On<QComboBox>(row.page, row.control);
+    EXPECT_EQ(static_cast<std::size_t>(list.count()), FieldOf(row.field).values.size()) << row.control;
+    EXPECT_EQ(list.currentIndex(), settings.*row.field) << row.control;
+    const bool last = list.currentIndex() == list.count() - 1;
+    const int wanted = list.currentIndex() + (last ? -1 : 1);
+    list.setFocus();
+    QTest::keyClick(&list, last ? Qt::Key_Up : Qt::Key_Down);
+    EXPECT_EQ(settings.*row.field, wanted) << row.control;
+  }
+}
+
+TEST_F(SettingsOnPages, TheLayoutHasItsPictureAndItsFrames) {
+  auto& picture = On<QLabel>(Gallery, "picLayoutType");
+  EXPECT_FALSE(picture.pixmap().isNull());
+  EXPECT_TRUE(Shown("frmFrameLayoutSingleFrame"));
+  const auto before = picture.pixmap().toImage();
+  ChooseNext(Gallery, "comboGalleryLayoutType");
+  EXPECT_NE(picture.pixmap().toImage(), before);
+  EXPECT_TRUE(Shown("frmFrameLayoutMultipleFrames"));
+  EXPECT_FALSE(Shown("frmFrameLayoutSingleFrame"));
+  EXPECT_EQ(settings.comboImageFrameName, "image_frame");
+  for (const char* box : {"checkGalleryFramesResizable", "checkGalleryFramesDisplayBorders"}) ClickOn(Gallery, box);
+  EXPECT_EQ(settings.checkGalleryFramesResizable, 1);
+  EXPECT_EQ(settings.checkGalleryFramesDisplayBorders, 1);
+  EXPECT_FALSE(Usable("btnPageLinksImageIndexLink"));
+}
+
+TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndIsNamedSo) {
+  ChooseNext(Gallery, "comboGalleryLayoutType");
+  EXPECT_EQ(Text("lblFrameLayoutFrameSize"), "Frame Size (Pixels)");
+  ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
+  EXPECT_EQ(Text("lblFrameLayoutFrameSize"), "Frame Size (%)");
+  EXPECT_EQ(settings.textGalleryFrameSize, "99");
+}
+
+TEST_F(SettingsOnPages, ASlideShowTurnsWrappersOnAndShowsTheirFrames) {
+  ClickOn(Wrappers, "checkImageWrapperUse");
+  EXPECT_FALSE(Shown("frmImageWrapperImageSettings"));
+  EXPECT_FALSE(Shown("frmImageWrapperCodeSettings"));
+  ClickOn(Gallery, "checkGallerySlideShow");
+  EXPECT_TRUE(Shown("frmFrameLayoutSlideShow"));
+  desk.GoTo(Wrappers);
+  EXPECT_TRUE(Find<QCheckBox>(*desk.window, "checkImageWrapperUse").isChecked());
+  EXPECT_TRUE(Shown("frmImageWrapperImageSettings"));
+  EXPECT_TRUE(Shown("frmImageWrapperCodeSettings"));
+  desk.GoTo(Captions);
+  EXPECT_TRUE(Shown("frmCaptionsImages"));
+  desk.GoTo(PageLinks);
+  EXPECT_TRUE(Shown("frmPageLinksOnImagePages"));
+}
+
+TEST_F(SettingsOnPages, WithoutWrappersThereIsNoSlideShow) {
+  ClickOn(Gallery, "checkGallerySlideShow");
+  ClickOn(Wrappers, "checkImageWrapperUse");
+  EXPECT_EQ(settings.checkGallerySlideShow, 0);
+  desk.GoTo(Captions);
+  EXPECT_FALSE(Shown("frmCaptionsImages"));
+  desk.GoTo(PageLinks);
+  EXPECT_FALSE(Shown("frmPageLinksOnImagePages"));
+  desk.GoTo(Gallery);
+  EXPECT_FALSE(Shown("frmFrameLayoutSlideShow"));
+}
+
+TEST_F(SettingsOnPages, ASlideShowHasOnlyTheFieldsItUses) {
+  ClickOn(Gallery, "checkGallerySlideShow");
+  for (const char* name : {"checkGallerySlideShowAutoStart", "textGallerySlideShowAutoStartDelay",
+                           "udGallerySlideShowAutoStartDelay", "lblSeconds"}) {
+    EXPECT_FALSE(Shown(name)) << name;
+  }
+  auto& begin = Find<QComboBox>(*desk.window, "comboGallerySlideShowBeginWith");
+  begin.setFocus();
+  QTest::keyClick(&begin, Qt::Key_Up);
+  EXPECT_TRUE(Shown("checkGallerySlideShowAutoStart"));
+  EXPECT_TRUE(Shown("lblSeconds"));
+  ClickOn(Gallery, "checkGallerySlideShowAutoStart");
+  EXPECT_EQ(settings.checkGallerySlideShowAutoStart, 0);
+  EXPECT_TRUE(Shown("lblFrameLayoutSlideShowStartOverWith"));
+  ChooseNext(Gallery, "comboGallerySlideShowActionAfterImage");
+  EXPECT_FALSE(Shown("lblFrameLayoutSlideShowStartOverWith"));
+  EXPECT_FALSE(Shown("comboGallerySlideShowStartOverWith"));
+}
+
+TEST_F(SettingsOnPages, KeptSizesHideTheSizeFields) {
+  desk.GoTo(Wrappers);
+  EXPECT_TRUE(Shown("frmImageWrapperImageSettingsSub"));
+  ClickOn(Wrappers, "checkImageWrapperImageKeepSize");
+  EXPECT_FALSE(Shown("frmImageWrapperImageSettingsSub"));
+}
+
+TEST_F(SettingsOnPages, SizesInPercentAreNamedSo) {
+  ClickOn(Wrappers, "checkImageWrapperImageSizesInPercent");
+  EXPECT_EQ(Text("lblImageWrapperImageWidth"), "Width (%)");
+  EXPECT_EQ(Text("lblImageWrapperImageHeight"), "Height (%)");
+  ClickOn(Wrappers, "checkImageWrapperImageSizesInPercent");
+  EXPECT_EQ(Text("lblImageWrapperImageWidth"), "Width (Pixels)");
+}
+
+TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexWhileItsTextsFollowThePlacement) {
+  ClickOn(Captions, "checkCaptionsImagesRegular");
+  auto& alignment = Find<QComboBox>(*desk.window, "comboCaptionsImagesRegularAlignment");
+  EXPECT_EQ(alignment.currentText(), "align right");
+  auto& placement = Find<QComboBox>(*desk.window, "comboCaptionsImagesRegularPlacement");
+  placement.setFocus();
+  QTest::keyClick(&placement, Qt::Key_Home);
+  EXPECT_EQ(settings.comboCaptionsImagesRegularPlacement, 0);
+  EXPECT_EQ(alignment.currentText(), "align bottom");
+  EXPECT_EQ(settings.comboCaptionsImagesRegularAlignment, 2);
+}
+
+TEST_F(SettingsOnPages, RowsAndColumnsRecountThePages) {
+  for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) desk.AddPhotograph(name);
+  desk.GoTo(Thumbnails);
+  EXPECT_EQ(Text("lblThumbnailsPageCount"), "3 Images on 1 Pages");
+  Type(Find<QLineEdit>(*desk.window, "textThumbnailsTableRows"), "1");
+  Type(Find<QLineEdit>(*desk.window, "textThumbnailsTableColumns"), "2");
+  EXPECT_EQ(Text("lblThumbnailsPageCount"), "3 Images on 2 Pages");
+}
+
+TEST_F(SettingsOnPages, ATableColourIsChosenInTheColourDialog) {
+  desk.GoTo(Thumbnails);
+  EXPECT_FALSE(Shown("btnThumbnailsTableBGColor"));
+  ClickOn(Thumbnails, "checkThumbnailsTableUseBGColor");
+  desk.dialogs.colours = {std::nullopt, 0x123456};
+  ClickOn(Thumbnails, "btnThumbnailsTableBGColor");
+  EXPECT_EQ(settings.btnThumbnailsTableBGColor, 0U);
+  ClickOn(Thumbnails, "btnThumbnailsTableBGColor");
+  EXPECT_EQ(settings.btnThumbnailsTableBGColor, 0x123456U);
+  EXPECT_EQ(Find<ColourButton>(*desk.window, "btnThumbnailsTableBGColor").GetColour(), 0x123456U);
+}
+
+TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {
+  struct Row {
+    Page page;
+    const char* button;
+    const char* title;
+    std::string GalleryProject::*field;
+  };
+  const Row rows[] = {
+      {Wrappers, "btnImageWrapperBackdropBrowse", "Select Backdrop Image for Image (Wrapper) Page",
+       &GalleryProject::textImageWrapperBackdrop},
+      {Thumbnails, "btnThumbnailsPageBackDropBrowse", "Select Backdrop Image for Thumbnail Page",
+       &GalleryProject::textThumbnailsPageBackdrop},
+      {Thumbnails, "btnThumbnailsTableBackdropBrowse", "Select Thumbnail Table Backdrop Image",
+       &GalleryProject::textThumbnailsTableBackdrop},
+  };
+  for (const Row& row : rows) {
+    desk.fileBrowser.answer = {"T:\\a.gif", "T:\\", {"T:\\a.gif"}};
+    ClickOn(row.page, row.button);
+    EXPECT_EQ(settings.*row.field, "T:\\a.gif") << row.button;
+    EXPECT_EQ(desk.fileBrowser.requests.back().title, row.title);
+    EXPECT_EQ(desk.fileBrowser.requests.back().filter, "All Files (*.*)|*.*");
+    EXPECT_TRUE(desk.fileBrowser.requests.back().preview);
+    desk.fileBrowser.answer = {};
+    ClickOn(row.page, row.button);
+    EXPECT_EQ(settings.*row.field, "T:\\a.gif") << "cancelled " << row.button;
+  }
+}
+
+TEST_F(SettingsOnPages, ATypedNativePathBecomesPathTextWhenTheBoxIsLeft) {
+  auto& box = On<QLineEdit>(Wrappers, "textImageWrapperBackdrop");
+  Type(box, ToQt((desk.folder.Path() / "a.gif").string()));
+  QTest::keyClick(&box, Qt::Key_Tab);
+  EXPECT_EQ(settings.textImageWrapperBackdrop, "T:\\a.gif");
+  Type(box, "relative.gif");
+  QTest::keyClick(&box, Qt::Key_Tab);
+  EXPECT_EQ(settings.textImageWrapperBackdrop, "relative.gif");
+}
+
+TEST_F(SettingsOnPages, LabelsSayWhatANumberMeans) {
+  EXPECT_EQ(Text("lblSeconds"), "Seconds");
+  EXPECT_EQ(Text("lblSlideShowDelaySeconds"), "Seconds");
+  EXPECT_EQ(Text("lblPageLinksThumbnailLinks"), "Links");
+  desk.GoTo(Thumbnails);
+  EXPECT_TRUE(Shown("lblThumbnailsTableNoBGColor"));
+  EXPECT_EQ(Text("lblThumbnailsTableNoBGColor"), "(no color used)");
+}
+
+TEST_F(SettingsOnPages, ThumbnailSettingsStayWithoutWrappers) {
+  ClickOn(Wrappers, "checkImageWrapperUse");
+  desk.GoTo(Captions);
+  EXPECT_TRUE(Shown("frmCaptionsThumbnails"));
+  desk.GoTo(PageLinks);
+  EXPECT_TRUE(Shown("frmPageLinksOnThumbnailPages"));
+}
+
+/// Which controls are hidden or disabled by a rule, and the labels that name a unit.
+std::string RuledControls(QWidget& window) {
+  std::string told;
+  for (const ControlRule& rule : ControlRules()) {
+    const std::string name(rule.control);
+    const auto& control = Find<QWidget>(window, name.c_str());
+    const bool holds =
+        rule.property == ControlProperty::Visible ? !control.isHidden() : control.isEnabledTo(control.parentWidget());
+    told += name + (holds ? " +\n" : " -\n");
+  }
+  for (const UnitLabel& label : UnitLabels()) {
+    told += FromQt(Find<QLabel>(window, std::string(label.control).c_str()).text()) + "\n";
+  }
+  return told;
+}
+
+TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
+  const auto before = RuledControls(*desk.window);
+  for (const char* box :
+       {"checkImageWrapperSetColors", "checkImageWrapperImageKeepAspectRatio", "checkImageWrapperImageKeepSize"}) {
+    ClickOn(Wrappers, box);
+  }
+  for (const char* box :
+       {"checkThumbnailsTableUseBGColor", "checkThumbnailsPageSetColors", "checkThumbnailsImageKeepAspectRatio"}) {
+    ClickOn(Thumbnails, box);
+  }
+  ClickOn(PageLinks, "checkPageLinksThumbnailDirectLinks");
+  ClickOn(Captions, "checkCaptionsImagesRegular");
+  ClickOn(Captions, "checkCaptionsThumbnailsPopup");
+  ClickOn(Wrappers, "checkImageWrapperUse");
+  ChooseNext(Gallery, "comboGalleryLayoutType");
+  ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
+  EXPECT_NE(RuledControls(*desk.window), before);
+  desk.boxes.answers = {BoxAnswer::No};
+  desk.Trigger("menuFileNew");
+  EXPECT_EQ(RuledControls(*desk.window), before);
+  EXPECT_FALSE(desk.window->CurrentProject().IsModified);
+}
+
+// Each button and the title of the dialog that it opens.
+
+TEST_F(SettingsOnPages, EachButtonOpensItsDialog) {
+  struct Row {
+    Page page;
+    const char* button;
+    const char* title;
+  };
+  for (const char* box : {"checkCaptionsImagesRegular", "checkCaptionsImagesPopup", "checkCaptionsThumbnailsRegular",
+                          "checkCaptionsThumbnailsPopup"}) {
+    ClickOn(Captions, box);
+  }
+  ClickOn(Wrappers, "checkImageWrapperSetColors");
+  ClickOn(Thumbnails, "checkThumbnailsPageSetColors");
+  const Row rows[] = {
+      {Gallery, "btnGalleryInfo", "Information about this Gallery"},
+      {Gallery, "btnGalleryHEAD", "Gallery <HEAD> Code"},
+      {Gallery, "btnGalleryFileNameSettings", "Path and File Name Settings"},
+      {Gallery, "btnGallerySingleFrameNames", "Frame Name Settings"},
+      {Wrappers, "btnImageWrapperHEAD", "Image Wrapper <HEAD> Code"},
+      {Wrappers, "btnImageWrapperBODY", "Image Wrapper <BODY> Header and Footer"},
+      {Wrappers, "btnImageWrapperImageHeaderAndFooter", "Image Wrapper Image HTML Header and Footer"},
+      {Wrappers, "btnImageWrapperColors", "Select Image Wrapper Colors"},
+      {Thumbnails, "btnThumbnailsPageHEAD", "Thumbnail Page <HEAD> Code"},
+      {Thumbnails, "btnThumbnailsPageHeaderAndFooter", "Thumbnail Page <BODY> Header and Footer"},
+      {Thumbnails, "btnThumbnailsImageHeaderAndFooter", "Thumbnail Page Thumb HTML Header and Footer"},
+      {Thumbnails, "btnThumbnailsPageColors", "Select Thumbnail Page Colors"},
+      {Thumbnails, "btnThumbnailsImageFilters", "Filters for Thumbnails"},
+      {Thumbnails, "btnThumbnailsWatermark", "Thumbnail Watermarks"},
+      {Images, "btnImagesFilters", "Filters for Images"},
+      {Images, "btnImagesWatermark", "Image Watermarks"},
+      {Captions, "btnCaptionsImagesRegular", "Image Regular Caption Code"},
+      {Captions, "btnCaptionsImagesPopup", "Image Popup Caption Code"},
+      {Captions, "btnCaptionsThumbnailsRegular", "Thumbnail Regular Caption Code"},
+      {Captions, "btnCaptionsThumbnailsPopup", "Thumbnail Popup Caption Code"},
+      {PageLinks, "btnPageLinksImageFirstLink", "\"First Image\" Link"},
+      {PageLinks, "btnPageLinksImageLastLink", "\"Last Image\" Link"},
+      {PageLinks, "btnPageLinksImagePreviousLink", "\"Previous Image\" Link"},
+      {PageLinks, "btnPageLinksImageNextLink", "\"Next Image\" Link"},
+      {PageLinks, "btnPageLinksImageIndexLink", "\"Index Page\" Link"},
+      {PageLinks, "btnPageLinksThumbnailFirstLink", "\"First Thumbnail Page\" Link"},
+      {PageLinks, "btnPageLinksThumbnailLastLink", "\"Last Thumbnail Page\" Link"},
+      {PageLinks, "btnPageLinksThumbnailPreviousLink", "\"Previous Thumbnail Page\" Link"},
+      {PageLinks, "btnPageLinksThumbnailNextLink", "\"Next Thumbnail Page\" Link"},
+  };
+  for (const Row& row : rows) {
+    desk.GoTo(row.page);
+    QString title;
+    DriveModal([&] { Click(*desk.window, row.button); }, [&](QWidget& dialog) { title = dialog.windowTitle(); });
+    EXPECT_EQ(title, row.title) << row.button;
+  }
+  ChooseNext(Gallery, "comboGalleryLayoutType");
+  QString title;
+  DriveModal([&] { Click(*desk.window, "btnGalleryMultiFrameNames"); },
+             [&](QWidget& dialog) { title = dialog.windowTitle(); });
+  EXPECT_EQ(title, "Frame Name Settings");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,523 @@
+#include "publish/ServerListFile.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/ScriptedFileBrowser.h"
+#include "tests/fakes/ScriptedFolderBrowser.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/dialogs/CreateGalleryModel.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using Option = CreateGalleryModel::Option;
+
+const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 0, "www"};
+const ServerProfile kTwo = {"Two", "two.example.org", "Anonymous", "", "index.htm", 0, ""};
+
+class CreateGalleryModelTest : public testing::Test {
+ protected:
+  [[nodiscard]] std::filesystem::path File() const { return ServerListFileName(program.Path()); }
+  void ComeUpWith(const std::vector<ServerProfile>& profiles, std::optional<std::size_t> selected = 0) {
+    WriteServerList(profiles, selected, File());
+    model.ComeUp();
+  }
+  void ComeUpWithIndex(const std::string& indexFile) {
+    program.Write("vantorium.pub",
+                  "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerURL1=\"host\"\r\n"
+                  "UserName1=\"me\"\r\nIndexFile1=\"" +
+                      indexFile + "\"\r\nJumpTo1=\"\"\r\n");
+    model.ComeUp();
+  }
+  std::string LeftFilePath(const std::string& typed) {
+    model.EditFilePath(typed);
+    model.LeaveFilePath();
+    return model.FilePath();
+  }
+  void ExpectBox(const std::string& title, const std::string& text) const {
+    ASSERT_EQ(boxes.boxes.size(), 1U);
+    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].title, title);
+    EXPECT_EQ(boxes.boxes[0].text, text);
+  }
+
+  fakes::TemporaryFolder program;
+  Preferences preferences;
+  PathMap paths{{{'C', "/home/me"}}};
+  fakes::RecordingMessageBox boxes;
+  CreateGalleryModel model{preferences, File(), paths, boxes};
+};
+
+// Folder paths
+
+TEST(NormalizeFolderPath, AFolderOnADriveEndsInABackslash) {
+  const std::vector<std::pair<std::string, std::string>> cases = {{"C:", "C:\\"},
+                                                                  {"C:\\", "C:\\"},
+                                                                  {"C:\\photos", "C:\\photos\\"},
+                                                                  {"C:\\photos\\", "C:\\photos\\"},
+                                                                  {"C:\\photos\\\\", "C:\\photos\\"},
+                                                                  {"x:\\a:", "x:\\a:\\"}};
+  for (const auto& [typed, normal] : cases) {
+    fakes::RecordingMessageBox boxes;
+    std::string path = typed;
+    EXPECT_TRUE(NormalizeFolderPath(path, boxes)) << typed;
+    EXPECT_EQ(path, normal) << typed;
+    EXPECT_TRUE(boxes.boxes.empty()) << typed;
+  }
+}
+
+TEST(NormalizeFolderPath, AFolderOnNoDriveIsRefused) {
+  const std::vector<std::pair<std::string, std::string>> cases = {{"photos", "photos\\"},
+                                                                  {"photos\\", "photos\\"},
+                                                                  {"", "\\"},
+                                                                  {"\\\\server\\share", "\\\\server\\share\\"},
+                                                                  {"C:photos", "C:photos\\"}};
+  for (const auto& [typed, normal] : cases) {
+    fakes::RecordingMessageBox boxes;
+    std::string path = typed;
+    EXPECT_FALSE(NormalizeFolderPath(path, boxes)) << typed;
+    EXPECT_EQ(path, normal) << typed;
+    ASSERT_EQ(boxes.boxes.size(), 1U) << typed;
+    EXPECT_EQ(boxes.boxes[0].title, "Invalid Path");
+    EXPECT_EQ(boxes.boxes[0].text, "You must specify an absolute Path.");
+    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  }
+}
+
+TEST(PathKey, ASlashIsTypedAsABackslashUnlessThePathIsNative) {
+  EXPECT_EQ(PathKey("C:", "/"), "\\");
+  EXPECT_EQ(PathKey("C:\\web", "/"), "\\");
+  EXPECT_EQ(PathKey("", "/"), "/");
+  EXPECT_EQ(PathKey("/home", "/"), "/");
+  EXPECT_EQ(PathKey("C:", "a"), "a");
+  EXPECT_EQ(PathKey("C:", "\\"), "\\");
+  EXPECT_EQ(PathKey("C:", ""), "");
+}
+
+// Coming up
+
+TEST_F(CreateGalleryModelTest, ComesUpWithTheLastTarget) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"", "start.htm"}, {"D:\\web", "D:\\web\\start.htm"}, {"D:\\web\\", "D:\\web\\start.htm"}};
+  preferences.GalleryIndexFileName = "start.htm";
+  for (const auto& [folder, file] : cases) {
+    preferences.CreateFolder = folder;
+    model.ComeUp();
+    EXPECT_EQ(model.FilePath(), file) << folder;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, TheSourceFolderIsThatOfTheLastTarget) {
+  preferences.CreateFolder = "D:\\web\\one\\";
+  model.ComeUp();
+  EXPECT_EQ(model.SourceFolder(), "D:\\web\\one\\");
+  preferences.CreateFolder = "D:\\web\\one";
+  model.ComeUp();
+  EXPECT_EQ(model.SourceFolder(), "D:\\web\\");
+}
+
+TEST_F(CreateGalleryModelTest, WithoutServersTheDestinationsAreEmpty) {
+  ComeUpWith({kOne});
+  ASSERT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
+  const std::string head = "[PUBLISH]\r\n";
+  for (const std::string& text :
+       {std::string(), head + "ServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n", head + "ServerCount=\"many\"\r\n",
+        head + "ServerCount=\"-1\"\r\nPreferredServer=\"1\"\r\n",
+        head + "ServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerURL1=\"host\"\r\n"}) {
+    program.Write("vantorium.pub", text);
+    model.ComeUp();
+    EXPECT_EQ(model.PublishDestination(), "") << text;
+    EXPECT_EQ(model.UploadDestination(), "") << text;
+    EXPECT_EQ(model.Choice().UploadServer, "") << text;
+  }
+  std::filesystem::remove(File());
+  model.ComeUp();
+  EXPECT_EQ(model.PublishDestination(), "");
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(CreateGalleryModelTest, ComesUpWithThePreferredServer) {
+  ComeUpWith({kTwo, kOne}, 1);
+  EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
+  EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b/");
+  std::ignore = model.Apply();
+  const CreateChoice choice = model.Choice();
+  EXPECT_EQ(choice.UploadServer, "one.example.org");
+  EXPECT_EQ(choice.UploadUser, "me");
+  EXPECT_EQ(choice.UploadIndexPath, "a/b/");
+  EXPECT_EQ(choice.UploadIndexFile, "start.htm");
+  EXPECT_EQ(choice.UploadJumpTo, "www");
+  EXPECT_EQ(choice.UploadPort, 21);
+}
+
+TEST_F(CreateGalleryModelTest, APreferenceOutsideTheListIsTheFirstServer) {
+  for (const char* preferred : {"0", "-3", "3"}) {
+    WriteServerList({kOne, kTwo}, 0, File());
+    std::string text = program.Read("vantorium.pub");
+    text.replace(text.find("PreferredServer=\"1\""), 19, "PreferredServer=\"" + std::string(preferred) + "\"");
+    program.Write("vantorium.pub", text);
+    model.ComeUp();
+    EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b/") << preferred;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, TheIndexFileIsSplitAtItsLastSlashOfEitherKind) {
+  const std::vector<std::array<std::string, 3>> cases = {
+      {"index.htm", "host/index.htm", "host/"},
+      {"/index.htm", "host/index.htm", "host/"},
+      {"gallery/index.htm", "host/gallery/index.htm", "host/gallery/"},
+      {"a\\b\\start.htm", "host/a/b/start.htm", "host/a/b/"},
+      {"a//start.htm", "host/a/start.htm", "host/a/"},
+      {"gallery/", "host/gallery/", "host/gallery/"},
+      {"", "host/", "host/"}};
+  for (const auto& [index, publish, upload] : cases) {
+    ComeUpWithIndex(index);
+    EXPECT_EQ(model.PublishDestination(), publish) << index;
+    EXPECT_EQ(model.UploadDestination(), upload) << index;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, ThePasswordIsHiddenUnlessTheServerIsOpenToEveryone) {
+  EXPECT_TRUE(model.IsPasswordHidden());
+  ComeUpWith({kOne, kTwo}, 1);
+  EXPECT_FALSE(model.IsPasswordHidden());
+  ComeUpWith({kOne, kTwo}, 0);
+  EXPECT_TRUE(model.IsPasswordHidden());
+}
+
+TEST_F(CreateGalleryModelTest, ComesUpWithoutThePasswordButWithTheOptionAndTheSwitches) {
+  ComeUpWith({kOne});
+  EXPECT_EQ(model.Chosen(), Option::CreateGallery);
+  EXPECT_TRUE(model.IsChecked(&CreateChoice::CreateImages) && model.IsChecked(&CreateChoice::CreateThumbnails) &&
+              model.IsChecked(&CreateChoice::CreateHTMLFiles) && model.IsChecked(&CreateChoice::Overwrite));
+  model.Choose(Option::Publish);
+  model.Check(&CreateChoice::Overwrite, false);
+  model.EditPassword("secret");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().UploadPassword, "secret");
+  model.ComeUp();
+  EXPECT_EQ(model.Password(), "");
+  EXPECT_EQ(model.Chosen(), Option::Publish);
+  EXPECT_FALSE(model.IsChecked(&CreateChoice::Overwrite));
+  EXPECT_TRUE(model.Cancelled);
+}
+
+// Switches
+
+TEST_F(CreateGalleryModelTest, AnUploadOfAFolderProducesNothing) {
+  for (const Option option : {Option::CreateGallery, Option::Publish}) {
+    model.Choose(option);
+    EXPECT_TRUE(model.Produces());
+    EXPECT_TRUE(model.CanOverwrite());
+  }
+  model.Choose(Option::UploadFolder);
+  EXPECT_FALSE(model.Produces());
+  EXPECT_FALSE(model.CanOverwrite());
+}
+
+TEST_F(CreateGalleryModelTest, OverwritingIsAboutImagesAndThumbnails) {
+  for (const bool images : {true, false}) {
+    for (const bool thumbnails : {true, false}) {
+      model.Check(&CreateChoice::CreateImages, images);
+      model.Check(&CreateChoice::CreateThumbnails, thumbnails);
+      EXPECT_EQ(model.CanOverwrite(), images || thumbnails);
+    }
+  }
+}
+
+// The file of a local gallery
+
+TEST_F(CreateGalleryModelTest, ATypedFolderBecomesItsIndexFile) {
+  preferences.CreateFolder = "C:\\gallery\\";
+  const std::vector<std::pair<std::string, std::string>> cases = {{"D:", "D:\\index.htm"},
+                                                                  {"D:\\", "D:\\index.htm"},
+                                                                  {"D:\\web", "D:\\web\\index.htm"},
+                                                                  {"D:\\web\\", "D:\\web\\index.htm"},
+                                                                  {"D:\\web\\page.html", "D:\\web\\page.html"},
+                                                                  {"D:/web/page.html", "D:\\web\\page.html"},
+                                                                  {"D:\\a.b\\c", "D:\\a.b\\c"},
+                                                                  {"web\\page.html", "C:\\gallery\\index.htm"},
+                                                                  {"", "C:\\gallery\\index.htm"},
+                                                                  {"/home/me/web/page.html", "C:\\web\\page.html"},
+                                                                  {"/home/me/web", "C:\\web\\index.htm"},
+                                                                  {"/srv/web", "C:\\gallery\\index.htm"}};
+  for (const auto& [typed, file] : cases) EXPECT_EQ(LeftFilePath(typed), file) << typed;
+  preferences.CreateFolder = "D:\\web";
+  EXPECT_EQ(LeftFilePath("page.html"), "D:\\web\\index.htm");
+}
+
+TEST_F(CreateGalleryModelTest, TheFileIsBrowsedForFromTheLastTarget) {
+  preferences.CreateFolder = "D:\\web\\";
+  preferences.GalleryIndexFileName = "start.htm";
+  model.ComeUp();
+  model.EditFilePath("E:\\other.htm");
+  fakes::ScriptedFileBrowser browser;
+  model.BrowseFilePath(browser);
+  EXPECT_EQ(model.FilePath(), "E:\\other.htm") << "the dialog was cancelled";
+  browser.answer.result = "F:\\new.htm";
+  model.BrowseFilePath(browser);
+  EXPECT_EQ(model.FilePath(), "F:\\new.htm");
+  const FileDialogRequest& request = browser.requests.at(1);
+  EXPECT_FALSE(request.open);
+  EXPECT_EQ(request.title, "Select Location and File Name for Gallery Index File");
+  EXPECT_EQ(request.initialFolder, "D:\\web\\");
+  EXPECT_EQ(request.fileName, "start.htm");
+  EXPECT_EQ(request.filter,
+            "All Files (*.*)|*.*|HTML Files (*.htm,*.html)|*.htm;*.html|SHTML Files (*.shtm,*.shtml)|*.shtm;*.shtml");
+}
+
+// The folder to be uploaded
+
+TEST_F(CreateGalleryModelTest, TheSourceFolderIsBrowsedForFromItsPresentPlace) {
+  fakes::ScriptedFolderBrowser browser;
+  model.EditSourceFolder("D:\\web\\gallery");
+  EXPECT_FALSE(model.BrowseSourceFolder(browser));
+  EXPECT_EQ(model.SourceFolder(), "D:\\web\\gallery");
+  browser.answers = {"E:\\photos"};
+  EXPECT_TRUE(model.BrowseSourceFolder(browser));
+  EXPECT_EQ(model.SourceFolder(), "E:\\photos");
+  EXPECT_EQ(browser.asked, std::vector<std::string>(2, "Select Source Folder: D:\\web\\"));
+}
+
+TEST_F(CreateGalleryModelTest, ANativeSourceFolderBecomesPathText) {
+  model.EditSourceFolder("/home/me/photos");
+  model.LeaveSourceFolder();
+  EXPECT_EQ(model.SourceFolder(), "C:\\photos");
+  model.EditSourceFolder("photos");
+  model.LeaveSourceFolder();
+  EXPECT_EQ(model.SourceFolder(), "photos") << "which Apply refuses";
+}
+
+// Servers and their password
+
+TEST_F(CreateGalleryModelTest, AChosenServerIsTakenOver) {
+  ComeUpWith({kTwo});
+  model.TakeServer(kOne);
+  EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
+  EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b");
+  model.TakeServer(kTwo);
+  EXPECT_EQ(model.PublishDestination(), "two.example.org/index.htm");
+  EXPECT_EQ(model.UploadDestination(), "two.example.org/");
+  std::ignore = model.Apply();
+  EXPECT_EQ(model.Choice().UploadServer, "two.example.org");
+  EXPECT_EQ(model.Choice().UploadUser, "Anonymous");
+  EXPECT_EQ(model.Choice().UploadIndexPath, "");
+  EXPECT_EQ(model.Choice().UploadIndexFile, "index.htm");
+  EXPECT_EQ(model.Choice().UploadJumpTo, "");
+}
+
+TEST_F(CreateGalleryModelTest, ThePasswordGoesWithItsDestination) {
+  ComeUpWith({kOne});
+  const std::vector<std::pair<std::string, std::function<void()>>> changes = {
+      {"another server", [this] { model.TakeServer(kTwo); }},
+      {"the dialog of the servers was left", [this] { model.LeaveServers(kOne); }},
+      {"a gallery's destination by hand", [this] { model.EditPublishDestination("x"); }},
+      {"a folder's destination by hand", [this] { model.EditUploadDestination("x"); }}};
+  for (const auto& [name, change] : changes) {
+    model.EditPassword("secret");
+    change();
+    EXPECT_EQ(model.Password(), "") << name;
+  }
+}
+
+struct TypedCase {
+  const char* typed;
+  const char* host;
+  const char* path;
+  const char* file;
+};
+
+TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
+  for (const auto& [typed, host, path, file] :
+       {TypedCase{"other.example.org/web/new/page.html", "other.example.org", "web/new/", "page.html"},
+        TypedCase{"other.example.org/page.html", "other.example.org", "", "page.html"},
+        TypedCase{"other.example.org/web/", "other.example.org", "web/", "index.htm"},
+        TypedCase{"other.example.org/", "other.example.org", "", "index.htm"},
+        TypedCase{"other.example.org//web\\page.html", "other.example.org", "web/", "page.html"},
+        TypedCase{"one.example.org/a/b/other.htm", "one.example.org", "a/b/", "other.htm"}}) {
+    ComeUpWith({kOne});
+    model.Choose(Option::Publish);
+    model.EditPublishDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+    const CreateChoice choice = model.Choice();
+    EXPECT_EQ(choice.UploadServer, host) << typed;
+    EXPECT_EQ(choice.UploadIndexPath, path) << typed;
+    EXPECT_EQ(choice.UploadIndexFile, file) << typed;
+    EXPECT_EQ(choice.UploadUser, "me") << typed;
+    EXPECT_EQ(choice.UploadJumpTo, "www") << typed;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
+  for (const auto& [typed, host, path, file] :
+       {TypedCase{"other.example.org/web/new", "other.example.org", "web/new", ""},
+        TypedCase{"other.example.org/web/", "other.example.org", "web/", ""},
+        TypedCase{"other.example.org/", "other.example.org", "", ""}}) {
+    ComeUpWith({kOne});
+    model.Choose(Option::UploadFolder);
+    model.EditSourceFolder("D:\\photos");
+    model.EditUploadDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+    EXPECT_EQ(model.Choice().UploadServer, host) << typed;
+    EXPECT_EQ(model.Choice().UploadIndexPath, path) << typed;
+    EXPECT_EQ(model.Choice().UploadUser, "me") << typed;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlone) {
+  ComeUpWith({kOne});
+  const std::string servers = program.Read("vantorium.pub");
+  model.Choose(Option::Publish);
+  model.EditPublishDestination("other.example.org/x.htm");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(program.Read("vantorium.pub"), servers);
+  model.ComeUp();
+  EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().UploadServer, "one.example.org");
+  EXPECT_EQ(model.Choice().UploadIndexFile, "start.htm");
+}
+
+TEST_F(CreateGalleryModelTest, ADestinationThatStandsAsItWasFilledInIsTheServersOwn) {
+  for (const char* index : {"a//b//start.htm", "", "start.htm", "a/b/"}) {
+    ComeUpWithIndex(index);
+    const CreateChoice before = [this] {
+      EXPECT_EQ(model.Apply(), Application::Done);
+      return model.Choice();
+    }();
+    for (const Option option : {Option::Publish, Option::UploadFolder}) {
+      model.Choose(option);
+      model.EditSourceFolder("D:\\photos");
+      const std::string publish = model.PublishDestination();
+      const std::string upload = model.UploadDestination();
+      model.EditPublishDestination("elsewhere");
+      model.EditUploadDestination("elsewhere");
+      model.EditPublishDestination(publish);
+      model.EditUploadDestination(upload);
+      EXPECT_EQ(model.Apply(), Application::Done) << index;
+      EXPECT_EQ(model.Choice().UploadServer, before.UploadServer) << index;
+      EXPECT_EQ(model.Choice().UploadIndexPath, before.UploadIndexPath) << index;
+      EXPECT_EQ(model.Choice().UploadIndexFile, before.UploadIndexFile) << index;
+    }
+    model.Choose(Option::CreateGallery);
+  }
+}
+
+TEST_F(CreateGalleryModelTest, AServerChosenBehindAChangeByHandTakesItsPlace) {
+  ComeUpWith({kOne});
+  model.Choose(Option::Publish);
+  model.EditPublishDestination("other.example.org/x.htm");
+  model.TakeServer(kTwo);
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().UploadServer, "two.example.org");
+  EXPECT_EQ(model.Choice().UploadIndexFile, "index.htm");
+}
+
+TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsToldBeforeTheRun) {
+  for (const char* typed :
+       {"", "x", "gallery.htm", "/gallery/index.htm", "http://host/a", "host:2121/a", "me@host/a"}) {
+    ComeUpWith({kOne});
+    boxes.boxes.clear();
+    model.Choose(Option::Publish);
+    model.EditPublishDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
+    EXPECT_EQ(model.Choice().option, Option::Cancelled) << typed;
+    ExpectBox("Invalid Destination",
+              "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\".");
+    boxes.boxes.clear();
+    model.Choose(Option::UploadFolder);
+    model.EditSourceFolder("D:\\photos");
+    model.EditUploadDestination(typed);
+    EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
+    ExpectBox("Invalid Destination", "Please give Server and Folder, such as \"ftp.example.org/gallery\".");
+    model.EditUploadDestination("host/" + std::string(typed));
+    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+  }
+}
+
+TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
+  ComeUpWith({kOne});
+  model.EditPublishDestination("x");
+  EXPECT_EQ(model.Apply(), Application::Done) << "a local gallery";
+  model.Choose(Option::UploadFolder);
+  model.EditSourceFolder("D:\\photos");
+  EXPECT_EQ(model.Apply(), Application::Done) << "a folder";
+  EXPECT_EQ(model.Choice().UploadServer, "one.example.org");
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(CreateGalleryModelTest, LeavingTheServersHidesThePasswordAsTheirUserNeedsIt) {
+  model.LeaveServers(kTwo);
+  EXPECT_FALSE(model.IsPasswordHidden());
+  model.LeaveServers(kOne);
+  EXPECT_TRUE(model.IsPasswordHidden());
+}
+
+// Apply
+
+TEST_F(CreateGalleryModelTest, AGalleryOfNothingIsRefused) {
+  for (const Option option : {Option::CreateGallery, Option::Publish}) {
+    boxes.boxes.clear();
+    model.ComeUp();
+    model.Choose(option);
+    for (const auto box :
+         {&CreateChoice::CreateImages, &CreateChoice::CreateThumbnails, &CreateChoice::CreateHTMLFiles}) {
+      model.Check(box, false);
+    }
+    EXPECT_EQ(model.Apply(), Application::Refused);
+    ExpectBox("Cannot create Gallery", "Please make sure you have one of the Options checked!");
+    EXPECT_EQ(model.Choice().option, Option::Cancelled);
+    model.Check(&CreateChoice::CreateHTMLFiles, true);
+    EXPECT_EQ(model.Apply(), Application::Done);
+    EXPECT_EQ(model.Choice().option, option);
+  }
+}
+
+TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
+  model.Choose(Option::UploadFolder);
+  for (const auto box :
+       {&CreateChoice::CreateImages, &CreateChoice::CreateThumbnails, &CreateChoice::CreateHTMLFiles}) {
+    model.Check(box, false);
+  }
+  model.EditSourceFolder("C:\\photos");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_TRUE(boxes.boxes.empty());
+  EXPECT_EQ(model.Choice().option, Option::UploadFolder);
+  EXPECT_EQ(model.Choice().UploadSourceFolder, "C:\\photos\\");
+}
+
+TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
+  model.Choose(Option::UploadFolder);
+  model.EditSourceFolder("photos");
+  EXPECT_EQ(model.Apply(), Application::NoSourceFolder);
+  EXPECT_EQ(model.SourceFolder(), "photos\\");
+  ExpectBox("Invalid Path", "You must specify an absolute Path.");
+  EXPECT_EQ(model.Choice().option, Option::Cancelled);
+}
+
+TEST_F(CreateGalleryModelTest, AFolderIsNotLookedAtForAGallery) {
+  model.EditSourceFolder("photos");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.SourceFolder(), "photos");
+}
+
+TEST_F(CreateGalleryModelTest, APathIsFinishedWhenTheKeyboardAppliesFromItsBox) {
+  model.EditFilePath("D:");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().FilePath, "D:\\index.htm");
+  model.Choose(Option::UploadFolder);
+  model.EditSourceFolder("/home/me/photos");
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Choice().UploadSourceFolder, "C:\\photos\\");
+}
+
+TEST_F(CreateGalleryModelTest, ACancelIsNoRun) {
+  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_FALSE(model.Cancelled);
+  model.Cancel();
+  EXPECT_TRUE(model.Cancelled);
+  EXPECT_EQ(model.Choice().option, Option::Cancelled);
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,206 @@
+#include "publish/ServerListFile.h"
+#include "tests/fakes/FailureOf.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/dialogs/PublishModel.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
+const ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
+
+TEST(ServerKey, HostsAndPathsAreTypedWithSlashesAndTheGallerysWithoutBlanks) {
+  const std::vector<std::tuple<ServerField, std::string, std::string>> cases = {{&ServerProfile::ServerURL, "/", " "},
+                                                                                {&ServerProfile::JumpTo, "/", " "},
+                                                                                {&ServerProfile::IndexPath, "/", "_"},
+                                                                                {&ServerProfile::IndexFile, "/", "_"},
+                                                                                {&ServerProfile::UserName, "\\", " "}};
+  for (const auto& [field, backslash, blank] : cases) {
+    EXPECT_EQ(ServerKey(field, "\\"), backslash);
+    EXPECT_EQ(ServerKey(field, " "), blank);
+    EXPECT_EQ(ServerKey(field, "a"), "a");
+    EXPECT_EQ(ServerKey(field, ""), "");
+  }
+}
+
+class PublishModelTest : public testing::Test {
+ protected:
+  [[nodiscard]] std::filesystem::path File() const { return ServerListFileName(program.Path()); }
+  [[nodiscard]] std::string Text() const { return program.Read("vantorium.pub"); }
+  PublishModel& Open(const std::vector<ServerProfile>& profiles, std::size_t selected = 0) {
+    WriteServerList(profiles, selected, File());
+    return Open();
+  }
+  PublishModel& Open() {
+    model = std::make_unique<PublishModel>(File(), boxes);
+    return *model;
+  }
+
+  fakes::TemporaryFolder program;
+  fakes::RecordingMessageBox boxes;
+  std::unique_ptr<PublishModel> model;
+};
+
+TEST_F(PublishModelTest, OpensWithThePreferredServer) {
+  Open({kOne, kTwo}, 1);
+  EXPECT_EQ(model->Shown(), kTwo);
+  EXPECT_TRUE(model->CanAccept());
+  EXPECT_TRUE(model->CanDelete());
+  EXPECT_TRUE(model->CanCancel());
+  EXPECT_FALSE(model->QueryPublish());
+  EXPECT_EQ(model->textTimeout, "0");
+}
+
+TEST_F(PublishModelTest, WithoutAFileTheFirstOpeningIsEmptyAndTheNextHasTheDefault) {
+  Open();
+  EXPECT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "File Error");
+  EXPECT_FALSE(model->Selected());
+  EXPECT_EQ(model->Shown(), ServerProfile());
+  EXPECT_FALSE(model->CanAccept());
+  EXPECT_FALSE(model->CanDelete());
+  model->Edit(&ServerProfile::ServerURL, "typed into nothing");
+  EXPECT_FALSE(model->CanAccept());
+  Open();
+  EXPECT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(model->Shown().ServerName, "Server");
+  EXPECT_EQ(model->Shown().IndexPath, "gallery");
+}
+
+TEST_F(PublishModelTest, WithoutAHostThereIsNoOk) {
+  Open({kOne});
+  model->Edit(&ServerProfile::ServerURL, "");
+  EXPECT_FALSE(model->CanAccept());
+  model->Edit(&ServerProfile::ServerURL, "h");
+  EXPECT_TRUE(model->CanAccept());
+}
+
+TEST_F(PublishModelTest, EditsGoIntoTheSelectedServerAndStayThere) {
+  Open({kOne, kTwo});
+  model->Edit(&ServerProfile::UserName, "somebody");
+  model->Select(1);
+  EXPECT_EQ(model->Shown(), kTwo);
+  model->Select(0);
+  EXPECT_EQ(model->Shown().UserName, "somebody");
+}
+
+TEST_F(PublishModelTest, TheTimeOutIsNeverShownAndNeverKept) {
+  Open({kOne, kTwo});
+  EXPECT_EQ(model->textTimeout, "0");
+  for (const auto& change :
+       std::vector<std::function<void()>>{[this] { model->Select(1); }, [this] { model->DeleteServer(); },
+                                          [this] { EXPECT_TRUE(model->AddNewServer("Three")); }}) {
+    model->textTimeout = "30";
+    change();
+    EXPECT_EQ(model->textTimeout, "0");
+  }
+  EXPECT_EQ(model->Profiles()[0].TimeOut, 15);
+  EXPECT_EQ(model->Profiles()[1].TimeOut, 0);
+}
+
+TEST_F(PublishModelTest, TheTimeOutIsTheNumberThatItsTextBeginsWith) {
+  Open({kOne});
+  const std::vector<std::pair<std::string, int>> cases = {{"0", 0},   {"30", 30},  {"12 seconds", 12}, {" 7x", 7},
+                                                          {"-5", -5}, {"2.5s", 2}, {"x30", 0},         {"", 0}};
+  for (const auto& [text, number] : cases) {
+    model->textTimeout = text;
+    EXPECT_EQ(model->GetTimeout(), number) << text;
+  }
+  model->textTimeout = "40000";
+  EXPECT_EQ(fakes::FailureOf([this] { std::ignore = model->GetTimeout(); }), FailureKind::Overflow);
+}
+
+TEST_F(PublishModelTest, ANewServerIsWrittenAtOnceAndEndsTheCancel) {
+  Open({kOne});
+  EXPECT_TRUE(model->AddNewServer("Three"));
+  EXPECT_EQ(model->Shown(), (ServerProfile{"Three", "", "", "gallery", "index.htm", 0, ""}));
+  EXPECT_FALSE(model->CanCancel());
+  EXPECT_TRUE(model->CanDelete());
+  EXPECT_FALSE(model->CanAccept()) << "its host is missing";
+  EXPECT_NE(Text().find("ServerName2=\"Three\""), std::string::npos) << Text();
+}
+
+TEST_F(PublishModelTest, ANameThatIsTakenIsRefused) {
+  Open({kOne});
+  EXPECT_FALSE(model->AddNewServer("One"));
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "Name Exists");
+  EXPECT_EQ(boxes.boxes[0].text, "A Server with this name has already been defined.  Please use a different name.");
+  EXPECT_TRUE(model->CanCancel());
+  EXPECT_EQ(model->Profiles().size(), 1U);
+  EXPECT_TRUE(model->AddNewServer("one")) << "another case is another name";
+}
+
+TEST_F(PublishModelTest, ADeletedServerGivesItsPlaceToTheNextAndTheFileFollowsWithOk) {
+  Open({kOne, kTwo});
+  const std::string before = Text();
+  model->DeleteServer();
+  EXPECT_EQ(model->Shown(), kTwo);
+  EXPECT_TRUE(model->CanDelete());
+  EXPECT_TRUE(model->CanAccept());
+  EXPECT_FALSE(model->CanCancel());
+  EXPECT_EQ(Text(), before);
+  model->DeleteServer();
+  EXPECT_FALSE(model->Selected());
+  EXPECT_FALSE(model->CanDelete());
+  EXPECT_FALSE(model->CanAccept());
+}
+
+TEST_F(PublishModelTest, OkCleansUpAndWritesTheList) {
+  Open({kOne, kTwo});
+  model->Select(1);
+  model->Edit(&ServerProfile::ServerURL, "ftp://host/");
+  model->Edit(&ServerProfile::IndexPath, "/a//b/");
+  model->Edit(&ServerProfile::IndexFile, "");
+  EXPECT_TRUE(model->Accept());
+  EXPECT_TRUE(model->QueryPublish());
+  EXPECT_EQ(model->Shown(), (ServerProfile{"Two", "host/", "anonymous", "a/b", "index.htm", 0, ""}));
+  EXPECT_NE(Text().find("PreferredServer=\"2\""), std::string::npos) << Text();
+  EXPECT_NE(Text().find("IndexFile2=\"a/b/index.htm\""), std::string::npos) << Text();
+}
+
+TEST_F(PublishModelTest, AnIndexFileWithAPathIsRefusedWhereItCanBeSeen) {
+  Open({kOne});
+  model->Edit(&ServerProfile::IndexFile, "a/start.htm");
+  EXPECT_FALSE(model->Accept());
+  EXPECT_FALSE(model->QueryPublish());
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "Invalid Index File Name");
+  model->HideIndexFile = true;
+  EXPECT_TRUE(model->Accept());
+  EXPECT_EQ(model->Shown().IndexFile, "index.htm");
+}
+
+TEST_F(PublishModelTest, AFileThatCannotBeWrittenIsToldAndTheServerStillServes) {
+  Open({kOne});
+  std::filesystem::remove(File());
+  std::filesystem::create_directories(File() / "in the way");
+  EXPECT_TRUE(model->Accept());
+  EXPECT_TRUE(model->QueryPublish());
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "File Error");
+}
+
+TEST_F(PublishModelTest, CancelGoesBackToTheServerOfTheOpening) {
+  Open({kOne, kTwo}, 1);
+  const std::string before = Text();
+  model->Select(0);
+  model->Edit(&ServerProfile::UserName, "somebody");
+  model->Cancel();
+  EXPECT_EQ(model->Shown(), kTwo);
+  EXPECT_FALSE(model->QueryPublish());
+  EXPECT_EQ(Text(), before);
+}
+
+TEST_F(PublishModelTest, CancelWithoutThatServerLeavesTheSelection) {
+  Open({kOne, kTwo});
+  model->DeleteServer();
+  model->Cancel();
+  EXPECT_EQ(model->Shown(), kTwo);
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,50 @@
+#include "ui/model/dialogs/RenameModel.h"
+
+namespace vantorium {
+namespace {
+
+TEST(RenameModel, OnlyATextCanBeAccepted) {
+  RenameModel model;
+  EXPECT_FALSE(model.CanAccept());
+  model.SetNameBase("Alps");
+  EXPECT_TRUE(model.CanAccept());
+}
+
+TEST(RenameModel, ABlankBecomesAnUnderscore) {
+  RenameModel model;
+  model.SetNameBase("the high Alps");
+  EXPECT_EQ(model.NameBase(), "the_high_Alps");
+}
+
+TEST(RenameModel, LineEndsAndOtherControlCharactersAreLeftOut) {
+  RenameModel model;
+  model.SetNameBase("a\tb\r\nc\x7F ü\n");
+  EXPECT_EQ(model.NameBase(), "abc_ü");
+  model.SetNameBase("\r\n");
+  EXPECT_EQ(model.NameBase(), "");
+}
+
+TEST(RenameModel, WithoutAnAnswerNoNameChanges) {
+  RenameModel model;
+  model.SetNameBase("Alps");
+  EXPECT_EQ(model.GetNameBase(), "?&null&?");
+}
+
+TEST(RenameModel, AcceptGivesTheTextAndCancelNone) {
+  RenameModel model;
+  model.SetNameBase("Alps");
+  model.Accept();
+  EXPECT_EQ(model.GetNameBase(), "Alps");
+  model.Cancel();
+  EXPECT_EQ(model.GetNameBase(), kNoNameBase);
+}
+
+TEST(RenameModel, TheCheckBoxChoosesTheImages) {
+  RenameModel model;
+  EXPECT_EQ(model.Scope(), RenameScope::CurrentImage);
+  model.RenameAll = true;
+  EXPECT_EQ(model.Scope(), RenameScope::AllImages);
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,320 @@
+#include "env/RuntimeFailure.h"
+#include "image/Resample.h"
+#include "image/Watermark.h"
+#include "tests/fakes/BoxTextRaster.h"
+#include "tests/fakes/SampleFakes.h"
+#include "tests/fakes/ScriptedCommonDialogs.h"
+#include "ui/model/dialogs/FontModel.h"
+#include "ui/model/dialogs/WatermarkModel.h"
+
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+/// Remembers the last font.
+class FontRecordingRaster : public fakes::BoxTextRaster {
+ public:
+  using BoxTextRaster::BoxTextRaster;
+
+  [[nodiscard]] TextExtent Measure(const LogFont& font, std::string_view text, TextForm form) const override {
+    last = font;
+    return BoxTextRaster::Measure(font, text, form);
+  }
+
+  mutable LogFont last;
+};
+
+class WatermarkDialog : public testing::Test {
+ protected:
+  std::unique_ptr<WatermarkModel> Opened(const WatermarkSettings& settings, std::int16_t quality = 85) {
+    auto model = std::make_unique<WatermarkModel>(settings, quality, sources, desk.Ports(),
+                                                  WatermarkPorts{dialogs, texts, screen}, box);
+    model->Open();
+    return model;
+  }
+
+  std::string Expected(const WatermarkSettings& settings, int quality) {
+    cDIBSection source;
+    EXPECT_TRUE(LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
+    const auto picture = Resample(source, box.size.height, box.size.width);
+    LogFont font = MakeWatermarkFont(settings, 96);
+    if (settings.checkUseWatermark == 1) {
+      DrawWatermarkText(*picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color,
+                        static_cast<std::uint8_t>(settings.sliderAlpha), texts);
+    }
+    const auto file = desk.folder.Path() / "expected.jpg";
+    SaveJPEGImage(*picture, file, quality);
+    EXPECT_TRUE(LoadJPEGImage(*picture, file));
+    return fakes::BytesOf(*picture);
+  }
+
+  fakes::SampleDesk desk;
+  fakes::RecordingSampleBox box;
+  fakes::ScriptedCommonDialogs dialogs;
+  FontRecordingRaster texts{20, 10};
+  Screen screen;
+  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, desk.TempFolderLocation()};
+  const WatermarkSettings on{.checkUseWatermark = 1, .textWatermark = "SAMPLE", .comboTextPlacement = 4};
+};
+
+TEST(TextPlacements, AreElevenInTheOrderOfTheirNumbers) {
+  EXPECT_EQ(std::vector<std::string_view>(TextPlacements().begin(), TextPlacements().end()),
+            (std::vector<std::string_view>{"Top Left", "Top Center", "Top Right", "Left Center", "Center",
+                                           "Right Center", "Bottom Left", "Bottom Center", "Bottom Right",
+                                           "Top Left to Bottom Right", "Bottom Left to Top Right"}));
+}
+
+TEST_F(WatermarkDialog, TheSampleIsResizedThenMarkedThenCompressed) {
+  Opened(on, 9);
+  EXPECT_EQ(box.calls, "clear paint ");
+  EXPECT_EQ(box.painted.at(0), Expected(on, 9));
+}
+
+TEST_F(WatermarkDialog, WithoutAWatermarkTheSampleStillShowsTheQuality) {
+  WatermarkSettings off = on;
+  off.checkUseWatermark = 0;
+  const auto model = Opened(off, 100);
+  EXPECT_EQ(box.painted.at(0), Expected(off, 100));
+  model->SetQuality(2);
+  EXPECT_EQ(box.painted.at(1), Expected(off, 2));
+  EXPECT_NE(box.painted[0], box.painted[1]);
+  EXPECT_EQ(texts.drawn, 0);
+}
+
+TEST_F(WatermarkDialog, EachControlShowsTheSampleAnew) {
+  const auto model = Opened(on);
+  WatermarkSettings settings = on;
+  model->SetAlpha(90);
+  settings.sliderAlpha = 90;
+  EXPECT_EQ(box.painted.back(), Expected(settings, 85));
+  model->SetPlacement(8);
+  settings.comboTextPlacement = 8;
+  EXPECT_EQ(box.painted.back(), Expected(settings, 85));
+  model->SetUseWatermark(false);
+  settings.checkUseWatermark = 0;
+  EXPECT_EQ(box.painted.back(), Expected(settings, 85));
+  model->SetQuality(20);
+  EXPECT_EQ(box.painted.back(), Expected(settings, 20));
+  model->Preview();
+  EXPECT_EQ(box.painted.size(), 6U);
+}
+
+TEST_F(WatermarkDialog, ThePlacementThatIsSetAlreadyShowsNothing) {
+  const auto model = Opened(on);
+  model->SetPlacement(4);
+  EXPECT_EQ(box.painted.size(), 1U);
+}
+
+TEST_F(WatermarkDialog, AnEditOfTheTextIsShownWhenItIsLeft) {
+  const auto model = Opened(on);
+  model->LeaveText();
+  EXPECT_EQ(box.painted.size(), 1U) << "nothing was edited";
+  model->EditText("");
+  EXPECT_TRUE(model->TextChanged());
+  EXPECT_EQ(box.painted.size(), 1U);
+  model->LeaveText();
+  EXPECT_FALSE(model->TextChanged());
+  ASSERT_EQ(box.painted.size(), 2U);
+  EXPECT_NE(box.painted[0], box.painted[1]);
+  model->LeaveText();
+  EXPECT_EQ(box.painted.size(), 2U);
+}
+
+TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndReachesTheSettingsWithApply) {
+  const auto model = Opened(on);
+  const FontDescription chosen{.Name = "Serif",
+                               .Size = 20,
+                               .Weight = 400,
+                               .Italic = true,
+                               .Underline = true,
+                               .Strikeout = true,
+                               .Color = 0x0000FF};
+  dialogs.fonts = {chosen};
+  model->BrowseFont();
+  EXPECT_EQ(dialogs.fontsShown.at(0), (FontDescription{.Name = "Arial", .Size = 36, .Weight = 700, .Color = 0xFFFFFF}));
+  ASSERT_EQ(box.painted.size(), 2U);
+  EXPECT_NE(box.painted[0], box.painted[1]);
+  EXPECT_EQ(texts.last.lfFaceName, "Serif");
+  EXPECT_EQ(texts.last.lfHeight, -27);
+  EXPECT_EQ(texts.last.lfWeight, 400);
+  EXPECT_EQ(texts.last.lfItalic + texts.last.lfUnderline + texts.last.lfStrikeOut, 3);
+  EXPECT_EQ(model->WorkingFont(), chosen);
+  EXPECT_EQ(model->Settings().FontName, "Arial");
+  model->Apply();
+  EXPECT_EQ(model->Settings().FontName, "Serif");
+  EXPECT_EQ(model->Settings().FontSize, 20);
+  EXPECT_EQ(model->Settings().FontWeight, 400);
+  EXPECT_TRUE(model->Settings().FontItalic && model->Settings().FontUnderline && model->Settings().FontStrikeout);
+  EXPECT_EQ(model->Settings().Color, 0x0000FFU);
+}
+
+TEST_F(WatermarkDialog, ACancelledFontDialogShowsNothing) {
+  const auto model = Opened(on);
+  dialogs.fonts = {std::nullopt};
+  model->BrowseFont();
+  EXPECT_EQ(box.painted.size(), 1U);
+  EXPECT_EQ(model->WorkingFont().Name, "Arial");
+}
+
+TEST_F(WatermarkDialog, AFontBeyondSixteenBitsIsTakenAtTheirEnd) {
+  const auto model = Opened(on);
+  dialogs.fonts = {FontDescription{.Name = "Arial", .Size = 40000, .Weight = -40000}};
+  model->BrowseFont();
+  model->Apply();
+  EXPECT_EQ(model->Settings().FontSize, std::numeric_limits<std::int16_t>::max());
+  EXPECT_EQ(model->Settings().FontWeight, std::numeric_limits<std::int16_t>::min());
+}
+
+TEST_F(WatermarkDialog, OnAFineScreenTheTextGrowsWithThePixels) {
+  Opened(on);
+  EXPECT_EQ(texts.last.lfHeight, -48);
+  box.ratio = 1.5;
+  Opened(on);
+  EXPECT_EQ(texts.last.lfHeight, -72);
+}
+
+TEST_F(WatermarkDialog, ApplyGivesWhatTheControlsShow) {
+  const auto model = Opened(on, 50);
+  model->EditText("two\r\nlines");
+  model->SetPlacement(10);
+  model->SetAlpha(1);
+  model->SetQuality(99);
+  EXPECT_EQ(model->Settings().comboTextPlacement, 4);
+  EXPECT_EQ(model->WorkingPlacement(), 10);
+  model->Apply();
+  EXPECT_FALSE(model->Cancelled());
+  EXPECT_EQ(model->Settings().textWatermark, "two\r\nlines");
+  EXPECT_EQ(model->Settings().comboTextPlacement, 10);
+  EXPECT_EQ(model->Settings().sliderAlpha, 1);
+  EXPECT_EQ(model->Quality(), 99);
+  EXPECT_TRUE(box.calls.ends_with("hide "));
+}
+
+TEST_F(WatermarkDialog, CancelHidesTheDialog) {
+  const auto model = Opened(on);
+  model->Cancel();
+  EXPECT_TRUE(model->Cancelled());
+  model->Apply();
+  EXPECT_TRUE(model->Cancelled());
+  EXPECT_EQ(box.calls, "clear paint hide ");
+}
+
+TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
+  const auto model = Opened(on);
+  desk.BlockTempFolder();
+  model->SetAlpha(3);
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
+                                          desk.TempFolderLocation() +
+                                          "\".  Please check the Temporary Folder Location.");
+  EXPECT_TRUE(model->Cancelled());
+  EXPECT_EQ(box.calls, "clear paint hide ");
+}
+
+/// A machine without fonts.
+class FailingRaster : public fakes::BoxTextRaster {
+ public:
+  FailingRaster() : BoxTextRaster(20, 10) {}
+  [[nodiscard]] TextMask Draw(const LogFont& /*font*/, std::string_view /*text*/, const TextPlace& /*place*/,
+                              std::int32_t /*width*/, std::int32_t /*height*/) const override {
+    throw RuntimeFailure(FailureKind::FileNotFound, "no font");
+  }
+};
+
+TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsToldAndTheSampleShownWithoutIt) {
+  const FailingRaster failing;
+  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, failing, screen}, box);
+  model.Open();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Watermark");
+  EXPECT_EQ(desk.boxes.boxes[0].text, "no font");
+  WatermarkSettings off = on;
+  off.checkUseWatermark = 0;
+  EXPECT_EQ(box.painted.at(0), Expected(off, 85));
+}
+
+TEST_F(WatermarkDialog, AFontDialogThatFailsIsToldAndTheFontKept) {
+  class Failing : public fakes::ScriptedCommonDialogs {
+   public:
+    [[nodiscard]] bool ShowFontDialog(FontDescription& /*font*/) override {
+      throw RuntimeFailure(FailureKind::OutOfMemory, "no fonts");
+    }
+  } failing;
+  WatermarkModel model(on, 85, sources, desk.Ports(), {failing, texts, screen}, box);
+  model.Open();
+  model.BrowseFont();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].text, "no fonts");
+  EXPECT_EQ(model.WorkingFont().Name, "Arial");
+}
+
+TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsToldAndTheSampleShownWithoutIt) {
+  texts.extent = {40000, 10};
+  const auto model = Opened(on);
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Value");
+  EXPECT_EQ(desk.boxes.boxes[0].text, "Overflow");
+  WatermarkSettings off = on;
+  off.checkUseWatermark = 0;
+  EXPECT_EQ(box.painted.at(0), Expected(off, 85));
+}
+
+TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
+  WatermarkSettings wild = on;
+  wild.sliderAlpha = 0;
+  EXPECT_EQ(Opened(wild, 0)->Settings().sliderAlpha, 1);
+  EXPECT_EQ(Opened(wild, 0)->Quality(), 1);
+  wild.sliderAlpha = 300;
+  EXPECT_EQ(Opened(wild, 101)->Settings().sliderAlpha, 100);
+  EXPECT_EQ(Opened(wild, 101)->Quality(), 100);
+}
+
+TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
+  WatermarkSettings wild = on;
+  wild.comboTextPlacement = 77;
+  const auto model = Opened(wild);
+  model->Apply();
+  EXPECT_EQ(model->Settings().comboTextPlacement, 77);
+}
+
+TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
+  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, texts, screen}, box);
+  model.SetAlpha(5);
+  model.LeaveText();
+  model.Preview();
+  model.Apply();
+  EXPECT_EQ(box.calls, "");
+  EXPECT_TRUE(model.Cancelled());
+}
+
+TEST_F(WatermarkDialog, TheFontIsToldInWords) {
+  const auto model = Opened(on);
+  EXPECT_EQ(model->FontSummary(), "Arial, 36 points, bold");
+  dialogs.fonts = {
+      FontDescription{.Name = "Serif", .Size = 9, .Weight = 400, .Italic = true, .Underline = true, .Strikeout = true}};
+  model->BrowseFont();
+  EXPECT_EQ(model->FontSummary(), "Serif, 9 points, italic, underlined, struck out");
+}
+
+TEST(FontWeights, OnlyAChangeOfBoldChangesTheWeight) {
+  EXPECT_EQ(WeightFor(true, 900), 900);
+  EXPECT_EQ(WeightFor(true, 400), 700);
+  EXPECT_EQ(WeightFor(false, 700), 400);
+  EXPECT_EQ(WeightFor(false, 300), 300);
+  EXPECT_EQ(WeightFor(false, 0), 0);
+}
+
+TEST(FontSamples, LightColoursStandOnADarkGround) {
+  EXPECT_TRUE(NeedsDarkGround(0xFFFFFF));
+  EXPECT_TRUE(NeedsDarkGround(0x00FF00)) << "green";
+  EXPECT_FALSE(NeedsDarkGround(0x000000));
+  EXPECT_FALSE(NeedsDarkGround(0xFF0000)) << "blue";
+}
+
+}  // namespace
+}  // namespace vantorium

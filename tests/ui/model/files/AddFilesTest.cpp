@@ -1,0 +1,77 @@
+#include "core/ImageFormats.h"
+#include "tests/fakes/ProjectFakes.h"
+#include "tests/fakes/ScriptedFileBrowser.h"
+#include "ui/model/files/AddFiles.h"
+
+namespace vantorium {
+namespace {
+
+class AddingFiles : public testing::Test {
+ protected:
+  void Run() { AddFiles({.browser = browser, .preferences = preferences, .images = desk.images}).Run(); }
+  [[nodiscard]] std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (std::size_t i = 1; i <= desk.project.images.Count(); ++i) {
+      names.push_back(desk.project.images.Entry(i).ImageName);
+    }
+    return names;
+  }
+
+  fakes::ProjectDesk desk;
+  fakes::ScriptedFileBrowser browser;
+  Preferences preferences;
+};
+
+TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
+  preferences.ImageSourceFolder = "C:\\photos\\";
+  Run();
+  ASSERT_EQ(browser.requests.size(), 1U);
+  const FileDialogRequest& request = browser.requests[0];
+  EXPECT_EQ(request.title, "Add Images");
+  EXPECT_EQ(request.initialFolder, "C:\\photos\\");
+  EXPECT_EQ(request.filter, ImageFileFilter());
+  EXPECT_TRUE(request.open && request.multiSelect && request.preview);
+}
+
+TEST_F(AddingFiles, EachChosenFileComesAtTheEndUnderItsName) {
+  desk.AddImage("first.jpg");
+  desk.File("b.jpg");
+  desk.File("a.jpg");
+  browser.answer = {.result = "\"b.jpg\" \"a.jpg\"", .folder = desk.PathOf(""), .names = {"b.jpg", "a.jpg"}};
+  Run();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"first.jpg", "b.jpg", "a.jpg"}));
+  EXPECT_EQ(desk.project.images.Entry(3).SourcePath, desk.PathOf("a.jpg"));
+  EXPECT_TRUE(desk.project.IsModified);
+  EXPECT_EQ(preferences.ImageSourceFolder, desk.PathOf(""));
+}
+
+TEST_F(AddingFiles, AWholePathInTheNameBoxIsTakenAsItIs) {
+  const std::string path = desk.File("else/where.jpg");
+  browser.answer = {.result = path, .folder = "C:\\photos\\", .names = {path}};
+  Run();
+  ASSERT_EQ(Names(), (std::vector<std::string>{"where.jpg"}));
+  EXPECT_EQ(desk.project.images.Entry(1).SourcePath, path);
+}
+
+TEST_F(AddingFiles, ACancelChangesNothing) {
+  preferences.ImageSourceFolder = "C:\\photos\\";
+  browser.answer = {.result = "", .folder = "C:\\other\\", .names = {"a.jpg"}};
+  Run();
+  EXPECT_TRUE(Names().empty());
+  EXPECT_EQ(preferences.ImageSourceFolder, "C:\\photos\\");
+  EXPECT_FALSE(desk.project.IsModified);
+  EXPECT_TRUE(desk.boxes.boxes.empty());
+}
+
+TEST_F(AddingFiles, AFileThatCannotBeReadIsToldAndEndsIt) {
+  desk.File("a.jpg");
+  desk.File("c.jpg");
+  browser.answer = {.result = "x", .folder = desk.PathOf(""), .names = {"a.jpg", "gone.jpg", "c.jpg"}};
+  Run();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"a.jpg"}));
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
+  EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,25 @@
+#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/files/ImageSizeLabel.h"
+
+namespace vantorium {
+namespace {
+
+TEST(ImageSizeLabel, HasTheSizesOfThePictureAndOfItsFile) {
+  const fakes::TemporaryFolder folder;
+  std::string jpeg = fakes::MakeJpeg({.width = 40, .height = 30});
+  jpeg.resize(95 * 1024);  // what stands behind the picture counts for the file only
+  EXPECT_EQ(ImageSizeLabel(folder.Write("a.jpg", jpeg)), "(40x30, 95KB)");
+}
+
+TEST(ImageSizeLabel, IsEmptyForWhatCannotBeRead) {
+  const fakes::TemporaryFolder folder;
+  EXPECT_EQ(ImageSizeLabel(std::nullopt), "");
+  EXPECT_EQ(ImageSizeLabel(folder.Path() / "gone.jpg"), "");
+  EXPECT_EQ(ImageSizeLabel(folder.Path()), "");
+  EXPECT_EQ(ImageSizeLabel(folder.Write("text.jpg", "no picture")), "");
+  EXPECT_EQ(ImageSizeLabel(folder.Write("empty.jpg", "")), "");
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,153 @@
+#include "ui/model/main/ControlRules.h"
+
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+bool Holds(std::string_view control, const GalleryProject& project) {
+  for (const ControlRule& rule : ControlRules()) {
+    if (rule.control == control) return rule.holds(project);
+  }
+  ADD_FAILURE() << "no rule for " << control;
+  return false;
+}
+
+/// "ASWH" with a dot for what is hidden: the SetWidth box, width and height.
+std::string SizeControls(const std::string& page, const GalleryProject& project) {
+  std::string shown;
+  shown += Holds("check" + page + "ImageSetWidth", project) ? 'S' : '.';
+  shown += Holds("text" + page + "ImageWidth", project) ? 'W' : '.';
+  shown += Holds("text" + page + "ImageHeight", project) ? 'H' : '.';
+  EXPECT_EQ(Holds("lbl" + page + "ImageWidth", project), Holds("text" + page + "ImageWidth", project));
+  EXPECT_EQ(Holds("ud" + page + "ImageWidth", project), Holds("text" + page + "ImageWidth", project));
+  EXPECT_EQ(Holds("lbl" + page + "ImageHeight", project), Holds("text" + page + "ImageHeight", project));
+  EXPECT_EQ(Holds("ud" + page + "ImageHeight", project), Holds("text" + page + "ImageHeight", project));
+  return shown;
+}
+
+TEST(ControlRules, NameEachControlOnceAProperty) {
+  std::set<std::pair<std::string_view, ControlProperty>> seen;
+  for (const ControlRule& rule : ControlRules()) {
+    EXPECT_TRUE(seen.insert({rule.control, rule.property}).second) << rule.control;
+  }
+}
+
+TEST(ControlRules, WithoutAnAspectRatioBothSizesAreShownAndSetWidthIsHidden) {
+  for (const Flag setWidth : {Flag{0}, Flag{1}}) {
+    GalleryProject project;
+    project.checkImageWrapperImageKeepAspectRatio = 0;
+    project.checkImageWrapperImageSetWidth = setWidth;
+    project.checkThumbnailsImageKeepAspectRatio = 0;
+    project.checkThumbnailsImageSetWidth = setWidth;
+    EXPECT_EQ(SizeControls("ImageWrapper", project), ".WH") << setWidth;
+    EXPECT_EQ(SizeControls("Thumbnails", project), ".WH") << setWidth;
+  }
+}
+
+TEST(ControlRules, WithAnAspectRatioOneSizeIsShown) {
+  for (const Flag setWidth : {Flag{0}, Flag{1}}) {
+    GalleryProject project;
+    project.checkImageWrapperImageKeepAspectRatio = 1;
+    project.checkImageWrapperImageSetWidth = setWidth;
+    project.checkThumbnailsImageKeepAspectRatio = 1;
+    project.checkThumbnailsImageSetWidth = setWidth;
+    const std::string expected = setWidth == 1 ? "SW." : "S.H";
+    EXPECT_EQ(SizeControls("ImageWrapper", project), expected) << setWidth;
+    EXPECT_EQ(SizeControls("Thumbnails", project), expected) << setWidth;
+  }
+}
+
+TEST(ControlRules, OnlyTheSingleFrameHasASlideShowAndAnIndexLink) {
+  for (Choice layout = 0; layout <= 4; ++layout) {
+    GalleryProject project;
+    project.comboGalleryLayoutType = layout;
+    EXPECT_EQ(Holds("frmFrameLayoutSingleFrame", project), layout == 0) << layout;
+    EXPECT_EQ(Holds("frmFrameLayoutMultipleFrames", project), layout != 0) << layout;
+    EXPECT_EQ(Holds("btnPageLinksImageIndexLink", project), layout == 0) << layout;
+    EXPECT_EQ(LayoutPicture(project), layout + 1);
+  }
+}
+
+TEST(ControlRules, TheSlideShowShowsWhatItsChoicesUse) {
+  GalleryProject project;
+  EXPECT_FALSE(Holds("frmFrameLayoutSlideShow", project));
+  project.checkGallerySlideShow = 1;
+  EXPECT_TRUE(Holds("frmFrameLayoutSlideShow", project));
+  for (const char* control : {"checkGallerySlideShowAutoStart", "textGallerySlideShowAutoStartDelay",
+                              "udGallerySlideShowAutoStartDelay", "lblSeconds"}) {
+    project.comboGallerySlideShowBeginWith = 1;
+    EXPECT_FALSE(Holds(control, project)) << control;
+    project.comboGallerySlideShowBeginWith = 0;
+    EXPECT_TRUE(Holds(control, project)) << control;
+  }
+  for (const char* control : {"comboGallerySlideShowStartOverWith", "lblFrameLayoutSlideShowStartOverWith"}) {
+    for (Choice action = 0; action <= 2; ++action) {
+      project.comboGallerySlideShowActionAfterImage = action;
+      EXPECT_EQ(Holds(control, project), action == 0) << control << action;
+    }
+  }
+}
+
+TEST(ControlRules, WithoutWrappersTheirFramesAreHidden) {
+  GalleryProject project;
+  for (const char* frame : {"frmImageWrapperCodeSettings", "frmImageWrapperImageSettings", "frmPageLinksOnImagePages",
+                            "frmCaptionsImages"}) {
+    project.checkImageWrapperUse = 1;
+    EXPECT_TRUE(Holds(frame, project)) << frame;
+    project.checkImageWrapperUse = 0;
+    EXPECT_FALSE(Holds(frame, project)) << frame;
+  }
+}
+
+TEST(ControlRules, ASwitchEnablesWhatItIsAbout) {
+  struct Case {
+    Flag GalleryProject::*flag;
+    const char* control;
+  };
+  const Case cases[] = {
+      {&GalleryProject::checkCaptionsImagesRegular, "btnCaptionsImagesRegular"},
+      {&GalleryProject::checkCaptionsImagesRegular, "comboCaptionsImagesRegularPlacement"},
+      {&GalleryProject::checkCaptionsImagesRegular, "comboCaptionsImagesRegularAlignment"},
+      {&GalleryProject::checkCaptionsImagesPopup, "btnCaptionsImagesPopup"},
+      {&GalleryProject::checkCaptionsThumbnailsRegular, "btnCaptionsThumbnailsRegular"},
+      {&GalleryProject::checkCaptionsThumbnailsRegular, "comboCaptionsThumbnailsRegularPlacement"},
+      {&GalleryProject::checkCaptionsThumbnailsRegular, "comboCaptionsThumbnailsRegularAlignment"},
+      {&GalleryProject::checkCaptionsThumbnailsPopup, "btnCaptionsThumbnailsPopup"},
+      {&GalleryProject::checkImageWrapperSetColors, "btnImageWrapperColors"},
+      {&GalleryProject::checkThumbnailsPageSetColors, "btnThumbnailsPageColors"},
+      {&GalleryProject::checkThumbnailsTableUseBGColor, "btnThumbnailsTableBGColor"},
+      {&GalleryProject::checkPageLinksThumbnailDirectLinks, "textPageLinksThumbnailMaxDirectLinks"},
+  };
+  for (const Case& c : cases) {
+    GalleryProject project;
+    project.*c.flag = 0;
+    EXPECT_FALSE(Holds(c.control, project)) << c.control;
+    project.*c.flag = 1;
+    EXPECT_TRUE(Holds(c.control, project)) << c.control;
+  }
+}
+
+TEST(ControlRules, KeptImageSizesHideTheSizeSettings) {
+  GalleryProject project;
+  EXPECT_TRUE(Holds("frmImageWrapperImageSettingsSub", project));
+  project.checkImageWrapperImageKeepSize = 1;
+  EXPECT_FALSE(Holds("frmImageWrapperImageSettingsSub", project));
+}
+
+TEST(ControlRules, PlacementsFromTheThirdOnAreAboveOrBelow) {
+  ASSERT_EQ(AlignmentLists().size(), 2U);
+  for (const AlignmentList& list : AlignmentLists()) {
+    for (Choice placement = 0; placement <= 3; ++placement) {
+      GalleryProject project;
+      project.*list.placement = placement;
+      EXPECT_EQ(IsAboveOrBelow(list, project), placement >= 2) << placement;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

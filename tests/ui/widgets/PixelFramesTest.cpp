@@ -1,0 +1,87 @@
+#include "ui/widgets/PixelFrames.h"
+#include "ui/widgets/PreviewBox.h"
+
+#include <QImage>
+#include <QListView>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+/// A control at (7, 5) of a window, as it looks on a screen of that scale.
+class OnAScreen {
+ public:
+  OnAScreen(QFrame& control, QSize size, double scale) : control_(control) {
+    window_.resize(size + QSize(20, 20));
+    control.setParent(&window_);
+    control.setStyle(&style_);
+    control.setGeometry({{7, 5}, size});
+    control.show();
+    window_.show();
+    picture_ = QImage((QSizeF(window_.size()) * scale).toSize(), QImage::Format_RGB32);
+    picture_.setDevicePixelRatio(scale);
+    window_.render(&picture_);
+    scale_ = scale;
+  }
+  ~OnAScreen() { control_.setParent(nullptr); }
+
+  /// Pixels of that colour from the outside to a tenth of the control's inside, in the middle of each side: left,
+  /// right, upper, lower.
+  [[nodiscard]] std::vector<int> LinesOf(QColor colour) const {
+    const QRectF place(QPointF(7, 5) * scale_, QSizeF(control_.size()) * scale_);
+    const QPoint middle = place.center().toPoint();
+    std::vector<int> lines;
+    for (const QPoint step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
+      int count = 0;
+      for (QPoint at = middle; picture_.rect().contains(at); at += step) count += picture_.pixelColor(at) == colour;
+      lines.push_back(count);
+    }
+    return lines;
+  }
+
+ private:
+  QFrame& control_;
+  PixelFrames style_;
+  QWidget window_;
+  QImage picture_;
+  double scale_ = 1;
+};
+
+/// The colour of a frame's lines.
+QColor LineColour() {
+  QFrame frame;
+  frame.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  frame.resize(50, 50);
+  return frame.grab().toImage().pixelColor(25, 49);
+}
+
+TEST(PixelFrames, AListBoxKeepsItsFourLinesAtEveryScaleAndSize) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    for (const int height : {60, 61, 62, 63}) {
+      QListView list;
+      const OnAScreen screen(list, {height + 40, height}, scale);
+      for (const int line : screen.LinesOf(LineColour())) EXPECT_GE(line, 1) << scale << " " << height;
+    }
+  }
+}
+
+TEST(PixelFrames, APreviewKeepsItsFourLinesAroundAPictureThatFillsItsInside) {
+  QImage red(8, 6, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    for (const int height : {60, 61, 62, 63}) {
+      PreviewBox box;
+      box.Show(red);
+      const OnAScreen screen(box, {height + 40, height}, scale);
+      for (const int line : screen.LinesOf(LineColour())) EXPECT_GE(line, 1) << scale << " " << height;
+      const std::vector<int> inside = screen.LinesOf(Qt::red);
+      EXPECT_GE(inside[0], std::floor((height + 40) / 2.0 * scale - 2 * scale) - 1) << scale << " " << height;
+      EXPECT_GE(inside[3], std::floor(height / 2.0 * scale - 2 * scale) - 1) << scale << " " << height;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vantorium

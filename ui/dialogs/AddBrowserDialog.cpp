@@ -1,0 +1,13 @@
+#include "ui/dialogs/AddBrowserDialog.h"
+
+#include "ui/dialogs/frmAddBrowser.h"
+
+#include <QApplication>
+
+namespace vantorium {
+
+void AddBrowserDialog::Show(BrowserEntry& entry) {
+  frmAddBrowser(entry, files_, paths_, programFolder_, QApplication::activeModalWidget()).exec();
+}
+
+}  // namespace vantorium

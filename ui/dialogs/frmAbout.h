@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/model/main/ProgramVersion.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class frmAbout;
+}
+
+namespace vantorium {
+
+/// Tells the version of the program and where it lives in the web.
+class frmAbout : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmAbout(const ProgramVersion& version, QWidget* parent = nullptr);
+  ~frmAbout() override;
+
+ private:
+  std::unique_ptr<Ui::frmAbout> ui_;
+};
+
+}  // namespace vantorium

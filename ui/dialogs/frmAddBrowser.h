@@ -1,0 +1,43 @@
+#pragma once
+
+#include "env/PathMap.h"
+#include "ui/model/files/FileBrowser.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class frmAddBrowser;
+}
+
+namespace vantorium {
+
+class BrowserEntry;
+
+/// Asks for the name and the program of one browser.
+class frmAddBrowser : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `programFolder`: path text, where btnBrowse begins.
+  frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const PathMap& paths, std::string programFolder,
+                QWidget* parent = nullptr);
+  ~frmAddBrowser() override;
+
+  void accept() override;
+  void reject() override;
+
+ private:
+  void ChangeLocation();
+  void ShowLocationAsPathText();
+  void Browse();
+  void EnableOK();
+
+  BrowserEntry& entry_;
+  FileBrowser& files_;
+  const PathMap& paths_;
+  std::string programFolder_;
+  std::unique_ptr<Ui::frmAddBrowser> ui_;
+};
+
+}  // namespace vantorium

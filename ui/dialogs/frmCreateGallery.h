@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ui/model/dialogs/CreateGalleryModel.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <memory>
+
+namespace Ui {
+class frmCreateGallery;
+}
+
+namespace vantorium {
+
+/// The last question before a run that writes a result. One for the life of the main window, hidden and shown.
+class frmCreateGallery : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// What it works with; all of it outlives the form.
+  struct Parts {
+    Preferences& preferences;
+    std::filesystem::path serverListFile;
+    const PathMap& paths;
+    MessageBoxPort& boxes;
+    FileBrowser& fileBrowser;
+    FolderBrowser& folderBrowser;
+  };
+
+  frmCreateGallery(const Parts& parts, QWidget* parent);
+  ~frmCreateGallery() override;
+
+  /// Shows the dialog modally. `option` of the result is Cancelled when the user did not want a run.
+  [[nodiscard]] CreateChoice Ask();
+
+  void accept() override;
+  void reject() override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  using Option = CreateGalleryModel::Option;
+  using Edit = void (CreateGalleryModel::*)(const std::string& text);
+
+  void ConnectButtons();
+  void BindOption(QRadioButton& control, Option option);
+  void BindSwitch(QCheckBox& control, CreateGalleryModel::Switch box);
+  void BindText(QLineEdit& control, Edit edit);
+  void BindPath(QLineEdit& control, Edit edit);
+
+  void ShowTexts();
+  void ShowPasswords();
+  void ShowEnabled();
+  void ShowCaptions();
+  void EnableFields();
+  void BrowseServer(bool hideIndexFile, QWidget& password);
+  void BrowseSourceFolder();
+
+  Parts parts_;
+  CreateGalleryModel model_;
+  std::unique_ptr<Ui::frmCreateGallery> ui_;
+};
+
+}  // namespace vantorium

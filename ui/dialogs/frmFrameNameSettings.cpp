@@ -1,0 +1,23 @@
+#include "ui/dialogs/frmFrameNameSettings.h"
+
+#include "ui/widgets/FieldBinder.h"
+#include "ui/widgets/NameBox.h"
+#include "ui_frmFrameNameSettings.h"
+
+namespace vantorium {
+
+frmFrameNameSettings::frmFrameNameSettings(FieldBinder& binder, QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmFrameNameSettings>()) {
+  ui_->setupUi(this);
+  for (const NameField& name : FrameNameFields()) {
+    auto* box = new NameBox(*this, name);
+    box->Show(binder.Project());
+    connect(box, &NameBox::Edited, this,
+            [box, &binder] { binder.Edit([box](ProjectEditor& editor) { box->Store(editor); }); });
+  }
+  connect(ui_->btnClose, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+frmFrameNameSettings::~frmFrameNameSettings() = default;
+
+}  // namespace vantorium

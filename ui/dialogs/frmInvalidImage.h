@@ -1,0 +1,38 @@
+#pragma once
+
+#include "env/Shell.h"
+#include "ui/model/files/InvalidImage.h"
+
+#include <QDialog>
+#include <memory>
+#include <string>
+
+namespace Ui {
+class frmInvalidImage;
+}
+
+namespace vantorium {
+
+/// Asks what to do with an image that does not decode.
+class frmInvalidImage : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmInvalidImage(Shell& shell, QWidget* parent = nullptr);
+  ~frmInvalidImage() override;
+
+  /// Asks, with a beep, and waits for the answer; closing the window means Ignore.
+  [[nodiscard]] InvalidImageAnswer ShowDialog(const std::string& imageName);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Answer(InvalidImageAnswer answer);
+
+  Shell& shell_;
+  std::unique_ptr<Ui::frmInvalidImage> ui_;
+  InvalidImageAnswer answer_ = InvalidImageAnswer::Ignore;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ui/model/dialogs/LinksModel.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLineEdit>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace Ui {
+class frmLinks;
+}
+
+namespace vantorium {
+
+/// The window of LinksModel. However it is closed, it is as by its button.
+class frmLinks : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `model` and `browser` must live as long as the form. An empty `disabledGraphicLabel`: the
+  /// label has its own text.
+  frmLinks(const std::string& title, const std::string& disabledGraphicLabel, LinksModel& model, FileBrowser& browser,
+           QWidget* owner);
+  ~frmLinks() override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void done(int result) override;
+
+ private:
+  void Bind(QLineEdit& control, QAbstractButton& button, LinksModel::Graphic graphic, FileBrowser& browser);
+  void ShowGraphics();
+
+  std::unique_ptr<Ui::frmLinks> ui_;
+  LinksModel& model_;
+};
+
+/// Lets the user edit a page link in a dialog over `owner`, which may be null. `disabledGraphicLabel` is what stands
+/// above the second graphic, empty for none. `graphicsFolder` is where graphics were last browsed for. `edited` is
+/// called at each change: there is no way to take one back.
+[[nodiscard]] LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel,
+                                    const LinkSettings& link, std::string& graphicsFolder, FileBrowser& browser,
+                                    const PathMap& paths, const std::function<void()>& edited, QWidget* owner);
+
+}  // namespace vantorium

@@ -1,0 +1,116 @@
+#include "ui/dialogs/frmProgress.h"
+
+#include "ui/qt/QtText.h"
+#include "ui_frmProgress.h"
+
+#include <algorithm>
+
+namespace vantorium {
+namespace {
+
+constexpr int kDrawInterval = 33;  // milliseconds
+
+void ShowBar(QProgressBar& bar, int maximum, int value) {
+  bar.setRange(0, std::max(maximum, 1));  // a bar from 0 to 0 would be one that knows no end
+  bar.setValue(std::clamp(value, 0, bar.maximum()));
+}
+
+}  // namespace
+
+frmProgress::frmProgress(UploadLog& log, CancelPoll& cancel, Shell& shell, std::string appPath, QWidget* parent)
+    : QDialog(parent),
+      ProgressModel(log),
+      cancel_(cancel),
+      shell_(shell),
+      appPath_(std::move(appPath)),
+      ui_(std::make_unique<Ui::frmProgress>()) {
+  ui_->setupUi(this);
+  setWindowModality(Qt::WindowModal);
+  resize(520, 360);
+  QSizePolicy keepsItsPlace = ui_->pbFile->sizePolicy();
+  keepsItsPlace.setRetainSizeWhenHidden(true);
+  ui_->pbFile->setSizePolicy(keepsItsPlace);
+  due_.setSingleShot(true);
+  due_.setInterval(kDrawInterval);
+  connect(&due_, &QTimer::timeout, this, &frmProgress::DrawChanges);
+  connect(ui_->CancelButton, &QPushButton::clicked, this, &frmProgress::reject);
+  connect(ui_->btnShowLog, &QPushButton::clicked, this, [this] { PressShowLog(shell_, appPath_); });
+}
+
+frmProgress::~frmProgress() = default;
+
+/// The question whether to cancel has an event loop of its own, in which nothing may ask it again.
+void frmProgress::reject() {
+  if (isAsking_) return;
+  isAsking_ = true;
+  PressCancelButton(cancel_);
+  isAsking_ = false;
+}
+
+void frmProgress::Draw(ProgressPart part) {
+  if (part == ProgressPart::Window) return ComeUp();
+  changed_.set(static_cast<std::size_t>(part));
+  if (!isVisible() || due_.isActive()) return;
+  if (drawn_.hasExpired(kDrawInterval)) return DrawChanges();
+  due_.start();
+}
+
+void frmProgress::ComeUp() {
+  changed_.set();
+  DrawChanges();
+  setEnabled(true);  // its owner is not
+  show();
+}
+
+void frmProgress::DrawChanges() {
+  DrawTexts();
+  DrawLog();
+  DrawBars();
+  if (HasChanged(ProgressPart::Buttons)) DrawButtons();
+  if (HasChanged(ProgressPart::Pointer)) IsPointerBusy() ? setCursor(Qt::WaitCursor) : unsetCursor();
+  changed_.reset();
+  due_.stop();
+  drawn_.start();
+}
+
+void frmProgress::DrawTexts() {
+  if (HasChanged(ProgressPart::Caption)) setWindowTitle(ToQt(Caption()));
+  if (HasChanged(ProgressPart::Text1)) ui_->lblText1->setText(ToQt(Text1()));
+  if (HasChanged(ProgressPart::Text2)) ui_->lblText2->setText(ToQt(Text2()));
+}
+
+void frmProgress::DrawLog() {
+  const bool isNew = HasChanged(ProgressPart::LogBox);
+  if (!isNew && !HasChanged(ProgressPart::LogBoxEnd)) return;
+  if (isNew) {
+    ui_->infoText->clear();
+    shownLog_ = 0;
+  }
+  AppendLog(LogBoxText());
+  ui_->infoText->moveCursor(QTextCursor::End);
+  ui_->infoText->ensureCursorVisible();
+}
+
+void frmProgress::AppendLog(const std::string& log) {
+  const std::size_t end = log.ends_with('\r') ? log.size() - 1 : log.size();  // its LF may follow
+  if (end <= shownLog_) return;
+  QTextCursor cursor(ui_->infoText->document());
+  cursor.movePosition(QTextCursor::End);
+  cursor.insertText(LinesToQt(std::string_view(log).substr(shownLog_, end - shownLog_)));
+  shownLog_ = end;
+}
+
+void frmProgress::DrawBars() {
+  if (HasChanged(ProgressPart::Progress)) ShowBar(*ui_->pbProgress, GetMax(), GetProgress());
+  if (!HasChanged(ProgressPart::FileProgress)) return;
+  ui_->pbFile->setVisible(IsFileProgressVisible());
+  ShowBar(*ui_->pbFile, 100, FileProgress());
+}
+
+void frmProgress::DrawButtons() {
+  ui_->CancelButton->setText(ToQt(CancelButtonCaption()));
+  ui_->CancelButton->setDefault(IsShowLogVisible());  // a stray Enter does not cancel a run, but closes a failed one
+  ui_->btnShowLog->setVisible(IsShowLogVisible());
+}
+
+}  // namespace vantorium

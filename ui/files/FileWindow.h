@@ -1,0 +1,66 @@
+#pragma once
+
+#include "ui/model/files/FileChoice.h"
+#include "ui/model/files/FileNameBox.h"
+
+#include <QFileDialog>
+#include <QSet>
+#include <QTimer>
+#include <filesystem>
+
+class QAbstractItemView;
+class QFileSystemModel;
+class QLineEdit;
+class QPushButton;
+
+namespace vantorium {
+
+class FilePreview;
+class FolderPathBox;
+
+/// The window of one file dialog: the toolkit's own, with path text in place of native paths, a preview at its right,
+/// and this program's rules for its name box.
+class FileWindow : public QFileDialog {
+  Q_OBJECT
+
+ public:
+  /// `home`: where it begins when the request names no folder; native.
+  FileWindow(const FileDialogRequest& request, const mFileFunctions& files, MessageBoxPort& boxes,
+             const std::filesystem::path& home, QWidget* parent = nullptr);
+
+  /// What was chosen, once the dialog was accepted.
+  [[nodiscard]] const FileDialogResult& Choice() const { return choice_.Result(); }
+
+ protected:
+  void accept() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void SetUp(const FileDialogRequest& request);
+  void SetUpFilters(const FileDialogRequest& request);
+  void SetUpLayout(const FileDialogRequest& request);
+  void FollowSelection();
+  void Begin(const FileDialogRequest& request, const std::filesystem::path& home);
+
+  [[nodiscard]] std::string FolderText() const;
+  [[nodiscard]] std::size_t NameLength() const;
+  void TellSelection();
+  void TakePathText();
+  void RefreshOk();
+  void EnterFolder(const QString& folder);
+  void TakeLoadedFolder(const QString& folder);
+  void FitColumns();
+
+  const mFileFunctions& files_;
+  FileNameLimit limit_;
+  FileChoice choice_;
+  QTimer selectionChange_;  // several changes in one turn of the event loop are told as one
+  QFileSystemModel* model_ = nullptr;
+  QAbstractItemView* view_ = nullptr;
+  QLineEdit* name_ = nullptr;
+  QPushButton* ok_ = nullptr;
+  FilePreview* preview_ = nullptr;
+  QSet<QString> loadedFolders_;  // native
+};
+
+}  // namespace vantorium

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "env/PathMap.h"
+#include "ui/model/files/Folders.h"
+
+#include <QTreeWidget>
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace vantorium {
+
+/// A tree of the folders of all drives. A folder's own folders are looked up when it is opened; hidden ones are not
+/// shown. With check boxes, whether a folder is checked is asked for whenever it is to be shown.
+class FolderTree : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  using IsChecked = std::function<bool(const std::filesystem::path& native)>;
+
+  explicit FolderTree(QWidget* parent = nullptr);
+
+  /// Fills the tree. `paths` and `folders` outlive it. An empty `isChecked`: there are no check boxes.
+  void ShowDrives(const PathMap& paths, const Folders& folders, IsChecked isChecked = {});
+
+  /// Selects a folder, opens it and scrolls to it: that of `text` or the nearest above that exists, the first drive
+  /// when there is none.
+  void SetSelectedPath(const std::string& text);
+  /// Path text; empty when nothing is selected.
+  [[nodiscard]] std::string SelectedPath() const;
+  /// Native; empty when nothing is selected.
+  [[nodiscard]] std::filesystem::path SelectedFolder() const;
+
+  /// Shows anew which folders are checked.
+  void RefreshChecks();
+
+ signals:
+  void Checked(const std::filesystem::path& native, bool checked);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  [[nodiscard]] QTreeWidgetItem* MakeItem(const std::filesystem::path& native, const QString& text) const;
+  void Load(QTreeWidgetItem& item);
+  [[nodiscard]] QTreeWidgetItem* DriveOf(const std::string& text) const;
+  [[nodiscard]] QTreeWidgetItem* ChildOf(QTreeWidgetItem& item, const std::filesystem::path& native);
+  void ShowCheck(QTreeWidgetItem& item) const;
+
+  const PathMap* paths_ = nullptr;
+  const Folders* folders_ = nullptr;
+  IsChecked isChecked_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,65 @@
+#include "ui/main/ImagePreview.h"
+
+#include "ui/widgets/DevicePixels.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace vantorium {
+namespace {
+
+// Pictures are decoded for at least that many pixels, so that another size or screen finds enough of them.
+constexpr QSize kSmallestBox(800, 600);
+
+}  // namespace
+
+ImagePreview::ImagePreview(QWidget* parent) : QFrame(parent) {
+  connect(&loader_, &PreviewLoader::Loaded, this, &ImagePreview::Show);
+}
+
+void ImagePreview::Load(const std::optional<std::filesystem::path>& file) {
+  const QSize box = DevicePixels(*this).expandedTo(kSmallestBox);
+  loader_.Load(file, {.width = box.width(), .height = box.height()});
+}
+
+void ImagePreview::Clear() {
+  loader_.Cancel();
+  picture_ = {};
+  update();
+}
+
+void ImagePreview::Show(const QImage& picture) {
+  picture_ = picture;
+  fitted_ = {};
+  update();
+  if (picture.isNull()) {
+    emit Failed();
+  } else {
+    emit Shown();
+  }
+}
+
+void ImagePreview::FitPicture() {
+  const QSize size = picture_.size().scaled(DevicePixels(*this), Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  if (fitted_.size() == size && fitted_.devicePixelRatio() == devicePixelRatioF()) return;
+  fitted_ = QPixmap::fromImage(picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  fitted_.setDevicePixelRatio(devicePixelRatioF());
+}
+
+void ImagePreview::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  if (picture_.isNull() || contentsRect().isEmpty()) return;
+  FitPicture();
+  const QSizeF size = fitted_.deviceIndependentSize();
+  const QRectF area = contentsRect();
+  const qreal ratio = devicePixelRatioF();
+  const QPointF corner = area.center() - QPointF(size.width() / 2, size.height() / 2);
+  QPainter(this).drawPixmap(QPointF((corner * ratio).toPoint()) / ratio,
+                            fitted_);  // on whole pixels, so it stays sharp
+}
+
+void ImagePreview::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit DoubleClicked();
+}
+
+}  // namespace vantorium

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ui/files/PreviewLoader.h"
+
+#include <QFrame>
+#include <QPixmap>
+
+namespace vantorium {
+
+/// A picture fitted into a frame, sharp at every scale of the screen. A picture that is asked for takes the place of
+/// the one before when it has been decoded.
+class ImagePreview : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit ImagePreview(QWidget* parent = nullptr);
+
+  /// `file` is native; nothing for one that is not there.
+  void Load(const std::optional<std::filesystem::path>& file);
+  /// Shows nothing.
+  void Clear();
+  /// What is shown; null for nothing.
+  [[nodiscard]] const QImage& Picture() const { return picture_; }
+
+ signals:
+  void Shown();
+  /// The file does not decode; nothing is shown.
+  void Failed();
+  void DoubleClicked();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  void Show(const QImage& picture);
+  void FitPicture();
+
+  PreviewLoader loader_;
+  QImage picture_;
+  QPixmap fitted_;  // the picture in the pixels that it is drawn with
+};
+
+}  // namespace vantorium

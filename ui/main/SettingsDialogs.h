@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ui/main/DesktopPorts.h"
+#include "ui/model/dialogs/SampleDialog.h"
+#include "ui/model/main/SettingsButtons.h"
+
+#include <QObject>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+namespace vantorium {
+
+class ColourDialog;
+class FieldBinder;
+
+/// Opens the dialogs of the settings pages: each button of the tables in SettingsButtons does what its row says.
+class SettingsDialogs : public QObject {
+  Q_OBJECT
+
+ public:
+  struct Parts {
+    FieldBinder& binder;
+    ColourDialog& colours;
+    const DesktopPorts& ports;
+    std::function<SampleSources()> samples;  ///< where the pictures for filters and watermarks come from at the moment
+  };
+
+  /// Connects the buttons below `form`, which outlives this. Throws std::logic_error for a button that is not there.
+  SettingsDialogs(Parts parts, QWidget& form);
+
+ private:
+  void OnClick(std::string_view button, std::function<void()> open);
+  void Edit(const CodeButton& row);
+  void Edit(const HeaderFooterButton& row);
+  void Edit(const BackdropButton& row);
+  void Edit(const ColoursButton& row);
+  void Edit(const LinkButton& row);
+  void Edit(const FiltersButton& row);
+  void Edit(const WatermarkButton& row);
+  void SetIfOther(std::string GalleryProject::*field, const std::string& text);
+  [[nodiscard]] SamplePorts PortsOfSamples() const;
+
+  Parts parts_;
+  QWidget& form_;
+  std::string graphicsFolder_;
+};
+
+}  // namespace vantorium

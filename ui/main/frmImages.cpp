@@ -1,0 +1,182 @@
+#include "ui/main/frmImages.h"
+
+#include "core/RandomNumbers.h"
+#include "ui/dialogs/frmFind.h"
+#include "ui/dialogs/frmInvalidImage.h"
+#include "ui/dialogs/frmRename.h"
+#include "ui/dialogs/frmShuffle.h"
+#include "ui/files/frmAddFoldersProcess.h"
+#include "ui/model/dialogs/RenameModel.h"
+#include "ui/model/files/AddFiles.h"
+#include "ui/model/files/FolderWalk.h"
+#include "ui/model/files/ImageSizeLabel.h"
+#include "ui/qt/QtText.h"
+#include "ui_frmImages.h"
+
+#include <QApplication>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+namespace vantorium {
+
+frmImages::frmImages(const Parts& parts, QWidget* parent)
+    : QWidget(parent), parts_(parts), ui_(std::make_unique<Ui::frmImages>()) {
+  ui_->setupUi(this);
+  ui_->lvImagesList->Attach(parts_.project.images);
+  ConnectList();
+  ConnectPreview();
+  ConnectButtons();
+  RefreshList();
+  RefreshPreview();
+}
+
+frmImages::~frmImages() = default;
+
+void frmImages::ConnectList() {
+  ImageListView* list = ui_->lvImagesList;
+  connect(list, &ImageListView::CurrentRowChanged, this, [this] {
+    RefreshPreview();
+    emit CurrentChanged();
+  });
+  connect(list, &ImageListView::FullScreenAsked, this, &frmImages::AskForFullScreen);
+  connect(list, &ImageListView::DeletePressed, this, [this] { Do([this] { parts_.images.RemoveSelected(); }); });
+  connect(list, &ImageListView::InsertPressed, this, &frmImages::AddChosenFiles);
+  connect(list, &ImageListView::Dropped, this,
+          [this](const std::string& name, std::size_t target) { Do([&] { parts_.images.Drop(name, target); }); });
+  parts_.binder.Bind(*ui_->comboImagesSortingOrder, &GalleryProject::comboImagesSortingOrder,
+                     [this](Choice index) { Do([&] { parts_.images.SetSortingOrder(index); }); });
+}
+
+void frmImages::ConnectPreview() {
+  connect(ui_->pbImagesPreview, &ImagePreview::DoubleClicked, this, &frmImages::AskForFullScreen);
+  connect(ui_->pbImagesPreview, &ImagePreview::Failed, this, &frmImages::AskAboutInvalidImage);
+  connect(ui_->checkImagesPreview, &QCheckBox::toggled, this, [this](bool checked) {
+    parts_.preferences.checkImagesPreview = checked ? 1 : 0;
+    RefreshPreview();
+  });
+}
+
+void frmImages::ConnectButtons() {
+  const auto connectTo = [this](QAbstractButton* button, void (frmImages::*slot)()) {
+    connect(button, &QAbstractButton::clicked, this, slot);
+  };
+  connectTo(ui_->btnImagesAddFiles, &frmImages::AddChosenFiles);
+  connectTo(ui_->btnImagesAddFolder, &frmImages::AddChosenFolders);
+  connectTo(ui_->btnImagesRename, &frmImages::Rename);
+  connect(this, &frmImages::CurrentChanged, ui_->btnImagesRename,
+          [this] { ui_->btnImagesRename->setEnabled(CurrentEntry() != nullptr); });
+  connectTo(ui_->btnImagesFind, &frmImages::Find);
+  connectTo(ui_->btnImagesShuffle, &frmImages::Shuffle);
+
+  const auto connectOperation = [this](QAbstractButton* button, std::function<void()> operation) {
+    connect(button, &QAbstractButton::clicked, this, [this, operation = std::move(operation)] { Do(operation); });
+  };
+  connectOperation(ui_->btnImagesRemove, [this] { parts_.images.RemoveSelected(); });
+  connectOperation(ui_->btnImagesRemoveAll, [this] { parts_.images.RemoveAll(); });
+  connectOperation(ui_->btnImagesMoveUp, [this] { parts_.images.MoveSelectedUp(); });
+  connectOperation(ui_->btnImagesMoveDown, [this] { parts_.images.MoveSelectedDown(); });
+}
+
+// The list is shown again when the operation is through: meanwhile its rows and the view's need not be the same.
+void frmImages::Do(const std::function<void()>& operation) {
+  {
+    const QScopedValueRollback guard(working_, true);
+    parts_.binder.Edit([&](ProjectEditor&) { operation(); });
+  }
+  RefreshList();
+  emit ListChanged();
+}
+
+void frmImages::RefreshList() {
+  ui_->lvImagesList->Refresh();
+  if (scrollTo_ != 0) ui_->lvImagesList->ScrollToPosition(scrollTo_);
+  scrollTo_ = 0;
+  const QSignalBlocker quiet(ui_->checkImagesPreview);
+  ui_->checkImagesPreview->setChecked(parts_.preferences.checkImagesPreview == 1);
+  emit CurrentChanged();
+}
+
+void frmImages::ScrollIntoView(std::size_t position) {
+  if (working_) {
+    scrollTo_ = position;
+  } else {
+    ui_->lvImagesList->ScrollToPosition(position);
+  }
+}
+
+void frmImages::RefreshPreview() {
+  const ImageEntry* entry = CurrentEntry();
+  const auto file = entry == nullptr ? std::nullopt : parts_.paths.ToNative(entry->SourcePath);
+  ui_->lblImagesSize->setText(ToQt(ImageSizeLabel(file)));
+  if (entry == nullptr || parts_.preferences.checkImagesPreview != 1) {
+    ui_->pbImagesPreview->Clear();
+  } else {
+    ui_->pbImagesPreview->Load(file);
+  }
+}
+
+const ImageEntry* frmImages::CurrentEntry() const {
+  const ImageList& images = parts_.project.images;
+  return images.Current() == 0 ? nullptr : &images.Entry(images.Current());
+}
+
+void frmImages::AskForFullScreen() {
+  if (const ImageEntry* entry = CurrentEntry()) emit FullScreenPreviewAsked(entry->ImageName, entry->SourcePath);
+}
+
+// Nothing is asked in the middle of something else, a run for example: its answer could change the list under it. The
+// preview then stays empty.
+void frmImages::AskAboutInvalidImage() {
+  const ImageEntry* entry = CurrentEntry();
+  if (entry == nullptr || working_ || QApplication::activeModalWidget() != nullptr || !window()->isEnabled()) return;
+  frmInvalidImage question(parts_.shell, this);
+  switch (question.ShowDialog(entry->ImageName)) {
+    case InvalidImageAnswer::Remove:
+      return Do([this] { parts_.images.RemoveCorrupted(); });
+    case InvalidImageAnswer::Retry:
+      return RefreshPreview();
+    case InvalidImageAnswer::Ignore:
+      break;
+  }
+}
+
+void frmImages::AddChosenFiles() {
+  Do([this] {
+    AddFiles({.browser = parts_.browser, .preferences = parts_.preferences, .images = parts_.images}).Run();
+  });
+}
+
+void frmImages::AddChosenFolders() {
+  const auto folders = parts_.askForImageFolders();
+  if (folders.empty()) return;
+  parts_.preferences.ImageSourceFolder = folders.front();
+  frmAddFoldersProcess progress(this);
+  FolderWalk walk({.project = parts_.project,
+                   .images = parts_.images,
+                   .paths = parts_.paths,
+                   .boxes = parts_.boxes,
+                   .loop = parts_.loop});
+  Do([&] { walk.Run(folders, progress); });
+  RefreshPreview();
+}
+
+void frmImages::Rename() {
+  RenameModel model;
+  model.SetNameBase(CurrentEntry()->ImageName);  // without a current image the button is disabled
+  frmRename(model, this).exec();
+  Do([&] { parts_.images.Rename(model.GetNameBase(), model.Scope()); });
+}
+
+void frmImages::Find() {
+  if (parts_.project.images.Empty()) return;
+  frmFind(find_, this).exec();
+  Do([this] { parts_.images.FindByName(find_.Result); });
+}
+
+void frmImages::Shuffle() {
+  frmShuffle progress(this);
+  ClockSeededNumbers random(parts_.clock);
+  Do([&] { parts_.images.Shuffle({.progress = progress, .eventLoop = parts_.loop, .random = random}); });
+}
+
+}  // namespace vantorium

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "core/ImageListOperations.h"
+#include "core/Project.h"
+#include "env/Clock.h"
+#include "env/EventLoop.h"
+#include "env/MessageBoxPort.h"
+#include "env/PathMap.h"
+#include "env/Preferences.h"
+#include "env/Shell.h"
+#include "ui/model/dialogs/FindModel.h"
+#include "ui/model/files/FileBrowser.h"
+#include "ui/widgets/FieldBinder.h"
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Ui {
+class frmImages;
+}
+
+namespace vantorium {
+
+/// The page of the image list.
+class frmImages : public QWidget {
+  Q_OBJECT
+
+ public:
+  struct Parts {
+    Project& project;
+    ImageListOperations& images;
+    FieldBinder& binder;
+    MessageBoxPort& boxes;
+    EventLoop& loop;
+    Shell& shell;
+    const Clock& clock;
+    const PathMap& paths;
+    FileBrowser& browser;
+    Preferences& preferences;
+    /// The folders that the user chose to add, path text; none when that was cancelled.
+    std::function<std::vector<std::string>()> askForImageFolders;
+  };
+
+  explicit frmImages(const Parts& parts, QWidget* parent = nullptr);
+  ~frmImages() override;
+
+  /// Shows the list as it is now, for after a change that did not come from this page. May not be called while an
+  /// operation on the list is under way.
+  void RefreshList();
+  /// Begins to show the current image; what does not decode is asked about later, from the event loop.
+  void RefreshPreview();
+  /// `position` counts from 1. While an operation of this page is under way, its last call counts at the end.
+  void ScrollIntoView(std::size_t position);
+
+ signals:
+  /// Another row is the current one, or its texts may have changed.
+  void CurrentChanged();
+  /// An operation of this page is through.
+  void ListChanged();
+  /// `file` is path text.
+  void FullScreenPreviewAsked(const std::string& description, const std::string& file);
+
+ private:
+  void ConnectList();
+  void ConnectPreview();
+  void ConnectButtons();
+  void Do(const std::function<void()>& operation);
+  void AddChosenFiles();
+  void AddChosenFolders();
+  void Rename();
+  void Find();
+  void Shuffle();
+  void AskForFullScreen();
+  void AskAboutInvalidImage();
+  [[nodiscard]] const ImageEntry* CurrentEntry() const;
+
+  Parts parts_;
+  std::unique_ptr<Ui::frmImages> ui_;
+  FindModel find_;
+  bool working_ = false;      // an operation is changing the list
+  std::size_t scrollTo_ = 0;  // where it wants to go
+};
+
+}  // namespace vantorium

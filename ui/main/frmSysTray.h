@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ui/model/main/SysTrayMenu.h"
+
+#include <QElapsedTimer>
+#include <QIcon>
+#include <QMenu>
+#include <QObject>
+#include <QSystemTrayIcon>
+#include <functional>
+
+namespace vantorium {
+
+/// The icon in the desktop's tray and its menu. Without a tray there is no icon until one comes, and everything else
+/// works the same.
+class frmSysTray : public QObject {
+  Q_OBJECT
+
+ public:
+  using TrayCheck = std::function<bool()>;
+
+  explicit frmSysTray(SysTrayMenu menu, const QIcon& icon,
+                      TrayCheck isTrayAvailable = QSystemTrayIcon::isSystemTrayAvailable, QObject* parent = nullptr);
+
+  // As in SysTrayMenu.
+  std::int32_t AddMenuItem(const std::string& caption, const std::string& key, bool isDefault = false);
+  void EnableMenuItem(std::int32_t index, bool enabled);
+  void RemoveMenuItem(std::int32_t index);
+  void SetDefaultMenuIndex(std::int32_t index);
+  void SetToolTip(const std::string& text);
+  [[nodiscard]] const SysTrayMenu& Menu() const { return menu_; }
+
+  void SetIcon(const QIcon& icon) { trayIcon_.setIcon(icon); }
+  /// While it is disabled, as during a run, its menu chooses nothing and no signal is sent.
+  void SetEnabled(bool enabled);
+  /// Shows the menu at the mouse pointer, unless the desktop shows it already.
+  void ShowMenu();
+
+ signals:
+  /// An entry was chosen: with the mouse or the keyboard, or the default by a double click on the icon.
+  void MenuClick(int index, const QString& key);
+  void SysTrayMouseDown(Qt::MouseButton button);
+  void SysTrayDoubleClick();
+
+ private:
+  void Show();
+  void AddAction(std::int32_t index);
+  [[nodiscard]] bool ShowIcon();
+  void WatchForTray();
+  void Activate(QSystemTrayIcon::ActivationReason reason);
+  void Trigger();
+  void DoubleClick();
+  void Choose(std::int32_t index);
+
+  SysTrayMenu menu_;
+  QMenu popup_;
+  QSystemTrayIcon trayIcon_;
+  TrayCheck isTrayAvailable_;
+  QElapsedTimer trigger_;      ///< since the click that may be the first of two
+  QElapsedTimer doubleClick_;  ///< since the last one that was acted on
+  bool enabled_ = true;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,11 @@
+#include "ui/model/dialogs/FindModel.h"
+
+#include "ui/model/dialogs/TypedName.h"
+
+namespace vantorium {
+
+void FindModel::SetTitle(const std::string& title) {
+  title_ = TypedName(title);
+}
+
+}  // namespace vantorium

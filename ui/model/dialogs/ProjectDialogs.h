@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/ProjectFileDialog.h"
+#include "ui/model/files/FileBrowser.h"
+
+namespace vantorium {
+
+/// The dialog for project files, shown by the file dialog of the whole program.
+class ProjectFileDialogWindow : public ProjectFileDialog {
+ public:
+  explicit ProjectFileDialogWindow(FileBrowser& browser) : browser_(browser) {}
+
+  [[nodiscard]] std::string Choose(const Request& request) override {
+    return browser_
+        .DisplayFileDialog({.open = request.purpose == Purpose::Open,
+                            .title = request.title,
+                            .initialFolder = request.folder,
+                            .fileName = request.fileName,
+                            .filter = request.filter,
+                            .defaultExtension = request.defaultExtension})
+        .result;
+  }
+
+ private:
+  FileBrowser& browser_;
+};
+
+}  // namespace vantorium

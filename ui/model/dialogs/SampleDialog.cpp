@@ -1,0 +1,67 @@
+#include "ui/model/dialogs/SampleDialog.h"
+
+#include "env/RuntimeFailure.h"
+#include "env/TempFolderLock.h"
+#include "image/JPEG.h"
+
+namespace vantorium {
+namespace {
+
+constexpr char kFailureTitle[] = "Unable to load default Preview Image";
+
+bool Load(cDIBSection& picture, const std::string& path, const PathMap& paths) {
+  if (path.empty()) return false;
+  const auto native = paths.ToNative(path);
+  return native && LoadJPEGImage(picture, *native);
+}
+
+}  // namespace
+
+SampleDialog::SampleDialog(const SampleSources& sources, const SamplePorts& ports, SampleBox& box)
+    : sources_(sources), ports_(ports), box_(box) {}
+
+bool SampleDialog::Open() {
+  box_.Clear();
+  ports_.loop.Turn();
+  if (closed_) return false;
+  source_ = LoadSource();
+  if (source_ != nullptr) return true;
+  ports_.boxes.Critical(kFailureTitle, "Vantorium was unable to load the default Preview Image.");
+  Close(true);
+  return false;
+}
+
+std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
+  auto picture = std::make_unique<cDIBSection>();
+  if (Load(*picture, sources_.selectedFile, ports_.files.Paths())) return picture;
+  for (const std::string& sample : sources_.defaultSamples) {
+    if (Load(*picture, sample, ports_.files.Paths())) return picture;
+  }
+  return nullptr;
+}
+
+bool SampleDialog::Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const {
+  const auto file = ports_.files.Paths().ToNative(TempFile());
+  if (!file || !ports_.files.MakePath(TempFolder()) || !RefusalOfTempFolder(file->parent_path()).empty()) return false;
+  try {
+    SaveJPEGImage(picture, *file, quality);
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+  return LoadJPEGImage(result, *file);
+}
+
+void SampleDialog::Close(bool cancelled) {
+  if (closed_) return;
+  closed_ = true;
+  cancelled_ = cancelled;
+  box_.HideDialog();
+}
+
+void SampleDialog::CloseWithFailure(const std::string& place) {
+  ports_.boxes.Critical(kFailureTitle, "Vantorium was unable to load the default Preview Image in \"" + place +
+                                           "\".  Please check the Temporary Folder Location.");
+  Close(true);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,45 @@
+#include "ui/model/dialogs/ServerPlace.h"
+
+#include "env/PathText.h"
+#include "env/Text.h"
+#include "publish/FTPPath.h"
+
+#include <algorithm>
+
+namespace vantorium {
+namespace {
+
+/// Letters beyond ASCII are left to the system that looks the name up.
+bool IsLetterOrDigit(char letter) {
+  return (letter >= '0' && letter <= '9') || (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') ||
+         static_cast<unsigned char>(letter) >= 0x80;
+}
+
+bool IsHost(std::string_view text) {
+  return !text.empty() && IsLetterOrDigit(text.front()) && std::ranges::all_of(text, [](char letter) {
+    return IsLetterOrDigit(letter) || letter == '.' || letter == '-' || letter == '_';
+  });
+}
+
+bool IsControl(char letter) {
+  return static_cast<unsigned char>(letter) < 0x20 || letter == 0x7F;
+}
+
+std::string_view WithoutScheme(std::string_view text) {
+  constexpr std::string_view kScheme = "ftp://";
+  return EqualsIgnoringCase(text.substr(0, kScheme.size()), kScheme) ? text.substr(kScheme.size()) : text;
+}
+
+}  // namespace
+
+std::optional<ServerPlace> ReadServerPlace(std::string_view typed) {
+  const std::string slashed = WithSlashes(typed);
+  const std::string_view text = WithoutScheme(slashed);
+  const std::string_view host = text.substr(0, text.find('/'));
+  if (host == text || !IsHost(host) || std::ranges::any_of(text, IsControl)) return std::nullopt;
+  std::string path = RelativeToSession(text.substr(host.size()));
+  while (path.find("//") != std::string::npos) path = ReplaceAll(path, "//", "/");
+  return ServerPlace{std::string(host), path};
+}
+
+}  // namespace vantorium

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "env/RuntimeFailure.h"
+#include "env/Screen.h"
+#include "env/mCommonDialogs.h"
+#include "image/TextRaster.h"
+#include "image/WatermarkSettings.h"
+#include "ui/model/dialogs/SampleDialog.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace vantorium {
+
+/// The places of a watermark as the dialog calls them, in the order of their numbers.
+[[nodiscard]] std::span<const std::string_view> TextPlacements();
+
+/// What else the watermark dialog needs of the program.
+struct WatermarkPorts {
+  mCommonDialogs& dialogs;
+  const TextRaster& texts;
+  const Screen& screen;
+};
+
+/// The dialog for the watermark of one target and the JPEG quality of its files. Its sample is made as a gallery's
+/// image is: the size, the watermark, the JPEG file.
+class WatermarkModel {
+ public:
+  /// Values beyond the end of their slider are put there.
+  WatermarkModel(const WatermarkSettings& settings, std::int16_t quality, const SampleSources& sources,
+                 const SamplePorts& samplePorts, const WatermarkPorts& ports, SampleBox& box);
+
+  /// The dialog has come up: loads the sample and shows it.
+  void Open();
+
+  // What the controls do. All but the text's edit show the sample anew.
+  void SetUseWatermark(bool use);
+  void EditText(const std::string& text);
+  void LeaveText();  ///< shows the sample only when the text was edited since it was last left
+  void SetPlacement(std::int16_t placement);
+  void SetAlpha(std::int16_t alpha);
+  void SetQuality(std::int16_t quality);
+  void BrowseFont();
+
+  void Preview();
+
+  void Apply();
+  void Cancel() { dialog_.Close(true); }
+
+  [[nodiscard]] bool Cancelled() const { return dialog_.Cancelled(); }
+  [[nodiscard]] bool TextChanged() const { return textChanged_; }
+  /// The font and the placement are those of the last Apply, the rest is what the controls show.
+  [[nodiscard]] const WatermarkSettings& Settings() const { return settings_; }
+  [[nodiscard]] std::int16_t Quality() const { return quality_; }
+
+  // What the controls show of what is not applied yet.
+  [[nodiscard]] const FontDescription& WorkingFont() const { return workingFont_; }
+  [[nodiscard]] std::int16_t WorkingPlacement() const { return workingPlacement_; }
+  /// The working font in words, such as "Arial, 36 points, bold".
+  [[nodiscard]] std::string FontSummary() const;
+
+ private:
+  [[nodiscard]] WatermarkSettings WorkingSettings() const;
+  void DrawWatermark(cDIBSection& picture) const;
+  void Tell(const RuntimeFailure& failure) const;
+
+  WatermarkSettings settings_;
+  std::int16_t quality_;
+  FontDescription workingFont_;
+  std::int16_t workingPlacement_;
+  bool textChanged_ = false;
+
+  SamplePorts samplePorts_;
+  WatermarkPorts ports_;
+  SampleBox& box_;
+  std::string tempFolder_;
+  SampleDialog dialog_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,32 @@
+#include "ui/model/files/AddFiles.h"
+
+#include "core/ImageFormats.h"
+#include "env/PathText.h"
+
+namespace vantorium {
+namespace {
+
+/// A name in the folder of the dialog; a whole path that was typed stays what it is.
+std::string PathOf(const std::string& folder, const std::string& name) {
+  const bool isWhole = name.starts_with('\\') || (name.size() > 1 && name[1] == ':');
+  return isWhole ? name : WithTrailingBackslash(folder) + name;
+}
+
+}  // namespace
+
+void AddFiles::Run() {
+  const FileDialogResult chosen =
+      parts_.browser.DisplayFileDialog({.open = true,
+                                        .multiSelect = true,
+                                        .title = "Add Images",
+                                        .initialFolder = parts_.preferences.ImageSourceFolder,
+                                        .filter = ImageFileFilter(),
+                                        .preview = true});
+  if (chosen.result.empty()) return;
+  parts_.preferences.ImageSourceFolder = chosen.folder;
+  std::vector<std::string> paths;
+  for (const std::string& name : chosen.names) paths.push_back(PathOf(chosen.folder, name));
+  parts_.images.AddFiles(paths);
+}
+
+}  // namespace vantorium

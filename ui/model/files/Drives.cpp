@@ -1,0 +1,24 @@
+#include "ui/model/files/Drives.h"
+
+namespace vantorium {
+namespace {
+
+/// "/data/" and "/data" are the same folder; "/" stays.
+std::filesystem::path WithoutSeparatorAtItsEnd(const std::filesystem::path& folder) {
+  return folder.has_filename() || !folder.has_relative_path() ? folder : folder.parent_path();
+}
+
+}  // namespace
+
+std::vector<Drive> DrivesOf(const PathMap& paths) {
+  std::vector<Drive> drives;
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const auto folder = paths.ToNative(std::string(1, letter) + ":\\");
+    std::error_code error;
+    if (!folder || !std::filesystem::is_directory(*folder, error)) continue;
+    drives.push_back({letter, WithoutSeparatorAtItsEnd(*folder)});
+  }
+  return drives;
+}
+
+}  // namespace vantorium

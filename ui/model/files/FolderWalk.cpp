@@ -1,0 +1,96 @@
+#include "ui/model/files/FolderWalk.h"
+
+#include "core/ImageFormats.h"
+#include "core/file/XmlText.h"
+#include "env/PathText.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include <fmt/format.h>
+
+namespace fs = std::filesystem;
+
+namespace vantorium {
+namespace {
+
+constexpr std::size_t kMostProblemsTold = 8;
+
+}  // namespace
+
+void FolderWalk::Run(const std::vector<std::string>& folders, FolderWalkProgress& progress) {
+  progress_ = &progress;
+  added_ = 0;
+  problems_.clear();
+  lastTurn_ = {};
+  progress.Open();
+  for (const std::string& folder : folders) {
+    if (!AddFolder(folder)) break;
+  }
+  progress.Close();
+  if (added_ != 0) parts_.project.IsModified = true;
+  TellProblems();
+}
+
+/// False when the walk has to end.
+bool FolderWalk::AddFolder(const std::string& folder) {
+  folder_ = folder;
+  for (const std::string& name : ImagesIn(folder)) {
+    if (!GoesOn() || !AddImage(WithTrailingBackslash(folder) + name, name)) return false;
+  }
+  return GoesOn();
+}
+
+/// The names of a folder's photographs, sorted; none when the user cancels meanwhile.
+std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  const auto native = parts_.paths.ToNative(folder);
+  std::error_code error = native ? std::error_code() : std::make_error_code(std::errc::no_such_file_or_directory);
+  fs::directory_iterator entry = native ? fs::directory_iterator(*native, error) : fs::directory_iterator();
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    if (!GoesOn()) return {};
+    std::error_code unknown;
+    std::string name = entry->path().filename().string();
+    if (IsSupportedImageExtension(GetFileExtension(name)) && entry->is_regular_file(unknown)) {
+      names.push_back(std::move(name));
+    }
+  }
+  if (error) problems_.push_back(fmt::format("\"{}\" cannot be read: {}.", ToXmlText(folder), error.message()));
+  std::ranges::sort(names);
+  return names;
+}
+
+/// False when the file could not be read, which the user was told. A name with a backslash would be another file's
+/// path.
+bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
+  if (!IsXmlText(path) || name.find('\\') != std::string::npos) {
+    problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", ToXmlText(path)));
+    return true;
+  }
+  if (!parts_.images.AddFile(path)) return false;
+  ++added_;
+  return true;
+}
+
+/// Lets the window live from time to time, and tells whether the user has not cancelled.
+bool FolderWalk::GoesOn() {
+  if (Clock::now() - lastTurn_ >= pace_) {
+    progress_->Show(folder_, added_);
+    parts_.loop.Turn();
+    lastTurn_ = Clock::now();
+  }
+  return !progress_->IsCancelled();
+}
+
+void FolderWalk::TellProblems() {
+  if (problems_.empty()) return;
+  std::string text;
+  for (const std::string& problem : problems_ | std::views::take(kMostProblemsTold)) text += problem + "\r";
+  if (problems_.size() > kMostProblemsTold) {
+    text += fmt::format("There are {} more of these.\r", problems_.size() - kMostProblemsTold);
+  }
+  text.pop_back();
+  parts_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Add Folder to Gallery", text);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,17 @@
+#include "ui/model/files/ImageSizeLabel.h"
+
+#include "core/ImageListTexts.h"
+#include "image/JPEG.h"
+
+namespace vantorium {
+
+std::string ImageSizeLabel(const std::optional<std::filesystem::path>& file) {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  if (!file || !ReadJPEGSize(*file, width, height)) return {};
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(*file, error);
+  return error ? std::string() : ImageSizeText(width, height, size);
+}
+
+}  // namespace vantorium

@@ -1,0 +1,29 @@
+#include "ui/model/files/ReducedPicture.h"
+
+#include "image/JPEGDecoder.h"
+
+#include <algorithm>
+
+namespace vantorium {
+
+int DivisorFor(PictureSize picture, PictureSize box) {
+  const int most = std::max(picture.width / std::max(1, box.width), picture.height / std::max(1, box.height));
+  int divisor = 1;
+  while (divisor < 8 && divisor * 2 <= most) divisor *= 2;
+  return divisor;
+}
+
+bool LoadReducedPicture(cDIBSection& dib, const std::filesystem::path& file, PictureSize box,
+                        const std::stop_token& stop) {
+  JPEGDecoder decoder;
+  decoder.StopWith(stop);
+  if (!decoder.Open(file) || !decoder.IsPlausible()) return false;
+  decoder.ReduceBy(DivisorFor({.width = decoder.width(), .height = decoder.height()}, box));
+  if (!dib.Create(decoder.OutputWidth(), decoder.OutputHeight()) || !decoder.Start()) return false;
+  for (std::int32_t row = dib.height() - 1; row >= 0; --row) {
+    if (!decoder.ReadRow(dib.Row(row))) return false;
+  }
+  return decoder.Finish();
+}
+
+}  // namespace vantorium

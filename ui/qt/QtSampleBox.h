@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/model/dialogs/SampleDialog.h"
+#include "ui/widgets/PictureBox.h"
+
+#include <QDialog>
+
+namespace vantorium {
+
+/// A dialog with a picture box for its sample.
+class QtSampleBox : public SampleBox {
+ public:
+  QtSampleBox(QDialog& dialog, PictureBox& box) : dialog_(dialog), box_(box) {}
+
+  [[nodiscard]] PictureSize SizeInPixels() const override { return box_.SizeInPixels(); }
+  [[nodiscard]] double PixelRatio() const override { return box_.devicePixelRatioF(); }
+  void Clear() override { box_.Clear(); }
+  void PaintPicture(const cDIBSection& picture) override { box_.Show(picture); }
+  void HideDialog() override { dialog_.hide(); }
+
+ private:
+  QDialog& dialog_;
+  PictureBox& box_;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,50 @@
+#include "ui/widgets/PictureBox.h"
+
+#include "ui/qt/QtPicture.h"
+#include "ui/widgets/DevicePixels.h"
+
+#include <QPainter>
+
+namespace vantorium {
+namespace {
+
+constexpr QSize kInside(440, 330);
+
+}  // namespace
+
+PictureBox::PictureBox(QWidget* parent) : QFrame(parent) {
+  setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize PictureBox::sizeHint() const {
+  return kInside + QSize(2 * frameWidth(), 2 * frameWidth());
+}
+
+PictureSize PictureBox::SizeInPixels() const {
+  const QSize size = DevicePixels(*this);
+  return {size.width(), size.height()};
+}
+
+void PictureBox::Clear() {
+  shown_ = {};
+  update();
+}
+
+void PictureBox::Show(const cDIBSection& picture) {
+  const PictureSize size = SizeInPixels();
+  shown_ = QImage(size.width, size.height, QImage::Format_ARGB32_Premultiplied);
+  shown_.fill(Qt::transparent);
+  QPainter painter(&shown_);
+  PaintPicture(picture, painter);
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  if (shown_.isNull()) return;
+  QPainter painter(this);
+  painter.drawImage(contentsRect(), shown_);
+}
+
+}  // namespace vantorium
