@@ -24,7 +24,7 @@ std::size_t Bytes(const cDIBSection& dib) {
   return static_cast<std::size_t>(dib.BytesPerScanLine()) * static_cast<std::size_t>(dib.height());
 }
 
-// The same random picture for all; filters change it, but no filter's time depends on the colours.
+// The same random picture for all; filters change it, but no filter's time depends on the colors.
 cDIBSection& Picture() {
   static cDIBSection picture = [] {
     cDIBSection made;

@@ -53,16 +53,16 @@ std::int32_t ThumbnailPageCount(const GalleryProject& project, std::int32_t imag
   return imageCount / perPage + (imageCount % perPage != 0 ? 1 : 0);
 }
 
-std::string ColorToHex(Colour colour) {
-  return fmt::format("{:06X}", colour);
+std::string ColorToHex(Color color) {
+  return fmt::format("{:06X}", color);
 }
 
-Colour HexToColor(const std::string& text) {
-  Colour colour = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), colour, 16);
+Color HexToColor(const std::string& text) {
+  Color color = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), color, 16);
   if (error == std::errc::result_out_of_range) throw RuntimeFailure(FailureKind::Overflow);
   if (error != std::errc() || end != text.data() + text.size()) throw RuntimeFailure(FailureKind::TypeMismatch);
-  return colour;
+  return color;
 }
 
 }  // namespace vantorium

@@ -8,10 +8,10 @@
 
 namespace vantorium {
 
-using Flag = std::int16_t;     ///< 0 or 1
-using Choice = std::int16_t;   ///< index into a fixed list, from 0
-using Colour = std::uint32_t;  ///< 0x00BBGGRR
-using Digits = std::string;    ///< a decimal number as it was typed; may be empty while it is edited
+using Flag = std::int16_t;    ///< 0 or 1
+using Choice = std::int16_t;  ///< index into a fixed list, from 0
+using Color = std::uint32_t;  ///< 0x00BBGGRR
+using Digits = std::string;   ///< a decimal number as it was typed; may be empty while it is edited
 
 /// One page link.
 struct LinkSettings {
@@ -68,11 +68,11 @@ struct GalleryProject {
   std::string ImageFooter;
   std::string textImageWrapperBackdrop;  ///< path of the backdrop image
   Flag checkImageWrapperSetColors = 0;
-  Colour ImagePageBgColor = 0xFFFFFF;
-  Colour ImagePageTextColor = 0x000000;
-  Colour ImagePageLinkColor = 0xA00000;
-  Colour ImagePageVLinkColor = 0xA00000;
-  Colour ImagePageALinkColor = 0x0000FF;
+  Color ImagePageBgColor = 0xFFFFFF;
+  Color ImagePageTextColor = 0x000000;
+  Color ImagePageLinkColor = 0xA00000;
+  Color ImagePageVLinkColor = 0xA00000;
+  Color ImagePageALinkColor = 0x0000FF;
   Flag checkImageWrapperImageKeepSize = 0;
   Flag checkImageWrapperImagePhysicalResize = 1;  ///< 1: new files are made at the size, 0: the browser scales
   Flag checkImageWrapperImageKeepAspectRatio = 1;
@@ -91,11 +91,11 @@ struct GalleryProject {
   std::string ThumbnailFooter;
   std::string textThumbnailsPageBackdrop;
   Flag checkThumbnailsPageSetColors = 0;
-  Colour ThumbnailPageBgColor = 0xFFFFFF;
-  Colour ThumbnailPageTextColor = 0x000000;
-  Colour ThumbnailPageLinkColor = 0xA00000;
-  Colour ThumbnailPageVLinkColor = 0xA00000;
-  Colour ThumbnailPageALinkColor = 0x0000FF;
+  Color ThumbnailPageBgColor = 0xFFFFFF;
+  Color ThumbnailPageTextColor = 0x000000;
+  Color ThumbnailPageLinkColor = 0xA00000;
+  Color ThumbnailPageVLinkColor = 0xA00000;
+  Color ThumbnailPageALinkColor = 0x0000FF;
   Digits textThumbnailsTableRows = "5";
   Digits textThumbnailsTableColumns = "5";
   Digits textThumbnailsTableBorder = "0";
@@ -104,7 +104,7 @@ struct GalleryProject {
   Choice comboThumbnailsTableAlignment = 2;
   std::string textThumbnailsTableBackdrop;
   Flag checkThumbnailsTableUseBGColor = 0;
-  Colour btnThumbnailsTableBGColor = 0x000000;
+  Color btnThumbnailsTableBGColor = 0x000000;
   Flag checkThumbnailsImageKeepAspectRatio = 0;
   Flag checkThumbnailsImageSetWidth = 0;
   Digits textThumbnailsImageWidth = "60";
@@ -162,11 +162,11 @@ void ResetToDefaults(GalleryProject& project, const std::string& projectName);
 /// Rows times columns, rounded half to even, at least 0.
 [[nodiscard]] std::int32_t ThumbnailsPerPage(const GalleryProject& project);
 
-/// A colour as the project file writes it: the number in capitals, at least 6 digits, bytes not swapped (red is
+/// A color as the project file writes it: the number in capitals, at least 6 digits, bytes not swapped (red is
 /// 0000FF).
-[[nodiscard]] std::string ColorToHex(Colour colour);
+[[nodiscard]] std::string ColorToHex(Color color);
 
 /// Reads a hexadecimal number. Throws RuntimeFailure TypeMismatch for anything else and Overflow beyond 32 bits.
-[[nodiscard]] Colour HexToColor(const std::string& text);
+[[nodiscard]] Color HexToColor(const std::string& text);
 
 }  // namespace vantorium

@@ -54,7 +54,7 @@ void ProjectEditor::Set(std::int16_t Project::*field, std::int16_t value) {
   if (field == &Project::checkImageWrapperUse && value == 0) project_.checkGallerySlideShow = 0;
 }
 
-void ProjectEditor::Set(Colour Project::*field, Colour value) {
+void ProjectEditor::Set(Color Project::*field, Color value) {
   project_.*field = value;
   modified_ = true;
 }

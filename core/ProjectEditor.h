@@ -16,7 +16,7 @@ class ProjectEditor {
   void Set(std::string GalleryProject::*field, std::string value);
   /// A Flag or a Choice.
   void Set(std::int16_t GalleryProject::*field, std::int16_t value);
-  void Set(Colour GalleryProject::*field, Colour value);
+  void Set(Color GalleryProject::*field, Color value);
   void Set(LinkSettings GalleryProject::*field, LinkSettings value);
   void Set(ImageFilterSettings GalleryProject::*field, ImageFilterSettings value);
   void Set(WatermarkSettings GalleryProject::*field, WatermarkSettings value);
@@ -30,8 +30,8 @@ class ProjectEditor {
   bool& modified_;
 };
 
-/// The text of a field after an edit to `value`: in a Digits field its bound in place of a number beyond it, and nothing
-/// in place of what is no number where the field can do without one.
+/// The text of a field after an edit to `value`: in a Digits field its bound in place of a number beyond it, and
+/// nothing in place of what is no number where the field can do without one.
 [[nodiscard]] std::string Clamped(std::string GalleryProject::*field, std::string value);
 
 /// The image frame's name after the layout became `layoutType`: "_self" for the single frame; for the others

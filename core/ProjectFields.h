@@ -9,7 +9,7 @@
 
 namespace vantorium {
 
-enum class FieldKind { Text, Digits, Flag, Choice, Colour, Size, Record };
+enum class FieldKind { Text, Digits, Flag, Choice, Color, Size, Record };
 
 /// The numbers of a Digits field: where its spinner stops, and the bounds below and above which an edit becomes the
 /// bound itself.
@@ -24,7 +24,7 @@ using ValueList = std::span<const std::string_view>;
 
 using FieldMember =
     std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*, std::int32_t GalleryProject::*,
-                 Colour GalleryProject::*, ImageFilterSettings GalleryProject::*, WatermarkSettings GalleryProject::*,
+                 Color GalleryProject::*, ImageFilterSettings GalleryProject::*, WatermarkSettings GalleryProject::*,
                  LinkSettings GalleryProject::*>;
 
 /// One field of GalleryProject. The alignment lists of captions and descriptions depend on the placement; `values` then

@@ -43,7 +43,7 @@ void ProjectSession::StartUntitledProject() {
   project_.IsPristine = true;
   project_.IsUntitled = true;
   project_.IsModified = false;
-  ports_.host.RebuildCustomColours();
+  ports_.host.RebuildCustomColors();
 }
 
 BoxAnswer ProjectSession::AskToSave() {

@@ -26,8 +26,8 @@ class ProjectSessionHost : public ProjectFileStatus {
   virtual void HideDescriptionsWindow() {}
   virtual void SelectFirstTab() {}
   virtual void FocusTitleField() {}
-  /// Fills the custom colours of the colour dialog with the first 16 colours of the system.
-  virtual void RebuildCustomColours() {}
+  /// Fills the custom colors of the color dialog with the first 16 colors of the system.
+  virtual void RebuildCustomColors() {}
 };
 
 }  // namespace vantorium

@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// The 16 colours of the user's own that a colour dialog offers and lets edit, as 0x00BBGGRR.
-using CustomColours = std::array<std::uint32_t, 16>;
+/// The 16 colors of the user's own that a color dialog offers and lets edit, as 0x00BBGGRR.
+using CustomColors = std::array<std::uint32_t, 16>;
 
 /// A font as the font dialog shows it.
 struct FontDescription {
@@ -27,8 +27,8 @@ class mCommonDialogs {
  public:
   virtual ~mCommonDialogs() = default;
 
-  /// Begins with `colour`, any colour can be chosen. True on OK; only then `colour` and `custom` are written back.
-  [[nodiscard]] virtual bool ShowColorDialog(std::uint32_t& colour, CustomColours& custom) = 0;
+  /// Begins with `color`, any color can be chosen. True on OK; only then `color` and `custom` are written back.
+  [[nodiscard]] virtual bool ShowColorDialog(std::uint32_t& color, CustomColors& custom) = 0;
   /// Begins with `font`. True on OK; only then `font` is written back.
   [[nodiscard]] virtual bool ShowFontDialog(FontDescription& font) = 0;
 };

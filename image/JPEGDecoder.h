@@ -11,7 +11,7 @@ namespace vantorium {
 /// and SkipRows until all rows are through, then Finish. Any call may answer false; the file is then given up.
 ///
 /// Grey, YCbCr, RGB, CMYK and YCCK pictures of 8 bits a sample come out as blue, green, red. Decoding is the library's
-/// default: the accurate integer transform and smooth chroma. Orientation tags and colour profiles are not looked at.
+/// default: the accurate integer transform and smooth chroma. Orientation tags and color profiles are not looked at.
 class JPEGDecoder {
  public:
   JPEGDecoder();

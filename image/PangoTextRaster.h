@@ -7,7 +7,7 @@
 namespace vantorium {
 
 /// Texts of any script by Pango and Cairo. A letter that the font lacks comes from another font of the machine, or as a
-/// box; a coloured one as its shape, or as a box when it is very large.
+/// box; a colored one as its shape, or as a box when it is very large.
 class PangoTextRaster : public TextRaster {
  public:
   /// The machine's font settings are read with the first text, which takes some milliseconds.

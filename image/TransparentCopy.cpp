@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t kBlockBytes = 3072;
 using Block = std::array<std::uint8_t, kBlockBytes>;
 
-/// The three bytes of a colour, over and over, in the order of a picture's bytes.
+/// The three bytes of a color, over and over, in the order of a picture's bytes.
 Block Repeated(std::uint32_t color) {
   Block block;
   for (std::size_t i = 0; i < block.size(); ++i) block[i] = static_cast<std::uint8_t>(color >> (16 - 8 * (i % 3)));

@@ -6,9 +6,9 @@
 
 namespace vantorium {
 
-/// Lays `source` over the bottom left corner of `target`. `key` is a colour, 0x00BBGGRR.
+/// Lays `source` over the bottom left corner of `target`. `key` is a color, 0x00BBGGRR.
 ///
-/// With `alpha` below 100 each pixel of the source that is not of the key's colour is blended in: `alpha` hundredths of
+/// With `alpha` below 100 each pixel of the source that is not of the key's color is blended in: `alpha` hundredths of
 /// it and the rest of the target's pixel, rounded to nearest, ties to even. With 100 and above it turns round: just the
 /// pixels of the key's complement are copied.
 ///

@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-// Hue, lightness and saturation of a colour. All are singles. Hue is in sixths of the colour circle, -1 to 5; lightness
+// Hue, lightness and saturation of a color. All are singles. Hue is in sixths of the color circle, -1 to 5; lightness
 // and saturation are 0 to 1.
 
 [[nodiscard]] float Maximum(float a, float b, float c);

@@ -58,27 +58,27 @@ inline constexpr SizeFields kThumbnailSize = {
     &GalleryProject::checkThumbnailsImageKeepAspectRatio, &GalleryProject::checkThumbnailsImageSetWidth,
     &GalleryProject::textThumbnailsImageWidth, &GalleryProject::textThumbnailsImageHeight};
 
-/// The five colours of a page, in the order of the file, and the switch that puts them into use.
-struct ColourField {
+/// The five colors of a page, in the order of the file, and the switch that puts them into use.
+struct ColorField {
   const char* attribute;
-  Colour GalleryProject::*colour;
+  Color GalleryProject::*color;
 };
-struct PageColourFields {
+struct PageColorFields {
   Flag GalleryProject::*use;
-  std::array<ColourField, 5> colours;
+  std::array<ColorField, 5> colors;
 };
-inline constexpr PageColourFields kThumbnailPageColours = {&GalleryProject::checkThumbnailsPageSetColors,
-                                                           {{{"BGCOLOR", &GalleryProject::ThumbnailPageBgColor},
-                                                             {"TEXT", &GalleryProject::ThumbnailPageTextColor},
-                                                             {"LINK", &GalleryProject::ThumbnailPageLinkColor},
-                                                             {"ALINK", &GalleryProject::ThumbnailPageALinkColor},
-                                                             {"VLINK", &GalleryProject::ThumbnailPageVLinkColor}}}};
-inline constexpr PageColourFields kImagePageColours = {&GalleryProject::checkImageWrapperSetColors,
-                                                       {{{"BGCOLOR", &GalleryProject::ImagePageBgColor},
-                                                         {"TEXT", &GalleryProject::ImagePageTextColor},
-                                                         {"LINK", &GalleryProject::ImagePageLinkColor},
-                                                         {"ALINK", &GalleryProject::ImagePageALinkColor},
-                                                         {"VLINK", &GalleryProject::ImagePageVLinkColor}}}};
+inline constexpr PageColorFields kThumbnailPageColors = {&GalleryProject::checkThumbnailsPageSetColors,
+                                                         {{{"BGCOLOR", &GalleryProject::ThumbnailPageBgColor},
+                                                           {"TEXT", &GalleryProject::ThumbnailPageTextColor},
+                                                           {"LINK", &GalleryProject::ThumbnailPageLinkColor},
+                                                           {"ALINK", &GalleryProject::ThumbnailPageALinkColor},
+                                                           {"VLINK", &GalleryProject::ThumbnailPageVLinkColor}}}};
+inline constexpr PageColorFields kImagePageColors = {&GalleryProject::checkImageWrapperSetColors,
+                                                     {{{"BGCOLOR", &GalleryProject::ImagePageBgColor},
+                                                       {"TEXT", &GalleryProject::ImagePageTextColor},
+                                                       {"LINK", &GalleryProject::ImagePageLinkColor},
+                                                       {"ALINK", &GalleryProject::ImagePageALinkColor},
+                                                       {"VLINK", &GalleryProject::ImagePageVLinkColor}}}};
 
 /// An element that holds a multi-line text.
 struct TextElement {

@@ -9,10 +9,10 @@ void PutAttributeUnlessEmpty(pugi::xml_node element, const char* name, std::stri
   if (!value.empty()) PutAttribute(element, name, value);
 }
 
-void PutColours(pugi::xml_node page, const GalleryProject& project, const PageColourFields& fields) {
+void PutColors(pugi::xml_node page, const GalleryProject& project, const PageColorFields& fields) {
   if (project.*fields.use != 1) return;
-  for (const ColourField& field : fields.colours) {
-    PutAttribute(page, field.attribute, ColorToHex(project.*field.colour));
+  for (const ColorField& field : fields.colors) {
+    PutAttribute(page, field.attribute, ColorToHex(project.*field.color));
   }
 }
 
@@ -63,7 +63,7 @@ void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project) {
   pugi::xml_node page = gallery.append_child("THUMBNAILPAGE");
   PutAttribute(page, "PREFIX", project.textThumbnailPageSettingsFilePrefix);
   PutAttribute(page, "EXTENSION", project.comboThumbnailPageSettingsFileExtension);
-  PutColours(page, project, kThumbnailPageColours);
+  PutColors(page, project, kThumbnailPageColors);
   PutAttributeUnlessEmpty(page, "BACKGROUND", project.textThumbnailsPageBackdrop);
   PutTexts(page, project, kThumbnailPageTexts);
   PutArrangement(page, project);
@@ -77,7 +77,7 @@ void PutImagePage(pugi::xml_node gallery, const GalleryProject& project) {
   pugi::xml_node page = gallery.append_child("IMAGEPAGE");
   PutAttribute(page, "PREFIX", "");
   PutAttribute(page, "EXTENSION", project.comboImageWrapperSettingsFileExtension);
-  PutColours(page, project, kImagePageColours);
+  PutColors(page, project, kImagePageColors);
   PutAttributeUnlessEmpty(page, "BACKGROUND", project.textImageWrapperBackdrop);
   PutAttribute(page, "USE", project.checkImageWrapperUse);
   PutTexts(page, project, kImagePageTexts);

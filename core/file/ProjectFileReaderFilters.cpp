@@ -43,7 +43,7 @@ void ReadFont(WatermarkSettings& watermark, pugi::xml_node font) {
   ReadBooleanInto(watermark.FontItalic, font, "ITALIC");
   ReadBooleanInto(watermark.FontUnderline, font, "UNDERLINE");
   ReadBooleanInto(watermark.FontStrikeout, font, "STRIKEOUT");
-  if (const auto colour = AttributeOf(font, "COLOR")) watermark.Color = HexToColor(std::string(*colour));
+  if (const auto color = AttributeOf(font, "COLOR")) watermark.Color = HexToColor(std::string(*color));
 }
 
 void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {

@@ -4,8 +4,8 @@
 namespace vantorium {
 namespace {
 
-void ReadColours(pugi::xml_node page, ProjectEditor& editor, const PageColourFields& fields) {
-  for (const ColourField& field : fields.colours) ReadColour(editor, page, field.attribute, field.colour, fields.use);
+void ReadColors(pugi::xml_node page, ProjectEditor& editor, const PageColorFields& fields) {
+  for (const ColorField& field : fields.colors) ReadColor(editor, page, field.attribute, field.color, fields.use);
 }
 
 void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
@@ -17,8 +17,8 @@ void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
   ReadWord(editor, arrangement, "ALIGN", kTableAlignmentWords, &GalleryProject::comboThumbnailsTableAlignment);
   // The writer's name for it is BACKGROUND: a written backdrop is not read back, as ever.
   ReadText(editor, arrangement, "BACKDROP", &GalleryProject::textThumbnailsTableBackdrop);
-  ReadColour(editor, arrangement, "BGCOLOR", &GalleryProject::btnThumbnailsTableBGColor,
-             &GalleryProject::checkThumbnailsTableUseBGColor);
+  ReadColor(editor, arrangement, "BGCOLOR", &GalleryProject::btnThumbnailsTableBGColor,
+            &GalleryProject::checkThumbnailsTableUseBGColor);
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor) {
   ReadText(editor, page, "PREFIX", &GalleryProject::textThumbnailPageSettingsFilePrefix);
   ReadText(editor, page, "EXTENSION", &GalleryProject::comboThumbnailPageSettingsFileExtension);
   ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textThumbnailsPageBackdrop, "");
-  ReadColours(page, editor, kThumbnailPageColours);
+  ReadColors(page, editor, kThumbnailPageColors);
   ReadChildTexts(editor, page, kThumbnailPageTexts);
   const pugi::xml_node arrangement = page.child("ARRANGEMENT");
   if (!arrangement) return ReadResult::NoArrangement;
@@ -45,7 +45,7 @@ ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor) {
   if (!page) return ReadResult::Complete;
   ReadText(editor, page, "EXTENSION", &GalleryProject::comboImageWrapperSettingsFileExtension);
   ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textImageWrapperBackdrop, "");
-  ReadColours(page, editor, kImagePageColours);
+  ReadColors(page, editor, kImagePageColors);
   ReadChildTexts(editor, page, kImagePageTexts);
   const pugi::xml_node links = page.child("PAGELINKS");
   if (!links) return ReadResult::NoPageLinks;

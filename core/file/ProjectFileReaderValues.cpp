@@ -56,8 +56,8 @@ void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField fi
   ReadWord(editor, element, "ALIGN", kAlignmentStackedWords, field);
 }
 
-void ReadColour(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Colour GalleryProject::*field,
-                NumberField use) {
+void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Color GalleryProject::*field,
+               NumberField use) {
   const auto value = AttributeOf(element, attribute);
   if (!value) return;
   editor.Set(field, HexToColor(std::string(*value)));

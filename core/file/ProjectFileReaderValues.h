@@ -36,9 +36,9 @@ void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attri
 /// A word that the list does not hold leaves the setting as it is.
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words, NumberField field);
 void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field);
-/// Present, the colour also turns on the switch that puts it to use.
-void ReadColour(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Colour GalleryProject::*field,
-                NumberField use);
+/// Present, the color also turns on the switch that puts it to use.
+void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Color GalleryProject::*field,
+               NumberField use);
 /// The texts of children; an absent child empties its field.
 void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts);
 

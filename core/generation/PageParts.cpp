@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-std::string ColorToHtml(Colour colour) {
-  return fmt::format("{:02X}{:02X}{:02X}", colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
+std::string ColorToHtml(Color color) {
+  return fmt::format("{:02X}{:02X}{:02X}", color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
 }
 
 std::string BackdropAttribute(const RunState& run, std::string_view name, std::string_view path) {
@@ -15,10 +15,10 @@ std::string BackdropAttribute(const RunState& run, std::string_view name, std::s
   return fmt::format(R"( BACKGROUND="{}{}{}")", run.ImageUrlPrefix, name, GetFileExtension(path));
 }
 
-std::string BodyTag(const PageColours& colours, std::string_view backdropAttribute) {
+std::string BodyTag(const PageColors& colors, std::string_view backdropAttribute) {
   return fmt::format(R"(<BODY BGCOLOR="{}" TEXT="{}" LINK="{}" VLINK="{}" ALINK="{}"{}>)",
-                     ColorToHtml(colours.background), ColorToHtml(colours.text), ColorToHtml(colours.link),
-                     ColorToHtml(colours.visitedLink), ColorToHtml(colours.activeLink), backdropAttribute);
+                     ColorToHtml(colors.background), ColorToHtml(colors.text), ColorToHtml(colors.link),
+                     ColorToHtml(colors.visitedLink), ColorToHtml(colors.activeLink), backdropAttribute);
 }
 
 std::string BodyTag(std::string_view backdropAttribute) {

@@ -61,11 +61,11 @@ void AddHead(PageText& text, const RunState& run, std::int32_t page) {
 
 void AddTableTag(PageText& text, const RunState& run) {
   const GalleryProject& project = run.project;
-  std::string colour;
+  std::string color;
   if (project.checkThumbnailsTableUseBGColor == 1) {
-    colour = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
+    color = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
   }
-  text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", colour,
+  text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", color,
               BackdropAttribute(run, "_backdrop_thumbtable", project.textThumbnailsTableBackdrop),
               project.textThumbnailsTableBorder, project.textThumbnailsTableCellSpacing,
               project.textThumbnailsTableCellPadding,

@@ -28,7 +28,7 @@ std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
   return environment;
 }
 
-/// A soft slope of colours, so that the file is no larger than a photograph's.
+/// A soft slope of colors, so that the file is no larger than a photograph's.
 cDIBSection Slope(int width, int height, std::size_t seed) {
   cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no memory for a picture");

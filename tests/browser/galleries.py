@@ -88,9 +88,9 @@ def left_frame(batch, folder, photographs):
         '<SIZE KEEPASPECTRATIO="0" WIDTH="60" HEIGHT="60"/>', '<SIZE KEEPASPECTRATIO="1" WIDTH="140"/>'
     )
     # A project file has blue in front and red at the end.
-    colours = 'BGCOLOR="202020" TEXT="E0E0E0" LINK="F0C890" ALINK="FFFFFF" VLINK="F0C890" '
-    gallery.replace("<THUMBNAILPAGE ", "<THUMBNAILPAGE " + colours)
-    gallery.replace("<IMAGEPAGE ", "<IMAGEPAGE " + colours)
+    colors = 'BGCOLOR="202020" TEXT="E0E0E0" LINK="F0C890" ALINK="FFFFFF" VLINK="F0C890" '
+    gallery.replace("<THUMBNAILPAGE ", "<THUMBNAILPAGE " + colors)
+    gallery.replace("<IMAGEPAGE ", "<IMAGEPAGE " + colors)
     gallery.run("create", gallery.project, gallery.index)
     return gallery
 

@@ -72,18 +72,18 @@ TEST(GalleryProject, NegativeRowsOrColumnsMakeNoPages) {
   EXPECT_EQ(ThumbnailPageCount(Table("5", "-1e999"), 10), 0);
 }
 
-TEST(GalleryProject, AColourIsWrittenInCapitalsWithoutSwappingItsBytes) {
-  const std::pair<Colour, const char*> cases[] = {{0x0000FF, "0000FF"},    {0xA00000, "A00000"}, {0, "000000"},
-                                                  {0xFFFFFF, "FFFFFF"},    {0x0000ab, "0000AB"}, {0x1234567, "1234567"},
-                                                  {0xFFFFFFFF, "FFFFFFFF"}};
-  for (const auto& [colour, text] : cases) EXPECT_EQ(ColorToHex(colour), text);
+TEST(GalleryProject, AColorIsWrittenInCapitalsWithoutSwappingItsBytes) {
+  const std::pair<Color, const char*> cases[] = {{0x0000FF, "0000FF"},    {0xA00000, "A00000"}, {0, "000000"},
+                                                 {0xFFFFFF, "FFFFFF"},    {0x0000ab, "0000AB"}, {0x1234567, "1234567"},
+                                                 {0xFFFFFFFF, "FFFFFFFF"}};
+  for (const auto& [color, text] : cases) EXPECT_EQ(ColorToHex(color), text);
 }
 
-TEST(GalleryProject, AColourIsReadAsAHexadecimalNumber) {
-  const std::pair<const char*, Colour> cases[] = {{"0000FF", 0xFF},      {"FF", 0xFF}, {"ff", 0xFF},
-                                                  {"A00000", 0xA00000},  {"0", 0},     {"FFFFFFFF", 0xFFFFFFFF},
-                                                  {"0000000000A0", 0xA0}};
-  for (const auto& [text, colour] : cases) EXPECT_EQ(HexToColor(text), colour) << text;
+TEST(GalleryProject, AColorIsReadAsAHexadecimalNumber) {
+  const std::pair<const char*, Color> cases[] = {{"0000FF", 0xFF},      {"FF", 0xFF}, {"ff", 0xFF},
+                                                 {"A00000", 0xA00000},  {"0", 0},     {"FFFFFFFF", 0xFFFFFFFF},
+                                                 {"0000000000A0", 0xA0}};
+  for (const auto& [text, color] : cases) EXPECT_EQ(HexToColor(text), color) << text;
 }
 
 TEST(GalleryProject, ATextThatIsNoHexadecimalNumberIsAFailure) {
@@ -95,8 +95,8 @@ TEST(GalleryProject, ATextThatIsNoHexadecimalNumberIsAFailure) {
   }
 }
 
-TEST(GalleryProject, EveryColourComesBackFromItsText) {
-  for (Colour colour = 0; colour <= 0xFFFFFF; colour += 0x1357) EXPECT_EQ(HexToColor(ColorToHex(colour)), colour);
+TEST(GalleryProject, EveryColorComesBackFromItsText) {
+  for (Color color = 0; color <= 0xFFFFFF; color += 0x1357) EXPECT_EQ(HexToColor(ColorToHex(color)), color);
 }
 
 }  // namespace

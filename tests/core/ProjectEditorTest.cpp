@@ -37,9 +37,9 @@ TEST_F(ProjectEditorTest, EveryFieldStoresWhatItIsGivenAndMarksTheProject) {
       const std::string value = field.kind == FieldKind::Digits ? "77" : "a \"text\"\r\n<B>";
       editor.Set(member, value);
       EXPECT_EQ(project.*member, value);
-    } else if (field.kind == FieldKind::Colour) {
-      const auto member = std::get<Colour GalleryProject::*>(field.member);
-      editor.Set(member, Colour{0x123456});
+    } else if (field.kind == FieldKind::Color) {
+      const auto member = std::get<Color GalleryProject::*>(field.member);
+      editor.Set(member, Color{0x123456});
       EXPECT_EQ(project.*member, 0x123456U);
     } else if (field.kind == FieldKind::Flag || field.kind == FieldKind::Choice) {
       const auto member = std::get<std::int16_t GalleryProject::*>(field.member);

@@ -64,8 +64,8 @@ const char* DeclaredTypeOf(const ProjectField& field) {
       return "Flag";
     case FieldKind::Choice:
       return "Choice";
-    case FieldKind::Colour:
-      return "Colour";
+    case FieldKind::Color:
+      return "Color";
     case FieldKind::Size:
       return "std::int32_t";
     case FieldKind::Record:
@@ -118,8 +118,8 @@ std::string TextOf(std::int16_t number) {
 std::string TextOf(std::int32_t number) {
   return std::to_string(number);
 }
-std::string TextOf(Colour colour) {
-  return ColorToHex(colour);
+std::string TextOf(Color color) {
+  return ColorToHex(color);
 }
 std::string TextOf(const LinkSettings& link) {
   return link.textLinkLabel + "|" + link.textLinkGraphic + "|" + link.textLinkGraphicDisabled;
@@ -284,7 +284,7 @@ struct Changed {
   void operator()(std::string& text) const { text += "#changed"; }
   void operator()(std::int16_t& number) const { number = 77; }
   void operator()(std::int32_t& number) const { number = 77; }
-  void operator()(Colour& colour) const { colour = 0x123456; }
+  void operator()(Color& color) const { color = 0x123456; }
   void operator()(LinkSettings& link) const { link = {"a", "b", "c"}; }
   void operator()(ImageFilterSettings& filters) const { filters = {1, 1, 1, 1, 1, 1, 1, 1, 1}; }
   void operator()(WatermarkSettings& watermark) const { watermark.textWatermark = "changed"; }

@@ -76,7 +76,7 @@ TEST_F(ProjectSessionTest, ANewProjectBeginsEverythingAnewInItsOrder) {
   project.IsModified = false;
   session.NewProject();
   EXPECT_EQ(desk.calls, (Calls{"preview", "counts", "page count", "title bar", "descriptions hidden", "first tab",
-                               "title field", "custom colours"}));
+                               "title field", "custom colors"}));
   EXPECT_EQ(project.settings.ImageHeader, "");
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
   EXPECT_EQ(project.ProjectFileName, "Gallery2");

@@ -66,7 +66,7 @@ def describe_second_image(screen):
 
 
 def choose_background(screen):
-    """Of the image wrappers, in the system's colour dialog."""
+    """Of the image wrappers, in the system's color dialog."""
     screen.press("alt+c", "alt+r")
     screen.wait_for_window("Select Image Wrapper Colors")
     screen.press("alt+b", "space")
@@ -141,6 +141,6 @@ def check_project(desk):
     expect(1, project["ImageWatermark"]["checkUseWatermark"], "watermark")
     expect("Copyright", project["ImageWatermark"]["textWatermark"], "text of the watermark")
     expect(["At the lake", "By the lake"], [image["ImageDescription"] for image in shown["images"]], "descriptions")
-    expect(1, project["checkImageWrapperSetColors"], "colours are set")
+    expect(1, project["checkImageWrapperSetColors"], "colors are set")
     expect(0x332211, project["ImagePageBgColor"], "background")
     expect("Beginning", project["ThumbnailFirstLink"]["textLinkLabel"], "label of the first link")

@@ -8,16 +8,16 @@
 namespace vantorium::fakes {
 namespace {
 
-int ChannelsOf(JpegColours colours) {
-  return colours == JpegColours::Grey ? 1 : colours == JpegColours::CMYK || colours == JpegColours::YCCK ? 4 : 3;
+int ChannelsOf(JpegColors colors) {
+  return colors == JpegColors::Grey ? 1 : colors == JpegColors::CMYK || colors == JpegColors::YCCK ? 4 : 3;
 }
 
-void ChooseColours(jpeg_compress_struct& codec, JpegColours colours) {
+void ChooseColors(jpeg_compress_struct& codec, JpegColors colors) {
   constexpr J_COLOR_SPACE kIn[] = {JCS_GRAYSCALE, JCS_RGB, JCS_RGB, JCS_CMYK, JCS_CMYK};
   constexpr J_COLOR_SPACE kInFile[] = {JCS_GRAYSCALE, JCS_YCbCr, JCS_RGB, JCS_CMYK, JCS_YCCK};
-  codec.in_color_space = kIn[static_cast<int>(colours)];
+  codec.in_color_space = kIn[static_cast<int>(colors)];
   jpeg_set_defaults(&codec);
-  jpeg_set_colorspace(&codec, kInFile[static_cast<int>(colours)]);
+  jpeg_set_colorspace(&codec, kInFile[static_cast<int>(colors)]);
 }
 
 std::vector<jpeg_scan_info> ScanPerChannel(int channels) {
@@ -30,11 +30,11 @@ std::vector<jpeg_scan_info> ScanPerChannel(int channels) {
 void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
   codec.image_width = static_cast<JDIMENSION>(recipe.width);
   codec.image_height = static_cast<JDIMENSION>(recipe.height);
-  codec.input_components = ChannelsOf(recipe.colours);
-  ChooseColours(codec, recipe.colours);
+  codec.input_components = ChannelsOf(recipe.colors);
+  ChooseColors(codec, recipe.colors);
   jpeg_set_quality(&codec, recipe.quality, TRUE);
   // The key channels, luminance and black, stay fine.
-  const bool sampled = recipe.colours == JpegColours::YCbCr || recipe.colours == JpegColours::YCCK;
+  const bool sampled = recipe.colors == JpegColors::YCbCr || recipe.colors == JpegColors::YCCK;
   for (int i = 0; i < codec.num_components; ++i) {
     const bool fine = sampled && (i == 0 || i == 3);
     codec.comp_info[i].h_samp_factor = fine ? recipe.horizontal : 1;
@@ -76,7 +76,7 @@ void Put16(std::string& jpeg, std::size_t place, int value) {
 
 std::ostream& operator<<(std::ostream& stream, const JpegRecipe& recipe) {
   constexpr const char* kNames[] = {"grey", "YCbCr", "RGB", "CMYK", "YCCK"};
-  return stream << recipe.width << " x " << recipe.height << " " << kNames[static_cast<int>(recipe.colours)] << " "
+  return stream << recipe.width << " x " << recipe.height << " " << kNames[static_cast<int>(recipe.colors)] << " "
                 << recipe.horizontal << "x" << recipe.vertical << (recipe.progressive ? " progressive" : "")
                 << (recipe.scanPerChannel ? " a scan per channel" : "") << (recipe.arithmetic ? " arithmetic" : "")
                 << " restart " << recipe.restartEvery << " quality " << recipe.quality
@@ -98,8 +98,8 @@ std::vector<JpegRecipe> EveryKindOfJpeg() {
           recipe.vertical = vertical;
           kinds.push_back(recipe);
         }
-        for (const auto colours : {JpegColours::Grey, JpegColours::RGB, JpegColours::CMYK, JpegColours::YCCK}) {
-          recipe.colours = colours;
+        for (const auto colors : {JpegColors::Grey, JpegColors::RGB, JpegColors::CMYK, JpegColors::YCCK}) {
+          recipe.colors = colors;
           recipe.horizontal = recipe.vertical = 2;
           kinds.push_back(recipe);
         }

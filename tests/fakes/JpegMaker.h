@@ -10,13 +10,13 @@
 
 namespace vantorium::fakes {
 
-enum class JpegColours { Grey, YCbCr, RGB, CMYK, YCCK };
+enum class JpegColors { Grey, YCbCr, RGB, CMYK, YCCK };
 
 /// How a JPEG file is made.
 struct JpegRecipe {
   int width = 37;
   int height = 29;
-  JpegColours colours = JpegColours::YCbCr;
+  JpegColors colors = JpegColors::YCbCr;
   int horizontal = 2;  ///< chroma is so many times coarser
   int vertical = 2;
   bool progressive = false;

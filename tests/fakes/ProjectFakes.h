@@ -35,7 +35,7 @@ class RecordingSessionHost : public ProjectSessionHost {
   void HideDescriptionsWindow() override { calls_.emplace_back("descriptions hidden"); }
   void SelectFirstTab() override { calls_.emplace_back("first tab"); }
   void FocusTitleField() override { calls_.emplace_back("title field"); }
-  void RebuildCustomColours() override { calls_.emplace_back("custom colours"); }
+  void RebuildCustomColors() override { calls_.emplace_back("custom colors"); }
 
  private:
   Calls& calls_;

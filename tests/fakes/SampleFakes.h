@@ -12,14 +12,14 @@
 
 namespace vantorium::fakes {
 
-/// A picture in one colour, 0x00BBGGRR, with a ramp of brightness in its rows where `ramp` is not 0.
-inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::uint32_t colour, int ramp = 0) {
+/// A picture in one color, 0x00BBGGRR, with a ramp of brightness in its rows where `ramp` is not 0.
+inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::uint32_t color, int ramp = 0) {
   cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no picture");
   for (std::int32_t y = 0; y < height; ++y) {
     for (std::int32_t x = 0; x < width; ++x) {
       for (int channel = 0; channel < 3; ++channel) {
-        const auto byte = (colour >> (16 - 8 * channel) & 0xFF) + static_cast<unsigned>(ramp * x);
+        const auto byte = (color >> (16 - 8 * channel) & 0xFF) + static_cast<unsigned>(ramp * x);
         picture.Row(y)[3 * x + channel] = static_cast<std::uint8_t>(byte);
       }
     }
@@ -49,7 +49,7 @@ class RecordingSampleBox : public SampleBox {
   void HideDialog() override { calls += "hide "; }
 
   /// Red, green and blue of the middle of the last picture, each rounded to a multiple of 32.
-  [[nodiscard]] std::string MiddleColour() const {
+  [[nodiscard]] std::string MiddleColor() const {
     if (painted.empty()) return "none";
     const auto at = static_cast<std::size_t>(paintedSize.height / 2 * paintedSize.width + paintedSize.width / 2) * 3;
     const auto rough = [&](std::size_t channel) {
@@ -69,10 +69,10 @@ class RecordingSampleBox : public SampleBox {
 struct SampleDesk {
   SampleDesk() { std::filesystem::create_directories(TempFile().parent_path()); }
 
-  /// Writes a JPEG file of one colour and returns its path text.
-  std::string Jpeg(const std::string& name, std::uint32_t colour, std::int32_t width = 64, std::int32_t height = 48,
+  /// Writes a JPEG file of one color and returns its path text.
+  std::string Jpeg(const std::string& name, std::uint32_t color, std::int32_t width = 64, std::int32_t height = 48,
                    int ramp = 0) {
-    SaveJPEGImage(PlainPicture(width, height, colour, ramp), folder.Path() / name, 95);
+    SaveJPEGImage(PlainPicture(width, height, color, ramp), folder.Path() / name, 95);
     return paths.ToText(folder.Path() / name);
   }
   [[nodiscard]] std::string Missing() const { return paths.ToText(folder.Path() / "missing.jpg"); }

@@ -12,18 +12,18 @@ namespace vantorium::fakes {
 /// the test does not change.
 class ScriptedCommonDialogs : public mCommonDialogs {
  public:
-  [[nodiscard]] bool ShowColorDialog(std::uint32_t& colour, CustomColours& /*custom*/) override {
-    coloursShown.push_back(colour);
-    return Answer(colour, colours);
+  [[nodiscard]] bool ShowColorDialog(std::uint32_t& color, CustomColors& /*custom*/) override {
+    colorsShown.push_back(color);
+    return Answer(color, colors);
   }
   [[nodiscard]] bool ShowFontDialog(FontDescription& font) override {
     fontsShown.push_back(font);
     return Answer(font, fonts);
   }
 
-  std::vector<std::uint32_t> coloursShown;
+  std::vector<std::uint32_t> colorsShown;
   std::vector<FontDescription> fontsShown;
-  std::deque<std::optional<std::uint32_t>> colours;
+  std::deque<std::optional<std::uint32_t>> colors;
   std::deque<std::optional<FontDescription>> fonts;
 
  private:

@@ -22,18 +22,18 @@ void Write(const fs::path& file, std::string_view bytes) {
 }
 
 void WritePhotographs(const fs::path& folder) {
-  using fakes::JpegColours;
+  using fakes::JpegColors;
   const std::pair<std::string_view, fakes::JpegRecipe> recipes[] = {
-      {"grey", {.width = 17, .height = 11, .colours = JpegColours::Grey, .quality = 40}},
+      {"grey", {.width = 17, .height = 11, .colors = JpegColors::Grey, .quality = 40}},
       {"halved", {.width = 37, .height = 29, .quality = 40}},
       {"halved_restarts", {.width = 33, .height = 50, .restartEvery = 2, .quality = 30}},
       {"narrow", {.width = 4, .height = 61, .quality = 30}},
       {"rows_halved", {.width = 19, .height = 43, .horizontal = 1, .vertical = 2, .quality = 30}},
       {"quartered", {.width = 40, .height = 41, .horizontal = 2, .vertical = 4, .quality = 30}},
-      {"rgb", {.width = 20, .height = 20, .colours = JpegColours::RGB, .quality = 30}},
-      {"cmyk", {.width = 16, .height = 12, .colours = JpegColours::CMYK, .quality = 30}},
-      {"cmyk_inks", {.width = 16, .height = 12, .colours = JpegColours::CMYK, .quality = 30, .adobeMarker = false}},
-      {"ycck", {.width = 20, .height = 30, .colours = JpegColours::YCCK, .quality = 30}},
+      {"rgb", {.width = 20, .height = 20, .colors = JpegColors::RGB, .quality = 30}},
+      {"cmyk", {.width = 16, .height = 12, .colors = JpegColors::CMYK, .quality = 30}},
+      {"cmyk_inks", {.width = 16, .height = 12, .colors = JpegColors::CMYK, .quality = 30, .adobeMarker = false}},
+      {"ycck", {.width = 20, .height = 30, .colors = JpegColors::YCCK, .quality = 30}},
       {"progressive", {.width = 37, .height = 29, .progressive = true, .quality = 30}},
       {"progressive_restarts", {.width = 24, .height = 40, .progressive = true, .restartEvery = 3, .quality = 30}},
       {"arithmetic", {.width = 30, .height = 22, .arithmetic = true, .quality = 30}},

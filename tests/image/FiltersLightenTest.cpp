@@ -9,8 +9,8 @@ namespace {
 using fakes::PixelAt;
 using fakes::RGB;
 
-RGB Lightened(RGB colour, std::int32_t amount) {
-  cDIBSection dib = fakes::Plain(2, 2, colour);
+RGB Lightened(RGB color, std::int32_t amount) {
+  cDIBSection dib = fakes::Plain(2, 2, color);
   Lighten(dib, amount);
   return PixelAt(dib, 1, 1);
 }
@@ -30,17 +30,17 @@ TEST(Lighten, HueIsKept) {
   EXPECT_EQ(Lightened({100, 50, 0}, -50), (RGB{50, 25, 0}));
 }
 
-TEST(Lighten, EveryColourIsAsTheLiteralFilterHasIt) {
-  cDIBSection fast = fakes::EveryColour();
-  cDIBSection literal = fakes::EveryColour();
+TEST(Lighten, EveryColorIsAsTheLiteralFilterHasIt) {
+  cDIBSection fast = fakes::EveryColor();
+  cDIBSection literal = fakes::EveryColor();
   Lighten(fast, 25);
   LightenLiteral(literal, 25);
   EXPECT_EQ(fakes::Difference(fast, literal), "");
 }
 
-// The edges of the arithmetic are there with all their colours: two equal channels, neighbouring ones, none or all of a
+// The edges of the arithmetic are there with all their colors: two equal channels, neighbouring ones, none or all of a
 // channel; and random ones between them.
-cDIBSection TellingColours() {
+cDIBSection TellingColors() {
   cDIBSection dib = fakes::Random(256, 280, 11);
   for (std::int32_t y = 0; y < 256; ++y) {
     for (std::int32_t x = 0; x < 256; ++x) {
@@ -54,11 +54,11 @@ cDIBSection TellingColours() {
   return dib;
 }
 
-TEST(Lighten, TellingColoursAtEveryAmountAreAsTheLiteralFilterHasThem) {
-  const cDIBSection colours = TellingColours();
+TEST(Lighten, TellingColorsAtEveryAmountAreAsTheLiteralFilterHasThem) {
+  const cDIBSection colors = TellingColors();
   for (std::int32_t amount = -100; amount <= 100; ++amount) {
-    cDIBSection fast = fakes::CopyOf(colours);
-    cDIBSection literal = fakes::CopyOf(colours);
+    cDIBSection fast = fakes::CopyOf(colors);
+    cDIBSection literal = fakes::CopyOf(colors);
     Lighten(fast, amount);
     LightenLiteral(literal, amount);
     ASSERT_EQ(fakes::Difference(fast, literal), "") << amount;

@@ -61,8 +61,8 @@ TEST(AddNoise, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
 
 // Ties between two bytes come once in a hundred thousand bytes.
 TEST(AddNoise, TiesAreRoundedAsTheLiteralFilterRoundsThem) {
-  cDIBSection fast = fakes::EveryColour();
-  cDIBSection literal = fakes::EveryColour();
+  cDIBSection fast = fakes::EveryColor();
+  cDIBSection literal = fakes::EveryColor();
   NoiseStream one(1, 1);
   NoiseStream other(1, 1);
   AddNoise(fast, 100, false, one);

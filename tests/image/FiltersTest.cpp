@@ -13,17 +13,17 @@ constexpr std::pair<std::int32_t, std::int32_t> kSizes[] = {{1, 1},  {1, 9},  {9
                                                             {32, 2}, {33, 5}, {127, 3}, {257, 4}, {511, 2}};
 
 template <typename Filter>
-RGB Filtered(RGB colour, Filter filter) {
-  cDIBSection dib = fakes::Plain(3, 2, colour);
+RGB Filtered(RGB color, Filter filter) {
+  cDIBSection dib = fakes::Plain(3, 2, color);
   filter(dib);
   return PixelAt(dib, 2, 1);
 }
 
-RGB Grey(RGB colour) {
-  return Filtered(colour, [](cDIBSection& dib) { GrayScale(dib); });
+RGB Grey(RGB color) {
+  return Filtered(color, [](cDIBSection& dib) { GrayScale(dib); });
 }
 
-TEST(GrayScale, PureColoursHaveTheirWeights) {
+TEST(GrayScale, PureColorsHaveTheirWeights) {
   EXPECT_EQ(Grey({255, 255, 255}), (RGB{255, 255, 255}));
   EXPECT_EQ(Grey({255, 0, 0}), (RGB{57, 57, 57}));
   EXPECT_EQ(Grey({0, 255, 0}), (RGB{180, 180, 180}));
@@ -53,9 +53,9 @@ TEST(GrayScale, TwiceIsOnce) {
   EXPECT_EQ(fakes::Difference(twice, once), "");
 }
 
-TEST(GrayScale, EveryColourIsAsTheLiteralFilterHasIt) {
-  cDIBSection fast = fakes::EveryColour();
-  cDIBSection literal = fakes::EveryColour();
+TEST(GrayScale, EveryColorIsAsTheLiteralFilterHasIt) {
+  cDIBSection fast = fakes::EveryColor();
+  cDIBSection literal = fakes::EveryColor();
   GrayScale(fast);
   GrayScaleLiteral(literal);
   EXPECT_EQ(fakes::Difference(fast, literal), "");
@@ -139,7 +139,7 @@ TEST(RandomiseBits, GreyPicturesHaveThreeEqualBytes) {
   EXPECT_TRUE(fakes::PaddingUntouched(dib));
 }
 
-TEST(RandomiseBits, ColourPicturesHaveNoBlue) {
+TEST(RandomiseBits, ColorPicturesHaveNoBlue) {
   cDIBSection dib = fakes::Plain(41, 30, {9, 9, 9});
   NoiseStream stream(5, 0);
   RandomiseBits(dib, false, stream);

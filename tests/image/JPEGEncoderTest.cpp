@@ -30,9 +30,9 @@ TEST(JPEGEncoder, TheBytesAreThoseOfTheLibrarysDefaultsAtEachQuality) {
   for (const int quality : {1, 24, 25, 50, 85, 99, 100}) {
     const cDIBSection dib = fakes::Random(35, 22, static_cast<unsigned>(quality));
     const auto pixels = [&dib](int x, int y) {
-      const auto colour = fakes::PixelAt(dib, x, 21 - y);
-      return std::array<std::uint8_t, 4>{static_cast<std::uint8_t>(colour.r), static_cast<std::uint8_t>(colour.g),
-                                         static_cast<std::uint8_t>(colour.b), 0};
+      const auto color = fakes::PixelAt(dib, x, 21 - y);
+      return std::array<std::uint8_t, 4>{static_cast<std::uint8_t>(color.r), static_cast<std::uint8_t>(color.g),
+                                         static_cast<std::uint8_t>(color.b), 0};
     };
     EXPECT_EQ(EncodeJPEG(dib, quality), fakes::MakeJpeg({.width = 35, .height = 22, .quality = quality}, pixels))
         << quality;

@@ -12,7 +12,7 @@
 namespace vantorium {
 namespace {
 
-using fakes::JpegColours;
+using fakes::JpegColors;
 using fakes::MakeJpeg;
 using fakes::PixelAt;
 using fakes::RGB;
@@ -55,7 +55,7 @@ TEST_F(JPEG, EveryKindOfFileLoadsAsTheLibraryDecodesIt) {
     ASSERT_TRUE(Loads(jpeg)) << recipe;
     EXPECT_EQ(dib_.width(), recipe.width) << recipe;
     EXPECT_EQ(dib_.height(), recipe.height) << recipe;
-    if (recipe.colours == JpegColours::CMYK || recipe.colours == JpegColours::YCCK) continue;
+    if (recipe.colors == JpegColors::CMYK || recipe.colors == JpegColors::YCCK) continue;
     EXPECT_EQ(DifferenceToLibrary(jpeg), "") << recipe;
   }
 }
@@ -72,13 +72,13 @@ TEST_F(JPEG, TheSizeIsReadFromEveryKindOfFile) {
 
 TEST_F(JPEG, TheBottomRowOfThePictureComesFirst) {
   const auto pixels = [](int, int y) { return std::array<std::uint8_t, 4>{std::uint8_t(y < 8 ? 250 : 10), 0, 0, 0}; };
-  ASSERT_TRUE(Loads(MakeJpeg({.width = 8, .height = 16, .colours = JpegColours::Grey, .quality = 100}, pixels)));
+  ASSERT_TRUE(Loads(MakeJpeg({.width = 8, .height = 16, .colors = JpegColors::Grey, .quality = 100}, pixels)));
   EXPECT_NEAR(PixelAt(dib_, 0, 0).r, 10, 2);
   EXPECT_NEAR(PixelAt(dib_, 0, 15).r, 250, 2);
 }
 
-TEST_F(JPEG, AGreyFileLoadsAsThreeEqualBytesAndIsSavedInColour) {
-  ASSERT_TRUE(Loads(MakeJpeg({.colours = JpegColours::Grey})));
+TEST_F(JPEG, AGreyFileLoadsAsThreeEqualBytesAndIsSavedInColor) {
+  ASSERT_TRUE(Loads(MakeJpeg({.colors = JpegColors::Grey})));
   for (std::int32_t x = 0; x < dib_.width(); ++x) {
     const RGB pixel = PixelAt(dib_, x, 3);
     EXPECT_EQ(pixel, (RGB{pixel.g, pixel.g, pixel.g}));
@@ -99,20 +99,20 @@ TEST_F(JPEG, InksBecomeTheLightThatTheyLeave) {
                         {{51, 102, 153, 0}, {204, 153, 102}}, {{51, 102, 153, 51}, {163, 122, 82}}};
   for (const auto& [inks, light] : cases) {
     for (const bool adobe : {true, false}) {
-      for (const auto colours : {JpegColours::CMYK, JpegColours::YCCK}) {
-        if (!adobe && colours == JpegColours::YCCK) continue;  // only the marker tells YCCK from CMYK
+      for (const auto colors : {JpegColors::CMYK, JpegColors::YCCK}) {
+        if (!adobe && colors == JpegColors::YCCK) continue;  // only the marker tells YCCK from CMYK
         const auto held = [&, &inks = inks](int, int) {
           auto pixel = inks;
           for (auto& ink : pixel) ink = adobe ? static_cast<std::uint8_t>(255 - ink) : ink;
           return pixel;
         };
         ASSERT_TRUE(
-            Loads(MakeJpeg({.width = 9, .height = 9, .colours = colours, .quality = 100, .adobeMarker = adobe}, held)));
+            Loads(MakeJpeg({.width = 9, .height = 9, .colors = colors, .quality = 100, .adobeMarker = adobe}, held)));
         const RGB got = PixelAt(dib_, 4, 4);
         const bool near =
             std::abs(got.r - light.r) <= 2 && std::abs(got.g - light.g) <= 2 && std::abs(got.b - light.b) <= 2;
         EXPECT_TRUE(near) << "got " << got << ", want " << light << (adobe ? " inverted " : " plain ")
-                          << (colours == JpegColours::CMYK ? "CMYK" : "YCCK");
+                          << (colors == JpegColors::CMYK ? "CMYK" : "YCCK");
       }
     }
   }
@@ -237,9 +237,9 @@ TEST_F(JPEG, WhatIsNoReadableJPEGFileIsRefusedAndNothingChanges) {
 TEST_F(JPEG, AClaimOfMorePixelsThanTheFileCanHoldTakesNoMemory) {
   for (const bool progressive : {false, true}) {
     for (const bool arithmetic : {false, true}) {
-      for (const auto colours : {JpegColours::Grey, JpegColours::YCbCr, JpegColours::YCCK}) {
+      for (const auto colors : {JpegColors::Grey, JpegColors::YCbCr, JpegColors::YCCK}) {
         for (const int side : {9000, 65000}) {
-          const fakes::JpegRecipe recipe = {.colours = colours, .progressive = progressive, .arithmetic = arithmetic};
+          const fakes::JpegRecipe recipe = {.colors = colors, .progressive = progressive, .arithmetic = arithmetic};
           const auto path = folder_.Write("claim.jpg", fakes::ClaimingSize(MakeJpeg(recipe), side, side));
           cDIBSection dib = fakes::Plain(2, 2, {1, 2, 3});
           EXPECT_FALSE(LoadJPEGImage(dib, path)) << recipe;
@@ -258,9 +258,9 @@ TEST_F(JPEG, TheFlattestPicturesAreBelieved) {
   const auto black = [](int, int) { return std::array<std::uint8_t, 4>{}; };
   for (const bool progressive : {false, true}) {
     for (const bool arithmetic : {false, true}) {
-      for (const auto colours : {JpegColours::Grey, JpegColours::YCbCr}) {
+      for (const auto colors : {JpegColors::Grey, JpegColors::YCbCr}) {
         const fakes::JpegRecipe recipe = {
-            .width = 1500, .height = 1000, .colours = colours, .progressive = progressive, .arithmetic = arithmetic};
+            .width = 1500, .height = 1000, .colors = colors, .progressive = progressive, .arithmetic = arithmetic};
         EXPECT_TRUE(Loads(MakeJpeg(recipe, black))) << recipe;
       }
     }
@@ -269,7 +269,7 @@ TEST_F(JPEG, TheFlattestPicturesAreBelieved) {
 
 // The first scan may be there again: it says the same again.
 TEST_F(JPEG, ThousandsOfScansAreNotSatThrough) {
-  const std::string jpeg = MakeJpeg({.colours = JpegColours::Grey, .progressive = true});
+  const std::string jpeg = MakeJpeg({.colors = JpegColors::Grey, .progressive = true});
   const std::size_t first = jpeg.find("\xFF\xDA");
   const std::size_t tables = jpeg.find("\xFF\xC4", first);
   const std::string scan = jpeg.substr(first, tables - first);

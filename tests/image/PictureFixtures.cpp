@@ -23,19 +23,19 @@ std::size_t Bytes(const cDIBSection& dib) {
 
 }  // namespace
 
-std::ostream& operator<<(std::ostream& stream, const RGB& colour) {
-  return stream << "(" << colour.r << ", " << colour.g << ", " << colour.b << ")";
+std::ostream& operator<<(std::ostream& stream, const RGB& color) {
+  return stream << "(" << color.r << ", " << color.g << ", " << color.b << ")";
 }
 
 void Paint(cDIBSection& dib) {
   std::memset(dib.DIBSectionBitsPtr(), kPadding, Bytes(dib));
 }
 
-cDIBSection Plain(std::int32_t width, std::int32_t height, RGB colour) {
+cDIBSection Plain(std::int32_t width, std::int32_t height, RGB color) {
   cDIBSection dib = Made(width, height);
   for (std::int32_t y = 0; y < height; ++y) {
     for (std::int32_t x = 0; x < width; ++x) {
-      const int channels[] = {colour.b, colour.g, colour.r};
+      const int channels[] = {color.b, color.g, color.r};
       for (int i = 0; i < 3; ++i) dib.Row(y)[3 * x + i] = static_cast<std::uint8_t>(channels[i]);
     }
   }
@@ -51,13 +51,13 @@ cDIBSection Random(std::int32_t width, std::int32_t height, unsigned seed) {
   return dib;
 }
 
-cDIBSection EveryColour() {
+cDIBSection EveryColor() {
   cDIBSection dib = Made(4096, 4096);
   std::uint8_t* byte = dib.DIBSectionBitsPtr();
-  for (std::uint32_t colour = 0; colour < 1U << 24; ++colour) {
-    *byte++ = static_cast<std::uint8_t>(colour);
-    *byte++ = static_cast<std::uint8_t>(colour >> 8);
-    *byte++ = static_cast<std::uint8_t>(colour >> 16);
+  for (std::uint32_t color = 0; color < 1U << 24; ++color) {
+    *byte++ = static_cast<std::uint8_t>(color);
+    *byte++ = static_cast<std::uint8_t>(color >> 8);
+    *byte++ = static_cast<std::uint8_t>(color >> 16);
   }
   return dib;
 }

@@ -17,14 +17,14 @@ struct RGB {
   int b = 0;
   bool operator==(const RGB&) const = default;
 };
-std::ostream& operator<<(std::ostream& stream, const RGB& colour);
+std::ostream& operator<<(std::ostream& stream, const RGB& color);
 
-/// A picture of one colour; its padding bytes are 0xA5.
-[[nodiscard]] cDIBSection Plain(std::int32_t width, std::int32_t height, RGB colour);
+/// A picture of one color; its padding bytes are 0xA5.
+[[nodiscard]] cDIBSection Plain(std::int32_t width, std::int32_t height, RGB color);
 /// A picture of random bytes; its padding bytes are 0xA5.
 [[nodiscard]] cDIBSection Random(std::int32_t width, std::int32_t height, unsigned seed);
-/// 4096 x 4096 pixels: every colour there is once.
-[[nodiscard]] cDIBSection EveryColour();
+/// 4096 x 4096 pixels: every color there is once.
+[[nodiscard]] cDIBSection EveryColor();
 [[nodiscard]] cDIBSection CopyOf(const cDIBSection& dib);
 
 /// The pixel at a column from the left and a memory row.

@@ -19,14 +19,14 @@ using fakes::RGB;
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 constexpr std::uint32_t kBlack = 0x000000;
 
-void SetPixel(cDIBSection& dib, std::int32_t x, std::int32_t y, RGB colour) {
+void SetPixel(cDIBSection& dib, std::int32_t x, std::int32_t y, RGB color) {
   std::uint8_t* pixel = dib.Row(y) + 3 * x;
-  pixel[0] = static_cast<std::uint8_t>(colour.b);
-  pixel[1] = static_cast<std::uint8_t>(colour.g);
-  pixel[2] = static_cast<std::uint8_t>(colour.r);
+  pixel[0] = static_cast<std::uint8_t>(color.b);
+  pixel[1] = static_cast<std::uint8_t>(color.g);
+  pixel[2] = static_cast<std::uint8_t>(color.r);
 }
 
-/// A picture of few colours, so that whole pixels equal a key, its complement, or nearly so.
+/// A picture of few colors, so that whole pixels equal a key, its complement, or nearly so.
 cDIBSection Mottled(std::int32_t width, std::int32_t height, unsigned seed, RGB a, RGB b) {
   std::mt19937 generator(seed);
   cDIBSection dib = Random(width, height, seed);

@@ -27,11 +27,11 @@ LogFont FontOf(const std::string& face, std::int32_t height) {
   return {.lfHeight = height, .lfWeight = 700, .lfFaceName = face};
 }
 
-/// Pixels that differ from a colour.
-int PixelsUnlike(const cDIBSection& dib, RGB colour) {
+/// Pixels that differ from a color.
+int PixelsUnlike(const cDIBSection& dib, RGB color) {
   int count = 0;
   for (std::int32_t y = 0; y < dib.height(); ++y) {
-    for (std::int32_t x = 0; x < dib.width(); ++x) count += PixelAt(dib, x, y) == colour ? 0 : 1;
+    for (std::int32_t x = 0; x < dib.width(); ++x) count += PixelAt(dib, x, y) == color ? 0 : 1;
   }
   return count;
 }

@@ -12,9 +12,9 @@ struct HLS {
   float L = -9;
 };
 
-HLS ToHLS(fakes::RGB colour) {
+HLS ToHLS(fakes::RGB color) {
   HLS hls;
-  RGBToHLS(colour.r, colour.g, colour.b, hls.H, hls.S, hls.L);
+  RGBToHLS(color.r, color.g, color.b, hls.H, hls.S, hls.L);
   return hls;
 }
 
@@ -29,7 +29,7 @@ TEST(mHLSRGB, HueIsInSixthsOfTheCircleAndNotWrapped) {
   const std::pair<fakes::RGB, float> cases[] = {{{255, 0, 0}, 0.F},        {{255, 255, 0}, 1.F}, {{0, 255, 0}, 2.F},
                                                 {{0, 255, 255}, 3.F},      {{0, 0, 255}, 4.F},   {{255, 0, 255}, -1.F},
                                                 {{128, 0, 255}, 4.501961F}};
-  for (const auto& [colour, hue] : cases) EXPECT_FLOAT_EQ(ToHLS(colour).H, hue) << colour;
+  for (const auto& [color, hue] : cases) EXPECT_FLOAT_EQ(ToHLS(color).H, hue) << color;
 }
 
 TEST(mHLSRGB, GreyHasNeitherHueNorSaturation) {
@@ -64,10 +64,10 @@ TEST(mHLSRGB, EachSixthOfTheCircleHasItsOrderOfChannels) {
   const std::pair<float, fakes::RGB> cases[] = {{-0.5F, {204, 51, 128}}, {0.5F, {204, 128, 51}},
                                                 {1.5F, {128, 204, 51}},  {2.5F, {51, 204, 128}},
                                                 {3.5F, {51, 128, 204}},  {4.5F, {128, 51, 204}}};
-  for (const auto& [hue, colour] : cases) {
+  for (const auto& [hue, color] : cases) {
     std::int32_t got[3] = {};
     HLSToRGB(hue, 0.6F, 0.5F, got[0], got[1], got[2]);
-    EXPECT_EQ((fakes::RGB{got[0], got[1], got[2]}), colour) << hue;
+    EXPECT_EQ((fakes::RGB{got[0], got[1], got[2]}), color) << hue;
   }
 }
 

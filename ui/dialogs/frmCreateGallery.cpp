@@ -126,13 +126,13 @@ void frmCreateGallery::EnableFields() {
                                 ui_->textUploadSourceFolder, ui_->btnBrowseUploadSourceFolder});
 }
 
-/// The chosen one stands out in the system's colours, whatever they are at the moment.
+/// The chosen one stands out in the system's colors, whatever they are at the moment.
 void frmCreateGallery::ShowCaptions() {
   for (QRadioButton* option : {ui_->optionCreateGallery, ui_->optionUploadGallery, ui_->optionUploadFolder}) {
-    QPalette colours;
+    QPalette colors;
     const auto caption = option->isChecked() ? QPalette::Highlight : QPalette::ButtonText;
-    colours.setColor(QPalette::WindowText, palette().color(QPalette::Active, caption));
-    option->setPalette(colours);
+    colors.setColor(QPalette::WindowText, palette().color(QPalette::Active, caption));
+    option->setPalette(colors);
   }
 }
 

@@ -1,7 +1,7 @@
 #include "ui/dialogs/frmFont.h"
 
 #include "ui/model/dialogs/FontModel.h"
-#include "ui/qt/QtColour.h"
+#include "ui/qt/QtColor.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/OneLineValidator.h"
 #include "ui_frmFont.h"
@@ -27,9 +27,9 @@ QFont SampleFontOf(const FontDescription& font) {
 
 }  // namespace
 
-frmFont::frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColour pickColour,
+frmFont::frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor,
                  QWidget* parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::frmFont>()), font_(font), pickColour_(std::move(pickColour)) {
+    : QDialog(parent), ui_(std::make_unique<Ui::frmFont>()), font_(font), pickColor_(std::move(pickColor)) {
   ui_->setupUi(this);
   ui_->textFontName->setValidator(new OneLineValidator(this));
   for (const std::string& face : faces) ui_->listFontNames->addItem(ToQt(face));
@@ -51,7 +51,7 @@ void frmFont::ShowFont() {
   ui_->checkFontItalic->setChecked(font_.Italic);
   ui_->checkFontUnderline->setChecked(font_.Underline);
   ui_->checkFontStrikeout->setChecked(font_.Strikeout);
-  ui_->btnFontColor->SetColour(font_.Color);
+  ui_->btnFontColor->SetColor(font_.Color);
   ShowSample();
 }
 
@@ -78,7 +78,7 @@ void frmFont::ConnectRest() {
           [edit](bool on) { edit(&FontDescription::Underline, on); });
   connect(ui_->checkFontStrikeout, &QCheckBox::toggled, this,
           [edit](bool on) { edit(&FontDescription::Strikeout, on); });
-  connect(ui_->btnFontColor, &QPushButton::clicked, this, &frmFont::ChooseColour);
+  connect(ui_->btnFontColor, &QPushButton::clicked, this, &frmFont::ChooseColor);
   connect(ui_->OKButton, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -95,18 +95,18 @@ void frmFont::EditFace(const QString& name) {
   ShowSample();
 }
 
-void frmFont::ChooseColour() {
-  if (!pickColour_(font_.Color)) return;
-  ui_->btnFontColor->SetColour(font_.Color);
+void frmFont::ChooseColor() {
+  if (!pickColor_(font_.Color)) return;
+  ui_->btnFontColor->SetColor(font_.Color);
   ShowSample();
 }
 
 void frmFont::ShowSample() {
   ui_->lblFontSample->setFont(SampleFontOf(font_));
-  QPalette colours = ui_->lblFontSample->palette();
-  colours.setColor(QPalette::WindowText, ToQt(Colour{font_.Color}));
-  colours.setColor(QPalette::Window, NeedsDarkGround(font_.Color) ? Qt::black : Qt::white);
-  ui_->lblFontSample->setPalette(colours);
+  QPalette colors = ui_->lblFontSample->palette();
+  colors.setColor(QPalette::WindowText, ToQt(Color{font_.Color}));
+  colors.setColor(QPalette::Window, NeedsDarkGround(font_.Color) ? Qt::black : Qt::white);
+  ui_->lblFontSample->setPalette(colors);
 }
 
 }  // namespace vantorium

@@ -20,11 +20,11 @@ class frmFont : public QDialog {
   Q_OBJECT
 
  public:
-  /// Lets its user choose a colour; true when it changed.
-  using PickColour = std::function<bool(std::uint32_t& colour)>;
+  /// Lets its user choose a color; true when it changed.
+  using PickColor = std::function<bool(std::uint32_t& color)>;
 
   /// Offers `faces`.
-  frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColour pickColour, QWidget* parent);
+  frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor, QWidget* parent);
   ~frmFont() override;
 
   [[nodiscard]] const FontDescription& Font() const { return font_; }
@@ -34,12 +34,12 @@ class frmFont : public QDialog {
   void ConnectFace();
   void ConnectRest();
   void EditFace(const QString& name);
-  void ChooseColour();
+  void ChooseColor();
   void ShowSample();
 
   std::unique_ptr<Ui::frmFont> ui_;
   FontDescription font_;
-  PickColour pickColour_;
+  PickColor pickColor_;
 };
 
 }  // namespace vantorium

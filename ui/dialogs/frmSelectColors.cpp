@@ -1,6 +1,6 @@
 #include "ui/dialogs/frmSelectColors.h"
 
-#include "ui/qt/QtColour.h"
+#include "ui/qt/QtColor.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmSelectColors.h"
 
@@ -10,10 +10,10 @@
 namespace vantorium {
 namespace {
 
-void SetColour(QWidget& control, QPalette::ColorRole role, Colour colour) {
-  QPalette colours = control.palette();
-  colours.setColor(role, ToQt(colour));
-  control.setPalette(colours);
+void SetColor(QWidget& control, QPalette::ColorRole role, Color color) {
+  QPalette colors = control.palette();
+  colors.setColor(role, ToQt(color));
+  control.setPalette(colors);
 }
 
 bool IsRelease(const QEvent& event) {
@@ -23,50 +23,50 @@ bool IsRelease(const QEvent& event) {
 
 }  // namespace
 
-frmSelectColors::frmSelectColors(const std::string& title, const PageColours& colours, const PageColours& others,
-                                 ColourDialog& dialog, QWidget* owner)
-    : QDialog(owner), ui_(std::make_unique<Ui::frmSelectColors>()), model_(title, colours, others), dialog_(dialog) {
+frmSelectColors::frmSelectColors(const std::string& title, const PageColors& colors, const PageColors& others,
+                                 ColorDialog& dialog, QWidget* owner)
+    : QDialog(owner), ui_(std::make_unique<Ui::frmSelectColors>()), model_(title, colors, others), dialog_(dialog) {
   ui_->setupUi(this);
   if (!title.empty()) setWindowTitle(ToQt(title));
-  rows_ = {{&PageColours::background, ui_->btnBGColor, ui_->textBG},
-           {&PageColours::text, ui_->btnFGColor, ui_->lblText},
-           {&PageColours::link, ui_->btnLinkColor, ui_->lblLink},
-           {&PageColours::visitedLink, ui_->btnVisitedLinkColor, ui_->lblVisitedLink},
-           {&PageColours::activeLink, ui_->btnActiveLinkColor, ui_->lblActiveLink}};
+  rows_ = {{&PageColors::background, ui_->btnBGColor, ui_->textBG},
+           {&PageColors::text, ui_->btnFGColor, ui_->lblText},
+           {&PageColors::link, ui_->btnLinkColor, ui_->lblLink},
+           {&PageColors::visitedLink, ui_->btnVisitedLinkColor, ui_->lblVisitedLink},
+           {&PageColors::activeLink, ui_->btnActiveLinkColor, ui_->lblActiveLink}};
   for (const Row& row : rows_) ConnectRow(row);
   ui_->btnUseOtherColors->setText(ToQt(model_.UseOtherColorsCaption()));
   connect(ui_->btnUseOtherColors, &QPushButton::clicked, this, [this] {
     model_.UseOtherColors();
-    ShowColours();
+    ShowColors();
   });
   connect(ui_->OKButton, &QPushButton::clicked, this, [this] {
     model_.Apply();
     accept();
   });
   connect(ui_->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
-  ShowColours();
+  ShowColors();
   ui_->OKButton->setFocus();
 }
 
 frmSelectColors::~frmSelectColors() = default;
 
 void frmSelectColors::ConnectRow(const Row& row) {
-  connect(row.button, &QPushButton::clicked, this, [this, colour = row.colour] { Choose(colour); });
+  connect(row.button, &QPushButton::clicked, this, [this, color = row.color] { Choose(color); });
   row.element->setCursor(Qt::PointingHandCursor);
   row.element->installEventFilter(this);
 }
 
-void frmSelectColors::Choose(Colour PageColours::*colour) {
-  model_.Choose(colour, dialog_);
-  ShowColours();
+void frmSelectColors::Choose(Color PageColors::*color) {
+  model_.Choose(color, dialog_);
+  ShowColors();
 }
 
-void frmSelectColors::ShowColours() {
-  const PageColours& colours = model_.Colours();
+void frmSelectColors::ShowColors() {
+  const PageColors& colors = model_.Colors();
   for (const Row& row : rows_) {
-    row.button->SetColour(colours.*row.colour);
-    SetColour(*row.element, QPalette::Window, colours.background);
-    if (row.element != ui_->textBG) SetColour(*row.element, QPalette::WindowText, colours.*row.colour);
+    row.button->SetColor(colors.*row.color);
+    SetColor(*row.element, QPalette::Window, colors.background);
+    if (row.element != ui_->textBG) SetColor(*row.element, QPalette::WindowText, colors.*row.color);
   }
 }
 
@@ -74,7 +74,7 @@ bool frmSelectColors::eventFilter(QObject* watched, QEvent* event) {
   const auto row = std::find_if(rows_.begin(), rows_.end(), [watched](const Row& r) { return r.element == watched; });
   if (row != rows_.end() && IsRelease(*event)) {
     // Let go elsewhere, it is no click.
-    if (row->element->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) Choose(row->colour);
+    if (row->element->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) Choose(row->color);
     return true;  // a label's click is not one on the page behind it
   }
   return QDialog::eventFilter(watched, event);
@@ -85,12 +85,12 @@ void frmSelectColors::reject() {
   QDialog::reject();
 }
 
-bool SelectColors(const std::string& title, PageColours& colours, const PageColours& others, ColourDialog& dialog,
+bool SelectColors(const std::string& title, PageColors& colors, const PageColors& others, ColorDialog& dialog,
                   QWidget* owner) {
-  frmSelectColors form(title, colours, others, dialog, owner);
+  frmSelectColors form(title, colors, others, dialog, owner);
   form.exec();
   if (form.Model().Cancelled()) return false;
-  colours = form.Model().Colours();
+  colors = form.Model().Colors();
   return true;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/model/dialogs/SelectColorsModel.h"
-#include "ui/widgets/ColourButton.h"
+#include "ui/widgets/ColorButton.h"
 
 #include <QDialog>
 #include <memory>
@@ -14,12 +14,12 @@ class frmSelectColors;
 
 namespace vantorium {
 
-/// The window of SelectColorsModel: five buttons, and a small page in their colours.
+/// The window of SelectColorsModel: five buttons, and a small page in their colors.
 class frmSelectColors : public QDialog {
   Q_OBJECT
 
  public:
-  frmSelectColors(const std::string& title, const PageColours& colours, const PageColours& others, ColourDialog& dialog,
+  frmSelectColors(const std::string& title, const PageColors& colors, const PageColors& others, ColorDialog& dialog,
                   QWidget* owner);
   ~frmSelectColors() override;
 
@@ -30,26 +30,26 @@ class frmSelectColors : public QDialog {
   void reject() override;
 
  private:
-  /// A colour, its button and what shows it on the page.
+  /// A color, its button and what shows it on the page.
   struct Row {
-    Colour PageColours::*colour;
-    ColourButton* button;
+    Color PageColors::*color;
+    ColorButton* button;
     QWidget* element;
   };
 
   void ConnectRow(const Row& row);
-  void Choose(Colour PageColours::*colour);
-  void ShowColours();
+  void Choose(Color PageColors::*color);
+  void ShowColors();
 
   std::unique_ptr<Ui::frmSelectColors> ui_;
   SelectColorsModel model_;
-  ColourDialog& dialog_;
+  ColorDialog& dialog_;
   std::vector<Row> rows_;
 };
 
-/// Lets the user edit `colours` in a dialog over `owner`, which may be null, and copy `others` into them. True when it
-/// was not cancelled; only then `colours` has new values.
-[[nodiscard]] bool SelectColors(const std::string& title, PageColours& colours, const PageColours& others,
-                                ColourDialog& dialog, QWidget* owner);
+/// Lets the user edit `colors` in a dialog over `owner`, which may be null, and copy `others` into them. True when it
+/// was not cancelled; only then `colors` has new values.
+[[nodiscard]] bool SelectColors(const std::string& title, PageColors& colors, const PageColors& others,
+                                ColorDialog& dialog, QWidget* owner);
 
 }  // namespace vantorium

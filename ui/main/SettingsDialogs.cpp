@@ -7,7 +7,7 @@
 #include "ui/dialogs/frmLinks.h"
 #include "ui/dialogs/frmSelectColors.h"
 #include "ui/dialogs/frmWatermark.h"
-#include "ui/model/dialogs/ColourDialog.h"
+#include "ui/model/dialogs/ColorDialog.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/FieldBinder.h"
 
@@ -17,7 +17,7 @@
 namespace vantorium {
 namespace {
 
-PageColours ColoursOf(const GalleryProject& project, const PageColourFields& fields) {
+PageColors ColorsOf(const GalleryProject& project, const PageColorFields& fields) {
   return {project.*fields.background, project.*fields.text, project.*fields.link, project.*fields.visitedLink,
           project.*fields.activeLink};
 }
@@ -31,7 +31,7 @@ SettingsDialogs::SettingsDialogs(Parts parts, QWidget& form) : parts_(std::move(
   connectAll(CodeButtons());
   connectAll(HeaderFooterButtons());
   connectAll(BackdropButtons());
-  connectAll(ColoursButtons());
+  connectAll(ColorsButtons());
   connectAll(LinkButtons());
   connectAll(FiltersButtons());
   connectAll(WatermarkButtons());
@@ -66,16 +66,16 @@ void SettingsDialogs::Edit(const BackdropButton& row) {
   if (!chosen.result.empty()) SetIfOther(row.path, chosen.result);
 }
 
-void SettingsDialogs::Edit(const ColoursButton& row) {
+void SettingsDialogs::Edit(const ColorsButton& row) {
   const GalleryProject& project = parts_.binder.Project();
-  PageColours colours = ColoursOf(project, row.colours);
-  if (!SelectColors(std::string(row.title), colours, ColoursOf(project, row.others), parts_.colours, &form_)) return;
+  PageColors colors = ColorsOf(project, row.colors);
+  if (!SelectColors(std::string(row.title), colors, ColorsOf(project, row.others), parts_.colors, &form_)) return;
   parts_.binder.Edit([&](ProjectEditor& editor) {
-    editor.Set(row.colours.background, colours.background);
-    editor.Set(row.colours.text, colours.text);
-    editor.Set(row.colours.link, colours.link);
-    editor.Set(row.colours.visitedLink, colours.visitedLink);
-    editor.Set(row.colours.activeLink, colours.activeLink);
+    editor.Set(row.colors.background, colors.background);
+    editor.Set(row.colors.text, colors.text);
+    editor.Set(row.colors.link, colors.link);
+    editor.Set(row.colors.visitedLink, colors.visitedLink);
+    editor.Set(row.colors.activeLink, colors.activeLink);
   });
 }
 

@@ -11,7 +11,7 @@
 
 namespace vantorium {
 
-class ColourDialog;
+class ColorDialog;
 class FieldBinder;
 
 /// Opens the dialogs of the settings pages: each button of the tables in SettingsButtons does what its row says.
@@ -21,7 +21,7 @@ class SettingsDialogs : public QObject {
  public:
   struct Parts {
     FieldBinder& binder;
-    ColourDialog& colours;
+    ColorDialog& colors;
     const DesktopPorts& ports;
     std::function<SampleSources()> samples;  ///< where the pictures for filters and watermarks come from at the moment
   };
@@ -34,7 +34,7 @@ class SettingsDialogs : public QObject {
   void Edit(const CodeButton& row);
   void Edit(const HeaderFooterButton& row);
   void Edit(const BackdropButton& row);
-  void Edit(const ColoursButton& row);
+  void Edit(const ColorsButton& row);
   void Edit(const LinkButton& row);
   void Edit(const FiltersButton& row);
   void Edit(const WatermarkButton& row);

@@ -98,7 +98,7 @@ void frmMain::BuildPages() {
   ui_->tsMain->addTab(new frmGallery(binder_), tr("Gallery"));
   ui_->tsMain->addTab(imagesPage_, tr("Images"));
   ui_->tsMain->addTab(new frmImageWrapper(binder_, ports_.paths), tr("Image Wrappers"));
-  ui_->tsMain->addTab(new frmThumbnails(binder_, ports_.paths, colours_), tr("Thumbnails"));
+  ui_->tsMain->addTab(new frmThumbnails(binder_, ports_.paths, colors_), tr("Thumbnails"));
   ui_->tsMain->addTab(new frmCaptions(binder_), tr("Captions"));
   ui_->tsMain->addTab(new frmPageLinks(binder_), tr("Page Links"));
   connect(ui_->tsMain, &QTabWidget::currentChanged, this, &frmMain::ShowPage);
@@ -115,7 +115,7 @@ void frmMain::BuildPages() {
 
   pages_ = new SettingsPages(*this);
   pages_->setParent(this);
-  auto* dialogs = new SettingsDialogs({binder_, colours_, ports_, [this] { return Samples(); }}, *this);
+  auto* dialogs = new SettingsDialogs({binder_, colors_, ports_, [this] { return Samples(); }}, *this);
   dialogs->setParent(this);
   descriptions_ = new frmImageDescriptions(project_, binder_, ports_.boxes, this);
   create_ = std::make_unique<frmCreateGallery>(

@@ -9,7 +9,7 @@
 #include "publish/UploadLog.h"
 #include "publish/mFTP.h"
 #include "ui/main/DesktopPorts.h"
-#include "ui/model/dialogs/ColourDialog.h"
+#include "ui/model/dialogs/ColorDialog.h"
 #include "ui/model/dialogs/ProjectDialogs.h"
 #include "ui/model/dialogs/SampleDialog.h"
 #include "ui/widgets/FieldBinder.h"
@@ -73,7 +73,7 @@ class frmMain : public QMainWindow,
   void HideDescriptionsWindow() override;
   void SelectFirstTab() override;
   void FocusTitleField() override;
-  void RebuildCustomColours() override;
+  void RebuildCustomColors() override;
   [[nodiscard]] CreateChoice AskWhatToCreate() override;
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
   void ShowStatus(const std::string& text) override { SetStatusText(text); }
@@ -135,7 +135,7 @@ class frmMain : public QMainWindow,
   ImageListOperations images_{project_, ports_.files, ports_.boxes, *this};
   ProjectFileDialogWindow projectDialog_{ports_.fileBrowser};
   ProjectSession session_;
-  ColourDialog colours_{ports_.dialogs};
+  ColorDialog colors_{ports_.dialogs};
   UploadLog log_;
   CancelCheck cancel_{ports_.boxes};
   mFTP ftp_;

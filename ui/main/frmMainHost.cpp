@@ -7,7 +7,7 @@
 #include "ui/main/frmInfo.h"
 #include "ui/main/frmMain.h"
 #include "ui/main/frmSysTray.h"
-#include "ui/qt/QtColour.h"
+#include "ui/qt/QtColor.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmMain.h"
 
@@ -75,12 +75,12 @@ void frmMain::FocusTitleField() {
   findChild<QWidget*>("textGalleryTitle")->setFocus();
 }
 
-void frmMain::RebuildCustomColours() {
-  CustomColours colours = {};
-  for (std::size_t i = 0; i < colours.size(); ++i) {
-    colours[i] = FromQt(palette().color(static_cast<QPalette::ColorRole>(i)));
+void frmMain::RebuildCustomColors() {
+  CustomColors colors = {};
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    colors[i] = FromQt(palette().color(static_cast<QPalette::ColorRole>(i)));
   }
-  colours_.RebuildCustomColours(colours);
+  colors_.RebuildCustomColors(colors);
 }
 
 CreateChoice frmMain::AskWhatToCreate() {

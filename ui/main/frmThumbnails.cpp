@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-frmThumbnails::frmThumbnails(FieldBinder& binder, const PathMap& paths, ColourDialog& colours, QWidget* parent)
+frmThumbnails::frmThumbnails(FieldBinder& binder, const PathMap& paths, ColorDialog& colors, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::frmThumbnails>()) {
   ui_->setupUi(this);
   binder.Bind(*ui_->textThumbnailsTableRows, *ui_->udThumbnailsTableRows, &GalleryProject::textThumbnailsTableRows);
@@ -20,7 +20,7 @@ frmThumbnails::frmThumbnails(FieldBinder& binder, const PathMap& paths, ColourDi
   binder.Bind(*ui_->comboThumbnailsTableAlignment, &GalleryProject::comboThumbnailsTableAlignment);
   binder.BindPath(*ui_->textThumbnailsTableBackdrop, paths, &GalleryProject::textThumbnailsTableBackdrop);
   binder.Bind(*ui_->checkThumbnailsTableUseBGColor, &GalleryProject::checkThumbnailsTableUseBGColor);
-  binder.Bind(*ui_->btnThumbnailsTableBGColor, colours, &GalleryProject::btnThumbnailsTableBGColor);
+  binder.Bind(*ui_->btnThumbnailsTableBGColor, colors, &GalleryProject::btnThumbnailsTableBGColor);
   binder.Bind(*ui_->checkThumbnailsPageSetColors, &GalleryProject::checkThumbnailsPageSetColors);
   binder.BindPath(*ui_->textThumbnailsPageBackdrop, paths, &GalleryProject::textThumbnailsPageBackdrop);
   binder.Bind(*ui_->checkThumbnailsImageKeepAspectRatio, &GalleryProject::checkThumbnailsImageKeepAspectRatio);

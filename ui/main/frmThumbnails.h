@@ -9,7 +9,7 @@ class frmThumbnails;
 
 namespace vantorium {
 
-class ColourDialog;
+class ColorDialog;
 class FieldBinder;
 class PathMap;
 
@@ -18,7 +18,7 @@ class frmThumbnails : public QWidget {
   Q_OBJECT
 
  public:
-  frmThumbnails(FieldBinder& binder, const PathMap& paths, ColourDialog& colours, QWidget* parent = nullptr);
+  frmThumbnails(FieldBinder& binder, const PathMap& paths, ColorDialog& colors, QWidget* parent = nullptr);
   ~frmThumbnails() override;
 
  private:

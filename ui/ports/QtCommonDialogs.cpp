@@ -1,20 +1,20 @@
 #include "ui/ports/QtCommonDialogs.h"
 
 #include "ui/dialogs/frmFont.h"
-#include "ui/qt/QtColour.h"
+#include "ui/qt/QtColor.h"
 
 #include <QApplication>
 #include <QColorDialog>
 
 namespace vantorium {
 
-bool QtCommonDialogs::ShowColorDialog(std::uint32_t& colour, CustomColours& custom) {
+bool QtCommonDialogs::ShowColorDialog(std::uint32_t& color, CustomColors& custom) {
   for (std::size_t i = 0; i < custom.size(); ++i) QColorDialog::setCustomColor(static_cast<int>(i), ToQt(custom[i]));
-  QColorDialog dialog(ToQt(colour), QApplication::activeWindow());
+  QColorDialog dialog(ToQt(color), QApplication::activeWindow());
   dialog.setObjectName("ColorDialog");
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   if (dialog.exec() != QDialog::Accepted) return false;
-  colour = FromQt(dialog.selectedColor());
+  color = FromQt(dialog.selectedColor());
   for (std::size_t i = 0; i < custom.size(); ++i) custom[i] = FromQt(QColorDialog::customColor(static_cast<int>(i)));
   lastCustom_ = custom;
   return true;
@@ -22,7 +22,7 @@ bool QtCommonDialogs::ShowColorDialog(std::uint32_t& colour, CustomColours& cust
 
 bool QtCommonDialogs::ShowFontDialog(FontDescription& font) {
   frmFont dialog(
-      font, texts_.FaceNames(), [this](std::uint32_t& colour) { return ShowColorDialog(colour, lastCustom_); },
+      font, texts_.FaceNames(), [this](std::uint32_t& color) { return ShowColorDialog(color, lastCustom_); },
       QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   font = dialog.Font();

@@ -5,21 +5,21 @@
 
 namespace vantorium {
 
-/// The colour dialog of the toolkit and a font dialog of the program's own, both over the active window and the same on
+/// The color dialog of the toolkit and a font dialog of the program's own, both over the active window and the same on
 /// every desktop.
 class QtCommonDialogs : public mCommonDialogs {
  public:
   /// `texts` draws with the fonts that the font dialog lists.
   explicit QtCommonDialogs(const TextRaster& texts) : texts_(texts) { lastCustom_.fill(0xFFFFFF); }
 
-  [[nodiscard]] bool ShowColorDialog(std::uint32_t& colour, CustomColours& custom) override;
-  /// Its colours are chosen with the custom colours of the colour dialog that was last shown. Throws as
+  [[nodiscard]] bool ShowColorDialog(std::uint32_t& color, CustomColors& custom) override;
+  /// Its colors are chosen with the custom colors of the color dialog that was last shown. Throws as
   /// TextRaster::FaceNames.
   [[nodiscard]] bool ShowFontDialog(FontDescription& font) override;
 
  private:
   const TextRaster& texts_;
-  CustomColours lastCustom_;
+  CustomColors lastCustom_;
 };
 
 }  // namespace vantorium

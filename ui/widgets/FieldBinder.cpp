@@ -2,9 +2,9 @@
 
 #include "env/PathMap.h"
 #include "env/RuntimeFailure.h"
-#include "ui/model/dialogs/ColourDialog.h"
+#include "ui/model/dialogs/ColorDialog.h"
 #include "ui/qt/QtText.h"
-#include "ui/widgets/ColourButton.h"
+#include "ui/widgets/ColorButton.h"
 #include "ui/widgets/OneLineValidator.h"
 #include "ui/widgets/TypedKeys.h"
 #include "ui/widgets/UpDown.h"
@@ -112,13 +112,13 @@ void FieldBinder::Bind(QComboBox& control, Choice GalleryProject::*field, std::f
   });
 }
 
-void FieldBinder::Bind(ColourButton& control, ColourDialog& dialog, Colour GalleryProject::*field) {
+void FieldBinder::Bind(ColorButton& control, ColorDialog& dialog, Color GalleryProject::*field) {
   fields_.push_back(&FieldOf(field));
-  connect(&control, &ColourButton::clicked, this, [this, &dialog, field] {
-    Colour colour = Project().*field;
-    if (dialog.DisplayColorDialog2(colour)) Edit([&](ProjectEditor& editor) { editor.Set(field, colour); });
+  connect(&control, &ColorButton::clicked, this, [this, &dialog, field] {
+    Color color = Project().*field;
+    if (dialog.DisplayColorDialog2(color)) Edit([&](ProjectEditor& editor) { editor.Set(field, color); });
   });
-  show_.push_back([&control, field](const GalleryProject& project) { control.SetColour(project.*field); });
+  show_.push_back([&control, field](const GalleryProject& project) { control.SetColor(project.*field); });
 }
 
 void FieldBinder::Edit(const std::function<void(ProjectEditor&)>& edit) {

@@ -13,8 +13,8 @@
 
 namespace vantorium {
 
-class ColourButton;
-class ColourDialog;
+class ColorButton;
+class ColorDialog;
 class PathMap;
 class UpDown;
 
@@ -38,8 +38,8 @@ class FieldBinder : public QObject {
   /// A list, filled in the same way; an index that the user picks goes to `choose` in place of the field.
   void Bind(QComboBox& control, Choice GalleryProject::*field, std::function<void(Choice)> choose);
 
-  /// A button that shows a colour and asks for another one when it is clicked.
-  void Bind(ColourButton& control, ColourDialog& dialog, Colour GalleryProject::*field);
+  /// A button that shows a color and asks for another one when it is clicked.
+  void Bind(ColorButton& control, ColorDialog& dialog, Color GalleryProject::*field);
 
   /// Runs an edit that a control or a dialog asks for, and says that it was done.
   void Edit(const std::function<void(ProjectEditor&)>& edit);

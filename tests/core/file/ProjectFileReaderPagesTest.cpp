@@ -44,31 +44,30 @@ TEST_F(ProjectFileReaderPagesTest, TheThumbnailPageIsRead) {
   EXPECT_EQ(Settings().ThumbnailFooter, "5");
 }
 
-TEST_F(ProjectFileReaderPagesTest, OneColourTurnsTheColoursOn) {
-  const std::pair<std::string, Colour GalleryProject::*> cases[] = {
-      {"BGCOLOR", &GalleryProject::ThumbnailPageBgColor},
-      {"TEXT", &GalleryProject::ThumbnailPageTextColor},
-      {"LINK", &GalleryProject::ThumbnailPageLinkColor},
-      {"ALINK", &GalleryProject::ThumbnailPageALinkColor},
-      {"VLINK", &GalleryProject::ThumbnailPageVLinkColor}};
-  for (const auto& [attribute, colour] : cases) {
+TEST_F(ProjectFileReaderPagesTest, OneColorTurnsTheColorsOn) {
+  const std::pair<std::string, Color GalleryProject::*> cases[] = {{"BGCOLOR", &GalleryProject::ThumbnailPageBgColor},
+                                                                   {"TEXT", &GalleryProject::ThumbnailPageTextColor},
+                                                                   {"LINK", &GalleryProject::ThumbnailPageLinkColor},
+                                                                   {"ALINK", &GalleryProject::ThumbnailPageALinkColor},
+                                                                   {"VLINK", &GalleryProject::ThumbnailPageVLinkColor}};
+  for (const auto& [attribute, color] : cases) {
     ASSERT_TRUE(Read(ProjectFileParts{.thumbnailPageAttributes = attribute + "='a0b0c'"})) << attribute;
-    EXPECT_EQ(Settings().*colour, 0x0A0B0CU) << attribute;
+    EXPECT_EQ(Settings().*color, 0x0A0B0CU) << attribute;
     EXPECT_EQ(Settings().checkThumbnailsPageSetColors, 1) << attribute;
     EXPECT_EQ(Settings().checkImageWrapperSetColors, 0) << attribute;
   }
 }
 
-TEST_F(ProjectFileReaderPagesTest, AColourOfTwoDigitsIsItsRed) {
+TEST_F(ProjectFileReaderPagesTest, AColorOfTwoDigitsIsItsRed) {
   ASSERT_TRUE(Read(ProjectFileParts{.thumbnailPageAttributes = "BGCOLOR='FF'"}));
   EXPECT_EQ(Settings().ThumbnailPageBgColor, 0x0000FFU);
 }
 
-TEST_F(ProjectFileReaderPagesTest, AColourThatIsNoNumberFails) {
-  for (const char* colour : {"red", "", "#FF0000", "FFG"}) {
-    EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPageAttributes = "TEXT='" + std::string(colour) + "'"})) << colour;
-    EXPECT_EQ(Box(), "Vantorium: Type mismatch") << colour;
-    EXPECT_EQ(Settings().checkThumbnailsPageSetColors, 0) << colour;
+TEST_F(ProjectFileReaderPagesTest, AColorThatIsNoNumberFails) {
+  for (const char* color : {"red", "", "#FF0000", "FFG"}) {
+    EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPageAttributes = "TEXT='" + std::string(color) + "'"})) << color;
+    EXPECT_EQ(Box(), "Vantorium: Type mismatch") << color;
+    EXPECT_EQ(Settings().checkThumbnailsPageSetColors, 0) << color;
   }
 }
 

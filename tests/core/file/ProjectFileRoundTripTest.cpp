@@ -47,7 +47,7 @@ void Change(GalleryProject& project, const ProjectField& field) {
           ChangeRecord(value, LinkFields());
         } else if constexpr (std::is_same_v<Value, std::string>) {
           value = field.kind == FieldKind::Digits ? "17" : "<another>\r\n]]& " + std::string(field.name);
-        } else if constexpr (std::is_same_v<Value, Colour>) {
+        } else if constexpr (std::is_same_v<Value, Color>) {
           value = 0x123456;
         } else if (field.kind == FieldKind::Flag) {
           value = static_cast<Flag>(1 - value);

@@ -192,7 +192,7 @@ void AddLinks(std::vector<Gallery>& galleries) {
 }
 
 void AddLooks(std::vector<Gallery>& galleries) {
-  galleries.push_back({"colours_and_backdrops", [](GalleryProject& project) {
+  galleries.push_back({"colors_and_backdrops", [](GalleryProject& project) {
                          project.checkThumbnailsPageSetColors = 1;
                          project.checkImageWrapperSetColors = 1;
                          project.ImagePageBgColor = 0x123456;

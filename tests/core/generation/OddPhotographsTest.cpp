@@ -5,7 +5,7 @@
 namespace vantorium {
 namespace {
 
-using fakes::JpegColours;
+using fakes::JpegColors;
 using fakes::JpegRecipe;
 
 class OddPhotographsTest : public RunFixture {
@@ -21,14 +21,10 @@ class OddPhotographsTest : public RunFixture {
 
 /// One of each that decodes.
 const std::pair<const char*, JpegRecipe> kOddButGood[] = {
-    {"grey", {.colours = JpegColours::Grey}},
-    {"inks", {.colours = JpegColours::CMYK}},
-    {"adobe_inks", {.colours = JpegColours::YCCK}},
-    {"scans", {.width = 300, .height = 200, .progressive = true}},
-    {"dot", {.width = 1, .height = 1}},
-    {"line", {.width = 1, .height = 5000}},
-    {"wide", {.width = 20000, .height = 3}},
-    {"restarts", {.restartEvery = 1}},
+    {"grey", {.colors = JpegColors::Grey}},       {"inks", {.colors = JpegColors::CMYK}},
+    {"adobe_inks", {.colors = JpegColors::YCCK}}, {"scans", {.width = 300, .height = 200, .progressive = true}},
+    {"dot", {.width = 1, .height = 1}},           {"line", {.width = 1, .height = 5000}},
+    {"wide", {.width = 20000, .height = 3}},      {"restarts", {.restartEvery = 1}},
     {"plain", {.horizontal = 1, .vertical = 1}},
 };
 

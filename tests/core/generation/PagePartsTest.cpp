@@ -6,7 +6,7 @@ namespace {
 
 using PageParts = PageTest;
 
-TEST_F(PageParts, AColourIsRedGreenBlueInSixDigits) {
+TEST_F(PageParts, AColorIsRedGreenBlueInSixDigits) {
   EXPECT_EQ(ColorToHtml(0x000000), "000000");
   EXPECT_EQ(ColorToHtml(0xFFFFFF), "FFFFFF");
   EXPECT_EQ(ColorToHtml(0xA00000), "0000A0");
@@ -24,14 +24,14 @@ TEST_F(PageParts, ABackdropIsItsCopyInTheImagesFolder) {
   EXPECT_EQ(BackdropAttribute(run, "_backdrop_x", "a.png"), R"( BACKGROUND="images/_backdrop_x.png")");
 }
 
-TEST_F(PageParts, ABodyWithColoursHasFiveOfThemWithoutHashes) {
-  const PageColours colours{.background = 0xFFFFFF, .text = 0, .link = 0xA00000, .visitedLink = 1, .activeLink = 0xFF};
-  EXPECT_EQ(BodyTag(colours, ""),
+TEST_F(PageParts, ABodyWithColorsHasFiveOfThemWithoutHashes) {
+  const PageColors colors{.background = 0xFFFFFF, .text = 0, .link = 0xA00000, .visitedLink = 1, .activeLink = 0xFF};
+  EXPECT_EQ(BodyTag(colors, ""),
             R"(<BODY BGCOLOR="FFFFFF" TEXT="000000" LINK="0000A0" VLINK="010000" ALINK="FF0000">)");
-  EXPECT_TRUE(BodyTag(colours, " BACKGROUND=\"b\"").ends_with(R"(ALINK="FF0000" BACKGROUND="b">)"));
+  EXPECT_TRUE(BodyTag(colors, " BACKGROUND=\"b\"").ends_with(R"(ALINK="FF0000" BACKGROUND="b">)"));
 }
 
-TEST_F(PageParts, ABodyWithoutColoursKeepsItsBlank) {
+TEST_F(PageParts, ABodyWithoutColorsKeepsItsBlank) {
   EXPECT_EQ(BodyTag(""), "<BODY >");
   EXPECT_EQ(BodyTag(" BACKGROUND=\"b\""), R"(<BODY  BACKGROUND="b">)");
 }

@@ -18,7 +18,7 @@
 
 namespace vantorium {
 
-/// The bytes of a JPEG file of one colour.
+/// The bytes of a JPEG file of one color.
 inline std::string PlainJpeg(std::int32_t width, std::int32_t height, std::uint8_t level = 120) {
   cDIBSection picture;
   EXPECT_TRUE(picture.Create(width, height));

@@ -115,7 +115,7 @@ TEST_F(ThumbnailPage, AGridThatNoPageCanHoldIsAnOverflow) {
   EXPECT_THROW((void)Page(), RuntimeFailure);
 }
 
-TEST_F(ThumbnailPage, ColoursAndBackdropStandInTheBody) {
+TEST_F(ThumbnailPage, ColorsAndBackdropStandInTheBody) {
   AddImages(1);
   Prepare();
   project.textThumbnailsPageBackdrop = "C:\\pics\\sand.gif";
@@ -131,7 +131,7 @@ TEST_F(ThumbnailPage, ColoursAndBackdropStandInTheBody) {
             R"( BACKGROUND="Images/_backdrop_thumbpage.gif">)");
 }
 
-TEST_F(ThumbnailPage, TheTableHasItsNumbersAsTypedAndAHashBeforeItsColour) {
+TEST_F(ThumbnailPage, TheTableHasItsNumbersAsTypedAndAHashBeforeItsColor) {
   AddImages(1);
   Prepare();
   project.textThumbnailsTableBorder = "01";

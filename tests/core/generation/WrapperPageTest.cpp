@@ -94,7 +94,7 @@ TEST_F(WrapperPage, TheSlideShowRefreshStandsBehindTheGenerator) {
   EXPECT_EQ(LineStartingWith(Page(2), refresh), refresh + R"( CONTENT="7; URL=thumbpage_1.htm">)");
 }
 
-TEST_F(WrapperPage, ColoursAreThoseOfImagePages) {
+TEST_F(WrapperPage, ColorsAreThoseOfImagePages) {
   AddImages(1);
   Prepare();
   project.checkImageWrapperSetColors = 1;

@@ -1,7 +1,7 @@
 #include "tests/fakes/ScriptedCommonDialogs.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/dialogs/frmSelectColors.h"
-#include "ui/qt/QtColour.h"
+#include "ui/qt/QtColor.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -15,50 +15,50 @@ using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
 
-/// A button and what shows its colour.
+/// A button and what shows its color.
 struct Pair {
   const char* button;
   const char* element;
-  Colour PageColours::*colour;
+  Color PageColors::*color;
 };
 
-constexpr Pair kPairs[] = {{"btnBGColor", "textBG", &PageColours::background},
-                           {"btnFGColor", "lblText", &PageColours::text},
-                           {"btnLinkColor", "lblLink", &PageColours::link},
-                           {"btnVisitedLinkColor", "lblVisitedLink", &PageColours::visitedLink},
-                           {"btnActiveLinkColor", "lblActiveLink", &PageColours::activeLink}};
+constexpr Pair kPairs[] = {{"btnBGColor", "textBG", &PageColors::background},
+                           {"btnFGColor", "lblText", &PageColors::text},
+                           {"btnLinkColor", "lblLink", &PageColors::link},
+                           {"btnVisitedLinkColor", "lblVisitedLink", &PageColors::visitedLink},
+                           {"btnActiveLinkColor", "lblActiveLink", &PageColors::activeLink}};
 
 class SelectColorsForm : public testing::Test {
  protected:
   bool Edit(const std::function<void(QWidget&)>& drive, const char* title = "Select Thumbnail Page Colors") {
     bool answer = false;
-    DriveModal([&] { answer = SelectColors(title, colours, others, dialog, nullptr); }, drive);
+    DriveModal([&] { answer = SelectColors(title, colors, others, dialog, nullptr); }, drive);
     return answer;
   }
 
   /// What the buttons show; and that the page shows the same.
-  static PageColours Shown(QWidget& form) {
-    PageColours shown;
+  static PageColors Shown(QWidget& form) {
+    PageColors shown;
     for (const Pair& pair : kPairs) {
-      shown.*pair.colour = Find<ColourButton>(form, pair.button).GetColour();
+      shown.*pair.color = Find<ColorButton>(form, pair.button).GetColor();
       const QPalette palette = Find<QWidget>(form, pair.element).palette();
-      EXPECT_EQ(FromQt(palette.color(QPalette::Window)), Find<ColourButton>(form, "btnBGColor").GetColour());
-      if (pair.colour == &PageColours::background) continue;
-      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), shown.*pair.colour) << pair.element;
+      EXPECT_EQ(FromQt(palette.color(QPalette::Window)), Find<ColorButton>(form, "btnBGColor").GetColor());
+      if (pair.color == &PageColors::background) continue;
+      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), shown.*pair.color) << pair.element;
     }
     return shown;
   }
 
   fakes::ScriptedCommonDialogs dialogs;
-  ColourDialog dialog{dialogs};
-  PageColours colours = {0xFFFFFF, 0x000000, 0xA00000, 0x800080, 0x0000FF};
-  const PageColours others = {0x111111, 0x222222, 0x333333, 0x444444, 0x555555};
+  ColorDialog dialog{dialogs};
+  PageColors colors = {0xFFFFFF, 0x000000, 0xA00000, 0x800080, 0x0000FF};
+  const PageColors others = {0x111111, 0x222222, 0x333333, 0x444444, 0x555555};
 };
 
-TEST_F(SelectColorsForm, ShowsItsColoursWithTheFocusOnApply) {
+TEST_F(SelectColorsForm, ShowsItsColorsWithTheFocusOnApply) {
   Edit([this](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Select Thumbnail Page Colors");
-    EXPECT_EQ(Shown(form), colours);
+    EXPECT_EQ(Shown(form), colors);
     EXPECT_TRUE(Find<QPushButton>(form, "OKButton").hasFocus());
     EXPECT_EQ(Find<QLabel>(form, "lblText").text(), "Regular Text");
     EXPECT_EQ(Find<QLabel>(form, "lblLink").text(), "Regular Link");
@@ -74,46 +74,46 @@ TEST_F(SelectColorsForm, ShowsItsColoursWithTheFocusOnApply) {
   });
 }
 
-TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColour) {
+TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColor) {
   for (const Pair& pair : kPairs) {
     for (const char* control : {pair.button, pair.element}) {
-      const PageColours before = colours;
-      dialogs.colours = {0x123456};
+      const PageColors before = colors;
+      dialogs.colors = {0x123456};
       EXPECT_TRUE(Edit([&](QWidget& form) {
-        if (control == pair.element && pair.colour == &PageColours::background) {
+        if (control == pair.element && pair.color == &PageColors::background) {
           QTest::mouseClick(&Find<QWidget>(form, control), Qt::LeftButton, {}, QPoint(4, 4));  // beside the labels
         } else {
           Click(form, control);
         }
-        PageColours expected = before;
-        expected.*pair.colour = 0x123456;
+        PageColors expected = before;
+        expected.*pair.color = 0x123456;
         EXPECT_EQ(Shown(form), expected) << control;
         Click(form, "OKButton");
       }));
-      EXPECT_EQ(dialogs.coloursShown.back(), before.*pair.colour) << control;
-      EXPECT_EQ(colours.*pair.colour, 0x123456U) << control;
-      colours = before;
+      EXPECT_EQ(dialogs.colorsShown.back(), before.*pair.color) << control;
+      EXPECT_EQ(colors.*pair.color, 0x123456U) << control;
+      colors = before;
     }
   }
 }
 
-TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColours) {
-  dialogs.colours = {0x123456};
+TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColors) {
+  dialogs.colors = {0x123456};
   Edit([this](QWidget& form) {
     Click(form, "btnBGColor");
     for (const Pair& pair : kPairs) {
       const QPalette palette = Find<QWidget>(form, pair.element).palette();
       EXPECT_EQ(FromQt(palette.color(QPalette::Window)), 0x123456U) << pair.element;
-      if (pair.colour == &PageColours::background) continue;
-      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), colours.*pair.colour) << pair.element;
+      if (pair.color == &PageColors::background) continue;
+      EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), colors.*pair.color) << pair.element;
     }
   });
 }
 
 TEST_F(SelectColorsForm, AClickOnALabelIsNotOneOnThePage) {
-  dialogs.colours = {std::nullopt};
+  dialogs.colors = {std::nullopt};
   Edit([](QWidget& form) { Click(form, "lblLink"); });
-  EXPECT_EQ(dialogs.coloursShown.size(), 1U);
+  EXPECT_EQ(dialogs.colorsShown.size(), 1U);
 }
 
 TEST_F(SelectColorsForm, APressThatIsLetGoElsewhereOpensNothing) {
@@ -124,21 +124,21 @@ TEST_F(SelectColorsForm, APressThatIsLetGoElsewhereOpensNothing) {
       QTest::mouseRelease(&element, Qt::LeftButton, {}, QPoint(2, -3));
     }
   });
-  EXPECT_TRUE(dialogs.coloursShown.empty());
+  EXPECT_TRUE(dialogs.colorsShown.empty());
 }
 
-TEST_F(SelectColorsForm, TheOtherPagesColoursAreCopied) {
+TEST_F(SelectColorsForm, TheOtherPagesColorsAreCopied) {
   EXPECT_TRUE(Edit([this](QWidget& form) {
     EXPECT_EQ(Find<QPushButton>(form, "btnUseOtherColors").text(), "Copy Image Wrapper Colors");
     Click(form, "btnUseOtherColors");
     EXPECT_EQ(Shown(form), others);
     Click(form, "OKButton");
   }));
-  EXPECT_EQ(colours, others);
+  EXPECT_EQ(colors, others);
 }
 
 TEST_F(SelectColorsForm, ACopyThatIsCancelledChangesNothing) {
-  const PageColours before = colours;
+  const PageColors before = colors;
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Edit(
         [byButton](QWidget& form) {
@@ -151,7 +151,7 @@ TEST_F(SelectColorsForm, ACopyThatIsCancelledChangesNothing) {
           }
         },
         "Select Image Wrapper Colors"));
-    EXPECT_EQ(colours, before);
+    EXPECT_EQ(colors, before);
   }
 }
 

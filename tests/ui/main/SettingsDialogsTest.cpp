@@ -67,26 +67,26 @@ TEST_F(DialogsOfPages, CodeThatAProjectCannotHoldIsRefused) {
   EXPECT_EQ(Settings().GalleryHeadCode, "ab");
 }
 
-TEST_F(DialogsOfPages, ColoursOfAPage) {
+TEST_F(DialogsOfPages, ColorsOfAPage) {
   desk.GoTo(2);
   Click(*desk.window, "checkImageWrapperSetColors");
-  desk.dialogs.colours = {0x112233};
-  Drive(2, "btnImageWrapperColors", [](QWidget& colours) {
-    Click(colours, "btnBGColor");
-    Click(colours, "CancelButton");
+  desk.dialogs.colors = {0x112233};
+  Drive(2, "btnImageWrapperColors", [](QWidget& colors) {
+    Click(colors, "btnBGColor");
+    Click(colors, "CancelButton");
   });
   EXPECT_EQ(Settings().ImagePageBgColor, 0xFFFFFFU);
-  desk.dialogs.colours = {0x112233};
-  Drive(2, "btnImageWrapperColors", [](QWidget& colours) {
-    Click(colours, "btnBGColor");
-    Click(colours, "OKButton");
+  desk.dialogs.colors = {0x112233};
+  Drive(2, "btnImageWrapperColors", [](QWidget& colors) {
+    Click(colors, "btnBGColor");
+    Click(colors, "OKButton");
   });
   EXPECT_EQ(Settings().ImagePageBgColor, 0x112233U);
   desk.GoTo(3);
   Click(*desk.window, "checkThumbnailsPageSetColors");
-  Drive(3, "btnThumbnailsPageColors", [](QWidget& colours) {
-    Click(colours, "btnUseOtherColors");
-    Click(colours, "OKButton");
+  Drive(3, "btnThumbnailsPageColors", [](QWidget& colors) {
+    Click(colors, "btnUseOtherColors");
+    Click(colors, "OKButton");
   });
   EXPECT_EQ(Settings().ThumbnailPageBgColor, 0x112233U);
 }
@@ -172,12 +172,12 @@ TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
     return fakes::MakeJpeg({}, [=](int, int) { return std::array<std::uint8_t, 4>{red, 0, blue, 0}; });
   };
   const auto middle = [this](const char* button) {
-    QColor colour;
+    QColor color;
     Drive(1, button, [&](QWidget& dialog) {
       const QImage& sample = Find<PictureBox>(dialog, "pbPreview").Shown();
-      colour = sample.pixelColor(sample.rect().center());
+      color = sample.pixelColor(sample.rect().center());
     });
-    return std::pair(colour.red() / 64, colour.blue() / 64);
+    return std::pair(color.red() / 64, color.blue() / 64);
   };
   desk.folder.Write("program/preview.jpg", plain(255, 0));
   EXPECT_EQ(middle("btnImagesFilters"), std::pair(3, 0)) << "the one beside the program";

@@ -3,7 +3,7 @@
 #include "tests/ui/MainDesk.h"
 #include "ui/model/main/ControlRules.h"
 #include "ui/model/main/SettingsButtons.h"
-#include "ui/widgets/ColourButton.h"
+#include "ui/widgets/ColorButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -62,10 +62,10 @@ TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
     add(row.header);
     add(row.footer);
   }
-  for (const auto& row : ColoursButtons()) {
-    for (const auto colour : {row.colours.background, row.colours.text, row.colours.link, row.colours.visitedLink,
-                              row.colours.activeLink}) {
-      add(colour);
+  for (const auto& row : ColorsButtons()) {
+    for (const auto color :
+         {row.colors.background, row.colors.text, row.colors.link, row.colors.visitedLink, row.colors.activeLink}) {
+      add(color);
     }
   }
   for (const auto& row : LinkButtons()) add(row.link);
@@ -336,16 +336,16 @@ TEST_F(SettingsOnPages, RowsAndColumnsRecountThePages) {
   EXPECT_EQ(Text("lblThumbnailsPageCount"), "3 Images on 2 Pages");
 }
 
-TEST_F(SettingsOnPages, ATableColourIsChosenInTheColourDialog) {
+TEST_F(SettingsOnPages, ATableColorIsChosenInTheColorDialog) {
   desk.GoTo(Thumbnails);
   EXPECT_FALSE(Shown("btnThumbnailsTableBGColor"));
   ClickOn(Thumbnails, "checkThumbnailsTableUseBGColor");
-  desk.dialogs.colours = {std::nullopt, 0x123456};
+  desk.dialogs.colors = {std::nullopt, 0x123456};
   ClickOn(Thumbnails, "btnThumbnailsTableBGColor");
   EXPECT_EQ(settings.btnThumbnailsTableBGColor, 0U);
   ClickOn(Thumbnails, "btnThumbnailsTableBGColor");
   EXPECT_EQ(settings.btnThumbnailsTableBGColor, 0x123456U);
-  EXPECT_EQ(Find<ColourButton>(*desk.window, "btnThumbnailsTableBGColor").GetColour(), 0x123456U);
+  EXPECT_EQ(Find<ColorButton>(*desk.window, "btnThumbnailsTableBGColor").GetColor(), 0x123456U);
 }
 
 TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {

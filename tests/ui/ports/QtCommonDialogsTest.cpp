@@ -1,7 +1,7 @@
 #include "image/PangoTextRaster.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/ports/QtCommonDialogs.h"
-#include "ui/widgets/ColourButton.h"
+#include "ui/widgets/ColorButton.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -37,39 +37,39 @@ class SystemDialogs : public testing::Test {
   FontDescription font{.Name = "Liberation Sans", .Size = 36, .Weight = 700, .Color = 0xFFFFFF};
 };
 
-TEST_F(SystemDialogs, AColourIsChosenFromTheOneThatIsGiven) {
-  std::uint32_t colour = 0x302010;
-  CustomColours custom = {};
+TEST_F(SystemDialogs, AColorIsChosenFromTheOneThatIsGiven) {
+  std::uint32_t color = 0x302010;
+  CustomColors custom = {};
   custom[3] = 0x0000FF;
   bool answer = false;
-  DriveModal([&] { answer = dialogs.ShowColorDialog(colour, custom); },
+  DriveModal([&] { answer = dialogs.ShowColorDialog(color, custom); },
              [](QWidget& dialog) {
-               auto& colours = dynamic_cast<QColorDialog&>(dialog);
-               EXPECT_EQ(colours.currentColor(), QColor(0x10, 0x20, 0x30));
+               auto& colors = dynamic_cast<QColorDialog&>(dialog);
+               EXPECT_EQ(colors.currentColor(), QColor(0x10, 0x20, 0x30));
                EXPECT_EQ(QColorDialog::customColor(3), QColor(Qt::red));
                QColorDialog::setCustomColor(4, Qt::blue);
-               colours.setCurrentColor(QColor(1, 2, 3));
+               colors.setCurrentColor(QColor(1, 2, 3));
                QTest::keyClick(&dialog, Qt::Key_Return);
              });
   EXPECT_TRUE(answer);
-  EXPECT_EQ(colour, 0x030201U);
+  EXPECT_EQ(color, 0x030201U);
   EXPECT_EQ(custom[3], 0x0000FFU);
   EXPECT_EQ(custom[4], 0xFF0000U);
 }
 
-TEST_F(SystemDialogs, ACancelledColourDialogChangesNothing) {
-  std::uint32_t colour = 0x302010;
-  CustomColours custom = {};
+TEST_F(SystemDialogs, ACancelledColorDialogChangesNothing) {
+  std::uint32_t color = 0x302010;
+  CustomColors custom = {};
   bool answer = true;
-  DriveModal([&] { answer = dialogs.ShowColorDialog(colour, custom); },
+  DriveModal([&] { answer = dialogs.ShowColorDialog(color, custom); },
              [](QWidget& dialog) {
                dynamic_cast<QColorDialog&>(dialog).setCurrentColor(Qt::green);
                QColorDialog::setCustomColor(0, Qt::blue);
                QTest::keyClick(&dialog, Qt::Key_Escape);
              });
   EXPECT_FALSE(answer);
-  EXPECT_EQ(colour, 0x302010U);
-  EXPECT_EQ(custom, CustomColours{});
+  EXPECT_EQ(color, 0x302010U);
+  EXPECT_EQ(custom, CustomColors{});
 }
 
 TEST_F(SystemDialogs, TheFontDialogBeginsWithItsFont) {
@@ -83,7 +83,7 @@ TEST_F(SystemDialogs, TheFontDialogBeginsWithItsFont) {
     EXPECT_TRUE(Find<QCheckBox>(dialog, "checkFontItalic").isChecked());
     EXPECT_TRUE(Find<QCheckBox>(dialog, "checkFontUnderline").isChecked());
     EXPECT_FALSE(Find<QCheckBox>(dialog, "checkFontStrikeout").isChecked());
-    EXPECT_EQ(Find<ColourButton>(dialog, "btnFontColor").GetColour(), 0xFFFFFFU);
+    EXPECT_EQ(Find<ColorButton>(dialog, "btnFontColor").GetColor(), 0xFFFFFFU);
     QTest::keyClick(&dialog, Qt::Key_Return);
   }));
   EXPECT_EQ(font, before);
@@ -98,11 +98,11 @@ TEST_F(SystemDialogs, EverythingOfAFontIsChosenWithKeysAndMouse) {
     Click(dialog, "checkFontUnderline");
     Click(dialog, "checkFontStrikeout");
     DriveModal([&] { Click(dialog, "btnFontColor"); },
-               [](QWidget& colours) {
-                 dynamic_cast<QColorDialog&>(colours).setCurrentColor(Qt::red);
-                 QTest::keyClick(&colours, Qt::Key_Return);
+               [](QWidget& colors) {
+                 dynamic_cast<QColorDialog&>(colors).setCurrentColor(Qt::red);
+                 QTest::keyClick(&colors, Qt::Key_Return);
                });
-    EXPECT_EQ(Find<ColourButton>(dialog, "btnFontColor").GetColour(), 0x0000FFU);
+    EXPECT_EQ(Find<ColorButton>(dialog, "btnFontColor").GetColor(), 0x0000FFU);
     EXPECT_TRUE(Find<QLabel>(dialog, "lblFontSample").font().strikeOut());
     Click(dialog, "OKButton");
   }));

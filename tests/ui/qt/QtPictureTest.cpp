@@ -68,7 +68,7 @@ std::string Loaded(const QImage& source, const BlitArea& from) {
   return Places(ImageOf(picture));
 }
 
-TEST(QtPicture, AnImageStandsUprightInItsColours) {
+TEST(QtPicture, AnImageStandsUprightInItsColors) {
   EXPECT_EQ(Places(ImageOf(Numbered())), "00 10 20\n01 11 21\n");
   for (const int width : {1, 2, 3, 4}) {
     const QImage image = ImageOf(Numbered(width, 1));

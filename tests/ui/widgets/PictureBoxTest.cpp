@@ -1,6 +1,6 @@
 #include "tests/fakes/SampleFakes.h"
 #include "tests/ui/FormDriver.h"
-#include "ui/widgets/ColourButton.h"
+#include "ui/widgets/ColorButton.h"
 #include "ui/widgets/PictureBox.h"
 
 #include <gtest/gtest.h>
@@ -34,13 +34,13 @@ TEST(PictureBox, ClearsItself) {
   EXPECT_TRUE(box.Shown().isNull());
 }
 
-TEST(ColourButton, ShowsAndTellsItsColour) {
-  ColourButton button;
+TEST(ColorButton, ShowsAndTellsItsColor) {
+  ColorButton button;
   button.resize(button.sizeHint());
-  button.SetColour(0x302010);
-  EXPECT_EQ(button.GetColour(), 0x302010U);
+  button.SetColor(0x302010);
+  EXPECT_EQ(button.GetColor(), 0x302010U);
   EXPECT_EQ(button.accessibleDescription(), "#102030");
-  EXPECT_EQ(button.property("colour").value<QColor>(), QColor(0x10, 0x20, 0x30));
+  EXPECT_EQ(button.property("color").value<QColor>(), QColor(0x10, 0x20, 0x30));
   const QImage seen = button.grab().toImage();
   EXPECT_EQ(seen.pixel(seen.width() / 2, seen.height() / 2), qRgb(0x10, 0x20, 0x30));
 }

@@ -27,15 +27,15 @@ class OnAScreen {
   }
   ~OnAScreen() { control_.setParent(nullptr); }
 
-  /// Pixels of that colour from the outside to a tenth of the control's inside, in the middle of each side: left,
+  /// Pixels of that color from the outside to a tenth of the control's inside, in the middle of each side: left,
   /// right, upper, lower.
-  [[nodiscard]] std::vector<int> LinesOf(QColor colour) const {
+  [[nodiscard]] std::vector<int> LinesOf(QColor color) const {
     const QRectF place(QPointF(7, 5) * scale_, QSizeF(control_.size()) * scale_);
     const QPoint middle = place.center().toPoint();
     std::vector<int> lines;
     for (const QPoint step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
       int count = 0;
-      for (QPoint at = middle; picture_.rect().contains(at); at += step) count += picture_.pixelColor(at) == colour;
+      for (QPoint at = middle; picture_.rect().contains(at); at += step) count += picture_.pixelColor(at) == color;
       lines.push_back(count);
     }
     return lines;
@@ -49,8 +49,8 @@ class OnAScreen {
   double scale_ = 1;
 };
 
-/// The colour of a frame's lines.
-QColor LineColour() {
+/// The color of a frame's lines.
+QColor LineColor() {
   QFrame frame;
   frame.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   frame.resize(50, 50);
@@ -62,7 +62,7 @@ TEST(PixelFrames, AListBoxKeepsItsFourLinesAtEveryScaleAndSize) {
     for (const int height : {60, 61, 62, 63}) {
       QListView list;
       const OnAScreen screen(list, {height + 40, height}, scale);
-      for (const int line : screen.LinesOf(LineColour())) EXPECT_GE(line, 1) << scale << " " << height;
+      for (const int line : screen.LinesOf(LineColor())) EXPECT_GE(line, 1) << scale << " " << height;
     }
   }
 }
@@ -75,7 +75,7 @@ TEST(PixelFrames, APreviewKeepsItsFourLinesAroundAPictureThatFillsItsInside) {
       PreviewBox box;
       box.Show(red);
       const OnAScreen screen(box, {height + 40, height}, scale);
-      for (const int line : screen.LinesOf(LineColour())) EXPECT_GE(line, 1) << scale << " " << height;
+      for (const int line : screen.LinesOf(LineColor())) EXPECT_GE(line, 1) << scale << " " << height;
       const std::vector<int> inside = screen.LinesOf(Qt::red);
       EXPECT_GE(inside[0], std::floor((height + 40) / 2.0 * scale - 2 * scale) - 1) << scale << " " << height;
       EXPECT_GE(inside[3], std::floor(height / 2.0 * scale - 2 * scale) - 1) << scale << " " << height;

@@ -22,9 +22,9 @@ inline constexpr std::int32_t kLargestFont = 999;
   return bold ? kBoldWeight : kNormalWeight;
 }
 
-/// Whether a sample in this colour (0x00BBGGRR) is to be shown on a dark ground, by the eye's share of each channel.
-[[nodiscard]] constexpr bool NeedsDarkGround(std::uint32_t colour) {
-  const std::uint32_t light = 222 * (colour & 0xFF) + 707 * (colour >> 8 & 0xFF) + 71 * (colour >> 16 & 0xFF);
+/// Whether a sample in this color (0x00BBGGRR) is to be shown on a dark ground, by the eye's share of each channel.
+[[nodiscard]] constexpr bool NeedsDarkGround(std::uint32_t color) {
+  const std::uint32_t light = 222 * (color & 0xFF) + 707 * (color >> 8 & 0xFF) + 71 * (color >> 16 & 0xFF);
   return light > 128U * 1000U;
 }
 

@@ -2,16 +2,16 @@
 
 namespace vantorium {
 
-SelectColorsModel::SelectColorsModel(std::string_view title, const PageColours& colours, const PageColours& others)
-    : thumbnailPage_(title.find("Thumbnail") != std::string_view::npos), colours_(colours), others_(others) {}
+SelectColorsModel::SelectColorsModel(std::string_view title, const PageColors& colors, const PageColors& others)
+    : thumbnailPage_(title.find("Thumbnail") != std::string_view::npos), colors_(colors), others_(others) {}
 
 std::string_view SelectColorsModel::UseOtherColorsCaption() const {
   return thumbnailPage_ ? "Copy Image Wrapper Colors" : "Copy Thumbnail Page Colors";
 }
 
-void SelectColorsModel::Choose(Colour PageColours::*which, ColourDialog& dialog) {
-  Colour colour = colours_.*which;
-  if (dialog.DisplayColorDialog2(colour)) colours_.*which = colour;
+void SelectColorsModel::Choose(Color PageColors::*which, ColorDialog& dialog) {
+  Color color = colors_.*which;
+  if (dialog.DisplayColorDialog2(color)) colors_.*which = color;
 }
 
 }  // namespace vantorium

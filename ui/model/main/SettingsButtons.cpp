@@ -32,13 +32,13 @@ constexpr BackdropButton kBackdrops[] = {
     {"btnThumbnailsTableBackdropBrowse", "Select Thumbnail Table Backdrop Image", &P::textThumbnailsTableBackdrop},
 };
 
-constexpr PageColourFields kImagePage = {&P::ImagePageBgColor, &P::ImagePageTextColor, &P::ImagePageLinkColor,
-                                         &P::ImagePageVLinkColor, &P::ImagePageALinkColor};
-constexpr PageColourFields kThumbnailPage = {&P::ThumbnailPageBgColor, &P::ThumbnailPageTextColor,
-                                             &P::ThumbnailPageLinkColor, &P::ThumbnailPageVLinkColor,
-                                             &P::ThumbnailPageALinkColor};
+constexpr PageColorFields kImagePage = {&P::ImagePageBgColor, &P::ImagePageTextColor, &P::ImagePageLinkColor,
+                                        &P::ImagePageVLinkColor, &P::ImagePageALinkColor};
+constexpr PageColorFields kThumbnailPage = {&P::ThumbnailPageBgColor, &P::ThumbnailPageTextColor,
+                                            &P::ThumbnailPageLinkColor, &P::ThumbnailPageVLinkColor,
+                                            &P::ThumbnailPageALinkColor};
 
-constexpr ColoursButton kColours[] = {
+constexpr ColorsButton kColors[] = {
     {"btnImageWrapperColors", "Select Image Wrapper Colors", kImagePage, kThumbnailPage},
     {"btnThumbnailsPageColors", "Select Thumbnail Page Colors", kThumbnailPage, kImagePage},
 };
@@ -84,8 +84,8 @@ std::span<const BackdropButton> BackdropButtons() {
   return kBackdrops;
 }
 
-std::span<const ColoursButton> ColoursButtons() {
-  return kColours;
+std::span<const ColorsButton> ColorsButtons() {
+  return kColors;
 }
 
 std::span<const LinkButton> LinkButtons() {

@@ -31,21 +31,21 @@ struct BackdropButton {
   std::string GalleryProject::*path;
 };
 
-/// The colours of a kind of page.
-struct PageColourFields {
-  Colour GalleryProject::*background;
-  Colour GalleryProject::*text;
-  Colour GalleryProject::*link;
-  Colour GalleryProject::*visitedLink;
-  Colour GalleryProject::*activeLink;
+/// The colors of a kind of page.
+struct PageColorFields {
+  Color GalleryProject::*background;
+  Color GalleryProject::*text;
+  Color GalleryProject::*link;
+  Color GalleryProject::*visitedLink;
+  Color GalleryProject::*activeLink;
 };
 
-/// Opens the dialog for the five colours of a page; it offers to copy those of the other kind of page.
-struct ColoursButton {
+/// Opens the dialog for the five colors of a page; it offers to copy those of the other kind of page.
+struct ColorsButton {
   std::string_view button;
   std::string_view title;
-  const PageColourFields& colours;
-  const PageColourFields& others;
+  const PageColorFields& colors;
+  const PageColorFields& others;
 };
 
 /// Opens the dialog for a page link. An empty label: the link has no second picture.
@@ -73,7 +73,7 @@ struct WatermarkButton {
 [[nodiscard]] std::span<const CodeButton> CodeButtons();
 [[nodiscard]] std::span<const HeaderFooterButton> HeaderFooterButtons();
 [[nodiscard]] std::span<const BackdropButton> BackdropButtons();
-[[nodiscard]] std::span<const ColoursButton> ColoursButtons();
+[[nodiscard]] std::span<const ColorsButton> ColorsButtons();
 [[nodiscard]] std::span<const LinkButton> LinkButtons();
 [[nodiscard]] std::span<const FiltersButton> FiltersButtons();
 [[nodiscard]] std::span<const WatermarkButton> WatermarkButtons();

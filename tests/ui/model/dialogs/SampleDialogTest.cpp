@@ -12,12 +12,12 @@ constexpr std::uint32_t kBlue = 0xFF0000;
 
 class SampleDialogs : public testing::Test {
  protected:
-  /// The colour of the source that a dialog opens with; "closed" when it does not.
+  /// The color of the source that a dialog opens with; "closed" when it does not.
   std::string OpenedWith(const SampleSources& sources) {
     SampleDialog dialog(sources, desk.Ports(), box);
     if (!dialog.Open()) return "closed";
     box.PaintPicture(dialog.Source());
-    return box.MiddleColour();
+    return box.MiddleColor();
   }
 
   fakes::SampleDesk desk;

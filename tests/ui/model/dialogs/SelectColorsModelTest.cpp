@@ -6,8 +6,8 @@
 namespace vantorium {
 namespace {
 
-constexpr PageColours kOwn = {1, 2, 3, 4, 5};
-constexpr PageColours kOthers = {11, 12, 13, 14, 15};
+constexpr PageColors kOwn = {1, 2, 3, 4, 5};
+constexpr PageColors kOthers = {11, 12, 13, 14, 15};
 
 TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhatCanBeCopied) {
   for (const char* title : {"Select Thumbnail Page Colors", "Thumbnail", "MyThumbnails"}) {
@@ -18,45 +18,45 @@ TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhatCanBeCopied) {
   }
 }
 
-TEST(SelectColorsModel, AChosenColourReplacesItsOwnOnly) {
+TEST(SelectColorsModel, AChosenColorReplacesItsOwnOnly) {
   fakes::ScriptedCommonDialogs dialogs;
-  ColourDialog dialog(dialogs);
-  for (const auto which : {&PageColours::background, &PageColours::text, &PageColours::link, &PageColours::visitedLink,
-                           &PageColours::activeLink}) {
+  ColorDialog dialog(dialogs);
+  for (const auto which : {&PageColors::background, &PageColors::text, &PageColors::link, &PageColors::visitedLink,
+                           &PageColors::activeLink}) {
     SelectColorsModel model("", kOwn, kOthers);
-    dialogs.colours = {0xABCDEF, std::nullopt};
+    dialogs.colors = {0xABCDEF, std::nullopt};
     model.Choose(which, dialog);
-    PageColours expected = kOwn;
+    PageColors expected = kOwn;
     expected.*which = 0xABCDEF;
-    EXPECT_EQ(model.Colours(), expected);
-    EXPECT_EQ(dialogs.coloursShown.back(), kOwn.*which);
+    EXPECT_EQ(model.Colors(), expected);
+    EXPECT_EQ(dialogs.colorsShown.back(), kOwn.*which);
     model.Choose(which, dialog);
-    EXPECT_EQ(model.Colours(), expected) << "a cancelled dialog";
+    EXPECT_EQ(model.Colors(), expected) << "a cancelled dialog";
   }
 }
 
-/// Its user adds a custom colour each time, and confirms every other time.
-class CustomColourUser : public fakes::ScriptedCommonDialogs {
+/// Its user adds a custom color each time, and confirms every other time.
+class CustomColorUser : public fakes::ScriptedCommonDialogs {
  public:
-  [[nodiscard]] bool ShowColorDialog(std::uint32_t& /*colour*/, CustomColours& custom) override {
+  [[nodiscard]] bool ShowColorDialog(std::uint32_t& /*color*/, CustomColors& custom) override {
     shown.push_back(custom);
     custom[shown.size()] = 0xABCDEF;
     return shown.size() % 2 == 1;
   }
 
-  std::vector<CustomColours> shown;
+  std::vector<CustomColors> shown;
 };
 
-TEST(ColourDialogs, TheUsersOwnColoursAreThereTheNextTime) {
-  CustomColourUser user;
-  ColourDialog dialog(user);
-  const CustomColours first = {0x111111};
-  dialog.RebuildCustomColours(first);
-  Colour colour = 0;
-  EXPECT_TRUE(dialog.DisplayColorDialog2(colour));
-  EXPECT_FALSE(dialog.DisplayColorDialog2(colour));
+TEST(ColorDialogs, TheUsersOwnColorsAreThereTheNextTime) {
+  CustomColorUser user;
+  ColorDialog dialog(user);
+  const CustomColors first = {0x111111};
+  dialog.RebuildCustomColors(first);
+  Color color = 0;
+  EXPECT_TRUE(dialog.DisplayColorDialog2(color));
+  EXPECT_FALSE(dialog.DisplayColorDialog2(color));
   EXPECT_EQ(user.shown.at(0), first);
-  CustomColours second = first;
+  CustomColors second = first;
   second[1] = 0xABCDEF;
   EXPECT_EQ(user.shown.at(1), second);
 }
@@ -64,7 +64,7 @@ TEST(ColourDialogs, TheUsersOwnColoursAreThereTheNextTime) {
 TEST(SelectColorsModel, TheOthersAreCopiedIntoTheDialogOnly) {
   SelectColorsModel model("", kOwn, kOthers);
   model.UseOtherColors();
-  EXPECT_EQ(model.Colours(), kOthers);
+  EXPECT_EQ(model.Colors(), kOthers);
   EXPECT_TRUE(model.Cancelled()) << "nothing is applied yet";
 }
 

@@ -309,7 +309,7 @@ TEST(FontWeights, OnlyAChangeOfBoldChangesTheWeight) {
   EXPECT_EQ(WeightFor(false, 0), 0);
 }
 
-TEST(FontSamples, LightColoursStandOnADarkGround) {
+TEST(FontSamples, LightColorsStandOnADarkGround) {
   EXPECT_TRUE(NeedsDarkGround(0xFFFFFF));
   EXPECT_TRUE(NeedsDarkGround(0x00FF00)) << "green";
   EXPECT_FALSE(NeedsDarkGround(0x000000));

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "core/GalleryProject.h"
+#include "env/mCommonDialogs.h"
+
+namespace vantorium {
+
+/// The one door to the system's color dialog. The user's own colors live as long as the program.
+class ColorDialog {
+ public:
+  explicit ColorDialog(mCommonDialogs& dialogs) : dialogs_(dialogs) {}
+
+  /// True on OK; only then `color` is another one.
+  [[nodiscard]] bool DisplayColorDialog2(Color& color) { return dialogs_.ShowColorDialog(color, custom_); }
+
+  /// `systemColors`: the first 16 colors of the desktop.
+  void RebuildCustomColors(const CustomColors& systemColors) { custom_ = systemColors; }
+  [[nodiscard]] const CustomColors& Custom() const { return custom_; }
+
+ private:
+  mCommonDialogs& dialogs_;
+  CustomColors custom_ = {};
+};
+
+}  // namespace vantorium

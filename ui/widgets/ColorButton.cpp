@@ -1,0 +1,41 @@
+#include "ui/widgets/ColorButton.h"
+
+#include "ui/qt/QtColor.h"
+
+#include <QPainter>
+
+namespace vantorium {
+namespace {
+
+constexpr int kMargin = 5;  // of the button around its color
+
+}  // namespace
+
+ColorButton::ColorButton(QWidget* parent) : QPushButton(parent) {
+  SetColor(0);
+}
+
+void ColorButton::SetColor(Color color) {
+  color_ = color;
+  setAccessibleDescription(ShownColor().name().toUpper());
+  update();
+}
+
+QColor ColorButton::ShownColor() const {
+  return ToQt(color_);
+}
+
+QSize ColorButton::sizeHint() const {
+  return QPushButton::sizeHint().expandedTo({fontMetrics().horizontalAdvance("000000000"), 0});
+}
+
+void ColorButton::paintEvent(QPaintEvent* event) {
+  QPushButton::paintEvent(event);
+  QPainter painter(this);
+  const QRect swatch = rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
+  painter.fillRect(swatch, palette().color(QPalette::Dark));
+  const QBrush brush = isEnabled() ? QBrush(ShownColor()) : QBrush(ShownColor(), Qt::Dense4Pattern);
+  painter.fillRect(swatch.adjusted(1, 1, -1, -1), brush);
+}
+
+}  // namespace vantorium
