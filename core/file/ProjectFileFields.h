@@ -1,8 +1,7 @@
 #pragma once
 
 #include "core/GalleryProject.h"
-
-#include <array>
+#include "core/PageColors.h"
 
 namespace vantorium {
 
@@ -58,27 +57,16 @@ inline constexpr SizeFields kThumbnailSize = {
     &GalleryProject::checkThumbnailsImageKeepAspectRatio, &GalleryProject::checkThumbnailsImageSetWidth,
     &GalleryProject::textThumbnailsImageWidth, &GalleryProject::textThumbnailsImageHeight};
 
-/// The five colors of a page, in the order of the file, and the switch that puts them into use.
-struct ColorField {
+/// The colors of a page, in the order of the file.
+struct ColorAttribute {
   const char* attribute;
-  Color GalleryProject::*color;
+  Color GalleryProject::*PageColorFields::*color;
 };
-struct PageColorFields {
-  Flag GalleryProject::*use;
-  std::array<ColorField, 5> colors;
-};
-inline constexpr PageColorFields kThumbnailPageColors = {&GalleryProject::checkThumbnailsPageSetColors,
-                                                         {{{"BGCOLOR", &GalleryProject::ThumbnailPageBgColor},
-                                                           {"TEXT", &GalleryProject::ThumbnailPageTextColor},
-                                                           {"LINK", &GalleryProject::ThumbnailPageLinkColor},
-                                                           {"ALINK", &GalleryProject::ThumbnailPageALinkColor},
-                                                           {"VLINK", &GalleryProject::ThumbnailPageVLinkColor}}}};
-inline constexpr PageColorFields kImagePageColors = {&GalleryProject::checkImageWrapperSetColors,
-                                                     {{{"BGCOLOR", &GalleryProject::ImagePageBgColor},
-                                                       {"TEXT", &GalleryProject::ImagePageTextColor},
-                                                       {"LINK", &GalleryProject::ImagePageLinkColor},
-                                                       {"ALINK", &GalleryProject::ImagePageALinkColor},
-                                                       {"VLINK", &GalleryProject::ImagePageVLinkColor}}}};
+inline constexpr ColorAttribute kColorAttributes[] = {{"BGCOLOR", &PageColorFields::background},
+                                                      {"TEXT", &PageColorFields::text},
+                                                      {"LINK", &PageColorFields::link},
+                                                      {"ALINK", &PageColorFields::activeLink},
+                                                      {"VLINK", &PageColorFields::visitedLink}};
 
 /// An element that holds a multi-line text.
 struct TextElement {

@@ -11,8 +11,8 @@ void PutAttributeUnlessEmpty(pugi::xml_node element, const char* name, std::stri
 
 void PutColors(pugi::xml_node page, const GalleryProject& project, const PageColorFields& fields) {
   if (project.*fields.use != 1) return;
-  for (const ColorField& field : fields.colors) {
-    PutAttribute(page, field.attribute, ColorToHex(project.*field.color));
+  for (const auto& [attribute, color] : kColorAttributes) {
+    PutAttribute(page, attribute, ColorToHex(project.*(fields.*color)));
   }
 }
 

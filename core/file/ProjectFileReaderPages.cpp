@@ -5,7 +5,7 @@ namespace vantorium {
 namespace {
 
 void ReadColors(pugi::xml_node page, ProjectEditor& editor, const PageColorFields& fields) {
-  for (const ColorField& field : fields.colors) ReadColor(editor, page, field.attribute, field.color, fields.use);
+  for (const auto& [attribute, color] : kColorAttributes) ReadColor(editor, page, attribute, fields.*color, fields.use);
 }
 
 void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {

@@ -1,46 +1,24 @@
 #include "core/generation/AuxiliaryFiles.h"
 
+#include "core/generation/PageLinks.h"
+#include "core/generation/PageParts.h"
 #include "env/PathText.h"
-
-#include <array>
 
 namespace vantorium {
 namespace {
 
-struct Backdrop {
-  const char* fixedName;
-  std::string GalleryProject::*source;
-};
+constexpr Backdrop kBackdrops[] = {kThumbnailTableBackdrop, kThumbnailPageBackdrop, kImagePageBackdrop};
 
-constexpr std::array<Backdrop, 3> kBackdrops = {{
-    {"_backdrop_thumbtable", &GalleryProject::textThumbnailsTableBackdrop},
-    {"_backdrop_thumbpage", &GalleryProject::textThumbnailsPageBackdrop},
-    {"_backdrop_imagepage", &GalleryProject::textImageWrapperBackdrop},
-}};
-
-/// A link's two graphics: the normal one, and the one for the end of the sequence under the name with `endSuffix`. The
-/// Index link has no end.
-struct LinkGraphics {
-  const char* fixedName;
-  const char* endSuffix;
-  LinkSettings GalleryProject::*link;
-  AuxiliarySpelling spelling;
-};
-
-constexpr auto kBig = AuxiliarySpelling::File;
-constexpr auto kSmall = AuxiliarySpelling::file;
-
-constexpr std::array<LinkGraphics, 9> kLinkGraphics = {{
-    {"_thumblink_first", "_first", &GalleryProject::ThumbnailFirstLink, kBig},
-    {"_thumblink_previous", "_first", &GalleryProject::ThumbnailPreviousLink, kBig},
-    {"_thumblink_next", "_last", &GalleryProject::ThumbnailNextLink, kBig},
-    {"_thumblink_last", "_last", &GalleryProject::ThumbnailLastLink, kBig},
-    {"_imagelink_first", "_first", &GalleryProject::ImageFirstLink, kSmall},
-    {"_imagelink_previous", "_first", &GalleryProject::ImagePreviousLink, kSmall},
-    {"_imagelink_next", "_last", &GalleryProject::ImageNextLink, kSmall},
-    {"_imagelink_last", "_last", &GalleryProject::ImageLastLink, kSmall},
-    {"_imagelink_index", nullptr, &GalleryProject::ImageIndexLink, kSmall},
-}};
+/// The links in the order in which their graphics are copied.
+constexpr LinkKind kLinks[] = {LinkKind::FirstThumbnailPage,
+                               LinkKind::PreviousThumbnailPage,
+                               LinkKind::NextThumbnailPage,
+                               LinkKind::LastThumbnailPage,
+                               LinkKind::FirstImage,
+                               LinkKind::PreviousImage,
+                               LinkKind::NextImage,
+                               LinkKind::LastImage,
+                               LinkKind::Index};
 
 /// A source without a folder lies beside the project file.
 std::string Resolved(const RunState& run, const std::string& source) {
@@ -50,15 +28,14 @@ std::string Resolved(const RunState& run, const std::string& source) {
 
 /// Adds the file of a setting, unless that is empty.
 void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::string& setting,
-             const std::string& fixedName, AuxiliarySpelling spelling) {
+             std::string_view fixedName, AuxiliarySpelling spelling) {
   if (setting.empty()) return;
   const std::string source = Resolved(run, setting);
-  files.push_back({source, fixedName + GetFileExtension(source), spelling});
+  files.push_back({source, std::string(fixedName) + GetFileExtension(source), spelling});
 }
 
-/// Links between images stand on wrapper pages only.
-bool IsUsed(const LinkGraphics& graphics, const RunState& run) {
-  return graphics.spelling == kBig || run.project.checkImageWrapperUse == 1;
+bool IsImageLink(LinkKind kind) {
+  return kind <= LinkKind::Index;
 }
 
 PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
@@ -69,19 +46,20 @@ PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
 
 std::vector<AuxiliaryFile> Backdrops(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  for (const auto& [name, source] : kBackdrops) AddFile(files, run, run.project.*source, name, kBig);
+  for (const auto& [name, source] : kBackdrops) AddFile(files, run, run.project.*source, name, AuxiliarySpelling::File);
   return files;
 }
 
 std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  for (const LinkGraphics& graphics : kLinkGraphics) {
-    if (!IsUsed(graphics, run)) continue;
-    const LinkSettings& link = run.project.*graphics.link;
-    AddFile(files, run, link.textLinkGraphic, graphics.fixedName, graphics.spelling);
-    if (graphics.endSuffix == nullptr) continue;
-    AddFile(files, run, link.textLinkGraphicDisabled, std::string(graphics.fixedName) + graphics.endSuffix,
-            graphics.spelling);
+  for (const LinkKind kind : kLinks) {
+    // Links between images stand on wrapper pages only.
+    if (IsImageLink(kind) && run.project.checkImageWrapperUse != 1) continue;
+    const auto spelling = IsImageLink(kind) ? AuxiliarySpelling::file : AuxiliarySpelling::File;
+    const auto& [field, name, nameAtDeadEnd] = GraphicsOf(kind);
+    const LinkSettings& link = run.project.*field;
+    AddFile(files, run, link.textLinkGraphic, name, spelling);
+    if (!nameAtDeadEnd.empty()) AddFile(files, run, link.textLinkGraphicDisabled, nameAtDeadEnd, spelling);
   }
   return files;
 }

@@ -15,22 +15,20 @@ namespace {
 enum class DeadEnd { First, Last, Never };
 
 struct KindRow {
-  LinkSettings GalleryProject::*link;
   DeadEnd deadEnd;
-  std::string_view graphic;
-  std::string_view graphicAtDeadEnd;
+  LinkGraphics graphics;
 };
 
 constexpr std::array<KindRow, 9> kKinds = {{
-    {&GalleryProject::ImageFirstLink, DeadEnd::First, "_imagelink_first", "_imagelink_first_first"},
-    {&GalleryProject::ImagePreviousLink, DeadEnd::First, "_imagelink_previous", "_imagelink_previous_first"},
-    {&GalleryProject::ImageNextLink, DeadEnd::Last, "_imagelink_next", "_imagelink_next_last"},
-    {&GalleryProject::ImageLastLink, DeadEnd::Last, "_imagelink_last", "_imagelink_last_last"},
-    {&GalleryProject::ImageIndexLink, DeadEnd::Never, "_imagelink_index", ""},
-    {&GalleryProject::ThumbnailFirstLink, DeadEnd::First, "_thumblink_first", "_thumblink_first_first"},
-    {&GalleryProject::ThumbnailPreviousLink, DeadEnd::First, "_thumblink_previous", "_thumblink_previous_first"},
-    {&GalleryProject::ThumbnailNextLink, DeadEnd::Last, "_thumblink_next", "_thumblink_next_last"},
-    {&GalleryProject::ThumbnailLastLink, DeadEnd::Last, "_thumblink_last", "_thumblink_last_last"},
+    {DeadEnd::First, {&GalleryProject::ImageFirstLink, "_imagelink_first", "_imagelink_first_first"}},
+    {DeadEnd::First, {&GalleryProject::ImagePreviousLink, "_imagelink_previous", "_imagelink_previous_first"}},
+    {DeadEnd::Last, {&GalleryProject::ImageNextLink, "_imagelink_next", "_imagelink_next_last"}},
+    {DeadEnd::Last, {&GalleryProject::ImageLastLink, "_imagelink_last", "_imagelink_last_last"}},
+    {DeadEnd::Never, {&GalleryProject::ImageIndexLink, "_imagelink_index", ""}},
+    {DeadEnd::First, {&GalleryProject::ThumbnailFirstLink, "_thumblink_first", "_thumblink_first_first"}},
+    {DeadEnd::First, {&GalleryProject::ThumbnailPreviousLink, "_thumblink_previous", "_thumblink_previous_first"}},
+    {DeadEnd::Last, {&GalleryProject::ThumbnailNextLink, "_thumblink_next", "_thumblink_next_last"}},
+    {DeadEnd::Last, {&GalleryProject::ThumbnailLastLink, "_thumblink_last", "_thumblink_last_last"}},
 }};
 
 const KindRow& RowOf(LinkKind kind) {
@@ -86,8 +84,12 @@ std::string TargetPage(const RunState& run, LinkKind kind, std::int32_t current,
 
 }  // namespace
 
+const LinkGraphics& GraphicsOf(LinkKind kind) {
+  return RowOf(kind).graphics;
+}
+
 const LinkSettings& LinkOf(const GalleryProject& project, LinkKind kind) {
-  return project.*RowOf(kind).link;
+  return project.*GraphicsOf(kind).link;
 }
 
 std::string BuildLinkAnchor(const RunState& run, LinkKind kind, std::int32_t current, std::int32_t total) {
@@ -103,7 +105,7 @@ std::string BuildLinkGraphic(const RunState& run, LinkKind kind, std::int32_t cu
   // The project's folder in every mode: a preview does not find these graphics.
   return fmt::format(R"(<IMG SRC="{}{}{}" BORDER="0" ALIGN="MIDDLE">)",
                      UrlFolder(run.project.textImageSettingsSubFolder),
-                     dead ? RowOf(kind).graphicAtDeadEnd : RowOf(kind).graphic,
+                     dead ? GraphicsOf(kind).nameAtDeadEnd : GraphicsOf(kind).name,
                      GetFileExtension(dead ? link.textLinkGraphicDisabled : link.textLinkGraphic));
 }
 

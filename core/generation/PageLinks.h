@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace vantorium {
 
@@ -19,6 +20,15 @@ enum class LinkKind : std::int16_t {
   NextThumbnailPage = 7,
   LastThumbnailPage = 8,
 };
+
+/// The graphics of a link: its settings, and the names of their copies in the images folder, to which the extension of
+/// the graphic is added.
+struct LinkGraphics {
+  LinkSettings GalleryProject::*link;
+  std::string_view name;
+  std::string_view nameAtDeadEnd;  ///< of the disabled graphic; empty for Index, which has none
+};
+[[nodiscard]] const LinkGraphics& GraphicsOf(LinkKind kind);
 
 /// The settings of the link of that kind.
 [[nodiscard]] const LinkSettings& LinkOf(const GalleryProject& project, LinkKind kind);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/PageColors.h"
 #include "core/generation/RunState.h"
 
 #include <string>
@@ -16,23 +17,23 @@ inline constexpr std::string_view kGeneratorTag =
 /// Six hexadecimal digits in capitals: red, green, blue. No "#".
 [[nodiscard]] std::string ColorToHtml(Color color);
 
-/// ` BACKGROUND="..."` for the copy of the graphic `path` that bears the name `name` in the images folder; empty
-/// without a graphic.
-[[nodiscard]] std::string BackdropAttribute(const RunState& run, std::string_view name, std::string_view path);
-
-/// The five colors of a page.
-struct PageColors {
-  Color background;
-  Color text;
-  Color link;
-  Color visitedLink;
-  Color activeLink;
+/// A backdrop: its setting, and the name of its copy in the images folder, to which the extension is added.
+struct Backdrop {
+  std::string_view name;
+  std::string GalleryProject::*source;
 };
+inline constexpr Backdrop kThumbnailTableBackdrop = {"_backdrop_thumbtable",
+                                                     &GalleryProject::textThumbnailsTableBackdrop};
+inline constexpr Backdrop kThumbnailPageBackdrop = {"_backdrop_thumbpage", &GalleryProject::textThumbnailsPageBackdrop};
+inline constexpr Backdrop kImagePageBackdrop = {"_backdrop_imagepage", &GalleryProject::textImageWrapperBackdrop};
 
-/// The BODY tag of a page with colors of its own.
-[[nodiscard]] std::string BodyTag(const PageColors& colors, std::string_view backdropAttribute);
-/// The BODY tag of a page that leaves the colors to the browser. Its blanks stand with a backdrop and without.
-[[nodiscard]] std::string BodyTag(std::string_view backdropAttribute);
+/// ` BACKGROUND="..."` for the copy of a backdrop in the images folder; empty when the project has no such backdrop.
+[[nodiscard]] std::string BackdropAttribute(const RunState& run, const Backdrop& backdrop);
+
+/// The BODY tag of a page: with the project's colors where it sets them, else without any. Without colors its blank
+/// stays, with a backdrop and without.
+[[nodiscard]] std::string BodyTag(const GalleryProject& project, const PageColorFields& fields,
+                                  std::string_view backdropAttribute);
 
 /// The tag that makes the browser go on to `target` after `delay` seconds.
 [[nodiscard]] std::string RefreshTag(std::string_view delay, std::string_view target);

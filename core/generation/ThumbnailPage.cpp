@@ -38,14 +38,8 @@ std::string_view DivAlignment(Choice alignment) {
 
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
-  const std::string backdrop = BackdropAttribute(run, "_backdrop_thumbpage", project.textThumbnailsPageBackdrop);
-  if (project.checkThumbnailsPageSetColors != 1) return BodyTag(backdrop);
-  return BodyTag({.background = project.ThumbnailPageBgColor,
-                  .text = project.ThumbnailPageTextColor,
-                  .link = project.ThumbnailPageLinkColor,
-                  .visitedLink = project.ThumbnailPageVLinkColor,
-                  .activeLink = project.ThumbnailPageALinkColor},
-                 backdrop);
+  const std::string backdrop = BackdropAttribute(run, kThumbnailPageBackdrop);
+  return BodyTag(project, kThumbnailPageColors, backdrop);
 }
 
 void AddHead(PageText& text, const RunState& run, std::int32_t page) {
@@ -66,9 +60,8 @@ void AddTableTag(PageText& text, const RunState& run) {
     color = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
   }
   text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", color,
-              BackdropAttribute(run, "_backdrop_thumbtable", project.textThumbnailsTableBackdrop),
-              project.textThumbnailsTableBorder, project.textThumbnailsTableCellSpacing,
-              project.textThumbnailsTableCellPadding,
+              BackdropAttribute(run, kThumbnailTableBackdrop), project.textThumbnailsTableBorder,
+              project.textThumbnailsTableCellSpacing, project.textThumbnailsTableCellPadding,
               project.comboThumbnailsTableAlignment == kFitToPage ? R"( WIDTH="100%")" : "");
 }
 

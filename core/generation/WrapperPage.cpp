@@ -22,15 +22,8 @@ bool HasBar(const GalleryProject& project, Choice place) {
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
   const bool shared = project.textImageWrapperBackdrop == project.textThumbnailsPageBackdrop;
-  const std::string backdrop =
-      BackdropAttribute(run, shared ? "_backdrop_thumbpage" : "_backdrop_imagepage", project.textImageWrapperBackdrop);
-  if (project.checkImageWrapperSetColors != 1) return BodyTag(backdrop);
-  return BodyTag({.background = project.ImagePageBgColor,
-                  .text = project.ImagePageTextColor,
-                  .link = project.ImagePageLinkColor,
-                  .visitedLink = project.ImagePageVLinkColor,
-                  .activeLink = project.ImagePageALinkColor},
-                 backdrop);
+  const std::string backdrop = BackdropAttribute(run, shared ? kThumbnailPageBackdrop : kImagePageBackdrop);
+  return BodyTag(project, kImagePageColors, backdrop);
 }
 
 void AddHead(PageText& page, const RunState& run, std::int32_t image) {

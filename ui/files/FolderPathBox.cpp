@@ -23,7 +23,7 @@ void FolderPathBox::Show(const QString& native) {
     Add(above);
     if (!above.has_relative_path()) break;
   }
-  for (const Drive& drive : DrivesOf(paths_)) Add(drive.folder);
+  for (const Drive& drive : DriveFolders(paths_)) Add(drive.folder);
   setCurrentIndex(0);
 }
 

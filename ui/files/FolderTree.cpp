@@ -52,7 +52,7 @@ void FolderTree::ShowDrives(const PathMap& paths, const Folders& folders, IsChec
   folders_ = &folders;
   isChecked_ = std::move(isChecked);
   clear();
-  for (const Drive& drive : DrivesOf(paths)) {
+  for (const Drive& drive : DriveFolders(paths)) {
     QTreeWidgetItem* const item = MakeItem(drive.folder, DriveText(drive));
     item->setIcon(0, style()->standardIcon(DriveIcon(drive)));
     item->setData(0, kLetter, QChar(drive.letter));

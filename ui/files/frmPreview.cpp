@@ -1,6 +1,6 @@
 #include "ui/files/frmPreview.h"
 
-#include "ui/files/PictureFile.h"
+#include "ui/files/ReadPictureFile.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmPreview.h"
 

@@ -15,15 +15,6 @@
 #include <stdexcept>
 
 namespace vantorium {
-namespace {
-
-PageColors ColorsOf(const GalleryProject& project, const PageColorFields& fields) {
-  return {project.*fields.background, project.*fields.text, project.*fields.link, project.*fields.visitedLink,
-          project.*fields.activeLink};
-}
-
-}  // namespace
-
 SettingsDialogs::SettingsDialogs(Parts parts, QWidget& form) : parts_(std::move(parts)), form_(form) {
   const auto connectAll = [this](const auto& rows) {
     for (const auto& row : rows) OnClick(row.button, [this, &row] { Edit(row); });

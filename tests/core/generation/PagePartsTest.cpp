@@ -16,24 +16,38 @@ TEST_F(PageParts, AColorIsRedGreenBlueInSixDigits) {
 }
 
 TEST_F(PageParts, ABackdropIsItsCopyInTheImagesFolder) {
-  Prepare();
-  EXPECT_EQ(BackdropAttribute(run, "_backdrop_x", ""), "");
-  EXPECT_EQ(BackdropAttribute(run, "_backdrop_x", "C:\\pics\\Sand.GIF"), R"( BACKGROUND="Images/_backdrop_x.GIF")");
-  EXPECT_EQ(BackdropAttribute(run, "_backdrop_x", "sand"), R"( BACKGROUND="Images/_backdrop_x")");
-  Prepare(GenerationMode::Preview);
-  EXPECT_EQ(BackdropAttribute(run, "_backdrop_x", "a.png"), R"( BACKGROUND="images/_backdrop_x.png")");
+  const auto attribute = [&](const std::string& path, GenerationMode mode = GenerationMode::Create) {
+    project.textImageWrapperBackdrop = path;
+    Prepare(mode);
+    return BackdropAttribute(run, kImagePageBackdrop);
+  };
+  EXPECT_EQ(attribute(""), "");
+  EXPECT_EQ(attribute("C:\\pics\\Sand.GIF"), R"( BACKGROUND="Images/_backdrop_imagepage.GIF")");
+  EXPECT_EQ(attribute("sand"), R"( BACKGROUND="Images/_backdrop_imagepage")");
+  EXPECT_EQ(attribute("a.png", GenerationMode::Preview), R"( BACKGROUND="images/_backdrop_imagepage.png")");
 }
 
 TEST_F(PageParts, ABodyWithColorsHasFiveOfThemWithoutHashes) {
-  const PageColors colors{.background = 0xFFFFFF, .text = 0, .link = 0xA00000, .visitedLink = 1, .activeLink = 0xFF};
-  EXPECT_EQ(BodyTag(colors, ""),
-            R"(<BODY BGCOLOR="FFFFFF" TEXT="000000" LINK="0000A0" VLINK="010000" ALINK="FF0000">)");
-  EXPECT_TRUE(BodyTag(colors, " BACKGROUND=\"b\"").ends_with(R"(ALINK="FF0000" BACKGROUND="b">)"));
+  for (const PageColorFields& fields : {kThumbnailPageColors, kImagePageColors}) {
+    GalleryProject settings;
+    settings.*fields.use = 1;
+    settings.*fields.background = 0xFFFFFF;
+    settings.*fields.text = 0;
+    settings.*fields.link = 0xA00000;
+    settings.*fields.visitedLink = 1;
+    settings.*fields.activeLink = 0xFF;
+    EXPECT_EQ(BodyTag(settings, fields, ""),
+              R"(<BODY BGCOLOR="FFFFFF" TEXT="000000" LINK="0000A0" VLINK="010000" ALINK="FF0000">)");
+    EXPECT_TRUE(BodyTag(settings, fields, " BACKGROUND=\"b\"").ends_with(R"(ALINK="FF0000" BACKGROUND="b">)"));
+  }
 }
 
 TEST_F(PageParts, ABodyWithoutColorsKeepsItsBlank) {
-  EXPECT_EQ(BodyTag(""), "<BODY >");
-  EXPECT_EQ(BodyTag(" BACKGROUND=\"b\""), R"(<BODY  BACKGROUND="b">)");
+  for (const PageColorFields& fields : {kThumbnailPageColors, kImagePageColors}) {
+    const GalleryProject settings;
+    EXPECT_EQ(BodyTag(settings, fields, ""), "<BODY >");
+    EXPECT_EQ(BodyTag(settings, fields, " BACKGROUND=\"b\""), R"(<BODY  BACKGROUND="b">)");
+  }
 }
 
 TEST_F(PageParts, ARefreshNamesDelayAndTarget) {

@@ -1,22 +1,12 @@
 #pragma once
 
+#include "core/PageColors.h"
 #include "ui/model/dialogs/ColorDialog.h"
 
 #include <string>
 #include <string_view>
 
 namespace vantorium {
-
-/// The five colors of a kind of page.
-struct PageColors {
-  Color background = 0;
-  Color text = 0;
-  Color link = 0;
-  Color visitedLink = 0;
-  Color activeLink = 0;
-
-  bool operator==(const PageColors&) const = default;
-};
 
 /// The dialog for the colors of one kind of page, which can copy those of the other kind. It is cancelled until it is
 /// applied.

@@ -10,7 +10,7 @@ std::filesystem::path WithoutSeparatorAtItsEnd(const std::filesystem::path& fold
 
 }  // namespace
 
-std::vector<Drive> DrivesOf(const PathMap& paths) {
+std::vector<Drive> DriveFolders(const PathMap& paths) {
   std::vector<Drive> drives;
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
     const auto folder = paths.ToNative(std::string(1, letter) + ":\\");

@@ -14,6 +14,6 @@ struct Drive {
 };
 
 /// All drives whose folders exist, by letter.
-[[nodiscard]] std::vector<Drive> DrivesOf(const PathMap& paths);
+[[nodiscard]] std::vector<Drive> DriveFolders(const PathMap& paths);
 
 }  // namespace vantorium

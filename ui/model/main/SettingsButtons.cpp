@@ -32,15 +32,9 @@ constexpr BackdropButton kBackdrops[] = {
     {"btnThumbnailsTableBackdropBrowse", "Select Thumbnail Table Backdrop Image", &P::textThumbnailsTableBackdrop},
 };
 
-constexpr PageColorFields kImagePage = {&P::ImagePageBgColor, &P::ImagePageTextColor, &P::ImagePageLinkColor,
-                                        &P::ImagePageVLinkColor, &P::ImagePageALinkColor};
-constexpr PageColorFields kThumbnailPage = {&P::ThumbnailPageBgColor, &P::ThumbnailPageTextColor,
-                                            &P::ThumbnailPageLinkColor, &P::ThumbnailPageVLinkColor,
-                                            &P::ThumbnailPageALinkColor};
-
 constexpr ColorsButton kColors[] = {
-    {"btnImageWrapperColors", "Select Image Wrapper Colors", kImagePage, kThumbnailPage},
-    {"btnThumbnailsPageColors", "Select Thumbnail Page Colors", kThumbnailPage, kImagePage},
+    {"btnImageWrapperColors", "Select Image Wrapper Colors", kImagePageColors, kThumbnailPageColors},
+    {"btnThumbnailsPageColors", "Select Thumbnail Page Colors", kThumbnailPageColors, kImagePageColors},
 };
 
 constexpr LinkButton kLinks[] = {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/GalleryProject.h"
+#include "core/PageColors.h"
 
 #include <span>
 #include <string_view>
@@ -29,15 +30,6 @@ struct BackdropButton {
   std::string_view button;
   std::string_view title;
   std::string GalleryProject::*path;
-};
-
-/// The colors of a kind of page.
-struct PageColorFields {
-  Color GalleryProject::*background;
-  Color GalleryProject::*text;
-  Color GalleryProject::*link;
-  Color GalleryProject::*visitedLink;
-  Color GalleryProject::*activeLink;
 };
 
 /// Opens the dialog for the five colors of a page; it offers to copy those of the other kind of page.

@@ -57,7 +57,7 @@ TEST_F(Places, AFolderInTheNameTakesPrecedenceWhereItExists) {
 }
 
 TEST_F(Places, DrivesAreThoseWhoseFoldersExist) {
-  const std::vector<Drive> drives = DrivesOf(paths);
+  const std::vector<Drive> drives = DriveFolders(paths);
   ASSERT_EQ(drives.size(), 2U);
   EXPECT_EQ(drives[0].letter, 'C');
   EXPECT_EQ(drives[0].folder, disk.Path());

@@ -1,4 +1,4 @@
-#include "ui/files/PictureFile.h"
+#include "ui/files/ReadPictureFile.h"
 
 #include "ui/qt/QtText.h"
 
