@@ -1,7 +1,7 @@
 #pragma once
 
-#include "env/BrowserEntry.h"
 #include "env/PathMap.h"
+#include "ui/model/dialogs/BrowserEntry.h"
 #include "ui/model/files/FileBrowser.h"
 
 namespace vantorium {

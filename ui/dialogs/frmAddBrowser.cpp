@@ -1,6 +1,6 @@
 #include "ui/dialogs/frmAddBrowser.h"
 
-#include "env/BrowserEntry.h"
+#include "ui/model/dialogs/BrowserEntry.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/OneLineValidator.h"
 #include "ui/widgets/ShowText.h"

@@ -1,6 +1,6 @@
 #include "ui/dialogs/frmBrowserList.h"
 
-#include "env/BrowserList.h"
+#include "ui/model/dialogs/BrowserList.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/PlainToolTip.h"
 #include "ui_frmBrowserList.h"

@@ -1,6 +1,6 @@
 #include "ui/files/frmAddFoldersProcess.h"
 
-#include "core/ImageListTexts.h"
+#include "ui/model/main/ImageListTexts.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmAddFoldersProcess.h"
 

@@ -1,7 +1,7 @@
 #include "ui/main/ImageListView.h"
 
-#include "core/DropTarget.h"
 #include "ui/main/ImageListModel.h"
+#include "ui/model/main/DropTarget.h"
 #include "ui/qt/QtText.h"
 
 #include <QDrag>

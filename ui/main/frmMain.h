@@ -5,13 +5,13 @@
 #include "core/generation/CancelCheck.h"
 #include "core/generation/GenerationMode.h"
 #include "core/generation/RunHost.h"
-#include "env/BrowserTable.h"
 #include "publish/UploadLog.h"
 #include "publish/mFTP.h"
 #include "ui/main/DesktopPorts.h"
 #include "ui/model/dialogs/ColorDialog.h"
 #include "ui/model/dialogs/ProjectDialogs.h"
 #include "ui/model/dialogs/SampleDialog.h"
+#include "ui/model/main/BrowserTable.h"
 #include "ui/widgets/FieldBinder.h"
 
 #include <QMainWindow>

@@ -1,5 +1,4 @@
 // What the parts of the program below the window ask of it.
-#include "core/ImageListTexts.h"
 #include "ui/dialogs/frmCreateGallery.h"
 #include "ui/dialogs/frmImageDescriptions.h"
 #include "ui/dialogs/frmProgress.h"
@@ -7,6 +6,7 @@
 #include "ui/main/frmInfo.h"
 #include "ui/main/frmMain.h"
 #include "ui/main/frmSysTray.h"
+#include "ui/model/main/ImageListTexts.h"
 #include "ui/qt/QtColor.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmMain.h"

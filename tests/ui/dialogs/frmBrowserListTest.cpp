@@ -1,9 +1,9 @@
-#include "env/BrowserList.h"
-#include "tests/env/BrowserFakes.h"
 #include "tests/fakes/ScriptedFileBrowser.h"
 #include "tests/ui/FormDriver.h"
+#include "tests/ui/model/BrowserFakes.h"
 #include "ui/dialogs/AddBrowserDialog.h"
 #include "ui/dialogs/frmBrowserList.h"
+#include "ui/model/dialogs/BrowserList.h"
 
 #include <QLineEdit>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 #include "ui/model/files/ImageSizeLabel.h"
 
-#include "core/ImageListTexts.h"
 #include "image/JPEG.h"
+#include "ui/model/main/ImageListTexts.h"
 
 namespace vantorium {
 

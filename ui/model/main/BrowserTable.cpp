@@ -1,4 +1,4 @@
-#include "env/BrowserTable.h"
+#include "ui/model/main/BrowserTable.h"
 
 #include "env/RuntimeFailure.h"
 

@@ -1,6 +1,6 @@
-#include "env/BrowserList.h"
-#include "tests/env/BrowserFakes.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/ui/model/BrowserFakes.h"
+#include "ui/model/dialogs/BrowserList.h"
 
 namespace vantorium {
 namespace {

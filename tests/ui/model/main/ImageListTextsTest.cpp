@@ -1,4 +1,4 @@
-#include "core/ImageListTexts.h"
+#include "ui/model/main/ImageListTexts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "env/BrowserList.h"
-#include "env/BrowserMenus.h"
+#include "ui/model/dialogs/BrowserList.h"
+#include "ui/model/main/BrowserMenus.h"
 
 #include <filesystem>
 #include <string>

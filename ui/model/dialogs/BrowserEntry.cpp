@@ -1,4 +1,4 @@
-#include "env/BrowserEntry.h"
+#include "ui/model/dialogs/BrowserEntry.h"
 
 #include <filesystem>
 #include <system_error>

@@ -1,4 +1,4 @@
-#include "env/BrowserMenus.h"
+#include "ui/model/main/BrowserMenus.h"
 
 namespace vantorium {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "env/BrowserEntry.h"
 #include "tests/fakes/RecordingMessageBox.h"
+#include "ui/model/dialogs/BrowserEntry.h"
 
 #include <deque>
 #include <functional>

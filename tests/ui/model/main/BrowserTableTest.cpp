@@ -1,7 +1,7 @@
-#include "env/BrowserTable.h"
 #include "env/mINIFileFunctions.h"
-#include "tests/env/BrowserFakes.h"
 #include "tests/fakes/TemporaryFolder.h"
+#include "tests/ui/model/BrowserFakes.h"
+#include "ui/model/main/BrowserTable.h"
 
 namespace vantorium {
 namespace {

@@ -1,4 +1,4 @@
-#include "core/DropTarget.h"
+#include "ui/model/main/DropTarget.h"
 
 #include <utility>
 

@@ -1,5 +1,5 @@
-#include "env/BrowserEntry.h"
 #include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/dialogs/BrowserEntry.h"
 
 namespace vantorium {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "env/BrowserEntry.h"
 #include "env/MessageBoxPort.h"
+#include "ui/model/dialogs/BrowserEntry.h"
 
 #include <optional>
 #include <string>

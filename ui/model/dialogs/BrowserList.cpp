@@ -1,4 +1,4 @@
-#include "env/BrowserList.h"
+#include "ui/model/dialogs/BrowserList.h"
 
 #include "env/RuntimeFailure.h"
 
