@@ -5,12 +5,6 @@
 namespace vantorium {
 namespace {
 
-std::string_view Trimmed(std::string_view text, std::string_view blanks = " ") {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 bool BeginsWithKey(std::string_view line, std::string_view key) {
   return line.size() > key.size() && line[key.size()] == '=' && EqualsIgnoringCase(line.substr(0, key.size()), key);
 }

@@ -1,6 +1,7 @@
 #include "env/Numbers.h"
 
 #include "env/RuntimeFailure.h"
+#include "env/Text.h"
 
 #include <charconv>
 #include <cmath>
@@ -11,13 +12,6 @@
 
 namespace vantorium {
 namespace {
-
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 template <typename Integer>
 Integer ToInteger(double value) {
@@ -63,7 +57,7 @@ double Divide(double numerator, double denominator) {
 }
 
 std::optional<double> ParseNumber(std::string_view text) {
-  std::string_view digits = Trimmed(text);
+  std::string_view digits = Trimmed(text, " \t\r\n");
   if (digits.starts_with('+') && !digits.starts_with("+-")) digits.remove_prefix(1);
   // from_chars would also take "inf" and "nan": a number begins with a digit or a point behind its sign.
   const auto start = digits.find_first_not_of('-');

@@ -5,11 +5,6 @@
 namespace vantorium {
 namespace {
 
-bool HasDrive(std::string_view text) {
-  return text.size() >= 2 && text[1] == ':' &&
-         ((text[0] >= 'a' && text[0] <= 'z') || (text[0] >= 'A' && text[0] <= 'Z'));
-}
-
 char DriveLetter(std::string_view text) {
   return static_cast<char>(text[0] >= 'a' ? text[0] - 'a' + 'A' : text[0]);
 }

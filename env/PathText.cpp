@@ -28,6 +28,11 @@ std::string GetFileExtension(std::string_view path) {
   return dot == std::string_view::npos ? std::string() : std::string(path.substr(dot));
 }
 
+bool HasDrive(std::string_view path) {
+  return path.size() >= 2 && path[1] == ':' &&
+         ((path[0] >= 'a' && path[0] <= 'z') || (path[0] >= 'A' && path[0] <= 'Z'));
+}
+
 std::string WithSlashes(std::string_view path) {
   return ReplaceAll(path, "\\", "/");
 }

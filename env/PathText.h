@@ -18,6 +18,9 @@ namespace vantorium {
 /// From the last "." to the end, with the dot; empty without one. Separators stop nothing: `C:\a.b\c` gives `.b\c`.
 [[nodiscard]] std::string GetFileExtension(std::string_view path);
 
+/// Whether the path begins with the letter of a drive and a colon.
+[[nodiscard]] bool HasDrive(std::string_view path);
+
 [[nodiscard]] std::string WithSlashes(std::string_view path);
 [[nodiscard]] std::string WithBackslashes(std::string_view path);
 

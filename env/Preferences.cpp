@@ -2,6 +2,7 @@
 
 #include "env/Numbers.h"
 #include "env/RuntimeFailure.h"
+#include "env/TempFolder.h"
 #include "env/mINIFileFunctions.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ void ReadTempFolder(const Reader& reader, const std::string& appPath, const mFil
   const bool read = reader.Text(kFolders, "TempFolderLocation", preferences.TempFolderLocation);
   if (!read || preferences.TempFolderLocation.empty()) {
     preferences.TempFolderLocation = appPath;
-    std::ignore = files.MakePath(appPath + "\\VANTORIUM_TEMP");
+    std::ignore = files.MakePath(TempFolderIn(appPath));
   }
   if (!reader.Number(kFolders, "TempFolderAutoClear", preferences.TempFolderAutoClear)) {
     preferences.TempFolderAutoClear = 1;

@@ -18,7 +18,7 @@
 namespace vantorium {
 namespace {
 
-constexpr std::string_view kTempFolder = "\\VANTORIUM_TEMP\\";
+const std::string kTempFolder = TempFolderIn("") + '\\';
 constexpr int kFilesToTurn = 200;
 
 enum class EntryKind { Folder, Link, Other };
@@ -98,9 +98,13 @@ bool DeleteFolderTree(std::string_view folder, const PathMap& paths, EventLoop& 
   return parent.IsOpen() && DeleteBelow(parent.Get(), names, loop);
 }
 
+std::string TempFolderIn(std::string_view location) {
+  return std::string(location) + '\\' + std::string(kTempFolderName);
+}
+
 bool ClearTempFolder(std::string_view tempFolderLocation, const mFileFunctions& files, EventLoop& loop) {
   if (tempFolderLocation.empty()) return false;
-  const std::string folder = WithTrailingBackslash(tempFolderLocation) + "VANTORIUM_TEMP";
+  const std::string folder = WithTrailingBackslash(tempFolderLocation) + std::string(kTempFolderName);
   const TempFolderLock lock(files.Paths().ToNative(folder).value_or(""));
   if (lock.IsTakenElsewhere()) return false;
   const bool deleted = DeleteFolderTree(folder, files.Paths(), loop);

@@ -3,9 +3,16 @@
 #include "env/EventLoop.h"
 #include "env/mFileFunctions.h"
 
+#include <string>
 #include <string_view>
 
 namespace vantorium {
+
+/// The name of the folder that the program calls its own, below a location that the user chooses.
+inline constexpr std::string_view kTempFolderName = "VANTORIUM_TEMP";
+
+/// The path of that folder: the location as it stands, a backslash and the name.
+[[nodiscard]] std::string TempFolderIn(std::string_view location);
 
 /// Deletes `folder` (path text) with all it holds, read-only files too; true when everything was removed. It works only
 /// on a folder named VANTORIUM_TEMP and what lies below one: a path that does not say so in backslashes and to the

@@ -55,10 +55,14 @@ std::size_t FindIgnoringCase(std::string_view text, std::string_view part, std::
   return std::string_view::npos;
 }
 
+std::string_view Trimmed(std::string_view text, std::string_view blanks) {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
 std::string_view TrimNull(std::string_view fixed) {
-  std::string_view text = fixed.substr(0, fixed.find('\0'));
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return text.substr(0, text.find_last_not_of(' ') + 1);  // npos + 1 is 0
+  return Trimmed(fixed.substr(0, fixed.find('\0')));
 }
 
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with) {

@@ -18,6 +18,9 @@ inline constexpr std::string_view kCrLf = "\r\n";
 /// Position of `part` in `text` from `start` on, or npos.
 [[nodiscard]] std::size_t FindIgnoringCase(std::string_view text, std::string_view part, std::size_t start = 0);
 
+/// `text` without the characters of `blanks` at both ends.
+[[nodiscard]] std::string_view Trimmed(std::string_view text, std::string_view blanks = " ");
+
 /// A text out of a block of fixed size: what stands before the first NUL, without the blanks around it.
 [[nodiscard]] std::string_view TrimNull(std::string_view fixed);
 

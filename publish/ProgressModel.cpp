@@ -1,6 +1,7 @@
 #include "publish/ProgressModel.h"
 
 #include "env/RuntimeFailure.h"
+#include "publish/UploadLog.h"
 
 namespace vantorium {
 namespace {
@@ -117,7 +118,7 @@ void ProgressModel::PressCancelButton(CancelPoll& cancel) {
 
 void ProgressModel::PressShowLog(Shell& shell, const std::string& appPath) const {
   try {
-    shell.OpenFile(appPath + "/ftplog.txt");
+    shell.OpenFile(appPath + '/' + kUploadLogName);
   } catch (const RuntimeFailure&) {
     // The desktop that can't open a text file tells its user so itself.
   }

@@ -9,8 +9,10 @@
 
 namespace vantorium {
 
-// ftplog.txt in the program's folder: the log of the last run that went to a server, perhaps with the texts of failed
-// runs without a server behind it. Lines end in CR LF.
+inline constexpr const char* kUploadLogName = "ftplog.txt";
+
+// The upload log in the program's folder: the log of the last run that went to a server, perhaps with the texts of
+// failed runs without a server behind it. Lines end in CR LF.
 //
 //   header = empty line, "Vantorium 3.0 Upload Log (" time ")", underscores, two empty lines
 //   log    = *(the text of a log box, line end)
@@ -22,7 +24,7 @@ class UploadLog {
  public:
   /// `programFolder`: a native path.
   UploadLog(const std::filesystem::path& programFolder, const Clock& clock, MessageBoxPort& boxes)
-      : file_(programFolder / "ftplog.txt"), clock_(clock), boxes_(boxes) {}
+      : file_(programFolder / kUploadLogName), clock_(clock), boxes_(boxes) {}
 
   /// Begins the log of a run in place of the last one. The program's folder is made when it is missing.
   void WriteLogHeader();

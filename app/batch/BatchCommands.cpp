@@ -11,8 +11,10 @@
 #include "env/DriveTable.h"
 #include "env/PathText.h"
 #include "env/ProgramFolder.h"
+#include "env/TempFolder.h"
 #include "image/PangoTextRaster.h"
 #include "publish/AsioFTPSocket.h"
+#include "publish/UploadLog.h"
 
 #include <algorithm>
 #include <thread>
@@ -223,7 +225,7 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
   terminal_.EraseBar();
   if (end != RunEnd::Success) return EndOfFailedRun();
   if (mode == GenerationMode::Preview) {
-    const auto index = paths_.ToNative(preferences.TempFolderLocation + "\\VANTORIUM_TEMP\\index.htm");
+    const auto index = paths_.ToNative(TempFolderIn(preferences.TempFolderLocation) + "\\index.htm");
     const bool printed = PrintResult(index.value_or("").string() + "\n");
     if (!printed || !shell.HasOpened()) return ExitCode::Failure;
   }
@@ -235,7 +237,7 @@ ExitCode BatchProgram::EndOfFailedRun() {
   if (cancel_.CancelRequested()) return ExitCode::Cancelled;
   // A window has a button for the log in the place of a message about what the server refused.
   if (!boxes_.HaveSpoken()) {
-    const std::string log = (programFolder_ / "ftplog.txt").string();
+    const std::string log = (programFolder_ / kUploadLogName).string();
     boxes_.Critical("Upload failed", "What the server has answered is in the file \"" + log + "\".");
   }
   return ExitCode::Failure;

@@ -1,5 +1,6 @@
 #include "core/file/ProjectFileWriter.h"
 
+#include "core/Generator.h"
 #include "core/RegularTurns.h"
 #include "core/file/ProjectFileElements.h"
 #include "core/file/XmlSyntax.h"
@@ -77,7 +78,7 @@ std::string ProjectFileText(const Project& project, EventLoop& events) {
   PutAttribute(root, "VERSION", "3.0");
   pugi::xml_node meta = root.append_child("META");
   PutAttribute(meta, "NAME", "GENERATOR");
-  PutAttribute(meta, "CONTENT", "Vantorium Image Gallery Creator 3.0");
+  PutAttribute(meta, "CONTENT", kGenerator);
   PutGallery(root, project, events);
 
   TextWriter writer(events);

@@ -4,6 +4,7 @@
 #include "env/LaunchCommands.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
+#include "env/TempFolder.h"
 #include "publish/FTPPath.h"
 
 namespace vantorium {
@@ -125,7 +126,7 @@ RunEnd GalleryCreator::Run(const RunArguments& arguments) {
 }
 
 std::string GalleryCreator::TempFolder() const {
-  return preferences_.TempFolderLocation + "\\VANTORIUM_TEMP";
+  return TempFolderIn(preferences_.TempFolderLocation);
 }
 
 std::filesystem::path GalleryCreator::NativeTempFolder() const {

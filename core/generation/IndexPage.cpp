@@ -19,7 +19,7 @@ void AddHead(PageText& page, const RunState& run) {
   page.Line();
   page.Line("<HEAD>");
   page.Format("<TITLE>{}</TITLE>", run.project.textGalleryTitle);
-  page.Line(kGeneratorTag);
+  page.Line(GeneratorTag());
   page.UserCode("HEAD CODE", ExpandTags(run, run.project.GalleryHeadCode, kNoIndex, kNoIndex));
   page.Line("</HEAD>");
   page.Line();

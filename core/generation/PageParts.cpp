@@ -1,10 +1,15 @@
 #include "core/generation/PageParts.h"
 
+#include "core/Generator.h"
 #include "env/PathText.h"
 
 #include <fmt/format.h>
 
 namespace vantorium {
+
+std::string GeneratorTag() {
+  return fmt::format(R"(<META NAME="GENERATOR" CONTENT="{}">)", kGenerator);
+}
 
 std::string ColorToHtml(Color color) {
   return fmt::format("{:02X}{:02X}{:02X}", color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);

@@ -11,8 +11,7 @@ namespace vantorium {
 // Pieces that more than one kind of page is made of.
 
 /// The line that names the program that made a page.
-inline constexpr std::string_view kGeneratorTag =
-    R"(<META NAME="GENERATOR" CONTENT="Vantorium Image Gallery Creator 3.0">)";
+[[nodiscard]] std::string GeneratorTag();
 
 /// Six hexadecimal digits in capitals: red, green, blue. No "#".
 [[nodiscard]] std::string ColorToHtml(Color color);

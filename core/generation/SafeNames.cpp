@@ -5,15 +5,6 @@
 #include <string>
 
 namespace vantorium {
-namespace {
-
-bool HasDrive(std::string_view text) {
-  const bool letter = !text.empty() && ((text[0] >= 'A' && text[0] <= 'Z') || (text[0] >= 'a' && text[0] <= 'z'));
-  return letter && text.substr(1).starts_with(':');
-}
-
-}  // namespace
-
 bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of("/\\") == std::string_view::npos &&
          name.find('\0') == std::string_view::npos && !HasDrive(name);

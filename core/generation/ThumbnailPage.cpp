@@ -47,7 +47,7 @@ void AddHead(PageText& text, const RunState& run, std::int32_t page) {
   text.Line("<HTML>");
   text.Line("<HEAD>");
   text.Format("<TITLE>{} Index Page {} of {}</TITLE>", project.textGalleryTitle, page, run.ThumbnailPageCount);
-  text.Line(kGeneratorTag);
+  text.Line(GeneratorTag());
   if (const auto start = SlideShowStart(run)) text.Line(RefreshTag(project.textGallerySlideShowAutoStartDelay, *start));
   text.UserCode("HEAD CODE", ExpandTags(run, project.ThumbnailPageHeadCode, kNoIndex, page));
   text.Line("</HEAD>");

@@ -32,7 +32,7 @@ void AddHead(PageText& page, const RunState& run, std::int32_t image) {
   page.Line("<HTML>");
   page.Line("<HEAD>");
   page.Format("<TITLE>{} Image {} of {}</TITLE>", project.textGalleryTitle, image, run.ImageCount);
-  page.Line(kGeneratorTag);
+  page.Line(GeneratorTag());
   if (const auto next = SlideAfter(run, image)) page.Line(RefreshTag(project.textGallerySlideShowDelay, *next));
   page.UserCode("HEAD CODE", ExpandTags(run, project.ImagePageHeadCode, image, kNoIndex), kIndent);
   page.Line("</HEAD>");

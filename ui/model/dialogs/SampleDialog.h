@@ -2,6 +2,7 @@
 
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
+#include "env/TempFolder.h"
 #include "env/mFileFunctions.h"
 #include "image/ResamplePlan.h"
 #include "image/cDIBSection.h"
@@ -68,7 +69,7 @@ class SampleDialog {
   [[nodiscard]] bool Cancelled() const { return cancelled_; }
 
  private:
-  [[nodiscard]] std::string TempFolder() const { return sources_.tempFolderLocation + "\\VANTORIUM_TEMP"; }
+  [[nodiscard]] std::string TempFolder() const { return TempFolderIn(sources_.tempFolderLocation); }
   [[nodiscard]] std::unique_ptr<cDIBSection> LoadSource() const;
 
   SampleSources sources_;

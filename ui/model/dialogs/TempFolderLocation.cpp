@@ -1,5 +1,7 @@
 #include "ui/model/dialogs/TempFolderLocation.h"
 
+#include "env/TempFolder.h"
+
 namespace vantorium {
 namespace {
 
@@ -36,7 +38,7 @@ bool TempFolderLocation::Accept() {
     boxes_.Critical(kInvalidPath, " You must specify an absolute Path or a Network Path.");
     return false;
   }
-  if (!files_.MakePath(textTempFolderLocation + "\\VANTORIUM_TEMP")) {
+  if (!files_.MakePath(TempFolderIn(textTempFolderLocation))) {
     boxes_.Critical(kInvalidPath,
                     "The temporary Folder cannot be created in the Path you have specified.  Please make sure that "
                     "your input is correct.");

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string_view>
+
+namespace vantorium {
+
+/// How the program names itself in the files that it makes.
+inline constexpr std::string_view kGenerator = "Vantorium Image Gallery Creator 3.0";
+
+}  // namespace vantorium
