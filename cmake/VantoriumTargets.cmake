@@ -8,12 +8,17 @@ add_compile_options(-pthread)  # everywhere, or precompiled headers could not be
 find_program(CCACHE ccache)
 if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
-  add_compile_options(-fpch-preprocess)
+  # The cache sees through precompiled headers only with these; each compiler has its own.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    add_compile_options(-fpch-preprocess)
+  else()
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+  endif()
 endif()
 if(VANTORIUM_SANITIZE)
   add_compile_options(-fsanitize=${VANTORIUM_SANITIZE} -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${VANTORIUM_SANITIZE})
-  if(VANTORIUM_SANITIZE MATCHES thread)
+  if(VANTORIUM_SANITIZE MATCHES thread AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-Wno-tsan)  # Asio has fences, which this sanitizer can't see
   endif()
 endif()
@@ -21,7 +26,8 @@ endif()
 function(vantorium_own_code target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
   # At -O3, g++ 12 sees overflows in its own std::string that are not there.
-  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-Wno-stringop-overflow -Wno-restrict -Wno-array-bounds>)
+  target_compile_options(${target} PRIVATE
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-stringop-overflow;-Wno-restrict;-Wno-array-bounds>)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
 endfunction()
 
