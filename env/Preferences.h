@@ -35,9 +35,9 @@ struct Preferences {
 inline constexpr std::size_t kMostBrowsers = 8;
 
 /// Reads the preferences `file` at start-up. Reports no failure: a value that cannot be read gets its default, and
-/// without a file every value does. If the file names no place for the temporary folder, that is the program's folder
-/// `appPath` (path text without a trailing backslash), and the temporary folder is created; in a place that the file
-/// names it is not.
+/// without a file every value does. If the file does not name the parent of the temporary folder, the parent is the
+/// program's folder `appPath` (path text without a trailing backslash), and only then is the temporary folder created
+/// here.
 [[nodiscard]] Preferences ReadPreferences(const std::filesystem::path& file, const std::string& appPath,
                                           const mFileFunctions& files);
 
