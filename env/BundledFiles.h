@@ -9,23 +9,24 @@
 
 namespace vantorium {
 
-/// The files that the program brings along and only reads, such as `preview.jpg` and the help. They lie in the
-/// program's folder, where a user may put others of his own, or in a folder of the installation.
+/// The files that ship with the program and are only read, such as `preview.jpg` and the help. They are in the
+/// program's folder, where users can put their own versions, or in a folder of the installation.
 class BundledFiles {
  public:
-  /// `folders`: native, in the order in which they are looked through. One that is not there is no failure.
+  /// `folders`: native paths, in search order. A missing folder is not a failure.
   explicit BundledFiles(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
 
-  /// The file of that name in the first folder that has one.
+  /// Returns the file `name` in the first folder that has one, or nullopt if none has.
   [[nodiscard]] std::optional<std::filesystem::path> Find(std::string_view name) const;
 
  private:
   std::vector<std::filesystem::path> folders_;
 };
 
-/// The folders of a program: its own one, then "../share/vantorium" seen from its executable, as GNU's conventions for
-/// installation folders have it (prefix/bin, prefix/share). It is not asked where it was installed, so an installation
-/// can be moved; a build folder with the same two folders in it works too. A link to the executable has to be resolved.
+/// Returns the folders to search: `programFolder`, then "../share/vantorium" relative to the executable's folder, as in
+/// the GNU conventions for installation folders (prefix/bin, prefix/share). The program does not store where it was
+/// installed, so an installation can be moved; a build folder with the same two folders works too. A link to the
+/// executable must be resolved.
 [[nodiscard]] std::vector<std::filesystem::path> BundledFolders(const std::filesystem::path& programFolder,
                                                                 const Surroundings& around);
 

@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-/// A date and a time of day as a calendar shows them, without a time zone.
+/// A calendar date and time of day, without a time zone.
 struct CivilTime {
   int year = 1601;
   int month = 1;  ///< 1 to 12
@@ -17,18 +17,18 @@ struct CivilTime {
   auto operator<=>(const CivilTime&) const = default;
 };
 
-/// Time of a file: units of 100 nanoseconds since 1601-01-01 00:00 UTC.
+/// A file's time, in units of 100 nanoseconds since 1601-01-01 00:00 UTC.
 struct FileTime {
   std::int64_t ticks = 0;
 
   auto operator<=>(const FileTime&) const = default;
 };
 
-/// The UTC calendar time of `time`, cut to whole seconds.
+/// Returns the UTC calendar time of `time`, rounded down to whole seconds.
 [[nodiscard]] CivilTime ToCivilTime(FileTime time);
 
-/// The file time of a time as the system keeps it: seconds since 1970-01-01 00:00 UTC, and 0 to 999,999,999
-/// nanoseconds. What lies more than 28,000 years away is cut to that.
+/// Converts a POSIX time: seconds since 1970-01-01 00:00 UTC, and 0 to 999,999,999 nanoseconds. Times more than 28,000
+/// years from 1970 are clamped to that.
 [[nodiscard]] FileTime FileTimeOfUnixTime(std::int64_t seconds, std::int64_t nanoseconds);
 
 }  // namespace vantorium

@@ -7,7 +7,7 @@ namespace vantorium {
 class Clock {
  public:
   virtual ~Clock() = default;
-  /// The present local date and time.
+  /// Returns the current local date and time.
   [[nodiscard]] virtual CivilTime Now() const = 0;
 };
 

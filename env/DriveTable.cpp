@@ -8,7 +8,7 @@
 namespace vantorium {
 namespace {
 
-/// The capital letter of a line that begins with a letter and "="; NUL for any other line.
+/// Returns the letter, as a capital, of a line that begins with a letter and "="; NUL for any other line.
 char LetterOf(std::string_view line) {
   if (line.size() < 2 || line[1] != '=') return '\0';
   const char letter = AsciiUpper(line.substr(0, 1))[0];

@@ -9,14 +9,14 @@
 
 namespace vantorium {
 
-/// The folders of the drive letters, as PathMap takes them, out of the text of a preferences file: one key a letter in
-/// the section DRIVES, such as `C="/home/me"`. Unlike other values they are looked for within that section only. A
-/// folder that is not absolute, or holds a NUL, is passed over; of two folders of a letter the first counts.
+/// Reads the folders of the drive letters, for PathMap, from the text of a preferences file: one key per letter in the
+/// section DRIVES, such as `C="/home/me"`. Unlike other values, they are read from that section only. A folder that is
+/// not absolute or contains a NUL is ignored; if a letter has two folders, the first is used.
 [[nodiscard]] std::map<char, std::string> DrivesOf(std::string_view preferences);
 
-/// The map of these drives for a file, with the usual drives of `home` when it names none or is not there. A file that
-/// is there and cannot be read gives a map without drives: nobody knows what a letter stands for, and a guess would put
-/// the user's files elsewhere.
+/// Reads the drives from a preferences file. If the file is missing or names no drives, the map has the usual drives of
+/// `home`. If the file exists but cannot be read, the map has no drives: the meaning of the letters is unknown, and a
+/// guess would put the user's files in the wrong place.
 [[nodiscard]] PathMap ReadPathMap(const std::filesystem::path& preferencesFile, const std::filesystem::path& home);
 
 }  // namespace vantorium

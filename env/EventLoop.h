@@ -2,14 +2,14 @@
 
 namespace vantorium {
 
-/// The event loop of the face that runs the engine. Long operations give it a turn at fixed points, so that a Cancel
-/// can be noticed; nothing else of a toolkit is known here.
+/// The event loop of the face that runs the engine. Long operations give it a turn at fixed points, so that a Cancel is
+/// noticed. It does not depend on Qt.
 class EventLoop {
  public:
   virtual ~EventLoop() = default;
-  /// Handles what is waiting and returns at once.
+  /// Handles pending events and returns without waiting.
   virtual void Turn() = 0;
-  /// Sleeps until there is something to handle, and handles it. A loop that cannot sleep takes a turn.
+  /// Sleeps until an event arrives and handles it. A loop that cannot sleep takes a turn instead.
   virtual void Wait() { Turn(); }
 };
 

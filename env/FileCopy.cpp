@@ -27,8 +27,8 @@ void CopyBytes(int source, int target, const std::filesystem::path& name) {
   }
 }
 
-/// Permissions and times are a courtesy: a file system that has none still gets the copy. The owner may always write
-/// the copy, so that the next run can replace it.
+/// Failures to copy permissions and times are ignored: a file system without them still gets the copy. The owner can
+/// always write the copy, so that the next run can replace it.
 void CopyAttributes(const struct stat& source, const NeighbourFile& target) {
   const std::array<timespec, 2> times = {source.st_atim, source.st_mtim};
   if (!target.ReplacesFile()) std::ignore = ::fchmod(target.Descriptor(), (source.st_mode & 0777) | S_IWUSR);

@@ -8,7 +8,7 @@ namespace vantorium {
 
 bool FileDescriptor::Close() {
   const int descriptor = std::exchange(descriptor_, -1);
-  // A signal comes in the way of the waiting only: the file is closed, and its number may already be another's.
+  // EINTR interrupts only the wait: the file is closed, and its number may already belong to another file.
   return descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR;
 }
 
@@ -18,7 +18,7 @@ bool WriteAll(int descriptor, std::string_view bytes) {
     if (written > 0) {
       bytes.remove_prefix(static_cast<std::size_t>(written));
     } else if (written == 0) {
-      errno = EIO;  // a device that takes nothing would be asked for ever
+      errno = EIO;  // a device that accepts nothing would be retried forever
       return false;
     } else if (errno != EINTR) {
       return false;

@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// An open file of the system, closed with the object.
+/// Owns an open file descriptor and closes it on destruction.
 class FileDescriptor {
  public:
   explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
@@ -16,14 +16,15 @@ class FileDescriptor {
 
   [[nodiscard]] int Get() const { return descriptor_; }
   [[nodiscard]] bool IsOpen() const { return descriptor_ >= 0; }
-  /// Closes it now; false when the system reports a failure, as a full disk may do only here.
+  /// Closes it now. Returns false if the system reports a failure; a full disk may be reported only here.
   [[nodiscard]] bool Close();
 
  private:
   int descriptor_;
 };
 
-/// Writes all of `bytes` to an open file. False, with the reason in errno, when the system does not take them all.
+/// Writes all of `bytes` to an open file. Returns false, with the reason in errno, if the system does not accept them
+/// all.
 [[nodiscard]] bool WriteAll(int descriptor, std::string_view bytes);
 
 }  // namespace vantorium

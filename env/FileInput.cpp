@@ -14,7 +14,7 @@
 namespace vantorium {
 namespace {
 
-/// Opens without waiting, so that a pipe of that name does not stop the program.
+/// Opens with O_NONBLOCK, so that a pipe of that name does not block the program.
 int OpenToRead(const std::filesystem::path& file) {
   const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (descriptor >= 0) return descriptor;

@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// The bytes of a regular file. Throws RuntimeFailure FileNotFound when there is none of that name, and FileAccess when
-/// it cannot be read, is no regular file or holds more than `most` bytes.
+/// Returns the bytes of a regular file. Throws RuntimeFailure FileNotFound if there is no file of that name, and
+/// FileAccess if it cannot be read, is not a regular file or holds more than `most` bytes.
 [[nodiscard]] std::string ReadFileWhole(const std::filesystem::path& file, std::size_t most);
 
 }  // namespace vantorium

@@ -5,9 +5,9 @@
 namespace vantorium {
 namespace {
 
-/// The file that a path means in the end.
+/// Follows symbolic links from `path` to the file at their end.
 std::filesystem::path BehindLinks(std::filesystem::path path) {
-  constexpr int kMostLinks = 40;  // as many as the system follows
+  constexpr int kMostLinks = 40;  // as many as Linux follows
   std::error_code none;
   for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(path, none); ++links) {
     path = path.parent_path() / std::filesystem::read_symlink(path, none);

@@ -9,7 +9,7 @@ bool BeginsWithKey(std::string_view line, std::string_view key) {
   return line.size() > key.size() && line[key.size()] == '=' && EqualsIgnoringCase(line.substr(0, key.size()), key);
 }
 
-/// The key of a line for the writer, which unlike the reader overlooks blanks around it; empty without "=".
+/// Returns the key of a line, for the writer, which unlike the reader ignores blanks around it; empty without "=".
 std::string_view KeyOf(std::string_view line) {
   const auto equals = line.find('=');
   return equals == std::string_view::npos ? std::string_view() : Trimmed(line.substr(0, equals), " \t");
@@ -20,13 +20,13 @@ std::string LineEndOf(std::string_view text) {
   return std::string(end.empty() ? kCrLf : end);
 }
 
-/// Where the line of a key begins and, without its line end, ends; an empty stretch is where it is to be added.
+/// Where a key's line begins and ends, without its line end. An empty stretch is where the line must be added.
 struct Stretch {
   std::size_t begin;
   std::size_t end;
 };
 
-/// The place behind the section's line.
+/// Returns the position after the section's line, or nullopt if there is no such section.
 std::optional<std::size_t> BehindSectionLine(std::string_view text, std::string_view section) {
   for (std::string_view rest = text; !rest.empty();) {
     if (IsSectionLine(TakeINILine(rest).content, section)) return text.size() - rest.size();
@@ -34,8 +34,8 @@ std::optional<std::size_t> BehindSectionLine(std::string_view text, std::string_
   return std::nullopt;
 }
 
-/// The key's line in the section that begins at `start`, else the place behind the section's last line that is not
-/// blank.
+/// Returns the key's line in the section that begins at `start`, else the position after the section's last line that
+/// is not blank.
 Stretch PlaceOfKey(std::string_view text, std::size_t start, std::string_view key) {
   Stretch added = {start, start};
   for (std::string_view rest = text.substr(start); !rest.empty();) {
@@ -110,7 +110,7 @@ std::string WithINIString(std::string_view text, std::string_view section, std::
     return result.replace(place.begin, oldLine.size(), ValueLine(KeyOf(oldLine), value));
   }
   const bool open = !EndsWithLineEnd(std::string_view(result).substr(0, place.begin));
-  // A CR in front of an LF would make one line end of two, and swallow an empty line.
+  // A CR before an LF would merge two line ends into one and remove an empty line.
   const bool merges = lineEnd == "\r" && std::string_view(result).substr(place.begin).starts_with('\n');
   return result.insert(place.begin, (open ? lineEnd : "") + ValueLine(key, value) + (merges ? "\r\n" : lineEnd));
 }

@@ -7,9 +7,9 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// An opener ends as soon as it has found its program; some wait until the user closes that.
+/// An opener exits once it has found its program; some wait until the user closes that program.
 constexpr milliseconds kOpenerWatched{3000};
-/// The interpreter ends at once when there is no such program, else with the browser.
+/// The shell exits at once if there is no such program, else when the browser does.
 constexpr milliseconds kInterpreterWatched{1000};
 
 std::string Native(const std::string& file, const PathMap& paths) {
@@ -26,7 +26,7 @@ LaunchAttempts DefaultOpener(const std::string& file, const PathMap& paths) {
 }
 
 LaunchAttempts ListedBrowser(const std::string& location, const std::string& file, const PathMap& paths) {
-  // Without a program, the interpreter would run the file.
+  // Without a program, the shell would run the file.
   if (location.find_first_not_of(" \t\r\n") == std::string::npos) throw RuntimeFailure(FailureKind::FileNotFound);
   const std::string native = Native(file, paths);
   const std::string program = paths.ToNative(location).value_or(location).string();

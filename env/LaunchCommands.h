@@ -8,13 +8,13 @@
 
 namespace vantorium {
 
-/// What is tried to open a file: the second command only when the first one could not be started.
+/// The commands that are tried to open a file: the second only if the first could not be started.
 using LaunchAttempts = std::array<ShellCommand, 2>;
 
 /// Opens `file` (path text) with the desktop's default program for it:
 ///
-///   xdg-open FILE       what every desktop brings along; it knows which one is running
-///   gio open FILE       of GLib, for a desktop without the former
+///   xdg-open FILE       comes with every desktop and detects which one is running
+///   gio open FILE       from GLib, for a desktop without xdg-open
 ///
 /// Throws RuntimeFailure FileNotFound for a file on no drive.
 [[nodiscard]] LaunchAttempts DefaultOpener(const std::string& file, const PathMap& paths);
@@ -27,7 +27,7 @@ using LaunchAttempts = std::array<ShellCommand, 2>;
 /// Throws RuntimeFailure FileNotFound for a file on no drive, and for an empty location.
 [[nodiscard]] LaunchAttempts ListedBrowser(const std::string& location, const std::string& file, const PathMap& paths);
 
-/// Makes the attempts. `failed` hears of the second one's failure when both failed, perhaps later (see Shell::Start).
+/// Makes the attempts. If both fail, calls `failed` with the failure of the second, perhaps later (see Shell::Start).
 void Launch(const LaunchAttempts& attempts, Shell& shell, const StartFailed& failed);
 
 }  // namespace vantorium

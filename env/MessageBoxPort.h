@@ -8,12 +8,12 @@ enum class BoxKind { Plain, Critical, Question, Exclamation, Information };
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
 
-/// How the program speaks to its user. A window shows a message box; without one the text goes to the error output.
+/// Shows messages to the user: in a message box on the desktop, on standard error without windows.
 class MessageBoxPort {
  public:
   virtual ~MessageBoxPort() = default;
 
-  /// Shows `text` under `title` and waits for the answer. Line breaks of `text` are CR, LF or CR LF.
+  /// Shows `text` under `title` and waits for the answer. Line breaks in `text` are CR, LF or CR LF.
   virtual BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) = 0;
 
   void Critical(const std::string& title, const std::string& text) {

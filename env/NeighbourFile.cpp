@@ -25,8 +25,8 @@ std::filesystem::path NeighbourOf(const std::filesystem::path& target) {
   return target.parent_path() / (std::string(kPrefix) + std::to_string(::getpid()) + "-" + std::to_string(count++));
 }
 
-/// The file that the target's name shows now; nothing when a link or no file does. Throws for what is no file: a
-/// folder, a device, a pipe or a socket is somebody's own, and for a file that its owner may not write.
+/// Returns the status of the regular file at `target`, or nullopt if there is none or a symbolic link. Throws for a
+/// folder, a device, a pipe or a socket, which are never replaced, and for a file that its owner may not write.
 std::optional<struct stat> FileToReplace(const std::filesystem::path& target) {
   struct stat old = {};
   if (::lstat(target.c_str(), &old) != 0 || S_ISLNK(old.st_mode)) return std::nullopt;
@@ -36,15 +36,15 @@ std::optional<struct stat> FileToReplace(const std::filesystem::path& target) {
   return old;
 }
 
-/// What the system refuses to give stays the process's own: only root may give files to others, and a file system may
-/// know no owners at all.
+/// Copies owner, group and permissions as far as the system allows: only root can give files to others, and some file
+/// systems have no owners.
 void TakeOwnership(int file, const struct stat& old) {
   std::ignore = ::fchown(file, static_cast<uid_t>(-1), old.st_gid);
   std::ignore = ::fchown(file, old.st_uid, static_cast<gid_t>(-1));
   std::ignore = ::fchmod(file, old.st_mode & 0777U);
 }
 
-/// The process in a neighbour's name; nothing for any other name.
+/// Returns the process ID in a neighbour's name, or nullopt for any other name.
 std::optional<pid_t> MakerOf(std::string_view name) {
   if (!name.starts_with(kPrefix)) return std::nullopt;
   name.remove_prefix(kPrefix.size());
@@ -72,11 +72,11 @@ NeighbourFile::NeighbourFile(const std::filesystem::path& target) : target_(targ
   if (!file_.IsOpen()) ThrowFileAccess(target);
 }
 
-/// A name may be taken: a process that was killed left its neighbour behind, and numbers of processes come again.
+/// The name may exist already: a killed process leaves its neighbour behind, and process IDs are reused.
 int NeighbourFile::CreateNeighbour() {
   const auto old = FileToReplace(target_);
   replacesFile_ = old.has_value();
-  const mode_t mode = replacesFile_ ? 0600 : 0666;  // until it has that of the old file, nobody else may look into it
+  const mode_t mode = replacesFile_ ? 0600 : 0666;  // nobody else may read it until it has the old file's mode
   int descriptor = -1;
   do {
     path_ = NeighbourOf(target_);

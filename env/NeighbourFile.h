@@ -8,10 +8,10 @@
 
 namespace vantorium {
 
-/// A new file beside `target`, to be filled and then renamed over it, so that the target's name only ever shows a whole
-/// file. Only a regular file or a symbolic link is ever replaced, and no file that its owner may not write. The new
-/// file has owner, group and permissions of the old one as far as the system allows. It vanishes with the object unless
-/// TakeTargetName succeeded. All failures are RuntimeFailure FileAccess.
+/// A new file next to `target`, to be filled and then renamed over it, so that `target` never shows a partial file. It
+/// only replaces a regular file or a symbolic link, and never a file that its owner may not write. It gets owner, group
+/// and permissions of the old file as far as the system allows. The destructor deletes it unless TakeTargetName
+/// succeeded. All failures are RuntimeFailure FileAccess.
 class NeighbourFile {
  public:
   explicit NeighbourFile(const std::filesystem::path& target);
@@ -21,9 +21,9 @@ class NeighbourFile {
 
   [[nodiscard]] int Descriptor() const { return file_.Get(); }
   void Write(std::string_view bytes);
-  /// Whether there was a regular file of that name to begin with.
+  /// Whether the target was a regular file when this object was created.
   [[nodiscard]] bool ReplacesFile() const { return replacesFile_; }
-  /// Forces the bytes to the disk.
+  /// Syncs the bytes to disk.
   void Sync();
   /// Renames the file over the target.
   void TakeTargetName();
@@ -32,19 +32,19 @@ class NeighbourFile {
   [[nodiscard]] int CreateNeighbour();
 
   std::filesystem::path target_;
-  std::filesystem::path path_;  ///< given by CreateNeighbour
-  bool replacesFile_ = false;   ///< and this
+  std::filesystem::path path_;  ///< set by CreateNeighbour
+  bool replacesFile_ = false;   ///< set by CreateNeighbour
   FileDescriptor file_;
   bool renamed_ = false;
 };
 
-/// Whether a neighbour could have that name, whichever process made it.
+/// Whether a neighbour of any process could have that name.
 [[nodiscard]] bool IsNeighbourName(std::string_view name);
 
-/// Removes from `folder` what processes that are gone left of their neighbours. Failures don't matter.
+/// Removes the neighbours in `folder` that ended processes left behind. Failures are ignored.
 void RemoveAbandonedNeighbours(const std::filesystem::path& folder);
 
-/// Throws RuntimeFailure FileAccess that names `path` and the reason, an errno value.
+/// Throws RuntimeFailure FileAccess with a description that names `path` and `reason`, an errno value.
 [[noreturn]] void ThrowFileAccess(const std::filesystem::path& path, int reason = errno);
 
 }  // namespace vantorium

@@ -27,8 +27,8 @@ double ParseOrThrow(std::string_view text) {
   return *value;
 }
 
-/// What stands for a number that is out of a double's range: 0 for one too small, the largest of its sign for one too
-/// large.
+/// Returns the substitute for a number that is out of a double's range: 0 for one too small, the largest double of its
+/// sign for one too large.
 double NearestDouble(std::string_view digits) {
   std::istringstream stream{std::string(digits)};
   stream.imbue(std::locale::classic());
@@ -59,7 +59,7 @@ double Divide(double numerator, double denominator) {
 std::optional<double> ParseNumber(std::string_view text) {
   std::string_view digits = Trimmed(text, " \t\r\n");
   if (digits.starts_with('+') && !digits.starts_with("+-")) digits.remove_prefix(1);
-  // from_chars would also take "inf" and "nan": a number begins with a digit or a point behind its sign.
+  // from_chars also accepts "inf" and "nan", but a number must begin with a digit or a point after its sign.
   const auto start = digits.find_first_not_of('-');
   if (start == std::string_view::npos ||
       std::string_view("0123456789.").find(digits[start]) == std::string_view::npos) {

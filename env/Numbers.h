@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-// The program's arithmetic between floating point, integers and texts. Every conversion of a floating-point value to an
-// integer rounds to nearest with ties to even; a result outside the integer's range is the failure Overflow.
+// Arithmetic and conversions between floating point, integers and texts. Every conversion of a floating-point value to
+// an integer rounds to nearest with ties to even; a result outside the integer's range is the failure Overflow.
 
 /// `value` rounded to a whole number, ties to even: 2.5 gives 2, 3.5 gives 4.
 [[nodiscard]] double RoundHalfEven(double value);
@@ -19,13 +19,13 @@ namespace vantorium {
 /// `numerator / denominator` in double precision. Throws RuntimeFailure DivisionByZero when the denominator is 0.
 [[nodiscard]] double Divide(double numerator, double denominator);
 
-/// The decimal number that the whole text spells, blanks around it ignored: digits with an optional sign, point and
-/// exponent. One that a double cannot hold gives 0 or the largest double of its sign. Nothing when the text is no
-/// number.
+/// Parses the whole text as a decimal number, ignoring blanks around it: digits with an optional sign, point and
+/// exponent. A number out of a double's range gives 0 or the largest double of its sign. Returns nullopt if the text is
+/// not a number.
 [[nodiscard]] std::optional<double> ParseNumber(std::string_view text);
 
-/// As ParseNumber, rounded to the integer. Throws RuntimeFailure TypeMismatch for a text that is no number and Overflow
-/// for one that is out of range.
+/// Like ParseNumber, then rounds to the integer. Throws RuntimeFailure TypeMismatch if the text is not a number and
+/// Overflow if the number is out of range.
 [[nodiscard]] std::int16_t ParseInt16(std::string_view text);
 [[nodiscard]] std::int32_t ParseInt32(std::string_view text);
 

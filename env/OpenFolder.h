@@ -8,14 +8,14 @@
 
 namespace vantorium {
 
-/// How folders are opened here. With O_NOFOLLOW a link is no folder.
+/// The flags for opening a folder. With O_NOFOLLOW added, a symbolic link is refused.
 inline constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
-/// A folder that is open, and its entries one after the other. What is in it is reached through it, so nothing that is
-/// moved or linked meanwhile can lead elsewhere.
+/// An open folder that iterates over its entries. Entries are accessed through its descriptor, so nothing that is moved
+/// or linked meanwhile can lead elsewhere.
 class OpenFolder {
  public:
-  /// Takes over a descriptor; one below 0 is a folder that could not be opened.
+  /// Takes ownership of a descriptor; a negative one is a folder that could not be opened.
   explicit OpenFolder(int folder);
   ~OpenFolder();
   OpenFolder(const OpenFolder&) = delete;
@@ -23,7 +23,7 @@ class OpenFolder {
 
   [[nodiscard]] bool IsOpen() const { return listing_ != nullptr; }
   [[nodiscard]] int Descriptor() const { return ::dirfd(listing_); }
-  /// The name of the next entry, without "." and ".."; nothing at the end.
+  /// Returns the name of the next entry, skipping "." and "..", or nullopt at the end.
   [[nodiscard]] std::optional<std::string> Next();
 
  private:

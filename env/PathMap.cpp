@@ -9,7 +9,7 @@ char DriveLetter(std::string_view text) {
   return static_cast<char>(text[0] >= 'a' ? text[0] - 'a' + 'A' : text[0]);
 }
 
-/// `folder` without trailing slashes, so that "/" becomes empty and every drive's text begins behind the colon.
+/// Returns `folder` without trailing slashes, so that "/" becomes empty and every drive's text begins after the colon.
 std::string Stem(std::string folder) {
   while (folder.ends_with('/')) folder.pop_back();
   return folder;
@@ -60,7 +60,7 @@ std::string PathMap::ToTextFromUser(std::string_view typed) const {
   if (HasDrive(typed) || typed.starts_with("\\")) return WithBackslashes(typed);
   std::error_code error;
   const auto absolute = std::filesystem::absolute(std::filesystem::path(typed), error);
-  if (error) return WithBackslashes(typed);  // an empty text, or a working folder that is gone
+  if (error) return WithBackslashes(typed);  // an empty text, or a working folder that no longer exists
   return ToText(absolute.lexically_normal());
 }
 

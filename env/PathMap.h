@@ -8,28 +8,30 @@
 
 namespace vantorium {
 
-/// The one table between Windows path text, which the program uses everywhere, and the system's own paths.
+/// Maps between Windows path text, which the program uses everywhere, and native paths.
 class PathMap {
  public:
-  /// `drives`: folder of each drive letter (capitals), native and absolute. With none, `C:` is `home` and `Z:` is `/`.
+  /// `drives`: the folder of each drive letter (capitals), a native absolute path. If empty, `C:` is `home` and `Z:` is
+  /// `/`.
   explicit PathMap(std::map<char, std::string> drives, const std::filesystem::path& home = "/");
 
-  /// One in which no letter stands for anything.
+  /// Returns a map in which no letter has a folder.
   [[nodiscard]] static PathMap WithoutDrives();
 
-  /// The native path of path text: a letter and a colon stand for the drive's folder, one leading separator for the
-  /// root, anything else is relative to the working folder. Nothing for a drive without a folder and for a UNC path.
+  /// Returns the native path of path text: a letter and a colon mean the drive's folder, one leading separator means
+  /// the root, anything else is relative to the working folder. Returns nullopt for a drive without a folder, a UNC
+  /// path and a text with a NUL.
   [[nodiscard]] std::optional<std::filesystem::path> ToNative(std::string_view text) const;
 
-  /// The path text of an absolute native path: on the drive whose folder is its longest prefix, below `\` when no
-  /// drive holds it.
+  /// Returns the path text of an absolute native path: on the drive whose folder is its longest prefix, or below `\` if
+  /// no drive contains it.
   [[nodiscard]] std::string ToText(const std::filesystem::path& native) const;
 
-  /// Path text out of what a user typed: path text as it stands, a native path (relative to the working folder) mapped.
+  /// Converts what a user typed to path text: keeps path text, maps a native path (relative to the working folder).
   [[nodiscard]] std::string ToTextFromUser(std::string_view typed) const;
 
-  /// Of an absolute native path its path text; any other text as it stands. For settings, where a name without a folder
-  /// means something else than a file of the working folder.
+  /// Returns the path text of an absolute native path; any other text unchanged. For settings, where a name without a
+  /// folder does not mean a file in the working folder.
   [[nodiscard]] std::string ToTextIfNative(std::string_view typed) const;
 
  private:

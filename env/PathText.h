@@ -5,17 +5,19 @@
 
 namespace vantorium {
 
-// Paths inside the program are Windows path text whatever the system: backslashes separate folders, a few operations
-// take slashes too and turn them round. These functions only look at the text.
+// Paths inside the program are Windows path text on every system: backslashes separate folders; a few operations also
+// accept slashes and convert them. These functions only look at the text.
 
-/// What follows the last separator, the whole text when there is none. Slashes are turned to backslashes and one
-/// leading backslash is dropped first, so a UNC path loses its first.
+/// Returns the text after the last separator, or the whole text if there is none. First converts slashes to backslashes
+/// and drops one leading backslash, so a UNC path loses its first.
 [[nodiscard]] std::string GetFileName(std::string_view path);
 
-/// Everything through the last separator, in backslashes, empty when there is none; prepared as in GetFileName.
+/// Returns everything through the last separator, with backslashes; empty if there is none. Prepares the text as
+/// GetFileName does.
 [[nodiscard]] std::string GetFilePath(std::string_view path);
 
-/// From the last "." to the end, with the dot; empty without one. Separators stop nothing: `C:\a.b\c` gives `.b\c`.
+/// Returns the text from the last "." to the end, with the dot; empty without one. Separators do not matter: `C:\a.b\c`
+/// gives `.b\c`.
 [[nodiscard]] std::string GetFileExtension(std::string_view path);
 
 /// Whether the path begins with the letter of a drive and a colon.
@@ -24,7 +26,7 @@ namespace vantorium {
 [[nodiscard]] std::string WithSlashes(std::string_view path);
 [[nodiscard]] std::string WithBackslashes(std::string_view path);
 
-/// `path` with `extension`, which has its dot, appended unless it ends in it, upper and lower case being the same.
+/// Returns `path` with `extension` (with its dot) appended unless it already ends in it, ignoring case.
 [[nodiscard]] std::string WithExtension(std::string_view path, std::string_view extension);
 
 /// `folder` with a backslash appended unless it ends in one.

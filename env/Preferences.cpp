@@ -14,7 +14,7 @@ constexpr const char* kFolders = "FOLDERS";
 constexpr const char* kSettings = "SETTINGS";
 constexpr const char* kBrowsers = "BROWSERS";
 
-/// Runs one statement; a failure ends it and nothing else.
+/// Runs one statement. Returns false if it throws RuntimeFailure.
 template <typename Statement>
 bool Succeeds(Statement statement) {
   try {
@@ -25,7 +25,7 @@ bool Succeeds(Statement statement) {
   }
 }
 
-/// One preferences file, value by value.
+/// Reads one preferences file, value by value.
 class Reader {
  public:
   explicit Reader(const std::filesystem::path& file) : file_(file) {}
@@ -53,7 +53,7 @@ void ReadTempFolder(const Reader& reader, const std::string& appPath, const mFil
   }
 }
 
-/// A check box takes 0 and 1 and refuses every other value.
+/// A check box can only be 0 or 1; any other value becomes 1.
 void ReadImagesPreview(const Reader& reader, Preferences& preferences) {
   std::int16_t& value = preferences.checkImagesPreview;
   if (!reader.Number(kSettings, "ImagesPreview", value) || value < 0 || value > 1) value = 1;

@@ -9,7 +9,7 @@
 
 namespace vantorium {
 
-/// A browser that the user lists to view galleries in: its name in the menus and the path of its executable.
+/// A browser that the user listed for viewing galleries: its name in the menus and the path of its executable.
 struct Browser {
   std::string Name;
   std::string Location;
@@ -17,7 +17,7 @@ struct Browser {
   bool operator==(const Browser&) const = default;
 };
 
-/// What the program remembers from one run to the next. Folders are path text.
+/// The settings that the program keeps between runs. Folders are path text.
 struct Preferences {
   std::string GalleryIndexFileName = "index.htm";
   std::string ProjectFolder;                   ///< of the last project file
@@ -34,22 +34,23 @@ struct Preferences {
 
 inline constexpr std::size_t kMostBrowsers = 8;
 
-/// Reads the preferences `file` at start-up. No failure is reported here: what cannot be read has its default, and
-/// without a file that is everything. The temporary folder belongs into the program's folder `appPath` (path text, no
-/// backslash at its end) unless the file names another place; only then is it made here.
+/// Reads the preferences `file` at start-up. Reports no failure: a value that cannot be read gets its default, and
+/// without a file every value does. If the file does not name the parent of the temporary folder, the parent is the
+/// program's folder `appPath` (path text without a trailing backslash), and only then is the temporary folder created
+/// here.
 [[nodiscard]] Preferences ReadPreferences(const std::filesystem::path& file, const std::string& appPath,
                                           const mFileFunctions& files);
 
-/// What the user must hear of a preferences file that is there and cannot be read, as it takes the meaning of the drive
-/// letters with it (ReadPathMap); empty for any other.
+/// Returns what the user must know if the preferences file exists but cannot be read, because the drive letters then
+/// have no meaning (ReadPathMap); empty otherwise.
 [[nodiscard]] std::string ProblemOfPreferences(const std::filesystem::path& file);
 
-/// Writes all but the browsers, on exit, one value after the other; the file's folder is made when it is missing. A
-/// value that cannot be written is passed over.
+/// Writes all but the browsers, on exit, value by value; creates the file's folder if it is missing. Skips a value that
+/// cannot be written.
 void WritePreferences(const Preferences& preferences, const std::filesystem::path& file);
 
-/// Writes the first kMostBrowsers of `browsers`. Entries of the file beyond them stay there: only the count governs.
-/// Throws RuntimeFailure Preferences at the first value that cannot be written.
+/// Writes the first kMostBrowsers of `browsers`. Further entries in the file stay there: only the count decides which
+/// are read. Throws RuntimeFailure Preferences at the first value that cannot be written.
 void WriteBrowsers(const std::vector<Browser>& browsers, const std::filesystem::path& file);
 
 }  // namespace vantorium

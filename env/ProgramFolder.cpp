@@ -21,7 +21,7 @@ std::string HomeFolder() {
   return user == nullptr || user->pw_dir == nullptr ? "/" : user->pw_dir;
 }
 
-/// `folder` made absolute, without dots and without a slash at its end.
+/// Returns `folder` as an absolute path without "." and "..", and without a trailing slash.
 fs::path Cleaned(const fs::path& folder) {
   std::error_code error;
   const fs::path absolute = fs::absolute(folder, error);

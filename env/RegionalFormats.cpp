@@ -15,7 +15,7 @@ namespace {
 
 using icu::DateFormat;
 
-/// All formatters work in UTC on calendar times that are taken as UTC: what is shown is what is passed.
+/// All formatters use UTC and take calendar times as UTC, so a time is shown as it was passed.
 std::unique_ptr<DateFormat> InUtc(DateFormat* format) {
   std::unique_ptr<DateFormat> owned(format);
   if (!owned) throw RuntimeFailure(FailureKind::FileNotFound, "The formats of dates and times cannot be loaded.");
@@ -23,13 +23,13 @@ std::unique_ptr<DateFormat> InUtc(DateFormat* format) {
   return owned;
 }
 
-/// The locale of an ICU or POSIX name. The system's "C" is none that ICU knows.
+/// Returns the locale of an ICU or POSIX name. ICU does not know the system's "C".
 icu::Locale LocaleNamed(const std::string& name) {
   const bool isC = name == "C" || name == "POSIX" || name.starts_with("C.");
   return icu::Locale::createCanonical(isC ? "en_US_POSIX" : name.c_str());
 }
 
-/// The locale of the system's dates and times. The library's own default would be that of its messages.
+/// Returns the locale of the system's dates and times. ICU's default would be the locale of messages.
 icu::Locale LocaleOfSystem() {
   for (const char* name : {"LC_ALL", "LC_TIME", "LANG"}) {
     const char* value = std::getenv(name);
@@ -67,7 +67,7 @@ std::string RegionalFormats::Format(const CivilTime& time, RegionalFormat format
   std::string text;
   icu::UnicodeString formatted;
   formatter->format(ToUDate(time), formatted);
-  // Recent locale data sets AM and PM off by a narrow no-break space, which would make a page of pure ASCII another
+  // Recent ICU data puts a narrow no-break space before AM and PM, which would make a page of pure ASCII a different
   // one.
   formatted.findAndReplace(icu::UnicodeString(char16_t{0x202F}), icu::UnicodeString(u' '));
   return formatted.toUTF8String(text);

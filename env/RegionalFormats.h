@@ -7,14 +7,14 @@
 
 namespace vantorium {
 
-/// The named formats of the regional settings, by the numbers that the program gives them.
+/// The named formats of the regional settings, with the program's numbers for them.
 enum class RegionalFormat { ShortDate = 0, LongDate = 1, ShortTime = 2, LongTime = 3 };
 
-/// Dates and times as the regional settings write them.
+/// Formats dates and times according to the regional settings.
 class RegionalFormats {
  public:
-  /// `locale`: an ICU or POSIX locale name such as "de_DE"; empty for that of the system's dates
-  /// and times (LC_ALL, LC_TIME, LANG). Throws RuntimeFailure FileNotFound when ICU has no data to work with.
+  /// `locale`: an ICU or POSIX locale name such as "de_DE"; if empty, the locale of the system's dates and times
+  /// (LC_ALL, LC_TIME, LANG). Throws RuntimeFailure FileNotFound if ICU has no data to work with.
   explicit RegionalFormats(const std::string& locale = "");
   ~RegionalFormats();
   RegionalFormats(const RegionalFormats&) = delete;

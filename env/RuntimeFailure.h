@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// The failures that the program itself raises. Their numbers are shown to the user behind "Error #".
+/// The failures that the program raises. Messages show their numbers after "Error #".
 enum class FailureKind : std::int32_t {
   FileTimeNotFound = 1,
   InvalidArgument = 5,
@@ -22,13 +22,13 @@ enum class FailureKind : std::int32_t {
   Preferences = static_cast<std::int32_t>(0x80040001U),
 };
 
-/// An unexpected failure of an operation: the one exception of the program. It is caught at the level of a run, of a
-/// reading or of a log write, and its number and description are shown there.
+/// The program's one exception: an unexpected failure of an operation. It is caught around a run, a read or a log
+/// write, and its number and description are shown there.
 class RuntimeFailure : public std::runtime_error {
  public:
-  /// With the description that belongs to the kind, such as "Division by zero".
+  /// With the kind's description, such as "Division by zero".
   explicit RuntimeFailure(FailureKind kind);
-  /// With a description of its own.
+  /// With the given description.
   RuntimeFailure(FailureKind kind, const std::string& description);
 
   [[nodiscard]] std::int32_t Number() const { return number_; }

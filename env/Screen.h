@@ -7,7 +7,7 @@ namespace vantorium {
 class Screen {
  public:
   virtual ~Screen() = default;
-  /// Vertical pixels of a logical inch; 96 where nothing else is known.
+  /// Returns the vertical pixels per logical inch; 96 if nothing else is known.
   [[nodiscard]] virtual std::int32_t PixelsPerInch() const { return 96; }
 };
 

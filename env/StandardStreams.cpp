@@ -9,7 +9,7 @@ namespace vantorium {
 
 void HoldStandardStreams() {
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-    // The lowest free number is given, which is the stream's own.
+    // open returns the lowest free number, which is the stream's own.
     const int wrongWay = stream == STDIN_FILENO ? O_WRONLY : O_RDONLY;
     if (::fcntl(stream, F_GETFD) < 0) std::ignore = ::open("/dev/null", wrongWay);
   }

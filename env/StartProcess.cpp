@@ -63,7 +63,7 @@ pid_t Spawn(std::vector<std::string> words) {
   return child;
 }
 
-/// The system keeps a process that has ended until somebody asks how.
+/// An ended process stays a zombie until its status is read: a thread waits for it.
 void ForgetItsEnd(pid_t child) {
   try {
     std::thread([child] {
@@ -71,7 +71,7 @@ void ForgetItsEnd(pid_t child) {
       }
     }).detach();
   } catch (const std::system_error&) {
-    // Without a thread the system keeps it until this process ends.
+    // Without a thread it stays a zombie until this process ends.
   }
 }
 

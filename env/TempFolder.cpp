@@ -31,8 +31,8 @@ EntryKind KindOf(int parent, const std::string& name) {
 
 bool DeleteTreeIn(int parent, const std::string& name, EventLoop& loop);
 
-/// Deletes what an open folder holds. False when a folder within could not be deleted. A file that could not be ends
-/// the work, and the folder's own removal finds out.
+/// Deletes the contents of an open folder. Returns false if a folder within could not be deleted. Stops at a file that
+/// cannot be deleted; removing the folder itself then fails.
 bool DeleteEntries(OpenFolder& folder, EventLoop& loop) {
   int countdown = kFilesToTurn;
   while (const auto name = folder.Next()) {
@@ -50,8 +50,8 @@ bool DeleteEntries(OpenFolder& folder, EventLoop& loop) {
   return true;
 }
 
-/// Deletes the folder `name` of the open folder `parent`. Everything is reached through open folders, so nothing that
-/// is moved or linked meanwhile can lead out of the tree.
+/// Deletes the folder `name` in the open folder `parent`. Every access goes through open folders, so nothing that is
+/// moved or linked meanwhile can lead out of the tree.
 bool DeleteTreeIn(int parent, const std::string& name, EventLoop& loop) {
   {
     OpenFolder folder(::openat(parent, name.c_str(), kFolderFlags | O_NOFOLLOW));

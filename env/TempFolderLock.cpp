@@ -34,11 +34,11 @@ void KeepOthersFromWriting(int folder) {
   constexpr mode_t kOthersWrite = S_IWGRP | S_IWOTH;
   struct stat status = {};
   if (::fstat(folder, &status) != 0 || (status.st_mode & kOthersWrite) == 0) return;
-  // A file system without permissions refuses, and has nothing to keep.
+  // A file system without permissions refuses this, and has none to remove.
   std::ignore = ::fchmod(folder, status.st_mode & 07777U & ~kOthersWrite);
 }
 
-/// The refusal of what the folder `name` of the open folder `parent` holds, with everything below.
+/// Returns the first refusal for the contents, at any depth, of the folder `name` in the open folder `parent`.
 std::string RefusalWithin(int parent, const std::string& name, const fs::path& path) {
   OpenFolder folder(::openat(parent, name.c_str(), kFolderFlags | O_NOFOLLOW));
   if (!folder.IsOpen()) return {};

@@ -7,14 +7,14 @@
 
 namespace vantorium {
 
-/// The folder VANTORIUM_TEMP (native path) in the hands of one process: runs that put their files into the same one
-/// would send each other's. The system takes the lock back when the process ends, however it does. On a file system
-/// without locks, and for a folder that can't be opened, there is none and nobody else has one.
+/// Locks the folder VANTORIUM_TEMP (native path) for one process: two runs in the same folder would send each other's
+/// files. The system releases the lock when the process ends, however it ends. On a file system without locks, and for
+/// a folder that cannot be opened, there is no lock and nobody else holds one.
 class TempFolderLock {
  public:
   explicit TempFolderLock(const std::filesystem::path& folder);
 
-  /// Whether another process, or another lock of this one, has the folder.
+  /// Whether another process, or another lock of this process, holds the folder.
   [[nodiscard]] bool IsTakenElsewhere() const { return takenElsewhere_; }
 
  private:
@@ -22,10 +22,10 @@ class TempFolderLock {
   bool takenElsewhere_ = false;
 };
 
-/// Why the program must not work in `folder` (native path), a sentence; empty when it may. In a place that others can
-/// write to, somebody may have made the folder before, or put links into it that lead to other people's files. So it
-/// has to be the user's own, and neither it nor anything in it may be a symbolic link or a folder of another user.
-/// Others lose the right to write to it. A folder that is not there is none to refuse.
+/// Returns a sentence why the program must not work in `folder` (native path); empty if it may. In a place that others
+/// can write to, somebody may have created the folder before, or put links into it that lead to other people's files.
+/// So it must belong to the user, and neither it nor anything in it may be a symbolic link or a folder of another user.
+/// Removes the right of others to write to it. A missing folder is not refused.
 [[nodiscard]] std::string RefusalOfTempFolder(const std::filesystem::path& folder);
 
 }  // namespace vantorium

@@ -44,7 +44,7 @@ bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view part, std::size_t start) {
   if (part.empty() || part.size() > text.size()) return std::string_view::npos;
-  // Nearly all texts searched are free of the first character ("<" of a tag): let the library's fast search find it.
+  // Nearly all texts searched lack the first character ("<" of a tag): let the standard library's fast search find it.
   const char first[] = {Lower(part[0]), Upper(part[0])};
   const std::string_view either(first, first[0] == first[1] ? 1 : 2);
   for (std::size_t at = start; at + part.size() <= text.size(); ++at) {

@@ -9,7 +9,7 @@ bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-/// The bytes of the character that `text` begins with.
+/// Returns the number of bytes of the first character of `text`.
 std::size_t CharacterSize(std::string_view text) {
   std::size_t size = 1;
   if ((static_cast<unsigned char>(text[0]) & 0xC0U) != 0xC0U) return size;
@@ -20,7 +20,7 @@ std::size_t CharacterSize(std::string_view text) {
 }  // namespace
 
 bool MatchesWildcards(std::string_view name, std::string_view pattern) {
-  // Only the last "*" needs another try: whatever the ones before it took can stay.
+  // Only the last "*" needs backtracking: what earlier ones matched can stay.
   std::string_view retryName;
   std::string_view retryPattern;
   bool canRetry = false;

@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// The 16 colors of the user's own that a color dialog offers and lets edit, as 0x00BBGGRR.
+/// The user's 16 custom colors, which a color dialog offers and lets edit, as 0x00BBGGRR.
 using CustomColors = std::array<std::uint32_t, 16>;
 
 /// A font as the font dialog shows it.
@@ -22,14 +22,14 @@ struct FontDescription {
   bool operator==(const FontDescription&) const = default;
 };
 
-/// The system's own two dialogs, modal to the active window.
+/// The color dialog and the font dialog, modal to the active window.
 class mCommonDialogs {
  public:
   virtual ~mCommonDialogs() = default;
 
-  /// Begins with `color`, any color can be chosen. True on OK; only then `color` and `custom` are written back.
+  /// Starts with `color`; any color can be chosen. Returns true on OK; only then are `color` and `custom` written back.
   [[nodiscard]] virtual bool ShowColorDialog(std::uint32_t& color, CustomColors& custom) = 0;
-  /// Begins with `font`. True on OK; only then `font` is written back.
+  /// Starts with `font`. Returns true on OK; only then is `font` written back.
   [[nodiscard]] virtual bool ShowFontDialog(FontDescription& font) = 0;
 };
 

@@ -24,7 +24,7 @@ struct stat StatusOf(const PathMap& paths, std::string_view path, FailureKind fa
   return status;
 }
 
-/// The folder's own two entries take part, so "*" and "*.*" match in every folder.
+/// "." and ".." count as entries, so "*" and "*.*" match in every folder.
 bool FolderHoldsMatch(const fs::path& folder, std::string_view pattern) {
   std::error_code error;
   fs::directory_iterator entry(folder.empty() ? "." : folder, error);
@@ -36,7 +36,7 @@ bool FolderHoldsMatch(const fs::path& folder, std::string_view pattern) {
   return false;
 }
 
-/// The text that MakePath works on: a separator behind a drive's colon, and one at the end.
+/// Returns the text that MakePath works on: with a separator after a drive's colon, and one at the end.
 std::string AsFolderChain(std::string_view path) {
   std::string text(path);
   const auto colon = text.find(':');

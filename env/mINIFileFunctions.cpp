@@ -46,7 +46,7 @@ void WriteINIString(std::string_view section, std::string_view key, std::string_
                     const std::filesystem::path& file) {
   for (const std::string_view text : {section, key, value}) RefuseLineBreaks(text);
   try {
-    // A file that is there and can't be read may not be replaced by one with a single value.
+    // An existing file that cannot be read must not be replaced by one with a single value.
     WriteKeptFile(file, WithINIString(ReadINIFile(file), section, key, value));
   } catch (const RuntimeFailure&) {
     throw RuntimeFailure(FailureKind::Preferences);

@@ -20,7 +20,7 @@ namespace vantorium {
 using asio::ip::tcp;
 using Milliseconds = std::chrono::milliseconds;
 
-/// The sockets, which never block by themselves, and what waits for them.
+/// The non-blocking sockets and the code that waits for them.
 class AsioFTPSocket::Connection {
  public:
   explicit Connection(EventLoop& loop) : loop_(loop) {}
@@ -45,7 +45,7 @@ class AsioFTPSocket::Connection {
   template <typename Socket>
   [[nodiscard]] bool IsReadyWithin(Socket& socket, asio::socket_base::wait_type what, Milliseconds time);
   [[nodiscard]] bool ConnectTo(const std::string& address, SlicedWait& wait);
-  /// One look for a connection: true when one from the right address was taken over, or when there is a failure.
+  /// Tries once to accept a connection. Returns true if one from the right address was taken over, and on failure.
   [[nodiscard]] bool TakeConnection(asio::error_code& error);
   [[nodiscard]] std::size_t Send(std::span<const char> bytes);
   void Close();
@@ -56,7 +56,7 @@ class AsioFTPSocket::Connection {
   tcp::socket stream{context};
   bool isConnected = false;
   bool isBlocking = false;
-  bool isAbandoned = false;  ///< the blocking call under way is to fail
+  bool isAbandoned = false;  ///< the blocking call in progress must fail
 
  private:
   void BeginStream();
@@ -66,11 +66,12 @@ class AsioFTPSocket::Connection {
 
 namespace {
 
-/// Enough to keep a fast line busy, and little enough to be out well before the wait for the closing reply ends.
+/// Large enough to keep a fast connection busy, small enough to be sent well before the wait for the closing reply
+/// ends.
 constexpr int kSendBuffer = 256 * 1024;
 
-/// Has the system send full packets made of several blocks, which are smaller. What is left goes out with the closing,
-/// and in a pause after a fifth of a second.
+/// Makes the system join several of the small blocks into full packets. The rest is sent on close, or in a pause after
+/// 200 milliseconds.
 void JoinSmallWrites(int socket) {
   const int on = 1;
   ::setsockopt(socket, IPPROTO_TCP, TCP_CORK, &on, sizeof on);
@@ -89,7 +90,7 @@ bool AsioFTPSocket::Connection::IsReadyWithin(Socket& socket, asio::socket_base:
   context.restart();
   context.run_for(time);
   if (isReady) return true;
-  // Nothing may stay pending: a turn of the event loop follows, and it may close the socket.
+  // No operation may stay pending: a turn of the event loop follows, and it may close the socket.
   asio::error_code ignored;
   socket.cancel(ignored);
   context.restart();
@@ -152,7 +153,7 @@ std::size_t AsioFTPSocket::Connection::Send(std::span<const char> bytes) {
     if (!error) continue;
     if (!WouldBlock(error)) break;
     const auto isReady = [&](Milliseconds slice) { return IsReadyWithin(stream, tcp::socket::wait_write, slice); };
-    // The turn behind the wait lets a cancel find a call to abort on a line that is slow without ever standing still.
+    // The turn after the wait lets a cancel abort a call on a connection that is slow but never stalls.
     if (!wait.Until(isReady) || !wait.Turn()) break;
   }
   return sent;
@@ -244,9 +245,9 @@ void AsioFTPSocket::Accept(const FTPSocket& control) {
   asio::error_code error;
   bool isHopeless = false;
   const auto isOver = [&](Milliseconds slice) {
-    isHopeless = control.HasNews();  // first: a connection that came before the news is still taken
+    isHopeless = control.HasNews();  // first: a connection that came before the news is still accepted
     if (connection_->TakeConnection(error) || isHopeless) return true;
-    // Whatever wakes this up is looked at at once, with a turn in between that costs nothing.
+    // After a wake-up, Until calls this again at once, with one cheap turn in between.
     std::ignore = connection_->IsReadyWithin(connection_->listener, tcp::acceptor::wait_read, slice);
     return false;
   };

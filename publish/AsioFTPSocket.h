@@ -7,7 +7,7 @@
 
 namespace vantorium {
 
-/// FTPSocket on the system's stream sockets. A peer that is gone shows in results only; no signal is raised.
+/// FTPSocket on Asio's TCP sockets. A lost peer shows only in results; no signal is raised.
 class AsioFTPSocket : public FTPSocket {
  public:
   explicit AsioFTPSocket(EventLoop& loop);

@@ -4,11 +4,11 @@
 
 namespace vantorium {
 
-/// The question that a run asks before each thing it does, and that the cancel button of its window asks at once.
+/// The check for a cancel that a run makes before each step, and that the cancel button of its window makes at once.
 class CancelPoll {
  public:
   virtual ~CancelPoll() = default;
-  /// True when the run must stop. The first call after the button was pressed asks the user whether that was meant.
+  /// Returns true if the run must stop. The first call after the button was pressed asks the user to confirm.
   [[nodiscard]] virtual bool CheckForCancel(ProgressWindow& progress) = 0;
 };
 

@@ -2,7 +2,7 @@
 
 namespace vantorium {
 
-/// Whether the user has confirmed a cancel of the run under way.
+/// Whether the user has confirmed a cancel of the current run.
 class CancelState {
  public:
   virtual ~CancelState() = default;

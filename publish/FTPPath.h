@@ -5,14 +5,14 @@
 
 namespace vantorium {
 
-/// The last element of a path, as GetFileName, in forward slashes.
+/// Returns the last element of a path, as GetFileName does, with forward slashes.
 [[nodiscard]] std::string FTPGetFileName(std::string_view path);
 
-/// Everything through the last separator, as GetFilePath, in forward slashes.
+/// Returns everything through the last separator, as GetFilePath does, with forward slashes.
 [[nodiscard]] std::string FTPGetFilePath(std::string_view path);
 
-/// A path in forward slashes without any in front, which would lead from the folder that the session stands in to the
-/// server's root.
+/// Returns a path with forward slashes and without leading ones, which would lead from the session's current directory
+/// to the server's root.
 [[nodiscard]] std::string RelativeToSession(std::string_view path);
 
 }  // namespace vantorium

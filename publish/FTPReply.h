@@ -7,20 +7,20 @@
 
 namespace vantorium {
 
-/// A reply of an FTP server (RFC 959, section 4.2), put together out of pieces as they arrive.
+/// A reply of an FTP server (RFC 959, section 4.2), assembled from pieces as they arrive.
 ///
-/// A line that begins with three digits gives its number as the code, and ends the reply unless a dash follows. Opening
-/// and closing number are not compared. What arrives behind a whole reply in the same piece is taken in as well, so the
-/// later code stands.
+/// A line that begins with three digits sets the code to their number, and ends the reply unless a dash follows. The
+/// first and the last number are not compared. Text after a complete reply in the same piece is also processed, so the
+/// later code wins.
 class FTPReply {
  public:
-  /// A reply that goes on beyond this counts as a broken connection.
+  /// A longer reply counts as a broken connection.
   static constexpr std::size_t kMostCharacters = std::size_t{1} << 20U;
 
-  /// Takes in what was read. Throws RuntimeFailure InvalidArgument for a line of three digits and nothing else.
+  /// Adds what was read. Throws RuntimeFailure InvalidArgument for a line of three digits and nothing else.
   void Take(std::string_view piece);
 
-  /// The lines of the pieces so far hold a reply's last line.
+  /// Whether the pieces so far contain a reply's last line.
   [[nodiscard]] bool IsComplete() const { return isComplete_; }
   [[nodiscard]] bool IsTooLong() const { return taken_ > kMostCharacters; }
 
@@ -32,7 +32,7 @@ class FTPReply {
  private:
   void TakeLine(std::string_view line);
 
-  std::string pending_;  ///< the start of a line that has no end yet
+  std::string pending_;  ///< the start of an unfinished line
   std::size_t taken_ = 0;
   std::int16_t code_ = 0;
   bool isComplete_ = false;

@@ -16,16 +16,16 @@ struct FolderEntry {
   bool operator==(const FolderEntry&) const = default;
 };
 
-/// What is in a folder, in the order of the names' bytes, so that it is the same everywhere.
+/// The contents of a folder, sorted by the bytes of the names, so that the order is the same everywhere.
 struct FolderListing {
   std::vector<FolderEntry> entries;
-  bool complete = false;  ///< the folder could be read to its end
+  bool complete = false;  ///< the folder was read to its end
 };
 
-/// Lists a folder. A link to a file is a file, a link to a folder a LinkedFolder. What is none of these has nothing to
-/// send and is left out: devices, pipes, links that lead nowhere. So is a file that this program has not finished
-/// (env/NeighbourFile.h), or never will as it was killed. `goOn` is asked once for a folder that can be read and behind
-/// each of its entries, as there may be very many; its first no ends the listing.
+/// Lists a folder. A link to a file is a File, a link to a folder a LinkedFolder. Devices, pipes and broken links have
+/// nothing to send and are left out. So are the program's unfinished files (env/NeighbourFile.h), also those of a
+/// killed run. Calls `goOn` once for a folder that can be read and after each of its entries, as there may be very
+/// many; the first false ends the listing.
 [[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder, const std::function<bool()>& goOn);
 
 }  // namespace vantorium

@@ -34,14 +34,14 @@ std::vector<std::string> AddressesOf(const std::string& host) {
 
 }  // namespace
 
-// The system's look-up cannot be interrupted. The thread owns all it uses, so it may outlive whoever asked.
+// getaddrinfo cannot be interrupted. The thread owns all it uses, so it may outlive the caller.
 std::future<std::vector<std::string>> LookUpHost(const std::string& host) {
   try {
     std::promise<std::vector<std::string>> promise;
     auto result = promise.get_future();
     std::thread([host, promise = std::move(promise)]() mutable { promise.set_value(AddressesOf(host)); }).detach();
     return result;
-  } catch (const std::system_error&) {  // no thread can be had
+  } catch (const std::system_error&) {  // no thread can be started
     std::promise<std::vector<std::string>> nothing;
     nothing.set_value({});
     return nothing.get_future();

@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// Starts to look up the IPv4 addresses of a host name or of an address in text form; none when it is unknown. The
-/// system may take long over it: nobody has to wait for the result.
+/// Starts to look up the IPv4 addresses of a host name or of an address in text form; the result is empty if the host
+/// is unknown. The look-up may take long; the caller need not wait for the result.
 [[nodiscard]] std::future<std::vector<std::string>> LookUpHost(const std::string& host);
 
 }  // namespace vantorium

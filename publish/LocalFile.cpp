@@ -14,7 +14,7 @@
 namespace vantorium {
 namespace {
 
-/// Blocks are small: read one by one they would cost more in calls of the system than in copying.
+/// Blocks are small: reading them one by one would cost more in system calls than in copying.
 constexpr std::size_t kReadAhead = 64 * 1024;
 
 [[noreturn]] void ThrowWhyNot(const std::filesystem::path& file) {
@@ -34,7 +34,7 @@ std::int32_t LengthOfFile(const std::optional<std::filesystem::path>& file) {
   return static_cast<std::int32_t>(status.st_size);
 }
 
-// Opened without waiting, so that a pipe that has taken the file's place does not stop the program.
+// Opened with O_NONBLOCK, so that a pipe that has taken the file's place does not block the program.
 LocalFile::LocalFile(const std::filesystem::path& file)
     : file_(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
   if (!file_.IsOpen()) ThrowWhyNot(file);

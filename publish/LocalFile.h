@@ -10,17 +10,17 @@
 
 namespace vantorium {
 
-/// Length of a regular file in bytes. Throws RuntimeFailure FileNotFound, also when `file` holds nothing, FileAccess,
-/// and Overflow for a length that needs more than 31 bits.
+/// Returns the length of a regular file in bytes. Throws RuntimeFailure FileNotFound, also if `file` is nullopt,
+/// FileAccess, and Overflow for a length that needs more than 31 bits.
 [[nodiscard]] std::int32_t LengthOfFile(const std::optional<std::filesystem::path>& file);
 
-/// A file that is read block by block, some blocks ahead.
+/// Reads a file block by block, and some blocks ahead.
 class LocalFile {
  public:
   /// Throws RuntimeFailure FileNotFound or FileAccess.
   explicit LocalFile(const std::filesystem::path& file);
 
-  /// Fills the whole block with what comes next; false when that fails or the file ends before.
+  /// Fills the whole block with the next bytes. Returns false if that fails or the file ends first.
   [[nodiscard]] bool Read(std::span<char> block);
 
  private:
@@ -28,7 +28,7 @@ class LocalFile {
 
   FileDescriptor file_;
   std::vector<char> buffer_;
-  std::span<const char> ahead_;  ///< of the buffer: what was read and not asked for yet
+  std::span<const char> ahead_;  ///< of buffer_: bytes read but not yet returned
 };
 
 }  // namespace vantorium

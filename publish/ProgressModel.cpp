@@ -12,8 +12,8 @@ bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-/// The bytes of the UTF-8 character at `at`; a byte that belongs to none counts as a character of its own, as in the
-/// replies of servers that speak another encoding.
+/// Returns the number of bytes of the UTF-8 character at `at`. A byte that is not part of one counts as a character of
+/// its own, as in the replies of servers that use another encoding.
 std::size_t CharacterSize(const std::string& text, std::size_t at) {
   const auto first = static_cast<unsigned char>(text[at]);
   const std::size_t size = first >= 0xF0U ? 4 : first >= 0xE0U ? 3 : first >= 0xC0U ? 2 : 1;
@@ -120,7 +120,7 @@ void ProgressModel::PressShowLog(Shell& shell, const std::string& appPath) const
   try {
     shell.OpenFile(appPath + '/' + kUploadLogName);
   } catch (const RuntimeFailure&) {
-    // The desktop that can't open a text file tells its user so itself.
+    // A desktop that cannot open a text file tells the user itself.
   }
 }
 

@@ -10,25 +10,26 @@
 
 namespace vantorium {
 
-/// A part of the progress window that has changed and is to be drawn.
+/// A part of the progress window that has changed and must be drawn.
 enum class ProgressPart {
-  Window,        ///< it comes up
+  Window,        ///< it was shown
   Caption,       //
   Text1,         //
   Text2,         //
   LogBox,        ///< has a new text
-  LogBoxEnd,     ///< has more text; both LogBox changes put the caret on the last character
+  LogBoxEnd,     ///< has more text; both LogBox changes move the caret to the last character
   Progress,      ///< the bar of the whole run
-  FileProgress,  ///< the bar of the file under way
+  FileProgress,  ///< the bar of the current file
   Buttons,       //
   Pointer,       //
 };
 
-/// The most characters that the log box takes before more are added.
+/// The length, in characters, at which the log box is emptied before more text is appended.
 inline constexpr std::size_t kFullLogBox = 30000;
 
-/// The progress window as far as it is not drawn: what it shows, what its buttons do, and its log. A face derives from
-/// it and draws. It is loaded by its making, and unloading it with LogToFile set writes the end of the log.
+/// The logic of the progress window, without its widgets: what it shows, what its buttons do, and its log. A face
+/// derives from it and draws. Constructing it loads the window; destroying it unloads the window and, with LogToFile
+/// set, writes the end of the log.
 class ProgressModel : public ProgressWindow {
  public:
   explicit ProgressModel(UploadLog& log) : log_(log) {}
@@ -41,7 +42,8 @@ class ProgressModel : public ProgressWindow {
   void SetCaption(const std::string& text) final;
   void SetText1(const std::string& text) final;
   void SetText2(const std::string& text) final;
-  /// Adding to a box of kFullLogBox characters empties it first; with LogToFile set its text goes to the log.
+  /// Appending to a box of at least kFullLogBox characters empties it first; with LogToFile set, its text goes to the
+  /// log.
   void SetText3(const std::string& text, bool append) final;
   void SetMax(std::int32_t maximum) final;
   void SetProgress(std::int32_t value) final;
@@ -49,7 +51,7 @@ class ProgressModel : public ProgressWindow {
   void SetIsCancelled(bool cancelled) final { isCancelled_ = cancelled; }
   void ShowBusyPointer(bool busy) final;
   void OfferClose() override;
-  /// Writes whether or not LogToFile is set. Only, a run without it makes no program folder for its text.
+  /// Writes even if LogToFile is not set, but then only if the program's folder exists.
   void WriteLog(const std::string& text) final;
 
   [[nodiscard]] const std::string& Caption() const { return caption_; }
@@ -66,13 +68,13 @@ class ProgressModel : public ProgressWindow {
   [[nodiscard]] const std::string& CancelButtonCaption() const { return cancelButtonCaption_; }
   [[nodiscard]] bool IsShowLogVisible() const { return isShowLogVisible_; }
 
-  /// CancelButton: as "&Cancel" it cancels, with the question of `cancel`, else it asks for the window to close.
+  /// CancelButton: as "&Cancel" it sets IsCancelled and lets `cancel` ask the user, else it sets CloseRequested.
   void PressCancelButton(CancelPoll& cancel);
-  /// btnShowLog: opens the log. `appPath` is the program's folder as path text. A failure is not looked at.
+  /// btnShowLog: opens the log. `appPath` is the program's folder as path text. Failures are ignored.
   void PressShowLog(Shell& shell, const std::string& appPath) const;
 
  protected:
-  /// Called behind each change; the state is read from this object.
+  /// Called after each change; implementations read the state from this object.
   virtual void Draw(ProgressPart /*part*/) {}
 
  private:

@@ -101,7 +101,7 @@ void ServerList::ReadProfile(const ServerListValues& values, std::int32_t number
   AddServerProfile(std::move(profile), indexText);
 }
 
-/// `preferred` counts from 1; what is no place of the list stands for the first.
+/// `preferred` counts from 1; a number outside the list selects the first profile.
 void ServerList::SelectPreferred(std::int32_t preferred) {
   // A count below 0 leaves nothing to select.
   if (profiles_.empty()) throw RuntimeFailure(FailureKind::SubscriptOutOfRange);

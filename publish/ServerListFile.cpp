@@ -40,7 +40,7 @@ ServerListValues::ServerListValues(const std::filesystem::path& file) {
   Index();
 }
 
-/// What counts are the lines behind the section's line, and without one the last line of all.
+/// Keeps the lines after the section's line or, if there is none, only the last line of the file.
 void ServerListValues::Index() {
   bool inSection = false;
   std::string_view line;
@@ -84,7 +84,7 @@ void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<s
                      ValueLine("PreferredServer", std::to_string(preferred));
   for (std::size_t i = 0; i < profiles.size(); ++i) text += ProfileLines(profiles[i], std::to_string(i + 1));
 
-  std::error_code ignored;  // writing finds out
+  std::error_code ignored;  // the write fails if the folder is missing
   std::filesystem::create_directories(file.parent_path(), ignored);
   WriteKeptFile(file, text);
 }

@@ -12,30 +12,30 @@
 
 namespace vantorium {
 
-// The file vantorium.pub of the program's folder, with which the user keeps servers between runs:
+// The file vantorium.pub in the program's folder, which keeps the user's servers between runs:
 //
 //   file    = "[PUBLISH]" count preferred *profile       each line ends in CR LF
 //   count   = ServerCount="n"                             n profiles follow
-//   preferred = PreferredServer="k"                       the profile that is selected, from 1 on; 0 for none
+//   preferred = PreferredServer="k"                       the selected profile, counted from 1; 0 for none
 //   profile = ServerNamei= ServerURLi= UserNamei= IndexFilei= TimeOuti= JumpToi=    i from 1 to n, a line each
 //
-// Values stand in double quotation marks, IndexFile as path, "/", file. Nothing is escaped.
+// Values are in double quotation marks, IndexFile as path, "/", file. Nothing is escaped.
 
-/// The server list of a program's folder.
+/// Returns the server list file of a program folder.
 [[nodiscard]] std::filesystem::path ServerListFileName(const std::filesystem::path& programFolder);
 
-/// The values of such a file, as the reader of preference-like files finds them (env/INIText.h), but with the file read
-/// once. All failures are RuntimeFailure.
+/// The values of such a file, found by the rules of env/INIText.h, but with the file read only once. All failures are
+/// RuntimeFailure.
 class ServerListValues {
  public:
-  /// Does not fail: a file that cannot be read has no values.
+  /// Never fails: a file that cannot be read has no values.
   explicit ServerListValues(const std::filesystem::path& file);
   ServerListValues(const ServerListValues&) = delete;
   ServerListValues& operator=(const ServerListValues&) = delete;
 
-  /// Throws Preferences when there is no such key.
+  /// Throws Preferences if there is no such key.
   [[nodiscard]] std::string Text(std::string_view key) const;
-  /// Throws Preferences; TypeMismatch or Overflow for a value that is no number of 32 bits.
+  /// Throws Preferences if there is no such key; TypeMismatch or Overflow if the value is not a 32-bit number.
   [[nodiscard]] std::int32_t Integer(std::string_view key) const;
 
  private:
@@ -46,12 +46,12 @@ class ServerListValues {
   std::unordered_map<std::string, std::string_view> values_;  ///< by key in capitals; views into text_
 };
 
-/// Whether the file can hold the profile: no text of it has a line break or a NUL.
+/// Whether the file can hold the profile: none of its texts contains a line break or a NUL.
 [[nodiscard]] bool FitsServerListFile(const ServerProfile& profile);
 
-/// Writes the list whole, so that its name only ever shows a whole file that is on the disk; the folder is made when it
-/// is missing. `selected` counts from 0. Throws RuntimeFailure FileAccess, and Preferences for a profile that does not
-/// fit, with an old file untouched.
+/// Writes the list. `file` never shows a partial file, and is on the disk when this returns; its folder is created if
+/// it is missing. `selected` counts from 0. Throws RuntimeFailure FileAccess, and Preferences for a profile that does
+/// not fit; an old file is then unchanged.
 void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<std::size_t> selected,
                      const std::filesystem::path& file);
 

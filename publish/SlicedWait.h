@@ -7,17 +7,18 @@
 
 namespace vantorium {
 
-/// One blocking call's waiting: slice after slice, with a turn of the event loop between two of them, until it is
-/// over, the time limit has passed or the call was abandoned from inside a turn. Time spent in turns does not count.
+/// Waits for one blocking call in slices, with a turn of the event loop between them, until the call is done, the time
+/// limit has passed or the call was abandoned from inside a turn. Time spent in turns does not count.
 class SlicedWait {
  public:
   using Milliseconds = std::chrono::milliseconds;
 
-  /// `abandoned` is looked at after each turn. A limit of 0 is none.
+  /// `abandoned` is checked after each turn. A limit of 0 means none.
   SlicedWait(EventLoop& loop, Milliseconds limit, const bool& abandoned)
       : loop_(loop), limit_(limit), abandoned_(abandoned) {}
 
-  /// Calls `isOver`, which waits at most the time it is given, until it returns true. False when that never came.
+  /// Calls `isOver`, which waits at most the time it is given, until it returns true. Returns false if the time limit
+  /// passes or the call is abandoned first.
   template <typename IsOver>
   [[nodiscard]] bool Until(IsOver isOver) {
     while (!IsExpired()) {
@@ -30,7 +31,7 @@ class SlicedWait {
     return false;
   }
 
-  /// Gives the event loop a turn; false when the call was abandoned in it.
+  /// Gives the event loop a turn. Returns false if the call was abandoned in it.
   [[nodiscard]] bool Turn() {
     loop_.Turn();
     return !abandoned_;

@@ -19,8 +19,8 @@ std::string OnOneLine(const std::string& name) {
   return ReplaceAll(ReplaceAll(name, "\r", "\\r"), "\n", "\\n");
 }
 
-/// A name of another system's file that would be a path here and on the server, perhaps one that leads elsewhere, or
-/// that no command to the server can hold.
+/// Refuses a file name that would be a path here and on the server, perhaps one that leads elsewhere, or that does not
+/// fit into a command to the server.
 void RefuseName(const std::string& name) {
   const auto refuse = [&name](const char* what) {
     throw RuntimeFailure(FailureKind::FileAccess, "\"" + OnOneLine(name) + "\" has a " + what + " in its name.");
@@ -31,7 +31,7 @@ void RefuseName(const std::string& name) {
 
 }  // namespace
 
-/// Where the upload stands: a folder here and on the server.
+/// The folder that the upload has reached, here and on the server.
 struct FolderUpload::Place {
   std::string local;
   std::string remote;
@@ -47,11 +47,11 @@ struct FolderUpload::Place {
 
 bool FolderUpload::UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite,
                                 std::int32_t& counter) {
-  // Without this an empty text would stand for the root folder once a separator is behind it.
+  // With a separator appended, an empty text would mean the root folder.
   if (localFolder.empty()) return false;
   const bool uploaded = UploadTrapped(
       {WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(RelativeToSession(remotePath), '/'), overwrite, counter});
-  // A cancel may have been what broke the last file, or have come behind it.
+  // A cancel may have broken off the last file, or come after it.
   return !Cancelled() && uploaded;
 }
 
@@ -93,7 +93,7 @@ bool FolderUpload::UploadEntry(const Place& place, const FolderEntry& entry) {
   return entry.kind == EntryKind::Folder ? UploadSubfolder(place, entry.name) : SendFile(place, entry.name);
 }
 
-/// A folder is a step of the folder it lies in, and then one of its own.
+/// A folder is one step of its parent, and then one of its own.
 bool FolderUpload::UploadSubfolder(const Place& place, const std::string& name) {
   Step(place);
   return UploadFolder(place.LocalPath(name), place.RemotePath(name), place.overwrite, place.counter);
@@ -126,7 +126,7 @@ void FolderUpload::TellLeftOut() const {
   environment_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Folders left out", text);
 }
 
-/// Large folders and slow disks take their time, in which the window stays alive and a cancel is obeyed.
+/// Large folders and slow disks take time; meanwhile the window stays responsive and a cancel is obeyed.
 FolderListing FolderUpload::List(const std::string& localFolder) {
   const auto native = environment_.paths.ToNative(localFolder + "\\");
   if (!native) return {};

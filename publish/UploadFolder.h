@@ -15,7 +15,7 @@
 
 namespace vantorium {
 
-/// What the upload of a folder needs around it. The owner keeps these alive for the length of the run.
+/// What FolderUpload depends on. The owner keeps these alive for the length of the run.
 struct UploadEnvironment {
   FTPUploads& ftp;
   const PathMap& paths;
@@ -26,22 +26,22 @@ struct UploadEnvironment {
   std::function<void(const std::string& text)> showStatus;  ///< panel 1 of the status bar
 };
 
-/// Sends a local folder, with all below it, to a server. One object serves one run, which reports a cancel once.
+/// Sends a local folder, with everything below it, to a server. One object serves one run and reports a cancel once.
 class FolderUpload {
  public:
   explicit FolderUpload(UploadEnvironment environment) : environment_(std::move(environment)) {}
 
-  /// Sends the contents of `localFolder` (path text) to `remotePath`, which is made first and is relative to where the
-  /// session stands, with or without slashes in front. With a `counter` above -1 nothing is sent: what there is to do
-  /// is added to the counter. With -1 the same number of steps goes to the progress window. Folders and files come in
-  /// the order of their names, a folder with all it holds. The first thing that fails ends the whole upload. False for
-  /// a failure, of which the user has heard where this operation has something to say (a folder that can't be read is
-  /// passed up in silence), and for a cancel, of which the user has always heard.
+  /// Sends the contents of `localFolder` (path text) to `remotePath`, which is created first and is relative to the
+  /// session's current directory, with or without leading slashes. If `counter` is above -1, nothing is sent, and the
+  /// number of steps is added to `counter`. If it is -1, the same number of steps is added to the progress window.
+  /// Folders and files are sent in the order of their names, each folder with everything in it. The first failure ends
+  /// the whole upload. Returns false on a failure, which is shown here only if it is a RuntimeFailure (a folder that
+  /// cannot be read is not), and on a cancel, which is always shown.
   [[nodiscard]] bool UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite,
                                   std::int32_t& counter);
 
-  /// Tells the user which folders were left out because they are symbolic links: these may lead out of the folder that
-  /// is to be sent, or back into it.
+  /// Tells the user which folders were left out because they are symbolic links: these may lead out of the folder being
+  /// sent, or back into it.
   void TellLeftOut() const;
 
  private:

@@ -21,7 +21,7 @@ std::string AsLines(std::initializer_list<std::string_view> lines) {
   return text;
 }
 
-/// Opens without waiting, so that a pipe of that name does not stop the program.
+/// Opens with O_NONBLOCK, so that a pipe of that name does not block the program.
 int OpenToWrite(const std::filesystem::path& file, int more) {
   return ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | more, 0666);
 }
@@ -35,7 +35,7 @@ void WriteToFile(const std::filesystem::path& path, std::string_view bytes, int 
 }  // namespace
 
 void UploadLog::WriteLogHeader() {
-  std::error_code ignored;  // opening the file finds out
+  std::error_code ignored;  // opening the file fails if the folder is missing
   std::filesystem::create_directories(file_.parent_path(), ignored);
   Write(AsLines({"", "Vantorium 3.0 Upload Log (" + Now() + ")", Underscores(), "", ""}), Opening::Truncate);
 }

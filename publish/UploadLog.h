@@ -11,29 +11,29 @@ namespace vantorium {
 
 inline constexpr const char* kUploadLogName = "ftplog.txt";
 
-// The upload log in the program's folder: the log of the last run that went to a server, perhaps with the texts of
-// failed runs without a server behind it. Lines end in CR LF.
+// The upload log in the program's folder: the log of the last run that used a server, perhaps followed by the texts of
+// failed runs without one. Lines end in CR LF.
 //
 //   header = empty line, "Vantorium 3.0 Upload Log (" time ")", underscores, two empty lines
 //   log    = *(the text of a log box, line end)
 //   footer = underscores, empty line, "End of Upload Log (" time ")", empty line
 //   time   = yyyy/mm/dd hh:mm:ss            underscores = 70 of them
 //
-// No operation fails: the user hears of a failure from a message box, one for each attempt, and the run goes on.
+// Failures never propagate; each is shown in a message box, and the run continues.
 class UploadLog {
  public:
   /// `programFolder`: a native path.
   UploadLog(const std::filesystem::path& programFolder, const Clock& clock, MessageBoxPort& boxes)
       : file_(programFolder / kUploadLogName), clock_(clock), boxes_(boxes) {}
 
-  /// Begins the log of a run in place of the last one. The program's folder is made when it is missing.
+  /// Starts the log of a run, replacing the last one. Creates the program's folder if it is missing.
   void WriteLogHeader();
-  /// Adds text and a line end.
+  /// Appends text and a line end.
   void WriteLog(std::string_view text);
-  /// WriteLog of what is left in the log box, then the footer.
+  /// Appends the remaining text of the log box, then the footer.
   void WriteLogFooter(std::string_view logBox);
 
-  /// Whether the program's folder is there, without which no log can be.
+  /// Whether the program's folder exists; without it there can be no log.
   [[nodiscard]] bool HasFolder() const;
 
  private:

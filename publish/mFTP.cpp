@@ -25,7 +25,7 @@ bool IsOneLine(std::string_view text) {
   return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
 
-/// As FileSizeText; a server may also claim a negative size, which stays as it is.
+/// Like FileSizeText, but keeps the negative size that a server may claim.
 std::string ClaimedSizeText(std::int32_t size) {
   if (size < 0) return std::to_string(size) + " Bytes";
   return FileSizeText(static_cast<std::uint64_t>(size));
@@ -170,12 +170,12 @@ std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
     }
     loop_.Turn();
   } while (!wasCancelled);
-  // A server that is too slow for a user who has cancelled still gets the command that clears up.
+  // After a cancel the connection stays open, so that even a slow server gets the command that cleans up.
   if (!wasCancelled) sockCmd_->Close();
   return 0;
 }
 
-// A transfer that the user cancels fails by that alone and needs no message.
+// A transfer that the user cancels fails for that reason alone and needs no message.
 void mFTP::FTPShowError(const std::string& text) {
   if (!cancel_.CancelRequested()) boxes_.Show(BoxKind::Exclamation, BoxButtons::Ok, "FTP Error", text);
 }

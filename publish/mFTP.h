@@ -19,70 +19,71 @@ namespace vantorium {
 struct FTPTimeLimits {
   /// Of each blocking call on the control connection.
   std::chrono::milliseconds control{60000};
-  /// The same once a cancel is confirmed: a server that is near answers by then, and the user waits for no other.
+  /// The same after a cancel is confirmed: a nearby server answers in this time, and the user does not wait for others.
   std::chrono::milliseconds afterCancel{30};
 };
 
 /// A small, strictly synchronous FTP client (RFC 959) that only stores files, in active mode. A session is FTPConnect,
-/// FTPLogin, then any of the others, then Disconnect; there is no QUIT and nothing is tried twice. Remote paths go to
-/// the server as given, relative to where the last successful FTPChangeDirectory left the session; both these and
-/// replies are bytes without an encoding.
+/// FTPLogin, then any of the others, then Disconnect; there is no QUIT, and nothing is retried. Remote paths are sent
+/// to the server as given, relative to the directory of the last successful FTPChangeDirectory; paths and replies are
+/// bytes without an encoding.
 ///
-/// Every operation runs to its end and gives the event loop turns meanwhile, inside which FTPCancelData may be called.
-/// It reports by its result, by text in the log of FTPProgress, where replies stand as they came and commands never,
-/// and for a few failures by a message box "FTP Error", unless the user has cancelled the run.
+/// Every operation runs to its end and meanwhile gives the event loop turns, inside which FTPCancelData may be called.
+/// It reports through its result, through text in the log of FTPProgress, which shows replies unchanged and never
+/// commands, and for a few failures through a message box "FTP Error", unless the user has cancelled the run.
 class mFTP : public FTPUploads {
  public:
   mFTP(std::unique_ptr<FTPSocket> sockCmd, std::unique_ptr<FTPSocket> sockData, const PathMap& paths,
        MessageBoxPort& boxes, EventLoop& loop, const CancelState& cancel, FTPTimeLimits limits = {});
 
-  /// The window of the run under way: set before the run's first call, and to nothing when the window goes.
+  /// The window of the current run: set before the run's first call, and reset to null when the window is destroyed.
   ProgressWindow* FTPProgress = nullptr;
 
   [[nodiscard]] bool IsConnected() const { return sockCmd_->IsConnected(); }
-  /// Closes the control connection, and whatever is left of a data connection.
+  /// Closes the control connection and any data connection.
   void Disconnect();
 
-  /// True when the server greets with 220. Port 0 is 21.
+  /// Returns true if the server greets with 220. Port 0 means 21.
   [[nodiscard]] bool FTPConnect(std::string_view host, std::uint16_t port = 21);
-  /// True on a final 230; a server that answers so to the name alone gets no password.
+  /// Returns true on a final 230. The password is sent only if the server answers 331 to the user name.
   [[nodiscard]] bool FTPLogin(std::string_view user, std::string_view password);
 
   [[nodiscard]] bool FTPChangeDirectory(const std::string& path);
-  /// True on 250, so false on the standard's 257: whether the folder is there is found out by entering it.
+  /// Returns true on 250, so false on the standard's 257: to find out whether the folder exists, enter it.
   bool FTPMakeDirectory(const std::string& path);
-  /// Makes each level of a path below the current directory and returns there. True when every level could be entered
-  /// and left; after a false the session stays where it is. An empty level ends the walk.
+  /// Creates each level of a path below the current directory and returns there. Returns true if every level could be
+  /// entered and left; after false the session stays in the directory it has reached. An empty level ends the walk.
   [[nodiscard]] bool FTPCreateDirectoryPath(const std::string& path) override;
 
-  /// True when the server would rename the file, which then keeps its name.
+  /// Returns true if the server accepts to rename the file, which then keeps its name.
   [[nodiscard]] bool FTPFileExists(const std::string& path);
-  /// True on 250.
+  /// Returns true on 250.
   bool FTPDeleteFile(const std::string& path);
-  /// Size as FileSizeText, "0KB" when the server does not tell. Throws RuntimeFailure TypeMismatch or Overflow when it
-  /// tells something that is no number of 32 bits.
+  /// Returns the size as FileSizeText, "0KB" if the server does not report it. Throws RuntimeFailure TypeMismatch or
+  /// Overflow if the server reports something that is not a 32-bit number.
   [[nodiscard]] std::string FTPGetFileSize(const std::string& path);
 
-  /// Sends a local file, given as path text. True when all of it is out, whatever the server says then, and when it is
-  /// there already and `overwrite` is false. Throws RuntimeFailure DivisionByZero for an empty file, after the server
-  /// has begun to store it and with the data connection left open.
+  /// Sends a local file, given as path text. Returns true if all of it was sent, whatever the server then replies, or
+  /// if the file already exists and `overwrite` is false. Throws RuntimeFailure DivisionByZero for an empty file, after
+  /// the server has begun to store it and with the data connection left open.
   [[nodiscard]] bool FTPStoreFile(const std::string& localPath, const std::string& remotePath, bool overwrite);
-  /// FTPStoreFile, which may have backslashes in the remote path. When it gives false, the remote file is deleted.
+  /// Like FTPStoreFile, but the remote path may contain backslashes, and the remote file is deleted if the result is
+  /// false.
   [[nodiscard]] bool FTPCopyFile(const std::string& localPath, const std::string& remotePath, bool overwrite) override;
 
-  /// Aborts the blocking call under way, if any; for use from a turn of the event loop once a cancel is confirmed.
+  /// Aborts the blocking call in progress, if any; for use from a turn of the event loop after a cancel is confirmed.
   void FTPCancelData();
 
  private:
   enum class Logging { Logged, Quiet };
 
-  /// The reply's code, 0 when none could be had. A command that holds CR, LF or NUL is more than one command or half of
-  /// one: it is never sent and has the code 0.
+  /// Sends a command and returns the reply's code, 0 if there is none. A command that contains CR, LF or NUL is more
+  /// than one command or half of one: it is never sent and has the code 0.
   [[nodiscard]] std::int16_t FTPExecute(const std::string& command, std::string& replyText, Logging logging);
   std::int16_t FTPSendCommand(const std::string& command, Logging logging = Logging::Logged);
   std::int16_t FTPReadReply(std::string& replyText, Logging logging);
 
-  /// As FTPSendCommand; anything but 250 closes the data connection.
+  /// Returns true on 250; any other code closes the data connection.
   [[nodiscard]] bool DirectoryCommand(const std::string& command);
   [[nodiscard]] bool LeaveDirectories(int depth);
 

@@ -1,4 +1,4 @@
-// Storing: the data connection and what goes through it.
+// Storing files: the data connection and the transfer.
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 #include "publish/FTPPercentage.h"
@@ -79,13 +79,13 @@ bool mFTP::SendFile(const std::string& localPath, std::int32_t length) {
   const bool sent = SendBlocks(*file, length);
   ShowPercentage(100);
   file.reset();
-  // The end of the connection is the end of the file, so one that broke off must not look like an end.
+  // The end of the connection means the end of the file, so an incomplete transfer must not end like a complete one.
   if (sent) {
     sockData_->Close();
   } else {
     sockData_->Reset();
   }
-  // Once the bytes are out the result stands, whatever the server has to say.
+  // Once the bytes are sent, the result is fixed, whatever the server replies.
   std::string closingReply;
   FTPReadReply(closingReply, Logging::Logged);
   return sent;
@@ -97,7 +97,7 @@ bool mFTP::SendBlocks(LocalFile& file, std::int32_t length) {
   do {
     if (const auto percentage = FTPPercentage(length - remaining, length)) ShowPercentage(*percentage);
     loop_.Turn();
-    // A cancel may have been confirmed where no call on the data connection was there to be aborted.
+    // A cancel may have been confirmed while there was no call on the data connection to abort.
     if (cancel_.CancelRequested()) return false;
     const std::int32_t size = std::min(remaining, kBlockSize);
     const auto block = std::span(buffer).first(static_cast<std::size_t>(size));

@@ -48,7 +48,7 @@ bool CanList(const std::optional<std::filesystem::path>& folder) {
   return folder && !error;
 }
 
-/// The whole program for the length of one command: the one project and everything around it.
+/// The whole program for one command: the project and everything it depends on.
 class BatchProgram {
  public:
   explicit BatchProgram(const BatchOptions& options)
@@ -73,16 +73,16 @@ class BatchProgram {
 
   [[nodiscard]] std::string PathText(const std::string& typed) const { return paths_.ToTextFromUser(typed); }
   [[nodiscard]] bool Load() { return session_.LoadProject(PathText(options_.project)); }
-  /// Whether the output is one of the inputs (as typed), which is then said.
+  /// Returns true, after a message, if the output is one of the inputs (as typed).
   [[nodiscard]] bool OutputIsAmong(const std::vector<std::string>& inputs) const;
-  /// Says what there is to say; true when there is something.
+  /// Shows `refusal` and returns true, unless it is empty.
   bool Refuse(const std::string& refusal);
   [[nodiscard]] ExitCode SaveTo(const std::string& typed);
   [[nodiscard]] ExitCode RunMode(GenerationMode mode, const CreateChoice& choice);
   [[nodiscard]] ExitCode EndOfFailedRun();
   [[nodiscard]] Preferences PreferencesOfRun() const;
   [[nodiscard]] CreateChoice Switches(CreateChoice::Option option) const;
-  /// What the run needs to know of the server; nothing after a message about the password file.
+  /// Returns what the run needs to know about the server, or nullopt after a message about the password file.
   [[nodiscard]] std::optional<CreateChoice> ServerChoice(CreateChoice::Option option);
 
   const BatchOptions& options_;
@@ -92,7 +92,7 @@ class BatchProgram {
   mFileFunctions files_{paths_, formats_};
   Terminal terminal_;
   TerminalMessageBox boxes_{terminal_};
-  SystemClock present_;  ///< the log tells when a run was, whatever creation time it has
+  SystemClock present_;  ///< the log shows the real time of a run, whatever its creation time
   UploadLog log_{programFolder_, present_, boxes_};
   CancelCheck cancel_{boxes_};
   InterruptLoop loop_{cancel_};
@@ -232,10 +232,11 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
   return ExitCode::Success;
 }
 
-/// The cancelled upload of a folder is a failure with a message of its own, but not to the caller of the program.
+/// A cancelled upload of a folder is a failure with its own message, but the exit code tells the caller of the program
+/// that it was cancelled.
 ExitCode BatchProgram::EndOfFailedRun() {
   if (cancel_.CancelRequested()) return ExitCode::Cancelled;
-  // A window has a button for the log in the place of a message about what the server refused.
+  // The progress window on a desktop has a button for the log instead of a message about what the server refused.
   if (!boxes_.HaveSpoken()) {
     const std::string log = (programFolder_ / kUploadLogName).string();
     boxes_.Critical("Upload failed", "What the server has answered is in the file \"" + log + "\".");

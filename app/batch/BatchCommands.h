@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-/// Carries out what the command line asks for.
+/// Runs the command that the command line asks for.
 [[nodiscard]] ExitCode RunBatchCommand(const BatchOptions& options);
 
 }  // namespace vantorium

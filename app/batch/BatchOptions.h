@@ -11,24 +11,24 @@ namespace vantorium {
 
 enum class BatchCommand { New, Show, Save, Create, Preview, Publish, Upload };
 
-/// What the command line asks for. Paths are as they were typed.
+/// What the command line asks for. Paths are as typed.
 struct BatchOptions {
   BatchCommand command = BatchCommand::Show;
 
-  // Of every command
+  // For every command
   std::string programFolder;
   std::string tempFolder;
   std::optional<CivilTime> creationTime;
-  unsigned jobs = 0;  ///< images worked on at a time; 0 for all processors
+  unsigned jobs = 0;  ///< images processed at the same time; 0 for one per processor
   bool quiet = false;
   bool verbose = false;
 
-  // Of single commands
+  // For single commands
   std::string project;
   std::string output;  ///< OUT.gpj, or INDEX-FILE
   std::optional<std::string> title;
   bool recursive = false;
-  bool force = false;  ///< a project that exists is replaced
+  bool force = false;  ///< replace an existing project
   std::vector<std::string> paths;
   bool noImages = false;
   bool noThumbnails = false;
@@ -40,7 +40,7 @@ struct BatchOptions {
   std::uint16_t port = 21;
   std::string user;
   std::string passwordFile;  ///< "-" is standard input
-  std::string remote;        ///< FOLDER/INDEX-FILE of publish, FOLDER of upload
+  std::string remote;        ///< FOLDER/INDEX-FILE for publish, FOLDER for upload
   std::string baseDirectory;
 };
 

@@ -13,7 +13,7 @@
 namespace vantorium {
 namespace {
 
-// A signal handler can reach nothing but a global.
+// A signal handler can only reach a global.
 std::atomic<bool> interrupted = false;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 void OnInterrupt(int signal) {

@@ -15,12 +15,12 @@
 
 namespace vantorium {
 
-/// Message boxes as lines on standard error. Every question is answered Yes.
+/// Prints message boxes as lines on standard error. Answers every question with Yes.
 class TerminalMessageBox : public MessageBoxPort {
  public:
   explicit TerminalMessageBox(Terminal& terminal) : terminal_(terminal) {}
   BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override;
-  /// Whether the user has been told anything yet.
+  /// Whether any message was shown.
   [[nodiscard]] bool HaveSpoken() const { return haveSpoken_; }
 
  private:
@@ -28,7 +28,7 @@ class TerminalMessageBox : public MessageBoxPort {
   bool haveSpoken_ = false;
 };
 
-/// The present time, or the one that the command line gives.
+/// The current time, or the time given on the command line.
 class BatchClock : public SystemClock {
  public:
   explicit BatchClock(std::optional<CivilTime> fixed) : fixed_(fixed) {}
@@ -38,15 +38,15 @@ class BatchClock : public SystemClock {
   std::optional<CivilTime> fixed_;
 };
 
-/// The desktop, of which a batch run needs only that a file is opened when that was asked for.
+/// The desktop of a batch run: it only opens files, and only if the command line asks for it.
 class BatchShell : public Shell {
  public:
   BatchShell(const PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
   void Beep(BeepKind kind) override;
   void OpenFile(const std::string& path) override;
-  /// The failure names this command and those that failed before.
+  /// A failure names this command and those that failed before it.
   void Start(const ShellCommand& command, const StartFailed& failed) override;
-  /// False when a file was to be opened and none of the programs could be started.
+  /// Returns false if programs were tried to open a file and none could be started.
   [[nodiscard]] bool HasOpened() const { return tried_.empty() || opened_; }
 
  private:
@@ -56,14 +56,14 @@ class BatchShell : public Shell {
   bool opened_ = false;
 };
 
-/// Ctrl+C as the cancel button of the progress window that is open. A second one ends the process at once, and so does
-/// the first while no window is open. The wish of the system that the program may end is the same, and so is a terminal
-/// that goes away, unless the program was started to outlive it; but that may be told more than once.
+/// Makes Ctrl+C press the cancel button of the open progress window. A second one ends the process at once, and so does
+/// the first while no window is open. SIGTERM does the same. So does SIGHUP, from a lost terminal, unless the program
+/// was started to ignore it; but as it may arrive more than once, a SIGHUP that comes second does not end the process.
 class InterruptLoop : public EventLoop {
  public:
   explicit InterruptLoop(CancelCheck& cancel) : cancel_(cancel) {}
   void Turn() override;
-  /// The window whose button it is; null for none.
+  /// The window whose cancel button to press; null for none.
   void Watch(ProgressWindow* progress);
 
  private:
@@ -72,7 +72,7 @@ class InterruptLoop : public EventLoop {
   bool pressed_ = false;
 };
 
-/// The main window that a batch run does not have.
+/// Replaces the main window, which a batch run does not have.
 class BatchRunHost : public RunHost {
  public:
   BatchRunHost(Terminal& terminal, InterruptLoop& loop, UploadLog& log, CreateChoice choice)

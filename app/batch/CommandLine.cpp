@@ -20,7 +20,7 @@ const char kFooter[] =
     "Ctrl+C cancels; a second one ends the program at once.\n"
     "Exit code: 0 success, 1 failure, 2 wrong command line, 130 cancelled.";
 
-/// Reads "YYYY-MM-DD HH:MM:SS". Nothing when it is not that, or no time of any calendar.
+/// Parses "YYYY-MM-DD HH:MM:SS". Returns nullopt for any other form, and for a time that does not exist.
 std::optional<CivilTime> ParseTime(const std::string& text) {
   CivilTime time;
   int read = 0;
@@ -80,7 +80,7 @@ void AddServer(CLI::App& command, BatchOptions& options, const char* remote) {
 CLI::App& AddCommand(CLI::App& app, BatchOptions& options, BatchCommand command, const char* name, const char* about) {
   CLI::App* added = app.add_subcommand(name, about);
   added->callback([&options, command] { options.command = command; });
-  AddCommonOptions(*added, options);  // so that they may stand behind the command, and its help lists them
+  AddCommonOptions(*added, options);  // so that they are accepted after the command, and its help lists them
   return *added;
 }
 
@@ -132,8 +132,8 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   upload.add_flag("--keep-existing", options.keepExisting, "Keep files that the server has");
 }
 
-/// What is wrong, in one line. CLI11 may go on with a hint about --help, and of an unknown command it only says that
-/// there is none.
+/// Returns what is wrong, in one line. CLI11 may add a hint about --help, and for an unknown command it only says that
+/// there is no command.
 std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
   const std::vector<std::string> unknown = app.remaining();
   const bool hasCommand = !app.get_subcommands().empty();

@@ -22,7 +22,7 @@ std::vector<fs::directory_entry> EntriesOf(const fs::path& folder) {
   return entries;
 }
 
-/// The images below `top`, by their paths in it.
+/// Returns the images below `top`, as paths relative to it.
 std::vector<fs::path> ImagesOf(const fs::path& top, bool recursive) {
   std::vector<fs::path> images;
   std::vector<fs::path> waiting = {top};
@@ -33,7 +33,7 @@ std::vector<fs::path> ImagesOf(const fs::path& top, bool recursive) {
       if (entry.is_regular_file() && IsImage(entry.path())) images.push_back(entry.path().lexically_relative(top));
     }
     if (!recursive) continue;
-    // The last one in is the next one out, so the first sub folder goes in last.
+    // `waiting` is a stack: the last one in is the next one out, so the first subfolder goes in last.
     for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
       if (entry->is_directory() && !entry->is_symlink()) waiting.push_back(entry->path());
     }
@@ -41,13 +41,14 @@ std::vector<fs::path> ImagesOf(const fs::path& top, bool recursive) {
   return images;
 }
 
-/// What keeps an image from standing in a project; empty when nothing does.
+/// Returns why an image cannot be in a project; empty if it can.
 std::string ProblemOf(const std::string& path) {
   if (IsXmlText(path)) return {};
   return "\"" + ToXmlText(path) + "\" has a name that is no UTF-8 text and cannot stand in a project.";
 }
 
-/// The images of a folder as path text: each on its own best drive when the folder is on its, else on the drive typed.
+/// Returns the images of a folder as path text: each on its own best drive if the folder is on its best drive, else on
+/// the drive typed.
 FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, bool recursive, const PathMap& paths) {
   FoundImages found;
   const bool onBestDrive = folder == paths.ToText(native.has_filename() ? native : native.parent_path());

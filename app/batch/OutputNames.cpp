@@ -36,7 +36,7 @@ bool IsProject(const fs::path& file) {
 bool IsSameFile(const std::string& one, const std::string& other, const PathMap& paths) {
   const auto first = paths.ToNative(one);
   const auto second = paths.ToNative(other);
-  std::error_code error;  // one of them is not there
+  std::error_code error;  // one of them does not exist
   return first && second && fs::equivalent(*first, *second, error);
 }
 

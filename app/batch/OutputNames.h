@@ -6,18 +6,18 @@
 
 namespace vantorium {
 
-/// Whether two paths (path text) lead to one file that is there, whatever they look like.
+/// Whether two paths (path text) lead to the same existing file, however they are written.
 [[nodiscard]] bool IsSameFile(const std::string& one, const std::string& other, const PathMap& paths);
 
-/// Why `new` does not write to `file` (path text), a sentence; empty when it does. What is there stays, unless it is a
-/// project and `force` is given.
+/// Returns a sentence why `new` does not write to `file` (path text); empty if it does. An existing file stays, unless
+/// it is a project and `force` is given.
 [[nodiscard]] std::string RefusalOfNewProject(const std::string& file, bool force, const PathMap& paths);
 
-/// The index file that a path (path text) means: a folder, or a text with a separator at its end, means the index.htm
-/// in it.
+/// Returns the index file that a path (path text) means: for a folder, or a text that ends in a separator, the
+/// index.htm in it.
 [[nodiscard]] std::string IndexFileOf(const std::string& path, const PathMap& paths);
 
-/// Why there can be no index file of that path (path text), a sentence; empty when there can.
+/// Returns a sentence why there can be no index file of that path (path text); empty if there can.
 [[nodiscard]] std::string RefusalOfIndexFile(const std::string& path, const PathMap& paths);
 
 }  // namespace vantorium

@@ -11,10 +11,10 @@
 namespace vantorium {
 namespace {
 
-/// Longer than any password. A file that goes on beyond it is another one, or a device without end.
+/// Longer than any password. A longer first line means the wrong file, or a device without end.
 constexpr std::size_t kLongest = 4096;
 
-/// Nothing also when the file can't be read at all, as a standard input that is closed.
+/// Returns nullopt also if the file cannot be read at all, such as a closed standard input.
 std::optional<std::string> FirstLine(int file) {
   std::string line;
   for (char character = 0; character != '\n';) {
@@ -29,7 +29,7 @@ std::optional<std::string> FirstLine(int file) {
   return line;
 }
 
-/// Standard input where it is a terminal: asks for the password, which is not seen as long as this exists.
+/// If standard input is a terminal, asks for the password and hides what is typed while this object exists.
 class HiddenTyping {
  public:
   HiddenTyping() : isTerminal_(::tcgetattr(STDIN_FILENO, &before_) == 0) {

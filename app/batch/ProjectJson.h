@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// The project as JSON text in UTF-8: `project` with every field under its own name (texts and digits as strings, all
-/// else as numbers, records as objects), `images`, `thumbnailPageCount`. What is no valid UTF-8 is replaced.
+/// Returns the project as JSON text in UTF-8: `project` with every field under its own name (texts and digits as
+/// strings, all else as numbers, records as objects), `images`, `thumbnailPageCount`. Invalid UTF-8 is replaced.
 [[nodiscard]] std::string ProjectAsJson(const Project& project);
 
 }  // namespace vantorium

@@ -25,7 +25,7 @@ std::size_t TerminalWidth() {
   return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
 }
 
-/// At most `columns` characters of UTF-8 text; a character of any width counts as one.
+/// Returns at most `columns` characters of UTF-8 text; a character of any width counts as one.
 std::string CutTo(const std::string& text, std::size_t columns) {
   std::size_t at = 0;
   for (std::size_t used = 0; at < text.size(); ++at) {
@@ -35,7 +35,7 @@ std::string CutTo(const std::string& text, std::size_t columns) {
   return text.substr(0, at);
 }
 
-/// Lost is lost.
+/// Failures are ignored.
 void Say(std::string_view text) {
   std::ignore = WriteAll(STDERR_FILENO, text);
 }
@@ -44,7 +44,7 @@ std::string OneLine(std::string_view text) {
   return ReplaceAll(Harmless(text), "\n", "\\u000A");
 }
 
-/// How many bytes the UTF-8 character at the beginning of `text` has; 1 for a byte that begins none.
+/// Returns the number of bytes of the first UTF-8 character of `text`; 1 for a byte that begins none.
 std::size_t CharacterSize(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text[0]);
   const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
@@ -53,8 +53,8 @@ std::size_t CharacterSize(std::string_view text) {
   return std::ranges::all_of(text.substr(1, size - 1), follows) ? size : 1;
 }
 
-/// Whether a terminal may take it for a command: the control characters of ASCII and those from 0x80 on, in UTF-8 or as
-/// single bytes.
+/// Returns the code of a character that a terminal may take for a command: the control characters of ASCII and those
+/// from 0x80 on, in UTF-8 or as single bytes. Returns nullopt for any other.
 std::optional<unsigned> ControlCodeOf(std::string_view character) {
   const auto byte = static_cast<unsigned char>(character.back());
   const bool isSecondSet = byte >= 0x80 && byte < 0xA0;

@@ -8,19 +8,18 @@ namespace vantorium {
 
 enum class ProgressStyle { None, Bar, Lines };
 
-/// `text` as it may reach a terminal: control characters but LF are written as \u and four digits, as JSON has them, so
-/// that a name cannot give the terminal commands.
+/// Returns `text` made safe for a terminal: control characters except LF become \u and four digits, as in JSON, so that
+/// a name cannot send commands to the terminal.
 [[nodiscard]] std::string Harmless(std::string_view text);
 
-/// Prints "vantorium-batch: " and the text on standard error. What is said there never decides anything: it may be
-/// lost.
+/// Prints "vantorium-batch: " and the text on standard error, in one line. Failures are ignored.
 void SayInOneLine(std::string_view text);
 
-/// Prints a command's result on standard output. False, after a message, when it cannot be written.
+/// Prints a command's result on standard output. Returns false, after a message, if it cannot be written.
 [[nodiscard]] bool PrintResult(std::string_view text);
 
-/// Standard error as the user sees it: messages, each a paragraph of its own, and below them the progress, which is a
-/// bar that is drawn over itself, or a line for each text. A terminal that goes away is no failure.
+/// Standard error as the user sees it: messages, each in its own paragraph, and below them the progress, as a bar that
+/// is redrawn in place or as one line per text. A terminal that goes away is not a failure.
 class Terminal {
  public:
   explicit Terminal(ProgressStyle style) : style_(style) {}
@@ -28,12 +27,12 @@ class Terminal {
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
 
-  /// Prints "title: text", line breaks kept.
+  /// Prints "title: text", keeping line breaks.
   void PrintMessage(const std::string& title, const std::string& text);
-  /// A text of the status bar or of the progress window. The same text twice in a row is shown once.
+  /// Shows a text of the status bar or of the progress window. A text repeated at once is shown only once.
   void ShowStatus(const std::string& text);
   void ShowProgress(std::int64_t value, std::int64_t maximum);
-  /// A new run: the time left is reckoned from here.
+  /// Starts a new run: the time left is computed from here.
   void StartClock();
   void EraseBar();
 
@@ -52,7 +51,7 @@ class Terminal {
   bool barIsDrawn_ = false;
 };
 
-/// The style that fits the options and what standard error is.
+/// Returns the style for the options; the bar only if standard error is a terminal.
 [[nodiscard]] ProgressStyle ChooseProgressStyle(bool quiet, bool verbose);
 
 }  // namespace vantorium

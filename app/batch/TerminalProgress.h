@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// The progress window of a batch run: its bar and texts on the terminal. Nobody reads it after a failure, so it closes
-/// itself.
+/// The progress window of a batch run, which shows its bar and texts on the terminal. Nobody reads it after a failure,
+/// so it closes itself.
 class TerminalProgress : public ProgressModel {
  public:
   TerminalProgress(UploadLog& log, Terminal& terminal, InterruptLoop& loop)

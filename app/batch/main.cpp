@@ -8,7 +8,7 @@
 int main(int argc, char** argv) {
   using vantorium::ExitCode;
   vantorium::HoldStandardStreams();
-  // What cannot be written is a failure of that one writing, which says so, and not the end of the program.
+  // A failed write reports its own failure and must not end the program.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
   try {

@@ -25,13 +25,13 @@
 namespace vantorium {
 namespace {
 
-/// The port of FTP servers: 21 unless the variable VANTORIUM_FTP_PORT holds another.
+/// Returns the port of FTP servers: 21 unless the environment variable VANTORIUM_FTP_PORT holds another.
 std::uint16_t FtpPort() {
   const int port = qEnvironmentVariableIntValue("VANTORIUM_FTP_PORT");
   return port > 0 && port <= 65535 ? static_cast<std::uint16_t>(port) : 21;
 }
 
-/// Everything around the main window, for the length of the program.
+/// The objects that the main window depends on, for the whole run of the program.
 class Desktop {
  public:
   [[nodiscard]] DesktopPorts Ports() {
@@ -90,7 +90,7 @@ int Run(int argc, char** argv) {
 
   try {
     return ShowWindow();
-  } catch (const RuntimeFailure& failure) {  // of what the window is set up with
+  } catch (const RuntimeFailure& failure) {  // from the setup of the window
     QMessageBox::critical(nullptr, "Vantorium", ToQt(failure.Description()));
     return 1;
   }

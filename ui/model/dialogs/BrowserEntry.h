@@ -7,20 +7,20 @@
 
 namespace vantorium {
 
-/// The dialog `frmAddBrowser` as far as it is not drawn: the two texts of one browser and what its buttons do.
+/// The logic of the dialog `frmAddBrowser`, without its widgets: the two texts of one browser and what the buttons do.
 class BrowserEntry {
  public:
   BrowserEntry(std::string title, Browser texts) : title_(std::move(title)), texts_(std::move(texts)) {}
 
-  /// Each time the dialog is shown, before the user can do anything.
+  /// Call each time the dialog is shown, before the user can do anything. Resets Cancelled() to true.
   void ComeUp();
-  /// A change of the text boxes browserName and browserLocation.
+  /// The text box browserName or browserLocation changed.
   void ChangeName(const std::string& text);
   void ChangeLocation(const std::string& text);
-  /// browserLocation was left. A native path becomes path text; one with blanks that no file has may be a command line,
-  /// and stays.
+  /// browserLocation lost the focus. A native path becomes path text. A text with blanks that names no existing file
+  /// may be a command line and stays unchanged.
   void LeaveLocation(const PathMap& paths);
-  /// The file that was chosen behind btnBrowse; none when it is empty. It enables OKButton whatever the name is.
+  /// Takes the file chosen with btnBrowse; an empty `path` does nothing. Enables OKButton whatever the name is.
   void TakeExecutable(const std::string& path);
   /// OKButton and the cancel button, which both hide the dialog. OKButton does nothing while it is disabled.
   void PressOK();
@@ -40,12 +40,12 @@ class BrowserEntry {
   bool cancelled_ = true;
 };
 
-/// Shows the dialog. Whoever implements it is the user.
+/// The port that shows the dialog.
 class BrowserEntryDialog {
  public:
   virtual ~BrowserEntryDialog() = default;
-  /// Shows the dialog modally, with its title and texts, and passes on what the user does until it is hidden. ComeUp
-  /// was called.
+  /// Shows the dialog modally, with its title and texts, and passes the user's actions to `entry` until the dialog is
+  /// hidden. The caller has called ComeUp.
   virtual void Show(BrowserEntry& entry) = 0;
 };
 

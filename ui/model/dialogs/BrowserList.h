@@ -9,23 +9,23 @@
 
 namespace vantorium {
 
-/// The dialog `frmBrowserList` as far as it is not drawn: the entries of lvBrowsers from the top on, one of them
-/// perhaps selected, and what its buttons do.
+/// The logic of the dialog `frmBrowserList`, without its widgets: the entries of lvBrowsers from the top down, which of
+/// them is selected, if any, and what the buttons do.
 class BrowserList {
  public:
-  /// Each browser is put on top of the one before it. As the list is taken back from the top, every opening of the
-  /// dialog reverses the order of the browsers.
+  /// Each browser is inserted above the previous one. Entries() is read from the top, so every opening of the dialog
+  /// reverses the order of the browsers.
   BrowserList(const std::vector<Browser>& browsers, BrowserEntryDialog& dialog, MessageBoxPort& boxes);
 
-  /// btnAddBrowser: a new entry on top, unless there are kMostBrowsers. A name that the list has is told and asked for
-  /// again.
+  /// btnAddBrowser: asks for a new entry and inserts it at the top, unless there are kMostBrowsers. If the list already
+  /// has the name, shows a message box and asks again.
   void PressAdd();
-  /// btnEditBrowser: gives the selected entry another location. Another name makes a new entry on top, and the old one
-  /// stays for the user to remove.
+  /// btnEditBrowser: changes the location of the selected entry. If the user changes the name, inserts a new entry at
+  /// the top and leaves the old one for the user to remove.
   void PressEdit();
   /// btnRemoveBrowser: removes the selected entry, if any, and selects the one that takes its place, else the last.
   void PressRemove();
-  /// `index` counts from 0 at the top. Throws RuntimeFailure IndexOutOfBounds when there is no such entry.
+  /// `index` counts from 0 at the top. Throws RuntimeFailure IndexOutOfBounds if there is no such entry.
   void Select(std::optional<std::size_t> index);
 
   [[nodiscard]] const std::vector<Browser>& Entries() const { return entries_; }

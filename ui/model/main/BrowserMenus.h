@@ -18,10 +18,10 @@ struct BrowserMenuEntry {
   bool operator==(const BrowserMenuEntry&) const = default;
 };
 
-/// Where the browsers of the list can be chosen.
+/// The menus from which the user chooses a browser of the list.
 struct BrowserMenus {
-  std::vector<BrowserMenuEntry> DropDown;  ///< the entry at position n, counted from 1, is number n - 1
-  std::vector<std::string> ViewBrowser;    ///< captions of the elements of menuActionsViewBrowser from 1 on
+  std::vector<BrowserMenuEntry> DropDown;  ///< positions count from 1: position n is DropDown[n - 1]
+  std::vector<std::string> ViewBrowser;    ///< captions of menuActionsViewBrowser, from its element 1 on
 };
 
 [[nodiscard]] BrowserMenus RebuildBrowserMenus(const std::vector<Browser>& browsers);
@@ -32,8 +32,8 @@ inline constexpr int kViewButton = 6;
 /// What a click on an entry of a drop-down list asks for.
 struct BrowserClick {
   enum class Kind {
-    Nothing,  ///< it is not the list of the View button
-    View,     ///< a preview in browser `BrowserIndex`, 0 being the default browser
+    Nothing,  ///< the list is not that of the View button
+    View,     ///< a preview in browser `BrowserIndex`, 0 is the default browser
     List      ///< the dialog that edits the list
   };
 

@@ -7,7 +7,7 @@ namespace {
 
 bool Write(const std::vector<Browser>& browsers, const std::filesystem::path& file) {
   try {
-    std::error_code ignored;  // writing finds out
+    std::error_code ignored;  // the write fails if the folder is missing
     std::filesystem::create_directories(file.parent_path(), ignored);
     WriteBrowsers(browsers, file);
     return true;
