@@ -5,8 +5,8 @@
 
 namespace vantorium {
 
-/// `text` (UTF-8) with its case folded, the full folding of Unicode: texts that differ in case only give the same, and
-/// "Straße" the same as "STRASSE". Bytes that are no UTF-8 stay.
+/// Returns `text` (UTF-8) with its case folded by Unicode full case folding: texts that differ only in case give the
+/// same result, as do "Straße" and "STRASSE". Bytes that are not UTF-8 are kept.
 [[nodiscard]] std::string FoldCase(std::string_view text);
 
 /// Whether the first character of `text` (UTF-8) is a letter or a decimal digit of any script.

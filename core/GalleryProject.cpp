@@ -42,7 +42,7 @@ void ResetToDefaults(GalleryProject& project, const std::string& projectName) {
 std::int32_t ThumbnailsPerPage(const GalleryProject& project) {
   const double rows = ParseNumber(project.textThumbnailsTableRows).value_or(0);
   const double columns = ParseNumber(project.textThumbnailsTableColumns).value_or(0);
-  // More than any list can hold counts as that many.
+  // Larger products than any list can hold are clamped.
   return static_cast<std::int32_t>(
       std::clamp<double>(RoundHalfEven(rows * columns), 0, std::numeric_limits<std::int32_t>::max()));
 }

@@ -11,7 +11,7 @@ namespace vantorium {
 using Flag = std::int16_t;    ///< 0 or 1
 using Choice = std::int16_t;  ///< index into a fixed list, from 0
 using Color = std::uint32_t;  ///< 0x00BBGGRR
-using Digits = std::string;   ///< a decimal number as it was typed; may be empty while it is edited
+using Digits = std::string;   ///< a decimal number as typed; may be empty during editing
 
 /// One page link.
 struct LinkSettings {
@@ -24,19 +24,19 @@ extern const char kThumbnailPageCentringHeader[];
 extern const char kImagePageCentringHeader[];
 extern const char kCentringFooter[];
 
-/// Everything that describes one gallery apart from its images, with the values of a new project. A field that a
-/// control of a window edits bears the control's name. Multi-line texts hold CR LF. Fields are set through
-/// ProjectEditor, which runs the rules between them; ProjectFields names them all once more, for whoever walks them.
+/// All settings of one gallery except its images, with the values of a new project. A field that a control of a window
+/// edits has the control's name. Multi-line texts hold CR LF. Set fields through ProjectEditor, which applies the rules
+/// between them; ProjectFields lists them all for code that iterates over them.
 struct GalleryProject {
   // Gallery
-  std::string textGalleryTitle;  ///< a new project's is its name
+  std::string textGalleryTitle;  ///< in a new project, the project's name
   std::string GalleryHeadCode;   ///< code in the HEAD section of the index page
   std::string GalleryInfoText;   ///< the "About this Gallery..." text
   Choice comboGalleryLayoutType = 0;
   Flag checkGalleryFrameSizeInPercent = 0;
   Digits textGalleryFrameSize = "200";         ///< pixels, or percent
-  Choice comboGalleryFrameSizingPriority = 0;  ///< the frame that is given its size: 0 thumbnails, 1 image
-  std::int32_t ThumbnailFrameSize = 200;       ///< what textGalleryFrameSize last stored here
+  Choice comboGalleryFrameSizingPriority = 0;  ///< the frame whose size is given: 0 thumbnails, 1 image
+  std::int32_t ThumbnailFrameSize = 200;       ///< last value stored by textGalleryFrameSize
   std::int32_t ImageFrameSize = 0;
   Flag checkGalleryFramesResizable = 0;
   Flag checkGalleryFramesDisplayBorders = 0;
@@ -74,9 +74,9 @@ struct GalleryProject {
   Color ImagePageVLinkColor = 0xA00000;
   Color ImagePageALinkColor = 0x0000FF;
   Flag checkImageWrapperImageKeepSize = 0;
-  Flag checkImageWrapperImagePhysicalResize = 1;  ///< 1: new files are made at the size, 0: the browser scales
+  Flag checkImageWrapperImagePhysicalResize = 1;  ///< 1: new files are made at this size, 0: the browser scales
   Flag checkImageWrapperImageKeepAspectRatio = 1;
-  Flag checkImageWrapperImageSetWidth = 0;  ///< with the aspect ratio kept: 1 the width is given, 0 the height
+  Flag checkImageWrapperImageSetWidth = 0;  ///< if the aspect ratio is kept: 1 the width is given, 0 the height
   Flag checkImageWrapperImageSizesInPercent = 0;
   Digits textImageWrapperImageWidth = "400";
   Digits textImageWrapperImageHeight = "300";
@@ -127,11 +127,11 @@ struct GalleryProject {
   std::string ThumbnailPopupCaption;
 
   // Descriptions
-  std::string textHeader;  ///< in front of every image description
+  std::string textHeader;  ///< precedes every image description
   std::string textFooter;
   Choice comboImageDescriptionPlacement = 0;
   Choice comboImageDescriptionAlignment = 0;
-  std::string textThumbHeader;  ///< in front of every thumbnail description
+  std::string textThumbHeader;  ///< precedes every thumbnail description
   std::string textThumbFooter;
   Choice comboThumbnailDescriptionPlacement = 0;
   Choice comboThumbnailDescriptionAlignment = 0;
@@ -152,17 +152,17 @@ struct GalleryProject {
   LinkSettings ImageIndexLink = {"INDEX", "", ""};  ///< has no disabled image
 };
 
-/// Sets every field to its value of a new project named `projectName`. The fields that keep their value are left alone.
+/// Sets every field to its value in a new project named `projectName`, except the fields that a reset keeps.
 void ResetToDefaults(GalleryProject& project, const std::string& projectName);
 
-/// The number of thumbnail pages for `imageCount` images: the quotient by rows times columns rounded up, 0 when that
-/// product is 0. Rows and columns that are no numbers count as 0.
+/// Returns the number of thumbnail pages for `imageCount` images: `imageCount` divided by rows times columns, rounded
+/// up; 0 if that product is 0. Rows and columns that are not numbers count as 0.
 [[nodiscard]] std::int32_t ThumbnailPageCount(const GalleryProject& project, std::int32_t imageCount);
 
-/// Rows times columns, rounded half to even, at least 0.
+/// Returns rows times columns, rounded half to even, at least 0.
 [[nodiscard]] std::int32_t ThumbnailsPerPage(const GalleryProject& project);
 
-/// A color as the project file writes it: the number in capitals, at least 6 digits, bytes not swapped (red is
+/// Returns a color as written in the project file: uppercase hexadecimal, at least 6 digits, bytes not swapped (red is
 /// 0000FF).
 [[nodiscard]] std::string ColorToHex(Color color);
 

@@ -5,10 +5,10 @@
 
 namespace vantorium {
 
-/// Whether an image file may have that extension (with its dot): ".jpg", ".jpeg" and ".jfif" in any case.
+/// Returns whether image files may have this extension (with its dot): ".jpg", ".jpeg" and ".jfif" in any case.
 [[nodiscard]] bool IsSupportedImageExtension(std::string_view extension);
 
-/// The filter of the dialogs that choose images: descriptions and patterns in pairs, separated by "|".
+/// Returns the filter for dialogs that choose images: pairs of description and pattern, separated by "|".
 [[nodiscard]] std::string ImageFileFilter();
 
 }  // namespace vantorium

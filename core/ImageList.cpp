@@ -168,7 +168,7 @@ ImageList::RowOwner ImageList::TakeOut(std::size_t position) {
   return row;
 }
 
-/// Puts a row into the list at `position`, or where the kept order wants it, and returns its position.
+/// Inserts a row at `position`, or at its sorted position if the list is kept sorted, and returns its position.
 std::size_t ImageList::Place(std::size_t position, RowOwner row) {
   auto place = rows_.begin() + OffsetOf(position);
   if (order_) {

@@ -4,16 +4,16 @@
 
 namespace vantorium {
 
-/// What the operations on the image list ask of the window that shows it. A face without a window overrides nothing.
+/// What ImageListOperations needs from the window that shows the list. A program without a window overrides nothing.
 class ImageListDisplay {
  public:
   virtual ~ImageListDisplay() = default;
 
   virtual void ShowWaitPointer() {}
   virtual void ResetPointer() {}
-  /// The preview is of the list's current row, empty without one.
+  /// The preview shows the list's current row, and is empty without one.
   virtual void RefreshPreview() {}
-  /// The number of images and of thumbnail pages, wherever they are shown.
+  /// The number of images and of thumbnail pages, wherever shown.
   virtual void RefreshCounts() {}
   virtual void ScrollIntoView(std::size_t /*position*/) {}
 };

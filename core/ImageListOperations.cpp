@@ -33,13 +33,13 @@ bool ImageListOperations::AddImage(std::size_t index, const std::string& sourceP
   return position.has_value();
 }
 
-/// The position at which the row now stands; nothing when its file could not be read.
+/// Returns the position of the new row, or nullopt if its file cannot be read.
 std::optional<std::size_t> ImageListOperations::Add(std::size_t index, ImageEntry entry) {
   if (!Keys(entry)) return std::nullopt;
   return project_.images.Insert(index, std::move(entry));
 }
 
-/// Reads the sort keys of an entry from its file; a box and false when that fails.
+/// Reads the sort keys of an entry from its file. On failure shows a message box and returns false.
 bool ImageListOperations::Keys(ImageEntry& entry) {
   try {
     entry.SizeKey = files_.GetFileSizeText(entry.SourcePath, true);
@@ -100,7 +100,7 @@ void ImageListOperations::RemoveCorrupted() {
   RefreshPreviewAndCounts();
 }
 
-// The keys are read before the row is touched: a row whose file has gone would be lost otherwise.
+// Reads the keys before touching the row: otherwise a row whose file is gone would be lost.
 bool ImageListOperations::MoveEntry(std::size_t fromIndex, std::size_t toIndex) {
   ImageList& images = project_.images;
   if (toIndex < 1 || toIndex > images.Count()) throw RuntimeFailure(FailureKind::IndexOutOfBounds);
@@ -122,7 +122,7 @@ void ImageListOperations::MoveSelectedDown() {
 
 void ImageListOperations::MoveSelected(Step step) {
   ImageList& images = project_.images;
-  SetSortingOrder(0);  // as if chosen by the user: the project counts as modified even if no row can move
+  SetSortingOrder(0);  // as if chosen by the user: marks the project as modified even if no row can move
   const std::size_t count = images.Count();
   for (std::size_t walked = 0; walked < count; ++walked) {
     const std::size_t position = step == Step::Up ? walked + 1 : count - walked;
@@ -219,7 +219,7 @@ void ImageListOperations::SelectAsCurrent(std::size_t position) {
   project_.images.SetCurrent(position);
 }
 
-/// For after a removal: the row that moved up to `position`, past the end the last one.
+/// After a removal: selects the row that moved up to `position`, or the last row if `position` is past the end.
 void ImageListOperations::SelectAtOrBefore(std::size_t position) {
   if (!project_.images.Empty()) SelectAsCurrent(std::min(position, project_.images.Count()));
 }

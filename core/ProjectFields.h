@@ -11,8 +11,7 @@ namespace vantorium {
 
 enum class FieldKind { Text, Digits, Flag, Choice, Color, Size, Record };
 
-/// The numbers of a Digits field: where its spinner stops, and the bounds below and above which an edit becomes the
-/// bound itself.
+/// The ranges of a Digits field: the limits of its spinner, and the bounds to which an edit is clamped.
 struct DigitsRange {
   std::int32_t spinnerMinimum;
   std::int32_t spinnerMaximum;
@@ -27,8 +26,8 @@ using FieldMember =
                  Color GalleryProject::*, ImageFilterSettings GalleryProject::*, WatermarkSettings GalleryProject::*,
                  LinkSettings GalleryProject::*>;
 
-/// One field of GalleryProject. The alignment lists of captions and descriptions depend on the placement; `values` then
-/// is the list for a placement left or right.
+/// One field of GalleryProject. The alignment lists of captions and descriptions depend on the placement; `values` is
+/// then the list for placement left or right.
 struct ProjectField {
   std::string_view name;
   FieldKind kind;
@@ -38,16 +37,17 @@ struct ProjectField {
   bool keptByReset = false;
 };
 
-/// Every field of GalleryProject, once, in the order of the record.
+/// Returns every field of GalleryProject once, in the order of the struct.
 [[nodiscard]] std::span<const ProjectField> ProjectFields();
 
-/// The field of a member. Throws std::out_of_range for a member that is in no row, which is a mistake in the table.
+/// Returns the field of a member. Throws std::out_of_range for a member that is in no row, which is a mistake in the
+/// table.
 [[nodiscard]] const ProjectField& FieldOf(const FieldMember& member);
 
-/// The texts of an alignment list: those for a placement above or below, or those for left or right.
+/// Returns the texts of an alignment list: those for a placement above or below, or those for left or right.
 [[nodiscard]] ValueList AlignmentTexts(bool aboveOrBelow);
 
-/// Fields of the records inside GalleryProject, for whoever walks them.
+/// The fields of the structs inside GalleryProject, for code that iterates over them.
 template <typename Record>
 struct RecordField {
   std::string_view name;

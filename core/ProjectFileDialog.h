@@ -12,15 +12,16 @@ class ProjectFileDialog {
   struct Request {
     Purpose purpose;
     std::string title;
-    std::string filter;  ///< pairs of a description and a pattern, all between "|"
+    std::string filter;  ///< pairs of description and pattern, separated by "|"
     std::string defaultPattern;
-    std::string defaultExtension;  ///< goes behind a name that does not end in it, has no dot
-    std::string folder;            ///< path text, where the dialog begins
-    std::string fileName;          ///< the name proposed
+    std::string defaultExtension;  ///< without a dot; appended to a name that does not end in it
+    std::string folder;            ///< path text, the initial folder
+    std::string fileName;          ///< the proposed name
   };
 
   virtual ~ProjectFileDialog() = default;
-  /// The chosen file as path text, empty when nothing was chosen. A program without a window takes this class as it is.
+  /// Returns the chosen file as path text, empty if none was chosen. A program without a window uses this class as it
+  /// is.
   [[nodiscard]] virtual std::string Choose(const Request& /*request*/) { return {}; }
 };
 

@@ -61,7 +61,7 @@ bool ProjectSession::MayLeaveProject() {
 void ProjectSession::OpenProject() {
   if (project_.IsModified) {
     const BoxAnswer answer = AskToSave();
-    // A save that fails doesn't stop the opening.
+    // A failed save does not stop the Open.
     if (answer == BoxAnswer::Yes) SaveProject();
     if (answer == BoxAnswer::Cancel) return;
   }
@@ -126,7 +126,7 @@ void ProjectSession::AdoptOpened(const std::string& path) {
 }
 
 void ProjectSession::TakePath(const std::string& path) {
-  // Not GetFilePath: it drops a leading separator, and the folder must lead back to the file.
+  // GetFilePath would drop a leading separator, but the folder must lead back to the file.
   const std::string whole = WithBackslashes(path);
   const auto name = whole.rfind('\\') + 1;  // npos + 1 is 0
   project_.ProjectFolder = whole.substr(0, name);

@@ -13,8 +13,8 @@
 
 namespace vantorium {
 
-/// New, Open, Save and Save As, as a menu has them, and the same without dialogs. A window only forwards to it. Paths
-/// are path text. No failure leaves it but by its box.
+/// The menu commands New, Open, Save and Save As, and the same without dialogs. A window only forwards to it. Paths are
+/// path text. Failures never propagate; each is shown in a message box.
 class ProjectSession {
  public:
   struct Ports {
@@ -28,27 +28,27 @@ class ProjectSession {
   ProjectSession(Project& project, ImageListOperations& images, const Ports& ports)
       : project_(project), images_(images), ports_(ports) {}
 
-  /// Does nothing on a new project with which nothing has happened yet.
+  /// Does nothing for a new project that is still untouched.
   void NewProject();
   void OpenProject();
-  /// `commandLine`: the path of a project file as the user typed it, path text or native, perhaps in quotes; an empty
-  /// one does nothing. The images go behind those that are in the list.
+  /// `commandLine`: the path of a project file as the user typed it, path text or native, perhaps in quotes; does
+  /// nothing if empty. Appends the images to those in the list.
   void OpenProjectFromCommandLine(std::string_view commandLine);
-  /// Asks for a name when the project has no file, or when an opening that failed has put its own settings under the
-  /// old file's name. True when the project is saved.
+  /// Asks for a name if the project has no file, or if a failed Open put another file's settings under the old file's
+  /// name. Returns true if the project is saved.
   bool SaveProject();
   /// An untitled project stays untitled, so that the next Save asks for a name again.
   void SaveProjectAs();
 
-  /// With a modified project asks whether to save it, and saves it. False when the user cancels or the saving fails:
-  /// the caller then keeps the project as it is.
+  /// If the project is modified, asks whether to save it, and saves it. Returns false if the user cancels or saving
+  /// fails; the caller must then keep the project as it is.
   [[nodiscard]] bool MayLeaveProject();
 
-  /// Reads the project of `path` into the list and the settings. False after the boxes that say why; the project then
-  /// holds what was read so far.
+  /// Replaces the list and the settings by the project at `path`. On failure shows message boxes that say why and
+  /// returns false; the project then holds what was read so far.
   [[nodiscard]] bool LoadProject(const std::string& path);
-  /// Repairs what an output can't do without and writes the project to `path`, which becomes its file. False after a
-  /// box.
+  /// Repairs what output requires and writes the project to `path`, which becomes its file. On failure shows a message
+  /// box and returns false.
   [[nodiscard]] bool SaveProjectTo(const std::string& path);
 
  private:
@@ -65,7 +65,7 @@ class ProjectSession {
   Project& project_;
   ImageListOperations& images_;
   Ports ports_;
-  bool holdsPartOfAnotherFile_ = false;  ///< an opening failed, and the project's file must not be replaced unasked
+  bool holdsPartOfAnotherFile_ = false;  ///< an Open failed, and the project's file must not be replaced without asking
 };
 
 }  // namespace vantorium

@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// What New, Open and Save ask of the main window. A program without a window takes this class as it is. Functions that
-/// other ports of a window have too mean the same there and here.
+/// What New, Open and Save need from the main window. A program without a window uses this class as it is. Functions
+/// that also exist in other ports of a window mean the same there.
 class ProjectSessionHost : public ProjectFileStatus {
  public:
   /// A small window with one text, shown during a wait.
@@ -18,7 +18,7 @@ class ProjectSessionHost : public ProjectFileStatus {
   virtual void RefreshTitleBar() {}
   /// The picture of the list's current row.
   virtual void RefreshPreview() {}
-  /// The number of images, wherever it is shown.
+  /// The number of images, wherever shown.
   virtual void RefreshCounts() {}
   /// The label with the number of thumbnail pages.
   virtual void RefreshPageCount() {}

@@ -6,16 +6,16 @@
 
 namespace vantorium {
 
-/// Evenly spread numbers from 0 up to, but not including, 1.
+/// Uniformly distributed numbers in [0, 1).
 class RandomNumbers {
  public:
   virtual ~RandomNumbers() = default;
-  /// Begins a new sequence that depends on the time of day.
+  /// Starts a new sequence that depends on the time of day.
   virtual void SeedFromClock() = 0;
   [[nodiscard]] virtual double Next() = 0;
 };
 
-/// The random numbers of the program: steps of 2 to the power of -32.
+/// The program's random numbers: multiples of 2^-32.
 class ClockSeededNumbers : public RandomNumbers {
  public:
   explicit ClockSeededNumbers(const Clock& clock) : clock_(clock) {}

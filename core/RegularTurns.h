@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// Gives the event loop a turn at every 100th step of a long work.
+/// Gives the event loop a turn at every 100th step of a long operation.
 class RegularTurns {
  public:
   explicit RegularTurns(EventLoop& events) : events_(events) {}

@@ -6,11 +6,11 @@
 
 namespace vantorium {
 
-/// The small window that is up while the rows are shuffled: a label "Shuffling Images...", a bar and a button "&Stop".
+/// The window shown while the rows are shuffled: a label "Shuffling Images...", a bar and a button "&Stop".
 class ShuffleProgress {
  public:
   virtual ~ShuffleProgress() = default;
-  /// Shows the window with an empty bar and returns at once; nothing has been stopped yet.
+  /// Shows the window with an empty bar and returns immediately; resets StopRequested.
   virtual void Open() = 0;
   /// 0 to 100.
   virtual void SetPercent(double percent) = 0;
@@ -18,15 +18,16 @@ class ShuffleProgress {
   virtual void Close() = 0;
 };
 
-/// What a shuffle works with.
+/// What ShuffleRows needs.
 struct ShuffleTools {
   ShuffleProgress& progress;
   EventLoop& eventLoop;
   RandomNumbers& random;
 };
 
-/// Moves a random row to a random place, twice as often as the list has rows; `tools.random` gives the row first, then
-/// the place. From round 250 on each round begins with a turn of the event loop and can be stopped. False when it was.
+/// Moves a random row to a random place, twice as many times as there are rows; `tools.random` gives first the row,
+/// then the place. From round 250 on, each round begins with a turn of the event loop and can be stopped. Returns false
+/// if stopped.
 [[nodiscard]] bool ShuffleRows(ImageList& images, const ShuffleTools& tools);
 
 }  // namespace vantorium

@@ -11,7 +11,7 @@ struct NumberedName {
   std::size_t number;
 };
 
-/// Takes "base_12" apart. Nothing for a name that no number of a base can give, such as "base_0" or "base_012".
+/// Splits "base_12". Returns nullopt for a name that no number of a base produces, such as "base_0" or "base_012".
 std::optional<NumberedName> TakenApart(std::string_view name) {
   const auto underscore = name.rfind('_');
   if (underscore == std::string_view::npos) return std::nullopt;
@@ -44,7 +44,7 @@ void UniqueNames::MarkTaken(Numbers& numbers, std::size_t number) {
   numbers.free.erase(number);
 }
 
-// Walks up from where the last walk ended, so that a taken name is passed once and not at each wish for its base.
+// Continues where the last search ended, so that a taken name is passed only once, not at each request for its base.
 std::size_t UniqueNames::LowestFreeNumber(const std::string& base) {
   Numbers& numbers = numbers_[base];
   if (!numbers.free.empty()) return *numbers.free.begin();
@@ -62,7 +62,7 @@ void UniqueNames::Release(std::string_view name) {
   if (numbers == numbers_.end() || parts->number >= numbers->second.next) return;
   auto& [next, free] = numbers->second;
   free.insert(parts->number);
-  // With no number left in use the base is forgotten, so that only names in the list cost memory.
+  // Forgets a base none of whose numbers is in use, so that only names in the list cost memory.
   if (free.size() + 1 == next) numbers_.erase(numbers);
 }
 

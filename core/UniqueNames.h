@@ -10,14 +10,14 @@
 
 namespace vantorium {
 
-/// The set of names of a list. Names are compared exactly. Each operation takes logarithmic time on the average of
-/// many, also when all names wish to be the same.
+/// The set of names of a list. Names are compared exactly. Operations take amortized logarithmic time, even if every
+/// requested name is the same.
 class UniqueNames {
  public:
   [[nodiscard]] bool IsTaken(std::string_view name) const { return taken_.contains(name); }
 
-  /// Takes `wanted`, or, when that is taken, `wanted` + "_" + the lowest number from 1 that gives a free name. Returns
-  /// the name that was taken.
+  /// Takes `wanted`, or, if that is taken, `wanted` + "_" + the lowest number from 1 that gives a free name. Returns
+  /// the name taken.
   std::string Take(const std::string& wanted);
   /// Makes a taken name free again.
   void Release(std::string_view name);
@@ -28,7 +28,7 @@ class UniqueNames {
     using is_transparent = void;
   };
 
-  /// The numbers that were handed out to one base: those below `next` are taken, except the ones in `free`.
+  /// The numbers given out for one base: those below `next` are taken, except the ones in `free`.
   struct Numbers {
     std::size_t next = 1;
     std::set<std::size_t> free;
@@ -39,7 +39,7 @@ class UniqueNames {
   std::size_t LowestFreeNumber(const std::string& base);
 
   std::unordered_set<std::string, Hash, std::equal_to<>> taken_;
-  NumbersOfBases numbers_;  ///< of the bases that were wanted more than once
+  NumbersOfBases numbers_;  ///< of the bases that were requested more than once
 };
 
 }  // namespace vantorium

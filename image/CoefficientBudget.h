@@ -7,15 +7,15 @@
 
 namespace vantorium {
 
-/// Bounds the memory that decoders of pictures in several scans hold at the same time: all of the picture's
-/// coefficients, some 70 MB for 24 megapixels. Shared by the workers of a run.
+/// Limits the memory that decoders of multi-scan pictures hold at one time: each holds all coefficients of its picture,
+/// about 70 MB for 24 megapixels. Shared by the workers of a run.
 class CoefficientBudget {
  public:
   explicit CoefficientBudget(std::uint64_t bytes) : limit_(bytes) {}
   CoefficientBudget(const CoefficientBudget&) = delete;
   CoefficientBudget& operator=(const CoefficientBudget&) = delete;
 
-  /// A share of the budget, given back with the object.
+  /// A share of the budget, returned by the destructor.
   class Share {
    public:
     Share() = default;
@@ -29,7 +29,8 @@ class CoefficientBudget {
     std::uint64_t bytes_ = 0;
   };
 
-  /// Waits until `bytes` fit. A picture beyond the whole budget waits until it is alone. A stop ends the waiting.
+  /// Blocks until `bytes` fit in the budget. A picture larger than the whole budget waits until no other share is held.
+  /// A stop request ends the wait.
   [[nodiscard]] Share Take(std::uint64_t bytes, const std::stop_token& stop);
 
  private:

@@ -11,10 +11,10 @@
 namespace vantorium {
 namespace {
 
-/// By the name in lower case.
+/// Keyed by the name in lower case.
 using Names = std::map<std::string, std::string>;
 
-/// Whether Pango draws letters of the font. Those of other formats it leaves out.
+/// Whether Pango can draw letters of the font. It leaves out fonts of other formats.
 bool IsDrawable(const FcPattern* font) {
   FcChar8* format = nullptr;
   if (FcPatternGetString(font, FC_FONTFORMAT, 0, &format) != FcResultMatch) return false;
@@ -22,8 +22,7 @@ bool IsDrawable(const FcPattern* font) {
   return name == "TrueType" || name == "CFF";
 }
 
-/// Whether a LogFont can ask for the name: it has room for so many characters, and Pango takes a comma for the end of a
-/// name.
+/// Whether a LogFont can select the name: it must fit, and Pango takes a comma as the end of a name.
 bool CanBeAskedFor(const std::string& name) {
   return name.find(',') == std::string::npos && FaceNameOf(name) == name;
 }

@@ -7,8 +7,8 @@
 
 namespace vantorium {
 
-/// The names by which a LogFont gets a font of the map and no stand-in: all names of each font, since one of a family's
-/// widths may have a name of its own. Each once and sorted, whatever the case of their letters.
+/// Returns the names under which a LogFont selects a font of `map` itself rather than a substitute: every name of each
+/// font, since a width of a family may have its own name. Sorted and unique, ignoring ASCII case.
 [[nodiscard]] std::vector<std::string> FaceNamesOf(PangoFontMap* map);
 
 }  // namespace vantorium

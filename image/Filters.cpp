@@ -9,9 +9,9 @@
 namespace vantorium {
 namespace {
 
-// The luminance is a quotient of whole numbers up to 255000, each of them a single. Rounding to the single goes nowhere
-// over a tie, because ties are singles too; adding 1.5 * 2^23 then leaves no bits for a fraction and rounds ties to
-// even.
+// The luminance is a quotient of integers up to 255000, which floats represent exactly. Rounding the quotient to a
+// float never crosses a tie, because ties are floats too; adding 1.5 * 2^23 then leaves no bits for a fraction and
+// rounds ties to even.
 VANTORIUM_VECTOR_CLONES
 void GrayScaleRow(std::uint8_t* row, std::size_t width) {
   constexpr float kNoFraction = 12582912.0F;
@@ -25,7 +25,7 @@ void GrayScaleRow(std::uint8_t* row, std::size_t width) {
   }
 }
 
-// p / 255 is (p + 1 + p / 256) / 256 for every product of two bytes, and all of it fits 16 bits.
+// p / 255 equals (p + 1 + p / 256) / 256 for every product of two bytes, and all intermediate values fit in 16 bits.
 VANTORIUM_VECTOR_CLONES
 void FadeRow(std::uint8_t* row, std::size_t bytes, std::uint16_t amount) {
   for (std::size_t i = 0; i < bytes; ++i) {

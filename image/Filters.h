@@ -7,26 +7,27 @@
 
 namespace vantorium {
 
-// The filters: each changes a picture in place, in one pass, and leaves the padding of its rows alone. The picture must
-// not be empty. A byte that would leave 0 to 255, which no amount in the stated range brings about, is RuntimeFailure
-// Overflow.
+// The filters. Each changes a picture in place, in one pass, and does not touch the padding of the rows. The picture
+// must not be empty. Throws RuntimeFailure Overflow if a byte would leave 0 to 255, which cannot happen for amounts in
+// the stated range.
 
-/// Gives all three bytes of each pixel its luminance.
+/// Sets all three bytes of each pixel to its luminance.
 void GrayScale(cDIBSection& dib);
 
-/// Scales each byte towards black: 255 leaves it as it is, 0 makes it black. `amount` is 0 to 255.
+/// Scales each byte towards black: 255 leaves it unchanged, 0 makes it black. `amount` is 0 to 255.
 void Fade(cDIBSection& dib, std::int32_t amount);
 
-/// Scales the lightness of each pixel by 1 + amount / 100. `amount` is -100 to 100. 0 is not quite a copy: the way to
-/// hue and lightness and back rounds.
+/// Scales the lightness of each pixel by 1 + amount / 100. `amount` is -100 to 100. 0 is not an exact copy: converting
+/// to hue and lightness and back rounds.
 void Lighten(cDIBSection& dib, std::int32_t amount);
 
-/// Moves each byte by a random offset of up to about 64 * amount / 100 either way. With `random` a share of `amount`
-/// hundredths of the pixels is left alone, so that 100 changes nothing. `amount` is 0 to 100. Each call is a pass of
+/// Adds a random offset of up to about 64 * amount / 100, in either direction, to each byte. With `random`, `amount`
+/// percent of the pixels are left unchanged, so 100 changes nothing. `amount` is 0 to 100. Each call is one pass of
 /// `stream`.
 void AddNoise(cDIBSection& dib, std::int32_t amount, bool random, NoiseStream& stream);
 
-/// Fills the picture with random pixels: grey ones, or with red and green of their own and no blue. A pass of `stream`.
+/// Fills the picture with random pixels: gray, or else with independent red and green and no blue. One pass of
+/// `stream`.
 void RandomiseBits(cDIBSection& dib, bool gray, NoiseStream& stream);
 
 }  // namespace vantorium

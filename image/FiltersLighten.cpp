@@ -7,32 +7,32 @@
 namespace vantorium {
 namespace {
 
-// The conversion to hue, saturation and lightness and back as mHLSRGB does it, stage by stage over pieces of a row, so
-// that the compiler can work on several pixels at a time. No rounding differs from mHLSRGB's.
+// Converts to hue, saturation and lightness and back like mHLSRGB, but stage by stage over pieces of a row, so that the
+// compiler can process several pixels at a time. Every rounding is the same as in mHLSRGB.
 //
-// The bytes alone decide which channel is the highest and on which side of its hue the pixel lies, so the channels are
-// sorted first, and put back at the end. Where the highest channel is there twice, mHLSRGB may come back with the other
-// one as the highest and this one as the middle one; both have the same byte then.
+// The bytes alone determine which channel is the highest and on which side of its hue the pixel lies, so the channels
+// are sorted first and put back at the end. If two channels are the highest, mHLSRGB may return with the other one as
+// the highest and this one as the middle one; both then have the same byte.
 
-// So many pixels stay in the nearest cache.
+// Pixels in a piece: few enough to stay in the L1 cache.
 constexpr std::size_t kPiece = 128;
 
-// The pixels of a piece, their channels in the order of their values.
+// The pixels of a piece, with their channels sorted by value.
 struct SortedBytes {
   std::uint8_t high[kPiece];
   std::uint8_t middle[kPiece];
   std::uint8_t low[kPiece];
-  std::uint8_t place[kPiece];  // the hue of the highest channel, 0, 2 or 4, and kFalling when the pixel's hue is below
+  std::uint8_t place[kPiece];  // the hue of the highest channel, 0, 2 or 4, plus kFalling if the pixel's hue is below
 };
 constexpr std::uint8_t kFalling = 1;
 
-// The same as parts of 1. What mHLSRGB stores as a single is one here too, only held in a double: vectors then have the
-// same pixels for every value.
+// The same as fractions of 1. Values that mHLSRGB stores as floats are rounded to floats here too, but held in doubles,
+// so that vectors hold the same pixels for every value.
 struct SortedParts {
   double high[kPiece];
   double middle[kPiece];
   double low[kPiece];
-  double third[kPiece];  // the hue of the highest channel, negative when the pixel's hue is below
+  double third[kPiece];  // the hue of the highest channel, negative if the pixel's hue is below
   double delta[kPiece];
   double light[kPiece];
   double saturation[kPiece];
@@ -48,7 +48,7 @@ inline double Rounded(double value) {
   return (value + kNoFraction) - kNoFraction;
 }
 
-// Grey pixels have the dividend 0, and their quotient has to be 0. Any other divisor is at least 1 / 255.
+// Gray pixels have dividend 0, and their quotient must be 0. Any other divisor is at least 1 / 255.
 inline double AtLeastTiny(double divisor) {
   return divisor < 0.001 ? 0.001 : divisor;
 }
@@ -72,7 +72,7 @@ void Sort(const std::uint8_t* pixels, std::size_t count, SortedBytes& sorted) {
   }
 }
 
-// One operation on singles, rounded to a single, is the same in single and in double precision.
+// One operation on floats, rounded to a float, gives the same result in single and double precision.
 VANTORIUM_VECTOR_CLONES
 void ToParts(const SortedBytes& sorted, SortedParts& parts) {
   for (std::size_t i = 0; i < kPiece; ++i) {
@@ -101,7 +101,7 @@ void LightenParts(SortedParts& parts, double factor) {
   }
 }
 
-// `high` becomes the lowest channel of the result: it is not needed any more, while the old `low` is.
+// Stores the lowest channel of the result in `high`, which is no longer needed; the old `low` still is.
 VANTORIUM_VECTOR_CLONES
 void FindNewLow(SortedParts& parts) {
   for (std::size_t i = 0; i < kPiece; ++i) {
@@ -112,8 +112,8 @@ void FindNewLow(SortedParts& parts) {
   }
 }
 
-// The hue is rounded where it stands on the circle, and what counts of it is its distance from the highest channel.
-// Below that channel all is turned round: a negative hue plus the quotient is rounded as the hue minus the quotient is.
+// The hue is rounded at its position on the circle; its distance from the highest channel's hue is what counts. Below
+// that hue the signs are reversed: a negative hue plus the quotient rounds like the hue minus the quotient.
 VANTORIUM_VECTOR_CLONES
 void ToResult(SortedParts& parts) {
   for (std::size_t i = 0; i < kPiece; ++i) {

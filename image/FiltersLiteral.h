@@ -7,8 +7,8 @@
 
 namespace vantorium {
 
-// What the filters of the same names have to equal byte for byte, written as plainly as their rules are told. They
-// serve as the reference of the tests, and for amounts outside the stated ranges.
+// Straightforward versions of the filters, which must produce the same bytes. Tests use them as the reference; the
+// filters call them for amounts outside the stated ranges.
 
 void GrayScaleLiteral(cDIBSection& dib);
 void FadeLiteral(cDIBSection& dib, std::int32_t amount);

@@ -7,11 +7,11 @@
 namespace vantorium {
 namespace {
 
-// Pixels are worked on in pieces of this many, which stay in the nearest cache.
+// Pixels are processed in pieces of this many, which stay in the L1 cache.
 constexpr std::int32_t kPiece = 256;
 
-// The random number has 24 bits, so r * spread is a whole number of 2^-24ths that fits 31 bits, and all is exact in
-// integers. The half that rounds is one short when the whole part is even: a tie goes to the even side.
+// The random number has 24 bits, so r * spread is a multiple of 2^-24 that fits in 31 bits, and integer arithmetic is
+// exact. The half added for rounding is one less if the whole part is even, so ties go to even.
 inline std::int32_t Noisy(std::int32_t byte, std::uint32_t bits, std::int32_t spread) {
   const auto product = static_cast<std::int32_t>(bits) * spread;
   const std::int32_t whole = byte - spread / 2 + (product >> 24);
@@ -26,7 +26,7 @@ void AddNoiseToBytes(std::uint8_t* bytes, std::int32_t count, NoiseRow noise, st
   }
 }
 
-// `treated` has all bits set for the pixels whose number is above the amount. A number of 24 bits times 100 fits 31
+// Sets all bits of `treated` for the pixels whose number is above the amount. A 24-bit number times 100 fits in 31
 // bits.
 VANTORIUM_VECTOR_CLONES
 void ChoosePixels(std::uint8_t* treated, std::int32_t count, NoiseRow noise, std::int32_t first, std::int32_t amount) {

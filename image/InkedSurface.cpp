@@ -8,8 +8,8 @@
 namespace vantorium {
 namespace {
 
-/// The library packs 32 pixels to a word of the machine, the first one in the lowest bit on machines that store the
-/// lowest byte first, and in the highest bit on the others.
+/// The bits of a one-bit surface. Cairo packs 32 pixels into a machine word, the first one in the lowest bit on
+/// little-endian machines and in the highest bit on big-endian ones.
 class BitRows {
  public:
   explicit BitRows(cairo_surface_t* surface)
@@ -36,7 +36,7 @@ class BitRows {
   std::int32_t stride_;
 };
 
-/// From the first to behind the last.
+/// A half-open range: `end` is one past the last.
 struct Range {
   std::int32_t first = 0;
   std::int32_t end = 0;

@@ -5,8 +5,8 @@
 namespace vantorium {
 namespace {
 
-// Arithmetic coding has no least number of bits for a block. Up to 2^18 blocks, some 11 megapixels, such a picture is
-// cheap enough to be believed.
+// Arithmetic coding has no minimum number of bits per block. Up to 2^18 blocks, about 11 megapixels, such a picture is
+// accepted because decoding it is cheap.
 constexpr std::uint64_t kBelievedBlocks = std::uint64_t{1} << 18;
 
 }  // namespace
@@ -20,8 +20,8 @@ std::uint64_t BlocksOf(const jpeg_decompress_struct& codec) {
   return blocks;
 }
 
-// Huffman codes have at least one bit. A sequential block has two codes, of its first coefficient and of its end; of a
-// progressive block only the first coefficient is certain to have one.
+// A Huffman code has at least one bit. A sequential block has two codes, for its first coefficient and its end; a
+// progressive block is certain to have one only for its first coefficient.
 bool CanHold(std::uint64_t bytes, const jpeg_decompress_struct& codec) {
   const std::uint64_t blocks = BlocksOf(codec);
   const std::uint64_t bits = bytes * 8;

@@ -8,12 +8,12 @@
 
 namespace vantorium {
 
-// What the header of a JPEG file claims, once it was read.
+// What the header of a JPEG file claims, once it has been read.
 
-/// Blocks of 8 x 8 samples of all components.
+/// Returns the number of blocks of 8 x 8 samples in all components.
 [[nodiscard]] std::uint64_t BlocksOf(const jpeg_decompress_struct& codec);
 
-/// Whether a file of so many bytes can hold the claimed blocks.
+/// Returns whether a file of `bytes` bytes can hold the claimed blocks.
 [[nodiscard]] bool CanHold(std::uint64_t bytes, const jpeg_decompress_struct& codec);
 
 }  // namespace vantorium

@@ -15,22 +15,21 @@
 namespace vantorium {
 namespace {
 
-// Files in many scans cost a pass over the whole picture for each of them, however few bytes it has. Encoders write
-// about ten.
+// Each scan costs a pass over the whole picture, however few bytes it has. Encoders write about ten.
 constexpr int kMostScans = 500;
 
-// For the coefficients of a picture in several scans: enough for 350 megapixels with halved chroma.
+// Memory for the coefficients of a multi-scan picture: enough for 350 megapixels with halved chroma.
 constexpr long kMostMemory = 1L << 30;
 
-// Called by the library again and again while it reads a file in several scans.
+// libjpeg-turbo calls this repeatedly while it reads a multi-scan file.
 void LimitScans(j_common_ptr common) {
   const auto* codec = reinterpret_cast<j_decompress_ptr>(common);
   const auto* stop = static_cast<const std::stop_token*>(codec->client_data);
   if (codec->input_scan_number > kMostScans || stop->stop_requested()) ERREXIT(common, JERR_NOTIMPL);
 }
 
-// The reserved markers that the library stops at. Their segments have a length like all others; files of several
-// pictures in one (DE, DF) stay refused.
+// The reserved markers at which libjpeg-turbo stops. Their segments have a length like all others. Hierarchical files
+// (DE, DF) remain refused.
 bool IsReserved(int marker) {
   return (marker >= 0x02 && marker <= 0xBF) || (marker >= 0xF0 && marker <= 0xFD);
 }
@@ -49,9 +48,9 @@ void SkipSegment(jpeg_decompress_struct& codec) {
   codec.unread_marker = 0;
 }
 
-// Whether rows may be skipped from anywhere. The library loses its place when it leaves a group of rows that share
-// chroma in the middle, unless it interpolates chroma between groups; that it does for chroma of half the width and
-// height, more than two samples wide.
+// Whether skipping may start at any row. libjpeg-turbo loses its place when skipping starts inside a group of rows that
+// share chroma, unless it interpolates chroma between groups. It does so for chroma of half the width and height that
+// is more than two samples wide.
 bool SkipsFromAnywhere(const jpeg_decompress_struct& codec) {
   if (codec.max_v_samp_factor <= 1) return true;
   for (int i = 0; i < codec.num_components; ++i) {
@@ -63,8 +62,8 @@ bool SkipsFromAnywhere(const jpeg_decompress_struct& codec) {
   return false;
 }
 
-// Whether the scans read so far brought every coefficient to the last bit. Of arithmetic codes nobody can say so: what
-// their data lack at the end counts as zeros.
+// Whether the scans read so far contain every coefficient to its last bit. This cannot be told for arithmetic coding,
+// which decodes missing data at the end as zeros.
 bool HasEveryCoefficient(const jpeg_decompress_struct& codec) {
   if (codec.arith_code != FALSE) return false;
   for (int i = 0; i < codec.num_components; ++i) {
@@ -97,7 +96,7 @@ struct JPEGDecoder::State {
   std::stop_token stop;
   jpeg_progress_mgr progress = {};
   jpeg_decompress_struct codec = {};
-  std::vector<std::uint8_t> inks;      // one row, when the file is in inks
+  std::vector<std::uint8_t> inks;      // one row, for CMYK and YCCK files
   std::vector<std::uint8_t> unwanted;  // a row that could not be skipped
 };
 
@@ -110,7 +109,7 @@ void JPEGDecoder::State::Create() {
   codec.client_data = &stop;
 }
 
-// The library stops at such a marker as it stops where it waits for data, and takes the same call up again.
+// libjpeg-turbo stops at such a marker as it does when it waits for data, and resumes when the same call is repeated.
 template <typename Work>
 bool JPEGDecoder::State::RunPastReservedMarkers(Work work) {
   while (!errors.Run(work)) {
@@ -125,7 +124,7 @@ void JPEGDecoder::State::ChooseOutput() {
   codec.out_color_space = inInks ? JCS_CMYK : JCS_EXT_BGR;
 }
 
-// Whether nothing is known to be missing of the data read so far.
+// Whether none of the data read so far is known to be missing.
 bool JPEGDecoder::State::IsWhole() const {
   return !errors.Damaged() && (!errors.EndedEarly() || HasEveryCoefficient(codec));
 }
@@ -194,7 +193,7 @@ bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
   JDIMENSION rows = 0;
   const bool done = state.errors.Run([&] { rows = jpeg_read_scanlines(&state.codec, &row, 1); });
   if (!done || rows != 1) return false;
-  // Files with the Adobe marker hold the light that is left, the others the ink.
+  // Files with the Adobe marker store the light that the ink leaves, all others the ink.
   if (state.HasInks()) InksToBGR(state.inks, state.codec.saw_Adobe_marker == FALSE, bgr);
   return state.IsWhole();
 }

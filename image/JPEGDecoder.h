@@ -7,11 +7,12 @@
 
 namespace vantorium {
 
-/// Decodes one JPEG file row by row, from the top of the picture down. The order of calls is Open, Start, then ReadRow
-/// and SkipRows until all rows are through, then Finish. Any call may answer false; the file is then given up.
+/// Decodes one JPEG file row by row, from the top of the picture down. Call Open, Start, then ReadRow and SkipRows
+/// until all rows are consumed, then Finish. Once a call returns false the file cannot be decoded.
 ///
-/// Grey, YCbCr, RGB, CMYK and YCCK pictures of 8 bits a sample come out as blue, green, red. Decoding is the library's
-/// default: the accurate integer transform and smooth chroma. Orientation tags and color profiles are not looked at.
+/// Gray, YCbCr, RGB, CMYK and YCCK pictures with 8 bits per sample are output as blue, green, red. Decoding uses
+/// libjpeg-turbo's defaults: the accurate integer DCT and smooth chroma upsampling. Orientation tags and color profiles
+/// are ignored.
 class JPEGDecoder {
  public:
   JPEGDecoder();
@@ -19,34 +20,36 @@ class JPEGDecoder {
   JPEGDecoder(const JPEGDecoder&) = delete;
   JPEGDecoder& operator=(const JPEGDecoder&) = delete;
 
-  /// A stop ends the calls that follow, Start in the middle of a file too, as if the file were damaged.
+  /// A stop request makes later calls fail as if the file were damaged, and interrupts Start. Takes effect with the
+  /// next Open.
   void StopWith(const std::stop_token& stop);
-  /// Opens the file and reads its header. False for whatever is no JPEG file.
+  /// Opens the file and reads its header. Returns false if `path` is not a readable JPEG file.
   [[nodiscard]] bool Open(const std::filesystem::path& path);
-  /// The picture's size in pixels; known once Open succeeded.
+  /// The picture's size in pixels. Valid after Open has succeeded.
   [[nodiscard]] std::int32_t width() const;
   [[nodiscard]] std::int32_t height() const;
-  /// Whether a file of this size can hold as many pixels as its header claims. The others are refused by Start, which
-  /// would otherwise take memory and time for pictures that are not there.
+  /// Returns whether a file of this size can hold as many pixels as its header claims. If not, Start refuses the file,
+  /// since it would spend memory and time on a picture that does not exist.
   [[nodiscard]] bool IsPlausible() const;
-  /// Bytes of coefficients that Start will hold: those of the whole picture when it came in several scans, else none.
+  /// Returns the bytes of coefficients that Start will hold: those of the whole picture if it has several scans,
+  /// otherwise 0.
   [[nodiscard]] std::uint64_t HeldBytes() const;
 
-  /// Between Open and Start: the picture shall come out with both sides divided by 1, 2, 4 or 8, rounded up, which
-  /// takes much less time. SkipRows is not for such a picture.
+  /// Scales the output down: both sides are divided by 1, 2, 4 or 8 and rounded up, which is much faster. Call between
+  /// Open and Start. SkipRows does not support it.
   void ReduceBy(int divisor);
-  /// The size of what comes out, in pixels.
+  /// The size of the output in pixels.
   [[nodiscard]] std::int32_t OutputWidth() const;
   [[nodiscard]] std::int32_t OutputHeight() const;
 
   [[nodiscard]] bool Start();
-  /// Writes the next row, 3 bytes a pixel, to `bgr`. False as soon as the data turn out to be damaged or to end early.
+  /// Writes the next row, 3 bytes per pixel, to `bgr`. Returns false once the data prove damaged or truncated.
   [[nodiscard]] bool ReadRow(std::uint8_t* bgr);
-  /// Leaves out the next `count` rows. The rows behind them come out as if these had been read. Damage in the rows
-  /// that end the picture may go unnoticed when they are skipped.
+  /// Skips the next `count` rows. The rows after them are the same as if these had been read. Damage in the last rows
+  /// of the picture may go unnoticed if they are skipped.
   [[nodiscard]] bool SkipRows(std::int32_t count);
-  /// Reads to the end mark, or to the end of a file that lacks nothing else. False when the data were damaged anywhere
-  /// or rows are left.
+  /// Reads to the end marker, or to the end of the file if nothing but the marker is missing. Returns false if the data
+  /// were damaged anywhere or rows remain.
   [[nodiscard]] bool Finish();
 
  private:

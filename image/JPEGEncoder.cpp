@@ -26,11 +26,11 @@ struct JPEGEncoder::State {
   JPEGErrors errors;
   jpeg_compress_struct codec = {};
   jpeg_destination_mgr destination = {};
-  std::array<JOCTET, 32768> block = {};  // what the library fills
-  std::string bytes;                     // what it has filled before
+  std::array<JOCTET, 32768> block = {};  // filled by libjpeg-turbo
+  std::string bytes;                     // all blocks filled before
 };
 
-// No exception may run through the library.
+// Exceptions must not propagate through libjpeg-turbo.
 bool JPEGEncoder::State::AppendBlock(std::size_t size) noexcept {
   try {
     bytes.append(reinterpret_cast<const char*>(block.data()), size);
@@ -87,7 +87,7 @@ JPEGEncoder::~JPEGEncoder() = default;
 
 void JPEGEncoder::WriteRow(const std::uint8_t* bgr) {
   State& state = *state_;
-  // The library only reads the row; its type lacks the const.
+  // libjpeg-turbo only reads the row; its type lacks const.
   JSAMPROW row = const_cast<JSAMPROW>(bgr);
   state.Check(state.errors.Run([&] { jpeg_write_scanlines(&state.codec, &row, 1); }));
 }

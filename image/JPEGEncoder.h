@@ -7,8 +7,8 @@
 namespace vantorium {
 
 /// Encodes one picture row by row, from the top down, into memory: baseline, YCbCr with chroma halved in both
-/// directions, default Huffman tables, the accurate integer transform. Each call throws RuntimeFailure JPEGLibrary with
-/// "Failed to save to JPG " and the library's words, also for a side of 0 or one above 65500.
+/// directions, default Huffman tables, the accurate integer DCT. Any call may throw RuntimeFailure JPEGLibrary with
+/// "Failed to save to JPG " and libjpeg-turbo's message, for example for a side of 0 or above 65500.
 class JPEGEncoder {
  public:
   /// `quality` is on the scale of the Independent JPEG Group, 1 to 100.
@@ -17,9 +17,9 @@ class JPEGEncoder {
   JPEGEncoder(const JPEGEncoder&) = delete;
   JPEGEncoder& operator=(const JPEGEncoder&) = delete;
 
-  /// The next row, 3 bytes a pixel: blue, green, red.
+  /// Encodes the next row, 3 bytes per pixel: blue, green, red.
   void WriteRow(const std::uint8_t* bgr);
-  /// The bytes of the file, once all rows are written. To be called once.
+  /// Returns the bytes of the file. Call once, after all rows are written.
   [[nodiscard]] std::string Finish();
 
  private:

@@ -5,7 +5,7 @@
 namespace vantorium {
 namespace {
 
-// Unknown versions, stray bytes between segments and the like are no damage: the picture is whole all the same.
+// Unknown versions, stray bytes between segments and the like are not damage: the picture is still complete.
 bool MeansDamage(int warning) {
   switch (warning) {
     case JWRN_ARITH_BAD_CODE:
@@ -46,7 +46,7 @@ void JPEGErrors::OnMessage(j_common_ptr codec, int level) {
   if (record->manager.msg_code == JWRN_JPEG_EOF) record->endedEarly = true;
 }
 
-// The one place that the jump comes back to. It holds no object, so there is none whose destructor could be missed.
+// The only target of longjmp. It holds no objects, so no destructor can be skipped.
 bool JPEGErrors::RunGuarded(void (*work)(void*), void* context) {
   if (failed_) return false;
   failed_ = true;

@@ -10,40 +10,40 @@
 
 namespace vantorium {
 
-/// How one codec object of the JPEG library reports: its errors end the guarded call, its warnings are sorted into
-/// damage of the picture and harmless oddities. Nothing is printed.
+/// Handles the errors of one libjpeg-turbo codec object. Errors end the guarded call; warnings are classified as damage
+/// to the picture or as harmless. Prints nothing.
 class JPEGErrors {
  public:
   JPEGErrors();
   JPEGErrors(const JPEGErrors&) = delete;
   JPEGErrors& operator=(const JPEGErrors&) = delete;
 
-  /// What goes into the `err` field of the codec.
+  /// The value for the codec's `err` field.
   [[nodiscard]] jpeg_error_mgr* Manager() { return &record_.manager; }
 
-  /// Calls `work`, which calls the library. False when the library gave up, and ever after without a call: the codec is
-  /// then good for nothing but its destruction. The library leaves `work` by a jump, so no object with a destructor may
-  /// live in it, and no exception may leave it.
+  /// Calls `work`, which calls libjpeg-turbo. Returns false if libjpeg-turbo reports an error; later calls then return
+  /// false without calling `work`, and the codec can only be destroyed. libjpeg-turbo leaves `work` with longjmp, so
+  /// `work` must not hold objects with destructors and must not throw.
   template <typename Work>
   [[nodiscard]] bool Run(Work work) {
     return RunGuarded([](void* context) { (*static_cast<Work*>(context))(); }, &work);
   }
 
   [[nodiscard]] bool Failed() const { return failed_; }
-  /// Whether the library gave up over a marker that it does not know. It may then be called again, once the marker is
-  /// out of its way.
+  /// Returns whether the error was an unknown marker, and clears it then: the call may be repeated once the marker has
+  /// been skipped.
   [[nodiscard]] bool ForgiveUnknownMarker();
 
-  /// Whether a warning said that picture data are missing or wrong.
+  /// Whether a warning reported missing or wrong picture data.
   [[nodiscard]] bool Damaged() const { return record_.damaged; }
-  /// Whether the file ended without an end mark. That alone is no damage: the library goes on as if there were one, and
-  /// says of Huffman codes that it misses that they are missing.
+  /// Whether the file ended without an end marker. This alone is not damage: libjpeg-turbo continues as if there were
+  /// one, and reports missing Huffman codes separately.
   [[nodiscard]] bool EndedEarly() const { return record_.endedEarly; }
-  /// The library's words for the error.
+  /// libjpeg-turbo's message for the error.
   [[nodiscard]] std::string Text() const { return record_.text; }
 
  private:
-  // The manager is the first member of the record: the library hands a pointer to it to the handlers.
+  // The manager must be the first member: libjpeg-turbo passes the handlers a pointer to it, which they cast to Record.
   struct Record {
     jpeg_error_mgr manager = {};
     std::jmp_buf jump = {};

@@ -13,8 +13,8 @@ struct FileCloser {
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens a regular file for reading and tells its size in bytes. Null for what is missing or may not be read, and for
-/// folders, pipes and devices, without waiting for anybody at their other end.
+/// Opens a regular file for reading and sets `size` to its size in bytes. Returns null if the file is missing, may not
+/// be read, or is a folder, pipe or device; never waits for the other end of a pipe.
 [[nodiscard]] FileHandle OpenRegularFile(const std::filesystem::path& path, std::uint64_t& size);
 
 }  // namespace vantorium

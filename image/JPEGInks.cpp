@@ -9,7 +9,7 @@ std::uint8_t Product(unsigned left, unsigned right) {
 
 }  // namespace
 
-// Each ink leaves its share of the light, and of that the black ink leaves its own.
+// Each ink leaves a share of the light, and black leaves a share of that.
 void InksToBGR(std::span<const std::uint8_t> row, bool areInks, std::uint8_t* bgr) {
   const unsigned turned = areInks ? 0xFF : 0;
   for (std::size_t i = 0; i + 3 < row.size(); i += 4, bgr += 3) {

@@ -5,8 +5,8 @@
 
 namespace vantorium {
 
-/// Turns a row of four bytes a pixel, cyan, magenta, yellow and black, into blue, green and red. Each byte is the ink,
-/// or, without `areInks`, the light that the ink leaves.
+/// Converts a row of 4 bytes per pixel (cyan, magenta, yellow, black) to blue, green, red. With `areInks` each byte is
+/// the amount of ink, otherwise the light that the ink leaves.
 void InksToBGR(std::span<const std::uint8_t> row, bool areInks, std::uint8_t* bgr);
 
 }  // namespace vantorium

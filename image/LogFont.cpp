@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kFaceNameCharacters = 31;
 
-/// The first characters of a UTF-8 text, whole ones.
+/// Returns the first `count` characters of a UTF-8 text, never part of a character.
 std::string FirstCharacters(const std::string& text, std::size_t count) {
   std::size_t end = 0;
   for (; end < text.size(); ++end) {

@@ -7,12 +7,12 @@
 
 namespace vantorium {
 
-/// A font as text drawing is asked for one.
+/// A request for a font.
 struct LogFont {
-  std::int32_t lfHeight = 0;       ///< pixels: below 0 of the em, above 0 of a line; 0 leaves the size to the drawing
+  std::int32_t lfHeight = 0;  ///< pixels: negative for the em height, positive for the line height, 0 for the default
   std::int32_t lfEscapement = 0;   ///< angle of the line of text in tenths of a degree, counterclockwise
-  std::int32_t lfOrientation = 0;  ///< angle of each letter; always the same as lfEscapement
-  std::int32_t lfWeight = 0;       ///< 400 is normal, 700 bold; 0 leaves the weight to the drawing
+  std::int32_t lfOrientation = 0;  ///< angle of each letter; always equal to lfEscapement
+  std::int32_t lfWeight = 0;       ///< 400 is normal, 700 bold; 0 the default
   std::uint8_t lfItalic = 0;
   std::uint8_t lfUnderline = 0;
   std::uint8_t lfStrikeOut = 0;
@@ -22,11 +22,11 @@ struct LogFont {
 
 inline constexpr std::uint8_t kNonAntialiasedQuality = 3;
 
-/// What a LogFont has room for of the name of a face.
+/// Returns as much of a face name as fits in a LogFont.
 [[nodiscard]] std::string FaceNameOf(const std::string& name);
 
-/// The font that a watermark is set in. `pixelsPerInch` are those of a vertical inch of the screen: the size of the
-/// text depends on them and on its points, never on the picture.
+/// Returns the font of a watermark. `pixelsPerInch` is the screen's vertical resolution: the size of the text depends
+/// on it and on the point size, never on the picture.
 [[nodiscard]] LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixelsPerInch);
 
 }  // namespace vantorium

@@ -5,21 +5,21 @@
 namespace vantorium {
 
 /// The random numbers of one picture row. Number `index` is a pure function of the row's key and the index, so numbers
-/// may be asked for in any order.
+/// may be read in any order.
 class NoiseRow {
  public:
   explicit NoiseRow(std::uint64_t key)
       : first_(static_cast<std::uint32_t>(key >> 32)), second_(static_cast<std::uint32_t>(key)) {}
 
-  /// 24 random bits: the index keyed twice between the steps of a 32-bit mixer that lets each bit of its input turn
-  /// each bit of its output over half of the time.
+  /// 24 random bits: the index is keyed twice between the steps of a 32-bit mixer in which each input bit flips each
+  /// output bit half of the time.
   [[nodiscard]] std::uint32_t Bits(std::uint32_t index) const {
     std::uint32_t h = index ^ first_;
     h = (h ^ (h >> 16)) * 0x21F0AAADU;
     h = ((h ^ (h >> 15)) + second_) * 0xD35A2D97U;
     return (h ^ (h >> 15)) >> 8;
   }
-  /// Uniform in [0, 1): the bits as a single.
+  /// Uniform in [0, 1): the bits as a float.
   [[nodiscard]] float Uniform(std::uint32_t index) const { return static_cast<float>(Bits(index)) / 16777216.0F; }
 
  private:
@@ -27,19 +27,19 @@ class NoiseRow {
   std::uint32_t second_;
 };
 
-/// The random numbers of the pixels of one picture. They depend on the seed, the picture's number and the place in the
-/// picture alone: pictures may be worked on in any order, at the same time, with the same result.
+/// The random numbers for the pixels of one picture. They depend only on the seed, the picture's number and the
+/// position in the picture, so pictures may be processed in any order or in parallel with the same result.
 class NoiseStream {
  public:
-  /// For the rows of the picture from `firstRow` on, which Row counts from 0: a picture may be worked on in parts.
+  /// Row(0) is row `firstRow` of the picture, so a picture may be processed in parts.
   NoiseStream(std::uint64_t seed, std::uint64_t picture, std::int32_t firstRow = 0);
 
-  /// Begins the next pass over the picture, with numbers of its own.
+  /// Begins the next pass over the picture, which has its own numbers.
   void NextPass();
-  /// The numbers of a row in the present pass.
+  /// Returns the numbers of a row in the current pass.
   [[nodiscard]] NoiseRow Row(std::int32_t row) const;
 
-  /// Where the numbers of a row stand: one for each byte column, and one more for each pixel.
+  /// The index of a row's number: one for each byte column, and another one for each pixel.
   [[nodiscard]] static constexpr std::uint32_t OfByte(std::int32_t column) {
     return static_cast<std::uint32_t>(column);
   }

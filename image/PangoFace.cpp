@@ -12,7 +12,7 @@
 namespace vantorium {
 namespace {
 
-/// Rules behind those of the machine, and so above them.
+/// Fontconfig rules that are loaded after the machine's own and so override them.
 constexpr char kRules[] = R"(<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "fonts.dtd">
 <fontconfig>
@@ -30,11 +30,11 @@ constexpr char kRules[] = R"(<?xml version="1.0"?>
 </fontconfig>
 )";
 
-/// The size of a font that asks for none, in pixels of its em.
+/// The em height in pixels of a font with lfHeight 0.
 constexpr std::int32_t kDefaultEmHeight = 16;
-/// A text this large is refused for its size long before it is drawn.
+/// Text this large is refused for its size long before it is drawn.
 constexpr std::int32_t kLargestEmHeight = 1000000;
-/// The largest letters that the libraries can draw.
+/// The largest em height that Pango and Cairo can draw.
 constexpr std::int32_t kLargestLetters = 65000;
 
 FontOptionsHandle SharpPixels() {
@@ -50,7 +50,7 @@ GObjectHandle<PangoContext> MakeContext(PangoFontMap* map) {
   GObjectHandle<PangoContext> context(pango_font_map_create_context(map));
   pango_cairo_context_set_font_options(context.get(), SharpPixels().get());
   pango_cairo_context_set_resolution(context.get(), 96);
-  // The surroundings' language would choose among the fonts that stand in for missing letters.
+  // Otherwise the locale's language would influence which fonts substitute for missing letters.
   pango_context_set_language(context.get(), pango_language_from_string("en"));
   return context;
 }
@@ -64,15 +64,14 @@ FontDescriptionHandle Describe(const LogFont& font) {
   return description;
 }
 
-/// Height of the font above and below the base line, in units of `perEm` to the em.
+/// Heights above and below the baseline, in units of 1 / `perEm` em.
 struct DesignHeights {
   std::int32_t ascent;
   std::int32_t descent;
   std::int32_t perEm;
 };
 
-/// The heights that the font states for clipping are those that lines of text are set by; a font without them has only
-/// the ones for typesetting.
+/// Lines of text are spaced by the font's clipping heights; fonts without these have only the typesetting heights.
 DesignHeights HeightsOf(PangoFont* font) {
   hb_face_t* face = hb_font_get_face(pango_font_get_hb_font(font));
   const ShaperFontHandle shaper(hb_font_create(face));
@@ -93,7 +92,7 @@ std::int32_t WholePixels(int pangoUnits) {
 
 }  // namespace
 
-// The map itself would keep its configuration for ever.
+// Otherwise the map would never release its configuration.
 void FontMapReleaser::operator()(PangoFontMap* map) const {
   pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map), nullptr);
   g_object_unref(map);

@@ -13,15 +13,14 @@ struct FontMapReleaser {
 };
 using FontMapHandle = std::unique_ptr<PangoFontMap, FontMapReleaser>;
 
-/// The fonts of the machine, as texts without antialiasing use them: what the user's settings say about hinting and
-/// smoothing counts for nothing, and "Arial" is Liberation Sans, which has the same widths. Throws as
-/// CheckFontSettings.
+/// Loads the machine's fonts for drawing without antialiasing: the user's Fontconfig settings for hinting and smoothing
+/// are overridden, and "Arial" is Liberation Sans, which has the same widths. Throws like CheckFontSettings.
 [[nodiscard]] FontMapHandle MakeFontMap();
 
 /// One font at one size, upright. All measures are pixels.
 class PangoFace {
  public:
-  /// `map` must live as long as the face. Throws as CheckFont.
+  /// `map` must outlive the face. Throws like CheckFont.
   PangoFace(PangoFontMap* map, const LogFont& font);
 
   [[nodiscard]] std::int32_t EmHeight() const { return emHeight_; }
@@ -29,7 +28,7 @@ class PangoFace {
   [[nodiscard]] std::int32_t LineHeight() const { return ascent_ + descent_; }
   [[nodiscard]] std::int32_t Descent() const { return descent_; }
 
-  /// A horizontal stroke: the rows from `top` on, counted downwards from the base line.
+  /// A horizontal stroke. `top` is its first row, counted down from the baseline.
   struct Stroke {
     std::int32_t top;
     std::int32_t thickness;
@@ -37,7 +36,7 @@ class PangoFace {
   [[nodiscard]] Stroke Underline() const;
   [[nodiscard]] Stroke Strikeout() const;
 
-  /// A text of one line, shaped. UTF-8 without control characters.
+  /// Shapes one line of text: UTF-8 without control characters.
   [[nodiscard]] GObjectHandle<PangoLayout> Shape(const std::string& line) const;
 
  private:

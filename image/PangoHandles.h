@@ -8,7 +8,7 @@
 
 namespace vantorium {
 
-// Owners of the objects that the text libraries hand out by pointer.
+// Owning handles for the objects of GLib, Pango, Cairo, Fontconfig and HarfBuzz.
 
 template <auto Release>
 struct HandleReleaser {

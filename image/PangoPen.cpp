@@ -10,11 +10,11 @@
 namespace vantorium {
 namespace {
 
-/// Letters up to this em are drawn pixel by pixel to the font's own rules, larger ones as the outlines that the rules
-/// would hardly change.
+/// Letters up to this em height in pixels are drawn as bitmaps with the font's own hinting, larger ones as outlines,
+/// which hinting would hardly change.
 constexpr std::int32_t kLargestBitmapEm = 512;
 
-/// How far letters and their marks may reach out of their line, in ems.
+/// How far letters and their marks may extend beyond their line, in ems.
 constexpr int kReach = 3;
 
 bool HasTable(hb_face_t* face, hb_tag_t tag) {
@@ -22,7 +22,7 @@ bool HasTable(hb_face_t* face, hb_tag_t tag) {
   return hb_blob_get_length(table.get()) > 0;
 }
 
-/// Whether the letters of a font are curves and not pictures.
+/// Whether the letters of a font are outlines and not bitmaps.
 bool HasOutlines(PangoFont* font) {
   hb_face_t* face = hb_font_get_face(pango_font_get_hb_font(font));
   if (hb_ot_color_has_png(face) != 0) return false;
@@ -30,7 +30,7 @@ bool HasOutlines(PangoFont* font) {
          HasTable(face, HB_TAG('C', 'F', 'F', '2'));
 }
 
-/// A box for each letter, from `x` on the base line.
+/// Draws a box for each letter, starting at `x` on the baseline.
 void DrawBoxes(cairo_t* cairo, const PangoGlyphString& glyphs, double x, double em) {
   constexpr double kBoxHeight = 0.75;
   for (int i = 0; i < glyphs.num_glyphs; ++i) {
@@ -41,8 +41,8 @@ void DrawBoxes(cairo_t* cairo, const PangoGlyphString& glyphs, double x, double 
   cairo_fill(cairo);
 }
 
-/// Draws letters from `x` on the base line. A picture of a letter would be enlarged in memory, whatever its size, so
-/// large ones are boxes.
+/// Draws letters starting at `x` on the baseline. Bitmap letters would be scaled up in memory, whatever their size, so
+/// large ones are drawn as boxes.
 void DrawGlyphs(cairo_t* cairo, PangoFont* font, PangoGlyphString* glyphs, double x, std::int32_t em) {
   cairo_move_to(cairo, x, 0);
   if (em <= kLargestBitmapEm) {
@@ -68,14 +68,13 @@ void ForEachRun(const PangoLayoutLine* line, Visit visit) {
   }
 }
 
-/// Some neighbouring letters of a string, and where the first one stands, in the library's units. The letters stay
-/// those of the string.
+/// Adjacent letters of a string, and the position of the first one in Pango units. The string still owns the letters.
 struct GlyphPart {
   PangoGlyphString glyphs;
   std::int64_t start;
 };
 
-/// The letters between two positions, from the string's first letter at `start`.
+/// Returns the letters between two positions. The string's first letter is at `start`.
 GlyphPart PartBetween(const PangoGlyphString& whole, std::int64_t start, double from, double to) {
   int first = 0;
   std::int64_t position = start;

@@ -6,16 +6,16 @@
 
 namespace vantorium {
 
-/// A shaped line of text. Positions in it count from its left end, in pixels.
+/// A shaped line of text. Positions are in pixels from its left end.
 class PangoLine {
  public:
   PangoLine(const PangoFace& face, const std::string& text);
 
-  /// The sum of the letters' widths, in pixels. It may exceed what the libraries can count.
+  /// The sum of the letters' widths in pixels. May exceed what Pango can represent.
   [[nodiscard]] std::int64_t Width() const { return width_; }
 
-  /// Draws the letters that may show between the positions `from` and `to`. The left end of the base line is the origin
-  /// of `cairo`.
+  /// Draws the letters that may be visible between positions `from` and `to`. The left end of the baseline is the
+  /// origin of `cairo`.
   void DrawLetters(cairo_t* cairo, double from, double to) const;
 
  private:
@@ -25,19 +25,19 @@ class PangoLine {
   std::int64_t width_ = 0;
 };
 
-/// Draws lines of text on a surface, whichever of their parts show there.
+/// Draws the visible parts of lines of text on a surface.
 class PangoPen {
  public:
-  /// `font` says which strokes go with the letters.
+  /// `font` says whether to underline and strike out the text.
   PangoPen(const PangoFace& face, const LogFont& font, cairo_surface_t* surface);
 
-  /// Moves the origin, in pixels, and turns the axes counterclockwise.
+  /// MoveTo moves the origin, in pixels; Turn rotates the axes counterclockwise.
   void MoveTo(double x, double y) { cairo_translate(cairo_.get(), x, y); }
   void Turn(double degrees);
 
-  /// Draws a line with its upper left corner at the origin. Throws as CheckFont and CheckDrawing.
+  /// Draws a line with its upper left corner at the origin. Throws like CheckFont and CheckDrawing.
   void Draw(const PangoLine& line);
-  /// Whether anything `height` pixels high and `top` pixels below the origin may show.
+  /// Whether anything `height` pixels high that begins `top` pixels below the origin may be visible.
   [[nodiscard]] bool Shows(double top, double height) const;
 
  private:

@@ -13,7 +13,7 @@
 namespace vantorium {
 namespace {
 
-/// Draws a line turned about the middle of its lower edge, at which it hangs from the pen's origin.
+/// Draws a line rotated around the middle of its lower edge, which is at the pen's origin.
 void DrawTurned(PangoPen& pen, const PangoFace& face, double degrees, const std::string& text) {
   pen.Turn(degrees);
   if (!pen.Shows(-face.LineHeight(), face.LineHeight())) return;
@@ -31,7 +31,7 @@ void DrawUpright(PangoPen& pen, const PangoFace& face, const std::string& text) 
 
 struct PangoTextRaster::Fonts {
   std::mutex mutex;
-  FontMapHandle map;  // made when it is first needed
+  FontMapHandle map;  // created on first use
 
   [[nodiscard]] PangoFontMap* Map() {
     CheckThreadsToSpare();

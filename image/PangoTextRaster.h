@@ -6,11 +6,11 @@
 
 namespace vantorium {
 
-/// Texts of any script by Pango and Cairo. A letter that the font lacks comes from another font of the machine, or as a
-/// box; a colored one as its shape, or as a box when it is very large.
+/// Draws text of any script with Pango and Cairo. A letter that the font lacks is drawn from another font of the
+/// machine, or as a box; a color glyph is drawn as its shape, or as a box when it is very large.
 class PangoTextRaster : public TextRaster {
  public:
-  /// The machine's font settings are read with the first text, which takes some milliseconds.
+  /// The machine's font settings are read on first use, which takes some milliseconds.
   PangoTextRaster();
   ~PangoTextRaster() override;
   PangoTextRaster(const PangoTextRaster&) = delete;
@@ -22,7 +22,7 @@ class PangoTextRaster : public TextRaster {
   [[nodiscard]] std::vector<std::string> FaceNames() const override;
 
  private:
-  // The libraries' objects are not to be used from two threads at once.
+  // The objects of Pango, Cairo and Fontconfig must not be used by two threads at once.
   struct Fonts;
   std::unique_ptr<Fonts> fonts_;
 };

@@ -12,8 +12,8 @@
 namespace vantorium {
 namespace {
 
-/// An output with its failure kept: the failure of one output is not that of the other, and comes only after the source
-/// proved to be a picture.
+/// An output that keeps its failure: one output may fail without the other, and a failure counts only if the source
+/// proves to be a picture.
 class GuardedOutput {
  public:
   GuardedOutput(const std::optional<PictureRecipe>& recipe, PictureSize source, PictureFile& file) : file_(file) {
@@ -49,7 +49,7 @@ class GuardedOutput {
   std::optional<PictureOutput> output_;
 };
 
-/// Reads the rows that are asked for, from the top of the picture down, and keeps the last two.
+/// Reads the requested rows, from the top of the picture down, and keeps the last two.
 class RowReader {
  public:
   explicit RowReader(JPEGDecoder& decoder)
@@ -58,7 +58,7 @@ class RowReader {
         row_(static_cast<std::size_t>(decoder.width()) * 3),
         above_(row_.size()) {}
 
-  /// Goes down to `row`. False when the data are damaged or end early.
+  /// Advances to `row`. Returns false if the data are damaged or truncated.
   [[nodiscard]] bool ReadRow(std::int32_t row) {
     const std::int32_t skipped = position_ - row - 1;
     if (skipped > 0 && !decoder_.SkipRows(skipped)) return false;
@@ -76,7 +76,7 @@ class RowReader {
   std::vector<std::uint8_t> above_;
 };
 
-/// The bottom row is read in any case: the library tells of damage in the rows behind the last one read only then.
+/// Always reads the bottom row: only then does libjpeg-turbo report damage in the rows after the last one needed.
 bool PassRows(JPEGDecoder& decoder, GuardedOutput& image, GuardedOutput& thumbnail, const std::stop_token& stop) {
   RowReader reader(decoder);
   for (std::int32_t row = decoder.height(); row > 0;) {

@@ -11,37 +11,37 @@
 
 namespace vantorium {
 
-/// What is wanted of one photograph.
+/// The outputs requested of one photograph.
 struct PictureRequest {
   std::optional<PictureRecipe> image;
   std::optional<PictureRecipe> thumbnail;
 };
 
-/// One output: the bytes of a JPEG file, or the RuntimeFailure that kept it from being made.
+/// One output: the bytes of a JPEG file, or the RuntimeFailure that prevented it.
 struct PictureFile {
   std::string jpeg;
   std::exception_ptr failure;
 
-  /// The bytes. Throws the failure.
+  /// Returns the bytes, or throws the failure.
   [[nodiscard]] const std::string& Bytes() const;
 };
 
-/// The outputs of one photograph; those that were not wanted are empty.
+/// The outputs of one photograph; those not requested are empty.
 struct PictureFiles {
-  bool decoded = false;  ///< false: the source could not be decoded in whole, and there are no outputs
+  bool decoded = false;  ///< false: the source could not be decoded completely, and there are no outputs
   PictureFile image;
   PictureFile thumbnail;
 };
 
-/// What the makers of pictures share: when to stop, and the memory for pictures in several scans.
+/// What the workers of a run share: the stop token, and the memory budget for multi-scan pictures.
 struct PictureWork {
   std::stop_token stop;
   CoefficientBudget& budget;
 };
 
-/// Makes the wanted outputs of the JPEG file `source`, decoding it once and only the rows that an output needs. A pure
-/// function: nothing is shown or written, and the same source and request give the same bytes on every thread. A stop
-/// ends it early, with nothing decoded.
+/// Makes the requested outputs from the JPEG file `source`, decoding it once and only the rows that an output needs. A
+/// pure function: it shows and writes nothing, and the same source and request give the same bytes on every thread. A
+/// stop request ends it early, with `decoded` false.
 [[nodiscard]] PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequest& request,
                                         const PictureWork& work);
 

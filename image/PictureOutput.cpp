@@ -19,7 +19,7 @@ PictureSize SizeOf(const PictureRecipe& recipe, PictureSize source) {
   return size;
 }
 
-/// Row `y` of the whole picture, counted from the bottom. The noise of a row depends on its place.
+/// `row` is row `y` of the whole picture, counted from the bottom; its noise depends on its position.
 void ApplyFilters(cDIBSection& row, std::int32_t y, const PictureRecipe& recipe) {
   const ImageFilterSettings& filters = recipe.filters;
   if (filters.checkBrightness == 1) Lighten(row, filters.sliderBrightness);
@@ -40,7 +40,7 @@ std::shared_ptr<const TextMask> MaskOf(const PictureRecipe& recipe, PictureSize 
 PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source)
     : PictureOutput(recipe, source, SizeOf(recipe, source)) {}
 
-// The watermark and the encoder refuse what is too large for them before memory is taken for a size.
+// The watermark and the encoder refuse sizes that are too large for them before memory is allocated.
 PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size)
     : recipe_(recipe),
       mask_(MaskOf(recipe, size)),
@@ -63,7 +63,7 @@ std::int32_t PictureOutput::NextSourceRow() const {
 
 void PictureOutput::TakeSourceRow(std::int32_t row, const std::uint8_t* bytes, const std::uint8_t* above) {
   lastSeen_ = row;
-  // An enlargement makes several new rows of one pair.
+  // Enlarging makes several new rows from one pair.
   for (; newRow_ >= 0 && rows_.lower == row; BeginRow()) {
     plan_.CombineRows(rows_, bytes, rows_.upper == row ? bytes : above, row_.Row(0));
     FinishRow();

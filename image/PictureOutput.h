@@ -9,19 +9,19 @@
 
 namespace vantorium {
 
-/// One output of a photograph, made of the rows of its source as they come, from the top of the picture down. Each row
-/// is finished and goes into the file before the next one is made, so that no size needs more memory than a few rows.
-/// Each call may throw RuntimeFailure InvalidArgument for a size below 1 x 1, JPEGLibrary when the picture can't be
-/// encoded, and what the watermark and the filters throw. A size that is refused takes no memory.
+/// One output of a photograph, made from the rows of its source as they arrive, from the top of the picture down. Each
+/// row is finished and encoded before the next one is made, so no size needs memory for more than a few rows. Any call
+/// may throw RuntimeFailure InvalidArgument for a size below 1 x 1, JPEGLibrary if the picture cannot be encoded, and
+/// whatever the watermark and the filters throw. A refused size allocates no memory.
 class PictureOutput {
  public:
   PictureOutput(const PictureRecipe& recipe, PictureSize source);
 
-  /// The next source row that is needed, counted from the bottom; -1 when the output is complete.
+  /// Returns the next source row needed, counted from the bottom; -1 when the output is complete.
   [[nodiscard]] std::int32_t NextSourceRow() const;
-  /// Source row `row`, 3 bytes a pixel, and the row above it, which is looked at only when it was asked for too.
+  /// Takes source row `row`, 3 bytes per pixel, and the row above it, which is read only if it was needed too.
   void TakeSourceRow(std::int32_t row, const std::uint8_t* bytes, const std::uint8_t* above);
-  /// The bytes of the JPEG file, once NextSourceRow is -1. To be called once.
+  /// Returns the bytes of the JPEG file. Call once, when NextSourceRow is -1.
   [[nodiscard]] std::string Finish();
 
  private:
@@ -31,13 +31,13 @@ class PictureOutput {
   void FinishRow();
 
   PictureRecipe recipe_;
-  std::shared_ptr<const TextMask> mask_;  // of the watermark, if there is one
+  std::shared_ptr<const TextMask> mask_;  // the watermark's, if there is one
   JPEGEncoder encoder_;
   ResamplePlan plan_;
-  std::int32_t newRow_;                 // the new row under way, from the bottom
-  std::int32_t lastSeen_;               // the last source row that came
-  ResamplePlan::SourceRows rows_ = {};  // of the new row
-  cDIBSection row_;                     // the new row on its way to the encoder
+  std::int32_t newRow_;                 // the current new row, counted from the bottom
+  std::int32_t lastSeen_;               // the last source row taken
+  ResamplePlan::SourceRows rows_ = {};  // the source rows of the new row
+  cDIBSection row_;                     // the new row before it is encoded
 };
 
 }  // namespace vantorium

@@ -10,13 +10,13 @@
 
 namespace vantorium {
 
-/// What is made of one photograph for one of its outputs, in this order: the size, the filters, the watermark, the
-/// JPEG file at the filters' quality.
+/// How one output of a photograph is made, in this order: resize, filter, draw the watermark, encode as JPEG at the
+/// filters' quality.
 struct PictureRecipe {
-  std::uint64_t noiseNumber = 0;         ///< tells the noise of the pictures of a run apart
-  std::optional<PictureSize> size = {};  ///< of the output; nothing keeps the source's
+  std::uint64_t noiseNumber = 0;         ///< gives each picture of a run its own noise
+  std::optional<PictureSize> size = {};  ///< of the output; nullopt keeps the source's
   ImageFilterSettings filters = {};
-  std::shared_ptr<const WatermarkPainter> watermark = {};  ///< nothing for none
+  std::shared_ptr<const WatermarkPainter> watermark = {};  ///< null for none
 };
 
 }  // namespace vantorium

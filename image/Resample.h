@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// `source` at another size, in pixels: the interpolation of ResamplePlan. Null when a picture of that size can't be
-/// made, or when `source` is empty. Note the order: the height comes first.
+/// Returns `source` resized to a size in pixels, interpolated as by ResamplePlan. Returns null if a picture of that
+/// size cannot be created or `source` is empty. Note the order: the height comes first.
 [[nodiscard]] std::unique_ptr<cDIBSection> Resample(const cDIBSection& source, std::int32_t newHeight,
                                                     std::int32_t newWidth);
 

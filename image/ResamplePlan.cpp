@@ -12,7 +12,7 @@ namespace {
 
 static_assert(FLT_EVAL_METHOD == 0, "Roundings must happen where they are written");
 
-// Columns are worked on in pieces of this many pixels, which stay in the nearest cache.
+// Columns are processed in pieces of this many pixels, which stay in the L1 cache.
 constexpr std::size_t kPiece = 128;
 
 struct Place {
@@ -20,7 +20,7 @@ struct Place {
   float weight;
 };
 
-// The scale approaches the last source pixel from below. Only with millions of new pixels may the single reach it.
+// Positions approach the last source pixel from below. Only with millions of new pixels can rounding to float reach it.
 Place PlaceOf(float scale, std::int32_t position, std::int32_t side) {
   const auto exact = static_cast<float>(static_cast<double>(scale) * position);
   const float whole = std::floor(exact);
@@ -37,14 +37,14 @@ inline double Rounded(double value) {
   return (value + kNoFraction) - kNoFraction;
 }
 
-// The neighbours of a piece of new bytes: those of the left column, then those of the right. One byte of slack behind
-// each, for pixels are copied four bytes at a time.
+// The neighbours of a piece of new bytes: those in the left column, then those in the right. Each ends in one spare
+// byte, since pixels are copied four bytes at a time.
 struct Neighbours {
   std::uint8_t left[3 * kPiece + 1];
   std::uint8_t right[3 * kPiece + 1];
 };
 
-// The same between two rows, rounded.
+// The same, interpolated between two rows and rounded.
 struct Means {
   double left[3 * kPiece];
   double right[3 * kPiece];
@@ -57,7 +57,7 @@ void BlendRows(const std::uint8_t* lower, const std::uint8_t* upper, float upper
   for (std::size_t i = 0; i < 3 * kPiece; ++i) means[i] = Rounded(down * lower[i] + up * upper[i]);
 }
 
-// A mean of bytes is a byte: there is nothing to clamp.
+// A mean of bytes is a byte, so no clamping is needed.
 VANTORIUM_VECTOR_CLONES
 void BlendColumns(const Means& means, const float* rightWeights, std::size_t count, std::uint8_t* __restrict result) {
   for (std::size_t i = 0; i < count; ++i) {
@@ -78,7 +78,7 @@ ResamplePlan::ResamplePlan(PictureSize from, PictureSize to)
   for (std::int32_t x = 0; x < to.width; ++x) {
     const Place place = PlaceOf(xScale, x, from.width);
     leftBytes_.push_back(3 * place.index);
-    // Both neighbours and the byte behind them lie in the row.
+    // Both neighbours and the byte after them are in the row.
     if (3 * place.index + 7 <= 3 * from.width) roomyColumns_ = leftBytes_.size();
     rightWeights_.insert(rightWeights_.end(), 3, place.weight);
   }

@@ -12,14 +12,14 @@ struct PictureSize {
   bool operator==(const PictureSize&) const = default;
 };
 
-/// How a picture of one size becomes one of another: which source rows each new row is made of, and how. It needs no
-/// more of the source than these rows, so a decoder may skip the others. Rows are counted from the bottom.
+/// Resizes a picture: determines which source rows each new row is made of, and combines them. No other source rows are
+/// needed, so a decoder may skip them. Rows are counted from the bottom.
 ///
 /// The interpolation is bilinear: between two rows, rounded, then between two columns, rounded, ties to even. Both
-/// pictures are anchored at their bottom left corner. Equal sizes make a plain copy.
+/// pictures are anchored at their bottom left corner. Equal sizes give a plain copy.
 class ResamplePlan {
  public:
-  /// All sides are at least 1.
+  /// All sides must be at least 1.
   ResamplePlan(PictureSize from, PictureSize to);
 
   /// The source rows of one new row. `upper` is the row above `lower`, or `lower` itself when its weight is 0.
@@ -30,8 +30,8 @@ class ResamplePlan {
   };
   [[nodiscard]] SourceRows RowsOf(std::int32_t newRow) const;
 
-  /// Writes the new row, 3 bytes a pixel and nothing behind them, to `result`. `lower` and `upper` are the bytes of the
-  /// rows that `rows` names. May be called from several threads at once.
+  /// Writes the new row, 3 bytes per pixel without padding, to `result`. `lower` and `upper` are the bytes of the rows
+  /// that `rows` names. May be called from several threads at once.
   void CombineRows(const SourceRows& rows, const std::uint8_t* lower, const std::uint8_t* upper,
                    std::uint8_t* result) const;
 
@@ -45,8 +45,8 @@ class ResamplePlan {
   PictureSize to_;
   float yScale_;
   std::vector<std::int32_t> leftBytes_;  // where the left neighbour of each new column begins
-  std::size_t roomyColumns_ = 0;         // so many first ones have a byte of the row behind their right neighbour
-  std::vector<float> rightWeights_;      // share of the right neighbour, three times for each new column
+  std::size_t roomyColumns_ = 0;         // leading columns whose right neighbour is followed by another byte of the row
+  std::vector<float> rightWeights_;      // share of the right neighbour, stored three times for each new column
 };
 
 }  // namespace vantorium

@@ -13,7 +13,7 @@
 namespace vantorium {
 namespace {
 
-/// Two for each size and script that a font is looked for in, some of which are still at it when the next ones start.
+/// Pango starts two for each size and script in which it looks for a font; some still run when the next ones start.
 constexpr int kThreadsOfPango = 8;
 
 [[noreturn]] void Fail(FailureKind kind, const std::string& reason) {
@@ -26,7 +26,8 @@ std::string FileOf(PangoFont* font) {
   return file != nullptr ? reinterpret_cast<const char*>(file) : "";
 }
 
-/// Each library opens the file for itself. HarfBuzz says nothing where Pango, for Cairo, warns on the terminal.
+/// HarfBuzz and Cairo each open the file. HarfBuzz comes first: it fails silently, while Pango prints a warning for
+/// Cairo.
 bool CanBeRead(PangoFont* font) {
   if (hb_face_get_glyph_count(hb_font_get_face(pango_font_get_hb_font(font))) == 0) return false;
   cairo_scaled_font_t* pens = pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(font));
@@ -51,7 +52,7 @@ void CheckFontSettings(bool read) {
 void CheckThreadsToSpare() try {
   std::mutex gate;
   std::vector<std::jthread> threads;
-  const std::lock_guard closed(gate);  // so that all of them are there at once
+  const std::lock_guard closed(gate);  // keeps all threads running at once
   for (int i = 0; i < kThreadsOfPango; ++i) threads.emplace_back([&gate] { const std::lock_guard passed(gate); });
 } catch (const std::system_error&) {
   Fail(FailureKind::OutOfMemory, "there is no room for the threads that fonts are looked for on.");

@@ -4,20 +4,20 @@
 
 namespace vantorium {
 
-// What keeps texts from being drawn. Each throws RuntimeFailure with a sentence for the user; the libraries would draw
-// nothing, or end the program.
+// Checks that text can be drawn. Each throws RuntimeFailure with a sentence for the user where Pango and Cairo would
+// draw nothing or end the program.
 
-/// Throws unless letters of the font can be drawn: FileNotFound for null, which stands for a machine without any font,
-/// and FileAccess for a font whose file can't be read.
+/// Throws if letters of the font cannot be drawn: FileNotFound for null, which means that no font is installed, and
+/// FileAccess for a font whose file cannot be read.
 void CheckFont(PangoFont* font);
 
-/// Throws OutOfMemory for whatever Cairo says but that all is well.
+/// Throws OutOfMemory for any Cairo status but success.
 void CheckDrawing(cairo_status_t status);
 
-/// Throws FileAccess unless the machine's font settings came to be.
+/// Throws FileAccess unless the machine's font settings were read.
 void CheckFontSettings(bool read);
 
-/// Throws OutOfMemory unless as many threads can be started as Pango may look for fonts on at once.
+/// Throws OutOfMemory unless as many threads can be started as Pango may use at once to look for fonts.
 void CheckThreadsToSpare();
 
 }  // namespace vantorium

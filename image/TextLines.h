@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// The lines that a text is drawn as, without their breaks: valid UTF-8, with blanks for control characters. An empty
-/// text has none; a break at the very end begins none.
+/// Splits a text into the lines to draw, without their breaks: valid UTF-8, with spaces for control characters. An
+/// empty text has no lines; a break at the very end starts no line.
 [[nodiscard]] std::vector<std::string> LinesOfText(std::string_view text);
 
 }  // namespace vantorium

@@ -6,13 +6,13 @@
 
 namespace vantorium {
 
-/// The pixels of a picture that a text covers: a bit for each pixel of one rectangle, and none outside of it. Columns
-/// and rows are counted from the picture's top left corner.
+/// The pixels of a picture that a text covers: one bit for each pixel of a rectangle, none outside it. Columns and rows
+/// are counted from the picture's top left corner.
 class TextMask {
  public:
   /// A mask that covers nothing and has no rectangle.
   TextMask() = default;
-  /// One that covers nothing yet. Sides below 1 leave no rectangle.
+  /// A mask that covers nothing yet. It has no rectangle if a side is below 1.
   TextMask(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
 
   [[nodiscard]] std::int32_t left() const { return left_; }
@@ -24,7 +24,7 @@ class TextMask {
   /// The pixel must lie in the rectangle.
   void Cover(std::int32_t x, std::int32_t y);
 
-  /// Calls `paint(x)` for each covered pixel of row `y`, from the left to the right.
+  /// Calls `paint(x)` for each covered pixel of row `y`, from left to right.
   template <typename Paint>
   void ForEachPixel(std::int32_t y, Paint paint) const {
     if (y < top_ || y >= top_ + height_) return;

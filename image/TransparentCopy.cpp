@@ -8,12 +8,12 @@
 namespace vantorium {
 namespace {
 
-// Rows are worked on in blocks that stay in the processor's nearest memory from one pass over them to the next. A block
-// is large enough for a pass to find what the one before it has stored. Nothing in a pass branches.
+// Rows are processed in blocks that stay in the L1 cache from one pass to the next. A block is large enough for the
+// stores of one pass to be visible to the next without a stall. No pass branches.
 constexpr std::size_t kBlockBytes = 3072;
 using Block = std::array<std::uint8_t, kBlockBytes>;
 
-/// The three bytes of a color, over and over, in the order of a picture's bytes.
+/// The three bytes of a color, repeated, in the order of a picture's bytes.
 Block Repeated(std::uint32_t color) {
   Block block;
   for (std::size_t i = 0; i < block.size(); ++i) block[i] = static_cast<std::uint8_t>(color >> (16 - 8 * (i % 3)));
@@ -28,8 +28,8 @@ constexpr Block FirstBytes() {
 }
 constexpr Block kFirstBytes = FirstBytes();
 
-/// What tells the pixels of a block apart: at each pixel's first byte 255 if it differs from the pattern's, else 0; 0
-/// at the other bytes and two places before the block.
+/// Marks the pixels of a block: at each pixel's first byte 255 if it differs from the pattern's pixel, else 0; 0 at the
+/// other bytes and at the two entries before the block.
 using Marks = std::array<std::uint8_t, kBlockBytes + 2>;
 
 /// `bytes` are those of whole pixels, at least one.
@@ -55,8 +55,8 @@ inline std::uint8_t Choose(std::uint8_t mask, std::uint8_t one, std::uint8_t oth
   return static_cast<std::uint8_t>(other ^ ((one ^ other) & mask));
 }
 
-/// (sum + 50) / 100, one less when it is odd and there was a tie: all of it in 16 bits. The quotient by multiplication
-/// is exact for every sum that comes up, which is at most 25550.
+/// (sum + 50) / 100, minus one if that is odd and there was a tie, all in 16 bits. Dividing by multiplication is exact
+/// for every possible sum, at most 25550.
 inline std::uint8_t Mixed(std::uint8_t source, std::uint8_t target, std::uint16_t alpha, std::uint16_t rest) {
   const auto sum = static_cast<std::uint16_t>(target * rest + source * alpha + 50);
   const auto high = static_cast<std::uint16_t>((std::uint32_t{sum} * 41944U) >> 16);

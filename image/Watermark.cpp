@@ -8,7 +8,7 @@
 namespace vantorium {
 namespace {
 
-/// Sizes of pictures whose masks are kept. A mask is at most a 24th of its picture.
+/// The number of picture sizes whose masks are cached. A mask takes at most 1/24 of its picture's memory.
 constexpr std::size_t kKnownMasks = 4;
 
 TextMask DrawMask(LogFont& font, const std::string& text, std::int16_t placement, std::int32_t width,
@@ -17,7 +17,7 @@ TextMask DrawMask(LogFont& font, const std::string& text, std::int16_t placement
   return raster.Draw(font, text, place, width, height);
 }
 
-/// To nearest, ties to even.
+/// Rounds to nearest, ties to even.
 std::uint8_t Mixed(int ink, int picture, int alpha) {
   const int sum = picture * (100 - alpha) + ink * alpha;
   const int quotient = sum / 100;

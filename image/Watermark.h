@@ -15,37 +15,37 @@
 namespace vantorium {
 
 /// Draws `text` over the picture at one of eleven places, blended at `alpha` percent. `color` is 0x00BBGGRR. An empty
-/// text and a picture without pixels change nothing. Changes `lfQuality`, `lfEscapement` and `lfOrientation` of the
-/// font. Throws RuntimeFailure Overflow, before a pixel is changed, when the picture or the text is too large for
-/// 16-bit coordinates (see PlaceWatermark).
+/// text or picture changes nothing. Changes `lfQuality`, `lfEscapement` and `lfOrientation` of the font. Throws
+/// RuntimeFailure Overflow, before changing any pixel, if the picture or the text is too large for 16-bit coordinates
+/// (see PlaceWatermark).
 void DrawWatermarkText(cDIBSection& dib, LogFont& font, const std::string& text, std::int16_t placement,
                        std::uint32_t color, std::uint8_t alpha, const TextRaster& raster);
 
-/// What becomes of the pixels under a text: a function of each byte.
+/// Blends a color into the pixels under a text; each byte is changed on its own.
 class WatermarkInk {
  public:
   WatermarkInk(std::uint32_t color, std::uint8_t alpha);
 
-  /// Changes the covered pixels of one row. `y` counts from the top of the picture, `row` are its bytes.
+  /// Changes the covered pixels of one row. `y` counts from the top of the picture, `row` points to its bytes.
   void ApplyToRow(const TextMask& mask, std::int32_t y, std::uint8_t* row) const;
   void Apply(const TextMask& mask, cDIBSection& dib) const;
 
  private:
-  std::array<std::array<std::uint8_t, 256>, 3> blended_;  // blue, green, red: by the byte of the picture
+  std::array<std::array<std::uint8_t, 256>, 3> blended_;  // blue, green, red: indexed by the picture's byte
 };
 
-/// The watermark of one target for the length of a run. Drawing is safe from several threads at once. The pixels of the
-/// text are worked out once for pictures of one size; those of the few last sizes are kept.
+/// The watermark of one target during a run. Thread-safe. The mask of the text is computed once for each picture size;
+/// those of the last few sizes are cached.
 class WatermarkPainter {
  public:
-  /// `raster` must live as long as the painter. Settings that can't be drawn fail only when they are to be drawn.
+  /// `raster` must outlive the painter. Settings that cannot be drawn fail only when drawn.
   WatermarkPainter(const WatermarkSettings& settings, std::int32_t pixelsPerInch, const TextRaster& raster);
 
-  /// Throws as DrawWatermarkText, and RuntimeFailure Overflow for an alpha that is no byte.
+  /// Throws like DrawWatermarkText, and RuntimeFailure Overflow if alpha does not fit in a byte.
   void Draw(cDIBSection& dib) const;
 
-  /// The pixels that Draw changes in a picture of that size, and the change row by row, for a picture that is never
-  /// held in whole. Throws as Draw.
+  /// MaskFor returns the pixels that Draw changes in a picture of that size, Ink how they change, for a picture that is
+  /// processed row by row. MaskFor throws like Draw.
   [[nodiscard]] std::shared_ptr<const TextMask> MaskFor(std::int32_t width, std::int32_t height) const;
   [[nodiscard]] const WatermarkInk& Ink() const { return ink_; }
 
@@ -63,7 +63,7 @@ class WatermarkPainter {
   WatermarkInk ink_;
   const TextRaster& raster_;
   mutable std::mutex mutex_;
-  mutable std::vector<KnownMask> known_;  // the one used last is at the end
+  mutable std::vector<KnownMask> known_;  // most recently used last
 };
 
 }  // namespace vantorium

@@ -16,7 +16,7 @@ void Turn(LogFont& font, std::int32_t tenthsOfDegree) {
   font.lfOrientation = tenthsOfDegree;
 }
 
-/// The position along one side: at its beginning, in its middle, at its end. The halves are taken apart.
+/// The position along one side: at its start, in its middle or at its end. The two are halved separately.
 std::int32_t Aligned(int third, std::int16_t side, std::int16_t text) {
   if (third == 0) return 0;
   if (third == 1) return ToInt16(side / 2.0 - text / 2.0);

@@ -5,14 +5,14 @@
 
 namespace vantorium {
 
-/// The program's one image type: 24 bits a pixel, bytes blue, green, red, rows bottom-up (row 0 is the bottom row of
+/// The program's one image type: 24 bits per pixel, bytes blue, green, red, rows bottom-up (row 0 is the bottom row of
 /// the picture), each row padded to a multiple of 4 bytes. No operation writes the padding.
 class cDIBSection {
  public:
-  /// Throws the old image away and makes one of `width` x `height` pixels, its bytes undefined. False, and an empty
-  /// object, when a side is below 1 or the memory is not to be had.
+  /// Releases the old image and creates one of `width` x `height` pixels with undefined contents. Returns false,
+  /// leaving no image, if a side is below 1, the width is too large or memory cannot be allocated.
   [[nodiscard]] bool Create(std::int32_t width, std::int32_t height);
-  /// Releases the pixels. `width` and `height` keep answering the old size.
+  /// Releases the pixels. `width` and `height` still return the old size.
   void ClearUp();
 
   /// (width * 3 + 3) with the two low bits cleared.

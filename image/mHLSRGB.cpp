@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-// Calculation runs in double precision; a stored value is a single.
+// Calculations use double precision; stored values are floats.
 float Single(double value) {
   return static_cast<float>(value);
 }

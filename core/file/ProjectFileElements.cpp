@@ -17,7 +17,7 @@ void PutAttribute(pugi::xml_node element, const char* name, FileWords words, std
   if (!word.empty()) PutAttribute(element, name, word);
 }
 
-// The document model closes the section inside a "]]>" and opens another one when it writes the text.
+// pugixml splits the CDATA section inside a "]]>" when it writes the text.
 void PutText(pugi::xml_node element, std::string_view text) {
   element.append_child(pugi::node_cdata).set_value(ToXmlText(text).c_str());
 }

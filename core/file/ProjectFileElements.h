@@ -11,16 +11,16 @@
 
 namespace vantorium {
 
-// Building the tree of the project file. Each function appends, so the order of calls is the order in the file.
+// Builds the tree of the project file. Each function appends, so the order of calls is the order in the file.
 
 void PutAttribute(pugi::xml_node element, const char* name, std::string_view value);
 void PutAttribute(pugi::xml_node element, const char* name, std::int64_t value);
-/// The word of `index`; no attribute for an index without a word.
+/// Writes the word of `index`, or no attribute if the index has no word.
 void PutAttribute(pugi::xml_node element, const char* name, FileWords words, std::int16_t index);
 
-/// A text as the CDATA of its element. A text that holds "]]>" takes more than one section.
+/// Writes a text as the CDATA of its element, in more than one section if it contains "]]>".
 void PutText(pugi::xml_node element, std::string_view text);
-/// A child that holds nothing but the text.
+/// Adds a child that contains only the text.
 pugi::xml_node PutTextElement(pugi::xml_node parent, const char* name, std::string_view text);
 void PutTextElementUnlessEmpty(pugi::xml_node parent, const char* name, std::string_view text);
 

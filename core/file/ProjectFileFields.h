@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-// Parts of the project file that occur twice, with the fields that each occurrence stands for.
+// Sections of the project file that occur twice, with the fields of each occurrence.
 
 /// The CAPTION elements of the images or of the thumbnails.
 struct CaptionFields {
@@ -84,7 +84,7 @@ inline constexpr TextElement kImagePageTexts[] = {{"HEAD", &GalleryProject::Imag
                                                   {"IMAGEHEADER", &GalleryProject::ImageHeader},
                                                   {"IMAGEFOOTER", &GalleryProject::ImageFooter}};
 
-/// A link below PAGELINKS; `disabledAttribute` is null for the one that has no disabled image.
+/// A link in PAGELINKS; `disabledAttribute` is null for the one without a disabled image.
 struct LinkElement {
   const char* element;
   const char* disabledAttribute;

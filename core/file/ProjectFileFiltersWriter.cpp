@@ -13,7 +13,7 @@ void PutFilterWithValue(pugi::xml_node modify, std::string_view type, std::int16
   PutAttribute(PutFilter(modify, type), "VALUE", value);
 }
 
-/// The four filters; the watermark and the quality stand in another order for either target.
+/// The four filters; the order of the watermark and the quality differs between images and thumbnails.
 void PutFilters(pugi::xml_node modify, const ImageFilterSettings& filters) {
   if (filters.checkGrayscale == 1) PutFilter(modify, kGrayscaleWord);
   if (filters.checkNoise == 1) {
@@ -36,7 +36,7 @@ void PutWatermark(pugi::xml_node modify, const WatermarkSettings& watermark) {
   PutAttribute(font, "WEIGHT", watermark.FontWeight);
   PutAttribute(font, "ITALIC", watermark.FontItalic ? 1 : 0);
   PutAttribute(font, "UNDERLINE", watermark.FontUnderline ? 1 : 0);
-  PutAttribute(font, "STRIKEOUT", watermark.FontUnderline ? 1 : 0);  // the underline once more, as files have it
+  PutAttribute(font, "STRIKEOUT", watermark.FontUnderline ? 1 : 0);  // the underline again: existing files have it so
   PutAttribute(font, "COLOR", ColorToHex(watermark.Color));
 }
 
@@ -51,7 +51,7 @@ void PutImageFilters(pugi::xml_node modify, const GalleryProject& project) {
   }
 }
 
-// The switch of the images' watermark decides about that of the thumbnails: files have it so.
+// The switch of the images' watermark also controls that of the thumbnails: existing files have it so.
 void PutThumbnailFilters(pugi::xml_node modify, const GalleryProject& project) {
   PutFilters(modify, project.ThumbnailFilters);
   if (project.ThumbnailFilters.AnyFilter()) {

@@ -5,7 +5,7 @@
 namespace vantorium {
 
 std::string_view WordOf(FileWords words, std::int16_t index) {
-  const auto position = static_cast<std::size_t>(index);  // a negative index becomes one beyond every list
+  const auto position = static_cast<std::size_t>(index);  // a negative index becomes larger than every list
   return position < words.size() ? words[position] : std::string_view();
 }
 

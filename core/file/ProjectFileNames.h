@@ -7,13 +7,13 @@
 
 namespace vantorium {
 
-/// The words that stand for the indices of a list in the project file. An empty word has no place in the file.
+/// The words that represent the indices of a list in the project file. An empty word is not written.
 using FileWords = std::span<const std::string_view>;
 
-/// The word of an index, empty for an index without one.
+/// Returns the word of an index, or an empty one if the index has none.
 [[nodiscard]] std::string_view WordOf(FileWords words, std::int16_t index);
 
-/// The index of a word, upper and lower case being the same; nothing for a word that is not in the list.
+/// Returns the index of a word, ignoring case, or nullopt if the word is not in the list.
 [[nodiscard]] std::optional<std::int16_t> IndexOfWord(FileWords words, std::string_view word);
 
 inline constexpr std::string_view kLayoutTypeWords[] = {"singleframe", "thumbsleft", "thumbsright", "thumbstop",
@@ -22,8 +22,8 @@ inline constexpr std::string_view kFirstSlideWords[] = {"firstThumbPage", "first
 inline constexpr std::string_view kNextSlideWords[] = {"nextImage", "thumbPage", "firstThumbPage"};
 inline constexpr std::string_view kStartOverWords[] = {"firstThumbPage", "firstImage", "stop"};
 
-// Captions are written with other words than are read: a caption above or below comes back at its default place. Files
-// depend on it.
+// Captions are written with different words than are read: a caption above or below returns to its default place.
+// Existing files depend on it.
 inline constexpr std::string_view kWrittenCaptionPlaceWords[] = {"left", "right", "above", "below"};
 inline constexpr std::string_view kReadCaptionPlaceWords[] = {"left", "right", "top", "bottom"};
 inline constexpr std::string_view kDescriptionPlaceWords[] = {"", "left", "right", "top", "bottom"};

@@ -16,7 +16,7 @@ namespace {
 
 constexpr char kProgramTitle[] = "Vantorium";
 
-/// False for a file that can't be read, or is no XML document.
+/// Returns false for a file that cannot be read or is not an XML document.
 bool Load(XmlFile& file, const PathMap& paths, const std::string& path, EventLoop& events) {
   const auto native = paths.ToNative(path);
   if (!native) return false;
@@ -36,13 +36,13 @@ bool ProjectFileReader::ReadProjectFile(const std::string& path) {
   status_.ShowWaitPointer();
   events_.Turn();
   ResetToDefaults(project_.settings, project_.UntitledName());
-  bool modified = false;  // the edits of a reading are none of the user's
+  bool modified = false;  // edits made by reading are not the user's
   ProjectEditor editor(project_.settings, modified);
   ReadResult result = ReadResult::Complete;
   try {
     result = ReadInto(editor, path);
   } catch (const RuntimeFailure& failure) {
-    // The status text and the pointer stay, as the program's users know it.
+    // Leaves the status text and the pointer unchanged, as users of the program know it.
     boxes_.Show(BoxKind::Plain, BoxButtons::Ok, kProgramTitle, failure.Description());
     return false;
   } catch (const std::bad_alloc&) {

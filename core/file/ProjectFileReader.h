@@ -18,21 +18,20 @@ namespace vantorium {
 
 class ProjectEditor;
 
-/// Reads a project file into the one project. The event loop gets its turns meanwhile, so that what is shown of the
-/// reading is drawn.
+/// Reads a project file into the one project. Gives the event loop turns, so that the progress shown is drawn.
 class ProjectFileReader {
  public:
   ProjectFileReader(Project& project, ImageListOperations& images, const PathMap& paths, MessageBoxPort& boxes,
                     ProjectFileStatus& status, EventLoop& events)
       : project_(project), images_(images), paths_(paths), boxes_(boxes), status_(status), events_(events) {}
 
-  /// Sets the settings to those of a new project and then to those of the file at `path` (path text), through the rules
-  /// of an edit, and adds the file's images to the list, which the caller has cleared. False after a box that says why;
-  /// the project then holds what was read so far. The project's states (its name, IsModified and so on) stay as they
-  /// are.
+  /// Resets the settings to those of a new project, then applies those of the file at `path` (path text) by the rules
+  /// of an edit, and adds the file's images to the list, which the caller has cleared. On failure returns false, after
+  /// a message box that says why; the project then holds what was read so far. Does not change the project's states
+  /// (its name, IsModified and so on).
   [[nodiscard]] bool ReadProjectFile(const std::string& path);
 
-  /// Says that the file at `path` is no project file, and why.
+  /// Shows a message box that says that the file at `path` is not a project file, and why.
   void ReportInvalidProjectFile(const std::string& path, const std::string& reason);
 
  private:

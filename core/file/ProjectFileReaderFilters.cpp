@@ -6,8 +6,8 @@
 namespace vantorium {
 namespace {
 
-/// A record of the settings while its fields are read. It goes back to the settings at the end, also at that of a
-/// reading that fails half way.
+/// A copy of a record of the settings to read fields into. The destructor writes it back to the settings, even if
+/// reading failed halfway.
 template <typename Record>
 class RecordEdit {
  public:

@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-// Positions are wide, so that a list longer than 16 bits count comes back as it was.
+// Reads positions as 32-bit numbers, so that lists longer than 16 bits can count are restored.
 [[nodiscard]] bool AddImageElement(pugi::xml_node image, ImageListOperations& list) {
   const auto index = ParseInt32(AttributeOf(image, "INDEX").value_or(""));
   return list.AddImage(static_cast<std::size_t>(index), TextOrEmpty(image, "SOURCE"), TextOrEmpty(image, "NAME"), true,
@@ -44,7 +44,7 @@ void ReadCaptions(pugi::xml_node parent, ProjectEditor& editor, const CaptionFie
   }
 }
 
-/// An absent header empties that of `whenAbsent`.
+/// An absent header clears that of `whenAbsent`.
 void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const DescriptionFrameFields& fields,
                           const DescriptionFrameFields& whenAbsent) {
   if (const pugi::xml_node header = parent.child("DESCRIPTIONHEADER")) {
@@ -104,7 +104,7 @@ ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, Imag
     turns.Step();
   }
   ReadCaptions(thumbnails, editor, kThumbnailCaptions);
-  // An absent header clears that of the images: existing files read so.
+  // An absent header clears that of the images: existing files depend on it.
   ReadDescriptionFrame(thumbnails, editor, kThumbnailDescriptionFrame, kImageDescriptionFrame);
   if (const pugi::xml_node modify = thumbnails.child("MODIFY")) ReadThumbnailModifications(modify, editor);
   return ReadResult::Complete;

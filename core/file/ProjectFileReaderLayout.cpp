@@ -5,7 +5,7 @@
 namespace vantorium {
 namespace {
 
-/// Seconds; none are 0.
+/// In seconds; an absent attribute is 0.
 void ReadDelay(ProjectEditor& editor, pugi::xml_node show, const char* attribute, TextField field) {
   editor.Set(field, WholeNumber(AttributeOf(show, attribute).value_or("0")));
 }
@@ -21,7 +21,7 @@ void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
   ReadDelay(editor, show, "DELAY", &GalleryProject::textGallerySlideShowDelay);
 }
 
-/// Absent names get one in a single frame only: in the other layouts the names of a new project stay.
+/// Absent names get a default only in a single frame; in the other layouts the names of a new project stay.
 void ReadFrameNames(pugi::xml_node layout, ProjectEditor& editor, bool singleFrame) {
   ReadText(editor, layout, "IMAGEFRAMENAME", &GalleryProject::comboImageFrameName);
   if (singleFrame && !AttributeOf(layout, "IMAGEFRAMENAME")) {

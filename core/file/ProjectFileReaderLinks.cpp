@@ -5,7 +5,7 @@
 namespace vantorium {
 namespace {
 
-/// Whether a list of words between commas holds `word`. One word alone is no list.
+/// Whether a comma-separated list contains `word`. A single word is not a list.
 bool ListHolds(const std::string& list, const std::string& word) {
   return list.ends_with(',' + word) || list.starts_with(word + ',') || list.find(',' + word + ',') != std::string::npos;
 }
@@ -47,7 +47,7 @@ bool IsNext(const LinkElement& element) {
 
 }  // namespace
 
-// The two answers to an absent NEXT are odd, and existing files rely on them.
+// The two ways of handling an absent NEXT are odd, but existing files depend on them.
 
 void ReadThumbnailPageLinks(pugi::xml_node links, ProjectEditor& editor) {
   ReadDirectLinks(links, editor);

@@ -15,7 +15,7 @@ void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
   ReadDigits(editor, arrangement, "CELLSPACING", &GalleryProject::textThumbnailsTableCellSpacing);
   ReadDigits(editor, arrangement, "CELLPADDING", &GalleryProject::textThumbnailsTableCellPadding);
   ReadWord(editor, arrangement, "ALIGN", kTableAlignmentWords, &GalleryProject::comboThumbnailsTableAlignment);
-  // The writer's name for it is BACKGROUND: a written backdrop is not read back, as ever.
+  // The writer calls it BACKGROUND, so a written backdrop is not read back. Kept on purpose.
   ReadText(editor, arrangement, "BACKDROP", &GalleryProject::textThumbnailsTableBackdrop);
   ReadColor(editor, arrangement, "BGCOLOR", &GalleryProject::btnThumbnailsTableBGColor,
             &GalleryProject::checkThumbnailsTableUseBGColor);

@@ -10,14 +10,14 @@
 
 namespace vantorium {
 
-// The sections of the project file, each read into the settings and the images. A reading that fails keeps what it has
-// read so far. A value that can't be converted is a RuntimeFailure.
+// Read the sections of the project file into the settings and the images. A failed read keeps what it has read so far.
+// A value that cannot be converted throws RuntimeFailure.
 
-/// LAYOUT below `gallery`, with the slide show.
+/// LAYOUT in `gallery`, with the slide show.
 [[nodiscard]] ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor);
 
-/// IMAGES: the images, their captions, the frame of their descriptions, their size and filters. The event loop gets a
-/// turn every 100 images.
+/// IMAGES: the images, their captions, the header and footer of their descriptions, their size and filters. The event
+/// loop gets a turn every 100 images.
 [[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list,
                                     EventLoop& events);
 
@@ -26,7 +26,7 @@ namespace vantorium {
 [[nodiscard]] ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list,
                                         EventLoop& events);
 
-/// The FILTER elements of a MODIFY, and the watermark among them.
+/// The FILTER elements of a MODIFY, including the watermark.
 void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettings GalleryProject::*filters,
                  WatermarkSettings GalleryProject::*watermark);
 
@@ -34,7 +34,7 @@ void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettin
 [[nodiscard]] ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor);
 [[nodiscard]] ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor);
 
-/// The links below a PAGELINKS, and where they stand.
+/// The links in a PAGELINKS, and their placement.
 void ReadThumbnailPageLinks(pugi::xml_node links, ProjectEditor& editor);
 void ReadImagePageLinks(pugi::xml_node links, ProjectEditor& editor);
 

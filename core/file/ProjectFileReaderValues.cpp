@@ -9,7 +9,7 @@
 
 namespace vantorium {
 
-// Parsing has folded every line end to LF.
+// pugixml has converted every line end to LF.
 std::string MultilineText(pugi::xml_node element) {
   return ReplaceAll(TextOf(element), "\n", kCrLf);
 }

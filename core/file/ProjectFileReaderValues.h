@@ -10,36 +10,36 @@
 
 namespace vantorium {
 
-// From attributes and texts of an element to settings. An absent attribute leaves the setting as it is, an empty one is
-// a value like any other. A number that is none is the RuntimeFailure TypeMismatch, a Flag or a Choice that does not
-// fit is Overflow.
+// Convert attributes and texts of an element to settings. An absent attribute leaves the setting unchanged; an empty
+// one is a value like any other. Throws RuntimeFailure TypeMismatch for text that is not a number, and Overflow for a
+// Flag or a Choice that does not fit.
 
 using TextField = std::string GalleryProject::*;
 using NumberField = std::int16_t GalleryProject::*;
 
-/// The text of an element with CR LF at the end of its lines; empty for an absent element.
+/// Returns the text of an element with CR LF line ends, or an empty text if the element is absent.
 [[nodiscard]] std::string MultilineText(pugi::xml_node element);
 
-/// The attribute as a text of its own, empty when it is absent.
+/// Returns the attribute's text, or an empty one if it is absent.
 [[nodiscard]] std::string TextOrEmpty(pugi::xml_node element, const char* attribute);
 
 void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
                 const char* absent);
-/// The decimal text of a whole number, which may be beyond every setting: an edit then makes it the setting's bound.
+/// Returns the decimal text of a whole number, which may be outside all bounds: an edit then clamps it.
 [[nodiscard]] std::string WholeNumber(std::string_view text);
-/// A whole number, kept as its decimal text.
+/// Reads a whole number and keeps it as decimal text.
 void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
-/// 1 when the attribute is the number 1, else 0.
+/// Sets 1 if the attribute is the number 1, else 0.
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
-/// A word that the list does not hold leaves the setting as it is.
+/// A word that is not in the list leaves the setting unchanged.
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words, NumberField field);
 void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field);
-/// Present, the color also turns on the switch that puts it to use.
+/// If present, the color also turns on the switch that enables it.
 void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Color GalleryProject::*field,
                NumberField use);
-/// The texts of children; an absent child empties its field.
+/// Reads the texts of children; an absent child empties its field.
 void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts);
 
 /// Whether the text reads as the number 1.

@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// What reading and writing a project file show of themselves. A program without a window takes this class as it is.
+/// What reading and writing a project file display. A program without a window uses this class as it is.
 class ProjectFileStatus {
  public:
   virtual ~ProjectFileStatus() = default;

@@ -10,7 +10,7 @@
 #include <fmt/format.h>
 #include <pugixml.hpp>
 
-// The file, with the attributes and children in their order; "?" marks what stands there only for some projects:
+// The file, with the attributes and children in their order; "?" marks what only some projects contain:
 //
 //   GALLERYPROJECT VERSION
 //     META NAME CONTENT
@@ -102,7 +102,7 @@ bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
       written = true;
     }
   } catch (const std::exception&) {
-    // The caller has the message for a file that could not be written.
+    // The caller shows the message for a file that could not be written.
   }
   status_.SetStatusText("");
   status_.ResetPointer();

@@ -2,7 +2,7 @@
 
 namespace vantorium {
 
-/// How the reading of a project file, or of a section of it, ended.
+/// The result of reading a project file or a section of it.
 enum class ReadResult {
   Complete,
   NoProject,
@@ -12,10 +12,10 @@ enum class ReadResult {
   NoThumbnailPage,
   NoArrangement,
   NoPageLinks,
-  ImageRefused  ///< the user has been told already
+  ImageRefused  ///< the user has already been told
 };
 
-/// The reason that the user is given; empty for the results that need none.
+/// Returns the reason to show to the user, empty for results that need none.
 [[nodiscard]] const char* ReasonOf(ReadResult result);
 
 }  // namespace vantorium

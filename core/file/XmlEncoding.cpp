@@ -21,7 +21,7 @@ struct CloseConverter {
 };
 using Converter = std::unique_ptr<UConverter, CloseConverter>;
 
-/// The value of `encoding` in an XML declaration, empty without one.
+/// Returns the value of `encoding` in an XML declaration, empty without one.
 std::string DeclaredEncoding(std::string_view bytes) {
   if (!bytes.starts_with("<?xml")) return {};
   const std::string_view declaration = bytes.substr(0, bytes.find("?>"));

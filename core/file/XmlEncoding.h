@@ -5,9 +5,9 @@
 
 namespace vantorium {
 
-/// The bytes of an XML document as UTF-8 without a byte order mark. The encoding is that of the byte order mark, else
-/// of the XML declaration, else UTF-8. Nothing when the encoding is unknown or the bytes are not in it; whether UTF-8
-/// itself is sound is for the reader of the text to find out. At most 512 MiB.
+/// Converts the bytes of an XML document to UTF-8 without a byte order mark. The encoding is that of the byte order
+/// mark, else of the XML declaration, else UTF-8. Returns nullopt if the encoding is unknown or the bytes are not valid
+/// in it; does not validate UTF-8 itself, which is left to the reader of the text. At most 512 MiB.
 [[nodiscard]] std::optional<std::string> DecodeXml(std::string bytes);
 
 }  // namespace vantorium

@@ -9,7 +9,7 @@ bool XmlFile::Parse(std::string bytes) {
   auto text = DecodeXml(std::move(bytes));
   if (!text || !IsWellFormedXml(*text)) return false;
   text_ = std::move(*text);
-  // White space between elements is kept, as it may be the text of an element; nothing looks at it elsewhere.
+  // Keeps white space between elements, since it may be the text of an element; nothing reads it elsewhere.
   constexpr unsigned kFlags = pugi::parse_default | pugi::parse_ws_pcdata;
   return static_cast<bool>(document_.load_buffer_inplace(text_.data(), text_.size(), kFlags, pugi::encoding_utf8));
 }

@@ -17,7 +17,7 @@ bool IsLetter(char byte) {
   return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
 }
 
-// Letters beyond ASCII all pass: which of them XML takes for names is of no account here.
+// All non-ASCII characters are accepted in names; which of them XML allows does not matter here.
 bool BeginsName(char byte) {
   return IsLetter(byte) || byte == '_' || byte == ':' || static_cast<unsigned char>(byte) >= 0x80;
 }
@@ -70,7 +70,7 @@ bool IsEncodingName(std::string_view value) {
   });
 }
 
-/// Whether these are the attributes of an XML declaration: the version, and then perhaps the others in their order.
+/// Whether these are the attributes of an XML declaration: the version, then optionally the others in order.
 bool IsDeclaration(const std::vector<Attribute>& attributes) {
   auto next = attributes.begin();
   const auto passes = [&](std::string_view name, bool (*isValue)(std::string_view)) {
@@ -84,8 +84,7 @@ bool IsDeclaration(const std::vector<Attribute>& attributes) {
   return next == attributes.end();
 }
 
-/// Walks a document from its beginning to its end. Each step takes what it names off the front and tells whether it was
-/// sound.
+/// Scans a document from beginning to end. Each step consumes what it names and returns whether it was well-formed.
 class Scanner {
  public:
   Scanner(std::string_view text, const XmlLimits& limits) : rest_(text), limits_(limits) {}
@@ -111,7 +110,7 @@ class Scanner {
     return end > 0;
   }
 
-  /// The text in front of `end`, which is taken too.
+  /// Returns the text before `end`, and consumes both.
   std::optional<std::string_view> TakeThrough(std::string_view end) {
     const auto at = rest_.find(end);
     if (at == std::string_view::npos) return std::nullopt;
@@ -141,7 +140,7 @@ class Scanner {
     return sound ? std::optional<Attribute>({name, *value}) : std::nullopt;
   }
 
-  /// Fills attributes_ up to `end`, the token that must follow them.
+  /// Fills attributes_ up to `end` or `otherEnd`, one of which must follow them.
   bool TakeAttributes(std::string_view end, std::string_view otherEnd) {
     attributes_.clear();
     while (true) {
@@ -159,7 +158,7 @@ class Scanner {
     return TakeAttributes("?>", "?>") && Take("?>") && IsDeclaration(attributes_);
   }
 
-  /// Blanks, comments and processing instructions, as they may stand around the document element.
+  /// Consumes the white space, comments and processing instructions that may surround the document element.
   bool Surroundings() {
     while (true) {
       TakeBlanks();
@@ -173,7 +172,7 @@ class Scanner {
     }
   }
 
-  /// With an address at most: the declarations that it might hold are the way of entity tricks.
+  /// Allows an external identifier at most: internal declarations enable entity attacks.
   bool DocumentType() {
     if (!Take("<!DOCTYPE")) return true;
     if (!TakeBlanks() || TakeName().empty()) return false;
@@ -233,7 +232,7 @@ class Scanner {
     return text.find("]]>") == std::string_view::npos && HoldsOnlySoundReferences(text);
   }
 
-  /// One piece of what stands inside an element.
+  /// One piece of an element's content.
   bool Content() {
     if (++pieces_ > limits_.pieces) return false;
     if (!rest_.starts_with('<')) return Text();

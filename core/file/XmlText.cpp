@@ -5,14 +5,14 @@
 namespace vantorium {
 namespace {
 
-/// Nearly all bytes of nearly all texts need no decoding.
+/// Fast path: nearly all bytes of nearly all texts need no decoding.
 bool IsPlain(char byte) {
   const auto value = static_cast<unsigned char>(byte);
   return value >= 0x20 && value < 0x80;
 }
 
 struct Character {
-  std::int32_t codePoint;  // -1 where no character of UTF-8 begins
+  std::int32_t codePoint;  // -1 if no UTF-8 character begins here
   std::size_t length;      // in bytes
 };
 
@@ -23,7 +23,7 @@ std::size_t LengthByFirstByte(unsigned char first) {
   return first >= 0xF0 && first < 0xF5 ? 4 : 0;
 }
 
-/// The character at the front of a text that is not empty.
+/// Returns the first character of a text that is not empty.
 Character FrontOf(std::string_view text) {
   constexpr Character kNone = {-1, 1};
   constexpr std::array<std::int32_t, 5> kFirstBits = {0, 0x7F, 0x1F, 0x0F, 0x07};

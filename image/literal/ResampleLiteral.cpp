@@ -9,7 +9,7 @@
 namespace vantorium {
 namespace {
 
-// A position in the source along one axis. `at` and `next` are kept within the source: where `next` would lie outside,
+// A position in the source along one axis. `at` and `next` are clamped to the source: where `next` would lie outside,
 // its weight is 0.
 struct Position {
   std::int32_t at;

@@ -7,8 +7,7 @@
 
 namespace vantorium {
 
-/// What Resample has to equal byte for byte, written as plainly as the rule is told. Kept as the reference of the
-/// tests.
+/// A straightforward version of Resample, which must produce the same bytes. The reference for tests.
 [[nodiscard]] std::unique_ptr<cDIBSection> ResampleLiteral(const cDIBSection& source, std::int32_t newHeight,
                                                            std::int32_t newWidth);
 

@@ -6,8 +6,7 @@
 
 namespace vantorium {
 
-/// What TransparentCopy has to equal byte for byte, written as plainly as the rule is told. Kept as the reference of
-/// the tests.
+/// A straightforward version of TransparentCopy, which must produce the same bytes. The reference for tests.
 [[nodiscard]] bool TransparentCopyLiteral(const cDIBSection& source, cDIBSection& target, std::uint32_t key,
                                           std::uint8_t alpha);
 
