@@ -18,8 +18,8 @@ constexpr std::array<Backdrop, 3> kBackdrops = {{
     {"_backdrop_imagepage", &GalleryProject::textImageWrapperBackdrop},
 }};
 
-/// A link's two graphics: the normal one, and the one for the end of the sequence under the name with `endSuffix`. The
-/// Index link has no end.
+/// The two graphics of a link: the normal one, and the one shown at the end of the sequence, named with `endSuffix`.
+/// The Index link has only the first.
 struct LinkGraphics {
   const char* fixedName;
   const char* endSuffix;
@@ -42,13 +42,13 @@ constexpr std::array<LinkGraphics, 9> kLinkGraphics = {{
     {"_imagelink_index", nullptr, &GalleryProject::ImageIndexLink, kSmall},
 }};
 
-/// A source without a folder lies beside the project file.
+/// A source without a folder is in the folder of the project file.
 std::string Resolved(const RunState& run, const std::string& source) {
   if (!GetFilePath(source).empty()) return source;
   return WithTrailingBackslash(run.ProjectFolder) + source;
 }
 
-/// Adds the file of a setting, unless that is empty.
+/// Adds the file named by a setting, unless the setting is empty.
 void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::string& setting,
              const std::string& fixedName, AuxiliarySpelling spelling) {
   if (setting.empty()) return;
@@ -56,7 +56,7 @@ void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::
   files.push_back({source, fixedName + GetFileExtension(source), spelling});
 }
 
-/// Links between images stand on wrapper pages only.
+/// Only wrapper pages have links between images.
 bool IsUsed(const LinkGraphics& graphics, const RunState& run) {
   return graphics.spelling == kBig || run.project.checkImageWrapperUse == 1;
 }

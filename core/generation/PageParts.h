@@ -7,17 +7,17 @@
 
 namespace vantorium {
 
-// Pieces that more than one kind of page is made of.
+// Pieces shared by several kinds of page.
 
-/// The line that names the program that made a page.
+/// The line that names the program that generated a page.
 inline constexpr std::string_view kGeneratorTag =
     R"(<META NAME="GENERATOR" CONTENT="Vantorium Image Gallery Creator 3.0">)";
 
-/// Six hexadecimal digits in capitals: red, green, blue. No "#".
+/// Returns six uppercase hexadecimal digits: red, green, blue. No "#".
 [[nodiscard]] std::string ColorToHtml(Color color);
 
-/// ` BACKGROUND="..."` for the copy of the graphic `path` that bears the name `name` in the images folder; empty
-/// without a graphic.
+/// Returns ` BACKGROUND="..."` for the copy of the graphic `path` in the images folder, which is called `name` there;
+/// empty if `path` is empty.
 [[nodiscard]] std::string BackdropAttribute(const RunState& run, std::string_view name, std::string_view path);
 
 /// The five colors of a page.
@@ -29,12 +29,13 @@ struct PageColors {
   Color activeLink;
 };
 
-/// The BODY tag of a page with colors of its own.
+/// The BODY tag of a page with its own colors.
 [[nodiscard]] std::string BodyTag(const PageColors& colors, std::string_view backdropAttribute);
-/// The BODY tag of a page that leaves the colors to the browser. Its blanks stand with a backdrop and without.
+/// The BODY tag of a page that leaves the colors to the browser. The space after BODY is written with and without a
+/// backdrop.
 [[nodiscard]] std::string BodyTag(std::string_view backdropAttribute);
 
-/// The tag that makes the browser go on to `target` after `delay` seconds.
+/// The tag that makes the browser load `target` after `delay` seconds.
 [[nodiscard]] std::string RefreshTag(std::string_view delay, std::string_view target);
 
 }  // namespace vantorium
