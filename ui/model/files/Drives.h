@@ -7,13 +7,13 @@
 
 namespace vantorium {
 
-/// A drive of path text, and the native folder that it stands for.
+/// A drive of path text, and the native folder it maps to.
 struct Drive {
   char letter;
   std::filesystem::path folder;
 };
 
-/// All drives whose folders exist, by letter.
+/// Returns all drives whose folders exist, by letter.
 [[nodiscard]] std::vector<Drive> DrivesOf(const PathMap& paths);
 
 }  // namespace vantorium
