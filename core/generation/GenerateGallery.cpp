@@ -170,7 +170,7 @@ void EndInSuccess(const RunEnvironment& environment, ProgressWindow& progress) {
   progress.ShowBusyPointer(false);
 }
 
-/// The window and its messages stay until the user closes it.
+/// The window stays open until the user closes it. The messages in its log box go to the log.
 void EndInFailure(const RunEnvironment& environment, ProgressWindow& progress) {
   progress.OfferClose();
   environment.host.ShowStatus("");
