@@ -20,13 +20,13 @@ constexpr LinkKind kLinks[] = {LinkKind::FirstThumbnailPage,
                                LinkKind::LastImage,
                                LinkKind::Index};
 
-/// A source without a folder lies beside the project file.
+/// A source without a folder is in the folder of the project file.
 std::string Resolved(const RunState& run, const std::string& source) {
   if (!GetFilePath(source).empty()) return source;
   return WithTrailingBackslash(run.ProjectFolder) + source;
 }
 
-/// Adds the file of a setting, unless that is empty.
+/// Adds the file named by a setting, unless the setting is empty.
 void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::string& setting,
              std::string_view fixedName, AuxiliarySpelling spelling) {
   if (setting.empty()) return;

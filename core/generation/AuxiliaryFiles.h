@@ -7,18 +7,19 @@
 
 namespace vantorium {
 
-/// A backdrop or link graphic of a run.
+/// A backdrop or link graphic that a run copies.
 struct AuxiliaryFile {
   std::string source;  ///< path text
-  std::string name;    ///< in the images folder: a fixed one with the extension of the source
+  std::string name;    ///< in the images folder: a fixed name with the extension of the source
   AuxiliarySpelling spelling;
 };
 
-/// Those that the run copies, in their order. A graphic without a folder is looked for beside the project file.
+/// The files that the run copies, in the order of copying. A file without a folder is looked for beside the project
+/// file.
 [[nodiscard]] std::vector<AuxiliaryFile> Backdrops(const RunState& run);
 [[nodiscard]] std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run);
 
-/// Copies them into the images folder.
+/// Copy these files into the images folder.
 [[nodiscard]] PhaseResult CopyBackdrops(const RunContext& context);
 [[nodiscard]] PhaseResult CopyLinkGraphics(const RunContext& context);
 

@@ -9,18 +9,18 @@
 
 namespace vantorium {
 
-/// Whether the run under way is to stop: polled by the run at each phase and each item, and called at once by the
-/// cancel button of the progress window.
+/// Decides whether the current run must stop. The run polls it at each phase and each item; the cancel button of the
+/// progress window calls it at once.
 class CancelCheck : public CancelPoll, public CancelState {
  public:
   explicit CancelCheck(MessageBoxPort& boxes) : boxes_(boxes) {}
 
-  /// True when the run must stop. The first call after the button was pressed asks whether that was meant.
+  /// Returns true if the run must stop. The first call after the button was pressed asks the user to confirm.
   [[nodiscard]] bool CheckForCancel(ProgressWindow& progress) override;
 
   [[nodiscard]] bool CancelRequested() const override { return cancelRequested_; }
   void Clear() { cancelRequested_ = false; }
-  /// What a confirmed cancel does at once, such as ending a transfer under way.
+  /// Sets what a confirmed cancel does at once, such as aborting a transfer.
   void OnCancel(std::function<void()> action) { onCancel_ = std::move(action); }
 
  private:

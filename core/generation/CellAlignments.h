@@ -6,21 +6,21 @@
 
 namespace vantorium {
 
-/// Where a caption or a description stands: left, right, above or below a picture. A description's setting has the same
-/// numbers, a caption's setting begins with 0 for left.
+/// Position of a caption or description relative to its picture. A description's setting has the same numbers; a
+/// caption's setting starts with 0 for left.
 enum class Placement : Choice { None = 0, Left = 1, Right = 2, Above = 3, Below = 4 };
 
 [[nodiscard]] Placement DescriptionPlacement(Choice setting);
 [[nodiscard]] Placement CaptionPlacement(Choice setting);
 
-/// The alignment attributes of the table cells of a text and of the picture it belongs to.
+/// Alignment attributes of the table cells of a text and of its picture.
 struct CellPair {
   std::string_view text;
   std::string_view picture;
 };
 
-// The alignment is 0, 1 or 2: top, centre, bottom beside a picture, left, centre, right above and below it. All is
-// empty for an alignment or a placement that is not in the tables.
+// `alignment` is 0, 1 or 2: top, center, bottom beside a picture; left, center, right above or below it. The results
+// are empty for an alignment or placement outside the tables.
 
 [[nodiscard]] CellPair ThumbnailDescriptionCells(Choice alignment, Placement placement);
 [[nodiscard]] CellPair ThumbnailCaptionCells(Choice alignment, Placement placement);

@@ -10,7 +10,7 @@
 namespace vantorium {
 namespace {
 
-/// Runs one statement of the collection. Its failure is ignored, and what it would have set keeps its value.
+/// Runs one statement and ignores its RuntimeFailure; what it would have set keeps its value.
 template <typename Statement>
 void Ignoring(Statement statement) {
   try {
@@ -53,7 +53,7 @@ void FindImageSize(const RunState& run, ImageRunInfo& image) {
   }
 }
 
-/// The thumbnail follows the shape of the image as the gallery shows it, not that of the source.
+/// The thumbnail keeps the aspect ratio of the image as the gallery shows it, not of the source.
 void FindThumbnailSize(const GalleryProject& project, ImageRunInfo& image) {
   const bool keepRatio = project.checkThumbnailsImageKeepAspectRatio == 1;
   const bool widthGiven = project.checkThumbnailsImageSetWidth == 1;

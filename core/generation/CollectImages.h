@@ -4,8 +4,8 @@
 
 namespace vantorium {
 
-/// Fills the run's RunInfo: name, time and sizes of every image, from file headers only. What can't be found out keeps
-/// 0.
+/// Fills the run's RunInfo with the name, time and sizes of every image, reading only file headers. Values that cannot
+/// be determined stay 0.
 [[nodiscard]] PhaseResult CollectImages(const RunContext& context);
 
 }  // namespace vantorium

@@ -10,12 +10,12 @@
 namespace vantorium {
 namespace {
 
-/// Path text through its last separator. Unlike GetFilePath it keeps a separator in front.
+/// Returns `path` through its last separator. Unlike GetFilePath it keeps a leading separator.
 std::string FolderPart(const std::string& path) {
   return path.substr(0, path.size() - GetFileName(path).size());
 }
 
-/// A folder on the server ready to be followed by a name.
+/// Returns a remote folder to which a name can be appended.
 std::string WithTrailingSeparator(const std::string& folder) {
   const bool needsOne = !folder.empty() && !folder.ends_with('\\') && !folder.ends_with('/');
   return needsOne ? folder + '/' : folder;
@@ -148,7 +148,7 @@ void GalleryCreator::MakeTempFolder() {
   std::ignore = environment_.files.MakePath(TempFolder());
 }
 
-/// The failure may be known only when this run, and the object that made it, are long gone.
+/// Captures only the boxes: the failure may be reported long after this run and this object are gone.
 void GalleryCreator::OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex) {
   const StartFailed tell = [&boxes = environment_.boxes](const RuntimeFailure& failure) {
     boxes.Critical("Error", "Error: " + std::to_string(failure.Number()) + "\r\r" + failure.Description());

@@ -6,19 +6,19 @@
 
 namespace vantorium {
 
-/// The operation in which every command for previewing, creating, publishing and uploading ends.
+/// Carries out every command that previews, creates, publishes or uploads.
 class GalleryCreator {
  public:
-  /// `preferences`: the temporary folder's place is read from them, the last target is remembered in them.
+  /// Reads the location of the temporary folder from `preferences` and stores the last target there.
   GalleryCreator(Project& project, Preferences& preferences, std::string programFolder, RunEnvironment environment)
       : project_(project),
         preferences_(preferences),
         programFolder_(std::move(programFolder)),
         environment_(environment) {}
 
-  /// Repairs empty settings, asks what to do when `mode` is Create, and runs. A Preview that went well is opened in
-  /// browser `browserIndex`, 0 being the system's own. The dialog may turn the mode from Create into another one. A run
-  /// that makes its files in the temporary folder has that to itself, or does not start.
+  /// Repairs empty settings, asks the user what to do if `mode` is Create, and runs. The dialog may change `mode` from
+  /// Create to another mode. A successful Preview is opened in browser `browserIndex`; 0 is the system's default. A run
+  /// that makes its files in the temporary folder has exclusive use of it, or does not start.
   RunEnd CreateGallery(GenerationMode& mode, std::int16_t browserIndex);
 
  private:
@@ -32,7 +32,7 @@ class GalleryCreator {
   [[nodiscard]] RunEnd Run(const RunArguments& arguments);
   void MakeTempFolder();
   [[nodiscard]] std::filesystem::path NativeTempFolder() const;
-  /// True after a box that says why the run may not put its files there.
+  /// Returns true, after a message box with the reason, if the run may not use the temporary folder.
   [[nodiscard]] bool RefuseTempFolder(const TempFolderLock& lock);
   [[nodiscard]] std::string TempFolder() const;
   void OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex);

@@ -14,7 +14,7 @@ struct PageRange {
   std::int64_t to;
 };
 
-/// The pages with a link: `most` of them around `page`, all for less than 1.
+/// The linked pages: `most` of them around `page`, or all if `most` is less than 1.
 PageRange LinkedPages(std::int64_t page, std::int64_t pageCount, std::int64_t most) {
   if (most < 1) return {1, pageCount};
   const std::int64_t after = most / 2;
@@ -31,8 +31,8 @@ PageRange LinkedPages(std::int64_t page, std::int64_t pageCount, std::int64_t mo
   return {std::max<std::int64_t>(range.from, 1), std::min(range.to, pageCount)};
 }
 
-/// Appends links to pages. A gallery with many pages has the square of their number: what is the same in each link is
-/// put together once.
+/// Appends links to pages. A gallery can have as many links as the square of its pages, so the parts that all links
+/// share are built once.
 class LinkAppender {
  public:
   explicit LinkAppender(const GalleryProject& project)

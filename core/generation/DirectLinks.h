@@ -7,8 +7,8 @@
 
 namespace vantorium {
 
-/// The numbered links of thumbnail page `page` to its neighbours, with "..." where more follow. Throws RuntimeFailure
-/// TypeMismatch when the greatest number of links is no number, Overflow when it does not fit 32 bits.
+/// Returns the numbered links of thumbnail page `page` to its neighbors, with "..." where there are more pages. Throws
+/// RuntimeFailure TypeMismatch if the maximum number of links is not a number, Overflow if it does not fit 32 bits.
 [[nodiscard]] std::string BuildDirectLinks(const RunState& run, std::int32_t page);
 
 }  // namespace vantorium

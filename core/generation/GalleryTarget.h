@@ -8,53 +8,53 @@
 
 namespace vantorium {
 
-/// Why a file could not be put in its place, as the user is told.
+/// Why a file could not be delivered, as a message box shows it.
 struct Refusal {
   std::string title;
   std::string text;
 };
 
-using Delivery = std::optional<Refusal>;  ///< nothing when it went well
+using Delivery = std::optional<Refusal>;  ///< nullopt on success
 
-/// Which spelling the message about an auxiliary file has.
+/// How the error message about an auxiliary file spells "File".
 enum class AuxiliarySpelling { File, file };
 
-/// That message.
+/// Returns the error message about an auxiliary file.
 [[nodiscard]] inline std::string UnableToCopyAuxiliary(const std::string& source, AuxiliarySpelling spelling) {
   return std::string("Unable to copy the ") + (spelling == AuxiliarySpelling::File ? "File" : "file") + " \"" + source +
          "\".";
 }
 
-/// Where a run puts the files it makes: a folder of this machine, or a server by way of the temporary folder. Names are
-/// those of the gallery; a name that would lead out of its folder is refused like a file that can't be written. What is
-/// stored appears under its name only when it is whole.
+/// Where a run puts the files it makes: a local folder, or a server by way of the temporary folder. Names are those in
+/// the gallery; a name that would lead out of its folder is refused like a file that cannot be written. A stored file
+/// appears under its name only when it is complete.
 class GalleryTarget {
  public:
   virtual ~GalleryTarget() = default;
 
   [[nodiscard]] virtual Delivery MakeFolders() = 0;
 
-  /// Whether the next two questions may be asked ahead of an image's turn. To a server they are a part of the run's
-  /// dialogue, and each is asked once.
+  /// Whether ImageExists and ThumbnailExists may be called ahead of an image's turn. With a server they are part of the
+  /// run's dialogue, and each is called once.
   [[nodiscard]] virtual bool MayAskAhead() const = 0;
   [[nodiscard]] virtual bool ImageExists(const ImageRunInfo& image) = 0;
   [[nodiscard]] virtual bool ThumbnailExists(const ImageRunInfo& image) = 0;
-  /// Size of an image at the target as text. Throws RuntimeFailure when it can't be read.
+  /// Returns the size of an image at the target as text. Throws RuntimeFailure if it cannot be read.
   [[nodiscard]] virtual std::string ImageSizeText(const ImageRunInfo& image) = 0;
 
-  /// The source file as it is.
+  /// Copies the source file unchanged.
   [[nodiscard]] virtual Delivery CopyImage(const ImageRunInfo& image) = 0;
-  /// An encoded image under the source's file times; sets the image's FileSize. Throws RuntimeFailure JPEGLibrary when
-  /// it can't be written.
+  /// Stores an encoded image with the file times of its source and sets the image's FileSize. Throws RuntimeFailure
+  /// JPEGLibrary if the file cannot be written.
   [[nodiscard]] virtual Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) = 0;
-  /// An encoded thumbnail. Throws as StoreImage.
+  /// Stores an encoded thumbnail. Throws like StoreImage.
   [[nodiscard]] virtual Delivery StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) = 0;
 
-  /// A backdrop or link graphic into the images folder under `name`. `source` is path text.
+  /// Copies a backdrop or link graphic into the images folder under `name`. `source` is path text.
   [[nodiscard]] virtual Delivery CopyAuxiliary(const std::string& source, const std::string& name,
                                                AuxiliarySpelling spelling) = 0;
 
-  /// The bytes of a page. Throws RuntimeFailure FileAccess when it can't be written.
+  /// Store the bytes of a page. Throw RuntimeFailure FileAccess if they cannot be written.
   [[nodiscard]] virtual Delivery StoreIndexPage(std::string_view page) = 0;
   [[nodiscard]] virtual Delivery StoreThumbnailPage(std::int32_t number, std::string_view page) = 0;
   [[nodiscard]] virtual Delivery StoreWrapperPage(const std::string& listText, std::string_view page) = 0;

@@ -28,7 +28,7 @@ struct ModeTexts {
   const char* caption;
 };
 
-/// By GenerationMode.
+/// Indexed by GenerationMode.
 constexpr std::array<ModeTexts, 4> kModeTexts = {{
     {"Please wait while the Gallery is being created...", "Creating Gallery"},
     {"Please wait while the Gallery is prepared for Preview...", "Preparing Gallery for Preview"},
@@ -51,7 +51,7 @@ PhaseResult StampAndSetPaths(const RunContext& context) {
   return kGoOn;
 }
 
-/// Files that a run which was killed has not finished would stay for ever.
+/// Removes the unfinished files of a killed run, which would otherwise stay forever.
 void TidyFolders(const RunState& run) {
   for (const std::string& folder : {run.OutputFolder, run.LocalImagesDir, run.LocalThumbsDir}) {
     if (const auto native = run.files.Paths().ToNative(folder)) RemoveAbandonedNeighbours(*native);
@@ -86,7 +86,7 @@ PhaseResult Succeed(const RunContext& /*context*/) {
 
 using Phase = PhaseResult (*)(const RunContext&);
 
-/// A run in its fixed order. The first phase that comes to an end ends the run.
+/// The phases of a run, in their fixed order. The first phase that returns an end ends the run.
 constexpr Phase kPhases[] = {
     OpenServerSession,       //
     UploadFolderAndEnd,      //
@@ -118,7 +118,7 @@ RunEnd FailUnexpectedly(const RunContext& context, const std::string& descriptio
   return RunEnd::Failure;
 }
 
-/// The phases with unexpected failures trapped: the program's own, and whatever the libraries below it throw.
+/// Runs the phases and turns every unexpected exception, the program's own or a library's, into a failure.
 RunEnd RunTrapped(const RunContext& context) {
   constexpr std::int32_t kOutOfMemory = 7;
   constexpr std::int32_t kInternal = 51;
@@ -135,7 +135,8 @@ RunEnd RunTrapped(const RunContext& context) {
   }
 }
 
-/// The maximum of the run's bar: a step for each thing done to each image, and one for looking at it.
+/// Maximum of the progress bar: for each image, one step for collecting its information and one for each phase that
+/// processes it.
 std::int32_t ProgressMaximum(const Project& project, const RunArguments& arguments) {
   if (arguments.Mode == GenerationMode::Upload) return 100;
   const bool wrappers = project.settings.checkImageWrapperUse == 1;
@@ -169,7 +170,7 @@ void EndInSuccess(const RunEnvironment& environment, ProgressWindow& progress) {
   progress.ShowBusyPointer(false);
 }
 
-/// The window stays, with its messages, until the user closes it.
+/// The window stays open until the user closes it. The messages in its log box go to the log.
 void EndInFailure(const RunEnvironment& environment, ProgressWindow& progress) {
   progress.OfferClose();
   environment.host.ShowStatus("");
@@ -202,8 +203,8 @@ void FinishRun(RunEnd end, const RunEnvironment& environment, ProgressWindow& pr
   }
 }
 
-/// The FTP client during a run: it logs to the run's window. At the end the window is unloaded, and then a connection
-/// that still stands is closed.
+/// Makes the FTP client log to the progress window during a run. At the end destroys the window, then closes the
+/// connection if it is still open.
 class ServerUse {
  public:
   ServerUse(mFTP* ftp, std::unique_ptr<ProgressWindow>& progress) : ftp_(ftp), progress_(progress) {
@@ -232,7 +233,7 @@ std::string ProjectFileOf(const Project& project) {
   return WithTrailingBackslash(project.ProjectFolder) + project.ProjectFileName;
 }
 
-/// Sizes in percent never reach a page, though the option can be set.
+/// Sizes in percent never appear on a page, although the option can be set.
 void ForceOffSizesInPercent(Project& project) {
   constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
   if (project.settings.*kField != 0) ProjectEditor(project.settings, project.IsModified).Set(kField, std::int16_t{0});

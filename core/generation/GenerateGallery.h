@@ -16,7 +16,7 @@
 
 namespace vantorium {
 
-/// All that a run needs around it. The owner keeps these alive for the length of the run.
+/// Everything a run needs from the program. The owner keeps these alive until the run ends.
 struct RunEnvironment {
   RunHost& host;
   MessageBoxPort& boxes;
@@ -28,12 +28,12 @@ struct RunEnvironment {
   CancelCheck& cancel;
   const Screen& screen;
   const TextRaster& texts;
-  mFTP* ftp = nullptr;  ///< the FTP client; a program that only creates and previews has none
-  unsigned jobs = 1;    ///< photographs worked on at a time; what comes out is the same for every number
+  mFTP* ftp = nullptr;  ///< null in a program that only creates and previews
+  unsigned jobs = 1;    ///< photographs processed at a time; the output does not depend on it
 };
 
-/// One run: takes the project through the phases that turn it into files and ends in one of three ways. Whatever was
-/// written stays. Nothing may change the project meanwhile.
+/// Performs one run: takes the project through the phases that turn it into files. Returns Success, Failure or
+/// Cancelled. Whatever was written stays. The project must not change during the run.
 [[nodiscard]] RunEnd GenerateGallery(Project& project, const RunArguments& arguments,
                                      const RunEnvironment& environment);
 

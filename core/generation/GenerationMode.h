@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// What a run is for.
+/// The purpose of a run.
 enum class GenerationMode : std::int16_t {
   Create = 0,   ///< write the gallery to a local folder
   Preview = 1,  ///< write only the pages to the temporary folder, with links to the source files

@@ -7,7 +7,7 @@
 
 namespace vantorium {
 
-/// What one run knows of one image, beside its ImageEntry. Sizes are pixels.
+/// What a run knows about one image in addition to its ImageEntry. Sizes are in pixels.
 struct ImageRunInfo {
   std::string Path{};              ///< path text of the source file
   std::string FileName{};          ///< name of the output file

@@ -25,7 +25,7 @@ void AddHead(PageText& page, const RunState& run) {
   page.Line();
 }
 
-/// The slide show may begin with the first image; its wrapper page is then named whether there are such pages or not.
+/// A slide show that begins with the first image names its wrapper page, even if there are no wrapper pages.
 std::string FirstPage(const RunState& run) {
   const GalleryProject& project = run.project;
   const bool beginsWithImage = project.checkGallerySlideShow == 1 && project.comboGallerySlideShowBeginWith == 1;
@@ -56,7 +56,7 @@ Frame ImageFrame(const RunState& run) {
   return {project.comboImageFrameName, ImageTarget(run, 1), sized ? SizeText(project.ImageFrameSize, project) : "*"};
 }
 
-// The blanks of these pieces are doubled where they meet, and stand where a piece is empty.
+// Spaces double where two of these pieces meet, and remain where a piece is empty.
 void AddFrames(PageText& page, const GalleryProject& project, std::string_view attribute, const Frame& first,
                const Frame& second) {
   const bool borders = project.checkGalleryFramesDisplayBorders == 1;

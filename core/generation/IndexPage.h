@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// The page that a visitor opens: the frames of the gallery, in the single frame layout one. Throws RuntimeFailure
-/// IndexOutOfBounds without an image where the first is needed.
+/// Builds the page that a visitor opens: the two frames of the gallery, or one in the single-frame layout. Throws
+/// RuntimeFailure IndexOutOfBounds if it needs the first image and there is none.
 [[nodiscard]] std::string BuildIndexPage(const RunState& run);
 
 }  // namespace vantorium

@@ -9,13 +9,13 @@ constexpr std::string_view kEnd = "</A>";
 constexpr std::string_view kEndAndBlank = "</A>&nbsp;";
 constexpr std::string_view kBlank = "&nbsp;";
 
-/// One bar under way, of image or page `current` of `total`.
+/// Builds one bar, for image or page `current` of `total`.
 class LinkBar {
  public:
   LinkBar(const RunState& run, std::int32_t current, std::int32_t total)
       : run_(run), current_(current), total_(total) {}
 
-  /// First and Previous: a blank behind each form.
+  /// First and Previous: a blank after each form.
   void Leading(LinkKind kind) {
     const LinkSettings& link = LinkOf(run_.project, kind);
     const std::string anchor = Anchor(kind);
@@ -26,7 +26,7 @@ class LinkBar {
     Add(anchor, link.textLinkLabel, kEndAndBlank);
   }
 
-  /// Next and Last: a blank before the first form and between them. The text form stands beside a graphic when
+  /// Next and Last: a blank before the first form and between the two. A link with a graphic has the text form too if
   /// `testedLabel` is not empty.
   void Trailing(LinkKind kind, const std::string& testedLabel) {
     const LinkSettings& link = LinkOf(run_.project, kind);
@@ -40,7 +40,7 @@ class LinkBar {
     Add(anchor, Graphic(kind), kEnd);
   }
 
-  /// With both forms the graphic stands on either side of the text.
+  /// If the link has both forms, the graphic appears on both sides of the text.
   void Index() {
     const LinkSettings& link = LinkOf(run_.project, LinkKind::Index);
     const std::string anchor = Anchor(LinkKind::Index);
@@ -94,7 +94,7 @@ std::string BuildImagePageBar(const RunState& run, std::int32_t image) {
   bar.Leading(LinkKind::FirstImage);
   bar.Leading(LinkKind::PreviousImage);
   if (project.comboGalleryLayoutType == 0) bar.Index();
-  // Next looks at the label of Previous; existing galleries come out so.
+  // Next tests the label of Previous, to match existing galleries.
   bar.Trailing(LinkKind::NextImage, project.ImagePreviousLink.textLinkLabel);
   bar.Trailing(LinkKind::LastImage, project.ImageLastLink.textLinkLabel);
   return bar.Take();

@@ -7,12 +7,12 @@
 
 namespace vantorium {
 
-/// The bar of links of thumbnail page `page`; empty when it is the only one. Shows run.DirectLinksText when the project
-/// wants direct links.
+/// Returns the link bar of thumbnail page `page`; empty if it is the only page. Includes run.DirectLinksText if the
+/// project uses direct links.
 [[nodiscard]] std::string BuildThumbnailPageBar(const RunState& run, std::int32_t page);
 
-/// The bar of links of the wrapper page of `image`; empty when it is the only image. Throws as ThumbnailPageOfImage in
-/// the single frame layout, where it has a link to the thumbnails.
+/// Returns the link bar of the wrapper page of `image`; empty if it is the only image. In the single-frame layout it
+/// has a link to the thumbnails and throws like ThumbnailPageOfImage.
 [[nodiscard]] std::string BuildImagePageBar(const RunState& run, std::int32_t image);
 
 }  // namespace vantorium

@@ -13,29 +13,29 @@ namespace vantorium {
 /// Name of thumbnail page `page`.
 [[nodiscard]] std::string ThumbnailPageName(const GalleryProject& project, std::int32_t page);
 
-/// Name of the wrapper page of the image with that list text.
+/// Name of the wrapper page of the image with list text `listText`.
 [[nodiscard]] std::string WrapperPageName(const GalleryProject& project, const std::string& listText);
 
 /// Name of an image's thumbnail file.
 [[nodiscard]] std::string ThumbnailFileName(const GalleryProject& project, const ImageRunInfo& image);
 
-/// Where a run writes an image's file on this machine, path text: in the images folder, on the way to a server in the
-/// temporary folder itself.
+/// Local path (path text) of an image's output file: in the images folder or, when publishing, directly in the
+/// temporary folder.
 [[nodiscard]] std::string LocalImagePath(const RunState& run, const ImageRunInfo& image);
 
-/// The same for its thumbnail, which has its folder in both.
+/// The same for the thumbnail, which is always in the thumbnails folder.
 [[nodiscard]] std::string LocalThumbnailPath(const RunState& run, const ImageRunInfo& image);
 
-/// A folder setting as addresses show it: slashes, one at the end.
+/// Returns a folder setting as used in URLs: with forward slashes, ending in one.
 [[nodiscard]] std::string UrlFolder(const std::string& folder);
 
-/// Where an image's file is found from a page: in the images folder, in Preview the source file's own address.
+/// URL of an image's file in a page: in the images folder or, in Preview, the source file.
 [[nodiscard]] std::string ImageUrl(const RunState& run, std::int32_t image);
 
-/// Where a link to an image leads: its wrapper page, without wrapper pages its file.
+/// Target of a link to an image: its wrapper page, or its file if there are no wrapper pages.
 [[nodiscard]] std::string ImageTarget(const RunState& run, std::int32_t image);
 
-/// The "file://" address of a source file, a native path with slashes and nothing else done to it.
+/// The "file://" URL of a source file: its native path with slashes, without any encoding.
 [[nodiscard]] std::string SourceUrl(const RunState& run, std::int32_t image);
 
 }  // namespace vantorium

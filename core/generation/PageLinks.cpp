@@ -77,7 +77,7 @@ std::string TargetPage(const RunState& run, LinkKind kind, std::int32_t current,
     case LinkKind::LastThumbnailPage:
       return page(total);
     case LinkKind::Index:
-      break;  // has an anchor of its own
+      break;  // see IndexAnchor
   }
   return {};
 }
@@ -102,7 +102,7 @@ std::string BuildLinkGraphic(const RunState& run, LinkKind kind, std::int32_t cu
   if (total == 1) return {};
   const LinkSettings& link = LinkOf(run.project, kind);
   const bool dead = IsAtDeadEnd(kind, current, total);
-  // The project's folder in every mode: a preview does not find these graphics.
+  // Uses the project's folder in every mode, so a preview does not find these graphics.
   return fmt::format(R"(<IMG SRC="{}{}{}" BORDER="0" ALIGN="MIDDLE">)",
                      UrlFolder(run.project.textImageSettingsSubFolder),
                      dead ? GraphicsOf(kind).nameAtDeadEnd : GraphicsOf(kind).name,

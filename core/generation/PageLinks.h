@@ -8,7 +8,7 @@
 
 namespace vantorium {
 
-/// What a link of a page leads to.
+/// The target of a page link.
 enum class LinkKind : std::int16_t {
   FirstImage = 0,
   PreviousImage = 1,
@@ -30,19 +30,20 @@ struct LinkGraphics {
 };
 [[nodiscard]] const LinkGraphics& GraphicsOf(LinkKind kind);
 
-/// The settings of the link of that kind.
+/// Returns the settings of the link of kind `kind`.
 [[nodiscard]] const LinkSettings& LinkOf(const GalleryProject& project, LinkKind kind);
 
-/// The opening tag of a link on image or page `current` of `total`; its `</A>` is not there. Empty at the end of the
-/// sequence and when there is nothing to go to. Throws RuntimeFailure DivisionByZero for Index as ThumbnailPageOfImage.
+/// Returns the opening tag of a link on image or page `current` of `total`, without its `</A>`. Except for Index, empty
+/// at the end of the sequence and for a total of 1. For Index, throws RuntimeFailure DivisionByZero like
+/// ThumbnailPageOfImage.
 [[nodiscard]] std::string BuildLinkAnchor(const RunState& run, LinkKind kind, std::int32_t current, std::int32_t total);
 
-/// The image tag of a link's graphic on image or page `current` of `total`, at the end of the sequence that of its
-/// disabled graphic. Empty for a total of 1.
+/// Returns the image tag of a link's graphic on image or page `current` of `total`; at the end of the sequence, that of
+/// its disabled graphic. Empty for a total of 1.
 [[nodiscard]] std::string BuildLinkGraphic(const RunState& run, LinkKind kind, std::int32_t current,
                                            std::int32_t total);
 
-/// The thumbnail page on which an image stands. Throws RuntimeFailure DivisionByZero when a page holds no thumbnail.
+/// Returns the thumbnail page that shows `image`. Throws RuntimeFailure DivisionByZero if a page holds no thumbnails.
 [[nodiscard]] std::int32_t ThumbnailPageOfImage(const GalleryProject& project, std::int32_t image);
 
 }  // namespace vantorium

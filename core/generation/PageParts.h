@@ -8,12 +8,12 @@
 
 namespace vantorium {
 
-// Pieces that more than one kind of page is made of.
+// Pieces shared by several kinds of page.
 
-/// The line that names the program that made a page.
+/// Returns the line that names the program that generated a page.
 [[nodiscard]] std::string GeneratorTag();
 
-/// Six hexadecimal digits in capitals: red, green, blue. No "#".
+/// Returns six uppercase hexadecimal digits: red, green, blue. No "#".
 [[nodiscard]] std::string ColorToHtml(Color color);
 
 /// A backdrop: its setting, and the name of its copy in the images folder, to which the extension is added.
@@ -26,15 +26,15 @@ inline constexpr Backdrop kThumbnailTableBackdrop = {"_backdrop_thumbtable",
 inline constexpr Backdrop kThumbnailPageBackdrop = {"_backdrop_thumbpage", &GalleryProject::textThumbnailsPageBackdrop};
 inline constexpr Backdrop kImagePageBackdrop = {"_backdrop_imagepage", &GalleryProject::textImageWrapperBackdrop};
 
-/// ` BACKGROUND="..."` for the copy of a backdrop in the images folder; empty when the project has no such backdrop.
+/// Returns ` BACKGROUND="..."` for the copy of a backdrop in the images folder; empty if the project has no such backdrop.
 [[nodiscard]] std::string BackdropAttribute(const RunState& run, const Backdrop& backdrop);
 
-/// The BODY tag of a page: with the project's colors where it sets them, else without any. Without colors its blank
-/// stays, with a backdrop and without.
+/// Returns the BODY tag of a page, with the project's colors if it sets them. Without colors the space after BODY is
+/// written all the same, with and without a backdrop.
 [[nodiscard]] std::string BodyTag(const GalleryProject& project, const PageColorFields& fields,
                                   std::string_view backdropAttribute);
 
-/// The tag that makes the browser go on to `target` after `delay` seconds.
+/// The tag that makes the browser load `target` after `delay` seconds.
 [[nodiscard]] std::string RefreshTag(std::string_view delay, std::string_view target);
 
 }  // namespace vantorium

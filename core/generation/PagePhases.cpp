@@ -38,7 +38,8 @@ PhaseResult WriteIndexPage(const RunContext& context) {
 }
 
 PhaseResult WriteThumbnailPages(const RunContext& context) {
-  // Rows and columns need not multiply to the images of a page count, so the images are counted as they are placed.
+  // The page count uses the rounded product of rows and columns, a page uses their rounded values, so images are
+  // counted as they are placed.
   std::int32_t firstImage = 1;
   for (std::int32_t page = 1; page <= context.run.ThumbnailPageCount; ++page) {
     if (auto end = WriteThumbnailPage(context, page, firstImage)) return end;

@@ -11,21 +11,21 @@
 
 namespace vantorium {
 
-/// A page under way: lines, each ended by CR LF.
+/// Builds the text of a page line by line. Each line ends in CR LF.
 class PageText {
  public:
   PageText() { text_.reserve(kUsualSize); }
 
   void Line(std::string_view text = {}) { text_.append(text).append(kCrLf); }
 
-  /// A line put together by {fmt}. Texts of the user go in as arguments.
+  /// Appends a line formatted by {fmt}. Pass user text only as arguments.
   template <typename... Args>
   void Format(fmt::format_string<Args...> format, Args&&... args) {
     fmt::format_to(std::back_inserter(text_), format, std::forward<Args>(args)...);
     text_.append(kCrLf);
   }
 
-  /// Code of the user between the two comments that name its place, such as "HEAD CODE". Each comment is indented.
+  /// Appends user code between two comments that name its place, such as "HEAD CODE". `indent` precedes each comment.
   void UserCode(std::string_view place, std::string_view code, std::string_view indent = {});
 
   [[nodiscard]] std::string Take() { return std::move(text_); }

@@ -4,7 +4,7 @@ namespace vantorium {
 
 namespace {
 
-// Each output of a run has noise of its own.
+// Each output of a run has its own noise.
 std::uint64_t NoiseOfImage(std::int32_t image) {
   return 2 * static_cast<std::uint64_t>(image);
 }

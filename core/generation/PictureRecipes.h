@@ -8,14 +8,14 @@
 
 namespace vantorium {
 
-/// Makes the painters of the watermarks that the project uses, one for each target and for the whole run. `texts` must
-/// live as long as the run.
+/// Creates the watermark painters that the project uses, one for images and one for thumbnails, for the whole run.
+/// `texts` must live as long as the run.
 void PrepareWatermarks(RunState& run, const Screen& screen, const TextRaster& texts);
 
-/// What is to be made of a source for the image's file; nothing when the file is copied as it is.
+/// Returns how to make the image's file from its source, or nullopt if the file is copied unchanged.
 [[nodiscard]] std::optional<PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image);
 
-/// What is to be made of a source for the thumbnail: always a file of its own, from the source and not from the image.
+/// Returns how to make the thumbnail: always a separate file, made from the source and not from the image.
 [[nodiscard]] PictureRecipe ThumbnailRecipe(const RunState& run, std::int32_t image);
 
 }  // namespace vantorium

@@ -14,7 +14,7 @@
 namespace vantorium {
 namespace {
 
-// Three pictures of 24 megapixels in several scans.
+// Enough for three multi-scan pictures of 24 megapixels.
 constexpr std::uint64_t kCoefficientBytes = std::uint64_t{256} << 20;
 
 constexpr auto kWaitingSlice = std::chrono::milliseconds(20);
@@ -37,7 +37,7 @@ PictureWorkshop::Workers::Workers(unsigned jobs) {
     threads.reserve(jobs);
     while (threads.size() < jobs) threads.emplace_back([this] { tasks.run(); });
   } catch (const std::exception&) {
-    // The system has no more threads, or no memory for them. Those that are there do the work.
+    // The system has no more threads, or no memory for them. The threads already started do the work.
   }
 }
 
@@ -59,7 +59,7 @@ MadePictures PictureWorkshop::Make(const PictureTask& task) {
   return {MakePictures(task.source, task.request, {stop_.get_token(), budget_}), stamp};
 }
 
-/// How many numbers are planned at a time, the one that is asked for among them.
+/// How many numbers are planned at a time, including the one asked for.
 std::int32_t PictureWorkshop::Window() const {
   return std::max(1, 2 * static_cast<std::int32_t>(workers_->threads.size()));
 }
@@ -69,7 +69,7 @@ void PictureWorkshop::PlanAhead(std::int32_t number) {
   while (planned_ < std::min(count_, number + Window() - 1)) {
     auto task = plan_(++planned_);
     if (!task) continue;
-    // Only what can be copied can be posted.
+    // A posted handler must be copyable.
     auto work = std::make_shared<std::packaged_task<MadePictures()>>(
         [this, task = *std::move(task)] { return stop_.stop_requested() ? MadePictures() : Make(task); });
     ahead_.push_back({planned_, work->get_future()});

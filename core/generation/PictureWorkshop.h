@@ -12,40 +12,40 @@
 
 namespace vantorium {
 
-/// One photograph to be worked on.
+/// One photograph to process.
 struct PictureTask {
   std::filesystem::path source;
   PictureRequest request;
 };
 
-/// What came of a task, and of which file.
+/// The result of a task, and the file it was made from.
 struct MadePictures {
   PictureFiles files;
-  std::optional<SourceStamp> source;  ///< as the file was before it was read
+  std::optional<SourceStamp> source;  ///< stamp of the file before it was read
 };
 
-/// Makes pictures on its workers, a bounded number of them ahead of their turn. The caller plans and takes them in the
-/// order of their numbers, on its own thread. Where the system has fewer threads to give than are asked for, those work
-/// alone; where it has none, the caller's thread makes a picture when it is taken.
+/// Makes pictures on worker threads, a bounded number of them ahead of their turn. The caller plans and takes them in
+/// the order of their numbers, on its own thread. If the system cannot start all threads, those started do the work; if
+/// it starts none, the caller's thread makes each picture when it is taken.
 class PictureWorkshop {
  public:
-  /// What is to be done for a number; nothing when there is no work in it.
+  /// Returns the task for a number, or nullopt if it needs no work.
   using Plan = std::function<std::optional<PictureTask>(std::int32_t number)>;
-  /// Called again and again while a picture is waited for. False gives up.
+  /// Called repeatedly while waiting for a picture. Returns false to give up.
   using Waiting = std::function<bool()>;
 
-  /// `jobs`: photographs worked on at a time. Numbers count from 1 to `count`.
+  /// `jobs`: photographs processed at a time. Numbers run from 1 to `count`.
   PictureWorkshop(unsigned jobs, std::int32_t count, Plan plan);
-  /// Stops what is under way and waits for its end.
+  /// Stops running tasks and waits for them to end.
   ~PictureWorkshop();
   PictureWorkshop(const PictureWorkshop&) = delete;
   PictureWorkshop& operator=(const PictureWorkshop&) = delete;
 
-  /// What came of picture `number`; nothing when it was not planned, or given up by `waiting`. Numbers are asked for in
-  /// rising order, some may be left out. Throws what kept the worker from its work, such as a lack of memory.
+  /// Returns the result for picture `number`, or nullopt if it was not planned or `waiting` gave up. Numbers must be
+  /// taken in ascending order; some may be skipped. Throws whatever stopped the worker, such as std::bad_alloc.
   [[nodiscard]] std::optional<MadePictures> Take(std::int32_t number, const Waiting& waiting);
 
-  /// Does a task now, on the caller's thread.
+  /// Runs a task now, on the caller's thread.
   [[nodiscard]] MadePictures Make(const PictureTask& task);
 
  private:
@@ -60,11 +60,11 @@ class PictureWorkshop {
 
   Plan plan_;
   std::int32_t count_;
-  std::int32_t planned_ = 0;  // the last number that was planned
+  std::int32_t planned_ = 0;  // the last planned number
   CoefficientBudget budget_;
   std::stop_source stop_;
   std::deque<Ahead> ahead_;
-  std::unique_ptr<Workers> workers_;  // last: its end comes first
+  std::unique_ptr<Workers> workers_;  // last, so that it is destroyed first
 };
 
 }  // namespace vantorium

@@ -10,7 +10,7 @@
 namespace vantorium {
 namespace {
 
-/// A thumbnail that was made with its image.
+/// A thumbnail made together with its image.
 struct EarlyThumbnail {
   SourceStamp source;
   ThumbnailSpool::Place place;
@@ -53,8 +53,8 @@ class PictureProduction {
   [[nodiscard]] bool KeepsExistingThumbnail(Number number) {
     return !context_.arguments.Overwrite && context_.target.ThumbnailExists(run_.Info(number));
   }
-  /// Whether it is known ahead that a picture will be kept. Where that can't be asked ahead, it is made ahead, in vain
-  /// should it be there: work is done ahead only behind a picture that was not.
+  /// Whether it is known ahead that a picture will be kept. If the target cannot be asked ahead, the picture is made
+  /// ahead, in vain if it exists; but work ahead starts only after a picture that did not exist.
   [[nodiscard]] bool WillKeepImage(Number number) {
     return context_.target.MayAskAhead() && KeepsExistingImage(number);
   }
@@ -65,7 +65,7 @@ class PictureProduction {
   [[nodiscard]] PhaseResult Begin(const char* doing, Number number) const {
     return context_.Begin(std::string(doing) + " \"" + run_.ListText(number) + "\"...");
   }
-  /// A picture that could not be loaded: a failure with `text`, or the cancel's own doing when one is under way.
+  /// The result for a picture that could not be loaded: a failure with `text`, or Cancelled during a cancel.
   [[nodiscard]] PhaseResult NotLoaded(const std::string& text) const {
     return context_.Settle(Refusal{"File Error", text});
   }
@@ -77,7 +77,7 @@ class PictureProduction {
   const RunContext& context_;
   RunState& run_;
   ThumbnailSpool spool_;
-  std::vector<std::optional<EarlyThumbnail>> early_;  // that of image i at i - 1
+  std::vector<std::optional<EarlyThumbnail>> early_;  // element i - 1 is for image i
 };
 
 PhaseResult PictureProduction::ForEach(PictureWorkshop& workshop, Step step) {
@@ -117,7 +117,7 @@ PhaseResult PictureProduction::ImageStep(PictureWorkshop& workshop, Number numbe
   return kGoOn;
 }
 
-/// The file's size is read first: without one there is no file to copy.
+/// Reads the file's size first: if that fails there is no file to copy.
 PhaseResult PictureProduction::CopyImage(Number number) {
   ImageRunInfo& image = InfoOf(number);
   try {
@@ -153,7 +153,7 @@ PhaseResult PictureProduction::SizeStep(Number number) {
   try {
     InfoOf(number).FileSize = context_.target.ImageSizeText(InfoOf(number));
   } catch (const RuntimeFailure&) {
-    // An image that is not there keeps "0KB".
+    // A missing image keeps "0KB".
   }
   return kGoOn;
 }
@@ -191,7 +191,7 @@ void PictureProduction::KeepThumbnail(Number number, const MadePictures& made) {
   if (place) early_.at(static_cast<std::size_t>(number) - 1) = EarlyThumbnail{*made.source, *place};
 }
 
-/// The thumbnail that was made with its image, if the source is still the same file.
+/// Returns the thumbnail made together with its image, if the source is still the same file.
 std::optional<std::string> PictureProduction::EarlyBytes(Number number) const {
   const auto& early = early_.at(static_cast<std::size_t>(number) - 1);
   const auto source = run_.files.Paths().ToNative(run_.Info(number).Path);
@@ -205,8 +205,8 @@ PictureTask PictureProduction::Task(Number number, PictureRequest request) const
   return {run_.files.Paths().ToNative(run_.Info(number).Path).value_or(""), std::move(request)};
 }
 
-/// What came of the work done ahead for `number`. Where none was done, or the source is another file by now, `task` is
-/// done at once. Nothing when the run was cancelled meanwhile.
+/// Returns the result of the work done ahead for `number`. If there is none, or the source has changed since, runs
+/// `task` now. Returns nullopt if the run was cancelled meanwhile.
 std::optional<PictureFiles> PictureProduction::Take(PictureWorkshop& workshop, Number number, const PictureTask& task) {
   bool cancelled = false;
   auto made = workshop.Take(number, [&] {

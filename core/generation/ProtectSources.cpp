@@ -11,15 +11,15 @@
 namespace vantorium {
 namespace {
 
-/// A file that the run is to write.
+/// A file that the run will write.
 struct Output {
   std::string path;
-  std::string failure;   ///< what the user is told when it can't be written
-  std::string source{};  ///< the file that it is a plain copy of; empty for what is made anew
+  std::string failure;   ///< message if it cannot be written
+  std::string source{};  ///< the file it is a plain copy of; empty if it is generated
 };
 using Outputs = std::vector<Output>;
 
-/// The files that the gallery is made from, by device and number.
+/// The files that the gallery is made from, by device and inode.
 class Sources {
  public:
   explicit Sources(const RunState& run) : run_(run) {}
@@ -27,7 +27,7 @@ class Sources {
   void Add(const std::string& path) {
     if (const auto identity = IdentityOf(path)) known_.insert(*identity);
   }
-  /// A copy onto itself changes nothing.
+  /// Whether writing `output` would destroy a source. A copy onto itself changes nothing.
   [[nodiscard]] bool WouldLoseOneTo(const Output& output) const {
     const auto identity = IdentityOf(output.path);
     if (!identity || !known_.contains(*identity)) return false;
@@ -53,7 +53,7 @@ Output Page(const RunState& run, const std::string& name) {
   return {path, "Unable to create the File \"" + path + "\"."};
 }
 
-/// An image that is there stays in a run without overwriting. A server is asked only at the image's turn.
+/// An existing picture is kept if the run does not overwrite. A server is asked only at the picture's turn.
 bool StaysAsItIs(const RunContext& context, bool (GalleryTarget::*exists)(const ImageRunInfo&),
                  const ImageRunInfo& image) {
   return !context.arguments.Overwrite && context.target.MayAskAhead() && (context.target.*exists)(image);
@@ -111,7 +111,7 @@ PhaseResult Check(const RunContext& context, const Sources& sources, const Outpu
   return kGoOn;
 }
 
-/// Gives the event loop a turn every so often: to look at the files of a long list takes a while.
+/// Gives the event loop a turn every so often: checking the files of a long list takes a while.
 PhaseResult Pause(const RunContext& context, std::int32_t number) {
   constexpr std::int32_t kPauseEvery = 1000;
   if (number % kPauseEvery == 0 && context.Cancelled()) return RunEnd::Cancelled;

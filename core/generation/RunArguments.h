@@ -6,9 +6,9 @@
 
 namespace vantorium {
 
-/// What one run is to do, and where. Folders and paths are path text; remote ones have forward slashes.
+/// What a run does, and where. Folders and paths are path text; remote ones have forward slashes.
 struct RunArguments {
-  std::string OutputFolder;  ///< with its trailing backslash: the target, the temporary folder, or the folder to upload
+  std::string OutputFolder;   ///< with a trailing backslash: the target, the temporary folder, or the folder to upload
   std::string IndexFileName;  ///< inside OutputFolder
   GenerationMode Mode = GenerationMode::Create;
   bool CreateImages = true;
@@ -21,7 +21,7 @@ struct RunArguments {
   std::uint16_t Port = 21;
   std::string UserName;
   std::string Password;
-  std::string BaseDirectory;  ///< to change to after login; empty means none
+  std::string BaseDirectory;  ///< directory to change to after login; empty for none
 };
 
 }  // namespace vantorium

@@ -17,7 +17,7 @@
 
 namespace vantorium {
 
-/// What the phases of a run work with, and the few things that all of them do.
+/// What the phases of a run work with, and the operations they share.
 struct RunContext {
   RunState& run;
   const RunArguments& arguments;
@@ -30,22 +30,22 @@ struct RunContext {
   GalleryTarget& target;
   const Screen& screen;
   const TextRaster& texts;
-  mFTP* ftp = nullptr;  ///< of a run that goes to a server
-  unsigned jobs = 1;    ///< photographs worked on at a time
+  mFTP* ftp = nullptr;  ///< null unless the run sends to a server
+  unsigned jobs = 1;    ///< photographs processed at a time
 
-  /// Shows what is being done in the status bar and in the progress window.
+  /// Shows `text` in the status bar and in the progress window.
   void Announce(const std::string& text) const {
     host.ShowStatus(text);
     progress.SetText2(text);
   }
 
-  /// Gives the event loop a turn and tells whether the run is to stop.
+  /// Gives the event loop a turn and returns whether the run must stop.
   [[nodiscard]] bool Cancelled() const {
     loop.Turn();
     return cancel.CheckForCancel(progress);
   }
 
-  /// Announces and polls: the beginning of nearly every step.
+  /// Announces `text` and polls for a cancel. Nearly every step begins with this.
   [[nodiscard]] PhaseResult Begin(const std::string& text) const {
     Announce(text);
     if (Cancelled()) return RunEnd::Cancelled;
@@ -57,7 +57,8 @@ struct RunContext {
     return RunEnd::Failure;
   }
 
-  /// The run's end after a delivery: none when it went well. A refusal during a cancel is the cancel's own doing.
+  /// Returns the run's end after a delivery: kGoOn on success, else Failure after a message box. A refusal during a
+  /// cancel is caused by the cancel and returns Cancelled.
   [[nodiscard]] PhaseResult Settle(const Delivery& delivery) const {
     if (!delivery) return kGoOn;
     if (cancel.CancelRequested()) return RunEnd::Cancelled;

@@ -4,10 +4,10 @@
 
 namespace vantorium {
 
-/// The three ends of a run, and that it never began.
+/// How a run ended, or that it never started.
 enum class RunEnd { NotStarted, Success, Failure, Cancelled };
 
-/// What a phase of a run comes to: nothing when the run goes on, else its end.
+/// The result of a phase: nullopt if the run continues, else the run's end.
 using PhaseResult = std::optional<RunEnd>;
 
 inline constexpr PhaseResult kGoOn = std::nullopt;

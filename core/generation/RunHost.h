@@ -8,7 +8,7 @@
 
 namespace vantorium {
 
-/// What the user chose in the dialog that decides on a run.
+/// What the user chose in the dialog that starts a run.
 struct CreateChoice {
   enum class Option { Cancelled, CreateGallery, Publish, UploadFolder };
 
@@ -25,7 +25,7 @@ struct CreateChoice {
   std::string UploadUser;          //
   std::string UploadPassword;      ///< for this run only
   std::string UploadJumpTo;        ///< directory to change to after login
-  std::string UploadSourceFolder;  ///< UploadFolder: path text of the folder, with its trailing backslash
+  std::string UploadSourceFolder;  ///< UploadFolder: path text of the folder, with a trailing backslash
 };
 
 /// What a run asks of the main window. A face without windows answers from its command line.
@@ -33,14 +33,14 @@ class RunHost {
  public:
   virtual ~RunHost() = default;
 
-  /// Shows the dialog that decides on a run, modally.
+  /// Shows the dialog that starts a run, modally.
   [[nodiscard]] virtual CreateChoice AskWhatToCreate() = 0;
   [[nodiscard]] virtual std::unique_ptr<ProgressWindow> CreateProgressWindow() = 0;
-  /// Panel 1 of the status bar.
+  /// Sets panel 1 of the status bar.
   virtual void ShowStatus(const std::string& text) = 0;
   virtual void ShowBusyPointer(bool busy) = 0;
   virtual void EnableMainWindow(bool enabled) = 0;
-  /// Whether the tray icon answers.
+  /// Sets whether the tray icon responds.
   virtual void EnableTrayIcon(bool enabled) = 0;
 };
 

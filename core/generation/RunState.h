@@ -14,7 +14,7 @@
 
 namespace vantorium {
 
-/// What a run knows and its page builders read. Images and pages count from 1.
+/// The state of a run, which its page builders read. Images and pages are numbered from 1.
 struct RunState {
   const GalleryProject& project;
   const ImageList& images;
@@ -22,26 +22,26 @@ struct RunState {
   const RegionalFormats& formats;
   GenerationMode mode = GenerationMode::Create;
 
-  std::string ProjectFolder{};   ///< of the project file, path text
+  std::string ProjectFolder{};   ///< folder of the project file, path text
   std::string ProjectFile{};     ///< path text; empty for a project without a file
-  std::string OutputFolder{};    ///< path text with its trailing backslash
+  std::string OutputFolder{};    ///< path text with a trailing backslash
   std::string IndexFileName{};   ///< inside OutputFolder
-  std::string ImageUrlPrefix{};  ///< folder of the images in addresses, ends in a slash
-  std::string ThumbUrlPrefix{};  ///< folder of the thumbnails in addresses, ends in a slash
-  std::string LocalImagesDir{};  ///< path text with its trailing backslash
-  std::string LocalThumbsDir{};  ///< path text with its trailing backslash
+  std::string ImageUrlPrefix{};  ///< folder of the images in URLs, ends in a slash
+  std::string ThumbUrlPrefix{};  ///< folder of the thumbnails in URLs, ends in a slash
+  std::string LocalImagesDir{};  ///< path text with a trailing backslash
+  std::string LocalThumbsDir{};  ///< path text with a trailing backslash
 
-  std::shared_ptr<const WatermarkPainter> ImageWatermark{};      ///< nothing when images get none
-  std::shared_ptr<const WatermarkPainter> ThumbnailWatermark{};  ///< nothing when thumbnails get none
+  std::shared_ptr<const WatermarkPainter> ImageWatermark{};      ///< null if images get none
+  std::shared_ptr<const WatermarkPainter> ThumbnailWatermark{};  ///< null if thumbnails get none
 
-  std::vector<ImageRunInfo> RunInfo{};  ///< image i at i - 1
+  std::vector<ImageRunInfo> RunInfo{};  ///< element i - 1 is for image i
   std::int32_t ImageCount = 0;
   std::int32_t ThumbnailPageCount = 0;
   std::int32_t MaxImageWidth = 0;
   std::int32_t MaxImageHeight = 0;
   std::int32_t MaxThumbWidth = 0;
   std::int32_t MaxThumbHeight = 0;
-  std::string DirectLinksText{};    ///< of the thumbnail page under way
+  std::string DirectLinksText{};    ///< for the current thumbnail page
   CivilTime GalleryCreationTime{};  ///< local time
 
   [[nodiscard]] const ImageRunInfo& Info(std::int32_t image) const {

@@ -4,11 +4,12 @@
 
 namespace vantorium {
 
-/// Whether `name` is one plain file name: no separator, no drive, not "." or "..". List texts come from project files
-/// of any origin, and what a run writes has to stay in the gallery's folder.
+/// Returns true if `name` is a single plain file name: no separator, no drive, not "." or "..". List texts come from
+/// project files of any origin, and a run must write only inside the gallery's folder.
 [[nodiscard]] bool IsPlainFileName(std::string_view name);
 
-/// Whether a relative path text, file or folder, can lead out of the folder it is appended to: by "..", by a drive.
+/// Returns true if a relative path text (file or folder) can lead out of the folder it is appended to, by ".." or a
+/// drive.
 [[nodiscard]] bool LeavesFolder(std::string_view relativePath);
 
 }  // namespace vantorium

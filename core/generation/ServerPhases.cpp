@@ -7,14 +7,14 @@ namespace {
 
 const char kFtpError[] = "FTP Error";
 
-/// The end of an operation on the server that has, or has not, worked. A cancel counts more than either.
+/// Returns the result of a server operation that worked or failed. A cancel takes precedence over both.
 PhaseResult After(const RunContext& context, bool worked, const std::string& text) {
   if (context.cancel.CancelRequested()) return RunEnd::Cancelled;
   if (worked) return kGoOn;
   return context.Fail(kFtpError, text);
 }
 
-/// The same for an operation without which the connection is of no use.
+/// The same for an operation without which the connection is useless: disconnects if it failed.
 PhaseResult AfterClosing(const RunContext& context, bool worked, const std::string& text) {
   if (!worked) context.ftp->Disconnect();
   return After(context, worked, text);

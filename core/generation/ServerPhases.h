@@ -4,12 +4,12 @@
 
 namespace vantorium {
 
-// The phases of a run that goes to a server. A run of another mode passes them by.
+// The phases of a run that sends to a server. In other modes they do nothing.
 
 /// Connects, logs in and changes to the base directory.
 [[nodiscard]] PhaseResult OpenServerSession(const RunContext& context);
 
-/// Mode Upload: counts the folder, sends it, and ends the run.
+/// In mode Upload, counts the contents of the folder, sends them, and ends the run.
 [[nodiscard]] PhaseResult UploadFolderAndEnd(const RunContext& context);
 
 }  // namespace vantorium

@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// The target of Publish: a server. What a run makes lies in the temporary folder until it is sent; pages and
+/// The target of Publish: a server. Generated files are in the temporary folder until they are sent; pages and
 /// thumbnails are deleted there afterwards, images stay.
 class ServerTarget : public GalleryTarget {
  public:
@@ -31,7 +31,7 @@ class ServerTarget : public GalleryTarget {
   [[nodiscard]] std::string RemoteImagesDir() const;
   [[nodiscard]] std::string RemoteThumbsDir() const;
   [[nodiscard]] std::string RemoteThumbnail(const ImageRunInfo& image) const;
-  /// Sends a file of the temporary folder and deletes it there.
+  /// Sends a file from the temporary folder, then deletes it there.
   [[nodiscard]] Delivery Move(const std::string& localPath, const std::string& remotePath, const std::string& text);
   [[nodiscard]] Delivery SendPage(const std::string& name);
 

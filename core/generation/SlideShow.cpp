@@ -13,7 +13,7 @@ constexpr Choice kToFirstThumbnailPage = 2;
 constexpr Choice kStartOverWithThumbnailPage = 0;
 constexpr Choice kStartOverWithImage = 1;
 
-/// Slide shows need the single frame layout: elsewhere the thumbnails stay in sight.
+/// Slide shows need the single-frame layout: in the others the thumbnails stay visible.
 bool HasSlideShow(const GalleryProject& project) {
   return project.comboGalleryLayoutType == 0 && project.checkGallerySlideShow == 1;
 }

@@ -8,12 +8,12 @@
 
 namespace vantorium {
 
-/// Where the slide show goes from a thumbnail page by itself: to the first image. Nothing when there is none that
-/// starts so.
+/// Returns the target to which a thumbnail page advances by itself: the first image. Returns nullopt unless a slide
+/// show starts automatically from a thumbnail page.
 [[nodiscard]] std::optional<std::string> SlideShowStart(const RunState& run);
 
-/// Where the slide show goes from the wrapper page of `image`. Nothing without a slide show, and where it stops. Throws
-/// RuntimeFailure DivisionByZero as ThumbnailPageOfImage.
+/// Returns where the slide show goes from the wrapper page of `image`, or nullopt if there is no slide show or it stops
+/// there. Throws RuntimeFailure DivisionByZero like ThumbnailPageOfImage.
 [[nodiscard]] std::optional<std::string> SlideAfter(const RunState& run, std::int32_t image);
 
 }  // namespace vantorium

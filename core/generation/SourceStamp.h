@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// By what a file is known again: another file under the same name, or other bytes in it, have another stamp.
+/// Identifies a file's content: a changed or replaced file has a different stamp.
 struct SourceStamp {
   std::uint64_t device = 0;
   std::uint64_t inode = 0;
@@ -17,7 +17,7 @@ struct SourceStamp {
   bool operator==(const SourceStamp&) const = default;
 };
 
-/// The stamp of a file as it is now; nothing when it is not there.
+/// Returns the current stamp of a file, or nullopt if the file cannot be found.
 [[nodiscard]] std::optional<SourceStamp> StampOf(const std::filesystem::path& file);
 
 }  // namespace vantorium

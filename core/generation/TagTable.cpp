@@ -39,7 +39,7 @@ Place PlaceOf(Scope at, LinkKind kind) {
   return {at.page, at.run.ThumbnailPageCount};
 }
 
-// At the end of the sequence the anchor is empty and its "</A>" stays.
+// At the end of the sequence the anchor is empty, but its "</A>" is still written.
 template <LinkKind kind>
 std::string LinkText(Scope at) {
   const std::string& label = LinkOf(at.run.project, kind).textLinkLabel;

@@ -9,14 +9,14 @@
 
 namespace vantorium {
 
-/// Where a template is expanded: an image and a thumbnail page from 1, or kNoIndex.
+/// The context in which a template is expanded. `image` and `page` count from 1, or are kNoIndex.
 struct TagScope {
   const RunState& run;
   std::int32_t image;
   std::int32_t page;
 };
 
-/// The index that a tag needs to be replaced.
+/// The index that must be given for a tag to be replaced.
 enum class TagNeeds { Nothing, Image, Page };
 
 struct TagRow {
@@ -25,15 +25,15 @@ struct TagRow {
   std::string (*value)(const TagScope& scope);
 };
 
-/// All tags but those of descriptions, in the order in which they are replaced.
+/// All tags except those of descriptions, in the order in which they are replaced.
 [[nodiscard]] std::span<const TagRow> TagRows();
 
 inline constexpr std::string_view kNextImageTextTag = "<VANTORIUM_PAGELINK_NEXTIMAGE_TEXT>";
 inline constexpr std::string_view kNextImageGraphicTag = "<VANTORIUM_PAGELINK_NEXTIMAGE_GRAPHIC>";
 
-/// The tags of one description, and where a project and a row of the list keep what they stand for.
+/// The tags of one description, and the fields of the project and of a list row that hold their values.
 struct DescriptionTags {
-  std::string_view start;  ///< how both tags begin
+  std::string_view start;  ///< the beginning of both tags
   std::string_view tag;
   std::string_view fullTag;  ///< with header and footer
   std::string GalleryProject::*header;
@@ -41,7 +41,7 @@ struct DescriptionTags {
   std::string GalleryProject::*footer;
 };
 
-/// The description of the image, then that of the thumbnail.
+/// The tags of the image description, then those of the thumbnail description.
 [[nodiscard]] std::span<const DescriptionTags> DescriptionTagRows();
 
 }  // namespace vantorium

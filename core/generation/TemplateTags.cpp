@@ -8,8 +8,8 @@
 namespace vantorium {
 namespace {
 
-/// Behind this an underscore follows. Nearly all texts hold few of those, and an underscore has no case: looking for it
-/// with the library's search makes a text without tags as cheap as its copy.
+/// An underscore follows this in every tag. Most texts have few underscores, and an underscore has no case, so
+/// searching for it with std::string_view::find makes a text without tags as cheap as a copy.
 constexpr std::string_view kBeforeUnderscore = "<VANTORIUM";
 constexpr std::size_t kLongestTag = 64;
 
@@ -25,7 +25,7 @@ std::size_t FindTagStart(std::string_view text, std::size_t start) {
   return std::string_view::npos;
 }
 
-/// The tag that begins at `at`, through its ">"; empty when none ends there.
+/// Returns the tag that begins at `at`, through its ">"; empty if there is no ">" within kLongestTag bytes.
 std::string_view TagAt(std::string_view text, std::size_t at) {
   const std::string_view rest = text.substr(at, kLongestTag);
   const std::size_t end = rest.find('>');
@@ -44,14 +44,14 @@ bool Applies(const TagRow& row, const TagScope& scope) {
   return true;
 }
 
-/// The tag that a row replaces: its own, except that the text form of the next image's link, when that has no label,
-/// removes the graphic form and leaves itself. Existing galleries come out so.
+/// Returns the tag that a row replaces: its own, with one exception. If the link to the next image has no label, the
+/// row of its text tag removes the graphic tag and leaves the text tag, to match existing galleries.
 std::string_view ReplacedTag(const TagRow& row, const RunState& run) {
   const bool removesGraphic = row.tag == kNextImageTextTag && run.project.ImageNextLink.textLinkLabel.empty();
   return removesGraphic ? kNextImageGraphicTag : row.tag;
 }
 
-/// The first row from `from` to before `end` that replaces `tag`, or `end`.
+/// Returns the first row in [from, end) that replaces `tag`, or `end`.
 std::size_t RowReplacing(std::string_view tag, const TagScope& scope, std::size_t from, std::size_t end) {
   const auto rows = TagRows();
   for (std::size_t row = from; row < end; ++row) {
@@ -61,7 +61,7 @@ std::size_t RowReplacing(std::string_view tag, const TagScope& scope, std::size_
   return end;
 }
 
-/// The first row from `from` on that finds something to replace in `text`, or the number of rows.
+/// Returns the first row from `from` on that has something to replace in `text`, or the number of rows.
 std::size_t NextRow(std::string_view text, const TagScope& scope, std::size_t from) {
   std::size_t next = TagRows().size();
   for (std::size_t at = FindTagStart(text, 0); at != std::string_view::npos; at = FindTagStart(text, at + 1)) {
@@ -70,7 +70,7 @@ std::size_t NextRow(std::string_view text, const TagScope& scope, std::size_t fr
   return next;
 }
 
-/// All occurrences of `tag` replaced, unless that makes the text too long.
+/// Replaces all occurrences of `tag`. Throws std::bad_alloc if that would make the text too long.
 std::string WithTagReplaced(std::string_view text, std::string_view tag, std::string_view value) {
   std::size_t length = text.size();
   for (auto at = FindIgnoringCase(text, tag); at != std::string_view::npos;
@@ -83,8 +83,8 @@ std::string WithTagReplaced(std::string_view text, std::string_view tag, std::st
 
 }  // namespace
 
-// The rows pass over the whole text one after the other, so that a later row sees what an earlier one put in, also
-// where that makes a tag together with the text around it. Only rows that find something are run.
+// Each row in turn processes the whole text, so that a later row sees what an earlier one inserted, even where that
+// forms a tag together with the surrounding text. Rows with nothing to replace are skipped.
 std::string ExpandTags(const RunState& run, std::string_view text, std::int32_t imageIndex, std::int32_t pageIndex) {
   std::string expanded(text);
   const TagScope scope{run, imageIndex, pageIndex};

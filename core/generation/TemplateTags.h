@@ -9,28 +9,28 @@
 
 namespace vantorium {
 
-// Templates are texts of the user with tags of the form <VANTORIUM_IMAGE_INDEX>. Upper and lower case of ASCII letters
-// are the same in a tag; what is no tag stays as it stands.
+// Templates are user texts with tags of the form <VANTORIUM_IMAGE_INDEX>. Tags ignore the case of ASCII letters. Text
+// that is not a tag is left unchanged.
 
-/// Stands for no image, or no thumbnail page. Tags that need one then stay.
+/// Means no image, or no thumbnail page. Tags that need one are then not replaced.
 inline constexpr std::int32_t kNoIndex = -1;
 
-/// Values with tags in them can make a text of any length out of a small project. One that would grow beyond so many
-/// bytes is treated as one that there is no memory for: std::bad_alloc.
+/// Values that contain tags can expand a small project to a text of any length. A text that would grow beyond this many
+/// bytes throws std::bad_alloc, as if memory were exhausted.
 inline constexpr std::size_t kLongestExpandedText = std::size_t{64} << 20U;
 
-/// `text` with its tags replaced, one tag after the other in the order of TagRows, each throughout the text: a tag in a
-/// value put in is replaced when its row comes later. Values are made only for tags that occur. Throws what making the
-/// value throws, as BuildLinkAnchor.
+/// Returns `text` with its tags replaced, one tag after the other in the order of TagRows, each throughout the text: a
+/// tag in an inserted value is replaced if its row comes later. Values are computed only for tags that occur. Throws
+/// whatever computing a value throws, like BuildLinkAnchor.
 [[nodiscard]] std::string ExpandTags(const RunState& run, std::string_view text, std::int32_t imageIndex,
                                      std::int32_t pageIndex);
 
-/// `text`, which ExpandTags has passed over, with the tags of the image's two descriptions replaced; what is put in is
-/// expanded with the same indices. Without an image the tags stay.
+/// Returns `text`, already expanded by ExpandTags, with the tags of the image's two descriptions replaced. The inserted
+/// text is expanded with the same indices. Without an image the tags are not replaced.
 [[nodiscard]] std::string ExpandDescriptionTags(const RunState& run, std::string text, std::int32_t imageIndex,
                                                 std::int32_t pageIndex);
 
-/// Both steps.
+/// ExpandTags followed by ExpandDescriptionTags.
 [[nodiscard]] std::string ExpandAllTags(const RunState& run, std::string_view text, std::int32_t imageIndex,
                                         std::int32_t pageIndex);
 

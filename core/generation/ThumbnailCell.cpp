@@ -11,7 +11,7 @@ constexpr std::string_view kDescriptionTable = R"(<TABLE WIDTH="100%" BORDER="0"
 constexpr std::string_view kCaptionTable = R"(<TABLE BORDER="0" CELLSPACING="1" CELLPADDING="0">)";
 constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
 
-/// A caption with blanks between it and the thumbnail, as its alignment wants them beside one.
+/// Returns the caption with blanks between it and the thumbnail, as its alignment beside the thumbnail requires.
 std::string SpacedCaption(const std::string& caption, Choice alignment) {
   constexpr std::string_view kBlank = "&nbsp;";
   const std::string_view before = alignment == 0 ? "" : kBlank;
@@ -19,7 +19,7 @@ std::string SpacedCaption(const std::string& caption, Choice alignment) {
   return fmt::format("{}{}{}", before, caption, behind);
 }
 
-/// The content under way. A caption stands in a table inside that of the description.
+/// Builds the content of a cell. The caption's table is nested in that of the description.
 class CellContent {
  public:
   CellContent(const RunState& run, std::int32_t page, std::int32_t image)
@@ -62,7 +62,7 @@ class CellContent {
     text_ += Expanded(project_.textThumbFooter, kNoIndex);
     cells_ = ThumbnailDescriptionCells(project_.comboThumbnailDescriptionAlignment, description_);
     const std::int32_t width = run_.MaxThumbWidth;
-    // No blank stands between a WIDTH and the alignment of the thumbnail's cell.
+    // There is no space between WIDTH and the alignment of the thumbnail's cell.
     switch (description_) {
       case Placement::Left:
         return Add(R"({}<TR><TD {}>{}</TD><TD WIDTH="{}"{}>)", kDescriptionTable, cells_.text, text_, width,
@@ -127,8 +127,8 @@ class CellContent {
     }
   }
 
-  /// With a caption text_ and cells_ are the caption's: it is shown once more in place of the description. Existing
-  /// galleries come out so.
+  /// If there is a caption, text_ and cells_ are the caption's: it appears again in place of the description, to match
+  /// existing galleries.
   void CloseDescription() {
     switch (description_) {
       case Placement::Right:
@@ -152,7 +152,7 @@ class CellContent {
   Placement description_;
   bool hasCaption_;
   Placement caption_;
-  std::string text_;  ///< what is shown around the thumbnail: the description, then the caption
+  std::string text_;  ///< text shown around the thumbnail: the description, then the caption
   CellPair cells_;    ///< alignments of the cells of text_ and thumbnail
   std::string content_;
 };
@@ -166,7 +166,7 @@ std::string ThumbnailCellContent(const RunState& run, std::int32_t page, std::in
 void AddThumbnailCell(PageText& text, const RunState& run, std::int32_t page, std::int32_t image) {
   const auto expanded = [&](const std::string& code) { return ExpandAllTags(run, code, image, page); };
   text.Line("<TD ALIGN=CENTER VALIGN=CENTER>");
-  // Left open: the place to which the Index link of the wrapper page jumps.
+  // Never closed. The Index link of the wrapper page jumps here.
   text.Format(R"(<A NAME="{}">)", run.ListText(image));
   text.UserCode("THUMBNAIL IMAGE HEADER", expanded(run.project.ThumbnailHeader));
   text.Line();

@@ -65,7 +65,7 @@ void AddTableTag(PageText& text, const RunState& run) {
               project.comboThumbnailsTableAlignment == kFitToPage ? R"( WIDTH="100%")" : "");
 }
 
-/// The last row of the gallery is not filled up with empty cells.
+/// The last row of the gallery is not padded with empty cells.
 void AddGrid(PageText& text, const RunState& run, std::int32_t page, std::int32_t firstImage) {
   const std::int32_t rows = GridNumber(run.project.textThumbnailsTableRows);
   const std::int32_t columns = GridNumber(run.project.textThumbnailsTableColumns);

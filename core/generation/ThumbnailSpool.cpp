@@ -8,7 +8,7 @@
 namespace vantorium {
 namespace {
 
-/// A file without a name. Where the file system has no such thing, one whose name is taken away at once.
+/// Opens a file without a name. If the file system does not support that, opens a named file and unlinks it at once.
 int OpenNameless(const std::filesystem::path& folder) {
   const int nameless = ::open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
   if (nameless >= 0) return nameless;

@@ -10,12 +10,11 @@
 
 namespace vantorium {
 
-/// Keeps thumbnails from the moment they are made, together with their images, until their turn comes after all images.
-/// They lie in a file without a name, so that a gallery of any length costs no memory and a program that is killed
-/// leaves nothing behind.
+/// Stores thumbnails, which are made together with their images, until their turn comes after all images. They are in a
+/// file without a name, so that a gallery of any length costs no memory and a killed program leaves no file behind.
 class ThumbnailSpool {
  public:
-  /// The file is made in `folder`, on the disk that the gallery goes to.
+  /// Creates the file in `folder`, on the disk that the gallery is written to.
   explicit ThumbnailSpool(const std::filesystem::path& folder);
 
   struct Place {
@@ -23,9 +22,9 @@ class ThumbnailSpool {
     std::size_t size = 0;
   };
 
-  /// Keeps the bytes. Nothing when there is no file or no room for them: they are then made again at their turn.
+  /// Stores the bytes. Returns nullopt if there is no file or no space; the thumbnail is then made again at its turn.
   [[nodiscard]] std::optional<Place> Put(std::string_view bytes);
-  /// The bytes of a place. Nothing when they can't be read.
+  /// Returns the bytes at `place`, or nullopt if they cannot be read.
   [[nodiscard]] std::optional<std::string> Get(Place place) const;
 
  private:

@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view kTable = R"(<TABLE CELLSPACING="2" CELLPADDING="0" BORDER="0"><TR>)";
 constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
 
-/// HEIGHT brings a leading blank, also where it stands alone.
+/// HEIGHT has a leading space, even without WIDTH.
 std::string SizeAttributes(const GalleryProject& project) {
   if (project.checkImageWrapperImageKeepSize == 1) return {};
   const std::string_view unit = project.checkImageWrapperImageSizesInPercent == 1 ? "%" : "";
@@ -59,7 +59,7 @@ std::string DescriptionText(const RunState& run, std::int32_t image) {
          ExpandAllTags(run, run.project.textFooter, image, kNoIndex);
 }
 
-/// The description stands around image and caption.
+/// Puts the description around image and caption.
 std::string WithDescription(const RunState& run, std::int32_t image, std::string content) {
   const Placement placement = DescriptionPlacement(run.project.comboImageDescriptionPlacement);
   if (placement == Placement::None) return content;

@@ -7,8 +7,8 @@
 
 namespace vantorium {
 
-/// The line of a wrapper page that shows the image, with caption and description around it. The image's size is stated
-/// as the user typed it.
+/// Returns the line of a wrapper page that shows the image, with caption and description around it. The image's size is
+/// written as the user typed it.
 [[nodiscard]] std::string WrapperContent(const RunState& run, std::int32_t image);
 
 }  // namespace vantorium

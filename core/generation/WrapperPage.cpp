@@ -18,7 +18,7 @@ bool HasBar(const GalleryProject& project, Choice place) {
   return (project.comboPageLinksImageLinkPlacement & place) != 0;
 }
 
-/// A graphic that is the backdrop of the thumbnail pages too is taken from there.
+/// If the thumbnail pages have the same backdrop, uses their copy of it.
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
   const bool shared = project.textImageWrapperBackdrop == project.textThumbnailsPageBackdrop;
@@ -49,7 +49,7 @@ void AddImage(PageText& page, const RunState& run, std::int32_t image) {
   page.Line();
 }
 
-/// With one image the bar is empty, its lines stand all the same.
+/// With one image the bar is empty, but its lines are still written.
 void AddImageWithBars(PageText& page, const RunState& run, std::int32_t image) {
   constexpr std::string_view kLineBreak = "<BR>";
   const std::string bar = BuildImagePageBar(run, image);

@@ -8,17 +8,17 @@
 
 namespace vantorium {
 
-/// Where custom code can't be kept: the index of its text, and the byte in it at which the forbidden characters begin.
+/// Where custom code is refused: the index of the text, and the byte at which the forbidden characters begin in it.
 struct RefusedCode {
   std::size_t text;
   std::size_t position;
 };
 
-/// Looks for "]]>", which would end the section of a project file that keeps such code. The first text that has it is
-/// told in a message box, and those behind it are not looked at.
+/// Looks for "]]>", which would end the section of a project file that stores such code. Shows a message box for the
+/// first text that contains it and does not check the texts after it. Returns nullopt if no text contains it.
 [[nodiscard]] std::optional<RefusedCode> FindRefusedCode(std::span<const std::string> texts, MessageBoxPort& boxes);
 
-/// How many characters are forbidden, from RefusedCode::position on.
+/// Number of forbidden characters, starting at RefusedCode::position.
 inline constexpr std::size_t kRefusedLength = 3;
 
 }  // namespace vantorium

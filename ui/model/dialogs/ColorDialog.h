@@ -5,15 +5,15 @@
 
 namespace vantorium {
 
-/// The one door to the system's color dialog. The user's own colors live as long as the program.
+/// The only access to the system's color dialog. The user's custom colors last as long as the program.
 class ColorDialog {
  public:
   explicit ColorDialog(mCommonDialogs& dialogs) : dialogs_(dialogs) {}
 
-  /// True on OK; only then `color` is another one.
+  /// Returns true on OK; only then changes `color`.
   [[nodiscard]] bool DisplayColorDialog2(Color& color) { return dialogs_.ShowColorDialog(color, custom_); }
 
-  /// `systemColors`: the first 16 colors of the desktop.
+  /// Replaces the custom colors by `systemColors`, the first 16 colors of the desktop.
   void RebuildCustomColors(const CustomColors& systemColors) { custom_ = systemColors; }
   [[nodiscard]] const CustomColors& Custom() const { return custom_; }
 

@@ -10,7 +10,7 @@
 namespace vantorium {
 namespace {
 
-/// The profile to begin with; nothing when there is none.
+/// Returns the preferred profile, or nullopt if there is none.
 std::optional<ServerProfile> PreferredServer(const std::filesystem::path& file) {
   try {
     const ServerListValues values(file);
@@ -29,7 +29,7 @@ std::optional<ServerProfile> PreferredServer(const std::filesystem::path& file) 
   }
 }
 
-/// The server with the gallery's folder; `path` may have its trailing slash.
+/// Returns server, folder and index file of a gallery. IndexPath may end in a slash.
 std::string PublishText(const ServerProfile& profile) {
   const std::string& path = profile.IndexPath;
   const bool needsSlash = !path.empty() && !path.ends_with('/');
@@ -90,7 +90,7 @@ void CreateGalleryModel::FillIn(const std::string& publish, const std::string& u
   filledUploadDestination_ = upload;
 }
 
-/// What is typed by hand has slashes of either kind, or is a path of the system.
+/// Converts typed text to path text. It may have slashes of either kind, or be a native path.
 std::string CreateGalleryModel::Finished(const std::string& typed) const {
   return typed.starts_with('/') ? paths_.ToTextFromUser(typed) : WithBackslashes(typed);
 }
@@ -125,7 +125,7 @@ bool CreateGalleryModel::BrowseSourceFolder(FolderBrowser& browser) {
   return folder.has_value();
 }
 
-/// A password never outlives a change of where it goes.
+/// Clears the password whenever the destination changes.
 void CreateGalleryModel::SetDestinations(const std::string& publish, const std::string& upload) {
   if (publish != publishDestination_ || upload != uploadDestination_) choice_.UploadPassword.clear();
   publishDestination_ = publish;
@@ -174,7 +174,7 @@ bool CreateGalleryModel::RefuseDestination() const {
   return true;
 }
 
-/// Without a file name the index file is the one that a folder stands for everywhere.
+/// If no file name was typed, uses the usual "index.htm".
 void CreateGalleryModel::TakeTypedDestination(CreateChoice& choice) const {
   const auto typed = TypedDestination();
   const auto place = typed ? ReadServerPlace(*typed) : std::nullopt;

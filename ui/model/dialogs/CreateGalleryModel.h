@@ -14,24 +14,24 @@
 
 namespace vantorium {
 
-/// Makes path text of a folder complete, in place: it ends in a backslash then. False, with a message box, for one that
-/// is on no drive.
+/// Completes path text of a folder in place, so that it ends in a backslash. Returns false, after a message box, if it
+/// has no drive.
 [[nodiscard]] bool NormalizeFolderPath(std::string& path, MessageBoxPort& boxes);
 
-/// What a key types into a path behind the text `before`: a backslash for a slash, except in a native path, which
-/// begins with one.
+/// What `key` types into a path after the text `before`: a backslash for a slash, except in a native path, which begins
+/// with a slash.
 [[nodiscard]] std::string PathKey(std::string_view before, const std::string& key);
 
-/// What became of the button that starts the run.
+/// The result of the button that starts the run.
 enum class Application {
-  Done,            ///< the dialog ends
-  Refused,         ///< the user was told why, and it stays
-  NoSourceFolder,  ///< the same, for the folder to be uploaded
-  NoDestination,   ///< the same, for the place on the server
+  Done,            ///< the dialog closes
+  Refused,         ///< a message box told why; the dialog stays open
+  NoSourceFolder,  ///< the same, for the folder to upload
+  NoDestination,   ///< the same, for the destination on the server
 };
 
-/// The last question before a run that writes a result: what to make, where it goes, and the password for there. It
-/// lives as long as the main window: what the user chose stays from one opening to the next.
+/// The dialog before a run that writes a result: what to make, where it goes, and the password for the server. The
+/// model lives as long as the main window, so the user's choices last from one opening to the next.
 class CreateGalleryModel {
  public:
   using Option = CreateChoice::Option;
@@ -41,13 +41,13 @@ class CreateGalleryModel {
   CreateGalleryModel(const Preferences& preferences, std::filesystem::path serverListFile, const PathMap& paths,
                      MessageBoxPort& boxes);
 
-  /// Each time the dialog comes up: fills in the last target and the preferred server, without a password. A server
-  /// list that can't be read counts as an empty one.
+  /// Call each time the dialog opens. Fills in the last target and the preferred server, without a password. A server
+  /// list that cannot be read counts as empty.
   void ComeUp();
 
   void Choose(Option option) { choice_.option = option; }
   [[nodiscard]] Option Chosen() const { return choice_.option; }
-  /// Whether the run makes anything, so that it can be chosen what.
+  /// Whether the run makes files, so that the user can choose which.
   [[nodiscard]] bool Produces() const { return choice_.option != Option::UploadFolder; }
   void Check(Switch box, bool checked) { choice_.*box = checked; }
   [[nodiscard]] bool IsChecked(Switch box) const { return choice_.*box; }
@@ -55,35 +55,35 @@ class CreateGalleryModel {
 
   [[nodiscard]] const std::string& FilePath() const { return choice_.FilePath; }
   void EditFilePath(const std::string& text) { choice_.FilePath = text; }
-  /// Makes the path of a file out of what was typed.
+  /// Completes the typed text to the path of a file.
   void LeaveFilePath();
   void BrowseFilePath(FileBrowser& browser);
 
   [[nodiscard]] const std::string& SourceFolder() const { return choice_.UploadSourceFolder; }
   void EditSourceFolder(const std::string& text) { choice_.UploadSourceFolder = text; }
   void LeaveSourceFolder();
-  /// True when a folder was chosen.
+  /// Returns true if a folder was chosen.
   [[nodiscard]] bool BrowseSourceFolder(FolderBrowser& browser);
 
-  /// Where a gallery and where a folder go, as the user sees it. A change by hand gives the host and the path of this
-  /// run; user and base directory stay those of the server that was filled in.
+  /// The destinations of a gallery and of a folder, as shown to the user. An edit by hand sets the host and the path of
+  /// this run; user and base directory stay those of the server that was filled in.
   [[nodiscard]] const std::string& PublishDestination() const { return publishDestination_; }
   [[nodiscard]] const std::string& UploadDestination() const { return uploadDestination_; }
   void EditPublishDestination(const std::string& text) { SetDestinations(text, uploadDestination_); }
   void EditUploadDestination(const std::string& text) { SetDestinations(publishDestination_, text); }
-  /// The server that was chosen in its dialog.
+  /// Fills in the server chosen in the server dialog.
   void TakeServer(const ServerProfile& profile);
 
-  /// One password for both kinds of upload.
+  /// The password for both kinds of upload.
   [[nodiscard]] const std::string& Password() const { return choice_.UploadPassword; }
   void EditPassword(const std::string& text) { choice_.UploadPassword = text; }
   [[nodiscard]] bool IsPasswordHidden() const { return isPasswordHidden_; }
-  /// The dialog of the servers, which shows `profile`, is no longer in front.
+  /// Call when the server dialog, which shows `profile`, is no longer in front.
   void LeaveServers(const ServerProfile& profile);
 
   [[nodiscard]] Application Apply();
   void Cancel() { Cancelled = true; }
-  /// What came of it, when the dialog has ended.
+  /// The user's choice, once the dialog has closed.
   [[nodiscard]] CreateChoice Choice() const;
 
   bool Cancelled = true;
@@ -91,7 +91,7 @@ class CreateGalleryModel {
  private:
   void FillIn(const std::string& publish, const std::string& upload);
   void SetDestinations(const std::string& publish, const std::string& upload);
-  /// The chosen destination, when it is not the one that was filled in.
+  /// The chosen destination, or nullopt if it is still the one that was filled in.
   [[nodiscard]] std::optional<std::string> TypedDestination() const;
   [[nodiscard]] bool RefuseDestination() const;
   void TakeTypedDestination(CreateChoice& choice) const;

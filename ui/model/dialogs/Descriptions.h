@@ -11,9 +11,9 @@
 
 namespace vantorium {
 
-/// What descriptions of images and of thumbnails differ in.
+/// The differences between descriptions of images and of thumbnails.
 struct DescriptionKind {
-  std::string_view caption;  ///< of the frame around the text, in front of the image's name
+  std::string_view caption;  ///< of the frame around the text, before the image's name
   std::string ImageEntry::*text;
   void (ImageList::*setText)(std::size_t position, std::string text);
   std::string GalleryProject::*header;
@@ -29,8 +29,8 @@ inline constexpr std::size_t kImageDescriptions = 0;
 inline constexpr std::size_t kThumbnailDescriptions = 1;
 [[nodiscard]] const std::array<DescriptionKind, 2>& DescriptionKinds();
 
-/// The window that edits the descriptions of the list's current image and what all descriptions have in common. Texts
-/// are the project's own at every moment. The lists of placements and alignments are the window's until they are
+/// The window that edits the descriptions of the list's current image and the settings that all descriptions share.
+/// Texts are always those of the project. The lists of placements and alignments belong to the window until they are
 /// stored: they are taken from the project when the window appears, and stored when it closes.
 class Descriptions {
  public:
@@ -45,30 +45,30 @@ class Descriptions {
   [[nodiscard]] bool HasImage() const { return project_.images.Current() != 0; }
   /// Name of the current image, "" for none.
   [[nodiscard]] std::string ImageName() const;
-  /// Of the frame around the text.
+  /// Caption of the frame around the text.
   [[nodiscard]] std::string Caption(const DescriptionKind& kind) const;
   /// The current image's description, "" without an image.
   [[nodiscard]] std::string Text(const DescriptionKind& kind) const;
-  /// Changes nothing without an image.
+  /// Does nothing without an image.
   void SetText(const DescriptionKind& kind, std::string text);
 
-  /// Asks the user, unless the list is empty and there is nothing to do.
+  /// Asks the user to confirm. Returns false without asking if the list is empty.
   [[nodiscard]] bool MayClearAll(const DescriptionKind& kind);
   /// Empties the descriptions of every image.
   void ClearAll(const DescriptionKind& kind);
 
-  /// The window appears, or follows the list: takes the project's placements if the window was closed since it last
-  /// did, or if the project is another one, or has other placements.
+  /// Call when the window appears or follows the list. Takes the project's placements if the window was closed since
+  /// the last call, if the project is a different one, or if its placements have changed.
   void TakePlacings();
-  /// The window disappears.
+  /// Call when the window disappears.
   void Disappear() { justLoaded_ = true; }
   [[nodiscard]] const Placing& Shown(const DescriptionKind& kind) const { return shown_[IndexOf(kind)]; }
-  /// Another one marks the project as changed; the alignment keeps its index.
+  /// A different placement marks the project as modified; the alignment keeps its index.
   void ChoosePlacement(const DescriptionKind& kind, Choice placement);
   void ChooseAlignment(const DescriptionKind& kind, Choice alignment);
   [[nodiscard]] bool IsAlignmentEnabled(const DescriptionKind& kind) const { return Shown(kind).placement != 0; }
   [[nodiscard]] ValueList Alignments(const DescriptionKind& kind) const;
-  /// Whether the window is there with other placements than the project has.
+  /// Whether the window is open with placements that differ from the project's.
   [[nodiscard]] bool HasUnstoredPlacings() const { return !justLoaded_ && shown_ != StoredPlacings(); }
   void StorePlacings(ProjectEditor& editor);
 
@@ -82,8 +82,8 @@ class Descriptions {
   MessageBoxPort& boxes_;
   bool justLoaded_ = true;
   Placings shown_;
-  Placings taken_;             ///< what the project had when shown_ was taken from it
-  std::string takenFromFile_;  ///< its file name then
+  Placings taken_;             ///< the project's values when shown_ was taken from it
+  std::string takenFromFile_;  ///< the project's file name at that time
 };
 
 }  // namespace vantorium

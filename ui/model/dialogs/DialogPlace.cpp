@@ -17,7 +17,7 @@ std::filesystem::path NearestFolder(const PathMap& paths, const std::string& tex
   if (!native || native->empty()) return home;
   std::error_code error;
   std::filesystem::path folder = std::filesystem::absolute(*native, error).lexically_normal();
-  if (!folder.has_filename()) folder = folder.parent_path();  // without a separator at its end
+  if (!folder.has_filename()) folder = folder.parent_path();  // drops the trailing separator
   while (!IsFolder(folder)) {
     if (!folder.has_relative_path()) return home;
     folder = folder.parent_path();

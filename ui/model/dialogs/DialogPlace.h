@@ -8,18 +8,18 @@
 
 namespace vantorium {
 
-/// Where a file dialog begins.
+/// Where a file dialog starts.
 struct DialogPlace {
-  std::filesystem::path folder;  ///< native; it exists unless there is not even a `home`
-  std::string fileName;          ///< in the name box
+  std::filesystem::path folder;  ///< native; exists unless it is `home` and that is missing
+  std::string fileName;          ///< text of the name box
 };
 
-/// The folder of `text`, or the nearest above it that exists; `home` when there is none, as for an empty text.
+/// Returns the folder of `text` or its nearest existing parent; `home` if there is none or `text` is empty.
 [[nodiscard]] std::filesystem::path NearestFolder(const PathMap& paths, const std::string& text,
                                                   const std::filesystem::path& home);
 
-/// Where the dialog of a request begins. The folder of a file name with a path comes before the initial folder when it
-/// exists; without either the dialog begins in `home`.
+/// Returns where the dialog of a request starts. If the file name has a path, its folder takes precedence over the
+/// initial folder if it exists. Without either the dialog starts in `home`.
 [[nodiscard]] DialogPlace PlaceOf(const FileDialogRequest& request, const PathMap& paths,
                                   const std::filesystem::path& home);
 

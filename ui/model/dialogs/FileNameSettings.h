@@ -15,7 +15,7 @@ struct NameField {
   std::string_view control;
   std::string GalleryProject::*field;
   bool isExtension = false;
-  std::span<const std::string_view> offers = {};  ///< what the control lists; other texts can be typed
+  std::span<const std::string_view> offers = {};  ///< texts in the control's list; others can be typed
 };
 
 /// Folders, prefixes and extensions.
@@ -23,14 +23,14 @@ struct NameField {
 /// The frames' names.
 [[nodiscard]] std::span<const NameField> FrameNameFields();
 
-/// What a key types into the name's box: an underscore for a blank, and in an extension for a point too.
+/// What `key` types into the box of a name: an underscore for a space and, in an extension, for a dot.
 [[nodiscard]] std::string NameKey(const NameField& name, const std::string& key);
 
-/// The name as its box shows it: an extension without its point.
+/// Returns the name as its box shows it: an extension without its dot.
 [[nodiscard]] std::string ShownName(const NameField& name, const GalleryProject& project);
-/// Stores what the box holds, a point being put in front of an extension. The same name again is no change.
+/// Stores the text of the box, with a dot before an extension. An unchanged name does not modify the project.
 void StoreName(const NameField& name, const std::string& shown, ProjectEditor& editor);
-/// A box was edited whose name is stored later: the project counts as changed from now on.
+/// Call when a box is edited whose name is stored later. Marks the project as modified.
 void MarkEdited(const NameField& name, ProjectEditor& editor);
 
 }  // namespace vantorium

@@ -4,20 +4,20 @@
 
 namespace vantorium {
 
-/// The question for the name of an image to look for. It lives as long as the list's page, so that the last text is
-/// offered again.
+/// The dialog that asks for the name of an image to find. It lives as long as the list's page, so that it offers the
+/// last text again.
 class FindModel {
  public:
-  /// The dialog comes up.
+  /// Call when the dialog opens.
   void Open() { Result.clear(); }
-  /// The text of the field, as TypedName makes it.
+  /// Sets the text of the field, converted by TypedName.
   void SetTitle(const std::string& title);
   [[nodiscard]] const std::string& Title() const { return title_; }
   [[nodiscard]] bool CanFind() const { return !title_.empty(); }
   void Accept() { Result = title_; }
   void Cancel() { Result.clear(); }
 
-  std::string Result;  ///< what to look for; empty: nothing
+  std::string Result;  ///< the name to find; empty for none
 
  private:
   std::string title_;

@@ -6,25 +6,25 @@
 
 namespace vantorium {
 
-/// The dialog for the filters of one target. Its sample shows the JPEG quality at the source's full size, then shrinks,
-/// then is filtered: noise, fade, brightness, grey. (A gallery's image is shrunk first and compressed last.)
+/// The dialog for the filters of one target. Its sample is compressed as JPEG at the source's full size, then shrunk,
+/// then filtered: noise, fade, brightness, grayscale. (A gallery's image is shrunk first and compressed last.)
 class ImageFiltersModel {
  public:
-  /// Values beyond the end of their slider are put there.
+  /// Clamps values to the range of their slider.
   ImageFiltersModel(const ImageFilterSettings& settings, const SampleSources& sources, const SamplePorts& ports,
                     SampleBox& box);
 
-  /// The dialog has come up: loads the sample and shows it.
+  /// Call when the dialog has opened. Loads the sample and shows it.
   void Open();
 
-  /// A check box was clicked, or a slider moved. The sample stays until the next preview.
+  /// Call when a check box is clicked or a slider moves. The sample does not change until the next preview.
   void Set(std::int16_t ImageFilterSettings::*field, std::int16_t value);
 
-  /// Shows the sample with the present settings. The source is compressed anew when something was set since the last
-  /// preview; when nothing was, it is by the next one.
+  /// Shows the sample with the current settings. Compresses the source again if a setting changed since the last
+  /// preview; otherwise the next preview does.
   void Preview();
 
-  /// Switches off the filters that would do nothing, and closes the dialog.
+  /// Switches off filters that would have no effect, and closes the dialog.
   void Apply();
   void Cancel() { dialog_.Close(true); }
 
@@ -40,7 +40,7 @@ class ImageFiltersModel {
   SampleDialog dialog_;
   bool settingsChanged_ = false;
   cDIBSection compressed_;
-  NoiseStream noise_{0, 0};  // goes on from preview to preview
+  NoiseStream noise_{0, 0};  // continues from preview to preview
 };
 
 }  // namespace vantorium

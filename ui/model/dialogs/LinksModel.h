@@ -9,11 +9,11 @@
 
 namespace vantorium {
 
-/// The dialog for one page link. It has no Cancel: each change counts at once.
+/// The dialog for one page link. It has no Cancel: each change takes effect at once.
 class LinksModel {
  public:
-  /// `edited` is called at each change. `graphicsFolder` is the folder in which graphics were last browsed for. Without
-  /// `showDisabledGraphic` the link has one graphic only, and its second one stays as it is.
+  /// `edited` is called at each change. `graphicsFolder` is the folder last browsed for graphics. Without
+  /// `showDisabledGraphic` the link has only one graphic, and its second one stays unchanged.
   LinksModel(const LinkSettings& link, const PathMap& paths, std::string& graphicsFolder, std::function<void()> edited,
              bool showDisabledGraphic = true);
 
@@ -21,12 +21,13 @@ class LinksModel {
   using Graphic = std::string LinkSettings::*;
 
   void EditLabel(const std::string& text);
-  /// A box's text became another one. While only one graphic is given, the other follows it letter by letter.
+  /// Call when the text of a box changes. If the other graphic is empty, it follows letter by letter until
+  /// LeaveGraphic.
   void EditGraphic(Graphic box, const std::string& text);
-  /// The focus left a box: the graphics no longer follow each other. A native path that was typed becomes path text.
+  /// Call when a box loses the focus. The graphics no longer follow each other; a typed native path becomes path text.
   void LeaveGraphic(Graphic box);
   void Browse(Graphic box, FileBrowser& browser);
-  /// A graphic that is missing takes the other one, where the link has both.
+  /// If the link has two graphics and one is missing, copies the other.
   void Close();
 
   [[nodiscard]] const LinkSettings& Link() const { return link_; }
@@ -42,7 +43,7 @@ class LinksModel {
   std::function<void()> edited_;
   bool showDisabledGraphic_;
   bool mirrorGraphics_ = false;
-  Graphic typedInto_ = nullptr;  // the box that has a typed text
+  Graphic typedInto_ = nullptr;  // the box being typed into
 };
 
 }  // namespace vantorium

@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// The question for the name of a new server.
+/// The dialog that asks for the name of a new server.
 class NewWebServerModel {
  public:
   void SetText(const std::string& text) { text_ = text; }
@@ -16,7 +16,7 @@ class NewWebServerModel {
   }
   void Cancel() { isCancelled_ = true; }
 
-  /// The name that was confirmed.
+  /// The confirmed name.
   [[nodiscard]] const std::string& GetServerName() const { return serverName_; }
   [[nodiscard]] bool IsCancelled() const { return isCancelled_; }
 

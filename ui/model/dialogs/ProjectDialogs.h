@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-/// The dialog for project files, shown by the file dialog of the whole program.
+/// Shows the dialog for project files with the program's file dialog.
 class ProjectFileDialogWindow : public ProjectFileDialog {
  public:
   explicit ProjectFileDialogWindow(FileBrowser& browser) : browser_(browser) {}

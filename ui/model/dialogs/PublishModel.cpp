@@ -50,7 +50,7 @@ void PublishModel::DeleteServer() {
 bool PublishModel::Accept() {
   ServerProfile* profile = list_.SelectedProfile();
   if (profile != nullptr && !ValidateSettings(*profile, HideIndexFile, boxes_)) return false;
-  std::ignore = list_.SaveServerList();  // a failure was told, and the run can do without the file
+  std::ignore = list_.SaveServerList();  // a message box reported any failure, and the run does not need the file
   queryPublish_ = true;
   return true;
 }

@@ -6,17 +6,17 @@
 
 namespace vantorium {
 
-/// The question for a new name of the current image or of all.
+/// The dialog that asks for a new name for the current image or for all.
 class RenameModel {
  public:
-  /// The text of the field, as TypedName makes it.
+  /// Sets the text of the field, converted by TypedName.
   void SetNameBase(const std::string& nameBase);
   [[nodiscard]] const std::string& NameBase() const { return nameBase_; }
   [[nodiscard]] bool CanAccept() const { return !nameBase_.empty(); }
   void Accept() { accepted_ = true; }
   void Cancel() { accepted_ = false; }
 
-  /// The field's text once it was accepted, else kNoNameBase.
+  /// Returns the field's text if it was accepted, else kNoNameBase.
   [[nodiscard]] std::string GetNameBase() const { return accepted_ ? nameBase_ : kNoNameBase; }
   [[nodiscard]] RenameScope Scope() const { return RenameAll ? RenameScope::AllImages : RenameScope::CurrentImage; }
 

@@ -13,14 +13,14 @@
 
 namespace vantorium {
 
-/// Where the sample picture of a dialog comes from. All are path text.
+/// Sources of a dialog's sample picture. All are path text.
 struct SampleSources {
-  std::string selectedFile;                 ///< the file of the image that is selected in the list, empty for none
-  std::vector<std::string> defaultSamples;  ///< tried in this order where that one can't be loaded
+  std::string selectedFile;                 ///< file of the image selected in the list; empty for none
+  std::vector<std::string> defaultSamples;  ///< tried in this order if selectedFile cannot be loaded
   std::string tempFolderLocation;           ///< the folder that holds VANTORIUM_TEMP
 };
 
-/// What a dialog with a sample needs of the program.
+/// What a dialog with a sample needs from the program.
 struct SamplePorts {
   const mFileFunctions& files;
   MessageBoxPort& boxes;
@@ -32,39 +32,40 @@ class SampleBox {
  public:
   virtual ~SampleBox() = default;
 
-  /// The box's inside in pixels of the screen, so that a picture of that size is as sharp as the screen.
+  /// Inner size of the box in screen pixels, so that a picture of that size is as sharp as the screen.
   [[nodiscard]] virtual PictureSize SizeInPixels() const = 0;
-  /// How many such pixels the screen has for one pixel of a web page; above 1 on fine screens.
+  /// Screen pixels per pixel of a web page; above 1 on high-resolution screens.
   [[nodiscard]] virtual double PixelRatio() const = 0;
 
   virtual void Clear() = 0;
-  /// Shows the picture with its top left corner in that of the box, a pixel a pixel.
+  /// Shows the picture at the top left of the box, without scaling.
   virtual void PaintPicture(const cDIBSection& picture) = 0;
   virtual void HideDialog() = 0;
 };
 
-/// What the two dialogs that show a sample have in common: the source picture, which is loaded once, its way through a
-/// JPEG file in the temporary folder, and the ways out of the dialog. A dialog is cancelled until it is applied.
+/// The common part of the two dialogs that show a sample: loading the source picture once, compressing it through a
+/// JPEG file in the temporary folder, and closing the dialog. A dialog counts as cancelled until it is applied.
 class SampleDialog {
  public:
   SampleDialog(const SampleSources& sources, const SamplePorts& ports, SampleBox& box);
 
-  /// To be called once, when the dialog has come up. Clears the box, lets the dialog be drawn and loads the source.
-  /// False when the dialog is closed: by its user meanwhile, or because there is no sample, which a box tells.
+  /// Call once, when the dialog has opened. Clears the box, lets the dialog be drawn and loads the source. Returns
+  /// false if the dialog is closed: by the user meanwhile or, after a message box, because there is no sample.
   [[nodiscard]] bool Open();
 
-  /// True from the end of Open to the first Close. Only then there is a source, and a button means something.
+  /// True from the end of Open to the first Close. Only then is there a source, and only then do the buttons work.
   [[nodiscard]] bool IsOpen() const { return source_ != nullptr && !closed_; }
   [[nodiscard]] const cDIBSection& Source() const { return *source_; }
 
-  /// `picture` as it comes out of a JPEG file of that quality, 1 to 100. False when the temporary file can't be written
-  /// or read; a folder that is missing for it is made. `result` may be `picture`.
+  /// Stores in `result` what `picture` looks like after a JPEG file of `quality`, 1 to 100. Creates the file's folder
+  /// if it is missing. Returns false if the temporary file cannot be written or read. `result` may be `picture`.
   [[nodiscard]] bool Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const;
   [[nodiscard]] std::string TempFile() const { return TempFolder() + "\\preview_temp.jpg"; }
 
-  /// Hides the dialog; nothing when it is closed already.
+  /// Hides the dialog. Does nothing if it is already closed.
   void Close(bool cancelled);
-  /// Says that a preview could not be made because of `place`, a path, and closes the dialog as cancelled.
+  /// Reports in a message box that a preview could not be made because of `place`, a path, and closes the dialog as
+  /// cancelled.
   void CloseWithFailure(const std::string& place);
   [[nodiscard]] bool Cancelled() const { return cancelled_; }
 

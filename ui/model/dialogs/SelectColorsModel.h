@@ -12,11 +12,11 @@ namespace vantorium {
 /// applied.
 class SelectColorsModel {
  public:
-  /// A `title` with "Thumbnail" in it is that of the thumbnail pages. `others` are those of the other kind of page.
+  /// A `title` that contains "Thumbnail" means the thumbnail pages. `others` are the colors of the other kind of page.
   SelectColorsModel(std::string_view title, const PageColors& colors, const PageColors& others);
 
   [[nodiscard]] const PageColors& Colors() const { return colors_; }
-  /// Caption of the button that copies.
+  /// Caption of the copy button.
   [[nodiscard]] std::string_view UseOtherColorsCaption() const;
 
   void Choose(Color PageColors::*which, ColorDialog& dialog);

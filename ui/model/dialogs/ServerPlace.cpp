@@ -9,7 +9,7 @@
 namespace vantorium {
 namespace {
 
-/// Letters beyond ASCII are left to the system that looks the name up.
+/// Accepts letters beyond ASCII; the system that looks up the name decides on them.
 bool IsLetterOrDigit(char letter) {
   return (letter >= '0' && letter <= '9') || (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') ||
          static_cast<unsigned char>(letter) >= 0x80;

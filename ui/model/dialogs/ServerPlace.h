@@ -9,14 +9,14 @@ namespace vantorium {
 /// A place on a server as a destination field shows it: "host/path/file" for a gallery, "host/path" for a folder.
 struct ServerPlace {
   std::string host;
-  std::string path;  ///< what stands behind the host's slash, in single slashes
+  std::string path;  ///< what follows the host's slash, with single slashes
 
   bool operator==(const ServerPlace&) const = default;
 };
 
-/// Reads what a user typed, with either kind of slash and perhaps "ftp://" in front. Nothing when that does not begin
-/// with the name or the address of a host and a slash, as with another scheme, a user name or a port, or when it holds
-/// a control character.
+/// Parses typed text, with either kind of slash and an optional "ftp://" prefix. Returns nullopt if it does not begin
+/// with a host name or address and a slash (another scheme, a user name and a port are refused), or if it contains a
+/// control character.
 [[nodiscard]] std::optional<ServerPlace> ReadServerPlace(std::string_view typed);
 
 }  // namespace vantorium

@@ -52,7 +52,7 @@ void TempFolderLocation::StoreIn(Preferences& preferences) const {
   preferences.TempFolderAutoClear = checkAutoClear;
 }
 
-/// Drops the separators at the end of the path, that of a drive's root too; whether the path is absolute.
+/// Drops the trailing separators of the path, even that of a drive's root. Returns true if the path is absolute.
 bool TempFolderLocation::MakeAbsolute() {
   std::string& path = textTempFolderLocation;
   if (path.ends_with(":\\")) path.pop_back();

@@ -10,14 +10,14 @@
 
 namespace vantorium {
 
-/// The rules of frmTempFolderLocation: where the folder VANTORIUM_TEMP lies and whether it is cleared on exit.
+/// The rules of frmTempFolderLocation: where the folder VANTORIUM_TEMP is and whether it is cleared on exit.
 class TempFolderLocation {
  public:
-  /// What the dialog begins with. `appPath`: the program's folder, path text without a backslash at its end.
+  /// Sets the dialog's initial values. `appPath`: the program's folder, path text without a trailing backslash.
   TempFolderLocation(const Preferences& preferences, std::string appPath, const mFileFunctions& files,
                      MessageBoxPort& boxes);
 
-  /// The text box, path text. A native path that was typed into it becomes path text in TakeNativePath and Accept.
+  /// Content of the text box, path text. TakeNativePath and Accept convert a typed native path to path text.
   std::string textTempFolderLocation;
   std::int16_t checkAutoClear = 1;
 
@@ -26,10 +26,10 @@ class TempFolderLocation {
   void Browse(FolderBrowser& browser);
   /// btnReset: the program's folder, cleared on exit.
   void Reset();
-  /// OKButton: cleans the path up and makes the folder VANTORIUM_TEMP in it. False, after a message box, when the path
-  /// is not absolute or the folder can't be made.
+  /// OKButton: cleans up the path and creates the folder VANTORIUM_TEMP in it. Returns false, after a message box, if
+  /// the path is not absolute or the folder cannot be created.
   [[nodiscard]] bool Accept();
-  /// Hands what is in the dialog to the preferences.
+  /// Stores the dialog's values in the preferences.
   void StoreIn(Preferences& preferences) const;
 
  private:

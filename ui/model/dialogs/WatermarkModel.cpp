@@ -131,7 +131,7 @@ void WatermarkModel::Preview() {
 
 void WatermarkModel::DrawWatermark(cDIBSection& picture) const try {
   const WatermarkSettings working = WorkingSettings();
-  // On a fine screen the sample has more pixels than a web page has there, and its text grows with them.
+  // On a high-resolution screen the sample has more pixels than on a web page, so the text is larger in proportion.
   LogFont font = MakeWatermarkFont(working, ToInt32(ports_.screen.PixelsPerInch() * box_.PixelRatio()));
   DrawWatermarkText(picture, font, working.textWatermark, working.comboTextPlacement, working.Color,
                     static_cast<std::uint8_t>(working.sliderAlpha), ports_.texts);

@@ -14,31 +14,31 @@
 
 namespace vantorium {
 
-/// The places of a watermark as the dialog calls them, in the order of their numbers.
+/// The placements of a watermark as the dialog names them, in the order of their numbers.
 [[nodiscard]] std::span<const std::string_view> TextPlacements();
 
-/// What else the watermark dialog needs of the program.
+/// What else the watermark dialog needs from the program.
 struct WatermarkPorts {
   mCommonDialogs& dialogs;
   const TextRaster& texts;
   const Screen& screen;
 };
 
-/// The dialog for the watermark of one target and the JPEG quality of its files. Its sample is made as a gallery's
-/// image is: the size, the watermark, the JPEG file.
+/// The dialog for the watermark of one target and the JPEG quality of its files. Its sample is made like a gallery's
+/// image: resized, watermarked, then compressed as JPEG.
 class WatermarkModel {
  public:
-  /// Values beyond the end of their slider are put there.
+  /// Clamps values to the range of their slider.
   WatermarkModel(const WatermarkSettings& settings, std::int16_t quality, const SampleSources& sources,
                  const SamplePorts& samplePorts, const WatermarkPorts& ports, SampleBox& box);
 
-  /// The dialog has come up: loads the sample and shows it.
+  /// Call when the dialog has opened. Loads the sample and shows it.
   void Open();
 
-  // What the controls do. All but the text's edit show the sample anew.
+  // Handlers of the controls. All except EditText update the sample.
   void SetUseWatermark(bool use);
   void EditText(const std::string& text);
-  void LeaveText();  ///< shows the sample only when the text was edited since it was last left
+  void LeaveText();  ///< updates the sample only if the text was edited since it was last left
   void SetPlacement(std::int16_t placement);
   void SetAlpha(std::int16_t alpha);
   void SetQuality(std::int16_t quality);
@@ -51,11 +51,11 @@ class WatermarkModel {
 
   [[nodiscard]] bool Cancelled() const { return dialog_.Cancelled(); }
   [[nodiscard]] bool TextChanged() const { return textChanged_; }
-  /// The font and the placement are those of the last Apply, the rest is what the controls show.
+  /// Font and placement are those of the last Apply; the rest is what the controls show.
   [[nodiscard]] const WatermarkSettings& Settings() const { return settings_; }
   [[nodiscard]] std::int16_t Quality() const { return quality_; }
 
-  // What the controls show of what is not applied yet.
+  // Values that the controls show and that are not applied yet.
   [[nodiscard]] const FontDescription& WorkingFont() const { return workingFont_; }
   [[nodiscard]] std::int16_t WorkingPlacement() const { return workingPlacement_; }
   /// The working font in words, such as "Arial, 36 points, bold".

@@ -6,7 +6,7 @@
 namespace vantorium {
 namespace {
 
-/// A name in the folder of the dialog; a whole path that was typed stays what it is.
+/// Returns the path of a name in the dialog's folder. A typed full path is unchanged.
 std::string PathOf(const std::string& folder, const std::string& name) {
   const bool isWhole = name.starts_with('\\') || (name.size() > 1 && name[1] == ':');
   return isWhole ? name : WithTrailingBackslash(folder) + name;

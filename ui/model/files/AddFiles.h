@@ -6,8 +6,8 @@
 
 namespace vantorium {
 
-/// Lets the user choose photographs and adds them to the image list in the order that the dialog gives. It opens where
-/// images were last picked, and remembers the folder.
+/// Lets the user choose photographs and adds them to the image list in the order the dialog returns them. The dialog
+/// opens in the folder where images were last chosen and remembers the new folder.
 class AddFiles {
  public:
   struct Parts {

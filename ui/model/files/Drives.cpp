@@ -3,7 +3,7 @@
 namespace vantorium {
 namespace {
 
-/// "/data/" and "/data" are the same folder; "/" stays.
+/// "/data/" and "/data" are the same folder; "/" is unchanged.
 std::filesystem::path WithoutSeparatorAtItsEnd(const std::filesystem::path& folder) {
   return folder.has_filename() || !folder.has_relative_path() ? folder : folder.parent_path();
 }

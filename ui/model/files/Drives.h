@@ -7,7 +7,7 @@
 
 namespace vantorium {
 
-/// A drive of path text, and the native folder that it stands for.
+/// A drive of path text, and the native folder it maps to.
 struct Drive {
   char letter;
   std::filesystem::path folder;

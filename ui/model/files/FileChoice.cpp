@@ -16,7 +16,7 @@ bool HasFolder(const std::string& name) {
   return HasDrive(name) || name.find_first_of("/\\") != std::string::npos;
 }
 
-/// Through the last separator, which GetFilePath would not do with a separator in front.
+/// Returns `path` through its last separator. Unlike GetFilePath it keeps a leading separator.
 std::string FolderOf(const std::string& path) {
   return path.substr(0, path.rfind('\\') + 1);
 }
@@ -25,7 +25,7 @@ bool GoesUp(const std::string& path) {
   return (path + '\\').find("\\..\\") != std::string::npos;
 }
 
-/// What a single file's box holds, with or without quotes around it.
+/// Returns the text of the box for a single file, without surrounding quotes.
 std::string WithoutQuotes(std::string_view text) {
   text = TrimNull(text);
   if (text.size() >= 2 && text.starts_with('"') && text.ends_with('"')) text = text.substr(1, text.size() - 2);
@@ -119,7 +119,7 @@ FileChoice::Step FileChoice::AcceptSeveral(const std::string& text, const std::v
     plain = plain && !HasFolder(names[i]);
     parts.push_back(GetFileName(paths[i]));
   }
-  if (paths.size() == 1) lastBrowsed_ = paths[0];  // it was typed, perhaps over the name of another
+  if (paths.size() == 1) lastBrowsed_ = paths[0];  // it was typed, perhaps over the name of another file
   const std::string box = plain ? text : JoinFileNames(parts);
   result_ = {.result = box, .folder = folder, .names = ChosenFileNames(box, lastBrowsed_)};
   return Step::Accept;

@@ -12,30 +12,30 @@
 
 namespace vantorium {
 
-/// What becomes of the text in a file dialog's name box when OK is pressed. Paths are path text; a native path in the
-/// box is taken too.
+/// Decides what happens to the text in a file dialog's name box when OK is pressed. Paths are path text; the box also
+/// accepts native paths.
 class FileChoice {
  public:
   enum class Step {
-    Stay,         ///< nothing was chosen; the user was told why
+    Stay,         ///< nothing was chosen; unless the box was empty, the user was told why
     EnterFolder,  ///< the box names a folder, Folder()
     Accept        ///< Result() is the choice
   };
 
   FileChoice(FileDialogRequest request, const mFileFunctions& files, MessageBoxPort& boxes);
 
-  /// The file that the user has just selected.
+  /// Sets the file that the user has just selected.
   void Browsed(std::string file) { lastBrowsed_ = std::move(file); }
 
-  /// What OK does with `text` while the dialog shows `folder`. A file to open must exist and an existing file is only
-  /// replaced after a question; a name that does not end in the default extension gets it; several files lie in one
-  /// folder; what cannot stand in a project is refused.
+  /// Handles OK with `text` in the box while the dialog shows `folder`. A file to open must exist; an existing file is
+  /// replaced only after a question. A name that does not end in the default extension gets it. Several files must be
+  /// in one folder. Names that a project cannot store are refused.
   [[nodiscard]] Step Ok(const std::string& folder, const std::string& text);
 
   [[nodiscard]] const std::string& Folder() const { return folder_; }
   [[nodiscard]] const FileDialogResult& Result() const { return result_; }
 
-  /// The box's text with each native path turned to path text; other texts stay as they are.
+  /// Returns the box's text with each native path converted to path text; other text is unchanged.
   [[nodiscard]] std::string WithPathText(const std::string& text) const;
 
  private:

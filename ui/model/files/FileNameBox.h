@@ -11,9 +11,9 @@
 
 namespace vantorium {
 
-// The rules of a file dialog's name box and of the buttons beside it.
+// The rules of a file dialog's name box and of its buttons.
 
-/// How a file dialog behaves: the numbers of the system's own file dialog.
+/// Flags for the behavior of a file dialog, with the numbers of the system's own file dialog.
 namespace FileDialogFlag {
 inline constexpr std::uint32_t kOverwritePrompt = 0x2;
 inline constexpr std::uint32_t kHideReadOnly = 0x4;
@@ -25,31 +25,31 @@ inline constexpr std::uint32_t kLongNames = 0x200000;
 
 [[nodiscard]] std::uint32_t FileDialogFlags(const FileDialogRequest& request);
 
-/// The text of the button that ends the dialog with a file.
+/// Returns the text of the button that accepts a file.
 [[nodiscard]] std::string AcceptButtonText(const FileDialogRequest& request);
 
-/// The names in the box's text: without a quote at either end it is cut at `" "`, at `""` and at `"`, whatever is
-/// between. None in an empty text.
+/// Returns the names in the text of the box. Drops a quote at either end, then splits at `" "`, `""` and `"`, whatever
+/// is between. Empty text has no names.
 [[nodiscard]] std::vector<std::string> CutFileNames(std::string_view text);
 
-/// As CutFileNames, but a single name without an extension gives way to the file part of `lastBrowsed`, the file that
-/// was last selected ("" for none).
+/// Like CutFileNames, but replaces a single name without an extension by the file part of `lastBrowsed`, the file last
+/// selected ("" for none).
 [[nodiscard]] std::vector<std::string> ChosenFileNames(std::string_view text, std::string_view lastBrowsed);
 
-/// The box's text for these names: one as it stands, several in quotes with a blank between.
+/// Returns the box's text for these names: a single name unchanged, several in quotes with a space between.
 [[nodiscard]] std::string JoinFileNames(const std::vector<std::string>& names);
 
-/// The length that the box's text must stay below. Lengths are in characters.
+/// Keeps the length of the box's text below kTooLong. Lengths are in characters.
 class FileNameLimit {
  public:
   static constexpr std::size_t kTooLong = 1023;
 
   explicit FileNameLimit(MessageBoxPort& boxes) : boxes_(boxes) {}
 
-  /// Behind a change of the selection, with the text's length, the names just selected included. A text that is too
-  /// long is told each time.
+  /// Call after a change of the selection with the length of the text, including the names just selected. Shows a
+  /// message box each time the text is too long.
   void SelectionChanged(std::size_t length);
-  /// Behind an edit of the text by the user, who is told when it becomes too long.
+  /// Call after an edit of the text by the user. Shows a message box when the text becomes too long.
   void Typed(std::size_t length);
 
   /// Whether OK can be pressed.

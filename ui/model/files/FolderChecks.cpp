@@ -91,7 +91,7 @@ void FolderChecks::VisitAllIn(const Node* node, const std::filesystem::path& fol
     Visit(known, folder / child.name, !child.link, walk);
   }
   if (node == nullptr) return;
-  // A hidden folder is not listed but may have been checked by itself.
+  // A hidden folder is not listed but may have been checked individually.
   for (const auto& [key, child] : node->nodes) {
     if (!visited.contains(child.name)) Visit(&child, folder / child.name, false, walk);
   }

@@ -32,7 +32,7 @@ void FolderWalk::Run(const std::vector<std::string>& folders, FolderWalkProgress
   TellProblems();
 }
 
-/// False when the walk has to end.
+/// Returns false if the walk must end.
 bool FolderWalk::AddFolder(const std::string& folder) {
   folder_ = folder;
   for (const std::string& name : ImagesIn(folder)) {
@@ -41,7 +41,7 @@ bool FolderWalk::AddFolder(const std::string& folder) {
   return GoesOn();
 }
 
-/// The names of a folder's photographs, sorted; none when the user cancels meanwhile.
+/// Returns the sorted names of a folder's photographs; none if the user cancels meanwhile.
 std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
   std::vector<std::string> names;
   const auto native = parts_.paths.ToNative(folder);
@@ -60,8 +60,8 @@ std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
   return names;
 }
 
-/// False when the file could not be read, which the user was told. A name with a backslash would be another file's
-/// path.
+/// Returns false, after a message box, if the file could not be read. A name with a backslash would be the path of
+/// another file.
 bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
   if (!IsXmlText(path) || name.find('\\') != std::string::npos) {
     problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", ToXmlText(path)));
@@ -72,7 +72,7 @@ bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
   return true;
 }
 
-/// Lets the window live from time to time, and tells whether the user has not cancelled.
+/// Updates the window and gives the event loop a turn from time to time. Returns false if the user has cancelled.
 bool FolderWalk::GoesOn() {
   if (Clock::now() - lastTurn_ >= pace_) {
     progress_->Show(folder_, added_);

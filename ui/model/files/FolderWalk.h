@@ -13,20 +13,20 @@
 
 namespace vantorium {
 
-/// The small window that is up while the photographs of folders are added.
+/// The small window shown while the photographs of folders are added.
 class FolderWalkProgress {
  public:
   virtual ~FolderWalkProgress() = default;
-  /// Shows the window and returns at once; nothing is cancelled yet.
+  /// Shows the window, not cancelled, and returns at once.
   virtual void Open() = 0;
-  /// The folder under way, and how many images were added so far.
+  /// Shows the current folder and the number of images added so far.
   virtual void Show(const std::string& folder, std::size_t added) = 0;
   [[nodiscard]] virtual bool IsCancelled() const = 0;
   virtual void Close() = 0;
 };
 
-/// Adds the photographs of folders at the end of the image list, each folder's in the order of their names. What lies
-/// in sub folders is not looked at.
+/// Appends the photographs of folders to the image list, those of each folder sorted by name. Does not search
+/// subfolders.
 class FolderWalk {
  public:
   struct Parts {
@@ -41,9 +41,9 @@ class FolderWalk {
   explicit FolderWalk(const Parts& parts, std::chrono::milliseconds pace = std::chrono::milliseconds(15))
       : parts_(parts), pace_(pace) {}
 
-  /// `folders` are path text. A file that cannot be read ends the walk with a box, and so does a cancel, which is
-  /// looked for before each file; what was added before stays. What had to be passed over is told in one box behind it:
-  /// folders that cannot be read, and names that cannot stand in a project. Sets IsModified when something was added.
+  /// `folders` are path text. A file that cannot be read ends the walk with a message box. A cancel, checked before
+  /// each file, ends it too. Images already added stay. One message box at the end lists what was skipped: folders that
+  /// cannot be read, and names that a project cannot store. Sets IsModified if anything was added.
   void Run(const std::vector<std::string>& folders, FolderWalkProgress& progress);
 
  private:

@@ -15,7 +15,8 @@ struct SubFolder {
 class Folders {
  public:
   virtual ~Folders() = default;
-  /// The folders in `folder` but the hidden ones, sorted by name, in any case. None in a folder that can't be read.
+  /// Returns the folders in `folder` except hidden ones, sorted by name, ignoring case. Empty if `folder` cannot be
+  /// read.
   [[nodiscard]] virtual std::vector<SubFolder> In(const std::filesystem::path& folder) const = 0;
   [[nodiscard]] virtual bool IsLink(const std::filesystem::path& folder) const = 0;
 };
@@ -26,7 +27,7 @@ class LocalFolders : public Folders {
   [[nodiscard]] bool IsLink(const std::filesystem::path& folder) const override;
 };
 
-/// Texts by which names of folders are sorted: upper and lower case are the same unless nothing else differs.
+/// Returns the key by which a folder name is sorted: case matters only if nothing else differs.
 [[nodiscard]] std::string FolderSortKey(const std::string& name);
 
 }  // namespace vantorium

@@ -6,7 +6,8 @@
 
 namespace vantorium {
 
-/// What stands below the preview of a file (native): "(800x600, 93KB)". Empty for what is no readable JPEG file.
+/// Returns the text below the preview of a file (native path): "(800x600, 93KB)". Empty if it is not a readable JPEG
+/// file.
 [[nodiscard]] std::string ImageSizeLabel(const std::optional<std::filesystem::path>& file);
 
 }  // namespace vantorium

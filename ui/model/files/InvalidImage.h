@@ -2,7 +2,7 @@
 
 namespace vantorium {
 
-/// What is to happen with an image that does not decode; the numbers are those of the desktop's own boxes.
+/// What to do with an image that cannot be decoded. The numbers are those of the desktop's own message boxes.
 enum class InvalidImageAnswer {
   Remove = 3,
   Retry = 4,

@@ -8,12 +8,12 @@
 
 namespace vantorium {
 
-/// By what both sides of a picture can be divided while it still has the pixels to be shown fitted into `box`: 1, 2, 4
-/// or 8.
+/// Returns the divisor (1, 2, 4 or 8) by which both sides of a picture can be reduced while it still has enough pixels
+/// to be shown fitted into `box`.
 [[nodiscard]] int DivisorFor(PictureSize picture, PictureSize box);
 
-/// Decodes a JPEG file into `dib` for a look at it, no larger than `box` needs. False for what LoadJPEGImage refuses,
-/// and after a stop; `dib` is then undefined.
+/// Decodes a JPEG file into `dib` for viewing, no larger than `box` needs. Returns false for what LoadJPEGImage
+/// refuses, and after a stop; `dib` is then undefined.
 [[nodiscard]] bool LoadReducedPicture(cDIBSection& dib, const std::filesystem::path& file, PictureSize box,
                                       const std::stop_token& stop = {});
 

@@ -27,7 +27,7 @@ bool Wrappers(P p) {
   return p.checkImageWrapperUse == 1;
 }
 
-// Which of width and height of a picture is given; both without an aspect ratio to keep.
+// Whether the width or the height of a picture is given; both are unless the aspect ratio is kept.
 bool ImageRatioKept(P p) {
   return p.checkImageWrapperImageKeepAspectRatio == 1;
 }

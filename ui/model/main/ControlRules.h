@@ -7,21 +7,21 @@
 
 namespace vantorium {
 
-// What the settings make of the controls that show them. A window walks these tables after each edit.
+// How the settings affect the controls that show them. A window walks these tables after each edit.
 
 enum class ControlProperty { Visible, Enabled };
 
-/// A control that can be seen, or used, only while something holds.
+/// A control that is visible or enabled only while a condition holds.
 struct ControlRule {
   std::string_view control;  ///< its object name
   ControlProperty property;
   bool (*holds)(const GalleryProject& project);
 };
 
-/// Every control, at most once for each property.
+/// Returns all rules. A control appears at most once for each property.
 [[nodiscard]] std::span<const ControlRule> ControlRules();
 
-/// A label whose text says in which unit a setting is.
+/// A label whose text names the unit of a setting.
 struct UnitLabel {
   std::string_view control;
   std::string_view inPercent;
@@ -35,16 +35,16 @@ struct UnitLabel {
 struct AlignmentList {
   Choice GalleryProject::*alignment;
   Choice GalleryProject::*placement;
-  Choice firstAboveOrBelow;  ///< the placements from this one on are above and below
+  Choice firstAboveOrBelow;  ///< placements from this one on are above and below
 };
 
-/// Those of the captions.
+/// Returns the alignment lists of the captions.
 [[nodiscard]] std::span<const AlignmentList> AlignmentLists();
 
-/// Whether the list has the texts for a placement above or below.
+/// Whether the list shows the texts for a placement above or below.
 [[nodiscard]] bool IsAboveOrBelow(const AlignmentList& list, const GalleryProject& project);
 
-/// From 1 on, the picture of the gallery's layout.
+/// Returns the number of the picture of the gallery's layout, from 1.
 [[nodiscard]] int LayoutPicture(const GalleryProject& project);
 
 }  // namespace vantorium

@@ -5,10 +5,10 @@
 
 namespace vantorium {
 
-/// What a text box and the clipboard are like when the menu of the box is about to open.
+/// State of a text box and the clipboard when the menu of the box is about to open.
 struct TextBoxState {
   bool canUndo = false;
-  bool isLocked = false;  ///< its text can be read only
+  bool isLocked = false;  ///< the text is read-only
   bool hasSelection = false;
   bool clipboardHasText = false;
 };
@@ -20,7 +20,7 @@ struct EditMenuEntry {
   std::string_view caption;  ///< empty for a separator
 };
 
-/// The edit commands of a text box's menu, by their index.
+/// Returns the edit commands of a text box's menu, in the order of their index.
 [[nodiscard]] std::span<const EditMenuEntry> EditMenuEntries();
 
 [[nodiscard]] bool IsEnabled(EditCommand command, const TextBoxState& box);

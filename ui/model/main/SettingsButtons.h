@@ -8,7 +8,7 @@
 
 namespace vantorium {
 
-// The buttons of the settings pages that open a dialog on some settings, by their object names.
+// The buttons of the settings pages that open a dialog for some settings, by object name.
 
 /// Opens an editor for one text.
 struct CodeButton {
@@ -17,7 +17,7 @@ struct CodeButton {
   std::string GalleryProject::*code;
 };
 
-/// Opens an editor for two texts, one in front of something and one behind it.
+/// Opens an editor for two texts, a header and a footer.
 struct HeaderFooterButton {
   std::string_view button;
   std::string_view title;
@@ -40,7 +40,7 @@ struct ColorsButton {
   const PageColorFields& others;
 };
 
-/// Opens the dialog for a page link. An empty label: the link has no second picture.
+/// Opens the dialog for a page link. With an empty label the link has no second graphic.
 struct LinkButton {
   std::string_view button;
   std::string_view title;

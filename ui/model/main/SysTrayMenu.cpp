@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::ptrdiff_t kLongestToolTip = 63;
 
-/// The first `count` characters of UTF-8 text; none is cut in two.
+/// Returns the first `count` characters of UTF-8 text and splits none.
 std::string FirstCharacters(const std::string& text, std::ptrdiff_t count) {
   const auto end = std::find_if(text.begin(), text.end(), [&](char byte) {
     const bool begins = (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;

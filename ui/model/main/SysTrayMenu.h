@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// An entry of the menu behind the tray icon. With the caption "-" it is a line between others.
+/// An entry of the tray icon's menu. With the caption "-" it is a separator.
 struct SysTrayMenuItem {
   std::string Caption;
   std::string Key;
@@ -16,29 +16,29 @@ struct SysTrayMenuItem {
   bool operator==(const SysTrayMenuItem&) const = default;
 };
 
-/// The tray icon as far as it is not drawn: its tip, and its menu mnuPopup with the entries mnuSysTray, counted from 0.
+/// The tray icon without its drawing: its tooltip, and its menu mnuPopup with the entries mnuSysTray, numbered from 0.
 class SysTrayMenu {
  public:
-  /// An entry behind the others; its index. The first one takes the element that is there from the beginning.
+  /// Appends an entry and returns its index. The first entry takes the element that exists from the beginning.
   std::int32_t AddMenuItem(const std::string& caption, const std::string& key, bool isDefault = false);
-  /// An invalid index changes nothing.
+  /// Does nothing if the index is invalid.
   void EnableMenuItem(std::int32_t index, bool enabled);
-  /// The entries behind the removed one move up with caption and key; enabled or not stays with the place. Entry 0 is
-  /// never removed: it loses its caption, and an entry without a caption is not shown. When it was the default there is
-  /// none afterwards; any other default keeps its number as long as there is an entry of that number. An invalid index
-  /// changes nothing.
+  /// Moves the captions and keys of the entries after the removed one up; the enabled state stays with the position.
+  /// Entry 0 is never removed: it loses its caption, and an entry without a caption is not shown. If the removed entry
+  /// was the default, there is none afterwards; any other default keeps its index as long as an entry has that index.
+  /// Does nothing if the index is invalid.
   void RemoveMenuItem(std::int32_t index);
 
-  /// The entry in bold, which a double click on the icon chooses; -1 for none.
+  /// Index of the bold entry, which a double click on the icon chooses; -1 for none.
   [[nodiscard]] std::int32_t DefaultMenuIndex() const { return defaultMenuIndex_; }
   /// An invalid index means none.
   void SetDefaultMenuIndex(std::int32_t index) { defaultMenuIndex_ = IsValid(index) ? index : -1; }
 
-  /// The tip of the icon: what stands before the first NUL, of that at most 63 characters.
+  /// The icon's tooltip: the text before the first NUL, cut to 63 characters.
   [[nodiscard]] const std::string& ToolTip() const { return toolTip_; }
   void SetToolTip(const std::string& text);
 
-  /// The elements of mnuSysTray; none until the first entry was added.
+  /// The elements of mnuSysTray; none until the first entry is added.
   [[nodiscard]] const std::vector<SysTrayMenuItem>& Items() const { return items_; }
   [[nodiscard]] bool IsValid(std::int32_t index) const;
 
@@ -48,7 +48,7 @@ class SysTrayMenu {
   std::string toolTip_;
 };
 
-/// The menu of the program: its window, help, about and close.
+/// Returns the program's menu: its window, help, about and close.
 [[nodiscard]] SysTrayMenu VantoriumSysTrayMenu();
 
 }  // namespace vantorium

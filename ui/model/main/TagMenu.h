@@ -5,13 +5,13 @@
 
 namespace vantorium {
 
-/// An entry that puts a template tag into the text; both are empty for a separator.
+/// An entry that inserts a template tag; caption and tag are empty for a separator.
 struct TagMenuEntry {
   std::string_view caption;
   std::string_view tag;
 };
 
-/// One submenu of "Insert Vantorium Tag". An entry's object name is that of the menu with the entry's index behind it.
+/// One submenu of "Insert Vantorium Tag". An entry's object name is the menu's name followed by the entry's index.
 struct TagMenu {
   std::string_view name;
   std::string_view caption;
@@ -20,7 +20,7 @@ struct TagMenu {
 
 [[nodiscard]] std::span<const TagMenu> TagMenus();
 
-/// The few tags of the main window's "menuPopupText".
+/// Returns the tags of the main window's "menuPopupText".
 [[nodiscard]] std::span<const TagMenuEntry> PopupTextTags();
 
 }  // namespace vantorium
