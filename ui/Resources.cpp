@@ -2,7 +2,7 @@
 
 #include <QDir>
 
-// The toolkit's macro wants to stand outside of any namespace.
+// Q_INIT_RESOURCE must stand outside of any namespace.
 void LoadVantoriumResources() {
   Q_INIT_RESOURCE(vantorium);
 }

@@ -1,4 +1,4 @@
 #pragma once
 
-/// Makes the pictures of the program available, which lie in a static library. Called before the first window is made.
+/// Registers the program's pictures, which are compiled into a static library. Call before the first window is made.
 void LoadVantoriumResources();

@@ -6,10 +6,10 @@
 
 namespace vantorium {
 
-/// frmAddBrowser above the window that is in front, for whoever edits the list of browsers.
+/// Shows frmAddBrowser over the active modal window, for the editors of the browser list.
 class AddBrowserDialog : public BrowserEntryDialog {
  public:
-  /// `programFolder`: path text, where btnBrowse begins.
+  /// `programFolder` is where btnBrowse begins; path text.
   AddBrowserDialog(FileBrowser& files, const PathMap& paths, std::string programFolder)
       : files_(files), paths_(paths), programFolder_(std::move(programFolder)) {}
 

@@ -11,7 +11,7 @@ class frmAbout;
 
 namespace vantorium {
 
-/// Tells the version of the program and where it lives in the web.
+/// Shows the program's version and its web address.
 class frmAbout : public QDialog {
   Q_OBJECT
 

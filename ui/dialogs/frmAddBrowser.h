@@ -19,7 +19,7 @@ class frmAddBrowser : public QDialog {
   Q_OBJECT
 
  public:
-  /// `programFolder`: path text, where btnBrowse begins.
+  /// `programFolder` is where btnBrowse begins; path text.
   frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const PathMap& paths, std::string programFolder,
                 QWidget* parent = nullptr);
   ~frmAddBrowser() override;

@@ -33,8 +33,8 @@ void frmBrowserList::showEvent(QShowEvent* event) {
   ui_->lvBrowsers->setColumnWidth(1, width * 6 / 10);
 }
 
-// An arrow key selects the row that it leads to. The row that only has the focus is selected by a key that leads
-// nowhere, or the only row never could be.
+// An arrow key selects the row that it moves to. A key that cannot move selects the row that only has the focus:
+// otherwise a list's only row could never be selected with the keyboard.
 bool frmBrowserList::eventFilter(QObject* watched, QEvent* event) {
   QTreeWidgetItem* current = ui_->lvBrowsers->currentItem();
   if (event->type() == QEvent::KeyPress && current != nullptr && !current->isSelected()) {
@@ -52,7 +52,7 @@ void frmBrowserList::Press(void (BrowserList::*button)()) {
 }
 
 void frmBrowserList::ShowEntries() {
-  const QSignalBlocker blocker(ui_->lvBrowsers);  // the model knows what is selected
+  const QSignalBlocker blocker(ui_->lvBrowsers);  // the model already knows the selection
   ui_->lvBrowsers->clear();
   for (const Browser& browser : list_.Entries()) {
     auto* item = new QTreeWidgetItem(ui_->lvBrowsers, {ToQt(browser.Name), ToQt(browser.Location)});

@@ -11,7 +11,7 @@ namespace vantorium {
 
 class BrowserList;
 
-/// Shows the list of browsers and lets the user edit it. However it is closed, the list is as it was shown last.
+/// Shows the list of browsers and lets the user edit it. Changes stay in the list however the dialog is closed.
 class frmBrowserList : public QDialog {
   Q_OBJECT
 

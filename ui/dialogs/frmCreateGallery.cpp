@@ -126,7 +126,7 @@ void frmCreateGallery::EnableFields() {
                                 ui_->textUploadSourceFolder, ui_->btnBrowseUploadSourceFolder});
 }
 
-/// The chosen one stands out in the system's colors, whatever they are at the moment.
+/// Highlights the chosen option in the system's current colors.
 void frmCreateGallery::ShowCaptions() {
   for (QRadioButton* option : {ui_->optionCreateGallery, ui_->optionUploadGallery, ui_->optionUploadFolder}) {
     QPalette colors;

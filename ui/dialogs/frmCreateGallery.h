@@ -15,12 +15,12 @@ class frmCreateGallery;
 
 namespace vantorium {
 
-/// The last question before a run that writes a result. One for the life of the main window, hidden and shown.
+/// The last dialog before a run that writes output. The main window keeps one for its lifetime, and hides and shows it.
 class frmCreateGallery : public QDialog {
   Q_OBJECT
 
  public:
-  /// What it works with; all of it outlives the form.
+  /// What the form works with; all of it must outlive the form.
   struct Parts {
     Preferences& preferences;
     std::filesystem::path serverListFile;
@@ -33,7 +33,7 @@ class frmCreateGallery : public QDialog {
   frmCreateGallery(const Parts& parts, QWidget* parent);
   ~frmCreateGallery() override;
 
-  /// Shows the dialog modally. `option` of the result is Cancelled when the user did not want a run.
+  /// Shows the dialog modally. If the user cancels, `option` of the result is Cancelled.
   [[nodiscard]] CreateChoice Ask();
 
   void accept() override;

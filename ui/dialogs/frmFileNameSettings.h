@@ -13,7 +13,7 @@ namespace vantorium {
 class FieldBinder;
 class NameBox;
 
-/// The names of a gallery's files and folders. However it is closed, it stores what it shows.
+/// Edits the names of a gallery's files and folders. However it is closed, it stores what it shows.
 class frmFileNameSettings : public QDialog {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class frmFileNameSettings : public QDialog {
  private:
   FieldBinder& binder_;
   std::unique_ptr<Ui::frmFileNameSettings> ui_;
-  std::vector<NameBox*> names_;  ///< belong to this as children
+  std::vector<NameBox*> names_;  ///< children of this dialog
 };
 
 }  // namespace vantorium

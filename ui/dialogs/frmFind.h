@@ -11,7 +11,7 @@ namespace vantorium {
 
 class FindModel;
 
-/// Asks for the name of an image to look for; what was found out is in the model.
+/// Asks for the name of an image to find; the answer is in the model.
 class frmFind : public QDialog {
   Q_OBJECT
 

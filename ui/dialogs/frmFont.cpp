@@ -13,7 +13,7 @@
 namespace vantorium {
 namespace {
 
-constexpr int kLargestSample = 48;  // points that the sample has room for
+constexpr int kLargestSample = 48;  // points; the sample has no room for more
 
 QFont SampleFontOf(const FontDescription& font) {
   QFont result(ToQt(font.Name));

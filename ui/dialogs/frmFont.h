@@ -14,16 +14,16 @@ class frmFont;
 
 namespace vantorium {
 
-/// Lets its user choose a font with all that a FontDescription holds, and shows a sample of it. A face that the machine
-/// lacks, such as that of a project from elsewhere, is kept as long as no other is chosen.
+/// Lets the user choose a font with all that a FontDescription holds, and shows a sample of it. A face that is not
+/// installed, such as one of a project from another machine, is kept until the user chooses another.
 class frmFont : public QDialog {
   Q_OBJECT
 
  public:
-  /// Lets its user choose a color; true when it changed.
+  /// Lets the user choose a color; returns true if it changed.
   using PickColor = std::function<bool(std::uint32_t& color)>;
 
-  /// Offers `faces`.
+  /// `faces` are the names in the list.
   frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor, QWidget* parent);
   ~frmFont() override;
 

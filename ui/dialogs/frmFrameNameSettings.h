@@ -11,7 +11,7 @@ namespace vantorium {
 
 class FieldBinder;
 
-/// The names of a gallery's frames. Each change is stored at once.
+/// Edits the names of a gallery's frames. Each change is stored at once.
 class frmFrameNameSettings : public QDialog {
   Q_OBJECT
 

@@ -12,15 +12,15 @@ class frmHTML;
 
 namespace vantorium {
 
-/// Custom code in front of something and behind it.
+/// Custom code before and after something.
 struct HeaderAndFooter {
   std::string header;
   std::string footer;
   bool operator==(const HeaderAndFooter&) const = default;
 };
 
-/// The editor of two texts of custom code. Its button refuses texts that a project file can't keep, the header first,
-/// and so does Escape; the title bar closes it with the texts as they are.
+/// Edits two texts of custom code. Its button and Escape refuse texts that a project file can't store, and check the
+/// header first; the title bar closes it and keeps the texts as they are.
 class frmHTML : public QDialog {
   Q_OBJECT
 
@@ -28,10 +28,10 @@ class frmHTML : public QDialog {
   frmHTML(const std::string& caption, HeaderAndFooter texts, MessageBoxPort& boxes, QWidget* owner);
   ~frmHTML() override;
 
-  /// As the user left them.
+  /// The texts as the user left them.
   [[nodiscard]] HeaderAndFooter Texts() const;
 
-  /// What the button and Escape do.
+  /// Called by the button and by Escape.
   void reject() override;
 
  protected:

@@ -12,8 +12,8 @@ class frmHTMLSingle;
 
 namespace vantorium {
 
-/// The editor of one text of custom code. Its button refuses a text that a project file can't keep, and so does Escape;
-/// the title bar closes it with the text as it is.
+/// Edits one text of custom code. Its button and Escape refuse a text that a project file can't store; the title bar
+/// closes it and keeps the text as it is.
 class frmHTMLSingle : public QDialog {
   Q_OBJECT
 
@@ -21,10 +21,10 @@ class frmHTMLSingle : public QDialog {
   frmHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes, QWidget* owner);
   ~frmHTMLSingle() override;
 
-  /// As the user left it.
+  /// The text as the user left it.
   [[nodiscard]] std::string Text() const;
 
-  /// What the button and Escape do.
+  /// Called by the button and by Escape.
   void reject() override;
 
  protected:

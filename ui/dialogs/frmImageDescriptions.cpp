@@ -29,7 +29,7 @@ std::unique_ptr<Ui::frmImageDescriptions> SetUp(frmImageDescriptions& form) {
 
 frmImageDescriptions::frmImageDescriptions(Project& project, FieldBinder& binder, MessageBoxPort& boxes,
                                            QWidget* parent)
-    : QDialog(parent),  // no tool window of the toolkit: in those the letters of the main window's controls count too
+    : QDialog(parent),  // not a Qt::Tool window, where the main window's mnemonics work too
       project_(project),
       binder_(binder),
       boxes_(boxes),
@@ -90,8 +90,8 @@ void frmImageDescriptions::FollowSelection() {
   if (isVisible()) ShowPlacings();
 }
 
-// What the box shows already is left alone, with its cursor and its steps to undo; the steps of another image or
-// project would undo into the wrong text.
+// A box that already shows the text is left alone, with its cursor and undo history. The history of another image or
+// project is cleared: it would undo into the wrong text.
 void frmImageDescriptions::Fill(QPlainTextEdit& box, const std::string& text, bool sameSubject) {
   if (sameSubject && CodeOf(box, text) == text) return;
   const QSignalBlocker quiet(box);
@@ -120,7 +120,7 @@ void frmImageDescriptions::EnablePage() {
   for (const Page& page : pages_) page.frame.setEnabled(&page == &CurrentPage());
 }
 
-// The page that goes leaves the focus to whatever comes next, which is the button that clears everything.
+// Otherwise the page that is left would pass the focus on to the next control, the button that clears everything.
 void frmImageDescriptions::TurnPage() {
   EnablePage();
   if (focusWidget() != ui_->tabDescription->tabBar()) CurrentPage().text.setFocus();
@@ -151,7 +151,7 @@ void frmImageDescriptions::reject() {
   QDialog::reject();
 }
 
-// A dialog of the toolkit takes its first size and the middle of its owner again.
+// A QDialog that is shown again takes its first size and the middle of its owner.
 void frmImageDescriptions::setVisible(bool visible) {
   if (isVisible() && !visible) place_ = saveGeometry();
   if (!isVisible() && visible && !place_.isEmpty()) restoreGeometry(place_);

@@ -22,8 +22,8 @@ namespace vantorium {
 
 class FieldBinder;
 
-/// The tool window that edits the descriptions of the list's current image, and what all descriptions of the gallery
-/// have in common. It stays open while the user works in the main window, and is hidden and shown again.
+/// The tool window that edits the descriptions of the list's current image, and the settings that all descriptions of
+/// the gallery share. It stays open while the user works in the main window, and is hidden and shown again.
 class frmImageDescriptions : public QDialog {
   Q_OBJECT
 
@@ -31,18 +31,18 @@ class frmImageDescriptions : public QDialog {
   frmImageDescriptions(Project& project, FieldBinder& binder, MessageBoxPort& boxes, QWidget* parent);
   ~frmImageDescriptions() override;
 
-  /// Shows the list's current row and the project's settings. For whoever changes the current row or loads a project;
-  /// is no edit.
+  /// Shows the list's current row and the project's settings. Call after changing the current row or loading a project.
+  /// Does not count as an edit.
   void FollowSelection();
 
-  /// Stores the placements and alignments in the project, which otherwise happens when the window is closed. For
-  /// whoever is about to save the project, or make something of it, while the window is open.
+  /// Stores the placements and alignments in the project, which otherwise happens when the window is closed. Call
+  /// before saving the project, or generating from it, while the window is open.
   void StorePlacings();
 
-  /// Closing by the title bar and Escape do as the button does.
+  /// The title bar and Escape do what the button does.
   void reject() override;
 
-  /// Comes back where its user left it, in the size that it had.
+  /// Restores the position and size that the window had when it was last hidden.
   void setVisible(bool visible) override;
 
  protected:
@@ -80,9 +80,9 @@ class frmImageDescriptions : public QDialog {
   Descriptions model_;
   std::unique_ptr<Ui::frmImageDescriptions> ui_;
   std::array<Page, 2> pages_;
-  std::string shownProject_;  // its file
+  std::string shownProject_;  // the project's file name
   std::string shownImage_;
-  QByteArray place_;  // when it was last hidden; empty before
+  QByteArray place_;  // position and size when last hidden; empty before
 };
 
 }  // namespace vantorium

@@ -42,7 +42,7 @@ void frmImageFilters::Bind(QCheckBox& control, std::int16_t ImageFilterSettings:
 void frmImageFilters::Bind(QSlider& control, QLabel& label, std::int16_t ImageFilterSettings::*field) {
   control.setValue(model_->Settings().*field);
   label.setNum(control.value());
-  label.setMinimumWidth(label.fontMetrics().horizontalAdvance("-000"));  // so that nothing moves with the number
+  label.setMinimumWidth(label.fontMetrics().horizontalAdvance("-000"));  // keeps the layout still
   connect(&control, &QSlider::valueChanged, this, [this, field, &label](int value) {
     label.setNum(value);
     model_->Set(field, static_cast<std::int16_t>(value));

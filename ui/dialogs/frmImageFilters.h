@@ -42,8 +42,8 @@ class frmImageFilters : public QDialog {
   std::unique_ptr<ImageFiltersModel> model_;
 };
 
-/// Lets the user edit `filters` in a dialog over `owner`, which may be null. True when it was not cancelled; only then
-/// `filters` has new values.
+/// Lets the user edit `filters` in a dialog over `owner`, which may be null. Returns false and leaves `filters` as they
+/// are if the user cancels.
 [[nodiscard]] bool EditImageFilters(const std::string& title, ImageFilterSettings& filters, const SampleSources& sample,
                                     const SamplePorts& ports, QWidget* owner);
 

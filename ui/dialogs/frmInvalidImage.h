@@ -13,7 +13,7 @@ class frmInvalidImage;
 
 namespace vantorium {
 
-/// Asks what to do with an image that does not decode.
+/// Asks what to do with an image that cannot be decoded.
 class frmInvalidImage : public QDialog {
   Q_OBJECT
 
@@ -21,7 +21,7 @@ class frmInvalidImage : public QDialog {
   explicit frmInvalidImage(Shell& shell, QWidget* parent = nullptr);
   ~frmInvalidImage() override;
 
-  /// Asks, with a beep, and waits for the answer; closing the window means Ignore.
+  /// Beeps, asks and waits for the answer; closing the window means Ignore.
   [[nodiscard]] InvalidImageAnswer ShowDialog(const std::string& imageName);
 
  protected:

@@ -43,7 +43,7 @@ void frmLinks::Bind(QLineEdit& control, QAbstractButton& button, LinksModel::Gra
   connect(&button, &QAbstractButton::clicked, this, [this, graphic, &browser, &control] {
     model_.Browse(graphic, browser);
     ShowGraphics();
-    control.setFocus();  // the path can be looked at, and leaving the box ends the following
+    control.setFocus();  // the user can read the path; leaving the box stops the mirroring
   });
 }
 

@@ -15,13 +15,12 @@ class frmLinks;
 
 namespace vantorium {
 
-/// The window of LinksModel. However it is closed, it is as by its button.
+/// The window of LinksModel. Closing it in any way does what its button does.
 class frmLinks : public QDialog {
   Q_OBJECT
 
  public:
-  /// `model` and `browser` must live as long as the form. An empty `disabledGraphicLabel`: the
-  /// label has its own text.
+  /// `model` and `browser` must outlive the form. If `disabledGraphicLabel` is empty, the label keeps its own text.
   frmLinks(const std::string& title, const std::string& disabledGraphicLabel, LinksModel& model, FileBrowser& browser,
            QWidget* owner);
   ~frmLinks() override;
@@ -38,9 +37,9 @@ class frmLinks : public QDialog {
   LinksModel& model_;
 };
 
-/// Lets the user edit a page link in a dialog over `owner`, which may be null. `disabledGraphicLabel` is what stands
-/// above the second graphic, empty for none. `graphicsFolder` is where graphics were last browsed for. `edited` is
-/// called at each change: there is no way to take one back.
+/// Lets the user edit a page link in a dialog over `owner`, which may be null. `disabledGraphicLabel` is the label
+/// above the second graphic, empty if there is none. `graphicsFolder` is where the user last browsed for graphics.
+/// `edited` is called at each change, because no change can be cancelled.
 [[nodiscard]] LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel,
                                     const LinkSettings& link, std::string& graphicsFolder, FileBrowser& browser,
                                     const PathMap& paths, const std::function<void()>& edited, QWidget* owner);

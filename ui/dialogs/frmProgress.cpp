@@ -11,7 +11,7 @@ namespace {
 constexpr int kDrawInterval = 33;  // milliseconds
 
 void ShowBar(QProgressBar& bar, int maximum, int value) {
-  bar.setRange(0, std::max(maximum, 1));  // a bar from 0 to 0 would be one that knows no end
+  bar.setRange(0, std::max(maximum, 1));  // QProgressBar shows 0 to 0 as a busy indicator
   bar.setValue(std::clamp(value, 0, bar.maximum()));
 }
 
@@ -39,7 +39,7 @@ frmProgress::frmProgress(UploadLog& log, CancelPoll& cancel, Shell& shell, std::
 
 frmProgress::~frmProgress() = default;
 
-/// The question whether to cancel has an event loop of its own, in which nothing may ask it again.
+/// The question whether to cancel runs its own event loop, in which it must not be asked again.
 void frmProgress::reject() {
   if (isAsking_) return;
   isAsking_ = true;
@@ -58,7 +58,7 @@ void frmProgress::Draw(ProgressPart part) {
 void frmProgress::ComeUp() {
   changed_.set();
   DrawChanges();
-  setEnabled(true);  // its owner is not
+  setEnabled(true);  // although its owner is disabled
   show();
 }
 

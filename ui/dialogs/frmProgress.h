@@ -14,17 +14,17 @@ class frmProgress;
 
 namespace vantorium {
 
-/// The progress window of a run in front of the main window, which the run disables. What the run tells it is drawn at
-/// most 30 times a second, the last of it always.
+/// The progress window of a run, in front of the main window, which the run disables. Draws updates at most 30 times a
+/// second, and always the last one.
 class frmProgress : public QDialog, public ProgressModel {
   Q_OBJECT
 
  public:
-  /// `appPath`: the program's folder as path text.
+  /// `appPath` is the program's folder as path text.
   frmProgress(UploadLog& log, CancelPoll& cancel, Shell& shell, std::string appPath, QWidget* parent);
   ~frmProgress() override;
 
-  /// Escape and the title bar: as CancelButton.
+  /// Escape and the title bar do what CancelButton does.
   void reject() override;
 
  protected:
@@ -44,9 +44,9 @@ class frmProgress : public QDialog, public ProgressModel {
   Shell& shell_;
   std::string appPath_;
   std::unique_ptr<Ui::frmProgress> ui_;
-  std::bitset<16> changed_;   // by ProgressPart
-  QElapsedTimer drawn_;       // since the last drawing
-  QTimer due_;                // for the next one
+  std::bitset<16> changed_;   // indexed by ProgressPart
+  QElapsedTimer drawn_;       // time since the last drawing
+  QTimer due_;                // starts the next drawing
   std::size_t shownLog_ = 0;  // bytes of the log box's text that infoText shows
   bool isAsking_ = false;
 };

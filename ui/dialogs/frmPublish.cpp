@@ -96,7 +96,7 @@ void frmPublish::accept() {
   ui_->textGalleryIndexFile->setFocus();
 }
 
-/// Escape and the title bar mean it too, when the button is disabled.
+/// Escape and the title bar cancel too, even when the button is disabled.
 void frmPublish::reject() {
   model_.Cancel();
   ShowProfile();

@@ -12,27 +12,27 @@ class frmPublish;
 
 namespace vantorium {
 
-/// The dialog for the servers of uploads, one of which is chosen by leaving it.
+/// The dialog for the upload servers; accepting it chooses the selected one.
 class frmPublish : public QDialog {
   Q_OBJECT
 
  public:
-  /// Reads the list, see publish/ServerListFile.h; failures are told in boxes.
+  /// Reads the list, see publish/ServerListFile.h; failures are shown in message boxes.
   frmPublish(std::filesystem::path serverListFile, MessageBoxPort& boxes, QWidget* parent);
   ~frmPublish() override;
 
-  /// The dialog is for the upload of a folder. Before it is shown.
+  /// Sets whether the dialog is for the upload of a folder, which has no index file. Call before it is shown.
   void SetHideIndexFile(bool hide);
   [[nodiscard]] bool QueryPublish() const { return model_.QueryPublish(); }
   [[nodiscard]] std::int16_t GetTimeout() const { return model_.GetTimeout(); }
-  /// What its boxes show.
+  /// The profile that the text boxes show.
   [[nodiscard]] const ServerProfile& Shown() const { return model_.Shown(); }
 
   void accept() override;
   void reject() override;
 
  signals:
-  /// The dialog is no longer the active window.
+  /// The dialog was deactivated or hidden.
   void Left();
 
  protected:

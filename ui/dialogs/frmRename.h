@@ -11,7 +11,7 @@ namespace vantorium {
 
 class RenameModel;
 
-/// Asks for a new name of the current image or of all; the answer is in the model.
+/// Asks for a new name for the current image or for all images; the answer is in the model.
 class frmRename : public QDialog {
   Q_OBJECT
 

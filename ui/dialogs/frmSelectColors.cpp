@@ -73,9 +73,9 @@ void frmSelectColors::ShowColors() {
 bool frmSelectColors::eventFilter(QObject* watched, QEvent* event) {
   const auto row = std::find_if(rows_.begin(), rows_.end(), [watched](const Row& r) { return r.element == watched; });
   if (row != rows_.end() && IsRelease(*event)) {
-    // Let go elsewhere, it is no click.
+    // A button released elsewhere is not a click.
     if (row->element->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) Choose(row->color);
-    return true;  // a label's click is not one on the page behind it
+    return true;  // a click on a label must not reach the page behind it
   }
   return QDialog::eventFilter(watched, event);
 }

@@ -14,7 +14,7 @@ class frmSelectColors;
 
 namespace vantorium {
 
-/// The window of SelectColorsModel: five buttons, and a small page in their colors.
+/// The window of SelectColorsModel: five buttons, and a small sample page in their colors.
 class frmSelectColors : public QDialog {
   Q_OBJECT
 
@@ -30,7 +30,7 @@ class frmSelectColors : public QDialog {
   void reject() override;
 
  private:
-  /// A color, its button and what shows it on the page.
+  /// A color, its button, and the element that shows it on the page.
   struct Row {
     Color PageColors::*color;
     ColorButton* button;
@@ -47,8 +47,8 @@ class frmSelectColors : public QDialog {
   std::vector<Row> rows_;
 };
 
-/// Lets the user edit `colors` in a dialog over `owner`, which may be null, and copy `others` into them. True when it
-/// was not cancelled; only then `colors` has new values.
+/// Lets the user edit `colors` in a dialog over `owner`, which may be null, and copy `others` into them. Returns false
+/// and leaves `colors` as they are if the user cancels.
 [[nodiscard]] bool SelectColors(const std::string& title, PageColors& colors, const PageColors& others,
                                 ColorDialog& dialog, QWidget* owner);
 

@@ -11,7 +11,7 @@ class frmShuffle;
 
 namespace vantorium {
 
-/// The small window that is up while the images are shuffled. Stop, Escape and its title bar stop the shuffle.
+/// The small window that is shown while the images are shuffled. Stop, Escape and the title bar stop the shuffle.
 class frmShuffle : public QDialog, public ShuffleProgress {
   Q_OBJECT
 

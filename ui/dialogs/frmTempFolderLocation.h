@@ -11,8 +11,8 @@ class frmTempFolderLocation;
 
 namespace vantorium {
 
-/// Asks where the temporary folder is to lie. It is left with a path that can be used, or with Escape and its title
-/// bar, which keep the location that was.
+/// Asks for the location of the temporary folder. OK closes it only with a usable path; Escape and the title bar keep
+/// the old location.
 class frmTempFolderLocation : public QDialog {
   Q_OBJECT
 
@@ -29,8 +29,8 @@ class frmTempFolderLocation : public QDialog {
   std::unique_ptr<Ui::frmTempFolderLocation> ui_;
 };
 
-/// Lets the user choose; true when `preferences` took over what was chosen. An empty location becomes `appPath` (path
-/// text, no backslash at its end) in any case.
+/// Lets the user choose; returns true if the choice was stored in `preferences`. An empty location becomes `appPath`
+/// (path text without a trailing backslash) in any case.
 bool EditTempFolderLocation(Preferences& preferences, const std::string& appPath, MessageBoxPort& boxes,
                             const mFileFunctions& files, FolderBrowser& folders, QWidget* owner);
 

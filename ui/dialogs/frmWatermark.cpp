@@ -67,8 +67,8 @@ void frmWatermark::ConnectButtons() {
 void frmWatermark::Bind(QSlider& control, QLabel& label, int value, void (WatermarkModel::*set)(std::int16_t)) {
   control.setValue(value);
   label.setNum(value);
-  label.setMinimumWidth(label.fontMetrics().horizontalAdvance("000"));  // so that nothing moves with the number
-  control.setTracking(false);                                           // while it is dragged only the number follows
+  label.setMinimumWidth(label.fontMetrics().horizontalAdvance("000"));  // keeps the layout still
+  control.setTracking(false);                                           // while dragging, only the number follows
   connect(&control, &QSlider::sliderMoved, &label, qOverload<int>(&QLabel::setNum));
   connect(&control, &QSlider::valueChanged, this, [this, set, &label](int moved) {
     label.setNum(moved);

@@ -46,7 +46,7 @@ class frmWatermark : public QDialog {
 };
 
 /// Lets the user edit `watermark` and the JPEG `quality` of the same target in a dialog over `owner`, which may be
-/// null. True when it was not cancelled; only then both have new values.
+/// null. Returns false and leaves both as they are if the user cancels.
 [[nodiscard]] bool EditWatermark(const std::string& title, WatermarkSettings& watermark, std::int16_t& quality,
                                  const SampleSources& sample, const SamplePorts& samplePorts,
                                  const WatermarkPorts& ports, QWidget* owner);

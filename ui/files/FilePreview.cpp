@@ -55,7 +55,7 @@ void FilePreview::Clear() {
   ui_->lblSize->clear();
 }
 
-/// The size is there at once; the picture of a large photograph follows.
+/// Shows the size at once; the picture of a large photograph follows.
 void FilePreview::ShowJPEG(const std::filesystem::path& native) {
   std::int32_t width = 0;
   std::int32_t height = 0;

@@ -14,17 +14,17 @@ namespace vantorium {
 class PreviewLoader;
 class mFileFunctions;
 
-/// What stands at the right of a file dialog: a picture of the file in hand, its size, and a check box to do without.
-/// A file that is no picture shows nothing. A click on the picture shows it in full.
+/// The right side of a file dialog: a preview of the selected file, its size, and a check box to turn the preview off.
+/// A file that is not a picture shows nothing. A click on the preview shows the picture full screen.
 class FilePreview : public QWidget {
   Q_OBJECT
 
  public:
-  /// Without `wanted` it takes no room and stays unchecked.
+  /// If `wanted` is false, it takes no room and stays unchecked.
   FilePreview(const mFileFunctions& files, bool wanted, QWidget* parent = nullptr);
   ~FilePreview() override;
 
-  /// Takes a file in hand, path text; an empty one for none.
+  /// Shows a file, given as path text; nothing if it is empty.
   void Show(const std::string& file);
 
  private:

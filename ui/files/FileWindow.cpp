@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kLeastNameWidth = 120;
 
-/// The toolkit takes the last pair of brackets for the patterns and shows what is before it.
+/// Qt reads the patterns from the last pair of parentheses and shows the text before it.
 QString NameFilter(const FileFilter& filter) {
   QStringList patterns;
   for (const std::string& pattern : filter.patterns) patterns << ToQt(pattern);
@@ -50,13 +50,13 @@ FileWindow::FileWindow(const FileDialogRequest& request, const mFileFunctions& f
 void FileWindow::SetUp(const FileDialogRequest& request) {
   setOption(QFileDialog::DontUseNativeDialog);
   setOption(QFileDialog::HideNameFilterDetails);
-  setOption(QFileDialog::ReadOnly, request.open);  // nothing is renamed or deleted while something is opened
+  setOption(QFileDialog::ReadOnly, request.open);  // no renaming or deleting while opening
   setAcceptMode(request.open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-  setFileMode(QFileDialog::AnyFile);  // whether a file must exist is asked for on OK
+  setFileMode(QFileDialog::AnyFile);  // OK checks whether the file must exist
   setLabelText(QFileDialog::Accept, ToQt(AcceptButtonText(request)));
   setLabelText(QFileDialog::Reject, "Cancel");
 
-  // The parts of the toolkit's dialog, by its names.
+  // The parts of QFileDialog, by Qt's object names.
   model_ = findChild<QFileSystemModel*>("qt_filesystem_model");
   view_ = findChild<QAbstractItemView*>("listView");
   name_ = findChild<QLineEdit*>("fileNameEdit");
@@ -123,7 +123,7 @@ void FileWindow::Begin(const FileDialogRequest& request, const std::filesystem::
   name_->selectAll();
 }
 
-/// Not what the toolkit makes of OK: it knows neither path text nor the message boxes of this program.
+/// Replaces QFileDialog's handling of OK, which knows neither path text nor this program's message boxes.
 void FileWindow::accept() {
   if (selectionChange_.isActive()) TellSelection();
   if (!limit_.AllowsOk()) return;
@@ -139,7 +139,7 @@ void FileWindow::accept() {
   }
 }
 
-/// The toolkit enables the button whenever there is a name; a text that is too long takes precedence.
+/// QFileDialog enables the button whenever there is a name; this disables it again if the text is too long.
 bool FileWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == ok_ && event->type() == QEvent::EnabledChange && !limit_.AllowsOk()) ok_->setEnabled(false);
   return QFileDialog::eventFilter(watched, event);
@@ -169,7 +169,7 @@ void FileWindow::TellSelection() {
 void FileWindow::TakePathText() {
   const QString text = ToQt(choice_.WithPathText(FromQt(name_->text())));
   if (text == name_->text()) return;
-  view_->clearSelection();  // a selected file would put its own name into the box
+  view_->clearSelection();  // otherwise the selected file would put its name into the box
   name_->setText(text);
 }
 
@@ -177,20 +177,21 @@ void FileWindow::RefreshOk() {
   ok_->setEnabled(limit_.AllowsOk() && !name_->text().isEmpty());
 }
 
-/// The completions on the screen are those of the folder before.
+/// Hides the completions, which are those of the previous folder.
 void FileWindow::EnterFolder(const QString& folder) {
   if (QCompleter* completer = name_->completer()) completer->popup()->hide();
   if (loadedFolders_.contains(folder)) FitColumns();
 }
 
-/// A folder whose files change is loaded again, and then the user's own widths stay.
+/// Fits the columns on the first load only: a folder is loaded again when its files change, and then the user's widths
+/// stay.
 void FileWindow::TakeLoadedFolder(const QString& folder) {
   if (loadedFolders_.contains(folder)) return;
   loadedFolders_.insert(folder);
   if (folder == model_->rootPath()) FitColumns();
 }
 
-/// The names get the room that the other columns leave.
+/// Gives the names the width that the other columns leave.
 void FileWindow::FitColumns() {
   auto& details = *findChild<QTreeView*>("treeView");
   int others = 0;

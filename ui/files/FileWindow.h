@@ -18,17 +18,17 @@ namespace vantorium {
 class FilePreview;
 class FolderPathBox;
 
-/// The window of one file dialog: the toolkit's own, with path text in place of native paths, a preview at its right,
-/// and this program's rules for its name box.
+/// The window of one file dialog: Qt's own, with path text in place of native paths, a preview at its right, and this
+/// program's rules for its name box.
 class FileWindow : public QFileDialog {
   Q_OBJECT
 
  public:
-  /// `home`: where it begins when the request names no folder; native.
+  /// `home` is where it begins if the request names no folder; native.
   FileWindow(const FileDialogRequest& request, const mFileFunctions& files, MessageBoxPort& boxes,
              const std::filesystem::path& home, QWidget* parent = nullptr);
 
-  /// What was chosen, once the dialog was accepted.
+  /// What was chosen, once the dialog is accepted.
   [[nodiscard]] const FileDialogResult& Choice() const { return choice_.Result(); }
 
  protected:
@@ -54,7 +54,7 @@ class FileWindow : public QFileDialog {
   const mFileFunctions& files_;
   FileNameLimit limit_;
   FileChoice choice_;
-  QTimer selectionChange_;  // several changes in one turn of the event loop are told as one
+  QTimer selectionChange_;  // merges several changes in one turn of the event loop
   QFileSystemModel* model_ = nullptr;
   QAbstractItemView* view_ = nullptr;
   QLineEdit* name_ = nullptr;

@@ -6,18 +6,18 @@
 
 namespace vantorium {
 
-/// The path text of a folder, with the folders above it and the other drives to choose from.
+/// Shows the path text of a folder, and offers its parent folders and the other drives.
 class FolderPathBox : public QComboBox {
   Q_OBJECT
 
  public:
   explicit FolderPathBox(const PathMap& paths, QWidget* parent = nullptr);
 
-  /// Shows a native folder.
+  /// Shows the folder `native`.
   void Show(const QString& native);
 
  signals:
-  /// The user chose another folder, native.
+  /// The user chose another folder, given as a native path.
   void Chosen(const QString& native);
 
  private:

@@ -39,7 +39,7 @@ FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
   setUniformRowHeights(true);
   header()->setStretchLastSection(false);
-  header()->setSectionResizeMode(QHeaderView::ResizeToContents);  // a deep folder is scrolled to sideways
+  header()->setSectionResizeMode(QHeaderView::ResizeToContents);  // a deep folder is reached by scrolling sideways
   connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { Load(*item); });
   connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
     if (isChecked_) emit Checked(FolderOf(*item), item->checkState(0) == Qt::Checked);
@@ -96,7 +96,7 @@ void FolderTree::RefreshChecks() {
   viewport()->update();
 }
 
-/// What was scrolled to before the tree had its size may be out of sight now.
+/// Scrolls again: an item that was scrolled to before the tree had its size may be out of sight.
 void FolderTree::showEvent(QShowEvent* event) {
   QTreeWidget::showEvent(event);
   if (currentItem() != nullptr) scrollToItem(currentItem(), QAbstractItemView::PositionAtCenter);
@@ -106,7 +106,7 @@ QTreeWidgetItem* FolderTree::MakeItem(const std::filesystem::path& native, const
   auto* const item = new QTreeWidgetItem({text});
   item->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
   item->setData(0, kPath, QByteArray::fromStdString(native.string()));
-  item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);  // until it is known better
+  item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);  // until its subfolders are looked up
   ShowCheck(*item);
   return item;
 }
@@ -122,7 +122,7 @@ void FolderTree::Load(QTreeWidgetItem& item) {
   item.addChildren(children);
 }
 
-/// The drive that the text names, else the one that its path is on.
+/// Returns the drive that the text names, or else the one that its path is on, or else the first.
 QTreeWidgetItem* FolderTree::DriveOf(const std::string& text) const {
   const auto native = paths_->ToNative(text);
   const std::string mapped = native && native->is_absolute() ? paths_->ToText(*native) : std::string();
@@ -135,7 +135,7 @@ QTreeWidgetItem* FolderTree::DriveOf(const std::string& text) const {
   return topLevelItem(0);
 }
 
-/// A hidden folder joins the others when it is asked for.
+/// Adds a hidden folder to the tree when it is asked for.
 QTreeWidgetItem* FolderTree::ChildOf(QTreeWidgetItem& item, const std::filesystem::path& native) {
   Load(item);
   for (int i = 0; i < item.childCount(); ++i) {

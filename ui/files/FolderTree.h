@@ -10,8 +10,8 @@
 
 namespace vantorium {
 
-/// A tree of the folders of all drives. A folder's own folders are looked up when it is opened; hidden ones are not
-/// shown. With check boxes, whether a folder is checked is asked for whenever it is to be shown.
+/// A tree of the folders of all drives. The subfolders of a folder are looked up when it is expanded; hidden ones are
+/// not shown. With check boxes, the tree asks whether a folder is checked each time it is about to show it.
 class FolderTree : public QTreeWidget {
   Q_OBJECT
 
@@ -20,18 +20,18 @@ class FolderTree : public QTreeWidget {
 
   explicit FolderTree(QWidget* parent = nullptr);
 
-  /// Fills the tree. `paths` and `folders` outlive it. An empty `isChecked`: there are no check boxes.
+  /// Fills the tree. `paths` and `folders` must outlive it. If `isChecked` is empty, there are no check boxes.
   void ShowDrives(const PathMap& paths, const Folders& folders, IsChecked isChecked = {});
 
-  /// Selects a folder, opens it and scrolls to it: that of `text` or the nearest above that exists, the first drive
-  /// when there is none.
+  /// Selects a folder, expands it and scrolls to it: that of `text` or its nearest parent that exists, or the first
+  /// drive if there is none.
   void SetSelectedPath(const std::string& text);
   /// Path text; empty when nothing is selected.
   [[nodiscard]] std::string SelectedPath() const;
   /// Native; empty when nothing is selected.
   [[nodiscard]] std::filesystem::path SelectedFolder() const;
 
-  /// Shows anew which folders are checked.
+  /// Updates which folders are shown as checked.
   void RefreshChecks();
 
  signals:

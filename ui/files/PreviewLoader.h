@@ -11,8 +11,8 @@
 
 namespace vantorium {
 
-/// Decodes pictures for a look at them, apart from the window's thread. Only the latest one asked for counts: the
-/// decoding of another one is broken off, and its result is never told.
+/// Decodes pictures for previews on a worker thread. Only the latest request counts: decoding an earlier one is
+/// stopped, and its result is never reported.
 class PreviewLoader : public QObject {
   Q_OBJECT
 
@@ -20,14 +20,14 @@ class PreviewLoader : public QObject {
   explicit PreviewLoader(QObject* parent = nullptr);
   ~PreviewLoader() override;
 
-  /// Begins to decode a file (native; nothing for one that is not there) for a place of `box` pixels.
+  /// Starts decoding a file (native; nullopt if it is not there) for a box of `box` pixels.
   void Load(const std::optional<std::filesystem::path>& file, PictureSize box);
-  /// Nothing is wanted any more.
+  /// Drops the current request.
   void Cancel();
 
  signals:
-  /// The latest picture is here, a null image when it does not decode. Comes from the event loop, never from within
-  /// Load.
+  /// The latest picture is ready; it is null if the file cannot be decoded. Emitted from the event loop, never from
+  /// within Load.
   void Loaded(const QImage& picture);
 
  private:

@@ -10,7 +10,7 @@ namespace {
 
 QImage Read(const std::filesystem::path& native, const std::function<void(QImageReader&)>& prepare) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(native, error)) return {};  // a pipe would be waited for
+  if (!std::filesystem::is_regular_file(native, error)) return {};  // opening a pipe would block
   QImageReader reader(ToQt(native.string()));
   reader.setDecideFormatFromContent(true);
   prepare(reader);

@@ -6,12 +6,12 @@
 
 namespace vantorium {
 
-// Pictures of every kind that the toolkit reads, by what is in the file and not by its name. The result is a null
-// picture for what is no file or no picture, or too large to be held.
+// Reads pictures of every format that Qt reads, recognized by the file's content and not by its name. Returns a null
+// image if there is no such file, if it is not a picture, or if it is too large to be held in memory.
 
 [[nodiscard]] QImage ReadPictureFile(const std::filesystem::path& native);
 
-/// The middle of a picture, at most so many pixels wide and high.
+/// Reads the middle of a picture, at most `atMost` pixels wide and high.
 [[nodiscard]] QImage ReadMiddleOfPictureFile(const std::filesystem::path& native, QSize atMost);
 
 }  // namespace vantorium

@@ -11,7 +11,7 @@ class frmAddFoldersProcess;
 
 namespace vantorium {
 
-/// The small window that is up while the photographs of folders are added. Stop, Escape and its title bar stop the
+/// The small window that is shown while the photographs of folders are added. Stop, Escape and the title bar stop the
 /// walk.
 class frmAddFoldersProcess : public QDialog, public FolderWalkProgress {
   Q_OBJECT

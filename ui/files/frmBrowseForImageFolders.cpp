@@ -21,7 +21,7 @@ frmBrowseForImageFolders::~frmBrowseForImageFolders() = default;
 
 void frmBrowseForImageFolders::reject() {
   if (lookingUp_) {
-    stopped_ = true;  // AddFolder comes back to here
+    stopped_ = true;  // AddFolder then calls this again
     return;
   }
   Cancelled = true;
@@ -33,7 +33,7 @@ void frmBrowseForImageFolders::Check(const std::filesystem::path& folder, bool c
   ui_->ftvFolders->RefreshChecks();
 }
 
-/// Looking up what is below a checked folder may take a while on a large disk; it can be cancelled.
+/// Looking up the subfolders of a checked folder may take a while on a large disk; the user can cancel it.
 void frmBrowseForImageFolders::AddFolder() {
   const std::filesystem::path selected = ui_->ftvFolders->SelectedFolder();
   if (!checks_.AnyChecked() && !selected.empty()) checks_.Check(selected, true, ui_->checkRecursive->isChecked());

@@ -15,7 +15,7 @@ class frmBrowseForImageFolders;
 
 namespace vantorium {
 
-/// Lets the user check the folders whose photographs go into the gallery. With no folder checked, the selected one
+/// Lets the user check the folders whose photographs go into the gallery. If no folder is checked, the selected one
 /// counts.
 class frmBrowseForImageFolders : public QDialog {
   Q_OBJECT
@@ -27,7 +27,7 @@ class frmBrowseForImageFolders : public QDialog {
 
   bool Cancelled = true;
 
-  /// What was chosen with "Add Folder": a folder before those in it, these sorted by name.
+  /// What was chosen with "Add Folder": each folder precedes its subfolders, which are sorted by name.
   [[nodiscard]] const std::vector<std::string>& Folders() const { return chosen_; }
 
   void reject() override;

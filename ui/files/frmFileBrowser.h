@@ -8,8 +8,9 @@
 
 namespace vantorium {
 
-/// The file dialog of the whole program, shown over the active window. Its window is called frmFileBrowser. Where the
-/// caller names no folder, it begins in the one it was left in, the first time in the user's own.
+/// The file dialog of the whole program, shown over the active window. Its window is called frmFileBrowser. If the
+/// caller names no folder, it begins in the folder where it was last accepted; the first time, in the user's home
+/// folder.
 class frmFileBrowser : public FileBrowser {
  public:
   frmFileBrowser(const PathMap& paths, MessageBoxPort& boxes, const mFileFunctions& files);

@@ -11,7 +11,7 @@
 namespace vantorium {
 namespace {
 
-/// Of every screen that the window could be on, in pixels.
+/// Returns a size that covers each screen that the window could be on, in pixels.
 QSize LargestScreen() {
   QSize largest;
   for (const QScreen* screen : QGuiApplication::screens()) {

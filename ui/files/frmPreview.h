@@ -12,8 +12,8 @@ class frmPreview;
 
 namespace vantorium {
 
-/// A picture that fills the screen: pixel for pixel in the middle, what the screen has no room for cut off at all
-/// sides. Shown modal; a key or a click closes it.
+/// A full-screen view of a picture: pixel for pixel, centered, cropped on all sides if the screen has no room for it.
+/// Shown modally; a key or a click closes it.
 class frmPreview : public QDialog {
   Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// Shows the busy pointer over all windows of the program as long as it lives.
+/// Shows the busy pointer over all windows of the program while it lives.
 class BusyPointer {
  public:
   BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }

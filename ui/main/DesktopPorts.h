@@ -18,7 +18,7 @@
 
 namespace vantorium {
 
-/// Everything around the main window. The program passes the real things, a test its own.
+/// Everything outside of the main window that it uses. The program passes the real ports, a test its own.
 struct DesktopPorts {
   const PathMap& paths;
   const RegionalFormats& formats;
@@ -32,10 +32,10 @@ struct DesktopPorts {
   mCommonDialogs& dialogs;
   FileBrowser& fileBrowser;
   FolderBrowser& folderBrowser;
-  std::filesystem::path programFolder;  ///< of the preferences, the server list and the log; native
+  std::filesystem::path programFolder;  ///< has the preferences, the server list and the log; native
   const BundledFiles& bundled;
   ProgramVersion version;
-  unsigned jobs = 1;  ///< photographs worked on at a time
+  unsigned jobs = 1;  ///< photographs processed at a time
   std::uint16_t ftpPort = 21;
 };
 

@@ -7,7 +7,7 @@ namespace vantorium {
 ImageListModel::ImageListModel(const ImageList& images, QObject* parent)
     : QAbstractTableModel(parent), images_(images), rows_(static_cast<int>(images.Count())) {}
 
-// Rows come and go at the end, and all others may have other texts: so a view keeps its place where a reset would lose
+// Adds or removes rows at the end and reports all others as changed, so that a view keeps its place; a reset would lose
 // it.
 void ImageListModel::Refresh() {
   SetRowCount(static_cast<int>(images_.Count()));

@@ -6,11 +6,11 @@
 
 namespace vantorium {
 
-/// The image list as a view sees it: row r is position r + 1. It makes no item a row; each text comes from the list at
-/// the moment it is drawn.
+/// Presents the image list to a view: row r is position r + 1. Creates no item per row; each text is read from the list
+/// when it is drawn.
 ///
-/// The list changes without telling the model, and in the middle of an operation. So the model answers with the count
-/// of its last Refresh, and with no text for rows that are gone meanwhile.
+/// The list changes without telling the model, even in the middle of an operation. The model therefore reports the row
+/// count of its last Refresh, and no text for rows that no longer exist.
 class ImageListModel : public QAbstractTableModel {
   Q_OBJECT
 

@@ -27,12 +27,12 @@ int RowOf(std::size_t position) {
 
 ImageListView::ImageListView(QWidget* parent) : QTreeView(parent) {
   setRootIsDecorated(false);
-  setUniformRowHeights(true);  // ten thousand rows are laid out without being looked at
+  setUniformRowHeights(true);  // lays out ten thousand rows without measuring each
   setAllColumnsShowFocus(true);
   setAlternatingRowColors(true);
   setTabKeyNavigation(false);
   setSelectionMode(ExtendedSelection);
-  setDragDropMode(InternalMove);  // refuses what comes from elsewhere
+  setDragDropMode(InternalMove);  // refuses drops from elsewhere
   setDropIndicatorShown(false);   // it would point between rows, where nothing can be dropped
 }
 
@@ -115,8 +115,8 @@ void ImageListView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// One row travels, by its name, however many are selected. What its drop does may ask the user something, so it is done
-// when the drag is over.
+// Drags one row, identified by its name, however many are selected. Handling the drop may ask the user something, so it
+// waits until the drag is over.
 void ImageListView::startDrag(Qt::DropActions actions) {
   const QModelIndex index = currentIndex().siblingAtColumn(0);
   if (!index.isValid()) return;
@@ -131,7 +131,7 @@ void ImageListView::startDrag(Qt::DropActions actions) {
 }
 
 void ImageListView::dragMoveEvent(QDragMoveEvent* event) {
-  QTreeView::dragMoveEvent(event);  // scrolls where the edge is near
+  QTreeView::dragMoveEvent(event);  // scrolls near the edges
   event->setAccepted(event->source() == this);
 }
 

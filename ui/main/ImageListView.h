@@ -10,29 +10,29 @@ namespace vantorium {
 
 class ImageListModel;
 
-/// Shows an image list. Which rows are selected and which one is current is kept in the list: what the user does here
-/// goes there at once, and Refresh brings back what others did there.
+/// Shows an image list. The list stores which rows are selected and which one is current: the user's changes go to the
+/// list at once, and Refresh shows the changes that others made to the list.
 class ImageListView : public QTreeView {
   Q_OBJECT
 
  public:
   explicit ImageListView(QWidget* parent = nullptr);
 
-  /// To be called once; `images` outlives this.
+  /// Call once. `images` must outlive this.
   void Attach(ImageList& images);
   /// Shows the list as it is now: rows, selection, current row.
   void Refresh();
-  /// `position` counts from 1; one that the view does not know yet is ignored.
+  /// `position` counts from 1; a position that the view does not know yet is ignored.
   void ScrollToPosition(std::size_t position);
 
  signals:
-  /// The user made another row the current one, which the list knows already.
+  /// The user changed the current row; the list already has the change.
   void CurrentRowChanged();
   /// A double click on a row, or the Enter key.
   void FullScreenAsked();
   void DeletePressed();
   void InsertPressed();
-  /// The row named `name` was dragged on to the row at `target`, and the drag is over.
+  /// The row named `name` was dropped on the row at `target`. Emitted when the drag is over.
   void Dropped(const std::string& name, std::size_t target);
 
  protected:
@@ -50,7 +50,7 @@ class ImageListView : public QTreeView {
 
   ImageList* images_ = nullptr;
   ImageListModel* model_ = nullptr;
-  bool showing_ = false;  // what the selection model tells meanwhile comes from the list itself
+  bool showing_ = false;  // while true, the selection model's signals come from the list itself
   std::optional<std::size_t> dropTarget_;
 };
 

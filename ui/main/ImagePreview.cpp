@@ -8,7 +8,7 @@
 namespace vantorium {
 namespace {
 
-// Pictures are decoded for at least that many pixels, so that another size or screen finds enough of them.
+// Pictures are decoded for at least this many pixels, so that there are enough for another size or screen.
 constexpr QSize kSmallestBox(800, 600);
 
 }  // namespace

@@ -7,24 +7,24 @@
 
 namespace vantorium {
 
-/// A picture fitted into a frame, sharp at every scale of the screen. A picture that is asked for takes the place of
-/// the one before when it has been decoded.
+/// A picture fitted into a frame, sharp at every scale of the screen. A requested picture replaces the previous one
+/// once it is decoded.
 class ImagePreview : public QFrame {
   Q_OBJECT
 
  public:
   explicit ImagePreview(QWidget* parent = nullptr);
 
-  /// `file` is native; nothing for one that is not there.
+  /// `file` is native; nullopt if it is not there.
   void Load(const std::optional<std::filesystem::path>& file);
   /// Shows nothing.
   void Clear();
-  /// What is shown; null for nothing.
+  /// The picture that is shown; null if none.
   [[nodiscard]] const QImage& Picture() const { return picture_; }
 
  signals:
   void Shown();
-  /// The file does not decode; nothing is shown.
+  /// The file cannot be decoded; nothing is shown.
   void Failed();
   void DoubleClicked();
 
@@ -38,7 +38,7 @@ class ImagePreview : public QFrame {
 
   PreviewLoader loader_;
   QImage picture_;
-  QPixmap fitted_;  // the picture in the pixels that it is drawn with
+  QPixmap fitted_;  // the picture in the device pixels that it is drawn with
 };
 
 }  // namespace vantorium

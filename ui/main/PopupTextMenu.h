@@ -4,9 +4,8 @@ class QWidget;
 
 namespace vantorium {
 
-/// Makes "menuPopupText", the menu for text fields with the most usual template tags. An entry puts its tag into the
-/// text field that has the keyboard, in place of what is selected there. The menu belongs to `window` and is in no menu
-/// bar.
+/// Makes "menuPopupText", the menu for text fields with the most common template tags. An entry inserts its tag into
+/// the text field that has the focus, in place of the selection. The menu belongs to `window` and is in no menu bar.
 void MakePopupTextMenu(QWidget& window);
 
 }  // namespace vantorium

@@ -70,7 +70,7 @@ void SettingsDialogs::Edit(const ColorsButton& row) {
   });
 }
 
-// A change counts as an edit even when it was typed back: the dialog has no Cancel.
+// A change counts as an edit even if the user typed the old text again: the dialog has no Cancel.
 void SettingsDialogs::Edit(const LinkButton& row) {
   bool edited = false;
   const LinkSettings link = EditLink(

@@ -23,10 +23,10 @@ class SettingsDialogs : public QObject {
     FieldBinder& binder;
     ColorDialog& colors;
     const DesktopPorts& ports;
-    std::function<SampleSources()> samples;  ///< where the pictures for filters and watermarks come from at the moment
+    std::function<SampleSources()> samples;  ///< current sources of the sample pictures for filters and watermarks
   };
 
-  /// Connects the buttons below `form`, which outlives this. Throws std::logic_error for a button that is not there.
+  /// Connects the buttons on `form`, which must outlive this. Throws std::logic_error if a button is missing.
   SettingsDialogs(Parts parts, QWidget& form);
 
  private:

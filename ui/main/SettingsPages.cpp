@@ -16,7 +16,7 @@ namespace {
 
 constexpr QSize kLayoutPictureSize{160, 120};
 
-/// A control that goes away leaves its room empty, so that nothing else moves.
+/// Keeps the space of a hidden control empty, so that nothing else moves.
 void KeepRoom(QWidget& control) {
   QSizePolicy policy = control.sizePolicy();
   policy.setRetainSizeWhenHidden(true);

@@ -9,12 +9,12 @@
 
 namespace vantorium {
 
-/// Shows, hides, enables and words the controls of the settings pages as the settings have it.
+/// Shows, hides, enables and labels the controls of the settings pages as the settings require.
 class SettingsPages : public QObject {
   Q_OBJECT
 
  public:
-  /// Controls below `form`, which outlives this. Throws std::logic_error for one that is not there.
+  /// The controls are on `form`, which must outlive this. Throws std::logic_error if one is missing.
   explicit SettingsPages(QWidget& form);
 
   void Refresh(const GalleryProject& project);
@@ -26,7 +26,7 @@ class SettingsPages : public QObject {
   void RefreshLayoutPicture(const GalleryProject& project);
 
   QWidget& form_;
-  std::vector<QWidget*> controls_;  ///< of ControlRules, in its order
+  std::vector<QWidget*> controls_;  ///< those of ControlRules, in its order
   int layoutPicture_ = 0;
 };
 

@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// Shows the wait pointer over a window as long as it lives. Message boxes above the window keep theirs.
+/// Shows the wait pointer over a window while it lives. Message boxes above the window keep their own.
 class WaitPointer {
  public:
   explicit WaitPointer(QWidget& window) : window_(window) { window_.setCursor(Qt::WaitCursor); }

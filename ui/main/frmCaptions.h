@@ -11,7 +11,7 @@ namespace vantorium {
 
 class FieldBinder;
 
-/// The page of the captions.
+/// The Captions page of the main window.
 class frmCaptions : public QWidget {
   Q_OBJECT
 

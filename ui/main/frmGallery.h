@@ -11,7 +11,7 @@ namespace vantorium {
 
 class FieldBinder;
 
-/// The page of the gallery as a whole: title, layout, frames, slideshow.
+/// The Gallery page of the main window, for the gallery as a whole: title, layout, frames, slideshow.
 class frmGallery : public QWidget {
   Q_OBJECT
 

@@ -12,7 +12,7 @@ namespace vantorium {
 class FieldBinder;
 class PathMap;
 
-/// The page of the pages that show one image each.
+/// The Image Wrappers page of the main window, for the pages that show one image each.
 class frmImageWrapper : public QWidget {
   Q_OBJECT
 

@@ -77,7 +77,7 @@ void frmImages::ConnectButtons() {
   connectOperation(ui_->btnImagesMoveDown, [this] { parts_.images.MoveSelectedDown(); });
 }
 
-// The list is shown again when the operation is through: meanwhile its rows and the view's need not be the same.
+// Shows the list again when the operation has finished: until then its rows and the view's may differ.
 void frmImages::Do(const std::function<void()>& operation) {
   {
     const QScopedValueRollback guard(working_, true);
@@ -124,8 +124,8 @@ void frmImages::AskForFullScreen() {
   if (const ImageEntry* entry = CurrentEntry()) emit FullScreenPreviewAsked(entry->ImageName, entry->SourcePath);
 }
 
-// Nothing is asked in the middle of something else, a run for example: its answer could change the list under it. The
-// preview then stays empty.
+// Asks nothing in the middle of something else, such as a run: the answer could change the list under it. The preview
+// then stays empty.
 void frmImages::AskAboutInvalidImage() {
   const ImageEntry* entry = CurrentEntry();
   if (entry == nullptr || working_ || QApplication::activeModalWidget() != nullptr || !window()->isEnabled()) return;

@@ -24,7 +24,7 @@ class frmImages;
 
 namespace vantorium {
 
-/// The page of the image list.
+/// The Images page of the main window, with the image list.
 class frmImages : public QWidget {
   Q_OBJECT
 
@@ -40,25 +40,26 @@ class frmImages : public QWidget {
     const PathMap& paths;
     FileBrowser& browser;
     Preferences& preferences;
-    /// The folders that the user chose to add, path text; none when that was cancelled.
+    /// Returns the folders that the user chose to add, path text; none if the user cancelled.
     std::function<std::vector<std::string>()> askForImageFolders;
   };
 
   explicit frmImages(const Parts& parts, QWidget* parent = nullptr);
   ~frmImages() override;
 
-  /// Shows the list as it is now, for after a change that did not come from this page. May not be called while an
-  /// operation on the list is under way.
+  /// Shows the list as it is now. Call after a change that did not come from this page. Must not be called while an
+  /// operation on the list is in progress.
   void RefreshList();
-  /// Begins to show the current image; what does not decode is asked about later, from the event loop.
+  /// Starts to show the current image. If it cannot be decoded, the user is asked about it later, from the event loop.
   void RefreshPreview();
-  /// `position` counts from 1. While an operation of this page is under way, its last call counts at the end.
+  /// `position` counts from 1. During an operation of this page nothing scrolls; the last position is scrolled to at
+  /// its end.
   void ScrollIntoView(std::size_t position);
 
  signals:
-  /// Another row is the current one, or its texts may have changed.
+  /// The current row changed, or its texts may have changed.
   void CurrentChanged();
-  /// An operation of this page is through.
+  /// An operation of this page has finished.
   void ListChanged();
   /// `file` is path text.
   void FullScreenPreviewAsked(const std::string& description, const std::string& file);
@@ -81,7 +82,7 @@ class frmImages : public QWidget {
   std::unique_ptr<Ui::frmImages> ui_;
   FindModel find_;
   bool working_ = false;      // an operation is changing the list
-  std::size_t scrollTo_ = 0;  // where it wants to go
+  std::size_t scrollTo_ = 0;  // position to scroll to after the operation; 0 for none
 };
 
 }  // namespace vantorium

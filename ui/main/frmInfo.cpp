@@ -12,7 +12,7 @@ frmInfo::frmInfo(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
       ui_(std::make_unique<Ui::frmInfo>()) {
   ui_->setupUi(this);
-  setAttribute(Qt::WA_ShowWithoutActivating);  // nothing can be typed here; not every desktop heeds it
+  setAttribute(Qt::WA_ShowWithoutActivating);  // there is nothing to type here; some desktops ignore this
 }
 
 frmInfo::~frmInfo() = default;
@@ -34,7 +34,7 @@ void frmInfo::showEvent(QShowEvent* event) {
 }
 
 void frmInfo::hideEvent(QHideEvent* event) {
-  if (!event->spontaneous()) pointer_.reset();  // a minimised window is busy all the same
+  if (!event->spontaneous()) pointer_.reset();  // a minimized window is still busy
   QDialog::hideEvent(event);
 }
 

@@ -14,8 +14,8 @@ class frmInfo;
 
 namespace vantorium {
 
-/// A small window that says what the program is busy with. While it is shown the busy pointer is on. The user can't
-/// close it, and the keyboard stays with, or goes back to, the window that has it.
+/// A small window that says what the program is busy with, and shows the busy pointer meanwhile. The user can't close
+/// it. The keyboard focus stays with, or returns to, the window that has it.
 class frmInfo : public QDialog {
   Q_OBJECT
 

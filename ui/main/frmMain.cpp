@@ -34,7 +34,7 @@
 namespace vantorium {
 namespace {
 
-/// Forms of Qt Designer have no names for the lines of a menu.
+/// Qt Designer forms have no names for the separators of a menu.
 void NameSeparators(const QMenu& menu, const QStringList& names) {
   qsizetype next = 0;
   for (QAction* action : menu.actions()) {
@@ -67,13 +67,13 @@ frmMain::frmMain(const DesktopPorts& ports)
   Step();
 }
 
-// The windows go before the project that they show; as children alone they would go after it.
+// Destroys the windows before the project that they show; as mere children they would be destroyed after it.
 frmMain::~frmMain() {
   delete descriptions_;
   delete ui_->frmMainPages;
 }
 
-/// A stage of the start is through.
+/// Reports that one stage of the start is done.
 void frmMain::Step() {
   splash_->Step();
   ports_.loop.Turn();
@@ -81,7 +81,7 @@ void frmMain::Step() {
 
 void frmMain::BuildTray() {
   tray_ = std::make_unique<frmSysTray>(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"));
-  // Behind the menu's own work: the tray with its menu goes when the program is closed.
+  // Queued, to run after the menu's own work: closing the program destroys the tray with its menu.
   connect(
       tray_.get(), &frmSysTray::MenuClick, this, [this](int /*index*/, const QString& key) { OnTrayMenu(FromQt(key)); },
       Qt::QueuedConnection);
@@ -111,7 +111,7 @@ void frmMain::BuildPages() {
   imageCount_->setContentsMargins(0, 0, style()->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
   ui_->sbMain->addWidget(statusText_, 1);
   ui_->sbMain->addPermanentWidget(imageCount_);
-  statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long text widens no window
+  statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long text must not widen the window
 
   pages_ = new SettingsPages(*this);
   pages_->setParent(this);
@@ -158,7 +158,7 @@ void frmMain::ConnectCommands() {
   command({ui_->menuHelpOnlineHelp}, [this] { ShowHelp(); });
   command({ui_->menuHelpAbout}, [this] { ShowAbout(); });
 
-  // The keys of the commands work in the descriptions window, too.
+  // The shortcuts of the commands work in the descriptions window, too.
   for (QAction* action : findChildren<QAction*>()) action->setShortcutContext(Qt::ApplicationShortcut);
 
   const auto button = [this](const char* name, auto run) {

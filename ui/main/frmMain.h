@@ -37,8 +37,8 @@ class frmInfo;
 class frmSplash;
 class frmSysTray;
 
-/// The main window. It owns what lives longer than a dialog: the one project, the preferences, the FTP client, and the
-/// windows that are hidden and shown again.
+/// The main window. It owns what outlives a dialog: the one project, the preferences, the FTP client, and the windows
+/// that are hidden and shown again.
 class frmMain : public QMainWindow,
                 public ProjectSessionHost,
                 public RunHost,
@@ -47,19 +47,19 @@ class frmMain : public QMainWindow,
   Q_OBJECT
 
  public:
-  /// `ports` outlives the window, what it refers to as well.
+  /// What `ports` refers to must outlive the window.
   explicit frmMain(const DesktopPorts& ports);
   ~frmMain() override;
 
-  /// Reads the preferences, makes a new project and opens that of the command line, which is a path as the user
-  /// typed it and may be empty. Called once, before the window is shown.
+  /// Reads the preferences, makes a new project and opens the one named by `commandLine`, a path as the user typed it,
+  /// which may be empty. Call once, before the window is shown.
   void Start(const std::string& commandLine);
 
   [[nodiscard]] const Project& CurrentProject() const { return project_; }
   [[nodiscard]] const Preferences& CurrentPreferences() const { return preferences_; }
   [[nodiscard]] const FieldBinder& Binder() const { return binder_; }
 
-  // What the project's session, a run, the image list and the browser table ask of this window.
+  // Implements ProjectSessionHost, RunHost, ImageListDisplay and BrowserTableHost.
   void SetStatusText(const std::string& text) override;
   void ShowWaitPointer() override { ShowBusyPointer(true); }
   void ResetPointer() override { ShowBusyPointer(false); }
@@ -84,7 +84,7 @@ class frmMain : public QMainWindow,
   void ShowBrowserMenus(const BrowserMenus& menus) override;
 
  signals:
-  /// The window was closed and everything is put away.
+  /// The window was closed and everything is cleaned up.
   void Closed();
 
  protected:
@@ -112,11 +112,11 @@ class frmMain : public QMainWindow,
   void OnTrayMenu(const std::string& key);
 
   void ShowPage(int index);
-  /// Shows what depends on the settings.
+  /// Updates what depends on the settings.
   void FollowSettings();
-  /// Shows the settings as they are now, for after something that repairs empty ones.
+  /// Shows the settings as they are now. Call after an operation that repairs empty ones.
   void ShowSettings();
-  /// Shows the whole project anew.
+  /// Updates everything that shows the project.
   void ShowProject();
   void AddBrowserActions(QMenu& menu, const BrowserMenus& menus);
   void ShowDescriptions();
@@ -145,7 +145,7 @@ class frmMain : public QMainWindow,
   std::unique_ptr<frmSysTray> tray_;
   std::unique_ptr<frmInfo> info_;
   std::unique_ptr<frmCreateGallery> create_;
-  std::array<QPointer<QWidget>, 2> focus_;  // what this window and the descriptions had the focus on when disabled
+  std::array<QPointer<QWidget>, 2> focus_;  // the focus of this window and the descriptions when disabled
   // The following are children of this window.
   QLabel* statusText_ = nullptr;
   QLabel* imageCount_ = nullptr;

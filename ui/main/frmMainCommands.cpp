@@ -1,4 +1,4 @@
-// What the menus, the tool bar and the tray do.
+// The commands of the menus, the tool bar and the tray.
 #include "core/generation/CreateGallery.h"
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
@@ -23,7 +23,7 @@
 namespace vantorium {
 namespace {
 
-/// An entry of the menu may be what asks for this, so its entries live until it has been handled.
+/// The caller may be an entry of this menu, so the entries live until it has been handled.
 void RemoveEntries(QMenu& menu) {
   for (QAction* entry : menu.actions()) {
     menu.removeAction(entry);
@@ -33,8 +33,8 @@ void RemoveEntries(QMenu& menu) {
 
 }  // namespace
 
-// The descriptions window keeps its lists to itself until it is closed: what is saved or made has them too, also what
-// is saved because the user leaves it for another project.
+// The descriptions window stores its placements only when it is closed. So each command that saves or generates stores
+// them first, also if it saves because the user leaves the project for another.
 void frmMain::NewProject() {
   descriptions_->StorePlacings();
   session_.NewProject();
@@ -137,7 +137,7 @@ void frmMain::ShowHelp() {
 }
 
 void frmMain::ShowAbout() {
-  if (auto* about = findChild<frmAbout*>()) {  // the tray's menu can be used while it is open
+  if (auto* about = findChild<frmAbout*>()) {  // the tray menu works while it is open
     about->raise();
     return about->activateWindow();
   }
@@ -154,7 +154,7 @@ void frmMain::BringToFront() {
 void frmMain::OnTrayMenu(const std::string& key) {
   if (splash_) return;  // the window is not ready
   if (key == "vantorium") BringToFront();
-  if (!isEnabled()) return;  // busy, and a window from here would hold it up
+  if (!isEnabled()) return;  // busy; a window opened here would hold up that work
   if (key == "help") ShowHelp();
   if (key == "about") ShowAbout();
   if (key == "close") close();
@@ -187,7 +187,7 @@ std::vector<std::string> frmMain::AskForImageFolders() {
 
 void frmMain::closeEvent(QCloseEvent* event) {
   event->ignore();
-  // A run or a dialog is under way, and the tray could close the window all the same.
+  // The tray can ask the window to close even during a run or while a dialog is open.
   if (!isEnabled() || QApplication::activeModalWidget() != nullptr) return;
   descriptions_->StorePlacings();
   if (!session_.MayLeaveProject()) return;

@@ -1,4 +1,4 @@
-// What the parts of the program below the window ask of it.
+// The interfaces of the main window that the layers below it call.
 #include "ui/dialogs/frmCreateGallery.h"
 #include "ui/dialogs/frmImageDescriptions.h"
 #include "ui/dialogs/frmProgress.h"
@@ -30,16 +30,16 @@ void frmMain::HideInfoWindow() {
   info_->hide();
 }
 
-// A disabled window gives its focus away, and so does the descriptions window with it; whoever types on behind a save
-// goes on where they were.
+// A disabled window loses its focus, and so does the descriptions window with it. Restores both, so that the user can
+// type on after a save.
 void frmMain::EnableMainWindow(bool enabled) {
   if (!enabled && isEnabled()) focus_ = {focusWidget(), descriptions_->focusWidget()};
   setEnabled(enabled);
-  info_->setEnabled(true);  // its line is there to be read while this window waits
+  info_->setEnabled(true);  // keeps its text readable while this window waits
   KeepPointerWhileDisabled();
   if (!enabled) return;
   for (const QPointer<QWidget>& control : std::exchange(focus_, {})) {
-    // The window itself is not shown yet while it starts.
+    // The window itself is not visible yet while it starts.
     if (control != nullptr && control->isVisibleTo(control->window())) control->setFocus();
   }
 }
@@ -91,7 +91,7 @@ CreateChoice frmMain::AskWhatToCreate() {
 
 std::unique_ptr<ProgressWindow> frmMain::CreateProgressWindow() {
   auto progress = std::make_unique<frmProgress>(log_, cancel_, ports_.shell, appPath_, this);
-  // Some window managers pass the keyboard on to no window of a program when a window above a disabled one goes.
+  // Some window managers focus no window of the program when a window above a disabled one closes.
   connect(progress.get(), &QObject::destroyed, this, &QWidget::activateWindow);
   return progress;
 }
@@ -101,7 +101,7 @@ void frmMain::ShowBusyPointer(bool busy) {
   KeepPointerWhileDisabled();
 }
 
-/// Qt takes the pointer of a window away while it is disabled. No other window of the program has this one's pointer.
+/// Qt drops the pointer of a window while it is disabled. No other window of the program uses this window's pointer.
 void frmMain::KeepPointerWhileDisabled() {
   if (!isEnabled() && windowHandle() != nullptr) windowHandle()->setCursor(cursor());
 }

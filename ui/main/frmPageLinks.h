@@ -11,7 +11,7 @@ namespace vantorium {
 
 class FieldBinder;
 
-/// The page of the links between pages.
+/// The Page Links page of the main window, for the links between the gallery's pages.
 class frmPageLinks : public QWidget {
   Q_OBJECT
 

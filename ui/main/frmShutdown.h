@@ -10,7 +10,7 @@ class frmShutdown;
 
 namespace vantorium {
 
-/// The small window that says what the program does before it ends. Nothing waits for it, and the user can't close it.
+/// The small window that says what the program does before it exits. Nothing waits for it, and the user can't close it.
 class frmShutdown : public QDialog {
   Q_OBJECT
 

@@ -9,7 +9,7 @@ class frmSplash;
 
 namespace vantorium {
 
-/// The window that is up while the program starts, in the middle of the screen. Nothing waits for it.
+/// The splash window, shown in the middle of the screen while the program starts. Nothing waits for it.
 class frmSplash : public QWidget {
   Q_OBJECT
 
@@ -17,7 +17,7 @@ class frmSplash : public QWidget {
   frmSplash();
   ~frmSplash() override;
 
-  /// One of the seven stages is done.
+  /// Reports that one of the seven stages is done.
   void Step();
 
  private:

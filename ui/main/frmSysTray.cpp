@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::chrono::seconds kTrayWatch{2};
 
-/// Whether `click` was started and is no longer ago than the second click of a double click may be.
+/// Returns whether `click` was started and is still within the interval of a double click.
 bool IsRecent(const QElapsedTimer& click) {
   return click.isValid() && click.elapsed() < QApplication::doubleClickInterval();
 }
@@ -24,7 +24,7 @@ frmSysTray::frmSysTray(SysTrayMenu menu, const QIcon& icon, TrayCheck isTrayAvai
   popup_.setObjectName("mnuPopup");
   trayIcon_.setObjectName("trayIcon");
   trayIcon_.setParent(this);
-  trayIcon_.setContextMenu(&popup_);  // some desktops draw the menu themselves and tell no mouse button
+  trayIcon_.setContextMenu(&popup_);  // some desktops draw the menu themselves and report no mouse button
   Show();
   connect(&trayIcon_, &QSystemTrayIcon::activated, this, &frmSysTray::Activate);
   if (!ShowIcon()) WatchForTray();
@@ -110,8 +110,8 @@ void frmSysTray::Activate(QSystemTrayIcon::ActivationReason reason) {
   }
 }
 
-// A tray whose messages come over the session bus tells the two clicks of a double click and no more; others tell the
-// first click and the double click.
+// A tray that reports over D-Bus sends only the two clicks of a double click; others send the first click and the
+// double click.
 void frmSysTray::Trigger() {
   if (IsRecent(trigger_)) return DoubleClick();
   trigger_.start();

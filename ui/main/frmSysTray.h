@@ -11,8 +11,8 @@
 
 namespace vantorium {
 
-/// The icon in the desktop's tray and its menu. Without a tray there is no icon until one comes, and everything else
-/// works the same.
+/// The icon in the desktop's tray, and its menu. If there is no tray, the icon appears as soon as there is one, and
+/// everything else works the same.
 class frmSysTray : public QObject {
   Q_OBJECT
 
@@ -31,13 +31,13 @@ class frmSysTray : public QObject {
   [[nodiscard]] const SysTrayMenu& Menu() const { return menu_; }
 
   void SetIcon(const QIcon& icon) { trayIcon_.setIcon(icon); }
-  /// While it is disabled, as during a run, its menu chooses nothing and no signal is sent.
+  /// While disabled, such as during a run, its menu chooses nothing and no signal is sent.
   void SetEnabled(bool enabled);
-  /// Shows the menu at the mouse pointer, unless the desktop shows it already.
+  /// Shows the menu at the mouse pointer, unless the desktop already shows it.
   void ShowMenu();
 
  signals:
-  /// An entry was chosen: with the mouse or the keyboard, or the default by a double click on the icon.
+  /// An entry was chosen with the mouse or the keyboard, or the default one by a double click on the icon.
   void MenuClick(int index, const QString& key);
   void SysTrayMouseDown(Qt::MouseButton button);
   void SysTrayDoubleClick();
@@ -56,8 +56,8 @@ class frmSysTray : public QObject {
   QMenu popup_;
   QSystemTrayIcon trayIcon_;
   TrayCheck isTrayAvailable_;
-  QElapsedTimer trigger_;      ///< since the click that may be the first of two
-  QElapsedTimer doubleClick_;  ///< since the last one that was acted on
+  QElapsedTimer trigger_;      ///< time since a click that may be the first of two
+  QElapsedTimer doubleClick_;  ///< time since the last double click that was handled
   bool enabled_ = true;
 };
 

@@ -13,7 +13,7 @@ class ColorDialog;
 class FieldBinder;
 class PathMap;
 
-/// The page of the thumbnails and their pages.
+/// The Thumbnails page of the main window, for the thumbnails and their pages.
 class frmThumbnails : public QWidget {
   Q_OBJECT
 

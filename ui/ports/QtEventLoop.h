@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// The toolkit's event loop. A turn handles what is waiting, windows to be drawn too.
+/// Qt's event loop. A turn handles all pending events, including repaints.
 class QtEventLoop : public EventLoop {
  public:
   void Turn() override;

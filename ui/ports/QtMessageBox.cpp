@@ -36,7 +36,7 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
-/// Escape means the harmless answer.
+/// Escape gives the harmless answer.
 QMessageBox::StandardButton EscapeButtonOf(BoxButtons buttons) {
   switch (buttons) {
     case BoxButtons::YesNo:
@@ -49,7 +49,7 @@ QMessageBox::StandardButton EscapeButtonOf(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
-/// Return alone agrees to nothing that cannot be taken back; a save is harmless.
+/// Return never confirms what cannot be undone; saving is harmless.
 QMessageBox::StandardButton DefaultButtonOf(BoxButtons buttons) {
   switch (buttons) {
     case BoxButtons::YesNo:
@@ -62,7 +62,7 @@ QMessageBox::StandardButton DefaultButtonOf(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
-/// The window in front, also while the user is in another program: the box then waits there.
+/// Returns the frontmost window, also while another program is active: the box then waits there.
 QWidget* Owner() {
   if (QWidget* active = QApplication::activeWindow()) return active;
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;

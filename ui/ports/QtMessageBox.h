@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// Message boxes over the active window, their texts plain.
+/// Shows message boxes over the active window, with plain text.
 class QtMessageBox : public MessageBoxPort {
  public:
   BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override;

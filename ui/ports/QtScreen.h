@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// The screen that the program was started on.
+/// The desktop's primary screen.
 class QtScreen : public Screen {
  public:
   [[nodiscard]] std::int32_t PixelsPerInch() const override;

@@ -18,7 +18,7 @@ QString NativeOf(const PathMap& paths, const std::string& path) {
   return ToQt(native->string());
 }
 
-/// The timer stops first: `failed` may show a message box, whose event loop runs timers too.
+/// Stops the timer before it calls `failed`, which may show a message box, whose event loop runs timers too.
 void WatchOn(QObject& owner, const StartedProcess& process, const StartFailed& failed) {
   constexpr std::chrono::milliseconds kPause{20};
   auto* const timer = new QTimer(&owner);

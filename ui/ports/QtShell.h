@@ -7,8 +7,8 @@
 
 namespace vantorium {
 
-/// The desktop that the window stands on. Programs are started apart from this one and outlive it; those that are
-/// watched are looked at from the toolkit's event loop, as long as this object lives.
+/// The desktop that shows the window. Started programs run independently and outlive this one. Watched programs are
+/// polled from Qt's event loop while this object lives.
 class QtShell : public Shell {
  public:
   explicit QtShell(const PathMap& paths) : paths_(paths) {}
@@ -19,7 +19,7 @@ class QtShell : public Shell {
 
  private:
   const PathMap& paths_;
-  QObject watches_;  ///< owns a timer for each program that is watched
+  QObject watches_;  ///< owns a timer for each watched program
 };
 
 }  // namespace vantorium

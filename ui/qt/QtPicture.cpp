@@ -10,7 +10,7 @@
 namespace vantorium {
 namespace {
 
-/// A copy of `count` rows, the topmost being `top`, upright.
+/// Returns an upright copy of `count` rows, of which row `top`, counted from above, is the first.
 QImage RowsOf(const cDIBSection& picture, int top, int count) {
   QImage rows(picture.width(), count, QImage::Format_BGR888);
   if (rows.isNull()) return rows;  // no memory
@@ -19,15 +19,15 @@ QImage RowsOf(const cDIBSection& picture, int top, int count) {
   return rows;
 }
 
-/// One direction of a blit, cut to what there is: so many pixels of the source from `source` on, `skipped` further on
-/// in the target.
+/// One direction of a blit after clipping: `length` pixels, read from `source` on and written `skipped` pixels after
+/// the target's start.
 struct Run {
   int source;
   int skipped;
   int length;
 };
 
-/// `own` is the picture's length, for a negative one; `room` is what the target can take.
+/// `own` is the picture's length, used if `length` is negative; `room` is how many pixels the target can take.
 Run Clipped(int source, int length, int own, int sourceLength, int room) {
   using Wide = std::int64_t;
   const Wide wanted = length < 0 ? own : length;
@@ -75,7 +75,7 @@ bool CreateFromPicture(cDIBSection& picture, const QImage& source) {
     return false;
   }
   opaque.fill(Qt::white);
-  QPainter(&opaque).drawImage(opaque.rect(), source);  // a pixel a pixel, whatever ratio the source has
+  QPainter(&opaque).drawImage(opaque.rect(), source);  // pixel for pixel, whatever the source's device pixel ratio
   LoadPictureBlt(picture, opaque);
   return true;
 }

@@ -7,7 +7,7 @@
 
 namespace vantorium {
 
-/// A dialog with a picture box for its sample.
+/// The SampleBox of a dialog that shows its sample in a PictureBox.
 class QtSampleBox : public SampleBox {
  public:
   QtSampleBox(QDialog& dialog, PictureBox& box) : dialog_(dialog), box_(box) {}

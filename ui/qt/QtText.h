@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-// Texts of the program are UTF-8, several lines with CR LF between them; the toolkit's controls have LF.
+// The program's texts are UTF-8, with CR LF between lines; Qt's controls use LF.
 
 [[nodiscard]] inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -16,15 +16,15 @@ namespace vantorium {
   return text.toStdString();
 }
 
-/// For captions of menus and frames, which take "&" for the mark of a mnemonic.
+/// For captions of menus and group boxes, where "&" marks a mnemonic.
 [[nodiscard]] inline QString WithoutMnemonics(std::string_view text) {
   return ToQt(text).replace('&', "&&");
 }
 
-/// For a control of several lines: CR LF, and a CR of its own, become LF.
+/// For a multi-line control: CR LF and lone CR become LF.
 [[nodiscard]] QString LinesToQt(std::string_view text);
 
-/// What a control of several lines holds, with CR LF.
+/// The text of a multi-line control, with CR LF.
 [[nodiscard]] std::string LinesFromQt(const QString& text);
 
 }  // namespace vantorium

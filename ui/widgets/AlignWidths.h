@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// Makes the controls as wide as the widest of them, so that what stands beside them in different groups is aligned.
+/// Makes the controls as wide as the widest of them, so that what stands beside them lines up across groups.
 inline void AlignWidths(std::initializer_list<QWidget*> controls) {
   int width = 0;
   for (const QWidget* control : controls) width = std::max(width, control->sizeHint().width());

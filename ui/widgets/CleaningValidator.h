@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// Has every text of a field cleaned as it comes in, whether it is typed or pasted. The cursor stays where it was.
+/// Cleans a field's text as it is typed or pasted. The cursor stays where it was.
 class CleaningValidator : public QValidator {
  public:
   using Clean = QString (*)(const QString& text);

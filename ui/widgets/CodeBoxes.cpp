@@ -8,14 +8,15 @@
 namespace vantorium {
 namespace {
 
-/// With LF for each character at which a box begins a new line.
+/// Returns the text with LF for each character that starts a new line in a text box.
 QString WithLf(QString text) {
   constexpr QChar kEnds[] = {QChar::ParagraphSeparator, QChar::LineSeparator, QChar(0xFDD0), QChar(0xFDD1)};
   for (const QChar end : kEnds) text.replace(end, '\n');
   return text;
 }
 
-/// The box's lines with LF between them. The box's own toPlainText would turn blanks that do not break into others.
+/// Returns the box's lines with LF between them. QPlainTextEdit::toPlainText would turn non-breaking spaces into plain
+/// ones.
 QString LinesOf(const QPlainTextEdit& box) {
   return WithLf(box.document()->toRawText());
 }

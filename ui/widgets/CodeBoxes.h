@@ -9,17 +9,17 @@
 
 namespace vantorium {
 
-// Text boxes of several lines that hold code, or other texts of the user.
+// Multi-line text boxes that hold code or other texts of the user.
 
-/// Shows `text`, whose lines end in CR LF, with nothing to undo.
+/// Shows `text`, whose lines end in CR LF, and clears the undo history.
 void ShowCode(QPlainTextEdit& box, std::string_view text);
 
-/// What the box holds, with CR LF. A text that the user left as it is comes back to the byte: `shown` is what ShowCode
-/// was given.
+/// Returns the box's text, with CR LF. `shown` is what ShowCode was given; if the user did not change it, it comes back
+/// byte for byte.
 [[nodiscard]] std::string CodeOf(const QPlainTextEdit& box, std::string_view shown = {});
 
-/// Whether a project file can keep the texts of the boxes. If not, the user is told, and the focus goes to the first
-/// box at fault, with the forbidden characters selected.
+/// Returns whether a project file can store the texts of the boxes. If not, tells the user, focuses the first box at
+/// fault and selects the forbidden characters.
 [[nodiscard]] bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, MessageBoxPort& port);
 
 }  // namespace vantorium

@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-constexpr int kMargin = 5;  // of the button around its color
+constexpr int kMargin = 5;  // between the button's edge and its color
 
 }  // namespace
 

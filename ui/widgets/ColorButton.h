@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// A button that shows a color, and tells it to screen readers as "#RRGGBB".
+/// A button that shows a color and reports it to screen readers as "#RRGGBB".
 class ColorButton : public QPushButton {
   Q_OBJECT
   Q_PROPERTY(QColor color READ ShownColor)

@@ -6,12 +6,12 @@
 
 namespace vantorium {
 
-/// The size of what a control has inside its frame, in pixels of the screen.
+/// The size of a control's area inside its frame, in pixels of the screen.
 [[nodiscard]] inline QSize DevicePixels(const QWidget& control) {
   return (QSizeF(control.contentsRect().size()) * control.devicePixelRatioF()).toSize();
 }
 
-/// The whole pixels inside `area`, in pixels; `toPixels` is the deviceTransform of a painter.
+/// The whole device pixels inside `area`, in device pixels; `toPixels` is the deviceTransform of a painter.
 [[nodiscard]] inline QRect WholePixels(const QTransform& toPixels, const QRect& area) {
   const QRectF exact = toPixels.mapRect(QRectF(area));
   const QPointF begin(std::ceil(exact.left()), std::ceil(exact.top()));

@@ -4,7 +4,7 @@
 
 namespace vantorium {
 
-/// A frame that shows as much of a long title as there is room for, and all of it in its tool tip.
+/// A group box that shows as much of a long title as fits, and all of it in its tool tip.
 class ElidedGroupBox : public QGroupBox {
   Q_OBJECT
 

@@ -4,8 +4,8 @@
 
 namespace vantorium {
 
-/// A label of one line that shows as much of a long text as there is room for, and all of it in its tool tip. Takes no
-/// room of its own beyond a line's height.
+/// A one-line label that shows as much of a long text as fits, and all of it in its tool tip. Needs no space except a
+/// line's height.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 

@@ -15,7 +15,7 @@
 namespace vantorium {
 namespace {
 
-/// Not as ShowText.h has it: the user may be typing in this very line, so the cursor stays and nobody is told.
+/// Unlike ShowText, keeps the cursor and emits no signal: the user may be typing in this very control.
 void ShowQuietly(QLineEdit& control, const QString& text) {
   if (control.text() == text) return;
   const QSignalBlocker quiet(control);
@@ -30,7 +30,7 @@ QString WithoutBlanks(const QString& text) {
   return digits;
 }
 
-/// Takes what a number's field makes up to six digits of, the blanks and line ends around it removed.
+/// Removes spaces and line ends, then accepts the text if the number field makes at most six digits of it.
 class DigitsValidator : public CleaningValidator {
  public:
   DigitsValidator(Digits GalleryProject::*field, QObject* parent)
@@ -46,7 +46,7 @@ class DigitsValidator : public CleaningValidator {
   Digits GalleryProject::*field_;
 };
 
-/// A key that is no digit types nothing, where the same character in a pasted text counts.
+/// A key that is not a digit types nothing; in a pasted text the same character counts.
 QString TypedDigit(const QString& /*before*/, const QString& key) {
   return key.size() == 1 && key[0].isPrint() && !key[0].isDigit() ? QString() : key;
 }

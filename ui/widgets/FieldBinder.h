@@ -18,9 +18,9 @@ class ColorDialog;
 class PathMap;
 class UpDown;
 
-/// Ties each control to its field of the project, one overload a class of controls: an edit by the user goes through
-/// the ProjectEditor with all its rules, and Refresh shows the project in every control. An edit that the rules refuse
-/// is told in a message box and taken back.
+/// Binds each control to its project field, with one overload per class of control. The user's edits go through the
+/// ProjectEditor and all its rules; Refresh shows the project in every control. An edit that the rules refuse is
+/// reported in a message box and reverted.
 class FieldBinder : public QObject {
   Q_OBJECT
 
@@ -28,30 +28,30 @@ class FieldBinder : public QObject {
   FieldBinder(ProjectEditor& editor, MessageBoxPort& boxes) : editor_(editor), boxes_(boxes) {}
 
   void Bind(QLineEdit& control, std::string GalleryProject::*field);
-  /// The path of a file; a native one that was typed or pasted becomes path text when the box is left.
+  /// The path of a file. A native path that was typed or pasted becomes path text when the user leaves the box.
   void BindPath(QLineEdit& control, const PathMap& paths, std::string GalleryProject::*field);
   /// A number with its spinner.
   void Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProject::*field);
   void Bind(QCheckBox& control, Flag GalleryProject::*field);
-  /// A list, which is filled with the field's texts.
+  /// Fills the list with the field's texts.
   void Bind(QComboBox& control, Choice GalleryProject::*field);
-  /// A list, filled in the same way; an index that the user picks goes to `choose` in place of the field.
+  /// Fills the list in the same way; an index that the user picks goes to `choose` instead of the field.
   void Bind(QComboBox& control, Choice GalleryProject::*field, std::function<void(Choice)> choose);
 
   /// A button that shows a color and asks for another one when it is clicked.
   void Bind(ColorButton& control, ColorDialog& dialog, Color GalleryProject::*field);
 
-  /// Runs an edit that a control or a dialog asks for, and says that it was done.
+  /// Runs an edit that a control or a dialog asks for, then refreshes the controls and emits Edited.
   void Edit(const std::function<void(ProjectEditor&)>& edit);
-  /// Shows the project in the controls; what the user types in is not disturbed where it says the same already.
+  /// Shows the project in the controls. A line whose text is already right is left alone: the user may be typing in it.
   void Refresh();
 
   [[nodiscard]] const GalleryProject& Project() const { return editor_.Project(); }
-  /// The fields that have a control, in the order of their binding.
+  /// The fields that have a control, in the order in which they were bound.
   [[nodiscard]] const std::vector<const ProjectField*>& BoundFields() const { return fields_; }
 
  signals:
-  /// Behind every edit, with the controls refreshed.
+  /// Emitted after every edit, with the controls refreshed.
   void Edited();
 
  private:

@@ -4,8 +4,8 @@
 
 namespace vantorium {
 
-/// Whether the event tells that its user left the control for another one of the window. A menu over it, or another
-/// window, is no leaving.
+/// Returns whether the event means that the user moved from the control to another one in the window. Opening a menu
+/// over it, or switching to another window, does not count.
 [[nodiscard]] inline bool LeavesControl(const QEvent& event) {
   if (event.type() != QEvent::FocusOut) return false;
   const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();

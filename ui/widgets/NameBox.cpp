@@ -13,7 +13,7 @@ QLineEdit* LineOf(QWidget& control, const NameField& name) {
   auto* list = qobject_cast<QComboBox*>(&control);
   if (list == nullptr) return qobject_cast<QLineEdit*>(&control);
   for (const std::string_view text : name.offers) list->addItem(ToQt(text));
-  list->setCompleter(nullptr);  // what is typed stays what is typed
+  list->setCompleter(nullptr);  // a completer would change what is typed
   return list->lineEdit();
 }
 

@@ -7,15 +7,15 @@
 
 namespace vantorium {
 
-/// The control that edits a name of a gallery's files or frames: a line, or a list that takes other texts too.
+/// Edits one name of a gallery's files or frames, in a line edit or an editable combo box.
 class NameBox : public QObject {
   Q_OBJECT
 
  public:
-  /// The control of that name is on `form`, to which this belongs. `name` lives as long.
+  /// `form` has the control that `name` names, and becomes the parent. `name` must outlive this object.
   NameBox(QWidget& form, const NameField& name);
 
-  /// Is no edit.
+  /// Does not emit Edited.
   void Show(const GalleryProject& project);
   void Store(ProjectEditor& editor) const;
 

@@ -4,8 +4,8 @@
 
 namespace vantorium {
 
-/// Keeps the text of a field on one line, whatever is pasted into it: a path or a name that was copied with the end of
-/// its line loses that.
+/// Keeps a field's text on one line: removes control characters, such as a line end that was copied with a path or
+/// name.
 class OneLineValidator : public CleaningValidator {
  public:
   explicit OneLineValidator(QObject* parent) : CleaningValidator(OneLine, parent) {}

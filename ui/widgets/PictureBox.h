@@ -8,18 +8,18 @@
 
 namespace vantorium {
 
-/// A framed box of a fixed size that shows a picture, pixel for pixel on every screen, and keeps a copy of it.
+/// A framed box of a fixed size that shows a copy of a picture, pixel for pixel on every screen.
 class PictureBox : public QFrame {
   Q_OBJECT
 
  public:
   explicit PictureBox(QWidget* parent = nullptr);
 
-  /// What the box has room for inside of its frame, in pixels of the screen that it is on.
+  /// The room inside the frame, in pixels of the screen that the box is on.
   [[nodiscard]] PictureSize SizeInPixels() const;
 
   void Clear();
-  /// Shows the picture with its top left corner in that of the box. What the picture does not reach stays empty.
+  /// Shows the picture at the box's top left corner. What it does not cover stays empty.
   void Show(const cDIBSection& picture);
 
   /// Null when the box is clear.

@@ -4,8 +4,8 @@
 
 namespace vantorium {
 
-/// Draws the frames of controls on whole pixels where the screen's scale is a fraction, 1.5 for example: lines that
-/// begin in the middle of a pixel are lost beneath what the frame holds.
+/// Draws the frames of controls on whole pixels when the screen's scale is a fraction, such as 1.5. Otherwise lines
+/// that begin in the middle of a pixel are hidden by the frame's contents.
 class PixelFrames : public QProxyStyle {
  public:
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -7,15 +7,15 @@
 
 namespace vantorium {
 
-/// What to set as a tool tip that is to be read to the letter, also where it has a word in angle brackets.
+/// Returns what to set as a tool tip so that Qt shows `text` literally, including words in angle brackets.
 [[nodiscard]] inline QString PlainTip(const QString& text) {
   return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
-/// Shows the tip of a control to the letter, which it keeps.
+/// Shows a control's tool tip literally. The control's toolTip() stays as it is.
 class PlainToolTip : public QObject {
  public:
-  /// Belongs to the control.
+  /// The control becomes the parent.
   explicit PlainToolTip(QWidget& control) : QObject(&control), control_(control) { control.installEventFilter(this); }
 
  protected:

@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-/// A framed picture, stretched over all of its box, that can be clicked; the space bar is a click too.
+/// A framed picture that can be clicked, stretched to fill its box. The space bar counts as a click.
 class PreviewBox : public QFrame {
   Q_OBJECT
 

@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// Shows a text in a line. One that says the same already is left alone, with its cursor and its undo.
+/// Shows a text in a line edit. If the line already shows it, does nothing, so that its cursor and undo history stay.
 inline void ShowText(QLineEdit& control, std::string_view text) {
   const QString shown = ToQt(text);
   if (control.text() != shown) control.setText(shown);

@@ -5,7 +5,7 @@
 
 namespace vantorium {
 
-/// Puts `text` in place of the box's selection, as a step of undo of its own, which nothing that is typed joins.
+/// Replaces the box's selection with `text`, as an undo step of its own that later typing does not join.
 inline void ReplaceSelection(QPlainTextEdit& box, const QString& text) {
   QTextCursor cursor = box.textCursor();
   cursor.beginEditBlock();
@@ -15,8 +15,7 @@ inline void ReplaceSelection(QPlainTextEdit& box, const QString& text) {
   box.setTextCursor(cursor);
 }
 
-/// A box of several lines of plain text. What is pasted or dropped comes as the text it is, in one step
-/// of undo.
+/// A multi-line plain text box. Pasted and dropped text is inserted as plain text, in one undo step.
 class TextBox : public QPlainTextEdit {
   Q_OBJECT
 
@@ -24,7 +23,7 @@ class TextBox : public QPlainTextEdit {
   using QPlainTextEdit::QPlainTextEdit;
 
  protected:
-  // Left to itself the toolkit turns what is marked up into formatted text, and does not survive an empty clipboard.
+  // QPlainTextEdit's own version turns markup into formatted text, and crashes on an empty clipboard.
   void insertFromMimeData(const QMimeData* source) override {
     if (source == nullptr || !source->hasText() || isReadOnly()) return;
     ReplaceSelection(*this, source->text());

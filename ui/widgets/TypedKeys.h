@@ -6,14 +6,14 @@
 
 namespace vantorium {
 
-/// Has other characters typed into a line than those of the keys, or none. Texts that come in otherwise stay as they
-/// are, and commands of the keyboard do.
+/// Replaces or drops the characters that keys type into a line. Keyboard commands, and text that arrives in other ways,
+/// are not affected.
 class TypedKeys : public QObject {
  public:
-  /// What is typed for the text of a key, behind the text that stands before it.
+  /// Returns what to type for the text `key` of a key; `before` is the text before the cursor or the selection.
   using Replacement = std::function<QString(const QString& before, const QString& key)>;
 
-  /// Belongs to the line.
+  /// The line becomes the parent.
   TypedKeys(QLineEdit& line, Replacement replacement)
       : QObject(&line), line_(line), replacement_(std::move(replacement)) {
     line.installEventFilter(this);

@@ -6,7 +6,7 @@
 
 namespace vantorium {
 
-/// Keeps the text of a field what can be the name of an image, whether it is typed or pasted.
+/// Restricts a field's text, typed or pasted, to what can be the name of an image.
 class TypedNameValidator : public CleaningValidator {
  public:
   explicit TypedNameValidator(QObject* parent)

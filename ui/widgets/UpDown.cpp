@@ -15,7 +15,7 @@ UpDown::UpDown(QWidget* parent) : QWidget(parent) {
     auto* button = new QToolButton(this);
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
-    button->setFocusPolicy(Qt::NoFocus);  // the box has the arrow keys
+    button->setFocusPolicy(Qt::NoFocus);  // the box handles the arrow keys
     button->setAccessibleName(name);
     button->setFixedSize(18, 13);
     connect(button, &QToolButton::clicked, this, [this, by] { Step(by); });

@@ -6,18 +6,18 @@
 namespace vantorium {
 
 /// A spinner beside a text box: two small buttons that step the number in the box by 1 within a range. The arrow keys
-/// in the box do the same. A text that is no number counts as the range's minimum.
+/// in the box do the same. A text that is not a number steps to the range's minimum.
 class UpDown : public QWidget {
   Q_OBJECT
 
  public:
   explicit UpDown(QWidget* parent = nullptr);
 
-  /// `box` belongs to somebody else and outlives this.
+  /// `box` is not owned and must outlive this object.
   void Attach(QLineEdit& box, int minimum, int maximum);
 
  signals:
-  /// The number that the box is to show.
+  /// Carries the number that the box should show.
   void Stepped(const QString& text);
 
  protected:

@@ -17,12 +17,12 @@ bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
   if (qobject_cast<QComboBox*>(watched) == nullptr && qobject_cast<QAbstractSpinBox*>(watched) == nullptr) return false;
   auto* control = static_cast<QWidget*>(watched);
   if (isPolish) {
-    // The wheel would give it the keyboard before the event comes.
+    // Otherwise the wheel would give it the focus before the event arrives.
     if (control->focusPolicy() == Qt::WheelFocus) control->setFocusPolicy(Qt::StrongFocus);
     return false;
   }
   if (control->hasFocus()) return false;
-  event->ignore();  // goes on to the window around it
+  event->ignore();  // passes it on to the parent
   return true;
 }
 

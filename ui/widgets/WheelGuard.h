@@ -4,8 +4,8 @@
 
 namespace vantorium {
 
-/// Keeps the mouse wheel from changing a list box or a spinner that does not have the keyboard: it scrolls what is
-/// behind, or does nothing. This goes for all windows of the program that are made while the guard lives.
+/// Keeps the mouse wheel from changing a list box or a spinner that does not have the focus: the wheel scrolls the
+/// parent instead, or does nothing. Applies to all windows of the program that are made while the guard lives.
 class WheelGuard : public QObject {
  public:
   explicit WheelGuard(QObject* parent);

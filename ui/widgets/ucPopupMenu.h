@@ -11,8 +11,8 @@
 
 namespace vantorium {
 
-/// The menu of a form's text boxes, in place of their own: the edit commands, and every template tag to put into the
-/// text. All it does to a text can be undone step by step. Menus and entries bear the names "mnuEditTOP", "mnuEdit0",
+/// The context menu of a form's text boxes, in place of Qt's: the edit commands, and every template tag to insert. Each
+/// of its changes to a text can be undone step by step. Menus and entries are named "mnuEditTOP", "mnuEdit0",
 /// "mnuEditTags", "mnuEditTagsGallery", "mnuEditTagsGallery0" and so on.
 class ucPopupMenu : public QObject {
   Q_OBJECT
@@ -21,10 +21,11 @@ class ucPopupMenu : public QObject {
   /// The menu belongs to `form`.
   explicit ucPopupMenu(QWidget& form);
 
-  /// From now on this menu is the context menu of the box, for the mouse and the keyboard.
+  /// Makes this menu the context menu of the box, for the mouse and the keyboard.
   void Serve(QPlainTextEdit& box);
 
-  /// Gives the box the focus and opens the menu for it at a place of the screen, and does not wait for its end.
+  /// Gives the box the focus and opens the menu for it at `at`, in screen coordinates. Does not wait until the menu
+  /// closes.
   void ShowPopupMenu(QPlainTextEdit& box, QPoint at = QCursor::pos());
 
  private:
@@ -34,7 +35,7 @@ class ucPopupMenu : public QObject {
   void EnableEntries();
 
   QMenu* menu_;
-  QPointer<QPlainTextEdit> box_;  ///< the one for which the menu was last shown
+  QPointer<QPlainTextEdit> box_;  ///< the box that the menu was last shown for
 };
 
 }  // namespace vantorium
