@@ -61,10 +61,10 @@ INSTANTIATE_TEST_SUITE_P(Quirks, INIReading,
                                          Reading{"x=1", "A", "x", "1"},                  //
                                          Reading{"x=1\n", "A", "x", "1"},                // a line end begins no line
                                          Reading{"x=1\n\n", "A", "x", std::nullopt},     // the last line is empty
-                                         Reading{"x=1\n[A]", "A", "x", std::nullopt},    // nothing behind the section
+                                         Reading{"x=1\n[A]", "A", "x", std::nullopt},    // nothing after the section
                                          Reading{"x=1\n[A]\ny=2", "A", "x", std::nullopt},  //
                                          Reading{"[A]\n x=1", "A", "x", std::nullopt},      // blanks before a key
-                                         Reading{"[A]\nx =1", "A", "x", std::nullopt},      // and behind it
+                                         Reading{"[A]\nx =1", "A", "x", std::nullopt},      // and after it
                                          Reading{"[A]\nx= 1", "A", "x", " 1"},              //
                                          Reading{"  [a]  \nx=1", "A", "x", "1"},            //
                                          Reading{"[A]\n[A]\nx=1", "A", "x", "1"}));
