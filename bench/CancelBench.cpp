@@ -1,6 +1,6 @@
-// How long a run goes on behind "Cancel" and "Yes": the longest of many runs in their window, each cancelled at a
-// moment of its own. The clock starts when the button is due to be pressed, so a window that does not answer counts
-// too. Use: bench_cancel PHOTOGRAPHS  with PHOTOGRAPHS a folder of large ones
+// Measures how long a run continues after "Cancel" and "Yes": prints the longest of many runs in their window, each
+// cancelled at a random moment. The clock starts when the button is due to be pressed, so an unresponsive window counts
+// too. Usage: bench_cancel PHOTOGRAPHS, where PHOTOGRAPHS is a folder of large photographs.
 #include "publish/AsioFTPSocket.h"
 #include "tests/fakes/RecordingImageListDisplay.h"
 #include "tests/fakes/ScriptedFtpServer.h"
@@ -31,7 +31,7 @@ using std::chrono::steady_clock;
 constexpr int kRuns = 20;
 constexpr double kLimit = 100;
 
-/// The longest of some waits.
+/// Collects waits and prints the longest.
 class Longest {
  public:
   void Add(Milliseconds wait) {
@@ -111,14 +111,14 @@ class Bench {
     desk.cancel.OnCancel([&ftp] { ftp.FTPCancelData(); });
     return desk.Create(&ftp);
   }
-  /// Presses the button between 50 ms and `latest` from now; when.
+  /// Presses the button at a random time between 50 ms and `latest` from now. Returns that time.
   steady_clock::time_point PressLater(QWidget& window, const char* button, milliseconds latest) {
     const milliseconds delay{std::uniform_int_distribution<int>(50, static_cast<int>(latest.count()))(random_)};
     QTimer::singleShot(delay, Qt::PreciseTimer, &window,
                        [&window, button] { window.findChild<QPushButton*>(button)->click(); });
     return steady_clock::now() + delay;
   }
-  /// A cancelled upload of a folder ends as a failed one, in a window that is there to be closed.
+  /// A cancelled folder upload ends like a failed one: its window stays open until it is closed.
   static void CloseWhenItEnded(frmProgress& progress, steady_clock::time_point& ended) {
     auto* look = new QTimer(&progress);
     QObject::connect(look, &QTimer::timeout, &progress, [&progress, &ended] {

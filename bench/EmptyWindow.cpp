@@ -1,4 +1,4 @@
-// An empty window of the toolkit, of the size of Vantorium's.
+// Shows an empty Qt window of the size of Vantorium's.
 #include <QApplication>
 #include <QWidget>
 

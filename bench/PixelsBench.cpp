@@ -1,5 +1,5 @@
-// The pixel routines on a picture of 24 megapixels, one thread, and memcpy of the same picture. What counts is the
-// ratio to memcpy, which is printed below the table as the median of several rounds that measure both in turn.
+// Runs the pixel routines on a picture of 24 megapixels in one thread, and memcpy on the same picture. The ratio to
+// memcpy is what counts. It is printed below the table: the median of several rounds that measure both in turn.
 #include "image/Filters.h"
 #include "image/Resample.h"
 #include "image/literal/ResampleLiteral.h"
@@ -24,7 +24,7 @@ std::size_t Bytes(const cDIBSection& dib) {
   return static_cast<std::size_t>(dib.BytesPerScanLine()) * static_cast<std::size_t>(dib.height());
 }
 
-// The same random picture for all; filters change it, but no filter's time depends on the colors.
+// All routines share one random picture. Filters change it, but no filter's time depends on the colors.
 cDIBSection& Picture() {
   static cDIBSection picture = [] {
     cDIBSection made;
@@ -68,7 +68,7 @@ void Enlarge() {
 
 struct Work {
   const char* name;
-  double limit;  // times memcpy; 0 when there is none
+  double limit;  // times memcpy; 0 for no limit
   std::function<void()> run;
 };
 
@@ -86,7 +86,7 @@ const std::vector<Work>& Works() {
   return works;
 }
 
-// Processor time: all works run on one thread, and others may want the machine too.
+// Measures processor time: all work runs on one thread, and other processes may be using the machine.
 double Seconds(const std::function<void()>& work) {
   const std::clock_t start = std::clock();
   work();
@@ -124,7 +124,7 @@ void Register(const char* name, const std::function<void()>& run) {
 int main(int count, char** arguments) {
   benchmark::Initialize(&count, arguments);
   if (benchmark::ReportUnrecognizedArguments(count, arguments)) return 1;
-  vantorium::CopyPicture();  // so that no first touch of the memory is measured
+  vantorium::CopyPicture();  // touches the memory before anything is measured
   vantorium::Register("memcpy", vantorium::CopyPicture);
   for (const auto& work : vantorium::Works()) vantorium::Register(work.name, work.run);
   benchmark::RunSpecifiedBenchmarks();

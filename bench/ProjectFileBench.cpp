@@ -1,5 +1,5 @@
-// How long a project file takes to write and to read, by the number of its images: ten times the images must take about
-// ten times as long, also when all images bear one name. The images are one small file, which only has to be there.
+// Measures how long a project file takes to write and to read, by its number of images: ten times the images must take
+// about ten times as long, even if all images have the same name. All images are one small file that only has to exist.
 
 #include "core/ProjectSession.h"
 #include "tests/fakes/TemporaryFolder.h"
@@ -22,7 +22,7 @@ class QuietEvents : public EventLoop {
 
 enum Names { Different, Same };
 
-/// A project with a file of its own, and what it takes to read and write it.
+/// A project with its own file, and everything needed to read and write it.
 class Bench {
  public:
   Bench(std::size_t images, Names names) {
@@ -55,8 +55,8 @@ class Bench {
   std::string target_;
 };
 
-/// Gives freed memory back, so that a small project does not profit from the memory of the round before: a user opens
-/// and saves with fresh memory whatever the size.
+/// Returns freed memory to the system, so that a small project does not profit from the memory of the previous round:
+/// users open and save with fresh memory whatever the size.
 void ForgetMemory(benchmark::State& state) {
   state.PauseTiming();
   ::malloc_trim(0);

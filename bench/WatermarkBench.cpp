@@ -1,5 +1,5 @@
-// The watermark on a picture of 24 megapixels, one thread, and memcpy of the same picture. What counts is the ratio to
-// memcpy, which is printed below the table as the median of several rounds that measure both in turn.
+// Draws the watermark on a picture of 24 megapixels in one thread, and runs memcpy on the same picture. The ratio to
+// memcpy is what counts. It is printed below the table: the median of several rounds that measure both in turn.
 #include "image/Filters.h"
 #include "image/PangoTextRaster.h"
 #include "image/TransparentCopy.h"
@@ -30,7 +30,7 @@ cDIBSection Noise(std::uint64_t number) {
   return made;
 }
 
-/// The pictures and tools of all measurements.
+/// The pictures and tools that all measurements share.
 struct Bench {
   cDIBSection picture = Noise(0);
   cDIBSection source = Noise(1);
@@ -55,7 +55,7 @@ struct Bench {
 
 struct Work {
   const char* name;
-  double limit;  // times memcpy; 0 when there is none
+  double limit;  // times memcpy; 0 for no limit
   std::function<void()> run;
 };
 

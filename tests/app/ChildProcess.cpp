@@ -42,7 +42,7 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& e
   return assignments;
 }
 
-/// In the child: only calls that are allowed between fork and exec.
+/// Runs in the child: makes only calls that are allowed between fork and exec.
 [[noreturn]] void BecomeProgram(const StartOptions& options, int out, int err, char* const* arguments,
                                 char* const* environment) {
   const bool onTerminal = options.standardError == StandardError::Terminal;
@@ -59,7 +59,7 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& e
   ::_exit(127);
 }
 
-/// Closes the stream at its end. A terminal answers with an error then.
+/// Closes the stream at its end, which a terminal reports as an error.
 void AppendFrom(FileDescriptor& stream, std::string& text) {
   char bytes[4096];
   const auto read = ::read(stream.Get(), bytes, sizeof bytes);
@@ -78,7 +78,7 @@ int BytesWaiting(const FileDescriptor& stream) {
 
 }  // namespace
 
-// The smallest pipe there is, so that a test can fill it.
+// Makes the smallest possible pipe, so that a test can fill it.
 ChildProcess::Stream ChildProcess::MakePipe() {
   int ends[2] = {};
   Checked(::pipe2(ends, O_CLOEXEC), "pipe2");
@@ -168,7 +168,7 @@ ProcessResult ChildProcess::Finish() {
   return result_;
 }
 
-/// Waits a moment for bytes of either stream; also a mere pause once both have ended.
+/// Waits briefly for bytes from either stream. Just pauses once both have ended.
 void ChildProcess::ReadSome() {
   pollfd streams[] = {{.fd = out_.ours.Get(), .events = POLLIN, .revents = 0},
                       {.fd = err_.ours.Get(), .events = POLLIN, .revents = 0}};

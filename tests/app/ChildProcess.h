@@ -16,26 +16,26 @@ enum class StandardError { Pipe, Terminal };
 
 struct StartOptions {
   std::vector<std::string> command;  ///< the program's path and its arguments
-  std::filesystem::path folder;      ///< to work in
+  std::filesystem::path folder;      ///< working directory
   std::map<std::string, std::string> environment;
-  std::filesystem::path standardInput = "/dev/null";  ///< unless there is a terminal
+  std::filesystem::path standardInput = "/dev/null";  ///< not used with a terminal
   StandardError standardError = StandardError::Pipe;
-  std::filesystem::path standardOutput = {};  ///< a file in place of the pipe
+  std::filesystem::path standardOutput = {};  ///< a file instead of the pipe, if not empty
   std::vector<int> closedStreams = {};
-  bool outlivesTerminal = false;  ///< as with nohup
+  bool outlivesTerminal = false;  ///< ignores SIGHUP, as under nohup
   unsigned short columns = 80;    ///< of the terminal
 };
 
-/// What a process left behind. `exitCode` is -1 when a signal ended it.
+/// The result of a process that has ended. `exitCode` is -1 if a signal ended it.
 struct ProcessResult {
   int exitCode = -1;
   std::string out;
   std::string err;
 };
 
-/// A program that runs, with standard output in a pipe and standard error in a pipe or on a terminal of its own, which
-/// then is its controlling terminal. Whatever the system refuses, and whatever takes longer than two minutes, throws
-/// std::runtime_error. The process is gone with the object.
+/// A running program. Its standard output is a pipe; its standard error is a pipe or its own terminal, which is then
+/// its controlling terminal. Throws std::runtime_error for failed system calls and for waits of more than two minutes.
+/// The destructor kills the process.
 class ChildProcess {
  public:
   explicit ChildProcess(const StartOptions& options);
@@ -43,16 +43,16 @@ class ChildProcess {
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
 
-  /// Reads until standard error holds a match of the regular expression; throws when it ends without.
+  /// Reads until standard error contains a match of the regular expression; throws if it ends without one.
   void WaitForError(const std::string& expression);
-  /// Waits, without reading, until the process writes no more to standard error since the pipe is full.
+  /// Waits, without reading, until the process stops writing to standard error because the pipe is full.
   void WaitUntilErrorPipeIsFull() const;
   void Send(int signal) const;
-  /// The number that the process has, or had.
+  /// The process ID, also after the process has ended.
   [[nodiscard]] pid_t Number() const { return process_; }
-  /// Takes the terminal away; what it showed after the last reading is lost.
+  /// Closes the terminal. Output that has not been read yet is lost.
   void HangUp();
-  /// Types on the keyboard of the terminal.
+  /// Types on the terminal's keyboard.
   void Type(std::string_view keys) const;
   /// Whether the process has ended by itself; never waits.
   [[nodiscard]] bool HasEnded();
@@ -64,7 +64,7 @@ class ChildProcess {
   void Reap(int status);
   [[noreturn]] void GiveUp(const std::string& why) const;
 
-  /// Both ends of a pipe or a terminal. The child's end is closed here once the child runs.
+  /// Both ends of a pipe or a terminal. This process closes the child's end once the child runs.
   struct Stream {
     FileDescriptor ours;
     FileDescriptor childs;

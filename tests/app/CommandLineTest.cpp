@@ -16,7 +16,7 @@ std::string Joined(const Arguments& arguments) {
   return text;
 }
 
-/// Whether the program refuses the arguments as it should, in one line that holds `named`.
+/// Success if the program refuses the arguments with exit code 2 and one line on standard error that contains `named`.
 AssertionResult IsRefused(const Arguments& arguments, const std::string& named = {}) {
   const ProcessResult result = Workplace().Run(arguments);
   const bool oneLine = std::ranges::count(result.err, '\n') == 1 && result.err.ends_with('\n');
@@ -121,7 +121,7 @@ TEST(CommandLine, AnArgumentTooManyIsNamed) {
   EXPECT_TRUE(IsRefused({"create", "a.gpj", "index.htm", "more.htm"}, "more.htm"));
 }
 
-/// A whole command line of publish or upload without the option and its value.
+/// A complete command line of publish or upload, except for the option and its value.
 Arguments Without(const std::string& option, const std::string& command) {
   Arguments arguments = {command, "what"};
   for (const auto& [name, value] : {std::pair{"--server", "example.com"}, std::pair{"--user", "me"},

@@ -19,7 +19,7 @@ const char kWholeGallery[] =
     "index.htm\n"
     "thumbpage_1.htm\n";
 
-/// A workplace with the project "a.gpj" of the photographs a.jpg and b.jpg.
+/// A workplace with the project "a.gpj", which has the photographs a.jpg and b.jpg.
 class CreateCommand : public testing::Test {
  protected:
   CreateCommand() { place.Project("a.gpj", {"a.jpg", "b.jpg"}); }
@@ -231,7 +231,7 @@ TEST_F(CreateCommand, AFileThatIsTooLargeForTheSystemIsAFailureThatLeavesNothing
   ProcessResult result;
   {
     const fakes::FullDisk full(1000);
-    std::signal(SIGXFSZ, SIG_DFL);  // as the program finds it
+    std::signal(SIGXFSZ, SIG_DFL);  // the default action, which a program normally starts with
     result = Create();
   }
   EXPECT_TRUE(EndedWith(1, result));

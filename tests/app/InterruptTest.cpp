@@ -14,7 +14,7 @@ const char kBoxesOfCancel[] =
     "Cancel Request: Are you sure you wish to cancel?\n"
     "Creation cancelled: The User has cancelled Creation of the Gallery\n";
 
-/// Whether a gallery's file is one to its end.
+/// Whether a gallery's file is complete.
 bool IsWhole(const std::string& name, const std::string& bytes) {
   if (name.ends_with(".jpg")) return bytes.starts_with("\xFF\xD8") && bytes.ends_with("\xFF\xD9");
   return name.ends_with(".htm") && bytes.ends_with("</HTML>\r\n");
@@ -26,7 +26,7 @@ void ExpectWholeFilesOnly(const std::filesystem::path& folder) {
   }
 }
 
-/// A workplace with the project "a.gpj". Its texts are so many that a run of it waits for the test to read them.
+/// A workplace with the project "a.gpj". Its run prints so much that it blocks until the test reads the output.
 class Interrupt : public testing::Test {
  protected:
   Interrupt() { place.LargeProject("a.gpj", 300); }
@@ -139,7 +139,7 @@ TEST_F(Interrupt, ASecondHangUpDoesNotEndTheProgramAtOnce) {
   EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
 }
 
-// The program hangs in its own output, where it can't come to the next look at the cancel button.
+// The program is blocked in writing its output and cannot reach its next check of the cancel button.
 TEST_F(Interrupt, ASecondOneEndsTheProgramAtOnce) {
   ChildProcess program(Create({"--verbose"}));
   program.WaitUntilErrorPipeIsFull();
@@ -147,7 +147,7 @@ TEST_F(Interrupt, ASecondOneEndsTheProgramAtOnce) {
   std::this_thread::sleep_for(50ms);
   EXPECT_FALSE(program.HasEnded()) << "the first one is the cancel button only";
   for (int again = 0; again < 1000 && !program.HasEnded(); ++again) {
-    program.Send(SIGINT);  // more than once, as two that come too close together count as one
+    program.Send(SIGINT);  // more than once, because two signals that come too close together count as one
     std::this_thread::sleep_for(10ms);
   }
   ASSERT_TRUE(program.HasEnded());
@@ -202,7 +202,7 @@ TEST_P(InterruptOfARunToAServer, LeavesNoPartOfAFileOnTheServer) {
   while (!std::filesystem::exists(OnServer("web/large")) && !program.HasEnded()) std::this_thread::sleep_for(1ms);
   program.Send(SIGINT);
   EXPECT_TRUE(EndedWith(130, program.Finish()));
-  // The program does not wait for a server that takes its time.
+  // The program does not wait for a slow server.
   for (int look = 0; look < 1000 && std::filesystem::exists(OnServer("web/large")); ++look) {
     std::this_thread::sleep_for(10ms);
   }

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 const char kPreferences[] =
     "[DIRECTORIES]\r\nCREATEFOLDER=\"C:\\gallery\"\r\n\r\n; mine\r\n[PUBLISH]\r\nDESCRIPTION1=\"home\"\r\n";
 
-/// Runs of publish with all the files around them that must outlive anything.
+/// Runs publish among files that must survive a kill.
 class KilledPublish : public ServerPlace {
  protected:
   void SetUp() override {
@@ -30,7 +30,7 @@ class KilledPublish : public ServerPlace {
   [[nodiscard]] StartOptions Run() const {
     return Options("publish", "project/a.gpj", "web/index.htm", {"--creation-time", kTime});
   }
-  /// One run to its end, which makes the whole gallery on the server; returns how long it took.
+  /// Runs to the end, which puts the complete gallery on the server. Returns how long that took.
   Clock::duration RunToTheEnd() const {
     const auto begin = Clock::now();
     EXPECT_TRUE(Succeeded(ChildProcess(Run()).Finish()));
@@ -38,7 +38,7 @@ class KilledPublish : public ServerPlace {
     EXPECT_TRUE(SameFiles(OnServer("web"), place.Path("out")));
     return length;
   }
-  /// One run that is killed so long after its start; earlier when it proves to be over by then.
+  /// Kills a run `moment` after its start. If the run ends before that, tries again with half the time.
   void KillAfter(Clock::duration moment) const {
     for (;; moment /= 2) {
       ChildProcess program(Run());
@@ -48,8 +48,8 @@ class KilledPublish : public ServerPlace {
       if (program.Finish().exitCode == -1) return;
     }
   }
-  /// Whatever lay here before the runs is as it was and nothing is new, but for the log and the temporary folder, in
-  /// which a file that has its name is one to its end.
+  /// Expects that all files from before the runs are unchanged and nothing is new except the log and the temporary
+  /// folder, where every file with its final name is complete.
   void ExpectAllIsWhole(const std::map<std::string, std::string>& before) const {
     auto now = FilesBelow(place.Path());
     for (const auto& [name, bytes] : before) EXPECT_TRUE(now[name] == bytes) << name << " holds\n" << now[name];
@@ -62,9 +62,9 @@ class KilledPublish : public ServerPlace {
     }
   }
   void ExpectIsOfTheGallery(const std::string& name, const std::string& bytes) const {
-    if (fs::path(name).filename().string().starts_with(".vantorium-")) return;  // was about to get its name
+    if (fs::path(name).filename().string().starts_with(".vantorium-")) return;  // not yet renamed
     const fs::path inPlace = fs::path("out") / name;
-    const fs::path image = fs::path("out/Images") / name;  // lies outside its folder until it is sent
+    const fs::path image = fs::path("out/Images") / name;  // kept outside its folder until it is sent
     ASSERT_TRUE(fs::exists(place.Path(inPlace)) || fs::exists(place.Path(image))) << name << " is not of the gallery";
     EXPECT_TRUE(place.Read(fs::exists(place.Path(inPlace)) ? inPlace : image) == bytes) << name << " is half written";
   }
@@ -80,7 +80,7 @@ TEST_F(KilledPublish, LeavesEveryFileWholeAndTheNextRunEndsWell) {
   const Clock::duration length = RunToTheEnd();
   std::mt19937 random(kSeed);
   for (int run = 0; run < kRuns; ++run) {
-    // One moment in each twentieth of the run's length, so that they are spread over all of it.
+    // One random moment in each twentieth of the run's length, so that the moments cover all of it.
     const double share = (run + std::uniform_real_distribution<>()(random)) / kRuns;
     SCOPED_TRACE(testing::Message() << "killed at " << share << " of a run");
     KillAfter(std::chrono::duration_cast<Clock::duration>(length * share));

@@ -11,14 +11,14 @@ namespace {
 using Json = nlohmann::json;
 using Texts = std::vector<std::string>;
 
-/// The program's own view of a project.
+/// What `show` prints for a project.
 Json Shown(const Workplace& place, const std::string& project) {
   const ProcessResult result = place.Run({"show", project});
   EXPECT_TRUE(Succeeded(result));
   return Json::parse(result.out);
 }
 
-/// The field of every image.
+/// The value of `field` for every image.
 Texts Images(const Workplace& place, const std::string& project, const char* field) {
   Texts texts;
   const Json shown = Shown(place, project);

@@ -9,12 +9,12 @@ namespace fs = std::filesystem;
 
 const char kWrongLogin[] = "FTP Error: Invalid User ID or Password.\n";
 
-/// The other server lets anybody in.
+/// Uses ProFTPD because vsftpd accepts every password.
 class Password : public ServerPlace {
  protected:
   Password() : ServerPlace(fakes::FtpServerKind::Proftpd) { place.Write("site/index.htm", "x"); }
 
-  /// An upload with the password from standard input.
+  /// An upload that reads the password from standard input.
   [[nodiscard]] StartOptions FromStandardInput() const { return UploadWithFile("-"); }
   [[nodiscard]] StartOptions UploadWithFile(const std::string& file) const {
     StartOptions options = Options("upload", "site", "web");

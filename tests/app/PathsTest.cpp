@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-/// The path texts of a project's sources, which stand in its file with slashes.
+/// The path texts of a project's sources. The project file stores them with slashes.
 std::vector<std::string> Sources(const Workplace& place, const std::string& project) {
   std::vector<std::string> sources;
   const ProcessResult result = place.Run({"show", project});

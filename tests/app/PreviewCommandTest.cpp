@@ -54,7 +54,7 @@ TEST(PreviewCommand, WithoutATemporaryFolderOnTheCommandLineThePreferencesNameIt
   EXPECT_EQ(result.out, place.Path("elsewhere/VANTORIUM_TEMP/index.htm").string() + "\n");
 }
 
-/// Programs in the place of the desktop's, which keep what it was told to open.
+/// Replaces xdg-open and gio with `script`.
 StartOptions WithOpener(const Workplace& place, const std::string& script, const std::vector<std::string>& arguments) {
   for (const char* name : {"bin/xdg-open", "bin/gio"}) {
     const auto opener = place.Write(name, "#!/bin/sh\n" + script + "\n");

@@ -17,7 +17,7 @@ class PublishCommand : public EachServerPlace {
                   "<HEAD><![CDATA[<VANTORIUM_GALLERY_CREATIONDATE_SHORT>|"
                   "<VANTORIUM_GALLERY_CREATIONTIME_LONG>]]></HEAD><LAYOUT ");
   }
-  /// Creates the same gallery in the folder "out".
+  /// Creates the same gallery locally, in the folder "out".
   void Create() const {
     std::vector<std::string> arguments = {"create", "a.gpj", "out/index.htm"};
     arguments.insert(arguments.end(), kCreationTime.begin(), kCreationTime.end());

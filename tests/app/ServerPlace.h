@@ -5,20 +5,20 @@
 
 namespace vantorium {
 
-/// A workplace and a real server on loopback, whose password lies in the file "password".
+/// A workplace and a real server on loopback. The file "password" holds the server's password.
 class ServerPlace : public testing::Test {
  protected:
   explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
     place.Write("password", server.Password() + "\n");
   }
 
-  /// The options that lead to the server, the last of them the remote path.
+  /// The options that select the server, with the remote path as the last one.
   [[nodiscard]] std::vector<std::string> At(const std::string& remote) const {
     return {"--server", "127.0.0.1",   "--port",          std::to_string(server.Port()),
             "--user",   server.User(), "--password-file", "password",
             "--remote", remote};
   }
-  /// publish or upload of a project or a folder.
+  /// Options for publishing a project or uploading a folder.
   [[nodiscard]] StartOptions Options(const std::string& command, const std::string& what, const std::string& remote,
                                      const std::vector<std::string>& more = {}) const {
     std::vector<std::string> arguments = {command, what};
@@ -39,7 +39,7 @@ class ServerPlace : public testing::Test {
   fakes::FtpServerProcess server;
 };
 
-/// The same with each of the servers in turn.
+/// The same for each kind of server.
 class EachServerPlace : public ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
  protected:
   EachServerPlace() : ServerPlace(GetParam()) {}

@@ -8,7 +8,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-/// What `show` printed, which must be one whole JSON object and nothing else.
+/// What `show` printed, which must be one complete JSON object and nothing else.
 Json Shown(const ProcessResult& result) {
   EXPECT_TRUE(Json::accept(result.out)) << result.out;
   return Json::parse(result.out, nullptr, /*allow_exceptions=*/false);
@@ -21,14 +21,14 @@ Json ShowProject(const Workplace& place, const std::string& project) {
   return Shown(result);
 }
 
-/// The boxes of a project file that is not what it should be.
+/// The message boxes for an invalid project file.
 std::string InvalidProject(const std::string& path, const std::string& reason) {
   return "Invalid Project File: \"" + path +
          "\" could not be loaded in whole because it is not a valid Vantorium 3.0 Project File.\n\nReason: " + reason +
          "\nFile Error: An error occurred while opening the Gallery Project \"" + path + "\".\n";
 }
 
-// The defaults, but for the fields that a file gives another value than they had: a width that is there switches
+// Expects the defaults, except for fields that reading the file changes: a width in the file switches
 // checkThumbnailsImageSetWidth on.
 TEST(ShowCommand, ANewProjectIsShownWithEveryField) {
   const Workplace place;

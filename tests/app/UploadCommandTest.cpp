@@ -75,7 +75,7 @@ TEST_P(UploadCommand, VerbosePrintsEachStatusTextOnALine) {
                 place.Text("site") + "\\index.htm\"...\n");
 }
 
-// What is not there, not a folder, and not mapped.
+// A missing folder, a file, a folder on an unmapped drive, and no folder.
 TEST_P(UploadCommand, AFolderThatCannotBeReadIsAFailureBeforeAnyConnection) {
   for (const char* folder : {"missing", "site/index.htm", "Q:\\site", ""}) {
     const ProcessResult result = ChildProcess(Options("upload", folder, "web")).Finish();
@@ -107,7 +107,7 @@ TEST(UploadWithoutServer, IsAFailureWithAMessage) {
   place.Write("password", "hush-hush");
   place.Write("site/index.htm", "x");
   place.Project("a.gpj", {"a.jpg"});
-  // Port 1 of the machine itself, where nobody listens, and a host that cannot be.
+  // Port 1 on loopback, where nothing listens, a host that cannot exist, and no host.
   for (const char* host : {"127.0.0.1", "no-such-host.invalid", ""}) {
     for (const auto& [command, what] : {std::pair{"upload", "site"}, std::pair{"publish", "a.gpj"}}) {
       const ProcessResult result = place.Run({command, what, "--server", host, "--port", "1", "--user", "me",

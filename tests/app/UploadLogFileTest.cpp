@@ -5,7 +5,7 @@
 namespace vantorium {
 namespace {
 
-/// A workplace with a project whose run fails, since its photograph is none, and a folder that no server will take.
+/// A workplace with a project whose run fails, because its photograph is not a JPEG file, and with a folder to upload.
 class UploadLogFile : public testing::Test {
  protected:
   UploadLogFile() {
@@ -22,7 +22,7 @@ class UploadLogFile : public testing::Test {
     EXPECT_TRUE(EndedWith(1, result));
     return result;
   }
-  /// Port 1 of the machine itself, where nobody listens.
+  /// Uploads to port 1 on loopback, where nothing listens.
   void FailToUpload() const {
     EXPECT_TRUE(EndedWith(
         1, place.Run({"upload", "site", "--server", "127.0.0.1", "--port", "1", "--user", "me", "--password-file",
@@ -61,7 +61,7 @@ TEST_F(UploadLogFile, ALogThatCannotBeWrittenIsToldAndTheRunGoesOn) {
       << result.err;
 }
 
-/// The parts of a log between its header and its footer, or a failure.
+/// The log between its header and its footer. Fails the test if either is missing.
 std::string BodyOf(const std::string& log) {
   const std::string line = "\r\n" + std::string(70, '_') + "\r\n";
   const auto begin = log.find(line);

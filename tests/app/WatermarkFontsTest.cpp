@@ -8,16 +8,16 @@ using fakes::FontFolder;
 
 constexpr char kSans[] = "LiberationSans-Regular.ttf";
 
-/// A workplace with the project "a.gpj" of the photographs a.jpg and b.jpg.
+/// A workplace with the project "a.gpj", which has the photographs a.jpg and b.jpg.
 class WatermarkFonts : public testing::Test {
  protected:
   WatermarkFonts() { place.Project("a.gpj", {"a.jpg", "b.jpg"}); }
 
-  /// Gives the images or the thumbnails a watermark; `element` begins theirs in the project file.
+  /// Gives the images or the thumbnails a watermark; `element` is their start tag in the project file.
   void Mark(const std::string& element) {
     place.Replace("a.gpj", element, element + "<MODIFY><FILTER TYPE=\"watermark\" CAPTION=\"text\"/></MODIFY>");
   }
-  /// Creates the gallery in "out" on a machine that has these fonts.
+  /// Creates the gallery in "out" with only these fonts installed.
   ProcessResult Create(const FontFolder& fonts) {
     StartOptions options = place.Options({"create", "a.gpj", "out/index.htm"});
     options.environment["FONTCONFIG_FILE"] = fonts.Settings();
@@ -50,7 +50,7 @@ TEST_F(WatermarkFonts, AFontFileThatCannotBeReadIsNamed) {
   Mark("<IMAGES FOLDER=\"Images\">");
   const FontFolder fonts;
   const auto file = fonts.Add(kSans);
-  ASSERT_TRUE(Succeeded(Create(fonts)));  // from here on the font's data are remembered
+  ASSERT_TRUE(Succeeded(Create(fonts)));  // puts the font into Fontconfig's cache
   fonts.Break(kSans);
   const ProcessResult result = Create(fonts);
   EXPECT_TRUE(EndedWith(1, result));

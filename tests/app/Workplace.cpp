@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 namespace vantorium {
 namespace {
 
-/// The environment of this process, as sanitizers are told what to do there, without what the program looks at.
+/// This process's environment, which holds the sanitizers' options, with the variables that the program reads replaced.
 std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
   std::map<std::string, std::string> environment;
   for (char** variable = environ; *variable != nullptr; ++variable) {
@@ -28,7 +28,7 @@ std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
   return environment;
 }
 
-/// A soft slope of colors, so that the file is no larger than a photograph's.
+/// A smooth color gradient, so that the file is no larger than a photograph's.
 cDIBSection Slope(int width, int height, std::size_t seed) {
   cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no memory for a picture");

@@ -13,7 +13,7 @@
 
 namespace vantorium {
 
-/// A project whose images are files on drive C:, a folder of the test's own.
+/// A project whose images are files on drive C:, which is a temporary folder.
 class ImageListDesk : public testing::Test {
  protected:
   using Calls = std::vector<std::string>;
@@ -23,7 +23,7 @@ class ImageListDesk : public testing::Test {
     return folder.Write(name, std::string(size, 'x'));
   }
 
-  /// One image of a file of its own for each name.
+  /// Adds an image with its own file for each name.
   void Fill(const Names& names) {
     for (const std::string& name : names) {
       WriteFile(name);

@@ -65,9 +65,9 @@ TEST_F(Move, SelectedRowsGoOneDownOrUpAndStaySelected) {
       {{"b"}, {"a", "c", "b", "d"}, {"b", "a", "c", "d"}},
       {{"b", "c"}, {"a", "d", "b", "c"}, {"b", "c", "a", "d"}},
       {{"a"}, {"b", "a", "c", "d"}, {"a", "b", "c", "d"}},
-      {{"a", "c"}, {"b", "a", "d", "c"}, {"a", "b", "c", "d"}},  // the first row ends the walk up
+      {{"a", "c"}, {"b", "a", "d", "c"}, {"a", "b", "c", "d"}},  // moving up stops at the selected first row
       {{"d"}, {"a", "b", "c", "d"}, {"a", "b", "d", "c"}},
-      {{"b", "d"}, {"a", "b", "c", "d"}, {"b", "a", "d", "c"}},  // the last row ends the walk down
+      {{"b", "d"}, {"a", "b", "c", "d"}, {"b", "a", "d", "c"}},  // moving down stops at the selected last row
       {{"a", "b", "c", "d"}, {"a", "b", "c", "d"}, {"a", "b", "c", "d"}},
   };
   const Names start = {"a", "b", "c", "d"};
@@ -75,7 +75,7 @@ TEST_F(Move, SelectedRowsGoOneDownOrUpAndStaySelected) {
   for (const MoveCase& moveCase : cases) {
     for (const bool down : {true, false}) {
       SCOPED_TRACE(testing::Message() << testing::PrintToString(moveCase.selected) << (down ? " down" : " up"));
-      images.RenameAll("free");  // so that the names below are there to be given
+      images.RenameAll("free");  // frees the names that are assigned below
       for (std::size_t i = 1; i <= 4; ++i) images.Rename(i, start[i - 1]);
       images.DeselectAll();
       Select(moveCase.selected);

@@ -30,7 +30,8 @@ void PrintTo(const Declared& member, std::ostream* out) {
   *out << member.type << ' ' << member.name;
 }
 
-/// The member that a line of a header declares: two blanks, a type, a name. Comments and functions declare none.
+/// The member that a header's line declares as two blanks, a type and a name. Returns nullopt for comments and
+/// functions.
 std::optional<Declared> MemberIn(const std::string& line) {
   if (!line.starts_with("  ") || line.size() < 3 || std::isalpha(static_cast<unsigned char>(line[2])) == 0) return {};
   std::istringstream words(line);
@@ -40,7 +41,7 @@ std::optional<Declared> MemberIn(const std::string& line) {
   return member;
 }
 
-/// The data members of a struct as its header declares them, in order.
+/// The data members of a struct, in the order of declaration in its header.
 std::vector<Declared> MembersDeclaredIn(const std::string& header, const std::string& structName) {
   std::ifstream file(fakes::SourceFolder() / header);
   std::vector<Declared> members;
@@ -98,7 +99,7 @@ std::vector<std::string> NamesDeclaredIn(const std::string& header, const std::s
   return names;
 }
 
-/// With the names in the order of the declarations and the offsets rising, each name stands beside its own member.
+/// If names are in declaration order and offsets rise, each name is paired with its own member.
 template <typename Fields, typename Record>
 void ExpectRisingOffsets(const Fields& fields, const Record& record) {
   std::ptrdiff_t last = -1;
@@ -279,7 +280,7 @@ const std::vector<std::pair<std::string, std::string>>& NewProjectValues() {
   return values;
 }
 
-/// A value that no new project has.
+/// Sets a value that no new project has.
 struct Changed {
   void operator()(std::string& text) const { text += "#changed"; }
   void operator()(std::int16_t& number) const { number = 77; }

@@ -15,12 +15,12 @@ class ProjectSessionTest : public ::testing::Test {
  protected:
   void SetUp() override { session.NewProject(), desk.calls.clear(); }
 
-  /// As if the user had changed something.
+  /// Marks the project as changed, as a user's edit does.
   void Modify() {
     project.IsModified = true;
     project.settings.textGalleryTitle = "Changed";
   }
-  /// A project that has a file of its own.
+  /// Gives the project a file.
   void GiveItAFile(const std::string& name = "mine.gpj") {
     ASSERT_TRUE(session.SaveProjectTo(desk.PathOf(name)));
     desk.calls.clear();

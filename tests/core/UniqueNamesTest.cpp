@@ -106,7 +106,7 @@ TEST(UniqueNames, ClearFreesEverything) {
   EXPECT_EQ(names.Take("a"), "a_1");
 }
 
-// A search from 1 for each name would need hours here.
+// A search from 1 for each name would take hours here.
 TEST(UniqueNames, AHundredThousandEqualNamesAreNoBurden) {
   constexpr int kCount = 100'000;
   UniqueNames names;
@@ -119,7 +119,7 @@ TEST(UniqueNames, AHundredThousandEqualNamesAreNoBurden) {
   }
 }
 
-/// Compares with the plain rule on a long sequence of takes and releases.
+/// Compares with a plain implementation over a long sequence of takes and releases.
 TEST(UniqueNames, AgreesWithTheSearchFromOneOnMixedOperations) {
   UniqueNames names;
   std::vector<std::string> taken;

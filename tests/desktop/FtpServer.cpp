@@ -1,5 +1,5 @@
-// A real server on loopback for scripts: prints where it is as JSON, and serves until its standard input ends.
-// Use: test_ftp_server vsftpd|proftpd. Ends with 1 where the server does not start.
+// A real server on loopback for scripts. Prints its address as JSON, and serves until its standard input ends.
+// Usage: test_ftp_server vsftpd|proftpd. Exits with 1 if the server does not start.
 #include "tests/fakes/FtpServerProcess.h"
 
 #include <cstdio>

@@ -138,7 +138,7 @@ TEST(FileOutput, WhatIsNoRegularFileIsNotReplaced) {
 }
 
 TEST(FileOutput, OwnerGroupAndPermissionsOfTheOldFileStay) {
-  const bool isRoot = ::geteuid() == 0;  // who alone may give files away
+  const bool isRoot = ::geteuid() == 0;  // only root may change a file's owner
   const uid_t owner = isRoot ? 1234 : ::geteuid();
   const gid_t group = isRoot ? 2345 : ::getegid();
   const fakes::TemporaryFolder folder;

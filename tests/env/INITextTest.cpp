@@ -56,15 +56,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(Quirks, INIReading,
                          testing::Values(Reading{kTwoSections, "A", "y", "2"},  // found in a later section
-                                         Reading{kTwoSections, "C", "x", "3"},  // no such section: the last line counts
-                                         Reading{kTwoSections, "C", "y", std::nullopt},  // but no other
-                                         Reading{"x=1", "A", "x", "1"},                  //
-                                         Reading{"x=1\n", "A", "x", "1"},                // a line end begins no line
-                                         Reading{"x=1\n\n", "A", "x", std::nullopt},     // the last line is empty
-                                         Reading{"x=1\n[A]", "A", "x", std::nullopt},    // nothing behind the section
+                                         Reading{kTwoSections, "C", "x", "3"},  // no such section: reads the last line
+                                         Reading{kTwoSections, "C", "y", std::nullopt},     // but no other line
+                                         Reading{"x=1", "A", "x", "1"},                     //
+                                         Reading{"x=1\n", "A", "x", "1"},                   // a line end begins no line
+                                         Reading{"x=1\n\n", "A", "x", std::nullopt},        // the last line is empty
+                                         Reading{"x=1\n[A]", "A", "x", std::nullopt},       // no line after the section
                                          Reading{"x=1\n[A]\ny=2", "A", "x", std::nullopt},  //
-                                         Reading{"[A]\n x=1", "A", "x", std::nullopt},      // blanks before a key
-                                         Reading{"[A]\nx =1", "A", "x", std::nullopt},      // and behind it
+                                         Reading{"[A]\n x=1", "A", "x", std::nullopt},      // blank before a key
+                                         Reading{"[A]\nx =1", "A", "x", std::nullopt},      // blank after a key
                                          Reading{"[A]\nx= 1", "A", "x", " 1"},              //
                                          Reading{"  [a]  \nx=1", "A", "x", "1"},            //
                                          Reading{"[A]\n[A]\nx=1", "A", "x", "1"}));

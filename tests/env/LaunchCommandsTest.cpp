@@ -13,7 +13,7 @@ using Words = std::vector<std::string>;
 const char kFile[] = "C:\\temp\\a b\\index.htm";
 const char kNativeFile[] = "/home/me/temp/a b/index.htm";
 
-/// A shell whose first calls of Start fail, each with its own description, at once or when LetFail is called.
+/// A shell whose first calls of Start fail, each with its own description: at once, or, with `failsLater`, in LetFail.
 class FailingShell : public Shell {
  public:
   explicit FailingShell(std::size_t failures) : failures_(failures) {}
@@ -121,7 +121,7 @@ TEST_F(LaunchCommandsTest, WhenBothFailedTheSecondFailureIsTold) {
   EXPECT_EQ(both.started.size(), 2U);
 }
 
-/// The two attempts as the system makes them.
+/// Runs the two attempts as real processes.
 class ListedBrowserRuns : public testing::Test {
  protected:
   ListedBrowserRuns() {
@@ -131,7 +131,7 @@ class ListedBrowserRuns : public testing::Test {
   }
   [[nodiscard]] std::string Out() const { return (folder.Path() / "out").string(); }
 
-  /// What a browser that is watched for long enough was given.
+  /// Waits for the browser and returns the arguments it received.
   [[nodiscard]] std::string Run(ShellCommand command) const {
     command.watched = std::chrono::seconds(30);
     StartProcess(command);

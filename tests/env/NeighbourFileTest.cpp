@@ -57,7 +57,7 @@ TEST(NeighbourFile, WhatAKilledProcessOfTheSameNumberLeftIsNoHindrance) {
     NeighbourFile probe(folder.Path() / "a.jpg");
     left = NamesIn(folder.Path()).at(0);
   }
-  // The names are numbered: occupy the next ones.
+  // The names are numbered, so create files with the next numbers.
   const auto dash = left.rfind('-');
   const int number = std::stoi(left.substr(dash + 1));
   for (int n = 1; n <= 3; ++n) folder.Write(left.substr(0, dash + 1) + std::to_string(number + n), "half");
@@ -105,7 +105,7 @@ TEST(NeighbourFile, AProcessKilledWhileWritingCostsNoOldFile) {
   EXPECT_EQ(folder.Read("a.jpg"), "old");
 }
 
-/// The number of a process that has ended.
+/// The ID of a process that has ended.
 pid_t DeadProcess() {
   const pid_t child = ::fork();
   if (child == 0) ::_exit(0);

@@ -78,7 +78,8 @@ TEST(RegionalFormats, AnUnknownLocaleStillWritesSomething) {
   }
 }
 
-/// In a process of its own, whose ICU gets no memory: the end, with the failure's words on standard error.
+/// To be run in a separate process: makes ICU run out of memory, prints the failure's description to standard error and
+/// exits with 1.
 [[noreturn]] void MakeFormatsWithoutMemory() {
   UErrorCode status = U_ZERO_ERROR;
   u_setMemoryFunctions(

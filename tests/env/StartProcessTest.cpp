@@ -13,7 +13,7 @@ namespace {
 using fakes::FailureOf;
 using std::chrono::milliseconds;
 
-/// Long enough for anything that ends by itself.
+/// Long enough for every process that ends by itself.
 constexpr milliseconds kLong{30000};
 
 ShellCommand Script(const std::string& script, milliseconds watched = kLong) {

@@ -114,7 +114,7 @@ TEST_F(TempFolderLockTest, AFolderOfAnotherOwnerIsRefused) {
   const auto refusal = [](const fs::path& path) {
     return "The temporary folder is not used, as \"" + path.string() + "\" belongs to another user.";
   };
-  if (::geteuid() != 0) {  // nobody else may give folders away
+  if (::geteuid() != 0) {  // only root may change a folder's owner
     EXPECT_EQ(RefusalOfTempFolder("/usr"), refusal("/usr"));
     return;
   }

@@ -8,7 +8,7 @@
 
 namespace vantorium::fakes {
 
-/// Texts as full boxes of a given size, not turned, and a record of what was asked.
+/// Draws each text as a filled box of a given size, never rotated, and counts the drawn texts.
 class BoxTextRaster : public TextRaster {
  public:
   BoxTextRaster(std::int64_t width, std::int64_t height) : extent{width, height} {}

@@ -6,7 +6,7 @@
 
 namespace vantorium::fakes {
 
-/// Counts its turns, and does in each what the test asks for.
+/// Counts its turns and calls `onTurn` in each.
 class CountingEventLoop : public EventLoop {
  public:
   void Turn() override {

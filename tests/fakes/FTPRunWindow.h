@@ -8,7 +8,7 @@
 
 namespace vantorium::fakes {
 
-/// What the FTP client tells the window of its run.
+/// Records what the FTP client reports to the window of its run.
 class FTPRunWindow : public ProgressWindow {
  public:
   void Show() override {}

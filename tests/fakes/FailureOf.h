@@ -13,7 +13,7 @@ inline std::ostream& operator<<(std::ostream& stream, FailureKind kind) {
 
 namespace fakes {
 
-/// The failure that `operation` ends with; nothing when it succeeds.
+/// The failure that `operation` throws. Returns nullopt if it succeeds.
 template <typename Operation>
 std::optional<FailureKind> FailureOf(Operation operation) {
   try {

@@ -8,7 +8,7 @@
 
 namespace vantorium::fakes {
 
-/// The bytes of the files in `folder` and all folders in it, by their names below it. None when there is no folder.
+/// The bytes of all files in `folder` and its subfolders, by relative path. Empty if there is no such folder.
 [[nodiscard]] inline std::map<std::string, std::string> FilesBelow(const std::filesystem::path& folder) {
   std::map<std::string, std::string> files;
   if (!std::filesystem::exists(folder)) return files;

@@ -7,7 +7,7 @@
 
 namespace vantorium::fakes {
 
-/// The names of all that lies in a folder, hidden files too, sorted.
+/// The sorted names of a folder's entries, including hidden files.
 inline std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
   std::vector<std::string> names;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) names.push_back(entry.path().filename());

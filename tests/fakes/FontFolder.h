@@ -9,10 +9,10 @@
 
 namespace vantorium::fakes {
 
-/// Font settings of their own for what is started while it exists: no fonts but those that the test puts there.
+/// While it exists, FONTCONFIG_FILE leads to a configuration that has only the fonts that the test adds.
 class FontFolder {
  public:
-  /// `rules` are elements of the settings, in the words of Fontconfig.
+  /// `rules` are further elements of the Fontconfig configuration.
   explicit FontFolder(const std::string& rules = "") {
     std::filesystem::create_directory(folder_.Path() / "fonts");
     folder_.Write("fonts.conf", "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig><dir>" +
@@ -20,7 +20,7 @@ class FontFolder {
                                     (folder_.Path() / "cache").string() + "</cachedir>" + rules + "</fontconfig>");
   }
 
-  /// Puts a font of the machine there, such as "LiberationSans-Regular.ttf".
+  /// Adds an installed font, such as "LiberationSans-Regular.ttf". Throws std::runtime_error if it is not installed.
   std::filesystem::path Add(const std::string& file) const {
     for (const auto& entry : std::filesystem::recursive_directory_iterator("/usr/share/fonts")) {
       if (entry.path().filename() != file) continue;
@@ -30,7 +30,7 @@ class FontFolder {
     throw std::runtime_error("no font file " + file);
   }
 
-  /// Overwrites a font that the settings know already, so that it can't be opened any more.
+  /// Overwrites a font that Fontconfig already knows, so that it can no longer be opened.
   void Break(const std::string& file) const {
     std::fstream(FileOf(file), std::ios::in | std::ios::out | std::ios::binary) << std::string(100'000, '?');
   }

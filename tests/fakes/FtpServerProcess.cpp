@@ -24,12 +24,12 @@ namespace fs = std::filesystem;
 namespace vantorium::fakes {
 namespace {
 
-/// Of the password "open sesame", as crypt(3) makes it.
+/// The crypt(3) hash of the password "open sesame".
 constexpr const char* kPasswordHash =
     "$6$loopback$kkZXx2HbVINfBu18JfwVcTxcTnx.sz4BJMh0UtcuB47XtY9AbTbuR8kCsqZvmM6Bo5LXVZPGh320/A37NhdUU/";
 
-/// The root folder is writable, and the server has to live with that since it may not leave it. The user that stands for
-/// anonymous ones must exist; "nobody" does on every system, "ftp" only where the server's package was installed.
+/// Allows a writable root folder, because the server is confined to it. The user for anonymous logins must exist:
+/// "nobody" exists on every system, "ftp" only where the server's package was installed.
 constexpr const char* kVsftpdSettings = R"(listen=YES
 listen_ipv6=NO
 listen_address=127.0.0.1
@@ -98,7 +98,7 @@ std::uint16_t FreePort() {
   return ntohs(name.sin_port);
 }
 
-/// The beginning of what the server on that port says first; empty when there is none.
+/// The beginning of the greeting of the server on that port; empty if there is no server.
 std::string GreetingOf(std::uint16_t port) {
   const FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
   const timeval patience = {5, 0};
@@ -111,7 +111,7 @@ std::string GreetingOf(std::uint16_t port) {
   return greeting;
 }
 
-/// The first of these files that is there.
+/// The first of these files that exists. Throws std::runtime_error if none does.
 fs::path FirstOf(const std::vector<fs::path>& candidates) {
   for (const auto& candidate : candidates) {
     if (fs::exists(candidate)) return candidate;
@@ -119,7 +119,7 @@ fs::path FirstOf(const std::vector<fs::path>& candidates) {
   throw std::runtime_error(candidates.front().string() + " is missing: run packaging/install-dependencies tests");
 }
 
-/// Becomes the program, in a process group of its own that does not outlive the test. What it prints goes to a file.
+/// Executes the program in its own process group, to be killed when the test dies. Its output goes to a file.
 [[noreturn]] void Become(const std::vector<std::string>& command, const fs::path& output) {
   ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -193,14 +193,14 @@ bool FtpServerProcess::HasEnded() {
 bool FtpServerProcess::WaitUntilItListens() {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
   while (std::chrono::steady_clock::now() < end && !HasEnded()) {
-    // The server of another test may have been quicker: each has a name of its own.
+    // Another test's server may have taken the port first, so look for this server's unique name.
     if (GreetingOf(port_).find(Name()) != std::string::npos) return true;
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
   return false;
 }
 
-// The processes of open sessions belong to the server's group and end with it.
+// Kills the server's process group, which includes the processes of open sessions.
 void FtpServerProcess::End() {
   if (HasEnded()) return;
   ::kill(-process_, SIGKILL);

@@ -14,11 +14,11 @@ namespace vantorium::fakes {
 
 enum class FtpServerKind { Vsftpd, Proftpd };
 
-/// A real FTP server on loopback, on a port and with a folder of its own, for the user that runs the test, with the
-/// rights of that user. It is gone with the object, or when the test dies.
+/// A real FTP server on loopback, with its own port and folder. It runs as the test's user, with that user's rights. It
+/// is killed by the destructor, or when the test dies.
 class FtpServerProcess {
  public:
-  /// Throws std::runtime_error where the server is not installed or does not start, with what it said.
+  /// Throws std::runtime_error if the server is not installed, or, with the server's output, if it does not start.
   explicit FtpServerProcess(FtpServerKind kind);
   ~FtpServerProcess();
   FtpServerProcess(const FtpServerProcess&) = delete;
@@ -27,7 +27,7 @@ class FtpServerProcess {
   [[nodiscard]] std::uint16_t Port() const { return port_; }
   [[nodiscard]] std::string User() const { return user_; }
   [[nodiscard]] std::string Password() const { return "open sesame"; }
-  /// What the client sees as its first folder.
+  /// The folder in which a client's session starts.
   [[nodiscard]] std::filesystem::path Root() const { return folder_.Path() / "root"; }
 
  private:

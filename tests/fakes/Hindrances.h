@@ -12,7 +12,7 @@
 
 namespace vantorium::fakes {
 
-/// While it lives, no file grows beyond `bytes`, as on a disk that is full.
+/// While it lives, no file can grow beyond `bytes`, as on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) : oldAction_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -32,7 +32,7 @@ class FullDisk {
   void (*oldAction_)(int);
 };
 
-/// While it lives, the program gets no more than `bytes` of address space beyond what it has.
+/// While it lives, the process can allocate at most `bytes` more of address space.
 class MemoryLimit {
  public:
   explicit MemoryLimit(std::uint64_t bytes) {
@@ -50,14 +50,14 @@ class MemoryLimit {
   rlimit old_ = {};
 };
 
-/// While it lives, nothing can be made or removed in `folder`, not even when the tests run as root: they do without
-/// root's rights then.
+/// While it lives, nothing can be created or removed in `folder`. Tests that run as root give up root's rights
+/// meanwhile.
 class LockedFolder {
  public:
   explicit LockedFolder(const std::filesystem::path& folder) : folder_(folder) {
     std::filesystem::permissions(folder, std::filesystem::perms(0555));
     if (::geteuid() != 0) return;
-    // The way to the folder has to stay open to the user without rights.
+    // The unprivileged user must still be able to reach the folder.
     const auto end = std::filesystem::temp_directory_path();
     for (auto above = folder.parent_path(); above != end && above.has_relative_path(); above = above.parent_path()) {
       std::filesystem::permissions(above, std::filesystem::perms(0755));
@@ -79,7 +79,7 @@ class LockedFolder {
   bool isRoot_ = false;
 };
 
-/// Sets an environment variable, or takes it away, while it lives.
+/// While it lives, sets an environment variable, or removes it if `value` is null.
 class EnvironmentVariable {
  public:
   EnvironmentVariable(const char* name, const char* value) : name_(name) {

@@ -33,7 +33,7 @@ void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
   codec.input_components = ChannelsOf(recipe.colors);
   ChooseColors(codec, recipe.colors);
   jpeg_set_quality(&codec, recipe.quality, TRUE);
-  // The key channels, luminance and black, stay fine.
+  // Luminance and black are not subsampled.
   const bool sampled = recipe.colors == JpegColors::YCbCr || recipe.colors == JpegColors::YCCK;
   for (int i = 0; i < codec.num_components; ++i) {
     const bool fine = sampled && (i == 0 || i == 3);
@@ -59,7 +59,7 @@ unsigned ByteAt(std::string_view jpeg, std::size_t place) {
   return static_cast<unsigned char>(jpeg.at(place));
 }
 
-// Walks the segments from the start of the file to the first that `wanted` takes.
+// Finds the first segment whose marker `wanted` accepts.
 template <typename Wanted>
 std::size_t SegmentOf(std::string_view jpeg, Wanted wanted) {
   std::size_t place = 2;

@@ -12,44 +12,44 @@ namespace vantorium::fakes {
 
 enum class JpegColors { Grey, YCbCr, RGB, CMYK, YCCK };
 
-/// How a JPEG file is made.
+/// How to make a JPEG file.
 struct JpegRecipe {
   int width = 37;
   int height = 29;
   JpegColors colors = JpegColors::YCbCr;
-  int horizontal = 2;  ///< chroma is so many times coarser
+  int horizontal = 2;  ///< chroma subsampling factor
   int vertical = 2;
   bool progressive = false;
-  bool scanPerChannel = false;  ///< each channel in a scan of its own, one after the other
+  bool scanPerChannel = false;  ///< one scan for each channel
   bool arithmetic = false;
-  unsigned restartEvery = 0;  ///< blocks of pixels between restart markers; 0 is none
+  unsigned restartEvery = 0;  ///< number of MCUs between restart markers; 0: no markers
   int quality = 90;
-  bool adobeMarker = true;  ///< in files of four inks; without it they are CMYK
+  bool adobeMarker = true;  ///< whether a file has the Adobe marker; four inks without it are CMYK
 };
 std::ostream& operator<<(std::ostream& stream, const JpegRecipe& recipe);
 
-/// One of each kind that the program has to read, in several sizes.
+/// One recipe for each kind of file that the program has to read, in several sizes.
 [[nodiscard]] std::vector<JpegRecipe> EveryKindOfJpeg();
 
-/// The channels of a pixel from the left and the top: grey; red, green, blue; or four inks as the file holds them.
+/// The channels of the pixel at (x, y) from the top left: gray; red, green, blue; or four inks as stored in the file.
 using JpegPixels = std::function<std::array<std::uint8_t, 4>(int x, int y)>;
 
-/// The bytes of a file, of a drawn picture with smooth and rough parts or of the given pixels.
+/// The bytes of a file with a synthetic picture, which has smooth and rough parts, or with the given pixels.
 [[nodiscard]] std::string MakeJpeg(const JpegRecipe& recipe);
 [[nodiscard]] std::string MakeJpeg(const JpegRecipe& recipe, const JpegPixels& pixels);
 
-/// The library's own decoding of a file of one or three channels: rows from the top, red, green, blue.
+/// Decodes a file of one or three channels with libjpeg-turbo alone: rows from the top, red, green, blue.
 [[nodiscard]] std::vector<std::uint8_t> DecodeToRGB(const std::string& jpeg);
 
-/// Where the frame header's marker begins.
+/// The offset of the frame header's marker.
 [[nodiscard]] std::size_t FrameHeaderOf(std::string_view jpeg);
-/// Where the entropy-coded data of the first scan begin.
+/// The offset of the first scan's entropy-coded data.
 [[nodiscard]] std::size_t PictureDataOf(std::string_view jpeg);
 
-/// The file with another size or precision in its header; the data stay.
+/// The file with another size or precision in its header and the same data.
 [[nodiscard]] std::string ClaimingSize(std::string jpeg, int width, int height);
 [[nodiscard]] std::string ClaimingPrecision(std::string jpeg, int bits);
-/// The file with bytes put in.
+/// The file with `bytes` inserted at `place`.
 [[nodiscard]] std::string WithBytesAt(std::string jpeg, std::size_t place, std::string_view bytes);
 
 }  // namespace vantorium::fakes

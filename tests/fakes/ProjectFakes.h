@@ -15,7 +15,7 @@
 
 namespace vantorium::fakes {
 
-/// The calls of all ports in their order.
+/// The calls of all ports, in order.
 using Calls = std::vector<std::string>;
 
 class RecordingSessionHost : public ProjectSessionHost {
@@ -41,7 +41,7 @@ class RecordingSessionHost : public ProjectSessionHost {
   Calls& calls_;
 };
 
-/// Chooses what `answers` holds, in order, and then nothing.
+/// Returns the paths in `answers`, in order, then empty texts.
 class ScriptedProjectFileDialog : public ProjectFileDialog {
  public:
   explicit ScriptedProjectFileDialog(Calls& calls) : calls_(calls) {}
@@ -62,7 +62,7 @@ class ScriptedProjectFileDialog : public ProjectFileDialog {
   Calls& calls_;
 };
 
-/// A message box that also stands among the calls of the other ports, as its title.
+/// A message box that also adds its title to the calls of the other ports.
 class RecordedBoxes : public RecordingMessageBox {
  public:
   explicit RecordedBoxes(Calls& calls) : calls_(calls) {}
@@ -76,7 +76,7 @@ class RecordedBoxes : public RecordingMessageBox {
   Calls& calls_;
 };
 
-/// One project, its session and a folder for its files.
+/// A project, its session and a folder for its files.
 struct ProjectDesk {
   TemporaryFolder folder;
   Calls calls;
@@ -92,10 +92,10 @@ struct ProjectDesk {
   ImageListOperations images{project, files, boxes, display};
   ProjectSession session{project, images, {paths, boxes, dialog, host, events}};
 
-  /// Path text of a file below the folder, whether or not it is there.
+  /// Path text of a file in the folder. The file need not exist.
   [[nodiscard]] std::string PathOf(const std::string& name) const { return paths.ToText(folder.Path() / name); }
 
-  /// Path text of a new file.
+  /// Writes a file and returns its path text.
   std::string File(const std::string& name, std::string_view bytes = "bytes") const {
     return paths.ToText(folder.Write(name, bytes));
   }
@@ -105,7 +105,7 @@ struct ProjectDesk {
   }
 };
 
-/// All settings by their names, those of records as "ImageFilters.sliderFade", for comparisons that show what differs.
+/// All settings by name, those of records as "ImageFilters.sliderFade". Comparing them shows which ones differ.
 inline std::map<std::string, std::string> SettingTexts(const GalleryProject& project) {
   std::map<std::string, std::string> texts;
   const auto put = [&texts](const std::string& name, const auto& value) {

@@ -7,7 +7,7 @@
 
 namespace vantorium::fakes {
 
-/// The parts of a small project file that reads; a test replaces the one that it is about.
+/// The parts of a small valid project file. Each test replaces the one that it is about.
 struct ProjectFileParts {
   std::string gallery = "TITLE=\"Holidays\"";
   std::string layout = "<LAYOUT TYPE=\"singleframe\"/>";
@@ -22,7 +22,7 @@ struct ProjectFileParts {
   }
 };
 
-/// Reads project files out of texts.
+/// Reads project files from texts.
 class ProjectReading {
  public:
   bool Read(const std::string& text) {
@@ -38,13 +38,13 @@ class ProjectReading {
     ProjectFileReader reader(desk.project, desk.images, desk.paths, desk.boxes, desk.host, desk.events);
     return reader.ReadProjectFile(path);
   }
-  /// The reason that the only box gives.
+  /// The reason in the only message box.
   [[nodiscard]] std::string Reason() const {
     if (desk.boxes.boxes.size() != 1 || desk.boxes.boxes[0].title != "Invalid Project File") return "no such box";
     const std::string& text = desk.boxes.boxes[0].text;
     return text.substr(text.find("Reason: ") + 8);
   }
-  /// Title and text of the only box.
+  /// Title and text of the only message box.
   [[nodiscard]] std::string Box() const {
     return desk.boxes.boxes.size() == 1 ? desk.boxes.boxes[0].title + ": " + desk.boxes.boxes[0].text : "not one box";
   }

@@ -7,7 +7,7 @@
 
 namespace vantorium::fakes {
 
-/// Records what the desktop is asked for.
+/// Records the calls.
 class RecordingDesktop : public Shell {
  public:
   void Beep(BeepKind kind) override { beeps.push_back(kind); }

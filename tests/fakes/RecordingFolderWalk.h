@@ -7,7 +7,7 @@
 
 namespace vantorium::fakes {
 
-/// Records what a walk shows, and has Stop pressed once `cancelAt` images were added.
+/// Records what a walk shows, and presses Stop once `cancelAt` images have been added.
 class RecordingFolderWalk : public FolderWalkProgress {
  public:
   void Open() override { calls.emplace_back("open"); }

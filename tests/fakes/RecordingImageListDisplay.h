@@ -7,7 +7,7 @@
 
 namespace vantorium::fakes {
 
-/// Records what the operations on the image list ask of their window, in order.
+/// Records, in order, the calls that the image list's operations make to their window.
 class RecordingImageListDisplay : public ImageListDisplay {
  public:
   void ShowWaitPointer() override { calls.emplace_back("wait"); }

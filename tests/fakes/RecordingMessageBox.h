@@ -8,7 +8,7 @@
 
 namespace vantorium::fakes {
 
-/// Records each message box and answers from a script; beyond the script Ok, or Yes to a question.
+/// Records each message box and answers from a script. After the script's end answers Ok, or Yes to a question.
 class RecordingMessageBox : public MessageBoxPort {
  public:
   struct Box {

@@ -13,10 +13,10 @@
 
 namespace vantorium::fakes {
 
-/// What happened during a run, in its order, across all its ports.
+/// What happened during a run, in order, across all its ports.
 using Journal = std::vector<std::string>;
 
-/// An event loop that counts its turns and may do something in one of them.
+/// Counts its turns and calls `onTurn` in each.
 class ScriptedLoop : public EventLoop {
  public:
   void Turn() override {
@@ -49,19 +49,19 @@ class RecordingShell : public Shell {
     };
     if (!failsLater) LetFail();
   }
-  /// The program that was started last is found to have failed.
+  /// Reports that the program that was started last has failed.
   void LetFail() { std::exchange(later, nullptr)(); }
 
-  bool fails = false;           ///< OpenFile does
-  int startsThatFail = 0;       ///< so many calls of Start fail first
-  bool failsLater = false;      ///< these wait for LetFail
+  bool fails = false;           ///< whether OpenFile throws
+  int startsThatFail = 0;       ///< number of calls of Start that fail before one succeeds
+  bool failsLater = false;      ///< failures of Start wait for LetFail
   std::function<void()> later;  ///< what LetFail does
 
  private:
   Journal& journal_;
 };
 
-/// What a ProgressWindow was told. It outlives the window, which a run destroys at its end.
+/// The calls of a ProgressWindow. The record outlives the window, which a run destroys at its end.
 struct ProgressRecord {
   std::string caption;
   std::string text1;

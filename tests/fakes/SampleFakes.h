@@ -12,7 +12,7 @@
 
 namespace vantorium::fakes {
 
-/// A picture in one color, 0x00BBGGRR, with a ramp of brightness in its rows where `ramp` is not 0.
+/// A picture in one color, 0x00BBGGRR. Each column is brighter by `ramp` than the one before.
 inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::uint32_t color, int ramp = 0) {
   cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no picture");
@@ -27,7 +27,7 @@ inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::ui
   return picture;
 }
 
-/// The bytes of a picture without its padding, for comparisons.
+/// The bytes of a picture without padding, for comparisons.
 inline std::string BytesOf(const cDIBSection& picture) {
   std::string bytes;
   for (std::int32_t y = 0; y < picture.height(); ++y) {
@@ -48,7 +48,7 @@ class RecordingSampleBox : public SampleBox {
   }
   void HideDialog() override { calls += "hide "; }
 
-  /// Red, green and blue of the middle of the last picture, each rounded to a multiple of 32.
+  /// Red, green and blue in the middle of the last picture, each rounded to a multiple of 32.
   [[nodiscard]] std::string MiddleColor() const {
     if (painted.empty()) return "none";
     const auto at = static_cast<std::size_t>(paintedSize.height / 2 * paintedSize.width + paintedSize.width / 2) * 3;
@@ -81,7 +81,7 @@ struct SampleDesk {
     return folder.Path() / "temp" / "VANTORIUM_TEMP" / "preview_temp.jpg";
   }
   [[nodiscard]] SamplePorts Ports() { return {files, boxes, loop}; }
-  /// Puts a file where the temporary folder was, so that none can be made.
+  /// Replaces the temporary folder by a file, so that none can be created.
   void BlockTempFolder() {
     std::filesystem::remove_all(TempFile().parent_path());
     folder.Write(TempFile().parent_path().lexically_relative(folder.Path()), "");

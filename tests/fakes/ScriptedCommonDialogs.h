@@ -8,8 +8,8 @@
 
 namespace vantorium::fakes {
 
-/// Answers with what the script holds, in order; nothing, and at its end, is Cancel. A font that is chosen keeps what
-/// the test does not change.
+/// Answers from the scripts `colors` and `fonts`, in order. An empty answer is Cancel, and so is every answer after the
+/// script's end.
 class ScriptedCommonDialogs : public mCommonDialogs {
  public:
   [[nodiscard]] bool ShowColorDialog(std::uint32_t& color, CustomColors& /*custom*/) override {

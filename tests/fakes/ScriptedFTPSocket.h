@@ -11,8 +11,8 @@
 
 namespace vantorium::fakes {
 
-/// A socket without a network. It notes each call that changes something in a journal, which several may share, and
-/// plays what the test put into its fields.
+/// A socket without a network. Records each call that changes something in a journal, which several sockets can share.
+/// Answers with what the test put into its fields.
 class ScriptedFTPSocket : public FTPSocket {
  public:
   ScriptedFTPSocket(std::string name, std::vector<std::string>& journal) : name_(std::move(name)), journal_(journal) {}
@@ -74,8 +74,8 @@ class ScriptedFTPSocket : public FTPSocket {
   int connectResult = 0;
   int listenResult = 0;
   bool acceptFails = false;
-  std::deque<std::string> reads;            ///< what Read gives, one after the other; then the end of the stream
-  std::deque<std::ptrdiff_t> writeResults;  ///< what Write gives; then the length
+  std::deque<std::string> reads;            ///< what Read returns, in order; then the end of the stream
+  std::deque<std::ptrdiff_t> writeResults;  ///< what Write returns, in order; then the length
   std::function<std::size_t(std::size_t)> onWriteBytes;
   FTPSocketSettings settings;
   std::vector<std::string> blocks;

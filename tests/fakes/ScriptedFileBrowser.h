@@ -6,7 +6,7 @@
 
 namespace vantorium::fakes {
 
-/// Has the user choose `answer` each time.
+/// Returns `answer` each time.
 class ScriptedFileBrowser : public FileBrowser {
  public:
   FileDialogResult DisplayFileDialog(const FileDialogRequest& request) override {

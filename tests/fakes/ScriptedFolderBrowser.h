@@ -9,7 +9,7 @@
 
 namespace vantorium::fakes {
 
-/// Chooses the folders of its script, in order; nothing, and at its end, is Cancel.
+/// Chooses the folders of its script, in order. An empty entry is Cancel, and so is every choice after the end.
 class ScriptedFolderBrowser : public FolderBrowser {
  public:
   [[nodiscard]] std::optional<std::string> BrowseForFolder(const std::string& title,

@@ -15,17 +15,18 @@
 
 namespace vantorium::fakes {
 
-/// An FTP server in a thread of the test, on loopback and a free port, that does what real servers do only sometimes.
-/// It keeps files in memory, one session after the other. Every wait ends with the object, and after 20 seconds.
+/// An FTP server in a thread of the test, on a free loopback port, that can do what real servers do only sometimes. It
+/// keeps files in memory and serves one session at a time. Every wait ends after 20 seconds, the server's own also when
+/// the object is destroyed.
 class ScriptedFtpServer {
  public:
   class Session;
   using Handler = std::function<void(Session&, const std::string& argument)>;
 
   struct Script {
-    /// In place of the greeting.
+    /// Called instead of sending the greeting.
     std::function<void(Session&)> greet;
-    /// In place of the usual answer to a verb.
+    /// Called instead of the usual answer, by verb.
     std::map<std::string, Handler> on;
   };
 
@@ -35,19 +36,19 @@ class ScriptedFtpServer {
   ScriptedFtpServer& operator=(const ScriptedFtpServer&) = delete;
 
   [[nodiscard]] std::uint16_t Port() const { return port_; }
-  /// What was received, line by line, and what is stored.
+  /// The received lines, and the stored files.
   [[nodiscard]] std::vector<std::string> Commands() const;
   [[nodiscard]] std::map<std::string, std::string> Files() const;
   void PutFile(const std::string& name, const std::string& bytes);
-  /// Whether a command that begins so has come.
+  /// Whether a command that begins with `command` has been received.
   [[nodiscard]] bool HasHeard(std::string_view command) const;
-  /// Waits until one has come; false when none did.
+  /// Waits for such a command. Returns false if none comes.
   [[nodiscard]] bool WaitToHear(std::string_view command) const;
 
  private:
   void Serve();
   void Note(const std::string& command);
-  /// Waits until there is something to read; false at the end of the server or when it took too long.
+  /// Waits until there is something to read. Returns false if the server stops or the wait takes too long.
   [[nodiscard]] bool WaitToRead(int descriptor) const;
 
   Script script_;
@@ -60,29 +61,29 @@ class ScriptedFtpServer {
   std::thread thread_;
 };
 
-/// One client's control connection, and the data connection that belongs to it.
+/// A client's control connection and its data connection.
 class ScriptedFtpServer::Session {
  public:
   Session(ScriptedFtpServer& server, int control);
 
   /// Answers commands until the client or the script hangs up.
   void Run();
-  /// What a well-behaved server does.
+  /// Answers as a well-behaved server does.
   void Answer(const std::string& verb, const std::string& argument);
 
   void Say(std::string_view text) const;
-  /// Each byte as a packet of its own.
+  /// Sends each byte in its own packet.
   void SayByteByByte(std::string_view text) const;
-  /// Says nothing until the client goes or the server ends.
+  /// Sends nothing until the client disconnects or the server stops.
   void StaySilent();
   void HangUp();
 
-  /// Connects to where the client listens, from `source`; false when it does not.
+  /// Connects from `source` to the client's listening port. Returns false if that fails.
   bool OpenData(const char* source = "127.0.0.1");
-  /// Reads at most `most` bytes into the file; true at the end of the stream.
+  /// Reads at most `most` bytes into the file. Returns true at the end of the stream.
   bool Receive(const std::string& name, std::size_t most = static_cast<std::size_t>(-1));
   void CloseData() { data_.reset(); }
-  /// Drops the data connection with a reset.
+  /// Resets the data connection.
   void ResetData();
 
  private:

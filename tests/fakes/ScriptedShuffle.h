@@ -7,8 +7,8 @@
 
 namespace vantorium::fakes {
 
-/// Everything a shuffle works with in one object: repeats the scripted numbers, records the bar and the turns, and has
-/// Stop pressed in turn `stopInTurn`.
+/// All tools of a shuffle in one object: repeats the scripted numbers, records the progress bar and the turns, and
+/// presses Stop in turn `stopInTurn`.
 class ScriptedShuffle : private ShuffleProgress, private EventLoop, private RandomNumbers {
  public:
   explicit ScriptedShuffle(std::vector<double> numbers) : numbers_(std::move(numbers)) {}

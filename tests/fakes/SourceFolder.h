@@ -4,7 +4,7 @@
 
 namespace vantorium::fakes {
 
-/// The project's root folder, as the build saw it.
+/// The project's root folder at build time.
 [[nodiscard]] std::filesystem::path SourceFolder();
 
 }  // namespace vantorium::fakes

@@ -12,7 +12,7 @@
 
 namespace vantorium::fakes {
 
-/// A folder of the test's own, removed with all it holds at the end.
+/// A new folder. The destructor removes it and everything in it.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -29,7 +29,7 @@ class TemporaryFolder {
 
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
-  /// Writes a file below the folder, with the folders it needs, and returns its path.
+  /// Writes a file in the folder, creates the subfolders it needs, and returns its path.
   std::filesystem::path Write(const std::filesystem::path& name, std::string_view bytes) const {
     const auto target = path_ / name;
     std::filesystem::create_directories(target.parent_path());

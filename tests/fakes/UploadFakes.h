@@ -11,7 +11,7 @@
 
 namespace vantorium::fakes {
 
-/// A server that takes everything, writes down what it was asked, and refuses or fails where the test wants it.
+/// Records the calls. Every call succeeds except for the paths `refused` and `broken`.
 class RecordingUploads : public FTPUploads {
  public:
   [[nodiscard]] bool FTPCreateDirectoryPath(const std::string& path) override { return Answer("make " + path, path); }
@@ -20,8 +20,8 @@ class RecordingUploads : public FTPUploads {
   }
 
   std::vector<std::string> calls;
-  std::string refused;  ///< remote path for which the answer is false
-  std::string broken;   ///< remote path for which the client fails at run time
+  std::string refused;  ///< remote path for which the calls return false
+  std::string broken;   ///< remote path for which the calls throw RuntimeFailure
   std::function<void()> onCall;
 
  private:
@@ -33,7 +33,7 @@ class RecordingUploads : public FTPUploads {
   }
 };
 
-/// Counts the polls; it is a cancel from one of them on, or as soon as the test says so.
+/// Counts the polls. Reports a cancel from poll `cancelAtPoll` on, if not 0, or while `cancelled` is set.
 class ScriptedCancel : public CancelPoll {
  public:
   [[nodiscard]] bool CheckForCancel(ProgressWindow& progress) override {

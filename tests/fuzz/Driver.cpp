@@ -1,5 +1,5 @@
-// The main program of a fuzz target: replays its corpus, and then random changes of it. Each input lies in a file while
-// it is worked on, and a process of its own does the work, so that the input is there however that process ends.
+// The main program of a fuzz target: replays its corpus, then random mutations of it. A separate process runs the
+// target and stores each input in a file first, so that the input survives however that process ends.
 #include "env/FileDescriptor.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/fuzz/FuzzTarget.h"
@@ -24,9 +24,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// An input that takes longer is taken for one without an end; the seconds leave room for a busy machine.
+// An input that takes longer is considered to hang. The limit allows for a busy machine.
 constexpr unsigned kMostSeconds = 60;
-// Of the whole process, with what a sanitizer keeps.
+// Limits the whole process, including a sanitizer's own memory.
 constexpr long kMostKilobytes = 1L << 20;
 
 struct Options {
@@ -46,7 +46,7 @@ void Store(const FileDescriptor& file, const std::string& input) {
 
 void RunOne(const FileDescriptor& file, const std::string& input) {
   Store(file, input);
-  // A copy without a byte to spare, so that a look behind the end is seen.
+  // An exact-size copy, so that the address sanitizer sees reads past the end.
   const std::vector<std::uint8_t> bytes(input.begin(), input.end());
   ::alarm(kMostSeconds);
   LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
@@ -78,7 +78,7 @@ void RunAll(const Options& options, const FileDescriptor& file) {
   for (std::uint64_t round = 0; round < options.rounds; ++round) RunOne(file, mutator.Next());
 }
 
-/// The process that works. It returns through main, so that a look for leaks takes place.
+/// Runs in the worker process. It returns through main so that the leak check runs.
 int Work(const Options& options, const FileDescriptor& file) {
   try {
     RunAll(options, file);
@@ -96,7 +96,7 @@ std::string EndOf(int status) {
                            : fmt::format("ended by: {}", ::strsignal(signal));
 }
 
-/// Waits for the process that works, and tells where its last input is when it did not end well.
+/// Waits for the worker process. If it failed, prints where its last input is.
 int Watch(const char* program, pid_t worker, const fs::path& input) {
   int status = 0;
   if (::waitpid(worker, &status, 0) == worker && status == 0) {

@@ -1,5 +1,5 @@
-// Replies of an FTP server. The input: a line of letters for what fails besides, a line with the path on the server,
-// and then what the server says, one piece for each read, with "|" between two of them.
+// Replies of an FTP server. The input is a line of letters, one for each fault to inject, a line with the path on the
+// server, and then the server's output in one piece for each read, separated by "|".
 #include "env/RuntimeFailure.h"
 #include "publish/FTPReply.h"
 #include "publish/mFTP.h"
@@ -33,7 +33,7 @@ struct Script {
   [[nodiscard]] bool Has(char fault) const { return faults.find(fault) != std::string::npos; }
 };
 
-/// Code and text of a reply; nothing when a line of it is none.
+/// Code, completeness and text of a reply. Returns nullopt if a line of it is invalid.
 std::optional<std::string> Told(std::string_view text, std::size_t pieceSize) {
   FTPReply reply;
   try {

@@ -9,7 +9,7 @@
 namespace vantorium::fuzz {
 namespace {
 
-/// A text with its unprintable bytes as "\x0A".
+/// The text with unprintable bytes escaped, such as "\x0A".
 std::string Printable(std::string_view text) {
   constexpr std::size_t kMost = 4000;
   std::string printable;

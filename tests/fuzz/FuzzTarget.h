@@ -5,24 +5,25 @@
 #include <string>
 #include <string_view>
 
-/// What a fuzz target defines: it feeds the bytes to one reader of foreign bytes and requires what must hold for any
-/// bytes at all. Returns 0. Whatever it keeps from one input to the next must not change how an input is read.
+/// Defined by each fuzz target: passes the bytes to one reader of untrusted input and requires what must hold for any
+/// input. Returns 0. State kept from one input to the next must not change how an input is read.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace vantorium::fuzz {
 
-/// The most bytes of an input: what takes longer to read says nothing more about the reader.
+/// The maximum size of an input in bytes. Longer inputs take more time but test nothing more.
 inline constexpr std::size_t kMostInputBytes = std::size_t{16} << 10U;
 
-/// Ends the process, as a crash would, with the rule that was broken.
+/// Prints the rule and aborts the process unless `holds`.
 void Require(bool holds, std::string_view rule);
-/// The same, and shows the two texts.
+/// The same unless the texts are equal, and prints both.
 void RequireEqual(std::string_view left, std::string_view right, std::string_view rule);
 
-/// The bytes as text; longer inputs are cut.
+/// The bytes as text, cut at kMostInputBytes.
 [[nodiscard]] std::string InputText(const std::uint8_t* data, std::size_t size);
 
-/// Takes what stands in front of the next `separator` off `rest`, all of it when there is none.
+/// Removes the text before the next `separator`, and the separator, from `rest` and returns that text. Without a
+/// separator returns all of `rest`.
 [[nodiscard]] std::string TakePart(std::string_view& rest, char separator);
 
 }  // namespace vantorium::fuzz

@@ -1,4 +1,4 @@
-// Preference-like files: the lines of the input but its last are the file, the last is a value to write.
+// Files in the format of the preferences. The last line of the input is a value to write, the lines before it the file.
 #include "env/INIText.h"
 #include "env/Preferences.h"
 #include "env/RuntimeFailure.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kSection = "FOLDERS";
 constexpr std::string_view kKey = "ProjectFolder";
 
-/// The preferences file of a program that is alone in its folder.
+/// A folder with nothing but a preferences file.
 struct Place {
   fakes::TemporaryFolder folder;
   std::filesystem::path file = folder.Path() / "preferences";
@@ -33,7 +33,7 @@ std::vector<std::string> LinesOf(std::string_view text) {
   return lines;
 }
 
-/// The lines of `before` that are not in `after`, which has others in one place.
+/// The lines of `before` that `after` lacks, if the two differ in one place only.
 std::vector<std::string> LinesLost(std::string_view before, std::string_view after) {
   const auto old = LinesOf(before);
   const auto now = LinesOf(after);
@@ -63,14 +63,14 @@ void CheckInteger(const Place& place) {
   }
 }
 
-/// `writable`: no value can hold a NUL. Such a value is not written, and may be missing then.
+/// `writable`: no value contains a NUL. Such a value is not written and may then be missing.
 void CheckPreferences(const Place& place, bool writable) {
   Preferences preferences = place.Read();
   fuzz::Require(preferences.Browsers.size() <= kMostBrowsers, "there are no more browsers than may be");
   fuzz::Require(!preferences.CreateFolder.empty() && !preferences.GalleryIndexFileName.empty(), "defaults stand in");
   WritePreferences(preferences, place.file);
   const Preferences again = place.Read();
-  preferences.Browsers = again.Browsers;  // not written here; a key of theirs may be found in any section
+  preferences.Browsers = again.Browsers;  // not written here, but their keys may be found in any section
   fuzz::Require(again == preferences || !writable, "preferences come back");
 }
 
@@ -79,7 +79,7 @@ void CheckBrowsers(const Place& place) {
   try {
     WriteBrowsers(browsers, place.file);
     fuzz::Require(place.Read().Browsers == browsers, "browsers come back");
-  } catch (const RuntimeFailure&) {  // a text that a value can't be
+  } catch (const RuntimeFailure&) {  // a text that cannot be a value
   }
 }
 
@@ -88,7 +88,7 @@ void CheckBrowsers(const Place& place) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const Place place;
   const std::string input = fuzz::InputText(data, size);
-  const auto lastLine = input.rfind('\n') + 1;  // npos + 1 is 0
+  const auto lastLine = input.rfind('\n') + 1;  // 0 if there is no line end, as npos + 1 is 0
   const std::string text = input.substr(0, lastLine);
   const std::string value = ReplaceAll(input.substr(lastLine), "\r", "");
   CheckWriting(text, value);

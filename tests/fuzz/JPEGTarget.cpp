@@ -1,4 +1,4 @@
-// JPEG files: the size, the whole picture, and small pictures made of some of its rows.
+// JPEG files: the size, the whole picture, and small pictures made from some of its rows.
 #include "image/JPEG.h"
 #include "image/JPEGDecoder.h"
 #include "image/Picture.h"
@@ -10,7 +10,7 @@ using namespace vantorium;
 
 namespace {
 
-// Claims of more are believed where a file of that length can hold them, but take their time.
+// Larger claimed sizes are accepted if a file of that length can hold them, but take too long here.
 constexpr std::int64_t kMostPixels = 1 << 16;
 
 PictureRecipe Sized(std::int32_t width, std::int32_t height) {
@@ -23,7 +23,8 @@ std::string MadeOfTheWhole(const cDIBSection& whole, const PictureRecipe& recipe
   return EncodeJPEG(*Resample(whole, recipe.size->height, recipe.size->width), recipe.filters.sliderQuality);
 }
 
-/// An output of a few rows leaves out most of the file's, a higher one some.
+/// Compares the output with one made from the whole picture. A low output skips most of the file's rows, a higher one
+/// some.
 void CheckPicture(const std::filesystem::path& file, const cDIBSection& whole, const PictureRecipe& recipe) {
   std::stop_source stop;
   CoefficientBudget budget{std::uint64_t{1} << 30U};

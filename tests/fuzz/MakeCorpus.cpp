@@ -1,5 +1,5 @@
-// Writes what no editor can of the corpus.
-// Use: fuzz_corpus tests/fuzz/corpus
+// Writes the corpus files that a text editor cannot write.
+// Usage: fuzz_corpus tests/fuzz/corpus
 #include "core/file/ProjectFileWriter.h"
 #include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/JpegMaker.h"
@@ -53,7 +53,7 @@ void WritePhotographs(const fs::path& folder) {
   Write(folder / "claims_much.jpg", fakes::ClaimingSize(plain, 30000, 30000));
 }
 
-/// A project that makes use of every part of the format.
+/// A project that uses every part of the format.
 Project FullProject() {
   Project project;
   GalleryProject& settings = project.settings;
@@ -77,7 +77,7 @@ Project FullProject() {
   return project;
 }
 
-/// A small project with an "a umlaut" in its title, given as the encoding has it.
+/// A small project whose title is `letter`, an "a umlaut" in the declared encoding.
 std::string SmallProject(std::string_view declaration, std::string_view letter) {
   return fmt::format(
       "{}<GALLERYPROJECT><GALLERY TITLE=\"{}\"><LAYOUT TYPE=\"thumbsleft\" FRAMESIZE=\"20%\"/><IMAGES><IMAGE "
@@ -86,7 +86,7 @@ std::string SmallProject(std::string_view declaration, std::string_view letter) 
       declaration, letter);
 }
 
-/// A text of one byte a character in units of `size` bytes.
+/// Widens a text of single-byte characters to units of `size` bytes.
 std::string Widened(std::string_view text, std::size_t size, bool bigEndian) {
   std::string wide;
   for (const char byte : text) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-/// Numbers at and beyond the ends of what the readers' integers hold.
+/// Numbers at and beyond the limits of the readers' integer types.
 constexpr std::array<std::string_view, 18> kNumbers = {
     "",      "0",     "1",          "-1",         "99",          "100",        "32767", "32768", "-32768",
     "65535", "65536", "2147483647", "2147483648", "-2147483649", "4294967296", "1e308", "0.5",   "007"};
@@ -21,7 +21,7 @@ struct Stretch {
   std::size_t end;
 };
 
-/// From the next quotation mark to behind the one that follows it; empty when there are no two.
+/// The next quoted text including its quotation marks; empty if there is none.
 Stretch QuotedIn(std::string_view text, std::size_t from) {
   const auto begin = text.find('"', from);
   const auto end = begin == std::string_view::npos ? begin : text.find('"', begin + 1);
@@ -48,7 +48,7 @@ void Mutator::ChangeForm(std::string& input) {
   (this->*kChanges[Below(kChanges.size())])(input);
 }
 
-/// Changes that most often leave a text readable, so that what it says is looked at too.
+/// Applies a change that usually keeps a text well-formed, so that its content is tested too.
 void Mutator::ChangeContent(std::string& input) {
   constexpr std::array<void (Mutator::*)(std::string&), 3> kChanges = {&Mutator::PutWordBetween, &Mutator::PutNumber,
                                                                        &Mutator::PutValue};
@@ -80,7 +80,7 @@ void Mutator::Repeat(std::string& input) {
 }
 
 void Mutator::CutOff(std::string& input) {
-  // A cut near the end leaves more to be read.
+  // Half of the cuts are near the end, which leaves more to read.
   const std::size_t cut = Below(2) == 0 ? Length() : Below(input.size() + 1);
   input.resize(input.size() - std::min(cut, input.size()));
 }
@@ -102,13 +102,13 @@ void Mutator::PutWord(std::string& input) {
   input.replace(place, Below(2) == 0 ? 0 : word.size(), word);
 }
 
-/// Where one thing ends and another may begin.
+/// Inserts a word after a delimiter, where a new element may begin.
 void Mutator::PutWordBetween(std::string& input) {
   const auto end = input.find_first_of(">\"|\n", PlaceIn(input));
   if (!words_.empty() && end != std::string::npos) input.insert(end + 1, OneOf(words_));
 }
 
-/// In place of one that stands there.
+/// Replaces a number.
 void Mutator::PutNumber(std::string& input) {
   const auto begin = input.find_first_of(kDigits, PlaceIn(input));
   if (begin == std::string::npos) return;
@@ -116,7 +116,7 @@ void Mutator::PutNumber(std::string& input) {
   input.replace(begin, end - begin, kNumbers[Below(kNumbers.size())]);
 }
 
-/// A text in quotation marks in place of another: what has them keeps its form, whatever it says then.
+/// Replaces a quoted text by another one. This changes the content and keeps the form.
 void Mutator::PutValue(std::string& input) {
   const Stretch place = QuotedIn(input, PlaceIn(input));
   const std::string& other = OneOf(corpus_);

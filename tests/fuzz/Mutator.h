@@ -8,14 +8,14 @@
 
 namespace vantorium::fuzz {
 
-/// Makes inputs out of good ones. The same arguments give the same inputs everywhere.
+/// Makes inputs by mutating valid ones. The same arguments give the same inputs on every machine.
 class Mutator {
  public:
-  /// `corpus` may not be empty.
+  /// `corpus` must not be empty.
   Mutator(std::vector<std::string> corpus, std::vector<std::string> words, std::uint64_t seed)
       : corpus_(std::move(corpus)), words_(std::move(words)), random_(seed) {}
 
-  /// One of the corpus with a few changes, at most kMostInputBytes.
+  /// An input of the corpus with a few changes, at most kMostInputBytes long.
   [[nodiscard]] std::string Next();
 
  private:
@@ -32,11 +32,11 @@ class Mutator {
   void PutNumber(std::string& input);
   void PutValue(std::string& input);
 
-  /// From 0 to before `end`, which is not 0.
+  /// A random number from 0 to `end` - 1. `end` must not be 0.
   [[nodiscard]] std::size_t Below(std::size_t end) { return static_cast<std::size_t>(random_() % end); }
-  /// A place in `input`, or behind its end.
+  /// A random position in `input`, or its end.
   [[nodiscard]] std::size_t PlaceIn(const std::string& input) { return Below(input.size() + 1); }
-  /// How many bytes a change takes: mostly few.
+  /// A random length in bytes for a change, usually small.
   [[nodiscard]] std::size_t Length();
   [[nodiscard]] const std::string& OneOf(const std::vector<std::string>& texts) { return texts[Below(texts.size())]; }
 

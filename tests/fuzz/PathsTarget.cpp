@@ -1,4 +1,4 @@
-// Paths and drives: the lines of the input but its last are a preferences file with drives, the last is a path.
+// Paths and drives. The last line of the input is a path, the lines before it a preferences file with drives.
 #include "env/DriveTable.h"
 #include "env/PathMap.h"
 #include "env/PathText.h"
@@ -28,7 +28,7 @@ void CheckDrives(const std::map<char, std::string>& drives) {
   }
 }
 
-/// Whether the path has a text of its own: on some systems a name may hold what is a separator in path text.
+/// Whether path text can represent the path: on some systems a file name may contain a path text's separator.
 bool HasItsOwnText(const std::filesystem::path& native) {
   const std::string path = native.string();
   return native.is_absolute() && !path.starts_with("//") &&
@@ -57,7 +57,7 @@ void CheckMap(const PathMap& map, const std::string& path) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string input = fuzz::InputText(data, size);
-  const auto lastLine = input.rfind('\n') + 1;  // npos + 1 is 0
+  const auto lastLine = input.rfind('\n') + 1;  // 0 if there is no line end, as npos + 1 is 0
   const std::string path = input.substr(lastLine);
   const auto drives = DrivesOf(std::string_view(input).substr(0, lastLine));
   CheckText(path);

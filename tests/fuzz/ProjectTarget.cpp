@@ -1,4 +1,4 @@
-// Project files, in any encoding: what is read is written, and comes back.
+// Project files in any encoding: a project that was read can be written and read back.
 #include "core/file/ProjectFileWriter.h"
 #include "core/file/XmlEncoding.h"
 #include "core/file/XmlNode.h"
@@ -12,7 +12,7 @@ using namespace vantorium;
 
 namespace {
 
-/// A session with a drive of its own, on which the two photographs of the corpus lie.
+/// A session with a drive P:, which holds the two photographs of the corpus.
 class Desk : public fakes::ProjectDesk {
  public:
   Desk() {
@@ -28,10 +28,10 @@ class Desk : public fakes::ProjectDesk {
     return session.LoadProject("P:\\project.gpj");
   }
 
-  /// The text of a project file, which has CR LF or LF for what was any line end before.
+  /// The text of the project file with all line ends as LF: writing may change them.
   [[nodiscard]] std::string Written() { return OneLineEnd(ProjectFileText(project, events)); }
 
-  /// The images as the file holds them: separators are slashes in it, and line ends of their texts CR LF.
+  /// The images in the form that the file keeps: paths with slashes, and one kind of line end in texts.
   [[nodiscard]] std::string Images() const {
     std::string text;
     for (std::size_t position = 1; position <= project.images.Count(); ++position) {
@@ -43,13 +43,13 @@ class Desk : public fakes::ProjectDesk {
   }
 
  private:
-  /// References can put a CR anywhere; written in a section, it is a line end like any other.
+  /// Character references can put a CR anywhere. Written in a CDATA section, it is a line end like any other.
   static std::string OneLineEnd(const std::string& text) {
     return ReplaceAll(ReplaceAll(text, kCrLf, "\n"), "\r", "\n");
   }
 };
 
-/// What the writer puts where the reader does not look, see docs/project-file.md.
+/// Resets the settings that the writer puts where the reader does not look, see docs/project-file.md.
 void LoseWhatIsNotReadBack(GalleryProject& settings) {
   constexpr Choice kAbove = 2;
   constexpr Choice kBelow = 3;
@@ -79,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckXml(input);
   if (!desk.Read(input)) {
     fuzz::Require(!desk.boxes.boxes.empty(), "a project that can't be read gives a box");
-    std::ignore = ProjectFileText(desk.project, desk.events);  // what was read so far may be saved
+    std::ignore = ProjectFileText(desk.project, desk.events);  // a partly read project may be saved
     return 0;
   }
   fuzz::Require(desk.boxes.boxes.empty(), "a project that was read gives no box");

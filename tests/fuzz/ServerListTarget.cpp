@@ -1,4 +1,4 @@
-// The file of servers: what is read is written, and comes back.
+// The server list's file: a list that was read can be written and read back.
 #include "publish/ServerList.h"
 #include "publish/ServerListFile.h"
 #include "tests/fakes/RecordingMessageBox.h"
@@ -11,7 +11,7 @@ using namespace vantorium;
 
 namespace {
 
-/// The profiles as the file can tell them apart: a path loses a leading slash with each reading.
+/// The profiles without leading slashes in their paths, because each reading removes one.
 std::vector<ServerProfile> Comparable(const ServerList& list) {
   std::vector<ServerProfile> profiles = list.Profiles();
   for (ServerProfile& profile : profiles) {
@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   list.Open();
   CheckSelection(list);
   fuzz::Require(list.Profiles().size() <= input.size() + 1, "every profile but the default one has lines");
-  // A reading that fails writes what it has read.
+  // If reading fails, the list itself writes what it has read.
   const bool failed = std::ranges::any_of(boxes.boxes, [](const auto& box) { return box.title == "File Error"; });
   if (!failed) fuzz::Require(list.SaveServerList(), "a list can be written");
 

@@ -1,5 +1,5 @@
-// Templates with tags, against the plain routine. The lines of the input: the template, then the texts that tags stand
-// for.
+// Templates with tags, compared with a plain implementation. The first line of the input is the template, the others
+// are the texts that replace the tags.
 #include "core/generation/TagTable.h"
 #include "core/generation/TemplateTags.h"
 #include "env/RuntimeFailure.h"
@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::int32_t kImages = 3;
 
-/// Three images on three pages. The texts of all three are the input's.
+/// Three images on three pages. All three have the texts of the input.
 class Run {
  public:
   Run() { project_.textThumbnailsTableRows = project_.textThumbnailsTableColumns = "1"; }
@@ -51,7 +51,7 @@ class Run {
   GalleryProject project_;
   ImageList images_;
   PathMap paths_{{{'C', "/"}}};
-  // Expensive to make, and the same for all.
+  // Shared because they are expensive to make.
   static const RegionalFormats& Formats() {
     static const RegionalFormats formats{"en_US"};
     return formats;
@@ -62,7 +62,7 @@ class Run {
   RunState state{.project = project_, .images = images_, .files = files_, .formats = Formats()};
 };
 
-/// What ExpandTags is to do, done plainly: every row over the whole text.
+/// A plain implementation of ExpandTags: applies every row to the whole text.
 std::string ExpandedPlainly(const RunState& run, std::string text, std::int32_t image, std::int32_t page) {
   for (const TagRow& row : TagRows()) {
     if ((row.needs == TagNeeds::Image && image == kNoIndex) || (row.needs == TagNeeds::Page && page == kNoIndex)) {
@@ -82,7 +82,7 @@ void Check(const RunState& run, const std::string& text, std::int32_t image, std
     expanded = ExpandTags(run, text, image, page);
     std::ignore = ExpandAllTags(run, text, image, page);
   } catch (const std::bad_alloc&) {
-    return;  // texts that put each other in grow beyond any memory
+    return;  // texts that contain each other's tags grow without limit
   }
   fuzz::RequireEqual(expanded, ExpandedPlainly(run, text, image, page), "tags are replaced row by row");
   if (FindIgnoringCase(text, "<VANTORIUM_") == std::string::npos) {

@@ -13,7 +13,7 @@ namespace {
   throw std::runtime_error("no word of a dictionary: " + std::string(line));
 }
 
-/// The byte that the escape at the front of `rest` stands for; the escape is taken.
+/// Removes the escape at the start of `rest` and returns its byte.
 char TakeEscape(std::string_view& rest, std::string_view line) {
   rest.remove_prefix(1);
   if (rest.starts_with('\\') || rest.starts_with('"')) {

@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Takes a share on a thread of its own and tells when it has it.
+/// Takes a share in its own thread and reports when it has the share.
 class Taker {
  public:
   Taker(CoefficientBudget& budget, std::uint64_t bytes)

@@ -38,8 +38,8 @@ TEST(Lighten, EveryColorIsAsTheLiteralFilterHasIt) {
   EXPECT_EQ(fakes::Difference(fast, literal), "");
 }
 
-// The edges of the arithmetic are there with all their colors: two equal channels, neighbouring ones, none or all of a
-// channel; and random ones between them.
+// Covers the arithmetic's edge cases: two equal channels, channels that differ by 1, and channels of 0 or 255. Random
+// colors cover the rest.
 cDIBSection TellingColors() {
   cDIBSection dib = fakes::Random(256, 280, 11);
   for (std::int32_t y = 0; y < 256; ++y) {

@@ -15,7 +15,7 @@ cDIBSection Noisy(cDIBSection dib, std::int32_t amount, bool random, std::uint64
   return dib;
 }
 
-// The offsets of one byte column out of three, over a grey picture.
+// The offsets that noise added to one channel of a picture whose bytes were all 128.
 std::vector<int> Offsets(const cDIBSection& dib, int channel) {
   std::vector<int> offsets;
   for (std::int32_t y = 0; y < dib.height(); ++y) {
@@ -59,7 +59,7 @@ TEST(AddNoise, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
   }
 }
 
-// Ties between two bytes come once in a hundred thousand bytes.
+// A tie between two bytes occurs about once in 100,000 bytes.
 TEST(AddNoise, TiesAreRoundedAsTheLiteralFilterRoundsThem) {
   cDIBSection fast = fakes::EveryColor();
   cDIBSection literal = fakes::EveryColor();
@@ -78,7 +78,7 @@ TEST(AddNoise, OffsetsFillTheSpreadEvenlyAndIndependently) {
     EXPECT_EQ(*std::min_element(offsets.begin(), offsets.end()), -64);
     EXPECT_EQ(*std::max_element(offsets.begin(), offsets.end()), 64);
     EXPECT_NEAR(Mean(offsets), 0, 0.4);
-    // Each of the 127 inner values has 1 / 128 of the bytes.
+    // Each of the 127 inner values occurs in 1 / 128 of the bytes.
     for (int value = -63; value < 64; ++value) {
       EXPECT_NEAR(static_cast<double>(std::count(offsets.begin(), offsets.end(), value)), 1562.5, 200) << value;
     }
@@ -133,7 +133,7 @@ TEST(AddNoise, EachPassAndEachPictureHasNumbersOfItsOwn) {
   EXPECT_NEAR(Correlation(Offsets(first, 0), Offsets(other, 0)), 0, 0.1);
 }
 
-// Beyond its range the amount widens the spread further or turns it round.
+// An amount beyond its range widens the spread further or reverses it.
 TEST(AddNoise, AmountsBeyondTheRangeDoNoHarm) {
   for (const std::int32_t amount : {-2147483647, -50, 101, 1000, 2147483647}) {
     for (const bool random : {false, true}) {

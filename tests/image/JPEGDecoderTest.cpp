@@ -12,7 +12,7 @@ using Rows = std::vector<std::vector<std::uint8_t>>;
 
 constexpr std::uint8_t kGuard = 0xA5;
 
-// A file of one kind.
+// A file of one kind in a temporary folder.
 struct Sample {
   explicit Sample(const fakes::JpegRecipe& kind) : recipe(kind), path(folder.Write("picture.jpg", MakeJpeg(kind))) {}
 
@@ -21,7 +21,7 @@ struct Sample {
   std::filesystem::path path;
 };
 
-// With one more byte, which the decoder must leave alone.
+// Reads a row into a buffer with one more byte, which the decoder must not change.
 std::vector<std::uint8_t> NextRow(JPEGDecoder& decoder) {
   std::vector<std::uint8_t> row(static_cast<std::size_t>(decoder.width()) * 3 + 1, kGuard);
   EXPECT_TRUE(decoder.ReadRow(row.data()));
@@ -38,8 +38,8 @@ Rows AllRows(const std::filesystem::path& path) {
   return rows;
 }
 
-// Reads some rows and skips the others, now by single rows and now by many. The last row is always read, as by every
-// use of the pictures. The rows that were not as wanted.
+// Reads some rows and skips the others, by single rows or by many. Always reads the last row, as all production code
+// does. Returns the rows that differ from `wanted`.
 std::vector<std::int32_t> WrongRows(const std::filesystem::path& path, const Rows& wanted, unsigned seed) {
   std::mt19937 generator(seed);
   const auto most = static_cast<std::int32_t>(1 + generator() % 40);

@@ -25,7 +25,7 @@ TEST(JPEGEncoder, FilesAreBaselineWithChromaHalvedInBothDirections) {
   EXPECT_EQ(samplings[2], 0x11U);
 }
 
-// The same picture through the library at its defaults.
+// Compares with libjpeg-turbo's own encoding at its defaults.
 TEST(JPEGEncoder, TheBytesAreThoseOfTheLibrarysDefaultsAtEachQuality) {
   for (const int quality : {1, 24, 25, 50, 85, 99, 100}) {
     const cDIBSection dib = fakes::Random(35, 22, static_cast<unsigned>(quality));

@@ -24,7 +24,7 @@ class JPEG : public testing::Test {
     return LoadJPEGImage(dib_, folder_.Write("picture.jpg", bytes));
   }
 
-  // The library's decoding turned into what the program holds.
+  // The first difference from libjpeg-turbo's own decoding; empty if there is none.
   [[nodiscard]] std::string DifferenceToLibrary(const std::string& jpeg) const {
     const auto rgb = fakes::DecodeToRGB(jpeg);
     for (std::int32_t y = 0; y < dib_.height(); ++y) {
@@ -87,7 +87,7 @@ TEST_F(JPEG, AGreyFileLoadsAsThreeEqualBytesAndIsSavedInColor) {
   EXPECT_EQ(saved.at(fakes::FrameHeaderOf(saved) + 9), 3);
 }
 
-// Cyan takes red, magenta green, yellow blue, and black all three.
+// Cyan absorbs red, magenta green, yellow blue, and black all three.
 TEST_F(JPEG, InksBecomeTheLightThatTheyLeave) {
   struct Case {
     std::array<std::uint8_t, 4> inks;
@@ -100,7 +100,7 @@ TEST_F(JPEG, InksBecomeTheLightThatTheyLeave) {
   for (const auto& [inks, light] : cases) {
     for (const bool adobe : {true, false}) {
       for (const auto colors : {JpegColors::CMYK, JpegColors::YCCK}) {
-        if (!adobe && colors == JpegColors::YCCK) continue;  // only the marker tells YCCK from CMYK
+        if (!adobe && colors == JpegColors::YCCK) continue;  // only the marker distinguishes YCCK from CMYK
         const auto held = [&, &inks = inks](int, int) {
           auto pixel = inks;
           for (auto& ink : pixel) ink = adobe ? static_cast<std::uint8_t>(255 - ink) : ink;
@@ -140,7 +140,7 @@ TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkIsLoaded) {
   auto kinds = fakes::EveryKindOfJpeg();
   kinds.push_back({.scanPerChannel = true});
   for (const auto& recipe : kinds) {
-    if (recipe.arithmetic) continue;  // such data are never known to be complete without the mark
+    if (recipe.arithmetic) continue;  // without the end mark such data are never known to be complete
     const std::string jpeg = MakeJpeg(recipe);
     ASSERT_TRUE(Loads(jpeg)) << recipe;
     const cDIBSection whole = std::move(dib_);
@@ -151,7 +151,7 @@ TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkIsLoaded) {
   }
 }
 
-// All rows of such a picture are there, but not all of what each of them is made of.
+// Such a file has all rows of the picture, but none of them completely.
 TEST_F(JPEG, AFileThatEndsBetweenTwoOfItsScansIsNotLoaded) {
   for (const bool progressive : {false, true}) {
     const std::string jpeg = MakeJpeg({.progressive = progressive, .scanPerChannel = !progressive});
@@ -267,7 +267,7 @@ TEST_F(JPEG, TheFlattestPicturesAreBelieved) {
   }
 }
 
-// The first scan may be there again: it says the same again.
+// Repeating the first scan is valid, because it only repeats its data.
 TEST_F(JPEG, ThousandsOfScansAreNotSatThrough) {
   const std::string jpeg = MakeJpeg({.colors = JpegColors::Grey, .progressive = true});
   const std::size_t first = jpeg.find("\xFF\xDA");

@@ -53,7 +53,7 @@ TEST(NoiseStream, SeedPicturePassRowAndPlaceAllCount) {
     }
   }
   EXPECT_EQ(asked, 768);
-  EXPECT_GT(numbers.size(), 766U);  // two of 768 may meet by chance among 2^24
+  EXPECT_GT(numbers.size(), 766U);  // two of 768 random 24-bit numbers may be equal by chance
 }
 
 TEST(NoiseStream, EachBitOfAPlaceTurnsEachBitOfItsNumberOverHalfOfTheTime) {

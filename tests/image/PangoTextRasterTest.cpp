@@ -52,7 +52,7 @@ class PangoTextRasterTest : public ::testing::Test {
                                    std::int32_t y = 0) const {
     return raster.Draw(font, text, {TextForm::Lines, x, y}, kWidth, kHeight);
   }
-  /// A line turned about the middle of the picture.
+  /// Draws a line rotated about the middle of the picture.
   [[nodiscard]] TextMask DrawLine(LogFont font, const std::string& text, std::int32_t degrees) const {
     font.lfEscapement = font.lfOrientation = degrees * 10;
     return raster.Draw(font, text, {TextForm::Turned, kWidth / 2, kHeight / 2}, kWidth, kHeight);
@@ -82,7 +82,7 @@ TEST_F(PangoTextRasterTest, AFontThatDoesNotExistHasAStandIn) {
 }
 
 TEST_F(PangoTextRasterTest, TheHeightIsThatOfTheEm) {
-  // A capital letter of this font is 1409 / 2048 of the em high.
+  // Capital letters of this font have a height of 1409 / 2048 em.
   for (const std::int32_t em : {20, 48, 100, 400, 512, 513, 3000}) {
     const TextMask letter = raster.Draw(FontOf(-em), "H", {}, 3000, 3000);
     EXPECT_NEAR(letter.height(), em * 1409.0 / 2048, 1) << em;
@@ -148,7 +148,7 @@ TEST_F(PangoTextRasterTest, ATurnedLineStandsOnTheMiddleOfItsLowerEdge) {
   const std::int32_t y = kHeight / 2;
   const TextMask flat = DrawLine(font, "HHHH", 0);
   EXPECT_NEAR((flat.left() + Right(flat)) / 2.0, x, 1);
-  EXPECT_EQ(Bottom(flat), y - 10);  // the descent of the font
+  EXPECT_EQ(Bottom(flat), y - 10);  // the font's descent
   const TextMask upwards = DrawLine(font, "HHHH", 90);
   EXPECT_NEAR((upwards.top() + Bottom(upwards)) / 2.0, y, 1);
   EXPECT_NEAR(Right(upwards), x - 10, 1);
@@ -163,7 +163,7 @@ TEST_F(PangoTextRasterTest, ATurnedLineStandsOnTheMiddleOfItsLowerEdge) {
 TEST_F(PangoTextRasterTest, APositiveAngleTurnsCounterclockwise) {
   const TextMask up = DrawLine(FontOf(-30), "....................L", 30);
   const TextMask down = DrawLine(FontOf(-30), "....................L", -30);
-  // The letter at the end is high above the middle, or far below it.
+  // The last letter is far above the middle, or far below it.
   EXPECT_LT(up.top(), kHeight / 2 - 50);
   EXPECT_GT(Bottom(down), kHeight / 2 + 20);
 }
@@ -295,7 +295,7 @@ TEST_F(PangoTextRasterTest, LongTextsKeepTheirMeasures) {
   EXPECT_EQ(raster.Measure(FontOf(-48), text, TextForm::Lines).width, 100000 * 35);
   const std::int64_t wide = raster.Measure(FontOf(-43689), "H", TextForm::Turned).width;
   EXPECT_EQ(raster.Measure(FontOf(-43689), text, TextForm::Turned).width, 100000 * wide);
-  // What can be seen of it is what can be seen of a shorter one.
+  // Only its beginning is visible, as with a shorter text.
   EXPECT_EQ(PixelsOf(DrawLine(FontOf(-48), text, 36)), PixelsOf(DrawLine(FontOf(-48), std::string(100, 'H'), 36)));
 }
 

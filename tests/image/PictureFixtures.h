@@ -10,7 +10,7 @@
 
 namespace vantorium::fakes {
 
-/// A pixel as a person thinks of it.
+/// A pixel's color. In memory the order is blue, green, red.
 struct RGB {
   int r = 0;
   int g = 0;
@@ -23,14 +23,14 @@ std::ostream& operator<<(std::ostream& stream, const RGB& color);
 [[nodiscard]] cDIBSection Plain(std::int32_t width, std::int32_t height, RGB color);
 /// A picture of random bytes; its padding bytes are 0xA5.
 [[nodiscard]] cDIBSection Random(std::int32_t width, std::int32_t height, unsigned seed);
-/// 4096 x 4096 pixels: every color there is once.
+/// A picture of 4096 x 4096 pixels with every possible color once.
 [[nodiscard]] cDIBSection EveryColor();
 [[nodiscard]] cDIBSection CopyOf(const cDIBSection& dib);
 
-/// The pixel at a column from the left and a memory row.
+/// The pixel in column `x` from the left and memory row `y`.
 [[nodiscard]] RGB PixelAt(const cDIBSection& dib, std::int32_t x, std::int32_t y);
 
-/// Where two pictures differ first, in words; empty when all their bytes are equal, padding included.
+/// Describes the first difference of two pictures. Empty if all their bytes are equal, including padding.
 [[nodiscard]] std::string Difference(const cDIBSection& got, const cDIBSection& wanted);
 
 /// Whether all padding bytes are still 0xA5.

@@ -23,7 +23,7 @@ std::shared_ptr<const WatermarkPainter> PainterOf(std::int16_t placement, const 
   return std::make_shared<const WatermarkPainter>(settings, 96, raster);
 }
 
-/// The output of a picture of its own size, from its rows.
+/// The output at the source's own size, made row by row.
 std::string MakeOf(const cDIBSection& source, const PictureRecipe& recipe) {
   PictureOutput output(recipe, {source.width(), source.height()});
   for (std::int32_t row = output.NextSourceRow(); row >= 0; row = output.NextSourceRow()) {

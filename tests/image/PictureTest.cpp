@@ -19,7 +19,7 @@ class PictureTest : public ::testing::Test {
     return MakePictures(folder.Write("source.jpg", jpeg), request, {stop.get_token(), budget});
   }
 
-  /// The same by the plain routines on the whole picture.
+  /// The expected output, made from the whole picture.
   [[nodiscard]] std::string Plainly(const PictureRecipe& recipe) const {
     cDIBSection whole;
     EXPECT_TRUE(LoadJPEGImage(whole, folder.Path() / "source.jpg"));

@@ -55,7 +55,7 @@ std::uint8_t Mean(float weight, int first, int second) {
   return static_cast<std::uint8_t>(std::nearbyint((1 - share) * first + share * second));
 }
 
-// The weights are of many kinds: short ones with ties, long ones, and ones far below the least bit of a product.
+// Covers many kinds of weights: short ones with ties, long ones, and ones far below the lowest bit of a product.
 TEST(ResamplePlan, EveryPairOfBytesBetweenRowsIsRoundedToEven) {
   for (const std::int32_t newHeight : {2, 3, 7, 64, 97, 1000, 65500}) {
     const ResamplePlan plan({1, 2}, {1, newHeight});

@@ -10,7 +10,7 @@ namespace {
 
 using fakes::PixelAt;
 
-// The pictures' own bytes; the padding of a new picture is undefined.
+// Ignores padding, which is undefined in a new picture.
 std::string PixelDifference(const cDIBSection& got, const cDIBSection& wanted) {
   if (got.width() != wanted.width() || got.height() != wanted.height()) return "the sizes differ";
   for (std::int32_t y = 0; y < got.height(); ++y) {
@@ -58,7 +58,7 @@ TEST(Resample, StrongChangesAreAsTheLiteralRoutineHasThem) {
   ExpectLiteral(fakes::Random(1, 5000, 6), 1, 4999);
 }
 
-// With millions of new columns the scale, a single, reaches the last source column.
+// With millions of new columns the single-precision scale reaches the last source column.
 TEST(Resample, MillionsOfColumnsStayWithinTheSource) {
   ExpectLiteral(fakes::Random(100, 1, 1), 12000001, 1);
   ExpectLiteral(fakes::Random(2, 1, 1), 17000000, 1);
@@ -84,7 +84,7 @@ TEST(Resample, HalfOfAHundredNeverReachesTheLastColumnAndRow) {
   const auto behind = Resample(source, 50, 50);
   ASSERT_TRUE(before && behind);
   EXPECT_EQ(PixelDifference(*before, *behind), "");
-  // Column 98 does count.
+  // Column 98 is used.
   source.Row(0)[3 * 98] ^= 0xFF;
   EXPECT_NE(PixelDifference(*before, *Resample(source, 50, 50)), "");
 }
@@ -110,7 +110,7 @@ TEST(Resample, OnePixelSidesRepeatTheirOneColumnOrRow) {
   }
 }
 
-// Column 1 of 2 new ones lies at half a pixel: the mean of 0 and 1 is a tie and goes to 0, that of 1 and 2 to 2.
+// Column 1 of 2 new ones lies at half a pixel: the mean of 0 and 1 is a tie and is rounded to 0, that of 1 and 2 to 2.
 TEST(Resample, TiesGoToTheEvenByte) {
   for (int low = 0; low < 255; ++low) {
     cDIBSection source = fakes::Plain(2, 1, {low, low, low});

@@ -21,9 +21,9 @@ namespace {
 using fakes::FontFolder;
 
 constexpr char kSans[] = "LiberationSans-Regular.ttf";
-constexpr char kArabic[] = "DejaVuSans.ttf";  // the other one has no Arabic letters
+constexpr char kArabic[] = "DejaVuSans.ttf";  // Liberation Sans has no Arabic letters
 
-/// A description and a number; empty and 0 when all went well.
+/// A failure's description and number; empty and 0 if there is no failure.
 using Failure = std::pair<std::string, int>;
 
 template <typename Work>
@@ -92,7 +92,7 @@ TEST(TextFailure, WhereNoThreadIsToBeHadDrawingFailsAndSaysSo) {
   pthread_attr_t old;
   ASSERT_EQ(::pthread_getattr_default_np(&old), 0);
   pthread_attr_t huge = old;
-  ASSERT_EQ(::pthread_attr_setstacksize(&huge, std::size_t{1} << 47), 0);  // more than there are addresses
+  ASSERT_EQ(::pthread_attr_setstacksize(&huge, std::size_t{1} << 47), 0);  // larger than the address space
   ASSERT_EQ(::pthread_setattr_default_np(&huge), 0);
   const Failure failure = FailureToDraw("text");
   ASSERT_EQ(::pthread_setattr_default_np(&old), 0);
@@ -112,7 +112,7 @@ TEST(TextFailure, AWatermarkThatCannotBeDrawnLeavesThePictureAsItWas) {
   EXPECT_EQ(fakes::Difference(picture, fakes::Plain(100, 50, {1, 2, 3})), "");
 }
 
-/// The names of the font that Pango finds for a name.
+/// The family names of the font that Pango chooses for a name.
 std::vector<std::string> FoundFor(PangoFontMap* map, const std::string& name) {
   const GObjectHandle<PangoContext> context(pango_font_map_create_context(map));
   const FontDescriptionHandle description(pango_font_description_new());

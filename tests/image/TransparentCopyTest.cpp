@@ -26,7 +26,7 @@ void SetPixel(cDIBSection& dib, std::int32_t x, std::int32_t y, RGB color) {
   pixel[2] = static_cast<std::uint8_t>(color.r);
 }
 
-/// A picture of few colors, so that whole pixels equal a key, its complement, or nearly so.
+/// A picture with many pixels that equal `a` or `b`, or differ from `a` in green only.
 cDIBSection Mottled(std::int32_t width, std::int32_t height, unsigned seed, RGB a, RGB b) {
   std::mt19937 generator(seed);
   cDIBSection dib = Random(width, height, seed);

@@ -27,7 +27,7 @@ LogFont FontOf(const std::string& face, std::int32_t height) {
   return {.lfHeight = height, .lfWeight = 700, .lfFaceName = face};
 }
 
-/// Pixels that differ from a color.
+/// The number of pixels that differ from a color.
 int PixelsUnlike(const cDIBSection& dib, RGB color) {
   int count = 0;
   for (std::int32_t y = 0; y < dib.height(); ++y) {
@@ -108,7 +108,7 @@ TEST(Watermark, AFailureLeavesThePictureUntouched) {
 
 class WatermarkOfText : public ::testing::Test {
  protected:
-  /// Draws by both versions and compares pictures and fonts.
+  /// Draws with both implementations, and compares pictures and fonts.
   void Compare(const cDIBSection& on, const std::string& text, std::int16_t placement, std::uint32_t color,
                std::uint8_t alpha) {
     LogFont font = FontOf("Arial", -20);

@@ -3,7 +3,7 @@
 #include <limits>
 #include <utility>
 
-// A size that no machine has memory for is refused by the allocator; under the address sanitizer only when it is told.
+// Sizes beyond any memory make the allocator return null; with the address sanitizer only under this option.
 extern "C" const char* __asan_default_options() {
   return "allocator_may_return_null=1";
 }

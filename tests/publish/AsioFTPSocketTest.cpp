@@ -25,14 +25,14 @@ class AsioFTPSocketTest : public testing::Test {
     settings.timeLimit = timeLimit;
     socket.Configure(settings);
   }
-  /// Connects the socket and returns the other end.
+  /// Connects the socket and returns the peer.
   LoopbackPeer Connected(Milliseconds timeLimit = Milliseconds(10000)) {
     ConfigureFor(listener.Port());
     EXPECT_EQ(socket.Connect(), 0);
     ConfigureFor(listener.Port(), timeLimit);
     return listener.Accept();
   }
-  /// Where the socket listens, as its PORT argument tells.
+  /// The listening port, taken from the socket's PORT argument.
   [[nodiscard]] std::uint16_t ListeningPort() const {
     unsigned high = 0;
     unsigned low = 0;
@@ -93,7 +93,7 @@ TEST_F(AsioFTPSocketTest, AnUnknownHostIsAFailure) {
   EXPECT_NE(socket.Connect(), 0);
 }
 
-/// A listener that lets new connections wait for ever.
+/// A listener whose queue is full, so that new connections wait forever.
 struct FullListener {
   LoopbackListener listener{0};
   LoopbackPeer first{listener.Port(), "127.0.0.1", SOCK_NONBLOCK};

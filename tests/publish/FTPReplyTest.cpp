@@ -19,7 +19,7 @@ constexpr Case kCases[] = {
     {"123-text\r\n123 end\r\n", true, 123, "text end"},
     {"220-one\r\ntwo\r\n220 three\r\n", true, 220, "one two three"},
     {"220-one\r\n two\r\n 42 files\r\n220 three\r\n", true, 220, "one  two  42 files three"},
-    // Opening and closing number are not compared, and any number without a dash ends the reply.
+    // First and last code are not compared: any code without a dash ends the reply.
     {"220-one\r\n530 no\r\n", true, 530, "one no"},
     {"220-one\r\n331-two\r\n230 in\r\n", true, 230, "one two in"},
     {"220-one\r\n2000 files\r\n220 end\r\n", true, 220, "one  files end"},
@@ -27,7 +27,7 @@ constexpr Case kCases[] = {
     {"220-one\r\n220 \r\n", true, 220, "one "},
     {"200\tTab\r\n", true, 200, "Tab"},
     {"000 Nothing\r\n", true, 0, "Nothing"},
-    // A second reply behind the first is taken in as well.
+    // A second reply after the first is taken too.
     {"150 Go\r\n226 Done\r\n", true, 226, "Go Done"},
     {"220 Ready\r\n220-more", true, 220, "Ready"},
     {"", false, 0, ""},

@@ -1,4 +1,4 @@
-// The FTP client against the servers that people run.
+// The FTP client with real servers.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/FtpServerProcess.h"
@@ -33,7 +33,7 @@ class FTPServers : public testing::TestWithParam<FtpServerKind> {
 };
 
 TEST(FTPServersLogin, AWrongPasswordIsRefusedAndSeenNowhere) {
-  const fakes::FtpServerProcess server(FtpServerKind::Proftpd);  // the other one lets anybody in
+  const fakes::FtpServerProcess server(FtpServerKind::Proftpd);  // vsftpd accepts every password
   NetworkClient client;
   EXPECT_TRUE(client.ftp.FTPConnect("127.0.0.1", server.Port()));
   EXPECT_FALSE(client.ftp.FTPLogin(server.User(), "open barley"));

@@ -1,4 +1,4 @@
-// Whole sessions with a server that misbehaves: what the user is told, and what is left on the server.
+// Complete sessions with a misbehaving server: what the user is told, and what remains on the server.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/ScriptedFtpServer.h"
@@ -18,7 +18,7 @@ const Texts kNothing;
 const Texts kTerminated = {"Connection with the server has been terminated"};
 constexpr FTPTimeLimits kShort = {std::chrono::milliseconds(500), std::chrono::milliseconds(500)};
 
-/// A client that is logged in to a server with a script, and a file to send that is larger than all buffers between.
+/// A client and a scripted server. The client has a file p.jpg that is larger than all buffers between the two.
 class FTPSession {
  public:
   explicit FTPSession(ScriptedFtpServer::Script script = {}, FTPTimeLimits limits = NoHurry())
@@ -136,7 +136,7 @@ TEST(FTPSession, ADataConnectionThatTheServerCannotOpenFailsTheFile) {
   EXPECT_TRUE(session.server.WaitToHear("DELE t.jpg"));
 }
 
-/// Takes the beginning of a file, ends the data connection in some way, and says so.
+/// Receives the beginning of a file, calls `end` to end the data connection, and answers 426.
 ScriptedFtpServer::Handler StoreAPart(const std::function<void(Session&)>& end) {
   return [end](Session& server, const std::string& name) {
     server.Say("150 Send\r\n");
@@ -241,14 +241,14 @@ TEST(FTPSession, AnEmptyFileFailsAndTheNextOneIsStored) {
   session.LogIn().client.folder.Write("empty.jpg", "");
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = session.Copy("empty.jpg", "e.jpg"); }), FailureKind::DivisionByZero);
   EXPECT_TRUE(session.server.WaitToHear("STOR e.jpg"));
-  // The reply to the empty file is still to come when the next command is sent, so one answer is taken for another.
+  // The next command is sent before the reply to the empty file arrives, and takes that reply for its own.
   std::ignore = session.Copy();
   session.client.ftp.Disconnect();
   EXPECT_TRUE(session.LogIn().Copy());
   EXPECT_EQ(session.server.Files().at("t.jpg"), "12345");
 }
 
-// Cancelling, in each call that can block.
+// Cancels in each call that can block.
 
 TEST(FTPSessionCancel, InTheWaitForTheGreeting) {
   ScriptedFtpServer::Script script;
@@ -282,7 +282,7 @@ TEST(FTPSessionCancel, InAWriteThatWaits) {
   FTPSession session(On("STOR", [](Session& server, const std::string& name) {
     server.Say("150 Send\r\n");
     if (!server.OpenData()) return;
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));  // the client fills all buffers meanwhile
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));  // lets the client fill all buffers
     const bool isWhole = server.Receive(name);
     server.CloseData();
     server.Say(isWhole ? "226 Stored\r\n" : "426 Broken\r\n");

@@ -25,8 +25,8 @@ class AListing : public testing::Test {
   }
 
   fakes::TemporaryFolder folder;
-  int asked = 0;  ///< how often whether to go on
-  int noAt = 0;   ///< the question that is answered with no; 0 is none
+  int asked = 0;  ///< number of questions whether to continue
+  int noAt = 0;   ///< number of the question that is answered with no; 0: none
 };
 
 TEST_F(AListing, IsInTheOrderOfTheNames) {

@@ -28,7 +28,7 @@ TEST(LocalFile, TellsTheLengthOfRegularFilesOnly) {
 TEST(LocalFile, RefusesALengthThatNeedsMoreThan31Bits) {
   const fakes::TemporaryFolder folder;
   const auto file = folder.Write("large", "");
-  std::filesystem::resize_file(file, 0x7FFFFFFF);  // with no bytes behind it
+  std::filesystem::resize_file(file, 0x7FFFFFFF);  // sparse
   EXPECT_EQ(LengthOfFile(file), 0x7FFFFFFF);
   std::filesystem::resize_file(file, 0x80000000);
   EXPECT_EQ(LengthFailure(file), FailureKind::Overflow);

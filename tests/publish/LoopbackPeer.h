@@ -23,14 +23,14 @@ inline sockaddr_in LoopbackName(std::uint16_t port, const char* address = "127.0
   return name;
 }
 
-/// One end of a connection, in the hands of the test. Nothing waits longer than ten seconds.
+/// The test's end of a connection. Reads wait for at most ten seconds.
 class LoopbackPeer {
  public:
   explicit LoopbackPeer(int descriptor) : socket_(descriptor) {
     const timeval patience = {10, 0};
     ::setsockopt(descriptor, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
   }
-  /// Connects to a port, from an address of this machine.
+  /// Connects from the local address `from` to a port on loopback.
   explicit LoopbackPeer(std::uint16_t port, const char* from, int flags = 0)
       : LoopbackPeer(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | flags, 0)) {
     const auto source = LoopbackName(0, from);
@@ -41,7 +41,7 @@ class LoopbackPeer {
   }
 
   void Say(std::string_view text) const { ::send(socket_.Get(), text.data(), text.size(), MSG_NOSIGNAL); }
-  /// What arrives until the end; `wasReset` tells whether the end was a reset.
+  /// Reads until the connection ends. `wasReset` is set to whether it was reset.
   [[nodiscard]] std::string ReadAll(bool& wasReset) const {
     std::string bytes;
     std::array<char, 65536> block = {};
@@ -63,7 +63,7 @@ class LoopbackPeer {
   FileDescriptor socket_;
 };
 
-/// A port of this machine to connect to.
+/// Listens on a free port of loopback.
 class LoopbackListener {
  public:
   explicit LoopbackListener(int backlog = 8) : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {

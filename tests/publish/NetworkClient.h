@@ -11,17 +11,17 @@
 
 namespace vantorium {
 
-/// The FTP client on real sockets. Drive C is a folder of the test's own.
+/// The FTP client with real sockets. Drive C: is a temporary folder.
 struct NetworkClient {
   explicit NetworkClient(FTPTimeLimits limits = {std::chrono::seconds(20), std::chrono::seconds(20)})
       : ftp(std::make_unique<AsioFTPSocket>(loop), std::move(ownedData), paths, boxes, loop, cancel, limits) {
     ftp.FTPProgress = &window;
   }
 
-  /// Whether a turn is one inside the write of a block.
+  /// Whether the current turn of the event loop takes place while a block is being written.
   [[nodiscard]] bool IsInsideAWrite() const { return data.IsConnected() && data.IsBlocking(); }
 
-  /// Confirms a cancel in the first turn of the event loop in which `isTime`.
+  /// Confirms a cancel in the first turn of the event loop in which `isTime` returns true.
   void CancelWhen(const std::function<bool()>& isTime) {
     loop.onTurn = [this, isTime](int) {
       if (cancel.isRequested || !isTime()) return;

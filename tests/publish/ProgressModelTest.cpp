@@ -24,7 +24,7 @@ class ProgressModelTest : public testing::Test {
  protected:
   [[nodiscard]] std::string File() const { return program.Read("ftplog.txt"); }
   [[nodiscard]] bool HasFile() const { return std::filesystem::exists(program.Path() / "ftplog.txt"); }
-  /// The log behind its header, and before its footer when there is one.
+  /// The log between its header and its footer, if it has one.
   [[nodiscard]] std::string Chunks() const {
     const std::string end = "\r\n\r\n\r\n";
     const auto begin = File().find(end) + end.size();
@@ -125,7 +125,7 @@ TEST_F(ProgressModelTest, AtExactly30000CharactersTheNextAppendTakesASavepoint) 
 TEST_F(ProgressModelTest, CharactersAreCountedAndNotBytes) {
   struct Case {
     std::string character;
-    std::size_t ofThem;  ///< as many as 30000 characters
+    std::size_t ofThem;  ///< how many of them count as 30000 characters
   };
   const Case cases[] = {
       {"a", 30000},        {"\xC3\xA4", 30000},     {"\xE2\x82\xAC", 30000}, {"\xF0\x9F\x98\x80", 30000},
@@ -175,7 +175,7 @@ TEST_F(ProgressModelTest, ALoggedRunLeavesHeaderSavepointsLastChunkAndFooter) {
   EXPECT_TRUE(File().ends_with("_\r\n\r\nEnd of Upload Log (2026/03/04 05:06:07)\r\n\r\n"));
 }
 
-/// What a run does at its end when it failed.
+/// Does what a failed run does at its end.
 void Fail(ProgressWindow& window) {
   window.OfferClose();
   window.WriteLog(window.LogBoxText());
@@ -237,7 +237,7 @@ TEST_F(ProgressModelTest, TheCancelButtonSetsTheFlagAndAsksAtOnce) {
   cancel.onPoll = [this](ProgressWindow& progress) {
     EXPECT_EQ(&progress, window.get());
     EXPECT_TRUE(progress.IsCancelled());
-    progress.SetIsCancelled(false);  // the user did not mean it
+    progress.SetIsCancelled(false);  // the user answers No
   };
   window->PressCancelButton(cancel);
   EXPECT_EQ(cancel.polls, 1);

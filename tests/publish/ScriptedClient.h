@@ -11,7 +11,7 @@
 
 namespace vantorium {
 
-/// The FTP client on two sockets without a network. Drive C is a folder of the test's own.
+/// The FTP client with two scripted sockets. Drive C: is a temporary folder.
 class ScriptedClient : public testing::Test {
  protected:
   using Journal = std::vector<std::string>;
@@ -21,10 +21,10 @@ class ScriptedClient : public testing::Test {
     cmd.isConnected = true;
   }
 
-  /// What the server says from now on: one piece for each read.
+  /// Sets what the server sends from now on, one piece for each read.
   void Replies(const std::deque<std::string>& pieces) { cmd.reads = pieces; }
 
-  /// The texts of the message boxes, which all have to be the client's kind.
+  /// The texts of the message boxes. Expects that all are of the FTP client's kind.
   [[nodiscard]] std::vector<std::string> BoxTexts() const {
     std::vector<std::string> texts;
     for (const auto& box : boxes.boxes) {

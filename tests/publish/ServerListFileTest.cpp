@@ -150,7 +150,8 @@ TEST_F(ServerListFile, ANumberIsADecimalOf32Bits) {
   }
 }
 
-/// One that has the reader's every turn: sections, keys twice, in capitals, in later sections, marks left open.
+/// Covers every case of the reader: sections, keys that occur twice, in capitals or in later sections, open quotation
+/// marks.
 TEST_F(ServerListFile, IsReadAsEveryPreferenceLikeFile) {
   const std::vector<std::string> lines = {"[PUBLISH]", " [publish] ", "[OTHER]", "A=\"1\"", "a=2", "A =3", " A=4",
                                           "B=\"open",  "B=\"",        "b",       "",        "=5",  "B==6", "ServerA=7"};

@@ -1,4 +1,4 @@
-// Storing files, on sockets without a network.
+// Storing files, with scripted sockets.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/Hindrances.h"
@@ -120,7 +120,7 @@ TEST_F(mFTPStoreTest, AFileTooLargeForItsLengthIsShown) {
 }
 
 TEST_F(mFTPStoreTest, ALocalFileThatGoesMeanwhileIsShownAndClosesTheDataSocket) {
-  // The reply in two pieces gives the event loop a turn between the length and the opening.
+  // The two-piece reply gives the event loop a turn after the file's length is read and before the file is opened.
   Replies({"550 None\r\n", "200 Port\r\n", "200 Type\r\n", "150-Send\r\n", "150 now\r\n"});
   loop.onTurn = [&](int) { std::filesystem::remove(folder.Path() / "a.jpg"); };
   EXPECT_FALSE(Store("C:\\a.jpg", false));
@@ -139,7 +139,7 @@ TEST_F(mFTPStoreTest, ALocalFileThatMayNotBeReadIsShownAndClosesTheDataSocket) {
 }
 
 TEST_F(mFTPStoreTest, ALocalFileThatGetsShorterBreaksTheTransfer) {
-  folder.Write("b.jpg", std::string(200'000, 'x'));  // more than is read ahead
+  folder.Write("b.jpg", std::string(200'000, 'x'));  // more than the client reads ahead
   data.onWriteBytes = [&](std::size_t size) {
     std::filesystem::resize_file(folder.Path() / "b.jpg", 5000);
     return size;

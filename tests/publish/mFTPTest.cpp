@@ -1,4 +1,4 @@
-// Sessions, directories and questions, on sockets without a network.
+// Sessions, directories and queries, with scripted sockets.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/publish/ScriptedClient.h"

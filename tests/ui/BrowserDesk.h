@@ -12,11 +12,11 @@
 
 namespace vantorium::fakes {
 
-/// A disk with some photographs for the dialogs that choose files and folders. It is drive C.
+/// A disk, drive C:, with some photographs for the dialogs that choose files and folders.
 class BrowserDesk {
  public:
   BrowserDesk() {
-    // The toolkit keeps the looks of its file dialog for the next time.
+    // Qt saves the state of its file dialog in the settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, Native("settings"));
     disk.Write("photos/a.jpg", MakeJpeg({.width = 40, .height = 30}));
     disk.Write("photos/b.JPG", MakeJpeg({.width = 64, .height = 48}));
@@ -40,7 +40,7 @@ class BrowserDesk {
   RecordingMessageBox boxes;
 };
 
-/// The row of a view with that text; waits until it is there. Throws std::runtime_error when it does not come.
+/// Waits for a row with that text in a view and returns it. Throws std::runtime_error if there is none.
 inline QModelIndex RowOf(QAbstractItemView& view, const QString& text) {
   const auto find = [&] {
     QModelIndexList found;

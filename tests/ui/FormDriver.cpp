@@ -9,7 +9,7 @@ namespace vantorium::fakes {
 void Click(QWidget& control) {
   QPoint at = control.rect().center();
   if (qobject_cast<QCheckBox*>(&control) != nullptr || qobject_cast<QRadioButton*>(&control) != nullptr) {
-    at.setX(8);  // the label beside the box may be longer than the text in it
+    at.setX(8);  // on the indicator: the control may be wider than its text
   }
   QTest::mouseClick(&control, Qt::LeftButton, {}, at);
 }
@@ -27,14 +27,14 @@ void Type(QWidget& control, const QString& text) {
 
 void DriveModal(const std::function<void()>& open, const std::function<void(QWidget&)>& drive) {
   bool driven = false;
-  int patience = 200;  // ticks of the timer
+  int patience = 200;  // in ticks of the timer
   std::string failure;
   QTimer timer;
   timer.setInterval(5);
   QObject::connect(&timer, &QTimer::timeout, [&] {
     QWidget* dialog = QApplication::activeModalWidget();
     if (dialog == nullptr || driven) return;
-    if (!dialog->isActiveWindow() && --patience > 0) return;  // the focus comes with the window's activation
+    if (!dialog->isActiveWindow() && --patience > 0) return;  // the focus is set when the window is activated
     driven = true;
     timer.stop();
     try {

@@ -9,7 +9,7 @@
 
 namespace vantorium::fakes {
 
-/// The control of that class and object name below `form`. Throws std::runtime_error, naming it, when there is none.
+/// The descendant of `form` with that class and object name. Throws std::runtime_error with the name if there is none.
 template <typename Control>
 Control& Find(QWidget& form, const char* name) {
   auto* control = form.findChild<Control*>(name);
@@ -17,16 +17,16 @@ Control& Find(QWidget& form, const char* name) {
   return *control;
 }
 
-/// Clicks into the middle of a button, or on the box of a check box, as a mouse does.
+/// Clicks the middle of a control, or the indicator of a check box or radio button, with the mouse.
 void Click(QWidget& control);
 void Click(QWidget& form, const char* name);
 
-/// Empties a text control with the keyboard and types `text`.
+/// Clears a text control with the keyboard and types `text`.
 void Type(QWidget& control, const QString& text);
 
-/// Runs `open`, which shows a modal dialog, and `drive` on that dialog once it is shown. `drive` has to close it; a
-/// dialog that is still open behind it is closed as by its title bar, so that no test hangs. Throws std::runtime_error
-/// when no dialog came up.
+/// Runs `open`, which shows a modal dialog, and `drive` on that dialog once it is shown. `drive` has to close the
+/// dialog; if it does not, the dialog is closed as by its title bar, so that no test hangs. Throws std::runtime_error
+/// if no dialog is shown or `drive` fails.
 void DriveModal(const std::function<void()>& open, const std::function<void(QWidget&)>& drive);
 
 }  // namespace vantorium::fakes

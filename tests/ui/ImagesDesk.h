@@ -17,7 +17,7 @@
 
 namespace vantorium::fakes {
 
-/// The page of the image list with all that it works on, and a folder for its images.
+/// The image list's page with everything that it uses, and a folder for its images.
 class ImagesDesk : public ImageListDisplay {
  public:
   ImagesDesk() {
@@ -43,7 +43,7 @@ class ImagesDesk : public ImageListDisplay {
   }
   void ScrollIntoView(std::size_t position) override { page->ScrollIntoView(position); }
 
-  /// A photograph in the list, of `bytes`.
+  /// Writes `bytes` to a file and adds the file to the list.
   void Add(const std::string& name, const std::string& bytes) {
     project.images.Insert(project.images.Count() + 1, {.ImageName = name,
                                                        .SourcePath = paths.ToText(folder.Write(name, bytes)),

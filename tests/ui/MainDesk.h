@@ -20,13 +20,13 @@
 
 namespace vantorium::fakes {
 
-/// The main window on a folder of its own, with answers from scripts. Drive T: is the folder; the program's folder is
-/// T:\program, the program's own files are in T:\data.
+/// The main window with a temporary folder, drive T:, and with scripted answers. The program's folder is T:\program;
+/// its bundled files are in T:\data.
 class MainDesk {
  public:
   MainDesk() { folder.Write("data/preview.jpg", MakeJpeg({})); }
 
-  /// Makes the window and starts it, as the program does.
+  /// Creates the window and starts it as the program does.
   void Start(const std::string& commandLine = {}) {
     window.reset();
     window = std::make_unique<frmMain>(DesktopPorts{paths,

@@ -11,12 +11,12 @@
 
 namespace vantorium::fakes {
 
-/// Whether a control has its window's focus. Without a screen no window comes to the front behind a dialog's end.
+/// Whether a control has its window's focus. Without a screen no window becomes active after a dialog ends.
 inline bool GetsFocus(QWidget& form, const char* name) {
   return form.focusWidget() == &Find<QWidget>(form, name);
 }
 
-/// A program's folder with a list of servers, and all that the dialogs before a run work with.
+/// A program folder with a server list, and everything that the dialogs before a run use.
 class PublishDesk {
  public:
   PublishDesk() { WriteServers(0); }

@@ -14,7 +14,7 @@
 
 namespace vantorium::fakes {
 
-/// The main window of a run, as far as the run knows it, with the real window of its progress.
+/// Stands in for a run's main window and creates real progress windows.
 class RunWindow : public RunHost {
  public:
   using MakeProgress = std::function<std::unique_ptr<frmProgress>(QWidget* owner)>;
@@ -33,7 +33,7 @@ class RunWindow : public RunHost {
   void EnableMainWindow(bool enabled) override { window.setEnabled(enabled); }
   void EnableTrayIcon(bool /*enabled*/) override {}
 
-  std::function<void(frmProgress&)> onProgress;  ///< told of each run's window
+  std::function<void(frmProgress&)> onProgress;  ///< called with each progress window
   QWidget window;
   QPointer<frmProgress> progress;
   CreateChoice choice;
@@ -43,7 +43,7 @@ class RunWindow : public RunHost {
   MakeProgress makeProgress_;
 };
 
-/// All that real runs with a real window of their progress need. The folder is drive T:, the gallery goes to T:\\out.
+/// Everything that real runs with a real progress window need. The folder is drive T:; the gallery goes to T:\out.
 class RunDesk {
  public:
   RunDesk() {

@@ -1,8 +1,7 @@
 #include "image/PangoTextRaster.h"
-// Writes a picture of every window and page for the documents. Use: vantorium-screenshots FOLDER
+// Writes a picture of every window and page for the documents. Usage: vantorium-screenshots FOLDER
 //
-// The windows are those of the program, on a small project with photographs of /usr/share/backgrounds or, where there
-// are none, with the sample picture.
+// Shows the program's real windows with a small project. All its photographs are copies of the sample picture.
 #include "core/generation/RunHost.h"
 #include "tests/fakes/SourceFolder.h"
 #include "tests/ui/MainDesk.h"
@@ -70,7 +69,7 @@ class Photographer {
     auto& list = Find<QWidget>(*desk_.window, "lvImagesList");
     list.setFocus();
     QTest::keyClick(&list, Qt::Key_Home);
-    QTest::qWait(300);  // the preview
+    QTest::qWait(300);  // for the preview
   }
 
   void Take(QWidget& window, const std::string& name) const {
@@ -96,7 +95,7 @@ class Photographer {
     QTest::keyClick(&layout, Qt::Key_Up);
   }
 
-  /// Opens a modal dialog, takes it and closes it.
+  /// Opens a modal dialog, takes its picture and closes it.
   void TakeModal(const std::function<void()>& open, const std::function<void(QWidget&)>& prepare = {}) {
     DriveModal(open, [&](QWidget& dialog) {
       if (prepare) prepare(dialog);

@@ -17,7 +17,7 @@ class ProjectFileReaderImagesTest : public ::testing::Test, public ProjectReadin
     return ReadLists("<IMAGES>" + Image("1", "a") + Image("2", "b") + "</IMAGES><THUMBNAILS>" + children +
                      "</THUMBNAILS>");
   }
-  /// An IMAGE of a file that is there.
+  /// An IMAGE element with an existing file.
   std::string Image(const std::string& index, const std::string& name, const std::string& children = "") {
     return "<IMAGE INDEX='" + index + "' NAME='" + name + "' SOURCE='file://" + desk.File("photo.jpg") + "'>" +
            children + "</IMAGE>";

@@ -13,7 +13,7 @@ class ProjectFileReaderLayoutTest : public ::testing::Test, public ProjectReadin
     return Read(ProjectFileParts{.layout = "<LAYOUT " + attributes + ">" + children + "</LAYOUT>"});
   }
   bool ReadSlideShow(const std::string& attributes) {
-    // With wrapper pages: a project without them is no slide show.
+    // Adds wrapper pages, because a project without them cannot be a slide show.
     return Read(ProjectFileParts{.layout = "<LAYOUT TYPE='singleframe'><SLIDESHOW " + attributes + "/></LAYOUT>",
                                  .imagePage = "<IMAGEPAGE><PAGELINKS/></IMAGEPAGE>"});
   }

@@ -38,7 +38,7 @@ TEST_F(ProjectFileReaderLinksTest, PlaceIsAWordOrAListOfWords) {
                         {"PLACE='x,bottom,y'", 2, 2},
                         {"PLACE='bottom,'", 2, 2},
                         {"", 0, 0},
-                        // What names neither leaves the place of a new project.
+                        // A value that names neither place keeps the place of a new project.
                         {"PLACE=''", 1, 2},
                         {"PLACE='left'", 1, 2},
                         {"PLACE='stop'", 1, 2},

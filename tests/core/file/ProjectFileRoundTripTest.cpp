@@ -33,7 +33,7 @@ void ChangeRecord(Record& record, const Fields& fields) {
   }
 }
 
-/// Gives a field a value that a new project doesn't have.
+/// Gives a field a value that a new project does not have.
 void Change(GalleryProject& project, const ProjectField& field) {
   std::visit(
       [&](auto member) {
@@ -60,8 +60,8 @@ void Change(GalleryProject& project, const ProjectField& field) {
 
 class ProjectFileRoundTrip : public ::testing::Test, public ProjectReading {
  public:
-  /// Writes a project with all fields changed and then `edit` done to it, reads it back and gives the names of the
-  /// settings that were lost. Those that were changed and came back are noted in `survived`.
+  /// Changes all fields of a project, applies `edit`, then writes and reads it. Returns the names of the settings that
+  /// were lost, and adds to `survived` those that were changed and read back.
   Names Lost(const std::function<void(GalleryProject&)>& edit) {
     GalleryProject& project = desk.project.settings;
     project = {};
@@ -85,7 +85,7 @@ class ProjectFileRoundTrip : public ::testing::Test, public ProjectReading {
   Names survived;
 };
 
-// In no file, and what follows from settings that are in none.
+// Settings that no file contains, and settings that depend on them.
 const Names kNeverSaved = {"comboImagesSortingOrder",
                            "comboGalleryFrameSizingPriority",
                            "textThumbnailImageSettingsFilePrefix",
@@ -108,7 +108,7 @@ void SingleFrameSlideShow(GalleryProject& project) {
   project.checkImageWrapperImageKeepSize = 0;
   project.checkThumbnailsImageKeepAspectRatio = 1;
   project.checkImageWrapperImageSetWidth = 1;
-  // The strikeout comes back as the underline, and both are changed.
+  // The strikeout is read back as the underline; both are changed.
 }
 
 }  // namespace
@@ -128,7 +128,7 @@ TEST_F(ProjectFileRoundTrip, EverySettingThatTheFormatHoldsComesBack) {
     SingleFrameSlideShow(project);
     project.checkGallerySlideShowAutoStart = 0;
   });
-  Lost([](GalleryProject& project) { project.checkGallerySlideShow = 0; });  // no wrapper pages, images keep their size
+  Lost([](GalleryProject& project) { project.checkGallerySlideShow = 0; });  // no wrapper pages; images keep their size
   Names neverBack;
   for (const auto& [name, value] : SettingTexts({})) {
     if (!survived.contains(name)) neverBack.insert(name);

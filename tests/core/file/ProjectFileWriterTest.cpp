@@ -18,11 +18,11 @@ class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
     desk.calls.clear();
     return ProjectFileWriter(desk.project, desk.paths, desk.host, desk.events).WriteProjectFile(target);
   }
-  /// Compares an element a line, so that a failure shows the one that differs.
+  /// Compares one element a line, so that a failure shows the element that differs.
   void ExpectText(const std::string& expected) {
     EXPECT_EQ(ReplaceAll(Text(), "><", ">\n<"), ReplaceAll(expected, "><", ">\n<"));
   }
-  /// The element of that name in the text, with its attributes and without what it holds.
+  /// The start tag of the first element of that name, with its attributes; "none" if there is none.
   [[nodiscard]] std::string Tag(const std::string& name) {
     const std::string text = Text();
     const auto at = text.find('<' + name);
@@ -30,7 +30,7 @@ class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
   }
 };
 
-/// With every optional part in the file.
+/// Fills in every optional element of the file.
 void FillIn(ProjectDesk& desk) {
   GalleryProject& project = desk.project.settings;
   project.textGalleryTitle = "A \"title\" & <more>";
@@ -205,7 +205,7 @@ TEST_F(ProjectFileWriterTest, TheImageSizeIsWrittenUnlessItIsKept) {
   EXPECT_EQ(size(1, 0), "<SIZE KEEPASPECTRATIO=\"1\" HEIGHT=\"300\" PHYSICALRESIZE=\"1\"/>");
   EXPECT_EQ(size(1, 1), "<SIZE KEEPASPECTRATIO=\"1\" WIDTH=\"400\" PHYSICALRESIZE=\"1\"/>");
   Edit().checkImageWrapperImageKeepSize = 1;
-  EXPECT_EQ(Tag("SIZE"), "<SIZE KEEPASPECTRATIO=\"0\" WIDTH=\"60\" HEIGHT=\"60\"/>");  // that of the thumbnails
+  EXPECT_EQ(Tag("SIZE"), "<SIZE KEEPASPECTRATIO=\"0\" WIDTH=\"60\" HEIGHT=\"60\"/>");  // the thumbnails' size
   EXPECT_NE(Text().find("<MODIFY/></IMAGES>"), std::string::npos);
 }
 
@@ -226,7 +226,7 @@ TEST_F(ProjectFileWriterTest, TheWatermarkOfTheImagesDecidesAboutBoth) {
   Edit().ImageWatermark.checkUseWatermark = 1;
   EXPECT_NE(Text().find("CAPTION=\"SAMPLE\""), std::string::npos);
   EXPECT_NE(Text().find("CAPTION=\"THUMB\""), std::string::npos);
-  // The watermark counts as a filter of the images, not of the thumbnails.
+  // The watermark counts as a filter for the images but not for the thumbnails.
   EXPECT_EQ(Text().find("TYPE=\"quality\""), Text().rfind("TYPE=\"quality\""));
 }
 

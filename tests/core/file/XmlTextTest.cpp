@@ -20,8 +20,8 @@ TEST(XmlText, WhatXmlCannotHoldBecomesTheReplacementCharacter) {
       {"a\x1F", "a" + mark},
       {"caf\xE9", "caf" + mark},  // Latin 1
       {"\xE9t\xC3\xA9", mark + "t\xC3\xA9"},
-      {"\x80", mark},  // continuation alone
-      {"\xC3", mark},  // cut
+      {"\x80", mark},  // lone continuation byte
+      {"\xC3", mark},  // truncated
       {"\xE2\x82", mark + mark},
       {"\xC0\x80", mark + mark},  // overlong
       {"\xE0\x80\x80", mark + mark + mark},

@@ -8,7 +8,7 @@ class AuxiliaryFilesTest : public RunFixture {
  protected:
   AuxiliaryFilesTest() { AddPhotograph("a"); }
 
-  /// Runs without pages and gives the auxiliary files of the images folder.
+  /// Runs without pages. Returns the auxiliary files in the images folder.
   std::set<std::string> Copied() {
     RunArguments arguments = CreateArguments();
     arguments.CreateHTML = false;

@@ -13,7 +13,7 @@ std::string Attributes(const std::string& align, const std::string& valign) {
 
 struct PairCase {
   Choice alignment;
-  Choice placement;  // as the setting has it
+  Choice placement;  // as stored in the setting
   std::string text;
   std::string picture;
 };
@@ -41,7 +41,7 @@ TEST(CellAlignments, OfThumbnailDescriptions) {
   }
 }
 
-/// Above and below a picture captions of thumbnails and of images are alike.
+/// Captions above and below a picture are the same for thumbnails and images.
 const PairCase kCaptionCases[] = {
     {0, 2, Attributes("LEFT", "BOTTOM"), Attributes("LEFT", "TOP")},
     {0, 3, Attributes("LEFT", "TOP"), Attributes("LEFT", "BOTTOM")},

@@ -16,7 +16,7 @@ std::ostream& operator<<(std::ostream& out, const Sizes& s) {
 
 class CollectImagesTest : public RunFixture {
  protected:
-  /// Collects the project's images; the results stay in `run`.
+  /// Collects the project's images into `run`.
   PhaseResult Collect() {
     const auto progress = host.CreateProgressWindow();
     const RunArguments arguments;

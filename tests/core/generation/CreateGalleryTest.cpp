@@ -18,7 +18,7 @@ class CreateGalleryTest : public RunFixture {
     return creator.CreateGallery(mode, browserIndex);
   }
 
-  /// The programs that were started.
+  /// The started programs.
   [[nodiscard]] fakes::Journal Started() const {
     fakes::Journal started;
     std::ranges::copy_if(journal, std::back_inserter(started),

@@ -7,7 +7,7 @@ namespace {
 
 class DirectLinks : public PageTest {
  protected:
-  /// The links in short form: "<3" for the "..." to page 3, "[4]" for a link, "5" for the page itself.
+  /// The links in short form: "~3" for the "..." link to page 3, "[4]" for a link, "5" for the page itself.
   std::string Short(const Digits& most, std::int32_t page, std::int32_t pageCount) {
     project.textPageLinksThumbnailMaxDirectLinks = most;
     run.ThumbnailPageCount = pageCount;

@@ -201,7 +201,7 @@ TEST_F(GenerateGalleryTest, AnEmptyPagePrefixNamesThePagesByNumberAlone) {
   EXPECT_EQ(FilesIn("out").count("1.htm"), 1U);
 }
 
-// The three ends
+// The three ways a run ends
 
 TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
   for (const char* name : {"a", "b"}) AddPhotograph(name);
@@ -218,7 +218,7 @@ TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
     loop.turns = 0;
     CancelInTurn(turn);
     const RunEnd end = Run(CreateArguments());
-    // A run waits for its workers in turns too: on a busy machine another number of times each time.
+    // A run also takes turns to wait for its workers, so the number of turns varies on a busy machine.
     if (turn > 8 && loop.turns < turn) break;
     EXPECT_EQ(end, RunEnd::Cancelled) << "turn " << turn;
     ASSERT_EQ(boxes.boxes.size(), 2U) << "turn " << turn;
@@ -301,7 +301,7 @@ TEST_F(GenerateGalleryTest, WhatWasWrittenBeforeAFailureStays) {
   EXPECT_EQ(FilesIn("out"), (Names{"Images/a.jpg"}));
 }
 
-// Names that would lead out of the gallery
+// Names that would lead outside the gallery
 
 TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsLikeAFileThatCannotBeWritten) {
   for (const char* name : {"..\\evil", "../evil", "sub/evil", "sub\\evil", "C:evil", "/evil"}) {

@@ -23,10 +23,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// All pages of a gallery by their file names, as a run makes them.
+/// All pages that a run makes for a gallery, by file name.
 using Pages = std::map<std::string, std::string>;
 
-/// A project from its defaults, with 3 images, 2 on a page, unless `set` wants it otherwise.
+/// A project with default settings, 3 images and 2 images on a page, then changed by `set`.
 struct Gallery {
   std::string name;
   std::function<void(GalleryProject&)> set;
@@ -237,7 +237,7 @@ fs::path GoldenFolder() {
   return fakes::SourceFolder() / "tests" / "golden";
 }
 
-/// With this in the environment the golden files are made anew instead of compared: look at every difference.
+/// With VANTORIUM_REMAKE_GOLDEN=1 the golden files are rewritten instead of compared: review every difference.
 bool RemakesGolden() {
   const char* value = std::getenv("VANTORIUM_REMAKE_GOLDEN");
   return value != nullptr && std::string_view(value) == "1";

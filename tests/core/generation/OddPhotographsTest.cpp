@@ -19,7 +19,7 @@ class OddPhotographsTest : public RunFixture {
   void Add(const std::string& name, const JpegRecipe& recipe) { Add(name, fakes::MakeJpeg(recipe)); }
 };
 
-/// One of each that decodes.
+/// One of each odd kind that decodes.
 const std::pair<const char*, JpegRecipe> kOddButGood[] = {
     {"grey", {.colors = JpegColors::Grey}},       {"inks", {.colors = JpegColors::CMYK}},
     {"adobe_inks", {.colors = JpegColors::YCCK}}, {"scans", {.width = 300, .height = 200, .progressive = true}},

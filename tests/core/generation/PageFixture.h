@@ -13,7 +13,7 @@
 
 namespace vantorium::tests {
 
-/// The lines of a page, each ended by CR LF.
+/// Joins lines of a page, each ended by CR LF.
 inline std::string Lines(std::initializer_list<std::string_view> lines) {
   std::string text;
   for (const std::string_view line : lines) text.append(line).append("\r\n");
@@ -30,7 +30,7 @@ inline std::size_t CountOf(std::string_view text, std::string_view part) {
   return count;
 }
 
-/// The line of `page` that begins with `start`, without its end; "(none)" when there is no such line.
+/// The first line of `page` that begins with `start`, without CR LF; "(none)" if there is no such line.
 inline std::string LineStartingWith(std::string_view page, std::string_view start) {
   for (std::size_t at = 0; at < page.size();) {
     const std::size_t end = page.find("\r\n", at);
@@ -42,7 +42,7 @@ inline std::string LineStartingWith(std::string_view page, std::string_view star
   return "(none)";
 }
 
-/// A run's state as the page phases find it. Tests set the project, add images and call Prepare.
+/// The state of a run before it builds pages. Tests set the project, add images and call Prepare.
 class PageTest : public ::testing::Test {
  protected:
   PageTest() {
@@ -74,7 +74,7 @@ class PageTest : public ::testing::Test {
     for (int number = 1; number <= count; ++number) AddImage("img" + std::to_string(number));
   }
 
-  /// What a run works out before it builds pages.
+  /// Computes what a run computes before it builds pages.
   void Prepare(GenerationMode mode = GenerationMode::Create) {
     run.mode = mode;
     run.ImageUrlPrefix = mode == GenerationMode::Preview ? "images/" : "Images/";

@@ -12,7 +12,7 @@ class PictureRecipesTest : public RunFixture {
     project.settings.checkImageWrapperImageKeepSize = 1;
   }
 
-  /// The brightest green of a picture of the gallery.
+  /// The maximum green value in a picture of the gallery.
   [[nodiscard]] int Brightest(const std::string& name) const {
     cDIBSection picture;
     EXPECT_TRUE(LoadJPEGImage(picture, folder.Path() / "out" / name)) << name;

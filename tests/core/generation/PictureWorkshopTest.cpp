@@ -20,7 +20,7 @@ class PictureWorkshopTest : public ::testing::Test {
     source = folder.Write("source.jpg", EncodeJPEG(picture, 80));
   }
 
-  /// The task of number n makes a picture n pixels wide.
+  /// Task n makes a picture n pixels wide. Numbers in `without` have no task.
   [[nodiscard]] std::optional<PictureTask> Plan(std::int32_t number) {
     planned.push_back(number);
     if (without.count(number) > 0) return std::nullopt;

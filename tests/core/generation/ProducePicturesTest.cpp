@@ -178,7 +178,7 @@ TEST_F(ProducePicturesTest, ASizeWithoutPixelsFailsAndSaysWhich) {
   EXPECT_NE(boxes.boxes.at(0).text.find("10 x 0 pixels"), std::string::npos) << boxes.boxes.at(0).text;
 }
 
-// What the work done ahead must not show
+// Effects of working ahead that must not be visible
 
 TEST_F(ProducePicturesTest, TheFilesAreTheSameForEveryNumberOfJobs) {
   for (int i = 0; i < 12; ++i) AddPhotograph("p" + std::to_string(i), 30 + i, 50 - i);

@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 class ProtectSourcesTest : public RunFixture {
  protected:
-  /// The run ends with this box before it has made anything beside `before`, and all of `before` is as it was.
+  /// Expects that the run ends with this message box and neither adds nor changes any file.
   void ExpectRefusal(const RunArguments& arguments, const std::string& text) {
     const auto names = FilesIn(".");
     std::map<std::string, std::string> before;

@@ -10,7 +10,7 @@ using Script = ScriptedFtpServer::Script;
 using Session = ScriptedFtpServer::Session;
 using Texts = std::vector<std::string>;
 
-/// Runs that go to a server. Drive T: as in the fixture; the temporary folder is T:\temp.
+/// Runs to a server. Drive T: is that of the fixture; the temporary folder is T:\temp.
 class PublishRunTest : public RunFixture {
  protected:
   PublishRunTest() {
@@ -34,7 +34,7 @@ class PublishRunTest : public RunFixture {
     arguments.OutputFolder = "T:\\folder\\";
     return arguments;
   }
-  /// The box that a failed run ends with.
+  /// The last message box, with which a failed run ends.
   [[nodiscard]] std::string LastBox() const {
     return boxes.boxes.empty() ? "" : boxes.boxes.back().title + ": " + boxes.boxes.back().text;
   }
@@ -43,19 +43,19 @@ class PublishRunTest : public RunFixture {
     for (const auto& [name, bytes] : server.Files()) names.insert(name);
     return names;
   }
-  /// How often the server was asked for a file.
+  /// How often the client asked whether a file exists.
   [[nodiscard]] static std::size_t Questions(const ScriptedFtpServer& server) {
     const Texts commands = server.Commands();
     return static_cast<std::size_t>(
         std::ranges::count_if(commands, [](const std::string& line) { return line.starts_with("RNFR "); }));
   }
-  /// What was said to the server, but for the ports of the data connections.
+  /// The commands that the server received, except PORT.
   [[nodiscard]] static Texts Dialogue(const ScriptedFtpServer& server) {
     Texts commands = server.Commands();
     std::erase_if(commands, [](const std::string& line) { return line.starts_with("PORT "); });
     return commands;
   }
-  /// A server that answers `verb` in this way and all others well.
+  /// A server that answers `verb` with `reply` and all other verbs normally.
   [[nodiscard]] static Script Answering(const std::string& verb, const std::string& reply) {
     Script script;
     script.on[verb] = [reply](Session& session, const std::string&) { session.Say(reply); };
@@ -136,7 +136,7 @@ TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedForEachFileOnceAtItsTurnF
     for (const char* name : {"web/Images/a.jpg", "web/Images/d.jpg", "web/Thumbs/thumb_e.jpg"}) {
       server.PutFile(name, "old");
     }
-    // How many questions were asked by the poll of each file.
+    // How many questions had been asked when each file was first announced.
     std::map<std::string, std::size_t> questions;
     loop.onTurn = [&](int) {
       const std::string status = host.statuses.empty() ? "" : host.statuses.back();
@@ -400,7 +400,7 @@ TEST_F(PublishRunTest, ACancelOfAnUploadHasItsOwnBoxAndEndsInFailure) {
   loop.onTurn = [&, pressed = false](int) mutable {
     if (pressed || host.statuses.empty() || !host.statuses.back().ends_with("f3\"...")) return;
     pressed = true;
-    host.openWindow->SetIsCancelled(true);  // asked about at the next entry
+    host.openWindow->SetIsCancelled(true);  // checked at the next entry
   };
   EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
   EXPECT_EQ(LastBox(), "Upload cancelled: The User has cancelled Upload of the Gallery");

@@ -27,8 +27,8 @@ inline std::string PlainJpeg(std::int32_t width, std::int32_t height, std::uint8
   return EncodeJPEG(picture, 90);
 }
 
-/// A project in a temporary folder, which is drive T:, and all that a run needs, recorded. Photographs lie in
-/// T:\photos, the gallery goes to T:\out.
+/// A project in a temporary folder, which is drive T:, and recording fakes of what a run needs. Photographs are in
+/// T:\photos; the gallery goes to T:\out.
 class RunFixture : public ::testing::Test {
  protected:
   RunFixture() { project.ProjectFolder = "T:\\project\\"; }
@@ -58,7 +58,7 @@ class RunFixture : public ::testing::Test {
 
   RunEnd Run(const RunArguments& arguments) { return GenerateGallery(project, arguments, environment); }
 
-  /// The files below a folder of drive T:, by their paths in it.
+  /// The files in a folder of drive T: and its subfolders, by path relative to that folder.
   [[nodiscard]] std::set<std::string> FilesIn(const std::string& name) const {
     std::set<std::string> found;
     const auto top = folder.Path() / name;
@@ -69,7 +69,7 @@ class RunFixture : public ::testing::Test {
     return found;
   }
 
-  /// Presses the cancel button of the progress window in turn `turn` of the event loop.
+  /// Presses the progress window's cancel button in turn `turn` of the event loop.
   void CancelInTurn(int turn) {
     loop.onTurn = [this, turn](int now) {
       if (now != turn) return;

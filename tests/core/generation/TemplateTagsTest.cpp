@@ -9,7 +9,7 @@ namespace {
 
 class TemplateTags : public PageTest {
  protected:
-  /// Three images on three thumbnail pages, seen from image and page 2.
+  /// Three images on three thumbnail pages.
   TemplateTags() {
     AddImage("first_one", "image text 1", "thumb text 1");
     AddImage("old_stone_bridge", "image text 2", "thumb text 2");
@@ -125,7 +125,7 @@ TEST_F(TemplateTags, GraphicLinksAreTheAnchorTheImageAndTheEnd) {
 TEST_F(TemplateTags, ALinkWithoutTheFormIsReplacedByNothing) {
   for (const LinkTag& tag : kLinkTags) {
     EXPECT_EQ(Value("PAGELINK_" + tag.name + "_GRAPHIC"), "") << tag.name;
-    if (tag.name == "NEXTIMAGE") continue;  // has a rule of its own
+    if (tag.name == "NEXTIMAGE") continue;  // has its own rule
     (project.*tag.link).textLinkLabel.clear();
     EXPECT_EQ(Value("PAGELINK_" + tag.name + "_TEXT"), "") << tag.name;
   }

@@ -25,7 +25,7 @@ ThreadLimit::~ThreadLimit() {
 
 }  // namespace vantorium::fakes
 
-/// Stands before the system's own function in this program.
+/// Replaces the system's pthread_create in this program.
 extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*start)(void*),
                               void* argument) noexcept {
   using namespace vantorium::fakes;

@@ -14,7 +14,7 @@ using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
 
-/// Takes what would be opened in the desktop's browser.
+/// Records the addresses instead of opening them in the desktop's browser.
 class Addresses : public QObject {
   Q_OBJECT
 
@@ -74,7 +74,7 @@ TEST(AboutForm, TheAddressIsOpenedWithTheKeyboardToo) {
     auto& label = Find<QLabel>(form, "Label4");
     QTest::keyClick(&form, Qt::Key_Tab);
     ASSERT_TRUE(label.hasFocus());
-    QTest::keyClick(&label, Qt::Key_Tab);  // to the link in it
+    QTest::keyClick(&label, Qt::Key_Tab);  // to the link in the label
     ASSERT_TRUE(label.hasFocus());
     QTest::keyClick(&label, Qt::Key_Return);
     EXPECT_TRUE(form.isVisible());

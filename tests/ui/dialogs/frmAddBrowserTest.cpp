@@ -19,7 +19,7 @@ using fakes::Type;
 
 class AddBrowserForm : public testing::Test {
  protected:
-  /// The entry after the dialog, its texts with "|" between them; "cancelled" in front of them when it was.
+  /// The entry's texts after the dialog, separated by "|" and preceded by "cancelled " if it was cancelled.
   std::string Edit(const Browser& texts, const std::function<void(QWidget&)>& drive) {
     BrowserEntry entry("Add Browser", texts);
     entry.ComeUp();

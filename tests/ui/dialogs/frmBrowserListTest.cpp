@@ -20,14 +20,14 @@ using fakes::DriveModal;
 using fakes::Find;
 using fakes::Type;
 
-/// Two browsers from the file, so b is on top of a.
+/// A list of two browsers a and b, read from the file, so that b is shown above a.
 class BrowserListForm : public testing::Test {
  protected:
   void Drive(const std::function<void(QWidget&)>& drive) {
     DriveModal([&] { frmBrowserList(list, nullptr).exec(); }, drive);
   }
 
-  /// What the list shows, an entry in brackets, the selected one with a star.
+  /// The shown entries, each in brackets, the selected ones with a star.
   static std::string Shown(QWidget& form) {
     auto& view = Find<QTreeWidget>(form, "lvBrowsers");
     std::string shown;

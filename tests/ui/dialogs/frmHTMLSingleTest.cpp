@@ -17,7 +17,7 @@ using fakes::Type;
 
 class CodeEditing : public testing::Test {
  protected:
-  /// The text that comes out of the editor.
+  /// Edits `text` in the dialog and returns the result.
   std::string Edit(const std::string& text, const std::function<void(QWidget&)>& drive) {
     std::string edited;
     fakes::DriveModal([&] { edited = EditHTMLSingle("Gallery <HEAD> Code", text, boxes, nullptr); }, drive);

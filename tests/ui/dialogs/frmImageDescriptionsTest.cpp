@@ -71,7 +71,7 @@ TEST_F(DescriptionsWindow, StandsBesideTheMainWindow) {
   EXPECT_FALSE(project.IsModified);
 }
 
-// As a window manager moves and resizes it, which the toolkit does not take for its program's own doing.
+// Moves and resizes the window as a window manager does, which Qt distinguishes from changes by the program.
 TEST_F(DescriptionsWindow, ComesBackWhereItsUserLeftIt) {
   const QRect left(31, 47, form.width() + 60, form.height() + 20);
   form.windowHandle()->setGeometry(left);

@@ -15,7 +15,7 @@ using fakes::Find;
 
 class ImageFiltersForm : public testing::Test {
  protected:
-  /// Opens the dialog on `filters` and lets `drive` use it; its answer.
+  /// Opens the dialog for `filters`, runs `drive` on it and returns the dialog's answer.
   bool Edit(const std::function<void(QWidget&)>& drive) {
     bool answer = false;
     DriveModal([&] { answer = EditImageFilters("Filters for Images", filters, sources, desk.Ports(), nullptr); },

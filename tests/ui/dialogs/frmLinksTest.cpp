@@ -20,7 +20,7 @@ using fakes::Type;
 
 class LinksForm : public testing::Test {
  protected:
-  /// The link as it comes out of the dialog, its fields with "|" between them.
+  /// Edits `link` in the dialog and returns the resulting fields, separated by "|".
   std::string Edit(const LinkSettings& link, const std::function<void(QWidget&)>& drive,
                    const std::string& label = "Link Graphic &on last Image Wrapper") {
     LinkSettings result;

@@ -23,7 +23,7 @@ namespace {
 using fakes::Click;
 using fakes::Find;
 
-/// Answers as its script says, and does something while the user reads it.
+/// Answers from its script, and calls `whileShown` before it returns.
 class BusyMessageBox : public fakes::RecordingMessageBox {
  public:
   BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override {
@@ -49,7 +49,7 @@ class ProgressForm : public testing::Test {
   Control& In(const char* name) {
     return Find<Control>(*form, name);
   }
-  /// Gives the window time to draw what is due.
+  /// Gives the window time to draw until `condition` holds. Returns false if it never does.
   [[nodiscard]] bool Shows(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 2000); }
   [[nodiscard]] std::string Log() { return FromQt(In<QPlainTextEdit>("infoText").toPlainText()); }
 
@@ -229,7 +229,7 @@ TEST_F(ProgressForm, AMessageBoxOverTheDisabledMainWindowCanBeAnswered) {
   EXPECT_TRUE(yes);
 }
 
-// The end of a failed run
+// End of a failed run
 
 TEST_F(ProgressForm, AFailedRunIsClosedByEveryWay) {
   for (const auto& close : std::vector<std::function<void()>>{

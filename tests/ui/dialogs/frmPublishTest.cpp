@@ -20,7 +20,7 @@ using fakes::Type;
 
 class PublishForm : public testing::Test {
  protected:
-  /// Drives the dialog; true when it was left with OK.
+  /// Drives the dialog. Returns true if it was closed with OK.
   bool Drive(const std::function<void(QWidget&)>& drive, bool hideIndexFile = false) {
     frmPublish form(desk.ServerFile(), desk.boxes, nullptr);
     form.SetHideIndexFile(hideIndexFile);
@@ -31,7 +31,7 @@ class PublishForm : public testing::Test {
   }
   static QString Text(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).text(); }
   static bool IsEnabled(QWidget& form, const char* name) { return Find<QWidget>(form, name).isEnabled(); }
-  /// Presses New and gives it a name.
+  /// Presses New and enters a name.
   static void AddNew(QWidget& form, const QString& name) {
     DriveModal([&] { Click(form, "btnNew"); },
                [&](QWidget& question) {

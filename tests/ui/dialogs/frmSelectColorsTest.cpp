@@ -15,7 +15,7 @@ using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
 
-/// A button and what shows its color.
+/// A button and the control that shows its color.
 struct Pair {
   const char* button;
   const char* element;
@@ -36,7 +36,7 @@ class SelectColorsForm : public testing::Test {
     return answer;
   }
 
-  /// What the buttons show; and that the page shows the same.
+  /// Returns the buttons' colors. Expects that the sample page shows the same.
   static PageColors Shown(QWidget& form) {
     PageColors shown;
     for (const Pair& pair : kPairs) {
@@ -81,7 +81,7 @@ TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColor) {
       dialogs.colors = {0x123456};
       EXPECT_TRUE(Edit([&](QWidget& form) {
         if (control == pair.element && pair.color == &PageColors::background) {
-          QTest::mouseClick(&Find<QWidget>(form, control), Qt::LeftButton, {}, QPoint(4, 4));  // beside the labels
+          QTest::mouseClick(&Find<QWidget>(form, control), Qt::LeftButton, {}, QPoint(4, 4));  // next to the labels
         } else {
           Click(form, control);
         }

@@ -23,7 +23,7 @@ using fakes::Type;
 
 class WatermarkForm : public testing::Test {
  protected:
-  /// Opens the dialog on `watermark` and lets `drive` use it; its answer.
+  /// Opens the dialog for `watermark`, runs `drive` on it and returns the dialog's answer.
   bool Edit(const std::function<void(QWidget&)>& drive) {
     bool answer = false;
     DriveModal(

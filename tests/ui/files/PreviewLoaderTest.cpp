@@ -57,7 +57,7 @@ TEST_F(Loading, NoFileComesAsANullImage) {
 
 TEST_F(Loading, ACancelledPictureIsNotTold) {
   loader->Load(File(40, 30), box);
-  QThread::msleep(50);  // it is decoded by now, and waits in the event loop
+  QThread::msleep(50);  // now decoded, and queued in the event loop
   loader->Cancel();
   QTest::qWait(50);
   EXPECT_TRUE(sizes.empty());

@@ -32,7 +32,7 @@ class ImageFoldersDialog : public testing::Test {
 
   static FolderTree& Tree(QWidget& dialog) { return Find<FolderTree>(dialog, "ftvFolders"); }
 
-  /// Selects a folder and presses the space bar, which is its check box.
+  /// Selects a folder and presses the space bar, which toggles its check box.
   static void Check(QWidget& dialog, const char* name) {
     Tree(dialog).setFocus();
     ClickRow(Tree(dialog), RowOf(Tree(dialog), name));

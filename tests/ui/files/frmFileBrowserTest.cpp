@@ -28,7 +28,7 @@ using Names = std::vector<std::string>;
 
 class FileDialog : public testing::Test {
  protected:
-  /// Shows the dialog and drives it; what came of it is `result`.
+  /// Shows the dialog, drives it and stores its result in `result`.
   void Show(const FileDialogRequest& request, const std::function<void(QWidget&)>& drive) {
     DriveModal([&] { result = browser.DisplayFileDialog(request); }, drive);
   }
@@ -41,7 +41,7 @@ class FileDialog : public testing::Test {
             .preview = true};
   }
 
-  /// The one of the two views of the files that is to be seen.
+  /// The visible one of the two file views.
   static QAbstractItemView& List(QWidget& dialog) {
     auto& list = Find<QAbstractItemView>(dialog, "listView");
     return list.isVisible() ? list : Find<QAbstractItemView>(dialog, "treeView");

@@ -13,7 +13,7 @@ using fakes::Find;
 
 class FullScreenPreview : public testing::Test {
  protected:
-  /// A blue picture with one red pixel.
+  /// Makes a blue picture with one red pixel and previews it.
   void Draw(QSize size, QPoint red) {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(Qt::blue);

@@ -10,7 +10,7 @@
 namespace vantorium {
 namespace {
 
-/// Real runs over photographs.
+/// Real runs with photographs.
 class RunInItsWindow : public testing::Test, protected fakes::RunDesk {
  protected:
   RunInItsWindow() {
@@ -22,7 +22,7 @@ class RunInItsWindow : public testing::Test, protected fakes::RunDesk {
     }
   }
 
-  /// Looks at the run at each of the event loop's turns until `act` is true.
+  /// Calls `act` with the progress window in each turn of the event loop until `act` returns true.
   void Watch(const std::function<bool(frmProgress&)>& act) {
     QObject::connect(&watch, &QTimer::timeout, [this, act] {
       if (host.progress && act(*host.progress)) watch.stop();
@@ -56,7 +56,7 @@ TEST_F(RunInItsWindow, IsCancelledThroughTheButtonInMidRun) {
   std::int32_t refusedAt = 0;
   std::int32_t confirmedAt = 0;
   Watch([&](frmProgress& window) {
-    if (window.GetProgress() < kPhotographs + 5) return false;  // five images are made
+    if (window.GetProgress() < kPhotographs + 5) return false;  // five images have been made
     fakes::Click(window, "CancelButton");
     (boxes.boxes.size() == 1 ? refusedAt : confirmedAt) = window.GetProgress();
     return boxes.boxes.size() == 2;

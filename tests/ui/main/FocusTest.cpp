@@ -1,4 +1,4 @@
-// Where the keyboard goes when what it was on goes away.
+// Which control gets the focus when the focused control is hidden.
 #include "tests/ui/MainDesk.h"
 
 #include <QTabBar>
@@ -9,10 +9,10 @@ namespace {
 using fakes::Find;
 using fakes::MainDesk;
 
-/// A press on one of these takes something away.
+/// Buttons that destroy something when pressed.
 constexpr const char* kDestroys[] = {"btnImagesShuffle", "btnImagesRemove", "btnImagesRemoveAll"};
 
-/// The first control of the page that takes the focus.
+/// The first visible control of the page that accepts the focus by Tab.
 QWidget* FirstControl(QWidget& page) {
   QWidget* control = &page;
   do {

@@ -24,7 +24,7 @@ class DraggingRows : public testing::Test {
     QApplication::sendEvent(viewport, &move);
   }
 
-  // A drag has an event loop of its own, in which the mouse goes on.
+  // A drag runs its own event loop, so a timer moves and releases the mouse.
   void Drag(int row, QPoint to) const {
     QWidget* viewport = desk.list->viewport();
     QTimer mouse;

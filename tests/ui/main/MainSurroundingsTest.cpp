@@ -1,4 +1,4 @@
-// The main window among others: the tray, the windows of its start and end, and what they leave as it was.
+// What surrounds the main window: the tray, the windows shown at start and end, and what they must not change.
 #include "tests/ui/MainDesk.h"
 
 #include <QClipboard>
@@ -37,7 +37,7 @@ class AroundTheMainWindow : public testing::Test {
 
 // The tray
 
-/// The menu behind the tray's icon, if there is one. Without a parent it is found among the windows only.
+/// The tray icon's menu, or null. It has no parent, so it is searched among the top-level windows.
 QMenu* FindTrayMenu() {
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (widget->objectName() == "mnuPopup") return qobject_cast<QMenu*>(widget);
@@ -45,7 +45,7 @@ QMenu* FindTrayMenu() {
   return nullptr;
 }
 
-/// Chooses an entry with the keyboard, as from the icon.
+/// Opens the tray menu and chooses an entry with the keyboard.
 void ChooseInTray(Qt::Key key) {
   QMenu* menu = FindTrayMenu();
   ASSERT_NE(menu, nullptr);
@@ -195,7 +195,7 @@ TEST_F(AroundTheMainWindow, ATipWithAWordInAngleBracketsIsShownToTheLetter) {
   }
 }
 
-/// The texts of the small windows, in their order, while the event loop has its turns.
+/// Records the texts of the small windows, in order, while the event loop runs.
 class SmallWindows {
  public:
   SmallWindows() {
@@ -233,7 +233,7 @@ TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreToldStepByStep) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-/// What the info window and the status bar have painted, each text once; "greyed" in front of a disabled info line.
+/// The texts painted by the info window and the status bar, each once; "greyed " precedes a disabled info line.
 class PaintedTexts : public QObject {
  public:
   PaintedTexts() { qApp->installEventFilter(this); }
@@ -310,7 +310,7 @@ TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {
 
 // The wheel
 
-/// As the screen's own event: those that a program sends neither give the keyboard nor go on to other controls.
+/// Sends a spontaneous event: Qt neither gives the focus for nor propagates wheel events that a program sends.
 void TurnWheel(QWidget& control) {
   const QPointF at = control.rect().center();
   QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -1,4 +1,4 @@
-// Runs from the main window: what they make of its pointer and of the keyboard.
+// Runs from the main window: their effects on its pointer and on the focus.
 #include "tests/ui/MainDesk.h"
 #include "ui/dialogs/frmProgress.h"
 
@@ -30,7 +30,7 @@ class RunOfTheMainWindow : public testing::Test {
     for (int i = 0; i < 20; ++i) desk.AddPhotograph(std::to_string(i) + ".jpg");
   }
 
-  /// Creates a gallery; `look` is called once, in the middle of the run.
+  /// Creates a gallery and calls `look` once during the run.
   void Create(const std::function<void(frmProgress&)>& look) {
     QTimer watch;
     bool looked = false;
@@ -75,7 +75,7 @@ TEST_F(RunOfTheMainWindow, GivesThePointerBackWithItsSuccess) {
   EXPECT_EQ(desk.window->cursor().shape(), Qt::ArrowCursor);
 }
 
-/// Ends of a run, each with another program's window in front.
+/// Runs that end while another window is active.
 class EndOfARun : public RunOfTheMainWindow {
  protected:
   void ExpectTheKeyboardBehind(const std::function<void(frmProgress&)>& end) {

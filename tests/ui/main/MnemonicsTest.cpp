@@ -1,4 +1,4 @@
-// Letters that reach controls of the main window with the keyboard.
+// Mnemonics of the main window's controls.
 #include "tests/ui/MainDesk.h"
 
 #include <QAbstractButton>
@@ -15,7 +15,7 @@ QString LetterOf(const QString& text) {
   return QKeySequence::mnemonic(text).toString();
 }
 
-/// A text with two letters, of which a shortcut chooses one, has the shortcut's.
+/// A button's mnemonic comes from its shortcut, which selects one if the text has two.
 QString LetterOf(const QAbstractButton& button) {
   return button.shortcut().toString();
 }
@@ -28,7 +28,7 @@ TEST(Mnemonics, AreUniqueOnEachPageAndAgainstTheMenus) {
     std::map<QString, QString> taken;
     for (const QAction* menu : desk.window->menuBar()->actions()) taken[LetterOf(menu->text())] = menu->text();
     const auto take = [&](const QString& letter, const QString& text, const QWidget& control) {
-      // These two frames are never shown together.
+      // Skips controls of this frame: it is never shown together with the frame for a single layout.
       const QWidget* frames =
           fakes::Find<QWidget>(*desk.window, "frmFrameLayoutMultipleFrames").findChild<QWidget*>(control.objectName());
       if (letter.isEmpty() || frames != nullptr) return;

@@ -1,4 +1,4 @@
-// What is applied in a dialog of the settings pages reaches the project, and what is cancelled does not.
+// Changes applied in dialogs of the settings pages reach the project; cancelled ones do not.
 #include "tests/ui/MainDesk.h"
 #include "ui/widgets/PictureBox.h"
 

@@ -1,4 +1,4 @@
-// The six pages of settings: each control with its field, and what the settings make of the controls.
+// The six settings pages: each control with its field, and how settings show, hide, enable and disable controls.
 #include "core/ProjectFields.h"
 #include "tests/ui/MainDesk.h"
 #include "ui/model/main/ControlRules.h"
@@ -38,7 +38,7 @@ class SettingsOnPages : public testing::Test {
   [[nodiscard]] bool Usable(const char* name) { return Find<QWidget>(*desk.window, name).isEnabled(); }
   [[nodiscard]] QString Text(const char* name) { return Find<QLabel>(*desk.window, name).text(); }
   void ClickOn(Page page, const char* name) { Click(On<QWidget>(page, name)); }
-  /// Chooses with the arrow key.
+  /// Chooses the next entry with the arrow key.
   void ChooseNext(Page page, const char* name) {
     auto& list = On<QComboBox>(page, name);
     list.setFocus();
@@ -403,7 +403,7 @@ TEST_F(SettingsOnPages, ThumbnailSettingsStayWithoutWrappers) {
   EXPECT_TRUE(Shown("frmPageLinksOnThumbnailPages"));
 }
 
-/// Which controls are hidden or disabled by a rule, and the labels that name a unit.
+/// The state of each control that has a rule, and the texts of the unit labels.
 std::string RuledControls(QWidget& window) {
   std::string told;
   for (const ControlRule& rule : ControlRules()) {
@@ -442,7 +442,7 @@ TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
   EXPECT_FALSE(desk.window->CurrentProject().IsModified);
 }
 
-// Each button and the title of the dialog that it opens.
+// Each button opens a dialog with the given title.
 
 TEST_F(SettingsOnPages, EachButtonOpensItsDialog) {
   struct Row {

@@ -68,7 +68,7 @@ TEST(InfoForm, LeavesTheKeyboardWithTheWindowThatHadIt) {
   EXPECT_TRUE(info.testAttribute(Qt::WA_ShowWithoutActivating));
   info.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&info));
-  info.activateWindow();  // for the desktops that activate it all the same
+  info.activateWindow();  // as some desktops do despite the attribute
   ASSERT_TRUE(QTest::qWaitForWindowActive(&info));
   info.hide();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&other));

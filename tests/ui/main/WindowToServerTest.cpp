@@ -1,4 +1,4 @@
-// From the mouse to the web server: galleries and folders sent from the window to real servers on loopback.
+// End to end: galleries and folders sent from the main window to real servers on loopback.
 #include "tests/fakes/FilesBelow.h"
 #include "tests/fakes/FtpServerProcess.h"
 #include "tests/ui/MainDesk.h"
@@ -30,7 +30,7 @@ class WindowToServer : public testing::TestWithParam<FtpServerKind> {
     desk.AddPhotograph("b.jpg");
   }
 
-  /// Edits the server of the list in its dialog, which `button` of the create dialog opens.
+  /// Presses `button` of the create dialog and edits the listed server in the dialog that it opens.
   void ChooseServer(QWidget& create, const char* button) {
     DriveModal([&] { Click(create, button); },
                [&](QWidget& publish) {
@@ -87,13 +87,13 @@ TEST_P(WindowToServer, AFolderIsUploadedWithAllItHolds) {
   EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(desk.folder.Path() / "site")) << Log();
 }
 
-/// The other server is started so that it takes every password.
+/// Uses ProFTPD only, because vsftpd is configured to accept every password.
 class ServerWithPassword : public WindowToServer {};
 INSTANTIATE_TEST_SUITE_P(To, ServerWithPassword, testing::Values(FtpServerKind::Proftpd),
                          [](const auto&) { return "ProFTPD"; });
 
 TEST_P(ServerWithPassword, AWrongPasswordFailsWithALogThatCanBeReadAndAWindowToClose) {
-  // The failed run's window stays until its button, now "&Close", is pressed.
+  // A failed run's window stays open until its button, now "&Close", is pressed.
   QTimer closer;
   int shown = 0;
   QObject::connect(&closer, &QTimer::timeout, [&] {

@@ -28,7 +28,7 @@ class ImagesPage : public testing::Test {
   }
   [[nodiscard]] QString Size() { return Find<QLabel>(*desk.page, "lblImagesSize").text(); }
 
-  // Waits for the question about an image that does not decode.
+  // Waits for the question about an image that cannot be decoded, and runs `drive` on it.
   static void Answer(const std::function<void(QWidget&)>& drive) {
     bool answered = false;
     DriveModal([&] { std::ignore = QTest::qWaitFor([&] { return answered; }, 10000); },
@@ -37,7 +37,7 @@ class ImagesPage : public testing::Test {
                  drive(dialog);
                });
   }
-  /// More images than the list has room for.
+  /// Adds more images than fit in the visible list.
   void FillWithMany() {
     for (int i = 0; i < 200; ++i)
       images.Insert(1, {.ImageName = "x",
@@ -52,7 +52,7 @@ class ImagesPage : public testing::Test {
   ImageList& images = desk.project.images;
 };
 
-// What is shown
+// Display
 
 TEST_F(ImagesPage, TheListHasTheNamesAndTheFiles) {
   desk.AddAll({"a.jpg", "ü.jpg"});
@@ -211,7 +211,7 @@ TEST_F(ImagesPage, ADoubleClickAndEnterAskForTheFullScreen) {
   EXPECT_EQ(asked, (Names{"b.jpg", "b.jpg", "b.jpg"}));
 }
 
-// An image that does not decode
+// Images that cannot be decoded
 
 TEST_F(ImagesPage, AnImageThatDoesNotDecodeIsAskedAbout) {
   desk.Add("bad.jpg", "no picture");

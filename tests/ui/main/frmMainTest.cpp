@@ -1,4 +1,4 @@
-// The main window: its menus, its tool bar, how it starts, what it asks before it closes.
+// The main window: its menus and tool bar, its start, and its question before it closes.
 #include "tests/ui/MainDesk.h"
 
 #include <QComboBox>
@@ -31,13 +31,13 @@ class MainWindow : public testing::Test {
     Type(Find<QLineEdit>(*desk.window, "textGalleryTitle"), title);
   }
   [[nodiscard]] const Project& Now() const { return desk.window->CurrentProject(); }
-  /// Answers the file dialog for projects.
+  /// Sets the answer of the project file dialog.
   void ChooseFile(const std::string& path) { desk.fileBrowser.answer = {path, "", {path}}; }
 
   MainDesk desk;
 };
 
-/// The texts of a menu's entries, "-" for a line, with their shortcuts.
+/// The texts of a menu's entries with their shortcuts; "-" for a separator.
 std::vector<std::string> EntriesOf(const QMenu& menu) {
   std::vector<std::string> entries;
   for (const QAction* action : menu.actions()) {

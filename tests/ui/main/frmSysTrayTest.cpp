@@ -9,11 +9,11 @@
 namespace vantorium {
 namespace {
 
-/// The program's menu. The platform of these tests has no tray.
+/// The program's tray menu. The platform of these tests has no tray.
 class SysTrayForm : public testing::Test {
  protected:
   SysTrayForm() {
-    // A parent-less menu is found among the windows only.
+    // The menu has no parent, so it is searched among the top-level windows.
     for (QWidget* widget : QApplication::topLevelWidgets()) {
       if (widget->objectName() == "mnuPopup") popup = qobject_cast<QMenu*>(widget);
     }
@@ -29,7 +29,7 @@ class SysTrayForm : public testing::Test {
     emit tray.findChild<QSystemTrayIcon*>("trayIcon")->activated(reason);
   }
 
-  /// What was sent since the last call, in the order of the signals' names.
+  /// The signals sent since the last call, grouped by kind.
   std::string Sent() {
     std::string sent;
     for (const QList<QVariant>& click : clicks) {

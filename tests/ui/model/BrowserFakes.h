@@ -19,7 +19,8 @@ inline std::ostream& operator<<(std::ostream& stream, const Browser& browser) {
 
 namespace fakes {
 
-/// A user of frmAddBrowser who does one thing each time it comes up, and beyond the script cancels.
+/// A user of frmAddBrowser: performs the next action of the script each time the dialog is shown, and cancels after the
+/// script's end.
 class ScriptedEntryDialog : public BrowserEntryDialog {
  public:
   void Show(BrowserEntry& entry) override {
@@ -30,7 +31,7 @@ class ScriptedEntryDialog : public BrowserEntryDialog {
     act(entry);
   }
 
-  /// Types both texts and confirms.
+  /// The user types both texts and presses OK.
   void Types(const std::string& name, const std::string& location) {
     script.emplace_back([=](BrowserEntry& entry) {
       entry.ChangeName(name);
@@ -42,7 +43,7 @@ class ScriptedEntryDialog : public BrowserEntryDialog {
     script.emplace_back([](BrowserEntry& entry) { entry.PressCancel(); });
   }
 
-  std::vector<std::string> shown;  ///< title and texts, each time it came up
+  std::vector<std::string> shown;  ///< title and texts, each time the dialog was shown
   std::deque<std::function<void(BrowserEntry&)>> script;
 };
 
@@ -50,7 +51,7 @@ class ScriptedEntryDialog : public BrowserEntryDialog {
 
 using Browsers = std::vector<Browser>;
 
-/// Browsers of the names 1 to `count`.
+/// Browsers named 1 to `count`.
 inline Browsers Numbered(std::size_t count) {
   Browsers browsers;
   for (std::size_t n = 1; n <= count; ++n) {
@@ -59,7 +60,7 @@ inline Browsers Numbered(std::size_t count) {
   return browsers;
 }
 
-/// That there was one critical box of that text.
+/// Expects exactly one message box, of kind Critical, with this title and text.
 inline void ExpectOneBox(const fakes::RecordingMessageBox& boxes, const std::string& title, const std::string& text) {
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);

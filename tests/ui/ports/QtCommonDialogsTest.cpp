@@ -25,7 +25,7 @@ using fakes::Type;
 
 class SystemDialogs : public testing::Test {
  protected:
-  /// Shows the font dialog with `font` and lets `drive` use it; its answer.
+  /// Shows the font dialog with `font`, runs `drive` on it and returns the dialog's answer.
   bool FontDialog(const std::function<void(QWidget&)>& drive) {
     bool answer = false;
     DriveModal([&] { answer = dialogs.ShowFontDialog(font); }, drive);

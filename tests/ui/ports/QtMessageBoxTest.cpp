@@ -13,7 +13,7 @@ namespace {
 
 using fakes::DriveModal;
 
-/// As during a run: the main window rests, and the window of the run is before it. The user is in another program.
+/// The windows during a run, while another program is active: a disabled main window and the run's window before it.
 struct RunInTheBack {
   RunInTheBack() {
     mainWindow.setEnabled(false);

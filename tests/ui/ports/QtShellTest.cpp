@@ -14,12 +14,12 @@ namespace {
 using std::chrono::milliseconds;
 using Texts = std::vector<std::string>;
 
-/// Long enough for anything that ends by itself.
+/// Long enough for every process that ends by itself.
 constexpr milliseconds kLong{30000};
 
 class QtShellTest : public testing::Test {
  protected:
-  /// Goes on until there is a file of that name, and then ends with that exit code.
+  /// A command that waits until a file of that name exists, and then ends with the exit code `code`.
   [[nodiscard]] ShellCommand WaitingFor(const std::string& name, int code, milliseconds watched = kLong) const {
     const std::string script = "until test -e \"$0\"; do sleep 0.01; done; exit " + std::to_string(code);
     return {{"/bin/sh", "-c", script, (folder.Path() / name).string()}, watched};

@@ -13,7 +13,7 @@ namespace {
 
 constexpr QRgb kEmpty = 0xFFFFFFFF;
 
-/// The pixels of a picture of 3 x 2: each tells its place, counted from the top left corner.
+/// A pixel whose color encodes its place, counted from the top left corner.
 QRgb PixelAt(int x, int y) {
   return qRgb(10 + x, 100 + y, 200);
 }
@@ -40,7 +40,7 @@ QImage NumberedImage(int width = 3, int height = 2) {
   return image;
 }
 
-/// Each pixel as the column and row of the picture that it came from, "--" where it came from none.
+/// For each pixel the column and row of the picture that it came from; "--" if it is not from the picture.
 std::string Places(const QImage& image) {
   std::string places;
   for (int y = 0; y < image.height(); ++y) {

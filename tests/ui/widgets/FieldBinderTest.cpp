@@ -33,7 +33,7 @@ class FieldBinding : public testing::Test {
     QObject::connect(&binder, &FieldBinder::Edited, [this] { ++edits; });
   }
 
-  /// In place of what the box holds.
+  /// Replaces the box's text from the clipboard.
   static void Paste(QLineEdit& box, const QString& text) {
     QGuiApplication::clipboard()->setText(text);
     box.selectAll();

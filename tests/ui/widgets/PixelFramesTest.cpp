@@ -10,7 +10,7 @@
 namespace vantorium {
 namespace {
 
-/// A control at (7, 5) of a window, as it looks on a screen of that scale.
+/// Renders a control at (7, 5) of a window at the given scale.
 class OnAScreen {
  public:
   OnAScreen(QFrame& control, QSize size, double scale) : control_(control) {
@@ -27,8 +27,7 @@ class OnAScreen {
   }
   ~OnAScreen() { control_.setParent(nullptr); }
 
-  /// Pixels of that color from the outside to a tenth of the control's inside, in the middle of each side: left,
-  /// right, upper, lower.
+  /// The number of pixels of that color from the control's middle outward: to the left, right, top and bottom.
   [[nodiscard]] std::vector<int> LinesOf(QColor color) const {
     const QRectF place(QPointF(7, 5) * scale_, QSizeF(control_.size()) * scale_);
     const QPoint middle = place.center().toPoint();

@@ -9,7 +9,7 @@
 namespace vantorium {
 namespace {
 
-/// A box with a text in it, and the cursor behind that.
+/// A box with a text and the cursor after it.
 class TextBoxTest : public testing::Test {
  protected:
   TextBoxTest() {

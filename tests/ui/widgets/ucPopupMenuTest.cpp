@@ -26,7 +26,7 @@ class MenuOfATextBox : public testing::Test {
 
   bool IsEnabled(const char* action) { return Find<QAction>(form, action).isEnabled(); }
 
-  /// Opens the menu for the box and runs one of its entries.
+  /// Opens the menu for the box and triggers one of its entries.
   void Choose(const char* action) {
     menu.ShowPopupMenu(box, box.mapToGlobal(QPoint(5, 5)));
     Find<QAction>(form, action).trigger();
@@ -178,7 +178,7 @@ TEST_F(MenuOfATextBox, ComesInPlaceOfTheBoxsOwnForMouseAndKeyboard) {
 TEST_F(MenuOfATextBox, CanBeUsedWithTheKeyboard) {
   box.clear();
   menu.ShowPopupMenu(box);
-  QTest::keyClick(&Top(), Qt::Key_Up);  // the last entry
+  QTest::keyClick(&Top(), Qt::Key_Up);  // to the last entry
   QTest::keyClick(&Top(), Qt::Key_Right);
   auto& tags = Find<QMenu>(form, "mnuEditTags");
   QTest::keyClick(&tags, Qt::Key_Right);

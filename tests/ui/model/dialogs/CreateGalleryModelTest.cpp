@@ -94,7 +94,7 @@ TEST(PathKey, ASlashIsTypedAsABackslashUnlessThePathIsNative) {
   EXPECT_EQ(PathKey("C:", ""), "");
 }
 
-// Coming up
+// Opening
 
 TEST_F(CreateGalleryModelTest, ComesUpWithTheLastTarget) {
   const std::vector<std::pair<std::string, std::string>> cases = {

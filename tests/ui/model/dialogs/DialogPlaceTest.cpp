@@ -19,7 +19,7 @@ class Places : public testing::Test {
 
 struct Nearest {
   std::string text;
-  std::string folder;  ///< in the disk's folder
+  std::string folder;  ///< relative to the disk's folder
 };
 
 TEST_F(Places, AFolderThatIsMissingGivesWayToTheNearestAboveIt) {

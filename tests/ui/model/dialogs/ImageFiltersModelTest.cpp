@@ -18,14 +18,14 @@ class ImageFiltersDialog : public testing::Test {
     return model;
   }
 
-  /// Whether a preview compresses the source anew.
+  /// Whether a preview compresses the source again.
   bool PreviewCompresses(ImageFiltersModel& model) const {
     std::filesystem::remove(desk.TempFile());
     model.Preview();
     return std::filesystem::exists(desk.TempFile());
   }
 
-  /// The source as the dialog has it behind the JPEG file and the resizing.
+  /// The expected source after compression to a JPEG file and resizing.
   std::unique_ptr<cDIBSection> CompressedAndResized(int quality) {
     cDIBSection source;
     EXPECT_TRUE(LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));

@@ -12,7 +12,7 @@ constexpr std::uint32_t kBlue = 0xFF0000;
 
 class SampleDialogs : public testing::Test {
  protected:
-  /// The color of the source that a dialog opens with; "closed" when it does not.
+  /// The color of the source that a dialog opens with; "closed" if it does not open.
   std::string OpenedWith(const SampleSources& sources) {
     SampleDialog dialog(sources, desk.Ports(), box);
     if (!dialog.Open()) return "closed";

@@ -35,7 +35,7 @@ TEST(SelectColorsModel, AChosenColorReplacesItsOwnOnly) {
   }
 }
 
-/// Its user adds a custom color each time, and confirms every other time.
+/// A user who adds a custom color each time, and confirms every other time.
 class CustomColorUser : public fakes::ScriptedCommonDialogs {
  public:
   [[nodiscard]] bool ShowColorDialog(std::uint32_t& /*color*/, CustomColors& custom) override {

@@ -16,7 +16,7 @@
 namespace vantorium {
 namespace {
 
-/// Remembers the last font.
+/// Records the last measured font.
 class FontRecordingRaster : public fakes::BoxTextRaster {
  public:
   using BoxTextRaster::BoxTextRaster;
@@ -216,7 +216,7 @@ TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
   EXPECT_EQ(box.calls, "clear paint hide ");
 }
 
-/// A machine without fonts.
+/// Fails to draw, as without fonts.
 class FailingRaster : public fakes::BoxTextRaster {
  public:
   FailingRaster() : BoxTextRaster(20, 10) {}

@@ -36,7 +36,7 @@ TEST(FileNameBox, TheTextIsCutAtItsQuotes) {
       {"\"a b.jpg\" \"c d.jpg\" \"e.jpg\"", {"a b.jpg", "c d.jpg", "e.jpg"}},
       {"\"a.jpg\"\"b.jpg\"", {"a.jpg", "b.jpg"}},
       {"a.jpg\"b.jpg", {"a.jpg", "b.jpg"}},
-      {"\"a.jpg\"  \"b.jpg\"", {"a.jpg", "  ", "b.jpg"}},  // only one blank is taken for a separator
+      {"\"a.jpg\"  \"b.jpg\"", {"a.jpg", "  ", "b.jpg"}},  // only a single blank is a separator
       {"\"\"\"", {"", ""}},
       {"\"", {}},
       {"Zürich.jpg", {"Zürich.jpg"}},

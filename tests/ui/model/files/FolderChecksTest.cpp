@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-/// A disk that knows its folders by their paths, and how often it was looked at.
+/// Folders in memory, given by their paths. Counts the calls of In.
 class DrawnFolders : public Folders {
  public:
   explicit DrawnFolders(const std::vector<std::string>& paths) {

@@ -8,7 +8,7 @@ namespace {
 TEST(ImageSizeLabel, HasTheSizesOfThePictureAndOfItsFile) {
   const fakes::TemporaryFolder folder;
   std::string jpeg = fakes::MakeJpeg({.width = 40, .height = 30});
-  jpeg.resize(95 * 1024);  // what stands behind the picture counts for the file only
+  jpeg.resize(95 * 1024);  // bytes after the picture count for the file's size only
   EXPECT_EQ(ImageSizeLabel(folder.Write("a.jpg", jpeg)), "(40x30, 95KB)");
 }
 

@@ -44,7 +44,7 @@ TEST(ReducedPicture, WithRoomForAllItEqualsTheDecodedFile) {
   }
 }
 
-/// Average of a square of the decoded file that begins at (x, y), counted from the top.
+/// The average of a square of the decoded file whose top left corner is (x, y), counted from the top.
 int AverageOf(const cDIBSection& whole, int x, int y, int side, int channel) {
   int sum = 0;
   for (int row = y; row < y + side; ++row) {

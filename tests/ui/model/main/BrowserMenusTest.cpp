@@ -16,7 +16,7 @@ std::vector<Browser> Browsers(int count) {
   return browsers;
 }
 
-/// The entries as lines "position text key".
+/// The entries, each as a line "position text key".
 std::string Lines(const std::vector<BrowserMenuEntry>& entries) {
   std::string lines;
   for (std::size_t i = 0; i < entries.size(); ++i) {

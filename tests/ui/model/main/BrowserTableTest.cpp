@@ -6,7 +6,7 @@
 namespace vantorium {
 namespace {
 
-/// A main window that records, and a user of frmBrowserList.
+/// A main window that records the calls, and a user of frmBrowserList.
 class RecordingHost : public BrowserTableHost {
  public:
   void ShowBrowserList(BrowserList& list) override {

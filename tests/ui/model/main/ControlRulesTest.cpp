@@ -16,7 +16,7 @@ bool Holds(std::string_view control, const GalleryProject& project) {
   return false;
 }
 
-/// "ASWH" with a dot for what is hidden: the SetWidth box, width and height.
+/// "SWH" for the SetWidth box, width and height, with a dot for each that is hidden.
 std::string SizeControls(const std::string& page, const GalleryProject& project) {
   std::string shown;
   shown += Holds("check" + page + "ImageSetWidth", project) ? 'S' : '.';

@@ -7,7 +7,7 @@
 namespace vantorium {
 namespace {
 
-/// A letter for each enabled entry, a dot for the others; separators left out.
+/// The letter of each enabled entry and a dot for each disabled one, without separators.
 std::string Enabled(const TextBoxState& state) {
   std::string letters;
   for (const EditMenuEntry& entry : EditMenuEntries()) {

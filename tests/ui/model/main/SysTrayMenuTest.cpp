@@ -5,7 +5,7 @@
 namespace vantorium {
 namespace {
 
-/// The entries in brackets: caption=key, "!" behind one that is disabled, "*" before the default.
+/// The entries in brackets: caption=key, with "*" before the default entry and "!" after a disabled one.
 std::string Told(const SysTrayMenu& menu) {
   std::string told;
   for (std::size_t n = 0; n < menu.Items().size(); ++n) {
