@@ -1,9 +1,9 @@
 cmake_minimum_required(VERSION 3.25)
 
-# Fails where a folder includes a header of a folder that it may not know.
+# Fails if a folder includes a header of a folder that it may not include.
 # Use: cmake -D ROOT=<source folder> -P CheckLayers.cmake
 #
-# Each folder may include itself and the folders named here; docs/house.md has the drawing.
+# Each folder may include itself and the folders listed here; docs/house.md draws the layers.
 set(may_include_env "")
 set(may_include_image env)
 set(may_include_core image env)
@@ -15,7 +15,7 @@ set(may_include_app/batch core/generation core image publish env)
 set(may_include_app/desktop ui ui/model core/generation core image publish env)
 set(folders app/batch app/desktop core/generation core env image publish ui/model ui)
 
-# The layer of a file: the longest of the folders above that its path begins with.
+# Sets `result` to the layer of a file: the longest of these folders that its path begins with.
 function(layer_of path result)
   set(best "")
   foreach(folder IN LISTS folders)
@@ -40,7 +40,7 @@ foreach(top env image core publish ui app)
       math(EXPR checked "${checked} + 1")
       string(REGEX REPLACE "^[^\"]*\"([^\"]*)\".*" "\\1" header "${line}")
       if(header MATCHES "^ui_")
-        continue()  # made of a form's layout, beside the form
+        continue()  # generated from a form's .ui file
       endif()
       layer_of("${header}" to)
       if(NOT "${to}" STREQUAL "${from}" AND NOT "${to}" IN_LIST may_include_${from})

@@ -1,4 +1,4 @@
-# The libraries that the engine builds on, all Debian packages.
+# The libraries of the engine, the window, the tests and the benchmarks; all are Debian packages.
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
 find_package(fmt REQUIRED)

@@ -1,9 +1,9 @@
-# How every target of the project is built: the language, the warnings, the sanitizers, the compiler cache.
+# The build settings of every target: the language, the warnings, the sanitizers, the compiler cache.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-add_compile_options(-pthread)  # everywhere, or precompiled headers could not be shared
+add_compile_options(-pthread)  # for all targets, or they could not share precompiled headers
 
 find_program(CCACHE ccache)
 if(CCACHE)
@@ -19,13 +19,13 @@ if(VANTORIUM_SANITIZE)
   add_compile_options(-fsanitize=${VANTORIUM_SANITIZE} -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${VANTORIUM_SANITIZE})
   if(VANTORIUM_SANITIZE MATCHES thread AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-    add_compile_options(-Wno-tsan)  # Asio has fences, which this sanitizer can't see
+    add_compile_options(-Wno-tsan)  # Asio uses fences, which this sanitizer does not support
   endif()
 endif()
 
 function(vantorium_own_code target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
-  # At -O3, g++ 12 sees overflows in its own std::string that are not there.
+  # At -O3, g++ 12 warns of overflows in its own std::string; these are false alarms.
   target_compile_options(${target} PRIVATE
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-stringop-overflow;-Wno-restrict;-Wno-array-bounds>)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
@@ -38,8 +38,8 @@ function(vantorium_library name)
   target_precompile_headers(${name} PRIVATE <algorithm> <cstdint> <filesystem> <memory> <optional> <string> <string_view> <vector>)
 endfunction()
 
-# What each test that runs the program's code needs in its environment: what is known of foreign libraries is left out of
-# the sanitizers' reports.
+# The environment of each test that runs the program's code: suppresses sanitizer reports about known problems of other
+# libraries.
 set(VANTORIUM_TEST_ENVIRONMENT "")
 if(VANTORIUM_SANITIZE)
   set(known ${PROJECT_SOURCE_DIR}/cmake/sanitizers)
@@ -50,8 +50,8 @@ if(VANTORIUM_SANITIZE)
   endif()
 endif()
 
-# vantorium_test_program(NAME LINK libraries... FILES files... [HEADERS target]): one test program of one folder, to be
-# run by hand. It uses the precompiled headers of that target, vantorium_fakes unless given.
+# vantorium_test_program(NAME LINK libraries... FILES files... [HEADERS target]): the test program of one folder, to be
+# run by hand. It uses the precompiled headers of `target`, or of vantorium_fakes by default.
 function(vantorium_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 TEST "" "HEADERS" "LINK;FILES")
   if(NOT TEST_HEADERS)

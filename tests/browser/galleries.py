@@ -1,4 +1,4 @@
-"""Galleries for the browser, made of real photographs by the batch program."""
+"""Galleries for the browser, made from real photographs by the batch program."""
 
 import json
 import os
@@ -11,7 +11,7 @@ UNICODE_NAME = "Zwölf 月.jpg"
 
 
 class Gallery:
-    """A project and what is made of it, in a folder of its own."""
+    """A project and its gallery, in a folder of their own."""
 
     def __init__(self, batch, folder):
         self.folder = folder
@@ -21,7 +21,7 @@ class Gallery:
         os.makedirs(folder, exist_ok=True)
 
     def run(self, *arguments):
-        """What the program prints."""
+        """Runs the batch program and returns its output."""
         finished = subprocess.run(self._command + list(arguments), capture_output=True, text=True, timeout=60)
         if finished.returncode != 0:
             raise RuntimeError(f"{arguments} ended with {finished.returncode}:\n{finished.stderr}")
@@ -58,7 +58,7 @@ class Gallery:
 
 
 def photographs_of(folder):
-    """A folder with the photographs and one whose name has a blank and letters of other languages."""
+    """The folder of the photographs, and a folder with a copy whose name has a blank and letters of other languages."""
     target = os.path.join(folder, "photographs")
     os.makedirs(target)
     shutil.copy(os.path.join(PHOTOGRAPHS, "nature", "Garden.jpg"), os.path.join(target, UNICODE_NAME))
@@ -72,7 +72,7 @@ def new_gallery(batch, folder, photographs):
 
 
 def single_frame(batch, folder, photographs):
-    """As a new project makes it, but on several thumbnail pages."""
+    """A gallery with the settings of a new project, but with several thumbnail pages."""
     gallery = new_gallery(batch, folder, photographs)
     gallery.edit(ARRANGEMENT__ROWS=2, ARRANGEMENT__COLS=3)
     gallery.run("create", gallery.project, gallery.index)
@@ -80,14 +80,14 @@ def single_frame(batch, folder, photographs):
 
 
 def left_frame(batch, folder, photographs):
-    """Thumbnails on the left, dark pages, thumbnails and images in the shape of the photographs, nature alone."""
+    """Thumbnails on the left, dark pages, all pictures with the aspect ratio of the photographs, nature only."""
     gallery = new_gallery(batch, folder, [os.path.join(PHOTOGRAPHS, "nature"), *photographs[1:]])
     gallery.edit(LAYOUT__TYPE="thumbsleft", LAYOUT__IMAGEFRAMENAME="image_frame", LAYOUT__FRAMESIZE=190)
     gallery.edit(ARRANGEMENT__ROWS=20, ARRANGEMENT__COLS=1, ARRANGEMENT__CELLSPACING=8, SIZE__HEIGHT=480)
     gallery.replace(
         '<SIZE KEEPASPECTRATIO="0" WIDTH="60" HEIGHT="60"/>', '<SIZE KEEPASPECTRATIO="1" WIDTH="140"/>'
     )
-    # A project file has blue in front and red at the end.
+    # In a project file blue comes first and red last.
     colors = 'BGCOLOR="202020" TEXT="E0E0E0" LINK="F0C890" ALINK="FFFFFF" VLINK="F0C890" '
     gallery.replace("<THUMBNAILPAGE ", "<THUMBNAILPAGE " + colors)
     gallery.replace("<IMAGEPAGE ", "<IMAGEPAGE " + colors)
@@ -96,7 +96,7 @@ def left_frame(batch, folder, photographs):
 
 
 def slideshow_of(batch, folder, made):
-    """A slideshow of a gallery that is made already: a second for each image, and no end."""
+    """An endless slideshow of an existing gallery, with one second for each image."""
     gallery = Gallery(batch, folder)
     for name in ("Images", "Thumbs"):
         shutil.copytree(os.path.join(made.folder, name), os.path.join(folder, name))

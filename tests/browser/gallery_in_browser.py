@@ -13,7 +13,7 @@ import tempfile
 import unittest
 from urllib.parse import unquote
 
-sys.dont_write_bytecode = True  # the source folder stays as it is
+sys.dont_write_bytecode = True  # leaves the source folder unchanged
 
 import galleries
 from webdriver import Browser, missing_programs, wait_until
@@ -31,7 +31,7 @@ IMAGES_OF_PAGE = """
 
 
 class GalleryInBrowser(unittest.TestCase):
-    """What all tests share. `browser` and the galleries are made once, in main."""
+    """The common part of all tests. main makes `browser` and the galleries once."""
 
     browser: Browser
     single: galleries.Gallery
@@ -39,7 +39,7 @@ class GalleryInBrowser(unittest.TestCase):
     slideshow: galleries.Gallery
 
     def page_in(self, frame):
-        """The file name, with the anchor, of the page that a frame shows; nothing while it is loading."""
+        """The file name, with the anchor, of the page in a frame; None while it is loading."""
         self.browser.enter_frame(frame)
         state, address = self.browser.run("return [document.readyState, location.href]")
         return unquote(address.rsplit("/", 1)[1]) if state == "complete" else None
@@ -48,13 +48,13 @@ class GalleryInBrowser(unittest.TestCase):
         wait_until(f"{page} in {frame}", lambda: self.page_in(frame) == page)
 
     def images_in(self, frame):
-        """The images of a frame's page, all of them loaded or given up."""
+        """The images of a frame's page, once each is loaded or has failed."""
         self.browser.enter_frame(frame)
         wait_until("images", lambda: all(image["complete"] for image in self.browser.run(IMAGES_OF_PAGE)))
         return self.browser.run(IMAGES_OF_PAGE)
 
     def go(self, frame, page):
-        """Puts a page of the open gallery into a frame."""
+        """Opens a page of the current gallery in a frame."""
         self.browser.enter_frame(frame)
         self.browser.run("location.href = encodeURI(arguments[0])", page)
         self.expect_page(frame, page)
@@ -72,7 +72,7 @@ class GalleryInBrowser(unittest.TestCase):
         return self.browser.run("return Array.from(document.querySelectorAll('frame'), f => [f.name, f.clientWidth])")
 
     def expect_walk(self, frame, label, pages):
-        """The first of the pages is shown; the link leads from each to the next, and on the last it is no link."""
+        """Expects the first page; the link must lead from each page to the next, and be no link on the last one."""
         self.expect_page(frame, pages[0])
         for page in pages[1:]:
             self.click(frame, label)
@@ -215,7 +215,7 @@ class Preview(GalleryInBrowser):
 
 
 class Screenshots(GalleryInBrowser):
-    """No test: pictures for people to look at."""
+    """Not a test: makes pictures for people to look at."""
 
     def take(self, folder):
         os.makedirs(folder, exist_ok=True)

@@ -1,4 +1,4 @@
-"""A browser that is driven through the WebDriver protocol (W3C recommendation), with the standard library alone."""
+"""Drives a browser through the WebDriver protocol (W3C recommendation), with only the standard library."""
 
 import base64
 import http.client
@@ -11,7 +11,7 @@ import subprocess
 import time
 
 ELEMENT = "element-6066-11e4-a52e-4f735466cecf"  # the key of an element's id, fixed by the protocol
-PATIENCE = 15  # seconds for one thing to happen
+PATIENCE = 15  # seconds to wait for one event
 
 CHROMIUM_FLAGS = [
     "--headless",
@@ -32,12 +32,12 @@ class BrowserError(Exception):
 
 
 def missing_programs():
-    """The programs that a browser needs and that are not installed."""
+    """The programs that the browser needs and that are not installed."""
     return [name for name in ("chromium", "chromedriver") if shutil.which(name) is None]
 
 
 class Browser:
-    """A headless Chromium with its driver. Both are gone after close(). `folder` takes everything that they write."""
+    """A headless Chromium with its driver. close() ends both. They write all their files into `folder`."""
 
     def __init__(self, folder, width=1000, height=800):
         self._session = None
@@ -52,8 +52,8 @@ class Browser:
             raise
 
     def _start_driver(self, environment):
-        """Starts the driver on a port that it chooses, and returns that port. Where another program takes the same port
-        for the other kind of address in that moment, the driver ends at once, so it gets more than one chance."""
+        """Starts the driver on a port of its choice and returns the port. The driver exits at once if another program
+        takes the same port for the other IP version at that moment, so it is started up to five times."""
         for _ in range(5):
             self._driver = subprocess.Popen(
                 ["chromedriver", "--port=0"],
@@ -81,12 +81,12 @@ class Browser:
             try:
                 self._send("DELETE", f"/session/{self._session}")
             except (BrowserError, OSError, http.client.HTTPException):
-                pass  # the processes are ended below in any case
+                pass  # the processes are killed below in any case
         self._end_processes()
         self._driver.stdout.close()
 
     def _end_processes(self):
-        """Ends what is left of the driver's process group, and waits a while until it is gone."""
+        """Kills the rest of the driver's process group and waits up to two seconds until it is gone."""
         for _ in range(100):
             try:
                 os.killpg(self._driver.pid, signal.SIGKILL)
@@ -110,14 +110,14 @@ class Browser:
         self._command("url", url="file://" + file)
 
     def enter_frame(self, name):
-        """All that follows happens in the frame of that name of the top page; None is the top page itself."""
+        """Directs the following calls to the frame of that name in the top page; None is the top page itself."""
         self._command("frame", id=None)
         if name is not None:
             frame = self._command("element", using="css selector", value=f'frame[name="{name}"]')
             self._command("frame", id=frame)
 
     def run(self, script, *arguments):
-        """What a script returns that runs in the present frame."""
+        """Runs a script in the current frame and returns its result."""
         return self._command("execute/sync", script=script, args=list(arguments))
 
     def click(self, xpath):
@@ -135,12 +135,12 @@ class Browser:
 
 
 def wait_until(what, condition):
-    """The first true value of condition()."""
+    """Waits until condition() is true and returns its value."""
     deadline = time.monotonic() + PATIENCE
     while True:
         try:
             value = condition()
-        except BrowserError:  # a page that is just being exchanged
+        except BrowserError:  # the page is just being replaced
             value = None
         if value:
             return value

@@ -12,7 +12,7 @@ PHOTOGRAPH = os.path.join(os.path.dirname(__file__), "..", "..", "data", "previe
 
 
 class Desk:
-    """A home with two photographs in it, which is drive C: of the programs."""
+    """A home folder with two photographs; it is drive C: of the programs."""
 
     def __init__(self, folder, screen, programs):
         self.folder = folder
@@ -29,7 +29,7 @@ class Desk:
             self.make_opener(opener, "opened")
 
     def make_opener(self, name, list_name):
-        """A program that only writes down what it was to open; these two in place of the desktop's openers of files."""
+        """Makes a program that only records what it was asked to open."""
         opener = self.path("bin", name)
         with open(opener, "w") as script:
             script.write(f'#!/bin/sh\necho "$@" >> "{self.path(list_name)}"\n')
@@ -47,7 +47,7 @@ class Desk:
 
     @contextlib.contextmanager
     def window(self, *arguments, ftp_port=21):
-        """The window, for the length of a block that has to leave it."""
+        """Runs the window for the length of a block; the block must close it."""
         program = subprocess.Popen([self._programs.window, *arguments],
                                    env=dict(self._environment, VANTORIUM_FTP_PORT=str(ftp_port)))
         try:
@@ -62,7 +62,7 @@ class Desk:
 
     @contextlib.contextmanager
     def project(self, name, ftp_port=21):
-        """The window with a project in it."""
+        """Runs the window with a project."""
         with self.window(self.path(name), ftp_port=ftp_port):
             self.screen.wait_for_window(name)
             yield
@@ -87,7 +87,7 @@ class Desk:
 
     @contextlib.contextmanager
     def ftp_server(self, kind):
-        """Where a real server on loopback is, as its port, user, password and root."""
+        """Runs a real server on loopback; gives its port, user, password and root."""
         server = subprocess.Popen([self._programs.ftp_server, kind], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
             yield json.loads(server.stdout.readline())

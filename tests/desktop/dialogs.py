@@ -1,5 +1,5 @@
-"""The dialogs behind the pages and menus change the project, and a listed browser is shown what lies in the temporary
-folder that the user chose."""
+"""The dialogs of the pages and menus change the project, and a listed browser shows the preview in the temporary folder
+that the user chose."""
 
 import os
 
@@ -27,7 +27,7 @@ def run(desk):
 
 
 def choose_filter(screen):
-    """The first box, of grey pictures; then another that is not kept."""
+    """Checks the first box, for gray pictures; then another one, which is not kept."""
     screen.press("alt+t")
     screen.wait_for_window("Filters")
     screen.press("space", "Return")
@@ -66,7 +66,7 @@ def describe_second_image(screen):
 
 
 def choose_background(screen):
-    """Of the image wrappers, in the system's color dialog."""
+    """Chooses the background of the image wrappers in the system's color dialog."""
     screen.press("alt+c", "alt+r")
     screen.wait_for_window("Select Image Wrapper Colors")
     screen.press("alt+b", "space")
@@ -117,7 +117,7 @@ def move_temporary_folder(screen):
 
 
 def view_in_listed_browser(desk):
-    """The menu's first entry is the default browser, the second is of the list."""
+    """The menu's first entry is the default browser; the second is the one in the list."""
     desk.screen.press("alt+a", "v", "Down", "Return")
     wait_for_file(desk.path("read"))
     index = desk.path("elsewhere", "VANTORIUM_TEMP", "index.htm")

@@ -1,4 +1,4 @@
-"""A changed project asks before the program ends, and each of the three answers does what it says."""
+"""With a changed project the program asks before it ends, and each of the three answers does what it says."""
 
 from desk import expect
 

@@ -1,5 +1,5 @@
-"""Runs that do not reach their end: cancelled while pictures are made or while a server is silent, and failed with a log
-to read. What was made until then is whole, and the window works on."""
+"""Runs that do not succeed: cancelled while pictures are made or while a server is silent, and failed with a log to
+read. Files made before that are whole, and the window still works."""
 
 import os
 import socket
@@ -15,7 +15,7 @@ def run(desk):
 
 
 def cancel_creation(desk):
-    """Of far more and larger pictures than the keys take."""
+    """Cancels the creation of so many and so large pictures that it takes longer than the key presses."""
     os.makedirs(desk.path("many"))
     for number in range(300):
         os.link(desk.path("a.jpg"), desk.path("many", f"{number:03}.jpg"))
@@ -30,7 +30,7 @@ def cancel_creation(desk):
         screen.wait_for_window("Create Gallery")
         screen.press("Return")
         screen.wait_for_window("Creating Gallery")
-        screen.press("ctrl+g", "ctrl+n")  # commands have to wait
+        screen.press("ctrl+g", "ctrl+n")  # commands must wait
         screen.press("Escape")
         screen.wait_for_window("Cancel Request")
         screen.press("Escape")  # and this means No
@@ -57,7 +57,7 @@ def confirm_cancel(screen, title):
 
 
 def write_server_list(desk):
-    """The program reads the server that a user had listed."""
+    """Writes the list with the server that the program then reads."""
     desk.make_project("p.gpj", "a.jpg", "b.jpg")
     with open(desk.path("config", "vantorium", "vantorium.pub"), "w", newline="\r\n") as file:
         file.write('[PUBLISH]\nServerCount="1"\nPreferredServer="1"\nServerName1="Mine"\nServerURL1="127.0.0.1"\n'
@@ -79,7 +79,7 @@ def publish(screen, password, user="me"):
 
 
 def cancel_before_silent_server(desk):
-    """One that takes the connection and never says a word."""
+    """The server accepts the connection and never sends anything."""
     screen = desk.screen
     with socket.create_server(("127.0.0.1", 0)) as server:
         with desk.project("p.gpj", ftp_port=server.getsockname()[1]):
@@ -91,7 +91,7 @@ def cancel_before_silent_server(desk):
 
 
 def fail_with_wrong_password(desk):
-    """The window stays with its log until it is closed."""
+    """The progress window stays, with its log, until it is closed."""
     screen = desk.screen
     with desk.ftp_server("proftpd") as server:
         with desk.project("p.gpj", ftp_port=server["port"]):

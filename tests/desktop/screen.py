@@ -1,4 +1,4 @@
-"""A screen of its own for a program, and hands that use its keyboard."""
+"""A separate screen for a program, and its keyboard."""
 
 import os
 import shutil
@@ -9,7 +9,7 @@ TOOLS = ("Xvfb", "xdotool")
 
 
 class Screen:
-    """An X server without a window manager, ended with the block."""
+    """An X server without a window manager; it ends with the block."""
 
     def __enter__(self):
         for tool in TOOLS:
@@ -32,7 +32,7 @@ class Screen:
         return subprocess.run(["xdotool", *words], capture_output=True, text=True, env=environment, timeout=30).stdout
 
     def wait_for_window(self, title, seconds=30):
-        """Waits for a window whose title holds the text, and puts the keyboard there."""
+        """Waits for a window whose title contains the text, and gives it the keyboard focus."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             found = self._xdotool("search", "--onlyvisible", "--name", title).split()
@@ -64,6 +64,6 @@ class Screen:
         time.sleep(0.1)
 
     def write(self, key, text):
-        """Goes to a text box by its letter and writes it anew."""
+        """Goes to a text box by its letter and replaces its text."""
         self.press(key, "ctrl+a")
         self.type(text)

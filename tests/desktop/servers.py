@@ -1,5 +1,5 @@
-"""From the mouse to the web server: a gallery is published and a folder uploaded to a server that the user lists first.
-The server then holds what the batch program sends of the same."""
+"""A gallery is published and a folder uploaded to a server that the user first adds to the list. The server then holds
+the same files as after the batch program has sent them."""
 
 import os
 
@@ -20,7 +20,7 @@ def run(desk):
 def publish(screen, server):
     screen.press("ctrl+g")
     screen.wait_for_window("Create Gallery")
-    screen.press("alt+u", "Tab", "Tab", "space")  # the button behind the destination
+    screen.press("alt+u", "Tab", "Tab", "space")  # the button after the destination
     screen.wait_for_window("File Error")  # there is no list of servers yet
     screen.press("Return")
     screen.wait_for_window("Select Web Server")
@@ -37,7 +37,7 @@ def publish(screen, server):
 
 
 def upload(screen, server):
-    """The home's folder "bin", into a folder beside the gallery."""
+    """Uploads the home's folder "bin" into a folder beside the gallery."""
     screen.press("ctrl+g")
     screen.wait_for_window("Create Gallery")
     screen.press("alt+f")
@@ -50,7 +50,7 @@ def upload(screen, server):
 
 
 def give_password_and_watch(screen, server, title):
-    """The password's box has the keyboard behind the choice of a server."""
+    """After a server is chosen, the password's box has the keyboard focus."""
     screen.wait_for_no_window("Select Web Server")
     screen.wait_for_window("Create Gallery")
     screen.type(server["password"])

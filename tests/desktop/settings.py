@@ -1,5 +1,5 @@
-"""A project is made, saved, opened again, previewed and created into a folder; what comes out equals what the batch
-program makes of the same project."""
+"""A project is made, saved, opened again, previewed and created into a folder; the result equals what the batch program
+makes from the same project."""
 
 from desk import expect, expect_equal_folders, expect_within, wait_for_file
 
@@ -14,7 +14,7 @@ def run(desk):
 
 
 def make_project(desk):
-    """A new project with two photographs and a change on each page, saved and left."""
+    """Makes a new project with two photographs and a change on each page, saves it and closes the window."""
     screen = desk.screen
     with desk.window():
         screen.wait_for_window("Gallery1")
@@ -56,7 +56,7 @@ def check_project(desk):
 
 
 def preview_and_create(desk):
-    """The project on the command line is previewed, created and left."""
+    """Opens the project from the command line, previews it, creates its gallery and closes the window."""
     screen = desk.screen
     with desk.project("ferien.gpj"):
         screen.press("ctrl+i")
@@ -64,7 +64,7 @@ def preview_and_create(desk):
         screen.wait_for_window("ferien.gpj")
         screen.press("ctrl+g")
         screen.wait_for_window("Create Gallery")
-        screen.press("alt+l", "Tab", "ctrl+a")  # the box behind the option
+        screen.press("alt+l", "Tab", "ctrl+a")  # the box after the option
         screen.type("C:\\out\\index.htm")
         screen.press("Return")
         screen.wait_for_no_window("Create Gallery")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks the links of the help: that every page, image and anchor they name is there, and that every page is reached
-from index.html. Use: help_links.py FOLDER. Prints what is wrong, a line each, and exits with 1 then."""
+"""Checks the links of the help: every page, image and anchor that they name must exist, and every page must be
+reachable from index.html. Use: help_links.py FOLDER. Prints each problem on a line; exits with 1 if there are any."""
 
 import sys
 from html.parser import HTMLParser
@@ -9,7 +9,7 @@ from urllib.parse import unquote, urlsplit
 
 
 class Page(HTMLParser):
-    """What one page names: its links with the line they stand in, its images and its own anchors."""
+    """The contents of one page: its links with their line numbers, its images and its own anchors."""
 
     def __init__(self, file):
         super().__init__()
@@ -31,7 +31,7 @@ class Page(HTMLParser):
 
 
 def wrong_link(link, page, pages, folder):
-    """What is wrong with a link of `page`, or None. Whatever leads out of the help is."""
+    """The problem with a link of `page`, or None. A link out of the help is a problem."""
     parts = urlsplit(link)
     if parts.scheme or parts.netloc:
         return f'"{link}" leads out of the help'
@@ -55,7 +55,7 @@ def reached(pages, start):
 
 
 def check(folder):
-    """The complaints about the help in `folder`, sorted."""
+    """The problems of the help in `folder`, sorted."""
     folder = Path(folder).resolve()
     pages = {file: Page(file) for file in folder.rglob("*.html")}
     complaints = []

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""That help_links.py sees what it has to see."""
+"""Tests that help_links.py finds the problems that it should find."""
 
 import tempfile
 import unittest
@@ -10,7 +10,7 @@ from help_links import check
 
 class HelpLinks(unittest.TestCase):
     def complaints(self, **pages):
-        """What is said of a help with these pages; the image there.png and the style sheet a.css lie beside them."""
+        """The problems reported for a help with these pages, the image there.png and the style sheet a.css."""
         with tempfile.TemporaryDirectory() as folder:
             for name, text in pages.items():
                 (Path(folder) / f"{name}.html").write_text(text, encoding="utf-8")
