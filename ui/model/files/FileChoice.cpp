@@ -8,12 +8,13 @@
 namespace vantorium {
 namespace {
 
-bool HasDrive(std::string_view path) {
+/// Any character counts as a drive here: a file cannot be called "1:x", but a user may type it.
+bool BeginsWithDrive(std::string_view path) {
   return path.size() >= 2 && path[1] == ':';
 }
 
 bool HasFolder(const std::string& name) {
-  return HasDrive(name) || name.find_first_of("/\\") != std::string::npos;
+  return BeginsWithDrive(name) || name.find_first_of("/\\") != std::string::npos;
 }
 
 /// Returns `path` through its last separator. Unlike GetFilePath it keeps a leading separator.
@@ -70,8 +71,8 @@ bool FileChoice::IsFolder(const std::string& path) const {
 
 std::string FileChoice::PathOf(const std::string& folder, const std::string& name) const {
   std::string path = name.starts_with('/') ? files_.Paths().ToTextFromUser(name) : WithBackslashes(name);
-  if (!HasDrive(path) && !path.starts_with('\\')) path = WithTrailingBackslash(folder) + path;
-  if (HasDrive(path) && path.find('\\') == std::string::npos) path.insert(2, 1, '\\');
+  if (!BeginsWithDrive(path) && !path.starts_with('\\')) path = WithTrailingBackslash(folder) + path;
+  if (BeginsWithDrive(path) && path.find('\\') == std::string::npos) path.insert(2, 1, '\\');
   const auto native = GoesUp(path) ? files_.Paths().ToNative(path) : std::nullopt;
   return native ? files_.Paths().ToText(native->lexically_normal()) : path;
 }
