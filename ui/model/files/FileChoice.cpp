@@ -8,7 +8,7 @@
 namespace vantorium {
 namespace {
 
-/// Any character counts as a drive here: a file cannot be called "1:x", but a user may type it.
+/// In what a user types, any character before a colon counts as a drive.
 bool BeginsWithDrive(std::string_view path) {
   return path.size() >= 2 && path[1] == ':';
 }
