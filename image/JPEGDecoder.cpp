@@ -4,6 +4,7 @@
 #include "image/JPEGErrors.h"
 #include "image/JPEGFile.h"
 #include "image/JPEGInks.h"
+#include "image/jpeg/SequentialDecoder.h"
 
 #include <tuple>
 #include <vector>
@@ -74,6 +75,7 @@ struct JPEGDecoder::State {
   template <typename Work>
   [[nodiscard]] bool RunPastReservedMarkers(Work work);
   void ChooseOutput();
+  [[nodiscard]] off_t DataPlace() const;
 
   JPEGErrors errors;
   FileHandle file;
@@ -83,6 +85,9 @@ struct JPEGDecoder::State {
   jpeg_decompress_struct codec = {};
   std::vector<std::uint8_t> inks;      // one row, when the file is in inks
   std::vector<std::uint8_t> unwanted;  // a row that could not be skipped
+  std::optional<WantedPixels> wanted;
+  std::unique_ptr<jpeg::SequentialDecoder> usual;  // decodes in the library's place as long as it is there
+  std::int32_t usualRows = 0;                      // so many rows it has passed
 };
 
 void JPEGDecoder::State::Create() {
@@ -107,6 +112,11 @@ bool JPEGDecoder::State::RunPastReservedMarkers(Work work) {
 void JPEGDecoder::State::ChooseOutput() {
   const bool inInks = codec.jpeg_color_space == JCS_CMYK || codec.jpeg_color_space == JCS_YCCK;
   codec.out_color_space = inInks ? JCS_CMYK : JCS_EXT_BGR;
+}
+
+// Where the data begin that follow the header.
+off_t JPEGDecoder::State::DataPlace() const {
+  return ::ftello(file.get()) - static_cast<off_t>(codec.src->bytes_in_buffer);
 }
 
 JPEGDecoder::JPEGDecoder() : state_(std::make_unique<State>()) {}
@@ -157,9 +167,22 @@ std::uint64_t JPEGDecoder::HeldBytes() const {
   return known && severalScans ? BlocksOf(state.codec) * sizeof(JBLOCK) : 0;
 }
 
+void JPEGDecoder::Want(WantedPixels wanted) {
+  state_->wanted = std::move(wanted);
+}
+
 bool JPEGDecoder::Start() {
   State& state = *state_;
   if (!IsPlausible()) return false;
+  if (state.wanted && !state.errors.Damaged()) {
+    state.usual =
+        jpeg::SequentialDecoder::For(state.codec, ::fileno(state.file.get()), state.DataPlace(), *state.wanted);
+  }
+  return state.usual != nullptr || StartLibrary();
+}
+
+bool JPEGDecoder::StartLibrary() {
+  State& state = *state_;
   state.ChooseOutput();
   state.codec.scale_num = 1;
   state.codec.scale_denom = static_cast<unsigned>(divisor_);
@@ -167,8 +190,22 @@ bool JPEGDecoder::Start() {
   return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && !state.errors.Damaged();
 }
 
+// The library still stands behind the header. What it would have made of the rows so far is the same.
+bool JPEGDecoder::TurnToLibrary() {
+  state_->usual.reset();
+  return StartLibrary() && (state_->usualRows == 0 || SkipRows(state_->usualRows));
+}
+
 bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
   State& state = *state_;
+  if (state.usual) {
+    if (state.stop.stop_requested()) return false;
+    if (state.usual->ReadRow(static_cast<std::size_t>(state.usualRows), bgr)) {
+      ++state.usualRows;
+      return true;
+    }
+    if (!TurnToLibrary()) return false;
+  }
   JSAMPROW row = state.HasInks() ? state.inks.data() : bgr;
   JDIMENSION rows = 0;
   const bool done = state.errors.Run([&] { rows = jpeg_read_scanlines(&state.codec, &row, 1); });
@@ -180,6 +217,10 @@ bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
 
 bool JPEGDecoder::SkipRows(std::int32_t count) {
   State& state = *state_;
+  if (state.usual) {
+    state.usualRows += count;
+    return state.usualRows <= height();
+  }
   if (!SkipsFromAnywhere(state.codec)) {
     const auto group = static_cast<JDIMENSION>(state.codec.max_v_samp_factor);
     state.unwanted.resize(static_cast<std::size_t>(width()) * 3);
@@ -193,8 +234,10 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
   return done && rows == wanted && !state.errors.Damaged();
 }
 
+// The data were seen to end well when the bottom row was read.
 bool JPEGDecoder::Finish() {
   State& state = *state_;
+  if (state.usual) return state.usualRows == height();
   return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && !state.errors.Damaged();
 }
 

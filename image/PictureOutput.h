@@ -18,6 +18,8 @@ class PictureOutput {
  public:
   PictureOutput(const PictureRecipe& recipe, PictureSize source);
 
+  /// Marks the pixels of the source that are needed.
+  void MarkSource(WantedPixels& pixels) const { plan_.MarkSource(pixels); }
   /// The next source row that is needed, counted from the bottom; -1 when the output is complete.
   [[nodiscard]] std::int32_t NextSourceRow() const;
   /// Source row `row`, 3 bytes a pixel, and the row above it, which is looked at only when it was asked for too.

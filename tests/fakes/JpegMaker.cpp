@@ -25,7 +25,7 @@ void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
   codec.image_height = static_cast<JDIMENSION>(recipe.height);
   codec.input_components = ChannelsOf(recipe.colours);
   ChooseColours(codec, recipe.colours);
-  jpeg_set_quality(&codec, recipe.quality, TRUE);
+  jpeg_set_quality(&codec, recipe.quality, recipe.wideSteps ? FALSE : TRUE);
   // The key channels, luminance and black, stay fine.
   const bool sampled = recipe.colours == JpegColours::YCbCr || recipe.colours == JpegColours::YCCK;
   for (int i = 0; i < codec.num_components; ++i) {
@@ -34,6 +34,7 @@ void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
     codec.comp_info[i].v_samp_factor = fine ? recipe.vertical : 1;
   }
   codec.restart_interval = recipe.restartEvery;
+  codec.optimize_coding = recipe.optimised ? TRUE : FALSE;
   codec.arith_code = recipe.arithmetic ? TRUE : FALSE;
   if (recipe.progressive) jpeg_simple_progression(&codec);
   if (!recipe.adobeMarker) codec.write_Adobe_marker = FALSE;
@@ -111,6 +112,7 @@ std::string MakeJpeg(const JpegRecipe& recipe, const JpegPixels& pixels) {
   jpeg_error_mgr errors = {};
   jpeg_compress_struct codec = {};
   codec.err = jpeg_std_error(&errors);
+  errors.emit_message = [](j_common_ptr, int) {};
   jpeg_create_compress(&codec);
   unsigned char* bytes = nullptr;
   unsigned long size = 0;

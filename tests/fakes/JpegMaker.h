@@ -24,6 +24,8 @@ struct JpegRecipe {
   unsigned restartEvery = 0;  ///< blocks of pixels between restart markers; 0 is none
   int quality = 90;
   bool adobeMarker = true;  ///< in files of four inks; without it they are CMYK
+  bool optimised = false;   ///< with Huffman codes of its own
+  bool wideSteps = false;   ///< quantization steps may be above 255, as low qualities want them
 };
 std::ostream& operator<<(std::ostream& stream, const JpegRecipe& recipe);
 
