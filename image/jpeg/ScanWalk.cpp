@@ -1,6 +1,5 @@
 #include "image/jpeg/ScanWalk.h"
 
-#include <bit>
 #include <cstdlib>
 #include <utility>
 
@@ -75,15 +74,8 @@ struct ScanWalk::Lane {
     if (rows == 0 || wanted[group * step] == 0) return SkipBlock(window, *component);
     Block block;
     const int sum = ReadBlock(window, *component, block);
-    return sum <= kMostSum && Transform(block, sum <= kTameSum, samples + group * step * 8);
-  }
-
-  [[nodiscard]] bool Transform(const Block& block, bool tame, std::uint8_t* target) const {
-    for (unsigned left = rows; left != 0; left &= left - 1) {
-      const int row = std::countr_zero(left);
-      if (!tame && !IsTame(block, row)) return false;
-      TransformRow(block, row, target + static_cast<std::size_t>(row) * stride);
-    }
+    if (sum > kMostSum || (sum > kTameSum && !IsTame(block, rows))) return false;
+    TransformRows(block, rows, samples + group * step * 8, stride);
     return true;
   }
 };

@@ -85,8 +85,8 @@ int Descaled(int value, int shift) {
 }
 
 // The samples of a row, with nothing taken off beyond their range.
-Line ExactRow(const Block& block, int row) {
-  const auto& weights = kMatrix[static_cast<std::size_t>(row)];
+Line ExactRow(const Block& block, std::size_t row) {
+  const auto& weights = kMatrix[row];
   Line middle = {};
   for (std::size_t column = 0; column < 8; ++column) {
     int sum = 0;
@@ -108,26 +108,33 @@ const std::array<std::uint8_t, 64> kPlaceInBlock = InFileOrder(PlaceOf);
 const std::array<std::uint8_t, 64> kRowMajorPlace =
     InFileOrder([](std::size_t row, std::size_t column) { return 8 * row + column; });
 
-void TransformRowPlainly(const Block& block, int row, std::uint8_t* samples) {
-  for (const int sample : ExactRow(block, row)) {
-    *samples++ = static_cast<std::uint8_t>(std::clamp(sample + kMiddleSample, 0, 255));
+void TransformRowsPlainly(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride) {
+  for (unsigned row = 0; row < 8; ++row, samples += stride) {
+    if ((rows >> row & 1) == 0) continue;
+    const Line line = ExactRow(block, row);
+    std::transform(line.begin(), line.end(), samples,
+                   [](int sample) { return static_cast<std::uint8_t>(std::clamp(sample + kMiddleSample, 0, 255)); });
   }
 }
 
-bool IsTame(const Block& block, int row) {
-  const Line samples = ExactRow(block, row);
-  return std::all_of(samples.begin(), samples.end(), [](int sample) { return sample >= -512 && sample < 512; });
+bool IsTame(const Block& block, unsigned rows) {
+  for (unsigned row = 0; row < 8; ++row) {
+    if ((rows >> row & 1) == 0) continue;
+    const Line line = ExactRow(block, row);
+    if (!std::all_of(line.begin(), line.end(), [](int sample) { return sample >= -512 && sample < 512; })) return false;
+  }
+  return true;
 }
 
 #ifdef __x86_64__
 
 namespace {
 
-// For each row, the weights of two rows of a block at a time, as the instruction wants them that adds two products. And
-// for each two values of a line, their weights in the first four samples: those in the last four are the same from
-// right to left, where the values of odd columns count negative.
+// For each of the upper four rows, the weights of two rows of a block at a time, as the instruction wants them that
+// adds two products. And for each two values of a line, their weights in the first four samples: those in the last four
+// are the same from right to left, where the values of odd columns count negative.
 struct alignas(16) Weights {
-  std::int16_t first[8][4][8];
+  std::int16_t first[4][4][8];
   std::int16_t second[4][8];
 };
 
@@ -137,7 +144,7 @@ constexpr Weights WeightsOfPasses() {
   for (std::size_t pair = 0; pair < 4; ++pair) {
     for (std::size_t i = 0; i < 8; ++i) {
       const std::size_t in = kPairs[pair][i % 2];
-      for (std::size_t out = 0; out < 8; ++out) weights.first[out][pair][i] = kMatrix[out][in];
+      for (std::size_t out = 0; out < 4; ++out) weights.first[out][pair][i] = kMatrix[out][in];
       weights.second[pair][i] = kMatrix[i / 2][in];
     }
   }
@@ -154,16 +161,29 @@ __m128i DescaledToShort(__m128i left, __m128i right, int shift) {
   return _mm_packs_epi32(_mm_srai_epi32(left, shift), _mm_srai_epi32(right, shift));
 }
 
-__m128i FirstPass(const Block& block, int row) {
-  __m128i left = _mm_set1_epi32(1 << (kFirstShift - 1));
-  __m128i right = left;
-  for (std::size_t pair = 0; pair < 4; ++pair) {
-    const __m128i weights = Load(kWeights.first[row][pair]);
-    left = _mm_add_epi32(left, _mm_madd_epi16(Load(block.values.data() + 16 * pair), weights));
-    right = _mm_add_epi32(right, _mm_madd_epi16(Load(block.values.data() + 16 * pair + 8), weights));
+// What the even rows of a block give to a row of samples and to its mirror, and what the odd ones give to the row; to
+// the mirror they give as much less.
+struct FirstPass {
+  FirstPass(const Block& block, int row) {
+    const auto product = [&](std::size_t pair, std::size_t half) {
+      return _mm_madd_epi16(Load(block.values.data() + 16 * pair + 8 * half), Load(kWeights.first[row][pair]));
+    };
+    for (std::size_t half = 0; half < 2; ++half) {
+      const __m128i rounded = _mm_add_epi32(product(0, half), _mm_set1_epi32(1 << (kFirstShift - 1)));
+      even[half] = _mm_add_epi32(rounded, product(1, half));
+      odd[half] = _mm_add_epi32(product(2, half), product(3, half));
+    }
   }
-  return DescaledToShort(left, right, kFirstShift);
-}
+  [[nodiscard]] __m128i Row() const {
+    return DescaledToShort(_mm_add_epi32(even[0], odd[0]), _mm_add_epi32(even[1], odd[1]), kFirstShift);
+  }
+  [[nodiscard]] __m128i Mirror() const {
+    return DescaledToShort(_mm_sub_epi32(even[0], odd[0]), _mm_sub_epi32(even[1], odd[1]), kFirstShift);
+  }
+
+  __m128i even[2];
+  __m128i odd[2];
+};
 
 __m128i SecondPass(__m128i line) {
   const auto product = [](__m128i pair, std::size_t number) {
@@ -178,6 +198,11 @@ __m128i SecondPass(__m128i line) {
   return DescaledToShort(_mm_add_epi32(rounded, odd), right, kSecondShift);
 }
 
+void Store(__m128i line, std::uint8_t* samples) {
+  const __m128i values = _mm_add_epi16(SecondPass(line), _mm_set1_epi16(kMiddleSample));
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(samples), _mm_packus_epi16(values, values));
+}
+
 }  // namespace
 
 void Clear(Block& block) {
@@ -186,9 +211,14 @@ void Clear(Block& block) {
   }
 }
 
-void TransformRow(const Block& block, int row, std::uint8_t* samples) {
-  const __m128i values = _mm_add_epi16(SecondPass(FirstPass(block, row)), _mm_set1_epi16(kMiddleSample));
-  _mm_storel_epi64(reinterpret_cast<__m128i*>(samples), _mm_packus_epi16(values, values));
+void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride) {
+  for (unsigned row = 0; row < 4; ++row) {
+    const unsigned mirror = 7 - row;
+    if ((rows & (1U << row | 1U << mirror)) == 0) continue;
+    const FirstPass pass(block, static_cast<int>(row));
+    if ((rows & 1U << row) != 0) Store(pass.Row(), samples + row * stride);
+    if ((rows & 1U << mirror) != 0) Store(pass.Mirror(), samples + mirror * stride);
+  }
 }
 
 #else
@@ -197,8 +227,8 @@ void Clear(Block& block) {
   block.values = {};
 }
 
-void TransformRow(const Block& block, int row, std::uint8_t* samples) {
-  TransformRowPlainly(block, row, samples);
+void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride) {
+  TransformRowsPlainly(block, rows, samples, stride);
 }
 
 #endif

@@ -25,11 +25,12 @@ inline constexpr int kMostSum = 5900;
 
 /// Sets all coefficients to 0.
 void Clear(Block& block);
-/// Writes the 8 samples of one row of the block, 0 to 7 from the top: the library's accurate integer transform.
-void TransformRow(const Block& block, int row, std::uint8_t* samples);
+/// Writes 8 samples for each row of the block that has its bit in `rows`, the top one in the lowest bit: the library's
+/// accurate integer transform. The rows lie `stride` bytes apart, wanted or not.
+void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
 /// The same in plain C++, for processors without a routine of their own.
-void TransformRowPlainly(const Block& block, int row, std::uint8_t* samples);
-/// Whether all routines of the library agree about the samples of that row.
-[[nodiscard]] bool IsTame(const Block& block, int row);
+void TransformRowsPlainly(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
+/// Whether all routines of the library agree about the samples of those rows.
+[[nodiscard]] bool IsTame(const Block& block, unsigned rows);
 
 }  // namespace vantorium::jpeg

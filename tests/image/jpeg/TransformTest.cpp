@@ -9,7 +9,10 @@
 namespace vantorium::jpeg {
 namespace {
 
-using Samples = std::array<std::uint8_t, 8>;
+using Samples = std::array<std::uint8_t, 80>;
+
+constexpr std::size_t kStride = 10;
+constexpr unsigned kAllRows = 0xFF;
 
 // A block of `count` coefficients whose absolute values add up to `sum` or a little less.
 Block RandomBlock(std::mt19937& generator, int count, int sum) {
@@ -28,12 +31,12 @@ TEST(Transform, TheProcessorsRoutineEqualsThePlainOneUpToTheLargestSum) {
     for (const int count : {1, 2, 5, 20, 64}) {
       for (int i = 0; i < 200; ++i) {
         const Block block = RandomBlock(generator, count, sum);
-        for (int row = 0; row < 8; ++row) {
+        for (const unsigned rows : {kAllRows, static_cast<unsigned>(generator() & kAllRows)}) {
           Samples samples = {};
           Samples plain = {};
-          TransformRow(block, row, samples.data());
-          TransformRowPlainly(block, row, plain.data());
-          ASSERT_EQ(samples, plain) << count << " coefficients of " << sum << ", row " << row;
+          TransformRows(block, rows, samples.data(), kStride);
+          TransformRowsPlainly(block, rows, plain.data(), kStride);
+          ASSERT_EQ(samples, plain) << count << " coefficients of " << sum << ", rows " << rows;
         }
       }
     }
@@ -45,7 +48,7 @@ TEST(Transform, BlocksUpToTheTameSumAreTame) {
   for (const int count : {1, 2, 5, 20, 64}) {
     for (int i = 0; i < 500; ++i) {
       const Block block = RandomBlock(generator, count, kTameSum);
-      for (int row = 0; row < 8; ++row) ASSERT_TRUE(IsTame(block, row)) << count << " coefficients, row " << row;
+      ASSERT_TRUE(IsTame(block, kAllRows)) << count << " coefficients";
     }
   }
 }
@@ -54,20 +57,34 @@ TEST(Transform, SamplesFarOffTheirRangeAreNotTame) {
   for (const int sign : {1, -1}) {
     Block block = {};
     block.values[kPlaceInBlock[0]] = static_cast<std::int16_t>(sign * 4300);
-    EXPECT_FALSE(IsTame(block, 0));
+    EXPECT_FALSE(IsTame(block, 1));
     block.values[kPlaceInBlock[0]] = static_cast<std::int16_t>(sign * 4000);
-    EXPECT_TRUE(IsTame(block, 0));
+    EXPECT_TRUE(IsTame(block, 1));
+  }
+}
+
+TEST(Transform, OnlyWantedRowsAreWritten) {
+  std::mt19937 generator(3);
+  const Block block = RandomBlock(generator, 20, 1000);
+  Samples whole = {};
+  TransformRows(block, kAllRows, whole.data(), kStride);
+  for (unsigned rows = 0; rows <= kAllRows; ++rows) {
+    Samples samples;
+    samples.fill(0xA5);
+    TransformRows(block, rows, samples.data(), kStride);
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+      const bool isWritten = i % kStride < 8 && (rows >> i / kStride & 1) != 0;
+      ASSERT_EQ(samples[i], isWritten ? whole[i] : 0xA5) << "rows " << rows << ", byte " << i;
+    }
   }
 }
 
 TEST(Transform, TheFirstCoefficientIsEightTimesTheMeanOfTheSamples) {
   Block block = {};
   block.values[kPlaceInBlock[0]] = 8 * 50;
-  for (int row = 0; row < 8; ++row) {
-    Samples samples = {};
-    TransformRow(block, row, samples.data());
-    EXPECT_EQ(samples, (Samples{178, 178, 178, 178, 178, 178, 178, 178}));
-  }
+  Samples samples = {};
+  TransformRows(block, kAllRows, samples.data(), kStride);
+  for (std::size_t i = 0; i < samples.size(); ++i) EXPECT_EQ(samples[i], i % kStride < 8 ? 178 : 0) << i;
 }
 
 TEST(Transform, EveryPlaceInABlockIsThatOfOneCoefficient) {
