@@ -174,7 +174,7 @@ void JPEGDecoder::Want(WantedPixels wanted) {
 bool JPEGDecoder::Start() {
   State& state = *state_;
   if (!IsPlausible()) return false;
-  if (state.wanted && !state.errors.Damaged()) {
+  if (jpeg::SequentialDecoder::kIsFaster && state.wanted && !state.errors.Damaged()) {
     state.usual =
         jpeg::SequentialDecoder::For(state.codec, ::fileno(state.file.get()), state.DataPlace(), *state.wanted);
   }
