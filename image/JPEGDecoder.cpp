@@ -6,7 +6,9 @@
 #include "image/JPEGInks.h"
 #include "image/jpeg/SequentialDecoder.h"
 
+#include <algorithm>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <jerror.h>
@@ -20,6 +22,9 @@ constexpr int kMostScans = 500;
 
 // For the coefficients of a picture in several scans: enough for 350 megapixels with halved chroma.
 constexpr long kMostMemory = 1L << 30;
+
+// Between two looks for a stop.
+constexpr std::int32_t kMostRowsAtOnce = 256;
 
 // Called by the library again and again while it reads a file in several scans.
 void LimitScans(j_common_ptr common) {
@@ -192,8 +197,13 @@ bool JPEGDecoder::StartLibrary() {
 
 // The library still stands behind the header. What it would have made of the rows so far is the same.
 bool JPEGDecoder::TurnToLibrary() {
-  state_->usual.reset();
-  return StartLibrary() && (state_->usualRows == 0 || SkipRows(state_->usualRows));
+  State& state = *state_;
+  state.usual.reset();
+  if (!StartLibrary()) return false;
+  for (std::int32_t left = state.usualRows; left > 0; left -= kMostRowsAtOnce) {
+    if (state.stop.stop_requested() || !SkipRows(std::min(left, kMostRowsAtOnce))) return false;
+  }
+  return true;
 }
 
 bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {

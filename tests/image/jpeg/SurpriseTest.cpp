@@ -40,6 +40,21 @@ TEST_F(SurpriseTest, BytesBeforeTheEndMarkDoNoHarm) {
   }
 }
 
+TEST_F(SurpriseTest, TheLibraryGoesOnAtTheRowWhereverThatIs) {
+  for (const int vertical : {1, 2}) {
+    std::string high = fakes::MakeJpeg({.width = 20, .height = 900, .vertical = vertical});
+    high.insert(high.size() - 2, "more");
+    const auto file = folder.Write("picture.jpg", high);
+    for (const unsigned number : {0U, 5U, 300U}) {
+      const auto wanted = fakes::SomePixels(20, 900, number);
+      const auto expected = fakes::ReadByLibrary(file, wanted);
+      EXPECT_TRUE(expected);
+      EXPECT_FALSE(fakes::ReadAlone(file, wanted));
+      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), expected);
+    }
+  }
+}
+
 TEST_F(SurpriseTest, DataThatEndEarlyAreDamaged) {
   const std::size_t data = fakes::PictureDataOf(jpeg);
   for (std::size_t size = data; size + 10 < jpeg.size(); size += 97) {
