@@ -150,6 +150,8 @@ bool ScanWalk::PassRow() {
     if (!PassGroup(window, lanes, group)) return false;
   }
   window_ = window;
+  // The last group was seen to begin within the data, not to end there.
+  if (window.BitsBefore(data_.End()) < 0) return false;
   return ++rowsPassed_ < grid_.rows || EndsSegment(window, kEndOfImage);
 }
 

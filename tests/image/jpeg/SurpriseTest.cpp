@@ -40,6 +40,23 @@ TEST_F(SurpriseTest, BytesBeforeTheEndMarkDoNoHarm) {
   }
 }
 
+// A byte FF more before a stuffed one is none. The rows that come before it must not hang on what seems to be missing.
+TEST_F(SurpriseTest, RowsAreNotGivenOutOfDataThatAreNotThere) {
+  for (const unsigned interval : {0U, 7U}) {
+    const std::string fine = fakes::MakeJpeg(
+        {.width = kWidth, .height = kHeight, .horizontal = 1, .vertical = 1, .restartEvery = interval, .quality = 100});
+    const std::string_view stuffed("\xFF\0", 2);
+    for (std::size_t at = fine.find(stuffed, fakes::PictureDataOf(fine)); at != std::string::npos;
+         at = fine.find(stuffed, at + 1)) {
+      const auto file = folder.Write("picture.jpg", fakes::WithBytesAt(fine, at, "\xFF"));
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, 0);
+      const auto expected = fakes::ReadByLibrary(file, wanted);
+      ASSERT_TRUE(expected);
+      ASSERT_EQ(fakes::ReadAsWanted(file, wanted), expected) << "byte " << at;
+    }
+  }
+}
+
 TEST_F(SurpriseTest, TheLibraryGoesOnAtTheRowWhereverThatIs) {
   for (const int vertical : {1, 2}) {
     std::string high = fakes::MakeJpeg({.width = 20, .height = 900, .vertical = vertical});
