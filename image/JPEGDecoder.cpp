@@ -4,10 +4,12 @@
 #include "image/JPEGErrors.h"
 #include "image/JPEGFile.h"
 #include "image/JPEGInks.h"
+#include "image/jpeg/SequentialDecoder.h"
 
 #include <algorithm>
 #include <iterator>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <jerror.h>
@@ -20,6 +22,9 @@ constexpr int kMostScans = 500;
 
 // Memory for the coefficients of a multi-scan picture: enough for 350 megapixels with halved chroma.
 constexpr long kMostMemory = 1L << 30;
+
+// Rows skipped between two checks for a stop.
+constexpr std::int32_t kMostRowsAtOnce = 256;
 
 // libjpeg-turbo calls this repeatedly while it reads a multi-scan file.
 void LimitScans(j_common_ptr common) {
@@ -89,6 +94,7 @@ struct JPEGDecoder::State {
   [[nodiscard]] bool RunPastReservedMarkers(Work work);
   void ChooseOutput();
   [[nodiscard]] bool IsWhole() const;
+  [[nodiscard]] off_t DataPlace() const;
 
   JPEGErrors errors;
   FileHandle file;
@@ -98,6 +104,9 @@ struct JPEGDecoder::State {
   jpeg_decompress_struct codec = {};
   std::vector<std::uint8_t> inks;      // one row, for CMYK and YCCK files
   std::vector<std::uint8_t> unwanted;  // a row that could not be skipped
+  std::optional<WantedPixels> wanted;
+  std::unique_ptr<jpeg::SequentialDecoder> usual;  // decodes in the library's place as long as it is there
+  std::int32_t usualRows = 0;                      // so many rows it has passed
 };
 
 void JPEGDecoder::State::Create() {
@@ -127,6 +136,11 @@ void JPEGDecoder::State::ChooseOutput() {
 // Whether none of the data read so far is known to be missing.
 bool JPEGDecoder::State::IsWhole() const {
   return !errors.Damaged() && (!errors.EndedEarly() || HasEveryCoefficient(codec));
+}
+
+// Where the data begin that follow the header.
+off_t JPEGDecoder::State::DataPlace() const {
+  return ::ftello(file.get()) - static_cast<off_t>(codec.src->bytes_in_buffer);
 }
 
 JPEGDecoder::JPEGDecoder() : state_(std::make_unique<State>()) {}
@@ -177,9 +191,22 @@ std::uint64_t JPEGDecoder::HeldBytes() const {
   return known && severalScans ? BlocksOf(state.codec) * sizeof(JBLOCK) : 0;
 }
 
+void JPEGDecoder::Want(WantedPixels wanted) {
+  state_->wanted = std::move(wanted);
+}
+
 bool JPEGDecoder::Start() {
   State& state = *state_;
   if (!IsPlausible()) return false;
+  if (jpeg::SequentialDecoder::kIsFaster && state.wanted && !state.errors.Damaged()) {
+    state.usual =
+        jpeg::SequentialDecoder::For(state.codec, ::fileno(state.file.get()), state.DataPlace(), *state.wanted);
+  }
+  return state.usual != nullptr || StartLibrary();
+}
+
+bool JPEGDecoder::StartLibrary() {
+  State& state = *state_;
   state.ChooseOutput();
   state.codec.scale_num = 1;
   state.codec.scale_denom = static_cast<unsigned>(divisor_);
@@ -187,8 +214,27 @@ bool JPEGDecoder::Start() {
   return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && state.IsWhole();
 }
 
+// The library still stands behind the header. What it would have made of the rows so far is the same.
+bool JPEGDecoder::TurnToLibrary() {
+  State& state = *state_;
+  state.usual.reset();
+  if (!StartLibrary()) return false;
+  for (std::int32_t left = state.usualRows; left > 0; left -= kMostRowsAtOnce) {
+    if (state.stop.stop_requested() || !SkipRows(std::min(left, kMostRowsAtOnce))) return false;
+  }
+  return true;
+}
+
 bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
   State& state = *state_;
+  if (state.usual) {
+    if (state.stop.stop_requested()) return false;
+    if (state.usual->ReadRow(static_cast<std::size_t>(state.usualRows), bgr)) {
+      ++state.usualRows;
+      return true;
+    }
+    if (!TurnToLibrary()) return false;
+  }
   JSAMPROW row = state.HasInks() ? state.inks.data() : bgr;
   JDIMENSION rows = 0;
   const bool done = state.errors.Run([&] { rows = jpeg_read_scanlines(&state.codec, &row, 1); });
@@ -200,6 +246,10 @@ bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
 
 bool JPEGDecoder::SkipRows(std::int32_t count) {
   State& state = *state_;
+  if (state.usual) {
+    state.usualRows += count;
+    return state.usualRows <= height();
+  }
   if (!SkipsFromAnywhere(state.codec)) {
     const auto group = static_cast<JDIMENSION>(state.codec.max_v_samp_factor);
     state.unwanted.resize(static_cast<std::size_t>(width()) * 3);
@@ -213,8 +263,10 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
   return done && rows == wanted && state.IsWhole();
 }
 
+// The data were seen to end well when the bottom row was read.
 bool JPEGDecoder::Finish() {
   State& state = *state_;
+  if (state.usual) return state.usualRows == height();
   return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && state.IsWhole();
 }
 

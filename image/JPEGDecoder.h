@@ -1,8 +1,11 @@
 #pragma once
 
+#include "image/WantedPixels.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <stop_token>
 
 namespace vantorium {
@@ -42,6 +45,11 @@ class JPEGDecoder {
   [[nodiscard]] std::int32_t OutputWidth() const;
   [[nodiscard]] std::int32_t OutputHeight() const;
 
+  /// Between Open and Start: no more than these pixels are looked at, so the others may come out as anything, and only
+  /// wanted rows are read. Files of the usual kind are then decoded without the library, as long as nothing is wrong
+  /// with them. Not for a reduced picture.
+  void Want(WantedPixels wanted);
+
   [[nodiscard]] bool Start();
   /// Writes the next row, 3 bytes per pixel, to `bgr`. Returns false once the data prove damaged or truncated.
   [[nodiscard]] bool ReadRow(std::uint8_t* bgr);
@@ -54,6 +62,9 @@ class JPEGDecoder {
 
  private:
   struct State;
+  [[nodiscard]] bool StartLibrary();
+  [[nodiscard]] bool TurnToLibrary();
+
   std::unique_ptr<State> state_;
   std::stop_token stop_;
   int divisor_ = 1;

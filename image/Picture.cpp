@@ -22,6 +22,9 @@ class GuardedOutput {
     });
   }
 
+  void MarkSource(WantedPixels& pixels) const {
+    if (output_) output_->MarkSource(pixels);
+  }
   [[nodiscard]] std::int32_t NextSourceRow() const { return output_ ? output_->NextSourceRow() : -1; }
   void TakeSourceRow(std::int32_t row, const std::uint8_t* bytes, const std::uint8_t* above) {
     Guard([&] {
@@ -76,6 +79,14 @@ class RowReader {
   std::vector<std::uint8_t> above_;
 };
 
+WantedPixels PixelsFor(const GuardedOutput& image, const GuardedOutput& thumbnail, PictureSize source) {
+  WantedPixels pixels(source.width, source.height);
+  image.MarkSource(pixels);
+  thumbnail.MarkSource(pixels);
+  pixels.rows.back() = 1;
+  return pixels;
+}
+
 /// Always reads the bottom row: only then does libjpeg-turbo report damage in the rows after the last one needed.
 bool PassRows(JPEGDecoder& decoder, GuardedOutput& image, GuardedOutput& thumbnail, const std::stop_token& stop) {
   RowReader reader(decoder);
@@ -101,11 +112,11 @@ PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequ
   decoder.StopWith(work.stop);
   if (!decoder.Open(source) || !decoder.IsPlausible()) return files;
   const auto share = work.budget.Take(decoder.HeldBytes(), work.stop);
-  if (!decoder.Start()) return files;
   const PictureSize size = {decoder.width(), decoder.height()};
   GuardedOutput image(request.image, size, files.image);
   GuardedOutput thumbnail(request.thumbnail, size, files.thumbnail);
-  if (!PassRows(decoder, image, thumbnail, work.stop)) return {};
+  decoder.Want(PixelsFor(image, thumbnail, size));
+  if (!decoder.Start() || !PassRows(decoder, image, thumbnail, work.stop)) return {};
   image.Finish();
   thumbnail.Finish();
   files.decoded = true;

@@ -17,6 +17,8 @@ class PictureOutput {
  public:
   PictureOutput(const PictureRecipe& recipe, PictureSize source);
 
+  /// Marks the pixels of the source that are needed.
+  void MarkSource(WantedPixels& pixels) const { plan_.MarkSource(pixels); }
   /// Returns the next source row needed, counted from the bottom; -1 when the output is complete.
   [[nodiscard]] std::int32_t NextSourceRow() const;
   /// Takes source row `row`, 3 bytes per pixel, and the row above it, which is read only if it was needed too.

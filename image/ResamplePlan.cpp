@@ -91,6 +91,22 @@ ResamplePlan::SourceRows ResamplePlan::RowsOf(std::int32_t newRow) const {
   return {place.index, place.index + (alone ? 0 : 1), alone ? 0 : place.weight};
 }
 
+void ResamplePlan::MarkSource(WantedPixels& pixels) const {
+  if (from_ == to_) std::fill(pixels.columns.begin(), pixels.columns.end(), std::uint8_t{1});
+  for (const std::int32_t byte : leftBytes_) {
+    const std::int32_t left = byte / 3;
+    for (const std::int32_t x : {left, std::min(left + 1, from_.width - 1)}) {
+      pixels.columns[static_cast<std::size_t>(x)] = 1;
+    }
+  }
+  for (std::int32_t newRow = 0; newRow < to_.height; ++newRow) {
+    const SourceRows rows = RowsOf(newRow);
+    for (const std::int32_t y : {rows.lower, rows.upper}) {
+      pixels.rows[static_cast<std::size_t>(from_.height - 1 - y)] = 1;
+    }
+  }
+}
+
 void ResamplePlan::GatherColumns(const std::uint8_t* row, std::size_t first, std::size_t count, std::uint8_t* left,
                                  std::uint8_t* right) const {
   const std::int32_t* begins = leftBytes_.data() + first;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "image/WantedPixels.h"
+
 #include <cstdint>
 #include <vector>
 
@@ -29,6 +31,9 @@ class ResamplePlan {
     float weight;  ///< share of the upper row, 0 to below 1
   };
   [[nodiscard]] SourceRows RowsOf(std::int32_t newRow) const;
+
+  /// Marks the source pixels that the new picture is made of.
+  void MarkSource(WantedPixels& pixels) const;
 
   /// Writes the new row, 3 bytes per pixel without padding, to `result`. `lower` and `upper` are the bytes of the rows
   /// that `rows` names. May be called from several threads at once.

@@ -32,7 +32,7 @@ void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
   codec.image_height = static_cast<JDIMENSION>(recipe.height);
   codec.input_components = ChannelsOf(recipe.colors);
   ChooseColors(codec, recipe.colors);
-  jpeg_set_quality(&codec, recipe.quality, TRUE);
+  jpeg_set_quality(&codec, recipe.quality, recipe.wideSteps ? FALSE : TRUE);
   // Luminance and black are not subsampled.
   const bool sampled = recipe.colors == JpegColors::YCbCr || recipe.colors == JpegColors::YCCK;
   for (int i = 0; i < codec.num_components; ++i) {
@@ -41,6 +41,7 @@ void Configure(jpeg_compress_struct& codec, const JpegRecipe& recipe) {
     codec.comp_info[i].v_samp_factor = fine ? recipe.vertical : 1;
   }
   codec.restart_interval = recipe.restartEvery;
+  codec.optimize_coding = recipe.optimised ? TRUE : FALSE;
   codec.arith_code = recipe.arithmetic ? TRUE : FALSE;
   if (recipe.progressive) jpeg_simple_progression(&codec);
   if (!recipe.adobeMarker) codec.write_Adobe_marker = FALSE;
@@ -119,6 +120,7 @@ std::string MakeJpeg(const JpegRecipe& recipe, const JpegPixels& pixels) {
   jpeg_error_mgr errors = {};
   jpeg_compress_struct codec = {};
   codec.err = jpeg_std_error(&errors);
+  errors.emit_message = [](j_common_ptr, int) {};
   jpeg_create_compress(&codec);
   unsigned char* bytes = nullptr;
   unsigned long size = 0;

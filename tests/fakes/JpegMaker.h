@@ -25,6 +25,8 @@ struct JpegRecipe {
   unsigned restartEvery = 0;  ///< number of MCUs between restart markers; 0: no markers
   int quality = 90;
   bool adobeMarker = true;  ///< whether a file has the Adobe marker; four inks without it are CMYK
+  bool optimised = false;   ///< whether the file has Huffman codes of its own
+  bool wideSteps = false;   ///< whether quantization steps may exceed 255
 };
 std::ostream& operator<<(std::ostream& stream, const JpegRecipe& recipe);
 

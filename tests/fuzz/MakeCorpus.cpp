@@ -26,6 +26,10 @@ void WritePhotographs(const fs::path& folder) {
   const std::pair<std::string_view, fakes::JpegRecipe> recipes[] = {
       {"grey", {.width = 17, .height = 11, .colors = JpegColors::Grey, .quality = 40}},
       {"halved", {.width = 37, .height = 29, .quality = 40}},
+      {"halved_width", {.width = 30, .height = 25, .horizontal = 2, .vertical = 1, .quality = 40, .optimised = true}},
+      {"full", {.width = 23, .height = 21, .horizontal = 1, .vertical = 1, .restartEvery = 3, .quality = 60}},
+      {"fine", {.width = 20, .height = 18, .quality = 100}},
+      {"coarse", {.width = 50, .height = 60, .quality = 5, .wideSteps = true}},
       {"halved_restarts", {.width = 33, .height = 50, .restartEvery = 2, .quality = 30}},
       {"narrow", {.width = 4, .height = 61, .quality = 30}},
       {"rows_halved", {.width = 19, .height = 43, .horizontal = 1, .vertical = 2, .quality = 30}},

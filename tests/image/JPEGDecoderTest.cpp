@@ -1,6 +1,7 @@
 #include "image/JPEGDecoder.h"
 #include "tests/fakes/JpegMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
+#include "tests/image/jpeg/WantedRows.h"
 
 #include <random>
 #include <stop_token>
@@ -68,6 +69,34 @@ TEST(JPEGDecoder, RowsBehindSkippedOnesComeOutAsIfAllWereRead) {
   }
 }
 
+TEST(JPEGDecoder, WantedRowsOfAllKindsOfFilesComeOutAsIfAllWereRead) {
+  for (const auto& recipe : fakes::EveryKindOfJpeg()) {
+    const Sample sample(recipe);
+    for (const unsigned number : {0U, 3U}) {
+      const auto wanted = fakes::SomePixels(recipe.width, recipe.height, number);
+      const auto rows = fakes::ReadByLibrary(sample.path, wanted);
+      ASSERT_TRUE(rows) << recipe;
+      EXPECT_EQ(fakes::ReadAsWanted(sample.path, wanted), rows) << recipe;
+    }
+  }
+}
+
+TEST(JPEGDecoder, ARowThatWasNotWantedComesOutAllTheSame) {
+  const Sample sample({});
+  const Rows rows = AllRows(sample.path);
+  JPEGDecoder decoder;
+  ASSERT_TRUE(decoder.Open(sample.path));
+  WantedPixels wanted(decoder.width(), decoder.height());
+  wanted.rows[5] = wanted.rows[9] = 1;
+  decoder.Want(wanted);
+  ASSERT_TRUE(decoder.Start());
+  ASSERT_TRUE(decoder.SkipRows(5));
+  NextRow(decoder);
+  EXPECT_EQ(NextRow(decoder), rows.at(6));
+  ASSERT_TRUE(decoder.SkipRows(2));
+  EXPECT_EQ(NextRow(decoder), rows.at(9));
+}
+
 TEST(JPEGDecoder, OnlyFilesInSeveralScansHoldCoefficients) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     const Sample sample(recipe);
@@ -85,13 +114,16 @@ TEST(JPEGDecoder, OnlyFilesInSeveralScansHoldCoefficients) {
 TEST(JPEGDecoder, AStopEndsTheDecoding) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     const Sample sample(recipe);
-    std::stop_source stop;
-    JPEGDecoder decoder;
-    decoder.StopWith(stop.get_token());
-    ASSERT_TRUE(decoder.Open(sample.path)) << recipe;
-    stop.request_stop();
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(decoder.width()) * 3);
-    EXPECT_FALSE(decoder.Start() && decoder.ReadRow(row.data())) << recipe;
+    for (const bool isWanted : {false, true}) {
+      std::stop_source stop;
+      JPEGDecoder decoder;
+      decoder.StopWith(stop.get_token());
+      ASSERT_TRUE(decoder.Open(sample.path)) << recipe;
+      if (isWanted) decoder.Want(fakes::SomePixels(recipe.width, recipe.height, 0));
+      stop.request_stop();
+      std::vector<std::uint8_t> row(static_cast<std::size_t>(decoder.width()) * 3);
+      EXPECT_FALSE(decoder.Start() && decoder.ReadRow(row.data())) << recipe;
+    }
   }
 }
 
@@ -107,10 +139,14 @@ TEST(JPEGDecoder, CallsBeforeAFileIsOpenAreRefused) {
 }
 
 TEST(JPEGDecoder, FinishingBeforeTheLastRowIsAFailure) {
-  const fakes::TemporaryFolder folder;
-  JPEGDecoder decoder;
-  ASSERT_TRUE(decoder.Open(folder.Write("picture.jpg", fakes::MakeJpeg({}))) && decoder.Start());
-  EXPECT_FALSE(decoder.Finish());
+  const Sample sample({});
+  for (const bool isWanted : {false, true}) {
+    JPEGDecoder decoder;
+    ASSERT_TRUE(decoder.Open(sample.path));
+    if (isWanted) decoder.Want(fakes::SomePixels(decoder.width(), decoder.height(), 0));
+    ASSERT_TRUE(decoder.Start());
+    EXPECT_FALSE(decoder.Finish());
+  }
 }
 
 TEST(JPEGDecoder, AGivenUpFileStaysGivenUp) {

@@ -39,6 +39,40 @@ TEST(ResamplePlan, RowsLieInTheSourceAndAscend) {
   }
 }
 
+TEST(ResamplePlan, RowsThatAreAskedForAreMarkedAndNoOthers) {
+  for (const std::int32_t newHeight : {1, 3, 40, 77, 200}) {
+    const ResamplePlan plan({5, 77}, {newHeight == 77 ? 5 : 4, newHeight});
+    std::vector<std::uint8_t> asked(77);
+    for (std::int32_t y = 0; y < newHeight; ++y) {
+      for (const std::int32_t row : {plan.RowsOf(y).lower, plan.RowsOf(y).upper}) {
+        asked[static_cast<std::size_t>(76 - row)] = 1;
+      }
+    }
+    WantedPixels pixels(5, 77);
+    plan.MarkSource(pixels);
+    EXPECT_EQ(pixels.rows, asked) << newHeight;
+  }
+}
+
+TEST(ResamplePlan, WhatIsInColumnsWithoutAMarkDoesNotShow) {
+  for (const std::int32_t newWidth : {1, 2, 9, 30, 49, 50, 51, 120}) {
+    const ResamplePlan plan({50, 50}, {newWidth, newWidth == 50 ? 50 : 20});
+    WantedPixels pixels(50, 50);
+    plan.MarkSource(pixels);
+    std::vector<std::uint8_t> source(150);
+    std::vector<std::uint8_t> changed(150);
+    for (std::size_t i = 0; i < source.size(); ++i) {
+      source[i] = static_cast<std::uint8_t>(i);
+      changed[i] = static_cast<std::uint8_t>(pixels.columns[i / 3] != 0 ? i : 255 - i);
+    }
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(newWidth) * 3);
+    std::vector<std::uint8_t> other(row.size());
+    plan.CombineRows(plan.RowsOf(3), source.data(), source.data(), row.data());
+    plan.CombineRows(plan.RowsOf(3), changed.data(), changed.data(), other.data());
+    EXPECT_EQ(row, other) << newWidth;
+  }
+}
+
 TEST(ResamplePlan, NothingBehindTheNewRowIsWritten) {
   for (std::int32_t width = 1; width < 300; ++width) {
     const ResamplePlan plan({50, 50}, {width, 20});

@@ -1,0 +1,38 @@
+// JPEG files decoded by the program's own decoder where they are of the usual kind, against the library: the same
+// pixels, or the same refusal.
+#include "image/JPEG.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "tests/fuzz/FuzzTarget.h"
+#include "tests/image/jpeg/WantedRows.h"
+
+#include <algorithm>
+#include <numeric>
+
+using namespace vantorium;
+
+namespace {
+
+constexpr std::int64_t kMostPixels = 1 << 16;
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const fakes::TemporaryFolder folder;
+  const std::string input = fuzz::InputText(data, size);
+  const auto file = folder.Write("photo.jpg", input);
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  if (!ReadJPEGSize(file, width, height) || std::int64_t{width} * height > kMostPixels) return 0;
+
+  // All pixels, and some that hang on the input.
+  const unsigned sum = std::accumulate(input.begin(), input.end(), 0U,
+                                       [](unsigned all, char byte) { return all + static_cast<unsigned char>(byte); });
+  for (const unsigned number : {0U, 1 + sum % 20}) {
+    const auto wanted = fakes::SomePixels(width, height, number);
+    const auto expected = fakes::ReadByLibrary(file, wanted);
+    const auto alone = fakes::ReadAlone(file, wanted);
+    fuzz::Require(!alone || alone == expected, "what is decoded without the library is what it decodes");
+    fuzz::Require(fakes::ReadAsWanted(file, wanted) == expected, "the library has the last word");
+  }
+  return 0;
+}

@@ -1,0 +1,120 @@
+#include "image/jpeg/HuffmanTables.h"
+
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace vantorium::jpeg {
+namespace {
+
+// Codes of each length from 1 to 16 bits, as many as given, for the symbols in their order.
+JHUFF_TBL TableOf(const std::array<int, 16>& counts, const std::vector<int>& symbols) {
+  JHUFF_TBL table = {};
+  for (std::size_t i = 0; i < 16; ++i) table.bits[i + 1] = static_cast<UINT8>(counts[i]);
+  std::transform(symbols.begin(), symbols.end(), table.huffval, [](int each) { return static_cast<UINT8>(each); });
+  return table;
+}
+
+// The end of a block has the code 0; a value of one bit behind no zero 10, of three bits behind two zeros 110, sixteen
+// zeros 1110, and of ten bits behind no zero 111100000000000.
+JHUFF_TBL SomeTable() {
+  return TableOf({1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0}, {0x00, 0x01, 0x23, 0xF0, 0x0A});
+}
+
+// Bits as text, with room behind them.
+std::vector<std::uint8_t> BytesOf(const std::string& bits) {
+  std::vector<std::uint8_t> bytes(bits.size() / 8 + 64);
+  for (std::size_t i = 0; i < bits.size(); ++i) {
+    if (bits[i] == '1') bytes[i / 8] = static_cast<std::uint8_t>(bytes[i / 8] | 0x80U >> i % 8);
+  }
+  return bytes;
+}
+
+// Where a block of these bits ends, and the bits taken.
+std::pair<unsigned, std::ptrdiff_t> Skipped(const JHUFF_TBL& table, const std::string& bits) {
+  HuffmanCode code;
+  EXPECT_TRUE(code.Set(table));
+  const auto bytes = BytesOf(bits);
+  BitWindow window(bytes.data());
+  const unsigned k = SkipTable(code).Skip(window);
+  const std::uint8_t* end = bytes.data() + bytes.size();
+  return {k, (end - bytes.data()) * 8 - window.BitsBefore(end)};
+}
+
+std::string Times(int count, const std::string& text) {
+  std::string all;
+  for (int i = 0; i < count; ++i) all += text;
+  return all;
+}
+
+TEST(HuffmanTables, ASymbolComesWithItsValue) {
+  HuffmanCode code;
+  ASSERT_TRUE(code.Set(SomeTable()));
+  const ValueTable table(code);
+  const auto read = [&](const std::string& bits) {
+    const auto bytes = BytesOf(bits);
+    BitWindow window(bytes.data());
+    window.Refill();
+    const Symbol symbol = table.Read(window);
+    return std::array{static_cast<int>(symbol.length), static_cast<int>(symbol.move), symbol.value};
+  };
+  EXPECT_EQ(read("0111"), (std::array{1, static_cast<int>(kEndOfBlock), 0}));
+  EXPECT_EQ(read("101"), (std::array{3, 1, 1}));
+  EXPECT_EQ(read("100"), (std::array{3, 1, -1}));
+  EXPECT_EQ(read("110101"), (std::array{6, 3, 5}));
+  EXPECT_EQ(read("110000"), (std::array{6, 3, -7}));
+  EXPECT_EQ(read("1110"), (std::array{4, 16, 0}));
+  EXPECT_EQ(read("1111000000000001000000001"), (std::array{25, 1, 513}));
+  EXPECT_EQ(read("1111000000000000000000000"), (std::array{25, 1, -1023}));
+  EXPECT_EQ(read("1111111"), (std::array{0, static_cast<int>(kBadCode), 0}));
+}
+
+TEST(HuffmanTables, ABlockIsPassedUpToItsEnd) {
+  EXPECT_EQ(Skipped(SomeTable(), "0111"), std::pair(kEndOfBlock, std::ptrdiff_t{1}));
+  EXPECT_EQ(Skipped(SomeTable(), Times(5, "101") + "0"), std::pair(kEndOfBlock + 5, std::ptrdiff_t{16}));
+  EXPECT_EQ(Skipped(SomeTable(),
+                    "1111000000000000000000000"
+                    "0"),
+            std::pair(kEndOfBlock + 1, std::ptrdiff_t{26}));
+}
+
+TEST(HuffmanTables, ARunWithoutAValueEndsTheBlockUnlessItIsOfSixteenZeros) {
+  for (const int symbol : {0x00, 0x10, 0x70, 0xE0}) {
+    const JHUFF_TBL table = TableOf({1, 1}, {symbol, 0xF0});
+    EXPECT_EQ(Skipped(table, "011"), std::pair(kEndOfBlock, std::ptrdiff_t{1})) << symbol;
+    EXPECT_EQ(Skipped(table, "10011"), std::pair(kEndOfBlock + 16, std::ptrdiff_t{3})) << symbol;
+  }
+}
+
+TEST(HuffmanTables, ABlockWithoutAnEndStopsAtItsLastPlaceWhateverFollows) {
+  for (const char* more : {"0", "101", "110000", "1110", "1111111"}) {
+    EXPECT_EQ(Skipped(SomeTable(), Times(63, "101") + Times(9, more)), std::pair(kLastPlace, std::ptrdiff_t{189}));
+    EXPECT_EQ(Skipped(SomeTable(), Times(21, "110101") + Times(9, more)), std::pair(kLastPlace, std::ptrdiff_t{126}));
+  }
+}
+
+TEST(HuffmanTables, ABlockThatRunsOverOrHasABadCodeDoesNotEndWell) {
+  EXPECT_FALSE(EndsWell(Skipped(SomeTable(), Times(4, "1110")).first));
+  EXPECT_FALSE(EndsWell(Skipped(SomeTable(), Times(62, "101") + "110000").first));
+  EXPECT_FALSE(EndsWell(Skipped(SomeTable(), "1111111").first));
+  EXPECT_FALSE(EndsWell(Skipped(SomeTable(), Times(62, "101") + "1111111").first));
+}
+
+TEST(HuffmanTables, CodesThatDoNotFitAreRefused) {
+  HuffmanCode code;
+  EXPECT_TRUE(code.Set(TableOf({1, 1, 1}, {1, 2, 3})));
+  EXPECT_FALSE(code.Set(TableOf({2}, {1, 2})));
+  EXPECT_FALSE(code.Set(TableOf({1, 2}, {1, 2, 3})));
+  EXPECT_FALSE(code.Set(TableOf({0, 5}, {1, 2, 3, 4, 5})));
+}
+
+TEST(HuffmanTables, ATableTellsOfItsLargestSymbol) {
+  HuffmanCode code;
+  ASSERT_TRUE(code.Set(TableOf({1, 1}, {3, 15})));
+  EXPECT_FALSE(code.HasSymbolsAbove(15));
+  EXPECT_TRUE(code.HasSymbolsAbove(14));
+}
+
+}  // namespace
+}  // namespace vantorium::jpeg

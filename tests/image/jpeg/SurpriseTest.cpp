@@ -1,0 +1,140 @@
+// What SequentialDecoder gives up on is decided by the library, with the rows that came before.
+#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "tests/image/jpeg/WantedRows.h"
+
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr int kWidth = 100;
+constexpr int kHeight = 90;
+
+class SurpriseTest : public ::testing::Test {
+ protected:
+  // Whether the file is good is the library's word, its rows are the library's too.
+  void ExpectTheLibrarysWord(const std::string& jpeg, bool good) {
+    const auto file = folder.Write("picture.jpg", jpeg);
+    for (const unsigned number : {0U, 3U, 30U}) {
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, number);
+      const auto expected = fakes::ReadByLibrary(file, wanted);
+      EXPECT_EQ(expected.has_value(), good);
+      EXPECT_FALSE(fakes::ReadAlone(file, wanted));
+      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), expected);
+    }
+  }
+
+  const std::string jpeg = fakes::MakeJpeg({.width = kWidth, .height = kHeight});
+  const std::string withRestarts = fakes::MakeJpeg({.width = kWidth, .height = kHeight, .restartEvery = 5});
+  fakes::TemporaryFolder folder;
+};
+
+TEST_F(SurpriseTest, BytesBeforeTheEndMarkDoNoHarm) {
+  for (const std::string_view bytes : {"\x11"sv, "more than a few"sv, "\xFF"sv, "\xFF\xFE\x00\x03!"sv}) {
+    ExpectTheLibrarysWord(fakes::WithBytesAt(jpeg, jpeg.size() - 2, bytes), true);
+  }
+}
+
+// A byte FF more before a stuffed one is none. The rows that come before it must not hang on what seems to be missing.
+TEST_F(SurpriseTest, RowsAreNotGivenOutOfDataThatAreNotThere) {
+  for (const unsigned interval : {0U, 7U}) {
+    const std::string fine = fakes::MakeJpeg(
+        {.width = kWidth, .height = kHeight, .horizontal = 1, .vertical = 1, .restartEvery = interval, .quality = 100});
+    const std::string_view stuffed("\xFF\0", 2);
+    for (std::size_t at = fine.find(stuffed, fakes::PictureDataOf(fine)); at != std::string::npos;
+         at = fine.find(stuffed, at + 1)) {
+      const auto file = folder.Write("picture.jpg", fakes::WithBytesAt(fine, at, "\xFF"));
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, 0);
+      const auto expected = fakes::ReadByLibrary(file, wanted);
+      ASSERT_TRUE(expected);
+      ASSERT_EQ(fakes::ReadAsWanted(file, wanted), expected) << "byte " << at;
+    }
+  }
+}
+
+TEST_F(SurpriseTest, TheLibraryGoesOnAtTheRowWhereverThatIs) {
+  for (const int vertical : {1, 2}) {
+    std::string high = fakes::MakeJpeg({.width = 20, .height = 900, .vertical = vertical});
+    high.insert(high.size() - 2, "more");
+    const auto file = folder.Write("picture.jpg", high);
+    for (const unsigned number : {0U, 5U, 300U}) {
+      const auto wanted = fakes::SomePixels(20, 900, number);
+      const auto expected = fakes::ReadByLibrary(file, wanted);
+      EXPECT_TRUE(expected);
+      EXPECT_FALSE(fakes::ReadAlone(file, wanted));
+      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), expected);
+    }
+  }
+}
+
+TEST_F(SurpriseTest, DataThatEndEarlyAreDamaged) {
+  const std::size_t data = fakes::PictureDataOf(jpeg);
+  for (std::size_t size = data; size + 10 < jpeg.size(); size += 97) {
+    ExpectTheLibrarysWord(jpeg.substr(0, size), false);
+    ExpectTheLibrarysWord(jpeg.substr(0, size) + "\xFF\xD9", false);
+  }
+}
+
+TEST_F(SurpriseTest, AWrongRestartMarkerIsDamage) {
+  const std::size_t restart = withRestarts.find("\xFF\xD2");
+  ASSERT_NE(restart, std::string::npos);
+  for (const char second : {'\xD3', '\xD9', '\x01', '\xE0'}) {
+    std::string wrong = withRestarts;
+    wrong[restart + 1] = second;
+    const auto file = folder.Write("picture.jpg", wrong);
+    const auto wanted = fakes::SomePixels(kWidth, kHeight, 2);
+    EXPECT_FALSE(fakes::ReadAlone(file, wanted));
+    EXPECT_EQ(fakes::ReadAsWanted(file, wanted), fakes::ReadByLibrary(file, wanted));
+  }
+}
+
+TEST_F(SurpriseTest, BytesBeforeARestartMarkerDoNoHarm) {
+  ExpectTheLibrarysWord(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "\xFF"), true);
+  ExpectTheLibrarysWord(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "more"), true);
+}
+
+// Coefficients of any size.
+TEST_F(SurpriseTest, CoefficientsBeyondEveryPictureComeOutAsTheLibrarys) {
+  std::mt19937 generator(3);
+  const auto rough = [&](int, int) {
+    std::array<std::uint8_t, 4> pixel = {};
+    for (auto& channel : pixel) channel = generator() % 2 == 0 ? 0 : 255;
+    return pixel;
+  };
+  for (const int sampling : {1, 2}) {
+    std::string wild = fakes::MakeJpeg(
+        {.width = kWidth, .height = kHeight, .horizontal = sampling, .vertical = sampling, .quality = 100}, rough);
+    for (const char step : {'\x02', '\x03', '\x04', '\x06', '\x0A', '\x64', '\xFF'}) {
+      // The steps of quality 100 are all 1.
+      const std::size_t steps = wild.find(std::string(64, wild[wild.find("\xFF\xDB") + 5]));
+      ASSERT_NE(steps, std::string::npos);
+      std::fill_n(wild.begin() + static_cast<std::ptrdiff_t>(steps), 64, step);
+      const auto file = folder.Write("picture.jpg", wild);
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, 1);
+      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), fakes::ReadByLibrary(file, wanted)) << int{step};
+    }
+  }
+}
+
+// A changed byte may still be a picture, another one.
+TEST_F(SurpriseTest, AnyChangedByteHasTheSameOutcome) {
+  std::mt19937 generator(4);
+  for (const std::string& whole : {jpeg, withRestarts}) {
+    for (int i = 0; i < 300; ++i) {
+      std::string changed = whole;
+      const std::size_t data = fakes::PictureDataOf(whole);
+      changed[data + generator() % (whole.size() - data)] = static_cast<char>(generator());
+      const auto file = folder.Write("picture.jpg", changed);
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, static_cast<unsigned>(i) % 9);
+      ASSERT_EQ(fakes::ReadAsWanted(file, wanted), fakes::ReadByLibrary(file, wanted)) << "change " << i;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vantorium
