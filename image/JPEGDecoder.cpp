@@ -267,7 +267,9 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
 bool JPEGDecoder::Finish() {
   State& state = *state_;
   if (state.usual) return state.usualRows == height();
-  return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && state.IsWhole();
+  const bool complete = HasEveryCoefficient(state.codec);  // finishing frees what this looks at
+  return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && !state.errors.Damaged() &&
+         (!state.errors.EndedEarly() || complete);
 }
 
 }  // namespace vantorium
