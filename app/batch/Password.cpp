@@ -2,7 +2,9 @@
 
 #include "env/FileDescriptor.h"
 
+#include <array>
 #include <cerrno>
+#include <csignal>
 
 #include <fcntl.h>
 #include <termios.h>
@@ -14,12 +16,19 @@ namespace {
 /// Longer than any password. A longer first line means the wrong file, or a device without end.
 constexpr std::size_t kLongest = 4096;
 
+// A signal handler can only reach a global.
+volatile std::sig_atomic_t endingSignal = 0;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+void NoteSignal(int signal) {
+  endingSignal = signal;
+}
+
 /// Returns nullopt also if the file cannot be read at all, such as a closed standard input.
 std::optional<std::string> FirstLine(int file) {
   std::string line;
   for (char character = 0; character != '\n';) {
     const auto read = ::read(file, &character, 1);
-    if (read < 0 && errno == EINTR) continue;
+    if (read < 0 && errno == EINTR && endingSignal == 0) continue;
     if (read < 0 || line.size() > kLongest) return std::nullopt;
     if (read == 0) break;
     if (character != '\n') line += character;
@@ -29,11 +38,17 @@ std::optional<std::string> FirstLine(int file) {
   return line;
 }
 
-/// If standard input is a terminal, asks for the password and hides what is typed while this object exists.
+/// The signals that end the process, most likely while it waits for the user to type.
+constexpr std::array kEndingSignals = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
+
+/// If standard input is a terminal, asks for the password and hides what is typed while this object exists. A signal
+/// that would end the process ends it only after the terminal shows what is typed again.
 class HiddenTyping {
  public:
   HiddenTyping() : isTerminal_(::tcgetattr(STDIN_FILENO, &before_) == 0) {
     if (!isTerminal_) return;
+    for (std::size_t i = 0; i < kEndingSignals.size(); ++i) ::sigaction(kEndingSignals[i], nullptr, &actions_[i]);
+    Handle(NoteSignal);
     termios hidden = before_;
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     hidden.c_lflag |= ECHONL;
@@ -41,14 +56,31 @@ class HiddenTyping {
     std::ignore = WriteAll(STDERR_FILENO, "Password: ");
   }
   ~HiddenTyping() {
-    if (isTerminal_) ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+    if (!isTerminal_) return;
+    ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+    Handle(nullptr);
+    if (endingSignal != 0) ::raise(endingSignal);
   }
   HiddenTyping(const HiddenTyping&) = delete;
   HiddenTyping& operator=(const HiddenTyping&) = delete;
 
  private:
+  /// Lets `handler` handle the signals, or what handled them before if there is none. An ignored signal stays ignored.
+  void Handle(void (*handler)(int)) const {
+    for (std::size_t i = 0; i < kEndingSignals.size(); ++i) {
+      struct sigaction action = actions_[i];
+      if (action.sa_handler == SIG_IGN) continue;
+      if (handler != nullptr) {
+        action.sa_handler = handler;
+        action.sa_flags = 0;  // no SA_RESTART: the read of the password ends
+      }
+      ::sigaction(kEndingSignals[i], &action, nullptr);
+    }
+  }
+
   termios before_ = {};
   bool isTerminal_;
+  std::array<struct sigaction, kEndingSignals.size()> actions_ = {};
 };
 
 }  // namespace

@@ -52,6 +52,20 @@ TEST_F(Password, IsNotSeenWhenItIsTyped) {
   EXPECT_EQ((result.out + result.err).find(server.Password()), std::string::npos) << result.err;
 }
 
+TEST_F(Password, PromptThatCtrlCInterruptsLeavesTheTerminalWithItsEcho) {
+  StartOptions options = FromStandardInput();
+  options.standardError = StandardError::Terminal;
+  // A shell stays on the terminal: the system resets a terminal that its last process leaves.
+  const std::vector<std::string> shell = {"/bin/sh", "-c", "trap : INT; \"$@\"; echo $?; stty -a", "sh"};
+  options.command.insert(options.command.begin(), shell.begin(), shell.end());
+  ChildProcess program(options);
+  program.WaitForError("Password: $");
+  program.Type("\x03");
+  const ProcessResult result = program.Finish();
+  EXPECT_TRUE(result.out.starts_with("130\n")) << result.out;
+  EXPECT_NE(result.out.find(" echo "), std::string::npos) << result.out;
+}
+
 TEST_F(Password, ThatIsEmptyOrWrongIsRefusedByTheServer) {
   StartOptions options = FromStandardInput();
   options.standardInput = "/dev/null";
