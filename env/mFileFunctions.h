@@ -40,10 +40,6 @@ class mFileFunctions {
   /// Whether a file or folder of that name exists.
   [[nodiscard]] bool PathExists(std::string_view path) const;
 
-  /// Whether a file or folder matches; the last part of the path may contain "*" and "?". The entries "." and ".." of a
-  /// folder count, so "*" and "*.*" match in every folder. A path that ends in a separator matches nothing.
-  [[nodiscard]] bool FileExists(std::string_view pattern) const;
-
   /// Copies bytes, permissions and write time. The destination appears only when it is complete. If `overwrite` is
   /// false, an existing destination makes the copy fail; otherwise copying a file onto itself succeeds and changes
   /// nothing.
@@ -60,6 +56,12 @@ class mFileFunctions {
   void DeleteLocalFile(std::string_view path) const;
 
   [[nodiscard]] const PathMap& Paths() const { return paths_; }
+
+  // Part of the module's interface; the program itself does not call it.
+
+  /// Whether a file or folder matches; the last part of the path may contain "*" and "?". The entries "." and ".." of a
+  /// folder count, so "*" and "*.*" match in every folder. A path that ends in a separator matches nothing.
+  [[nodiscard]] bool FileExists(std::string_view pattern) const;
 
  private:
   const PathMap& paths_;

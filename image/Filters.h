@@ -26,6 +26,8 @@ void Lighten(cDIBSection& dib, std::int32_t amount);
 /// `stream`.
 void AddNoise(cDIBSection& dib, std::int32_t amount, bool random, NoiseStream& stream);
 
+// Part of the module's interface; the program itself does not call it.
+
 /// Fills the picture with random pixels: gray, or else with independent red and green and no blue. One pass of
 /// `stream`.
 void RandomiseBits(cDIBSection& dib, bool gray, NoiseStream& stream);

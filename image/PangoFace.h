@@ -26,7 +26,6 @@ class PangoFace {
   [[nodiscard]] std::int32_t EmHeight() const { return emHeight_; }
   [[nodiscard]] std::int32_t Ascent() const { return ascent_; }
   [[nodiscard]] std::int32_t LineHeight() const { return ascent_ + descent_; }
-  [[nodiscard]] std::int32_t Descent() const { return descent_; }
 
   /// A horizontal stroke. `top` is its first row, counted down from the baseline.
   struct Stroke {

@@ -6,6 +6,8 @@
 
 namespace vantorium {
 
+// Part of the module's interface; the program itself does not call it.
+
 /// Copies `source` over the bottom left corner of `target`. `key` is a color, 0x00BBGGRR.
 ///
 /// With `alpha` below 100, each source pixel that is not of color `key` is blended in: `alpha` percent of it and the

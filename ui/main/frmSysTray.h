@@ -22,19 +22,18 @@ class frmSysTray : public QObject {
   explicit frmSysTray(SysTrayMenu menu, const QIcon& icon,
                       TrayCheck isTrayAvailable = QSystemTrayIcon::isSystemTrayAvailable, QObject* parent = nullptr);
 
-  // As in SysTrayMenu.
+  /// While disabled, such as during a run, its menu chooses nothing and no signal is sent.
+  void SetEnabled(bool enabled);
+  /// Shows the menu at the mouse pointer, unless the desktop already shows it.
+  void ShowMenu();
+
+  // Part of the module's interface; the program itself does not call them. The first five do as in SysTrayMenu.
   std::int32_t AddMenuItem(const std::string& caption, const std::string& key, bool isDefault = false);
   void EnableMenuItem(std::int32_t index, bool enabled);
   void RemoveMenuItem(std::int32_t index);
   void SetDefaultMenuIndex(std::int32_t index);
   void SetToolTip(const std::string& text);
-  [[nodiscard]] const SysTrayMenu& Menu() const { return menu_; }
-
   void SetIcon(const QIcon& icon) { trayIcon_.setIcon(icon); }
-  /// While disabled, such as during a run, its menu chooses nothing and no signal is sent.
-  void SetEnabled(bool enabled);
-  /// Shows the menu at the mouse pointer, unless the desktop already shows it.
-  void ShowMenu();
 
  signals:
   /// An entry was chosen with the mouse or the keyboard, or the default one by a double click on the icon.

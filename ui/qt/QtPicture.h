@@ -15,8 +15,8 @@ namespace vantorium {
 /// Returns an upright copy of the picture; a null image if the picture is empty.
 [[nodiscard]] QImage ImageOf(const cDIBSection& picture);
 
-/// The area that the two functions below copy. A negative width or height means the picture's own; if either is 0,
-/// nothing is copied.
+/// The area that PaintPicture and LoadPictureBlt copy. A negative width or height means the picture's own; if either is
+/// 0, nothing is copied.
 struct BlitArea {
   int x = 0;
   int y = 0;
@@ -24,12 +24,14 @@ struct BlitArea {
   int height = -1;
 };
 
-/// Copies the area `from` of `source` to the picture's top left corner, clipped to both. Ignores transparency.
-void LoadPictureBlt(cDIBSection& picture, const QImage& source, const BlitArea& from = {});
-
 /// Paints the picture, from (`sourceX`, `sourceY`) on, into the area `to`. Skips what lies outside of the picture.
 void PaintPicture(const cDIBSection& picture, QPainter& target, const BlitArea& to = {}, int sourceX = 0,
                   int sourceY = 0);
+
+// Part of the module's interface; the program itself does not call them.
+
+/// Copies the area `from` of `source` to the picture's top left corner, clipped to both. Ignores transparency.
+void LoadPictureBlt(cDIBSection& picture, const QImage& source, const BlitArea& from = {});
 
 /// Makes `picture` a copy of `source`; transparent pixels become white. Returns false and leaves `picture` empty if a
 /// picture of that size can't be made.

@@ -57,6 +57,15 @@ TEST_F(SysTrayForm, WithoutATrayThereIsNoIconAndNoFailure) {
   EXPECT_FALSE(tray.findChild<QSystemTrayIcon*>("trayIcon")->isVisible());
 }
 
+TEST_F(SysTrayForm, TheIconCanBeReplaced) {
+  const auto* icon = tray.findChild<QSystemTrayIcon*>("trayIcon");
+  ASSERT_TRUE(icon->icon().isNull());
+  QPixmap pixmap(16, 16);
+  pixmap.fill(Qt::red);
+  tray.SetIcon(pixmap);
+  EXPECT_EQ(icon->icon().pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
+}
+
 TEST_F(SysTrayForm, ShowsTheMenuWithTheDefaultInBold) {
   ASSERT_NE(popup, nullptr);
   ASSERT_EQ(popup->actions().size(), 6);
