@@ -12,7 +12,7 @@ namespace {
 
 using Project = GalleryProject;
 
-void RepairEmpty(std::string& field, const char* value, bool& modified) {
+void RepairEmpty(std::string& field, const std::string& value, bool& modified) {
   if (!field.empty()) return;
   field = value;
   modified = true;
@@ -100,8 +100,9 @@ void NormalizeForOutput(Project& project, bool& modified) {
   RepairEmpty(project.textThumbnailsTableCellSpacing, "0", modified);
   RepairEmpty(project.textThumbnailsTableCellPadding, "0", modified);
   RepairEmpty(project.textThumbnailsTableBorder, "0", modified);
-  RepairEmpty(project.textGallerySlideShowDelay, "5", modified);
-  RepairEmpty(project.textGallerySlideShowAutoStartDelay, "10", modified);
+  RepairEmpty(project.textGallerySlideShowDelay, DefaultOf(&Project::textGallerySlideShowDelay), modified);
+  RepairEmpty(project.textGallerySlideShowAutoStartDelay, DefaultOf(&Project::textGallerySlideShowAutoStartDelay),
+              modified);
 
   const bool thumbnailNameTaken = project.comboImageFrameName == "thumbnail_frame";
   RepairEmpty(project.textThumbnailFrameName, thumbnailNameTaken ? "thumbnail_frame_2" : "thumbnail_frame", modified);

@@ -1,3 +1,4 @@
+#include "core/ProjectFields.h"
 #include "core/RegularTurns.h"
 #include "core/file/ProjectFileReaderSections.h"
 #include "core/file/ProjectFileReaderValues.h"
@@ -83,7 +84,8 @@ void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
 }  // namespace
 
 ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
-  ReadTextOr(editor, images, "FOLDER", &GalleryProject::textImageSettingsSubFolder, "Images");
+  constexpr auto kFolder = &GalleryProject::textImageSettingsSubFolder;
+  ReadTextOr(editor, images, "FOLDER", kFolder, DefaultOf(kFolder));
   RegularTurns turns(events);
   for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
     if (!AddImageElement(node, list)) return ReadResult::ImageRefused;

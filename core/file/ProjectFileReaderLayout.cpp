@@ -1,3 +1,4 @@
+#include "core/ProjectFields.h"
 #include "core/file/ProjectFileReaderSections.h"
 #include "core/file/ProjectFileReaderValues.h"
 #include "env/Text.h"
@@ -25,12 +26,13 @@ void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
 void ReadFrameNames(pugi::xml_node layout, ProjectEditor& editor, bool singleFrame) {
   ReadText(editor, layout, "IMAGEFRAMENAME", &GalleryProject::comboImageFrameName);
   if (singleFrame && !AttributeOf(layout, "IMAGEFRAMENAME")) {
-    editor.Set(&GalleryProject::comboImageFrameName, "_self");
+    editor.Set(&GalleryProject::comboImageFrameName, DefaultOf(&GalleryProject::comboImageFrameName));
   }
   ReadText(editor, layout, "THUMBFRAMENAME", &GalleryProject::textThumbnailFrameName);
   if (singleFrame && !AttributeOf(layout, "THUMBFRAMENAME")) {
-    const bool taken = editor.Project().comboImageFrameName == "thumb_frame";
-    editor.Set(&GalleryProject::textThumbnailFrameName, taken ? "thumb_frame_2" : "thumb_frame");
+    const std::string& name = DefaultOf(&GalleryProject::textThumbnailFrameName);
+    const bool taken = editor.Project().comboImageFrameName == name;
+    editor.Set(&GalleryProject::textThumbnailFrameName, taken ? name + "_2" : name);
   }
 }
 

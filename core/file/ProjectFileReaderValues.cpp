@@ -23,7 +23,7 @@ void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribu
 }
 
 void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
-                const char* absent) {
+                std::string_view absent) {
   editor.Set(field, std::string(AttributeOf(element, attribute).value_or(absent)));
 }
 

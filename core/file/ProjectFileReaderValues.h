@@ -7,6 +7,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace vantorium {
 
@@ -25,7 +26,7 @@ using NumberField = std::int16_t GalleryProject::*;
 
 void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
-                const char* absent);
+                std::string_view absent);
 /// Returns the decimal text of a whole number, which may be outside all bounds: an edit then clamps it.
 [[nodiscard]] std::string WholeNumber(std::string_view text);
 /// Reads a whole number and keeps it as decimal text.
