@@ -10,7 +10,7 @@ void PutAttributeUnlessEmpty(pugi::xml_node element, const char* name, std::stri
 }
 
 void PutColors(pugi::xml_node page, const GalleryProject& project, const PageColorFields& fields) {
-  if (project.*fields.use != 1) return;
+  if (!IsOn(project.*fields.use)) return;
   for (const auto& [attribute, color] : kColorAttributes) {
     PutAttribute(page, attribute, ColorToHex(project.*(fields.*color)));
   }
@@ -47,7 +47,7 @@ void PutArrangement(pugi::xml_node page, const GalleryProject& project) {
   PutAttribute(arrangement, "CELLSPACING", project.textThumbnailsTableCellSpacing);
   PutAttribute(arrangement, "CELLPADDING", project.textThumbnailsTableCellPadding);
   PutAttributeUnlessEmpty(arrangement, "BACKGROUND", project.textThumbnailsTableBackdrop);
-  if (project.checkThumbnailsTableUseBGColor == 1) {
+  if (IsOn(project.checkThumbnailsTableUseBGColor)) {
     PutAttribute(arrangement, "BGCOLOR", ColorToHex(project.btnThumbnailsTableBGColor));
   }
 }
@@ -69,7 +69,7 @@ void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project) {
   PutArrangement(page, project);
   PutTexts(page, project, kThumbnailFrameTexts);
   pugi::xml_node links = page.append_child("PAGELINKS");
-  if (project.checkPageLinksThumbnailDirectLinks == 1) PutAttribute(links, "DIRECT", DirectLinks(project));
+  if (IsOn(project.checkPageLinksThumbnailDirectLinks)) PutAttribute(links, "DIRECT", DirectLinks(project));
   PutLinks(links, project, project.comboPageLinksThumbnailLinkPlacement, kThumbnailPageLinks);
 }
 

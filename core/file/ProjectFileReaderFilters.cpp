@@ -47,7 +47,7 @@ void ReadFont(WatermarkSettings& watermark, pugi::xml_node font) {
 }
 
 void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
-  watermark.checkUseWatermark = 1;
+  watermark.checkUseWatermark = kOn;
   ReadTextInto(watermark.textWatermark, filter, "CAPTION");
   ReadNumberInto(watermark.sliderAlpha, filter, "ALPHA");
   const auto place = IndexOfWord(kAutoPositionWords, AttributeOf(filter, "AUTOPOSITION").value_or(""));
@@ -57,16 +57,16 @@ void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
 
 void ReadFilter(ImageFilterSettings& filters, pugi::xml_node filter, std::string_view type) {
   if (EqualsIgnoringCase(type, kGrayscaleWord)) {
-    filters.checkGrayscale = 1;
+    filters.checkGrayscale = kOn;
   } else if (EqualsIgnoringCase(type, kNoiseWord)) {
-    filters.checkNoise = 1;
+    filters.checkNoise = kOn;
     ReadNumberInto(filters.checkNoiseRandom, filter, "RANDOM");
     ReadNumberInto(filters.sliderNoise, filter, "VALUE");
   } else if (EqualsIgnoringCase(type, kBrightnessWord)) {
-    filters.checkBrightness = 1;
+    filters.checkBrightness = kOn;
     ReadNumberInto(filters.sliderBrightness, filter, "VALUE");
   } else if (EqualsIgnoringCase(type, kFadeWord)) {
-    filters.checkFade = 1;
+    filters.checkFade = kOn;
     ReadNumberInto(filters.sliderFade, filter, "VALUE");
   } else if (EqualsIgnoringCase(type, kQualityWord)) {
     ReadNumberInto(filters.sliderQuality, filter, "VALUE");

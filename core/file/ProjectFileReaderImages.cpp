@@ -27,10 +27,10 @@ namespace {
 void ReadCaption(pugi::xml_node caption, ProjectEditor& editor, const CaptionFields& fields) {
   const std::string_view type = AttributeOf(caption, "TYPE").value_or("");
   if (EqualsIgnoringCase(type, kPopupCaptionWord)) {
-    editor.Set(fields.popup, Flag{1});
+    editor.Set(fields.popup, kOn);
     editor.Set(fields.popupText, MultilineText(caption));
   } else if (EqualsIgnoringCase(type, kRegularCaptionWord)) {
-    editor.Set(fields.regular, Flag{1});
+    editor.Set(fields.regular, kOn);
     editor.Set(fields.regularText, MultilineText(caption));
     ReadWord(editor, caption, "PLACE", kReadCaptionPlaceWords, fields.placement);
     ReadAlignment(editor, caption, fields.alignment);
@@ -54,7 +54,7 @@ void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const De
     ReadAlignment(editor, header, fields.alignment);
   } else {
     editor.Set(whenAbsent.header, "");
-    editor.Set(whenAbsent.placement, Choice{0});
+    editor.Set(whenAbsent.placement, NumberOf(Placement::None));
   }
   editor.Set(fields.footer, MultilineText(parent.child("DESCRIPTIONFOOTER")));
 }
@@ -62,13 +62,13 @@ void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const De
 void ReadSize(pugi::xml_node size, ProjectEditor& editor, const SizeFields& fields) {
   ReadNumber(editor, size, "KEEPASPECTRATIO", fields.keepAspectRatio);
   ReadText(editor, size, "WIDTH", fields.width);
-  editor.Set(fields.setWidth, Flag{AttributeOf(size, "WIDTH").has_value()});
+  editor.Set(fields.setWidth, FlagOf(AttributeOf(size, "WIDTH").has_value()));
   ReadText(editor, size, "HEIGHT", fields.height);
 }
 
 void ReadImageModifications(pugi::xml_node modify, ProjectEditor& editor) {
   const pugi::xml_node size = modify.child("SIZE");
-  editor.Set(&GalleryProject::checkImageWrapperImageKeepSize, Flag{!size});
+  editor.Set(&GalleryProject::checkImageWrapperImageKeepSize, FlagOf(!size));
   if (size) {
     ReadSize(size, editor, kImageSize);
     ReadNumber(editor, size, "PHYSICALRESIZE", &GalleryProject::checkImageWrapperImagePhysicalResize);

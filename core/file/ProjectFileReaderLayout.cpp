@@ -12,12 +12,12 @@ void ReadDelay(ProjectEditor& editor, pugi::xml_node show, const char* attribute
 }
 
 void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
-  editor.Set(&GalleryProject::checkGallerySlideShow, Flag{1});
+  editor.Set(&GalleryProject::checkGallerySlideShow, kOn);
   ReadWord(editor, show, "FIRSTSLIDE", kFirstSlideWords, &GalleryProject::comboGallerySlideShowBeginWith);
   ReadWord(editor, show, "NEXTSLIDE", kNextSlideWords, &GalleryProject::comboGallerySlideShowActionAfterImage);
   ReadWord(editor, show, "STARTOVER", kStartOverWords, &GalleryProject::comboGallerySlideShowStartOverWith);
   editor.Set(&GalleryProject::checkGallerySlideShowAutoStart,
-             Flag{IsNumberOne(AttributeOf(show, "AUTOSTART").value_or(""))});
+             FlagOf(IsNumberOne(AttributeOf(show, "AUTOSTART").value_or(""))));
   ReadDelay(editor, show, "AUTOSTARTDELAY", &GalleryProject::textGallerySlideShowAutoStartDelay);
   ReadDelay(editor, show, "DELAY", &GalleryProject::textGallerySlideShowDelay);
 }
@@ -42,7 +42,7 @@ void ReadFrameSize(pugi::xml_node layout, ProjectEditor& editor) {
   std::string size(*value);
   const bool percent = size.ends_with('%');
   if (percent) size.pop_back();
-  editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, Flag{percent});
+  editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, FlagOf(percent));
   editor.Set(&GalleryProject::textGalleryFrameSize, std::move(size));
 }
 

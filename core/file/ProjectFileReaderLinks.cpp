@@ -10,18 +10,24 @@ bool ListHolds(const std::string& list, const std::string& word) {
   return list.ends_with(',' + word) || list.starts_with(word + ',') || list.find(',' + word + ',') != std::string::npos;
 }
 
+LinkPlacement PlacementOfBars(bool top, bool bottom) {
+  if (top && bottom) return LinkPlacement::Both;
+  if (top) return LinkPlacement::Above;
+  return bottom ? LinkPlacement::Below : LinkPlacement::None;
+}
+
 void ReadPlace(pugi::xml_node links, ProjectEditor& editor, NumberField field) {
   const auto value = AttributeOf(links, "PLACE");
   const std::string place = AsciiUpper(value.value_or(""));
   const bool top = place == "TOP" || ListHolds(place, "TOP");
   const bool bottom = place == "BOTTOM" || ListHolds(place, "BOTTOM");
   if (value && !top && !bottom) return;
-  editor.Set(field, static_cast<Choice>((top ? 1 : 0) + (bottom ? 2 : 0)));
+  editor.Set(field, NumberOf(PlacementOfBars(top, bottom)));
 }
 
 void ReadDirectLinks(pugi::xml_node links, ProjectEditor& editor) {
   const auto direct = AttributeOf(links, "DIRECT");
-  editor.Set(&GalleryProject::checkPageLinksThumbnailDirectLinks, Flag{direct.has_value()});
+  editor.Set(&GalleryProject::checkPageLinksThumbnailDirectLinks, FlagOf(direct.has_value()));
   if (!direct) return;
   const bool unlimited = EqualsIgnoringCase(*direct, kUnlimitedLinksWord);
   editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, unlimited ? "0" : WholeNumber(*direct));

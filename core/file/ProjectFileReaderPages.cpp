@@ -41,7 +41,7 @@ ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor) {
 }
 
 ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor) {
-  editor.Set(&GalleryProject::checkImageWrapperUse, Flag{!page.empty()});
+  editor.Set(&GalleryProject::checkImageWrapperUse, FlagOf(!page.empty()));
   if (!page) return ReadResult::Complete;
   ReadText(editor, page, "EXTENSION", &GalleryProject::comboImageWrapperSettingsFileExtension);
   ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textImageWrapperBackdrop, "");

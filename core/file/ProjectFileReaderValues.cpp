@@ -43,7 +43,7 @@ void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attri
 }
 
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
-  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, Flag{IsNumberOne(*value)});
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, FlagOf(IsNumberOne(*value)));
 }
 
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words,
@@ -61,7 +61,7 @@ void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attrib
   const auto value = AttributeOf(element, attribute);
   if (!value) return;
   editor.Set(field, HexToColor(std::string(*value)));
-  editor.Set(use, Flag{1});
+  editor.Set(use, kOn);
 }
 
 void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts) {

@@ -32,7 +32,7 @@ void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attri
 /// Reads a whole number and keeps it as decimal text.
 void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
-/// Sets 1 if the attribute is the number 1, else 0.
+/// On if the attribute is the number 1, else off.
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
 /// A word that is not in the list leaves the setting unchanged.
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words, NumberField field);

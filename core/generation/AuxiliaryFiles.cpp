@@ -54,7 +54,7 @@ std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
   std::vector<AuxiliaryFile> files;
   for (const LinkKind kind : kLinks) {
     // Links between images stand on wrapper pages only.
-    if (IsImageLink(kind) && run.project.checkImageWrapperUse != 1) continue;
+    if (IsImageLink(kind) && !IsOn(run.project.checkImageWrapperUse)) continue;
     const auto spelling = IsImageLink(kind) ? AuxiliarySpelling::file : AuxiliarySpelling::File;
     const auto& [field, name, nameAtDeadEnd] = GraphicsOf(kind);
     const LinkSettings& link = run.project.*field;

@@ -73,9 +73,7 @@ void Descriptions::ChooseAlignment(const DescriptionKind& kind, Choice alignment
 }
 
 ValueList Descriptions::Alignments(const DescriptionKind& kind) const {
-  const Choice placement = Shown(kind).placement;
-  const bool leftOrRight = placement == 1 || placement == 2;
-  return AlignmentTexts(!leftOrRight);
+  return AlignmentTexts(!IsBeside(DescriptionPlacement(Shown(kind).placement)));
 }
 
 void Descriptions::StorePlacings(ProjectEditor& editor) {

@@ -66,7 +66,9 @@ class Descriptions {
   /// A different placement marks the project as modified; the alignment keeps its index.
   void ChoosePlacement(const DescriptionKind& kind, Choice placement);
   void ChooseAlignment(const DescriptionKind& kind, Choice alignment);
-  [[nodiscard]] bool IsAlignmentEnabled(const DescriptionKind& kind) const { return Shown(kind).placement != 0; }
+  [[nodiscard]] bool IsAlignmentEnabled(const DescriptionKind& kind) const {
+    return DescriptionPlacement(Shown(kind).placement) != Placement::None;
+  }
   [[nodiscard]] ValueList Alignments(const DescriptionKind& kind) const;
   /// Whether the window is open with placements that differ from the project's.
   [[nodiscard]] bool HasUnstoredPlacings() const { return !justLoaded_ && shown_ != StoredPlacings(); }

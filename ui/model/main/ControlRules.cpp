@@ -8,53 +8,50 @@ using P = const GalleryProject&;
 constexpr auto kVisible = ControlProperty::Visible;
 constexpr auto kEnabled = ControlProperty::Enabled;
 
-bool SingleFrame(P p) {
-  return p.comboGalleryLayoutType == 0;
-}
 bool SeveralFrames(P p) {
-  return !SingleFrame(p);
+  return !IsSingleFrame(p);
 }
 bool SlideShow(P p) {
-  return p.checkGallerySlideShow == 1;
+  return IsOn(p.checkGallerySlideShow);
 }
 bool BeginsWithPage(P p) {
-  return p.comboGallerySlideShowBeginWith == 0;
+  return SlideShowBeginOf(p) == SlideShowBegin::FirstThumbnailPage;
 }
 bool GoesToNextImage(P p) {
-  return p.comboGallerySlideShowActionAfterImage == 0;
+  return SlideShowActionOf(p) == SlideShowAction::NextImage;
 }
 bool Wrappers(P p) {
-  return p.checkImageWrapperUse == 1;
+  return IsOn(p.checkImageWrapperUse);
 }
 
 // Whether the width or the height of a picture is given; both are unless the aspect ratio is kept.
 bool ImageRatioKept(P p) {
-  return p.checkImageWrapperImageKeepAspectRatio == 1;
+  return IsOn(p.checkImageWrapperImageKeepAspectRatio);
 }
 bool ImageWidthGiven(P p) {
-  return !ImageRatioKept(p) || p.checkImageWrapperImageSetWidth == 1;
+  return !ImageRatioKept(p) || IsOn(p.checkImageWrapperImageSetWidth);
 }
 bool ImageHeightGiven(P p) {
-  return !ImageRatioKept(p) || p.checkImageWrapperImageSetWidth == 0;
+  return !ImageRatioKept(p) || IsOff(p.checkImageWrapperImageSetWidth);
 }
 bool ThumbnailRatioKept(P p) {
-  return p.checkThumbnailsImageKeepAspectRatio == 1;
+  return IsOn(p.checkThumbnailsImageKeepAspectRatio);
 }
 bool ThumbnailWidthGiven(P p) {
-  return !ThumbnailRatioKept(p) || p.checkThumbnailsImageSetWidth == 1;
+  return !ThumbnailRatioKept(p) || IsOn(p.checkThumbnailsImageSetWidth);
 }
 bool ThumbnailHeightGiven(P p) {
-  return !ThumbnailRatioKept(p) || p.checkThumbnailsImageSetWidth == 0;
+  return !ThumbnailRatioKept(p) || IsOff(p.checkThumbnailsImageSetWidth);
 }
 
 template <Flag GalleryProject::*flag>
 bool IsSet(P p) {
-  return p.*flag == 1;
+  return IsOn(p.*flag);
 }
 
 constexpr ControlRule kRules[] = {
     // Gallery
-    {"frmFrameLayoutSingleFrame", kVisible, SingleFrame},
+    {"frmFrameLayoutSingleFrame", kVisible, IsSingleFrame},
     {"frmFrameLayoutMultipleFrames", kVisible, SeveralFrames},
     {"frmFrameLayoutSlideShow", kVisible, SlideShow},
     {"checkGallerySlideShowAutoStart", kVisible, BeginsWithPage},
@@ -67,7 +64,7 @@ constexpr ControlRule kRules[] = {
     {"frmImageWrapperCodeSettings", kVisible, Wrappers},
     {"frmImageWrapperImageSettings", kVisible, Wrappers},
     {"btnImageWrapperColors", kEnabled, IsSet<&GalleryProject::checkImageWrapperSetColors>},
-    {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return p.checkImageWrapperImageKeepSize == 0; }},
+    {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return IsOff(p.checkImageWrapperImageKeepSize); }},
     {"checkImageWrapperImageSetWidth", kVisible, ImageRatioKept},
     {"lblImageWrapperImageWidth", kVisible, ImageWidthGiven},
     {"textImageWrapperImageWidth", kVisible, ImageWidthGiven},
@@ -97,7 +94,7 @@ constexpr ControlRule kRules[] = {
     {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsPopup>},
     // Page links
     {"frmPageLinksOnImagePages", kVisible, Wrappers},
-    {"btnPageLinksImageIndexLink", kEnabled, SingleFrame},
+    {"btnPageLinksImageIndexLink", kEnabled, IsSingleFrame},
     {"textPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&GalleryProject::checkPageLinksThumbnailDirectLinks>},
     {"udPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&GalleryProject::checkPageLinksThumbnailDirectLinks>},
 };
@@ -111,9 +108,9 @@ constexpr UnitLabel kUnitLabels[] = {
 };
 
 constexpr AlignmentList kAlignmentLists[] = {
-    {&GalleryProject::comboCaptionsImagesRegularAlignment, &GalleryProject::comboCaptionsImagesRegularPlacement, 2},
-    {&GalleryProject::comboCaptionsThumbnailsRegularAlignment, &GalleryProject::comboCaptionsThumbnailsRegularPlacement,
-     2},
+    {&GalleryProject::comboCaptionsImagesRegularAlignment, &GalleryProject::comboCaptionsImagesRegularPlacement},
+    {&GalleryProject::comboCaptionsThumbnailsRegularAlignment,
+     &GalleryProject::comboCaptionsThumbnailsRegularPlacement},
 };
 
 }  // namespace
@@ -131,7 +128,7 @@ std::span<const AlignmentList> AlignmentLists() {
 }
 
 bool IsAboveOrBelow(const AlignmentList& list, const GalleryProject& project) {
-  return project.*list.placement >= list.firstAboveOrBelow;
+  return IsAboveOrBelow(CaptionPlacement(project.*list.placement));
 }
 
 int LayoutPicture(const GalleryProject& project) {
