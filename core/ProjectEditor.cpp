@@ -1,5 +1,6 @@
 #include "core/ProjectEditor.h"
 
+#include "core/GalleryTargets.h"
 #include "core/ProjectFields.h"
 #include "env/Numbers.h"
 
@@ -113,10 +114,9 @@ void NormalizeForOutput(Project& project, bool& modified) {
   RepairEmpty(project.textImageWrapperImageHeight, "1", modified);
   RepairEmpty(project.textPageLinksThumbnailMaxDirectLinks, "0", modified);
 
-  RepairDisabledGraphic(project.ImageNextLink);
-  RepairDisabledGraphic(project.ImagePreviousLink);
-  RepairDisabledGraphic(project.ThumbnailNextLink);
-  RepairDisabledGraphic(project.ThumbnailPreviousLink);
+  for (const PageLink& link : kPageLinks) {
+    if (link.goal == LinkGoal::Next || link.goal == LinkGoal::Previous) RepairDisabledGraphic(project.*link.settings);
+  }
 }
 
 }  // namespace vantorium

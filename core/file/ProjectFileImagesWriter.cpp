@@ -42,7 +42,7 @@ void PutCaptions(pugi::xml_node parent, const GalleryProject& project, const Cap
   }
 }
 
-void PutDescriptionFrame(pugi::xml_node parent, const GalleryProject& project, const DescriptionFrameFields& fields) {
+void PutDescriptionFrame(pugi::xml_node parent, const GalleryProject& project, const DescriptionFields& fields) {
   pugi::xml_node header = PutTextElement(parent, "DESCRIPTIONHEADER", project.*fields.header);
   const Placement placement = DescriptionPlacement(project.*fields.placement);
   if (placement != Placement::None) {
@@ -68,17 +68,17 @@ pugi::xml_node PutSize(pugi::xml_node modify, const GalleryProject& project, con
 
 void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node images = gallery.append_child("IMAGES");
-  PutAttribute(images, "FOLDER", project.textImageSettingsSubFolder);
+  PutAttribute(images, "FOLDER", project.*kImages.folder);
   RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutImage(images, position, list.Entry(position));
     turns.Step();
   }
-  PutCaptions(images, project, kImageCaptions);
-  PutDescriptionFrame(images, project, kImageDescriptionFrame);
+  PutCaptions(images, project, kImages.captions);
+  PutDescriptionFrame(images, project, kImages.description);
   pugi::xml_node modify = images.append_child("MODIFY");
   if (IsOff(project.checkImageWrapperImageKeepSize)) {
-    const pugi::xml_node size = PutSize(modify, project, kImageSize);
+    const pugi::xml_node size = PutSize(modify, project, kImages.size);
     PutAttribute(size, "PHYSICALRESIZE", project.checkImageWrapperImagePhysicalResize);
   }
   PutImageFilters(modify, project);
@@ -86,16 +86,16 @@ void PutImages(pugi::xml_node gallery, const GalleryProject& project, const Imag
 
 void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node thumbnails = gallery.append_child("THUMBNAILS");
-  PutAttribute(thumbnails, "FOLDER", project.textThumbnailImageSettingsSubFolder);
+  PutAttribute(thumbnails, "FOLDER", project.*kThumbnails.folder);
   RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutThumbnail(thumbnails, position, list.Entry(position));
     turns.Step();
   }
-  PutCaptions(thumbnails, project, kThumbnailCaptions);
-  PutDescriptionFrame(thumbnails, project, kThumbnailDescriptionFrame);
+  PutCaptions(thumbnails, project, kThumbnails.captions);
+  PutDescriptionFrame(thumbnails, project, kThumbnails.description);
   pugi::xml_node modify = thumbnails.append_child("MODIFY");
-  PutSize(modify, project, kThumbnailSize);
+  PutSize(modify, project, kThumbnails.size);
   PutThumbnailFilters(modify, project);
 }
 

@@ -75,10 +75,9 @@ void ReadFilter(ImageFilterSettings& filters, pugi::xml_node filter, std::string
 
 }  // namespace
 
-void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettings GalleryProject::*filters,
-                 WatermarkSettings GalleryProject::*watermark) {
-  RecordEdit filterEdit(editor, filters);
-  RecordEdit watermarkEdit(editor, watermark);
+void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetFields& target) {
+  RecordEdit filterEdit(editor, target.filters);
+  RecordEdit watermarkEdit(editor, target.watermark);
   for (auto node = NextElement(modify, modify, "FILTER"); node; node = NextElement(node, modify, "FILTER")) {
     const std::string_view type = AttributeOf(node, "TYPE").value_or("");
     if (EqualsIgnoringCase(type, kWatermarkWord)) {

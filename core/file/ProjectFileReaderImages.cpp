@@ -46,8 +46,8 @@ void ReadCaptions(pugi::xml_node parent, ProjectEditor& editor, const CaptionFie
 }
 
 /// An absent header clears that of `whenAbsent`.
-void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const DescriptionFrameFields& fields,
-                          const DescriptionFrameFields& whenAbsent) {
+void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const DescriptionFields& fields,
+                          const DescriptionFields& whenAbsent) {
   if (const pugi::xml_node header = parent.child("DESCRIPTIONHEADER")) {
     editor.Set(fields.header, MultilineText(header));
     ReadWord(editor, header, "PLACE", kDescriptionPlaceWords, fields.placement);
@@ -70,44 +70,43 @@ void ReadImageModifications(pugi::xml_node modify, ProjectEditor& editor) {
   const pugi::xml_node size = modify.child("SIZE");
   editor.Set(&GalleryProject::checkImageWrapperImageKeepSize, FlagOf(!size));
   if (size) {
-    ReadSize(size, editor, kImageSize);
+    ReadSize(size, editor, kImages.size);
     ReadNumber(editor, size, "PHYSICALRESIZE", &GalleryProject::checkImageWrapperImagePhysicalResize);
   }
-  ReadFilters(modify, editor, &GalleryProject::ImageFilters, &GalleryProject::ImageWatermark);
+  ReadFilters(modify, editor, kImages);
 }
 
 void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
-  if (const pugi::xml_node size = modify.child("SIZE")) ReadSize(size, editor, kThumbnailSize);
-  ReadFilters(modify, editor, &GalleryProject::ThumbnailFilters, &GalleryProject::ThumbnailWatermark);
+  if (const pugi::xml_node size = modify.child("SIZE")) ReadSize(size, editor, kThumbnails.size);
+  ReadFilters(modify, editor, kThumbnails);
 }
 
 }  // namespace
 
 ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
-  constexpr auto kFolder = &GalleryProject::textImageSettingsSubFolder;
-  ReadTextOr(editor, images, "FOLDER", kFolder, DefaultOf(kFolder));
+  ReadTextOr(editor, images, "FOLDER", kImages.folder, DefaultOf(kImages.folder));
   RegularTurns turns(events);
   for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
     if (!AddImageElement(node, list)) return ReadResult::ImageRefused;
     turns.Step();
   }
-  ReadCaptions(images, editor, kImageCaptions);
-  ReadDescriptionFrame(images, editor, kImageDescriptionFrame, kImageDescriptionFrame);
+  ReadCaptions(images, editor, kImages.captions);
+  ReadDescriptionFrame(images, editor, kImages.description, kImages.description);
   if (const pugi::xml_node modify = images.child("MODIFY")) ReadImageModifications(modify, editor);
   return ReadResult::Complete;
 }
 
 ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list, EventLoop& events) {
-  ReadTextOr(editor, thumbnails, "FOLDER", &GalleryProject::textThumbnailImageSettingsSubFolder, "1");
+  ReadTextOr(editor, thumbnails, "FOLDER", kThumbnails.folder, "1");
   RegularTurns turns(events);
   for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
        node = NextElement(node, thumbnails, "THUMBNAIL")) {
     if (!DescribeThumbnail(node, list)) return ReadResult::InvalidThumbnailIndex;
     turns.Step();
   }
-  ReadCaptions(thumbnails, editor, kThumbnailCaptions);
+  ReadCaptions(thumbnails, editor, kThumbnails.captions);
   // An absent header clears that of the images: existing files depend on it.
-  ReadDescriptionFrame(thumbnails, editor, kThumbnailDescriptionFrame, kImageDescriptionFrame);
+  ReadDescriptionFrame(thumbnails, editor, kThumbnails.description, kImages.description);
   if (const pugi::xml_node modify = thumbnails.child("MODIFY")) ReadThumbnailModifications(modify, editor);
   return ReadResult::Complete;
 }

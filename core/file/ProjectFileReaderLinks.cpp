@@ -38,17 +38,28 @@ std::string LinkPath(pugi::xml_node link, const char* attribute) {
 }
 
 /// An absent element or attribute gives an empty text.
-void ReadLink(pugi::xml_node links, ProjectEditor& editor, const LinkElement& element) {
+LinkSettings ReadLink(pugi::xml_node links, const LinkElement& element) {
   const pugi::xml_node node = links.child(element.element);
   LinkSettings link;
   link.textLinkLabel = TextOrEmpty(node, "CAPTION");
   link.textLinkGraphic = LinkPath(node, "IMAGE");
   if (element.disabledAttribute != nullptr) link.textLinkGraphicDisabled = LinkPath(node, element.disabledAttribute);
-  editor.Set(element.link, std::move(link));
+  return link;
 }
 
-bool IsNext(const LinkElement& element) {
-  return std::string_view(element.element) == "NEXT";
+/// Calls `nextIsAbsent` instead of reading NEXT if there is none.
+template <typename Action>
+void ReadLinks(pugi::xml_node links, ProjectEditor& editor, const TargetFields& target, Action nextIsAbsent) {
+  ReadPlace(links, editor, target.linkPlacement);
+  for (const LinkElement& element : kLinkElements) {
+    const PageLink* const link = LinkTo(target, element.goal);
+    if (link == nullptr) continue;
+    if (element.goal == LinkGoal::Next && !links.child(element.element)) {
+      nextIsAbsent();
+    } else {
+      editor.Set(link->settings, ReadLink(links, element));
+    }
+  }
 }
 
 }  // namespace
@@ -57,26 +68,14 @@ bool IsNext(const LinkElement& element) {
 
 void ReadThumbnailPageLinks(pugi::xml_node links, ProjectEditor& editor) {
   ReadDirectLinks(links, editor);
-  ReadPlace(links, editor, &GalleryProject::comboPageLinksThumbnailLinkPlacement);
-  for (const LinkElement& element : kThumbnailPageLinks) {
-    if (IsNext(element) && !links.child("NEXT")) {
-      editor.Set(&GalleryProject::ThumbnailNextLink,
-                 LinkSettings{editor.Project().ThumbnailNextLink.textLinkLabel, "", ""});
-    } else {
-      ReadLink(links, editor, element);
-    }
-  }
+  ReadLinks(links, editor, kThumbnails, [&editor] {
+    editor.Set(&GalleryProject::ThumbnailNextLink,
+               LinkSettings{editor.Project().ThumbnailNextLink.textLinkLabel, "", ""});
+  });
 }
 
 void ReadImagePageLinks(pugi::xml_node links, ProjectEditor& editor) {
-  ReadPlace(links, editor, &GalleryProject::comboPageLinksImageLinkPlacement);
-  for (const LinkElement& element : kImagePageLinks) {
-    if (IsNext(element) && !links.child("NEXT")) {
-      editor.Set(&GalleryProject::ImageFirstLink, LinkSettings{});
-    } else {
-      ReadLink(links, editor, element);
-    }
-  }
+  ReadLinks(links, editor, kImages, [&editor] { editor.Set(&GalleryProject::ImageFirstLink, LinkSettings{}); });
 }
 
 }  // namespace vantorium

@@ -64,8 +64,9 @@ void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attrib
   editor.Set(use, kOn);
 }
 
-void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts) {
-  for (const TextElement& text : texts) editor.Set(text.text, MultilineText(parent.child(text.element)));
+void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, const CodeFields& fields,
+                    std::span<const TextElement> texts) {
+  for (const TextElement& text : texts) editor.Set(fields.*text.text, MultilineText(parent.child(text.element)));
 }
 
 bool IsNumberOne(std::string_view text) {

@@ -41,7 +41,8 @@ void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField fi
 void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Color GalleryProject::*field,
                NumberField use);
 /// Reads the texts of children; an absent child empties its field.
-void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts);
+void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, const CodeFields& fields,
+                    std::span<const TextElement> texts);
 
 /// Whether the text reads as the number 1.
 [[nodiscard]] bool IsNumberOne(std::string_view text);

@@ -35,7 +35,7 @@ struct Place {
 };
 
 Place PlaceOf(Scope at, LinkKind kind) {
-  if (kind <= LinkKind::Index) return {at.image, at.run.ImageCount};
+  if (IsImageLink(kind)) return {at.image, at.run.ImageCount};
   return {at.page, at.run.ThumbnailPageCount};
 }
 
@@ -109,9 +109,9 @@ constexpr TagRow kRows[] = {
 
 constexpr DescriptionTags kDescriptionRows[] = {
     {"<VANTORIUM_IMAGE_DESCRIPTION", "<VANTORIUM_IMAGE_DESCRIPTION>", "<VANTORIUM_IMAGE_DESCRIPTION_FULL>",
-     &GalleryProject::textHeader, &ImageEntry::ImageDescription, &GalleryProject::textFooter},
+     kImages.description},
     {"<VANTORIUM_THUMB_DESCRIPTION", "<VANTORIUM_THUMB_DESCRIPTION>", "<VANTORIUM_THUMB_DESCRIPTION_FULL>",
-     &GalleryProject::textThumbHeader, &ImageEntry::ThumbnailDescription, &GalleryProject::textThumbFooter},
+     kThumbnails.description},
 };
 
 }  // namespace

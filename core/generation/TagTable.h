@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/generation/RunState.h"
 
 #include <cstdint>
@@ -31,14 +32,12 @@ struct TagRow {
 inline constexpr std::string_view kNextImageTextTag = "<VANTORIUM_PAGELINK_NEXTIMAGE_TEXT>";
 inline constexpr std::string_view kNextImageGraphicTag = "<VANTORIUM_PAGELINK_NEXTIMAGE_GRAPHIC>";
 
-/// The tags of one description, and the fields of the project and of a list row that hold their values.
+/// The tags of one description, and the fields that hold their values.
 struct DescriptionTags {
   std::string_view start;  ///< the beginning of both tags
   std::string_view tag;
   std::string_view fullTag;  ///< with header and footer
-  std::string GalleryProject::*header;
-  std::string ImageEntry::*description;
-  std::string GalleryProject::*footer;
+  const DescriptionFields& fields;
 };
 
 /// The tags of the image description, then those of the thumbnail description.

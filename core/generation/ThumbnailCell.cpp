@@ -58,9 +58,7 @@ class CellContent {
   }
 
   void OpenDescription() {
-    text_ = Expanded(project_.textThumbHeader, kNoIndex);
-    text_ += ExpandTags(run_, run_.Entry(image_).ThumbnailDescription, image_, kNoIndex);
-    text_ += Expanded(project_.textThumbFooter, kNoIndex);
+    text_ = DescriptionText(run_, kThumbnails.description, image_);
     cells_ = ThumbnailDescriptionCells(project_.comboThumbnailDescriptionAlignment, description_);
     const std::int32_t width = run_.MaxThumbWidth;
     // There is no space between WIDTH and the alignment of the thumbnail's cell.

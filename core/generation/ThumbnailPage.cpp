@@ -35,8 +35,8 @@ std::string_view DivAlignment(TableAlignment alignment) {
 
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
-  const std::string backdrop = BackdropAttribute(run, kThumbnailPageBackdrop);
-  return BodyTag(project, kThumbnailPageColors, backdrop);
+  const std::string backdrop = BackdropAttribute(run, kThumbnails.backdrop);
+  return BodyTag(project, kThumbnails.colors, backdrop);
 }
 
 void AddHead(PageText& text, const RunState& run, std::int32_t page) {
@@ -57,7 +57,7 @@ void AddTableTag(PageText& text, const RunState& run) {
     color = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
   }
   text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", color,
-              BackdropAttribute(run, kThumbnailTableBackdrop), project.textThumbnailsTableBorder,
+              BackdropAttribute(run, kTableBackdrop), project.textThumbnailsTableBorder,
               project.textThumbnailsTableCellSpacing, project.textThumbnailsTableCellPadding,
               TableAlignmentOf(project) == TableAlignment::FitToPage ? R"( WIDTH="100%")" : "");
 }

@@ -53,18 +53,12 @@ std::string WithCaption(const RunState& run, std::int32_t image, std::string con
   return content;
 }
 
-std::string DescriptionText(const RunState& run, std::int32_t image) {
-  return ExpandAllTags(run, run.project.textHeader, image, kNoIndex) +
-         ExpandTags(run, run.Entry(image).ImageDescription, image, kNoIndex) +
-         ExpandAllTags(run, run.project.textFooter, image, kNoIndex);
-}
-
 /// Puts the description around image and caption.
 std::string WithDescription(const RunState& run, std::int32_t image, std::string content) {
   const Placement placement = DescriptionPlacement(run.project.comboImageDescriptionPlacement);
   if (placement == Placement::None) return content;
   const std::string_view cell = ImageDescriptionCell(run.project.comboImageDescriptionAlignment, placement);
-  const std::string text = DescriptionText(run, image);
+  const std::string text = DescriptionText(run, kImages.description, image);
   switch (placement) {
     case Placement::Left:
       return fmt::format(R"({}<TD {}>{}</TD><TD ALIGN="CENTER">{}{})", kTable, cell, text, content, kTableEnd);

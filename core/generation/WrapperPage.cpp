@@ -14,8 +14,8 @@ namespace {
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
   const bool shared = project.textImageWrapperBackdrop == project.textThumbnailsPageBackdrop;
-  const std::string backdrop = BackdropAttribute(run, shared ? kThumbnailPageBackdrop : kImagePageBackdrop);
-  return BodyTag(project, kImagePageColors, backdrop);
+  const std::string backdrop = BackdropAttribute(run, (shared ? kThumbnails : kImages).backdrop);
+  return BodyTag(project, kImages.colors, backdrop);
 }
 
 void AddHead(PageText& page, const RunState& run, std::int32_t image) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/Project.h"
 #include "core/ProjectEditor.h"
 #include "core/ProjectFields.h"
@@ -14,12 +15,8 @@ namespace vantorium {
 /// The differences between descriptions of images and of thumbnails.
 struct DescriptionKind {
   std::string_view caption;  ///< of the frame around the text, before the image's name
-  std::string ImageEntry::*text;
+  DescriptionFields fields;
   void (ImageList::*setText)(std::size_t position, std::string text);
-  std::string GalleryProject::*header;
-  std::string GalleryProject::*footer;
-  Choice GalleryProject::*placement;
-  Choice GalleryProject::*alignment;
   std::string_view headerFooterTitle;
   std::string_view clearTitle;
   std::string_view clearQuestion;

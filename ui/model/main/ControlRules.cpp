@@ -1,5 +1,7 @@
 #include "ui/model/main/ControlRules.h"
 
+#include "core/GalleryTargets.h"
+
 namespace vantorium {
 namespace {
 
@@ -24,24 +26,18 @@ bool Wrappers(P p) {
   return IsOn(p.checkImageWrapperUse);
 }
 
-// Whether the width or the height of a picture is given; both are unless the aspect ratio is kept.
-bool ImageRatioKept(P p) {
-  return IsOn(p.checkImageWrapperImageKeepAspectRatio);
+// Whether the width or the height of a target's pictures is given; both are unless the aspect ratio is kept.
+template <const TargetFields& target>
+bool RatioKept(P p) {
+  return IsOn(p.*target.size.keepAspectRatio);
 }
-bool ImageWidthGiven(P p) {
-  return !ImageRatioKept(p) || IsOn(p.checkImageWrapperImageSetWidth);
+template <const TargetFields& target>
+bool WidthGiven(P p) {
+  return !RatioKept<target>(p) || IsOn(p.*target.size.setWidth);
 }
-bool ImageHeightGiven(P p) {
-  return !ImageRatioKept(p) || IsOff(p.checkImageWrapperImageSetWidth);
-}
-bool ThumbnailRatioKept(P p) {
-  return IsOn(p.checkThumbnailsImageKeepAspectRatio);
-}
-bool ThumbnailWidthGiven(P p) {
-  return !ThumbnailRatioKept(p) || IsOn(p.checkThumbnailsImageSetWidth);
-}
-bool ThumbnailHeightGiven(P p) {
-  return !ThumbnailRatioKept(p) || IsOff(p.checkThumbnailsImageSetWidth);
+template <const TargetFields& target>
+bool HeightGiven(P p) {
+  return !RatioKept<target>(p) || IsOff(p.*target.size.setWidth);
 }
 
 template <Flag GalleryProject::*flag>
@@ -63,35 +59,35 @@ constexpr ControlRule kRules[] = {
     // Image wrappers
     {"frmImageWrapperCodeSettings", kVisible, Wrappers},
     {"frmImageWrapperImageSettings", kVisible, Wrappers},
-    {"btnImageWrapperColors", kEnabled, IsSet<&GalleryProject::checkImageWrapperSetColors>},
+    {"btnImageWrapperColors", kEnabled, IsSet<kImages.colors.use>},
     {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return IsOff(p.checkImageWrapperImageKeepSize); }},
-    {"checkImageWrapperImageSetWidth", kVisible, ImageRatioKept},
-    {"lblImageWrapperImageWidth", kVisible, ImageWidthGiven},
-    {"textImageWrapperImageWidth", kVisible, ImageWidthGiven},
-    {"udImageWrapperImageWidth", kVisible, ImageWidthGiven},
-    {"lblImageWrapperImageHeight", kVisible, ImageHeightGiven},
-    {"textImageWrapperImageHeight", kVisible, ImageHeightGiven},
-    {"udImageWrapperImageHeight", kVisible, ImageHeightGiven},
+    {"checkImageWrapperImageSetWidth", kVisible, RatioKept<kImages>},
+    {"lblImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
+    {"textImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
+    {"udImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
+    {"lblImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
+    {"textImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
+    {"udImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
     // Thumbnails
-    {"btnThumbnailsPageColors", kEnabled, IsSet<&GalleryProject::checkThumbnailsPageSetColors>},
+    {"btnThumbnailsPageColors", kEnabled, IsSet<kThumbnails.colors.use>},
     {"btnThumbnailsTableBGColor", kVisible, IsSet<&GalleryProject::checkThumbnailsTableUseBGColor>},
-    {"checkThumbnailsImageSetWidth", kVisible, ThumbnailRatioKept},
-    {"lblThumbnailsImageWidth", kVisible, ThumbnailWidthGiven},
-    {"textThumbnailsImageWidth", kVisible, ThumbnailWidthGiven},
-    {"udThumbnailsImageWidth", kVisible, ThumbnailWidthGiven},
-    {"lblThumbnailsImageHeight", kVisible, ThumbnailHeightGiven},
-    {"textThumbnailsImageHeight", kVisible, ThumbnailHeightGiven},
-    {"udThumbnailsImageHeight", kVisible, ThumbnailHeightGiven},
+    {"checkThumbnailsImageSetWidth", kVisible, RatioKept<kThumbnails>},
+    {"lblThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
+    {"textThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
+    {"udThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
+    {"lblThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
+    {"textThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
+    {"udThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
     // Captions
     {"frmCaptionsImages", kVisible, Wrappers},
-    {"btnCaptionsImagesRegular", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesRegular>},
-    {"comboCaptionsImagesRegularPlacement", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesRegular>},
-    {"comboCaptionsImagesRegularAlignment", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesRegular>},
-    {"btnCaptionsImagesPopup", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesPopup>},
-    {"btnCaptionsThumbnailsRegular", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsRegular>},
-    {"comboCaptionsThumbnailsRegularPlacement", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsRegular>},
-    {"comboCaptionsThumbnailsRegularAlignment", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsRegular>},
-    {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsPopup>},
+    {"btnCaptionsImagesRegular", kEnabled, IsSet<kImages.captions.regular>},
+    {"comboCaptionsImagesRegularPlacement", kEnabled, IsSet<kImages.captions.regular>},
+    {"comboCaptionsImagesRegularAlignment", kEnabled, IsSet<kImages.captions.regular>},
+    {"btnCaptionsImagesPopup", kEnabled, IsSet<kImages.captions.popup>},
+    {"btnCaptionsThumbnailsRegular", kEnabled, IsSet<kThumbnails.captions.regular>},
+    {"comboCaptionsThumbnailsRegularPlacement", kEnabled, IsSet<kThumbnails.captions.regular>},
+    {"comboCaptionsThumbnailsRegularAlignment", kEnabled, IsSet<kThumbnails.captions.regular>},
+    {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<kThumbnails.captions.popup>},
     // Page links
     {"frmPageLinksOnImagePages", kVisible, Wrappers},
     {"btnPageLinksImageIndexLink", kEnabled, IsSingleFrame},
@@ -108,9 +104,8 @@ constexpr UnitLabel kUnitLabels[] = {
 };
 
 constexpr AlignmentList kAlignmentLists[] = {
-    {&GalleryProject::comboCaptionsImagesRegularAlignment, &GalleryProject::comboCaptionsImagesRegularPlacement},
-    {&GalleryProject::comboCaptionsThumbnailsRegularAlignment,
-     &GalleryProject::comboCaptionsThumbnailsRegularPlacement},
+    {kImages.captions.alignment, kImages.captions.placement},
+    {kThumbnails.captions.alignment, kThumbnails.captions.placement},
 };
 
 }  // namespace
