@@ -1,10 +1,33 @@
 #pragma once
 
 #include "core/GalleryTargets.h"
+#include "core/file/ProjectFileNames.h"
+
+#include <variant>
 
 namespace vantorium {
 
-// The names that the project file has for the settings of both targets, in the order of the file.
+// The names that the project file has for settings. Each list is in the order of the file; writer and reader walk it.
+
+/// An attribute that is written and read as its setting's kind says: a flag as a number, digits as a whole number, a
+/// text as it is, a choice as one of `words`. An absent attribute leaves the setting unchanged.
+struct PlainAttribute {
+  const char* attribute;
+  std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*> field;
+  FileWords words = {};
+};
+inline constexpr PlainAttribute kLayoutAttributes[] = {{"RESIZABLE", &GalleryProject::checkGalleryFramesResizable},
+                                                       {"BORDERS", &GalleryProject::checkGalleryFramesDisplayBorders}};
+inline constexpr PlainAttribute kSlideShowAttributes[] = {
+    {"FIRSTSLIDE", &GalleryProject::comboGallerySlideShowBeginWith, kFirstSlideWords},
+    {"NEXTSLIDE", &GalleryProject::comboGallerySlideShowActionAfterImage, kNextSlideWords},
+    {"STARTOVER", &GalleryProject::comboGallerySlideShowStartOverWith, kStartOverWords}};
+inline constexpr PlainAttribute kArrangementAttributes[] = {
+    {"BORDER", &GalleryProject::textThumbnailsTableBorder},
+    {"CELLSPACING", &GalleryProject::textThumbnailsTableCellSpacing},
+    {"CELLPADDING", &GalleryProject::textThumbnailsTableCellPadding}};
+
+// The names of the settings of both targets.
 
 struct ColorAttribute {
   const char* attribute;

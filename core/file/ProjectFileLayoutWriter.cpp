@@ -5,9 +5,7 @@ namespace {
 
 void PutSlideShow(pugi::xml_node layout, const GalleryProject& project) {
   pugi::xml_node show = layout.append_child("SLIDESHOW");
-  PutAttribute(show, "FIRSTSLIDE", kFirstSlideWords, project.comboGallerySlideShowBeginWith);
-  PutAttribute(show, "NEXTSLIDE", kNextSlideWords, project.comboGallerySlideShowActionAfterImage);
-  PutAttribute(show, "STARTOVER", kStartOverWords, project.comboGallerySlideShowStartOverWith);
+  PutPlainAttributes(show, project, kSlideShowAttributes);
   const bool automatic = StartsByItself(project);
   PutAttribute(show, "AUTOSTART", FlagOf(automatic));
   if (automatic) PutAttribute(show, "AUTOSTARTDELAY", project.textGallerySlideShowAutoStartDelay);
@@ -23,8 +21,7 @@ void PutLayout(pugi::xml_node gallery, const GalleryProject& project) {
   PutAttribute(layout, "THUMBFRAMENAME", project.textThumbnailFrameName);
   const char* unit = IsOn(project.checkGalleryFrameSizeInPercent) ? "%" : "";
   PutAttribute(layout, "FRAMESIZE", project.textGalleryFrameSize + unit);
-  PutAttribute(layout, "RESIZABLE", project.checkGalleryFramesResizable);
-  PutAttribute(layout, "BORDERS", project.checkGalleryFramesDisplayBorders);
+  PutPlainAttributes(layout, project, kLayoutAttributes);
   if (HasSlideShow(project)) PutSlideShow(layout, project);
 }
 

@@ -55,9 +55,7 @@ void PutArrangement(pugi::xml_node page, const GalleryProject& project) {
   PutAttribute(arrangement, "ROWS", project.textThumbnailsTableRows);
   PutAttribute(arrangement, "COLS", project.textThumbnailsTableColumns);
   PutAttribute(arrangement, "ALIGN", kTableAlignmentWords, project.comboThumbnailsTableAlignment);
-  PutAttribute(arrangement, "BORDER", project.textThumbnailsTableBorder);
-  PutAttribute(arrangement, "CELLSPACING", project.textThumbnailsTableCellSpacing);
-  PutAttribute(arrangement, "CELLPADDING", project.textThumbnailsTableCellPadding);
+  PutPlainAttributes(arrangement, project, kArrangementAttributes);
   PutAttributeUnlessEmpty(arrangement, "BACKGROUND", project.textThumbnailsTableBackdrop);
   if (IsOn(project.checkThumbnailsTableUseBGColor)) {
     PutAttribute(arrangement, "BGCOLOR", ColorToHex(project.btnThumbnailsTableBGColor));

@@ -13,9 +13,7 @@ void ReadDelay(ProjectEditor& editor, pugi::xml_node show, const char* attribute
 
 void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
   editor.Set(&GalleryProject::checkGallerySlideShow, kOn);
-  ReadWord(editor, show, "FIRSTSLIDE", kFirstSlideWords, &GalleryProject::comboGallerySlideShowBeginWith);
-  ReadWord(editor, show, "NEXTSLIDE", kNextSlideWords, &GalleryProject::comboGallerySlideShowActionAfterImage);
-  ReadWord(editor, show, "STARTOVER", kStartOverWords, &GalleryProject::comboGallerySlideShowStartOverWith);
+  ReadPlainAttributes(editor, show, kSlideShowAttributes);
   editor.Set(&GalleryProject::checkGallerySlideShowAutoStart,
              FlagOf(IsNumberOne(AttributeOf(show, "AUTOSTART").value_or(""))));
   ReadDelay(editor, show, "AUTOSTARTDELAY", &GalleryProject::textGallerySlideShowAutoStartDelay);
@@ -57,8 +55,7 @@ ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor) {
   if (const pugi::xml_node show = layout.child("SLIDESHOW"); singleFrame && show) ReadSlideShow(show, editor);
   ReadFrameNames(layout, editor, singleFrame);
   ReadFrameSize(layout, editor);
-  ReadSwitch(editor, layout, "RESIZABLE", &GalleryProject::checkGalleryFramesResizable);
-  ReadSwitch(editor, layout, "BORDERS", &GalleryProject::checkGalleryFramesDisplayBorders);
+  ReadPlainAttributes(editor, layout, kLayoutAttributes);
   return ReadResult::Complete;
 }
 

@@ -11,9 +11,7 @@ void ReadColors(pugi::xml_node page, ProjectEditor& editor, const PageColorField
 void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
   ReadDigits(editor, arrangement, "ROWS", &GalleryProject::textThumbnailsTableRows);
   ReadDigits(editor, arrangement, "COLS", &GalleryProject::textThumbnailsTableColumns);
-  ReadDigits(editor, arrangement, "BORDER", &GalleryProject::textThumbnailsTableBorder);
-  ReadDigits(editor, arrangement, "CELLSPACING", &GalleryProject::textThumbnailsTableCellSpacing);
-  ReadDigits(editor, arrangement, "CELLPADDING", &GalleryProject::textThumbnailsTableCellPadding);
+  ReadPlainAttributes(editor, arrangement, kArrangementAttributes);
   ReadWord(editor, arrangement, "ALIGN", kTableAlignmentWords, &GalleryProject::comboThumbnailsTableAlignment);
   // The writer calls it BACKGROUND, so a written backdrop is not read back. Kept on purpose.
   ReadText(editor, arrangement, "BACKDROP", &GalleryProject::textThumbnailsTableBackdrop);

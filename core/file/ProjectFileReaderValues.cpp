@@ -1,5 +1,6 @@
 #include "core/file/ProjectFileReaderValues.h"
 
+#include "core/ProjectFields.h"
 #include "env/Numbers.h"
 #include "env/RuntimeFailure.h"
 #include "env/Text.h"
@@ -49,6 +50,19 @@ void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attri
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words,
               NumberField field) {
   if (const auto index = IndexOfWord(words, AttributeOf(element, attribute).value_or(""))) editor.Set(field, *index);
+}
+
+void ReadPlainAttributes(ProjectEditor& editor, pugi::xml_node element, std::span<const PlainAttribute> rows) {
+  for (const auto& [attribute, field, words] : rows) {
+    if (const auto* text = std::get_if<TextField>(&field)) {
+      const bool isNumber = FieldOf(*text).kind == FieldKind::Digits;
+      (isNumber ? ReadDigits : ReadText)(editor, element, attribute, *text);
+    } else if (words.empty()) {
+      ReadSwitch(editor, element, attribute, std::get<NumberField>(field));
+    } else {
+      ReadWord(editor, element, attribute, words, std::get<NumberField>(field));
+    }
+  }
 }
 
 void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field) {

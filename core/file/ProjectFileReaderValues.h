@@ -34,6 +34,8 @@ void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attri
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
 /// On if the attribute is the number 1, else off.
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
+/// Reads one attribute for each row.
+void ReadPlainAttributes(ProjectEditor& editor, pugi::xml_node element, std::span<const PlainAttribute> rows);
 /// A word that is not in the list leaves the setting unchanged.
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words, NumberField field);
 void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field);
