@@ -43,4 +43,16 @@ struct DescriptionTags {
 /// The tags of the image description, then those of the thumbnail description.
 [[nodiscard]] std::span<const DescriptionTags> DescriptionTagRows();
 
+/// The groups in which the editors offer the tags.
+enum class TagGroup { Gallery, Image, Thumbnail, PageLink };
+
+/// A tag with the name by which it is offered. Both are empty for a separator.
+struct OfferedTag {
+  std::string_view caption;
+  std::string_view tag;
+};
+
+/// The tags of a group, in the order in which they are offered.
+[[nodiscard]] std::span<const OfferedTag> OfferedTags(TagGroup group);
+
 }  // namespace vantorium
