@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Choices.h"
 #include "image/ImageFilterSettings.h"
 #include "image/WatermarkSettings.h"
 
@@ -8,8 +9,6 @@
 
 namespace vantorium {
 
-using Flag = std::int16_t;    ///< 0 or 1
-using Choice = std::int16_t;  ///< index into a fixed list, from 0
 using Color = std::uint32_t;  ///< 0x00BBGGRR
 using Digits = std::string;   ///< a decimal number as typed; may be empty during editing
 
@@ -32,22 +31,22 @@ struct GalleryProject {
   std::string textGalleryTitle;  ///< in a new project, the project's name
   std::string GalleryHeadCode;   ///< code in the HEAD section of the index page
   std::string GalleryInfoText;   ///< the "About this Gallery..." text
-  Choice comboGalleryLayoutType = 0;
-  Flag checkGalleryFrameSizeInPercent = 0;
-  Digits textGalleryFrameSize = "200";         ///< pixels, or percent
-  Choice comboGalleryFrameSizingPriority = 0;  ///< the frame whose size is given: 0 thumbnails, 1 image
-  std::int32_t ThumbnailFrameSize = 200;       ///< last value stored by textGalleryFrameSize
+  Choice comboGalleryLayoutType = NumberOf(GalleryLayout::SingleFrame);
+  Flag checkGalleryFrameSizeInPercent = kOff;
+  Digits textGalleryFrameSize = "200";  ///< pixels, or percent
+  Choice comboGalleryFrameSizingPriority = NumberOf(SizedFrame::Thumbnails);
+  std::int32_t ThumbnailFrameSize = 200;  ///< last value stored by textGalleryFrameSize
   std::int32_t ImageFrameSize = 0;
-  Flag checkGalleryFramesResizable = 0;
-  Flag checkGalleryFramesDisplayBorders = 0;
+  Flag checkGalleryFramesResizable = kOff;
+  Flag checkGalleryFramesDisplayBorders = kOff;
   std::string textThumbnailFrameName = "thumb_frame";
   std::string comboImageFrameName = "_self";  ///< name of the image frame, or a browser target
-  Flag checkGallerySlideShow = 0;
-  Choice comboGallerySlideShowBeginWith = 1;
-  Flag checkGallerySlideShowAutoStart = 1;
+  Flag checkGallerySlideShow = kOff;
+  Choice comboGallerySlideShowBeginWith = NumberOf(SlideShowBegin::FirstImage);
+  Flag checkGallerySlideShowAutoStart = kOn;
   Digits textGallerySlideShowAutoStartDelay = "10";  ///< seconds
-  Choice comboGallerySlideShowActionAfterImage = 0;
-  Choice comboGallerySlideShowStartOverWith = 1;
+  Choice comboGallerySlideShowActionAfterImage = NumberOf(SlideShowAction::NextImage);
+  Choice comboGallerySlideShowStartOverWith = NumberOf(SlideShowStartOver::FirstImage);
   Digits textGallerySlideShowDelay = "5";  ///< seconds
 
   // Paths and file names
@@ -59,25 +58,25 @@ struct GalleryProject {
   std::string comboImageWrapperSettingsFileExtension = ".htm";   ///< with its dot
 
   // Images and their wrapper pages
-  Choice comboImagesSortingOrder = 0;
-  Flag checkImageWrapperUse = 1;
+  Choice comboImagesSortingOrder = NumberOf(SortingOrder::Unsorted);
+  Flag checkImageWrapperUse = kOn;
   std::string ImagePageHeadCode;
   std::string ImagePageBodyHeader = kImagePageCentringHeader;
   std::string ImagePageBodyFooter = kCentringFooter;
   std::string ImageHeader;
   std::string ImageFooter;
   std::string textImageWrapperBackdrop;  ///< path of the backdrop image
-  Flag checkImageWrapperSetColors = 0;
+  Flag checkImageWrapperSetColors = kOff;
   Color ImagePageBgColor = 0xFFFFFF;
   Color ImagePageTextColor = 0x000000;
   Color ImagePageLinkColor = 0xA00000;
   Color ImagePageVLinkColor = 0xA00000;
   Color ImagePageALinkColor = 0x0000FF;
-  Flag checkImageWrapperImageKeepSize = 0;
-  Flag checkImageWrapperImagePhysicalResize = 1;  ///< 1: new files are made at this size, 0: the browser scales
-  Flag checkImageWrapperImageKeepAspectRatio = 1;
-  Flag checkImageWrapperImageSetWidth = 0;  ///< if the aspect ratio is kept: 1 the width is given, 0 the height
-  Flag checkImageWrapperImageSizesInPercent = 0;
+  Flag checkImageWrapperImageKeepSize = kOff;
+  Flag checkImageWrapperImagePhysicalResize = kOn;  ///< on: new files are made at this size, off: the browser scales
+  Flag checkImageWrapperImageKeepAspectRatio = kOn;
+  Flag checkImageWrapperImageSetWidth = kOff;  ///< if the aspect ratio is kept: the width is given, not the height
+  Flag checkImageWrapperImageSizesInPercent = kOff;
   Digits textImageWrapperImageWidth = "400";
   Digits textImageWrapperImageHeight = "300";
   ImageFilterSettings ImageFilters;
@@ -90,7 +89,7 @@ struct GalleryProject {
   std::string ThumbnailHeader;
   std::string ThumbnailFooter;
   std::string textThumbnailsPageBackdrop;
-  Flag checkThumbnailsPageSetColors = 0;
+  Flag checkThumbnailsPageSetColors = kOff;
   Color ThumbnailPageBgColor = 0xFFFFFF;
   Color ThumbnailPageTextColor = 0x000000;
   Color ThumbnailPageLinkColor = 0xA00000;
@@ -101,50 +100,50 @@ struct GalleryProject {
   Digits textThumbnailsTableBorder = "0";
   Digits textThumbnailsTableCellSpacing = "2";
   Digits textThumbnailsTableCellPadding = "0";
-  Choice comboThumbnailsTableAlignment = 2;
+  Choice comboThumbnailsTableAlignment = NumberOf(TableAlignment::Center);
   std::string textThumbnailsTableBackdrop;
-  Flag checkThumbnailsTableUseBGColor = 0;
+  Flag checkThumbnailsTableUseBGColor = kOff;
   Color btnThumbnailsTableBGColor = 0x000000;
-  Flag checkThumbnailsImageKeepAspectRatio = 0;
-  Flag checkThumbnailsImageSetWidth = 0;
+  Flag checkThumbnailsImageKeepAspectRatio = kOff;
+  Flag checkThumbnailsImageSetWidth = kOff;
   Digits textThumbnailsImageWidth = "60";
   Digits textThumbnailsImageHeight = "60";
   ImageFilterSettings ThumbnailFilters;
   WatermarkSettings ThumbnailWatermark = {.textWatermark = "THUMB", .FontSize = 14};
 
   // Captions
-  Flag checkCaptionsImagesRegular = 0;
+  Flag checkCaptionsImagesRegular = kOff;
   std::string ImageRegularCaption;
-  Choice comboCaptionsImagesRegularPlacement = 3;
-  Choice comboCaptionsImagesRegularAlignment = 2;
-  Flag checkCaptionsImagesPopup = 0;
+  Choice comboCaptionsImagesRegularPlacement = CaptionNumberOf(Placement::Below);
+  Choice comboCaptionsImagesRegularAlignment = NumberOf(Alignment::End);
+  Flag checkCaptionsImagesPopup = kOff;
   std::string ImagePopupCaption;
-  Flag checkCaptionsThumbnailsRegular = 0;
+  Flag checkCaptionsThumbnailsRegular = kOff;
   std::string ThumbnailRegularCaption;
-  Choice comboCaptionsThumbnailsRegularPlacement = 3;
-  Choice comboCaptionsThumbnailsRegularAlignment = 1;
-  Flag checkCaptionsThumbnailsPopup = 0;
+  Choice comboCaptionsThumbnailsRegularPlacement = CaptionNumberOf(Placement::Below);
+  Choice comboCaptionsThumbnailsRegularAlignment = NumberOf(Alignment::Center);
+  Flag checkCaptionsThumbnailsPopup = kOff;
   std::string ThumbnailPopupCaption;
 
   // Descriptions
   std::string textHeader;  ///< precedes every image description
   std::string textFooter;
-  Choice comboImageDescriptionPlacement = 0;
-  Choice comboImageDescriptionAlignment = 0;
+  Choice comboImageDescriptionPlacement = NumberOf(Placement::None);
+  Choice comboImageDescriptionAlignment = NumberOf(Alignment::Start);
   std::string textThumbHeader;  ///< precedes every thumbnail description
   std::string textThumbFooter;
-  Choice comboThumbnailDescriptionPlacement = 0;
-  Choice comboThumbnailDescriptionAlignment = 0;
+  Choice comboThumbnailDescriptionPlacement = NumberOf(Placement::None);
+  Choice comboThumbnailDescriptionAlignment = NumberOf(Alignment::Start);
 
   // Page links
-  Flag checkPageLinksThumbnailDirectLinks = 0;
+  Flag checkPageLinksThumbnailDirectLinks = kOff;
   Digits textPageLinksThumbnailMaxDirectLinks = "0";  ///< 0 means all
-  Choice comboPageLinksThumbnailLinkPlacement = 1;
+  Choice comboPageLinksThumbnailLinkPlacement = NumberOf(LinkPlacement::Above);
   LinkSettings ThumbnailFirstLink = {"FIRST", "", ""};
   LinkSettings ThumbnailLastLink = {"LAST", "", ""};
   LinkSettings ThumbnailPreviousLink = {"BACK", "", ""};
   LinkSettings ThumbnailNextLink = {"NEXT", "", ""};
-  Choice comboPageLinksImageLinkPlacement = 2;
+  Choice comboPageLinksImageLinkPlacement = NumberOf(LinkPlacement::Below);
   LinkSettings ImageFirstLink = {"FIRST", "", ""};
   LinkSettings ImageLastLink = {"LAST", "", ""};
   LinkSettings ImagePreviousLink = {"BACK", "", ""};

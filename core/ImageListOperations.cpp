@@ -10,6 +10,7 @@
 namespace vantorium {
 namespace {
 
+/// In the order of SortingOrder, after Unsorted.
 constexpr std::array<ListOrder, 8> kOrders = {{{SortColumn::ImageName, SortDirection::Ascending},
                                                {SortColumn::ImageName, SortDirection::Descending},
                                                {SortColumn::SourcePath, SortDirection::Ascending},
@@ -122,7 +123,8 @@ void ImageListOperations::MoveSelectedDown() {
 
 void ImageListOperations::MoveSelected(Step step) {
   ImageList& images = project_.images;
-  SetSortingOrder(0);  // as if chosen by the user: marks the project as modified even if no row can move
+  // As if chosen by the user: marks the project as modified even if no row can move.
+  SetSortingOrder(NumberOf(SortingOrder::Unsorted));
   const std::size_t count = images.Count();
   for (std::size_t walked = 0; walked < count; ++walked) {
     const std::size_t position = step == Step::Up ? walked + 1 : count - walked;
@@ -135,7 +137,7 @@ void ImageListOperations::MoveSelected(Step step) {
 }
 
 void ImageListOperations::Drop(const std::string& draggedName, std::size_t target) {
-  if (project_.settings.comboImagesSortingOrder != 0) {
+  if (SortingOrderOf(project_.settings) != SortingOrder::Unsorted) {
     boxes_.Critical("Item cannot be moved",
                     "You cannot change the order of images while the list is being kept sorted.\r"
                     "Please select 'unsorted' in the 'Sort Image List' box!");
@@ -152,19 +154,20 @@ void ImageListOperations::SetSortingOrder(Choice index) {
   ImageList& images = project_.images;
   if (index < 0 || index > static_cast<Choice>(kOrders.size())) throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
   project_.IsModified = true;
-  const bool losesAnOrder = !images.Empty() && !images.IsKeptSorted() && index != 0;
+  constexpr Choice kUnsorted = NumberOf(SortingOrder::Unsorted);
+  const bool losesAnOrder = !images.Empty() && !images.IsKeptSorted() && index != kUnsorted;
   if (losesAnOrder &&
       !boxes_.AskYesNo("Change Sorting Order",
                        "Are you sure you wish to change the Sorting Order for the Images in this Gallery?")) {
-    index = 0;
+    index = kUnsorted;
   }
-  if (index == 0) return StopSorting();
+  if (index == kUnsorted) return StopSorting();
   project_.settings.comboImagesSortingOrder = index;
   images.KeepSorted(kOrders.at(static_cast<std::size_t>(index) - 1));
 }
 
 void ImageListOperations::StopSorting() {
-  project_.settings.comboImagesSortingOrder = 0;
+  project_.settings.comboImagesSortingOrder = NumberOf(SortingOrder::Unsorted);
   project_.images.StopSorting();
 }
 

@@ -52,17 +52,17 @@ class ImageListOperations {
   /// selected afterwards. If the file cannot be read, shows a message box and returns false; the row then stays where
   /// it was. Throws RuntimeFailure IndexOutOfBounds outside 1 to the count.
   bool MoveEntry(std::size_t fromIndex, std::size_t toIndex);
-  /// Both first set the sorting order to 0. If a selected row is already at the end, no row moves.
+  /// Both first set the sorting order to Unsorted. If a selected row is already at the end, no row moves.
   void MoveSelectedUp();
   void MoveSelectedDown();
   /// Handles a drop of the row named `draggedName` onto the row at `target` (see DropTarget). Refused while the list is
   /// kept sorted. Ignores a name that is not in the list.
   void Drop(const std::string& draggedName, std::size_t target);
 
-  /// `index` as in comboImagesSortingOrder. Asks before the user's own order is lost; 0 keeps the present order. Throws
-  /// RuntimeFailure SubscriptOutOfRange outside 0 to 8.
+  /// `index` is the number of a SortingOrder. Asks before the user's own order is lost; Unsorted keeps the present
+  /// order. Throws RuntimeFailure SubscriptOutOfRange if no SortingOrder has that number.
   void SetSortingOrder(Choice index);
-  /// Sets the sorting order to 0 and nothing else, as new projects and reading a file do first.
+  /// Sets the sorting order to Unsorted and nothing else, as new projects and reading a file do first.
   void StopSorting();
 
   /// Asks for confirmation first; does nothing with fewer than two rows. Afterwards the first row is current and

@@ -25,15 +25,6 @@ struct PageColorFields {
   Color GalleryProject::*activeLink;
 };
 
-inline constexpr PageColorFields kThumbnailPageColors = {
-    &GalleryProject::checkThumbnailsPageSetColors, &GalleryProject::ThumbnailPageBgColor,
-    &GalleryProject::ThumbnailPageTextColor,       &GalleryProject::ThumbnailPageLinkColor,
-    &GalleryProject::ThumbnailPageVLinkColor,      &GalleryProject::ThumbnailPageALinkColor};
-inline constexpr PageColorFields kImagePageColors = {
-    &GalleryProject::checkImageWrapperSetColors, &GalleryProject::ImagePageBgColor,
-    &GalleryProject::ImagePageTextColor,         &GalleryProject::ImagePageLinkColor,
-    &GalleryProject::ImagePageVLinkColor,        &GalleryProject::ImagePageALinkColor};
-
 [[nodiscard]] inline PageColors ColorsOf(const GalleryProject& project, const PageColorFields& fields) {
   return {project.*fields.background, project.*fields.text, project.*fields.link, project.*fields.visitedLink,
           project.*fields.activeLink};

@@ -1,5 +1,6 @@
 #include "core/ProjectEditor.h"
 
+#include "core/GalleryTargets.h"
 #include "core/ProjectFields.h"
 #include "env/Numbers.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 using Project = GalleryProject;
 
-void RepairEmpty(std::string& field, const char* value, bool& modified) {
+void RepairEmpty(std::string& field, const std::string& value, bool& modified) {
   if (!field.empty()) return;
   field = value;
   modified = true;
@@ -50,8 +51,8 @@ void ProjectEditor::Set(std::int16_t Project::*field, std::int16_t value) {
   modified_ = true;
   if (field == &Project::comboGalleryLayoutType) ImageFrameNameForLayout(project_, value);
   if (field == &Project::checkGalleryFrameSizeInPercent) FrameSizeEdited();
-  if (field == &Project::checkGallerySlideShow && value == 1) project_.checkImageWrapperUse = 1;
-  if (field == &Project::checkImageWrapperUse && value == 0) project_.checkGallerySlideShow = 0;
+  if (field == &Project::checkGallerySlideShow && IsOn(value)) project_.checkImageWrapperUse = kOn;
+  if (field == &Project::checkImageWrapperUse && IsOff(value)) project_.checkGallerySlideShow = kOff;
 }
 
 void ProjectEditor::Set(Color Project::*field, Color value) {
@@ -77,15 +78,15 @@ void ProjectEditor::Set(WatermarkSettings Project::*field, WatermarkSettings val
 void ProjectEditor::FrameSizeEdited() {
   std::string& size = project_.textGalleryFrameSize;
   if (size.empty()) return;
-  if (project_.checkGalleryFrameSizeInPercent == 1 && ParseNumber(size).value_or(0) > 99) size = "99";
+  if (IsOn(project_.checkGalleryFrameSizeInPercent) && ParseNumber(size).value_or(0) > 99) size = "99";
   const std::int32_t pixelsOrPercent = ParseInt32(size);
-  (project_.comboGalleryFrameSizingPriority == 0 ? project_.ThumbnailFrameSize : project_.ImageFrameSize) =
-      pixelsOrPercent;
+  const bool thumbnails = SizedFrameOf(project_) == SizedFrame::Thumbnails;
+  (thumbnails ? project_.ThumbnailFrameSize : project_.ImageFrameSize) = pixelsOrPercent;
 }
 
 void ImageFrameNameForLayout(Project& project, Choice layoutType) {
   constexpr std::array<std::string_view, 4> kBrowserTargets = {"_top", "_self", "_parent", "_blank"};
-  if (layoutType == 0) {
+  if (layoutType == NumberOf(GalleryLayout::SingleFrame)) {
     project.comboImageFrameName = "_self";
   } else if (std::ranges::count(kBrowserTargets, project.comboImageFrameName) > 0) {
     project.comboImageFrameName = "image_frame";
@@ -100,8 +101,9 @@ void NormalizeForOutput(Project& project, bool& modified) {
   RepairEmpty(project.textThumbnailsTableCellSpacing, "0", modified);
   RepairEmpty(project.textThumbnailsTableCellPadding, "0", modified);
   RepairEmpty(project.textThumbnailsTableBorder, "0", modified);
-  RepairEmpty(project.textGallerySlideShowDelay, "5", modified);
-  RepairEmpty(project.textGallerySlideShowAutoStartDelay, "10", modified);
+  RepairEmpty(project.textGallerySlideShowDelay, DefaultOf(&Project::textGallerySlideShowDelay), modified);
+  RepairEmpty(project.textGallerySlideShowAutoStartDelay, DefaultOf(&Project::textGallerySlideShowAutoStartDelay),
+              modified);
 
   const bool thumbnailNameTaken = project.comboImageFrameName == "thumbnail_frame";
   RepairEmpty(project.textThumbnailFrameName, thumbnailNameTaken ? "thumbnail_frame_2" : "thumbnail_frame", modified);
@@ -112,10 +114,9 @@ void NormalizeForOutput(Project& project, bool& modified) {
   RepairEmpty(project.textImageWrapperImageHeight, "1", modified);
   RepairEmpty(project.textPageLinksThumbnailMaxDirectLinks, "0", modified);
 
-  RepairDisabledGraphic(project.ImageNextLink);
-  RepairDisabledGraphic(project.ImagePreviousLink);
-  RepairDisabledGraphic(project.ThumbnailNextLink);
-  RepairDisabledGraphic(project.ThumbnailPreviousLink);
+  for (const PageLink& link : kPageLinks) {
+    if (link.goal == LinkGoal::Next || link.goal == LinkGoal::Previous) RepairDisabledGraphic(project.*link.settings);
+  }
 }
 
 }  // namespace vantorium

@@ -1,6 +1,9 @@
 #include "core/ProjectFields.h"
 
+#include <cstddef>
+#include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace vantorium {
 namespace {
@@ -34,151 +37,202 @@ constexpr std::string_view kThumbnailLinkPlacement[] = {"no automatic placement"
 constexpr std::string_view kImageLinkPlacement[] = {"no automatic placement", "above image", "below image",
                                                     "above and below image"};
 
-// clang-format off
-const ProjectField kFields[] = {
-    {.name = "textGalleryTitle", .kind = FieldKind::Text, .member = &GalleryProject::textGalleryTitle},
-    {.name = "GalleryHeadCode", .kind = FieldKind::Text, .member = &GalleryProject::GalleryHeadCode},
-    {.name = "GalleryInfoText", .kind = FieldKind::Text, .member = &GalleryProject::GalleryInfoText},
-    {.name = "comboGalleryLayoutType", .kind = FieldKind::Choice, .member = &GalleryProject::comboGalleryLayoutType, .values = kGalleryLayoutType},
-    {.name = "checkGalleryFrameSizeInPercent", .kind = FieldKind::Flag, .member = &GalleryProject::checkGalleryFrameSizeInPercent},
-    {.name = "textGalleryFrameSize", .kind = FieldKind::Digits, .member = &GalleryProject::textGalleryFrameSize, .range = DigitsRange{1, 99999, 1, 99999}},
-    {.name = "comboGalleryFrameSizingPriority", .kind = FieldKind::Choice, .member = &GalleryProject::comboGalleryFrameSizingPriority, .values = kGalleryFrameSizingPriority},
-    {.name = "ThumbnailFrameSize", .kind = FieldKind::Size, .member = &GalleryProject::ThumbnailFrameSize},
-    {.name = "ImageFrameSize", .kind = FieldKind::Size, .member = &GalleryProject::ImageFrameSize},
-    {.name = "checkGalleryFramesResizable", .kind = FieldKind::Flag, .member = &GalleryProject::checkGalleryFramesResizable},
-    {.name = "checkGalleryFramesDisplayBorders", .kind = FieldKind::Flag, .member = &GalleryProject::checkGalleryFramesDisplayBorders},
-    {.name = "textThumbnailFrameName", .kind = FieldKind::Text, .member = &GalleryProject::textThumbnailFrameName},
-    {.name = "comboImageFrameName", .kind = FieldKind::Text, .member = &GalleryProject::comboImageFrameName},
-    {.name = "checkGallerySlideShow", .kind = FieldKind::Flag, .member = &GalleryProject::checkGallerySlideShow},
-    {.name = "comboGallerySlideShowBeginWith", .kind = FieldKind::Choice, .member = &GalleryProject::comboGallerySlideShowBeginWith, .values = kSlideShowBeginWith},
-    {.name = "checkGallerySlideShowAutoStart", .kind = FieldKind::Flag, .member = &GalleryProject::checkGallerySlideShowAutoStart},
-    {.name = "textGallerySlideShowAutoStartDelay", .kind = FieldKind::Digits, .member = &GalleryProject::textGallerySlideShowAutoStartDelay, .range = DigitsRange{0, 999999, std::nullopt, 999999}},
-    {.name = "comboGallerySlideShowActionAfterImage", .kind = FieldKind::Choice, .member = &GalleryProject::comboGallerySlideShowActionAfterImage, .values = kSlideShowActionAfterImage},
-    {.name = "comboGallerySlideShowStartOverWith", .kind = FieldKind::Choice, .member = &GalleryProject::comboGallerySlideShowStartOverWith, .values = kSlideShowStartOverWith},
-    {.name = "textGallerySlideShowDelay", .kind = FieldKind::Digits, .member = &GalleryProject::textGallerySlideShowDelay, .range = DigitsRange{0, 999999, std::nullopt, 999999}},
-    {.name = "textImageSettingsSubFolder", .kind = FieldKind::Text, .member = &GalleryProject::textImageSettingsSubFolder},
-    {.name = "textThumbnailImageSettingsSubFolder", .kind = FieldKind::Text, .member = &GalleryProject::textThumbnailImageSettingsSubFolder},
-    {.name = "textThumbnailImageSettingsFilePrefix", .kind = FieldKind::Text, .member = &GalleryProject::textThumbnailImageSettingsFilePrefix},
-    {.name = "textThumbnailPageSettingsFilePrefix", .kind = FieldKind::Text, .member = &GalleryProject::textThumbnailPageSettingsFilePrefix},
-    {.name = "comboThumbnailPageSettingsFileExtension", .kind = FieldKind::Text, .member = &GalleryProject::comboThumbnailPageSettingsFileExtension},
-    {.name = "comboImageWrapperSettingsFileExtension", .kind = FieldKind::Text, .member = &GalleryProject::comboImageWrapperSettingsFileExtension},
-    {.name = "comboImagesSortingOrder", .kind = FieldKind::Choice, .member = &GalleryProject::comboImagesSortingOrder, .values = kImagesSortingOrder},
-    {.name = "checkImageWrapperUse", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperUse},
-    {.name = "ImagePageHeadCode", .kind = FieldKind::Text, .member = &GalleryProject::ImagePageHeadCode},
-    {.name = "ImagePageBodyHeader", .kind = FieldKind::Text, .member = &GalleryProject::ImagePageBodyHeader},
-    {.name = "ImagePageBodyFooter", .kind = FieldKind::Text, .member = &GalleryProject::ImagePageBodyFooter},
-    {.name = "ImageHeader", .kind = FieldKind::Text, .member = &GalleryProject::ImageHeader},
-    {.name = "ImageFooter", .kind = FieldKind::Text, .member = &GalleryProject::ImageFooter},
-    {.name = "textImageWrapperBackdrop", .kind = FieldKind::Text, .member = &GalleryProject::textImageWrapperBackdrop},
-    {.name = "checkImageWrapperSetColors", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperSetColors},
-    {.name = "ImagePageBgColor", .kind = FieldKind::Color, .member = &GalleryProject::ImagePageBgColor},
-    {.name = "ImagePageTextColor", .kind = FieldKind::Color, .member = &GalleryProject::ImagePageTextColor},
-    {.name = "ImagePageLinkColor", .kind = FieldKind::Color, .member = &GalleryProject::ImagePageLinkColor},
-    {.name = "ImagePageVLinkColor", .kind = FieldKind::Color, .member = &GalleryProject::ImagePageVLinkColor},
-    {.name = "ImagePageALinkColor", .kind = FieldKind::Color, .member = &GalleryProject::ImagePageALinkColor},
-    {.name = "checkImageWrapperImageKeepSize", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperImageKeepSize},
-    {.name = "checkImageWrapperImagePhysicalResize", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperImagePhysicalResize},
-    {.name = "checkImageWrapperImageKeepAspectRatio", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperImageKeepAspectRatio},
-    {.name = "checkImageWrapperImageSetWidth", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperImageSetWidth},
-    {.name = "checkImageWrapperImageSizesInPercent", .kind = FieldKind::Flag, .member = &GalleryProject::checkImageWrapperImageSizesInPercent, .keptByReset = true},
-    {.name = "textImageWrapperImageWidth", .kind = FieldKind::Digits, .member = &GalleryProject::textImageWrapperImageWidth, .range = DigitsRange{1, 99999, 1, std::nullopt}},
-    {.name = "textImageWrapperImageHeight", .kind = FieldKind::Digits, .member = &GalleryProject::textImageWrapperImageHeight, .range = DigitsRange{1, 99999, 1, std::nullopt}},
-    {.name = "ImageFilters", .kind = FieldKind::Record, .member = &GalleryProject::ImageFilters},
-    {.name = "ImageWatermark", .kind = FieldKind::Record, .member = &GalleryProject::ImageWatermark},
-    {.name = "ThumbnailPageHeadCode", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailPageHeadCode},
-    {.name = "ThumbnailPageBodyHeader", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailPageBodyHeader},
-    {.name = "ThumbnailPageBodyFooter", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailPageBodyFooter},
-    {.name = "ThumbnailHeader", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailHeader},
-    {.name = "ThumbnailFooter", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailFooter},
-    {.name = "textThumbnailsPageBackdrop", .kind = FieldKind::Text, .member = &GalleryProject::textThumbnailsPageBackdrop},
-    {.name = "checkThumbnailsPageSetColors", .kind = FieldKind::Flag, .member = &GalleryProject::checkThumbnailsPageSetColors},
-    {.name = "ThumbnailPageBgColor", .kind = FieldKind::Color, .member = &GalleryProject::ThumbnailPageBgColor},
-    {.name = "ThumbnailPageTextColor", .kind = FieldKind::Color, .member = &GalleryProject::ThumbnailPageTextColor},
-    {.name = "ThumbnailPageLinkColor", .kind = FieldKind::Color, .member = &GalleryProject::ThumbnailPageLinkColor},
-    {.name = "ThumbnailPageVLinkColor", .kind = FieldKind::Color, .member = &GalleryProject::ThumbnailPageVLinkColor},
-    {.name = "ThumbnailPageALinkColor", .kind = FieldKind::Color, .member = &GalleryProject::ThumbnailPageALinkColor},
-    {.name = "textThumbnailsTableRows", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsTableRows, .range = DigitsRange{1, 99999, 0, 99999}},
-    {.name = "textThumbnailsTableColumns", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsTableColumns, .range = DigitsRange{1, 99999, 0, 99999}},
-    {.name = "textThumbnailsTableBorder", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsTableBorder, .range = DigitsRange{0, 99999, 0, 99999}},
-    {.name = "textThumbnailsTableCellSpacing", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsTableCellSpacing, .range = DigitsRange{0, 99999, 0, 99999}},
-    {.name = "textThumbnailsTableCellPadding", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsTableCellPadding, .range = DigitsRange{0, 99999, 0, 99999}},
-    {.name = "comboThumbnailsTableAlignment", .kind = FieldKind::Choice, .member = &GalleryProject::comboThumbnailsTableAlignment, .values = kThumbnailsTableAlignment},
-    {.name = "textThumbnailsTableBackdrop", .kind = FieldKind::Text, .member = &GalleryProject::textThumbnailsTableBackdrop},
-    {.name = "checkThumbnailsTableUseBGColor", .kind = FieldKind::Flag, .member = &GalleryProject::checkThumbnailsTableUseBGColor},
-    {.name = "btnThumbnailsTableBGColor", .kind = FieldKind::Color, .member = &GalleryProject::btnThumbnailsTableBGColor},
-    {.name = "checkThumbnailsImageKeepAspectRatio", .kind = FieldKind::Flag, .member = &GalleryProject::checkThumbnailsImageKeepAspectRatio},
-    {.name = "checkThumbnailsImageSetWidth", .kind = FieldKind::Flag, .member = &GalleryProject::checkThumbnailsImageSetWidth},
-    {.name = "textThumbnailsImageWidth", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsImageWidth, .range = DigitsRange{1, 99999, 1, std::nullopt}},
-    {.name = "textThumbnailsImageHeight", .kind = FieldKind::Digits, .member = &GalleryProject::textThumbnailsImageHeight, .range = DigitsRange{1, 99999, 1, std::nullopt}},
-    {.name = "ThumbnailFilters", .kind = FieldKind::Record, .member = &GalleryProject::ThumbnailFilters},
-    {.name = "ThumbnailWatermark", .kind = FieldKind::Record, .member = &GalleryProject::ThumbnailWatermark},
-    {.name = "checkCaptionsImagesRegular", .kind = FieldKind::Flag, .member = &GalleryProject::checkCaptionsImagesRegular},
-    {.name = "ImageRegularCaption", .kind = FieldKind::Text, .member = &GalleryProject::ImageRegularCaption},
-    {.name = "comboCaptionsImagesRegularPlacement", .kind = FieldKind::Choice, .member = &GalleryProject::comboCaptionsImagesRegularPlacement, .values = kCaptionPlacement},
-    {.name = "comboCaptionsImagesRegularAlignment", .kind = FieldKind::Choice, .member = &GalleryProject::comboCaptionsImagesRegularAlignment, .values = kCaptionAlignmentVertical},
-    {.name = "checkCaptionsImagesPopup", .kind = FieldKind::Flag, .member = &GalleryProject::checkCaptionsImagesPopup},
-    {.name = "ImagePopupCaption", .kind = FieldKind::Text, .member = &GalleryProject::ImagePopupCaption},
-    {.name = "checkCaptionsThumbnailsRegular", .kind = FieldKind::Flag, .member = &GalleryProject::checkCaptionsThumbnailsRegular},
-    {.name = "ThumbnailRegularCaption", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailRegularCaption},
-    {.name = "comboCaptionsThumbnailsRegularPlacement", .kind = FieldKind::Choice, .member = &GalleryProject::comboCaptionsThumbnailsRegularPlacement, .values = kCaptionPlacement},
-    {.name = "comboCaptionsThumbnailsRegularAlignment", .kind = FieldKind::Choice, .member = &GalleryProject::comboCaptionsThumbnailsRegularAlignment, .values = kCaptionAlignmentVertical},
-    {.name = "checkCaptionsThumbnailsPopup", .kind = FieldKind::Flag, .member = &GalleryProject::checkCaptionsThumbnailsPopup},
-    {.name = "ThumbnailPopupCaption", .kind = FieldKind::Text, .member = &GalleryProject::ThumbnailPopupCaption},
-    {.name = "textHeader", .kind = FieldKind::Text, .member = &GalleryProject::textHeader},
-    {.name = "textFooter", .kind = FieldKind::Text, .member = &GalleryProject::textFooter},
-    {.name = "comboImageDescriptionPlacement", .kind = FieldKind::Choice, .member = &GalleryProject::comboImageDescriptionPlacement, .values = kDescriptionPlacement},
-    {.name = "comboImageDescriptionAlignment", .kind = FieldKind::Choice, .member = &GalleryProject::comboImageDescriptionAlignment, .values = kCaptionAlignmentVertical},
-    {.name = "textThumbHeader", .kind = FieldKind::Text, .member = &GalleryProject::textThumbHeader},
-    {.name = "textThumbFooter", .kind = FieldKind::Text, .member = &GalleryProject::textThumbFooter},
-    {.name = "comboThumbnailDescriptionPlacement", .kind = FieldKind::Choice, .member = &GalleryProject::comboThumbnailDescriptionPlacement, .values = kDescriptionPlacement},
-    {.name = "comboThumbnailDescriptionAlignment", .kind = FieldKind::Choice, .member = &GalleryProject::comboThumbnailDescriptionAlignment, .values = kCaptionAlignmentVertical},
-    {.name = "checkPageLinksThumbnailDirectLinks", .kind = FieldKind::Flag, .member = &GalleryProject::checkPageLinksThumbnailDirectLinks},
-    {.name = "textPageLinksThumbnailMaxDirectLinks", .kind = FieldKind::Digits, .member = &GalleryProject::textPageLinksThumbnailMaxDirectLinks, .range = DigitsRange{0, 99999, 0, 99999}},
-    {.name = "comboPageLinksThumbnailLinkPlacement", .kind = FieldKind::Choice, .member = &GalleryProject::comboPageLinksThumbnailLinkPlacement, .values = kThumbnailLinkPlacement},
-    {.name = "ThumbnailFirstLink", .kind = FieldKind::Record, .member = &GalleryProject::ThumbnailFirstLink},
-    {.name = "ThumbnailLastLink", .kind = FieldKind::Record, .member = &GalleryProject::ThumbnailLastLink},
-    {.name = "ThumbnailPreviousLink", .kind = FieldKind::Record, .member = &GalleryProject::ThumbnailPreviousLink},
-    {.name = "ThumbnailNextLink", .kind = FieldKind::Record, .member = &GalleryProject::ThumbnailNextLink},
-    {.name = "comboPageLinksImageLinkPlacement", .kind = FieldKind::Choice, .member = &GalleryProject::comboPageLinksImageLinkPlacement, .values = kImageLinkPlacement},
-    {.name = "ImageFirstLink", .kind = FieldKind::Record, .member = &GalleryProject::ImageFirstLink},
-    {.name = "ImageLastLink", .kind = FieldKind::Record, .member = &GalleryProject::ImageLastLink},
-    {.name = "ImagePreviousLink", .kind = FieldKind::Record, .member = &GalleryProject::ImagePreviousLink},
-    {.name = "ImageNextLink", .kind = FieldKind::Record, .member = &GalleryProject::ImageNextLink},
-    {.name = "ImageIndexLink", .kind = FieldKind::Record, .member = &GalleryProject::ImageIndexLink},
+using P = GalleryProject;
+
+constexpr ProjectField TextRow(std::string_view name, std::string P::*member) {
+  return {.name = name, .kind = FieldKind::Text, .member = member};
+}
+constexpr ProjectField DigitsRow(std::string_view name, Digits P::*member, DigitsRange range) {
+  return {.name = name, .kind = FieldKind::Digits, .member = member, .range = range};
+}
+constexpr ProjectField FlagRow(std::string_view name, Flag P::*member) {
+  return {.name = name, .kind = FieldKind::Flag, .member = member};
+}
+constexpr ProjectField ChoiceRow(std::string_view name, Choice P::*member, ValueList values) {
+  return {.name = name, .kind = FieldKind::Choice, .member = member, .values = values};
+}
+constexpr ProjectField ColorRow(std::string_view name, Color P::*member) {
+  return {.name = name, .kind = FieldKind::Color, .member = member};
+}
+constexpr ProjectField SizeRow(std::string_view name, std::int32_t P::*member) {
+  return {.name = name, .kind = FieldKind::Size, .member = member};
+}
+template <typename Record>
+constexpr ProjectField RecordRow(std::string_view name, Record P::*member) {
+  return {.name = name, .kind = FieldKind::Record, .member = member};
+}
+constexpr ProjectField KeptByReset(ProjectField field) {
+  field.keptByReset = true;
+  return field;
+}
+
+// Two arguments for a row: the member's name as text, and its pointer.
+#define MEMBER(Record, name) #name, &Record::name
+
+constexpr ProjectField kFields[] = {
+    TextRow(MEMBER(P, textGalleryTitle)),
+    TextRow(MEMBER(P, GalleryHeadCode)),
+    TextRow(MEMBER(P, GalleryInfoText)),
+    ChoiceRow(MEMBER(P, comboGalleryLayoutType), kGalleryLayoutType),
+    FlagRow(MEMBER(P, checkGalleryFrameSizeInPercent)),
+    DigitsRow(MEMBER(P, textGalleryFrameSize), {1, 99999, 1, 99999}),
+    ChoiceRow(MEMBER(P, comboGalleryFrameSizingPriority), kGalleryFrameSizingPriority),
+    SizeRow(MEMBER(P, ThumbnailFrameSize)),
+    SizeRow(MEMBER(P, ImageFrameSize)),
+    FlagRow(MEMBER(P, checkGalleryFramesResizable)),
+    FlagRow(MEMBER(P, checkGalleryFramesDisplayBorders)),
+    TextRow(MEMBER(P, textThumbnailFrameName)),
+    TextRow(MEMBER(P, comboImageFrameName)),
+    FlagRow(MEMBER(P, checkGallerySlideShow)),
+    ChoiceRow(MEMBER(P, comboGallerySlideShowBeginWith), kSlideShowBeginWith),
+    FlagRow(MEMBER(P, checkGallerySlideShowAutoStart)),
+    DigitsRow(MEMBER(P, textGallerySlideShowAutoStartDelay), {0, 999999, std::nullopt, 999999}),
+    ChoiceRow(MEMBER(P, comboGallerySlideShowActionAfterImage), kSlideShowActionAfterImage),
+    ChoiceRow(MEMBER(P, comboGallerySlideShowStartOverWith), kSlideShowStartOverWith),
+    DigitsRow(MEMBER(P, textGallerySlideShowDelay), {0, 999999, std::nullopt, 999999}),
+    TextRow(MEMBER(P, textImageSettingsSubFolder)),
+    TextRow(MEMBER(P, textThumbnailImageSettingsSubFolder)),
+    TextRow(MEMBER(P, textThumbnailImageSettingsFilePrefix)),
+    TextRow(MEMBER(P, textThumbnailPageSettingsFilePrefix)),
+    TextRow(MEMBER(P, comboThumbnailPageSettingsFileExtension)),
+    TextRow(MEMBER(P, comboImageWrapperSettingsFileExtension)),
+    ChoiceRow(MEMBER(P, comboImagesSortingOrder), kImagesSortingOrder),
+    FlagRow(MEMBER(P, checkImageWrapperUse)),
+    TextRow(MEMBER(P, ImagePageHeadCode)),
+    TextRow(MEMBER(P, ImagePageBodyHeader)),
+    TextRow(MEMBER(P, ImagePageBodyFooter)),
+    TextRow(MEMBER(P, ImageHeader)),
+    TextRow(MEMBER(P, ImageFooter)),
+    TextRow(MEMBER(P, textImageWrapperBackdrop)),
+    FlagRow(MEMBER(P, checkImageWrapperSetColors)),
+    ColorRow(MEMBER(P, ImagePageBgColor)),
+    ColorRow(MEMBER(P, ImagePageTextColor)),
+    ColorRow(MEMBER(P, ImagePageLinkColor)),
+    ColorRow(MEMBER(P, ImagePageVLinkColor)),
+    ColorRow(MEMBER(P, ImagePageALinkColor)),
+    FlagRow(MEMBER(P, checkImageWrapperImageKeepSize)),
+    FlagRow(MEMBER(P, checkImageWrapperImagePhysicalResize)),
+    FlagRow(MEMBER(P, checkImageWrapperImageKeepAspectRatio)),
+    FlagRow(MEMBER(P, checkImageWrapperImageSetWidth)),
+    KeptByReset(FlagRow(MEMBER(P, checkImageWrapperImageSizesInPercent))),
+    DigitsRow(MEMBER(P, textImageWrapperImageWidth), {1, 99999, 1, std::nullopt}),
+    DigitsRow(MEMBER(P, textImageWrapperImageHeight), {1, 99999, 1, std::nullopt}),
+    RecordRow(MEMBER(P, ImageFilters)),
+    RecordRow(MEMBER(P, ImageWatermark)),
+    TextRow(MEMBER(P, ThumbnailPageHeadCode)),
+    TextRow(MEMBER(P, ThumbnailPageBodyHeader)),
+    TextRow(MEMBER(P, ThumbnailPageBodyFooter)),
+    TextRow(MEMBER(P, ThumbnailHeader)),
+    TextRow(MEMBER(P, ThumbnailFooter)),
+    TextRow(MEMBER(P, textThumbnailsPageBackdrop)),
+    FlagRow(MEMBER(P, checkThumbnailsPageSetColors)),
+    ColorRow(MEMBER(P, ThumbnailPageBgColor)),
+    ColorRow(MEMBER(P, ThumbnailPageTextColor)),
+    ColorRow(MEMBER(P, ThumbnailPageLinkColor)),
+    ColorRow(MEMBER(P, ThumbnailPageVLinkColor)),
+    ColorRow(MEMBER(P, ThumbnailPageALinkColor)),
+    DigitsRow(MEMBER(P, textThumbnailsTableRows), {1, 99999, 0, 99999}),
+    DigitsRow(MEMBER(P, textThumbnailsTableColumns), {1, 99999, 0, 99999}),
+    DigitsRow(MEMBER(P, textThumbnailsTableBorder), {0, 99999, 0, 99999}),
+    DigitsRow(MEMBER(P, textThumbnailsTableCellSpacing), {0, 99999, 0, 99999}),
+    DigitsRow(MEMBER(P, textThumbnailsTableCellPadding), {0, 99999, 0, 99999}),
+    ChoiceRow(MEMBER(P, comboThumbnailsTableAlignment), kThumbnailsTableAlignment),
+    TextRow(MEMBER(P, textThumbnailsTableBackdrop)),
+    FlagRow(MEMBER(P, checkThumbnailsTableUseBGColor)),
+    ColorRow(MEMBER(P, btnThumbnailsTableBGColor)),
+    FlagRow(MEMBER(P, checkThumbnailsImageKeepAspectRatio)),
+    FlagRow(MEMBER(P, checkThumbnailsImageSetWidth)),
+    DigitsRow(MEMBER(P, textThumbnailsImageWidth), {1, 99999, 1, std::nullopt}),
+    DigitsRow(MEMBER(P, textThumbnailsImageHeight), {1, 99999, 1, std::nullopt}),
+    RecordRow(MEMBER(P, ThumbnailFilters)),
+    RecordRow(MEMBER(P, ThumbnailWatermark)),
+    FlagRow(MEMBER(P, checkCaptionsImagesRegular)),
+    TextRow(MEMBER(P, ImageRegularCaption)),
+    ChoiceRow(MEMBER(P, comboCaptionsImagesRegularPlacement), kCaptionPlacement),
+    ChoiceRow(MEMBER(P, comboCaptionsImagesRegularAlignment), kCaptionAlignmentVertical),
+    FlagRow(MEMBER(P, checkCaptionsImagesPopup)),
+    TextRow(MEMBER(P, ImagePopupCaption)),
+    FlagRow(MEMBER(P, checkCaptionsThumbnailsRegular)),
+    TextRow(MEMBER(P, ThumbnailRegularCaption)),
+    ChoiceRow(MEMBER(P, comboCaptionsThumbnailsRegularPlacement), kCaptionPlacement),
+    ChoiceRow(MEMBER(P, comboCaptionsThumbnailsRegularAlignment), kCaptionAlignmentVertical),
+    FlagRow(MEMBER(P, checkCaptionsThumbnailsPopup)),
+    TextRow(MEMBER(P, ThumbnailPopupCaption)),
+    TextRow(MEMBER(P, textHeader)),
+    TextRow(MEMBER(P, textFooter)),
+    ChoiceRow(MEMBER(P, comboImageDescriptionPlacement), kDescriptionPlacement),
+    ChoiceRow(MEMBER(P, comboImageDescriptionAlignment), kCaptionAlignmentVertical),
+    TextRow(MEMBER(P, textThumbHeader)),
+    TextRow(MEMBER(P, textThumbFooter)),
+    ChoiceRow(MEMBER(P, comboThumbnailDescriptionPlacement), kDescriptionPlacement),
+    ChoiceRow(MEMBER(P, comboThumbnailDescriptionAlignment), kCaptionAlignmentVertical),
+    FlagRow(MEMBER(P, checkPageLinksThumbnailDirectLinks)),
+    DigitsRow(MEMBER(P, textPageLinksThumbnailMaxDirectLinks), {0, 99999, 0, 99999}),
+    ChoiceRow(MEMBER(P, comboPageLinksThumbnailLinkPlacement), kThumbnailLinkPlacement),
+    RecordRow(MEMBER(P, ThumbnailFirstLink)),
+    RecordRow(MEMBER(P, ThumbnailLastLink)),
+    RecordRow(MEMBER(P, ThumbnailPreviousLink)),
+    RecordRow(MEMBER(P, ThumbnailNextLink)),
+    ChoiceRow(MEMBER(P, comboPageLinksImageLinkPlacement), kImageLinkPlacement),
+    RecordRow(MEMBER(P, ImageFirstLink)),
+    RecordRow(MEMBER(P, ImageLastLink)),
+    RecordRow(MEMBER(P, ImagePreviousLink)),
+    RecordRow(MEMBER(P, ImageNextLink)),
+    RecordRow(MEMBER(P, ImageIndexLink)),
 };
 
 constexpr RecordField<ImageFilterSettings> kFilterFields[] = {
-    {"checkGrayscale", &ImageFilterSettings::checkGrayscale},
-    {"checkBrightness", &ImageFilterSettings::checkBrightness},
-    {"sliderBrightness", &ImageFilterSettings::sliderBrightness},
-    {"checkFade", &ImageFilterSettings::checkFade},
-    {"sliderFade", &ImageFilterSettings::sliderFade},
-    {"checkNoise", &ImageFilterSettings::checkNoise},
-    {"sliderNoise", &ImageFilterSettings::sliderNoise},
-    {"checkNoiseRandom", &ImageFilterSettings::checkNoiseRandom},
-    {"sliderQuality", &ImageFilterSettings::sliderQuality},
+    {MEMBER(ImageFilterSettings, checkGrayscale)},   {MEMBER(ImageFilterSettings, checkBrightness)},
+    {MEMBER(ImageFilterSettings, sliderBrightness)}, {MEMBER(ImageFilterSettings, checkFade)},
+    {MEMBER(ImageFilterSettings, sliderFade)},       {MEMBER(ImageFilterSettings, checkNoise)},
+    {MEMBER(ImageFilterSettings, sliderNoise)},      {MEMBER(ImageFilterSettings, checkNoiseRandom)},
+    {MEMBER(ImageFilterSettings, sliderQuality)},
 };
 
 constexpr RecordField<WatermarkSettings> kWatermarkFields[] = {
-    {"checkUseWatermark", &WatermarkSettings::checkUseWatermark},
-    {"textWatermark", &WatermarkSettings::textWatermark},
-    {"comboTextPlacement", &WatermarkSettings::comboTextPlacement},
-    {"sliderAlpha", &WatermarkSettings::sliderAlpha},
-    {"FontName", &WatermarkSettings::FontName},
-    {"FontSize", &WatermarkSettings::FontSize},
-    {"FontWeight", &WatermarkSettings::FontWeight},
-    {"FontItalic", &WatermarkSettings::FontItalic},
-    {"FontUnderline", &WatermarkSettings::FontUnderline},
-    {"FontStrikeout", &WatermarkSettings::FontStrikeout},
-    {"Color", &WatermarkSettings::Color},
+    {MEMBER(WatermarkSettings, checkUseWatermark)},
+    {MEMBER(WatermarkSettings, textWatermark)},
+    {MEMBER(WatermarkSettings, comboTextPlacement)},
+    {MEMBER(WatermarkSettings, sliderAlpha)},
+    {MEMBER(WatermarkSettings, FontName)},
+    {MEMBER(WatermarkSettings, FontSize)},
+    {MEMBER(WatermarkSettings, FontWeight)},
+    {MEMBER(WatermarkSettings, FontItalic)},
+    {MEMBER(WatermarkSettings, FontUnderline)},
+    {MEMBER(WatermarkSettings, FontStrikeout)},
+    {MEMBER(WatermarkSettings, Color)},
 };
 
 constexpr RecordField<LinkSettings> kLinkFields[] = {
-    {"textLinkLabel", &LinkSettings::textLinkLabel},
-    {"textLinkGraphic", &LinkSettings::textLinkGraphic},
-    {"textLinkGraphicDisabled", &LinkSettings::textLinkGraphicDisabled},
+    {MEMBER(LinkSettings, textLinkLabel)},
+    {MEMBER(LinkSettings, textLinkGraphic)},
+    {MEMBER(LinkSettings, textLinkGraphicDisabled)},
 };
-// clang-format on
+
+#undef MEMBER
+
+/// Converts to the type of every member.
+struct AnyMember {
+  template <typename Type>
+  operator Type() const;
+};
+
+/// Whether `Record` has at least `count` members. As an aggregate it takes an initializer for each, but no more.
+template <typename Record, std::size_t count>
+constexpr bool kHolds = []<std::size_t... index>(std::index_sequence<index...>) {
+  return requires {
+    Record{(static_cast<void>(index), AnyMember())...};
+  };
+}
+(std::make_index_sequence<count>());
+
+template <typename Record, std::size_t count>
+constexpr bool kHasMembers = kHolds<Record, count> && !kHolds<Record, count + 1>;
+
+static_assert(kHasMembers<GalleryProject, std::size(kFields)>, "a row for each member");
+static_assert(kHasMembers<ImageFilterSettings, std::size(kFilterFields)>, "a row for each member");
+static_assert(kHasMembers<WatermarkSettings, std::size(kWatermarkFields)>, "a row for each member");
+static_assert(kHasMembers<LinkSettings, std::size(kLinkFields)>, "a row for each member");
 
 }  // namespace
 
@@ -191,6 +245,11 @@ const ProjectField& FieldOf(const FieldMember& member) {
     if (field.member == member) return field;
   }
   throw std::out_of_range("A member of GalleryProject is missing in its table of fields");
+}
+
+const std::string& DefaultOf(std::string GalleryProject::*field) {
+  static const GalleryProject kNew;
+  return kNew.*field;
 }
 
 ValueList AlignmentTexts(bool aboveOrBelow) {

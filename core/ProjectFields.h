@@ -44,6 +44,9 @@ struct ProjectField {
 /// table.
 [[nodiscard]] const ProjectField& FieldOf(const FieldMember& member);
 
+/// Returns the value of a text in a new project without a name.
+[[nodiscard]] const std::string& DefaultOf(std::string GalleryProject::*field);
+
 /// Returns the texts of an alignment list: those for a placement above or below, or those for left or right.
 [[nodiscard]] ValueList AlignmentTexts(bool aboveOrBelow);
 

@@ -22,7 +22,7 @@ Json Value(std::uint32_t number) {
   return number;
 }
 Json Value(bool flag) {
-  return flag ? 1 : 0;
+  return FlagOf(flag);
 }
 
 template <typename Record>

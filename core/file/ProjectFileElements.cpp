@@ -18,6 +18,18 @@ void PutAttribute(pugi::xml_node element, const char* name, FileWords words, std
 }
 
 // pugixml splits the CDATA section inside a "]]>" when it writes the text.
+void PutPlainAttributes(pugi::xml_node element, const GalleryProject& project, std::span<const PlainAttribute> rows) {
+  for (const auto& [attribute, field, words] : rows) {
+    if (const auto* text = std::get_if<std::string GalleryProject::*>(&field)) {
+      PutAttribute(element, attribute, project.**text);
+    } else if (const Choice number = project.*std::get<Choice GalleryProject::*>(field); words.empty()) {
+      PutAttribute(element, attribute, number);
+    } else {
+      PutAttribute(element, attribute, words, number);
+    }
+  }
+}
+
 void PutText(pugi::xml_node element, std::string_view text) {
   element.append_child(pugi::node_cdata).set_value(ToXmlText(text).c_str());
 }

@@ -2,9 +2,11 @@
 
 #include "core/GalleryProject.h"
 #include "core/ImageList.h"
+#include "core/file/ProjectFileFields.h"
 #include "core/file/ProjectFileNames.h"
 #include "env/EventLoop.h"
 
+#include <span>
 #include <string_view>
 
 #include <pugixml.hpp>
@@ -17,6 +19,9 @@ void PutAttribute(pugi::xml_node element, const char* name, std::string_view val
 void PutAttribute(pugi::xml_node element, const char* name, std::int64_t value);
 /// Writes the word of `index`, or no attribute if the index has no word.
 void PutAttribute(pugi::xml_node element, const char* name, FileWords words, std::int16_t index);
+
+/// Writes one attribute for each row.
+void PutPlainAttributes(pugi::xml_node element, const GalleryProject& project, std::span<const PlainAttribute> rows);
 
 /// Writes a text as the CDATA of its element, in more than one section if it contains "]]>".
 void PutText(pugi::xml_node element, std::string_view text);

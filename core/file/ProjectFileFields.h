@@ -1,63 +1,34 @@
 #pragma once
 
-#include "core/GalleryProject.h"
-#include "core/PageColors.h"
+#include "core/GalleryTargets.h"
+#include "core/file/ProjectFileNames.h"
+
+#include <variant>
 
 namespace vantorium {
 
-// Sections of the project file that occur twice, with the fields of each occurrence.
+// The names that the project file has for settings. Each list is in the order of the file; writer and reader walk it.
 
-/// The CAPTION elements of the images or of the thumbnails.
-struct CaptionFields {
-  Flag GalleryProject::*regular;
-  std::string GalleryProject::*regularText;
-  Choice GalleryProject::*placement;
-  Choice GalleryProject::*alignment;
-  Flag GalleryProject::*popup;
-  std::string GalleryProject::*popupText;
+/// An attribute that is written and read as its setting's kind says: a flag as a number, digits as a whole number, a
+/// text as it is, a choice as one of `words`. An absent attribute leaves the setting unchanged.
+struct PlainAttribute {
+  const char* attribute;
+  std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*> field;
+  FileWords words = {};
 };
-inline constexpr CaptionFields kImageCaptions = {&GalleryProject::checkCaptionsImagesRegular,
-                                                 &GalleryProject::ImageRegularCaption,
-                                                 &GalleryProject::comboCaptionsImagesRegularPlacement,
-                                                 &GalleryProject::comboCaptionsImagesRegularAlignment,
-                                                 &GalleryProject::checkCaptionsImagesPopup,
-                                                 &GalleryProject::ImagePopupCaption};
-inline constexpr CaptionFields kThumbnailCaptions = {&GalleryProject::checkCaptionsThumbnailsRegular,
-                                                     &GalleryProject::ThumbnailRegularCaption,
-                                                     &GalleryProject::comboCaptionsThumbnailsRegularPlacement,
-                                                     &GalleryProject::comboCaptionsThumbnailsRegularAlignment,
-                                                     &GalleryProject::checkCaptionsThumbnailsPopup,
-                                                     &GalleryProject::ThumbnailPopupCaption};
+inline constexpr PlainAttribute kLayoutAttributes[] = {{"RESIZABLE", &GalleryProject::checkGalleryFramesResizable},
+                                                       {"BORDERS", &GalleryProject::checkGalleryFramesDisplayBorders}};
+inline constexpr PlainAttribute kSlideShowAttributes[] = {
+    {"FIRSTSLIDE", &GalleryProject::comboGallerySlideShowBeginWith, kFirstSlideWords},
+    {"NEXTSLIDE", &GalleryProject::comboGallerySlideShowActionAfterImage, kNextSlideWords},
+    {"STARTOVER", &GalleryProject::comboGallerySlideShowStartOverWith, kStartOverWords}};
+inline constexpr PlainAttribute kArrangementAttributes[] = {
+    {"BORDER", &GalleryProject::textThumbnailsTableBorder},
+    {"CELLSPACING", &GalleryProject::textThumbnailsTableCellSpacing},
+    {"CELLPADDING", &GalleryProject::textThumbnailsTableCellPadding}};
 
-/// DESCRIPTIONHEADER and DESCRIPTIONFOOTER.
-struct DescriptionFrameFields {
-  std::string GalleryProject::*header;
-  std::string GalleryProject::*footer;
-  Choice GalleryProject::*placement;
-  Choice GalleryProject::*alignment;
-};
-inline constexpr DescriptionFrameFields kImageDescriptionFrame = {
-    &GalleryProject::textHeader, &GalleryProject::textFooter, &GalleryProject::comboImageDescriptionPlacement,
-    &GalleryProject::comboImageDescriptionAlignment};
-inline constexpr DescriptionFrameFields kThumbnailDescriptionFrame = {
-    &GalleryProject::textThumbHeader, &GalleryProject::textThumbFooter,
-    &GalleryProject::comboThumbnailDescriptionPlacement, &GalleryProject::comboThumbnailDescriptionAlignment};
+// The names of the settings of both targets.
 
-/// SIZE.
-struct SizeFields {
-  Flag GalleryProject::*keepAspectRatio;
-  Flag GalleryProject::*setWidth;
-  Digits GalleryProject::*width;
-  Digits GalleryProject::*height;
-};
-inline constexpr SizeFields kImageSize = {
-    &GalleryProject::checkImageWrapperImageKeepAspectRatio, &GalleryProject::checkImageWrapperImageSetWidth,
-    &GalleryProject::textImageWrapperImageWidth, &GalleryProject::textImageWrapperImageHeight};
-inline constexpr SizeFields kThumbnailSize = {
-    &GalleryProject::checkThumbnailsImageKeepAspectRatio, &GalleryProject::checkThumbnailsImageSetWidth,
-    &GalleryProject::textThumbnailsImageWidth, &GalleryProject::textThumbnailsImageHeight};
-
-/// The colors of a page, in the order of the file.
 struct ColorAttribute {
   const char* attribute;
   Color GalleryProject::*PageColorFields::*color;
@@ -71,34 +42,25 @@ inline constexpr ColorAttribute kColorAttributes[] = {{"BGCOLOR", &PageColorFiel
 /// An element that holds a multi-line text.
 struct TextElement {
   const char* element;
-  std::string GalleryProject::*text;
+  std::string GalleryProject::*CodeFields::*text;
 };
-inline constexpr TextElement kThumbnailPageTexts[] = {{"HEAD", &GalleryProject::ThumbnailPageHeadCode},
-                                                      {"HEADER", &GalleryProject::ThumbnailPageBodyHeader},
-                                                      {"FOOTER", &GalleryProject::ThumbnailPageBodyFooter}};
-inline constexpr TextElement kThumbnailFrameTexts[] = {{"THUMBNAILHEADER", &GalleryProject::ThumbnailHeader},
-                                                       {"THUMBNAILFOOTER", &GalleryProject::ThumbnailFooter}};
-inline constexpr TextElement kImagePageTexts[] = {{"HEAD", &GalleryProject::ImagePageHeadCode},
-                                                  {"HEADER", &GalleryProject::ImagePageBodyHeader},
-                                                  {"FOOTER", &GalleryProject::ImagePageBodyFooter},
-                                                  {"IMAGEHEADER", &GalleryProject::ImageHeader},
-                                                  {"IMAGEFOOTER", &GalleryProject::ImageFooter}};
+inline constexpr TextElement kPageTexts[] = {
+    {"HEAD", &CodeFields::head}, {"HEADER", &CodeFields::bodyHeader}, {"FOOTER", &CodeFields::bodyFooter}};
+inline constexpr TextElement kImageTexts[] = {{"IMAGEHEADER", &CodeFields::pictureHeader},
+                                              {"IMAGEFOOTER", &CodeFields::pictureFooter}};
+inline constexpr TextElement kThumbnailTexts[] = {{"THUMBNAILHEADER", &CodeFields::pictureHeader},
+                                                  {"THUMBNAILFOOTER", &CodeFields::pictureFooter}};
 
 /// A link in PAGELINKS; `disabledAttribute` is null for the one without a disabled image.
 struct LinkElement {
   const char* element;
   const char* disabledAttribute;
-  LinkSettings GalleryProject::*link;
+  LinkGoal goal;
 };
-inline constexpr LinkElement kThumbnailPageLinks[] = {
-    {"FIRST", "FIRSTIMAGE", &GalleryProject::ThumbnailFirstLink},
-    {"LAST", "LASTIMAGE", &GalleryProject::ThumbnailLastLink},
-    {"PREVIOUS", "FIRSTIMAGE", &GalleryProject::ThumbnailPreviousLink},
-    {"NEXT", "LASTIMAGE", &GalleryProject::ThumbnailNextLink}};
-inline constexpr LinkElement kImagePageLinks[] = {{"FIRST", "FIRSTIMAGE", &GalleryProject::ImageFirstLink},
-                                                  {"LAST", "LASTIMAGE", &GalleryProject::ImageLastLink},
-                                                  {"PREVIOUS", "FIRSTIMAGE", &GalleryProject::ImagePreviousLink},
-                                                  {"NEXT", "LASTIMAGE", &GalleryProject::ImageNextLink},
-                                                  {"INDEX", nullptr, &GalleryProject::ImageIndexLink}};
+inline constexpr LinkElement kLinkElements[] = {{"FIRST", "FIRSTIMAGE", LinkGoal::First},
+                                                {"LAST", "LASTIMAGE", LinkGoal::Last},
+                                                {"PREVIOUS", "FIRSTIMAGE", LinkGoal::Previous},
+                                                {"NEXT", "LASTIMAGE", LinkGoal::Next},
+                                                {"INDEX", nullptr, LinkGoal::Index}};
 
 }  // namespace vantorium

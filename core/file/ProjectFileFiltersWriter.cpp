@@ -15,14 +15,14 @@ void PutFilterWithValue(pugi::xml_node modify, std::string_view type, std::int16
 
 /// The four filters; the order of the watermark and the quality differs between images and thumbnails.
 void PutFilters(pugi::xml_node modify, const ImageFilterSettings& filters) {
-  if (filters.checkGrayscale == 1) PutFilter(modify, kGrayscaleWord);
-  if (filters.checkNoise == 1) {
+  if (IsOn(filters.checkGrayscale)) PutFilter(modify, kGrayscaleWord);
+  if (IsOn(filters.checkNoise)) {
     pugi::xml_node noise = PutFilter(modify, kNoiseWord);
     PutAttribute(noise, "RANDOM", filters.checkNoiseRandom);
     PutAttribute(noise, "VALUE", filters.sliderNoise);
   }
-  if (filters.checkBrightness == 1) PutFilterWithValue(modify, kBrightnessWord, filters.sliderBrightness);
-  if (filters.checkFade == 1) PutFilterWithValue(modify, kFadeWord, filters.sliderFade);
+  if (IsOn(filters.checkBrightness)) PutFilterWithValue(modify, kBrightnessWord, filters.sliderBrightness);
+  if (IsOn(filters.checkFade)) PutFilterWithValue(modify, kFadeWord, filters.sliderFade);
 }
 
 void PutWatermark(pugi::xml_node modify, const WatermarkSettings& watermark) {
@@ -34,16 +34,16 @@ void PutWatermark(pugi::xml_node modify, const WatermarkSettings& watermark) {
   PutAttribute(font, "FACE", watermark.FontName);
   PutAttribute(font, "HEIGHT", watermark.FontSize);
   PutAttribute(font, "WEIGHT", watermark.FontWeight);
-  PutAttribute(font, "ITALIC", watermark.FontItalic ? 1 : 0);
-  PutAttribute(font, "UNDERLINE", watermark.FontUnderline ? 1 : 0);
-  PutAttribute(font, "STRIKEOUT", watermark.FontUnderline ? 1 : 0);  // the underline again: existing files have it so
+  PutAttribute(font, "ITALIC", FlagOf(watermark.FontItalic));
+  PutAttribute(font, "UNDERLINE", FlagOf(watermark.FontUnderline));
+  PutAttribute(font, "STRIKEOUT", FlagOf(watermark.FontUnderline));  // the underline again: existing files have it so
   PutAttribute(font, "COLOR", ColorToHex(watermark.Color));
 }
 
 }  // namespace
 
 void PutImageFilters(pugi::xml_node modify, const GalleryProject& project) {
-  const bool watermark = project.ImageWatermark.checkUseWatermark == 1;
+  const bool watermark = IsOn(project.ImageWatermark.checkUseWatermark);
   PutFilters(modify, project.ImageFilters);
   if (watermark) PutWatermark(modify, project.ImageWatermark);
   if (watermark || project.ImageFilters.AnyFilter()) {
@@ -57,7 +57,7 @@ void PutThumbnailFilters(pugi::xml_node modify, const GalleryProject& project) {
   if (project.ThumbnailFilters.AnyFilter()) {
     PutFilterWithValue(modify, kQualityWord, project.ThumbnailFilters.sliderQuality);
   }
-  if (project.ImageWatermark.checkUseWatermark == 1) PutWatermark(modify, project.ThumbnailWatermark);
+  if (IsOn(project.ImageWatermark.checkUseWatermark)) PutWatermark(modify, project.ThumbnailWatermark);
 }
 
 }  // namespace vantorium

@@ -25,29 +25,29 @@ void PutThumbnail(pugi::xml_node thumbnails, std::size_t position, const ImageEn
 }
 
 void PutCaptions(pugi::xml_node parent, const GalleryProject& project, const CaptionFields& fields) {
-  if (project.*fields.regular == 1) {
+  if (IsOn(project.*fields.regular)) {
     pugi::xml_node caption = parent.append_child("CAPTION");
     const Choice placement = project.*fields.placement;
     PutAttribute(caption, "TYPE", kRegularCaptionWord);
     PutAttribute(caption, "PLACE", kWrittenCaptionPlaceWords, placement);
-    const bool stacked = placement == 2 || placement == 3;
+    const bool stacked = IsAboveOrBelow(CaptionPlacement(placement));
     PutAttribute(caption, "ALIGN", stacked ? FileWords(kAlignmentStackedWords) : FileWords(kAlignmentBesideWords),
                  project.*fields.alignment);
     PutText(caption, project.*fields.regularText);
   }
-  if (project.*fields.popup == 1) {
+  if (IsOn(project.*fields.popup)) {
     pugi::xml_node caption = parent.append_child("CAPTION");
     PutAttribute(caption, "TYPE", kPopupCaptionWord);
     PutText(caption, project.*fields.popupText);
   }
 }
 
-void PutDescriptionFrame(pugi::xml_node parent, const GalleryProject& project, const DescriptionFrameFields& fields) {
+void PutDescriptionFrame(pugi::xml_node parent, const GalleryProject& project, const DescriptionFields& fields) {
   pugi::xml_node header = PutTextElement(parent, "DESCRIPTIONHEADER", project.*fields.header);
-  const Choice placement = project.*fields.placement;
-  if (placement != 0) {
-    const bool stacked = placement == 3 || placement == 4;
-    PutAttribute(header, "PLACE", kDescriptionPlaceWords, placement);
+  const Placement placement = DescriptionPlacement(project.*fields.placement);
+  if (placement != Placement::None) {
+    const bool stacked = IsAboveOrBelow(placement);
+    PutAttribute(header, "PLACE", kDescriptionPlaceWords, NumberOf(placement));
     PutAttribute(header, "ALIGN", stacked ? FileWords(kAlignmentStackedWords) : FileWords(kAlignmentBesideWords),
                  project.*fields.alignment);
   }
@@ -56,9 +56,9 @@ void PutDescriptionFrame(pugi::xml_node parent, const GalleryProject& project, c
 
 pugi::xml_node PutSize(pugi::xml_node modify, const GalleryProject& project, const SizeFields& fields) {
   pugi::xml_node size = modify.append_child("SIZE");
-  const bool keepAspectRatio = project.*fields.keepAspectRatio != 0;
-  const bool setWidth = project.*fields.setWidth != 0;
-  PutAttribute(size, "KEEPASPECTRATIO", keepAspectRatio ? 1 : 0);
+  const bool keepAspectRatio = !IsOff(project.*fields.keepAspectRatio);
+  const bool setWidth = !IsOff(project.*fields.setWidth);
+  PutAttribute(size, "KEEPASPECTRATIO", FlagOf(keepAspectRatio));
   if (!keepAspectRatio || setWidth) PutAttribute(size, "WIDTH", project.*fields.width);
   if (!keepAspectRatio || !setWidth) PutAttribute(size, "HEIGHT", project.*fields.height);
   return size;
@@ -68,17 +68,17 @@ pugi::xml_node PutSize(pugi::xml_node modify, const GalleryProject& project, con
 
 void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node images = gallery.append_child("IMAGES");
-  PutAttribute(images, "FOLDER", project.textImageSettingsSubFolder);
+  PutAttribute(images, "FOLDER", project.*kImages.folder);
   RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutImage(images, position, list.Entry(position));
     turns.Step();
   }
-  PutCaptions(images, project, kImageCaptions);
-  PutDescriptionFrame(images, project, kImageDescriptionFrame);
+  PutCaptions(images, project, kImages.captions);
+  PutDescriptionFrame(images, project, kImages.description);
   pugi::xml_node modify = images.append_child("MODIFY");
-  if (project.checkImageWrapperImageKeepSize == 0) {
-    const pugi::xml_node size = PutSize(modify, project, kImageSize);
+  if (IsOff(project.checkImageWrapperImageKeepSize)) {
+    const pugi::xml_node size = PutSize(modify, project, kImages.size);
     PutAttribute(size, "PHYSICALRESIZE", project.checkImageWrapperImagePhysicalResize);
   }
   PutImageFilters(modify, project);
@@ -86,16 +86,16 @@ void PutImages(pugi::xml_node gallery, const GalleryProject& project, const Imag
 
 void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node thumbnails = gallery.append_child("THUMBNAILS");
-  PutAttribute(thumbnails, "FOLDER", project.textThumbnailImageSettingsSubFolder);
+  PutAttribute(thumbnails, "FOLDER", project.*kThumbnails.folder);
   RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutThumbnail(thumbnails, position, list.Entry(position));
     turns.Step();
   }
-  PutCaptions(thumbnails, project, kThumbnailCaptions);
-  PutDescriptionFrame(thumbnails, project, kThumbnailDescriptionFrame);
+  PutCaptions(thumbnails, project, kThumbnails.captions);
+  PutDescriptionFrame(thumbnails, project, kThumbnails.description);
   pugi::xml_node modify = thumbnails.append_child("MODIFY");
-  PutSize(modify, project, kThumbnailSize);
+  PutSize(modify, project, kThumbnails.size);
   PutThumbnailFilters(modify, project);
 }
 

@@ -5,11 +5,9 @@ namespace {
 
 void PutSlideShow(pugi::xml_node layout, const GalleryProject& project) {
   pugi::xml_node show = layout.append_child("SLIDESHOW");
-  PutAttribute(show, "FIRSTSLIDE", kFirstSlideWords, project.comboGallerySlideShowBeginWith);
-  PutAttribute(show, "NEXTSLIDE", kNextSlideWords, project.comboGallerySlideShowActionAfterImage);
-  PutAttribute(show, "STARTOVER", kStartOverWords, project.comboGallerySlideShowStartOverWith);
-  const bool automatic = project.comboGallerySlideShowBeginWith == 0 && project.checkGallerySlideShowAutoStart == 1;
-  PutAttribute(show, "AUTOSTART", automatic ? 1 : 0);
+  PutPlainAttributes(show, project, kSlideShowAttributes);
+  const bool automatic = StartsByItself(project);
+  PutAttribute(show, "AUTOSTART", FlagOf(automatic));
   if (automatic) PutAttribute(show, "AUTOSTARTDELAY", project.textGallerySlideShowAutoStartDelay);
   PutAttribute(show, "DELAY", project.textGallerySlideShowDelay);
 }
@@ -21,11 +19,10 @@ void PutLayout(pugi::xml_node gallery, const GalleryProject& project) {
   PutAttribute(layout, "TYPE", kLayoutTypeWords, project.comboGalleryLayoutType);
   PutAttribute(layout, "IMAGEFRAMENAME", project.comboImageFrameName);
   PutAttribute(layout, "THUMBFRAMENAME", project.textThumbnailFrameName);
-  const char* unit = project.checkGalleryFrameSizeInPercent == 1 ? "%" : "";
+  const char* unit = IsOn(project.checkGalleryFrameSizeInPercent) ? "%" : "";
   PutAttribute(layout, "FRAMESIZE", project.textGalleryFrameSize + unit);
-  PutAttribute(layout, "RESIZABLE", project.checkGalleryFramesResizable);
-  PutAttribute(layout, "BORDERS", project.checkGalleryFramesDisplayBorders);
-  if (project.comboGalleryLayoutType == 0 && project.checkGallerySlideShow == 1) PutSlideShow(layout, project);
+  PutPlainAttributes(layout, project, kLayoutAttributes);
+  if (HasSlideShow(project)) PutSlideShow(layout, project);
 }
 
 }  // namespace vantorium

@@ -10,25 +10,37 @@ void PutAttributeUnlessEmpty(pugi::xml_node element, const char* name, std::stri
 }
 
 void PutColors(pugi::xml_node page, const GalleryProject& project, const PageColorFields& fields) {
-  if (project.*fields.use != 1) return;
+  if (!IsOn(project.*fields.use)) return;
   for (const auto& [attribute, color] : kColorAttributes) {
     PutAttribute(page, attribute, ColorToHex(project.*(fields.*color)));
   }
 }
 
-void PutTexts(pugi::xml_node page, const GalleryProject& project, std::span<const TextElement> texts) {
-  for (const TextElement& text : texts) PutTextElementUnlessEmpty(page, text.element, project.*text.text);
+void PutPageAttributes(pugi::xml_node page, const GalleryProject& project, const TargetFields& target,
+                       std::string_view prefix) {
+  PutAttribute(page, "PREFIX", prefix);
+  PutAttribute(page, "EXTENSION", project.*target.extension);
+  PutColors(page, project, target.colors);
+  PutAttributeUnlessEmpty(page, "BACKGROUND", project.*target.backdrop.source);
+}
+
+void PutTexts(pugi::xml_node page, const GalleryProject& project, const TargetFields& target,
+              std::span<const TextElement> texts) {
+  for (const TextElement& text : texts) {
+    PutTextElementUnlessEmpty(page, text.element, project.*(target.codes.*text.text));
+  }
 }
 
 std::string LinkPath(const std::string& path) {
   return path.empty() ? path : std::string(kFilePrefix) + path;
 }
 
-void PutLinks(pugi::xml_node links, const GalleryProject& project, Choice placement,
-              std::span<const LinkElement> elements) {
-  PutAttribute(links, "PLACE", kLinkPlaceWords, placement);
-  for (const LinkElement& element : elements) {
-    const LinkSettings& link = project.*element.link;
+void PutLinks(pugi::xml_node links, const GalleryProject& project, const TargetFields& target) {
+  PutAttribute(links, "PLACE", kLinkPlaceWords, project.*target.linkPlacement);
+  for (const LinkElement& element : kLinkElements) {
+    const PageLink* const pageLink = LinkTo(target, element.goal);
+    if (pageLink == nullptr) continue;
+    const LinkSettings& link = project.*pageLink->settings;
     pugi::xml_node node = links.append_child(element.element);
     PutAttribute(node, "CAPTION", link.textLinkLabel);
     PutAttribute(node, "IMAGE", LinkPath(link.textLinkGraphic));
@@ -43,11 +55,9 @@ void PutArrangement(pugi::xml_node page, const GalleryProject& project) {
   PutAttribute(arrangement, "ROWS", project.textThumbnailsTableRows);
   PutAttribute(arrangement, "COLS", project.textThumbnailsTableColumns);
   PutAttribute(arrangement, "ALIGN", kTableAlignmentWords, project.comboThumbnailsTableAlignment);
-  PutAttribute(arrangement, "BORDER", project.textThumbnailsTableBorder);
-  PutAttribute(arrangement, "CELLSPACING", project.textThumbnailsTableCellSpacing);
-  PutAttribute(arrangement, "CELLPADDING", project.textThumbnailsTableCellPadding);
+  PutPlainAttributes(arrangement, project, kArrangementAttributes);
   PutAttributeUnlessEmpty(arrangement, "BACKGROUND", project.textThumbnailsTableBackdrop);
-  if (project.checkThumbnailsTableUseBGColor == 1) {
+  if (IsOn(project.checkThumbnailsTableUseBGColor)) {
     PutAttribute(arrangement, "BGCOLOR", ColorToHex(project.btnThumbnailsTableBGColor));
   }
 }
@@ -61,27 +71,22 @@ std::string_view DirectLinks(const GalleryProject& project) {
 
 void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project) {
   pugi::xml_node page = gallery.append_child("THUMBNAILPAGE");
-  PutAttribute(page, "PREFIX", project.textThumbnailPageSettingsFilePrefix);
-  PutAttribute(page, "EXTENSION", project.comboThumbnailPageSettingsFileExtension);
-  PutColors(page, project, kThumbnailPageColors);
-  PutAttributeUnlessEmpty(page, "BACKGROUND", project.textThumbnailsPageBackdrop);
-  PutTexts(page, project, kThumbnailPageTexts);
+  PutPageAttributes(page, project, kThumbnails, project.textThumbnailPageSettingsFilePrefix);
+  PutTexts(page, project, kThumbnails, kPageTexts);
   PutArrangement(page, project);
-  PutTexts(page, project, kThumbnailFrameTexts);
+  PutTexts(page, project, kThumbnails, kThumbnailTexts);
   pugi::xml_node links = page.append_child("PAGELINKS");
-  if (project.checkPageLinksThumbnailDirectLinks == 1) PutAttribute(links, "DIRECT", DirectLinks(project));
-  PutLinks(links, project, project.comboPageLinksThumbnailLinkPlacement, kThumbnailPageLinks);
+  if (IsOn(project.checkPageLinksThumbnailDirectLinks)) PutAttribute(links, "DIRECT", DirectLinks(project));
+  PutLinks(links, project, kThumbnails);
 }
 
 void PutImagePage(pugi::xml_node gallery, const GalleryProject& project) {
   pugi::xml_node page = gallery.append_child("IMAGEPAGE");
-  PutAttribute(page, "PREFIX", "");
-  PutAttribute(page, "EXTENSION", project.comboImageWrapperSettingsFileExtension);
-  PutColors(page, project, kImagePageColors);
-  PutAttributeUnlessEmpty(page, "BACKGROUND", project.textImageWrapperBackdrop);
+  PutPageAttributes(page, project, kImages, "");
   PutAttribute(page, "USE", project.checkImageWrapperUse);
-  PutTexts(page, project, kImagePageTexts);
-  PutLinks(page.append_child("PAGELINKS"), project, project.comboPageLinksImageLinkPlacement, kImagePageLinks);
+  PutTexts(page, project, kImages, kPageTexts);
+  PutTexts(page, project, kImages, kImageTexts);
+  PutLinks(page.append_child("PAGELINKS"), project, kImages);
 }
 
 }  // namespace vantorium

@@ -47,7 +47,7 @@ void ReadFont(WatermarkSettings& watermark, pugi::xml_node font) {
 }
 
 void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
-  watermark.checkUseWatermark = 1;
+  watermark.checkUseWatermark = kOn;
   ReadTextInto(watermark.textWatermark, filter, "CAPTION");
   ReadNumberInto(watermark.sliderAlpha, filter, "ALPHA");
   const auto place = IndexOfWord(kAutoPositionWords, AttributeOf(filter, "AUTOPOSITION").value_or(""));
@@ -57,16 +57,16 @@ void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
 
 void ReadFilter(ImageFilterSettings& filters, pugi::xml_node filter, std::string_view type) {
   if (EqualsIgnoringCase(type, kGrayscaleWord)) {
-    filters.checkGrayscale = 1;
+    filters.checkGrayscale = kOn;
   } else if (EqualsIgnoringCase(type, kNoiseWord)) {
-    filters.checkNoise = 1;
+    filters.checkNoise = kOn;
     ReadNumberInto(filters.checkNoiseRandom, filter, "RANDOM");
     ReadNumberInto(filters.sliderNoise, filter, "VALUE");
   } else if (EqualsIgnoringCase(type, kBrightnessWord)) {
-    filters.checkBrightness = 1;
+    filters.checkBrightness = kOn;
     ReadNumberInto(filters.sliderBrightness, filter, "VALUE");
   } else if (EqualsIgnoringCase(type, kFadeWord)) {
-    filters.checkFade = 1;
+    filters.checkFade = kOn;
     ReadNumberInto(filters.sliderFade, filter, "VALUE");
   } else if (EqualsIgnoringCase(type, kQualityWord)) {
     ReadNumberInto(filters.sliderQuality, filter, "VALUE");
@@ -75,10 +75,9 @@ void ReadFilter(ImageFilterSettings& filters, pugi::xml_node filter, std::string
 
 }  // namespace
 
-void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettings GalleryProject::*filters,
-                 WatermarkSettings GalleryProject::*watermark) {
-  RecordEdit filterEdit(editor, filters);
-  RecordEdit watermarkEdit(editor, watermark);
+void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetFields& target) {
+  RecordEdit filterEdit(editor, target.filters);
+  RecordEdit watermarkEdit(editor, target.watermark);
   for (auto node = NextElement(modify, modify, "FILTER"); node; node = NextElement(node, modify, "FILTER")) {
     const std::string_view type = AttributeOf(node, "TYPE").value_or("");
     if (EqualsIgnoringCase(type, kWatermarkWord)) {

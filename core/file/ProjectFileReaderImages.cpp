@@ -1,3 +1,4 @@
+#include "core/ProjectFields.h"
 #include "core/RegularTurns.h"
 #include "core/file/ProjectFileReaderSections.h"
 #include "core/file/ProjectFileReaderValues.h"
@@ -26,10 +27,10 @@ namespace {
 void ReadCaption(pugi::xml_node caption, ProjectEditor& editor, const CaptionFields& fields) {
   const std::string_view type = AttributeOf(caption, "TYPE").value_or("");
   if (EqualsIgnoringCase(type, kPopupCaptionWord)) {
-    editor.Set(fields.popup, Flag{1});
+    editor.Set(fields.popup, kOn);
     editor.Set(fields.popupText, MultilineText(caption));
   } else if (EqualsIgnoringCase(type, kRegularCaptionWord)) {
-    editor.Set(fields.regular, Flag{1});
+    editor.Set(fields.regular, kOn);
     editor.Set(fields.regularText, MultilineText(caption));
     ReadWord(editor, caption, "PLACE", kReadCaptionPlaceWords, fields.placement);
     ReadAlignment(editor, caption, fields.alignment);
@@ -45,15 +46,15 @@ void ReadCaptions(pugi::xml_node parent, ProjectEditor& editor, const CaptionFie
 }
 
 /// An absent header clears that of `whenAbsent`.
-void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const DescriptionFrameFields& fields,
-                          const DescriptionFrameFields& whenAbsent) {
+void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const DescriptionFields& fields,
+                          const DescriptionFields& whenAbsent) {
   if (const pugi::xml_node header = parent.child("DESCRIPTIONHEADER")) {
     editor.Set(fields.header, MultilineText(header));
     ReadWord(editor, header, "PLACE", kDescriptionPlaceWords, fields.placement);
     ReadAlignment(editor, header, fields.alignment);
   } else {
     editor.Set(whenAbsent.header, "");
-    editor.Set(whenAbsent.placement, Choice{0});
+    editor.Set(whenAbsent.placement, NumberOf(Placement::None));
   }
   editor.Set(fields.footer, MultilineText(parent.child("DESCRIPTIONFOOTER")));
 }
@@ -61,51 +62,51 @@ void ReadDescriptionFrame(pugi::xml_node parent, ProjectEditor& editor, const De
 void ReadSize(pugi::xml_node size, ProjectEditor& editor, const SizeFields& fields) {
   ReadNumber(editor, size, "KEEPASPECTRATIO", fields.keepAspectRatio);
   ReadText(editor, size, "WIDTH", fields.width);
-  editor.Set(fields.setWidth, Flag{AttributeOf(size, "WIDTH").has_value()});
+  editor.Set(fields.setWidth, FlagOf(AttributeOf(size, "WIDTH").has_value()));
   ReadText(editor, size, "HEIGHT", fields.height);
 }
 
 void ReadImageModifications(pugi::xml_node modify, ProjectEditor& editor) {
   const pugi::xml_node size = modify.child("SIZE");
-  editor.Set(&GalleryProject::checkImageWrapperImageKeepSize, Flag{!size});
+  editor.Set(&GalleryProject::checkImageWrapperImageKeepSize, FlagOf(!size));
   if (size) {
-    ReadSize(size, editor, kImageSize);
+    ReadSize(size, editor, kImages.size);
     ReadNumber(editor, size, "PHYSICALRESIZE", &GalleryProject::checkImageWrapperImagePhysicalResize);
   }
-  ReadFilters(modify, editor, &GalleryProject::ImageFilters, &GalleryProject::ImageWatermark);
+  ReadFilters(modify, editor, kImages);
 }
 
 void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
-  if (const pugi::xml_node size = modify.child("SIZE")) ReadSize(size, editor, kThumbnailSize);
-  ReadFilters(modify, editor, &GalleryProject::ThumbnailFilters, &GalleryProject::ThumbnailWatermark);
+  if (const pugi::xml_node size = modify.child("SIZE")) ReadSize(size, editor, kThumbnails.size);
+  ReadFilters(modify, editor, kThumbnails);
 }
 
 }  // namespace
 
 ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
-  ReadTextOr(editor, images, "FOLDER", &GalleryProject::textImageSettingsSubFolder, "Images");
+  ReadTextOr(editor, images, "FOLDER", kImages.folder, DefaultOf(kImages.folder));
   RegularTurns turns(events);
   for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
     if (!AddImageElement(node, list)) return ReadResult::ImageRefused;
     turns.Step();
   }
-  ReadCaptions(images, editor, kImageCaptions);
-  ReadDescriptionFrame(images, editor, kImageDescriptionFrame, kImageDescriptionFrame);
+  ReadCaptions(images, editor, kImages.captions);
+  ReadDescriptionFrame(images, editor, kImages.description, kImages.description);
   if (const pugi::xml_node modify = images.child("MODIFY")) ReadImageModifications(modify, editor);
   return ReadResult::Complete;
 }
 
 ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list, EventLoop& events) {
-  ReadTextOr(editor, thumbnails, "FOLDER", &GalleryProject::textThumbnailImageSettingsSubFolder, "1");
+  ReadTextOr(editor, thumbnails, "FOLDER", kThumbnails.folder, "1");
   RegularTurns turns(events);
   for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
        node = NextElement(node, thumbnails, "THUMBNAIL")) {
     if (!DescribeThumbnail(node, list)) return ReadResult::InvalidThumbnailIndex;
     turns.Step();
   }
-  ReadCaptions(thumbnails, editor, kThumbnailCaptions);
+  ReadCaptions(thumbnails, editor, kThumbnails.captions);
   // An absent header clears that of the images: existing files depend on it.
-  ReadDescriptionFrame(thumbnails, editor, kThumbnailDescriptionFrame, kImageDescriptionFrame);
+  ReadDescriptionFrame(thumbnails, editor, kThumbnails.description, kImages.description);
   if (const pugi::xml_node modify = thumbnails.child("MODIFY")) ReadThumbnailModifications(modify, editor);
   return ReadResult::Complete;
 }

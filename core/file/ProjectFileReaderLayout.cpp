@@ -1,3 +1,4 @@
+#include "core/ProjectFields.h"
 #include "core/file/ProjectFileReaderSections.h"
 #include "core/file/ProjectFileReaderValues.h"
 #include "env/Text.h"
@@ -11,12 +12,10 @@ void ReadDelay(ProjectEditor& editor, pugi::xml_node show, const char* attribute
 }
 
 void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
-  editor.Set(&GalleryProject::checkGallerySlideShow, Flag{1});
-  ReadWord(editor, show, "FIRSTSLIDE", kFirstSlideWords, &GalleryProject::comboGallerySlideShowBeginWith);
-  ReadWord(editor, show, "NEXTSLIDE", kNextSlideWords, &GalleryProject::comboGallerySlideShowActionAfterImage);
-  ReadWord(editor, show, "STARTOVER", kStartOverWords, &GalleryProject::comboGallerySlideShowStartOverWith);
+  editor.Set(&GalleryProject::checkGallerySlideShow, kOn);
+  ReadPlainAttributes(editor, show, kSlideShowAttributes);
   editor.Set(&GalleryProject::checkGallerySlideShowAutoStart,
-             Flag{IsNumberOne(AttributeOf(show, "AUTOSTART").value_or(""))});
+             FlagOf(IsNumberOne(AttributeOf(show, "AUTOSTART").value_or(""))));
   ReadDelay(editor, show, "AUTOSTARTDELAY", &GalleryProject::textGallerySlideShowAutoStartDelay);
   ReadDelay(editor, show, "DELAY", &GalleryProject::textGallerySlideShowDelay);
 }
@@ -25,12 +24,13 @@ void ReadSlideShow(pugi::xml_node show, ProjectEditor& editor) {
 void ReadFrameNames(pugi::xml_node layout, ProjectEditor& editor, bool singleFrame) {
   ReadText(editor, layout, "IMAGEFRAMENAME", &GalleryProject::comboImageFrameName);
   if (singleFrame && !AttributeOf(layout, "IMAGEFRAMENAME")) {
-    editor.Set(&GalleryProject::comboImageFrameName, "_self");
+    editor.Set(&GalleryProject::comboImageFrameName, DefaultOf(&GalleryProject::comboImageFrameName));
   }
   ReadText(editor, layout, "THUMBFRAMENAME", &GalleryProject::textThumbnailFrameName);
   if (singleFrame && !AttributeOf(layout, "THUMBFRAMENAME")) {
-    const bool taken = editor.Project().comboImageFrameName == "thumb_frame";
-    editor.Set(&GalleryProject::textThumbnailFrameName, taken ? "thumb_frame_2" : "thumb_frame");
+    const std::string& name = DefaultOf(&GalleryProject::textThumbnailFrameName);
+    const bool taken = editor.Project().comboImageFrameName == name;
+    editor.Set(&GalleryProject::textThumbnailFrameName, taken ? name + "_2" : name);
   }
 }
 
@@ -40,7 +40,7 @@ void ReadFrameSize(pugi::xml_node layout, ProjectEditor& editor) {
   std::string size(*value);
   const bool percent = size.ends_with('%');
   if (percent) size.pop_back();
-  editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, Flag{percent});
+  editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, FlagOf(percent));
   editor.Set(&GalleryProject::textGalleryFrameSize, std::move(size));
 }
 
@@ -55,8 +55,7 @@ ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor) {
   if (const pugi::xml_node show = layout.child("SLIDESHOW"); singleFrame && show) ReadSlideShow(show, editor);
   ReadFrameNames(layout, editor, singleFrame);
   ReadFrameSize(layout, editor);
-  ReadSwitch(editor, layout, "RESIZABLE", &GalleryProject::checkGalleryFramesResizable);
-  ReadSwitch(editor, layout, "BORDERS", &GalleryProject::checkGalleryFramesDisplayBorders);
+  ReadPlainAttributes(editor, layout, kLayoutAttributes);
   return ReadResult::Complete;
 }
 

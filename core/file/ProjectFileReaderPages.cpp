@@ -11,9 +11,7 @@ void ReadColors(pugi::xml_node page, ProjectEditor& editor, const PageColorField
 void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
   ReadDigits(editor, arrangement, "ROWS", &GalleryProject::textThumbnailsTableRows);
   ReadDigits(editor, arrangement, "COLS", &GalleryProject::textThumbnailsTableColumns);
-  ReadDigits(editor, arrangement, "BORDER", &GalleryProject::textThumbnailsTableBorder);
-  ReadDigits(editor, arrangement, "CELLSPACING", &GalleryProject::textThumbnailsTableCellSpacing);
-  ReadDigits(editor, arrangement, "CELLPADDING", &GalleryProject::textThumbnailsTableCellPadding);
+  ReadPlainAttributes(editor, arrangement, kArrangementAttributes);
   ReadWord(editor, arrangement, "ALIGN", kTableAlignmentWords, &GalleryProject::comboThumbnailsTableAlignment);
   // The writer calls it BACKGROUND, so a written backdrop is not read back. Kept on purpose.
   ReadText(editor, arrangement, "BACKDROP", &GalleryProject::textThumbnailsTableBackdrop);
@@ -21,19 +19,23 @@ void ReadArrangement(pugi::xml_node arrangement, ProjectEditor& editor) {
             &GalleryProject::checkThumbnailsTableUseBGColor);
 }
 
+void ReadPageAttributes(pugi::xml_node page, ProjectEditor& editor, const TargetFields& target) {
+  ReadText(editor, page, "EXTENSION", target.extension);
+  ReadTextOr(editor, page, "BACKGROUND", target.backdrop.source, "");
+  ReadColors(page, editor, target.colors);
+  ReadChildTexts(editor, page, target.codes, kPageTexts);
+}
+
 }  // namespace
 
 ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor) {
   if (!page) return ReadResult::NoThumbnailPage;
   ReadText(editor, page, "PREFIX", &GalleryProject::textThumbnailPageSettingsFilePrefix);
-  ReadText(editor, page, "EXTENSION", &GalleryProject::comboThumbnailPageSettingsFileExtension);
-  ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textThumbnailsPageBackdrop, "");
-  ReadColors(page, editor, kThumbnailPageColors);
-  ReadChildTexts(editor, page, kThumbnailPageTexts);
+  ReadPageAttributes(page, editor, kThumbnails);
   const pugi::xml_node arrangement = page.child("ARRANGEMENT");
   if (!arrangement) return ReadResult::NoArrangement;
   ReadArrangement(arrangement, editor);
-  ReadChildTexts(editor, page, kThumbnailFrameTexts);
+  ReadChildTexts(editor, page, kThumbnails.codes, kThumbnailTexts);
   const pugi::xml_node links = page.child("PAGELINKS");
   if (!links) return ReadResult::NoPageLinks;
   ReadThumbnailPageLinks(links, editor);
@@ -41,12 +43,10 @@ ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor) {
 }
 
 ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor) {
-  editor.Set(&GalleryProject::checkImageWrapperUse, Flag{!page.empty()});
+  editor.Set(&GalleryProject::checkImageWrapperUse, FlagOf(!page.empty()));
   if (!page) return ReadResult::Complete;
-  ReadText(editor, page, "EXTENSION", &GalleryProject::comboImageWrapperSettingsFileExtension);
-  ReadTextOr(editor, page, "BACKGROUND", &GalleryProject::textImageWrapperBackdrop, "");
-  ReadColors(page, editor, kImagePageColors);
-  ReadChildTexts(editor, page, kImagePageTexts);
+  ReadPageAttributes(page, editor, kImages);
+  ReadChildTexts(editor, page, kImages.codes, kImageTexts);
   const pugi::xml_node links = page.child("PAGELINKS");
   if (!links) return ReadResult::NoPageLinks;
   ReadImagePageLinks(links, editor);

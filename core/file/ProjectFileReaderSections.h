@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/ImageListOperations.h"
 #include "core/Project.h"
 #include "core/ProjectEditor.h"
@@ -27,8 +28,7 @@ namespace vantorium {
                                         EventLoop& events);
 
 /// The FILTER elements of a MODIFY, including the watermark.
-void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, ImageFilterSettings GalleryProject::*filters,
-                 WatermarkSettings GalleryProject::*watermark);
+void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetFields& target);
 
 /// THUMBNAILPAGE and IMAGEPAGE with their links.
 [[nodiscard]] ReadResult ReadThumbnailPage(pugi::xml_node page, ProjectEditor& editor);

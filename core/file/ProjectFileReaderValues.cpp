@@ -1,5 +1,6 @@
 #include "core/file/ProjectFileReaderValues.h"
 
+#include "core/ProjectFields.h"
 #include "env/Numbers.h"
 #include "env/RuntimeFailure.h"
 #include "env/Text.h"
@@ -23,7 +24,7 @@ void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribu
 }
 
 void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
-                const char* absent) {
+                std::string_view absent) {
   editor.Set(field, std::string(AttributeOf(element, attribute).value_or(absent)));
 }
 
@@ -43,12 +44,25 @@ void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attri
 }
 
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
-  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, Flag{IsNumberOne(*value)});
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, FlagOf(IsNumberOne(*value)));
 }
 
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words,
               NumberField field) {
   if (const auto index = IndexOfWord(words, AttributeOf(element, attribute).value_or(""))) editor.Set(field, *index);
+}
+
+void ReadPlainAttributes(ProjectEditor& editor, pugi::xml_node element, std::span<const PlainAttribute> rows) {
+  for (const auto& [attribute, field, words] : rows) {
+    if (const auto* text = std::get_if<TextField>(&field)) {
+      const bool isNumber = FieldOf(*text).kind == FieldKind::Digits;
+      (isNumber ? ReadDigits : ReadText)(editor, element, attribute, *text);
+    } else if (words.empty()) {
+      ReadSwitch(editor, element, attribute, std::get<NumberField>(field));
+    } else {
+      ReadWord(editor, element, attribute, words, std::get<NumberField>(field));
+    }
+  }
 }
 
 void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field) {
@@ -61,11 +75,12 @@ void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attrib
   const auto value = AttributeOf(element, attribute);
   if (!value) return;
   editor.Set(field, HexToColor(std::string(*value)));
-  editor.Set(use, Flag{1});
+  editor.Set(use, kOn);
 }
 
-void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts) {
-  for (const TextElement& text : texts) editor.Set(text.text, MultilineText(parent.child(text.element)));
+void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, const CodeFields& fields,
+                    std::span<const TextElement> texts) {
+  for (const TextElement& text : texts) editor.Set(fields.*text.text, MultilineText(parent.child(text.element)));
 }
 
 bool IsNumberOne(std::string_view text) {

@@ -7,6 +7,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace vantorium {
 
@@ -25,14 +26,16 @@ using NumberField = std::int16_t GalleryProject::*;
 
 void ReadText(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field,
-                const char* absent);
+                std::string_view absent);
 /// Returns the decimal text of a whole number, which may be outside all bounds: an edit then clamps it.
 [[nodiscard]] std::string WholeNumber(std::string_view text);
 /// Reads a whole number and keeps it as decimal text.
 void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field);
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
-/// Sets 1 if the attribute is the number 1, else 0.
+/// On if the attribute is the number 1, else off.
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field);
+/// Reads one attribute for each row.
+void ReadPlainAttributes(ProjectEditor& editor, pugi::xml_node element, std::span<const PlainAttribute> rows);
 /// A word that is not in the list leaves the setting unchanged.
 void ReadWord(ProjectEditor& editor, pugi::xml_node element, const char* attribute, FileWords words, NumberField field);
 void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField field);
@@ -40,7 +43,8 @@ void ReadAlignment(ProjectEditor& editor, pugi::xml_node element, NumberField fi
 void ReadColor(ProjectEditor& editor, pugi::xml_node element, const char* attribute, Color GalleryProject::*field,
                NumberField use);
 /// Reads the texts of children; an absent child empties its field.
-void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, std::span<const TextElement> texts);
+void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, const CodeFields& fields,
+                    std::span<const TextElement> texts);
 
 /// Whether the text reads as the number 1.
 [[nodiscard]] bool IsNumberOne(std::string_view text);

@@ -67,7 +67,7 @@ void PutGallery(pugi::xml_node document, const Project& project, EventLoop& even
   PutImages(gallery, settings, project.images, events);
   PutThumbnails(gallery, settings, project.images, events);
   PutThumbnailPage(gallery, settings);
-  if (settings.checkImageWrapperUse == 1) PutImagePage(gallery, settings);
+  if (IsOn(settings.checkImageWrapperUse)) PutImagePage(gallery, settings);
 }
 
 }  // namespace

@@ -1,24 +1,12 @@
 #include "core/generation/AuxiliaryFiles.h"
 
-#include "core/generation/PageLinks.h"
-#include "core/generation/PageParts.h"
+#include "core/GalleryTargets.h"
 #include "env/PathText.h"
 
 namespace vantorium {
 namespace {
 
-constexpr Backdrop kBackdrops[] = {kThumbnailTableBackdrop, kThumbnailPageBackdrop, kImagePageBackdrop};
-
-/// The links in the order in which their graphics are copied.
-constexpr LinkKind kLinks[] = {LinkKind::FirstThumbnailPage,
-                               LinkKind::PreviousThumbnailPage,
-                               LinkKind::NextThumbnailPage,
-                               LinkKind::LastThumbnailPage,
-                               LinkKind::FirstImage,
-                               LinkKind::PreviousImage,
-                               LinkKind::NextImage,
-                               LinkKind::LastImage,
-                               LinkKind::Index};
+constexpr Backdrop kBackdrops[] = {kTableBackdrop, kThumbnails.backdrop, kImages.backdrop};
 
 /// A source without a folder is in the folder of the project file.
 std::string Resolved(const RunState& run, const std::string& source) {
@@ -34,8 +22,14 @@ void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::
   files.push_back({source, std::string(fixedName) + GetFileExtension(source), spelling});
 }
 
-bool IsImageLink(LinkKind kind) {
-  return kind <= LinkKind::Index;
+void AddLinkGraphics(std::vector<AuxiliaryFile>& files, const RunState& run, const TargetFields& target,
+                     AuxiliarySpelling spelling) {
+  for (const PageLink& link : target.links) {
+    const LinkSettings& settings = run.project.*link.settings;
+    AddFile(files, run, settings.textLinkGraphic, link.graphic, spelling);
+    if (link.disabledGraphic.empty()) continue;
+    AddFile(files, run, settings.textLinkGraphicDisabled, link.disabledGraphic, spelling);
+  }
 }
 
 PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
@@ -46,21 +40,15 @@ PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
 
 std::vector<AuxiliaryFile> Backdrops(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  for (const auto& [name, source] : kBackdrops) AddFile(files, run, run.project.*source, name, AuxiliarySpelling::File);
+  for (const auto& [source, name] : kBackdrops) AddFile(files, run, run.project.*source, name, AuxiliarySpelling::File);
   return files;
 }
 
 std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  for (const LinkKind kind : kLinks) {
-    // Links between images stand on wrapper pages only.
-    if (IsImageLink(kind) && run.project.checkImageWrapperUse != 1) continue;
-    const auto spelling = IsImageLink(kind) ? AuxiliarySpelling::file : AuxiliarySpelling::File;
-    const auto& [field, name, nameAtDeadEnd] = GraphicsOf(kind);
-    const LinkSettings& link = run.project.*field;
-    AddFile(files, run, link.textLinkGraphic, name, spelling);
-    if (!nameAtDeadEnd.empty()) AddFile(files, run, link.textLinkGraphicDisabled, nameAtDeadEnd, spelling);
-  }
+  AddLinkGraphics(files, run, kThumbnails, AuxiliarySpelling::File);
+  // Links between images stand on wrapper pages only.
+  if (IsOn(run.project.checkImageWrapperUse)) AddLinkGraphics(files, run, kImages, AuxiliarySpelling::file);
   return files;
 }
 

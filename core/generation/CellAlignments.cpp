@@ -44,19 +44,12 @@ constexpr Table<std::string_view> kImageDescription = {
 
 template <typename Cell>
 Cell Lookup(const Table<Cell>& table, Choice alignment, Placement placement) {
-  if (alignment < 0 || alignment > 2 || placement < Placement::Left || placement > Placement::Below) return {};
-  return table[alignment][static_cast<Choice>(placement) - 1];
+  if (alignment < NumberOf(Alignment::Start) || alignment > NumberOf(Alignment::End)) return {};
+  if (!IsBeside(placement) && !IsAboveOrBelow(placement)) return {};
+  return table[alignment][NumberOf(placement) - NumberOf(Placement::Left)];
 }
 
 }  // namespace
-
-Placement DescriptionPlacement(Choice setting) {
-  return static_cast<Placement>(setting);
-}
-
-Placement CaptionPlacement(Choice setting) {
-  return static_cast<Placement>(setting + 1);
-}
 
 CellPair ThumbnailDescriptionCells(Choice alignment, Placement placement) {
   return Lookup(kThumbnailDescription, alignment, placement);

@@ -38,11 +38,11 @@ void FindImageSize(const RunState& run, ImageRunInfo& image) {
   const GalleryProject& project = run.project;
   std::int32_t w = 0;
   std::int32_t h = 0;
-  if (project.checkImageWrapperImageKeepSize == 1) {
+  if (IsOn(project.checkImageWrapperImageKeepSize)) {
     Ignoring([&] { std::ignore = ReadSourceSize(run, image, image.Width, image.Height); });
-  } else if (project.checkImageWrapperImageKeepAspectRatio == 1) {
+  } else if (IsOn(project.checkImageWrapperImageKeepAspectRatio)) {
     if (!ReadSourceSize(run, image, w, h)) return;
-    if (project.checkImageWrapperImageSetWidth == 1) {
+    if (IsOn(project.checkImageWrapperImageSetWidth)) {
       GivenWidthSetsHeight(project, image, w, h);
     } else {
       GivenHeightSetsWidth(project, image, w, h);
@@ -55,8 +55,8 @@ void FindImageSize(const RunState& run, ImageRunInfo& image) {
 
 /// The thumbnail keeps the aspect ratio of the image as the gallery shows it, not of the source.
 void FindThumbnailSize(const GalleryProject& project, ImageRunInfo& image) {
-  const bool keepRatio = project.checkThumbnailsImageKeepAspectRatio == 1;
-  const bool widthGiven = project.checkThumbnailsImageSetWidth == 1;
+  const bool keepRatio = IsOn(project.checkThumbnailsImageKeepAspectRatio);
+  const bool widthGiven = IsOn(project.checkThumbnailsImageSetWidth);
   if (!keepRatio || widthGiven) {
     Ignoring([&] { image.ThumbWidth = ParseInt32(project.textThumbnailsImageWidth); });
   }

@@ -139,7 +139,7 @@ RunEnd RunTrapped(const RunContext& context) {
 /// processes it.
 std::int32_t ProgressMaximum(const Project& project, const RunArguments& arguments) {
   if (arguments.Mode == GenerationMode::Upload) return 100;
-  const bool wrappers = project.settings.checkImageWrapperUse == 1;
+  const bool wrappers = IsOn(project.settings.checkImageWrapperUse);
   const int phases = arguments.Mode == GenerationMode::Preview
                          ? 1 + (wrappers ? 1 : 0)
                          : int{arguments.CreateImages} + int{arguments.CreateThumbnails} + int{arguments.CreateHTML} +
@@ -236,7 +236,7 @@ std::string ProjectFileOf(const Project& project) {
 /// Sizes in percent never appear on a page, although the option can be set.
 void ForceOffSizesInPercent(Project& project) {
   constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
-  if (project.settings.*kField != 0) ProjectEditor(project.settings, project.IsModified).Set(kField, std::int16_t{0});
+  if (!IsOff(project.settings.*kField)) ProjectEditor(project.settings, project.IsModified).Set(kField, kOff);
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ void AddHead(PageText& page, const RunState& run) {
 /// A slide show that begins with the first image names its wrapper page, even if there are no wrapper pages.
 std::string FirstPage(const RunState& run) {
   const GalleryProject& project = run.project;
-  const bool beginsWithImage = project.checkGallerySlideShow == 1 && project.comboGallerySlideShowBeginWith == 1;
+  const bool beginsWithImage =
+      IsOn(project.checkGallerySlideShow) && SlideShowBeginOf(project) == SlideShowBegin::FirstImage;
   return beginsWithImage ? WrapperPageName(project, run.ListText(1)) : ThumbnailPageName(project, 1);
 }
 
@@ -40,27 +41,27 @@ void AddSingleFrame(PageText& page, const RunState& run) {
 }
 
 std::string SizeText(std::int32_t size, const GalleryProject& project) {
-  return fmt::format("{}{}", size, project.checkGalleryFrameSizeInPercent == 1 ? "%" : "");
+  return fmt::format("{}{}", size, IsOn(project.checkGalleryFrameSizeInPercent) ? "%" : "");
 }
 
 Frame ThumbnailFrame(const RunState& run) {
   const GalleryProject& project = run.project;
-  const bool sized = project.comboGalleryFrameSizingPriority == 0;
+  const bool sized = SizedFrameOf(project) == SizedFrame::Thumbnails;
   return {project.textThumbnailFrameName, ThumbnailPageName(project, 1),
           sized ? SizeText(project.ThumbnailFrameSize, project) : "*"};
 }
 
 Frame ImageFrame(const RunState& run) {
   const GalleryProject& project = run.project;
-  const bool sized = project.comboGalleryFrameSizingPriority != 0;
+  const bool sized = SizedFrameOf(project) != SizedFrame::Thumbnails;
   return {project.comboImageFrameName, ImageTarget(run, 1), sized ? SizeText(project.ImageFrameSize, project) : "*"};
 }
 
 // Spaces double where two of these pieces meet, and remain where a piece is empty.
 void AddFrames(PageText& page, const GalleryProject& project, std::string_view attribute, const Frame& first,
                const Frame& second) {
-  const bool borders = project.checkGalleryFramesDisplayBorders == 1;
-  const std::string_view resize = project.checkGalleryFramesResizable == 1 ? "" : " NORESIZE ";
+  const bool borders = IsOn(project.checkGalleryFramesDisplayBorders);
+  const std::string_view resize = IsOn(project.checkGalleryFramesResizable) ? "" : " NORESIZE ";
   const std::string_view frameBorder = borders ? "" : R"( FRAMEBORDER="0" )";
   const std::string_view border = borders ? "" : R"( BORDER="0" )";
   page.Format(R"(<FRAMESET {}="{},{}"{}>)", attribute, first.size, second.size, border);
@@ -73,12 +74,12 @@ void AddFrames(PageText& page, const GalleryProject& project, std::string_view a
 void AddTwoFrames(PageText& page, const RunState& run) {
   const Frame thumbnails = ThumbnailFrame(run);
   const Frame image = ImageFrame(run);
-  switch (run.project.comboGalleryLayoutType) {
-    case 1:
+  switch (LayoutOf(run.project)) {
+    case GalleryLayout::ThumbnailsLeft:
       return AddFrames(page, run.project, "COLS", thumbnails, image);
-    case 2:
+    case GalleryLayout::ThumbnailsRight:
       return AddFrames(page, run.project, "COLS", image, thumbnails);
-    case 3:
+    case GalleryLayout::ThumbnailsTop:
       return AddFrames(page, run.project, "ROWS", thumbnails, image);
     default:
       return AddFrames(page, run.project, "ROWS", image, thumbnails);
@@ -90,7 +91,7 @@ void AddTwoFrames(PageText& page, const RunState& run) {
 std::string BuildIndexPage(const RunState& run) {
   PageText page;
   AddHead(page, run);
-  if (run.project.comboGalleryLayoutType == 0) {
+  if (IsSingleFrame(run.project)) {
     AddSingleFrame(page, run);
   } else {
     AddTwoFrames(page, run);

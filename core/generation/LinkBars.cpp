@@ -81,7 +81,7 @@ std::string BuildThumbnailPageBar(const RunState& run, std::int32_t page) {
   LinkBar bar(run, page, run.ThumbnailPageCount);
   bar.Leading(LinkKind::FirstThumbnailPage);
   bar.Leading(LinkKind::PreviousThumbnailPage);
-  if (project.checkPageLinksThumbnailDirectLinks == 1) bar.Text(run.DirectLinksText);
+  if (IsOn(project.checkPageLinksThumbnailDirectLinks)) bar.Text(run.DirectLinksText);
   bar.Trailing(LinkKind::NextThumbnailPage, project.ThumbnailNextLink.textLinkLabel);
   bar.Trailing(LinkKind::LastThumbnailPage, project.ThumbnailLastLink.textLinkLabel);
   return bar.Take();
@@ -93,7 +93,7 @@ std::string BuildImagePageBar(const RunState& run, std::int32_t image) {
   LinkBar bar(run, image, run.ImageCount);
   bar.Leading(LinkKind::FirstImage);
   bar.Leading(LinkKind::PreviousImage);
-  if (project.comboGalleryLayoutType == 0) bar.Index();
+  if (IsSingleFrame(project)) bar.Index();
   // Next tests the label of Previous, to match existing galleries.
   bar.Trailing(LinkKind::NextImage, project.ImagePreviousLink.textLinkLabel);
   bar.Trailing(LinkKind::LastImage, project.ImageLastLink.textLinkLabel);

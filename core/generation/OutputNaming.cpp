@@ -41,7 +41,7 @@ std::string ImageUrl(const RunState& run, std::int32_t image) {
 }
 
 std::string ImageTarget(const RunState& run, std::int32_t image) {
-  if (run.project.checkImageWrapperUse == 1) return WrapperPageName(run.project, run.ListText(image));
+  if (IsOn(run.project.checkImageWrapperUse)) return WrapperPageName(run.project, run.ListText(image));
   return ImageUrl(run, image);
 }
 

@@ -1,34 +1,12 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/generation/RunState.h"
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace vantorium {
-
-/// The target of a page link.
-enum class LinkKind : std::int16_t {
-  FirstImage = 0,
-  PreviousImage = 1,
-  NextImage = 2,
-  LastImage = 3,
-  Index = 4,  ///< the thumbnail page of the current image, at its anchor
-  FirstThumbnailPage = 5,
-  PreviousThumbnailPage = 6,
-  NextThumbnailPage = 7,
-  LastThumbnailPage = 8,
-};
-
-/// The graphics of a link: its settings, and the names of their copies in the images folder, to which the extension of
-/// the graphic is added.
-struct LinkGraphics {
-  LinkSettings GalleryProject::*link;
-  std::string_view name;
-  std::string_view nameAtDeadEnd;  ///< of the disabled graphic; empty for Index, which has none
-};
-[[nodiscard]] const LinkGraphics& GraphicsOf(LinkKind kind);
 
 /// Returns the settings of the link of kind `kind`.
 [[nodiscard]] const LinkSettings& LinkOf(const GalleryProject& project, LinkKind kind);

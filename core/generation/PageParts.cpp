@@ -22,7 +22,7 @@ std::string BackdropAttribute(const RunState& run, const Backdrop& backdrop) {
 }
 
 std::string BodyTag(const GalleryProject& project, const PageColorFields& fields, std::string_view backdropAttribute) {
-  if (project.*fields.use != 1) return fmt::format("<BODY {}>", backdropAttribute);
+  if (!IsOn(project.*fields.use)) return fmt::format("<BODY {}>", backdropAttribute);
   const PageColors colors = ColorsOf(project, fields);
   return fmt::format(R"(<BODY BGCOLOR="{}" TEXT="{}" LINK="{}" VLINK="{}" ALINK="{}"{}>)",
                      ColorToHtml(colors.background), ColorToHtml(colors.text), ColorToHtml(colors.link),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/PageColors.h"
+#include "core/GalleryTargets.h"
 #include "core/generation/RunState.h"
 
 #include <string>
@@ -16,17 +16,8 @@ namespace vantorium {
 /// Returns six uppercase hexadecimal digits: red, green, blue. No "#".
 [[nodiscard]] std::string ColorToHtml(Color color);
 
-/// A backdrop: its setting, and the name of its copy in the images folder, to which the extension is added.
-struct Backdrop {
-  std::string_view name;
-  std::string GalleryProject::*source;
-};
-inline constexpr Backdrop kThumbnailTableBackdrop = {"_backdrop_thumbtable",
-                                                     &GalleryProject::textThumbnailsTableBackdrop};
-inline constexpr Backdrop kThumbnailPageBackdrop = {"_backdrop_thumbpage", &GalleryProject::textThumbnailsPageBackdrop};
-inline constexpr Backdrop kImagePageBackdrop = {"_backdrop_imagepage", &GalleryProject::textImageWrapperBackdrop};
-
-/// Returns ` BACKGROUND="..."` for the copy of a backdrop in the images folder; empty if the project has no such backdrop.
+/// Returns ` BACKGROUND="..."` for the copy of a backdrop in the images folder; empty if the project has no such
+/// backdrop.
 [[nodiscard]] std::string BackdropAttribute(const RunState& run, const Backdrop& backdrop);
 
 /// Returns the BODY tag of a page, with the project's colors if it sets them. Without colors the space after BODY is

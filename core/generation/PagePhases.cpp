@@ -49,7 +49,7 @@ PhaseResult WriteThumbnailPages(const RunContext& context) {
 }
 
 PhaseResult WriteWrapperPages(const RunContext& context) {
-  if (context.run.project.checkImageWrapperUse != 1) return kGoOn;
+  if (!IsOn(context.run.project.checkImageWrapperUse)) return kGoOn;
   for (std::int32_t image = 1; image <= context.run.ImageCount; ++image) {
     if (auto end = WriteWrapperPage(context, image)) return end;
   }

@@ -14,7 +14,7 @@ std::uint64_t NoiseOfThumbnail(std::int32_t image) {
 
 std::shared_ptr<const WatermarkPainter> PainterOf(const WatermarkSettings& settings, const Screen& screen,
                                                   const TextRaster& texts) {
-  if (settings.checkUseWatermark != 1) return nullptr;
+  if (!IsOn(settings.checkUseWatermark)) return nullptr;
   return std::make_shared<const WatermarkPainter>(settings, screen.PixelsPerInch(), texts);
 }
 
@@ -27,7 +27,8 @@ void PrepareWatermarks(RunState& run, const Screen& screen, const TextRaster& te
 
 std::optional<PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image) {
   const GalleryProject& project = run.project;
-  const bool resized = project.checkImageWrapperImageKeepSize == 0 && project.checkImageWrapperImagePhysicalResize == 1;
+  const bool resized =
+      IsOff(project.checkImageWrapperImageKeepSize) && IsOn(project.checkImageWrapperImagePhysicalResize);
   if (!resized && !project.ImageFilters.AnyFilter() && !run.ImageWatermark) return std::nullopt;
   PictureRecipe recipe{
       .noiseNumber = NoiseOfImage(image), .filters = project.ImageFilters, .watermark = run.ImageWatermark};

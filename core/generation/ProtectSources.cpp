@@ -81,7 +81,7 @@ Outputs OutputsOfImage(const RunContext& context, std::int32_t number) {
   Outputs outputs;
   if (produces && context.arguments.CreateImages) AddImage(outputs, context, number);
   if (produces && context.arguments.CreateThumbnails) AddThumbnail(outputs, context, number);
-  if (context.arguments.CreateHTML && run.project.checkImageWrapperUse == 1) {
+  if (context.arguments.CreateHTML && IsOn(run.project.checkImageWrapperUse)) {
     outputs.push_back(Page(run, WrapperPageName(run.project, run.ListText(number))));
   }
   return outputs;

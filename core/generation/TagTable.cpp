@@ -35,7 +35,7 @@ struct Place {
 };
 
 Place PlaceOf(Scope at, LinkKind kind) {
-  if (kind <= LinkKind::Index) return {at.image, at.run.ImageCount};
+  if (IsImageLink(kind)) return {at.image, at.run.ImageCount};
   return {at.page, at.run.ThumbnailPageCount};
 }
 
@@ -109,9 +109,70 @@ constexpr TagRow kRows[] = {
 
 constexpr DescriptionTags kDescriptionRows[] = {
     {"<VANTORIUM_IMAGE_DESCRIPTION", "<VANTORIUM_IMAGE_DESCRIPTION>", "<VANTORIUM_IMAGE_DESCRIPTION_FULL>",
-     &GalleryProject::textHeader, &ImageEntry::ImageDescription, &GalleryProject::textFooter},
+     kImages.description},
     {"<VANTORIUM_THUMB_DESCRIPTION", "<VANTORIUM_THUMB_DESCRIPTION>", "<VANTORIUM_THUMB_DESCRIPTION_FULL>",
-     &GalleryProject::textThumbHeader, &ImageEntry::ThumbnailDescription, &GalleryProject::textThumbFooter},
+     kThumbnails.description},
+};
+
+constexpr OfferedTag kGalleryTags[] = {
+    {"Gallery Creation Date (long)", "<VANTORIUM_GALLERY_CREATIONDATE_LONG>"},
+    {"Gallery Creation Date (short)", "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>"},
+    {"Gallery Creation Time (long)", "<VANTORIUM_GALLERY_CREATIONTIME_LONG>"},
+    {"Gallery Creation Time (short)", "<VANTORIUM_GALLERY_CREATIONTIME_SHORT>"},
+    {"Gallery Title", "<VANTORIUM_GALLERY_TITLE>"},
+};
+
+constexpr OfferedTag kImageTags[] = {
+    {"Image Count", "<VANTORIUM_IMAGE_COUNT>"},
+    {"Image File Date (long)", "<VANTORIUM_IMAGE_FILEDATE_LONG>"},
+    {"Image File Date (short)", "<VANTORIUM_IMAGE_FILEDATE_SHORT>"},
+    {"Image File Time (long)", "<VANTORIUM_IMAGE_FILETIME_LONG>"},
+    {"Image File Time (short)", "<VANTORIUM_IMAGE_FILETIME_SHORT>"},
+    {"Image File Name", "<VANTORIUM_IMAGE_FILENAME>"},
+    {"Image File Size", "<VANTORIUM_IMAGE_FILESIZE>"},
+    {"Image Title", "<VANTORIUM_IMAGE_TITLE>"},
+    {"Image Index", "<VANTORIUM_IMAGE_INDEX>"},
+    {"Image Width", "<VANTORIUM_IMAGE_WIDTH>"},
+    {"Image Height", "<VANTORIUM_IMAGE_HEIGHT>"},
+    {"Image Width Maximum", "<VANTORIUM_IMAGE_WIDTH_MAX>"},
+    {"Image Height Maximum", "<VANTORIUM_IMAGE_HEIGHT_MAX>"},
+    {"Image Description", "<VANTORIUM_IMAGE_DESCRIPTION>"},
+    {"Image Description (full)", "<VANTORIUM_IMAGE_DESCRIPTION_FULL>"},
+};
+
+constexpr OfferedTag kThumbnailTags[] = {
+    {"Thumbnail Page Count", "<VANTORIUM_THUMBPAGE_COUNT>"},
+    {"Thumbnail Page Index", "<VANTORIUM_THUMBPAGE_INDEX>"},
+    {"Thumbnail Width", "<VANTORIUM_THUMB_WIDTH>"},
+    {"Thumbnail Height", "<VANTORIUM_THUMB_HEIGHT>"},
+    {"Thumbnail Width Maximum", "<VANTORIUM_THUMB_WIDTH_MAX>"},
+    {"Thumbnail Height Maximum", "<VANTORIUM_THUMB_HEIGHT_MAX>"},
+    {"Thumbnail Description", "<VANTORIUM_THUMB_DESCRIPTION>"},
+    {"Thumbnail Description (full)", "<VANTORIUM_THUMB_DESCRIPTION_FULL>"},
+};
+
+constexpr OfferedTag kPageLinkTags[] = {
+    {"First Image", "<VANTORIUM_PAGELINK_FIRSTIMAGE_TEXT>"},
+    {"Previous Image", "<VANTORIUM_PAGELINK_PREVIMAGE_TEXT>"},
+    {"Next Image", "<VANTORIUM_PAGELINK_NEXTIMAGE_TEXT>"},
+    {"Last Image", "<VANTORIUM_PAGELINK_LASTIMAGE_TEXT>"},
+    {"Index Page", "<VANTORIUM_PAGELINK_INDEX_TEXT>"},
+    {"First Image (Graphic)", "<VANTORIUM_PAGELINK_FIRSTIMAGE_GRAPHIC>"},
+    {"Previous Image (Graphic)", "<VANTORIUM_PAGELINK_PREVIMAGE_GRAPHIC>"},
+    {"Next Image (Graphic)", "<VANTORIUM_PAGELINK_NEXTIMAGE_GRAPHIC>"},
+    {"Last Image (Graphic)", "<VANTORIUM_PAGELINK_LASTIMAGE_GRAPHIC>"},
+    {"Index Page (Graphic)", "<VANTORIUM_PAGELINK_INDEX_GRAPHIC>"},
+    {"", ""},
+    {"First Thumbnail Page", "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_TEXT>"},
+    {"Previous Thumbnail Page", "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_TEXT>"},
+    {"Next Thumbnail Page", "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_TEXT>"},
+    {"Last Thumbnail Page", "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_TEXT>"},
+    {"First Thumbnail Page (Graphic)", "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_GRAPHIC>"},
+    {"Previous Thumbnail Page (Graphic)", "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_GRAPHIC>"},
+    {"Next Thumbnail Page (Graphic)", "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_GRAPHIC>"},
+    {"Last Thumbnail Page (Graphic)", "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_GRAPHIC>"},
+    {"", ""},
+    {"Direct Thumbnail Page Links", "<VANTORIUM_PAGELINK_DIRECTTHUMBPAGE>"},
 };
 
 }  // namespace
@@ -122,6 +183,20 @@ std::span<const TagRow> TagRows() {
 
 std::span<const DescriptionTags> DescriptionTagRows() {
   return kDescriptionRows;
+}
+
+std::span<const OfferedTag> OfferedTags(TagGroup group) {
+  switch (group) {
+    case TagGroup::Gallery:
+      return kGalleryTags;
+    case TagGroup::Image:
+      return kImageTags;
+    case TagGroup::Thumbnail:
+      return kThumbnailTags;
+    case TagGroup::PageLink:
+      return kPageLinkTags;
+  }
+  return {};
 }
 
 }  // namespace vantorium

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/generation/RunState.h"
 
 #include <cstdint>
@@ -31,17 +32,27 @@ struct TagRow {
 inline constexpr std::string_view kNextImageTextTag = "<VANTORIUM_PAGELINK_NEXTIMAGE_TEXT>";
 inline constexpr std::string_view kNextImageGraphicTag = "<VANTORIUM_PAGELINK_NEXTIMAGE_GRAPHIC>";
 
-/// The tags of one description, and the fields of the project and of a list row that hold their values.
+/// The tags of one description, and the fields that hold their values.
 struct DescriptionTags {
   std::string_view start;  ///< the beginning of both tags
   std::string_view tag;
   std::string_view fullTag;  ///< with header and footer
-  std::string GalleryProject::*header;
-  std::string ImageEntry::*description;
-  std::string GalleryProject::*footer;
+  const DescriptionFields& fields;
 };
 
 /// The tags of the image description, then those of the thumbnail description.
 [[nodiscard]] std::span<const DescriptionTags> DescriptionTagRows();
+
+/// The groups in which the editors offer the tags.
+enum class TagGroup { Gallery, Image, Thumbnail, PageLink };
+
+/// A tag with the name by which it is offered. Both are empty for a separator.
+struct OfferedTag {
+  std::string_view caption;
+  std::string_view tag;
+};
+
+/// The tags of a group, in the order in which they are offered.
+[[nodiscard]] std::span<const OfferedTag> OfferedTags(TagGroup group);
 
 }  // namespace vantorium

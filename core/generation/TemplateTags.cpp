@@ -101,8 +101,9 @@ std::string ExpandDescriptionTags(const RunState& run, std::string text, std::in
   const auto expand = [&](const std::string& part) { return ExpandTags(run, part, imageIndex, pageIndex); };
   for (const DescriptionTags& tags : DescriptionTagRows()) {
     if (FindIgnoringCase(text, tags.start) == std::string::npos) continue;
-    const std::string description = expand(run.Entry(imageIndex).*tags.description);
-    const std::string full = expand(run.project.*tags.header) + description + expand(run.project.*tags.footer);
+    const std::string description = expand(run.Entry(imageIndex).*tags.fields.text);
+    const std::string full =
+        expand(run.project.*tags.fields.header) + description + expand(run.project.*tags.fields.footer);
     text = WithTagReplaced(text, tags.tag, description);
     text = WithTagReplaced(text, tags.fullTag, full);
   }
@@ -111,6 +112,12 @@ std::string ExpandDescriptionTags(const RunState& run, std::string text, std::in
 
 std::string ExpandAllTags(const RunState& run, std::string_view text, std::int32_t imageIndex, std::int32_t pageIndex) {
   return ExpandDescriptionTags(run, ExpandTags(run, text, imageIndex, pageIndex), imageIndex, pageIndex);
+}
+
+std::string DescriptionText(const RunState& run, const DescriptionFields& fields, std::int32_t imageIndex) {
+  return ExpandAllTags(run, run.project.*fields.header, imageIndex, kNoIndex) +
+         ExpandTags(run, run.Entry(imageIndex).*fields.text, imageIndex, kNoIndex) +
+         ExpandAllTags(run, run.project.*fields.footer, imageIndex, kNoIndex);
 }
 
 }  // namespace vantorium

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/generation/RunState.h"
 
 #include <cstddef>
@@ -33,5 +34,10 @@ inline constexpr std::size_t kLongestExpandedText = std::size_t{64} << 20U;
 /// ExpandTags followed by ExpandDescriptionTags.
 [[nodiscard]] std::string ExpandAllTags(const RunState& run, std::string_view text, std::int32_t imageIndex,
                                         std::int32_t pageIndex);
+
+/// Returns the description of an image or of its thumbnail as a page shows it: header, description and footer, with
+/// their tags replaced.
+[[nodiscard]] std::string DescriptionText(const RunState& run, const DescriptionFields& fields,
+                                          std::int32_t imageIndex);
 
 }  // namespace vantorium

@@ -14,8 +14,9 @@ constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
 /// Returns the caption with blanks between it and the thumbnail, as its alignment beside the thumbnail requires.
 std::string SpacedCaption(const std::string& caption, Choice alignment) {
   constexpr std::string_view kBlank = "&nbsp;";
-  const std::string_view before = alignment == 0 ? "" : kBlank;
-  const std::string_view behind = alignment == 0 || alignment == 1 ? kBlank : "";
+  const bool isStart = alignment == NumberOf(Alignment::Start);
+  const std::string_view before = isStart ? "" : kBlank;
+  const std::string_view behind = isStart || alignment == NumberOf(Alignment::Center) ? kBlank : "";
   return fmt::format("{}{}{}", before, caption, behind);
 }
 
@@ -28,7 +29,7 @@ class CellContent {
         page_(page),
         image_(image),
         description_(DescriptionPlacement(project_.comboThumbnailDescriptionPlacement)),
-        hasCaption_(project_.checkCaptionsThumbnailsRegular == 1),
+        hasCaption_(IsOn(project_.checkCaptionsThumbnailsRegular)),
         caption_(CaptionPlacement(project_.comboCaptionsThumbnailsRegularPlacement)) {}
 
   std::string Compose() {
@@ -52,14 +53,12 @@ class CellContent {
   }
 
   [[nodiscard]] std::string Alt() const {
-    if (project_.checkCaptionsThumbnailsPopup != 1) return {};
+    if (!IsOn(project_.checkCaptionsThumbnailsPopup)) return {};
     return fmt::format(R"(ALT="{}")", Expanded(project_.ThumbnailPopupCaption, page_));
   }
 
   void OpenDescription() {
-    text_ = Expanded(project_.textThumbHeader, kNoIndex);
-    text_ += ExpandTags(run_, run_.Entry(image_).ThumbnailDescription, image_, kNoIndex);
-    text_ += Expanded(project_.textThumbFooter, kNoIndex);
+    text_ = DescriptionText(run_, kThumbnails.description, image_);
     cells_ = ThumbnailDescriptionCells(project_.comboThumbnailDescriptionAlignment, description_);
     const std::int32_t width = run_.MaxThumbWidth;
     // There is no space between WIDTH and the alignment of the thumbnail's cell.
@@ -80,9 +79,8 @@ class CellContent {
 
   void OpenCaption() {
     const Choice alignment = project_.comboCaptionsThumbnailsRegularAlignment;
-    const bool isBeside = caption_ == Placement::Left || caption_ == Placement::Right;
     text_ = Expanded(project_.ThumbnailRegularCaption, page_);
-    if (isBeside) text_ = SpacedCaption(text_, alignment);
+    if (IsBeside(caption_)) text_ = SpacedCaption(text_, alignment);
     cells_ = ThumbnailCaptionCells(alignment, caption_);
     switch (caption_) {
       case Placement::Left:

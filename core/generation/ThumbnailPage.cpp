@@ -11,35 +11,32 @@
 namespace vantorium {
 namespace {
 
-/// Bits of comboPageLinksThumbnailLinkPlacement: 1 above the table, 2 below it, 3 both.
-constexpr Choice kAbove = 1;
-constexpr Choice kBelow = 2;
-/// Value of comboThumbnailsTableAlignment.
-constexpr Choice kFitToPage = 0;
-
 std::int32_t GridNumber(const Digits& text) {
   return ToInt32(ParseNumber(text).value_or(0));
 }
 
-bool HasBar(const RunState& run, Choice place) {
-  return run.ThumbnailPageCount > 1 && (run.project.comboPageLinksThumbnailLinkPlacement & place) != 0;
+/// A single page has no bar.
+LinkPlacement PlacementOfBars(const RunState& run) {
+  return run.ThumbnailPageCount > 1 ? ThumbnailLinkPlacement(run.project) : LinkPlacement::None;
 }
 
-std::string_view DivAlignment(Choice alignment) {
+std::string_view DivAlignment(TableAlignment alignment) {
   switch (alignment) {
-    case 1:
+    case TableAlignment::Left:
       return "LEFT";
-    case 3:
+    case TableAlignment::Right:
       return "RIGHT";
-    default:
-      return "CENTER";
+    case TableAlignment::FitToPage:
+    case TableAlignment::Center:
+      break;
   }
+  return "CENTER";
 }
 
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
-  const std::string backdrop = BackdropAttribute(run, kThumbnailPageBackdrop);
-  return BodyTag(project, kThumbnailPageColors, backdrop);
+  const std::string backdrop = BackdropAttribute(run, kThumbnails.backdrop);
+  return BodyTag(project, kThumbnails.colors, backdrop);
 }
 
 void AddHead(PageText& text, const RunState& run, std::int32_t page) {
@@ -56,13 +53,13 @@ void AddHead(PageText& text, const RunState& run, std::int32_t page) {
 void AddTableTag(PageText& text, const RunState& run) {
   const GalleryProject& project = run.project;
   std::string color;
-  if (project.checkThumbnailsTableUseBGColor == 1) {
+  if (IsOn(project.checkThumbnailsTableUseBGColor)) {
     color = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
   }
   text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", color,
-              BackdropAttribute(run, kThumbnailTableBackdrop), project.textThumbnailsTableBorder,
+              BackdropAttribute(run, kTableBackdrop), project.textThumbnailsTableBorder,
               project.textThumbnailsTableCellSpacing, project.textThumbnailsTableCellPadding,
-              project.comboThumbnailsTableAlignment == kFitToPage ? R"( WIDTH="100%")" : "");
+              TableAlignmentOf(project) == TableAlignment::FitToPage ? R"( WIDTH="100%")" : "");
 }
 
 /// The last row of the gallery is not padded with empty cells.
@@ -81,12 +78,12 @@ void AddGrid(PageText& text, const RunState& run, std::int32_t page, std::int32_
 
 void AddTable(PageText& text, const RunState& run, std::int32_t page, std::int32_t firstImage) {
   const std::string bar = BuildThumbnailPageBar(run, page);
-  text.Format(R"(<DIV ALIGN="{}">)", DivAlignment(run.project.comboThumbnailsTableAlignment));
-  if (HasBar(run, kAbove)) text.Line(bar);
+  text.Format(R"(<DIV ALIGN="{}">)", DivAlignment(TableAlignmentOf(run.project)));
+  if (HasBarAbove(PlacementOfBars(run))) text.Line(bar);
   AddTableTag(text, run);
   AddGrid(text, run, page, firstImage);
   text.Line("</TABLE>");
-  if (HasBar(run, kBelow)) text.Line(bar);
+  if (HasBarBelow(PlacementOfBars(run))) text.Line(bar);
   text.Line("</DIV>");
 }
 

@@ -14,17 +14,17 @@ constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
 
 /// HEIGHT has a leading space, even without WIDTH.
 std::string SizeAttributes(const GalleryProject& project) {
-  if (project.checkImageWrapperImageKeepSize == 1) return {};
-  const std::string_view unit = project.checkImageWrapperImageSizesInPercent == 1 ? "%" : "";
+  if (IsOn(project.checkImageWrapperImageKeepSize)) return {};
+  const std::string_view unit = IsOn(project.checkImageWrapperImageSizesInPercent) ? "%" : "";
   const std::string width = fmt::format(R"(WIDTH="{}{}")", project.textImageWrapperImageWidth, unit);
   const std::string height = fmt::format(R"( HEIGHT="{}{}")", project.textImageWrapperImageHeight, unit);
-  if (project.checkImageWrapperImageKeepAspectRatio != 1) return width + height;
-  return project.checkImageWrapperImageSetWidth == 1 ? width : height;
+  if (!IsOn(project.checkImageWrapperImageKeepAspectRatio)) return width + height;
+  return IsOn(project.checkImageWrapperImageSetWidth) ? width : height;
 }
 
 std::string ImageTag(const RunState& run, std::int32_t image) {
   std::string alt;
-  if (run.project.checkCaptionsImagesPopup == 1) {
+  if (IsOn(run.project.checkCaptionsImagesPopup)) {
     alt = fmt::format(R"(ALT="{}")", ExpandAllTags(run, run.project.ImagePopupCaption, image, kNoIndex));
   }
   return fmt::format(R"(<IMG SRC="{}" BORDER="0" {} {}>)", ImageUrl(run, image), SizeAttributes(run.project), alt);
@@ -32,7 +32,7 @@ std::string ImageTag(const RunState& run, std::int32_t image) {
 
 std::string WithCaption(const RunState& run, std::int32_t image, std::string content) {
   const GalleryProject& project = run.project;
-  if (project.checkCaptionsImagesRegular != 1) return content;
+  if (!IsOn(project.checkCaptionsImagesRegular)) return content;
   const Placement placement = CaptionPlacement(project.comboCaptionsImagesRegularPlacement);
   const CellPair cells = ImageCaptionCells(project.comboCaptionsImagesRegularAlignment, placement);
   const std::string caption = ExpandAllTags(run, project.ImageRegularCaption, image, kNoIndex);
@@ -53,18 +53,12 @@ std::string WithCaption(const RunState& run, std::int32_t image, std::string con
   return content;
 }
 
-std::string DescriptionText(const RunState& run, std::int32_t image) {
-  return ExpandAllTags(run, run.project.textHeader, image, kNoIndex) +
-         ExpandTags(run, run.Entry(image).ImageDescription, image, kNoIndex) +
-         ExpandAllTags(run, run.project.textFooter, image, kNoIndex);
-}
-
 /// Puts the description around image and caption.
 std::string WithDescription(const RunState& run, std::int32_t image, std::string content) {
   const Placement placement = DescriptionPlacement(run.project.comboImageDescriptionPlacement);
   if (placement == Placement::None) return content;
   const std::string_view cell = ImageDescriptionCell(run.project.comboImageDescriptionAlignment, placement);
-  const std::string text = DescriptionText(run, image);
+  const std::string text = DescriptionText(run, kImages.description, image);
   switch (placement) {
     case Placement::Left:
       return fmt::format(R"({}<TD {}>{}</TD><TD ALIGN="CENTER">{}{})", kTable, cell, text, content, kTableEnd);

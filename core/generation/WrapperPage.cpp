@@ -10,20 +10,12 @@
 namespace vantorium {
 namespace {
 
-/// Bits of comboPageLinksImageLinkPlacement: 1 above the image, 2 below it, 3 both.
-constexpr Choice kAbove = 1;
-constexpr Choice kBelow = 2;
-
-bool HasBar(const GalleryProject& project, Choice place) {
-  return (project.comboPageLinksImageLinkPlacement & place) != 0;
-}
-
 /// If the thumbnail pages have the same backdrop, uses their copy of it.
 std::string PageBodyTag(const RunState& run) {
   const GalleryProject& project = run.project;
   const bool shared = project.textImageWrapperBackdrop == project.textThumbnailsPageBackdrop;
-  const std::string backdrop = BackdropAttribute(run, shared ? kThumbnailPageBackdrop : kImagePageBackdrop);
-  return BodyTag(project, kImagePageColors, backdrop);
+  const std::string backdrop = BackdropAttribute(run, (shared ? kThumbnails : kImages).backdrop);
+  return BodyTag(project, kImages.colors, backdrop);
 }
 
 void AddHead(PageText& page, const RunState& run, std::int32_t image) {
@@ -53,12 +45,12 @@ void AddImage(PageText& page, const RunState& run, std::int32_t image) {
 void AddImageWithBars(PageText& page, const RunState& run, std::int32_t image) {
   constexpr std::string_view kLineBreak = "<BR>";
   const std::string bar = BuildImagePageBar(run, image);
-  if (HasBar(run.project, kAbove)) {
+  if (HasBarAbove(ImageLinkPlacement(run.project))) {
     page.Line(bar);
     page.Line(kLineBreak);
   }
   AddImage(page, run, image);
-  if (HasBar(run.project, kBelow)) {
+  if (HasBarBelow(ImageLinkPlacement(run.project))) {
     page.Line(kLineBreak);
     page.Line(bar);
   }

@@ -12,7 +12,7 @@ using namespace vantorium;
 
 namespace {
 
-constexpr std::int32_t kImages = 3;
+constexpr std::int32_t kImageCount = 3;
 
 /// Three images on three pages. All three have the texts of the input.
 class Run {
@@ -30,8 +30,8 @@ class Run {
     }
     const std::string name = fuzz::TakePart(lines, '\n');
     const std::string description = fuzz::TakePart(lines, '\n');
-    for (std::int32_t i = 1; i <= kImages; ++i) AddImage(name, description);
-    state.ImageCount = state.ThumbnailPageCount = kImages;
+    for (std::int32_t i = 1; i <= kImageCount; ++i) AddImage(name, description);
+    state.ImageCount = state.ThumbnailPageCount = kImageCount;
   }
 
  private:
@@ -100,7 +100,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   run.TakeTexts(lines);
   Check(run.state, text, 1, kNoIndex);
   Check(run.state, text, 2, 2);
-  Check(run.state, text, kNoIndex, kImages);
+  Check(run.state, text, kNoIndex, kImageCount);
   Check(run.state, text, kNoIndex, kNoIndex);
   return 0;
 }

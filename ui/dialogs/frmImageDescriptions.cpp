@@ -44,7 +44,7 @@ frmImageDescriptions::frmImageDescriptions(Project& project, FieldBinder& binder
             *ui_->textThumbFooter, *ui_->frmThumbDescription, *ui_->textThumbDescription}}} {
   auto* menu = new ucPopupMenu(*this);
   for (const Page& page : pages_) {
-    FillList(page.placement, FieldOf(page.kind.placement).values);
+    FillList(page.placement, FieldOf(page.kind.fields.placement).values);
     for (QPlainTextEdit* box : {&page.header, &page.footer, &page.text}) menu->Serve(*box);
     Connect(page);
   }
@@ -59,9 +59,9 @@ frmImageDescriptions::~frmImageDescriptions() = default;
 
 void frmImageDescriptions::Connect(const Page& page) {
   connect(&page.header, &QPlainTextEdit::textChanged, this,
-          [this, &page] { WriteSetting(page.header, page.kind.header); });
+          [this, &page] { WriteSetting(page.header, page.kind.fields.header); });
   connect(&page.footer, &QPlainTextEdit::textChanged, this,
-          [this, &page] { WriteSetting(page.footer, page.kind.footer); });
+          [this, &page] { WriteSetting(page.footer, page.kind.fields.footer); });
   connect(&page.text, &QPlainTextEdit::textChanged, this,
           [this, &page] { binder_.Edit([&](ProjectEditor&) { model_.SetText(page.kind, CodeOf(page.text)); }); });
   connect(&page.placement, &QComboBox::activated, this, [this, &page](int index) {
@@ -84,8 +84,8 @@ void frmImageDescriptions::FollowSelection() {
   for (const Page& page : pages_) {
     page.caption.setTitle(WithoutMnemonics(model_.Caption(page.kind)));
     Fill(page.text, model_.Text(page.kind), sameImage);
-    Fill(page.header, project_.settings.*page.kind.header, sameProject);
-    Fill(page.footer, project_.settings.*page.kind.footer, sameProject);
+    Fill(page.header, project_.settings.*page.kind.fields.header, sameProject);
+    Fill(page.footer, project_.settings.*page.kind.fields.footer, sameProject);
   }
   if (isVisible()) ShowPlacings();
 }

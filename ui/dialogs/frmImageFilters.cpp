@@ -1,5 +1,6 @@
 #include "ui/dialogs/frmImageFilters.h"
 
+#include "core/Choices.h"
 #include "ui/main/WaitPointer.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/AlignWidths.h"
@@ -34,9 +35,8 @@ frmImageFilters::frmImageFilters(const std::string& title, const ImageFilterSett
 frmImageFilters::~frmImageFilters() = default;
 
 void frmImageFilters::Bind(QCheckBox& control, std::int16_t ImageFilterSettings::*field) {
-  control.setChecked(model_->Settings().*field == 1);
-  connect(&control, &QCheckBox::clicked, this,
-          [this, field](bool checked) { model_->Set(field, static_cast<std::int16_t>(checked ? 1 : 0)); });
+  control.setChecked(IsOn(model_->Settings().*field));
+  connect(&control, &QCheckBox::clicked, this, [this, field](bool checked) { model_->Set(field, FlagOf(checked)); });
 }
 
 void frmImageFilters::Bind(QSlider& control, QLabel& label, std::int16_t ImageFilterSettings::*field) {

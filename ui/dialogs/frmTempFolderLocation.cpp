@@ -1,5 +1,6 @@
 #include "ui/dialogs/frmTempFolderLocation.h"
 
+#include "core/Choices.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/OneLineValidator.h"
 #include "ui/widgets/ShowText.h"
@@ -19,7 +20,7 @@ frmTempFolderLocation::frmTempFolderLocation(TempFolderLocation& model, FolderBr
     model_.TakeNativePath();
     ShowModel();
   });
-  connect(ui_->checkAutoClear, &QCheckBox::toggled, this, [this](bool on) { model_.checkAutoClear = on ? 1 : 0; });
+  connect(ui_->checkAutoClear, &QCheckBox::toggled, this, [this](bool on) { model_.checkAutoClear = FlagOf(on); });
   connect(ui_->btnBrowse, &QAbstractButton::clicked, this, [this, &folders] {
     model_.Browse(folders);
     ShowModel();
@@ -42,7 +43,7 @@ void frmTempFolderLocation::accept() {
 
 void frmTempFolderLocation::ShowModel() {
   ShowText(*ui_->textTempFolderLocation, model_.textTempFolderLocation);
-  ui_->checkAutoClear->setChecked(model_.checkAutoClear != 0);
+  ui_->checkAutoClear->setChecked(!IsOff(model_.checkAutoClear));
 }
 
 bool EditTempFolderLocation(Preferences& preferences, const std::string& appPath, MessageBoxPort& boxes,

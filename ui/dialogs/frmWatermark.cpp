@@ -1,5 +1,6 @@
 #include "ui/dialogs/frmWatermark.h"
 
+#include "core/Choices.h"
 #include "ui/main/WaitPointer.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/AlignWidths.h"
@@ -39,7 +40,7 @@ frmWatermark::~frmWatermark() = default;
 
 void frmWatermark::ShowSettings() {
   const WatermarkSettings& settings = model_->Settings();
-  ui_->checkUseWatermark->setChecked(settings.checkUseWatermark == 1);
+  ui_->checkUseWatermark->setChecked(IsOn(settings.checkUseWatermark));
   ShowCode(*ui_->textWatermark, settings.textWatermark);
   ui_->textWatermark->selectAll();
   ShowLines(*ui_->textWatermark, 3);

@@ -51,7 +51,7 @@ void SettingsPages::Refresh(const GalleryProject& project) {
     }
   }
   for (const UnitLabel& label : UnitLabels()) {
-    Find<QLabel>(label.control).setText(ToQt(project.*label.isPercent == 1 ? label.inPercent : label.inPixels));
+    Find<QLabel>(label.control).setText(ToQt(IsOn(project.*label.isPercent) ? label.inPercent : label.inPixels));
   }
   RefreshAlignments(project);
   RefreshLayoutPicture(project);

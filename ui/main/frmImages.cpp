@@ -1,5 +1,6 @@
 #include "ui/main/frmImages.h"
 
+#include "core/Choices.h"
 #include "core/RandomNumbers.h"
 #include "ui/dialogs/frmFind.h"
 #include "ui/dialogs/frmInvalidImage.h"
@@ -51,7 +52,7 @@ void frmImages::ConnectPreview() {
   connect(ui_->pbImagesPreview, &ImagePreview::DoubleClicked, this, &frmImages::AskForFullScreen);
   connect(ui_->pbImagesPreview, &ImagePreview::Failed, this, &frmImages::AskAboutInvalidImage);
   connect(ui_->checkImagesPreview, &QCheckBox::toggled, this, [this](bool checked) {
-    parts_.preferences.checkImagesPreview = checked ? 1 : 0;
+    parts_.preferences.checkImagesPreview = FlagOf(checked);
     RefreshPreview();
   });
 }
@@ -92,7 +93,7 @@ void frmImages::RefreshList() {
   if (scrollTo_ != 0) ui_->lvImagesList->ScrollToPosition(scrollTo_);
   scrollTo_ = 0;
   const QSignalBlocker quiet(ui_->checkImagesPreview);
-  ui_->checkImagesPreview->setChecked(parts_.preferences.checkImagesPreview == 1);
+  ui_->checkImagesPreview->setChecked(IsOn(parts_.preferences.checkImagesPreview));
   emit CurrentChanged();
 }
 
@@ -108,7 +109,7 @@ void frmImages::RefreshPreview() {
   const ImageEntry* entry = CurrentEntry();
   const auto file = entry == nullptr ? std::nullopt : parts_.paths.ToNative(entry->SourcePath);
   ui_->lblImagesSize->setText(ToQt(ImageSizeLabel(file)));
-  if (entry == nullptr || parts_.preferences.checkImagesPreview != 1) {
+  if (entry == nullptr || !IsOn(parts_.preferences.checkImagesPreview)) {
     ui_->pbImagesPreview->Clear();
   } else {
     ui_->pbImagesPreview->Load(file);

@@ -87,12 +87,11 @@ void FieldBinder::Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProjec
 
 void FieldBinder::Bind(QCheckBox& control, Flag GalleryProject::*field) {
   fields_.push_back(&FieldOf(field));
-  connect(&control, &QCheckBox::clicked, this, [this, field](bool checked) {
-    Edit([&](ProjectEditor& editor) { editor.Set(field, static_cast<Flag>(checked ? 1 : 0)); });
-  });
+  connect(&control, &QCheckBox::clicked, this,
+          [this, field](bool checked) { Edit([&](ProjectEditor& editor) { editor.Set(field, FlagOf(checked)); }); });
   show_.push_back([&control, field](const GalleryProject& project) {
     const QSignalBlocker quiet(control);
-    control.setChecked(project.*field != 0);
+    control.setChecked(!IsOff(project.*field));
   });
 }
 

@@ -3,15 +3,11 @@
 namespace vantorium {
 namespace {
 
-using P = GalleryProject;
-
 constexpr std::array<DescriptionKind, 2> kKinds = {{
-    {"Image Description: ", &ImageEntry::ImageDescription, &ImageList::SetImageDescription, &P::textHeader,
-     &P::textFooter, &P::comboImageDescriptionPlacement, &P::comboImageDescriptionAlignment,
+    {"Image Description: ", kImages.description, &ImageList::SetImageDescription,
      "Image Descriptions Header and Footer", "Clear Image Descriptions",
      "This will delete the Descriptions for ALL Images in the Gallery.  Are you sure you wish to continue?"},
-    {"Thumb Description: ", &ImageEntry::ThumbnailDescription, &ImageList::SetThumbnailDescription, &P::textThumbHeader,
-     &P::textThumbFooter, &P::comboThumbnailDescriptionPlacement, &P::comboThumbnailDescriptionAlignment,
+    {"Thumb Description: ", kThumbnails.description, &ImageList::SetThumbnailDescription,
      "Thumbnail Descriptions Header and Footer", "Clear Thumbnail Descriptions",
      "This will delete the Descriptions for ALL Thumbnails in the Gallery.  Are you sure you wish to continue?"},
 }};
@@ -31,7 +27,7 @@ std::string Descriptions::Caption(const DescriptionKind& kind) const {
 }
 
 std::string Descriptions::Text(const DescriptionKind& kind) const {
-  return HasImage() ? project_.images.Entry(project_.images.Current()).*kind.text : std::string();
+  return HasImage() ? project_.images.Entry(project_.images.Current()).*kind.fields.text : std::string();
 }
 
 void Descriptions::SetText(const DescriptionKind& kind, std::string text) {
@@ -73,15 +69,13 @@ void Descriptions::ChooseAlignment(const DescriptionKind& kind, Choice alignment
 }
 
 ValueList Descriptions::Alignments(const DescriptionKind& kind) const {
-  const Choice placement = Shown(kind).placement;
-  const bool leftOrRight = placement == 1 || placement == 2;
-  return AlignmentTexts(!leftOrRight);
+  return AlignmentTexts(!IsBeside(DescriptionPlacement(Shown(kind).placement)));
 }
 
 void Descriptions::StorePlacings(ProjectEditor& editor) {
   for (const DescriptionKind& kind : kKinds) {
-    editor.Set(kind.placement, Shown(kind).placement);
-    editor.Set(kind.alignment, Shown(kind).alignment);
+    editor.Set(kind.fields.placement, Shown(kind).placement);
+    editor.Set(kind.fields.alignment, Shown(kind).alignment);
   }
   taken_ = shown_;
 }
@@ -93,7 +87,7 @@ std::size_t Descriptions::IndexOf(const DescriptionKind& kind) {
 Descriptions::Placings Descriptions::StoredPlacings() const {
   Placings stored;
   for (const DescriptionKind& kind : kKinds) {
-    stored[IndexOf(kind)] = {project_.settings.*kind.placement, project_.settings.*kind.alignment};
+    stored[IndexOf(kind)] = {project_.settings.*kind.fields.placement, project_.settings.*kind.fields.alignment};
   }
   return stored;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/GalleryTargets.h"
 #include "core/Project.h"
 #include "core/ProjectEditor.h"
 #include "core/ProjectFields.h"
@@ -14,12 +15,8 @@ namespace vantorium {
 /// The differences between descriptions of images and of thumbnails.
 struct DescriptionKind {
   std::string_view caption;  ///< of the frame around the text, before the image's name
-  std::string ImageEntry::*text;
+  DescriptionFields fields;
   void (ImageList::*setText)(std::size_t position, std::string text);
-  std::string GalleryProject::*header;
-  std::string GalleryProject::*footer;
-  Choice GalleryProject::*placement;
-  Choice GalleryProject::*alignment;
   std::string_view headerFooterTitle;
   std::string_view clearTitle;
   std::string_view clearQuestion;
@@ -66,7 +63,9 @@ class Descriptions {
   /// A different placement marks the project as modified; the alignment keeps its index.
   void ChoosePlacement(const DescriptionKind& kind, Choice placement);
   void ChooseAlignment(const DescriptionKind& kind, Choice alignment);
-  [[nodiscard]] bool IsAlignmentEnabled(const DescriptionKind& kind) const { return Shown(kind).placement != 0; }
+  [[nodiscard]] bool IsAlignmentEnabled(const DescriptionKind& kind) const {
+    return DescriptionPlacement(Shown(kind).placement) != Placement::None;
+  }
   [[nodiscard]] ValueList Alignments(const DescriptionKind& kind) const;
   /// Whether the window is open with placements that differ from the project's.
   [[nodiscard]] bool HasUnstoredPlacings() const { return !justLoaded_ && shown_ != StoredPlacings(); }

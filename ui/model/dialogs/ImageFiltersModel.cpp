@@ -1,5 +1,6 @@
 #include "ui/model/dialogs/ImageFiltersModel.h"
 
+#include "core/Choices.h"
 #include "image/Filters.h"
 #include "image/Resample.h"
 
@@ -53,17 +54,17 @@ void ImageFiltersModel::Preview() {
 }
 
 void ImageFiltersModel::Filter(cDIBSection& picture) {
-  if (settings_.checkNoise == 1) AddNoise(picture, settings_.sliderNoise, settings_.checkNoiseRandom == 1, noise_);
-  if (settings_.checkFade == 1) Fade(picture, settings_.sliderFade);
-  if (settings_.checkBrightness == 1) Lighten(picture, settings_.sliderBrightness);
-  if (settings_.checkGrayscale == 1) GrayScale(picture);
+  if (IsOn(settings_.checkNoise)) AddNoise(picture, settings_.sliderNoise, IsOn(settings_.checkNoiseRandom), noise_);
+  if (IsOn(settings_.checkFade)) Fade(picture, settings_.sliderFade);
+  if (IsOn(settings_.checkBrightness)) Lighten(picture, settings_.sliderBrightness);
+  if (IsOn(settings_.checkGrayscale)) GrayScale(picture);
 }
 
 void ImageFiltersModel::Apply() {
   if (!dialog_.IsOpen()) return;
-  if (settings_.sliderNoise == 0) settings_.checkNoise = 0;
-  if (settings_.sliderBrightness == 0) settings_.checkBrightness = 0;
-  if (settings_.sliderFade == 255) settings_.checkFade = 0;
+  if (settings_.sliderNoise == 0) settings_.checkNoise = kOff;
+  if (settings_.sliderBrightness == 0) settings_.checkBrightness = kOff;
+  if (settings_.sliderFade == 255) settings_.checkFade = kOff;
   dialog_.Close(false);
 }
 

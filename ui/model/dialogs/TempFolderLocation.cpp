@@ -29,7 +29,7 @@ void TempFolderLocation::Browse(FolderBrowser& browser) {
 
 void TempFolderLocation::Reset() {
   textTempFolderLocation = appPath_;
-  checkAutoClear = 1;
+  checkAutoClear = kOn;
 }
 
 bool TempFolderLocation::Accept() {

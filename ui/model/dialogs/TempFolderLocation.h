@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Choices.h"
 #include "env/MessageBoxPort.h"
 #include "env/Preferences.h"
 #include "env/mFileFunctions.h"
@@ -19,7 +20,7 @@ class TempFolderLocation {
 
   /// Content of the text box, path text. TakeNativePath and Accept convert a typed native path to path text.
   std::string textTempFolderLocation;
-  std::int16_t checkAutoClear = 1;
+  Flag checkAutoClear = kOn;
 
   void TakeNativePath();
   /// btnBrowse: lets the user choose the folder.

@@ -1,5 +1,6 @@
 #include "ui/model/dialogs/WatermarkModel.h"
 
+#include "core/Choices.h"
 #include "env/Numbers.h"
 #include "image/Resample.h"
 #include "image/Watermark.h"
@@ -79,7 +80,7 @@ void WatermarkModel::Open() {
 }
 
 void WatermarkModel::SetUseWatermark(bool use) {
-  settings_.checkUseWatermark = use ? 1 : 0;
+  settings_.checkUseWatermark = FlagOf(use);
   Preview();
 }
 
@@ -121,7 +122,7 @@ void WatermarkModel::Preview() {
   const PictureSize size = box_.SizeInPixels();
   const auto picture = Resample(dialog_.Source(), size.height, size.width);
   if (picture == nullptr) return;
-  if (settings_.checkUseWatermark == 1) DrawWatermark(*picture);
+  if (IsOn(settings_.checkUseWatermark)) DrawWatermark(*picture);
   if (dialog_.Compress(*picture, quality_, *picture)) {
     box_.PaintPicture(*picture);
   } else {

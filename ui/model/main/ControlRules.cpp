@@ -1,5 +1,7 @@
 #include "ui/model/main/ControlRules.h"
 
+#include "core/GalleryTargets.h"
+
 namespace vantorium {
 namespace {
 
@@ -8,53 +10,44 @@ using P = const GalleryProject&;
 constexpr auto kVisible = ControlProperty::Visible;
 constexpr auto kEnabled = ControlProperty::Enabled;
 
-bool SingleFrame(P p) {
-  return p.comboGalleryLayoutType == 0;
-}
 bool SeveralFrames(P p) {
-  return !SingleFrame(p);
+  return !IsSingleFrame(p);
 }
 bool SlideShow(P p) {
-  return p.checkGallerySlideShow == 1;
+  return IsOn(p.checkGallerySlideShow);
 }
 bool BeginsWithPage(P p) {
-  return p.comboGallerySlideShowBeginWith == 0;
+  return SlideShowBeginOf(p) == SlideShowBegin::FirstThumbnailPage;
 }
 bool GoesToNextImage(P p) {
-  return p.comboGallerySlideShowActionAfterImage == 0;
+  return SlideShowActionOf(p) == SlideShowAction::NextImage;
 }
 bool Wrappers(P p) {
-  return p.checkImageWrapperUse == 1;
+  return IsOn(p.checkImageWrapperUse);
 }
 
-// Whether the width or the height of a picture is given; both are unless the aspect ratio is kept.
-bool ImageRatioKept(P p) {
-  return p.checkImageWrapperImageKeepAspectRatio == 1;
+// Whether the width or the height of a target's pictures is given; both are unless the aspect ratio is kept.
+template <const TargetFields& target>
+bool RatioKept(P p) {
+  return IsOn(p.*target.size.keepAspectRatio);
 }
-bool ImageWidthGiven(P p) {
-  return !ImageRatioKept(p) || p.checkImageWrapperImageSetWidth == 1;
+template <const TargetFields& target>
+bool WidthGiven(P p) {
+  return !RatioKept<target>(p) || IsOn(p.*target.size.setWidth);
 }
-bool ImageHeightGiven(P p) {
-  return !ImageRatioKept(p) || p.checkImageWrapperImageSetWidth == 0;
-}
-bool ThumbnailRatioKept(P p) {
-  return p.checkThumbnailsImageKeepAspectRatio == 1;
-}
-bool ThumbnailWidthGiven(P p) {
-  return !ThumbnailRatioKept(p) || p.checkThumbnailsImageSetWidth == 1;
-}
-bool ThumbnailHeightGiven(P p) {
-  return !ThumbnailRatioKept(p) || p.checkThumbnailsImageSetWidth == 0;
+template <const TargetFields& target>
+bool HeightGiven(P p) {
+  return !RatioKept<target>(p) || IsOff(p.*target.size.setWidth);
 }
 
 template <Flag GalleryProject::*flag>
 bool IsSet(P p) {
-  return p.*flag == 1;
+  return IsOn(p.*flag);
 }
 
 constexpr ControlRule kRules[] = {
     // Gallery
-    {"frmFrameLayoutSingleFrame", kVisible, SingleFrame},
+    {"frmFrameLayoutSingleFrame", kVisible, IsSingleFrame},
     {"frmFrameLayoutMultipleFrames", kVisible, SeveralFrames},
     {"frmFrameLayoutSlideShow", kVisible, SlideShow},
     {"checkGallerySlideShowAutoStart", kVisible, BeginsWithPage},
@@ -66,38 +59,38 @@ constexpr ControlRule kRules[] = {
     // Image wrappers
     {"frmImageWrapperCodeSettings", kVisible, Wrappers},
     {"frmImageWrapperImageSettings", kVisible, Wrappers},
-    {"btnImageWrapperColors", kEnabled, IsSet<&GalleryProject::checkImageWrapperSetColors>},
-    {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return p.checkImageWrapperImageKeepSize == 0; }},
-    {"checkImageWrapperImageSetWidth", kVisible, ImageRatioKept},
-    {"lblImageWrapperImageWidth", kVisible, ImageWidthGiven},
-    {"textImageWrapperImageWidth", kVisible, ImageWidthGiven},
-    {"udImageWrapperImageWidth", kVisible, ImageWidthGiven},
-    {"lblImageWrapperImageHeight", kVisible, ImageHeightGiven},
-    {"textImageWrapperImageHeight", kVisible, ImageHeightGiven},
-    {"udImageWrapperImageHeight", kVisible, ImageHeightGiven},
+    {"btnImageWrapperColors", kEnabled, IsSet<kImages.colors.use>},
+    {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return IsOff(p.checkImageWrapperImageKeepSize); }},
+    {"checkImageWrapperImageSetWidth", kVisible, RatioKept<kImages>},
+    {"lblImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
+    {"textImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
+    {"udImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
+    {"lblImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
+    {"textImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
+    {"udImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
     // Thumbnails
-    {"btnThumbnailsPageColors", kEnabled, IsSet<&GalleryProject::checkThumbnailsPageSetColors>},
+    {"btnThumbnailsPageColors", kEnabled, IsSet<kThumbnails.colors.use>},
     {"btnThumbnailsTableBGColor", kVisible, IsSet<&GalleryProject::checkThumbnailsTableUseBGColor>},
-    {"checkThumbnailsImageSetWidth", kVisible, ThumbnailRatioKept},
-    {"lblThumbnailsImageWidth", kVisible, ThumbnailWidthGiven},
-    {"textThumbnailsImageWidth", kVisible, ThumbnailWidthGiven},
-    {"udThumbnailsImageWidth", kVisible, ThumbnailWidthGiven},
-    {"lblThumbnailsImageHeight", kVisible, ThumbnailHeightGiven},
-    {"textThumbnailsImageHeight", kVisible, ThumbnailHeightGiven},
-    {"udThumbnailsImageHeight", kVisible, ThumbnailHeightGiven},
+    {"checkThumbnailsImageSetWidth", kVisible, RatioKept<kThumbnails>},
+    {"lblThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
+    {"textThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
+    {"udThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
+    {"lblThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
+    {"textThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
+    {"udThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
     // Captions
     {"frmCaptionsImages", kVisible, Wrappers},
-    {"btnCaptionsImagesRegular", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesRegular>},
-    {"comboCaptionsImagesRegularPlacement", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesRegular>},
-    {"comboCaptionsImagesRegularAlignment", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesRegular>},
-    {"btnCaptionsImagesPopup", kEnabled, IsSet<&GalleryProject::checkCaptionsImagesPopup>},
-    {"btnCaptionsThumbnailsRegular", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsRegular>},
-    {"comboCaptionsThumbnailsRegularPlacement", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsRegular>},
-    {"comboCaptionsThumbnailsRegularAlignment", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsRegular>},
-    {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<&GalleryProject::checkCaptionsThumbnailsPopup>},
+    {"btnCaptionsImagesRegular", kEnabled, IsSet<kImages.captions.regular>},
+    {"comboCaptionsImagesRegularPlacement", kEnabled, IsSet<kImages.captions.regular>},
+    {"comboCaptionsImagesRegularAlignment", kEnabled, IsSet<kImages.captions.regular>},
+    {"btnCaptionsImagesPopup", kEnabled, IsSet<kImages.captions.popup>},
+    {"btnCaptionsThumbnailsRegular", kEnabled, IsSet<kThumbnails.captions.regular>},
+    {"comboCaptionsThumbnailsRegularPlacement", kEnabled, IsSet<kThumbnails.captions.regular>},
+    {"comboCaptionsThumbnailsRegularAlignment", kEnabled, IsSet<kThumbnails.captions.regular>},
+    {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<kThumbnails.captions.popup>},
     // Page links
     {"frmPageLinksOnImagePages", kVisible, Wrappers},
-    {"btnPageLinksImageIndexLink", kEnabled, SingleFrame},
+    {"btnPageLinksImageIndexLink", kEnabled, IsSingleFrame},
     {"textPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&GalleryProject::checkPageLinksThumbnailDirectLinks>},
     {"udPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&GalleryProject::checkPageLinksThumbnailDirectLinks>},
 };
@@ -111,9 +104,8 @@ constexpr UnitLabel kUnitLabels[] = {
 };
 
 constexpr AlignmentList kAlignmentLists[] = {
-    {&GalleryProject::comboCaptionsImagesRegularAlignment, &GalleryProject::comboCaptionsImagesRegularPlacement, 2},
-    {&GalleryProject::comboCaptionsThumbnailsRegularAlignment, &GalleryProject::comboCaptionsThumbnailsRegularPlacement,
-     2},
+    {kImages.captions.alignment, kImages.captions.placement},
+    {kThumbnails.captions.alignment, kThumbnails.captions.placement},
 };
 
 }  // namespace
@@ -131,7 +123,7 @@ std::span<const AlignmentList> AlignmentLists() {
 }
 
 bool IsAboveOrBelow(const AlignmentList& list, const GalleryProject& project) {
-  return project.*list.placement >= list.firstAboveOrBelow;
+  return IsAboveOrBelow(CaptionPlacement(project.*list.placement));
 }
 
 int LayoutPicture(const GalleryProject& project) {

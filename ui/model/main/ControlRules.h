@@ -31,11 +31,10 @@ struct UnitLabel {
 
 [[nodiscard]] std::span<const UnitLabel> UnitLabels();
 
-/// A list of alignments, which depends on a placement; the list's index is kept while its texts change.
+/// A list of a caption's alignments, which depends on its placement; the list's index is kept while its texts change.
 struct AlignmentList {
   Choice GalleryProject::*alignment;
   Choice GalleryProject::*placement;
-  Choice firstAboveOrBelow;  ///< placements from this one on are above and below
 };
 
 /// Returns the alignment lists of the captions.

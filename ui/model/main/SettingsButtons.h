@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/GalleryProject.h"
-#include "core/PageColors.h"
+#include "core/GalleryTargets.h"
 
 #include <span>
 #include <string_view>

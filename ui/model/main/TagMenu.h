@@ -1,17 +1,17 @@
 #pragma once
 
+#include "core/generation/TagTable.h"
+
 #include <span>
 #include <string_view>
 
 namespace vantorium {
 
 /// An entry that inserts a template tag; caption and tag are empty for a separator.
-struct TagMenuEntry {
-  std::string_view caption;
-  std::string_view tag;
-};
+using TagMenuEntry = OfferedTag;
 
-/// One submenu of "Insert Vantorium Tag". An entry's object name is the menu's name followed by the entry's index.
+/// One submenu of "Insert Vantorium Tag", which inserts the tags of one group. An entry's object name is the menu's
+/// name followed by the entry's index.
 struct TagMenu {
   std::string_view name;
   std::string_view caption;
