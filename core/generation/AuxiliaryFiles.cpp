@@ -2,6 +2,7 @@
 
 #include "core/generation/PageLinks.h"
 #include "core/generation/PageParts.h"
+#include "core/generation/RunMessages.h"
 #include "env/PathText.h"
 
 namespace vantorium {
@@ -28,10 +29,10 @@ std::string Resolved(const RunState& run, const std::string& source) {
 
 /// Adds the file named by a setting, unless the setting is empty.
 void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::string& setting,
-             std::string_view fixedName, AuxiliarySpelling spelling) {
+             std::string_view fixedName, bool isImageLink) {
   if (setting.empty()) return;
   const std::string source = Resolved(run, setting);
-  files.push_back({source, std::string(fixedName) + GetFileExtension(source), spelling});
+  files.push_back({source, std::string(fixedName) + GetFileExtension(source), isImageLink});
 }
 
 bool IsImageLink(LinkKind kind) {
@@ -39,14 +40,16 @@ bool IsImageLink(LinkKind kind) {
 }
 
 PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
-  return context.Settle(context.target.CopyAuxiliary(file.source, file.name, file.spelling));
+  Delivery delivery = context.target.CopyAuxiliary(file.source, file.name);
+  if (delivery && context.run.mode != GenerationMode::Publish) delivery->text = UnableToCopyAuxiliary(file);
+  return context.Settle(delivery);
 }
 
 }  // namespace
 
 std::vector<AuxiliaryFile> Backdrops(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  for (const auto& [name, source] : kBackdrops) AddFile(files, run, run.project.*source, name, AuxiliarySpelling::File);
+  for (const auto& [name, source] : kBackdrops) AddFile(files, run, run.project.*source, name, /*isImageLink=*/false);
   return files;
 }
 
@@ -54,14 +57,20 @@ std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
   std::vector<AuxiliaryFile> files;
   for (const LinkKind kind : kLinks) {
     // Links between images stand on wrapper pages only.
-    if (IsImageLink(kind) && run.project.checkImageWrapperUse != 1) continue;
-    const auto spelling = IsImageLink(kind) ? AuxiliarySpelling::file : AuxiliarySpelling::File;
+    const bool isImageLink = IsImageLink(kind);
+    if (isImageLink && run.project.checkImageWrapperUse != 1) continue;
     const auto& [field, name, nameAtDeadEnd] = GraphicsOf(kind);
     const LinkSettings& link = run.project.*field;
-    AddFile(files, run, link.textLinkGraphic, name, spelling);
-    if (!nameAtDeadEnd.empty()) AddFile(files, run, link.textLinkGraphicDisabled, nameAtDeadEnd, spelling);
+    AddFile(files, run, link.textLinkGraphic, name, isImageLink);
+    if (!nameAtDeadEnd.empty()) AddFile(files, run, link.textLinkGraphicDisabled, nameAtDeadEnd, isImageLink);
   }
   return files;
+}
+
+/// The links between images have a message of their own, with a small letter.
+std::string UnableToCopyAuxiliary(const AuxiliaryFile& file) {
+  if (!file.isImageLink) return UnableToCopy(file.source);
+  return "Unable to copy the file \"" + file.source + "\".";
 }
 
 PhaseResult CopyBackdrops(const RunContext& context) {

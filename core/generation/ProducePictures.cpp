@@ -2,6 +2,7 @@
 
 #include "core/generation/PictureRecipes.h"
 #include "core/generation/PictureWorkshop.h"
+#include "core/generation/RunMessages.h"
 #include "core/generation/ThumbnailSpool.h"
 #include "env/RuntimeFailure.h"
 
@@ -71,7 +72,7 @@ class PictureProduction {
   }
 
   [[nodiscard]] PhaseResult ImageNotLoaded(Number number) const {
-    return NotLoaded("Unable to copy the File \"" + run_.Info(number).Path + "\".");
+    return NotLoaded(UnableToCopy(run_.Info(number).Path));
   }
 
   const RunContext& context_;

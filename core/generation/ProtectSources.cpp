@@ -3,6 +3,7 @@
 #include "core/generation/AuxiliaryFiles.h"
 #include "core/generation/OutputNaming.h"
 #include "core/generation/PictureRecipes.h"
+#include "core/generation/RunMessages.h"
 #include "core/generation/SourceStamp.h"
 
 #include <set>
@@ -50,7 +51,7 @@ class Sources {
 
 Output Page(const RunState& run, const std::string& name) {
   const std::string path = run.OutputFolder + name;
-  return {path, "Unable to create the File \"" + path + "\"."};
+  return {path, UnableToCreatePage(path)};
 }
 
 /// An existing picture is kept if the run does not overwrite. A server is asked only at the picture's turn.
@@ -65,14 +66,14 @@ void AddImage(Outputs& outputs, const RunContext& context, std::int32_t number) 
   const bool copied = !ImageRecipe(run, number);
   const bool publishes = run.mode == GenerationMode::Publish;
   if ((copied && publishes) || StaysAsItIs(context, &GalleryTarget::ImageExists, image)) return;
-  const std::string what = publishes ? "Unable to create temporary Copy of the File \"" : "Unable to copy the File \"";
-  outputs.push_back({LocalImagePath(run, image), what + image.Path + "\".", copied ? image.Path : ""});
+  const std::string failure = publishes ? UnableToCopyTemporarily(image.Path) : UnableToCopy(image.Path);
+  outputs.push_back({LocalImagePath(run, image), failure, copied ? image.Path : ""});
 }
 
 void AddThumbnail(Outputs& outputs, const RunContext& context, std::int32_t number) {
   const ImageRunInfo& image = context.run.Info(number);
   if (StaysAsItIs(context, &GalleryTarget::ThumbnailExists, image)) return;
-  outputs.push_back({LocalThumbnailPath(context.run, image), "Unable to create Thumbnail for \"" + image.Path + "\"."});
+  outputs.push_back({LocalThumbnailPath(context.run, image), UnableToCreateThumbnail(image.Path)});
 }
 
 Outputs OutputsOfImage(const RunContext& context, std::int32_t number) {
@@ -97,7 +98,7 @@ Outputs AuxiliaryOutputs(const RunState& run) {
   Outputs outputs;
   if (run.mode == GenerationMode::Publish) return outputs;
   for (const AuxiliaryFile& file : AuxiliaryFiles(run)) {
-    outputs.push_back({run.LocalImagesDir + file.name, UnableToCopyAuxiliary(file.source, file.spelling), file.source});
+    outputs.push_back({run.LocalImagesDir + file.name, UnableToCopyAuxiliary(file), file.source});
   }
   return outputs;
 }
