@@ -46,13 +46,10 @@ PhaseResult UploadFolderAndEnd(const RunContext& context) {
   const RunArguments& arguments = context.arguments;
   FolderUpload upload({*context.ftp, context.run.files.Paths(), context.boxes, context.loop, context.cancel,
                        context.progress, [&context](const std::string& text) { context.host.ShowStatus(text); }});
-  std::int32_t counter = 0;
-  const bool counted =
-      upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
-  if (!counted && context.cancel.CancelRequested()) return RunEnd::Failure;
-  context.progress.SetMax(counter);
-  counter = -1;
-  const bool sent = upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
+  const std::int32_t steps = upload.CountSteps(arguments.OutputFolder);
+  if (context.cancel.CancelRequested()) return RunEnd::Failure;
+  context.progress.SetMax(steps);
+  const bool sent = upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite);
   if (!sent) return RunEnd::Failure;
   upload.TellLeftOut();
   return RunEnd::Success;
