@@ -163,7 +163,7 @@ bool FolderUpload::Cancelled() {
 
 void FolderUpload::Announce(const std::string& text) {
   environment_.progress.SetText2(text);
-  environment_.showStatus(text);
+  environment_.window.SetStatusText(text);
 }
 
 void FolderUpload::Step() {

@@ -3,6 +3,7 @@
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
+#include "env/WindowState.h"
 #include "publish/CancelPoll.h"
 #include "publish/FTPUploads.h"
 #include "publish/FolderListing.h"
@@ -23,13 +24,13 @@ struct UploadEnvironment {
   EventLoop& loop;
   CancelPoll& cancel;
   ProgressWindow& progress;
-  std::function<void(const std::string& text)> showStatus;  ///< panel 1 of the status bar
+  WindowState& window;
 };
 
 /// Sends a local folder, with everything below it, to a server. One object serves one run and reports a cancel once.
 class FolderUpload {
  public:
-  explicit FolderUpload(UploadEnvironment environment) : environment_(std::move(environment)) {}
+  explicit FolderUpload(const UploadEnvironment& environment) : environment_(environment) {}
 
   /// Returns the number of steps by which UploadFolder of `localFolder` (path text) would advance the progress window.
   /// Sends nothing. A folder that cannot be read ends the count, and so does a cancel, which is shown.

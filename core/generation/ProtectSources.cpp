@@ -57,7 +57,7 @@ Output Page(const RunState& run, const std::string& name) {
 /// An existing picture is kept if the run does not overwrite. A server is asked only at the picture's turn.
 bool StaysAsItIs(const RunContext& context, bool (GalleryTarget::*exists)(const ImageRunInfo&),
                  const ImageRunInfo& image) {
-  return !context.arguments.Overwrite && context.target.MayAskAhead() && (context.target.*exists)(image);
+  return !context.order.Overwrite && context.target.MayAskAhead() && (context.target.*exists)(image);
 }
 
 void AddImage(Outputs& outputs, const RunContext& context, std::int32_t number) {
@@ -80,9 +80,9 @@ Outputs OutputsOfImage(const RunContext& context, std::int32_t number) {
   const RunState& run = context.run;
   const bool produces = run.mode != GenerationMode::Preview;
   Outputs outputs;
-  if (produces && context.arguments.CreateImages) AddImage(outputs, context, number);
-  if (produces && context.arguments.CreateThumbnails) AddThumbnail(outputs, context, number);
-  if (context.arguments.CreateHTML && run.project.checkImageWrapperUse == 1) {
+  if (produces && context.order.CreateImages) AddImage(outputs, context, number);
+  if (produces && context.order.CreateThumbnails) AddThumbnail(outputs, context, number);
+  if (context.order.CreateHTML && run.project.checkImageWrapperUse == 1) {
     outputs.push_back(Page(run, WrapperPageName(run.project, run.ListText(number))));
   }
   return outputs;
@@ -140,7 +140,7 @@ PhaseResult CheckImages(const RunContext& context, const Sources& sources) {
 
 PhaseResult CheckPages(const RunContext& context, const Sources& sources) {
   const RunState& run = context.run;
-  if (!context.arguments.CreateHTML) return kGoOn;
+  if (!context.order.CreateHTML) return kGoOn;
   if (auto end = Check(context, sources, {Page(run, run.IndexFileName)})) return end;
   for (std::int32_t page = 1; page <= run.ThumbnailPageCount; ++page) {
     if (auto end = Pause(context, page)) return end;

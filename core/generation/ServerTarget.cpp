@@ -14,11 +14,11 @@ const char kTransferError[] = "FTP File Error";
 }  // namespace
 
 std::string ServerTarget::RemoteImagesDir() const {
-  return RelativeToSession(arguments_.RemoteFolder + run_.ImageUrlPrefix);
+  return RelativeToSession(order_.RemoteFolder + run_.ImageUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbsDir() const {
-  return RelativeToSession(arguments_.RemoteFolder + run_.ThumbUrlPrefix);
+  return RelativeToSession(order_.RemoteFolder + run_.ThumbUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbnail(const ImageRunInfo& image) const {
@@ -84,7 +84,7 @@ Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::strin
 Delivery ServerTarget::StoreIndexPage(std::string_view page) {
   if (auto refusal = local_.StoreIndexPage(page)) return refusal;
   return Move(run_.OutputFolder + run_.IndexFileName,
-              RelativeToSession(arguments_.RemoteFolder + arguments_.RemoteIndexFileName),
+              RelativeToSession(order_.RemoteFolder + order_.RemoteIndexFileName),
               "Unable to create the Gallery Index File.");
 }
 
@@ -99,7 +99,7 @@ Delivery ServerTarget::StoreWrapperPage(const std::string& listText, std::string
 }
 
 Delivery ServerTarget::SendPage(const std::string& name) {
-  const std::string remote = RelativeToSession(arguments_.RemoteFolder + name);
+  const std::string remote = RelativeToSession(order_.RemoteFolder + name);
   return Move(run_.OutputFolder + name, remote, UnableToCreatePage(remote));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/generation/LocalTarget.h"
-#include "core/generation/RunArguments.h"
+#include "core/generation/RunOrder.h"
 #include "publish/mFTP.h"
 
 namespace vantorium {
@@ -10,8 +10,8 @@ namespace vantorium {
 /// thumbnails are deleted there afterwards, images stay.
 class ServerTarget : public GalleryTarget {
  public:
-  ServerTarget(const RunState& run, const RunArguments& arguments, mFTP& ftp)
-      : run_(run), arguments_(arguments), ftp_(ftp), local_(run) {}
+  ServerTarget(const RunState& run, const RunOrder& order, mFTP& ftp)
+      : run_(run), order_(order), ftp_(ftp), local_(run) {}
 
   [[nodiscard]] Delivery MakeFolders() override;
   [[nodiscard]] bool MayAskAhead() const override { return false; }
@@ -35,7 +35,7 @@ class ServerTarget : public GalleryTarget {
   [[nodiscard]] Delivery SendPage(const std::string& name);
 
   const RunState& run_;
-  const RunArguments& arguments_;
+  const RunOrder& order_;
   mFTP& ftp_;
   LocalTarget local_;
 };

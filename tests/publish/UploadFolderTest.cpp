@@ -15,6 +15,12 @@ namespace fs = std::filesystem;
 
 using Lines = std::vector<std::string>;
 
+class StatusBar : public WindowState {
+ public:
+  void SetStatusText(const std::string& text) override { texts.push_back(text); }
+  Lines texts;
+};
+
 /// A server, and the folder "site" of drive C: to send to it.
 class UploadFolderTest : public testing::Test {
  protected:
@@ -49,9 +55,8 @@ class UploadFolderTest : public testing::Test {
   fakes::Journal journal;
   fakes::ProgressRecord record;
   fakes::RecordingProgress progress{record, journal};
-  Lines statuses;
-  FolderUpload upload{
-      {server, paths, boxes, loop, cancel, progress, [this](const auto& text) { statuses.push_back(text); }}};
+  StatusBar window;
+  FolderUpload upload{{server, paths, boxes, loop, cancel, progress, window}};
 };
 
 TEST_F(UploadFolderTest, TheContentsLandInTheRemotePathWithTheSameTreeBelow) {
@@ -82,7 +87,7 @@ TEST_F(UploadFolderTest, WhatIsDoneIsShownInTheWindowAndInTheStatusBar) {
   const Lines expected = {"Creating Directory \"web\"...", "Creating Directory \"web/sub\"...",
                           "Uploading File \"C:\\site\\sub\\a.htm\"..."};
   EXPECT_EQ(record.texts2, expected);
-  EXPECT_EQ(statuses, expected);
+  EXPECT_EQ(window.texts, expected);
 }
 
 TEST_F(UploadFolderTest, TheOverwriteFlagGoesWithEachFile) {
@@ -140,7 +145,7 @@ TEST_F(UploadFolderTest, CountingSendsAndShowsNothing) {
   EXPECT_EQ(Count(), 4);
   EXPECT_EQ(server.calls, Lines());
   EXPECT_EQ(record.texts2, Lines());
-  EXPECT_EQ(statuses, Lines());
+  EXPECT_EQ(window.texts, Lines());
   EXPECT_TRUE(record.values.empty());
 }
 
@@ -201,7 +206,7 @@ TEST_F(UploadFolderTest, ACancelInAnyTurnOfTheCountEndsItThenWithItsBox) {
     cancel.cancelled = false;
     boxes.boxes.clear();
     loop.onTurn = [this, at](int turn) { cancel.cancelled = turn == at; };
-    FolderUpload another({server, paths, boxes, loop, cancel, progress, [](const auto& /*text*/) {}});
+    FolderUpload another({server, paths, boxes, loop, cancel, progress, window});
     EXPECT_LE(another.CountSteps("C:\\site"), 6) << "turn " << at;
     EXPECT_EQ(loop.turns, at) << "nothing is read behind it";
     ExpectCancelReportedOnce();
@@ -375,7 +380,7 @@ TEST_F(UploadFolderTest, EveryPollMayBeTheCancelAndEndsTheUploadWithOneBox) {
     cancel.cancelAtPoll = at;
     boxes.boxes.clear();
     server.calls.clear();
-    FolderUpload another({server, paths, boxes, loop, cancel, progress, [](const auto& /*text*/) {}});
+    FolderUpload another({server, paths, boxes, loop, cancel, progress, window});
     EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true)) << "poll " << at;
     EXPECT_EQ(boxes.boxes.size(), 1U) << "poll " << at;
     EXPECT_LE(server.calls.size(), calls) << "poll " << at;
