@@ -99,13 +99,13 @@ class Bench {
     }
   }
   static RunEnd Upload(fakes::RunDesk& desk, std::uint16_t port) {
-    CreateChoice& choice = desk.host.choice;
-    choice.option = CreateChoice::Option::UploadFolder;
-    choice.UploadServer = "127.0.0.1";
-    choice.UploadPort = port;
-    choice.UploadUser = "me";
-    choice.UploadIndexPath = "web";
-    choice.UploadSourceFolder = "T:\\site\\";
+    RunOrder& order = desk.host.order;
+    order.Mode = GenerationMode::Upload;
+    order.ServerAddress = "127.0.0.1";
+    order.Port = port;
+    order.UserName = "me";
+    order.RemoteFolder = "web/";
+    order.OutputFolder = "T:\\site\\";
     mFTP ftp(std::make_unique<AsioFTPSocket>(desk.loop), std::make_unique<AsioFTPSocket>(desk.loop), desk.paths,
              desk.boxes, desk.loop, desk.cancel);
     desk.cancel.OnCancel([&ftp] { ftp.FTPCancelData(); });
@@ -122,7 +122,7 @@ class Bench {
   static void CloseWhenItEnded(frmProgress& progress, steady_clock::time_point& ended) {
     auto* look = new QTimer(&progress);
     QObject::connect(look, &QTimer::timeout, &progress, [&progress, &ended] {
-      if (progress.CancelButtonCaption() != "&Close" || ended != steady_clock::time_point()) return;
+      if (!progress.OffersClose() || ended != steady_clock::time_point()) return;
       ended = steady_clock::now();
       progress.findChild<QPushButton*>("CancelButton")->click();
     });

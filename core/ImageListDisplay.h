@@ -1,16 +1,14 @@
 #pragma once
 
+#include "env/WindowState.h"
+
 #include <cstddef>
 
 namespace vantorium {
 
 /// What ImageListOperations needs from the window that shows the list. A program without a window overrides nothing.
-class ImageListDisplay {
+class ImageListDisplay : public virtual WindowState {
  public:
-  virtual ~ImageListDisplay() = default;
-
-  virtual void ShowWaitPointer() {}
-  virtual void ResetPointer() {}
   /// The preview shows the list's current row, and is empty without one.
   virtual void RefreshPreview() {}
   /// The number of images and of thumbnail pages, wherever shown.

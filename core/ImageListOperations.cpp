@@ -23,8 +23,7 @@ constexpr std::array<ListOrder, 8> kOrders = {{{SortColumn::ImageName, SortDirec
 }  // namespace
 
 bool ImageListOperations::AddImage(std::size_t index, const std::string& sourcePath, const std::string& imageName,
-                                   [[maybe_unused]] bool flag, const std::string& imageDescription,
-                                   const std::string& thumbnailDescription) {
+                                   const std::string& imageDescription, const std::string& thumbnailDescription) {
   const auto position = Add(index, {.ImageName = imageName,
                                     .SourcePath = std::string(WithoutFilePrefix(sourcePath)),
                                     .SizeKey = {},
@@ -49,7 +48,7 @@ bool ImageListOperations::Keys(ImageEntry& entry) {
   } catch (const RuntimeFailure& failure) {
     boxes_.Critical("File Error", "An Error occurred trying to read the image file \"" + entry.SourcePath + "\":\r\r" +
                                       failure.Description() + "\r\rLoading Process cancelled.");
-    display_.ResetPointer();
+    display_.ShowBusyPointer(false);
     return false;
   }
 }
@@ -72,13 +71,13 @@ bool ImageListOperations::AddFiles(const std::vector<std::string>& paths) {
 }
 
 void ImageListOperations::RemoveSelected() {
-  display_.ShowWaitPointer();
+  display_.ShowBusyPointer(true);
   const std::size_t first = project_.images.RemoveSelected();
   if (first != 0) {
     SelectAtOrBefore(first);
     project_.IsModified = true;
   }
-  display_.ResetPointer();
+  display_.ShowBusyPointer(false);
   RefreshPreviewAndCounts();
 }
 
@@ -177,13 +176,13 @@ void ImageListOperations::Shuffle(const ShuffleTools& tools) {
   if (!boxes_.AskYesNo("Shuffle Images", "Are you sure you wish to shuffle the Images?")) return;
   project_.IsModified = true;
   tools.progress.Open();
-  display_.ShowWaitPointer();
+  display_.ShowBusyPointer(true);
   StopSorting();
   tools.random.SeedFromClock();
   if (ShuffleRows(images, tools)) images.DeselectAll();
   SelectAtOrBefore(1);
   display_.RefreshPreview();
-  display_.ResetPointer();
+  display_.ShowBusyPointer(false);
   tools.progress.Close();
 }
 

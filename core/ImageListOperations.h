@@ -27,8 +27,8 @@ class ImageListOperations {
 
   /// Adds the image of a file, `sourcePath` with or without a leading "file://", at `index` (1 to the count + 1), or at
   /// its sorted position if the list is kept sorted. A name that is taken gets a number. If the file cannot be read,
-  /// shows a message box, adds nothing and returns false. `flag` has no effect. Throws RuntimeFailure IndexOutOfBounds.
-  [[nodiscard]] bool AddImage(std::size_t index, const std::string& sourcePath, const std::string& imageName, bool flag,
+  /// shows a message box, adds nothing and returns false. Throws RuntimeFailure IndexOutOfBounds.
+  [[nodiscard]] bool AddImage(std::size_t index, const std::string& sourcePath, const std::string& imageName,
                               const std::string& imageDescription, const std::string& thumbnailDescription);
 
   /// Adds a file under its file name at the end of the list, like AddImage. If no row is current, the new one becomes

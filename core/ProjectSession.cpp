@@ -24,9 +24,9 @@ void ProjectSession::NewProject() {
   if (!project_.IsModified && project_.IsPristine) return;
   ResetToDefaults(project_.settings, project_.UntitledName());
   project_.images.Clear();
-  ports_.host.RefreshPreview();
-  ports_.host.RefreshCounts();
-  ports_.host.RefreshPageCount();
+  parts_.host.RefreshPreview();
+  parts_.host.RefreshCounts();
+  parts_.host.RefreshPageCount();
   StartUntitledProject();
 }
 
@@ -34,21 +34,21 @@ void ProjectSession::StartUntitledProject() {
   project_.UntitledCounter = static_cast<std::int16_t>(project_.UntitledCounter + 1);
   project_.ProjectFileName = project_.UntitledName();
   project_.settings.textGalleryTitle = project_.UntitledName();
-  ports_.host.RefreshTitleBar();
-  ports_.host.HideDescriptionsWindow();
+  parts_.host.RefreshTitleBar();
+  parts_.host.HideDescriptionsWindow();
   images_.StopSorting();
   holdsPartOfAnotherFile_ = false;
-  ports_.host.SelectFirstTab();
-  ports_.host.FocusTitleField();
+  parts_.host.SelectFirstTab();
+  parts_.host.FocusTitleField();
   project_.IsPristine = true;
   project_.IsUntitled = true;
   project_.IsModified = false;
-  ports_.host.RebuildCustomColors();
+  parts_.host.RebuildCustomColors();
 }
 
 BoxAnswer ProjectSession::AskToSave() {
   project_.IsPristine = false;
-  return ports_.boxes.Show(BoxKind::Question, BoxButtons::YesNoCancel, "Project modified",
+  return parts_.boxes.Show(BoxKind::Question, BoxButtons::YesNoCancel, "Project modified",
                            "The current Gallery Project has been modified.  Do you wish to save the changes?");
 }
 
@@ -65,7 +65,7 @@ void ProjectSession::OpenProject() {
     if (answer == BoxAnswer::Yes) SaveProject();
     if (answer == BoxAnswer::Cancel) return;
   }
-  const std::string path = ports_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Open,
+  const std::string path = parts_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Open,
                                                  .title = "Open Gallery Project",
                                                  .filter = kFileFilter,
                                                  .defaultPattern = "*.gpj",
@@ -75,22 +75,18 @@ void ProjectSession::OpenProject() {
   if (path.empty()) return;
   project_.images.Clear();
   images_.StopSorting();
-  ports_.host.ShowInfoWindow("Please wait... Reading Project File.");
-  ports_.host.EnableMainWindow(false);
-  const bool read = Read(path);
-  ports_.host.EnableMainWindow(true);
-  ports_.host.HideInfoWindow();
+  parts_.host.ShowInfoWindow("Please wait... Reading Project File.");
+  const bool read = ReadWhileDisabled(path);
+  parts_.host.HideInfoWindow();
   if (read) AdoptOpened(path);
 }
 
 void ProjectSession::OpenProjectFromCommandLine(std::string_view commandLine) {
   const std::string typed = ReplaceAll(commandLine, "\"", "");
   if (typed.empty()) return;
-  const std::string path = ports_.paths.ToTextFromUser(typed);
+  const std::string path = parts_.paths.ToTextFromUser(typed);
   images_.StopSorting();
-  ports_.host.EnableMainWindow(false);
-  const bool read = Read(path);
-  ports_.host.EnableMainWindow(true);
+  const bool read = ReadWhileDisabled(path);
   if (read) AdoptOpened(path);
 }
 
@@ -102,13 +98,18 @@ bool ProjectSession::LoadProject(const std::string& path) {
   return read;
 }
 
+bool ProjectSession::ReadWhileDisabled(const std::string& path) {
+  const DisabledMainWindow disabled(parts_.host);
+  return Read(path);
+}
+
 bool ProjectSession::Read(const std::string& path) {
-  ProjectFileReader reader(project_, images_, ports_.paths, ports_.boxes, ports_.host, ports_.events);
+  ProjectFileReader reader(project_, images_, parts_.paths, parts_.boxes, parts_.host, parts_.events);
   const bool read = reader.ReadProjectFile(path);
   images_.SelectFirstIfNoneIsCurrent();
   if (!read) {
     holdsPartOfAnotherFile_ = true;
-    ShowFileError(ports_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".", path));
+    ShowFileError(parts_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".", path));
   }
   return read;
 }
@@ -119,10 +120,10 @@ void ProjectSession::AdoptOpened(const std::string& path) {
   project_.IsUntitled = false;
   project_.IsModified = false;
   project_.IsPristine = false;
-  ports_.host.RefreshTitleBar();
-  ports_.host.RefreshPageCount();
-  ports_.host.RefreshCounts();
-  ports_.host.RefreshPreview();
+  parts_.host.RefreshTitleBar();
+  parts_.host.RefreshPageCount();
+  parts_.host.RefreshCounts();
+  parts_.host.RefreshPreview();
 }
 
 void ProjectSession::TakePath(const std::string& path) {
@@ -158,7 +159,7 @@ bool ProjectSession::SaveProjectTo(const std::string& path) {
 }
 
 bool ProjectSession::WriteToChosenFile() {
-  const std::string path = ports_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Save,
+  const std::string path = parts_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Save,
                                                  .title = "Save Gallery Project As",
                                                  .filter = kFileFilter,
                                                  .defaultPattern = "",
@@ -176,12 +177,16 @@ bool ProjectSession::WriteToItsFile() {
 }
 
 bool ProjectSession::Write(const std::string& path) {
-  ports_.host.ShowInfoWindow("Please wait... Writing Project File.");
-  ports_.host.EnableMainWindow(false);
-  const bool written = ProjectFileWriter(project_, ports_.paths, ports_.host, ports_.events).WriteProjectFile(path);
-  if (!written) ShowFileError(ports_.boxes, "An error occurred while saving the Gallery Project.");
-  ports_.host.EnableMainWindow(true);
-  ports_.host.HideInfoWindow();
+  parts_.host.ShowInfoWindow("Please wait... Writing Project File.");
+  const bool written = WriteWhileDisabled(path);
+  parts_.host.HideInfoWindow();
+  return written;
+}
+
+bool ProjectSession::WriteWhileDisabled(const std::string& path) {
+  const DisabledMainWindow disabled(parts_.host);
+  const bool written = ProjectFileWriter(project_, parts_.paths, parts_.host, parts_.events).WriteProjectFile(path);
+  if (!written) ShowFileError(parts_.boxes, "An error occurred while saving the Gallery Project.");
   return written;
 }
 
@@ -190,7 +195,7 @@ void ProjectSession::AdoptSaved() {
   project_.IsUntitled = false;
   project_.IsModified = false;
   project_.IsPristine = false;
-  ports_.host.RefreshTitleBar();
+  parts_.host.RefreshTitleBar();
 }
 
 }  // namespace vantorium

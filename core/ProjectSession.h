@@ -17,7 +17,7 @@ namespace vantorium {
 /// path text. Failures never propagate; each is shown in a message box.
 class ProjectSession {
  public:
-  struct Ports {
+  struct Parts {
     const PathMap& paths;
     MessageBoxPort& boxes;
     ProjectFileDialog& dialog;
@@ -25,8 +25,8 @@ class ProjectSession {
     EventLoop& events;
   };
 
-  ProjectSession(Project& project, ImageListOperations& images, const Ports& ports)
-      : project_(project), images_(images), ports_(ports) {}
+  ProjectSession(Project& project, ImageListOperations& images, const Parts& parts)
+      : project_(project), images_(images), parts_(parts) {}
 
   /// Does nothing for a new project that is still untouched.
   void NewProject();
@@ -55,16 +55,18 @@ class ProjectSession {
   [[nodiscard]] BoxAnswer AskToSave();
   void StartUntitledProject();
   [[nodiscard]] bool Read(const std::string& path);
+  [[nodiscard]] bool ReadWhileDisabled(const std::string& path);
   void AdoptOpened(const std::string& path);
   void TakePath(const std::string& path);
   [[nodiscard]] bool WriteToChosenFile();
   [[nodiscard]] bool WriteToItsFile();
   [[nodiscard]] bool Write(const std::string& path);
+  [[nodiscard]] bool WriteWhileDisabled(const std::string& path);
   void AdoptSaved();
 
   Project& project_;
   ImageListOperations& images_;
-  Ports ports_;
+  Parts parts_;
   bool holdsPartOfAnotherFile_ = false;  ///< an Open failed, and the project's file must not be replaced without asking
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/file/ProjectFileStatus.h"
+#include "env/WindowState.h"
 
 #include <string>
 
@@ -8,12 +8,11 @@ namespace vantorium {
 
 /// What New, Open and Save need from the main window. A program without a window uses this class as it is. Functions
 /// that also exist in other ports of a window mean the same there.
-class ProjectSessionHost : public ProjectFileStatus {
+class ProjectSessionHost : public virtual WindowState {
  public:
   /// A small window with one text, shown during a wait.
   virtual void ShowInfoWindow(const std::string& /*text*/) {}
   virtual void HideInfoWindow() {}
-  virtual void EnableMainWindow(bool /*enabled*/) {}
 
   virtual void RefreshTitleBar() {}
   /// The picture of the list's current row.

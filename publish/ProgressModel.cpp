@@ -1,12 +1,9 @@
 #include "publish/ProgressModel.h"
 
-#include "env/RuntimeFailure.h"
 #include "publish/UploadLog.h"
 
 namespace vantorium {
 namespace {
-
-constexpr const char* kCancelCaption = "&Cancel";
 
 bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
@@ -39,8 +36,7 @@ ProgressModel::~ProgressModel() {
 void ProgressModel::Show() {
   isFileProgressVisible_ = false;
   CloseRequested = false;
-  cancelButtonCaption_ = kCancelCaption;
-  isShowLogVisible_ = false;
+  offersClose_ = false;
   if (LogToFile) log_.WriteLogHeader();
   Draw(ProgressPart::Window);
 }
@@ -98,30 +94,12 @@ void ProgressModel::ShowBusyPointer(bool busy) {
 }
 
 void ProgressModel::OfferClose() {
-  cancelButtonCaption_ = "&Close";
-  isShowLogVisible_ = true;
+  offersClose_ = true;
   Draw(ProgressPart::Buttons);
 }
 
 void ProgressModel::WriteLog(const std::string& text) {
   if (LogToFile || log_.HasFolder()) log_.WriteLog(text);
-}
-
-void ProgressModel::PressCancelButton(CancelPoll& cancel) {
-  if (cancelButtonCaption_ != kCancelCaption) {
-    CloseRequested = true;
-    return;
-  }
-  isCancelled_ = true;
-  std::ignore = cancel.CheckForCancel(*this);
-}
-
-void ProgressModel::PressShowLog(Shell& shell, const std::string& appPath) const {
-  try {
-    shell.OpenFile(appPath + '/' + kUploadLogName);
-  } catch (const RuntimeFailure&) {
-    // A desktop that cannot open a text file tells the user itself.
-  }
 }
 
 }  // namespace vantorium

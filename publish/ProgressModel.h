@@ -1,7 +1,5 @@
 #pragma once
 
-#include "env/Shell.h"
-#include "publish/CancelPoll.h"
 #include "publish/ProgressWindow.h"
 #include "publish/UploadLog.h"
 
@@ -20,16 +18,15 @@ enum class ProgressPart {
   LogBoxEnd,     ///< has more text; both LogBox changes move the caret to the last character
   Progress,      ///< the bar of the whole run
   FileProgress,  ///< the bar of the current file
-  Buttons,       //
+  Buttons,       ///< the run has failed, and the user may close the window
   Pointer,       //
 };
 
 /// The length, in characters, at which the log box is emptied before more text is appended.
 inline constexpr std::size_t kFullLogBox = 30000;
 
-/// The logic of the progress window, without its widgets: what it shows, what its buttons do, and its log. A face
-/// derives from it and draws. Constructing it loads the window; destroying it unloads the window and, with LogToFile
-/// set, writes the end of the log.
+/// What the progress window shows, and its log. A face derives from it and draws. Constructing it loads the window;
+/// destroying it unloads the window and, with LogToFile set, writes the end of the log.
 class ProgressModel : public ProgressWindow {
  public:
   explicit ProgressModel(UploadLog& log) : log_(log) {}
@@ -65,13 +62,7 @@ class ProgressModel : public ProgressWindow {
   [[nodiscard]] std::int16_t FileProgress() const { return fileProgress_; }
   [[nodiscard]] bool IsCancelled() const final { return isCancelled_; }
   [[nodiscard]] bool IsPointerBusy() const { return isPointerBusy_; }
-  [[nodiscard]] const std::string& CancelButtonCaption() const { return cancelButtonCaption_; }
-  [[nodiscard]] bool IsShowLogVisible() const { return isShowLogVisible_; }
-
-  /// CancelButton: as "&Cancel" it sets IsCancelled and lets `cancel` ask the user, else it sets CloseRequested.
-  void PressCancelButton(CancelPoll& cancel);
-  /// btnShowLog: opens the log. `appPath` is the program's folder as path text. Failures are ignored.
-  void PressShowLog(Shell& shell, const std::string& appPath) const;
+  [[nodiscard]] bool OffersClose() const { return offersClose_; }
 
  protected:
   /// Called after each change; implementations read the state from this object.
@@ -91,8 +82,7 @@ class ProgressModel : public ProgressWindow {
   std::int16_t fileProgress_ = 0;
   bool isCancelled_ = false;
   bool isPointerBusy_ = false;
-  std::string cancelButtonCaption_;
-  bool isShowLogVisible_ = false;
+  bool offersClose_ = false;
 };
 
 }  // namespace vantorium

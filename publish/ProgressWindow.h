@@ -13,7 +13,7 @@ class ProgressWindow {
 
   /// Whether the run is written to the upload log. Set before Show.
   bool LogToFile = false;
-  /// Whether the user pressed the button after it had turned into "&Close".
+  /// Whether the user has asked to close the window, which is possible after OfferClose.
   bool CloseRequested = false;
 
   /// Shows the window without blocking, in front of the main window.
@@ -32,12 +32,12 @@ class ProgressWindow {
   /// The bar of the current file, in percent; it appears with the first call.
   virtual void SetFileProgress(std::int16_t percentage) = 0;
 
-  /// Whether the user pressed "&Cancel".
+  /// Whether the user has asked to cancel the run.
   [[nodiscard]] virtual bool IsCancelled() const = 0;
   virtual void SetIsCancelled(bool cancelled) = 0;
 
   virtual void ShowBusyPointer(bool busy) = 0;
-  /// Turns the cancel button into "&Close" and shows the button "&Show Log".
+  /// Call when the run has failed: the user can no longer cancel it, but close the window and look at the log.
   virtual void OfferClose() = 0;
   [[nodiscard]] virtual std::string LogBoxText() const = 0;
   /// Appends text and a line end to the log file.

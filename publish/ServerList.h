@@ -14,12 +14,12 @@ namespace vantorium {
 class ServerListValues;
 
 /// Cleans up what the user typed into a profile, in place. Returns false, after a message box, if the index file
-/// contains a path. With `hideIndexFile`, where the user does not see that field, such an index file is emptied
-/// instead. An empty index file becomes "index.htm".
+/// contains a path. With `hideIndexFile`, where the user did not type it, such an index file is emptied instead. An
+/// empty index file becomes "index.htm".
 [[nodiscard]] bool ValidateSettings(ServerProfile& profile, bool hideIndexFile, MessageBoxPort& boxes);
 
-/// The user's servers, one of them selected if there is any, and the rules of their dialog. Edits change the selected
-/// profile directly; SaveServerList writes them to the file.
+/// The user's servers, one of them selected if there is any. Edits change the selected profile directly; SaveServerList
+/// writes them to the file.
 class ServerList {
  public:
   /// `file`: see publish/ServerListFile.h.
@@ -34,10 +34,10 @@ class ServerList {
   /// Adds a profile to the end and selects it. Takes its index path and file from `indexText`, which may contain
   /// backslashes. A profile that the file cannot hold is not added, and the user is told.
   void AddServerProfile(ServerProfile profile, std::string_view indexText);
-  /// The button New, with the name that the user confirmed: adds an empty profile and writes the file. Returns false,
-  /// after a message box, if a server has exactly that name.
+  /// Adds an empty profile under that name and writes the file. Returns false, after a message box, if a server has
+  /// exactly that name.
   [[nodiscard]] bool AddNewServer(const std::string& name);
-  /// The button Delete: removes the selected profile, if any, and selects the one that takes its place, else the last.
+  /// Removes the selected profile, if any, and selects the one that takes its place, else the last.
   void DeleteServer();
   /// `index` counts from 0. Throws RuntimeFailure SubscriptOutOfRange if it is outside the list.
   void Select(std::size_t index);
@@ -47,7 +47,7 @@ class ServerList {
   [[nodiscard]] std::optional<std::size_t> Selected() const { return selected_; }
   /// The profile to edit; null if the list is empty. Valid until the list changes.
   [[nodiscard]] ServerProfile* SelectedProfile() { return selected_ ? &profiles_[*selected_] : nullptr; }
-  /// The name of the profile that was selected when the list was opened; Cancel shows it again.
+  /// The name of the profile that was selected when the list was opened.
   [[nodiscard]] const std::string& NameBefore() const { return nameBefore_; }
 
  private:

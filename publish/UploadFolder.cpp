@@ -36,83 +36,98 @@ struct FolderUpload::Place {
   std::string local;
   std::string remote;
   bool overwrite;
-  std::int32_t& counter;
 
-  [[nodiscard]] bool OnlyCounts() const { return counter > -1; }
   [[nodiscard]] std::string LocalPath(const std::string& name) const { return local + "\\" + name; }
   [[nodiscard]] std::string RemotePath(const std::string& name) const {
     return remote.empty() ? name : remote + "/" + name;
   }
 };
 
-bool FolderUpload::UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite,
-                                std::int32_t& counter) {
-  // With a separator appended, an empty text would mean the root folder.
-  if (localFolder.empty()) return false;
-  const bool uploaded = UploadTrapped(
-      {WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(RelativeToSession(remotePath), '/'), overwrite, counter});
-  // A cancel may have broken off the last file, or come after it.
-  return !Cancelled() && uploaded;
+// With a separator appended, an empty folder would mean the root folder.
+
+std::int32_t FolderUpload::CountSteps(const std::string& localFolder) {
+  std::int32_t steps = 0;
+  if (!localFolder.empty()) std::ignore = Count(localFolder, steps);
+  return steps;
 }
 
-bool FolderUpload::UploadTrapped(const Place& place) {
+bool FolderUpload::UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite) {
+  if (localFolder.empty()) return false;
+  return Send({WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(RelativeToSession(remotePath), '/'), overwrite});
+}
+
+/// A folder is one step of its parent, and then one of its own.
+bool FolderUpload::Count(const std::string& folder, std::int32_t& steps) {
+  const std::string local = WithoutOneAtEnd(folder, '\\');
+  return Trapped([&] {
+    ++steps;
+    return VisitEntries(local, [&](const FolderEntry& entry) {
+      if (entry.kind == EntryKind::LinkedFolder) return true;
+      ++steps;
+      return entry.kind != EntryKind::Folder || Count(local + "\\" + entry.name, steps);
+    });
+  });
+}
+
+bool FolderUpload::Send(const Place& place) {
+  return Trapped([&] {
+    return MakeDirectory(place) &&
+           VisitEntries(place.local, [&](const FolderEntry& entry) { return SendEntry(place, entry); });
+  });
+}
+
+bool FolderUpload::Trapped(const std::function<bool()>& pass) {
+  bool passed = false;
   try {
-    return UploadPlace(place);
+    passed = pass();
   } catch (const RuntimeFailure& failure) {
     environment_.boxes.Critical("Failure", "An Error has occurred during the Upload of this Gallery:\r\r" +
                                                failure.Description() + "\r\rError #" +
                                                std::to_string(failure.Number()));
-    return false;
   }
+  // A cancel may have broken off the last file, or come after it.
+  return !Cancelled() && passed;
 }
 
-bool FolderUpload::UploadPlace(const Place& place) {
-  if (!EnterFolder(place)) return false;
-  const FolderListing listing = List(place.local);
+bool FolderUpload::VisitEntries(const std::string& localFolder, const Visit& visit) {
+  const FolderListing listing = List(localFolder);
   for (const FolderEntry& entry : listing.entries) {
-    if (Cancelled() || !UploadEntry(place, entry)) return false;
+    if (Cancelled() || !visit(entry)) return false;
   }
   return listing.complete;
 }
 
-bool FolderUpload::EnterFolder(const Place& place) {
-  if (!place.OnlyCounts()) {
-    Announce("Creating Directory \"" + place.remote + "\"...");
-    if (!environment_.ftp.FTPCreateDirectoryPath(place.remote)) return false;
-  }
-  Step(place);
+bool FolderUpload::MakeDirectory(const Place& place) {
+  Announce("Creating Directory \"" + place.remote + "\"...");
+  if (!environment_.ftp.FTPCreateDirectoryPath(place.remote)) return false;
+  Step();
   return true;
 }
 
-bool FolderUpload::UploadEntry(const Place& place, const FolderEntry& entry) {
+bool FolderUpload::SendEntry(const Place& place, const FolderEntry& entry) {
   if (entry.kind == EntryKind::LinkedFolder) {
-    LeaveOut(place, entry.name);
+    LeaveOut(place.LocalPath(OnOneLine(entry.name)));
     return true;
   }
-  if (!place.OnlyCounts()) RefuseName(entry.name);
-  return entry.kind == EntryKind::Folder ? UploadSubfolder(place, entry.name) : SendFile(place, entry.name);
+  RefuseName(entry.name);
+  return entry.kind == EntryKind::Folder ? SendSubfolder(place, entry.name) : SendFile(place, entry.name);
 }
 
-/// A folder is one step of its parent, and then one of its own.
-bool FolderUpload::UploadSubfolder(const Place& place, const std::string& name) {
-  Step(place);
-  return UploadFolder(place.LocalPath(name), place.RemotePath(name), place.overwrite, place.counter);
+bool FolderUpload::SendSubfolder(const Place& place, const std::string& name) {
+  Step();
+  return Send({place.LocalPath(name), place.RemotePath(name), place.overwrite});
 }
 
 bool FolderUpload::SendFile(const Place& place, const std::string& name) {
-  bool sent = true;
-  if (!place.OnlyCounts()) {
-    Announce("Uploading File \"" + place.LocalPath(name) + "\"...");
-    sent = environment_.ftp.FTPCopyFile(place.LocalPath(name), place.RemotePath(name), place.overwrite);
-  }
-  Step(place);
+  Announce("Uploading File \"" + place.LocalPath(name) + "\"...");
+  const bool sent = environment_.ftp.FTPCopyFile(place.LocalPath(name), place.RemotePath(name), place.overwrite);
+  Step();
   return sent;
 }
 
-void FolderUpload::LeaveOut(const Place& place, const std::string& name) {
-  if (place.OnlyCounts()) return;
-  leftOut_.push_back(place.LocalPath(OnOneLine(name)));
-  environment_.progress.SetText3("Leaving out symbolic link " + leftOut_.back() + "\r\n", true);
+void FolderUpload::LeaveOut(const std::string& path) {
+  leftOut_.push_back(path);
+  environment_.progress.SetText3("Leaving out symbolic link " + path + "\r\n", true);
 }
 
 void FolderUpload::TellLeftOut() const {
@@ -148,15 +163,11 @@ bool FolderUpload::Cancelled() {
 
 void FolderUpload::Announce(const std::string& text) {
   environment_.progress.SetText2(text);
-  environment_.showStatus(text);
+  environment_.window.SetStatusText(text);
 }
 
-void FolderUpload::Step(const Place& place) {
-  if (place.OnlyCounts()) {
-    ++place.counter;
-  } else {
-    environment_.progress.SetProgress(environment_.progress.GetProgress() + 1);
-  }
+void FolderUpload::Step() {
+  environment_.progress.SetProgress(environment_.progress.GetProgress() + 1);
 }
 
 }  // namespace vantorium

@@ -3,6 +3,7 @@
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
+#include "env/WindowState.h"
 #include "publish/CancelPoll.h"
 #include "publish/FTPUploads.h"
 #include "publish/FolderListing.h"
@@ -23,22 +24,24 @@ struct UploadEnvironment {
   EventLoop& loop;
   CancelPoll& cancel;
   ProgressWindow& progress;
-  std::function<void(const std::string& text)> showStatus;  ///< panel 1 of the status bar
+  WindowState& window;
 };
 
 /// Sends a local folder, with everything below it, to a server. One object serves one run and reports a cancel once.
 class FolderUpload {
  public:
-  explicit FolderUpload(UploadEnvironment environment) : environment_(std::move(environment)) {}
+  explicit FolderUpload(const UploadEnvironment& environment) : environment_(environment) {}
+
+  /// Returns the number of steps by which UploadFolder of `localFolder` (path text) would advance the progress window.
+  /// Sends nothing. A folder that cannot be read ends the count, and so does a cancel, which is shown.
+  [[nodiscard]] std::int32_t CountSteps(const std::string& localFolder);
 
   /// Sends the contents of `localFolder` (path text) to `remotePath`, which is created first and is relative to the
-  /// session's current directory, with or without leading slashes. If `counter` is above -1, nothing is sent, and the
-  /// number of steps is added to `counter`. If it is -1, the same number of steps is added to the progress window.
-  /// Folders and files are sent in the order of their names, each folder with everything in it. The first failure ends
-  /// the whole upload. Returns false on a failure, which is shown here only if it is a RuntimeFailure (a folder that
-  /// cannot be read is not), and on a cancel, which is always shown.
-  [[nodiscard]] bool UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite,
-                                  std::int32_t& counter);
+  /// session's current directory, with or without leading slashes. Folders and files are sent in the order of their
+  /// names, each folder with everything in it. The first failure ends the whole upload. Returns false on a failure,
+  /// which is shown here only if it is a RuntimeFailure (a folder that cannot be read is not), and on a cancel, which
+  /// is always shown.
+  [[nodiscard]] bool UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite);
 
   /// Tells the user which folders were left out because they are symbolic links: these may lead out of the folder being
   /// sent, or back into it.
@@ -47,19 +50,23 @@ class FolderUpload {
  private:
   struct Place;
 
-  [[nodiscard]] bool UploadTrapped(const Place& place);
-  [[nodiscard]] bool UploadPlace(const Place& place);
-  [[nodiscard]] bool EnterFolder(const Place& place);
-  [[nodiscard]] bool UploadEntry(const Place& place, const FolderEntry& entry);
-  [[nodiscard]] bool UploadSubfolder(const Place& place, const std::string& name);
-  [[nodiscard]] bool SendFile(const Place& place, const std::string& name);
+  using Visit = std::function<bool(const FolderEntry& entry)>;
 
-  void LeaveOut(const Place& place, const std::string& name);
+  [[nodiscard]] bool Count(const std::string& folder, std::int32_t& steps);
+  [[nodiscard]] bool Send(const Place& place);
+  [[nodiscard]] bool MakeDirectory(const Place& place);
+  [[nodiscard]] bool SendEntry(const Place& place, const FolderEntry& entry);
+  [[nodiscard]] bool SendSubfolder(const Place& place, const std::string& name);
+  [[nodiscard]] bool SendFile(const Place& place, const std::string& name);
+  void LeaveOut(const std::string& path);
+
+  [[nodiscard]] bool Trapped(const std::function<bool()>& pass);
+  [[nodiscard]] bool VisitEntries(const std::string& localFolder, const Visit& visit);
 
   [[nodiscard]] FolderListing List(const std::string& localFolder);
   [[nodiscard]] bool Cancelled();
   void Announce(const std::string& text);
-  void Step(const Place& place);
+  void Step();
 
   UploadEnvironment environment_;
   bool cancelReported_ = false;

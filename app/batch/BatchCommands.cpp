@@ -22,16 +22,6 @@
 namespace vantorium {
 namespace {
 
-/// The status bar of a program without a window.
-class TerminalStatus : public ProjectSessionHost {
- public:
-  explicit TerminalStatus(Terminal& terminal) : terminal_(terminal) {}
-  void SetStatusText(const std::string& text) override { terminal_.ShowStatus(text); }
-
- private:
-  Terminal& terminal_;
-};
-
 std::filesystem::path ProgramFolderOf(const BatchOptions& options) {
   std::optional<std::filesystem::path> given;
   if (!options.programFolder.empty()) given = std::filesystem::absolute(options.programFolder);
@@ -78,12 +68,12 @@ class BatchProgram {
   /// Shows `refusal` and returns true, unless it is empty.
   bool Refuse(const std::string& refusal);
   [[nodiscard]] ExitCode SaveTo(const std::string& typed);
-  [[nodiscard]] ExitCode RunMode(GenerationMode mode, const CreateChoice& choice);
-  [[nodiscard]] ExitCode EndOfFailedRun();
+  [[nodiscard]] ExitCode CarryOut(const RunOrder& order);
+  [[nodiscard]] ExitCode CarryOutOnServer(const RunOrder& order);
   [[nodiscard]] Preferences PreferencesOfRun() const;
-  [[nodiscard]] CreateChoice Switches(CreateChoice::Option option) const;
-  /// Returns what the run needs to know about the server, or nullopt after a message about the password file.
-  [[nodiscard]] std::optional<CreateChoice> ServerChoice(CreateChoice::Option option);
+  [[nodiscard]] RunOrder OrderFor(GenerationMode mode) const;
+  /// Sets what the run needs to know about the server. Returns false, after a message, if there is no password.
+  [[nodiscard]] bool SetServer(RunOrder& order);
 
   const BatchOptions& options_;
   std::filesystem::path programFolder_;
@@ -98,14 +88,14 @@ class BatchProgram {
   InterruptLoop loop_{cancel_};
   mFTP ftp_{
       std::make_unique<AsioFTPSocket>(loop_), std::make_unique<AsioFTPSocket>(loop_), paths_, boxes_, loop_, cancel_};
-  TerminalStatus status_{terminal_};
+  BatchHost host_{terminal_, loop_, log_};
   Screen screen_;
   PangoTextRaster texts_;
   Project project_;
   ImageListDisplay noDisplay_;
   ImageListOperations images_{project_, files_, boxes_, noDisplay_};
   ProjectFileDialog noDialog_;
-  ProjectSession session_{project_, images_, {paths_, boxes_, noDialog_, status_, loop_}};
+  ProjectSession session_{project_, images_, {paths_, boxes_, noDialog_, host_, loop_}};
 };
 
 bool BatchProgram::OutputIsAmong(const std::vector<std::string>& inputs) const {
@@ -153,16 +143,23 @@ ExitCode BatchProgram::SaveTo(const std::string& typed) {
 
 ExitCode BatchProgram::Create() {
   if (OutputIsAmong({options_.project})) return ExitCode::WrongUsage;
-  CreateChoice choice = Switches(CreateChoice::Option::CreateGallery);
-  choice.FilePath = IndexFileOf(PathText(options_.output), paths_);
-  if (Refuse(RefusalOfIndexFile(choice.FilePath, paths_)) || !Load()) return ExitCode::Failure;
-  return RunMode(GenerationMode::Create, choice);
+  const std::string indexFile = IndexFileOf(PathText(options_.output), paths_);
+  if (Refuse(RefusalOfIndexFile(indexFile, paths_)) || !Load()) return ExitCode::Failure;
+  RunOrder order = OrderFor(GenerationMode::Create);
+  SetIndexFile(order, indexFile);
+  return CarryOut(order);
+}
+
+ExitCode BatchProgram::Preview() {
+  if (!Load()) return ExitCode::Failure;
+  return CarryOut({.Mode = GenerationMode::Preview});
 }
 
 ExitCode BatchProgram::Publish() {
-  const auto choice = ServerChoice(CreateChoice::Option::Publish);
-  if (!choice || !Load()) return ExitCode::Failure;
-  return RunMode(GenerationMode::Create, *choice);
+  RunOrder order = OrderFor(GenerationMode::Publish);
+  SetRemoteIndexFile(order, "", options_.remote);
+  if (!SetServer(order) || !Load()) return ExitCode::Failure;
+  return CarryOutOnServer(order);
 }
 
 ExitCode BatchProgram::Upload() {
@@ -171,60 +168,49 @@ ExitCode BatchProgram::Upload() {
     boxes_.Critical("File Error", "The folder \"" + options_.folder + "\" cannot be read.");
     return ExitCode::Failure;
   }
-  auto choice = ServerChoice(CreateChoice::Option::UploadFolder);
-  if (!choice) return ExitCode::Failure;
-  choice->UploadSourceFolder = WithTrailingBackslash(folder);
-  return RunMode(GenerationMode::Create, *choice);
+  RunOrder order = OrderFor(GenerationMode::Upload);
+  order.OutputFolder = WithTrailingBackslash(folder);
+  SetRemoteFolder(order, options_.remote);
+  return SetServer(order) ? CarryOutOnServer(order) : ExitCode::Failure;
 }
 
-CreateChoice BatchProgram::Switches(CreateChoice::Option option) const {
-  CreateChoice choice;
-  choice.option = option;
-  choice.CreateImages = !options_.noImages;
-  choice.CreateThumbnails = !options_.noThumbnails;
-  choice.CreateHTMLFiles = !options_.noHtml;
-  choice.Overwrite = !options_.keepExisting;
-  return choice;
+RunOrder BatchProgram::OrderFor(GenerationMode mode) const {
+  return {.Mode = mode,
+          .CreateImages = !options_.noImages,
+          .CreateThumbnails = !options_.noThumbnails,
+          .CreateHTML = !options_.noHtml,
+          .Overwrite = !options_.keepExisting};
 }
 
-std::optional<CreateChoice> BatchProgram::ServerChoice(CreateChoice::Option option) {
+bool BatchProgram::SetServer(RunOrder& order) {
   const auto password = ReadPassword(options_.passwordFile);
   if (!password) {
     boxes_.Critical("File Error", "The password file \"" + options_.passwordFile + "\" cannot be read.");
-    return std::nullopt;
+    return false;
   }
-  CreateChoice choice = Switches(option);
-  choice.UploadServer = options_.server;
-  choice.UploadPort = options_.port;
-  choice.UploadUser = options_.user;
-  choice.UploadPassword = *password;
-  choice.UploadJumpTo = options_.baseDirectory;
-  choice.UploadIndexPath = options_.remote;
-  if (option == CreateChoice::Option::Publish) {
-    const std::size_t name = options_.remote.find_last_of("/\\") + 1;  // npos + 1 is 0
-    choice.UploadIndexPath = options_.remote.substr(0, name);
-    choice.UploadIndexFile = options_.remote.substr(name);
-  }
-  return choice;
+  order.ServerAddress = options_.server;
+  order.Port = options_.port;
+  order.UserName = options_.user;
+  order.Password = *password;
+  order.BaseDirectory = options_.baseDirectory;
+  return true;
 }
 
-ExitCode BatchProgram::Preview() {
-  if (!Load()) return ExitCode::Failure;
-  return RunMode(GenerationMode::Preview, {});
-}
-
-ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) {
-  BatchRunHost host(terminal_, loop_, log_, choice);
+ExitCode BatchProgram::CarryOut(const RunOrder& order) {
   BatchShell shell(paths_, options_.open);
   const BatchClock clock(options_.creationTime);
   Preferences preferences = PreferencesOfRun();
-  GalleryCreator creator(
-      project_, preferences, GetAppPath(programFolder_, paths_),
-      {host, boxes_, loop_, clock, shell, files_, formats_, cancel_, screen_, texts_, &ftp_, JobsOf(options_)});
-  const RunEnd end = creator.CreateGallery(mode, 0);
+  GalleryCreator creator(project_, preferences, GetAppPath(programFolder_, paths_),
+                         {{paths_, formats_, files_, boxes_, loop_, shell, clock, screen_, texts_, JobsOf(options_)},
+                          host_,
+                          cancel_,
+                          &ftp_});
+  const RunEnd end = creator.CarryOut(order, 0);
   terminal_.EraseBar();
-  if (end != RunEnd::Success) return EndOfFailedRun();
-  if (mode == GenerationMode::Preview) {
+  // A cancelled upload of a folder is a failure with its own message, but the exit code tells the caller of the program
+  // that it was cancelled.
+  if (end != RunEnd::Success) return cancel_.CancelRequested() ? ExitCode::Cancelled : ExitCode::Failure;
+  if (order.Mode == GenerationMode::Preview) {
     const auto index = paths_.ToNative(TempFolderIn(preferences.TempFolderLocation) + "\\index.htm");
     const bool printed = PrintResult(index.value_or("").string() + "\n");
     if (!printed || !shell.HasOpened()) return ExitCode::Failure;
@@ -232,16 +218,14 @@ ExitCode BatchProgram::RunMode(GenerationMode mode, const CreateChoice& choice) 
   return ExitCode::Success;
 }
 
-/// A cancelled upload of a folder is a failure with its own message, but the exit code tells the caller of the program
-/// that it was cancelled.
-ExitCode BatchProgram::EndOfFailedRun() {
-  if (cancel_.CancelRequested()) return ExitCode::Cancelled;
-  // The progress window on a desktop has a button for the log instead of a message about what the server refused.
-  if (!boxes_.HaveSpoken()) {
+/// The progress window on a desktop has a button for the log instead of a message about what the server refused.
+ExitCode BatchProgram::CarryOutOnServer(const RunOrder& order) {
+  const ExitCode code = CarryOut(order);
+  if (code == ExitCode::Failure && !boxes_.HaveSpoken()) {
     const std::string log = (programFolder_ / kUploadLogName).string();
     boxes_.Critical("Upload failed", "What the server has answered is in the file \"" + log + "\".");
   }
-  return ExitCode::Failure;
+  return code;
 }
 
 Preferences BatchProgram::PreferencesOfRun() const {

@@ -77,7 +77,7 @@ void InterruptLoop::Turn() {
   std::ignore = cancel_.CheckForCancel(*progress_);
 }
 
-std::unique_ptr<ProgressWindow> BatchRunHost::CreateProgressWindow() {
+std::unique_ptr<ProgressWindow> BatchHost::CreateProgressWindow() {
   return std::make_unique<TerminalProgress>(log_, terminal_, loop_);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/batch/Terminal.h"
+#include "core/ProjectSessionHost.h"
 #include "core/generation/CancelCheck.h"
 #include "core/generation/RunHost.h"
 #include "env/EventLoop.h"
@@ -72,24 +73,18 @@ class InterruptLoop : public EventLoop {
   bool pressed_ = false;
 };
 
-/// Replaces the main window, which a batch run does not have.
-class BatchRunHost : public RunHost {
+/// Replaces the main window, which the batch program does not have.
+class BatchHost : public ProjectSessionHost, public RunHost {
  public:
-  BatchRunHost(Terminal& terminal, InterruptLoop& loop, UploadLog& log, CreateChoice choice)
-      : terminal_(terminal), loop_(loop), log_(log), choice_(std::move(choice)) {}
+  BatchHost(Terminal& terminal, InterruptLoop& loop, UploadLog& log) : terminal_(terminal), loop_(loop), log_(log) {}
 
-  [[nodiscard]] CreateChoice AskWhatToCreate() override { return choice_; }
+  void SetStatusText(const std::string& text) override { terminal_.ShowStatus(text); }
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
-  void ShowStatus(const std::string& text) override { terminal_.ShowStatus(text); }
-  void ShowBusyPointer(bool /*busy*/) override {}
-  void EnableMainWindow(bool /*enabled*/) override {}
-  void EnableTrayIcon(bool /*enabled*/) override {}
 
  private:
   Terminal& terminal_;
   InterruptLoop& loop_;
   UploadLog& log_;
-  CreateChoice choice_;
 };
 
 }  // namespace vantorium

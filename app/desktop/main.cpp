@@ -34,23 +34,15 @@ std::uint16_t FtpPort() {
 /// The objects that the main window depends on, for the whole run of the program.
 class Desktop {
  public:
-  [[nodiscard]] DesktopPorts Ports() {
-    return {paths_,
-            formats_,
-            files_,
-            boxes_,
-            loop_,
-            shell_,
-            clock_,
-            screen_,
-            texts_,
+  [[nodiscard]] DesktopPorts AllPorts() {
+    return {{paths_, formats_, files_, boxes_, loop_, shell_, clock_, screen_, texts_,
+             std::max(1U, std::thread::hardware_concurrency())},
             dialogs_,
             browser_,
             folders_,
             programFolder_,
             bundled_,
             {VANTORIUM_VERSION_MAJOR, VANTORIUM_VERSION_MINOR, VANTORIUM_VERSION_REVISION},
-            std::max(1U, std::thread::hardware_concurrency()),
             FtpPort()};
   }
 
@@ -74,7 +66,7 @@ class Desktop {
 
 int ShowWindow() {
   Desktop desktop;
-  frmMain window(desktop.Ports());
+  frmMain window(desktop.AllPorts());
   QObject::connect(&window, &frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
   window.Start(FromQt(QApplication::arguments().value(1)));
   window.show();

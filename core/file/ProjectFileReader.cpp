@@ -32,8 +32,8 @@ bool Load(XmlFile& file, const PathMap& paths, const std::string& path, EventLoo
 }  // namespace
 
 bool ProjectFileReader::ReadProjectFile(const std::string& path) {
-  status_.SetStatusText(fmt::format("Reading Project File \"{}\"...", path));
-  status_.ShowWaitPointer();
+  window_.SetStatusText(fmt::format("Reading Project File \"{}\"...", path));
+  window_.ShowBusyPointer(true);
   events_.Turn();
   ResetToDefaults(project_.settings, project_.UntitledName());
   bool modified = false;  // edits made by reading are not the user's
@@ -50,8 +50,8 @@ bool ProjectFileReader::ReadProjectFile(const std::string& path) {
     return false;
   }
   if (const std::string reason = ReasonOf(result); !reason.empty()) ReportInvalidProjectFile(path, reason);
-  status_.SetStatusText("");
-  status_.ResetPointer();
+  window_.SetStatusText("");
+  window_.ShowBusyPointer(false);
   return result == ReadResult::Complete;
 }
 

@@ -2,11 +2,11 @@
 
 #include "core/ImageListOperations.h"
 #include "core/Project.h"
-#include "core/file/ProjectFileStatus.h"
 #include "core/file/ProjectReadResult.h"
 #include "env/EventLoop.h"
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
+#include "env/WindowState.h"
 
 #include <string>
 
@@ -22,8 +22,8 @@ class ProjectEditor;
 class ProjectFileReader {
  public:
   ProjectFileReader(Project& project, ImageListOperations& images, const PathMap& paths, MessageBoxPort& boxes,
-                    ProjectFileStatus& status, EventLoop& events)
-      : project_(project), images_(images), paths_(paths), boxes_(boxes), status_(status), events_(events) {}
+                    WindowState& window, EventLoop& events)
+      : project_(project), images_(images), paths_(paths), boxes_(boxes), window_(window), events_(events) {}
 
   /// Resets the settings to those of a new project, then applies those of the file at `path` (path text) by the rules
   /// of an edit, and adds the file's images to the list, which the caller has cleared. On failure returns false, after
@@ -42,7 +42,7 @@ class ProjectFileReader {
   ImageListOperations& images_;
   const PathMap& paths_;
   MessageBoxPort& boxes_;
-  ProjectFileStatus& status_;
+  WindowState& window_;
   EventLoop& events_;
 };
 

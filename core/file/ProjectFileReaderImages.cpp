@@ -11,7 +11,7 @@ namespace {
 // Reads positions as 32-bit numbers, so that lists longer than 16 bits can count are restored.
 [[nodiscard]] bool AddImageElement(pugi::xml_node image, ImageListOperations& list) {
   const auto index = ParseInt32(AttributeOf(image, "INDEX").value_or(""));
-  return list.AddImage(static_cast<std::size_t>(index), TextOrEmpty(image, "SOURCE"), TextOrEmpty(image, "NAME"), true,
+  return list.AddImage(static_cast<std::size_t>(index), TextOrEmpty(image, "SOURCE"), TextOrEmpty(image, "NAME"),
                        MultilineText(image.child("DESCRIPTION")), "");
 }
 

@@ -90,8 +90,8 @@ std::string ProjectFileText(const Project& project, EventLoop& events) {
 }
 
 bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
-  status_.SetStatusText(fmt::format("Writing Project File \"{}\"...", path));
-  status_.ShowWaitPointer();
+  window_.SetStatusText(fmt::format("Writing Project File \"{}\"...", path));
+  window_.ShowBusyPointer(true);
   events_.Turn();
   bool written = false;
   try {
@@ -104,8 +104,8 @@ bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
   } catch (const std::exception&) {
     // The caller shows the message for a file that could not be written.
   }
-  status_.SetStatusText("");
-  status_.ResetPointer();
+  window_.SetStatusText("");
+  window_.ShowBusyPointer(false);
   return written;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/Project.h"
-#include "core/file/ProjectFileStatus.h"
 #include "env/EventLoop.h"
 #include "env/PathMap.h"
+#include "env/WindowState.h"
 
 #include <string>
 
@@ -13,8 +13,8 @@ namespace vantorium {
 /// the project.
 class ProjectFileWriter {
  public:
-  ProjectFileWriter(const Project& project, const PathMap& paths, ProjectFileStatus& status, EventLoop& events)
-      : project_(project), paths_(paths), status_(status), events_(events) {}
+  ProjectFileWriter(const Project& project, const PathMap& paths, WindowState& window, EventLoop& events)
+      : project_(project), paths_(paths), window_(window), events_(events) {}
 
   /// Writes the file at `path` (path text) anew. An old file stays unchanged until the new one is complete and on disk,
   /// and remains if the result is false. If the path is a symbolic link, its target is replaced.
@@ -23,7 +23,7 @@ class ProjectFileWriter {
  private:
   const Project& project_;
   const PathMap& paths_;
-  ProjectFileStatus& status_;
+  WindowState& window_;
   EventLoop& events_;
 };
 

@@ -1,6 +1,7 @@
 #include "core/generation/AuxiliaryFiles.h"
 
 #include "core/GalleryTargets.h"
+#include "core/generation/RunMessages.h"
 #include "env/PathText.h"
 
 namespace vantorium {
@@ -16,40 +17,48 @@ std::string Resolved(const RunState& run, const std::string& source) {
 
 /// Adds the file named by a setting, unless the setting is empty.
 void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::string& setting,
-             std::string_view fixedName, AuxiliarySpelling spelling) {
+             std::string_view fixedName, bool isImageLink) {
   if (setting.empty()) return;
   const std::string source = Resolved(run, setting);
-  files.push_back({source, std::string(fixedName) + GetFileExtension(source), spelling});
+  files.push_back({source, std::string(fixedName) + GetFileExtension(source), isImageLink});
 }
 
 void AddLinkGraphics(std::vector<AuxiliaryFile>& files, const RunState& run, const TargetFields& target,
-                     AuxiliarySpelling spelling) {
+                     bool areImageLinks) {
   for (const PageLink& link : target.links) {
     const LinkSettings& settings = run.project.*link.settings;
-    AddFile(files, run, settings.textLinkGraphic, link.graphic, spelling);
+    AddFile(files, run, settings.textLinkGraphic, link.graphic, areImageLinks);
     if (link.disabledGraphic.empty()) continue;
-    AddFile(files, run, settings.textLinkGraphicDisabled, link.disabledGraphic, spelling);
+    AddFile(files, run, settings.textLinkGraphicDisabled, link.disabledGraphic, areImageLinks);
   }
 }
 
 PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
-  return context.Settle(context.target.CopyAuxiliary(file.source, file.name, file.spelling));
+  Delivery delivery = context.target.CopyAuxiliary(file.source, file.name);
+  if (delivery && context.run.mode != GenerationMode::Publish) delivery->text = UnableToCopyAuxiliary(file);
+  return context.Settle(delivery);
 }
 
 }  // namespace
 
 std::vector<AuxiliaryFile> Backdrops(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  for (const auto& [source, name] : kBackdrops) AddFile(files, run, run.project.*source, name, AuxiliarySpelling::File);
+  for (const auto& [source, name] : kBackdrops) AddFile(files, run, run.project.*source, name, /*isImageLink=*/false);
   return files;
 }
 
 std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  AddLinkGraphics(files, run, kThumbnails, AuxiliarySpelling::File);
-  // Links between images stand on wrapper pages only.
-  if (IsOn(run.project.checkImageWrapperUse)) AddLinkGraphics(files, run, kImages, AuxiliarySpelling::file);
+  AddLinkGraphics(files, run, kThumbnails, /*areImageLinks=*/false);
+  // Links between images are on wrapper pages only.
+  if (IsOn(run.project.checkImageWrapperUse)) AddLinkGraphics(files, run, kImages, /*areImageLinks=*/true);
   return files;
+}
+
+/// The links between images have a message of their own, with a small letter.
+std::string UnableToCopyAuxiliary(const AuxiliaryFile& file) {
+  if (!file.isImageLink) return UnableToCopy(file.source);
+  return "Unable to copy the file \"" + file.source + "\".";
 }
 
 PhaseResult CopyBackdrops(const RunContext& context) {

@@ -11,13 +11,16 @@ namespace vantorium {
 struct AuxiliaryFile {
   std::string source;  ///< path text
   std::string name;    ///< in the images folder: a fixed name with the extension of the source
-  AuxiliarySpelling spelling;
+  bool isImageLink = false;
 };
 
 /// The files that the run copies, in the order of copying. A file without a folder is looked for beside the project
 /// file.
 [[nodiscard]] std::vector<AuxiliaryFile> Backdrops(const RunState& run);
 [[nodiscard]] std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run);
+
+/// The message if a file cannot be copied to a local folder.
+[[nodiscard]] std::string UnableToCopyAuxiliary(const AuxiliaryFile& file);
 
 /// Copy these files into the images folder.
 [[nodiscard]] PhaseResult CopyBackdrops(const RunContext& context);

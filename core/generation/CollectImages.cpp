@@ -103,14 +103,14 @@ PhaseResult CollectImages(const RunContext& context) {
   run.RunInfo.clear();
   run.RunInfo.reserve(total);
   for (std::size_t index = 1; index <= total; ++index) {
-    context.loop.Turn();
-    if (context.cancel.CancelRequested()) return RunEnd::Cancelled;
+    context.environment.loop.Turn();
+    if (context.environment.cancel.CancelRequested()) return RunEnd::Cancelled;
     run.RunInfo.push_back(Collect(run, run.images.Entry(index)));
     if (index % kDisplayEvery == 0) ShowCount(context, index, total);
   }
   context.progress.SetProgress(static_cast<std::int32_t>(total));
   context.Announce("Collecting Image Information (complete)...");
-  context.loop.Turn();
+  context.environment.loop.Turn();
   run.ImageCount = static_cast<std::int32_t>(total);
   run.ThumbnailPageCount = ThumbnailPageCount(run.project, run.ImageCount);
   return kGoOn;

@@ -2,127 +2,81 @@
 
 #include "core/ProjectEditor.h"
 #include "env/LaunchCommands.h"
-#include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
-#include "publish/FTPPath.h"
 
 namespace vantorium {
-namespace {
-
-/// Returns `path` through its last separator. Unlike GetFilePath it keeps a leading separator.
-std::string FolderPart(const std::string& path) {
-  return path.substr(0, path.size() - GetFileName(path).size());
-}
-
-/// Returns a remote folder to which a name can be appended.
-std::string WithTrailingSeparator(const std::string& folder) {
-  const bool needsOne = !folder.empty() && !folder.ends_with('\\') && !folder.ends_with('/');
-  return needsOne ? folder + '/' : folder;
-}
-
-void TakeSwitches(const CreateChoice& choice, RunArguments& arguments) {
-  arguments.CreateImages = choice.CreateImages;
-  arguments.CreateThumbnails = choice.CreateThumbnails;
-  arguments.CreateHTML = choice.CreateHTMLFiles;
-  arguments.Overwrite = choice.Overwrite;
-}
-
-}  // namespace
-
 RunEnd GalleryCreator::CreateGallery(GenerationMode& mode, std::int16_t browserIndex) {
+  Repair();
+  auto order = mode == GenerationMode::Preview ? RunOrder{.Mode = mode} : environment_.host.AskWhatToCreate();
+  if (!order) return RunEnd::NotStarted;
+  mode = order->Mode;
+  return Start(*std::move(order), browserIndex);
+}
+
+RunEnd GalleryCreator::CarryOut(RunOrder order, std::int16_t browserIndex) {
+  Repair();
+  return Start(std::move(order), browserIndex);
+}
+
+void GalleryCreator::Repair() {
   if (preferences_.TempFolderLocation.empty()) preferences_.TempFolderLocation = programFolder_;
   NormalizeForOutput(project_.settings, project_.IsModified);
-  RunArguments arguments;
-  if (!Prepare(mode, arguments)) return RunEnd::NotStarted;
-  arguments.Mode = mode;
-  const bool usesTempFolder = mode == GenerationMode::Preview || mode == GenerationMode::Publish;
+}
+
+RunEnd GalleryCreator::Start(RunOrder order, std::int16_t browserIndex) {
+  if (!Prepare(order)) return RunEnd::NotStarted;
+  const bool usesTempFolder = order.Mode == GenerationMode::Preview || order.Mode == GenerationMode::Publish;
   const TempFolderLock lock(usesTempFolder ? NativeTempFolder() : std::filesystem::path());
   if (usesTempFolder && RefuseTempFolder(lock)) return RunEnd::NotStarted;
-  const RunEnd end = Run(arguments);
-  if (end == RunEnd::Success && mode == GenerationMode::Preview) {
-    OpenInBrowser(arguments.OutputFolder + arguments.IndexFileName, browserIndex);
+  environment_.cancel.Clear();
+  environment_.host.EnableTrayIcon(false);
+  const RunEnd end = GenerateGallery(project_, order, environment_);
+  if (end == RunEnd::Success && order.Mode == GenerationMode::Preview) {
+    OpenInBrowser(order.OutputFolder + order.IndexFileName, browserIndex);
   }
   environment_.shell.Beep(BeepKind::Information);
   environment_.host.EnableTrayIcon(true);
-  environment_.host.ShowBusyPointer(false);
-  environment_.host.ShowStatus("");
+  if (end == RunEnd::Success) environment_.host.SetStatusText("");
   return end;
 }
 
-bool GalleryCreator::Prepare(GenerationMode& mode, RunArguments& arguments) {
-  if (mode == GenerationMode::Preview) return PreparePreview(arguments);
-  const CreateChoice choice = environment_.host.AskWhatToCreate();
-  TakeSwitches(choice, arguments);
-  switch (choice.option) {
-    case CreateChoice::Option::Cancelled:
-      return false;
-    case CreateChoice::Option::CreateGallery:
-      return PrepareCreate(choice, arguments);
-    case CreateChoice::Option::Publish:
-      mode = GenerationMode::Publish;
-      return PreparePublish(choice, arguments);
-    case CreateChoice::Option::UploadFolder:
-      mode = GenerationMode::Upload;
-      PrepareUpload(choice, arguments);
+bool GalleryCreator::Prepare(RunOrder& order) {
+  switch (order.Mode) {
+    case GenerationMode::Preview:
+      if (RefuseEmptyList("You cannot preview a Gallery without Images.")) return false;
+      UseTempFolder(order, "index.htm");
+      return true;
+    case GenerationMode::Create:
+      MakeTempFolder();
+      preferences_.CreateFolder = order.OutputFolder;
+      preferences_.GalleryIndexFileName = order.IndexFileName;
+      return !RefuseEmptyList("You cannot create a Gallery without Images.");
+    case GenerationMode::Publish:
+      CloseOldConnection();
+      UseTempFolder(order, order.RemoteIndexFileName);
+      return !RefuseEmptyList("You cannot upload a Gallery without Images.");
+    case GenerationMode::Upload:
+      CloseOldConnection();
       return true;
   }
   return false;
 }
 
-bool GalleryCreator::PreparePreview(RunArguments& arguments) {
-  if (RefuseEmptyList("You cannot preview a Gallery without Images.")) return false;
+void GalleryCreator::UseTempFolder(RunOrder& order, const std::string& indexFileName) {
   MakeTempFolder();
-  arguments.OutputFolder = TempFolder() + "\\";
-  arguments.IndexFileName = "index.htm";
-  return true;
+  order.OutputFolder = TempFolder() + "\\";
+  order.IndexFileName = indexFileName;
 }
 
-bool GalleryCreator::PrepareCreate(const CreateChoice& choice, RunArguments& arguments) {
-  MakeTempFolder();
-  arguments.IndexFileName = GetFileName(choice.FilePath);
-  arguments.OutputFolder = FolderPart(choice.FilePath);
-  preferences_.CreateFolder = arguments.OutputFolder;
-  preferences_.GalleryIndexFileName = arguments.IndexFileName;
-  return !RefuseEmptyList("You cannot create a Gallery without Images.");
-}
-
-bool GalleryCreator::PreparePublish(const CreateChoice& choice, RunArguments& arguments) {
-  TakeServer(choice, arguments);
-  const std::string remote = WithTrailingSeparator(choice.UploadIndexPath) + choice.UploadIndexFile;
-  arguments.RemoteFolder = FTPGetFilePath(remote);
-  arguments.RemoteIndexFileName = FTPGetFileName(remote);
-  MakeTempFolder();
-  arguments.OutputFolder = TempFolder() + "\\";
-  arguments.IndexFileName = arguments.RemoteIndexFileName;
-  return !RefuseEmptyList("You cannot upload a Gallery without Images.");
-}
-
-void GalleryCreator::PrepareUpload(const CreateChoice& choice, RunArguments& arguments) {
-  TakeServer(choice, arguments);
-  arguments.OutputFolder = FolderPart(choice.UploadSourceFolder);
-  arguments.RemoteFolder = FTPGetFilePath(WithTrailingSeparator(choice.UploadIndexPath));
-}
-
-void GalleryCreator::TakeServer(const CreateChoice& choice, RunArguments& arguments) {
+void GalleryCreator::CloseOldConnection() {
   if (environment_.ftp != nullptr && environment_.ftp->IsConnected()) environment_.ftp->Disconnect();
-  arguments.ServerAddress = choice.UploadServer;
-  arguments.Port = choice.UploadPort;
-  arguments.UserName = choice.UploadUser;
-  arguments.Password = choice.UploadPassword;
-  arguments.BaseDirectory = choice.UploadJumpTo;
 }
 
 bool GalleryCreator::RefuseEmptyList(const char* text) {
   if (!project_.images.Empty()) return false;
   environment_.boxes.Critical("No Images", text);
   return true;
-}
-
-RunEnd GalleryCreator::Run(const RunArguments& arguments) {
-  environment_.cancel.Clear();
-  environment_.host.EnableTrayIcon(false);
-  return GenerateGallery(project_, arguments, environment_);
 }
 
 std::string GalleryCreator::TempFolder() const {

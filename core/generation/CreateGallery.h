@@ -16,20 +16,22 @@ class GalleryCreator {
         programFolder_(std::move(programFolder)),
         environment_(environment) {}
 
-  /// Repairs empty settings, asks the user what to do if `mode` is Create, and runs. The dialog may change `mode` from
-  /// Create to another mode. A successful Preview is opened in browser `browserIndex`; 0 is the system's default. A run
-  /// that makes its files in the temporary folder has exclusive use of it, or does not start.
+  /// Repairs empty settings, asks the user what to do unless `mode` is Preview, and runs like CarryOut. The dialog may
+  /// change `mode` to another mode.
   RunEnd CreateGallery(GenerationMode& mode, std::int16_t browserIndex);
+  /// Repairs empty settings and does what `order` says. A successful Preview is opened in browser `browserIndex`; 0 is
+  /// the system's default. A run that makes its files in the temporary folder has exclusive use of it, or does not
+  /// start.
+  RunEnd CarryOut(RunOrder order, std::int16_t browserIndex);
 
  private:
   [[nodiscard]] bool RefuseEmptyList(const char* text);
-  [[nodiscard]] bool PreparePreview(RunArguments& arguments);
-  [[nodiscard]] bool PrepareCreate(const CreateChoice& choice, RunArguments& arguments);
-  [[nodiscard]] bool PreparePublish(const CreateChoice& choice, RunArguments& arguments);
-  void PrepareUpload(const CreateChoice& choice, RunArguments& arguments);
-  void TakeServer(const CreateChoice& choice, RunArguments& arguments);
-  [[nodiscard]] bool Prepare(GenerationMode& mode, RunArguments& arguments);
-  [[nodiscard]] RunEnd Run(const RunArguments& arguments);
+  void Repair();
+  [[nodiscard]] RunEnd Start(RunOrder order, std::int16_t browserIndex);
+  /// Completes `order`. Returns false, after a message box, if there is nothing to make.
+  [[nodiscard]] bool Prepare(RunOrder& order);
+  void UseTempFolder(RunOrder& order, const std::string& indexFileName);
+  void CloseOldConnection();
   void MakeTempFolder();
   [[nodiscard]] std::filesystem::path NativeTempFolder() const;
   /// Returns true, after a message box with the reason, if the run may not use the temporary folder.

@@ -16,15 +16,6 @@ struct Refusal {
 
 using Delivery = std::optional<Refusal>;  ///< nullopt on success
 
-/// How the error message about an auxiliary file spells "File".
-enum class AuxiliarySpelling { File, file };
-
-/// Returns the error message about an auxiliary file.
-[[nodiscard]] inline std::string UnableToCopyAuxiliary(const std::string& source, AuxiliarySpelling spelling) {
-  return std::string("Unable to copy the ") + (spelling == AuxiliarySpelling::File ? "File" : "file") + " \"" + source +
-         "\".";
-}
-
 /// Where a run puts the files it makes: a local folder, or a server by way of the temporary folder. Names are those in
 /// the gallery; a name that would lead out of its folder is refused like a file that cannot be written. A stored file
 /// appears under its name only when it is complete.
@@ -45,14 +36,13 @@ class GalleryTarget {
   /// Copies the source file unchanged.
   [[nodiscard]] virtual Delivery CopyImage(const ImageRunInfo& image) = 0;
   /// Stores an encoded image with the file times of its source and sets the image's FileSize. Throws RuntimeFailure
-  /// JPEGLibrary if the file cannot be written.
+  /// JPEGLibrary if the file cannot be written, and FileAccess if the folder's drive is not mapped.
   [[nodiscard]] virtual Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) = 0;
   /// Stores an encoded thumbnail. Throws like StoreImage.
   [[nodiscard]] virtual Delivery StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) = 0;
 
   /// Copies a backdrop or link graphic into the images folder under `name`. `source` is path text.
-  [[nodiscard]] virtual Delivery CopyAuxiliary(const std::string& source, const std::string& name,
-                                               AuxiliarySpelling spelling) = 0;
+  [[nodiscard]] virtual Delivery CopyAuxiliary(const std::string& source, const std::string& name) = 0;
 
   /// Store the bytes of a page. Throw RuntimeFailure FileAccess if they cannot be written.
   [[nodiscard]] virtual Delivery StoreIndexPage(std::string_view page) = 0;

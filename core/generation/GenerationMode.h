@@ -12,4 +12,8 @@ enum class GenerationMode : std::int16_t {
   Upload = 3,   ///< send an existing folder to a server
 };
 
+[[nodiscard]] constexpr bool SendsToServer(GenerationMode mode) {
+  return mode == GenerationMode::Publish || mode == GenerationMode::Upload;
+}
+
 }  // namespace vantorium

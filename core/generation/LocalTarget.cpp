@@ -1,6 +1,7 @@
 #include "core/generation/LocalTarget.h"
 
 #include "core/generation/OutputNaming.h"
+#include "core/generation/RunMessages.h"
 #include "core/generation/SafeNames.h"
 #include "env/FileOutput.h"
 #include "env/NeighbourFile.h"
@@ -18,8 +19,8 @@ std::filesystem::path NativeOrThrow(const RunState& run, const std::string& path
   return *std::move(native);
 }
 
-Refusal UnableToCopy(const std::string& source) {
-  return {"File Error", "Unable to copy the File \"" + source + "\"."};
+Refusal FileError(std::string text) {
+  return {"File Error", std::move(text)};
 }
 
 bool MakeFolder(const RunState& run, const std::string& setting, const std::string& path) {
@@ -53,12 +54,12 @@ std::string LocalTarget::ImageSizeText(const ImageRunInfo& image) {
 Delivery LocalTarget::CopyImage(const ImageRunInfo& image) {
   const bool copied = IsPlainFileName(image.FileName) &&
                       run_.files.CopyLocalFile(image.Path, LocalImagePath(run_, image), /*overwrite=*/true);
-  if (!copied) return UnableToCopy(image.Path);
+  if (!copied) return FileError(UnableToCopy(image.Path));
   return {};
 }
 
 Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
-  if (!IsPlainFileName(image.FileName)) return UnableToCopy(image.Path);
+  if (!IsPlainFileName(image.FileName)) return FileError(UnableToCopy(image.Path));
   WriteJPEGFile(NativeOrThrow(run_, LocalImagePath(run_, image)), jpeg);
   run_.files.CopyFileTimes(image.Path, LocalImagePath(run_, image));
   image.FileSize = FileSizeText(jpeg.size());
@@ -67,17 +68,17 @@ Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
 
 Delivery LocalTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
   if (!IsPlainFileName(image.FileName) || LeavesFolder(ThumbnailFileName(run_.project, image))) {
-    return Refusal{"File Error", "Unable to create Thumbnail for \"" + image.Path + "\"."};
+    return FileError(UnableToCreateThumbnail(image.Path));
   }
   WriteJPEGFile(NativeOrThrow(run_, LocalThumbnailPath(run_, image)), jpeg);
   return {};
 }
 
-Delivery LocalTarget::CopyAuxiliary(const std::string& source, const std::string& name, AuxiliarySpelling spelling) {
+Delivery LocalTarget::CopyAuxiliary(const std::string& source, const std::string& name) {
   const bool copied =
       IsPlainFileName(name) && run_.files.CopyLocalFile(source, run_.LocalImagesDir + name, /*overwrite=*/true);
-  if (copied) return {};
-  return Refusal{"File Error", UnableToCopyAuxiliary(source, spelling)};
+  if (!copied) return FileError(UnableToCopy(source));
+  return {};
 }
 
 Delivery LocalTarget::StoreIndexPage(std::string_view page) {

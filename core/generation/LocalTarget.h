@@ -18,8 +18,7 @@ class LocalTarget : public GalleryTarget {
   [[nodiscard]] Delivery CopyImage(const ImageRunInfo& image) override;
   [[nodiscard]] Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) override;
   [[nodiscard]] Delivery StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) override;
-  [[nodiscard]] Delivery CopyAuxiliary(const std::string& source, const std::string& name,
-                                       AuxiliarySpelling spelling) override;
+  [[nodiscard]] Delivery CopyAuxiliary(const std::string& source, const std::string& name) override;
   [[nodiscard]] Delivery StoreIndexPage(std::string_view page) override;
   [[nodiscard]] Delivery StoreThumbnailPage(std::int32_t number, std::string_view page) override;
   [[nodiscard]] Delivery StoreWrapperPage(const std::string& listText, std::string_view page) override;

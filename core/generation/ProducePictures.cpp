@@ -2,6 +2,7 @@
 
 #include "core/generation/PictureRecipes.h"
 #include "core/generation/PictureWorkshop.h"
+#include "core/generation/RunMessages.h"
 #include "core/generation/ThumbnailSpool.h"
 #include "env/RuntimeFailure.h"
 
@@ -48,10 +49,10 @@ class PictureProduction {
   void KeepThumbnail(Number number, const MadePictures& made);
 
   [[nodiscard]] bool KeepsExistingImage(Number number) {
-    return !context_.arguments.Overwrite && context_.target.ImageExists(run_.Info(number));
+    return !context_.order.Overwrite && context_.target.ImageExists(run_.Info(number));
   }
   [[nodiscard]] bool KeepsExistingThumbnail(Number number) {
-    return !context_.arguments.Overwrite && context_.target.ThumbnailExists(run_.Info(number));
+    return !context_.order.Overwrite && context_.target.ThumbnailExists(run_.Info(number));
   }
   /// Whether it is known ahead that a picture will be kept. If the target cannot be asked ahead, the picture is made
   /// ahead, in vain if it exists; but work ahead starts only after a picture that did not exist.
@@ -71,7 +72,7 @@ class PictureProduction {
   }
 
   [[nodiscard]] PhaseResult ImageNotLoaded(Number number) const {
-    return NotLoaded("Unable to copy the File \"" + run_.Info(number).Path + "\".");
+    return NotLoaded(UnableToCopy(run_.Info(number).Path));
   }
 
   const RunContext& context_;
@@ -88,12 +89,14 @@ PhaseResult PictureProduction::ForEach(PictureWorkshop& workshop, Step step) {
 }
 
 PhaseResult PictureProduction::Images() {
-  PictureWorkshop workshop(context_.jobs, run_.ImageCount, [this](Number number) { return PlanImage(number); });
+  PictureWorkshop workshop(context_.environment.jobs, run_.ImageCount,
+                           [this](Number number) { return PlanImage(number); });
   return ForEach(workshop, &PictureProduction::ImageStep);
 }
 
 PhaseResult PictureProduction::Thumbnails() {
-  PictureWorkshop workshop(context_.jobs, run_.ImageCount, [this](Number number) { return PlanThumbnail(number); });
+  PictureWorkshop workshop(context_.environment.jobs, run_.ImageCount,
+                           [this](Number number) { return PlanThumbnail(number); });
   return ForEach(workshop, &PictureProduction::ThumbnailStep);
 }
 
@@ -142,7 +145,7 @@ std::optional<PictureTask> PictureProduction::PlanImage(Number number) {
   const auto recipe = ImageRecipe(run_, number);
   if (!recipe || WillKeepImage(number)) return std::nullopt;
   PictureRequest request{recipe, {}};
-  if (context_.arguments.CreateThumbnails && !WillKeepThumbnail(number)) {
+  if (context_.order.CreateThumbnails && !WillKeepThumbnail(number)) {
     request.thumbnail = ThumbnailRecipe(run_, number);
   }
   return Task(number, std::move(request));
@@ -223,8 +226,8 @@ std::optional<PictureFiles> PictureProduction::Take(PictureWorkshop& workshop, N
 
 PhaseResult ProducePictures(const RunContext& context) {
   PictureProduction production(context);
-  if (auto end = context.arguments.CreateImages ? production.Images() : production.Sizes()) return end;
-  if (!context.arguments.CreateThumbnails) return kGoOn;
+  if (auto end = context.order.CreateImages ? production.Images() : production.Sizes()) return end;
+  if (!context.order.CreateThumbnails) return kGoOn;
   return production.Thumbnails();
 }
 

@@ -3,6 +3,7 @@
 #include "core/generation/AuxiliaryFiles.h"
 #include "core/generation/OutputNaming.h"
 #include "core/generation/PictureRecipes.h"
+#include "core/generation/RunMessages.h"
 #include "core/generation/SourceStamp.h"
 
 #include <set>
@@ -50,13 +51,13 @@ class Sources {
 
 Output Page(const RunState& run, const std::string& name) {
   const std::string path = run.OutputFolder + name;
-  return {path, "Unable to create the File \"" + path + "\"."};
+  return {path, UnableToCreatePage(path)};
 }
 
 /// An existing picture is kept if the run does not overwrite. A server is asked only at the picture's turn.
 bool StaysAsItIs(const RunContext& context, bool (GalleryTarget::*exists)(const ImageRunInfo&),
                  const ImageRunInfo& image) {
-  return !context.arguments.Overwrite && context.target.MayAskAhead() && (context.target.*exists)(image);
+  return !context.order.Overwrite && context.target.MayAskAhead() && (context.target.*exists)(image);
 }
 
 void AddImage(Outputs& outputs, const RunContext& context, std::int32_t number) {
@@ -65,23 +66,23 @@ void AddImage(Outputs& outputs, const RunContext& context, std::int32_t number) 
   const bool copied = !ImageRecipe(run, number);
   const bool publishes = run.mode == GenerationMode::Publish;
   if ((copied && publishes) || StaysAsItIs(context, &GalleryTarget::ImageExists, image)) return;
-  const std::string what = publishes ? "Unable to create temporary Copy of the File \"" : "Unable to copy the File \"";
-  outputs.push_back({LocalImagePath(run, image), what + image.Path + "\".", copied ? image.Path : ""});
+  const std::string failure = publishes ? UnableToCopyTemporarily(image.Path) : UnableToCopy(image.Path);
+  outputs.push_back({LocalImagePath(run, image), failure, copied ? image.Path : ""});
 }
 
 void AddThumbnail(Outputs& outputs, const RunContext& context, std::int32_t number) {
   const ImageRunInfo& image = context.run.Info(number);
   if (StaysAsItIs(context, &GalleryTarget::ThumbnailExists, image)) return;
-  outputs.push_back({LocalThumbnailPath(context.run, image), "Unable to create Thumbnail for \"" + image.Path + "\"."});
+  outputs.push_back({LocalThumbnailPath(context.run, image), UnableToCreateThumbnail(image.Path)});
 }
 
 Outputs OutputsOfImage(const RunContext& context, std::int32_t number) {
   const RunState& run = context.run;
   const bool produces = run.mode != GenerationMode::Preview;
   Outputs outputs;
-  if (produces && context.arguments.CreateImages) AddImage(outputs, context, number);
-  if (produces && context.arguments.CreateThumbnails) AddThumbnail(outputs, context, number);
-  if (context.arguments.CreateHTML && IsOn(run.project.checkImageWrapperUse)) {
+  if (produces && context.order.CreateImages) AddImage(outputs, context, number);
+  if (produces && context.order.CreateThumbnails) AddThumbnail(outputs, context, number);
+  if (context.order.CreateHTML && IsOn(run.project.checkImageWrapperUse)) {
     outputs.push_back(Page(run, WrapperPageName(run.project, run.ListText(number))));
   }
   return outputs;
@@ -97,7 +98,7 @@ Outputs AuxiliaryOutputs(const RunState& run) {
   Outputs outputs;
   if (run.mode == GenerationMode::Publish) return outputs;
   for (const AuxiliaryFile& file : AuxiliaryFiles(run)) {
-    outputs.push_back({run.LocalImagesDir + file.name, UnableToCopyAuxiliary(file.source, file.spelling), file.source});
+    outputs.push_back({run.LocalImagesDir + file.name, UnableToCopyAuxiliary(file), file.source});
   }
   return outputs;
 }
@@ -139,7 +140,7 @@ PhaseResult CheckImages(const RunContext& context, const Sources& sources) {
 
 PhaseResult CheckPages(const RunContext& context, const Sources& sources) {
   const RunState& run = context.run;
-  if (!context.arguments.CreateHTML) return kGoOn;
+  if (!context.order.CreateHTML) return kGoOn;
   if (auto end = Check(context, sources, {Page(run, run.IndexFileName)})) return end;
   for (std::int32_t page = 1; page <= run.ThumbnailPageCount; ++page) {
     if (auto end = Pause(context, page)) return end;

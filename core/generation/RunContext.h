@@ -1,17 +1,9 @@
 #pragma once
 
-#include "core/generation/CancelCheck.h"
 #include "core/generation/GalleryTarget.h"
-#include "core/generation/RunArguments.h"
 #include "core/generation/RunEnd.h"
-#include "core/generation/RunHost.h"
+#include "core/generation/RunEnvironment.h"
 #include "core/generation/RunState.h"
-#include "env/Clock.h"
-#include "env/EventLoop.h"
-#include "env/MessageBoxPort.h"
-#include "env/Screen.h"
-#include "image/TextRaster.h"
-#include "publish/mFTP.h"
 
 #include <string>
 
@@ -20,29 +12,21 @@ namespace vantorium {
 /// What the phases of a run work with, and the operations they share.
 struct RunContext {
   RunState& run;
-  const RunArguments& arguments;
-  RunHost& host;
-  MessageBoxPort& boxes;
-  EventLoop& loop;
-  const Clock& clock;
-  CancelCheck& cancel;
+  const RunOrder& order;
+  const RunEnvironment& environment;
   ProgressWindow& progress;
   GalleryTarget& target;
-  const Screen& screen;
-  const TextRaster& texts;
-  mFTP* ftp = nullptr;  ///< null unless the run sends to a server
-  unsigned jobs = 1;    ///< photographs processed at a time
 
   /// Shows `text` in the status bar and in the progress window.
   void Announce(const std::string& text) const {
-    host.ShowStatus(text);
+    environment.host.SetStatusText(text);
     progress.SetText2(text);
   }
 
   /// Gives the event loop a turn and returns whether the run must stop.
   [[nodiscard]] bool Cancelled() const {
-    loop.Turn();
-    return cancel.CheckForCancel(progress);
+    environment.loop.Turn();
+    return environment.cancel.CheckForCancel(progress);
   }
 
   /// Announces `text` and polls for a cancel. Nearly every step begins with this.
@@ -53,7 +37,7 @@ struct RunContext {
   }
 
   [[nodiscard]] PhaseResult Fail(const std::string& title, const std::string& text) const {
-    boxes.Critical(title, text);
+    environment.boxes.Critical(title, text);
     return RunEnd::Failure;
   }
 
@@ -61,7 +45,7 @@ struct RunContext {
   /// cancel is caused by the cancel and returns Cancelled.
   [[nodiscard]] PhaseResult Settle(const Delivery& delivery) const {
     if (!delivery) return kGoOn;
-    if (cancel.CancelRequested()) return RunEnd::Cancelled;
+    if (environment.cancel.CancelRequested()) return RunEnd::Cancelled;
     return Fail(delivery->title, delivery->text);
   }
 

@@ -9,53 +9,49 @@ const char kFtpError[] = "FTP Error";
 
 /// Returns the result of a server operation that worked or failed. A cancel takes precedence over both.
 PhaseResult After(const RunContext& context, bool worked, const std::string& text) {
-  if (context.cancel.CancelRequested()) return RunEnd::Cancelled;
+  if (context.environment.cancel.CancelRequested()) return RunEnd::Cancelled;
   if (worked) return kGoOn;
   return context.Fail(kFtpError, text);
 }
 
 /// The same for an operation without which the connection is useless: disconnects if it failed.
 PhaseResult AfterClosing(const RunContext& context, bool worked, const std::string& text) {
-  if (!worked) context.ftp->Disconnect();
+  if (!worked) context.environment.ftp->Disconnect();
   return After(context, worked, text);
 }
 
 }  // namespace
 
 PhaseResult OpenServerSession(const RunContext& context) {
-  if (context.ftp == nullptr) return kGoOn;
-  const RunArguments& arguments = context.arguments;
+  const RunOrder& order = context.order;
+  mFTP& ftp = *context.environment.ftp;
   context.progress.SetText2("Connecting...");
-  if (auto end = After(context, context.ftp->FTPConnect(arguments.ServerAddress, arguments.Port),
+  if (auto end = After(context, ftp.FTPConnect(order.ServerAddress, order.Port),
                        "Cannot connect to Server.  Please check your Internet Connection and Server URL.")) {
     return end;
   }
   context.progress.SetText2("Logging in...");
-  if (auto end = AfterClosing(context, context.ftp->FTPLogin(arguments.UserName, arguments.Password),
-                              "Invalid User ID or Password.")) {
+  if (auto end = AfterClosing(context, ftp.FTPLogin(order.UserName, order.Password), "Invalid User ID or Password.")) {
     return end;
   }
-  if (arguments.BaseDirectory.empty()) return kGoOn;
+  if (order.BaseDirectory.empty()) return kGoOn;
   context.progress.SetText2("Switching to Base Directory...");
-  return AfterClosing(context, context.ftp->FTPChangeDirectory(arguments.BaseDirectory),
-                      "Cannot switch to specified base Directory \"" + arguments.BaseDirectory + "\".");
+  return AfterClosing(context, ftp.FTPChangeDirectory(order.BaseDirectory),
+                      "Cannot switch to specified base Directory \"" + order.BaseDirectory + "\".");
 }
 
-PhaseResult UploadFolderAndEnd(const RunContext& context) {
-  if (context.run.mode != GenerationMode::Upload) return kGoOn;
-  const RunArguments& arguments = context.arguments;
-  FolderUpload upload({*context.ftp, context.run.files.Paths(), context.boxes, context.loop, context.cancel,
-                       context.progress, [&context](const std::string& text) { context.host.ShowStatus(text); }});
-  std::int32_t counter = 0;
-  const bool counted =
-      upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
-  if (!counted && context.cancel.CancelRequested()) return RunEnd::Failure;
-  context.progress.SetMax(counter);
-  counter = -1;
-  const bool sent = upload.UploadFolder(arguments.OutputFolder, arguments.RemoteFolder, arguments.Overwrite, counter);
+PhaseResult SendFolder(const RunContext& context) {
+  const RunOrder& order = context.order;
+  const RunEnvironment& environment = context.environment;
+  FolderUpload upload({*environment.ftp, context.run.files.Paths(), environment.boxes, environment.loop,
+                       environment.cancel, context.progress, environment.host});
+  const std::int32_t steps = upload.CountSteps(order.OutputFolder);
+  if (environment.cancel.CancelRequested()) return RunEnd::Failure;
+  context.progress.SetMax(steps);
+  const bool sent = upload.UploadFolder(order.OutputFolder, order.RemoteFolder, order.Overwrite);
   if (!sent) return RunEnd::Failure;
   upload.TellLeftOut();
-  return RunEnd::Success;
+  return kGoOn;
 }
 
 }  // namespace vantorium

@@ -1,6 +1,7 @@
 #include "core/generation/ServerTarget.h"
 
 #include "core/generation/OutputNaming.h"
+#include "core/generation/RunMessages.h"
 #include "core/generation/SafeNames.h"
 #include "image/JPEG.h"
 #include "publish/FTPPath.h"
@@ -10,18 +11,14 @@ namespace {
 
 const char kTransferError[] = "FTP File Error";
 
-std::string UnableToCopy(const std::string& path) {
-  return "Unable to copy the File \"" + path + "\".";
-}
-
 }  // namespace
 
 std::string ServerTarget::RemoteImagesDir() const {
-  return RelativeToSession(arguments_.RemoteFolder + run_.ImageUrlPrefix);
+  return RelativeToSession(order_.RemoteFolder + run_.ImageUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbsDir() const {
-  return RelativeToSession(arguments_.RemoteFolder + run_.ThumbUrlPrefix);
+  return RelativeToSession(order_.RemoteFolder + run_.ThumbUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbnail(const ImageRunInfo& image) const {
@@ -62,7 +59,7 @@ Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
   const std::string copy = LocalImagePath(run_, image);
   const auto native = run_.files.Paths().ToNative(copy);
   if (!IsPlainFileName(image.FileName) || !native) {
-    return Refusal{"File Error", "Unable to create temporary Copy of the File \"" + image.Path + "\"."};
+    return Refusal{"File Error", UnableToCopyTemporarily(image.Path)};
   }
   WriteJPEGFile(*native, jpeg);
   run_.files.CopyFileTimes(image.Path, copy);
@@ -75,12 +72,10 @@ Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
 
 Delivery ServerTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
   if (auto refusal = local_.StoreThumbnail(image, jpeg)) return refusal;
-  return Move(LocalThumbnailPath(run_, image), RemoteThumbnail(image),
-              "Unable to create Thumbnail for \"" + image.Path + "\".");
+  return Move(LocalThumbnailPath(run_, image), RemoteThumbnail(image), UnableToCreateThumbnail(image.Path));
 }
 
-Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::string& name,
-                                     AuxiliarySpelling /*spelling*/) {
+Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::string& name) {
   const bool sent = IsPlainFileName(name) && ftp_.FTPCopyFile(source, RemoteImagesDir() + name, /*overwrite=*/true);
   if (!sent) return Refusal{kTransferError, UnableToCopy(source)};
   return {};
@@ -89,7 +84,7 @@ Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::strin
 Delivery ServerTarget::StoreIndexPage(std::string_view page) {
   if (auto refusal = local_.StoreIndexPage(page)) return refusal;
   return Move(run_.OutputFolder + run_.IndexFileName,
-              RelativeToSession(arguments_.RemoteFolder + arguments_.RemoteIndexFileName),
+              RelativeToSession(order_.RemoteFolder + order_.RemoteIndexFileName),
               "Unable to create the Gallery Index File.");
 }
 
@@ -104,8 +99,8 @@ Delivery ServerTarget::StoreWrapperPage(const std::string& listText, std::string
 }
 
 Delivery ServerTarget::SendPage(const std::string& name) {
-  const std::string remote = RelativeToSession(arguments_.RemoteFolder + name);
-  return Move(run_.OutputFolder + name, remote, "Unable to create the File \"" + remote + "\".");
+  const std::string remote = RelativeToSession(order_.RemoteFolder + name);
+  return Move(run_.OutputFolder + name, remote, UnableToCreatePage(remote));
 }
 
 Delivery ServerTarget::Move(const std::string& localPath, const std::string& remotePath, const std::string& text) {

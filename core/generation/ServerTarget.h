@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/generation/LocalTarget.h"
-#include "core/generation/RunArguments.h"
+#include "core/generation/RunOrder.h"
 #include "publish/mFTP.h"
 
 namespace vantorium {
@@ -10,8 +10,8 @@ namespace vantorium {
 /// thumbnails are deleted there afterwards, images stay.
 class ServerTarget : public GalleryTarget {
  public:
-  ServerTarget(const RunState& run, const RunArguments& arguments, mFTP& ftp)
-      : run_(run), arguments_(arguments), ftp_(ftp), local_(run) {}
+  ServerTarget(const RunState& run, const RunOrder& order, mFTP& ftp)
+      : run_(run), order_(order), ftp_(ftp), local_(run) {}
 
   [[nodiscard]] Delivery MakeFolders() override;
   [[nodiscard]] bool MayAskAhead() const override { return false; }
@@ -21,8 +21,7 @@ class ServerTarget : public GalleryTarget {
   [[nodiscard]] Delivery CopyImage(const ImageRunInfo& image) override;
   [[nodiscard]] Delivery StoreImage(ImageRunInfo& image, std::string_view jpeg) override;
   [[nodiscard]] Delivery StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) override;
-  [[nodiscard]] Delivery CopyAuxiliary(const std::string& source, const std::string& name,
-                                       AuxiliarySpelling spelling) override;
+  [[nodiscard]] Delivery CopyAuxiliary(const std::string& source, const std::string& name) override;
   [[nodiscard]] Delivery StoreIndexPage(std::string_view page) override;
   [[nodiscard]] Delivery StoreThumbnailPage(std::int32_t number, std::string_view page) override;
   [[nodiscard]] Delivery StoreWrapperPage(const std::string& listText, std::string_view page) override;
@@ -36,7 +35,7 @@ class ServerTarget : public GalleryTarget {
   [[nodiscard]] Delivery SendPage(const std::string& name);
 
   const RunState& run_;
-  const RunArguments& arguments_;
+  const RunOrder& order_;
   mFTP& ftp_;
   LocalTarget local_;
 };

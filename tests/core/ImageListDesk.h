@@ -33,7 +33,7 @@ class ImageListDesk : public testing::Test {
   }
 
   bool Add(std::size_t index, const std::string& path, const std::string& name) {
-    return operations.AddImage(index, path, name, false, "i " + name, "t " + name);
+    return operations.AddImage(index, path, name, "i " + name, "t " + name);
   }
 
   void Select(const Names& names) {

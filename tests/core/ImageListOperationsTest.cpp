@@ -16,7 +16,7 @@ TEST_F(AddImage, FillsEveryColumn) {
   fs::last_write_time(file, std::chrono::file_clock::from_sys(std::chrono::sys_days{std::chrono::year{2003} / 2 / 1} +
                                                               std::chrono::hours{4} + std::chrono::minutes{5} +
                                                               std::chrono::seconds{6}));
-  EXPECT_TRUE(operations.AddImage(1, "C:\\a.jpg", "name", false, "description", "thumbnail"));
+  EXPECT_TRUE(operations.AddImage(1, "C:\\a.jpg", "name", "description", "thumbnail"));
   const ImageEntry& entry = images.Entry(1);
   EXPECT_EQ(entry.ImageName, "name");
   EXPECT_EQ(entry.SourcePath, "C:\\a.jpg");

@@ -23,8 +23,7 @@ class RecordingSessionHost : public ProjectSessionHost {
   explicit RecordingSessionHost(Calls& calls) : calls_(calls) {}
 
   void SetStatusText(const std::string& text) override { calls_.push_back("status " + text); }
-  void ShowWaitPointer() override { calls_.emplace_back("wait pointer"); }
-  void ResetPointer() override { calls_.emplace_back("pointer"); }
+  void ShowBusyPointer(bool busy) override { calls_.emplace_back(busy ? "wait pointer" : "pointer"); }
   void ShowInfoWindow(const std::string& text) override { calls_.push_back("info " + text); }
   void HideInfoWindow() override { calls_.emplace_back("info hidden"); }
   void EnableMainWindow(bool enabled) override { calls_.emplace_back(enabled ? "enabled" : "disabled"); }

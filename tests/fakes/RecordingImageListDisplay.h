@@ -10,8 +10,7 @@ namespace vantorium::fakes {
 /// Records, in order, the calls that the image list's operations make to their window.
 class RecordingImageListDisplay : public ImageListDisplay {
  public:
-  void ShowWaitPointer() override { calls.emplace_back("wait"); }
-  void ResetPointer() override { calls.emplace_back("reset"); }
+  void ShowBusyPointer(bool busy) override { calls.emplace_back(busy ? "wait" : "reset"); }
   void RefreshPreview() override { calls.emplace_back("preview"); }
   void RefreshCounts() override { calls.emplace_back("counts"); }
   void ScrollIntoView(std::size_t position) override { calls.push_back("scroll " + std::to_string(position)); }

@@ -120,9 +120,9 @@ class RecordingRunHost : public RunHost {
  public:
   explicit RecordingRunHost(Journal& journal) : journal_(journal) {}
 
-  [[nodiscard]] CreateChoice AskWhatToCreate() override {
+  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override {
     journal_.emplace_back("asked");
-    return choice;
+    return order;
   }
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
     auto window = std::make_unique<RecordingProgress>(progress, journal_);
@@ -130,12 +130,12 @@ class RecordingRunHost : public RunHost {
     openWindow = window.get();
     return window;
   }
-  void ShowStatus(const std::string& text) override { statuses.push_back(text); }
+  void SetStatusText(const std::string& text) override { statuses.push_back(text); }
   void ShowBusyPointer(bool busy) override { journal_.emplace_back(busy ? "busy" : "idle"); }
   void EnableMainWindow(bool enabled) override { journal_.emplace_back(enabled ? "window on" : "window off"); }
   void EnableTrayIcon(bool enabled) override { journal_.emplace_back(enabled ? "tray on" : "tray off"); }
 
-  CreateChoice choice;
+  std::optional<RunOrder> order;  ///< the user's answer
   ProgressRecord progress;
   std::vector<std::string> statuses;
   bool windowClosesAtOnce = true;

@@ -2,7 +2,6 @@
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"
-#include "tests/fakes/UploadFakes.h"
 
 #include <gtest/gtest.h>
 
@@ -34,7 +33,6 @@ class ProgressModelTest : public testing::Test {
   fakes::TemporaryFolder program;
   fakes::FixedClock clock;
   fakes::RecordingMessageBox boxes;
-  fakes::ScriptedCancel cancel;
   UploadLog log{program.Path(), clock, boxes};
   std::unique_ptr<DrawnProgress> window = std::make_unique<DrawnProgress>(log);
 };
@@ -47,8 +45,7 @@ TEST_F(ProgressModelTest, ComesUpAsTheWindowOfARunUnderWay) {
   EXPECT_FALSE(window->IsFileProgressVisible());
   EXPECT_FALSE(window->CloseRequested);
   EXPECT_FALSE(window->IsCancelled());
-  EXPECT_EQ(window->CancelButtonCaption(), "&Cancel");
-  EXPECT_FALSE(window->IsShowLogVisible());
+  EXPECT_FALSE(window->OffersClose());
   EXPECT_FALSE(HasFile()) << "an unlogged run writes no header";
 }
 
@@ -232,38 +229,13 @@ TEST_F(ProgressModelTest, ALogThatCannotBeWrittenShowsABoxForEachAttemptAndTheRu
   EXPECT_EQ(boxes.boxes.size(), 4U) << "the last text and the footer";
 }
 
-TEST_F(ProgressModelTest, TheCancelButtonSetsTheFlagAndAsksAtOnce) {
-  window->Show();
-  cancel.onPoll = [this](ProgressWindow& progress) {
-    EXPECT_EQ(&progress, window.get());
-    EXPECT_TRUE(progress.IsCancelled());
-    progress.SetIsCancelled(false);  // the user answers No
-  };
-  window->PressCancelButton(cancel);
-  EXPECT_EQ(cancel.polls, 1);
-  EXPECT_FALSE(window->IsCancelled());
-  EXPECT_FALSE(window->CloseRequested);
-}
-
-TEST_F(ProgressModelTest, AfterAFailureTheSameButtonClosesTheWindow) {
+TEST_F(ProgressModelTest, OffersToCloseUntilTheNextRun) {
   window->Show();
   window->OfferClose();
-  EXPECT_EQ(window->CancelButtonCaption(), "&Close");
-  EXPECT_TRUE(window->IsShowLogVisible());
+  EXPECT_TRUE(window->OffersClose());
   EXPECT_FALSE(window->CloseRequested);
-  window->PressCancelButton(cancel);
-  EXPECT_TRUE(window->CloseRequested);
-  EXPECT_FALSE(window->IsCancelled());
-  EXPECT_EQ(cancel.polls, 0);
-}
-
-TEST_F(ProgressModelTest, ShowLogOpensTheLogAndAFailureOfTheDesktopIsNotLookedAt) {
-  fakes::Journal journal;
-  fakes::RecordingShell shell(journal);
-  window->PressShowLog(shell, "C:\\program");
-  shell.fails = true;
-  window->PressShowLog(shell, "C:\\program");
-  EXPECT_EQ(journal, (fakes::Journal{"open C:\\program/ftplog.txt", "open C:\\program/ftplog.txt"}));
+  window->Show();
+  EXPECT_FALSE(window->OffersClose());
 }
 
 }  // namespace

@@ -15,6 +15,12 @@ namespace fs = std::filesystem;
 
 using Lines = std::vector<std::string>;
 
+class StatusBar : public WindowState {
+ public:
+  void SetStatusText(const std::string& text) override { texts.push_back(text); }
+  Lines texts;
+};
+
 /// A server, and the folder "site" of drive C: to send to it.
 class UploadFolderTest : public testing::Test {
  protected:
@@ -24,16 +30,9 @@ class UploadFolderTest : public testing::Test {
   void MakeFolder(const std::string& name) const { fs::create_directories(drive.Path() / "site" / name); }
 
   bool Send(const std::string& local = "C:\\site", const std::string& remote = "web", bool overwrite = true) {
-    std::int32_t counter = -1;
-    const bool result = upload.UploadFolder(local, remote, overwrite, counter);
-    EXPECT_EQ(counter, -1);
-    return result;
+    return upload.UploadFolder(local, remote, overwrite);
   }
-  std::int32_t Count(const std::string& local = "C:\\site") {
-    std::int32_t counter = 0;
-    EXPECT_TRUE(upload.UploadFolder(local, "web", true, counter)) << local;
-    return counter;
-  }
+  std::int32_t Count(const std::string& local = "C:\\site") { return upload.CountSteps(local); }
   [[nodiscard]] std::int32_t Progress() const { return progress.GetProgress(); }
 
   void ExpectOneBox(BoxKind kind, const std::string& title, const std::string& text) const {
@@ -56,9 +55,8 @@ class UploadFolderTest : public testing::Test {
   fakes::Journal journal;
   fakes::ProgressRecord record;
   fakes::RecordingProgress progress{record, journal};
-  Lines statuses;
-  FolderUpload upload{
-      {server, paths, boxes, loop, cancel, progress, [this](const auto& text) { statuses.push_back(text); }}};
+  StatusBar window;
+  FolderUpload upload{{server, paths, boxes, loop, cancel, progress, window}};
 };
 
 TEST_F(UploadFolderTest, TheContentsLandInTheRemotePathWithTheSameTreeBelow) {
@@ -89,7 +87,7 @@ TEST_F(UploadFolderTest, WhatIsDoneIsShownInTheWindowAndInTheStatusBar) {
   const Lines expected = {"Creating Directory \"web\"...", "Creating Directory \"web/sub\"...",
                           "Uploading File \"C:\\site\\sub\\a.htm\"..."};
   EXPECT_EQ(record.texts2, expected);
-  EXPECT_EQ(statuses, expected);
+  EXPECT_EQ(window.texts, expected);
 }
 
 TEST_F(UploadFolderTest, TheOverwriteFlagGoesWithEachFile) {
@@ -147,7 +145,7 @@ TEST_F(UploadFolderTest, CountingSendsAndShowsNothing) {
   EXPECT_EQ(Count(), 4);
   EXPECT_EQ(server.calls, Lines());
   EXPECT_EQ(record.texts2, Lines());
-  EXPECT_EQ(statuses, Lines());
+  EXPECT_EQ(window.texts, Lines());
   EXPECT_TRUE(record.values.empty());
 }
 
@@ -158,11 +156,10 @@ TEST_F(UploadFolderTest, AFolderCountsForItselfAndForTheFolderItLiesIn) {
   EXPECT_EQ(record.values, (std::vector<std::int32_t>{1, 2, 3, 4, 5, 6, 7}));
 }
 
-TEST_F(UploadFolderTest, TheCountAddsToWhatTheCounterHolds) {
+TEST_F(UploadFolderTest, EachCountBeginsAnew) {
   Write("a");
-  std::int32_t counter = 40;
-  EXPECT_TRUE(upload.UploadFolder("C:\\site", "web", true, counter));
-  EXPECT_EQ(counter, 42);
+  EXPECT_EQ(Count(), 2);
+  EXPECT_EQ(Count(), 2);
 }
 
 TEST_F(UploadFolderTest, BothPassesAgreeOnEveryTree) {
@@ -209,9 +206,8 @@ TEST_F(UploadFolderTest, ACancelInAnyTurnOfTheCountEndsItThenWithItsBox) {
     cancel.cancelled = false;
     boxes.boxes.clear();
     loop.onTurn = [this, at](int turn) { cancel.cancelled = turn == at; };
-    FolderUpload another({server, paths, boxes, loop, cancel, progress, [](const auto& /*text*/) {}});
-    std::int32_t counter = 0;
-    EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true, counter)) << "turn " << at;
+    FolderUpload another({server, paths, boxes, loop, cancel, progress, window});
+    EXPECT_LE(another.CountSteps("C:\\site"), 6) << "turn " << at;
     EXPECT_EQ(loop.turns, at) << "nothing is read behind it";
     ExpectCancelReportedOnce();
   }
@@ -284,9 +280,7 @@ TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsInSilenceBehindItsRemoteDire
     server.calls.clear();
     EXPECT_FALSE(Send(local)) << local;
     EXPECT_EQ(server.calls, Lines{"make web"}) << local;
-    std::int32_t counter = 0;
-    EXPECT_FALSE(upload.UploadFolder(local, "web", true, counter)) << local;
-    EXPECT_EQ(counter, 1) << local;
+    EXPECT_EQ(Count(local), 1) << local;
   }
   EXPECT_TRUE(boxes.boxes.empty());
   EXPECT_EQ(loop.turns, 0);
@@ -307,6 +301,7 @@ TEST_F(UploadFolderTest, ASubfolderWithoutRightsEndsTheWholeUploadInSilence) {
 
 TEST_F(UploadFolderTest, NoFolderAtAllIsNotTheRootFolder) {
   EXPECT_FALSE(Send(""));
+  EXPECT_EQ(Count(""), 0);
   EXPECT_EQ(server.calls, Lines());
 }
 
@@ -385,9 +380,8 @@ TEST_F(UploadFolderTest, EveryPollMayBeTheCancelAndEndsTheUploadWithOneBox) {
     cancel.cancelAtPoll = at;
     boxes.boxes.clear();
     server.calls.clear();
-    FolderUpload another({server, paths, boxes, loop, cancel, progress, [](const auto& /*text*/) {}});
-    std::int32_t counter = -1;
-    EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true, counter)) << "poll " << at;
+    FolderUpload another({server, paths, boxes, loop, cancel, progress, window});
+    EXPECT_FALSE(another.UploadFolder("C:\\site", "web", true)) << "poll " << at;
     EXPECT_EQ(boxes.boxes.size(), 1U) << "poll " << at;
     EXPECT_LE(server.calls.size(), calls) << "poll " << at;
   }
@@ -439,9 +433,7 @@ TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfASubfolderIsReported) {
 TEST_F(UploadFolderTest, ACancelOfTheCountIsNotReportedAgainByTheUpload) {
   Write("a");
   cancel.cancelled = true;
-  std::int32_t counter = 0;
-  EXPECT_FALSE(upload.UploadFolder("C:\\site", "web", true, counter));
-  EXPECT_EQ(counter, 1);
+  EXPECT_EQ(Count(), 1);
   EXPECT_FALSE(Send());
   EXPECT_EQ(server.calls, Lines{"make web"});
   ExpectCancelReportedOnce();

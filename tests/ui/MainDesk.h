@@ -29,23 +29,15 @@ class MainDesk {
   /// Creates the window and starts it as the program does.
   void Start(const std::string& commandLine = {}) {
     window.reset();
-    window = std::make_unique<frmMain>(DesktopPorts{paths,
-                                                    formats,
-                                                    files,
-                                                    boxes,
-                                                    loop,
-                                                    shell,
-                                                    clock,
-                                                    screen,
-                                                    texts,
-                                                    dialogs,
-                                                    fileBrowser,
-                                                    folderBrowser,
-                                                    folder.Path() / "program",
-                                                    bundled,
-                                                    {3, 0, 1},
-                                                    2,
-                                                    ftpPort});
+    window =
+        std::make_unique<frmMain>(DesktopPorts{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 2},
+                                               dialogs,
+                                               fileBrowser,
+                                               folderBrowser,
+                                               folder.Path() / "program",
+                                               bundled,
+                                               {3, 0, 1},
+                                               ftpPort});
     QObject::connect(window.get(), &frmMain::Closed, [this] { ++closed; });
     window->Start(commandLine);
     window->show();

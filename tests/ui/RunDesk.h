@@ -21,22 +21,20 @@ class RunWindow : public RunHost {
 
   explicit RunWindow(MakeProgress makeProgress) : makeProgress_(std::move(makeProgress)) { window.show(); }
 
-  [[nodiscard]] CreateChoice AskWhatToCreate() override { return choice; }
+  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override { return order; }
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
     auto made = makeProgress_(&window);
     progress = made.get();
     if (onProgress) onProgress(*made);
     return made;
   }
-  void ShowStatus(const std::string& text) override { status = text; }
-  void ShowBusyPointer(bool /*busy*/) override {}
+  void SetStatusText(const std::string& text) override { status = text; }
   void EnableMainWindow(bool enabled) override { window.setEnabled(enabled); }
-  void EnableTrayIcon(bool /*enabled*/) override {}
 
   std::function<void(frmProgress&)> onProgress;  ///< called with each progress window
   QWidget window;
   QPointer<frmProgress> progress;
-  CreateChoice choice;
+  RunOrder order;
   std::string status;
 
  private:
@@ -49,8 +47,7 @@ class RunDesk {
   RunDesk() {
     project.settings.checkImageWrapperUse = 1;
     preferences.TempFolderLocation = "T:\\temp";
-    host.choice.option = CreateChoice::Option::CreateGallery;
-    host.choice.FilePath = "T:\\out\\index.htm";
+    SetIndexFile(host.order, "T:\\out\\index.htm");
   }
 
   void AddImage(const std::string& name, const std::string& path) {
@@ -62,7 +59,7 @@ class RunDesk {
   RunEnd Create(mFTP* ftp = nullptr, unsigned jobs = 1) {
     GenerationMode mode = GenerationMode::Create;
     return GalleryCreator(project, preferences, "T:\\program",
-                          {host, boxes, loop, clock, shell, files, formats, cancel, screen, texts, ftp, jobs})
+                          {{paths, formats, files, boxes, loop, shell, clock, screen, texts, jobs}, host, cancel, ftp})
         .CreateGallery(mode, 0);
   }
 

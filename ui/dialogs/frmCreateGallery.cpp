@@ -16,13 +16,13 @@ frmCreateGallery::frmCreateGallery(const Parts& parts, QWidget* parent)
       model_(parts.preferences, parts.serverListFile, parts.paths, parts.boxes),
       ui_(std::make_unique<Ui::frmCreateGallery>()) {
   ui_->setupUi(this);
-  BindOption(*ui_->optionCreateGallery, Option::CreateGallery);
+  BindOption(*ui_->optionCreateGallery, Option::Create);
   BindOption(*ui_->optionUploadGallery, Option::Publish);
-  BindOption(*ui_->optionUploadFolder, Option::UploadFolder);
-  BindSwitch(*ui_->checkCreateImages, &CreateChoice::CreateImages);
-  BindSwitch(*ui_->checkCreateThumbnails, &CreateChoice::CreateThumbnails);
-  BindSwitch(*ui_->checkCreateHTMLFiles, &CreateChoice::CreateHTMLFiles);
-  BindSwitch(*ui_->checkOverwrite, &CreateChoice::Overwrite);
+  BindOption(*ui_->optionUploadFolder, Option::Upload);
+  BindSwitch(*ui_->checkCreateImages, &RunOrder::CreateImages);
+  BindSwitch(*ui_->checkCreateThumbnails, &RunOrder::CreateThumbnails);
+  BindSwitch(*ui_->checkCreateHTMLFiles, &RunOrder::CreateHTML);
+  BindSwitch(*ui_->checkOverwrite, &RunOrder::Overwrite);
   BindPath(*ui_->textCreateFilePath, &CreateGalleryModel::EditFilePath);
   BindPath(*ui_->textUploadSourceFolder, &CreateGalleryModel::EditSourceFolder);
   BindText(*ui_->textPublishDestination, &CreateGalleryModel::EditPublishDestination);
@@ -79,14 +79,14 @@ void frmCreateGallery::BindPath(QLineEdit& control, Edit edit) {
   control.installEventFilter(this);
 }
 
-CreateChoice frmCreateGallery::Ask() {
+std::optional<RunOrder> frmCreateGallery::Ask() {
   model_.ComeUp();
   ShowTexts();
   for (QRadioButton* option : {ui_->optionCreateGallery, ui_->optionUploadGallery, ui_->optionUploadFolder}) {
     if (option->isChecked()) option->setFocus();
   }
   exec();
-  return model_.Choice();
+  return model_.Order();
 }
 
 void frmCreateGallery::ShowTexts() {
@@ -118,12 +118,12 @@ void frmCreateGallery::EnableFields() {
   const auto enable = [this](Option option, std::initializer_list<QWidget*> controls) {
     for (QWidget* control : controls) control->setEnabled(model_.Chosen() == option);
   };
-  enable(Option::CreateGallery, {ui_->lblCreateFilePath, ui_->textCreateFilePath, ui_->btnBrowseCreateFilePath});
+  enable(Option::Create, {ui_->lblCreateFilePath, ui_->textCreateFilePath, ui_->btnBrowseCreateFilePath});
   enable(Option::Publish, {ui_->lblPublishDestination, ui_->textPublishDestination, ui_->btnBrowsePublishDestination,
                            ui_->lblPublishPassword, ui_->textPublishPassword});
-  enable(Option::UploadFolder, {ui_->lblUploadDestination, ui_->textUploadDestination, ui_->btnBrowseUploadDestination,
-                                ui_->lblUploadPassword, ui_->textUploadPassword, ui_->lblUploadSourceFolder,
-                                ui_->textUploadSourceFolder, ui_->btnBrowseUploadSourceFolder});
+  enable(Option::Upload, {ui_->lblUploadDestination, ui_->textUploadDestination, ui_->btnBrowseUploadDestination,
+                          ui_->lblUploadPassword, ui_->textUploadPassword, ui_->lblUploadSourceFolder,
+                          ui_->textUploadSourceFolder, ui_->btnBrowseUploadSourceFolder});
 }
 
 /// Highlights the chosen option in the system's current colors.

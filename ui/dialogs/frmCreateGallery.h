@@ -33,8 +33,8 @@ class frmCreateGallery : public QDialog {
   frmCreateGallery(const Parts& parts, QWidget* parent);
   ~frmCreateGallery() override;
 
-  /// Shows the dialog modally. If the user cancels, `option` of the result is Cancelled.
-  [[nodiscard]] CreateChoice Ask();
+  /// Shows the dialog modally. Returns nullopt if the user cancels.
+  [[nodiscard]] std::optional<RunOrder> Ask();
 
   void accept() override;
   void reject() override;
@@ -44,7 +44,7 @@ class frmCreateGallery : public QDialog {
   void changeEvent(QEvent* event) override;
 
  private:
-  using Option = CreateGalleryModel::Option;
+  using Option = GenerationMode;
   using Edit = void (CreateGalleryModel::*)(const std::string& text);
 
   void ConnectButtons();

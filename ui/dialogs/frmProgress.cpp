@@ -1,5 +1,6 @@
 #include "ui/dialogs/frmProgress.h"
 
+#include "ui/model/dialogs/ProgressButtons.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmProgress.h"
 
@@ -43,7 +44,7 @@ frmProgress::~frmProgress() = default;
 void frmProgress::reject() {
   if (isAsking_) return;
   isAsking_ = true;
-  PressCancelButton(cancel_);
+  PressCancelButton(*this, cancel_);
   isAsking_ = false;
 }
 
@@ -108,9 +109,9 @@ void frmProgress::DrawBars() {
 }
 
 void frmProgress::DrawButtons() {
-  ui_->CancelButton->setText(ToQt(CancelButtonCaption()));
-  ui_->CancelButton->setDefault(IsShowLogVisible());  // a stray Enter does not cancel a run, but closes a failed one
-  ui_->btnShowLog->setVisible(IsShowLogVisible());
+  ui_->CancelButton->setText(ToQt(CancelButtonCaption(*this)));
+  ui_->CancelButton->setDefault(OffersClose());  // a stray Enter does not cancel a run, but closes a failed one
+  ui_->btnShowLog->setVisible(IsShowLogVisible(*this));
 }
 
 }  // namespace vantorium

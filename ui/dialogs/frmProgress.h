@@ -1,5 +1,7 @@
 #pragma once
 
+#include "env/Shell.h"
+#include "publish/CancelPoll.h"
 #include "publish/ProgressModel.h"
 
 #include <QDialog>

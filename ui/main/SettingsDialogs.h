@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/main/DesktopPorts.h"
 #include "ui/model/dialogs/SampleDialog.h"
 #include "ui/model/main/SettingsButtons.h"
 
@@ -13,6 +12,7 @@ namespace vantorium {
 
 class ColorDialog;
 class FieldBinder;
+struct DesktopPorts;
 
 /// Opens the dialogs of the settings pages: each button of the tables in SettingsButtons does what its row says.
 class SettingsDialogs : public QObject {

@@ -61,8 +61,6 @@ class frmMain : public QMainWindow,
 
   // Implements ProjectSessionHost, RunHost, ImageListDisplay and BrowserTableHost.
   void SetStatusText(const std::string& text) override;
-  void ShowWaitPointer() override { ShowBusyPointer(true); }
-  void ResetPointer() override { ShowBusyPointer(false); }
   void ShowInfoWindow(const std::string& text) override;
   void HideInfoWindow() override;
   void EnableMainWindow(bool enabled) override;
@@ -74,9 +72,8 @@ class frmMain : public QMainWindow,
   void SelectFirstTab() override;
   void FocusTitleField() override;
   void RebuildCustomColors() override;
-  [[nodiscard]] CreateChoice AskWhatToCreate() override;
+  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override;
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
-  void ShowStatus(const std::string& text) override { SetStatusText(text); }
   void ShowBusyPointer(bool busy) override;
   void EnableTrayIcon(bool enabled) override;
   void ScrollIntoView(std::size_t position) override;

@@ -65,9 +65,7 @@ void frmMain::ViewInBrowser(std::int16_t browserIndex) {
 
 void frmMain::RunCreateGallery(GenerationMode mode, std::int16_t browserIndex) {
   descriptions_->StorePlacings();
-  GalleryCreator creator(project_, preferences_, appPath_,
-                         {*this, ports_.boxes, ports_.loop, ports_.clock, ports_.shell, ports_.files, ports_.formats,
-                          cancel_, ports_.screen, ports_.texts, &ftp_, ports_.jobs});
+  GalleryCreator creator(project_, preferences_, appPath_, {ports_, *this, cancel_, &ftp_});
   creator.CreateGallery(mode, browserIndex);
   ShowSettings();
 }

@@ -83,10 +83,10 @@ void frmMain::RebuildCustomColors() {
   colors_.RebuildCustomColors(colors);
 }
 
-CreateChoice frmMain::AskWhatToCreate() {
-  CreateChoice choice = create_->Ask();
-  choice.UploadPort = ports_.ftpPort;
-  return choice;
+std::optional<RunOrder> frmMain::AskWhatToCreate() {
+  auto order = create_->Ask();
+  if (order) order->Port = ports_.ftpPort;
+  return order;
 }
 
 std::unique_ptr<ProgressWindow> frmMain::CreateProgressWindow() {

@@ -10,9 +10,9 @@ class AuxiliaryFilesTest : public RunFixture {
 
   /// Runs without pages. Returns the auxiliary files in the images folder.
   std::set<std::string> Copied() {
-    RunArguments arguments = CreateArguments();
-    arguments.CreateHTML = false;
-    end = Run(arguments);
+    RunOrder order = OrderToCreate();
+    order.CreateHTML = false;
+    end = Run(order);
     auto found = FilesIn("out/Images");
     found.erase("a.jpg");
     return found;
@@ -121,9 +121,9 @@ TEST_F(AuxiliaryFilesTest, TheyAreCopiedWithoutOverwriteToo) {
   folder.Write("project/g.gif", "new");
   folder.Write("out/Images/_backdrop_thumbpage.gif", "old");
   project.settings.textThumbnailsPageBackdrop = "g.gif";
-  RunArguments arguments = CreateArguments();
-  arguments.Overwrite = false;
-  Run(arguments);
+  RunOrder order = OrderToCreate();
+  order.Overwrite = false;
+  Run(order);
   EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "new");
 }
 

@@ -19,9 +19,9 @@ class CollectImagesTest : public RunFixture {
   /// Collects the project's images into `run`.
   PhaseResult Collect() {
     const auto progress = host.CreateProgressWindow();
-    const RunArguments arguments;
+    const RunOrder order;
     LocalTarget target(run);
-    return CollectImages({run, arguments, host, boxes, loop, clock, cancel, *progress, target, screen, texts});
+    return CollectImages({run, order, environment, *progress, target});
   }
   [[nodiscard]] Sizes SizesOf(std::int32_t image) const {
     const ImageRunInfo& info = run.Info(image);

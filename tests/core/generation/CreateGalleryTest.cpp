@@ -9,8 +9,8 @@ class CreateGalleryTest : public RunFixture {
  protected:
   CreateGalleryTest() {
     preferences.TempFolderLocation = "T:\\place";
-    host.choice.option = CreateChoice::Option::CreateGallery;
-    host.choice.FilePath = "T:\\web\\start.htm";
+    host.order.emplace();
+    SetIndexFile(*host.order, "T:\\web\\start.htm");
   }
 
   RunEnd Create(GenerationMode mode, std::int16_t browserIndex = 0) {
@@ -38,7 +38,7 @@ class CreateGalleryTest : public RunFixture {
 
 TEST_F(CreateGalleryTest, ACancelledDialogDoesNothing) {
   AddPhotograph("a");
-  host.choice.option = CreateChoice::Option::Cancelled;
+  host.order.reset();
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
   EXPECT_EQ(journal, (fakes::Journal{"asked"}));
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "place"));
@@ -55,15 +55,25 @@ TEST_F(CreateGalleryTest, TheChosenFileIsFolderAndNameOfTheGallery) {
 
 TEST_F(CreateGalleryTest, ThePathBelowTheRootKeepsItsFirstSeparator) {
   AddPhotograph("a");
-  host.choice.FilePath = WithBackslashes((folder.Path() / "web/start.htm").string());
+  SetIndexFile(*host.order, WithBackslashes((folder.Path() / "web/start.htm").string()));
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   EXPECT_EQ(FilesIn("web").count("start.htm"), 1U);
 }
 
+TEST_F(CreateGalleryTest, AnOrderIsCarriedOutWithoutTheDialog) {
+  AddPhotograph("a");
+  RunOrder order;
+  SetIndexFile(order, "T:\\given\\page.htm");
+  EXPECT_EQ(GalleryCreator(project, preferences, "T:\\program", environment).CarryOut(order, 0), RunEnd::Success);
+  EXPECT_EQ(std::ranges::count(journal, "asked"), 0);
+  EXPECT_EQ(FilesIn("given").count("page.htm"), 1U);
+  EXPECT_EQ(preferences.CreateFolder, "T:\\given\\");
+}
+
 TEST_F(CreateGalleryTest, TheSwitchesOfTheDialogReachTheRun) {
   AddPhotograph("a");
-  host.choice.CreateImages = false;
-  host.choice.CreateThumbnails = false;
+  host.order->CreateImages = false;
+  host.order->CreateThumbnails = false;
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   EXPECT_EQ(FilesIn("web"), (std::set<std::string>{"start.htm", "thumbpage_1.htm", "a.htm"}));
 }
@@ -139,7 +149,7 @@ TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerWhoseFailureIsToldWhenItIs
   shell.failsLater = true;
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
   EXPECT_TRUE(host.progress.unloaded);
-  EXPECT_EQ(journal.back(), "idle") << "the run is over";
+  EXPECT_EQ(journal.back(), "tray on") << "the run is over";
   EXPECT_EQ(Started().size(), 1U);
   shell.LetFail();
   EXPECT_EQ(Started().size(), 2U);
@@ -186,7 +196,7 @@ TEST_F(CreateGalleryTest, ARunThatWasReachedEndsWithABeepTheTrayIconAndAnEmptySt
   AddPhotograph("a");
   Create(GenerationMode::Create);
   EXPECT_EQ(journal, (fakes::Journal{"asked", "tray off", "busy", "window off", "progress shown", "window on", "idle",
-                                     "progress idle", "progress unloaded", "beep information", "tray on", "idle"}));
+                                     "progress idle", "progress unloaded", "beep information", "tray on"}));
   EXPECT_EQ(host.statuses.back(), "");
 }
 
@@ -213,7 +223,7 @@ TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
   {
     const TempFolderLock other(place);
     EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::NotStarted);
-    host.choice.option = CreateChoice::Option::Publish;
+    host.order->Mode = GenerationMode::Publish;
     EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
     ASSERT_EQ(boxes.boxes.size(), 2U);
     for (const auto& shown : boxes.boxes) {
@@ -222,7 +232,7 @@ TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
                                 "\".  Please wait for its end, or choose another location.");
     }
     EXPECT_TRUE(std::filesystem::is_empty(place));
-    host.choice.option = CreateChoice::Option::CreateGallery;
+    host.order->Mode = GenerationMode::Create;
     EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success) << "it makes nothing there";
   }
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
@@ -255,7 +265,7 @@ TEST_F(CreateGalleryTest, ACancelOfAnEarlierRunIsForgotten) {
 }
 
 TEST_F(CreateGalleryTest, AnEmptyListIsNotPublished) {
-  host.choice.option = CreateChoice::Option::Publish;
+  host.order->Mode = GenerationMode::Publish;
   GenerationMode mode = GenerationMode::Create;
   GalleryCreator creator(project, preferences, "T:\\program", environment);
   EXPECT_EQ(creator.CreateGallery(mode, 0), RunEnd::NotStarted);

@@ -12,7 +12,7 @@ TEST_F(GenerateGalleryTest, ACreateRunWritesPagesImagesAndThumbnails) {
   AddPhotograph("Sunset");
   AddPhotograph("Dune");
 
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
 
   EXPECT_EQ(FilesIn("out"), (Names{"index.htm", "thumbpage_1.htm", "Sunset.htm", "Dune.htm", "Images/Sunset.jpg",
                                    "Images/Dune.jpg", "Thumbs/thumb_Sunset.jpg", "Thumbs/thumb_Dune.jpg"}));
@@ -25,7 +25,7 @@ TEST_F(GenerateGalleryTest, ThePhasesAnnounceThemselvesInTheirOrder) {
   folder.Write("project/back.gif", "GIF");
   project.settings.textThumbnailsPageBackdrop = "back.gif";
 
-  Run(CreateArguments());
+  Run(OrderToCreate());
 
   const Texts expected = {"Collecting Image Information...",
                           "Collecting Image Information (complete)...",
@@ -48,7 +48,7 @@ TEST_F(GenerateGalleryTest, ThePhasesAnnounceThemselvesInTheirOrder) {
 
 TEST_F(GenerateGalleryTest, TheWindowIsSetUpBeforeTheFirstPhaseAndGivenUpAtTheEnd) {
   AddPhotograph("a");
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(journal,
             (Texts{"busy", "window off", "progress shown", "window on", "idle", "progress idle", "progress unloaded"}));
   EXPECT_EQ(host.progress.values.front(), 0);
@@ -66,9 +66,9 @@ TEST_F(GenerateGalleryTest, EachModeHasItsTextAndCaption) {
        {ModeText{GenerationMode::Create, "Please wait while the Gallery is being created...", "Creating Gallery"},
         ModeText{GenerationMode::Preview, "Please wait while the Gallery is prepared for Preview...",
                  "Preparing Gallery for Preview"}}) {
-    RunArguments arguments = CreateArguments();
-    arguments.Mode = mode;
-    Run(arguments);
+    RunOrder order = OrderToCreate();
+    order.Mode = mode;
+    Run(order);
     EXPECT_EQ(host.progress.text1, text1);
     EXPECT_EQ(host.progress.caption, caption);
     EXPECT_FALSE(host.progress.logToFile);
@@ -93,13 +93,13 @@ TEST_F(GenerateGalleryTest, TheMaximumCountsAStepForEachThingDoneToAnImageAndOne
                                MaximumCase{GenerationMode::Preview, true, true, true, 1, 3},
                                MaximumCase{GenerationMode::Preview, false, false, true, 0, 2}}) {
     project.settings.checkImageWrapperUse = c.wrappers;
-    RunArguments arguments = CreateArguments();
-    arguments.Mode = c.mode;
-    arguments.CreateImages = c.images;
-    arguments.CreateThumbnails = c.thumbnails;
-    arguments.CreateHTML = c.html;
+    RunOrder order = OrderToCreate();
+    order.Mode = c.mode;
+    order.CreateImages = c.images;
+    order.CreateThumbnails = c.thumbnails;
+    order.CreateHTML = c.html;
     host.progress.values.clear();
-    EXPECT_EQ(Run(arguments), RunEnd::Success);
+    EXPECT_EQ(Run(order), RunEnd::Success);
     EXPECT_EQ(host.progress.maximum, 2 * c.stepsPerImage);
     EXPECT_EQ(host.progress.values.back(), host.progress.maximum) << "success fills the bar";
   }
@@ -109,7 +109,7 @@ TEST_F(GenerateGalleryTest, TheBarNeverRunsPastItsMaximumAndArrivesByItself) {
   for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
   project.settings.textThumbnailsTableRows = "1";
   project.settings.textThumbnailsTableColumns = "2";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const auto& values = host.progress.values;
   ASSERT_GE(values.size(), 2U);
   EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
@@ -119,7 +119,7 @@ TEST_F(GenerateGalleryTest, TheBarNeverRunsPastItsMaximumAndArrivesByItself) {
 TEST_F(GenerateGalleryTest, TheCollectionShowsItsCountEveryHundredImages) {
   for (int i = 0; i < 250; ++i) AddEntry("i" + std::to_string(i), "T:\\photos\\none.jpg");
   project.settings.checkImageWrapperUse = 0;
-  Run(PreviewArguments());
+  Run(OrderToPreview());
   Texts collecting;
   for (const auto& text : host.statuses) {
     if (text.starts_with("Collecting")) collecting.push_back(text);
@@ -131,9 +131,9 @@ TEST_F(GenerateGalleryTest, TheCollectionShowsItsCountEveryHundredImages) {
 
 TEST_F(GenerateGalleryTest, WithoutPagesNothingBehindTheLinkGraphicsRuns) {
   AddPhotograph("a");
-  RunArguments arguments = CreateArguments();
-  arguments.CreateHTML = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  RunOrder order = OrderToCreate();
+  order.CreateHTML = false;
+  EXPECT_EQ(Run(order), RunEnd::Success);
   EXPECT_EQ(FilesIn("out"), (Names{"Images/a.jpg", "Thumbs/thumb_a.jpg"}));
   EXPECT_EQ(host.statuses.back(), "Copying Page Link Image Files...");
 }
@@ -141,13 +141,13 @@ TEST_F(GenerateGalleryTest, WithoutPagesNothingBehindTheLinkGraphicsRuns) {
 TEST_F(GenerateGalleryTest, WithoutWrappersNoWrapperPageIsWritten) {
   AddPhotograph("a");
   project.settings.checkImageWrapperUse = 0;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(FilesIn("out").count("a.htm"), 0U);
 }
 
 TEST_F(GenerateGalleryTest, APreviewWritesPagesThatPointAtTheSourceFiles) {
   AddPhotograph("a");
-  EXPECT_EQ(Run(PreviewArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToPreview()), RunEnd::Success);
   EXPECT_EQ(FilesIn("temp"), (Names{"index.htm", "thumbpage_1.htm", "a.htm"}));
   const std::string address = "file://" + (folder.Path() / "photos/a.jpg").string();
   EXPECT_NE(folder.Read("temp/a.htm").find("<IMG SRC=\"" + address + "\""), std::string::npos);
@@ -158,14 +158,14 @@ TEST_F(GenerateGalleryTest, APreviewKeepsItsBackdropsInImagesWhateverTheProjectS
   folder.Write("project/back.gif", "GIF");
   project.settings.textImageSettingsSubFolder = "Pictures";
   project.settings.textThumbnailsPageBackdrop = "back.gif";
-  Run(PreviewArguments());
+  Run(OrderToPreview());
   EXPECT_EQ(FilesIn("temp").count("images/_backdrop_thumbpage.gif"), 1U);
 }
 
 TEST_F(GenerateGalleryTest, SizesInPercentAreForcedOff) {
   AddPhotograph("a");
   project.settings.checkImageWrapperImageSizesInPercent = 1;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(project.settings.checkImageWrapperImageSizesInPercent, 0);
   EXPECT_EQ(folder.Read("out/a.htm").find('%' + std::string("\" BORDER")), std::string::npos);
   EXPECT_NE(folder.Read("out/a.htm").find(" HEIGHT=\"300\""), std::string::npos);
@@ -174,14 +174,14 @@ TEST_F(GenerateGalleryTest, SizesInPercentAreForcedOff) {
 TEST_F(GenerateGalleryTest, TheCreationTimeIsTheClocks) {
   AddPhotograph("a");
   project.settings.GalleryHeadCode = "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_NE(folder.Read("out/index.htm").find("3/4/26"), std::string::npos) << folder.Read("out/index.htm");
 }
 
 TEST_F(GenerateGalleryTest, AnImagesSubfolderOfSeveralLevelsIsMadeAndLinked) {
   AddPhotograph("a");
   project.settings.textImageSettingsSubFolder = "Images\\Big";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(FilesIn("out").count("Images/Big/a.jpg"), 1U);
   EXPECT_NE(folder.Read("out/a.htm").find("<IMG SRC=\"Images/Big/a.jpg\""), std::string::npos);
 }
@@ -189,7 +189,7 @@ TEST_F(GenerateGalleryTest, AnImagesSubfolderOfSeveralLevelsIsMadeAndLinked) {
 TEST_F(GenerateGalleryTest, WithoutAnImagesSubfolderTheFilesStandInTheOutputFolder) {
   AddPhotograph("a");
   project.settings.textImageSettingsSubFolder = "";
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_EQ(FilesIn("out").count("a.jpg"), 1U);
   EXPECT_NE(folder.Read("out/a.htm").find("<IMG SRC=\"/a.jpg\""), std::string::npos);
 }
@@ -197,7 +197,7 @@ TEST_F(GenerateGalleryTest, WithoutAnImagesSubfolderTheFilesStandInTheOutputFold
 TEST_F(GenerateGalleryTest, AnEmptyPagePrefixNamesThePagesByNumberAlone) {
   AddPhotograph("a");
   project.settings.textThumbnailPageSettingsFilePrefix = "";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(FilesIn("out").count("1.htm"), 1U);
 }
 
@@ -205,7 +205,7 @@ TEST_F(GenerateGalleryTest, AnEmptyPagePrefixNamesThePagesByNumberAlone) {
 
 TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
   for (const char* name : {"a", "b"}) AddPhotograph(name);
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const int turns = loop.turns;
   const Names whole = FilesIn("out");
   ASSERT_GT(turns, 8);
@@ -217,7 +217,7 @@ TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
     host.progress = {};
     loop.turns = 0;
     CancelInTurn(turn);
-    const RunEnd end = Run(CreateArguments());
+    const RunEnd end = Run(OrderToCreate());
     // A run also takes turns to wait for its workers, so the number of turns varies on a busy machine.
     if (turn > 8 && loop.turns < turn) break;
     EXPECT_EQ(end, RunEnd::Cancelled) << "turn " << turn;
@@ -236,7 +236,7 @@ TEST_F(GenerateGalleryTest, ACancelThatIsTakenBackLetsTheRunGoOn) {
   AddPhotograph("a");
   boxes.answers = {BoxAnswer::No};
   CancelInTurn(3);
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_EQ(boxes.boxes.size(), 1U);
   EXPECT_FALSE(host.progress.cancelled);
 }
@@ -251,7 +251,7 @@ TEST_F(GenerateGalleryTest, AFailureKeepsTheWindowUntilTheUserClosesIt) {
     if (++turnsWithMessages == 5) host.openWindow->CloseRequested = true;
   };
 
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
 
   EXPECT_EQ(turnsWithMessages, 5);
   EXPECT_EQ(journal, (Texts{"busy", "window off", "progress shown", "close offered", "idle", "progress idle",
@@ -267,7 +267,7 @@ TEST_F(GenerateGalleryTest, TheLogOfAFailedRunIsWrittenAndTheBoxEmptied) {
   loop.onTurn = [this](int turn) {
     if (turn == 2) host.openWindow->SetText3("said before the end", true);
   };
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(host.progress.written, "said before the end");
   EXPECT_EQ(host.progress.log, "");
 }
@@ -276,7 +276,7 @@ TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsToldWithItsDescriptionAndNumber
   AddPhotograph("a");
   AddPhotograph("b");
   project.settings.textThumbnailsTableRows = "0";
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
   EXPECT_EQ(boxes.boxes[0].title, "Failure");
@@ -286,9 +286,9 @@ TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsToldWithItsDescriptionAndNumber
 
 TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsToldWithTheReason) {
   AddPhotograph("a");
-  RunArguments arguments = CreateArguments();
-  arguments.OutputFolder = "Q:\\";
-  EXPECT_EQ(Run(arguments), RunEnd::Failure);
+  RunOrder order = OrderToCreate();
+  order.OutputFolder = "Q:\\";
+  EXPECT_EQ(Run(order), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].text,
             "An Error has occurred during Creation of this Gallery:\r\rQ:\\Images\\a.jpg: No such device\r\rError #75");
@@ -297,7 +297,7 @@ TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsToldWithTheReason) {
 TEST_F(GenerateGalleryTest, WhatWasWrittenBeforeAFailureStays) {
   AddPhotograph("a");
   AddEntry("gone", "T:\\photos\\gone.jpg");
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(FilesIn("out"), (Names{"Images/a.jpg"}));
 }
 
@@ -310,7 +310,7 @@ TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsLikeAFileThatCannot
     folder.Write("photos/x.jpg", PlainJpeg(8, 8));
     std::filesystem::create_directories(folder.Path() / "out/Images/sub");
     AddEntry(name, "T:\\photos\\x.jpg");
-    EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure) << name;
+    EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << name;
     ASSERT_EQ(boxes.boxes.size(), 1U) << name;
     EXPECT_EQ(boxes.boxes[0].text, "Unable to copy the File \"T:\\photos\\x.jpg\".") << name;
     EXPECT_TRUE(FilesIn("out").empty()) << name;
@@ -321,14 +321,14 @@ TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsLikeAFileThatCannot
 TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsForItsThumbnailAndItsPageToo) {
   folder.Write("photos/x.jpg", PlainJpeg(8, 8));
   AddEntry("../evil", "T:\\photos\\x.jpg");
-  RunArguments arguments = CreateArguments();
-  arguments.CreateImages = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Failure);
+  RunOrder order = OrderToCreate();
+  order.CreateImages = false;
+  EXPECT_EQ(Run(order), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to create Thumbnail for \"T:\\photos\\x.jpg\".");
 
   boxes.boxes.clear();
-  arguments.CreateThumbnails = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Failure);
+  order.CreateThumbnails = false;
+  EXPECT_EQ(Run(order), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
   EXPECT_NE(boxes.boxes.at(0).text.find("evil.htm: Permission denied\r\rError #75"), std::string::npos)
       << boxes.boxes.at(0).text;
@@ -340,14 +340,14 @@ TEST_F(GenerateGalleryTest, ASubfolderThatLeavesTheGalleryIsNotMade) {
   for (const char* subfolder : {"..\\Images", "a/../../Images", "C:\\Images"}) {
     project.settings.textImageSettingsSubFolder = subfolder;
     boxes.boxes.clear();
-    EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure) << subfolder;
+    EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << subfolder;
     EXPECT_EQ(boxes.boxes.at(0).title, "Directory Error");
     EXPECT_EQ(boxes.boxes.at(0).text, "Unable to create Images Subfolder.");
   }
   project.settings.textImageSettingsSubFolder = "Images";
   project.settings.textThumbnailImageSettingsSubFolder = "..";
   boxes.boxes.clear();
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to create Thumbnails Subfolder.");
   EXPECT_EQ(FilesIn("out"), Names{});
 }

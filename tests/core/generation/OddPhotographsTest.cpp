@@ -33,7 +33,7 @@ TEST_F(OddPhotographsTest, OddFilesThatAreWholeBecomePicturesOfTheSizeAskedFor) 
   project.settings.checkImageWrapperImageKeepAspectRatio = 0;
   project.settings.textImageWrapperImageWidth = "30";
   project.settings.textImageWrapperImageHeight = "20";
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success) << (boxes.boxes.empty() ? "" : boxes.boxes[0].text);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success) << (boxes.boxes.empty() ? "" : boxes.boxes[0].text);
   for (const auto& [name, recipe] : kOddButGood) {
     cDIBSection picture;
     ASSERT_TRUE(LoadJPEGImage(picture, folder.Path() / "out/Images" / (std::string(name) + ".jpg"))) << name;
@@ -59,7 +59,7 @@ TEST_F(OddPhotographsTest, AFileThatIsNotWholeEndsTheRunAtItsTurn) {
     Add(name, bytes);
     for (int i = 0; i < 6; ++i) AddEntry("later" + std::to_string(i), "T:\\photos\\good.jpg");
     project.settings.checkImageWrapperImageKeepAspectRatio = 0;
-    EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure) << name;
+    EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << name;
     ASSERT_EQ(boxes.boxes.size(), 1U) << name;
     EXPECT_EQ(boxes.boxes[0].text, "Unable to copy the File \"T:\\photos\\" + std::string(name) + ".jpg\".");
     EXPECT_EQ(FilesIn("out"), std::set<std::string>{"Images/good.jpg"}) << name;
@@ -69,7 +69,7 @@ TEST_F(OddPhotographsTest, AFileThatIsNotWholeEndsTheRunAtItsTurn) {
 TEST_F(OddPhotographsTest, ACancelWhileManyAreUnderWayLeavesWholeFilesOnly) {
   for (int i = 0; i < 40; ++i) Add("p" + std::to_string(i), {.width = 400, .height = 300, .progressive = i % 2 == 0});
   CancelInTurn(60);
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Cancelled);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Cancelled);
   for (const auto& name : FilesIn("out")) {
     std::int32_t width = 0;
     std::int32_t height = 0;

@@ -54,14 +54,14 @@ TEST_F(PictureRecipesTest, EachTargetHasOnePainterForTheWholeRun) {
 
 TEST_F(PictureRecipesTest, AnImageWithAWatermarkIsNotCopied) {
   project.settings.ImageWatermark.checkUseWatermark = 1;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_GT(Brightest("Images/a.jpg"), 180);
   EXPECT_LT(Brightest("Thumbs/thumb_a.jpg"), 140);
 }
 
 TEST_F(PictureRecipesTest, AThumbnailHasAWatermarkOfItsOwn) {
   project.settings.ThumbnailWatermark.checkUseWatermark = 1;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_LT(Brightest("Images/a.jpg"), 140);
   EXPECT_GT(Brightest("Thumbs/thumb_a.jpg"), 180);
 }
@@ -69,7 +69,7 @@ TEST_F(PictureRecipesTest, AThumbnailHasAWatermarkOfItsOwn) {
 TEST_F(PictureRecipesTest, AWatermarkTooLargeForItsCoordinatesEndsTheRun) {
   project.settings.ImageWatermark = {.checkUseWatermark = 1, .textWatermark = "WIDE", .FontSize = 32767};
   project.settings.ImageWatermark.comboTextPlacement = 4;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes.front().title, "Failure");
   EXPECT_NE(boxes.boxes.front().text.find("Error #6"), std::string::npos) << boxes.boxes.front().text;
@@ -77,38 +77,38 @@ TEST_F(PictureRecipesTest, AWatermarkTooLargeForItsCoordinatesEndsTheRun) {
 
 TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt) {
   const WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = 300};
-  RunArguments arguments = CreateArguments();
-  arguments.CreateThumbnails = false;
+  RunOrder order = OrderToCreate();
+  order.CreateThumbnails = false;
   project.settings.ImageWatermark = bad;
-  EXPECT_EQ(Run(arguments), RunEnd::Failure);
+  EXPECT_EQ(Run(order), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_NE(boxes.boxes[0].text.find("Overflow\r\rError #6"), std::string::npos) << boxes.boxes[0].text;
   EXPECT_EQ(host.statuses.back(), "") << "ended";
 
   project.settings.ImageWatermark = {};
   project.settings.ThumbnailWatermark = bad;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(FilesIn("out"), std::set<std::string>{"Images/a.jpg"});
 }
 
 TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeIsNothingToRunsThatDoNotDrawIt) {
   const WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = -1};
   project.settings.ImageWatermark = bad;
-  RunArguments arguments = CreateArguments();
-  arguments.CreateImages = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success) << "no image is made";
-  EXPECT_EQ(Run(PreviewArguments()), RunEnd::Success) << "a preview";
+  RunOrder order = OrderToCreate();
+  order.CreateImages = false;
+  EXPECT_EQ(Run(order), RunEnd::Success) << "no image is made";
+  EXPECT_EQ(Run(OrderToPreview()), RunEnd::Success) << "a preview";
 
   project.settings.ImageWatermark = {};
   project.settings.ThumbnailWatermark = bad;
-  arguments.CreateImages = true;
-  arguments.CreateThumbnails = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success) << "no thumbnail is made";
+  order.CreateImages = true;
+  order.CreateThumbnails = false;
+  EXPECT_EQ(Run(order), RunEnd::Success) << "no thumbnail is made";
 
   folder.Write("out/Thumbs/thumb_a.jpg", "old");
-  arguments.CreateThumbnails = true;
-  arguments.Overwrite = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success) << "the thumbnail is there";
+  order.CreateThumbnails = true;
+  order.Overwrite = false;
+  EXPECT_EQ(Run(order), RunEnd::Success) << "the thumbnail is there";
   EXPECT_TRUE(boxes.boxes.empty());
 }
 

@@ -34,14 +34,14 @@ using Size = std::pair<std::int32_t, std::int32_t>;
 TEST_F(ProducePicturesTest, AnImageThatKeepsItsSizeIsCopiedByteForByte) {
   AddPhotograph("a");
   project.settings.checkImageWrapperImageKeepSize = 1;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), folder.Read("photos/a.jpg"));
 }
 
 TEST_F(ProducePicturesTest, WithoutPhysicalResizeTheFileIsCopiedAndThePageAsksForTheSize) {
   AddPhotograph("a");
   project.settings.checkImageWrapperImagePhysicalResize = 0;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), folder.Read("photos/a.jpg"));
   EXPECT_NE(folder.Read("out/a.htm").find("HEIGHT=\"300\""), std::string::npos);
 }
@@ -49,7 +49,7 @@ TEST_F(ProducePicturesTest, WithoutPhysicalResizeTheFileIsCopiedAndThePageAsksFo
 TEST_F(ProducePicturesTest, AResizedImageHasTheGivenHeightAndTheSourcesShape) {
   AddPhotograph("a", 40, 30);
   project.settings.textImageWrapperImageHeight = "15";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(SizeOf("out/Images/a.jpg"), Size(20, 15));
 }
 
@@ -62,7 +62,7 @@ TEST_F(ProducePicturesTest, AThumbnailFollowsTheShapeOfTheResizedImageAndComesFr
   settings.checkThumbnailsImageKeepAspectRatio = 1;
   settings.checkThumbnailsImageSetWidth = 1;
   settings.textThumbnailsImageWidth = "8";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(SizeOf("out/Thumbs/thumb_a.jpg"), Size(8, 16));
 }
 
@@ -70,11 +70,11 @@ TEST_F(ProducePicturesTest, AnImageCarriesTheTimesOfItsSourceAndAThumbnailDoesNo
   AddPhotograph("copied");
   SetWriteTime("photos/copied.jpg", 1'000'000'000);
   project.settings.checkImageWrapperImageKeepSize = 1;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(WriteTime("out/Images/copied.jpg"), 1'000'000'000);
 
   project.settings.checkImageWrapperImageKeepSize = 0;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_EQ(WriteTime("out/Images/copied.jpg"), 1'000'000'000) << "encoded again";
   EXPECT_NE(WriteTime("out/Thumbs/thumb_copied.jpg"), 1'000'000'000);
 }
@@ -84,9 +84,9 @@ TEST_F(ProducePicturesTest, WithoutOverwriteWhatExistsIsNotTouchedButItsSizeIsKn
   folder.Write("out/Images/a.jpg", std::string(2048, 'o'));
   folder.Write("out/Thumbs/thumb_a.jpg", "old");
   project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
-  RunArguments arguments = CreateArguments();
-  arguments.Overwrite = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  RunOrder order = OrderToCreate();
+  order.Overwrite = false;
+  EXPECT_EQ(Run(order), RunEnd::Success);
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), std::string(2048, 'o'));
   EXPECT_EQ(folder.Read("out/Thumbs/thumb_a.jpg"), "old");
   EXPECT_NE(folder.Read("out/a.htm").find("\r\n2KB\r\n"), std::string::npos);
@@ -94,9 +94,9 @@ TEST_F(ProducePicturesTest, WithoutOverwriteWhatExistsIsNotTouchedButItsSizeIsKn
 
 TEST_F(ProducePicturesTest, WithoutOverwriteWhatIsMissingIsMade) {
   AddPhotograph("a");
-  RunArguments arguments = CreateArguments();
-  arguments.Overwrite = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  RunOrder order = OrderToCreate();
+  order.Overwrite = false;
+  EXPECT_EQ(Run(order), RunEnd::Success);
   EXPECT_EQ(FilesIn("out").count("Images/a.jpg"), 1U);
   EXPECT_EQ(FilesIn("out").count("Thumbs/thumb_a.jpg"), 1U);
 }
@@ -104,7 +104,7 @@ TEST_F(ProducePicturesTest, WithoutOverwriteWhatIsMissingIsMade) {
 TEST_F(ProducePicturesTest, WithOverwriteAnOldFileIsReplaced) {
   AddPhotograph("a");
   folder.Write("out/Images/a.jpg", "old");
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_NE(folder.Read("out/Images/a.jpg"), "old");
 }
 
@@ -113,9 +113,9 @@ TEST_F(ProducePicturesTest, ARunWithoutImagesReadsTheSizesOfThoseThatAreThere) {
   AddPhotograph("missing");
   folder.Write("out/Images/here.jpg", std::string(3000, 'x'));
   project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
-  RunArguments arguments = CreateArguments();
-  arguments.CreateImages = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  RunOrder order = OrderToCreate();
+  order.CreateImages = false;
+  EXPECT_EQ(Run(order), RunEnd::Success);
   EXPECT_NE(folder.Read("out/here.htm").find("\r\n2KB\r\n"), std::string::npos);
   EXPECT_NE(folder.Read("out/missing.htm").find("\r\n0KB\r\n"), std::string::npos);
   EXPECT_EQ(std::ranges::count(host.statuses, "Getting Image File Size for \"here\"..."), 1);
@@ -125,7 +125,7 @@ TEST_F(ProducePicturesTest, TheSizeOfACopiedImageIsThatOfItsSource) {
   AddPhotograph("a");
   project.settings.checkImageWrapperImageKeepSize = 1;
   project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const auto size = std::filesystem::file_size(folder.Path() / "photos/a.jpg");
   EXPECT_NE(folder.Read("out/a.htm").find("\r\n" + FileSizeText(size) + "\r\n"), std::string::npos);
 }
@@ -134,7 +134,7 @@ TEST_F(ProducePicturesTest, AnImageThatDoesNotDecodeEndsTheRunWithItsMessage) {
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepAspectRatio = 0;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "File Error");
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to copy the File \"T:\\photos\\text.jpg\".");
 }
@@ -143,9 +143,9 @@ TEST_F(ProducePicturesTest, AFileThatIsNoPictureIsStillCopiedWhenNothingIsChange
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
-  RunArguments arguments = CreateArguments();
-  arguments.CreateThumbnails = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  RunOrder order = OrderToCreate();
+  order.CreateThumbnails = false;
+  EXPECT_EQ(Run(order), RunEnd::Success);
   EXPECT_EQ(folder.Read("out/Images/text.jpg"), "this is no picture");
 }
 
@@ -153,7 +153,7 @@ TEST_F(ProducePicturesTest, AThumbnailThatDoesNotDecodeEndsTheRunWithItsMessage)
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "File Error");
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to load JPG Image \"T:\\photos\\text.jpg\".");
 }
@@ -162,7 +162,7 @@ TEST_F(ProducePicturesTest, AReadOnlyImageIsNotReplacedAndItsSaveFails) {
   AddPhotograph("a");
   const auto old = folder.Write("out/Images/a.jpg", "old");
   std::filesystem::permissions(old, std::filesystem::perms::owner_read);
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
   EXPECT_NE(boxes.boxes.at(0).text.find("Failed to save to JPG "), std::string::npos) << boxes.boxes.at(0).text;
   EXPECT_NE(boxes.boxes.at(0).text.find("Error #26001"), std::string::npos) << boxes.boxes.at(0).text;
@@ -173,7 +173,7 @@ TEST_F(ProducePicturesTest, ASizeWithoutPixelsFailsAndSaysWhich) {
   AddPhotograph("flat", 90, 1);
   project.settings.checkImageWrapperImageSetWidth = 1;
   project.settings.textImageWrapperImageWidth = "10";
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).title, "Failure");
   EXPECT_NE(boxes.boxes.at(0).text.find("10 x 0 pixels"), std::string::npos) << boxes.boxes.at(0).text;
 }
@@ -184,13 +184,13 @@ TEST_F(ProducePicturesTest, TheFilesAreTheSameForEveryNumberOfJobs) {
   for (int i = 0; i < 12; ++i) AddPhotograph("p" + std::to_string(i), 30 + i, 50 - i);
   project.settings.ImageFilters.checkNoise = 1;
   project.settings.ThumbnailFilters.checkNoise = 1;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const auto names = FilesIn("out");
   std::filesystem::rename(folder.Path() / "out", folder.Path() / "first");
   for (unsigned jobs : {2U, 4U}) {
     RunEnvironment other = environment;
     other.jobs = jobs;
-    EXPECT_EQ(GenerateGallery(project, CreateArguments(), other), RunEnd::Success);
+    EXPECT_EQ(GenerateGallery(project, OrderToCreate(), other), RunEnd::Success);
     EXPECT_EQ(FilesIn("out"), names);
     for (const auto& name : names) EXPECT_EQ(folder.Read("out/" + name), folder.Read("first/" + name)) << name;
   }
@@ -204,7 +204,7 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesBehindItsImageFailsItsThumbnail) 
       std::filesystem::remove(folder.Path() / "photos/b.jpg");
     }
   };
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to load JPG Image \"T:\\photos\\b.jpg\".");
   EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg", "Images/b.jpg", "Thumbs/thumb_a.jpg"}));
 }
@@ -214,7 +214,7 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsImageFailsThereAndNotAhe
   loop.onTurn = [this](int) {
     if (IsShown("Copying File \"b\"...")) std::filesystem::remove(folder.Path() / "photos/b.jpg");
   };
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to copy the File \"T:\\photos\\b.jpg\".");
   EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg"}));
 }
@@ -225,7 +225,7 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsPlainCopyIsNamed) {
   loop.onTurn = [this](int) {
     if (IsShown("Copying File \"b\"...")) std::filesystem::remove(folder.Path() / "photos/b.jpg");
   };
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].title, "File Error");
   EXPECT_EQ(boxes.boxes[0].text, "Unable to copy the File \"T:\\photos\\b.jpg\".");
@@ -239,7 +239,7 @@ TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
       folder.Write("photos/a.jpg", PlainJpeg(40, 30, 250));
     }
   };
-  Run(CreateArguments());
+  Run(OrderToCreate());
   cDIBSection thumbnail;
   ASSERT_TRUE(LoadJPEGImage(thumbnail, folder.Path() / "out/Thumbs/thumb_a.jpg"));
   EXPECT_GE(*thumbnail.Row(0), 245);
@@ -247,12 +247,12 @@ TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
 
 TEST_F(ProducePicturesTest, AnImageThatIsThereByItsTurnIsKeptThoughItWasMadeAhead) {
   AddPhotograph("a");
-  RunArguments arguments = CreateArguments();
-  arguments.Overwrite = false;
+  RunOrder order = OrderToCreate();
+  order.Overwrite = false;
   loop.onTurn = [this](int) {
     if (IsShown("Creating Thumbnail for File \"a\"...")) folder.Write("out/Thumbs/thumb_a.jpg", "mine");
   };
-  EXPECT_EQ(Run(arguments), RunEnd::Success);
+  EXPECT_EQ(Run(order), RunEnd::Success);
   EXPECT_EQ(folder.Read("out/Thumbs/thumb_a.jpg"), "mine");
 }
 

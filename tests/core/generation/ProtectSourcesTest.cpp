@@ -9,11 +9,11 @@ namespace fs = std::filesystem;
 class ProtectSourcesTest : public RunFixture {
  protected:
   /// Expects that the run ends with this message box and neither adds nor changes any file.
-  void ExpectRefusal(const RunArguments& arguments, const std::string& text) {
+  void ExpectRefusal(const RunOrder& order, const std::string& text) {
     const auto names = FilesIn(".");
     std::map<std::string, std::string> before;
     for (const auto& name : names) before[name] = folder.Read(name);
-    EXPECT_EQ(Run(arguments), RunEnd::Failure) << text;
+    EXPECT_EQ(Run(order), RunEnd::Failure) << text;
     ASSERT_EQ(boxes.boxes.size(), 1U) << text;
     EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
     EXPECT_EQ(boxes.boxes[0].title, "File Error");
@@ -22,8 +22,8 @@ class ProtectSourcesTest : public RunFixture {
     for (const auto& name : names) EXPECT_EQ(folder.Read(name), before[name]) << name;
     boxes.boxes.clear();
   }
-  void ExpectSuccess(const RunArguments& arguments) {
-    EXPECT_EQ(Run(arguments), RunEnd::Success) << (boxes.boxes.empty() ? "" : boxes.boxes[0].text);
+  void ExpectSuccess(const RunOrder& order) {
+    EXPECT_EQ(Run(order), RunEnd::Success) << (boxes.boxes.empty() ? "" : boxes.boxes[0].text);
   }
   void Link(const std::string& from, const std::string& to) const {
     fs::create_directories((folder.Path() / from).parent_path());
@@ -51,7 +51,7 @@ TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceItsOwnSource) {
   AddPhotograph("first");
   folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
   AddEntry("a", kOwnImage);
-  ExpectRefusal(CreateArguments(), ImageText(kOwnImage, kOwnImage));
+  ExpectRefusal(OrderToCreate(), ImageText(kOwnImage, kOwnImage));
 }
 
 TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceTheSourceOfAnother) {
@@ -60,36 +60,36 @@ TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceTheSourceOfAnother) {
   AddPhotograph("a");
   for (const Flag keepSize : {Flag{0}, Flag{1}}) {
     project.settings.checkImageWrapperImageKeepSize = keepSize;
-    ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+    ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
   }
 }
 
 TEST_F(ProtectSourcesTest, ASourceIsKnownBehindLinksAndOtherPaths) {
   AddPhotograph("a");
   Link("out/Images/a.jpg", "photos/a.jpg");
-  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+  ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
 
   fs::remove(folder.Path() / "out/Images/a.jpg");
   HardLink("out/Images/a.jpg", "photos/a.jpg");
-  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+  ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
 
   fs::remove_all(folder.Path() / "out");
   fs::create_directories(folder.Path() / "out");
   fs::create_directory_symlink(folder.Path() / "photos", folder.Path() / "out/Images");
-  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+  ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
 
   fs::remove_all(folder.Path() / "out");
-  RunArguments arguments = CreateArguments();
-  arguments.OutputFolder = "T:\\out\\..\\";
+  RunOrder order = OrderToCreate();
+  order.OutputFolder = "T:\\out\\..\\";
   project.settings.textImageSettingsSubFolder = "photos";
-  ExpectRefusal(arguments, ImageText("T:\\photos\\a.jpg", "T:\\out\\..\\photos\\a.jpg"));
+  ExpectRefusal(order, ImageText("T:\\photos\\a.jpg", "T:\\out\\..\\photos\\a.jpg"));
 }
 
 TEST_F(ProtectSourcesTest, AThumbnailDoesNotReplaceASource) {
   AddPhotograph("a");
   folder.Write("out/Thumbs/thumb_a.jpg", PlainJpeg(64, 64));
   AddEntry("b", "T:\\out\\Thumbs\\thumb_a.jpg");
-  ExpectRefusal(CreateArguments(),
+  ExpectRefusal(OrderToCreate(),
                 "Unable to create Thumbnail for \"T:\\photos\\a.jpg\"." + Replacing("T:\\out\\Thumbs\\thumb_a.jpg"));
 }
 
@@ -99,12 +99,12 @@ TEST_F(ProtectSourcesTest, ABackdropOrLinkGraphicReplacesNoSourceAndIsReplacedBy
   folder.Write("project/back.gif", "new");
   project.settings.textThumbnailsTableBackdrop = "T:\\out\\Images\\_backdrop_thumbpage.gif";
   project.settings.textThumbnailsPageBackdrop = "back.gif";
-  ExpectRefusal(CreateArguments(), ImageText("T:\\project\\back.gif", "T:\\out\\Images\\_backdrop_thumbpage.gif"));
+  ExpectRefusal(OrderToCreate(), ImageText("T:\\project\\back.gif", "T:\\out\\Images\\_backdrop_thumbpage.gif"));
 
   project.settings.textThumbnailsPageBackdrop = "";
   project.settings.ImageNextLink.textLinkGraphic = "T:\\out\\Images\\a.jpg";
   folder.Write("out/Images/a.jpg", "graphic");
-  ExpectRefusal(CreateArguments(), ImageText("T:\\photos\\a.jpg", kOwnImage));
+  ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
 }
 
 TEST_F(ProtectSourcesTest, APageReplacesNeitherTheProjectNorAPhotograph) {
@@ -114,36 +114,36 @@ TEST_F(ProtectSourcesTest, APageReplacesNeitherTheProjectNorAPhotograph) {
     project.ProjectFileName = name;
     folder.Write(std::string("out/") + name, "the project");
     for (GenerationMode mode : {GenerationMode::Create, GenerationMode::Preview}) {
-      RunArguments arguments = CreateArguments();
-      arguments.Mode = mode;
-      ExpectRefusal(arguments, PageTextOf(std::string("T:\\out\\") + name));
+      RunOrder order = OrderToCreate();
+      order.Mode = mode;
+      ExpectRefusal(order, PageTextOf(std::string("T:\\out\\") + name));
     }
   }
   project.ProjectFileName = "";
   AddEntry("page", "T:\\out\\index.htm");
-  RunArguments arguments = CreateArguments();
-  arguments.CreateImages = arguments.CreateThumbnails = false;
-  ExpectRefusal(arguments, PageTextOf("T:\\out\\index.htm"));
+  RunOrder order = OrderToCreate();
+  order.CreateImages = order.CreateThumbnails = false;
+  ExpectRefusal(order, PageTextOf("T:\\out\\index.htm"));
 }
 
 TEST_F(ProtectSourcesTest, WhatTheRunDoesNotWriteIsNoReasonToRefuse) {
   folder.Write("out/Images/a.jpg", PlainJpeg(40, 30));
   AddEntry("a", kOwnImage);
   const std::string photograph = folder.Read("out/Images/a.jpg");
-  RunArguments arguments = CreateArguments();
-  arguments.Overwrite = false;
-  ExpectSuccess(arguments);
-  arguments.Overwrite = true;
-  arguments.CreateImages = false;
-  ExpectSuccess(arguments);
-  ExpectSuccess(PreviewArguments());
+  RunOrder order = OrderToCreate();
+  order.Overwrite = false;
+  ExpectSuccess(order);
+  order.Overwrite = true;
+  order.CreateImages = false;
+  ExpectSuccess(order);
+  ExpectSuccess(OrderToPreview());
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), photograph);
 
   folder.Write("out/index.htm", "the project");
   project.ProjectFolder = "T:\\out\\";
   project.ProjectFileName = "index.htm";
-  arguments.CreateHTML = false;
-  ExpectSuccess(arguments);
+  order.CreateHTML = false;
+  ExpectSuccess(order);
 }
 
 TEST_F(ProtectSourcesTest, ACopyOntoItselfChangesNothingAndGoesThrough) {
@@ -153,7 +153,7 @@ TEST_F(ProtectSourcesTest, ACopyOntoItselfChangesNothingAndGoesThrough) {
   project.settings.checkImageWrapperImageKeepSize = 1;
   project.settings.textThumbnailsPageBackdrop = "T:\\out\\Images\\_backdrop_thumbpage.gif";
   const std::string photograph = folder.Read("out/Images/a.jpg");
-  ExpectSuccess(CreateArguments());
+  ExpectSuccess(OrderToCreate());
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), photograph);
   EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "GIF");
 }
@@ -162,9 +162,9 @@ TEST_F(ProtectSourcesTest, ASecondRunIntoTheSameFolderReplacesWhatTheFirstOneMad
   AddPhotograph("a");
   folder.Write("project/gallery.gpj", "the project");
   project.ProjectFileName = "gallery.gpj";
-  ExpectSuccess(CreateArguments());
+  ExpectSuccess(OrderToCreate());
   project.settings.textImageWrapperImageHeight = "8";
-  ExpectSuccess(CreateArguments());
+  ExpectSuccess(OrderToCreate());
   EXPECT_NE(folder.Read("out/a.htm").find("HEIGHT=\"8\""), std::string::npos);
 }
 
@@ -174,7 +174,7 @@ TEST_F(ProtectSourcesTest, AFileNamedLikeAnUntitledProjectIsNotTheProject) {
   project.ProjectFolder = "T:\\out\\";
   project.ProjectFileName = "index.htm";
   project.IsUntitled = true;
-  ExpectSuccess(CreateArguments());
+  ExpectSuccess(OrderToCreate());
 }
 
 TEST_F(ProtectSourcesTest, ALongListIsLookedThroughWithTurnsAndCanBeCancelled) {
@@ -188,7 +188,7 @@ TEST_F(ProtectSourcesTest, ALongListIsLookedThroughWithTurnsAndCanBeCancelled) {
       std::ignore = cancel.CheckForCancel(*host.openWindow);
     }
   };
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Cancelled);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Cancelled);
   EXPECT_EQ(turns, 4);
   EXPECT_TRUE(FilesIn("out").empty());
 }

@@ -18,21 +18,21 @@ class PublishRunTest : public RunFixture {
     cancel.OnCancel([this] { ftp.FTPCancelData(); });
   }
 
-  [[nodiscard]] static RunArguments PublishTo(const ScriptedFtpServer& server) {
-    RunArguments arguments = Arguments(GenerationMode::Publish, "T:\\temp\\");
-    arguments.RemoteFolder = "web/";
-    arguments.RemoteIndexFileName = "index.htm";
-    arguments.ServerAddress = "127.0.0.1";
-    arguments.Port = server.Port();
-    arguments.UserName = "me";
-    arguments.Password = "secret";
-    return arguments;
+  [[nodiscard]] static RunOrder PublishTo(const ScriptedFtpServer& server) {
+    RunOrder order = OrderFor(GenerationMode::Publish, "T:\\temp\\");
+    order.RemoteFolder = "web/";
+    order.RemoteIndexFileName = "index.htm";
+    order.ServerAddress = "127.0.0.1";
+    order.Port = server.Port();
+    order.UserName = "me";
+    order.Password = "secret";
+    return order;
   }
-  [[nodiscard]] static RunArguments UploadTo(const ScriptedFtpServer& server) {
-    RunArguments arguments = PublishTo(server);
-    arguments.Mode = GenerationMode::Upload;
-    arguments.OutputFolder = "T:\\folder\\";
-    return arguments;
+  [[nodiscard]] static RunOrder UploadTo(const ScriptedFtpServer& server) {
+    RunOrder order = PublishTo(server);
+    order.Mode = GenerationMode::Upload;
+    order.OutputFolder = "T:\\folder\\";
+    return order;
   }
   /// The last message box, with which a failed run ends.
   [[nodiscard]] std::string LastBox() const {
@@ -80,7 +80,7 @@ TEST_F(PublishRunTest, APublishedGalleryEqualsTheCreatedOneFileByFile) {
   project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
   ScriptedFtpServer server;
   EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << LastBox();
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
 
   const auto published = server.Files();
   const auto created = FilesIn("out");
@@ -102,9 +102,9 @@ TEST_F(PublishRunTest, PagesAndThumbnailsAreDeletedHereAfterSendingAndImagesStay
 TEST_F(PublishRunTest, TheRunLogsAndTellsItsStepsToTheServer) {
   AddPhotograph("a");
   ScriptedFtpServer server;
-  RunArguments arguments = PublishTo(server);
-  arguments.BaseDirectory = "home";
-  Run(arguments);
+  RunOrder order = PublishTo(server);
+  order.BaseDirectory = "home";
+  Run(order);
   EXPECT_TRUE(host.progress.logToFile);
   EXPECT_EQ(host.progress.caption, "Publishing Gallery");
   const Texts firstTexts(host.progress.texts2.begin(), host.progress.texts2.begin() + 4);
@@ -120,9 +120,9 @@ TEST_F(PublishRunTest, WithoutOverwriteWhatTheServerHasIsNotSentAgainAndItsSizeI
   server.PutFile("web/Images/a.jpg", std::string(3000, 'x'));
   server.PutFile("web/Thumbs/thumb_a.jpg", "old");
   project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
-  RunArguments arguments = PublishTo(server);
-  arguments.Overwrite = false;
-  EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+  RunOrder order = PublishTo(server);
+  order.Overwrite = false;
+  EXPECT_EQ(Run(order), RunEnd::Success) << LastBox();
   EXPECT_EQ(server.Files().at("web/Thumbs/thumb_a.jpg"), "old");
   EXPECT_EQ(server.Files().at("web/Images/a.jpg"), std::string(3000, 'x'));
   EXPECT_NE(server.Files().at("web/a.htm").find("\r\n2KB\r\n"), std::string::npos);
@@ -142,12 +142,12 @@ TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedForEachFileOnceAtItsTurnF
       const std::string status = host.statuses.empty() ? "" : host.statuses.back();
       if (status.find("File \"") != std::string::npos) questions.emplace(status, Questions(server));
     };
-    RunArguments arguments = PublishTo(server);
-    arguments.Overwrite = false;
-    arguments.CreateHTML = false;
+    RunOrder order = PublishTo(server);
+    order.Overwrite = false;
+    order.CreateHTML = false;
     environment.jobs = jobs;
     host.statuses.clear();
-    EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+    EXPECT_EQ(Run(order), RunEnd::Success) << LastBox();
 
     EXPECT_EQ(Questions(server), 12U) << jobs << " jobs";
     for (std::size_t i = 0; i < 6; ++i) {
@@ -202,9 +202,9 @@ TEST_F(PublishRunTest, EachRefusalOfTheServerEndsTheRunWithItsMessage) {
         RefusalCase{"STOR", "125 no\r\n", "FTP File Error: Unable to copy the File \"T:\\photos\\a.jpg\"."}}) {
     boxes.boxes.clear();
     ScriptedFtpServer server(Answering(c.verb, c.reply));
-    RunArguments arguments = PublishTo(server);
-    arguments.BaseDirectory = "home";
-    EXPECT_EQ(Run(arguments), RunEnd::Failure) << c.verb;
+    RunOrder order = PublishTo(server);
+    order.BaseDirectory = "home";
+    EXPECT_EQ(Run(order), RunEnd::Failure) << c.verb;
     EXPECT_EQ(LastBox(), c.box);
     EXPECT_TRUE(NamesOn(server).empty()) << c.verb;
     EXPECT_FALSE(ftp.IsConnected()) << c.verb;
@@ -241,8 +241,8 @@ TEST_F(PublishRunTest, AThumbnailsFolderThatCannotBeEnteredEndsTheRunBeforeAnyth
 
 TEST_F(PublishRunTest, OnlyARunThatSendsFilesShowsTheirProgress) {
   AddPhotograph("a");
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
-  EXPECT_EQ(Run(PreviewArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToPreview()), RunEnd::Success);
   EXPECT_TRUE(host.progress.filePercentages.empty());
   ScriptedFtpServer server;
   EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << LastBox();
@@ -322,10 +322,10 @@ TEST_F(PublishRunTest, AnUploadWithoutARemoteFolderStaysBelowTheBaseDirectory) {
   folder.Write("folder/sub/b.txt", "22");
   for (const char* remote : {"", "/"}) {
     ScriptedFtpServer server;
-    RunArguments arguments = UploadTo(server);
-    arguments.BaseDirectory = "htdocs";
-    arguments.RemoteFolder = remote;
-    EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+    RunOrder order = UploadTo(server);
+    order.BaseDirectory = "htdocs";
+    order.RemoteFolder = remote;
+    EXPECT_EQ(Run(order), RunEnd::Success) << LastBox();
     EXPECT_TRUE(server.HasHeard("CWD htdocs"));
     EXPECT_EQ(NamesOn(server), (std::set<std::string>{"a.txt", "sub/b.txt"})) << remote;
   }
@@ -337,10 +337,10 @@ TEST_F(PublishRunTest, AGalleryWithoutARemoteFolderStaysBelowTheBaseDirectory) {
     for (const char* images : {"Images", "", "/Images", "\\Images"}) {
       project.settings.textImageSettingsSubFolder = images;
       ScriptedFtpServer server;
-      RunArguments arguments = PublishTo(server);
-      arguments.BaseDirectory = "htdocs";
-      arguments.RemoteFolder = remote;
-      EXPECT_EQ(Run(arguments), RunEnd::Success) << LastBox();
+      RunOrder order = PublishTo(server);
+      order.BaseDirectory = "htdocs";
+      order.RemoteFolder = remote;
+      EXPECT_EQ(Run(order), RunEnd::Success) << LastBox();
       EXPECT_TRUE(server.HasHeard("STOR a.htm")) << images;
       EXPECT_TRUE(server.HasHeard("STOR index.htm")) << images;
       EXPECT_FALSE(server.HasHeard("STOR /"))

@@ -46,17 +46,17 @@ class RunFixture : public ::testing::Test {
     project.images.Insert(project.images.Count() + 1, entry);
   }
 
-  [[nodiscard]] static RunArguments CreateArguments() { return Arguments(GenerationMode::Create, "T:\\out\\"); }
-  [[nodiscard]] static RunArguments PreviewArguments() { return Arguments(GenerationMode::Preview, "T:\\temp\\"); }
-  [[nodiscard]] static RunArguments Arguments(GenerationMode mode, const std::string& folder) {
-    RunArguments arguments;
-    arguments.OutputFolder = folder;
-    arguments.IndexFileName = "index.htm";
-    arguments.Mode = mode;
-    return arguments;
+  [[nodiscard]] static RunOrder OrderToCreate() { return OrderFor(GenerationMode::Create, "T:\\out\\"); }
+  [[nodiscard]] static RunOrder OrderToPreview() { return OrderFor(GenerationMode::Preview, "T:\\temp\\"); }
+  [[nodiscard]] static RunOrder OrderFor(GenerationMode mode, const std::string& folder) {
+    RunOrder order;
+    order.OutputFolder = folder;
+    order.IndexFileName = "index.htm";
+    order.Mode = mode;
+    return order;
   }
 
-  RunEnd Run(const RunArguments& arguments) { return GenerateGallery(project, arguments, environment); }
+  RunEnd Run(const RunOrder& order) { return GenerateGallery(project, order, environment); }
 
   /// The files in a folder of drive T: and its subfolders, by path relative to that folder.
   [[nodiscard]] std::set<std::string> FilesIn(const std::string& name) const {
@@ -93,7 +93,7 @@ class RunFixture : public ::testing::Test {
   CancelCheck cancel{boxes};
   Screen screen;
   PangoTextRaster texts;
-  RunEnvironment environment{host, boxes, loop, clock, shell, files, formats, cancel, screen, texts};
+  RunEnvironment environment{{paths, formats, files, boxes, loop, shell, clock, screen, texts}, host, cancel};
 };
 
 }  // namespace vantorium

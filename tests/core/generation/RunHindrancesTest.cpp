@@ -28,7 +28,7 @@ TEST_F(RunHindrancesTest, WhateverIsThrownInARunEndsItInFailureWithItsBox) {
     };
     host.statuses.clear();
     boxes.boxes.clear();
-    EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure) << text;
+    EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << text;
     ASSERT_EQ(boxes.boxes.size(), 1U) << text;
     EXPECT_EQ(boxes.boxes[0].title, "Failure");
     EXPECT_EQ(boxes.boxes[0].text, start + text);
@@ -38,11 +38,11 @@ TEST_F(RunHindrancesTest, WhateverIsThrownInARunEndsItInFailureWithItsBox) {
 
 TEST_F(RunHindrancesTest, ARunThatGetsNoThreadMakesItsPicturesOnItsOwn) {
   for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
-  Run(CreateArguments());
+  Run(OrderToCreate());
   std::filesystem::rename(folder.Path() / "out", folder.Path() / "first");
   const fakes::ThreadLimit limit(0);
   environment.jobs = 4;
-  EXPECT_EQ(Run(CreateArguments()), RunEnd::Success);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_TRUE(boxes.boxes.empty());
   EXPECT_EQ(FilesIn("out"), FilesIn("first"));
   for (const auto& name : FilesIn("first")) EXPECT_EQ(folder.Read("out/" + name), folder.Read("first/" + name)) << name;
@@ -58,7 +58,7 @@ TEST_F(RunHindrancesTest, ASideThatNoJpegFileCanHaveIsRefusedWithoutMemoryForIt)
       project.settings.ThumbnailFilters.checkGrayscale = filter;
       project.settings.textThumbnailsImageWidth = width;
       const fakes::MemoryLimit limit(std::uint64_t{512} << 20);
-      EXPECT_EQ(Run(CreateArguments()), RunEnd::Failure) << width;
+      EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << width;
       ASSERT_EQ(boxes.boxes.size(), 1U) << width;
       EXPECT_NE(boxes.boxes[0].text.find(refusal + "\r\rError #26001"), std::string::npos) << boxes.boxes[0].text;
     }

@@ -18,7 +18,6 @@ using fakes::DriveModal;
 using fakes::Find;
 using fakes::GetsFocus;
 using fakes::Type;
-using Option = CreateChoice::Option;
 using Controls = std::vector<const char*>;
 
 const Controls kOptions = {"optionCreateGallery", "optionUploadGallery", "optionUploadFolder"};
@@ -30,10 +29,10 @@ const Controls kBoxes = {"checkCreateImages", "checkCreateThumbnails", "checkCre
 
 class CreateForm : public testing::Test {
  protected:
-  CreateChoice Ask(const std::function<void(QWidget&)>& drive) {
-    CreateChoice choice;
-    DriveModal([&] { choice = form.Ask(); }, drive);
-    return choice;
+  std::optional<RunOrder> Ask(const std::function<void(QWidget&)>& drive) {
+    std::optional<RunOrder> order;
+    DriveModal([&] { order = form.Ask(); }, drive);
+    return order;
   }
   static QString Text(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).text(); }
   static void ExpectEnabled(QWidget& form, const Controls& controls, bool enabled) {
@@ -52,16 +51,17 @@ class CreateForm : public testing::Test {
 
 TEST_F(CreateForm, ComesUpForALocalGalleryWithEverythingChecked) {
   desk.preferences.CreateFolder = "D:\\web";
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Create Gallery");
     EXPECT_TRUE(Find<QRadioButton>(form, "optionCreateGallery").isChecked());
     EXPECT_EQ(Text(form, "textCreateFilePath"), "D:\\web\\index.htm");
     for (const char* name : kBoxes) EXPECT_TRUE(Find<QCheckBox>(form, name).isChecked()) << name;
     QTest::keyClick(&form, Qt::Key_Return);
   });
-  EXPECT_EQ(choice.option, Option::CreateGallery);
-  EXPECT_EQ(choice.FilePath, "D:\\web\\index.htm");
-  EXPECT_TRUE(choice.CreateImages && choice.CreateThumbnails && choice.CreateHTMLFiles && choice.Overwrite);
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->Mode, GenerationMode::Create);
+  EXPECT_EQ(order->OutputFolder + order->IndexFileName, "D:\\web\\index.htm");
+  EXPECT_TRUE(order->CreateImages && order->CreateThumbnails && order->CreateHTML && order->Overwrite);
 }
 
 TEST_F(CreateForm, TheFieldsOfTheChosenOptionAreEnabled) {
@@ -98,7 +98,7 @@ TEST_F(CreateForm, TheCaptionOfTheChosenOptionIsHighlighted) {
 }
 
 TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Click(form, "checkOverwrite");
     Click(form, "checkCreateImages");
     ExpectEnabled(form, {"checkOverwrite"}, true);
@@ -108,14 +108,15 @@ TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
     ExpectEnabled(form, {"checkOverwrite"}, true);
     Click(form, "OKButton");
   });
-  EXPECT_FALSE(choice.CreateImages);
-  EXPECT_TRUE(choice.CreateThumbnails);
-  EXPECT_TRUE(choice.CreateHTMLFiles);
-  EXPECT_FALSE(choice.Overwrite);
+  ASSERT_TRUE(order);
+  EXPECT_FALSE(order->CreateImages);
+  EXPECT_TRUE(order->CreateThumbnails);
+  EXPECT_TRUE(order->CreateHTML);
+  EXPECT_FALSE(order->Overwrite);
 }
 
 TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textCreateFilePath");
     Type(box, "D:/web");
     EXPECT_EQ(box.text(), "D:\\web");
@@ -128,11 +129,12 @@ TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
     Type(box, "E:");
     QTest::keyClick(&box, Qt::Key_Return);
   });
-  EXPECT_EQ(choice.FilePath, "E:\\index.htm");
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->OutputFolder + order->IndexFileName, "E:\\index.htm");
 }
 
 TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     for (const auto& [name, text] : std::vector<std::pair<const char*, const char*>>{
              {"textUploadPassword", "secret\n"}, {"textUploadSourceFolder", "D:\\photos\r\n"}}) {
@@ -143,23 +145,25 @@ TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
     }
     Click(form, "OKButton");
   });
-  EXPECT_EQ(choice.UploadPassword, "secret");
-  EXPECT_EQ(choice.UploadSourceFolder, "D:\\photos\\");
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->Password, "secret");
+  EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
 }
 
 TEST_F(CreateForm, TheFileIsBrowsedFor) {
   desk.fileBrowser.answer.result = "F:\\new\\page.html";
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Click(form, "btnBrowseCreateFilePath");
     EXPECT_EQ(Text(form, "textCreateFilePath"), "F:\\new\\page.html");
     Click(form, "OKButton");
   });
-  EXPECT_EQ(choice.FilePath, "F:\\new\\page.html");
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->OutputFolder + order->IndexFileName, "F:\\new\\page.html");
   EXPECT_EQ(desk.fileBrowser.requests.size(), 1U);
 }
 
 TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     EXPECT_EQ(Text(form, "textPublishDestination"), "one.example.org/a/b/start.htm");
     Type(Find<QLineEdit>(form, "textPublishPassword"), "old");
@@ -177,19 +181,20 @@ TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
     EXPECT_EQ(Text(form, "textUploadPassword"), "secret");
     QTest::keyClick(&form, Qt::Key_Return);
   });
-  EXPECT_EQ(choice.option, Option::Publish);
-  EXPECT_EQ(choice.UploadServer, "new.example.org");
-  EXPECT_EQ(choice.UploadUser, "me");
-  EXPECT_EQ(choice.UploadIndexPath, "a/b");
-  EXPECT_EQ(choice.UploadIndexFile, "start.htm");
-  EXPECT_EQ(choice.UploadJumpTo, "www");
-  EXPECT_EQ(choice.UploadPassword, "secret");
-  EXPECT_EQ(choice.UploadPort, 21);
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->Mode, GenerationMode::Publish);
+  EXPECT_EQ(order->ServerAddress, "new.example.org");
+  EXPECT_EQ(order->UserName, "me");
+  EXPECT_EQ(order->RemoteFolder, "a/b/");
+  EXPECT_EQ(order->RemoteIndexFileName, "start.htm");
+  EXPECT_EQ(order->BaseDirectory, "www");
+  EXPECT_EQ(order->Password, "secret");
+  EXPECT_EQ(order->Port, 21);
 }
 
 TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
   desk.folderBrowser.answers = {"D:\\photos"};
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     EXPECT_EQ(Text(form, "textUploadDestination"), "one.example.org/a/b/");
     DriveModal([&] { Click(form, "btnBrowseUploadDestination"); },
@@ -208,10 +213,11 @@ TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
     EXPECT_EQ(Text(form, "textPublishPassword"), "me@home");
     Click(form, "OKButton");
   });
-  EXPECT_EQ(choice.option, Option::UploadFolder);
-  EXPECT_EQ(choice.UploadServer, "two.example.org");
-  EXPECT_EQ(choice.UploadPassword, "me@home");
-  EXPECT_EQ(choice.UploadSourceFolder, "D:\\photos\\");
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->Mode, GenerationMode::Upload);
+  EXPECT_EQ(order->ServerAddress, "two.example.org");
+  EXPECT_EQ(order->Password, "me@home");
+  EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
   EXPECT_NE(desk.ServerText().find("PreferredServer=\"2\""), std::string::npos);
 }
 
@@ -268,13 +274,15 @@ TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
       Click(form, "OKButton");
     });
   };
-  const CreateChoice publish = askWith("optionUploadGallery", "textPublishDestination", "new.example.org/web/page.htm");
-  EXPECT_EQ(publish.UploadServer, "new.example.org");
-  EXPECT_EQ(publish.UploadIndexPath, "web/");
-  EXPECT_EQ(publish.UploadIndexFile, "page.htm");
-  const CreateChoice upload = askWith("optionUploadFolder", "textUploadDestination", "new.example.org/web");
-  EXPECT_EQ(upload.UploadServer, "new.example.org");
-  EXPECT_EQ(upload.UploadIndexPath, "web");
+  const auto publish = askWith("optionUploadGallery", "textPublishDestination", "new.example.org/web/page.htm");
+  ASSERT_TRUE(publish);
+  EXPECT_EQ(publish->ServerAddress, "new.example.org");
+  EXPECT_EQ(publish->RemoteFolder, "web/");
+  EXPECT_EQ(publish->RemoteIndexFileName, "page.htm");
+  const auto upload = askWith("optionUploadFolder", "textUploadDestination", "new.example.org/web");
+  ASSERT_TRUE(upload);
+  EXPECT_EQ(upload->ServerAddress, "new.example.org");
+  EXPECT_EQ(upload->RemoteFolder, "web/");
   EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
@@ -282,7 +290,7 @@ TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocu
   for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
            {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
     desk.boxes.boxes.clear();
-    const CreateChoice choice = Ask([&](QWidget& form) {
+    const auto order = Ask([&](QWidget& form) {
       Click(form, option);
       Type(Find<QLineEdit>(form, "textUploadSourceFolder"), "D:\\photos");
       Type(Find<QLineEdit>(form, destination), "gallery.htm");
@@ -294,12 +302,12 @@ TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocu
     });
     ASSERT_EQ(desk.boxes.boxes.size(), 1U) << option;
     EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Destination");
-    EXPECT_EQ(choice.option, Option::Cancelled);
+    EXPECT_FALSE(order);
   }
 }
 
 TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     auto& box = Find<QLineEdit>(form, "textUploadSourceFolder");
     Type(box, "photos/one");
@@ -312,11 +320,12 @@ TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
   });
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Path");
-  EXPECT_EQ(choice.UploadSourceFolder, "C:\\photos\\");
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->OutputFolder, "C:\\photos\\");
 }
 
 TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
-  const CreateChoice choice = Ask([](QWidget& form) {
+  const auto order = Ask([](QWidget& form) {
     Uncheck(form, {"checkCreateImages", "checkCreateThumbnails", "checkCreateHTMLFiles"});
     Click(form, "OKButton");
     EXPECT_TRUE(form.isVisible());
@@ -324,26 +333,26 @@ TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
   });
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Cannot create Gallery");
-  EXPECT_EQ(choice.option, Option::Cancelled);
+  EXPECT_FALSE(order);
 }
 
 TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
-  EXPECT_EQ(Ask([](QWidget& form) {
-              Click(form, "optionUploadGallery");
-              Click(form, "checkCreateImages");
-              Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
-              Click(form, "OKButton");
-            }).option,
-            Option::Publish);
+  const auto first = Ask([](QWidget& form) {
+    Click(form, "optionUploadGallery");
+    Click(form, "checkCreateImages");
+    Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
+    Click(form, "OKButton");
+  });
+  ASSERT_TRUE(first);
+  EXPECT_EQ(first->Mode, GenerationMode::Publish);
   desk.preferences.CreateFolder = "D:\\later\\";
-  EXPECT_EQ(Ask([](QWidget& form) {
-              EXPECT_TRUE(Find<QRadioButton>(form, "optionUploadGallery").isChecked());
-              EXPECT_FALSE(Find<QCheckBox>(form, "checkCreateImages").isChecked());
-              EXPECT_EQ(Text(form, "textPublishPassword"), "");
-              EXPECT_EQ(Text(form, "textCreateFilePath"), "D:\\later\\index.htm");
-              QTest::keyClick(&form, Qt::Key_Escape);
-            }).option,
-            Option::Cancelled);
+  EXPECT_FALSE(Ask([](QWidget& form) {
+    EXPECT_TRUE(Find<QRadioButton>(form, "optionUploadGallery").isChecked());
+    EXPECT_FALSE(Find<QCheckBox>(form, "checkCreateImages").isChecked());
+    EXPECT_EQ(Text(form, "textPublishPassword"), "");
+    EXPECT_EQ(Text(form, "textCreateFilePath"), "D:\\later\\index.htm");
+    QTest::keyClick(&form, Qt::Key_Escape);
+  }));
 }
 
 TEST_F(CreateForm, EveryMnemonicIsItsOwn) {

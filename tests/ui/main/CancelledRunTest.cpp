@@ -75,7 +75,7 @@ TEST_F(RunInItsWindow, IsCancelledThroughTheButtonInMidRun) {
 TEST_F(RunInItsWindow, AFailureStaysUntilItIsClosed) {
   std::filesystem::remove(folder.Path() / "photos/3.jpg");
   Watch([&](frmProgress& window) {
-    if (window.CancelButtonCaption() != "&Close") return false;
+    if (!window.OffersClose()) return false;
     EXPECT_FALSE(host.window.isEnabled());
     EXPECT_FALSE(fakes::Find<QWidget>(window, "pbFile").isVisible()) << "nothing is uploaded";
     fakes::Click(window, "btnShowLog");

@@ -108,7 +108,7 @@ TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
   QTimer closer;
   QObject::connect(&closer, &QTimer::timeout, [] {
     frmProgress* progress = VisibleProgress();
-    if (progress != nullptr && progress->CancelButtonCaption() == "&Close") Click(*progress, "CancelButton");
+    if (progress != nullptr && progress->OffersClose()) Click(*progress, "CancelButton");
   });
   closer.start(5);
   ExpectTheKeyboardBehind([](frmProgress&) {});

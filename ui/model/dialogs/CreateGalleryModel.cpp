@@ -64,22 +64,17 @@ std::string PathKey(std::string_view before, const std::string& key) {
 
 CreateGalleryModel::CreateGalleryModel(const Preferences& preferences, std::filesystem::path serverListFile,
                                        const PathMap& paths, MessageBoxPort& boxes)
-    : preferences_(preferences), serverListFile_(std::move(serverListFile)), paths_(paths), boxes_(boxes) {
-  choice_.option = Option::CreateGallery;
-}
+    : preferences_(preferences), serverListFile_(std::move(serverListFile)), paths_(paths), boxes_(boxes) {}
 
 void CreateGalleryModel::ComeUp() {
   Cancelled = true;
   const std::string& folder = preferences_.CreateFolder;
-  choice_.FilePath = (folder.empty() ? folder : WithTrailingBackslash(folder)) + preferences_.GalleryIndexFileName;
-  choice_.UploadSourceFolder = GetFilePath(folder);
-  choice_.UploadPassword.clear();
+  filePath_ = (folder.empty() ? folder : WithTrailingBackslash(folder)) + preferences_.GalleryIndexFileName;
+  sourceFolder_ = GetFilePath(folder);
+  UploadPassword.clear();
   const auto server = PreferredServer(serverListFile_);
-  if (!server) {
-    TakeUploadValues({});
-    return FillIn("", "");
-  }
-  TakeUploadValues(*server);
+  TakeUploadValues(server.value_or(ServerProfile{}));
+  if (!server) return FillIn("", "");
   isPasswordHidden_ = !IsAnonymous(*server);
   FillIn(WithSingleSlashes(PublishText(*server)), WithSingleSlashes(UploadText(*server)));
 }
@@ -96,7 +91,7 @@ std::string CreateGalleryModel::Finished(const std::string& typed) const {
 }
 
 void CreateGalleryModel::LeaveFilePath() {
-  std::string& path = choice_.FilePath;
+  std::string& path = filePath_;
   path = Finished(path);
   if (path.find(':') == std::string::npos) path = preferences_.CreateFolder;
   if (path.ends_with(':')) path += "\\index.htm";
@@ -112,22 +107,22 @@ void CreateGalleryModel::BrowseFilePath(FileBrowser& browser) {
        .fileName = preferences_.GalleryIndexFileName,
        .filter = "All Files (*.*)|*.*|HTML Files (*.htm,*.html)|*.htm;*.html|SHTML Files (*.shtm,*.shtml)|"
                  "*.shtm;*.shtml"});
-  if (!chosen.result.empty()) choice_.FilePath = chosen.result;
+  if (!chosen.result.empty()) filePath_ = chosen.result;
 }
 
 void CreateGalleryModel::LeaveSourceFolder() {
-  choice_.UploadSourceFolder = Finished(choice_.UploadSourceFolder);
+  sourceFolder_ = Finished(sourceFolder_);
 }
 
 bool CreateGalleryModel::BrowseSourceFolder(FolderBrowser& browser) {
-  const auto folder = browser.BrowseForFolder("Select Source Folder", GetFilePath(choice_.UploadSourceFolder));
-  if (folder) choice_.UploadSourceFolder = *folder;
+  const auto folder = browser.BrowseForFolder("Select Source Folder", GetFilePath(sourceFolder_));
+  if (folder) sourceFolder_ = *folder;
   return folder.has_value();
 }
 
 /// Clears the password whenever the destination changes.
 void CreateGalleryModel::SetDestinations(const std::string& publish, const std::string& upload) {
-  if (publish != publishDestination_ || upload != uploadDestination_) choice_.UploadPassword.clear();
+  if (publish != publishDestination_ || upload != uploadDestination_) UploadPassword.clear();
   publishDestination_ = publish;
   uploadDestination_ = upload;
 }
@@ -139,28 +134,28 @@ void CreateGalleryModel::TakeServer(const ServerProfile& profile) {
 }
 
 void CreateGalleryModel::TakeUploadValues(const ServerProfile& profile) {
-  choice_.UploadServer = profile.ServerURL;
-  choice_.UploadUser = profile.UserName;
-  choice_.UploadIndexPath = profile.IndexPath;
-  choice_.UploadIndexFile = profile.IndexFile;
-  choice_.UploadJumpTo = profile.JumpTo;
+  UploadServer = profile.ServerURL;
+  UploadUser = profile.UserName;
+  UploadIndexPath = profile.IndexPath;
+  UploadIndexFile = profile.IndexFile;
+  UploadJumpTo = profile.JumpTo;
 }
 
 void CreateGalleryModel::LeaveServers(const ServerProfile& profile) {
   isPasswordHidden_ = !IsAnonymous(profile);
-  choice_.UploadPassword.clear();
+  UploadPassword.clear();
 }
 
 bool CreateGalleryModel::NothingIsMade() const {
-  return Produces() && !choice_.CreateImages && !choice_.CreateThumbnails && !choice_.CreateHTMLFiles;
+  return Produces() && !order_.CreateImages && !order_.CreateThumbnails && !order_.CreateHTML;
 }
 
 std::optional<std::string> CreateGalleryModel::TypedDestination() const {
   const auto unlessFilledIn = [](const std::string& text, const std::string& filledIn) {
     return text == filledIn ? std::nullopt : std::optional(text);
   };
-  if (choice_.option == Option::Publish) return unlessFilledIn(publishDestination_, filledPublishDestination_);
-  if (choice_.option == Option::UploadFolder) return unlessFilledIn(uploadDestination_, filledUploadDestination_);
+  if (order_.Mode == GenerationMode::Publish) return unlessFilledIn(publishDestination_, filledPublishDestination_);
+  if (order_.Mode == GenerationMode::Upload) return unlessFilledIn(uploadDestination_, filledUploadDestination_);
   return std::nullopt;
 }
 
@@ -168,23 +163,10 @@ bool CreateGalleryModel::RefuseDestination() const {
   const auto typed = TypedDestination();
   if (!typed || ReadServerPlace(*typed)) return false;
   boxes_.Critical("Invalid Destination",
-                  choice_.option == Option::Publish
+                  order_.Mode == GenerationMode::Publish
                       ? "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\"."
                       : "Please give Server and Folder, such as \"ftp.example.org/gallery\".");
   return true;
-}
-
-/// If no file name was typed, uses the usual "index.htm".
-void CreateGalleryModel::TakeTypedDestination(CreateChoice& choice) const {
-  const auto typed = TypedDestination();
-  const auto place = typed ? ReadServerPlace(*typed) : std::nullopt;
-  if (!place) return;
-  choice.UploadServer = place->host;
-  choice.UploadIndexPath = place->path;
-  if (choice.option != Option::Publish) return;
-  choice.UploadIndexPath = FTPGetFilePath(place->path);
-  choice.UploadIndexFile = FTPGetFileName(place->path);
-  if (choice.UploadIndexFile.empty()) choice.UploadIndexFile = "index.htm";
 }
 
 Application CreateGalleryModel::Apply() {
@@ -192,21 +174,41 @@ Application CreateGalleryModel::Apply() {
     boxes_.Critical("Cannot create Gallery", "Please make sure you have one of the Options checked!");
     return Application::Refused;
   }
-  if (choice_.option == Option::CreateGallery) LeaveFilePath();
-  if (choice_.option == Option::UploadFolder) {
+  if (order_.Mode == GenerationMode::Create) LeaveFilePath();
+  if (order_.Mode == GenerationMode::Upload) {
     LeaveSourceFolder();
-    if (!NormalizeFolderPath(choice_.UploadSourceFolder, boxes_)) return Application::NoSourceFolder;
+    if (!NormalizeFolderPath(sourceFolder_, boxes_)) return Application::NoSourceFolder;
   }
   if (RefuseDestination()) return Application::NoDestination;
   Cancelled = false;
   return Application::Done;
 }
 
-CreateChoice CreateGalleryModel::Choice() const {
-  CreateChoice choice = choice_;
-  TakeTypedDestination(choice);
-  if (Cancelled) choice.option = Option::Cancelled;
-  return choice;
+std::optional<RunOrder> CreateGalleryModel::Order() const {
+  if (Cancelled) return std::nullopt;
+  RunOrder order = order_;
+  if (order.Mode == GenerationMode::Create) {
+    SetIndexFile(order, filePath_);
+  } else {
+    SetServer(order);
+  }
+  if (order.Mode == GenerationMode::Upload) order.OutputFolder = sourceFolder_;
+  return order;
+}
+
+/// A destination that was typed takes the place of the host and the path that were filled in. If it names no file for a
+/// gallery, uses the usual "index.htm".
+void CreateGalleryModel::SetServer(RunOrder& order) const {
+  const auto typed = TypedDestination();
+  const auto place = typed ? ReadServerPlace(*typed) : std::nullopt;
+  order.ServerAddress = place ? place->host : UploadServer;
+  order.UserName = UploadUser;
+  order.Password = UploadPassword;
+  order.BaseDirectory = UploadJumpTo;
+  if (order.Mode == GenerationMode::Upload) return SetRemoteFolder(order, place ? place->path : UploadIndexPath);
+  if (!place) return SetRemoteIndexFile(order, UploadIndexPath, UploadIndexFile);
+  SetRemoteIndexFile(order, "", place->path);
+  if (order.RemoteIndexFileName.empty()) order.RemoteIndexFileName = "index.htm";
 }
 
 }  // namespace vantorium

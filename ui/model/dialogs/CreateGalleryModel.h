@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/generation/RunHost.h"
+#include "core/generation/RunOrder.h"
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
 #include "env/Preferences.h"
@@ -34,8 +34,7 @@ enum class Application {
 /// model lives as long as the main window, so the user's choices last from one opening to the next.
 class CreateGalleryModel {
  public:
-  using Option = CreateChoice::Option;
-  using Switch = bool CreateChoice::*;
+  using Switch = bool RunOrder::*;
 
   /// `serverListFile`: see publish/ServerListFile.h.
   CreateGalleryModel(const Preferences& preferences, std::filesystem::path serverListFile, const PathMap& paths,
@@ -45,22 +44,23 @@ class CreateGalleryModel {
   /// list that cannot be read counts as empty.
   void ComeUp();
 
-  void Choose(Option option) { choice_.option = option; }
-  [[nodiscard]] Option Chosen() const { return choice_.option; }
+  /// `option`: any mode but Preview.
+  void Choose(GenerationMode option) { order_.Mode = option; }
+  [[nodiscard]] GenerationMode Chosen() const { return order_.Mode; }
   /// Whether the run makes files, so that the user can choose which.
-  [[nodiscard]] bool Produces() const { return choice_.option != Option::UploadFolder; }
-  void Check(Switch box, bool checked) { choice_.*box = checked; }
-  [[nodiscard]] bool IsChecked(Switch box) const { return choice_.*box; }
-  [[nodiscard]] bool CanOverwrite() const { return Produces() && (choice_.CreateImages || choice_.CreateThumbnails); }
+  [[nodiscard]] bool Produces() const { return order_.Mode != GenerationMode::Upload; }
+  void Check(Switch box, bool checked) { order_.*box = checked; }
+  [[nodiscard]] bool IsChecked(Switch box) const { return order_.*box; }
+  [[nodiscard]] bool CanOverwrite() const { return Produces() && (order_.CreateImages || order_.CreateThumbnails); }
 
-  [[nodiscard]] const std::string& FilePath() const { return choice_.FilePath; }
-  void EditFilePath(const std::string& text) { choice_.FilePath = text; }
+  [[nodiscard]] const std::string& FilePath() const { return filePath_; }
+  void EditFilePath(const std::string& text) { filePath_ = text; }
   /// Completes the typed text to the path of a file.
   void LeaveFilePath();
   void BrowseFilePath(FileBrowser& browser);
 
-  [[nodiscard]] const std::string& SourceFolder() const { return choice_.UploadSourceFolder; }
-  void EditSourceFolder(const std::string& text) { choice_.UploadSourceFolder = text; }
+  [[nodiscard]] const std::string& SourceFolder() const { return sourceFolder_; }
+  void EditSourceFolder(const std::string& text) { sourceFolder_ = text; }
   void LeaveSourceFolder();
   /// Returns true if a folder was chosen.
   [[nodiscard]] bool BrowseSourceFolder(FolderBrowser& browser);
@@ -75,18 +75,25 @@ class CreateGalleryModel {
   void TakeServer(const ServerProfile& profile);
 
   /// The password for both kinds of upload.
-  [[nodiscard]] const std::string& Password() const { return choice_.UploadPassword; }
-  void EditPassword(const std::string& text) { choice_.UploadPassword = text; }
+  [[nodiscard]] const std::string& Password() const { return UploadPassword; }
+  void EditPassword(const std::string& text) { UploadPassword = text; }
   [[nodiscard]] bool IsPasswordHidden() const { return isPasswordHidden_; }
   /// Call when the server dialog, which shows `profile`, is no longer in front.
   void LeaveServers(const ServerProfile& profile);
 
   [[nodiscard]] Application Apply();
   void Cancel() { Cancelled = true; }
-  /// The user's choice, once the dialog has closed.
-  [[nodiscard]] CreateChoice Choice() const;
+  /// What the user chose, once the dialog has closed; nullopt if it was cancelled.
+  [[nodiscard]] std::optional<RunOrder> Order() const;
 
   bool Cancelled = true;
+  // The server that was filled in, and the password for this run only.
+  std::string UploadServer;
+  std::string UploadUser;
+  std::string UploadPassword;
+  std::string UploadIndexPath;
+  std::string UploadIndexFile;
+  std::string UploadJumpTo;
 
  private:
   void FillIn(const std::string& publish, const std::string& upload);
@@ -94,8 +101,8 @@ class CreateGalleryModel {
   /// The chosen destination, or nullopt if it is still the one that was filled in.
   [[nodiscard]] std::optional<std::string> TypedDestination() const;
   [[nodiscard]] bool RefuseDestination() const;
-  void TakeTypedDestination(CreateChoice& choice) const;
   void TakeUploadValues(const ServerProfile& profile);
+  void SetServer(RunOrder& order) const;
   [[nodiscard]] std::string Finished(const std::string& typed) const;
   [[nodiscard]] bool NothingIsMade() const;
 
@@ -103,7 +110,9 @@ class CreateGalleryModel {
   std::filesystem::path serverListFile_;
   const PathMap& paths_;
   MessageBoxPort& boxes_;
-  CreateChoice choice_;
+  RunOrder order_;  // mode and switches; Order sets the rest
+  std::string filePath_;
+  std::string sourceFolder_;
   std::string publishDestination_;
   std::string uploadDestination_;
   std::string filledPublishDestination_;

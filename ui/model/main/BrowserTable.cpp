@@ -24,11 +24,10 @@ bool EditBrowsers(std::vector<Browser>& browsers, const std::filesystem::path& p
   host.ShowBrowserList(list);
   browsers = list.Entries();
   host.ShowBrowserMenus(RebuildBrowserMenus(browsers));
-  host.ShowBusyPointer(true);
-  host.ShowStatus("Writing file \"vantorium.ini\"...");
+  const BusyMainWindow busy(host);
+  host.SetStatusText("Writing file \"vantorium.ini\"...");
   const bool written = Write(browsers, preferencesFile);
-  host.ShowStatus("");
-  host.ShowBusyPointer(false);
+  host.SetStatusText("");
   return written;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "env/WindowState.h"
 #include "ui/model/dialogs/BrowserList.h"
 #include "ui/model/main/BrowserMenus.h"
 
@@ -10,16 +11,13 @@
 namespace vantorium {
 
 /// What EditBrowsers needs from the main window.
-class BrowserTableHost {
+class BrowserTableHost : public virtual WindowState {
  public:
-  virtual ~BrowserTableHost() = default;
   /// Shows frmBrowserList modally, with the entries of `list`, and passes the user's actions to `list` until it is
   /// closed.
   virtual void ShowBrowserList(BrowserList& list) = 0;
   /// Replaces the entries of the toolbar's drop-down list and of the menu.
   virtual void ShowBrowserMenus(const BrowserMenus& menus) = 0;
-  virtual void ShowBusyPointer(bool busy) = 0;
-  virtual void ShowStatus(const std::string& text) = 0;
 };
 
 /// Lets the user edit `browsers`, rebuilds the menus and writes the list to the preferences file, creating its folder

@@ -10,8 +10,6 @@
 namespace vantorium {
 namespace {
 
-using Option = CreateGalleryModel::Option;
-
 const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 0, "www"};
 const ServerProfile kTwo = {"Two", "two.example.org", "Anonymous", "", "index.htm", 0, ""};
 
@@ -33,6 +31,12 @@ class CreateGalleryModelTest : public testing::Test {
     model.EditFilePath(typed);
     model.LeaveFilePath();
     return model.FilePath();
+  }
+  /// What the dialog orders for `option`, closed by its button.
+  RunOrder Applied(GenerationMode option) {
+    model.Choose(option);
+    EXPECT_EQ(model.Apply(), Application::Done);
+    return model.Order().value_or(RunOrder{.Mode = GenerationMode::Preview});
   }
   void ExpectBox(const std::string& title, const std::string& text) const {
     ASSERT_EQ(boxes.boxes.size(), 1U);
@@ -128,7 +132,7 @@ TEST_F(CreateGalleryModelTest, WithoutServersTheDestinationsAreEmpty) {
     model.ComeUp();
     EXPECT_EQ(model.PublishDestination(), "") << text;
     EXPECT_EQ(model.UploadDestination(), "") << text;
-    EXPECT_EQ(model.Choice().UploadServer, "") << text;
+    EXPECT_EQ(Applied(GenerationMode::Publish).ServerAddress, "") << text;
   }
   std::filesystem::remove(File());
   model.ComeUp();
@@ -140,14 +144,13 @@ TEST_F(CreateGalleryModelTest, ComesUpWithThePreferredServer) {
   ComeUpWith({kTwo, kOne}, 1);
   EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
   EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b/");
-  std::ignore = model.Apply();
-  const CreateChoice choice = model.Choice();
-  EXPECT_EQ(choice.UploadServer, "one.example.org");
-  EXPECT_EQ(choice.UploadUser, "me");
-  EXPECT_EQ(choice.UploadIndexPath, "a/b/");
-  EXPECT_EQ(choice.UploadIndexFile, "start.htm");
-  EXPECT_EQ(choice.UploadJumpTo, "www");
-  EXPECT_EQ(choice.UploadPort, 21);
+  const RunOrder order = Applied(GenerationMode::Publish);
+  EXPECT_EQ(order.ServerAddress, "one.example.org");
+  EXPECT_EQ(order.UserName, "me");
+  EXPECT_EQ(order.RemoteFolder, "a/b/");
+  EXPECT_EQ(order.RemoteIndexFileName, "start.htm");
+  EXPECT_EQ(order.BaseDirectory, "www");
+  EXPECT_EQ(order.Port, 21);
 }
 
 TEST_F(CreateGalleryModelTest, APreferenceOutsideTheListIsTheFirstServer) {
@@ -187,30 +190,30 @@ TEST_F(CreateGalleryModelTest, ThePasswordIsHiddenUnlessTheServerIsOpenToEveryon
 
 TEST_F(CreateGalleryModelTest, ComesUpWithoutThePasswordButWithTheOptionAndTheSwitches) {
   ComeUpWith({kOne});
-  EXPECT_EQ(model.Chosen(), Option::CreateGallery);
-  EXPECT_TRUE(model.IsChecked(&CreateChoice::CreateImages) && model.IsChecked(&CreateChoice::CreateThumbnails) &&
-              model.IsChecked(&CreateChoice::CreateHTMLFiles) && model.IsChecked(&CreateChoice::Overwrite));
-  model.Choose(Option::Publish);
-  model.Check(&CreateChoice::Overwrite, false);
+  EXPECT_EQ(model.Chosen(), GenerationMode::Create);
+  EXPECT_TRUE(model.IsChecked(&RunOrder::CreateImages) && model.IsChecked(&RunOrder::CreateThumbnails) &&
+              model.IsChecked(&RunOrder::CreateHTML) && model.IsChecked(&RunOrder::Overwrite));
+  model.Choose(GenerationMode::Publish);
+  model.Check(&RunOrder::Overwrite, false);
   model.EditPassword("secret");
   EXPECT_EQ(model.Apply(), Application::Done);
-  EXPECT_EQ(model.Choice().UploadPassword, "secret");
+  EXPECT_EQ(model.Order().value().Password, "secret");
   model.ComeUp();
   EXPECT_EQ(model.Password(), "");
-  EXPECT_EQ(model.Chosen(), Option::Publish);
-  EXPECT_FALSE(model.IsChecked(&CreateChoice::Overwrite));
+  EXPECT_EQ(model.Chosen(), GenerationMode::Publish);
+  EXPECT_FALSE(model.IsChecked(&RunOrder::Overwrite));
   EXPECT_TRUE(model.Cancelled);
 }
 
 // Switches
 
 TEST_F(CreateGalleryModelTest, AnUploadOfAFolderProducesNothing) {
-  for (const Option option : {Option::CreateGallery, Option::Publish}) {
+  for (const GenerationMode option : {GenerationMode::Create, GenerationMode::Publish}) {
     model.Choose(option);
     EXPECT_TRUE(model.Produces());
     EXPECT_TRUE(model.CanOverwrite());
   }
-  model.Choose(Option::UploadFolder);
+  model.Choose(GenerationMode::Upload);
   EXPECT_FALSE(model.Produces());
   EXPECT_FALSE(model.CanOverwrite());
 }
@@ -218,8 +221,8 @@ TEST_F(CreateGalleryModelTest, AnUploadOfAFolderProducesNothing) {
 TEST_F(CreateGalleryModelTest, OverwritingIsAboutImagesAndThumbnails) {
   for (const bool images : {true, false}) {
     for (const bool thumbnails : {true, false}) {
-      model.Check(&CreateChoice::CreateImages, images);
-      model.Check(&CreateChoice::CreateThumbnails, thumbnails);
+      model.Check(&RunOrder::CreateImages, images);
+      model.Check(&RunOrder::CreateThumbnails, thumbnails);
       EXPECT_EQ(model.CanOverwrite(), images || thumbnails);
     }
   }
@@ -299,11 +302,12 @@ TEST_F(CreateGalleryModelTest, AChosenServerIsTakenOver) {
   EXPECT_EQ(model.PublishDestination(), "two.example.org/index.htm");
   EXPECT_EQ(model.UploadDestination(), "two.example.org/");
   std::ignore = model.Apply();
-  EXPECT_EQ(model.Choice().UploadServer, "two.example.org");
-  EXPECT_EQ(model.Choice().UploadUser, "Anonymous");
-  EXPECT_EQ(model.Choice().UploadIndexPath, "");
-  EXPECT_EQ(model.Choice().UploadIndexFile, "index.htm");
-  EXPECT_EQ(model.Choice().UploadJumpTo, "");
+  const RunOrder order = Applied(GenerationMode::Publish);
+  EXPECT_EQ(order.ServerAddress, "two.example.org");
+  EXPECT_EQ(order.UserName, "Anonymous");
+  EXPECT_EQ(order.RemoteFolder, "");
+  EXPECT_EQ(order.RemoteIndexFileName, "index.htm");
+  EXPECT_EQ(order.BaseDirectory, "");
 }
 
 TEST_F(CreateGalleryModelTest, ThePasswordGoesWithItsDestination) {
@@ -336,56 +340,51 @@ TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
         TypedCase{"other.example.org//web\\page.html", "other.example.org", "web/", "page.html"},
         TypedCase{"one.example.org/a/b/other.htm", "one.example.org", "a/b/", "other.htm"}}) {
     ComeUpWith({kOne});
-    model.Choose(Option::Publish);
     model.EditPublishDestination(typed);
-    EXPECT_EQ(model.Apply(), Application::Done) << typed;
-    const CreateChoice choice = model.Choice();
-    EXPECT_EQ(choice.UploadServer, host) << typed;
-    EXPECT_EQ(choice.UploadIndexPath, path) << typed;
-    EXPECT_EQ(choice.UploadIndexFile, file) << typed;
-    EXPECT_EQ(choice.UploadUser, "me") << typed;
-    EXPECT_EQ(choice.UploadJumpTo, "www") << typed;
+    const RunOrder order = Applied(GenerationMode::Publish);
+    EXPECT_EQ(order.ServerAddress, host) << typed;
+    EXPECT_EQ(order.RemoteFolder, path) << typed;
+    EXPECT_EQ(order.RemoteIndexFileName, file) << typed;
+    EXPECT_EQ(order.UserName, "me") << typed;
+    EXPECT_EQ(order.BaseDirectory, "www") << typed;
   }
 }
 
 TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
   for (const auto& [typed, host, path, file] :
-       {TypedCase{"other.example.org/web/new", "other.example.org", "web/new", ""},
+       {TypedCase{"other.example.org/web/new", "other.example.org", "web/new/", ""},
         TypedCase{"other.example.org/web/", "other.example.org", "web/", ""},
         TypedCase{"other.example.org/", "other.example.org", "", ""}}) {
     ComeUpWith({kOne});
-    model.Choose(Option::UploadFolder);
     model.EditSourceFolder("D:\\photos");
     model.EditUploadDestination(typed);
-    EXPECT_EQ(model.Apply(), Application::Done) << typed;
-    EXPECT_EQ(model.Choice().UploadServer, host) << typed;
-    EXPECT_EQ(model.Choice().UploadIndexPath, path) << typed;
-    EXPECT_EQ(model.Choice().UploadUser, "me") << typed;
+    const RunOrder order = Applied(GenerationMode::Upload);
+    EXPECT_EQ(order.ServerAddress, host) << typed;
+    EXPECT_EQ(order.RemoteFolder, path) << typed;
+    EXPECT_EQ(order.RemoteIndexFileName, file) << typed;
+    EXPECT_EQ(order.UserName, "me") << typed;
   }
 }
 
 TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlone) {
   ComeUpWith({kOne});
   const std::string servers = program.Read("vantorium.pub");
-  model.Choose(Option::Publish);
+  model.Choose(GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
   EXPECT_EQ(model.Apply(), Application::Done);
   EXPECT_EQ(program.Read("vantorium.pub"), servers);
   model.ComeUp();
   EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
   EXPECT_EQ(model.Apply(), Application::Done);
-  EXPECT_EQ(model.Choice().UploadServer, "one.example.org");
-  EXPECT_EQ(model.Choice().UploadIndexFile, "start.htm");
+  EXPECT_EQ(model.Order().value().ServerAddress, "one.example.org");
+  EXPECT_EQ(model.Order().value().RemoteIndexFileName, "start.htm");
 }
 
 TEST_F(CreateGalleryModelTest, ADestinationThatStandsAsItWasFilledInIsTheServersOwn) {
   for (const char* index : {"a//b//start.htm", "", "start.htm", "a/b/"}) {
     ComeUpWithIndex(index);
-    const CreateChoice before = [this] {
-      EXPECT_EQ(model.Apply(), Application::Done);
-      return model.Choice();
-    }();
-    for (const Option option : {Option::Publish, Option::UploadFolder}) {
+    const RunOrder before = Applied(GenerationMode::Publish);
+    for (const GenerationMode option : {GenerationMode::Publish, GenerationMode::Upload}) {
       model.Choose(option);
       model.EditSourceFolder("D:\\photos");
       const std::string publish = model.PublishDestination();
@@ -394,23 +393,24 @@ TEST_F(CreateGalleryModelTest, ADestinationThatStandsAsItWasFilledInIsTheServers
       model.EditUploadDestination("elsewhere");
       model.EditPublishDestination(publish);
       model.EditUploadDestination(upload);
-      EXPECT_EQ(model.Apply(), Application::Done) << index;
-      EXPECT_EQ(model.Choice().UploadServer, before.UploadServer) << index;
-      EXPECT_EQ(model.Choice().UploadIndexPath, before.UploadIndexPath) << index;
-      EXPECT_EQ(model.Choice().UploadIndexFile, before.UploadIndexFile) << index;
+      const RunOrder order = Applied(option);
+      EXPECT_EQ(order.ServerAddress, before.ServerAddress) << index;
+      EXPECT_EQ(order.RemoteFolder, before.RemoteFolder) << index;
+      if (option == GenerationMode::Publish) {
+        EXPECT_EQ(order.RemoteIndexFileName, before.RemoteIndexFileName) << index;
+      }
     }
-    model.Choose(Option::CreateGallery);
   }
 }
 
 TEST_F(CreateGalleryModelTest, AServerChosenBehindAChangeByHandTakesItsPlace) {
   ComeUpWith({kOne});
-  model.Choose(Option::Publish);
+  model.Choose(GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
   model.TakeServer(kTwo);
   EXPECT_EQ(model.Apply(), Application::Done);
-  EXPECT_EQ(model.Choice().UploadServer, "two.example.org");
-  EXPECT_EQ(model.Choice().UploadIndexFile, "index.htm");
+  EXPECT_EQ(model.Order().value().ServerAddress, "two.example.org");
+  EXPECT_EQ(model.Order().value().RemoteIndexFileName, "index.htm");
 }
 
 TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsToldBeforeTheRun) {
@@ -418,14 +418,14 @@ TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsToldBeforeTheRun) {
        {"", "x", "gallery.htm", "/gallery/index.htm", "http://host/a", "host:2121/a", "me@host/a"}) {
     ComeUpWith({kOne});
     boxes.boxes.clear();
-    model.Choose(Option::Publish);
+    model.Choose(GenerationMode::Publish);
     model.EditPublishDestination(typed);
     EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
-    EXPECT_EQ(model.Choice().option, Option::Cancelled) << typed;
+    EXPECT_EQ(model.Order(), std::nullopt) << typed;
     ExpectBox("Invalid Destination",
               "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\".");
     boxes.boxes.clear();
-    model.Choose(Option::UploadFolder);
+    model.Choose(GenerationMode::Upload);
     model.EditSourceFolder("D:\\photos");
     model.EditUploadDestination(typed);
     EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
@@ -439,10 +439,10 @@ TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
   ComeUpWith({kOne});
   model.EditPublishDestination("x");
   EXPECT_EQ(model.Apply(), Application::Done) << "a local gallery";
-  model.Choose(Option::UploadFolder);
+  model.Choose(GenerationMode::Upload);
   model.EditSourceFolder("D:\\photos");
   EXPECT_EQ(model.Apply(), Application::Done) << "a folder";
-  EXPECT_EQ(model.Choice().UploadServer, "one.example.org");
+  EXPECT_EQ(model.Order().value().ServerAddress, "one.example.org");
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
@@ -456,43 +456,41 @@ TEST_F(CreateGalleryModelTest, LeavingTheServersHidesThePasswordAsTheirUserNeeds
 // Apply
 
 TEST_F(CreateGalleryModelTest, AGalleryOfNothingIsRefused) {
-  for (const Option option : {Option::CreateGallery, Option::Publish}) {
+  for (const GenerationMode option : {GenerationMode::Create, GenerationMode::Publish}) {
     boxes.boxes.clear();
     model.ComeUp();
     model.Choose(option);
-    for (const auto box :
-         {&CreateChoice::CreateImages, &CreateChoice::CreateThumbnails, &CreateChoice::CreateHTMLFiles}) {
+    for (const auto box : {&RunOrder::CreateImages, &RunOrder::CreateThumbnails, &RunOrder::CreateHTML}) {
       model.Check(box, false);
     }
     EXPECT_EQ(model.Apply(), Application::Refused);
     ExpectBox("Cannot create Gallery", "Please make sure you have one of the Options checked!");
-    EXPECT_EQ(model.Choice().option, Option::Cancelled);
-    model.Check(&CreateChoice::CreateHTMLFiles, true);
+    EXPECT_EQ(model.Order(), std::nullopt);
+    model.Check(&RunOrder::CreateHTML, true);
     EXPECT_EQ(model.Apply(), Application::Done);
-    EXPECT_EQ(model.Choice().option, option);
+    EXPECT_EQ(model.Order().value().Mode, option);
   }
 }
 
 TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
-  model.Choose(Option::UploadFolder);
-  for (const auto box :
-       {&CreateChoice::CreateImages, &CreateChoice::CreateThumbnails, &CreateChoice::CreateHTMLFiles}) {
+  model.Choose(GenerationMode::Upload);
+  for (const auto box : {&RunOrder::CreateImages, &RunOrder::CreateThumbnails, &RunOrder::CreateHTML}) {
     model.Check(box, false);
   }
   model.EditSourceFolder("C:\\photos");
   EXPECT_EQ(model.Apply(), Application::Done);
   EXPECT_TRUE(boxes.boxes.empty());
-  EXPECT_EQ(model.Choice().option, Option::UploadFolder);
-  EXPECT_EQ(model.Choice().UploadSourceFolder, "C:\\photos\\");
+  EXPECT_EQ(model.Order().value().Mode, GenerationMode::Upload);
+  EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
 }
 
 TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
-  model.Choose(Option::UploadFolder);
+  model.Choose(GenerationMode::Upload);
   model.EditSourceFolder("photos");
   EXPECT_EQ(model.Apply(), Application::NoSourceFolder);
   EXPECT_EQ(model.SourceFolder(), "photos\\");
   ExpectBox("Invalid Path", "You must specify an absolute Path.");
-  EXPECT_EQ(model.Choice().option, Option::Cancelled);
+  EXPECT_EQ(model.Order(), std::nullopt);
 }
 
 TEST_F(CreateGalleryModelTest, AFolderIsNotLookedAtForAGallery) {
@@ -504,11 +502,12 @@ TEST_F(CreateGalleryModelTest, AFolderIsNotLookedAtForAGallery) {
 TEST_F(CreateGalleryModelTest, APathIsFinishedWhenTheKeyboardAppliesFromItsBox) {
   model.EditFilePath("D:");
   EXPECT_EQ(model.Apply(), Application::Done);
-  EXPECT_EQ(model.Choice().FilePath, "D:\\index.htm");
-  model.Choose(Option::UploadFolder);
+  EXPECT_EQ(model.Order().value().OutputFolder, "D:\\");
+  EXPECT_EQ(model.Order().value().IndexFileName, "index.htm");
+  model.Choose(GenerationMode::Upload);
   model.EditSourceFolder("/home/me/photos");
   EXPECT_EQ(model.Apply(), Application::Done);
-  EXPECT_EQ(model.Choice().UploadSourceFolder, "C:\\photos\\");
+  EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
 }
 
 TEST_F(CreateGalleryModelTest, ACancelIsNoRun) {
@@ -516,7 +515,7 @@ TEST_F(CreateGalleryModelTest, ACancelIsNoRun) {
   EXPECT_FALSE(model.Cancelled);
   model.Cancel();
   EXPECT_TRUE(model.Cancelled);
-  EXPECT_EQ(model.Choice().option, Option::Cancelled);
+  EXPECT_EQ(model.Order(), std::nullopt);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ class RecordingHost : public BrowserTableHost {
     journal.push_back("menus of " + std::to_string(menus.ViewBrowser.size()));
   }
   void ShowBusyPointer(bool busy) override { journal.emplace_back(busy ? "busy" : "idle"); }
-  void ShowStatus(const std::string& text) override { journal.push_back("status " + text); }
+  void SetStatusText(const std::string& text) override { journal.push_back("status " + text); }
 
   std::vector<std::string> journal;
   std::function<void(BrowserList&)> user;

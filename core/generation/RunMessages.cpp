@@ -1,0 +1,21 @@
+#include "core/generation/RunMessages.h"
+
+namespace vantorium {
+
+std::string UnableToCopy(const std::string& source) {
+  return "Unable to copy the File \"" + source + "\".";
+}
+
+std::string UnableToCopyTemporarily(const std::string& source) {
+  return "Unable to create temporary Copy of the File \"" + source + "\".";
+}
+
+std::string UnableToCreateThumbnail(const std::string& source) {
+  return "Unable to create Thumbnail for \"" + source + "\".";
+}
+
+std::string UnableToCreatePage(const std::string& page) {
+  return "Unable to create the File \"" + page + "\".";
+}
+
+}  // namespace vantorium

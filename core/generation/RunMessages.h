@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace vantorium {
+
+// The messages about files that a run cannot make. A path is the source file's, except where a page is meant.
+
+[[nodiscard]] std::string UnableToCopy(const std::string& source);
+/// The copy from which an image is sent to a server.
+[[nodiscard]] std::string UnableToCopyTemporarily(const std::string& source);
+[[nodiscard]] std::string UnableToCreateThumbnail(const std::string& source);
+/// `page`: its path, here or on the server.
+[[nodiscard]] std::string UnableToCreatePage(const std::string& page);
+
+}  // namespace vantorium
