@@ -9,6 +9,7 @@
 #include "ui/files/frmBrowseForFolder.h"
 #include "ui/files/frmFileBrowser.h"
 #include "ui/main/frmMain.h"
+#include "ui/model/main/MainModel.h"
 #include "ui/ports/QtCommonDialogs.h"
 #include "ui/ports/QtEventLoop.h"
 #include "ui/ports/QtMessageBox.h"
@@ -74,7 +75,8 @@ class Desktop {
 
 int ShowWindow() {
   Desktop desktop;
-  frmMain window(desktop.Ports());
+  MainModel model(desktop.Ports());
+  frmMain window(model);
   QObject::connect(&window, &frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
   window.Start(FromQt(QApplication::arguments().value(1)));
   window.show();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/main/DesktopPorts.h"
 #include "ui/model/dialogs/SampleDialog.h"
+#include "ui/model/main/DesktopPorts.h"
 #include "ui/model/main/SettingsButtons.h"
 
 #include <QObject>

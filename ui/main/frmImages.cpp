@@ -63,6 +63,7 @@ void frmImages::ConnectButtons() {
   connectTo(ui_->btnImagesAddFiles, &frmImages::AddChosenFiles);
   connectTo(ui_->btnImagesAddFolder, &frmImages::AddChosenFolders);
   connectTo(ui_->btnImagesRename, &frmImages::Rename);
+  connectTo(ui_->btnImagesDescriptions, &frmImages::DescriptionsAsked);
   connect(this, &frmImages::CurrentChanged, ui_->btnImagesRename,
           [this] { ui_->btnImagesRename->setEnabled(CurrentEntry() != nullptr); });
   connectTo(ui_->btnImagesFind, &frmImages::Find);
