@@ -16,6 +16,7 @@
 #include "ui/ports/QtScreen.h"
 #include "ui/ports/QtShell.h"
 #include "ui/qt/QtText.h"
+#include "ui/widgets/PixelFrames.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -86,6 +87,7 @@ int ShowWindow() {
 int Run(int argc, char** argv) {
   QApplication application(argc, argv);
   LoadVantoriumResources();
+  QApplication::setStyle(new PixelFrames);
   QApplication::setApplicationName("vantorium");
   QApplication::setDesktopFileName("vantorium");
   QApplication::setWindowIcon(QIcon(":/vantorium/vantorium.svg"));

@@ -164,13 +164,13 @@ void frmImages::AddChosenFolders() {
 void frmImages::Rename() {
   RenameModel model;
   model.SetNameBase(CurrentEntry()->ImageName);  // without a current image the button is disabled
-  frmRename(model, this).exec();
+  if (frmRename(model, this).exec() != QDialog::Accepted) return;
   Do([&] { parts_.images.Rename(model.GetNameBase(), model.Scope()); });
 }
 
 void frmImages::Find() {
   if (parts_.project.images.Empty()) return;
-  frmFind(find_, this).exec();
+  if (frmFind(find_, this).exec() != QDialog::Accepted) return;
   Do([this] { parts_.images.FindByName(find_.Result); });
 }
 
