@@ -72,6 +72,7 @@ QColor TabLineColor() {
   QTabWidget tabs;
   tabs.addTab(new QWidget, "a");
   tabs.resize(100, 100);
+  tabs.show();
   return tabs.grab().toImage().pixelColor(0, 60);
 }
 
