@@ -9,12 +9,14 @@
 #include "ui/files/frmBrowseForFolder.h"
 #include "ui/files/frmFileBrowser.h"
 #include "ui/main/frmMain.h"
+#include "ui/model/main/MainModel.h"
 #include "ui/ports/QtCommonDialogs.h"
 #include "ui/ports/QtEventLoop.h"
 #include "ui/ports/QtMessageBox.h"
 #include "ui/ports/QtScreen.h"
 #include "ui/ports/QtShell.h"
 #include "ui/qt/QtText.h"
+#include "ui/widgets/PixelFrames.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -66,7 +68,8 @@ class Desktop {
 
 int ShowWindow() {
   Desktop desktop;
-  frmMain window(desktop.AllPorts());
+  MainModel model(desktop.AllPorts());
+  frmMain window(model);
   QObject::connect(&window, &frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
   window.Start(FromQt(QApplication::arguments().value(1)));
   window.show();
@@ -76,6 +79,7 @@ int ShowWindow() {
 int Run(int argc, char** argv) {
   QApplication application(argc, argv);
   LoadVantoriumResources();
+  QApplication::setStyle(new PixelFrames);
   QApplication::setApplicationName("vantorium");
   QApplication::setDesktopFileName("vantorium");
   QApplication::setWindowIcon(QIcon(":/vantorium/vantorium.svg"));

@@ -22,7 +22,7 @@ constexpr std::array<ModeTexts, 4> kModeTexts = {{
 /// processes it.
 std::int32_t ProgressMaximum(const Project& project, const RunOrder& order) {
   if (order.Mode == GenerationMode::Upload) return 100;
-  const bool wrappers = project.settings.checkImageWrapperUse == 1;
+  const bool wrappers = IsOn(project.settings.checkImageWrapperUse);
   const int phases = order.Mode == GenerationMode::Preview
                          ? 1 + (wrappers ? 1 : 0)
                          : int{order.CreateImages} + int{order.CreateThumbnails} + int{order.CreateHTML} +

@@ -11,6 +11,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/main/frmMain.h"
+#include "ui/model/main/MainModel.h"
 #include "ui/ports/QtEventLoop.h"
 #include "ui/qt/QtText.h"
 
@@ -29,15 +30,16 @@ class MainDesk {
   /// Creates the window and starts it as the program does.
   void Start(const std::string& commandLine = {}) {
     window.reset();
-    window =
-        std::make_unique<frmMain>(DesktopPorts{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 2},
-                                               dialogs,
-                                               fileBrowser,
-                                               folderBrowser,
-                                               folder.Path() / "program",
-                                               bundled,
-                                               {3, 0, 1},
-                                               ftpPort});
+    model =
+        std::make_unique<MainModel>(DesktopPorts{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 2},
+                                                 dialogs,
+                                                 fileBrowser,
+                                                 folderBrowser,
+                                                 folder.Path() / "program",
+                                                 bundled,
+                                                 {3, 0, 1},
+                                                 ftpPort});
+    window = std::make_unique<frmMain>(*model);
     QObject::connect(window.get(), &frmMain::Closed, [this] { ++closed; });
     window->Start(commandLine);
     window->show();
@@ -57,7 +59,7 @@ class MainDesk {
     if (found == nullptr) throw std::runtime_error(std::string("no action ") + action);
     found->trigger();
   }
-  [[nodiscard]] const GalleryProject& Settings() const { return window->CurrentProject().settings; }
+  [[nodiscard]] const GalleryProject& Settings() const { return model->CurrentProject().settings; }
   [[nodiscard]] std::string Title() const { return FromQt(window->windowTitle()); }
   [[nodiscard]] std::string TitleOfLastBox() const { return boxes.boxes.empty() ? "" : boxes.boxes.back().title; }
 
@@ -75,6 +77,7 @@ class MainDesk {
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;
   BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
+  std::unique_ptr<MainModel> model;
   std::unique_ptr<frmMain> window;
   std::uint16_t ftpPort = 21;
   int closed = 0;

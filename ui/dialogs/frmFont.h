@@ -20,7 +20,7 @@ class frmFont : public QDialog {
   Q_OBJECT
 
  public:
-  /// Lets the user choose a color; returns true if it changed.
+  /// Lets the user choose a color. Returns true on OK, also with the color of before; only then is `color` written.
   using PickColor = std::function<bool(std::uint32_t& color)>;
 
   /// `faces` are the names in the list.

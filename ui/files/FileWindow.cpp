@@ -5,7 +5,6 @@
 #include "ui/model/dialogs/DialogPlace.h"
 #include "ui/model/files/FileFilters.h"
 #include "ui/qt/QtText.h"
-#include "ui/widgets/PixelFrames.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -90,12 +89,6 @@ void FileWindow::SetUpLayout(const FileDialogRequest& request) {
   preview_ = new FilePreview(files_, request.preview, this);
   grid->addWidget(preview_, 1, grid->columnCount());
   resize(request.preview ? QSize(860, 480) : QSize(680, 460));
-
-  auto* const frames = new PixelFrames;
-  frames->setParent(this);
-  for (QFrame* frame : findChildren<QFrame*>()) {
-    if (frame->frameShape() != QFrame::NoFrame) frame->setStyle(frames);
-  }
 }
 
 void FileWindow::FollowSelection() {

@@ -4,6 +4,8 @@
 #include <QSize>
 #include <filesystem>
 
+class QImageReader;
+
 namespace vantorium {
 
 // Reads pictures of every format that Qt reads, recognized by the file's content and not by its name. Returns a null
@@ -13,5 +15,9 @@ namespace vantorium {
 
 /// Reads the middle of a picture, at most `atMost` pixels wide and high.
 [[nodiscard]] QImage ReadMiddleOfPictureFile(const std::filesystem::path& native, QSize atMost);
+
+/// The same for the picture that `reader` is about to read. A picture of a format that does not tell its size in
+/// advance is in memory as a whole meanwhile, as far as QImageReader::allocationLimit lets it.
+[[nodiscard]] QImage ReadMiddle(QImageReader& reader, QSize atMost);
 
 }  // namespace vantorium

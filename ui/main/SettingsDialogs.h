@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/model/dialogs/SampleDialog.h"
+#include "ui/model/main/DesktopPorts.h"
 #include "ui/model/main/SettingsButtons.h"
 
 #include <QObject>

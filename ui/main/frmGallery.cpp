@@ -24,8 +24,15 @@ frmGallery::frmGallery(FieldBinder& binder, QWidget* parent)
   binder.Bind(*ui_->comboGallerySlideShowStartOverWith, &GalleryProject::comboGallerySlideShowStartOverWith);
   binder.Bind(*ui_->textGallerySlideShowDelay, *ui_->udGallerySlideShowDelay,
               &GalleryProject::textGallerySlideShowDelay);
+  connect(ui_->btnGalleryFileNameSettings, &QAbstractButton::clicked, this, &frmGallery::FileNamesAsked);
+  connect(ui_->btnGalleryMultiFrameNames, &QAbstractButton::clicked, this, &frmGallery::FrameNamesAsked);
+  connect(ui_->btnGallerySingleFrameNames, &QAbstractButton::clicked, this, &frmGallery::FrameNamesAsked);
 }
 
 frmGallery::~frmGallery() = default;
+
+void frmGallery::FocusTitle() {
+  ui_->textGalleryTitle->setFocus();
+}
 
 }  // namespace vantorium

@@ -19,6 +19,14 @@ class frmGallery : public QWidget {
   explicit frmGallery(FieldBinder& binder, QWidget* parent = nullptr);
   ~frmGallery() override;
 
+  void FocusTitle();
+
+ signals:
+  /// The user wants to edit the paths and file names.
+  void FileNamesAsked();
+  /// The user wants to edit the names of the frames.
+  void FrameNamesAsked();
+
  private:
   std::unique_ptr<Ui::frmGallery> ui_;
 };

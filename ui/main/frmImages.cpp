@@ -64,6 +64,7 @@ void frmImages::ConnectButtons() {
   connectTo(ui_->btnImagesAddFiles, &frmImages::AddChosenFiles);
   connectTo(ui_->btnImagesAddFolder, &frmImages::AddChosenFolders);
   connectTo(ui_->btnImagesRename, &frmImages::Rename);
+  connectTo(ui_->btnImagesDescriptions, &frmImages::DescriptionsAsked);
   connect(this, &frmImages::CurrentChanged, ui_->btnImagesRename,
           [this] { ui_->btnImagesRename->setEnabled(CurrentEntry() != nullptr); });
   connectTo(ui_->btnImagesFind, &frmImages::Find);
@@ -164,13 +165,13 @@ void frmImages::AddChosenFolders() {
 void frmImages::Rename() {
   RenameModel model;
   model.SetNameBase(CurrentEntry()->ImageName);  // without a current image the button is disabled
-  frmRename(model, this).exec();
+  if (frmRename(model, this).exec() != QDialog::Accepted) return;
   Do([&] { parts_.images.Rename(model.GetNameBase(), model.Scope()); });
 }
 
 void frmImages::Find() {
   if (parts_.project.images.Empty()) return;
-  frmFind(find_, this).exec();
+  if (frmFind(find_, this).exec() != QDialog::Accepted) return;
   Do([this] { parts_.images.FindByName(find_.Result); });
 }
 

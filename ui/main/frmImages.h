@@ -59,6 +59,8 @@ class frmImages : public QWidget {
  signals:
   /// The current row changed, or its texts may have changed.
   void CurrentChanged();
+  /// The user wants to edit descriptions.
+  void DescriptionsAsked();
   /// An operation of this page has finished.
   void ListChanged();
   /// `file` is path text.

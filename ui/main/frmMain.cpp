@@ -1,35 +1,25 @@
 #include "ui/main/frmMain.h"
 
-#include "env/ProgramFolder.h"
-#include "publish/AsioFTPSocket.h"
-#include "publish/ServerListFile.h"
-#include "ui/dialogs/frmCreateGallery.h"
-#include "ui/dialogs/frmFileNameSettings.h"
-#include "ui/dialogs/frmFrameNameSettings.h"
-#include "ui/dialogs/frmImageDescriptions.h"
-#include "ui/files/frmPreview.h"
+#include "ui/dialogs/AddBrowserDialog.h"
 #include "ui/main/PopupTextMenu.h"
 #include "ui/main/SettingsDialogs.h"
 #include "ui/main/SettingsPages.h"
+#include "ui/main/ViewMenus.h"
 #include "ui/main/frmCaptions.h"
 #include "ui/main/frmGallery.h"
 #include "ui/main/frmImageWrapper.h"
 #include "ui/main/frmImages.h"
-#include "ui/main/frmInfo.h"
 #include "ui/main/frmPageLinks.h"
-#include "ui/main/frmSplash.h"
-#include "ui/main/frmSysTray.h"
 #include "ui/main/frmThumbnails.h"
+#include "ui/model/main/MainModel.h"
+#include "ui/qt/QtColor.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/PlainToolTip.h"
 #include "ui/widgets/WheelGuard.h"
 #include "ui_frmMain.h"
 
-#include <QLabel>
-#include <QLayout>
-#include <QMenu>
-#include <QStyle>
-#include <QToolButton>
+#include <QCloseEvent>
+#include <QWindow>
 
 namespace vantorium {
 namespace {
@@ -44,89 +34,31 @@ void NameSeparators(const QMenu& menu, const QStringList& names) {
 
 }  // namespace
 
-frmMain::frmMain(const DesktopPorts& ports)
-    : ports_(ports),
-      appPath_(GetAppPath(ports.programFolder, ports.paths)),
-      preferencesFile_(GetINIFileName(ports.programFolder)),
-      session_(project_, images_, {ports.paths, ports.boxes, projectDialog_, *this, ports.loop}),
-      log_(ports.programFolder, ports.clock, ports.boxes),
-      ftp_(std::make_unique<AsioFTPSocket>(ports.loop), std::make_unique<AsioFTPSocket>(ports.loop), ports.paths,
-           ports.boxes, ports.loop, cancel_),
+frmMain::frmMain(MainModel& model)
+    : model_(model),
+      binder_(model.Editor(), model.Ports().boxes),
       ui_(std::make_unique<Ui::frmMain>()),
-      splash_(std::make_unique<frmSplash>()) {
-  splash_->show();
-  cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
-  BuildTray();
-  Step();
+      windows_(model, binder_, *this) {
+  model_.Attach(*this, windows_);
+  ConnectTray();
+  model_.ShowStartStep();
   new WheelGuard(this);
   ui_->setupUi(this);
   BuildMenus();
   BuildPages();
-  Step();
+  model_.ShowStartStep();
   ConnectCommands();
-  Step();
+  ConnectPages();
+  model_.ShowStartStep();
+  ShowPage(0);
+  model_.ShowStartStep();
 }
 
-// Destroys the windows before the project that they show; as mere children they would be destroyed after it.
-frmMain::~frmMain() {
-  delete descriptions_;
-  delete ui_->frmMainPages;
-}
+frmMain::~frmMain() = default;
 
-/// Reports that one stage of the start is done.
-void frmMain::Step() {
-  splash_->Step();
-  ports_.loop.Turn();
-}
-
-void frmMain::BuildTray() {
-  tray_ = std::make_unique<frmSysTray>(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"));
-  // Queued, to run after the menu's own work: closing the program destroys the tray with its menu.
-  connect(
-      tray_.get(), &frmSysTray::MenuClick, this, [this](int /*index*/, const QString& key) { OnTrayMenu(FromQt(key)); },
-      Qt::QueuedConnection);
-  connect(tray_.get(), &frmSysTray::SysTrayDoubleClick, this, &frmMain::BringToFront);
-  connect(tray_.get(), &frmSysTray::SysTrayMouseDown, this, [this](Qt::MouseButton button) {
-    if (button == Qt::RightButton) tray_->ShowMenu();
-  });
-}
-
-void frmMain::BuildPages() {
-  imagesPage_ =
-      new frmImages({project_, images_, binder_, ports_.boxes, ports_.loop, ports_.shell, ports_.clock, ports_.paths,
-                     ports_.fileBrowser, preferences_, [this] { return AskForImageFolders(); }});
-  ui_->tsMain->addTab(new frmGallery(binder_), tr("Gallery"));
-  ui_->tsMain->addTab(imagesPage_, tr("Images"));
-  ui_->tsMain->addTab(new frmImageWrapper(binder_, ports_.paths), tr("Image Wrappers"));
-  ui_->tsMain->addTab(new frmThumbnails(binder_, ports_.paths, colors_), tr("Thumbnails"));
-  ui_->tsMain->addTab(new frmCaptions(binder_), tr("Captions"));
-  ui_->tsMain->addTab(new frmPageLinks(binder_), tr("Page Links"));
-  connect(ui_->tsMain, &QTabWidget::currentChanged, this, &frmMain::ShowPage);
-
-  statusText_ = new QLabel;
-  statusText_->setObjectName("sbMainText");
-  statusText_->setTextFormat(Qt::PlainText);
-  imageCount_ = new QLabel;
-  imageCount_->setObjectName("sbMainCount");
-  imageCount_->setContentsMargins(0, 0, style()->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
-  ui_->sbMain->addWidget(statusText_, 1);
-  ui_->sbMain->addPermanentWidget(imageCount_);
-  statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long text must not widen the window
-
-  pages_ = new SettingsPages(*this);
-  pages_->setParent(this);
-  auto* dialogs = new SettingsDialogs({binder_, colors_, ports_, [this] { return Samples(); }}, *this);
-  dialogs->setParent(this);
-  descriptions_ = new frmImageDescriptions(project_, binder_, ports_.boxes, this);
-  create_ = std::make_unique<frmCreateGallery>(
-      frmCreateGallery::Parts{preferences_, ServerListFileName(ports_.programFolder), ports_.paths, ports_.boxes,
-                              ports_.fileBrowser, ports_.folderBrowser},
-      this);
-  info_ = std::make_unique<frmInfo>(this);
-  for (QWidget* control : findChildren<QWidget*>()) {
-    if (Qt::mightBeRichText(control->toolTip())) new PlainToolTip(*control);
-  }
-  layout()->setSizeConstraint(QLayout::SetFixedSize);
+void frmMain::Start(const std::string& commandLine) {
+  model_.Start(commandLine);
+  windows_.EndStart();
 }
 
 void frmMain::BuildMenus() {
@@ -134,79 +66,156 @@ void frmMain::BuildMenus() {
   NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator"});
   NameSeparators(*ui_->menuHelp, {"menuHelpSeparator1"});
   MakePopupTextMenu(*this);
-  auto* view = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
-  auto* dropDown = new QMenu(view);
-  dropDown->setObjectName("tbMainViewDropDown");
-  view->setMenu(dropDown);
-  view->setPopupMode(QToolButton::MenuButtonPopup);
+  auto* viewButton = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
+  viewMenus_ = new ViewMenus(*ui_->menuActionsView, *ui_->menuActionsViewDefault, *viewButton);
+  viewMenus_->setParent(this);
+}
+
+void frmMain::BuildPages() {
+  const DesktopPorts& ports = model_.Ports();
+  galleryPage_ = new frmGallery(binder_);
+  imagesPage_ = new frmImages({model_.CurrentProject(), model_.Images(), binder_, ports.boxes, ports.loop, ports.shell,
+                               ports.clock, ports.paths, ports.fileBrowser, model_.CurrentPreferences(),
+                               [this] { return windows_.AskForImageFolders(); }});
+  thumbnailsPage_ = new frmThumbnails(binder_, ports.paths, model_.Colors());
+  ui_->tsMain->addTab(galleryPage_, tr("Gallery"));
+  ui_->tsMain->addTab(imagesPage_, tr("Images"));
+  ui_->tsMain->addTab(new frmImageWrapper(binder_, ports.paths), tr("Image Wrappers"));
+  ui_->tsMain->addTab(thumbnailsPage_, tr("Thumbnails"));
+  ui_->tsMain->addTab(new frmCaptions(binder_), tr("Captions"));
+  ui_->tsMain->addTab(new frmPageLinks(binder_), tr("Page Links"));
+
+  pages_ = new SettingsPages(*this);
+  pages_->setParent(this);
+  auto* dialogs = new SettingsDialogs({binder_, model_.Colors(), ports, [this] { return model_.Samples(); }}, *this);
+  dialogs->setParent(this);
+  for (QWidget* control : findChildren<QWidget*>()) {
+    if (Qt::mightBeRichText(control->toolTip())) new PlainToolTip(*control);
+  }
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmMain::ConnectCommands() {
   const auto command = [this](std::initializer_list<QAction*> actions, auto run) {
     for (QAction* action : actions) connect(action, &QAction::triggered, this, run);
   };
-  command({ui_->menuFileNew, ui_->tbMainNew}, [this] { NewProject(); });
-  command({ui_->menuFileOpen, ui_->tbMainOpen}, [this] { OpenProject(); });
-  command({ui_->menuFileSave, ui_->tbMainSave}, [this] { SaveProject(); });
-  command({ui_->menuFileSaveAs}, [this] { SaveProjectAs(); });
+  command({ui_->menuFileNew, ui_->tbMainNew}, [this] { model_.NewProject(); });
+  command({ui_->menuFileOpen, ui_->tbMainOpen}, [this] { model_.OpenProject(); });
+  command({ui_->menuFileSave, ui_->tbMainSave}, [this] { model_.SaveProject(); });
+  command({ui_->menuFileSaveAs}, [this] { model_.SaveProjectAs(); });
   command({ui_->menuFileExit}, [this] { close(); });
-  command({ui_->menuActionsViewDefault, ui_->tbMainView}, [this] { ViewInBrowser(0); });
-  command({ui_->menuActionsCreate, ui_->tbMainCreate}, [this] { RunCreateGallery(GenerationMode::Create, 0); });
+  command({ui_->menuActionsViewDefault, ui_->tbMainView}, [this] { model_.ViewGallery(0); });
+  command({ui_->menuActionsCreate, ui_->tbMainCreate}, [this] { model_.CreateGallery(); });
   command({ui_->menuOptionsAvailableBrowsers}, [this] { EditBrowserList(); });
-  command({ui_->menuOptionsSetTempFolderLocation}, [this] { SetTempFolderLocation(); });
-  command({ui_->menuOptionsClearTempFolder}, [this] { ClearTemporaryFolder(); });
-  command({ui_->menuHelpOnlineHelp}, [this] { ShowHelp(); });
-  command({ui_->menuHelpAbout}, [this] { ShowAbout(); });
+  command({ui_->menuOptionsSetTempFolderLocation}, [this] { windows_.SetTempFolderLocation(); });
+  command({ui_->menuOptionsClearTempFolder}, [this] { model_.ClearTemporaryFolder(); });
+  command({ui_->menuHelpOnlineHelp}, [this] { model_.ShowHelp(); });
+  command({ui_->menuHelpAbout}, [this] { windows_.ShowAbout(); });
+  connect(viewMenus_, &ViewMenus::ViewAsked, this, [this](std::int16_t browser) { model_.ViewGallery(browser); });
+  connect(viewMenus_, &ViewMenus::ListAsked, this, &frmMain::EditBrowserList);
 
   // The shortcuts of the commands work in the descriptions window, too.
   for (QAction* action : findChildren<QAction*>()) action->setShortcutContext(Qt::ApplicationShortcut);
-
-  const auto button = [this](const char* name, auto run) {
-    connect(findChild<QAbstractButton*>(name), &QAbstractButton::clicked, this, run);
-  };
-  button("btnGalleryFileNameSettings", [this] { frmFileNameSettings(binder_, this).exec(); });
-  button("btnGalleryMultiFrameNames", [this] { frmFrameNameSettings(binder_, this).exec(); });
-  button("btnGallerySingleFrameNames", [this] { frmFrameNameSettings(binder_, this).exec(); });
-  button("btnImagesDescriptions", [this] { ShowDescriptions(); });
-
-  connect(&binder_, &FieldBinder::Edited, this, &frmMain::FollowSettings);
-  connect(imagesPage_, &frmImages::CurrentChanged, this, [this] { descriptions_->FollowSelection(); });
-  connect(imagesPage_, &frmImages::ListChanged, this, &frmMain::RefreshCounts);
-  connect(imagesPage_, &frmImages::FullScreenPreviewAsked, this,
-          [this](const std::string& description, const std::string& file) {
-            frmPreview preview(ports_.paths, this);
-            preview.SetPicture(description, file);
-            preview.exec();
-          });
 }
 
-void frmMain::Start(const std::string& commandLine) {
-  if (const std::string problem = ProblemOfPreferences(preferencesFile_); !problem.empty()) {
-    ports_.boxes.Critical("File Error", problem);
-  }
-  preferences_ = ReadPreferences(preferencesFile_, appPath_, ports_.files);
-  project_.LastProjectFolder = preferences_.ProjectFolder;
-  Step();
-  ShowBrowserMenus(RebuildBrowserMenus(preferences_.Browsers));
-  Step();
-  ShowPage(0);
-  Step();
-  project_.IsModified = false;
-  project_.IsPristine = false;
-  session_.NewProject();
-  session_.OpenProjectFromCommandLine(commandLine);
-  ShowProject();
-  Step();
-  splash_.reset();
+void frmMain::ConnectPages() {
+  connect(ui_->tsMain, &QTabWidget::currentChanged, this, &frmMain::ShowPage);
+  connect(&binder_, &FieldBinder::Edited, this, &frmMain::FollowSettings);
+  connect(galleryPage_, &frmGallery::FileNamesAsked, this, [this] { windows_.EditFileNames(); });
+  connect(galleryPage_, &frmGallery::FrameNamesAsked, this, [this] { windows_.EditFrameNames(); });
+  connect(imagesPage_, &frmImages::DescriptionsAsked, this, [this] { windows_.ShowDescriptions(); });
+  connect(imagesPage_, &frmImages::CurrentChanged, this, [this] { windows_.Descriptions().FollowSelection(); });
+  connect(imagesPage_, &frmImages::ListChanged, this, [this] { model_.ShowCounts(); });
+  connect(imagesPage_, &frmImages::FullScreenPreviewAsked, this,
+          [this](const std::string& description, const std::string& file) { windows_.ShowPreview(description, file); });
+}
+
+void frmMain::ConnectTray() {
+  frmSysTray* tray = &windows_.Tray();
+  // Queued, to run after the menu's own work: closing the program destroys the tray with its menu.
+  connect(
+      tray, &frmSysTray::MenuClick, this, [this](int /*index*/, const QString& key) { OnTrayMenu(key); },
+      Qt::QueuedConnection);
+  connect(tray, &frmSysTray::SysTrayDoubleClick, this, &frmMain::BringToFront);
+  connect(tray, &frmSysTray::SysTrayMouseDown, this, [tray](Qt::MouseButton button) {
+    if (button == Qt::RightButton) tray->ShowMenu();
+  });
+}
+
+void frmMain::OnTrayMenu(const QString& key) {
+  if (windows_.IsStarting()) return;  // the window is not ready
+  if (key == "vantorium") BringToFront();
+  if (!isEnabled()) return;  // busy; a window opened here would hold up that work
+  if (key == "help") model_.ShowHelp();
+  if (key == "about") windows_.ShowAbout();
+  if (key == "close") close();
+}
+
+void frmMain::BringToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void frmMain::EditBrowserList() {
+  AddBrowserDialog entry(model_.Ports().fileBrowser, model_.Ports().paths, model_.AppPath());
+  model_.EditBrowserList(entry);
 }
 
 void frmMain::ShowPage(int index) {
   for (int i = 0; i < ui_->tsMain->count(); ++i) ui_->tsMain->widget(i)->setEnabled(i == index);
 }
 
+/// Updates what depends on the settings.
 void frmMain::FollowSettings() {
-  pages_->Refresh(project_.settings);
-  RefreshPageCount();
+  pages_->Refresh(binder_.Project());
+  model_.ShowPageCount();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  // The tray can ask the window to close even during a run or while a dialog is open.
+  if (!isEnabled() || QApplication::activeModalWidget() != nullptr) return;
+  if (!model_.ShutDown()) return;
+  event->accept();
+  emit Closed();
+}
+
+void frmMain::ShowTitle(const std::string& text) {
+  setWindowTitle(ToQt(text));
+}
+
+void frmMain::ShowStatus(const std::string& text) {
+  ui_->sbMain->ShowStatus(text);
+}
+
+void frmMain::ShowImageCount(const std::string& text) {
+  ui_->sbMain->ShowImageCount(text);
+}
+
+void frmMain::ShowPageCount(const std::string& text) {
+  thumbnailsPage_->ShowPageCount(text);
+}
+
+void frmMain::ShowBrowserMenus(const BrowserMenus& menus) {
+  viewMenus_->Show(menus);
+}
+
+void frmMain::ShowBusyPointer(bool busy) {
+  busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+  KeepPointerWhileDisabled();
+}
+
+/// Qt drops the pointer of a window while it is disabled. No other window of the program uses this window's pointer.
+void frmMain::KeepPointerWhileDisabled() {
+  if (!isEnabled() && windowHandle() != nullptr) windowHandle()->setCursor(cursor());
+}
+
+void frmMain::EnableMainWindow(bool enabled) {
+  enabled ? focus_.Enable(*this) : focus_.Disable(*this, windows_.Descriptions());
+  windows_.KeepInfoWindowEnabled();
+  KeepPointerWhileDisabled();
 }
 
 void frmMain::ShowSettings() {
@@ -214,12 +223,32 @@ void frmMain::ShowSettings() {
   FollowSettings();
 }
 
-void frmMain::ShowProject() {
-  ShowSettings();
+void frmMain::ShowImages() {
   imagesPage_->RefreshList();
-  RefreshTitleBar();
-  RefreshPreview();
-  RefreshCounts();
+}
+
+void frmMain::ShowPreview() {
+  imagesPage_->RefreshPreview();
+}
+
+void frmMain::ScrollIntoView(std::size_t position) {
+  imagesPage_->ScrollIntoView(position);
+}
+
+void frmMain::SelectFirstTab() {
+  ui_->tsMain->setCurrentIndex(0);
+}
+
+void frmMain::FocusTitleField() {
+  galleryPage_->FocusTitle();
+}
+
+CustomColors frmMain::SystemColors() const {
+  CustomColors colors = {};
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    colors[i] = FromQt(palette().color(static_cast<QPalette::ColorRole>(i)));
+  }
+  return colors;
 }
 
 }  // namespace vantorium

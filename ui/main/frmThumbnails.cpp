@@ -1,5 +1,6 @@
 #include "ui/main/frmThumbnails.h"
 
+#include "ui/qt/QtText.h"
 #include "ui/widgets/FieldBinder.h"
 #include "ui_frmThumbnails.h"
 
@@ -31,5 +32,9 @@ frmThumbnails::frmThumbnails(FieldBinder& binder, const PathMap& paths, ColorDia
 }
 
 frmThumbnails::~frmThumbnails() = default;
+
+void frmThumbnails::ShowPageCount(const std::string& text) {
+  ui_->lblThumbnailsPageCount->setText(ToQt(text));
+}
 
 }  // namespace vantorium

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <memory>
+#include <string>
 
 namespace Ui {
 class frmThumbnails;
@@ -20,6 +21,9 @@ class frmThumbnails : public QWidget {
  public:
   frmThumbnails(FieldBinder& binder, const PathMap& paths, ColorDialog& colors, QWidget* parent = nullptr);
   ~frmThumbnails() override;
+
+  /// Shows the number of images and of pages.
+  void ShowPageCount(const std::string& text);
 
  private:
   std::unique_ptr<Ui::frmThumbnails> ui_;

@@ -30,7 +30,7 @@ using fakes::Type;
 
 class AroundTheMainWindow : public testing::Test {
  protected:
-  [[nodiscard]] const Project& Now() const { return desk.window->CurrentProject(); }
+  [[nodiscard]] const Project& Now() const { return desk.model->CurrentProject(); }
 
   MainDesk desk;
 };

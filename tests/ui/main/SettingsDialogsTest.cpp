@@ -25,7 +25,7 @@ class DialogsOfPages : public testing::Test {
     DriveModal([&] { Click(*desk.window, button); }, drive);
   }
   [[nodiscard]] const GalleryProject& Settings() const { return desk.Settings(); }
-  [[nodiscard]] bool Modified() const { return desk.window->CurrentProject().IsModified; }
+  [[nodiscard]] bool Modified() const { return desk.model->CurrentProject().IsModified; }
 
   MainDesk desk;
 };

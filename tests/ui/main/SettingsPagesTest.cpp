@@ -116,7 +116,7 @@ TEST_F(SettingsOnPages, EveryTextReachesItsField) {
   for (const Row& row : rows) {
     Type(On<QLineEdit>(row.page, row.control), "17");
     EXPECT_EQ(settings.*row.field, "17") << row.control;
-    EXPECT_TRUE(desk.window->CurrentProject().IsModified) << row.control;
+    EXPECT_TRUE(desk.model->CurrentProject().IsModified) << row.control;
   }
 }
 
@@ -439,7 +439,7 @@ TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
   desk.boxes.answers = {BoxAnswer::No};
   desk.Trigger("menuFileNew");
   EXPECT_EQ(RuledControls(*desk.window), before);
-  EXPECT_FALSE(desk.window->CurrentProject().IsModified);
+  EXPECT_FALSE(desk.model->CurrentProject().IsModified);
 }
 
 // Each button opens a dialog with the given title.

@@ -456,6 +456,19 @@ TEST_F(ImagesPage, RenameCanNameAllImagesOrNone) {
   EXPECT_EQ(desk.Names(), (Names{"x", "x_1"}));
 }
 
+TEST_F(ImagesPage, ACancelledDialogIsNoOperation) {
+  desk.AddAll({"a.jpg"});
+  desk.MakeCurrent(1);
+  const QSignalSpy operations(desk.page.get(), &frmImages::ListChanged);
+  const QSignalSpy edits(&desk.binder, &FieldBinder::Edited);
+  for (const char* button : {"btnImagesRename", "btnImagesFind"}) {
+    DriveModal([&] { Click(*desk.page, button); }, [](QWidget& dialog) { Click(dialog, "CancelButton"); });
+    DriveModal([&] { Click(*desk.page, button); }, [](QWidget& dialog) { dialog.close(); });
+  }
+  EXPECT_EQ(operations.count(), 0);
+  EXPECT_EQ(edits.count(), 0);
+}
+
 TEST_F(ImagesPage, AnEmptyListIsNotRenamedAndNotSearched) {
   Click(*desk.page, "btnImagesRename");
   Click(*desk.page, "btnImagesFind");

@@ -30,7 +30,7 @@ class MainWindow : public testing::Test {
     desk.GoTo(0);
     Type(Find<QLineEdit>(*desk.window, "textGalleryTitle"), title);
   }
-  [[nodiscard]] const Project& Now() const { return desk.window->CurrentProject(); }
+  [[nodiscard]] const Project& Now() const { return desk.model->CurrentProject(); }
   /// Sets the answer of the project file dialog.
   void ChooseFile(const std::string& path) { desk.fileBrowser.answer = {path, "", {path}}; }
 
@@ -262,10 +262,10 @@ TEST_F(MainWindow, RemembersFoldersAndThePreviewSwitch) {
   Click(*desk.window, "checkImagesPreview");
   EXPECT_TRUE(desk.window->close());
   desk.Start();
-  EXPECT_EQ(desk.window->CurrentPreferences().ProjectFolder, "T:\\sub\\");
-  EXPECT_EQ(desk.window->CurrentPreferences().ImageSourceFolder, "T:\\");
-  EXPECT_EQ(desk.window->CurrentPreferences().checkImagesPreview, 0);
-  EXPECT_EQ(desk.window->CurrentPreferences().GalleryIndexFileName, "index.htm");
+  EXPECT_EQ(desk.model->CurrentPreferences().ProjectFolder, "T:\\sub\\");
+  EXPECT_EQ(desk.model->CurrentPreferences().ImageSourceFolder, "T:\\");
+  EXPECT_EQ(desk.model->CurrentPreferences().checkImagesPreview, 0);
+  EXPECT_EQ(desk.model->CurrentPreferences().GalleryIndexFileName, "index.htm");
 }
 
 TEST_F(MainWindow, ClearsTheTemporaryFolderOnExitWhenItIsToldTo) {
@@ -295,7 +295,7 @@ TEST_F(MainWindow, TheTemporaryFolderIsSetInItsDialog) {
                Type(Find<QLineEdit>(dialog, "textTempFolderLocation"), "T:\\t");
                Click(dialog, "OKButton");
              });
-  EXPECT_EQ(desk.window->CurrentPreferences().TempFolderLocation, "T:\\t");
+  EXPECT_EQ(desk.model->CurrentPreferences().TempFolderLocation, "T:\\t");
   EXPECT_TRUE(std::filesystem::is_directory(desk.folder.Path() / "t/VANTORIUM_TEMP"));
 }
 
@@ -386,8 +386,8 @@ TEST_F(MainWindow, AGalleryIsCreatedWhereTheDialogSays) {
              });
   EXPECT_NE(desk.folder.Read("out/start.htm"), "") << desk.TitleOfLastBox();
   EXPECT_NE(desk.folder.Read("out/Images/a.jpg.jpg"), "");
-  EXPECT_EQ(desk.window->CurrentPreferences().CreateFolder, "T:\\out\\");
-  EXPECT_EQ(desk.window->CurrentPreferences().GalleryIndexFileName, "start.htm");
+  EXPECT_EQ(desk.model->CurrentPreferences().CreateFolder, "T:\\out\\");
+  EXPECT_EQ(desk.model->CurrentPreferences().GalleryIndexFileName, "start.htm");
 }
 
 TEST_F(MainWindow, ACancelledDialogCreatesNothing) {

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QListView>
+#include <QTabWidget>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ namespace {
 /// Renders a control at (7, 5) of a window at the given scale.
 class OnAScreen {
  public:
-  OnAScreen(QFrame& control, QSize size, double scale) : control_(control) {
+  OnAScreen(QWidget& control, QSize size, double scale) : control_(control) {
     window_.resize(size + QSize(20, 20));
     control.setParent(&window_);
     control.setStyle(&style_);
@@ -41,7 +42,7 @@ class OnAScreen {
   }
 
  private:
-  QFrame& control_;
+  QWidget& control_;
   PixelFrames style_;
   QWidget window_;
   QImage picture_;
@@ -62,6 +63,26 @@ TEST(PixelFrames, AListBoxKeepsItsFourLinesAtEveryScaleAndSize) {
       QListView list;
       const OnAScreen screen(list, {height + 40, height}, scale);
       for (const int line : screen.LinesOf(LineColor())) EXPECT_GE(line, 1) << scale << " " << height;
+    }
+  }
+}
+
+/// The color of the line around the page of a tab.
+QColor TabLineColor() {
+  QTabWidget tabs;
+  tabs.addTab(new QWidget, "a");
+  tabs.resize(100, 100);
+  tabs.show();
+  return tabs.grab().toImage().pixelColor(0, 60);
+}
+
+TEST(PixelFrames, ThePageOfATabKeepsItsLinesAtEveryScaleAndSize) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    for (const int height : {100, 101, 102, 103}) {
+      QTabWidget tabs;
+      tabs.addTab(new QWidget, "a");
+      const OnAScreen screen(tabs, {height + 40, height}, scale);
+      for (const int line : screen.LinesOf(TabLineColor())) EXPECT_GE(line, 1) << scale << " " << height;
     }
   }
 }

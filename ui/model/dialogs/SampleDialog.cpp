@@ -25,7 +25,10 @@ bool SampleDialog::Open() {
   ports_.loop.Turn();
   if (closed_) return false;
   source_ = LoadSource();
-  if (source_ != nullptr) return true;
+  if (source_ != nullptr) {
+    mayUseTempFolder_ = MakeTempFolder();
+    return true;
+  }
   ports_.boxes.Critical(kFailureTitle, "Vantorium was unable to load the default Preview Image.");
   Close(true);
   return false;
@@ -40,9 +43,16 @@ std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
   return nullptr;
 }
 
+/// Makes the folder before it is looked through: one that is the user's own stays so, as nobody else can write to it.
+bool SampleDialog::MakeTempFolder() const {
+  const auto folder = ports_.files.Paths().ToNative(TempFolder());
+  return folder && ports_.files.MakePath(TempFolder()) && RefusalOfTempFolder(*folder).empty();
+}
+
 bool SampleDialog::Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const {
+  if (!mayUseTempFolder_ || !ports_.files.MakePath(TempFolder())) return false;
   const auto file = ports_.files.Paths().ToNative(TempFile());
-  if (!file || !ports_.files.MakePath(TempFolder()) || !RefusalOfTempFolder(file->parent_path()).empty()) return false;
+  if (!file) return false;
   try {
     SaveJPEGImage(picture, *file, quality);
   } catch (const RuntimeFailure&) {

@@ -49,8 +49,9 @@ class SampleDialog {
  public:
   SampleDialog(const SampleSources& sources, const SamplePorts& ports, SampleBox& box);
 
-  /// Call once, when the dialog has opened. Clears the box, lets the dialog be drawn and loads the source. Returns
-  /// false if the dialog is closed: by the user meanwhile or, after a message box, because there is no sample.
+  /// Call once, when the dialog has opened. Clears the box, lets the dialog be drawn, loads the source and looks
+  /// through the temporary folder. Returns false if the dialog is closed: by the user meanwhile or, after a message
+  /// box, because there is no sample.
   [[nodiscard]] bool Open();
 
   /// True from the end of Open to the first Close. Only then is there a source, and only then do the buttons work.
@@ -58,7 +59,8 @@ class SampleDialog {
   [[nodiscard]] const cDIBSection& Source() const { return *source_; }
 
   /// Stores in `result` what `picture` looks like after a JPEG file of `quality`, 1 to 100. Creates the file's folder
-  /// if it is missing. Returns false if the temporary file cannot be written or read. `result` may be `picture`.
+  /// if it is missing. Returns false if the temporary file cannot be written or read, if the program must not work in
+  /// the folder (RefusalOfTempFolder, asked by Open), and before Open. `result` may be `picture`.
   [[nodiscard]] bool Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const;
   [[nodiscard]] std::string TempFile() const { return TempFolder() + "\\preview_temp.jpg"; }
 
@@ -72,11 +74,13 @@ class SampleDialog {
  private:
   [[nodiscard]] std::string TempFolder() const { return TempFolderIn(sources_.tempFolderLocation); }
   [[nodiscard]] std::unique_ptr<cDIBSection> LoadSource() const;
+  [[nodiscard]] bool MakeTempFolder() const;
 
   SampleSources sources_;
   SamplePorts ports_;
   SampleBox& box_;
   std::unique_ptr<cDIBSection> source_;
+  bool mayUseTempFolder_ = false;
   bool closed_ = false;
   bool cancelled_ = true;
 };

@@ -1,6 +1,8 @@
 #include "tests/fakes/SampleFakes.h"
 #include "ui/model/dialogs/SampleDialog.h"
 
+#include <optional>
+
 #include <gtest/gtest.h>
 
 namespace vantorium {
@@ -20,8 +22,16 @@ class SampleDialogs : public testing::Test {
     return box.MiddleColor();
   }
 
+  /// A dialog that was opened with that temporary folder; it lasts to the next call.
+  SampleDialog& OpenedAt(const std::string& tempFolderLocation) {
+    opened.emplace(SampleSources{desk.Jpeg("red.jpg", kRed), {}, tempFolderLocation}, desk.Ports(), box);
+    EXPECT_TRUE(opened->Open());
+    return *opened;
+  }
+
   fakes::SampleDesk desk;
   fakes::RecordingSampleBox box;
+  std::optional<SampleDialog> opened;
 };
 
 TEST_F(SampleDialogs, TheSelectedImageIsTheSample) {
@@ -86,7 +96,7 @@ TEST_F(SampleDialogs, ADialogIsCancelledUntilItIsClosedOtherwise) {
 }
 
 TEST_F(SampleDialogs, APictureGoesThroughAFileInTheTemporaryFolder) {
-  const SampleDialog dialog({"", {}, desk.TempFolderLocation()}, desk.Ports(), box);
+  const SampleDialog& dialog = OpenedAt(desk.TempFolderLocation());
   EXPECT_EQ(dialog.TempFile(), desk.TempFolderLocation() + "\\VANTORIUM_TEMP\\preview_temp.jpg");
   const cDIBSection picture = fakes::PlainPicture(33, 21, kRed, 3);
   cDIBSection coarse;
@@ -107,8 +117,28 @@ TEST_F(SampleDialogs, ATemporaryFolderThatIsALinkIsNotWrittenTo) {
   std::filesystem::create_directory_symlink(stranger, place);
   const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   cDIBSection result;
-  EXPECT_FALSE(SampleDialog({"", {}, desk.TempFolderLocation()}, desk.Ports(), box).Compress(picture, 85, result));
+  EXPECT_FALSE(OpenedAt(desk.TempFolderLocation()).Compress(picture, 85, result));
   EXPECT_TRUE(std::filesystem::is_empty(stranger));
+}
+
+TEST_F(SampleDialogs, TheTemporaryFolderIsLookedThroughOnceWhenTheDialogOpens) {
+  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  cDIBSection result;
+  const auto link = desk.TempFile().parent_path() / "link";
+  std::filesystem::create_symlink(desk.folder.Path(), link);
+  EXPECT_FALSE(OpenedAt(desk.TempFolderLocation()).Compress(picture, 85, result));
+  std::filesystem::remove(link);
+  EXPECT_FALSE(opened->Compress(picture, 85, result));
+  EXPECT_TRUE(OpenedAt(desk.TempFolderLocation()).Compress(picture, 85, result));
+  std::filesystem::create_symlink(desk.folder.Path(), link);
+  EXPECT_TRUE(opened->Compress(picture, 85, result));
+}
+
+TEST_F(SampleDialogs, NothingIsWrittenBeforeTheDialogOpens) {
+  cDIBSection result;
+  const SampleDialog dialog({"", {}, desk.TempFolderLocation()}, desk.Ports(), box);
+  EXPECT_FALSE(dialog.Compress(fakes::PlainPicture(8, 8, kRed), 85, result));
+  EXPECT_FALSE(std::filesystem::exists(desk.TempFile()));
 }
 
 TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
@@ -117,7 +147,7 @@ TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
     std::filesystem::remove_all(desk.folder.Path() / missing);
     const std::string location = desk.paths.ToText(desk.folder.Path() / missing);
     cDIBSection result;
-    EXPECT_TRUE(SampleDialog({"", {}, location}, desk.Ports(), box).Compress(picture, 85, result)) << missing;
+    EXPECT_TRUE(OpenedAt(location).Compress(picture, 85, result)) << missing;
     EXPECT_TRUE(std::filesystem::exists(desk.folder.Path() / missing / "VANTORIUM_TEMP" / "preview_temp.jpg"));
   }
 }
@@ -128,7 +158,7 @@ TEST_F(SampleDialogs, ATemporaryFolderThatIsNoneFails) {
   for (const std::string& location :
        {desk.paths.ToText(desk.folder.Path() / "file"), std::string("Q:\\temp"), std::string("\\\\server\\share")}) {
     cDIBSection result;
-    EXPECT_FALSE(SampleDialog({"", {}, location}, desk.Ports(), box).Compress(picture, 85, result)) << location;
+    EXPECT_FALSE(OpenedAt(location).Compress(picture, 85, result)) << location;
   }
 }
 

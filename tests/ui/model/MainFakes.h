@@ -1,0 +1,141 @@
+#pragma once
+
+#include "tests/fakes/BoxTextRaster.h"
+#include "tests/fakes/CountingEventLoop.h"
+#include "tests/fakes/FixedClock.h"
+#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/ProjectFakes.h"
+#include "tests/fakes/RunFakes.h"
+#include "tests/fakes/ScriptedCommonDialogs.h"
+#include "tests/fakes/ScriptedFileBrowser.h"
+#include "tests/fakes/ScriptedFolderBrowser.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/main/MainModel.h"
+
+#include <functional>
+#include <string>
+
+namespace vantorium::fakes {
+
+class RecordingMainView : public MainView {
+ public:
+  explicit RecordingMainView(Calls& calls) : calls_(calls) {}
+
+  void ShowTitle(const std::string& text) override { calls_.push_back("title " + text); }
+  void ShowStatus(const std::string& text) override { calls_.push_back("status " + text); }
+  void ShowImageCount(const std::string& text) override { calls_.push_back("images: " + text); }
+  void ShowPageCount(const std::string& text) override { calls_.push_back("pages: " + text); }
+  void ShowBrowserMenus(const BrowserMenus& menus) override {
+    calls_.push_back("menus of " + std::to_string(menus.ViewBrowser.size()));
+  }
+  void ShowBusyPointer(bool busy) override { calls_.emplace_back(busy ? "busy" : "idle"); }
+  void EnableMainWindow(bool enabled) override { calls_.emplace_back(enabled ? "enabled" : "disabled"); }
+  void ShowSettings() override { calls_.emplace_back("settings"); }
+  void ShowImages() override { calls_.emplace_back("list"); }
+  void ShowPreview() override { calls_.emplace_back("preview"); }
+  void ScrollIntoView(std::size_t position) override { calls_.push_back("scroll to " + std::to_string(position)); }
+  void SelectFirstTab() override { calls_.emplace_back("first tab"); }
+  void FocusTitleField() override { calls_.emplace_back("title field"); }
+  [[nodiscard]] CustomColors SystemColors() const override { return systemColors; }
+
+  CustomColors systemColors = {};
+
+ private:
+  Calls& calls_;
+};
+
+class RecordingHelperWindows : public HelperWindows {
+ public:
+  explicit RecordingHelperWindows(Calls& calls) : calls_(calls) {}
+
+  void ShowStartStep() override { calls_.emplace_back("start step"); }
+  void ShowInfoWindow(const std::string& text) override { calls_.push_back("info " + text); }
+  void HideInfoWindow() override { calls_.emplace_back("info hidden"); }
+  void EnableTrayIcon(bool enabled) override { calls_.emplace_back(enabled ? "tray on" : "tray off"); }
+  void StorePlacings() override {
+    calls_.emplace_back("placings");
+    if (onPlacings) onPlacings();
+  }
+  void HideDescriptionsWindow() override { calls_.emplace_back("descriptions hidden"); }
+  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override {
+    calls_.emplace_back("asked");
+    return order;
+  }
+  void ShowBrowserList(BrowserList& /*list*/) override { calls_.emplace_back("browser list"); }
+  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
+    calls_.emplace_back("progress");
+    return std::make_unique<RecordingProgress>(progress, calls_);
+  }
+  void ShowShutdownStep(const std::string& text) override { calls_.push_back("shutdown " + text); }
+  void CloseAll() override { calls_.emplace_back("all closed"); }
+
+  std::function<void()> onPlacings;
+  std::optional<RunOrder> order;  ///< nullopt: the user cancels the dialog
+  ProgressRecord progress;
+
+ private:
+  Calls& calls_;
+};
+
+/// A MainModel with everything around it, and a temporary folder, drive T:. The program's folder is T:\program; its
+/// bundled files are in T:\data.
+struct MainModelDesk {
+  MainModelDesk() {
+    loop.onTurn = [this](int) { calls.emplace_back("turn"); };
+    model.Attach(view, windows);
+  }
+
+  /// Starts the model and forgets the calls.
+  void Start(const std::string& commandLine = {}) {
+    model.Start(commandLine);
+    calls.clear();
+  }
+  void AddPhotograph(const std::string& name) {
+    folder.Write(name, MakeJpeg({.width = 64, .height = 48}));
+    std::ignore = model.Images().AddFile("T:\\" + name);
+    calls.clear();
+  }
+  /// Sets the answer of the project file dialog.
+  void ChooseFile(const std::string& path) { fileBrowser.answer = {path, "", {path}}; }
+  [[nodiscard]] bool Exists(const char* name) const { return std::filesystem::exists(folder.Path() / name); }
+  [[nodiscard]] bool Called(const std::string& call) const {
+    return std::find(calls.begin(), calls.end(), call) != calls.end();
+  }
+
+  TemporaryFolder folder;
+  Calls calls;
+  PathMap paths{{{'T', folder.Path().string()}}};
+  RegionalFormats formats;
+  mFileFunctions files{paths, formats};
+  RecordedBoxes boxes{calls};
+  CountingEventLoop loop;
+  RecordingShell shell{calls};
+  FixedClock clock;
+  Screen screen;
+  BoxTextRaster texts{20, 10};
+  ScriptedCommonDialogs dialogs;
+  ScriptedFileBrowser fileBrowser;
+  ScriptedFolderBrowser folderBrowser;
+  BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
+  MainModel model{{paths,
+                   formats,
+                   files,
+                   boxes,
+                   loop,
+                   shell,
+                   clock,
+                   screen,
+                   texts,
+                   dialogs,
+                   fileBrowser,
+                   folderBrowser,
+                   folder.Path() / "program",
+                   bundled,
+                   {3, 0, 1},
+                   1,
+                   2121}};
+  RecordingMainView view{calls};
+  RecordingHelperWindows windows{calls};
+};
+
+}  // namespace vantorium::fakes

@@ -1,0 +1,60 @@
+#include "tests/ui/model/MainFakes.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using fakes::Calls;
+
+class MainHostTest : public testing::Test {
+ protected:
+  MainHostTest() { host.Attach(view, windows); }
+
+  Calls calls;
+  fakes::RecordingMainView view{calls};
+  fakes::RecordingHelperWindows windows{calls};
+  fakes::ScriptedCommonDialogs dialogs;
+  ColorDialog colors{dialogs};
+  Project project;
+  MainHost host{project, colors, 2121};
+};
+
+TEST_F(MainHostTest, TheTitleBarNamesTheProjectsFile) {
+  project.ProjectFileName = "a [b].gpj";
+  host.RefreshTitleBar();
+  EXPECT_EQ(calls, (Calls{"title Vantorium 3.0 - [a [b].gpj]"}));
+}
+
+TEST_F(MainHostTest, TheNumberOfImagesComesWithThatOfTheirPages) {
+  project.settings.textThumbnailsTableRows = "1";
+  project.settings.textThumbnailsTableColumns = "2";
+  for (int i = 0; i < 3; ++i) project.images.Insert(1, {});
+  host.RefreshCounts();
+  EXPECT_EQ(calls, (Calls{"images: 3 Image(s)", "pages: 3 Images on 2 Pages"}));
+  calls.clear();
+  host.RefreshPageCount();
+  EXPECT_EQ(calls, (Calls{"pages: 3 Images on 2 Pages"}));
+}
+
+TEST_F(MainHostTest, ThePointerAndTheStatusReachTheWindow) {
+  host.ShowBusyPointer(true);
+  host.ShowBusyPointer(false);
+  host.SetStatusText("a");
+  EXPECT_EQ(calls, (Calls{"busy", "idle", "status a"}));
+}
+
+TEST_F(MainHostTest, ARunUsesThePortForServersThatTheProgramWasGiven) {
+  windows.order.emplace().ServerAddress = "host";
+  const auto order = host.AskWhatToCreate();
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->ServerAddress, "host");
+  EXPECT_EQ(order->Port, 2121);
+}
+
+TEST_F(MainHostTest, ACancelledDialogIsNoOrder) {
+  EXPECT_FALSE(host.AskWhatToCreate());
+}
+
+}  // namespace
+}  // namespace vantorium

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/generation/RunHost.h"
+#include "ui/model/dialogs/BrowserList.h"
+
+#include <memory>
+#include <string>
+
+namespace vantorium {
+
+/// The windows beside the main window, as far as MainModel shows, asks and closes them.
+class HelperWindows {
+ public:
+  virtual ~HelperWindows() = default;
+
+  /// Moves the splash window's bar by one of its seven stages.
+  virtual void ShowStartStep() = 0;
+  virtual void ShowInfoWindow(const std::string& text) = 0;
+  virtual void HideInfoWindow() = 0;
+  virtual void EnableTrayIcon(bool enabled) = 0;
+
+  /// Stores the placements and alignments that the open descriptions window has not stored yet.
+  virtual void StorePlacings() = 0;
+  virtual void HideDescriptionsWindow() = 0;
+
+  // Each shows its dialog modally.
+  [[nodiscard]] virtual std::optional<RunOrder> AskWhatToCreate() = 0;
+  virtual void ShowBrowserList(BrowserList& list) = 0;
+
+  [[nodiscard]] virtual std::unique_ptr<ProgressWindow> CreateProgressWindow() = 0;
+
+  /// Shows frmShutdown with this text.
+  virtual void ShowShutdownStep(const std::string& text) = 0;
+  /// Closes all of them, frmShutdown last. None can be shown again.
+  virtual void CloseAll() = 0;
+};
+
+}  // namespace vantorium

@@ -1,0 +1,35 @@
+#include "ui/model/main/MainHost.h"
+
+#include "ui/model/main/ImageListTexts.h"
+
+namespace vantorium {
+
+void MainHost::Attach(MainView& view, HelperWindows& windows) {
+  view_ = &view;
+  windows_ = &windows;
+}
+
+void MainHost::RefreshTitleBar() {
+  view_->ShowTitle("Vantorium 3.0 - [" + project_.ProjectFileName + "]");
+}
+
+void MainHost::RefreshCounts() {
+  view_->ShowImageCount(ImageCountText(ImageCount()));
+  RefreshPageCount();
+}
+
+void MainHost::RefreshPageCount() {
+  view_->ShowPageCount(PageCountText(ImageCount(), ThumbnailPageCount(project_.settings, ImageCount())));
+}
+
+std::optional<RunOrder> MainHost::AskWhatToCreate() {
+  auto order = windows_->AskWhatToCreate();
+  if (order) order->Port = ftpPort_;
+  return order;
+}
+
+std::unique_ptr<ProgressWindow> MainHost::CreateProgressWindow() {
+  return windows_->CreateProgressWindow();
+}
+
+}  // namespace vantorium
