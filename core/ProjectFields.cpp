@@ -145,6 +145,8 @@ const ProjectField kFields[] = {
     {.name = "ImagePreviousLink", .kind = FieldKind::Record, .member = &GalleryProject::ImagePreviousLink},
     {.name = "ImageNextLink", .kind = FieldKind::Record, .member = &GalleryProject::ImageNextLink},
     {.name = "ImageIndexLink", .kind = FieldKind::Record, .member = &GalleryProject::ImageIndexLink},
+    {.name = "checkImagesUpright", .kind = FieldKind::Flag, .member = &GalleryProject::checkImagesUpright, .hiddenWhileOff = true},
+    {.name = "checkImagesTrueColors", .kind = FieldKind::Flag, .member = &GalleryProject::checkImagesTrueColors, .hiddenWhileOff = true},
 };
 
 constexpr RecordField<ImageFilterSettings> kFilterFields[] = {
@@ -191,6 +193,10 @@ const ProjectField& FieldOf(const FieldMember& member) {
     if (field.member == member) return field;
   }
   throw std::out_of_range("A member of GalleryProject is missing in its table of fields");
+}
+
+bool IsHidden(const GalleryProject& project, const ProjectField& field) {
+  return field.hiddenWhileOff && project.*std::get<Flag GalleryProject::*>(field.member) != 1;
 }
 
 ValueList AlignmentTexts(bool aboveOrBelow) {

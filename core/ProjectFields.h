@@ -35,6 +35,7 @@ struct ProjectField {
   ValueList values = {};
   std::optional<DigitsRange> range = std::nullopt;
   bool keptByReset = false;
+  bool hiddenWhileOff = false;  ///< a Flag that project files and JSON name only while it is 1
 };
 
 /// Returns every field of GalleryProject once, in the order of the struct.
@@ -43,6 +44,9 @@ struct ProjectField {
 /// Returns the field of a member. Throws std::out_of_range for a member that is in no row, which is a mistake in the
 /// table.
 [[nodiscard]] const ProjectField& FieldOf(const FieldMember& member);
+
+/// Returns whether the project's files and JSON do not name the field: an additional setting that is off.
+[[nodiscard]] bool IsHidden(const GalleryProject& project, const ProjectField& field);
 
 /// Returns the texts of an alignment list: those for a placement above or below, or those for left or right.
 [[nodiscard]] ValueList AlignmentTexts(bool aboveOrBelow);

@@ -276,6 +276,8 @@ const std::vector<std::pair<std::string, std::string>>& NewProjectValues() {
       {"ImagePreviousLink", "BACK||"},
       {"ImageNextLink", "NEXT||"},
       {"ImageIndexLink", "INDEX||"},
+      {"checkImagesUpright", "0"},
+      {"checkImagesTrueColors", "0"},
   };
   return values;
 }
@@ -295,7 +297,7 @@ TEST(ProjectFields, NameEveryMemberOfTheRecordOnceInItsOrderWithItsKind) {
   std::vector<Declared> listed;
   for (const ProjectField& field : ProjectFields()) listed.push_back({DeclaredTypeOf(field), std::string(field.name)});
   const auto declared = MembersDeclaredIn("core/GalleryProject.h", "GalleryProject");
-  EXPECT_EQ(declared.size(), 109U) << "the fields are counted by hand here: a new one needs a row in every list";
+  EXPECT_EQ(declared.size(), 111U) << "the fields are counted by hand here: a new one needs a row in every list";
   EXPECT_EQ(listed, declared);
   ExpectRisingOffsets(ProjectFields(), GalleryProject());
 }
@@ -326,6 +328,20 @@ TEST(ProjectFields, ANewProjectHasTheValuesOfTheTables) {
     EXPECT_EQ(ProjectFields()[i].name, name);
     EXPECT_EQ(ValueText(project, ProjectFields()[i]), value) << name;
   }
+}
+
+TEST(ProjectFields, OnlyAdditionalSettingsThatAreOffAreHidden) {
+  GalleryProject project;
+  const auto hidden = [&project] {
+    std::vector<std::string> names;
+    for (const ProjectField& field : ProjectFields()) {
+      if (IsHidden(project, field)) names.emplace_back(field.name);
+    }
+    return names;
+  };
+  EXPECT_EQ(hidden(), (std::vector<std::string>{"checkImagesUpright", "checkImagesTrueColors"}));
+  project.checkImagesUpright = 1;
+  EXPECT_EQ(hidden(), std::vector<std::string>{"checkImagesTrueColors"});
 }
 
 TEST(ProjectFields, ResetBringsBackEveryFieldButTheOneThatKeepsItsValue) {
