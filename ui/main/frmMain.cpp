@@ -131,7 +131,7 @@ void frmMain::BuildPages() {
 
 void frmMain::BuildMenus() {
   NameSeparators(*ui_->menuFile, {"menuFileSeparator1", "menuFileSeparator2"});
-  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator"});
+  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator", "menuOptionsSeparator2"});
   NameSeparators(*ui_->menuHelp, {"menuHelpSeparator1"});
   MakePopupTextMenu(*this);
   auto* view = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
@@ -169,13 +169,17 @@ void frmMain::ConnectCommands() {
   button("btnGallerySingleFrameNames", [this] { frmFrameNameSettings(binder_, this).exec(); });
   button("btnImagesDescriptions", [this] { ShowDescriptions(); });
 
+  binder_.Bind(*ui_->menuOptionsUpright, &GalleryProject::checkImagesUpright);
+  binder_.Bind(*ui_->menuOptionsTrueColors, &GalleryProject::checkImagesTrueColors);
+  command({ui_->menuOptionsUpright, ui_->menuOptionsTrueColors}, [this] { RefreshPreview(); });
+
   connect(&binder_, &FieldBinder::Edited, this, &frmMain::FollowSettings);
   connect(imagesPage_, &frmImages::CurrentChanged, this, [this] { descriptions_->FollowSelection(); });
   connect(imagesPage_, &frmImages::ListChanged, this, &frmMain::RefreshCounts);
   connect(imagesPage_, &frmImages::FullScreenPreviewAsked, this,
           [this](const std::string& description, const std::string& file) {
             frmPreview preview(ports_.paths, this);
-            preview.SetPicture(description, file);
+            preview.SetPicture(description, file, CorrectionsOf(project_.settings));
             preview.exec();
           });
 }
@@ -216,6 +220,7 @@ void frmMain::ShowSettings() {
 
 void frmMain::ShowProject() {
   ShowSettings();
+  imagesPage_->FollowProject();
   imagesPage_->RefreshList();
   RefreshTitleBar();
   RefreshPreview();

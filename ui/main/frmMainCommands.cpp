@@ -176,6 +176,7 @@ SampleSources frmMain::Samples() const {
     sources.defaultSamples.push_back(ports_.paths.ToText(*sample));
   }
   sources.tempFolderLocation = preferences_.TempFolderLocation;
+  sources.corrections = CorrectionsOf(project_.settings);
   return sources;
 }
 
