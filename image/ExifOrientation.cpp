@@ -1,4 +1,4 @@
-// The part of Exif data that leads to the orientation. A TIFF file follows the name; all places count from its start:
+// How Exif data lead to the orientation. A TIFF file follows the name; all places count from its start:
 //
 //   "Exif" 0, a fill byte
 //   "II" (least byte first) or "MM" (greatest byte first), 42 as 16 bits, the place of the first directory as 32 bits
