@@ -39,6 +39,10 @@ void ResetToDefaults(GalleryProject& project, const std::string& projectName) {
   project = std::move(fresh);
 }
 
+Corrections CorrectionsOf(const GalleryProject& project) {
+  return {.upright = IsOn(project.checkImagesUpright), .trueColors = IsOn(project.checkImagesTrueColors)};
+}
+
 std::int32_t ThumbnailsPerPage(const GalleryProject& project) {
   const double rows = ParseNumber(project.textThumbnailsTableRows).value_or(0);
   const double columns = ParseNumber(project.textThumbnailsTableColumns).value_or(0);

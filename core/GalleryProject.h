@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Choices.h"
+#include "image/Corrections.h"
 #include "image/ImageFilterSettings.h"
 #include "image/WatermarkSettings.h"
 
@@ -149,7 +150,14 @@ struct GalleryProject {
   LinkSettings ImagePreviousLink = {"BACK", "", ""};
   LinkSettings ImageNextLink = {"NEXT", "", ""};
   LinkSettings ImageIndexLink = {"INDEX", "", ""};  ///< has no disabled image
+
+  // Photographs
+  Flag checkImagesUpright = 0;     ///< 1: those that are stored lying are turned as they say
+  Flag checkImagesTrueColors = 0;  ///< 1: colors are converted to sRGB from the profile of each
 };
+
+/// Returns what the project has corrected in its photographs.
+[[nodiscard]] Corrections CorrectionsOf(const GalleryProject& project);
 
 /// Sets every field to its value in a new project named `projectName`, except the fields that a reset keeps.
 void ResetToDefaults(GalleryProject& project, const std::string& projectName);

@@ -66,6 +66,11 @@ constexpr ProjectField KeptByReset(ProjectField field) {
   return field;
 }
 
+constexpr ProjectField HiddenWhileOff(ProjectField field) {
+  field.hiddenWhileOff = true;
+  return field;
+}
+
 // Two arguments for a row: the member's name as text, and its pointer.
 #define MEMBER(Record, name) #name, &Record::name
 
@@ -179,6 +184,8 @@ constexpr ProjectField kFields[] = {
     RecordRow(MEMBER(P, ImagePreviousLink)),
     RecordRow(MEMBER(P, ImageNextLink)),
     RecordRow(MEMBER(P, ImageIndexLink)),
+    HiddenWhileOff(FlagRow(MEMBER(P, checkImagesUpright))),
+    HiddenWhileOff(FlagRow(MEMBER(P, checkImagesTrueColors))),
 };
 
 constexpr RecordField<ImageFilterSettings> kFilterFields[] = {
@@ -250,6 +257,10 @@ const ProjectField& FieldOf(const FieldMember& member) {
 const std::string& DefaultOf(std::string GalleryProject::*field) {
   static const GalleryProject kNew;
   return kNew.*field;
+}
+
+bool IsHidden(const GalleryProject& project, const ProjectField& field) {
+  return field.hiddenWhileOff && !IsOn(project.*std::get<Flag GalleryProject::*>(field.member));
 }
 
 ValueList AlignmentTexts(bool aboveOrBelow) {

@@ -35,6 +35,7 @@ struct ProjectField {
   ValueList values = {};
   std::optional<DigitsRange> range = std::nullopt;
   bool keptByReset = false;
+  bool hiddenWhileOff = false;  ///< a Flag that project files and JSON name only while it is 1
 };
 
 /// Returns every field of GalleryProject once, in the order of the struct.
@@ -46,6 +47,9 @@ struct ProjectField {
 
 /// Returns the value of a text in a new project without a name.
 [[nodiscard]] const std::string& DefaultOf(std::string GalleryProject::*field);
+
+/// Returns whether the project's files and JSON do not name the field: an additional setting that is off.
+[[nodiscard]] bool IsHidden(const GalleryProject& project, const ProjectField& field);
 
 /// Returns the texts of an alignment list: those for a placement above or below, or those for left or right.
 [[nodiscard]] ValueList AlignmentTexts(bool aboveOrBelow);

@@ -7,8 +7,9 @@
 
 namespace vantorium {
 
-/// Limits the memory that decoders of multi-scan pictures hold at one time: each holds all coefficients of its picture,
-/// about 70 MB for 24 megapixels. Shared by the workers of a run.
+/// Limits the memory that pictures which must be held take at one time. A decoder of a picture in several scans holds
+/// all its coefficients, about 70 MB for 24 megapixels; a photograph that is turned holds the pixels that are wanted of
+/// it, in its own size as much again. Shared by the workers of a run.
 class CoefficientBudget {
  public:
   explicit CoefficientBudget(std::uint64_t bytes) : limit_(bytes) {}

@@ -2,12 +2,12 @@
 
 #include "env/RuntimeFailure.h"
 #include "image/JPEGDecoder.h"
+#include "image/PhotographNotes.h"
 #include "image/PictureOutput.h"
+#include "image/SRGBTransform.h"
+#include "image/UprightRows.h"
 
 #include <algorithm>
-#include <functional>
-#include <utility>
-#include <vector>
 
 namespace vantorium {
 namespace {
@@ -16,9 +16,11 @@ namespace {
 /// proves to be a picture.
 class GuardedOutput {
  public:
-  GuardedOutput(const std::optional<PictureRecipe>& recipe, PictureSize source, PictureFile& file) : file_(file) {
+  GuardedOutput(const std::optional<PictureRecipe>& recipe, PictureSize source, const SRGBTransform* colors,
+                PictureFile& file)
+      : file_(file) {
     Guard([&] {
-      if (recipe) output_.emplace(*recipe, source);
+      if (recipe) output_.emplace(*recipe, source, colors);
     });
   }
 
@@ -52,33 +54,6 @@ class GuardedOutput {
   std::optional<PictureOutput> output_;
 };
 
-/// Reads the requested rows, from the top of the picture down, and keeps the last two.
-class RowReader {
- public:
-  explicit RowReader(JPEGDecoder& decoder)
-      : decoder_(decoder),
-        position_(decoder.height()),
-        row_(static_cast<std::size_t>(decoder.width()) * 3),
-        above_(row_.size()) {}
-
-  /// Advances to `row`. Returns false if the data are damaged or truncated.
-  [[nodiscard]] bool ReadRow(std::int32_t row) {
-    const std::int32_t skipped = position_ - row - 1;
-    if (skipped > 0 && !decoder_.SkipRows(skipped)) return false;
-    std::swap(row_, above_);
-    position_ = row;
-    return decoder_.ReadRow(row_.data());
-  }
-  [[nodiscard]] const std::uint8_t* Row() const { return row_.data(); }
-  [[nodiscard]] const std::uint8_t* RowAbove() const { return above_.data(); }
-
- private:
-  JPEGDecoder& decoder_;
-  std::int32_t position_;
-  std::vector<std::uint8_t> row_;
-  std::vector<std::uint8_t> above_;
-};
-
 WantedPixels PixelsFor(const GuardedOutput& image, const GuardedOutput& thumbnail, PictureSize source) {
   WantedPixels pixels(source.width, source.height);
   image.MarkSource(pixels);
@@ -88,15 +63,15 @@ WantedPixels PixelsFor(const GuardedOutput& image, const GuardedOutput& thumbnai
 }
 
 /// Always reads the bottom row: only then does libjpeg-turbo report damage in the rows after the last one needed.
-bool PassRows(JPEGDecoder& decoder, GuardedOutput& image, GuardedOutput& thumbnail, const std::stop_token& stop) {
-  RowReader reader(decoder);
-  for (std::int32_t row = decoder.height(); row > 0;) {
+bool PassRows(UprightRows& rows, std::int32_t height, GuardedOutput& image, GuardedOutput& thumbnail,
+              const std::stop_token& stop) {
+  for (std::int32_t row = height; row > 0;) {
     row = std::max({image.NextSourceRow(), thumbnail.NextSourceRow(), 0});
-    if (stop.stop_requested() || !reader.ReadRow(row)) return false;
-    image.TakeSourceRow(row, reader.Row(), reader.RowAbove());
-    thumbnail.TakeSourceRow(row, reader.Row(), reader.RowAbove());
+    if (stop.stop_requested() || !rows.ReadRow(row)) return false;
+    image.TakeSourceRow(row, rows.Row(), rows.RowAbove());
+    thumbnail.TakeSourceRow(row, rows.Row(), rows.RowAbove());
   }
-  return decoder.Finish();
+  return true;
 }
 
 }  // namespace
@@ -111,12 +86,15 @@ PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequ
   JPEGDecoder decoder;
   decoder.StopWith(work.stop);
   if (!decoder.Open(source) || !decoder.IsPlausible()) return files;
-  const auto share = work.budget.Take(decoder.HeldBytes(), work.stop);
-  const PictureSize size = {decoder.width(), decoder.height()};
-  GuardedOutput image(request.image, size, files.image);
-  GuardedOutput thumbnail(request.thumbnail, size, files.thumbnail);
-  decoder.Want(PixelsFor(image, thumbnail, size));
-  if (!decoder.Start() || !PassRows(decoder, image, thumbnail, work.stop)) return {};
+  const PhotographNotes notes = ReadPhotographNotes(source, request.corrections);
+  const auto colors = SRGBTransform::For(notes.profile, notes.channels);
+  const PictureSize size = Turn(notes.orientation).SizeOf({decoder.width(), decoder.height()});
+  GuardedOutput image(request.image, size, colors.get(), files.image);
+  GuardedOutput thumbnail(request.thumbnail, size, colors.get(), files.thumbnail);
+  UprightRows rows(decoder, notes.orientation, PixelsFor(image, thumbnail, size));
+  const auto share = work.budget.Take(decoder.HeldBytes() + rows.HeldBytes(), work.stop);
+  if (!rows.Start(work.stop) || !PassRows(rows, size.height, image, thumbnail, work.stop)) return {};
+  if (!decoder.Finish()) return {};
   image.Finish();
   thumbnail.Finish();
   files.decoded = true;

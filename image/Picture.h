@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/CoefficientBudget.h"
+#include "image/Corrections.h"
 #include "image/PictureRecipe.h"
 
 #include <exception>
@@ -15,6 +16,7 @@ namespace vantorium {
 struct PictureRequest {
   std::optional<PictureRecipe> image;
   std::optional<PictureRecipe> thumbnail;
+  Corrections corrections = {};  ///< of the photograph, for both outputs
 };
 
 /// One output: the bytes of a JPEG file, or the RuntimeFailure that prevented it.
@@ -33,15 +35,17 @@ struct PictureFiles {
   PictureFile thumbnail;
 };
 
-/// What the workers of a run share: the stop token, and the memory budget for multi-scan pictures.
+/// What the workers of a run share: the stop token, and the memory budget for pictures that
+/// must be held.
 struct PictureWork {
   std::stop_token stop;
   CoefficientBudget& budget;
 };
 
 /// Makes the requested outputs from the JPEG file `source`, decoding it once and only the rows that an output needs. A
-/// pure function: it shows and writes nothing, and the same source and request give the same bytes on every thread. A
-/// stop request ends it early, with `decoded` false.
+/// photograph that must be turned by more than a mirror from left to right is held in memory, but only the pixels that
+/// an output needs. A pure function: it shows and writes nothing, and the same source and request give the same bytes
+/// on every thread. A stop request ends it early, with `decoded` false.
 [[nodiscard]] PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequest& request,
                                         const PictureWork& work);
 

@@ -37,12 +37,14 @@ std::shared_ptr<const TextMask> MaskOf(const PictureRecipe& recipe, PictureSize 
 
 }  // namespace
 
-PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source)
-    : PictureOutput(recipe, source, SizeOf(recipe, source)) {}
+PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source, const SRGBTransform* colors)
+    : PictureOutput(recipe, source, SizeOf(recipe, source), colors) {}
 
 // The watermark and the encoder refuse sizes that are too large for them before memory is allocated.
-PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size)
+PictureOutput::PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size,
+                             const SRGBTransform* colors)
     : recipe_(recipe),
+      colors_(colors),
       mask_(MaskOf(recipe, size)),
       encoder_(size.width, size.height, recipe.filters.sliderQuality),
       plan_(source, size),
@@ -71,6 +73,7 @@ void PictureOutput::TakeSourceRow(std::int32_t row, const std::uint8_t* bytes, c
 }
 
 void PictureOutput::FinishRow() {
+  if (colors_ != nullptr) colors_->Apply(row_.Row(0), static_cast<std::size_t>(row_.width()));
   ApplyFilters(row_, newRow_, recipe_);
   if (mask_) recipe_.watermark->Ink().ApplyToRow(*mask_, plan_.NewSize().height - 1 - newRow_, row_.Row(0));
   encoder_.WriteRow(row_.Row(0));

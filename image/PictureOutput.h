@@ -2,6 +2,7 @@
 
 #include "image/JPEGEncoder.h"
 #include "image/PictureRecipe.h"
+#include "image/SRGBTransform.h"
 #include "image/cDIBSection.h"
 
 #include <memory>
@@ -15,7 +16,9 @@ namespace vantorium {
 /// whatever the watermark and the filters throw. A refused size allocates no memory.
 class PictureOutput {
  public:
-  PictureOutput(const PictureRecipe& recipe, PictureSize source);
+  /// `source` is the size of the photograph, upright if it is turned. `colors`, if not null, converts what it shows and
+  /// must outlive this object.
+  PictureOutput(const PictureRecipe& recipe, PictureSize source, const SRGBTransform* colors = nullptr);
 
   /// Marks the pixels of the source that are needed.
   void MarkSource(WantedPixels& pixels) const { plan_.MarkSource(pixels); }
@@ -27,12 +30,13 @@ class PictureOutput {
   [[nodiscard]] std::string Finish();
 
  private:
-  PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size);
+  PictureOutput(const PictureRecipe& recipe, PictureSize source, PictureSize size, const SRGBTransform* colors);
 
   void BeginRow();
   void FinishRow();
 
   PictureRecipe recipe_;
+  const SRGBTransform* colors_;
   std::shared_ptr<const TextMask> mask_;  // the watermark's, if there is one
   JPEGEncoder encoder_;
   ResamplePlan plan_;

@@ -10,8 +10,8 @@
 
 namespace vantorium {
 
-/// How one output of a photograph is made, in this order: resize, filter, draw the watermark, encode as JPEG at the
-/// filters' quality.
+/// How one output of a photograph is made, in this order: resize, convert the colors if asked for, filter, draw the
+/// watermark, encode as JPEG at the filters' quality.
 struct PictureRecipe {
   std::uint64_t noiseNumber = 0;         ///< gives each picture of a run its own noise
   std::optional<PictureSize> size = {};  ///< of the output; nullopt keeps the source's

@@ -122,6 +122,8 @@ ExitCode BatchProgram::New() {
     found.insert(found.end(), images.paths.begin(), images.paths.end());
   }
   if (options_.title) project_.settings.textGalleryTitle = *options_.title;
+  project_.settings.checkImagesUpright = Flag{options_.upright};
+  project_.settings.checkImagesTrueColors = Flag{options_.trueColors};
   if (!images_.AddFiles(found)) return ExitCode::Failure;
   return SaveTo(options_.output);
 }

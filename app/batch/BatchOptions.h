@@ -30,6 +30,8 @@ struct BatchOptions {
   bool recursive = false;
   bool force = false;  ///< replace an existing project
   std::vector<std::string> paths;
+  bool upright = false;
+  bool trueColors = false;
   bool noImages = false;
   bool noThumbnails = false;
   bool noHtml = false;

@@ -94,6 +94,8 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   make.add_option("--title", options.title, "Title of the gallery")->type_name("TEXT");
   make.add_flag("--recursive", options.recursive, "Take the folders' sub folders too");
   make.add_flag("--force", options.force, "Replace a project that exists; any other file never is");
+  make.add_flag("--upright", options.upright, "Turn photographs upright as they say");
+  make.add_flag("--true-colors", options.trueColors, "Convert photographs from their own color profiles to sRGB");
   make.add_option("PATH", options.paths, "Images, and folders of images")->required();
 
   AddProject(AddCommand(app, options, BatchCommand::Show, "show", "Print a project as JSON"), options);

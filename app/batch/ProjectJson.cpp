@@ -47,6 +47,7 @@ Json Value(const LinkSettings& link) {
 Json Settings(const GalleryProject& project) {
   Json object;
   for (const ProjectField& field : ProjectFields()) {
+    if (IsHidden(project, field)) continue;
     object[std::string(field.name)] = std::visit([&](auto member) { return Value(project.*member); }, field.member);
   }
   return object;

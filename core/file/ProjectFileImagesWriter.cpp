@@ -69,6 +69,8 @@ pugi::xml_node PutSize(pugi::xml_node modify, const GalleryProject& project, con
 void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
   pugi::xml_node images = gallery.append_child("IMAGES");
   PutAttribute(images, "FOLDER", project.*kImages.folder);
+  if (IsOn(project.checkImagesUpright)) PutAttribute(images, "UPRIGHT", 1);
+  if (IsOn(project.checkImagesTrueColors)) PutAttribute(images, "TRUECOLORS", 1);
   RegularTurns turns(events);
   for (std::size_t position = 1; position <= list.Count(); ++position) {
     PutImage(images, position, list.Entry(position));

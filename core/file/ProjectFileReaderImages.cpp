@@ -85,6 +85,8 @@ void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
 
 ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
   ReadTextOr(editor, images, "FOLDER", kImages.folder, DefaultOf(kImages.folder));
+  ReadSwitch(editor, images, "UPRIGHT", &GalleryProject::checkImagesUpright);
+  ReadSwitch(editor, images, "TRUECOLORS", &GalleryProject::checkImagesTrueColors);
   RegularTurns turns(events);
   for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
     if (!AddImageElement(node, list)) return ReadResult::ImageRefused;

@@ -3,7 +3,7 @@
 #include "core/generation/OutputNaming.h"
 #include "env/Numbers.h"
 #include "env/RuntimeFailure.h"
-#include "image/JPEG.h"
+#include "image/Photograph.h"
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ void Ignoring(Statement statement) {
 
 bool ReadSourceSize(const RunState& run, const ImageRunInfo& image, std::int32_t& width, std::int32_t& height) {
   const auto native = run.files.Paths().ToNative(image.Path);
-  return native && ReadJPEGSize(*native, width, height);
+  return native && ReadPhotographSize(*native, run.project.checkImagesUpright == 1, width, height);
 }
 
 void GivenWidthSetsHeight(const GalleryProject& project, ImageRunInfo& image, double w, double h) {

@@ -205,6 +205,7 @@ std::optional<std::string> PictureProduction::EarlyBytes(Number number) const {
 // Both
 
 PictureTask PictureProduction::Task(Number number, PictureRequest request) const {
+  request.corrections = CorrectionsOf(run_.project);
   return {run_.files.Paths().ToNative(run_.Info(number).Path).value_or(""), std::move(request)};
 }
 

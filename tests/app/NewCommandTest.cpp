@@ -51,6 +51,32 @@ TEST(NewCommand, EachEntryHoldsTheFilesPathAndNoDescriptions) {
   EXPECT_EQ(image.at("SizeKey"), std::string(20 - size.size(), '0') + size);
 }
 
+TEST(NewCommand, CorrectionsOfThePhotographsAreInTheProjectOnlyIfTheyAreAskedFor) {
+  const Workplace place;
+  place.Photograph("a.jpg");
+  const auto project = [&place](const Texts& switches) {
+    Texts command = {"new", "--force", "a.gpj", "a.jpg"};
+    command.insert(command.end(), switches.begin(), switches.end());
+    EXPECT_TRUE(Succeeded(place.Run(command)));
+    return Shown(place, "a.gpj").at("project");
+  };
+  EXPECT_FALSE(project({}).contains("checkImagesUpright"));
+  EXPECT_FALSE(project({}).contains("checkImagesTrueColors"));
+  EXPECT_EQ(project({"--upright"}).at("checkImagesUpright"), 1);
+  EXPECT_FALSE(project({"--upright"}).contains("checkImagesTrueColors"));
+  EXPECT_EQ(project({"--true-colors"}).at("checkImagesTrueColors"), 1);
+  EXPECT_EQ(project({"--upright", "--true-colors"}).at("checkImagesUpright"), 1);
+}
+
+TEST(NewCommand, CorrectionsAreNoOptionsOfOtherCommands) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  for (const char* option : {"--upright", "--true-colors"}) {
+    EXPECT_TRUE(EndedWith(2, place.Run({"show", "a.gpj", option}))) << option;
+    EXPECT_TRUE(EndedWith(2, place.Run({"create", "a.gpj", "out/index.htm", option}))) << option;
+  }
+}
+
 TEST(NewCommand, AFoldersImagesComeInTheOrderOfTheirNames) {
   const Workplace place;
   for (const char* name : {"c.jpg", "a.jpeg", "b.jfif", "D.JPG"})

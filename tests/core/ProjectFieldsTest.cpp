@@ -210,6 +210,8 @@ const std::vector<std::pair<std::string, std::string>>& NewProjectValues() {
       {"ImagePreviousLink", "BACK||"},
       {"ImageNextLink", "NEXT||"},
       {"ImageIndexLink", "INDEX||"},
+      {"checkImagesUpright", "0"},
+      {"checkImagesTrueColors", "0"},
   };
   return values;
 }
@@ -254,6 +256,20 @@ TEST(ProjectFields, ANewProjectHasTheValuesOfTheTables) {
     EXPECT_EQ(ProjectFields()[i].name, name);
     EXPECT_EQ(ValueText(project, ProjectFields()[i]), value) << name;
   }
+}
+
+TEST(ProjectFields, OnlyAdditionalSettingsThatAreOffAreHidden) {
+  GalleryProject project;
+  const auto hidden = [&project] {
+    std::vector<std::string> names;
+    for (const ProjectField& field : ProjectFields()) {
+      if (IsHidden(project, field)) names.emplace_back(field.name);
+    }
+    return names;
+  };
+  EXPECT_EQ(hidden(), (std::vector<std::string>{"checkImagesUpright", "checkImagesTrueColors"}));
+  project.checkImagesUpright = 1;
+  EXPECT_EQ(hidden(), std::vector<std::string>{"checkImagesTrueColors"});
 }
 
 TEST(ProjectFields, ResetBringsBackEveryFieldButTheOneThatKeepsItsValue) {

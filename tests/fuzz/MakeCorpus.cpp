@@ -2,7 +2,7 @@
 // Usage: fuzz_corpus tests/fuzz/corpus
 #include "core/file/ProjectFileWriter.h"
 #include "tests/fakes/CountingEventLoop.h"
-#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/PhotographMaker.h"
 
 #include <filesystem>
 #include <fstream>
@@ -55,6 +55,23 @@ void WritePhotographs(const fs::path& folder) {
       19);
   Write(folder / "segments.jpg", fakes::WithBytesAt(plain, frame, segments));
   Write(folder / "claims_much.jpg", fakes::ClaimingSize(plain, 30000, 30000));
+}
+
+void WriteNotedPhotographs(const fs::path& folder) {
+  using fakes::TestProfile;
+  const std::string plain = fakes::MakeJpeg({.width = 20, .height = 13, .quality = 30});
+  const std::string gray =
+      fakes::MakeJpeg({.width = 9, .height = 14, .colors = fakes::JpegColors::Grey, .quality = 30});
+  const std::string profile = fakes::ProfileOf(TestProfile::AdobeRGB);
+  for (int orientation = 1; orientation <= 8; ++orientation) {
+    Write(folder / fmt::format("lying_{}.jpg", orientation), fakes::WithOrientation(plain, orientation));
+  }
+  Write(folder / "greatest_first.jpg", fakes::WithSegments(plain, fakes::JpegSegment(0xE1, fakes::ExifOf(6, true))));
+  Write(folder / "profile.jpg", fakes::WithOrientation(fakes::WithProfile(plain, profile), 6));
+  Write(folder / "chunks.jpg", fakes::WithSegments(plain, fakes::ProfileSegments(profile, 100)));
+  Write(folder / "gray.jpg", fakes::WithProfile(gray, fakes::ProfileOf(TestProfile::GrayGamma)));
+  Write(folder / "exif", fakes::ExifOf(5));
+  Write(folder / "p3.icc", fakes::ProfileOf(TestProfile::DisplayP3));
 }
 
 /// A project that uses every part of the format.
@@ -128,6 +145,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   WritePhotographs(fs::path(argv[1]) / "jpeg");
+  WriteNotedPhotographs(fs::path(argv[1]) / "photograph");
   WriteProjects(fs::path(argv[1]) / "project");
   return 0;
 }

@@ -6,9 +6,10 @@
 namespace vantorium {
 namespace {
 
-QImage Decode(const std::optional<std::filesystem::path>& file, PictureSize box, const std::stop_token& stop) {
+QImage Decode(const std::optional<std::filesystem::path>& file, PictureSize box, const std::stop_token& stop,
+              Corrections corrections) {
   cDIBSection dib;
-  if (!file || !LoadReducedPicture(dib, *file, box, stop)) return {};
+  if (!file || !LoadReducedPicture(dib, *file, box, stop, corrections)) return {};
   const QImage picture = ImageOf(dib);
   const QSize enough = 2 * QSize(box.width, box.height);  // a huge one is scaled down here, not where it is drawn
   if (picture.width() <= enough.width() && picture.height() <= enough.height()) return picture;
@@ -31,11 +32,11 @@ void PreviewLoader::Cancel() {
   worker_.clear();
 }
 
-void PreviewLoader::Load(const std::optional<std::filesystem::path>& file, PictureSize box) {
+void PreviewLoader::Load(const std::optional<std::filesystem::path>& file, PictureSize box, Corrections corrections) {
   Cancel();
   stop_ = std::stop_source();
-  worker_.start([this, file, box, stop = stop_.get_token()] {
-    const QImage picture = Decode(file, box, stop);
+  worker_.start([this, file, box, corrections, stop = stop_.get_token()] {
+    const QImage picture = Decode(file, box, stop, corrections);
     QMetaObject::invokeMethod(
         this,
         [this, picture, stop] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/Corrections.h"
 #include "image/ResamplePlan.h"
 
 #include <QImage>
@@ -21,7 +22,7 @@ class PreviewLoader : public QObject {
   ~PreviewLoader() override;
 
   /// Starts decoding a file (native; nullopt if it is not there) for a box of `box` pixels.
-  void Load(const std::optional<std::filesystem::path>& file, PictureSize box);
+  void Load(const std::optional<std::filesystem::path>& file, PictureSize box, Corrections corrections = {});
   /// Drops the current request.
   void Cancel();
 

@@ -1,6 +1,8 @@
 #include "ui/files/frmPreview.h"
 
+#include "image/Photograph.h"
 #include "ui/files/ReadPictureFile.h"
+#include "ui/qt/QtPicture.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmPreview.h"
 
@@ -20,6 +22,22 @@ QSize LargestScreen() {
   return largest;
 }
 
+/// The middle of a photograph with its corrections; null if the file is none.
+QImage MiddleOfPhotograph(const std::filesystem::path& native, QSize atMost, Corrections corrections) {
+  cDIBSection dib;
+  if (!LoadPhotograph(dib, native, corrections)) return {};
+  const QImage picture = ImageOf(dib);
+  QRect part({}, picture.size().boundedTo(atMost));
+  part.moveTo(picture.width() / 2 - part.width() / 2, picture.height() / 2 - part.height() / 2);
+  return picture.copy(part);
+}
+
+QImage Middle(const std::filesystem::path& native, Corrections corrections) {
+  const QSize most = LargestScreen();
+  const QImage photograph = corrections.Any() ? MiddleOfPhotograph(native, most, corrections) : QImage();
+  return photograph.isNull() ? ReadMiddleOfPictureFile(native, most) : photograph;
+}
+
 }  // namespace
 
 frmPreview::frmPreview(const PathMap& paths, QWidget* parent)
@@ -34,10 +52,10 @@ frmPreview::frmPreview(const PathMap& paths, QWidget* parent)
 
 frmPreview::~frmPreview() = default;
 
-void frmPreview::SetPicture(const std::string& description, const std::string& file) {
+void frmPreview::SetPicture(const std::string& description, const std::string& file, Corrections corrections) {
   setWindowTitle("Full Screen Preview: " + ToQt(description));
   const auto native = paths_.ToNative(file);
-  ui_->pic->setPixmap(native ? QPixmap::fromImage(ReadMiddleOfPictureFile(*native, LargestScreen())) : QPixmap());
+  ui_->pic->setPixmap(native ? QPixmap::fromImage(Middle(*native, corrections)) : QPixmap());
   update();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "env/PathMap.h"
+#include "image/Corrections.h"
 
 #include <QDialog>
 #include <memory>
@@ -22,7 +23,8 @@ class frmPreview : public QDialog {
   ~frmPreview() override;
 
   /// `description` goes into the title. A `file` (path text) that can't be shown leaves the screen empty.
-  void SetPicture(const std::string& description, const std::string& file);
+  /// Corrections are made in photographs only.
+  void SetPicture(const std::string& description, const std::string& file, Corrections corrections = {});
 
  protected:
   void paintEvent(QPaintEvent* event) override;

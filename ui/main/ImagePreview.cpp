@@ -17,9 +17,9 @@ ImagePreview::ImagePreview(QWidget* parent) : QFrame(parent) {
   connect(&loader_, &PreviewLoader::Loaded, this, &ImagePreview::Show);
 }
 
-void ImagePreview::Load(const std::optional<std::filesystem::path>& file) {
+void ImagePreview::Load(const std::optional<std::filesystem::path>& file, Corrections corrections) {
   const QSize box = DevicePixels(*this).expandedTo(kSmallestBox);
-  loader_.Load(file, {.width = box.width(), .height = box.height()});
+  loader_.Load(file, {.width = box.width(), .height = box.height()}, corrections);
 }
 
 void ImagePreview::Clear() {

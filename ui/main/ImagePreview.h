@@ -16,7 +16,7 @@ class ImagePreview : public QFrame {
   explicit ImagePreview(QWidget* parent = nullptr);
 
   /// `file` is native; nullopt if it is not there.
-  void Load(const std::optional<std::filesystem::path>& file);
+  void Load(const std::optional<std::filesystem::path>& file, Corrections corrections = {});
   /// Shows nothing.
   void Clear();
   /// The picture that is shown; null if none.

@@ -50,7 +50,7 @@ void QtHelperWindows::ShowAbout() {
 
 void QtHelperWindows::ShowPreview(const std::string& description, const std::string& file) {
   frmPreview preview(model_.Ports().paths, &mainWindow_);
-  preview.SetPicture(description, file);
+  preview.SetPicture(description, file, CorrectionsOf(model_.CurrentProject().settings));
   preview.exec();
 }
 

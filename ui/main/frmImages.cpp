@@ -7,6 +7,7 @@
 #include "ui/dialogs/frmRename.h"
 #include "ui/dialogs/frmShuffle.h"
 #include "ui/files/frmAddFoldersProcess.h"
+#include "ui/main/UprightQuestion.h"
 #include "ui/model/dialogs/RenameModel.h"
 #include "ui/model/files/AddFiles.h"
 #include "ui/model/files/FolderWalk.h"
@@ -21,8 +22,12 @@
 namespace vantorium {
 
 frmImages::frmImages(const Parts& parts, QWidget* parent)
-    : QWidget(parent), parts_(parts), ui_(std::make_unique<Ui::frmImages>()) {
+    : QWidget(parent),
+      parts_(parts),
+      ui_(std::make_unique<Ui::frmImages>()),
+      upright_(new UprightQuestion({parts.project, parts.paths, parts.boxes, [this] { return MayAsk(); }}, this)) {
   ui_->setupUi(this);
+  connect(upright_, &UprightQuestion::Accepted, this, &frmImages::TurnUpright);
   ui_->lvImagesList->Attach(parts_.project.images);
   ConnectList();
   ConnectPreview();
@@ -98,6 +103,10 @@ void frmImages::RefreshList() {
   emit CurrentChanged();
 }
 
+void frmImages::FollowProject() {
+  upright_->ForgetProject();
+}
+
 void frmImages::ScrollIntoView(std::size_t position) {
   if (working_) {
     scrollTo_ = position;
@@ -109,11 +118,12 @@ void frmImages::ScrollIntoView(std::size_t position) {
 void frmImages::RefreshPreview() {
   const ImageEntry* entry = CurrentEntry();
   const auto file = entry == nullptr ? std::nullopt : parts_.paths.ToNative(entry->SourcePath);
-  ui_->lblImagesSize->setText(ToQt(ImageSizeLabel(file)));
+  const Corrections corrections = CorrectionsOf(parts_.project.settings);
+  ui_->lblImagesSize->setText(ToQt(ImageSizeLabel(file, corrections.upright)));
   if (entry == nullptr || !IsOn(parts_.preferences.checkImagesPreview)) {
     ui_->pbImagesPreview->Clear();
   } else {
-    ui_->pbImagesPreview->Load(file);
+    ui_->pbImagesPreview->Load(file, corrections);
   }
 }
 
@@ -122,15 +132,24 @@ const ImageEntry* frmImages::CurrentEntry() const {
   return images.Current() == 0 ? nullptr : &images.Entry(images.Current());
 }
 
+void frmImages::TurnUpright() {
+  parts_.binder.Edit([](ProjectEditor& editor) { editor.Set(&GalleryProject::checkImagesUpright, Flag{1}); });
+  RefreshPreview();
+}
+
 void frmImages::AskForFullScreen() {
   if (const ImageEntry* entry = CurrentEntry()) emit FullScreenPreviewAsked(entry->ImageName, entry->SourcePath);
 }
 
-// Asks nothing in the middle of something else, such as a run: the answer could change the list under it. The preview
-// then stays empty.
+/// Asks nothing in the middle of something else, such as a run: the answer could change the project under it.
+bool frmImages::MayAsk() const {
+  return !working_ && QApplication::activeModalWidget() == nullptr && window()->isEnabled();
+}
+
+// If the user may not be asked now, the preview stays empty.
 void frmImages::AskAboutInvalidImage() {
   const ImageEntry* entry = CurrentEntry();
-  if (entry == nullptr || working_ || QApplication::activeModalWidget() != nullptr || !window()->isEnabled()) return;
+  if (entry == nullptr || !MayAsk()) return;
   frmInvalidImage question(parts_.shell, this);
   switch (question.ShowDialog(entry->ImageName)) {
     case InvalidImageAnswer::Remove:
@@ -143,9 +162,11 @@ void frmImages::AskAboutInvalidImage() {
 }
 
 void frmImages::AddChosenFiles() {
+  upright_->BeforeAdding();
   Do([this] {
     AddFiles({.browser = parts_.browser, .preferences = parts_.preferences, .images = parts_.images}).Run();
   });
+  upright_->AfterAdding();
 }
 
 void frmImages::AddChosenFolders() {
@@ -158,8 +179,10 @@ void frmImages::AddChosenFolders() {
                    .paths = parts_.paths,
                    .boxes = parts_.boxes,
                    .loop = parts_.loop});
+  upright_->BeforeAdding();
   Do([&] { walk.Run(folders, progress); });
   RefreshPreview();
+  upright_->AfterAdding();
 }
 
 void frmImages::Rename() {

@@ -24,6 +24,8 @@ class frmImages;
 
 namespace vantorium {
 
+class UprightQuestion;
+
 /// The Images page of the main window, with the image list.
 class frmImages : public QWidget {
   Q_OBJECT
@@ -52,6 +54,8 @@ class frmImages : public QWidget {
   void RefreshList();
   /// Starts to show the current image. If it cannot be decoded, the user is asked about it later, from the event loop.
   void RefreshPreview();
+  /// Call when another project has taken the place of the present one.
+  void FollowProject();
   /// `position` counts from 1. During an operation of this page nothing scrolls; the last position is scrolled to at
   /// its end.
   void ScrollIntoView(std::size_t position);
@@ -78,10 +82,13 @@ class frmImages : public QWidget {
   void Shuffle();
   void AskForFullScreen();
   void AskAboutInvalidImage();
+  void TurnUpright();
+  [[nodiscard]] bool MayAsk() const;
   [[nodiscard]] const ImageEntry* CurrentEntry() const;
 
   Parts parts_;
   std::unique_ptr<Ui::frmImages> ui_;
+  UprightQuestion* upright_;  // a child of this page
   FindModel find_;
   bool working_ = false;      // an operation is changing the list
   std::size_t scrollTo_ = 0;  // position to scroll to after the operation; 0 for none

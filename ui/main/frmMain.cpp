@@ -63,7 +63,7 @@ void frmMain::Start(const std::string& commandLine) {
 
 void frmMain::BuildMenus() {
   NameSeparators(*ui_->menuFile, {"menuFileSeparator1", "menuFileSeparator2"});
-  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator"});
+  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator", "menuOptionsSeparator2"});
   NameSeparators(*ui_->menuHelp, {"menuHelpSeparator1"});
   MakePopupTextMenu(*this);
   auto* viewButton = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
@@ -111,6 +111,9 @@ void frmMain::ConnectCommands() {
   command({ui_->menuOptionsClearTempFolder}, [this] { model_.ClearTemporaryFolder(); });
   command({ui_->menuHelpOnlineHelp}, [this] { model_.ShowHelp(); });
   command({ui_->menuHelpAbout}, [this] { windows_.ShowAbout(); });
+  binder_.Bind(*ui_->menuOptionsUpright, &GalleryProject::checkImagesUpright);
+  binder_.Bind(*ui_->menuOptionsTrueColors, &GalleryProject::checkImagesTrueColors);
+  command({ui_->menuOptionsUpright, ui_->menuOptionsTrueColors}, [this] { ShowPreview(); });
   connect(viewMenus_, &ViewMenus::ViewAsked, this, [this](std::int16_t browser) { model_.ViewGallery(browser); });
   connect(viewMenus_, &ViewMenus::ListAsked, this, &frmMain::EditBrowserList);
 
@@ -224,6 +227,7 @@ void frmMain::ShowSettings() {
 }
 
 void frmMain::ShowImages() {
+  imagesPage_->FollowProject();
   imagesPage_->RefreshList();
 }
 

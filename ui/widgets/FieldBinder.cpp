@@ -95,6 +95,15 @@ void FieldBinder::Bind(QCheckBox& control, Flag GalleryProject::*field) {
   });
 }
 
+// An action's signals are not blocked: its menu follows them.
+void FieldBinder::Bind(QAction& control, Flag GalleryProject::*field) {
+  fields_.push_back(&FieldOf(field));
+  connect(&control, &QAction::triggered, this, [this, field](bool checked) {
+    Edit([&](ProjectEditor& editor) { editor.Set(field, static_cast<Flag>(checked ? 1 : 0)); });
+  });
+  show_.push_back([&control, field](const GalleryProject& project) { control.setChecked(project.*field != 0); });
+}
+
 void FieldBinder::Bind(QComboBox& control, Choice GalleryProject::*field) {
   Bind(control, field, [this, field](Choice index) { Edit([&](ProjectEditor& editor) { editor.Set(field, index); }); });
 }

@@ -4,6 +4,7 @@
 #include "core/ProjectFields.h"
 #include "env/MessageBoxPort.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -33,6 +34,8 @@ class FieldBinder : public QObject {
   /// A number with its spinner.
   void Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProject::*field);
   void Bind(QCheckBox& control, Flag GalleryProject::*field);
+  /// A menu entry that can be checked.
+  void Bind(QAction& control, Flag GalleryProject::*field);
   /// Fills the list with the field's texts.
   void Bind(QComboBox& control, Choice GalleryProject::*field);
   /// Fills the list in the same way; an index that the user picks goes to `choose` instead of the field.

@@ -210,6 +210,18 @@ TEST_F(ProjectFileReaderImagesTest, TheImageSizeIsRead) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
+TEST_F(ProjectFileReaderImagesTest, CorrectionsOfThePhotographsAreOnOnlyIfTheyAreTheNumberOne) {
+  ASSERT_TRUE(ReadLists("<IMAGES UPRIGHT='1' TRUECOLORS='1'/>"));
+  EXPECT_EQ(Settings().checkImagesUpright, 1);
+  EXPECT_EQ(Settings().checkImagesTrueColors, 1);
+  for (const char* off : {"<IMAGES/>", "<IMAGES UPRIGHT='0' TRUECOLORS=''/>", "<IMAGES UPRIGHT='yes' TRUECOLORS='7'/>",
+                          "<IMAGES upright='1'/>", "<THUMBNAILS UPRIGHT='1' TRUECOLORS='1'/>"}) {
+    ASSERT_TRUE(ReadLists(off)) << off;
+    EXPECT_EQ(Settings().checkImagesUpright, 0) << off;
+    EXPECT_EQ(Settings().checkImagesTrueColors, 0) << off;
+  }
+}
+
 TEST_F(ProjectFileReaderImagesTest, AnAbsentThumbnailSizeChangesNothing) {
   ASSERT_TRUE(ReadThumbnails("<MODIFY/>"));
   EXPECT_EQ(Settings().checkThumbnailsImageKeepAspectRatio, 0);

@@ -209,6 +209,14 @@ TEST_F(ProjectFileWriterTest, TheImageSizeIsWrittenUnlessItIsKept) {
   EXPECT_NE(Text().find("<MODIFY/></IMAGES>"), std::string::npos);
 }
 
+TEST_F(ProjectFileWriterTest, CorrectionsOfThePhotographsAreWrittenOnlyIfTheyAreOn) {
+  EXPECT_EQ(Tag("IMAGES"), "<IMAGES FOLDER=\"Images\">");
+  Edit().checkImagesTrueColors = 1;
+  EXPECT_EQ(Tag("IMAGES"), "<IMAGES FOLDER=\"Images\" TRUECOLORS=\"1\">");
+  Edit().checkImagesUpright = 1;
+  EXPECT_EQ(Tag("IMAGES"), "<IMAGES FOLDER=\"Images\" UPRIGHT=\"1\" TRUECOLORS=\"1\">");
+}
+
 TEST_F(ProjectFileWriterTest, AQualityIsWrittenOnlyWithAnotherFilter) {
   Edit().ImageFilters.sliderQuality = 10;
   Edit().ThumbnailFilters.sliderQuality = 20;

@@ -1,6 +1,7 @@
 #include "core/generation/CollectImages.h"
 #include "core/generation/LocalTarget.h"
 #include "tests/core/generation/RunFixture.h"
+#include "tests/fakes/PhotographMaker.h"
 
 namespace vantorium {
 namespace {
@@ -84,6 +85,23 @@ TEST_F(CollectImagesTest, WithBothSizesGivenTheFileIsNotNeeded) {
   project.settings.checkImageWrapperImageKeepAspectRatio = 0;
   Collect();
   EXPECT_EQ(SizesOf(1), (Sizes{400, 300, 60, 60}));
+}
+
+TEST_F(CollectImagesTest, SizesAreThoseOfTheUprightPhotographIfTheProjectTurnsThem) {
+  AddEntry("lying", "T:\\photos\\lying.jpg");
+  auto& settings = project.settings;
+  settings.checkThumbnailsImageKeepAspectRatio = 1;
+  const auto sizes = [&](int orientation, Flag upright, Flag keepSize) {
+    folder.Write("photos/lying.jpg", fakes::WithOrientation(PlainJpeg(80, 20), orientation));
+    settings.checkImagesUpright = upright;
+    settings.checkImageWrapperImageKeepSize = keepSize;
+    Collect();
+    return SizesOf(1);
+  };
+  EXPECT_EQ(sizes(6, 0, 1), (Sizes{80, 20, 240, 60}));
+  EXPECT_EQ(sizes(6, 1, 1), (Sizes{20, 80, 15, 60}));
+  EXPECT_EQ(sizes(6, 1, 0), (Sizes{75, 300, 15, 60}));
+  EXPECT_EQ(sizes(3, 1, 1), (Sizes{80, 20, 240, 60}));
 }
 
 TEST_F(CollectImagesTest, TheMaximaAreOverAllImages) {

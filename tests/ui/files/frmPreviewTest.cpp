@@ -1,9 +1,11 @@
+#include "tests/fakes/PhotographMaker.h"
 #include "tests/ui/BrowserDesk.h"
 #include "ui/files/frmPreview.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <fstream>
 
 namespace vantorium {
 namespace {
@@ -81,6 +83,29 @@ TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCutAtTwoSides) {
   const QImage drawn = Drawn();
   EXPECT_EQ(drawn.pixelColor(0, screen.height() / 2 - 10), QColor(Qt::red));
   EXPECT_NE(drawn.pixelColor(0, screen.height() / 2 - 11), QColor(Qt::blue));
+}
+
+TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToStandUprightAndItsMiddleIsShown) {
+  const auto& pic = Find<QLabel>(preview, "pic");
+  const auto write = [this](int width, int height) {
+    const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = width, .height = height}), 6);
+    std::ofstream(desk.Native("lying.jpg").toStdString(), std::ios::binary) << jpeg;
+  };
+  write(60, 20);
+  preview.SetPicture("lying", "C:\\lying.jpg", {.upright = true});
+  EXPECT_EQ(pic.pixmap().size(), QSize(20, 60));
+  preview.SetPicture("lying", "C:\\lying.jpg");
+  EXPECT_EQ(pic.pixmap().size(), QSize(60, 20));
+  write(9000, 16);
+  preview.SetPicture("lying", "C:\\lying.jpg", {.upright = true});
+  EXPECT_EQ(pic.pixmap().width(), 16);
+  EXPECT_LT(pic.pixmap().height(), 9000);
+}
+
+TEST_F(FullScreenPreview, WhatIsNoPhotographIsShownAsItIs) {
+  Draw({40, 30}, {0, 0});
+  preview.SetPicture("picture", "C:\\picture.png", {.upright = true, .trueColors = true});
+  EXPECT_EQ(Find<QLabel>(preview, "pic").pixmap().size(), QSize(40, 30));
 }
 
 TEST_F(FullScreenPreview, WhatCannotBeShownLeavesTheScreenEmpty) {

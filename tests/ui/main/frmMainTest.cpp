@@ -1,5 +1,7 @@
 // The main window: its menus and tool bar, its start, and its question before it closes.
+#include "tests/fakes/PhotographMaker.h"
 #include "tests/ui/MainDesk.h"
+#include "ui/main/ImagePreview.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -92,7 +94,8 @@ TEST_F(MainWindow, HasItsMenus) {
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuActionsView")),
             (Entries{"...in Default Browser [Ctrl+I]", "-", "Available Browsers..."}));
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuOptions")),
-            (Entries{"&Available Browsers...", "-", "Set &Temporary Folder Location...", "&Clear Temporary Folder"}));
+            (Entries{"&Available Browsers...", "-", "Set &Temporary Folder Location...", "&Clear Temporary Folder", "-",
+                     "Turn Photographs &Upright", "T&rue Colors of Photographs"}));
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuHelp")), (Entries{"Open &Help File [F1]", "-", "&About..."}));
   Entries bar;
   for (const QAction* action : desk.window->menuBar()->actions()) bar.push_back(FromQt(action->text()));
@@ -102,7 +105,7 @@ TEST_F(MainWindow, HasItsMenus) {
 TEST_F(MainWindow, TheLinesOfItsMenusHaveNames) {
   desk.Start();
   const std::pair<const char*, Entries> menus[] = {{"menuFile", {"menuFileSeparator1", "menuFileSeparator2"}},
-                                                   {"menuOptions", {"menuOptionsSeparator"}},
+                                                   {"menuOptions", {"menuOptionsSeparator", "menuOptionsSeparator2"}},
                                                    {"menuHelp", {"menuHelpSeparator1"}}};
   for (const auto& [menu, expected] : menus) {
     Entries names;
@@ -111,6 +114,41 @@ TEST_F(MainWindow, TheLinesOfItsMenusHaveNames) {
     }
     EXPECT_EQ(names, expected) << menu;
   }
+}
+
+TEST_F(MainWindow, TheEntriesForPhotographsAreSettingsOfTheProject) {
+  desk.Start();
+  const auto checked = [this](const char* name) { return desk.window->findChild<QAction*>(name)->isChecked(); };
+  EXPECT_FALSE(checked("menuOptionsUpright") || checked("menuOptionsTrueColors"));
+  EXPECT_EQ(desk.Settings().checkImagesUpright, 0);
+  desk.Trigger("menuOptionsUpright");
+  EXPECT_EQ(desk.Settings().checkImagesUpright, 1);
+  EXPECT_EQ(desk.Settings().checkImagesTrueColors, 0);
+  EXPECT_TRUE(desk.window->CurrentProject().IsModified);
+  desk.Trigger("menuOptionsTrueColors");
+  desk.Trigger("menuOptionsUpright");
+  EXPECT_EQ(desk.Settings().checkImagesUpright, 0);
+  EXPECT_EQ(desk.Settings().checkImagesTrueColors, 1);
+  EXPECT_TRUE(checked("menuOptionsTrueColors"));
+  desk.boxes.answers = {BoxAnswer::No};  // to saving
+  desk.Trigger("menuFileNew");
+  EXPECT_FALSE(checked("menuOptionsTrueColors")) << "a new project has them off";
+}
+
+TEST_F(MainWindow, ThePreviewFollowsTheEntryForUprightPhotographs) {
+  desk.folder.Write("lying.jpg", fakes::WithOrientation(fakes::MakeJpeg({.width = 64, .height = 48}), 6));
+  desk.fileBrowser.answer = {"T:\\lying.jpg", "T:\\", {"lying.jpg"}};
+  desk.Start();
+  desk.GoTo(1);
+  desk.boxes.answers = {BoxAnswer::No};  // to turning upright
+  Click(*desk.window, "btnImagesAddFiles");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return desk.TitleOfLastBox() == "Photographs on their Side"; }, 10000));
+  const auto& size = Find<QLabel>(*desk.window, "lblImagesSize");
+  EXPECT_TRUE(size.text().startsWith("(64x48, "));
+  desk.Trigger("menuOptionsUpright");
+  EXPECT_TRUE(size.text().startsWith("(48x64, "));
+  const auto& preview = Find<ImagePreview>(*desk.window, "pbImagesPreview");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return preview.Picture().size() == QSize(48, 64); }, 10000));
 }
 
 TEST_F(MainWindow, TheMenuForTextFieldsPutsTagsWhereTheKeyboardIs) {

@@ -3,16 +3,19 @@
 #include "env/RuntimeFailure.h"
 #include "env/TempFolderLock.h"
 #include "image/JPEG.h"
+#include "image/Photograph.h"
+
+#include <algorithm>
 
 namespace vantorium {
 namespace {
 
 constexpr char kFailureTitle[] = "Unable to load default Preview Image";
 
-bool Load(cDIBSection& picture, const std::string& path, const PathMap& paths) {
+bool Load(cDIBSection& picture, const std::string& path, const PathMap& paths, Corrections corrections) {
   if (path.empty()) return false;
   const auto native = paths.ToNative(path);
-  return native && LoadJPEGImage(picture, *native);
+  return native && LoadPhotograph(picture, *native, corrections);
 }
 
 }  // namespace
@@ -36,10 +39,10 @@ bool SampleDialog::Open() {
 
 std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
   auto picture = std::make_unique<cDIBSection>();
-  if (Load(*picture, sources_.selectedFile, ports_.files.Paths())) return picture;
-  for (const std::string& sample : sources_.defaultSamples) {
-    if (Load(*picture, sample, ports_.files.Paths())) return picture;
-  }
+  const auto loads = [&](const std::string& path) {
+    return Load(*picture, path, ports_.files.Paths(), sources_.corrections);
+  };
+  if (loads(sources_.selectedFile) || std::ranges::any_of(sources_.defaultSamples, loads)) return picture;
   return nullptr;
 }
 

@@ -4,6 +4,7 @@
 #include "env/MessageBoxPort.h"
 #include "env/TempFolder.h"
 #include "env/mFileFunctions.h"
+#include "image/Corrections.h"
 #include "image/ResamplePlan.h"
 #include "image/cDIBSection.h"
 
@@ -18,6 +19,7 @@ struct SampleSources {
   std::string selectedFile;                 ///< file of the image selected in the list; empty for none
   std::vector<std::string> defaultSamples;  ///< tried in this order if selectedFile cannot be loaded
   std::string tempFolderLocation;           ///< the folder that holds VANTORIUM_TEMP
+  Corrections corrections = {};             ///< made in the sample
 };
 
 /// What a dialog with a sample needs from the program.

@@ -1,14 +1,14 @@
 #include "ui/model/files/ImageSizeLabel.h"
 
-#include "image/JPEG.h"
+#include "image/Photograph.h"
 #include "ui/model/main/ImageListTexts.h"
 
 namespace vantorium {
 
-std::string ImageSizeLabel(const std::optional<std::filesystem::path>& file) {
+std::string ImageSizeLabel(const std::optional<std::filesystem::path>& file, bool upright) {
   std::int32_t width = 0;
   std::int32_t height = 0;
-  if (!file || !ReadJPEGSize(*file, width, height)) return {};
+  if (!file || !ReadPhotographSize(*file, upright, width, height)) return {};
   std::error_code error;
   const std::uintmax_t size = std::filesystem::file_size(*file, error);
   return error ? std::string() : ImageSizeText(width, height, size);

@@ -1,6 +1,8 @@
 #include "ui/model/files/ReducedPicture.h"
 
 #include "image/JPEGDecoder.h"
+#include "image/Photograph.h"
+#include "image/PhotographNotes.h"
 
 #include <algorithm>
 
@@ -14,16 +16,17 @@ int DivisorFor(PictureSize picture, PictureSize box) {
 }
 
 bool LoadReducedPicture(cDIBSection& dib, const std::filesystem::path& file, PictureSize box,
-                        const std::stop_token& stop) {
+                        const std::stop_token& stop, Corrections corrections) {
   JPEGDecoder decoder;
   decoder.StopWith(stop);
   if (!decoder.Open(file) || !decoder.IsPlausible()) return false;
-  decoder.ReduceBy(DivisorFor({.width = decoder.width(), .height = decoder.height()}, box));
+  const Turn turn(ReadPhotographNotes(file, {.upright = corrections.upright}).orientation);
+  decoder.ReduceBy(DivisorFor({.width = decoder.width(), .height = decoder.height()}, turn.SizeOf(box)));
   if (!dib.Create(decoder.OutputWidth(), decoder.OutputHeight()) || !decoder.Start()) return false;
   for (std::int32_t row = dib.height() - 1; row >= 0; --row) {
     if (!decoder.ReadRow(dib.Row(row))) return false;
   }
-  return decoder.Finish();
+  return decoder.Finish() && Correct(dib, file, corrections);
 }
 
 }  // namespace vantorium

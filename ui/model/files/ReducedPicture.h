@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/Corrections.h"
 #include "image/ResamplePlan.h"
 #include "image/cDIBSection.h"
 
@@ -13,8 +14,8 @@ namespace vantorium {
 [[nodiscard]] int DivisorFor(PictureSize picture, PictureSize box);
 
 /// Decodes a JPEG file into `dib` for viewing, no larger than `box` needs. Returns false for what LoadJPEGImage
-/// refuses, and after a stop; `dib` is then undefined.
+/// refuses, and after a stop; `dib` is then undefined. The corrections are made in the reduced picture.
 [[nodiscard]] bool LoadReducedPicture(cDIBSection& dib, const std::filesystem::path& file, PictureSize box,
-                                      const std::stop_token& stop = {});
+                                      const std::stop_token& stop = {}, Corrections corrections = {});
 
 }  // namespace vantorium

@@ -143,7 +143,7 @@ void MainModel::CleanUp() {
   project_.images.Clear();
   host_.View().ShowImages();
   host_.EnableMainWindow(false);
-  if (preferences_.TempFolderAutoClear == 1) {
+  if (IsOn(preferences_.TempFolderAutoClear)) {
     ShowShutdownStep("Clearing Temporary Folder");
     ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
   }
@@ -167,6 +167,7 @@ SampleSources MainModel::Samples() const {
     sources.defaultSamples.push_back(ports_.paths.ToText(*sample));
   }
   sources.tempFolderLocation = preferences_.TempFolderLocation;
+  sources.corrections = CorrectionsOf(project_.settings);
   return sources;
 }
 

@@ -24,7 +24,7 @@ class MainView {
 
   /// Shows the settings of the project as they are now.
   virtual void ShowSettings() = 0;
-  /// Shows the image list as it is now.
+  /// Shows the image list of the project, which may be another one than before.
   virtual void ShowImages() = 0;
   /// Starts to show the list's current row in the preview.
   virtual void ShowPreview() = 0;

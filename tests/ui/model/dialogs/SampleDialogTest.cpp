@@ -1,3 +1,4 @@
+#include "tests/fakes/PhotographMaker.h"
 #include "tests/fakes/SampleFakes.h"
 #include "ui/model/dialogs/SampleDialog.h"
 
@@ -37,6 +38,17 @@ class SampleDialogs : public testing::Test {
 TEST_F(SampleDialogs, TheSelectedImageIsTheSample) {
   EXPECT_EQ(OpenedWith({desk.Jpeg("red.jpg", kRed), {desk.Jpeg("blue.jpg", kBlue)}, ""}), "256 0 0");
   EXPECT_TRUE(desk.boxes.boxes.empty());
+}
+
+TEST_F(SampleDialogs, TheSampleIsCorrectedAsThePhotographsOfTheGallery) {
+  desk.folder.Write("lying.jpg", fakes::WithOrientation(fakes::MakeJpeg({.width = 40, .height = 30}), 6));
+  const std::string lying = desk.paths.ToText(desk.folder.Path() / "lying.jpg");
+  const auto widthOf = [&](Corrections corrections) {
+    SampleDialog dialog({lying, {}, "", corrections}, desk.Ports(), box);
+    return dialog.Open() ? dialog.Source().width() : 0;
+  };
+  EXPECT_EQ(widthOf({}), 40);
+  EXPECT_EQ(widthOf({.upright = true}), 30);
 }
 
 TEST_F(SampleDialogs, AnImageThatCannotBeLoadedIsSilentlyReplacedByTheFirstDefaultThatCan) {

@@ -1,4 +1,4 @@
-#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/PhotographMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/files/ImageSizeLabel.h"
 
@@ -10,6 +10,14 @@ TEST(ImageSizeLabel, HasTheSizesOfThePictureAndOfItsFile) {
   std::string jpeg = fakes::MakeJpeg({.width = 40, .height = 30});
   jpeg.resize(95 * 1024);  // bytes after the picture count for the file's size only
   EXPECT_EQ(ImageSizeLabel(folder.Write("a.jpg", jpeg)), "(40x30, 95KB)");
+}
+
+TEST(ImageSizeLabel, HasTheSizeOfTheUprightPhotographIfItIsTurned) {
+  const fakes::TemporaryFolder folder;
+  const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = 40, .height = 30}), 6);
+  const auto file = folder.Write("a.jpg", jpeg);
+  EXPECT_TRUE(ImageSizeLabel(file).starts_with("(40x30, "));
+  EXPECT_TRUE(ImageSizeLabel(file, true).starts_with("(30x40, "));
 }
 
 TEST(ImageSizeLabel, IsEmptyForWhatCannotBeRead) {

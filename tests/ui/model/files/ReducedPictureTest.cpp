@@ -1,5 +1,5 @@
 #include "image/JPEG.h"
-#include "tests/fakes/JpegMaker.h"
+#include "tests/fakes/PhotographMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/files/ReducedPicture.h"
 
@@ -109,6 +109,31 @@ TEST(ReducedPicture, AStopEndsIt) {
   stop.request_stop();
   EXPECT_FALSE(
       LoadReducedPicture(dib, folder.Write("a.jpg", MakeJpeg({})), {.width = 10, .height = 10}, stop.get_token()));
+}
+
+TEST(ReducedPicture, APhotographIsTurnedAndReducedByItsUprightSize) {
+  const fakes::TemporaryFolder folder;
+  const auto file = folder.Write("a.jpg", fakes::WithOrientation(MakeJpeg({.width = 160, .height = 80}), 6));
+  cDIBSection dib;
+  ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 40, .height = 160}, {}, {.upright = true}));
+  EXPECT_EQ(dib.width(), 40);
+  EXPECT_EQ(dib.height(), 80);
+  ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 40, .height = 160}));
+  EXPECT_EQ(dib.width(), 40);
+  EXPECT_EQ(dib.height(), 20);
+}
+
+TEST(ReducedPicture, ItsColorsAreConvertedIfTheyAreToBeTrue) {
+  const fakes::TemporaryFolder folder;
+  const std::string profile = fakes::ProfileOf(fakes::TestProfile::AdobeRGB);
+  const auto red = fakes::InProfile(profile, {200, 60, 40});
+  const auto pixels = [&red](int, int) { return std::array<std::uint8_t, 4>{red[0], red[1], red[2], 0}; };
+  const auto file = folder.Write("a.jpg", fakes::WithProfile(MakeJpeg({}, pixels), profile));
+  cDIBSection dib;
+  ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 90, .height = 90}, {}, {.trueColors = true}));
+  EXPECT_NEAR(dib.Row(0)[2], 200, 4);
+  ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 90, .height = 90}));
+  EXPECT_LT(dib.Row(0)[2], 190);
 }
 
 }  // namespace

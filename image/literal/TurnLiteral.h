@@ -1,0 +1,12 @@
+#pragma once
+
+#include "image/Orientation.h"
+#include "image/cDIBSection.h"
+
+namespace vantorium {
+
+/// Returns the picture as it stands upright, pixel by pixel: what UprightRows and TurnUpright must give. The reference
+/// for tests.
+[[nodiscard]] cDIBSection TurnLiteral(const cDIBSection& stored, Orientation orientation);
+
+}  // namespace vantorium

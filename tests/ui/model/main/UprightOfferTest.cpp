@@ -1,0 +1,106 @@
+#include "tests/fakes/PhotographMaker.h"
+#include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/TemporaryFolder.h"
+#include "ui/model/main/UprightOffer.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorium {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class UprightOfferTest : public testing::Test {
+ protected:
+  void Add(const std::string& name, std::size_t position = 0) {
+    ImageEntry entry{.ImageName = name, .SourcePath = "T:\\" + name};
+    project.images.Insert(position == 0 ? project.images.Count() + 1 : position, entry);
+  }
+  /// The names of the added photographs to look at, then "|" and those of the earlier ones; "none" if nothing is.
+  [[nodiscard]] std::string Looked() const {
+    const auto search = offer.AfterAdding();
+    if (!search) return "none";
+    std::string text;
+    for (const auto& file : search->added) text += file.filename().string() + " ";
+    text += "|";
+    for (const auto& file : search->earlier) text += " " + file.filename().string();
+    return text;
+  }
+
+  fakes::TemporaryFolder folder;
+  PathMap paths{{{'T', folder.Path().string()}}};
+  Project project;
+  fakes::RecordingMessageBox boxes;
+  UprightOffer offer{project, paths};
+};
+
+TEST_F(UprightOfferTest, WhatWasAddedIsLookedAtWhereverItIsInTheList) {
+  Add("a.jpg");
+  offer.BeforeAdding();
+  EXPECT_EQ(Looked(), "none");
+  Add("b.jpg", 1);
+  Add("a.jpg");
+  EXPECT_EQ(Looked(), "b.jpg a.jpg | a.jpg") << "the same file once more";
+}
+
+TEST_F(UprightOfferTest, APathThatNamesNoPlaceIsNotLookedAt) {
+  offer.BeforeAdding();
+  project.images.Insert(1, {.ImageName = "x", .SourcePath = "Q:\\x.jpg"});
+  EXPECT_EQ(Looked(), "none");
+}
+
+TEST_F(UprightOfferTest, TheUserIsAskedOnceForAProject) {
+  boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  EXPECT_FALSE(offer.Ask(boxes));
+  EXPECT_FALSE(offer.Ask(boxes));
+  offer.BeforeAdding();
+  Add("a.jpg");
+  EXPECT_EQ(Looked(), "none");
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::YesNo);
+  EXPECT_EQ(boxes.boxes[0].title, "Photographs on their Side");
+
+  offer.ForgetProject();
+  offer.BeforeAdding();
+  Add("b.jpg");
+  EXPECT_EQ(Looked(), "b.jpg | a.jpg");
+  EXPECT_TRUE(offer.Ask(boxes));
+}
+
+TEST_F(UprightOfferTest, NothingIsAskedIfThePhotographsAreTurnedAlready) {
+  project.settings.checkImagesUpright = 1;
+  offer.BeforeAdding();
+  Add("a.jpg");
+  EXPECT_EQ(Looked(), "none");
+  EXPECT_FALSE(offer.Ask(boxes));
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(UprightOfferTest, PhotographsThatLieAreFoundTheFirstTimeTheyAreAdded) {
+  const std::string jpeg = fakes::MakeJpeg({});
+  const auto upright = folder.Write("upright.jpg", jpeg);
+  const auto said = folder.Write("said.jpg", fakes::WithOrientation(jpeg, 1));
+  const auto lying = folder.Write("lying.jpg", fakes::WithOrientation(jpeg, 8));
+  const auto text = folder.Write("text.jpg", "no picture");
+  const auto missing = folder.Path() / "missing.jpg";
+  EXPECT_TRUE(FindsFirstLying({{upright, text, missing, lying}, {}}, {}));
+  EXPECT_TRUE(FindsFirstLying({{lying}, {upright, said, missing}}, {}));
+  EXPECT_FALSE(FindsFirstLying({{lying}, {upright, lying}}, {})) << "there was one before";
+  EXPECT_FALSE(FindsFirstLying({{upright, said, text, missing}, {}}, {}));
+  EXPECT_FALSE(FindsFirstLying({{}, {}}, {}));
+}
+
+TEST_F(UprightOfferTest, OnlyTheHeaderOfAFileIsNeeded) {
+  const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = 200, .height = 200}), 3);
+  EXPECT_TRUE(FindsFirstLying({{folder.Write("cut.jpg", jpeg.substr(0, fakes::PictureDataOf(jpeg)))}, {}}, {}));
+}
+
+TEST_F(UprightOfferTest, AStoppedSearchFindsNothing) {
+  const auto lying = folder.Write("lying.jpg", fakes::WithOrientation(fakes::MakeJpeg({}), 6));
+  std::stop_source stop;
+  stop.request_stop();
+  EXPECT_FALSE(FindsFirstLying({{lying}, {}}, stop.get_token()));
+}
+
+}  // namespace
+}  // namespace vantorium
