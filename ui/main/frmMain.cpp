@@ -131,7 +131,7 @@ void frmMain::BuildPages() {
 
 void frmMain::BuildMenus() {
   NameSeparators(*ui_->menuFile, {"menuFileSeparator1", "menuFileSeparator2"});
-  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator"});
+  NameSeparators(*ui_->menuOptions, {"menuOptionsSeparator", "menuOptionsSeparator2"});
   NameSeparators(*ui_->menuHelp, {"menuHelpSeparator1"});
   MakePopupTextMenu(*this);
   auto* view = static_cast<QToolButton*>(ui_->tbMain->widgetForAction(ui_->tbMainView));
@@ -155,6 +155,7 @@ void frmMain::ConnectCommands() {
   command({ui_->menuOptionsAvailableBrowsers}, [this] { EditBrowserList(); });
   command({ui_->menuOptionsSetTempFolderLocation}, [this] { SetTempFolderLocation(); });
   command({ui_->menuOptionsClearTempFolder}, [this] { ClearTemporaryFolder(); });
+  command({ui_->menuOptionsApplyTheme}, [this] { ApplyTheme(); });
   command({ui_->menuHelpOnlineHelp}, [this] { ShowHelp(); });
   command({ui_->menuHelpAbout}, [this] { ShowAbout(); });
 

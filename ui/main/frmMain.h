@@ -106,6 +106,7 @@ class frmMain : public QMainWindow,
   void EditBrowserList();
   void SetTempFolderLocation();
   void ClearTemporaryFolder();
+  void ApplyTheme();
   void ShowHelp();
   void ShowAbout();
   void BringToFront();

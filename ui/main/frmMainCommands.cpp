@@ -4,6 +4,7 @@
 #include "env/TempFolder.h"
 #include "ui/dialogs/AddBrowserDialog.h"
 #include "ui/dialogs/frmAbout.h"
+#include "ui/dialogs/frmApplyTheme.h"
 #include "ui/dialogs/frmBrowserList.h"
 #include "ui/dialogs/frmCreateGallery.h"
 #include "ui/dialogs/frmImageDescriptions.h"
@@ -14,6 +15,7 @@
 #include "ui/main/frmMain.h"
 #include "ui/main/frmShutdown.h"
 #include "ui/main/frmSysTray.h"
+#include "ui/model/dialogs/ThemeModel.h"
 #include "ui/qt/QtText.h"
 #include "ui_frmMain.h"
 
@@ -121,6 +123,17 @@ void frmMain::ClearTemporaryFolder() {
   HideInfoWindow();
   ShowBusyPointer(false);
   ports_.loop.Turn();
+}
+
+void frmMain::ApplyTheme() {
+  descriptions_->StorePlacings();
+  std::vector<ThemeFile> themes = FindThemes(ports_.bundled);
+  if (themes.empty()) {
+    ports_.boxes.Critical("File Error", "The themes cannot be found.");
+    return;
+  }
+  ThemeModel model(std::move(themes), project_, ports_.paths, ports_.boxes, ports_.loop);
+  if (frmApplyTheme(model, this).exec() == QDialog::Accepted) ShowProject();
 }
 
 void frmMain::ShowHelp() {

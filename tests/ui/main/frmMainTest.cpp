@@ -92,7 +92,8 @@ TEST_F(MainWindow, HasItsMenus) {
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuActionsView")),
             (Entries{"...in Default Browser [Ctrl+I]", "-", "Available Browsers..."}));
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuOptions")),
-            (Entries{"&Available Browsers...", "-", "Set &Temporary Folder Location...", "&Clear Temporary Folder"}));
+            (Entries{"&Available Browsers...", "-", "Set &Temporary Folder Location...", "&Clear Temporary Folder", "-",
+                     "App&ly Theme..."}));
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuHelp")), (Entries{"Open &Help File [F1]", "-", "&About..."}));
   Entries bar;
   for (const QAction* action : desk.window->menuBar()->actions()) bar.push_back(FromQt(action->text()));
@@ -102,7 +103,7 @@ TEST_F(MainWindow, HasItsMenus) {
 TEST_F(MainWindow, TheLinesOfItsMenusHaveNames) {
   desk.Start();
   const std::pair<const char*, Entries> menus[] = {{"menuFile", {"menuFileSeparator1", "menuFileSeparator2"}},
-                                                   {"menuOptions", {"menuOptionsSeparator"}},
+                                                   {"menuOptions", {"menuOptionsSeparator", "menuOptionsSeparator2"}},
                                                    {"menuHelp", {"menuHelpSeparator1"}}};
   for (const auto& [menu, expected] : menus) {
     Entries names;
