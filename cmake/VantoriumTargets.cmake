@@ -38,6 +38,19 @@ function(vantorium_library name)
   target_precompile_headers(${name} PRIVATE <algorithm> <cstdint> <filesystem> <memory> <optional> <string> <string_view> <vector>)
 endfunction()
 
+# vantorium_stage(FOLDER FILES...): copies each changed file into a folder, and adds the copies to the list `staged`, on
+# which a target must depend.
+function(vantorium_stage folder)
+  foreach(file ${ARGN})
+    cmake_path(GET file FILENAME name)
+    add_custom_command(OUTPUT ${folder}/${name}
+      COMMAND ${CMAKE_COMMAND} -E copy ${file} ${folder}/${name}
+      DEPENDS ${file} VERBATIM)
+    list(APPEND staged ${folder}/${name})
+  endforeach()
+  set(staged ${staged} PARENT_SCOPE)
+endfunction()
+
 # The environment of each test that runs the program's code: suppresses sanitizer reports about known problems of other
 # libraries.
 set(VANTORIUM_TEST_ENVIRONMENT "")

@@ -1,5 +1,8 @@
 #include "env/BundledFiles.h"
 
+#include <map>
+#include <string>
+
 namespace fs = std::filesystem;
 
 namespace vantorium {
@@ -10,6 +13,22 @@ std::optional<fs::path> BundledFiles::Find(std::string_view name) const {
     if (const fs::path file = folder / name; fs::is_regular_file(file, ignored)) return file;
   }
   return std::nullopt;
+}
+
+std::vector<fs::path> BundledFiles::FindAll(std::string_view folder, std::string_view extension) const {
+  std::map<std::string, fs::path> files;
+  for (const fs::path& place : folders_) {
+    std::error_code missing;
+    for (fs::directory_iterator entry(place / folder, missing); !missing && entry != fs::directory_iterator();
+         entry.increment(missing)) {
+      std::error_code ignored;
+      if (entry->path().extension() != extension || !entry->is_regular_file(ignored)) continue;
+      files.try_emplace(entry->path().filename().string(), entry->path());
+    }
+  }
+  std::vector<fs::path> found;
+  for (auto& [name, file] : files) found.push_back(std::move(file));
+  return found;
 }
 
 std::vector<fs::path> BundledFolders(const fs::path& programFolder, const Surroundings& around) {

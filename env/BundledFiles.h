@@ -19,6 +19,10 @@ class BundledFiles {
   /// Returns the file `name` in the first folder that has one, or nullopt if none has.
   [[nodiscard]] std::optional<std::filesystem::path> Find(std::string_view name) const;
 
+  /// Returns the files in the subfolder `folder` of all folders whose names end in `extension` (with its dot), in the
+  /// order of their names. Of files with the same name, only the one that Find returns is among them.
+  [[nodiscard]] std::vector<std::filesystem::path> FindAll(std::string_view folder, std::string_view extension) const;
+
  private:
   std::vector<std::filesystem::path> folders_;
 };

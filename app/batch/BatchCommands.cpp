@@ -5,8 +5,10 @@
 #include "app/batch/OutputNames.h"
 #include "app/batch/Password.h"
 #include "app/batch/ProjectJson.h"
+#include "app/batch/ThemeChoice.h"
 #include "core/ImageListOperations.h"
 #include "core/ProjectSession.h"
+#include "core/Theme.h"
 #include "core/generation/CreateGallery.h"
 #include "env/DriveTable.h"
 #include "env/PathText.h"
@@ -54,6 +56,8 @@ class BatchProgram {
 
  private:
   ExitCode New();
+  /// Returns false after messages if the theme at `path` cannot be read. Does nothing for an empty path.
+  [[nodiscard]] bool TakeTheme(const std::string& path);
   ExitCode Show();
   ExitCode Save();
   ExitCode Create();
@@ -113,7 +117,11 @@ bool BatchProgram::Refuse(const std::string& refusal) {
 }
 
 ExitCode BatchProgram::New() {
-  if (OutputIsAmong(options_.paths)) return ExitCode::WrongUsage;
+  const auto theme = ProjectOfTheme(options_.theme, programFolder_, paths_);
+  if (!theme) return ExitCode::WrongUsage;
+  std::vector<std::string> inputs = options_.paths;
+  if (!theme->empty()) inputs.push_back(*theme);
+  if (OutputIsAmong(inputs)) return ExitCode::WrongUsage;
   if (Refuse(RefusalOfNewProject(PathText(options_.output), options_.force, paths_))) return ExitCode::Failure;
   std::vector<std::string> found;
   for (const std::string& path : options_.paths) {
@@ -121,11 +129,19 @@ ExitCode BatchProgram::New() {
     if (Refuse(images.problem)) return ExitCode::Failure;
     found.insert(found.end(), images.paths.begin(), images.paths.end());
   }
+  if (!TakeTheme(*theme)) return ExitCode::Failure;
   if (options_.title) project_.settings.textGalleryTitle = *options_.title;
   project_.settings.checkImagesUpright = Flag{options_.upright};
   project_.settings.checkImagesTrueColors = Flag{options_.trueColors};
   if (!images_.AddFiles(found)) return ExitCode::Failure;
   return SaveTo(options_.output);
+}
+
+bool BatchProgram::TakeTheme(const std::string& path) {
+  if (path.empty()) return true;
+  const auto theme = ReadTheme(path, paths_, boxes_, loop_);
+  if (theme) ApplyTheme(project_.settings, *theme);
+  return theme.has_value();
 }
 
 ExitCode BatchProgram::Show() {

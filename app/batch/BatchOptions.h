@@ -27,6 +27,7 @@ struct BatchOptions {
   std::string project;
   std::string output;  ///< OUT.gpj, or INDEX-FILE
   std::optional<std::string> title;
+  std::string theme;  ///< the name of one that comes with the program, or a project; empty for none
   bool recursive = false;
   bool force = false;  ///< replace an existing project
   std::vector<std::string> paths;

@@ -92,6 +92,9 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   CLI::App& make = AddCommand(app, options, BatchCommand::New, "new", "Make a project of images and folders");
   make.add_option("OUT.gpj", options.output, "The project file to write")->required();
   make.add_option("--title", options.title, "Title of the gallery")->type_name("TEXT");
+  make.add_option("--theme", options.theme, "Take all settings but the title from a theme or a project")
+      ->type_name("NAME|PROJECT.gpj")
+      ->check([](const std::string& theme) { return std::string(theme.empty() ? "it is empty" : ""); });
   make.add_flag("--recursive", options.recursive, "Take the folders' sub folders too");
   make.add_flag("--force", options.force, "Replace a project that exists; any other file never is");
   make.add_flag("--upright", options.upright, "Turn photographs upright as they say");

@@ -82,7 +82,7 @@ ReadResult ProjectFileReader::ReadGallery(pugi::xml_node gallery, ProjectEditor&
   if (const pugi::xml_node images = gallery.child("IMAGES")) result = ReadImages(images, editor, images_, events_);
   if (result != ReadResult::Complete) return result;
   if (const pugi::xml_node thumbnails = gallery.child("THUMBNAILS")) {
-    result = ReadThumbnails(thumbnails, editor, project_.images, events_);
+    result = ReadThumbnails(thumbnails, editor, images_ != nullptr ? &project_.images : nullptr, events_);
   }
   if (result != ReadResult::Complete) return result;
   result = ReadThumbnailPage(gallery.child("THUMBNAILPAGE"), editor);

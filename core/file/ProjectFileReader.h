@@ -23,7 +23,11 @@ class ProjectFileReader {
  public:
   ProjectFileReader(Project& project, ImageListOperations& images, const PathMap& paths, MessageBoxPort& boxes,
                     WindowState& window, EventLoop& events)
-      : project_(project), images_(images), paths_(paths), boxes_(boxes), window_(window), events_(events) {}
+      : project_(project), images_(&images), paths_(paths), boxes_(boxes), window_(window), events_(events) {}
+  /// A reader of settings alone: it leaves out the images with their texts, so their files need not exist.
+  ProjectFileReader(Project& project, const PathMap& paths, MessageBoxPort& boxes, WindowState& window,
+                    EventLoop& events)
+      : project_(project), paths_(paths), boxes_(boxes), window_(window), events_(events) {}
 
   /// Resets the settings to those of a new project, then applies those of the file at `path` (path text) by the rules
   /// of an edit, and adds the file's images to the list, which the caller has cleared. On failure returns false, after
@@ -39,7 +43,7 @@ class ProjectFileReader {
   [[nodiscard]] ReadResult ReadGallery(pugi::xml_node gallery, ProjectEditor& editor);
 
   Project& project_;
-  ImageListOperations& images_;
+  ImageListOperations* images_ = nullptr;  ///< null: the images are left out
   const PathMap& paths_;
   MessageBoxPort& boxes_;
   WindowState& window_;

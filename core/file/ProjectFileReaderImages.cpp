@@ -8,7 +8,8 @@
 namespace vantorium {
 namespace {
 
-// Reads positions as 32-bit numbers, so that lists longer than 16 bits can count are restored.
+// The positions are 32-bit numbers, so that lists longer than 16 bits can count are restored.
+
 [[nodiscard]] bool AddImageElement(pugi::xml_node image, ImageListOperations& list) {
   const auto index = ParseInt32(AttributeOf(image, "INDEX").value_or(""));
   return list.AddImage(static_cast<std::size_t>(index), TextOrEmpty(image, "SOURCE"), TextOrEmpty(image, "NAME"),
@@ -21,6 +22,27 @@ namespace {
   const std::int64_t position = ParseInt32(*index);
   if (position < 1 || position > static_cast<std::int64_t>(list.Count())) return false;
   list.SetThumbnailDescription(static_cast<std::size_t>(position), MultilineText(thumbnail.child("DESCRIPTION")));
+  return true;
+}
+
+/// Returns false if an image is refused.
+[[nodiscard]] bool AddImages(pugi::xml_node images, ImageListOperations& list, EventLoop& events) {
+  RegularTurns turns(events);
+  for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
+    if (!AddImageElement(node, list)) return false;
+    turns.Step();
+  }
+  return true;
+}
+
+/// Returns false if a description is of no image.
+[[nodiscard]] bool DescribeThumbnails(pugi::xml_node thumbnails, ImageList& list, EventLoop& events) {
+  RegularTurns turns(events);
+  for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
+       node = NextElement(node, thumbnails, "THUMBNAIL")) {
+    if (!DescribeThumbnail(node, list)) return false;
+    turns.Step();
+  }
   return true;
 }
 
@@ -83,29 +105,20 @@ void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
 
 }  // namespace
 
-ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list, EventLoop& events) {
+ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations* list, EventLoop& events) {
   ReadTextOr(editor, images, "FOLDER", kImages.folder, DefaultOf(kImages.folder));
   ReadSwitch(editor, images, "UPRIGHT", &GalleryProject::checkImagesUpright);
   ReadSwitch(editor, images, "TRUECOLORS", &GalleryProject::checkImagesTrueColors);
-  RegularTurns turns(events);
-  for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
-    if (!AddImageElement(node, list)) return ReadResult::ImageRefused;
-    turns.Step();
-  }
+  if (list != nullptr && !AddImages(images, *list, events)) return ReadResult::ImageRefused;
   ReadCaptions(images, editor, kImages.captions);
   ReadDescriptionFrame(images, editor, kImages.description, kImages.description);
   if (const pugi::xml_node modify = images.child("MODIFY")) ReadImageModifications(modify, editor);
   return ReadResult::Complete;
 }
 
-ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list, EventLoop& events) {
+ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList* list, EventLoop& events) {
   ReadTextOr(editor, thumbnails, "FOLDER", kThumbnails.folder, "1");
-  RegularTurns turns(events);
-  for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
-       node = NextElement(node, thumbnails, "THUMBNAIL")) {
-    if (!DescribeThumbnail(node, list)) return ReadResult::InvalidThumbnailIndex;
-    turns.Step();
-  }
+  if (list != nullptr && !DescribeThumbnails(thumbnails, *list, events)) return ReadResult::InvalidThumbnailIndex;
   ReadCaptions(thumbnails, editor, kThumbnails.captions);
   // An absent header clears that of the images: existing files depend on it.
   ReadDescriptionFrame(thumbnails, editor, kThumbnails.description, kImages.description);

@@ -17,14 +17,14 @@ namespace vantorium {
 /// LAYOUT in `gallery`, with the slide show.
 [[nodiscard]] ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor);
 
-/// IMAGES: the images, their captions, the header and footer of their descriptions, their size and filters. The event
-/// loop gets a turn every 100 images.
-[[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations& list,
+/// IMAGES: the images, their captions, the header and footer of their descriptions, their size and filters. If `list`
+/// is null, the images are left out. The event loop gets a turn every 100 images.
+[[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations* list,
                                     EventLoop& events);
 
-/// THUMBNAILS: the descriptions of the thumbnails, and the rest as for the images. The event loop gets a turn every 100
-/// thumbnails.
-[[nodiscard]] ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList& list,
+/// THUMBNAILS: the descriptions of the thumbnails, left out if `list` is null, and the rest as for the images. The
+/// event loop gets a turn every 100 thumbnails.
+[[nodiscard]] ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList* list,
                                         EventLoop& events);
 
 /// The FILTER elements of a MODIFY, including the watermark.

@@ -44,6 +44,11 @@ class Gallery:
             raise RuntimeError(f"{old} is not there once in\n{text}")
         self._write(text.replace(old, new))
 
+    def describe(self, name, description):
+        """Gives an image without a description one."""
+        element = re.search(f'<IMAGE [^>]*NAME="{re.escape(name)}"[^>]*/>', self._read()).group()
+        self.replace(element, f"{element[:-2]}><DESCRIPTION><![CDATA[{description}]]></DESCRIPTION></IMAGE>")
+
     def names(self):
         """The names of the images in the order of the gallery."""
         return [image["ImageName"] for image in json.loads(self.run("show", self.project))["images"]]
@@ -104,4 +109,15 @@ def slideshow_of(batch, folder, made):
     show = '<SLIDESHOW FIRSTSLIDE="firstImage" NEXTSLIDE="nextImage" STARTOVER="firstImage" AUTOSTART="0" DELAY="1"/>'
     gallery.replace('BORDERS="0"/>', f'BORDERS="0">{show}</LAYOUT>')
     gallery.run("create", gallery.project, gallery.index, "--keep-existing")
+    return gallery
+
+
+def gallery_of_theme(batch, folder, photographs, theme):
+    """A gallery with the settings of a theme, but with thumbnail pages of ten and a long title and description."""
+    gallery = Gallery(batch, folder)
+    gallery.run("new", gallery.project, "--theme", theme, "--title", "A title " + "that goes on " * 8 + "x" * 60,
+                "--recursive", *[os.path.join(PHOTOGRAPHS, "nature"), *photographs[1:]])
+    gallery.edit(ARRANGEMENT__ROWS=1, ARRANGEMENT__COLS=10)
+    gallery.describe(gallery.names()[2], "A long description. " * 20 + "y" * 90)
+    gallery.run("create", gallery.project, gallery.index)
     return gallery

@@ -6,17 +6,15 @@ Exit code: 0 success, 1 failure.
 
 import argparse
 import os
-import shutil
-import signal
 import sys
-import tempfile
 import unittest
 from urllib.parse import unquote
 
 sys.dont_write_bytecode = True  # leaves the source folder unchanged
 
 import galleries
-from webdriver import Browser, missing_programs, wait_until
+from harness import run_tests
+from webdriver import Browser, wait_until
 
 SECONDS_FOR_ALL = 85
 THUMB_FRAME = "thumb_frame"
@@ -232,10 +230,6 @@ class Screenshots(GalleryInBrowser):
             self.browser.screenshot(os.path.join(folder, name + ".png"))
 
 
-def give_up(_signal, _frame):
-    raise TimeoutError(f"not done within {SECONDS_FOR_ALL} seconds")
-
-
 def prepare(batch, folder):
     photographs = galleries.photographs_of(folder)
     single = galleries.single_frame(batch, os.path.join(folder, "single"), photographs)
@@ -250,26 +244,13 @@ def main():
     parser.add_argument("--batch", required=True, metavar="PROGRAM", help="the batch program")
     parser.add_argument("--screenshots", metavar="FOLDER", help="save pictures of the galleries there")
     options = parser.parse_args()
-    lacking = missing_programs()
-    if not os.path.isdir(galleries.PHOTOGRAPHS):
-        lacking.append(galleries.PHOTOGRAPHS + " (package mate-backgrounds)")
-    if lacking:
-        print("Not installed:", ", ".join(lacking), "(packaging/install-dependencies tests)")
-        return 1
 
-    signal.signal(signal.SIGALRM, give_up)
-    signal.alarm(SECONDS_FOR_ALL)
-    folder = tempfile.mkdtemp(prefix="vantorium-browser-")
-    try:
+    def prepare_and_take(folder):
         prepare(os.path.abspath(options.batch), folder)
         if options.screenshots:
             Screenshots().take(options.screenshots)
-        result = unittest.main(argv=[sys.argv[0]], verbosity=2, exit=False).result
-        return 0 if result.wasSuccessful() else 1
-    finally:
-        if hasattr(GalleryInBrowser, "browser"):
-            GalleryInBrowser.browser.close()
-        shutil.rmtree(folder, ignore_errors=True)
+
+    return run_tests(GalleryInBrowser, prepare_and_take, SECONDS_FOR_ALL)
 
 
 if __name__ == "__main__":

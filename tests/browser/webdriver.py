@@ -12,6 +12,7 @@ import time
 
 ELEMENT = "element-6066-11e4-a52e-4f735466cecf"  # the key of an element's id, fixed by the protocol
 PATIENCE = 15  # seconds to wait for one event
+NARROWEST_DESK = 600  # pixels; a narrower screen is a telephone's
 
 CHROMIUM_FLAGS = [
     "--headless",
@@ -41,6 +42,7 @@ class Browser:
 
     def __init__(self, folder, width=1000, height=800):
         self._session = None
+        self._screen = (width, height)
         os.makedirs(folder, exist_ok=True)
         environment = dict(os.environ, HOME=folder, TMPDIR=folder)
         try:
@@ -132,6 +134,22 @@ class Browser:
         picture = self._send("GET", f"/session/{self._session}/screenshot")
         with open(file, "wb") as output:
             output.write(base64.b64decode(picture))
+
+    def set_screen(self, width, height):
+        """Shows pages on a screen of that size, which may be smaller than any window of the browser."""
+        self._screen = (width, height)
+        self._devtools("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=1,
+                       mobile=width < NARROWEST_DESK)
+
+    def photograph(self, file, width):
+        """Saves the screen of set_screen as a JPEG file, reduced to that width."""
+        area = dict(x=0, y=0, width=self._screen[0], height=self._screen[1], scale=width / self._screen[0])
+        picture = self._devtools("Page.captureScreenshot", format="jpeg", quality=82, clip=area)
+        with open(file, "wb") as output:
+            output.write(base64.b64decode(picture["data"]))
+
+    def _devtools(self, command, **parameters):
+        return self._command("goog/cdp/execute", cmd=command, params=parameters)
 
 
 def wait_until(what, condition):

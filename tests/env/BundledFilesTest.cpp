@@ -33,6 +33,29 @@ TEST(BundledFiles, AFolderOrALinkToNothingIsPassedOver) {
   EXPECT_EQ(files.Find("preview.jpg"), folder.Path() / "c/preview.jpg");
 }
 
+TEST(BundledFiles, AllOfASubfolderComeInTheOrderOfTheirNamesFromTheFirstFolderThatHasThem) {
+  const fakes::TemporaryFolder folder;
+  folder.Write("own/themes/b.gpj", "own");
+  folder.Write("installed/themes/b.gpj", "installed");
+  folder.Write("installed/themes/c.gpj", "installed");
+  folder.Write("installed/themes/a.gpj", "installed");
+  const BundledFiles files({folder.Path() / "own", folder.Path() / "missing", folder.Path() / "installed"});
+  EXPECT_EQ(files.FindAll("themes", ".gpj"),
+            (std::vector<fs::path>{folder.Path() / "installed/themes/a.gpj", folder.Path() / "own/themes/b.gpj",
+                                   folder.Path() / "installed/themes/c.gpj"}));
+}
+
+TEST(BundledFiles, OtherFilesAndFoldersAndLinksToNothingAreNotAmongThem) {
+  const fakes::TemporaryFolder folder;
+  for (const char* name : {"themes/a.png", "themes/b.gpj.bak", "themes/.gpj", "c.gpj", "themes/deep/d.gpj"}) {
+    folder.Write(name, "x");
+  }
+  fs::create_directories(folder.Path() / "themes/e.gpj");
+  fs::create_symlink("nothing", folder.Path() / "themes/f.gpj");
+  EXPECT_EQ(BundledFiles({folder.Path()}).FindAll("themes", ".gpj"), std::vector<fs::path>());
+  EXPECT_EQ(BundledFiles({}).FindAll("themes", ".gpj"), std::vector<fs::path>());
+}
+
 TEST(BundledFiles, TheFoldersAreTheProgramsAndTheInstallations) {
   const Surroundings around = {"/usr/bin/vantorium", "/home/me", ""};
   EXPECT_EQ(BundledFolders("/home/me/.config/vantorium", around),

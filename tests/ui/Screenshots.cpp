@@ -39,6 +39,7 @@ class Photographer {
     std::filesystem::create_directories(folder_);
     desk_.folder.Write("data/preview.jpg",
                        fakes::TemporaryFolder::ReadFile(fakes::SourceFolder() / "data/preview.jpg"));
+    std::filesystem::copy(fakes::SourceFolder() / "data/themes", desk_.folder.Path() / "data/themes");
     desk_.folder.Write("program/vantorium.ini",
                        "[BROWSERS]\r\nCount=\"2\"\r\nName1=\"Chromium\"\r\nLocation1=\"Z:\\usr\\bin\\chromium\"\r\n"
                        "Name2=\"Text Browser\"\r\nLocation2=\"Z:\\usr\\bin\\links\"\r\n");
@@ -131,6 +132,7 @@ class Photographer {
     TakeModal([&] { desk_.Trigger("menuOptionsAvailableBrowsers"); },
               [&](QWidget& list) { TakeModal([&] { Click(list, "btnAddBrowser"); }); });
     TakeModal([&] { desk_.Trigger("menuOptionsSetTempFolderLocation"); });
+    TakeModal([&] { desk_.Trigger("menuOptionsApplyTheme"); });
     TakeModal([&] { desk_.Trigger("menuHelpAbout"); });
     desk_.GoTo(1);
     Click(*desk_.window, "btnImagesDescriptions");

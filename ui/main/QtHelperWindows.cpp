@@ -2,6 +2,7 @@
 
 #include "publish/ServerListFile.h"
 #include "ui/dialogs/frmAbout.h"
+#include "ui/dialogs/frmApplyTheme.h"
 #include "ui/dialogs/frmBrowserList.h"
 #include "ui/dialogs/frmFileNameSettings.h"
 #include "ui/dialogs/frmFrameNameSettings.h"
@@ -39,6 +40,10 @@ QtHelperWindows::QtHelperWindows(MainModel& model, FieldBinder& binder, QWidget&
 void QtHelperWindows::ShowDescriptions() {
   descriptions_->FollowSelection();
   ComeUp(*descriptions_);
+}
+
+bool QtHelperWindows::ShowThemes(ThemeModel& themes) {
+  return frmApplyTheme(themes, &mainWindow_).exec() == QDialog::Accepted;
 }
 
 void QtHelperWindows::ShowAbout() {

@@ -53,6 +53,7 @@ class QtHelperWindows : public HelperWindows {
   void EnableTrayIcon(bool enabled) override { tray_->SetEnabled(enabled); }
   void StorePlacings() override { descriptions_->StorePlacings(); }
   void HideDescriptionsWindow() override { descriptions_->hide(); }
+  [[nodiscard]] bool ShowThemes(ThemeModel& themes) override;
   [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override { return create_->Ask(); }
   void ShowBrowserList(BrowserList& list) override;
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;

@@ -109,6 +109,7 @@ void frmMain::ConnectCommands() {
   command({ui_->menuOptionsAvailableBrowsers}, [this] { EditBrowserList(); });
   command({ui_->menuOptionsSetTempFolderLocation}, [this] { windows_.SetTempFolderLocation(); });
   command({ui_->menuOptionsClearTempFolder}, [this] { model_.ClearTemporaryFolder(); });
+  command({ui_->menuOptionsApplyTheme}, [this] { model_.ApplyTheme(); });
   command({ui_->menuHelpOnlineHelp}, [this] { model_.ShowHelp(); });
   command({ui_->menuHelpAbout}, [this] { windows_.ShowAbout(); });
   binder_.Bind(*ui_->menuOptionsUpright, &GalleryProject::checkImagesUpright);

@@ -95,7 +95,7 @@ TEST_F(MainWindow, HasItsMenus) {
             (Entries{"...in Default Browser [Ctrl+I]", "-", "Available Browsers..."}));
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuOptions")),
             (Entries{"&Available Browsers...", "-", "Set &Temporary Folder Location...", "&Clear Temporary Folder", "-",
-                     "Turn Photographs &Upright", "T&rue Colors of Photographs"}));
+                     "Turn Photographs &Upright", "T&rue Colors of Photographs", "App&ly Theme..."}));
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuHelp")), (Entries{"Open &Help File [F1]", "-", "&About..."}));
   Entries bar;
   for (const QAction* action : desk.window->menuBar()->actions()) bar.push_back(FromQt(action->text()));

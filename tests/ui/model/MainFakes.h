@@ -61,6 +61,10 @@ class RecordingHelperWindows : public HelperWindows {
     calls_.emplace_back("asked");
     return order;
   }
+  [[nodiscard]] bool ShowThemes(ThemeModel& /*themes*/) override {
+    calls_.emplace_back("themes");
+    return takesTheme;
+  }
   void ShowBrowserList(BrowserList& /*list*/) override { calls_.emplace_back("browser list"); }
   [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
     calls_.emplace_back("progress");
@@ -70,6 +74,7 @@ class RecordingHelperWindows : public HelperWindows {
   void CloseAll() override { calls_.emplace_back("all closed"); }
 
   std::function<void()> onPlacings;
+  bool takesTheme = false;
   std::optional<RunOrder> order;  ///< nullopt: the user cancels the dialog
   ProgressRecord progress;
 

@@ -2,6 +2,7 @@
 
 #include "core/generation/RunHost.h"
 #include "ui/model/dialogs/BrowserList.h"
+#include "ui/model/dialogs/ThemeModel.h"
 
 #include <memory>
 #include <string>
@@ -26,6 +27,8 @@ class HelperWindows {
   // Each shows its dialog modally.
   [[nodiscard]] virtual std::optional<RunOrder> AskWhatToCreate() = 0;
   virtual void ShowBrowserList(BrowserList& list) = 0;
+  /// Returns true if the user chose a theme and its settings were taken over.
+  [[nodiscard]] virtual bool ShowThemes(ThemeModel& themes) = 0;
 
   [[nodiscard]] virtual std::unique_ptr<ProgressWindow> CreateProgressWindow() = 0;
 

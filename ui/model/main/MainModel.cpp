@@ -5,6 +5,7 @@
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
 #include "publish/AsioFTPSocket.h"
+#include "ui/model/dialogs/ThemeModel.h"
 
 namespace vantorium {
 
@@ -112,6 +113,17 @@ void MainModel::ClearTemporaryFolder() {
   host_.HideInfoWindow();
   host_.ShowBusyPointer(false);
   ports_.loop.Turn();
+}
+
+void MainModel::ApplyTheme() {
+  host_.Windows().StorePlacings();
+  std::vector<ThemeFile> themes = FindThemes(ports_.bundled);
+  if (themes.empty()) {
+    ports_.boxes.Critical("File Error", "The themes cannot be found.");
+    return;
+  }
+  ThemeModel theme(std::move(themes), project_, ports_.paths, ports_.boxes, ports_.loop);
+  if (host_.Windows().ShowThemes(theme)) ShowProject();
 }
 
 void MainModel::ShowHelp() {

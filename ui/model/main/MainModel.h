@@ -46,6 +46,8 @@ class MainModel {
   /// `entry` asks for the name and the location of a browser.
   void EditBrowserList(BrowserEntryDialog& entry);
   void ClearTemporaryFolder();
+  /// Lets the user choose a theme and takes over its settings.
+  void ApplyTheme();
   void ShowHelp();
   /// Ends the program: asks about unsaved changes, saves the preferences, empties the list and, if the preferences say
   /// so, the temporary folder, and closes the helper windows. Returns false if the user cancels or if saving the

@@ -1,0 +1,35 @@
+#include "app/batch/ThemeChoice.h"
+
+#include "app/batch/Terminal.h"
+#include "core/Theme.h"
+#include "env/BundledFiles.h"
+#include "env/Text.h"
+
+namespace vantorium {
+namespace {
+
+bool IsPath(const std::string& typed) {
+  constexpr std::string_view kExtension = ".gpj";
+  const bool hasExtension =
+      typed.size() >= kExtension.size() &&
+      EqualsIgnoringCase(std::string_view(typed).substr(typed.size() - kExtension.size()), kExtension);
+  return hasExtension || typed.find_first_of("/\\") != std::string::npos;
+}
+
+}  // namespace
+
+std::optional<std::string> ProjectOfTheme(const std::string& typed, const std::filesystem::path& programFolder,
+                                          const PathMap& paths) {
+  if (typed.empty()) return typed;
+  if (IsPath(typed)) return paths.ToTextFromUser(typed);
+  const BundledFiles files(BundledFolders(programFolder, SurroundingsOfProcess()));
+  std::string names;
+  for (const ThemeFile& theme : FindThemes(files)) {
+    if (theme.name == typed) return paths.ToText(theme.project);
+    names += (names.empty() ? "" : ", ") + theme.name;
+  }
+  SayInOneLine("There is no theme \"" + typed + "\" among these: " + names + " (see --help)");
+  return std::nullopt;
+}
+
+}  // namespace vantorium
