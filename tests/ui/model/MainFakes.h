@@ -100,6 +100,8 @@ struct MainModelDesk {
     std::ignore = model.Images().AddFile("T:\\" + name);
     calls.clear();
   }
+  /// Changes the title as a user would.
+  void ChangeTitle(const std::string& title) { model.Editor().Set(&GalleryProject::textGalleryTitle, title); }
   /// Sets the answer of the project file dialog.
   void ChooseFile(const std::string& path) { fileBrowser.answer = {path, "", {path}}; }
   [[nodiscard]] bool Exists(const char* name) const { return std::filesystem::exists(folder.Path() / name); }

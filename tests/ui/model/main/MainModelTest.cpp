@@ -1,4 +1,4 @@
-// The commands of the main window, and the order of its start and its end.
+// The commands of the main window.
 #include "tests/ui/model/BrowserFakes.h"
 #include "tests/ui/model/MainFakes.h"
 
@@ -14,8 +14,6 @@ using fakes::Calls;
 class MainModelTest : public testing::Test {
  protected:
   [[nodiscard]] Project& Now() { return desk.model.CurrentProject(); }
-  /// Changes the title as a user would.
-  void ChangeTitle(const std::string& title) { desk.model.Editor().Set(&GalleryProject::textGalleryTitle, title); }
   /// The calls from `first` on.
   [[nodiscard]] Calls CallsFrom(const std::string& first) const {
     return {std::find(desk.calls.begin(), desk.calls.end(), first), desk.calls.end()};
@@ -23,60 +21,6 @@ class MainModelTest : public testing::Test {
 
   fakes::MainModelDesk desk;
 };
-
-// The start
-
-TEST_F(MainModelTest, TheStartReadsThePreferencesAndEndsWithANewProject) {
-  desk.folder.Write("program/vantorium.ini",
-                    "[FOLDERS]\r\nProjectFolder=\"T:\\mine\\\"\r\n[BROWSERS]\r\nCount=\"1\"\r\nName1=\"One\"\r\n"
-                    "Location1=\"T:\\one\"\r\n");
-  desk.model.Start("");
-  EXPECT_EQ(Calls(desk.calls.begin(), desk.calls.begin() + 5),
-            (Calls{"start step", "turn", "menus of 1", "start step", "turn"}));
-  EXPECT_EQ(Calls(desk.calls.end() - 2, desk.calls.end()), (Calls{"start step", "turn"}));
-  EXPECT_EQ(std::count(desk.calls.begin(), desk.calls.end(), "start step"), 3);
-  EXPECT_EQ(Now().LastProjectFolder, "T:\\mine\\");
-  EXPECT_EQ(Now().ProjectFileName, "Gallery1");
-  EXPECT_FALSE(Now().IsModified);
-  EXPECT_TRUE(Now().IsPristine);
-  EXPECT_TRUE(desk.boxes.boxes.empty());
-}
-
-TEST_F(MainModelTest, PreferencesThatCannotBeReadAreToldFirst) {
-  std::filesystem::create_directories(desk.folder.Path() / "program/vantorium.ini");
-  desk.model.Start("");
-  EXPECT_EQ(desk.calls.front(), "box File Error");
-  EXPECT_EQ(std::count(desk.calls.begin(), desk.calls.end(), "start step"), 3) << "and the program starts";
-}
-
-TEST_F(MainModelTest, TheProjectOfTheCommandLineIsShownAtTheStart) {
-  desk.Start();
-  ChangeTitle("Ferien");
-  desk.ChooseFile("T:\\ferien.gpj");
-  desk.model.SaveProject();
-  fakes::MainModelDesk next;
-  std::filesystem::copy(desk.folder.Path() / "ferien.gpj", next.folder.Path() / "ferien.gpj");
-  next.model.Start("\"T:\\ferien.gpj\"");
-  EXPECT_EQ(next.model.CurrentProject().settings.textGalleryTitle, "Ferien");
-  const Calls end(next.calls.end() - 8, next.calls.end());
-  EXPECT_EQ(end, (Calls{"settings", "list", "title Vantorium 3.0 - [ferien.gpj]", "preview", "images: 0 Image(s)",
-                        end[5], "start step", "turn"}));
-}
-
-TEST_F(MainModelTest, ACommandLineThatIsNoProjectLeavesTheNewOne) {
-  desk.model.Start("T:\\missing.gpj");
-  EXPECT_FALSE(desk.boxes.boxes.empty());
-  EXPECT_EQ(Now().ProjectFileName, "Gallery1");
-  EXPECT_EQ(desk.calls.back(), "turn") << "and the start goes on";
-}
-
-TEST_F(MainModelTest, ANewProjectPutsTheColorsOfTheDesktopIntoTheColorDialog) {
-  desk.view.systemColors[3] = 0x123456;
-  desk.Start();
-  EXPECT_EQ(desk.model.Colors().Custom(), desk.view.systemColors);
-}
-
-// The commands
 
 TEST_F(MainModelTest, EveryCommandThatSavesOrGeneratesStoresThePlacingsBeforeEverythingElse) {
   desk.Start();
@@ -91,7 +35,7 @@ TEST_F(MainModelTest, EveryCommandThatSavesOrGeneratesStoresThePlacingsBeforeEve
   };
   for (const auto& [name, run] : commands) {
     desk.calls.clear();
-    ChangeTitle(name);
+    desk.ChangeTitle(name);
     run();
     EXPECT_EQ(desk.calls.front(), "placings") << name;
     EXPECT_EQ(std::count(desk.calls.begin(), desk.calls.end(), "placings"), 1) << name;
@@ -101,7 +45,7 @@ TEST_F(MainModelTest, EveryCommandThatSavesOrGeneratesStoresThePlacingsBeforeEve
 TEST_F(MainModelTest, PlacingsThatAreStoredOnlyNowAreSavedBeforeTheProjectIsLeft) {
   desk.Start();
   desk.ChooseFile("T:\\x.gpj");
-  desk.windows.onPlacings = [this] { ChangeTitle("placed"); };
+  desk.windows.onPlacings = [this] { desk.ChangeTitle("placed"); };
   desk.boxes.answers = {BoxAnswer::Yes};
   EXPECT_TRUE(desk.model.ShutDown());
   EXPECT_EQ(desk.boxes.boxes.back().title, "Project modified");
@@ -110,7 +54,7 @@ TEST_F(MainModelTest, PlacingsThatAreStoredOnlyNowAreSavedBeforeTheProjectIsLeft
 
 TEST_F(MainModelTest, NewShowsTheNewProject) {
   desk.Start();
-  ChangeTitle("x");
+  desk.ChangeTitle("x");
   desk.boxes.answers = {BoxAnswer::No};
   desk.model.NewProject();
   EXPECT_EQ(Now().settings.textGalleryTitle, "Gallery2");
@@ -120,7 +64,7 @@ TEST_F(MainModelTest, NewShowsTheNewProject) {
 
 TEST_F(MainModelTest, NewThatTheUserCancelsKeepsTheProject) {
   desk.Start();
-  ChangeTitle("x");
+  desk.ChangeTitle("x");
   desk.boxes.answers = {BoxAnswer::Cancel};
   desk.model.NewProject();
   EXPECT_EQ(Now().settings.textGalleryTitle, "x");
@@ -153,7 +97,7 @@ TEST_F(MainModelTest, OpenWithoutAChosenFileKeepsTheProject) {
 
 TEST_F(MainModelTest, SaveWritesBehindAnInfoWindowAndShowsTheRepairedSettings) {
   desk.Start();
-  ChangeTitle("");
+  desk.ChangeTitle("");
   desk.ChooseFile("T:\\a.gpj");
   desk.model.SaveProject();
   EXPECT_TRUE(desk.Exists("a.gpj"));
@@ -280,75 +224,6 @@ TEST_F(MainModelTest, TheSampleIsTheCurrentImageAndElseOneOfTheProgram) {
   EXPECT_EQ(desk.model.Samples().tempFolderLocation, "T:\\program");
   desk.AddPhotograph("a.jpg");
   EXPECT_EQ(desk.model.Samples().selectedFile, "T:\\a.jpg");
-}
-
-// The end
-
-TEST_F(MainModelTest, TheEndSavesThePreferencesThenClearsTheProjectAndTheTemporaryFolderThenClosesTheWindows) {
-  desk.Start();
-  desk.AddPhotograph("a.jpg");
-  Now().IsModified = false;
-  desk.folder.Write("program/VANTORIUM_TEMP/old.htm", "x");
-  Now().LastProjectFolder = "T:\\mine\\";
-  bool hadPreferences = false;
-  std::size_t images = 1;
-  desk.loop.onTurn = [&](int) {
-    if (desk.calls.back() == "shutdown Clearing Project") {
-      hadPreferences = desk.folder.Read("program/vantorium.ini").find("T:\\mine\\") != std::string::npos;
-    }
-    if (desk.calls.back() == "shutdown Clearing Temporary Folder") images = Now().images.Count();
-  };
-  EXPECT_TRUE(desk.model.ShutDown());
-  EXPECT_EQ(desk.calls,
-            (Calls{"placings", "shutdown Saving Preferences", "busy", "shutdown Clearing Project", "list", "disabled",
-                   "shutdown Clearing Temporary Folder", "enabled", "shutdown Cleanup", "all closed", "idle"}));
-  EXPECT_TRUE(hadPreferences);
-  EXPECT_EQ(images, 0U);
-  EXPECT_FALSE(desk.Exists("program/VANTORIUM_TEMP/old.htm"));
-}
-
-TEST_F(MainModelTest, EveryStepOfTheEndIsDrawn) {
-  desk.Start();
-  std::ignore = desk.model.ShutDown();
-  for (std::size_t i = 0; i < desk.calls.size(); ++i) {
-    if (!desk.calls[i].starts_with("shutdown ")) continue;
-    EXPECT_EQ(desk.calls.at(i + 1), "turn") << desk.calls[i];
-  }
-  EXPECT_TRUE(desk.Called("shutdown Cleanup"));
-}
-
-TEST_F(MainModelTest, ATemporaryFolderThatIsKeptIsNotSpokenOf) {
-  desk.Start();
-  desk.folder.Write("program/VANTORIUM_TEMP/old.htm", "x");
-  desk.model.CurrentPreferences().TempFolderAutoClear = 0;
-  EXPECT_TRUE(desk.model.ShutDown());
-  EXPECT_FALSE(desk.Called("shutdown Clearing Temporary Folder"));
-  EXPECT_TRUE(desk.Exists("program/VANTORIUM_TEMP/old.htm"));
-}
-
-TEST_F(MainModelTest, NothingEndsIfTheUserCancelsOrTheSaveFails) {
-  desk.folder.Write("file", "");
-  desk.Start();
-  ChangeTitle("x");
-  for (const auto& [answer, file] : {std::pair{BoxAnswer::Cancel, "T:\\a.gpj"}, std::pair{BoxAnswer::Yes, ""},
-                                     std::pair{BoxAnswer::Yes, "T:\\file\\a.gpj"}}) {
-    desk.calls.clear();
-    desk.boxes.answers = {answer};
-    desk.ChooseFile(file);
-    EXPECT_FALSE(desk.model.ShutDown()) << file;
-    EXPECT_FALSE(desk.Called("shutdown Saving Preferences"));
-    EXPECT_FALSE(desk.Exists("program/vantorium.ini"));
-    EXPECT_EQ(Now().settings.textGalleryTitle, "x");
-  }
-}
-
-TEST_F(MainModelTest, NoToTheQuestionEndsWithoutSaving) {
-  desk.Start();
-  ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::No};
-  EXPECT_TRUE(desk.model.ShutDown());
-  EXPECT_TRUE(desk.fileBrowser.requests.empty());
-  EXPECT_EQ(desk.calls.back(), "idle");
 }
 
 }  // namespace
