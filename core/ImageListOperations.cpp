@@ -35,12 +35,12 @@ bool ImageListOperations::AddImage(std::size_t index, const std::string& sourceP
 
 /// Returns the position of the new row, or nullopt if its file cannot be read.
 std::optional<std::size_t> ImageListOperations::Add(std::size_t index, ImageEntry entry) {
-  if (!Keys(entry)) return std::nullopt;
+  if (!ReadSortKeys(entry)) return std::nullopt;
   return project_.images.Insert(index, std::move(entry));
 }
 
 /// Reads the sort keys of an entry from its file. On failure shows a message box and returns false.
-bool ImageListOperations::Keys(ImageEntry& entry) {
+bool ImageListOperations::ReadSortKeys(ImageEntry& entry) {
   try {
     entry.SizeKey = files_.GetFileSizeText(entry.SourcePath, true);
     entry.DateKey = files_.GetFileDateTimeText(entry.SourcePath, true);
@@ -105,7 +105,7 @@ bool ImageListOperations::MoveEntry(std::size_t fromIndex, std::size_t toIndex) 
   ImageList& images = project_.images;
   if (toIndex < 1 || toIndex > images.Count()) throw RuntimeFailure(FailureKind::IndexOutOfBounds);
   ImageEntry entry = images.Entry(fromIndex);
-  if (!Keys(entry)) return false;
+  if (!ReadSortKeys(entry)) return false;
   const bool isCurrent = images.Current() == fromIndex;
   images.Remove(fromIndex);
   const std::size_t position = images.Insert(toIndex, std::move(entry));

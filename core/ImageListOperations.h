@@ -84,7 +84,7 @@ class ImageListOperations {
   enum class Step { Up, Down };
 
   [[nodiscard]] std::optional<std::size_t> Add(std::size_t index, ImageEntry entry);
-  [[nodiscard]] bool Keys(ImageEntry& entry);
+  [[nodiscard]] bool ReadSortKeys(ImageEntry& entry);
   void MoveSelected(Step step);
   void SelectAsCurrent(std::size_t position);
   void SelectAtOrBefore(std::size_t position);

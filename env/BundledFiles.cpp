@@ -31,7 +31,7 @@ std::vector<fs::path> BundledFiles::FindAll(std::string_view folder, std::string
   return found;
 }
 
-std::vector<fs::path> BundledFolders(const fs::path& programFolder, const Surroundings& around) {
+std::vector<fs::path> BundledFolders(const fs::path& programFolder, const ProcessEnvironment& around) {
   std::vector<fs::path> folders = {programFolder};
   if (around.executable.is_absolute()) {
     folders.push_back((around.executable.parent_path() / ".." / "share" / "vantorium").lexically_normal());

@@ -32,6 +32,6 @@ class BundledFiles {
 /// installed, so an installation can be moved; a build folder with the same two folders works too. A link to the
 /// executable must be resolved.
 [[nodiscard]] std::vector<std::filesystem::path> BundledFolders(const std::filesystem::path& programFolder,
-                                                                const Surroundings& around);
+                                                                const ProcessEnvironment& around);
 
 }  // namespace vantorium

@@ -29,19 +29,19 @@ fs::path Cleaned(const fs::path& folder) {
   return clean.has_filename() || !clean.has_relative_path() ? clean : clean.parent_path();
 }
 
-fs::path UserConfigurations(const Surroundings& around) {
+fs::path UserConfigurations(const ProcessEnvironment& around) {
   const fs::path configured(around.xdgConfigHome);
   return configured.is_absolute() ? configured : fs::path(around.home) / ".config";
 }
 
 }  // namespace
 
-Surroundings SurroundingsOfProcess() {
+ProcessEnvironment EnvironmentOfProcess() {
   std::error_code ignored;
   return {fs::read_symlink("/proc/self/exe", ignored), HomeFolder(), Variable("XDG_CONFIG_HOME")};
 }
 
-fs::path FindProgramFolder(const std::optional<fs::path>& given, const Surroundings& around) {
+fs::path FindProgramFolder(const std::optional<fs::path>& given, const ProcessEnvironment& around) {
   if (given) return Cleaned(*given);
   std::error_code ignored;
   const fs::path beside = around.executable.parent_path();

@@ -9,21 +9,21 @@
 namespace vantorium {
 
 /// The environment of a process. An empty text is a variable that is not set.
-struct Surroundings {
+struct ProcessEnvironment {
   std::filesystem::path executable;  ///< of this process, absolute
   std::string home;                  ///< HOME, else the folder in the user database
   std::string xdgConfigHome;         ///< XDG_CONFIG_HOME
 };
 
 /// Returns the surroundings of this process.
-[[nodiscard]] Surroundings SurroundingsOfProcess();
+[[nodiscard]] ProcessEnvironment EnvironmentOfProcess();
 
 /// Returns the folder of the preferences, the server list and the upload log: a native path, absolute if the
 /// surroundings are. Creates nothing. It is `given` if that is set; else the executable's folder if it has a
 /// preferences file (a portable installation); else "vantorium" in the user's configuration folder (freedesktop.org,
 /// XDG base directories): XDG_CONFIG_HOME if that is absolute, else ".config" in the home folder.
 [[nodiscard]] std::filesystem::path FindProgramFolder(const std::optional<std::filesystem::path>& given,
-                                                      const Surroundings& around);
+                                                      const ProcessEnvironment& around);
 
 /// The preferences file of a program folder.
 [[nodiscard]] std::filesystem::path GetINIFileName(const std::filesystem::path& programFolder);

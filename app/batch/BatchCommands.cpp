@@ -27,7 +27,7 @@ namespace {
 std::filesystem::path ProgramFolderOf(const BatchOptions& options) {
   std::optional<std::filesystem::path> given;
   if (!options.programFolder.empty()) given = std::filesystem::absolute(options.programFolder);
-  return FindProgramFolder(given, SurroundingsOfProcess());
+  return FindProgramFolder(given, EnvironmentOfProcess());
 }
 
 unsigned JobsOf(const BatchOptions& options) {
@@ -46,7 +46,7 @@ class BatchProgram {
   explicit BatchProgram(const BatchOptions& options)
       : options_(options),
         programFolder_(ProgramFolderOf(options)),
-        paths_(ReadPathMap(GetINIFileName(programFolder_), SurroundingsOfProcess().home)),
+        paths_(ReadPathMap(GetINIFileName(programFolder_), EnvironmentOfProcess().home)),
         terminal_(ChooseProgressStyle(options.quiet, options.verbose)) {
     cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
     session_.NewProject();

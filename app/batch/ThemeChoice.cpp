@@ -22,7 +22,7 @@ std::optional<std::string> ProjectOfTheme(const std::string& typed, const std::f
                                           const PathMap& paths) {
   if (typed.empty()) return typed;
   if (IsPath(typed)) return paths.ToTextFromUser(typed);
-  const BundledFiles files(BundledFolders(programFolder, SurroundingsOfProcess()));
+  const BundledFiles files(BundledFolders(programFolder, EnvironmentOfProcess()));
   std::string names;
   for (const ThemeFile& theme : FindThemes(files)) {
     if (theme.name == typed) return paths.ToText(theme.project);

@@ -49,7 +49,7 @@ class Desktop {
   }
 
  private:
-  Surroundings around_ = SurroundingsOfProcess();
+  ProcessEnvironment around_ = EnvironmentOfProcess();
   std::filesystem::path programFolder_ = FindProgramFolder(std::nullopt, around_);
   PathMap paths_ = ReadPathMap(GetINIFileName(programFolder_), around_.home);
   RegionalFormats formats_;

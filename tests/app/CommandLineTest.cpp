@@ -131,7 +131,7 @@ Arguments Without(const std::string& option, const std::string& command) {
   return arguments;
 }
 
-TEST(CommandLine, WhatLeadsToAServerIsRequired) {
+TEST(CommandLine, TheOptionsThatNameTheServerAreRequired) {
   for (const char* command : {"publish", "upload"}) {
     for (const char* option : {"--server", "--user", "--password-file", "--remote"}) {
       EXPECT_TRUE(IsRefused(Without(option, command), option));
@@ -143,7 +143,7 @@ TEST(CommandLine, WhatLeadsToAServerIsRequired) {
   }
 }
 
-TEST(CommandLine, APasswordIsNoArgument) {
+TEST(CommandLine, APasswordIsNeverAnArgument) {
   for (const char* command : {"publish", "upload"}) {
     Arguments arguments = Without("", command);
     arguments.insert(arguments.end(), {"--password", "hush"});
@@ -207,7 +207,7 @@ TEST(CommandLine, CreationTimeIsATimeOfTheCalendarToTheLetter) {
   }
 }
 
-TEST(CommandLine, OptionsOfEveryCommandStandBeforeItOrBehindIt) {
+TEST(CommandLine, OptionsOfEveryCommandMayPrecedeOrFollowIt) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const Arguments options = {"--jobs", "2", "--quiet", "--creation-time", "2024-02-29 23:59:59"};
@@ -219,7 +219,7 @@ TEST(CommandLine, OptionsOfEveryCommandStandBeforeItOrBehindIt) {
   EXPECT_TRUE(Succeeded(place.Run(behind)));
 }
 
-TEST(CommandLine, BehindTwoDashesAPathMayBeginWithADash) {
+TEST(CommandLine, AfterTwoDashesAPathMayBeginWithADash) {
   const Workplace place;
   place.Photograph("-a.jpg");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "--", "-a.jpg"})));

@@ -97,7 +97,7 @@ TEST_F(CreateCommand, AllThreeSwitchesLeaveOutEverything) {
   EXPECT_EQ(Listing(), "");
 }
 
-TEST_F(CreateCommand, WhatExistsIsMadeAgain) {
+TEST_F(CreateCommand, ExistingFilesAreMadeAgain) {
   ASSERT_TRUE(Succeeded(Create()));
   const auto before = FilesBelow(place.Path("out"));
   for (const auto& [name, bytes] : before) place.Write("out/" + name, "old");
@@ -193,7 +193,7 @@ TEST_F(CreateCommand, AFolderMeansTheIndexFileInIt) {
   }
 }
 
-TEST_F(CreateCommand, AnIndexFileThatIsNoFileIsRefusedBeforeAnythingIsMade) {
+TEST_F(CreateCommand, AnIndexFileThatIsAFolderIsRefusedBeforeAnythingIsMade) {
   std::filesystem::create_directories(place.Path("out/index.htm/index.htm"));
   ASSERT_EQ(::mkfifo(place.Path("out/pipe.htm").c_str(), 0600), 0);
   for (const auto& [index, file] :
@@ -216,7 +216,7 @@ TEST_F(CreateCommand, TheProjectAsIndexFileIsAWrongCommandLine) {
   EXPECT_EQ(place.Read("a.gpj"), before);
 }
 
-TEST_F(CreateCommand, WhatAKilledRunLeftIsRemoved) {
+TEST_F(CreateCommand, FilesLeftByAKilledRunAreRemoved) {
   ChildProcess gone(place.Options({"show", "a.gpj"}));
   ASSERT_TRUE(Succeeded(gone.Finish()));
   for (const char* folder : {"out", "out/Images", "out/Thumbs"}) {

@@ -74,7 +74,7 @@ TEST_F(Interrupt, LeavesWhatWasMadeAndOnlyWholeFiles) {
   }
 }
 
-TEST_F(Interrupt, LeavesNoPictureBehindTheOneThatWasAnnounced) {
+TEST_F(Interrupt, LeavesNoPictureAfterTheOneThatWasAnnounced) {
   ChildProcess program(Create({"--verbose", "--jobs", "4"}));
   program.WaitForError(R"(Copying File "many.jpg_30")");
   program.Send(SIGINT);

@@ -104,7 +104,7 @@ TEST(NewCommand, SubFoldersAreLeftOut) {
   EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{"a.jpg"});
 }
 
-TEST(NewCommand, RecursiveTakesSubFoldersBehindTheFoldersOwnImages) {
+TEST(NewCommand, RecursiveAddsSubFoldersAfterTheFoldersOwnImages) {
   const Workplace place;
   for (const char* name :
        {"holiday/z.jpg", "holiday/b/2.jpg", "holiday/b/deep/3.jpg", "holiday/a/1.jpg", "holiday/c/4.jpg"}) {
@@ -183,7 +183,7 @@ TEST(NewCommand, APathThatDoesNotExistIsNamedAndNothingIsWritten) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 
-TEST(NewCommand, AFileThatIsNoJPEGIsNamedAndNothingIsWritten) {
+TEST(NewCommand, AFileThatIsNotAJPEGIsReportedAndNothingIsWritten) {
   const Workplace place;
   place.Write("a.png", "x");
   const ProcessResult result = place.Run({"new", "a.gpj", "a.png"});
@@ -255,7 +255,7 @@ TEST(NewCommand, APathTextKeepsTheDriveThatWasTyped) {
   EXPECT_EQ(Images(place, "a.gpj", "SourcePath"), (Texts{source, source}));
 }
 
-TEST(NewCommand, ANameThatIsNoTextIsNamedAndNothingIsWritten) {
+TEST(NewCommand, ANameThatIsNotUTF8IsReportedAndNothingIsWritten) {
   const Workplace place;
   place.Photograph("holiday/bad\xFFname.jpg");
   const ProcessResult result = place.Run({"new", "a.gpj", "holiday"});

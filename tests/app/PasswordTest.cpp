@@ -86,7 +86,7 @@ TEST_F(Password, IsNeverACommandOfItsOwn) {
   }
 }
 
-TEST_F(Password, OfAClosedStandardInputIsNone) {
+TEST_F(Password, CannotBeReadFromAClosedStandardInput) {
   StartOptions options = FromStandardInput();
   options.closedStreams = {0};
   const ProcessResult result = ChildProcess(options).Finish();

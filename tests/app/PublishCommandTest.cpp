@@ -122,7 +122,7 @@ TEST_F(PublishRefusal, OfAProjectWithoutImages) {
   EXPECT_FALSE(fs::exists(OnServer("web")));
 }
 
-TEST_F(PublishRefusal, OfWhatIsNoProject) {
+TEST_F(PublishRefusal, OfWhatIsNotAProject) {
   place.Write("a.gpj", "no XML");
   for (const char* project : {"a.gpj", "missing.gpj"}) {
     const ProcessResult result = PublishProject(project);

@@ -87,7 +87,7 @@ TEST(ShowCommand, PagesAreCounted) {
   EXPECT_EQ(ShowProject(place, "a.gpj").at("thumbnailPageCount"), 0);
 }
 
-TEST(ShowCommand, AFileThatIsNoProjectIsToldAndShownAsANewOne) {
+TEST(ShowCommand, AFileThatIsNotAProjectIsReportedAndShownAsANewOne) {
   for (const char* bytes : {"", "no XML", "<ANYTHING/>", "<GALLERYPROJECT"}) {
     const Workplace place;
     place.Write("a.gpj", bytes);
@@ -99,7 +99,7 @@ TEST(ShowCommand, AFileThatIsNoProjectIsToldAndShownAsANewOne) {
   }
 }
 
-TEST(ShowCommand, AFileThatDoesNotExistIsTold) {
+TEST(ShowCommand, AFileThatDoesNotExistIsReported) {
   const Workplace place;
   const ProcessResult result = place.Run({"show", "nowhere.gpj"});
   EXPECT_TRUE(EndedWith(1, result));

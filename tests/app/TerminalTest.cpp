@@ -58,7 +58,7 @@ TEST(Terminal, VerboseTellsOfSaving) {
   EXPECT_EQ(result.err, "Writing Project File \"" + place.Text("a.gpj") + "\"...\n");
 }
 
-TEST(Terminal, VerboseTextsStandInTheSameOrderForEveryNumberOfJobs) {
+TEST(Terminal, VerboseTextsAreInTheSameOrderForEveryNumberOfJobs) {
   const Workplace place;
   place.LargeProject("a.gpj", 30);
   const ProcessResult one = place.Run({"create", "a.gpj", "out/index.htm", "--verbose", "--jobs", "1"});

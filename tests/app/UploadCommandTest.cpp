@@ -37,7 +37,7 @@ TEST_P(UploadCommand, ALinkToAFolderIsNotFollowed) {
   EXPECT_TRUE(fs::exists(OnServer("web/pictures/old")));
 }
 
-TEST_P(UploadCommand, WhatIsThereIsReplacedUnlessItIsToBeKept) {
+TEST_P(UploadCommand, FilesOnTheServerAreReplacedUnlessTheyAreToBeKept) {
   place.Write(OnServer("web/index.htm"), "old");
   ASSERT_TRUE(Succeeded(Upload("web", {"--keep-existing"})));
   EXPECT_EQ(place.Read(OnServer("web/index.htm")), "old");

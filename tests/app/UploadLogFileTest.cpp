@@ -53,7 +53,7 @@ TEST_F(UploadLogFile, ARunWithoutAServerSaysNothingOfALogThatHasNoFolder) {
   EXPECT_EQ(result.err.find("Error writing Log"), std::string::npos) << result.err;
 }
 
-TEST_F(UploadLogFile, ALogThatCannotBeWrittenIsToldAndTheRunGoesOn) {
+TEST_F(UploadLogFile, ALogThatCannotBeWrittenIsReportedAndTheRunGoesOn) {
   std::filesystem::create_directory(place.Path("program/ftplog.txt"));
   const ProcessResult result = FailToCreate();
   EXPECT_TRUE(result.err.starts_with("File Error: ")) << result.err;

@@ -37,7 +37,7 @@ TEST_F(WatermarkFonts, WithoutAnyFontAMarkedImageFailsTheRunWhichSaysWhy) {
   EXPECT_EQ(ListingOf(place.Path("out")), "");
 }
 
-TEST_F(WatermarkFonts, WithoutAnyFontAMarkedThumbnailFailsTheRunBehindTheImages) {
+TEST_F(WatermarkFonts, WithoutAnyFontAMarkedThumbnailFailsTheRunAfterTheImages) {
   Mark("<THUMBNAILS FOLDER=\"Thumbs\">");
   const FontFolder none;
   const ProcessResult result = Create(none);

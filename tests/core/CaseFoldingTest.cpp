@@ -27,7 +27,7 @@ TEST(CaseFolding, AsciiBecomesLowerCaseAndNothingElse) {
   EXPECT_EQ(FoldCase(""), "");
 }
 
-TEST(CaseFolding, BytesThatAreNoTextStay) {
+TEST(CaseFolding, BytesThatAreNotUTF8StayAsTheyAre) {
   const std::pair<const char*, const char*> cases[] = {{"\xFFZ", "\xFFz"}, {"Z\xC3", "z\xC3"}, {"Z\x80", "z\x80"}};
   for (const auto& [text, expected] : cases) EXPECT_EQ(FoldCase(text), expected);
 }

@@ -86,7 +86,7 @@ TEST(GalleryProject, AColorIsReadAsAHexadecimalNumber) {
   for (const auto& [text, color] : cases) EXPECT_EQ(HexToColor(text), color) << text;
 }
 
-TEST(GalleryProject, ATextThatIsNoHexadecimalNumberIsAFailure) {
+TEST(GalleryProject, ATextThatIsNotAHexadecimalNumberIsAFailure) {
   for (const char* text : {"", "red", "#FF0000", "0xFF", "FF ", " FF", "-1", "+1", "F F", "1.0"}) {
     EXPECT_EQ(FailureOf(text), static_cast<std::int32_t>(FailureKind::TypeMismatch)) << '"' << text << '"';
   }

@@ -190,7 +190,7 @@ TEST_F(Remove, AllRowsSelectedLeaveNoCurrentRow) {
   EXPECT_EQ(images.Current(), 0U);
 }
 
-TEST_F(Remove, RowsGoOneByOneWithoutSelectingAnew) {
+TEST_F(Remove, RowsAreRemovedOneByOneWithoutSelecting) {
   Fill({"a", "b", "c"});
   Select({"b"});
   for (const Names& left : {Names{"a", "c"}, Names{"a"}, Names{}}) {

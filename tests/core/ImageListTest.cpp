@@ -64,7 +64,7 @@ ImageEntry Named(const std::string& name) {
 constexpr ListOrder kByName = {SortColumn::ImageName, SortDirection::Ascending};
 constexpr ListOrder kByNameDown = {SortColumn::ImageName, SortDirection::Descending};
 
-TEST(ImageList, RowsStandWhereTheyArePut) {
+TEST(ImageList, RowsAreInsertedAtTheirIndex) {
   ImageList list;
   EXPECT_TRUE(list.Empty());
   EXPECT_EQ(list.Insert(1, Named("b")), 1U);
@@ -198,7 +198,7 @@ TEST(ImageList, SelectionIsARowsOwn) {
   EXPECT_EQ(SelectedNames(list), Names{});
 }
 
-TEST(ImageList, DescriptionsAreSetWhereTheyBelong) {
+TEST(ImageList, DescriptionsAreSetInTheirOwnRows) {
   ImageList list = ListOf({"a", "b"});
   list.SetImageDescription(2, "image");
   list.SetThumbnailDescription(2, "thumbnail");
@@ -243,7 +243,7 @@ TEST(ImageList, EachColumnSorts) {
   }
 }
 
-TEST(ImageList, NewRowsFallIntoTheKeptOrderBehindTheirEquals) {
+TEST(ImageList, NewRowsAreSortedInAfterTheirEquals) {
   ImageList list = ListOf({"b", "d"});
   list.KeepSorted(kByName);
   EXPECT_TRUE(list.IsKeptSorted());
@@ -339,7 +339,7 @@ TEST(ImageList, RenamingAllNumbersTheRowsInListOrder) {
   EXPECT_EQ(list.Entry(5).ImageName, "x_4");
 }
 
-TEST(ImageList, RenamingAllSortsAnOrderByNameAnew) {
+TEST(ImageList, RenamingAllSortsAnOrderByNameAgain) {
   ImageList list = ListOf({"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l"});
   list.KeepSorted(kByNameDown);
   list.SetCurrent(1);

@@ -142,7 +142,7 @@ TEST_F(ProjectEditorTest, AnEmptyNumberStaysEmptyUntilTheRepair) {
   EXPECT_EQ(project.ThumbnailFrameSize, 200) << "an empty size is not stored";
 }
 
-TEST_F(ProjectEditorTest, DirectLinksThatAreNoNumberAreEmptied) {
+TEST_F(ProjectEditorTest, DirectLinksThatAreNotANumberAreEmptied) {
   for (const char* typed : {"abc", "1x", "-", " ", "all"}) {
     editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, "3");
     editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, typed);
@@ -194,7 +194,7 @@ TEST_F(ProjectEditorTest, TheSizingPriorityDecidesWhichFrameGetsTheSize) {
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
 }
 
-TEST_F(ProjectEditorTest, AFrameSizeThatIsNoNumberIsAFailureAndALargeOneIsNot) {
+TEST_F(ProjectEditorTest, AFrameSizeThatIsNotANumberIsAFailureAndALargeOneIsNot) {
   EXPECT_EQ(FailureOfFrameSize("abc"), static_cast<std::int32_t>(FailureKind::TypeMismatch));
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
   const std::pair<const char*, std::int32_t> cases[] = {{"32768", 32768}, {"99999", 99999}, {"1e300", 99999}};

@@ -66,7 +66,7 @@ TEST_F(ProjectSessionTest, ANewProjectOnAPristineOneDoesNothing) {
   EXPECT_EQ(project.ProjectFileName, "Gallery1");
 }
 
-TEST_F(ProjectSessionTest, ANewProjectBeginsEverythingAnewInItsOrder) {
+TEST_F(ProjectSessionTest, ANewProjectResetsEverythingInOrder) {
   project.IsPristine = false;
   project.settings.ImageHeader = "old";
   desk.AddImage("a.jpg");
@@ -215,7 +215,7 @@ TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
   EXPECT_EQ(States(), "pristine untitled");
 }
 
-TEST_F(ProjectSessionTest, ASaveBehindAFailedOpenAsksForANameAndTheOldFileStays) {
+TEST_F(ProjectSessionTest, ASaveAfterAFailedOpenAsksForANameAndKeepsTheOldFile) {
   GiveItAFile();
   const std::string before = desk.folder.Read("mine.gpj");
   desk.dialog.answers = {desk.File("bad.gpj", ProjectFileParts{.imagePage = "<IMAGEPAGE/>"}.Text())};
@@ -313,7 +313,7 @@ TEST_F(ProjectSessionTest, AnEmptyCommandLineDoesNothing) {
   EXPECT_EQ(desk.calls, Calls{});
 }
 
-TEST_F(ProjectSessionTest, ACommandLineThatIsNoProjectSaysSo) {
+TEST_F(ProjectSessionTest, ACommandLineThatIsNotAProjectIsReported) {
   session.OpenProjectFromCommandLine(desk.PathOf("missing.gpj"));
   ASSERT_EQ(desk.boxes.boxes.size(), 2U);
   EXPECT_EQ(desk.boxes.boxes[1].title, "File Error");

@@ -84,7 +84,7 @@ TEST_F(Theme, ItsImagesAreNeverLookedFor) {
   EXPECT_EQ(Messages(), std::vector<std::string>());
 }
 
-TEST_F(Theme, AFileThatIsNoWholeProjectIsRefusedWithTheReason) {
+TEST_F(Theme, AFileThatIsNotAWholeProjectIsRefusedWithTheReason) {
   ProjectFileParts noLayout;
   noLayout.layout = "";
   ProjectFileParts noNumber;

@@ -9,7 +9,7 @@
 namespace vantorium {
 namespace {
 
-TEST(UniqueNames, AFreeNameIsTakenAsItStands) {
+TEST(UniqueNames, AFreeNameIsTakenUnchanged) {
   UniqueNames names;
   EXPECT_EQ(names.Take("a.jpg"), "a.jpg");
   EXPECT_TRUE(names.IsTaken("a.jpg"));
@@ -107,7 +107,7 @@ TEST(UniqueNames, ClearFreesEverything) {
 }
 
 // A search from 1 for each name would take hours here.
-TEST(UniqueNames, AHundredThousandEqualNamesAreNoBurden) {
+TEST(UniqueNames, AHundredThousandEqualNamesTakeNoQuadraticTime) {
   constexpr int kCount = 100'000;
   UniqueNames names;
   for (int i = 0; i < kCount; ++i) names.Take("same.jpg");

@@ -16,7 +16,7 @@ TEST(BundledFiles, TheFirstFolderThatHasTheFileCounts) {
   EXPECT_EQ(files.Find("help.html"), folder.Path() / "installed/help.html");
 }
 
-TEST(BundledFiles, WhatIsNowhereIsNotFound) {
+TEST(BundledFiles, AFileInNoFolderIsNotFound) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(BundledFiles({folder.Path(), folder.Path() / "missing"}).Find("preview.jpg"), std::nullopt);
   EXPECT_EQ(BundledFiles({}).Find("preview.jpg"), std::nullopt);
@@ -57,7 +57,7 @@ TEST(BundledFiles, OtherFilesAndFoldersAndLinksToNothingAreNotAmongThem) {
 }
 
 TEST(BundledFiles, TheFoldersAreTheProgramsAndTheInstallations) {
-  const Surroundings around = {"/usr/bin/vantorium", "/home/me", ""};
+  const ProcessEnvironment around = {"/usr/bin/vantorium", "/home/me", ""};
   EXPECT_EQ(BundledFolders("/home/me/.config/vantorium", around),
             (std::vector<fs::path>{"/home/me/.config/vantorium", "/usr/share/vantorium"}));
   EXPECT_EQ(BundledFolders("/p", {"/build/dev/bin/vantorium", "", ""}),

@@ -13,7 +13,7 @@ TEST(DriveTable, EachLetterOfTheSectionHasItsFolder) {
   EXPECT_EQ(DrivesOf(" [drives] \nC=\"/a b/\xC3\xA4\""), (Drives{{'C', "/a b/\xC3\xA4"}}));
 }
 
-TEST(DriveTable, AKeyOfAnotherSectionIsNoDrive) {
+TEST(DriveTable, AKeyOfAnotherSectionIsNotADrive) {
   EXPECT_EQ(DrivesOf("C=\"/zero\"\n[A]\nC=\"/one\"\n[DRIVES]\nD=\"/two\"\n[B]\nC=\"/three\"\n"),
             (Drives{{'D', "/two"}}));
   EXPECT_EQ(DrivesOf("[DRIVES]\n[B]\nC=\"/three\"\n"), Drives());
@@ -25,7 +25,7 @@ TEST(DriveTable, TheFirstFolderOfALetterCounts) {
             (Drives{{'C', "/one"}, {'D', "/four"}}));
 }
 
-TEST(DriveTable, WhatIsNoLetterOrNoAbsoluteFolderIsPassedOver) {
+TEST(DriveTable, KeysThatAreNotLettersAndRelativeFoldersAreIgnored) {
   for (const char* line : {"CD=\"/a\"", "1=\"/a\"", "=\"/a\"", "C", "C:=\"/a\"", " C=\"/a\"", "C =\"/a\"", ";C=\"/a\"",
                            "C=", "C=\"", "C=\"\"", "C=\"a/b\"", "C=\"C:\\a\"", "C=\"~\"", "C= \"/a\"", "\xC3=\"/a\""}) {
     EXPECT_EQ(DrivesOf(std::string("[DRIVES]\n") + line), Drives()) << line;

@@ -71,7 +71,7 @@ TEST(FileCopy, AFileCopiedOntoItselfStays) {
   EXPECT_TRUE(fs::is_symlink(folder.Path() / "soft.jpg"));
 }
 
-TEST(FileCopy, WhatIsNoFileCannotBeCopied) {
+TEST(FileCopy, OnlyRegularFilesAreCopied) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -93,7 +93,7 @@ TEST(FileCopy, AReplacedFileKeepsItsPermissions) {
   EXPECT_EQ(fs::status(target).permissions(), fs::perms(0600));
 }
 
-TEST(FileCopy, WhatIsNoRegularFileIsNoTarget) {
+TEST(FileCopy, OnlyARegularFileIsReplacedByACopy) {
   const fakes::TemporaryFolder folder;
   const auto source = folder.Write("a.jpg", "new");
   const auto pipe = folder.Path() / "pipe";

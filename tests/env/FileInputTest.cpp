@@ -23,7 +23,7 @@ TEST(FileInput, AMissingFileIsNotFound) {
   EXPECT_EQ(FailureOf([] { std::ignore = ReadFileWhole("", 9); }), FailureKind::FileNotFound);
 }
 
-TEST(FileInput, WhatIsNoReadableFileIsAFailure) {
+TEST(FileInput, APathThatIsNotAReadableFileIsAFailure) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);

@@ -69,7 +69,7 @@ TEST(FileOutput, APrivateFileStaysPrivate) {
   }
 }
 
-TEST(FileOutput, AFolderIsNoTarget) {
+TEST(FileOutput, AFolderIsNotATarget) {
   const fakes::TemporaryFolder folder;
   fs::create_directory(folder.Path() / "sub");
   EXPECT_EQ(FailureOf([&] { WriteFileWhole(folder.Path() / "sub", "x"); }), FailureKind::FileAccess);
@@ -114,7 +114,7 @@ TEST(FileOutput, AKeptFileIsWrittenThroughItsLinks) {
   EXPECT_EQ(NamesIn(folder.Path() / "real"), (std::vector<std::string>{"a.ini", "new.ini"}));
 }
 
-TEST(FileOutput, WhatIsNoRegularFileIsNotReplaced) {
+TEST(FileOutput, OnlyRegularFilesAreReplaced) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);

@@ -14,7 +14,7 @@ TEST(INIText, ALineEndsAtCrLfOrEitherOfThem) {
   EXPECT_EQ(lines, (std::vector<std::string>{"a|\r\n", "b|\n", "c|\r", "|\r", "d|"}));
 }
 
-TEST(INIText, ASectionLineStandsAloneInItsLine) {
+TEST(INIText, ASectionNeedsALineOfItsOwn) {
   for (const char* line : {"[FOLDERS]", "[folders]", "  [Folders]  "}) {
     EXPECT_TRUE(IsSectionLine(line, "Folders")) << line;
     EXPECT_TRUE(IsSectionLine(line)) << line;
@@ -124,14 +124,14 @@ INSTANTIATE_TEST_SUITE_P(OldLines, INIWriting,
                                                  "; mine\r\n\r\n[Folders]\r\n# x\r\nKey=\"v\"\r\njunk \xFF\r\n"},
                                          Writing{"[Folders]\r\na=1\nKey=2\r", "[Folders]\r\na=1\nKey=\"v\"\r"}));
 
-TEST(INIText, AValueComesBackWhateverItHolds) {
+TEST(INIText, AnyValueIsReadBack) {
   for (const char* value : {"", "\"", "\"\"", "a\"b", " blanks ", "a=b", "[x]", ";", "C:\\gallery\\", "\xC3\xA4\xFF"}) {
     const std::string text = WithINIString("[Other]\r\n", "A", "x", value);
     EXPECT_EQ(FindINIString(text, "A", "x"), value);
   }
 }
 
-TEST(INIText, AnythingCanStandInTheFile) {
+TEST(INIText, AnyBytesCanBeRead) {
   const std::string texts[] = {std::string("\0\0[A]\0\nx=1\0\n", 12),
                                "[[[\n]]]\n===\n",
                                std::string(100'000, '['),

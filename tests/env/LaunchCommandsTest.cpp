@@ -77,7 +77,7 @@ TEST_F(LaunchCommandsTest, OnlyProgramsThatStartAnotherAreWatched) {
   EXPECT_GT(attempts[1].watched.count(), 0);
 }
 
-TEST_F(LaunchCommandsTest, AnEmptyLocationIsNoBrowser) {
+TEST_F(LaunchCommandsTest, AnEmptyLocationIsNotABrowser) {
   for (const char* location : {"", " ", "\t \r\n"}) {
     EXPECT_EQ(FailureOf([&] { std::ignore = ListedBrowser(location, kFile, paths); }), FailureKind::FileNotFound);
   }
@@ -114,7 +114,7 @@ TEST_F(LaunchCommandsTest, AFailureThatIsFoundLaterIsFollowedByTheSecondAttemptT
   EXPECT_EQ(failures, Words{"failure 2"});
 }
 
-TEST_F(LaunchCommandsTest, WhenBothFailedTheSecondFailureIsTold) {
+TEST_F(LaunchCommandsTest, WhenBothFailedTheSecondFailureIsReported) {
   FailingShell both(2);
   Launch(DefaultOpener(kFile, paths), both, note);
   EXPECT_EQ(failures, Words{"failure 2"});
@@ -156,7 +156,7 @@ TEST_F(ListedBrowserRuns, AProgramWithOptionsIsFoundByTheInterpreter) {
   EXPECT_EQ(Run(attempts[1]), "--new|" + (folder.Path() / "index.htm").string() + "|");
 }
 
-TEST_F(ListedBrowserRuns, WhatIsNoProgramFailsTwice) {
+TEST_F(ListedBrowserRuns, AFileThatIsNotAProgramFailsTwice) {
   for (ShellCommand& command : ListedBrowser("no-such-browser-here", "C:\\index.htm", paths)) {
     if (command.watched.count() > 0) command.watched = std::chrono::seconds(30);
     EXPECT_EQ(FailureOf([&] { StartProcess(command); }), FailureKind::FileNotFound) << command.words[0];

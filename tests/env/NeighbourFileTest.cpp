@@ -50,7 +50,7 @@ TEST(NeighbourFile, TwoOfOneTargetDoNotMeet) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
 }
 
-TEST(NeighbourFile, WhatAKilledProcessOfTheSameNumberLeftIsNoHindrance) {
+TEST(NeighbourFile, AFileOfAKilledProcessWithTheSameIDDoesNotMatter) {
   const fakes::TemporaryFolder folder;
   std::string left;
   {
@@ -113,7 +113,7 @@ pid_t DeadProcess() {
   return child;
 }
 
-TEST(NeighbourFile, WhatProcessesThatAreGoneLeftIsRemovedAndNothingElse) {
+TEST(NeighbourFile, OnlyFilesOfEndedProcessesAreRemoved) {
   const fakes::TemporaryFolder folder;
   const std::string dead = std::to_string(DeadProcess());
   const std::string abandoned = ".vantorium-" + dead + "-";

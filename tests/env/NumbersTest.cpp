@@ -48,7 +48,7 @@ TEST(Numbers, ANumberIsTheWholeTextWithoutTheBlanksAroundIt) {
   for (const auto& [text, value] : cases) EXPECT_EQ(ParseNumber(text), value) << "\"" << text << "\"";
 }
 
-TEST(Numbers, ATextThatIsNoNumberGivesNone) {
+TEST(Numbers, ATextThatIsNotANumberGivesNone) {
   for (const char* text :
        {"",    " ",  "-",  "+",   ".",   "-.",   "--5", "+-5",      "-+5", "++5", "5 5", "5px", "0x10",
         "1,5", "e5", "1e", "1e+", "inf", "-inf", "nan", "infinity", "NAN", "one", "5-",  "- 5", "\xD9\xA3"}) {

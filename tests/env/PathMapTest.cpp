@@ -7,7 +7,7 @@ namespace {
 const std::map<char, std::string> kDrives = {
     {'C', "/home/me"}, {'D', "/home/me/photos/"}, {'E', "/home/me/photos"}, {'Z', "/"}};
 
-TEST(PathMap, ADriveLetterStandsForItsFolder) {
+TEST(PathMap, ADriveLetterMeansItsFolder) {
   const PathMap map(kDrives);
   const std::pair<const char*, const char*> cases[] = {{"C:\\photos\\a.jpg", "/home/me/photos/a.jpg"},
                                                        {"c:\\a.jpg", "/home/me/a.jpg"},
@@ -22,7 +22,7 @@ TEST(PathMap, ADriveLetterStandsForItsFolder) {
   for (const auto& [text, native] : cases) EXPECT_EQ(map.ToNative(text), std::filesystem::path(native)) << text;
 }
 
-TEST(PathMap, OneLeadingSeparatorStandsForTheRootAndNoneForTheWorkingFolder) {
+TEST(PathMap, OneLeadingSeparatorMeansTheRootAndNoneTheWorkingFolder) {
   const PathMap map(kDrives);
   EXPECT_EQ(map.ToNative("\\etc\\fonts"), std::filesystem::path("/etc/fonts"));
   EXPECT_EQ(map.ToNative("/etc/fonts"), std::filesystem::path("/etc/fonts"));
@@ -31,7 +31,7 @@ TEST(PathMap, OneLeadingSeparatorStandsForTheRootAndNoneForTheWorkingFolder) {
   EXPECT_EQ(map.ToNative("1:\\a"), std::filesystem::path("1:/a"));
 }
 
-TEST(PathMap, WhatHasNoFolderHasNoNativePath) {
+TEST(PathMap, APathOnNoKnownDriveHasNoNativePath) {
   const PathMap map({{'C', "/home/me"}});
   for (const char* text :
        {"D:\\a", "z:", "\\\\server\\share\\a", "//server/share", "\\/server", "\\\\", "\\\\?\\C:\\a"}) {

@@ -11,7 +11,7 @@ struct Parts {
 
 class PathParts : public testing::TestWithParam<Parts> {};
 
-TEST_P(PathParts, FolderAndNameAreSplitBehindTheLastSeparator) {
+TEST_P(PathParts, FolderAndNameAreSplitAfterTheLastSeparator) {
   const auto& [path, folder, name] = GetParam();
   EXPECT_EQ(GetFilePath(path), folder) << path;
   EXPECT_EQ(GetFileName(path), name) << path;

@@ -76,7 +76,7 @@ TEST_F(PreferencesTest, AFileThatIsNoneOrHoldsNonsenseGivesTheDefaults) {
   EXPECT_EQ(Read(), Defaults());
 }
 
-TEST_F(PreferencesTest, WhatIsWrittenIsReadBack) {
+TEST_F(PreferencesTest, AllValuesAreReadBack) {
   WritePreferences(Everything(), file);
   EXPECT_EQ(Read(), Everything());
 }
@@ -198,7 +198,7 @@ TEST_F(PreferencesTest, AValueThatCannotBeWrittenIsPassedOver) {
   EXPECT_EQ(read.GalleryIndexFileName, "start.htm");
 }
 
-TEST_F(PreferencesTest, AReadOnlyFileIsNoFailureAtExitAndOneForTheBrowsers) {
+TEST_F(PreferencesTest, AReadOnlyFileFailsForTheBrowsersAndIsIgnoredAtExit) {
   folder.Write("vantorium.ini", "[FOLDERS]\n");
   fs::permissions(file, fs::perms(0444));
   WritePreferences(Everything(), file);

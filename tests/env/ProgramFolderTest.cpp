@@ -9,7 +9,7 @@ namespace {
 namespace fs = std::filesystem;
 using fakes::EnvironmentVariable;
 
-const Surroundings kInstalled = {"/usr/bin/vantorium-of-no-machine", "/home/me", ""};
+const ProcessEnvironment kInstalled = {"/usr/bin/vantorium-of-no-machine", "/home/me", ""};
 
 TEST(ProgramFolder, AGivenFolderIsTaken) {
   EXPECT_EQ(FindProgramFolder("/srv/v", kInstalled), "/srv/v");
@@ -20,14 +20,14 @@ TEST(ProgramFolder, AGivenFolderIsTaken) {
 
 TEST(ProgramFolder, APreferencesFileBesideTheExecutableMakesItPortable) {
   const fakes::TemporaryFolder folder;
-  const Surroundings around = {folder.Path() / "vantorium", "/home/me", "/etc/xdg"};
+  const ProcessEnvironment around = {folder.Path() / "vantorium", "/home/me", "/etc/xdg"};
   EXPECT_EQ(FindProgramFolder({}, around), "/etc/xdg/vantorium");
   folder.Write("vantorium.ini", "");
   EXPECT_EQ(FindProgramFolder({}, around), folder.Path());
   EXPECT_EQ(FindProgramFolder("/srv/v", around), "/srv/v");
 }
 
-TEST(ProgramFolder, AFolderOfThatNameIsNoPreferencesFile) {
+TEST(ProgramFolder, AFolderOfThatNameIsNotAPreferencesFile) {
   const fakes::TemporaryFolder folder;
   fs::create_directory(folder.Path() / "vantorium.ini");
   EXPECT_EQ(FindProgramFolder({}, {folder.Path() / "vantorium", "/home/me", ""}), "/home/me/.config/vantorium");
@@ -55,7 +55,7 @@ TEST(ProgramFolder, NothingIsMade) {
 TEST(ProgramFolder, TheProcessKnowsItsSurroundings) {
   const EnvironmentVariable home("HOME", "/home/me");
   const EnvironmentVariable xdg("XDG_CONFIG_HOME", "/x");
-  const Surroundings around = SurroundingsOfProcess();
+  const ProcessEnvironment around = EnvironmentOfProcess();
   EXPECT_EQ(around.executable.filename(), "test_env");
   EXPECT_TRUE(fs::is_regular_file(around.executable));
   EXPECT_EQ(around.home, "/home/me");
@@ -65,7 +65,7 @@ TEST(ProgramFolder, TheProcessKnowsItsSurroundings) {
 TEST(ProgramFolder, WithoutHomeTheUserDataBaseNamesIt) {
   const EnvironmentVariable home("HOME", nullptr);
   const EnvironmentVariable xdg("XDG_CONFIG_HOME", nullptr);
-  const Surroundings around = SurroundingsOfProcess();
+  const ProcessEnvironment around = EnvironmentOfProcess();
   EXPECT_TRUE(around.home.starts_with('/')) << around.home;
   EXPECT_EQ(around.xdgConfigHome, "");
 }

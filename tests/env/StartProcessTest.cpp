@@ -90,7 +90,7 @@ TEST(StartedProcess, IsWatchedWithoutWaitingUntilItEnds) {
   }
 }
 
-TEST(StartedProcess, IsLeftToItselfBehindItsTime) {
+TEST(StartedProcess, IsNoLongerWatchedAfterItsTime) {
   const StartedProcess process({{"/bin/sh", "-c", "exit 3"}, milliseconds(0)});
   EXPECT_FALSE(process.IsWatched());
 }

@@ -70,7 +70,7 @@ TEST_F(TempFolderLockTest, AFolderThatIsNotThereIsTakenByNobody) {
   EXPECT_FALSE(TempFolderLock({}).IsTakenElsewhere());
 }
 
-TEST_F(TempFolderLockTest, WhatARunWorksInIsNotCleared) {
+TEST_F(TempFolderLockTest, TheFolderOfARunIsNotCleared) {
   folder.Write("VANTORIUM_TEMP/Images/a.jpg", "half");
   {
     const TempFolderLock run(place);

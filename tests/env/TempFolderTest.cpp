@@ -85,7 +85,7 @@ TEST_F(TempFolderTest, AFolderThatIsNotThereIsNotDeleted) {
   EXPECT_FALSE(Delete("C:\\VANTORIUM_TEMP\\none\\deeper"));
 }
 
-TEST_F(TempFolderTest, AFileOfThatNameIsNoFolder) {
+TEST_F(TempFolderTest, AFileOfThatNameIsNotAFolder) {
   folder.Write("VANTORIUM_TEMP", "x");
   EXPECT_FALSE(Delete("C:\\VANTORIUM_TEMP"));
   EXPECT_EQ(folder.Read("VANTORIUM_TEMP"), "x");

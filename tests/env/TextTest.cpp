@@ -10,7 +10,7 @@ TEST(Text, OnlyAsciiLettersChangeTheirCase) {
   EXPECT_EQ(AsciiLower(std::string_view("A\0B", 3)), std::string("a\0b", 3));
 }
 
-TEST(Text, TextsAreEqualWhateverTheCaseOfTheirAsciiLetters) {
+TEST(Text, AsciiLettersAreComparedWithoutCase) {
   EXPECT_TRUE(EqualsIgnoringCase("", ""));
   EXPECT_TRUE(EqualsIgnoringCase("Key", "kEY"));
   EXPECT_FALSE(EqualsIgnoringCase("Key", "Key "));

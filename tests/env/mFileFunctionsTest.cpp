@@ -104,7 +104,7 @@ TEST_F(mFileFunctionsTest, AnUnknownKindAndAnImpossibleTimeHaveNoText) {
   EXPECT_EQ(files.FormatFileTime({0}, 0), "01.01.01");
 }
 
-TEST_F(mFileFunctionsTest, AFileOfAStrangeTimeHasATimeNevertheless) {
+TEST_F(mFileFunctionsTest, AFileWithAnExtremeTimeHasATime) {
   folder.Write("a.jpg", "x");
   for (const time_t seconds : {time_t{-20'000'000'000}, time_t{20'000'000'000}, time_t{1} << 60, -(time_t{1} << 60)}) {
     SetWriteTime("a.jpg", seconds);
@@ -145,7 +145,7 @@ TEST_F(mFileFunctionsTest, FileExistsTakesStarDotStarForEverything) {
   EXPECT_FALSE(files.FileExists("C:\\none\\*.*"));
 }
 
-TEST_F(mFileFunctionsTest, FileExistsFindsNothingBehindASeparator) {
+TEST_F(mFileFunctionsTest, FileExistsFindsNothingAfterATrailingSeparator) {
   fs::create_directory(folder.Path() / "sub");
   EXPECT_TRUE(files.FileExists("C:\\sub"));
   EXPECT_FALSE(files.FileExists("C:\\sub\\"));

@@ -34,7 +34,7 @@ TEST_F(mINIFileFunctionsTest, AMissingKeyIsTheProgramsOwnFailureAndAMissingFileT
   EXPECT_EQ(ReadINIString("a", "Y", file), "1");
 }
 
-TEST_F(mINIFileFunctionsTest, ThereIsNoIntegerWithoutAValue) {
+TEST_F(mINIFileFunctionsTest, AnEmptyValueIsNotAnInteger) {
   EXPECT_EQ(FailureOfReadingInteger("x"), FailureKind::Preferences);
   folder.Write("vantorium.ini", "[A]\r\ny=1\r\n");
   EXPECT_EQ(FailureOfReadingInteger("x"), FailureKind::Preferences);
@@ -50,7 +50,7 @@ TEST_F(mINIFileFunctionsTest, AnIntegerIsConverted) {
   EXPECT_EQ(FailureOfReadingInteger("e"), FailureKind::Overflow);
 }
 
-TEST_F(mINIFileFunctionsTest, WhatIsWrittenStandsInDoubleQuotationMarks) {
+TEST_F(mINIFileFunctionsTest, ValuesAreWrittenInDoubleQuotationMarks) {
   WriteINIString("FOLDERS", "CreateFolder", "C:\\gallery\\", file);
   WriteINIString("SETTINGS", "ImagesPreview", "1", file);
   WriteINIString("FOLDERS", "ProjectFolder", "C:\\projects", file);

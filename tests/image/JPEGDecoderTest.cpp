@@ -57,7 +57,7 @@ std::vector<std::int32_t> WrongRows(const std::filesystem::path& path, const Row
   return wrong;
 }
 
-TEST(JPEGDecoder, RowsBehindSkippedOnesComeOutAsIfAllWereRead) {
+TEST(JPEGDecoder, RowsAfterSkippedOnesAreTheSameAsIfAllWereRead) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     SCOPED_TRACE(testing::Message() << recipe);
     const Sample sample(recipe);
@@ -162,7 +162,7 @@ TEST(JPEGDecoder, AGivenUpFileStaysGivenUp) {
   EXPECT_FALSE(decoder.Finish());
 }
 
-TEST(JPEGDecoder, AnotherFileMayBeOpenedBehindABadOne) {
+TEST(JPEGDecoder, AnotherFileCanBeOpenedAfterABadOne) {
   const fakes::TemporaryFolder folder;
   JPEGDecoder decoder;
   EXPECT_FALSE(decoder.Open(folder.Write("text.jpg", "no picture")));

@@ -210,7 +210,7 @@ TEST_F(JPEG, HarmlessOdditiesAreLoaded) {
   }
 }
 
-TEST_F(JPEG, WhatIsNoReadableJPEGFileIsRefusedAndNothingChanges) {
+TEST_F(JPEG, AnUnreadableJPEGFileIsRefusedAndNothingChanges) {
   std::filesystem::create_directory(folder_.Path() / "folder");
   ASSERT_EQ(::mkfifo((folder_.Path() / "pipe").c_str(), 0600), 0);
   folder_.Write("empty", "");
@@ -301,7 +301,7 @@ TEST_F(JPEG, ThePictureJustLoadedMayBeSavedToItsFile) {
   EXPECT_EQ(fakes::TemporaryFolder::ReadFile(path), EncodeJPEG(dib_, 40));
 }
 
-TEST_F(JPEG, WhatCannotBeWrittenIsAFailureWithTheLibrarysNumber) {
+TEST_F(JPEG, AFileThatCannotBeWrittenFailsWithLibjpegsNumber) {
   const auto readOnly = folder_.Write("old.jpg", "old");
   std::filesystem::permissions(readOnly, std::filesystem::perms::owner_read);
   std::filesystem::create_directory(folder_.Path() / "folder");
@@ -318,7 +318,7 @@ TEST_F(JPEG, WhatCannotBeWrittenIsAFailureWithTheLibrarysNumber) {
   EXPECT_EQ(folder_.Read("old.jpg"), "old");
 }
 
-TEST_F(JPEG, WhatCannotBeEncodedIsAFailureWithTheLibrarysNumber) {
+TEST_F(JPEG, APictureThatCannotBeEncodedFailsWithLibjpegsNumber) {
   EXPECT_EQ(fakes::FailureOf([] { std::ignore = EncodeJPEG(cDIBSection(), 85); }), FailureKind::JPEGLibrary);
   cDIBSection cleared = fakes::Plain(4, 4, {});
   cleared.ClearUp();

@@ -35,7 +35,7 @@ TEST(LogFont, TheWeightLosesItsSign) {
   EXPECT_EQ(MakeWatermarkFont({.FontWeight = -32768}, 96).lfWeight, 32768);
 }
 
-TEST(LogFont, WhatTheSettingsDoNotNameIsZero) {
+TEST(LogFont, FieldsWithoutASettingAreZero) {
   const LogFont font = MakeWatermarkFont({}, 96);
   EXPECT_EQ(font.lfEscapement, 0);
   EXPECT_EQ(font.lfOrientation, 0);

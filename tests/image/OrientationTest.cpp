@@ -25,7 +25,7 @@ TEST(TurnUpright, AWholePictureIsTurnedAsPixelByPixel) {
   }
 }
 
-TEST(TurnUpright, APictureStoredWithItsTopAtTheRightIsTurnedLeftToStandUpright) {
+TEST(TurnUpright, APictureStoredWithItsTopAtTheRightIsTurnedLeftToAreUpright) {
   cDIBSection picture = fakes::Plain(3, 2, {0, 0, 0});
   picture.Row(1)[0] = 255;  // blue at the top left of what is stored
   ASSERT_TRUE(TurnUpright(picture, Orientation::TurnLeft));

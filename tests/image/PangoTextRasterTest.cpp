@@ -72,7 +72,7 @@ TEST_F(PangoTextRasterTest, ArialIsLiberationSans) {
   EXPECT_EQ(raster.Measure(FontOf(-1000), "HHH", TextForm::Lines).width, 3 * 722);
 }
 
-TEST_F(PangoTextRasterTest, AFontThatDoesNotExistHasAStandIn) {
+TEST_F(PangoTextRasterTest, AFontThatDoesNotExistIsSubstituted) {
   for (const char* name : {"No Such Font", "",
                            "Ari\xFF"
                            "al",
@@ -114,21 +114,21 @@ TEST_F(PangoTextRasterTest, EachLineAddsItsHeight) {
   EXPECT_EQ(raster.Measure(font, "", TextForm::Lines), TextExtent());
 }
 
-TEST_F(PangoTextRasterTest, LinesStandBelowEachOtherAtTheLeft) {
+TEST_F(PangoTextRasterTest, LinesAreLeftAlignedBelowEachOther) {
   const LogFont font = FontOf(-48);
   Pixels wanted = PixelsOf(DrawLines(font, "HH", 7, 9));
   wanted.merge(PixelsOf(DrawLines(font, "I", 7, 9 + 53)));
   EXPECT_EQ(PixelsOf(DrawLines(font, "HH\r\nI", 7, 9)), wanted);
 }
 
-TEST_F(PangoTextRasterTest, TheTextStandsAtItsPosition) {
+TEST_F(PangoTextRasterTest, TheTextIsDrawnAtItsPosition) {
   const Pixels at = PixelsOf(DrawLines(FontOf(-48), "SAMPLE", 100, 50));
   Pixels moved;
   for (const auto& [x, y] : PixelsOf(DrawLines(FontOf(-48), "SAMPLE"))) moved.emplace(x + 100, y + 50);
   EXPECT_EQ(at, moved);
 }
 
-TEST_F(PangoTextRasterTest, WhatIsOutsideOfThePictureIsCutOff) {
+TEST_F(PangoTextRasterTest, TextOutsideThePictureIsClipped) {
   Pixels wanted;
   for (const auto& [x, y] : PixelsOf(DrawLines(FontOf(-48), "SAMPLE"))) {
     if (x >= 100 && y >= 20) wanted.emplace(x - 100, y - 20);
@@ -142,7 +142,7 @@ TEST_F(PangoTextRasterTest, WhatIsOutsideOfThePictureIsCutOff) {
   EXPECT_TRUE(PixelsOf(raster.Draw(FontOf(-48), "SAMPLE", {}, -1, 40000)).empty());
 }
 
-TEST_F(PangoTextRasterTest, ATurnedLineStandsOnTheMiddleOfItsLowerEdge) {
+TEST_F(PangoTextRasterTest, ATurnedLineIsAnchoredAtTheMiddleOfItsLowerEdge) {
   const LogFont font = FontOf(-48, 700);
   const std::int32_t x = kWidth / 2;
   const std::int32_t y = kHeight / 2;
@@ -254,7 +254,7 @@ TEST_F(PangoTextRasterTest, ArabicLettersAreJoined) {
             3 * raster.Measure(FontOf(-48), beh, TextForm::Lines).width);
 }
 
-TEST_F(PangoTextRasterTest, WhatIsNoTextIsDrawnAsItsReplacement) {
+TEST_F(PangoTextRasterTest, InvalidUTF8IsDrawnAsReplacementCharacters) {
   EXPECT_EQ(PixelsOf(DrawLines(FontOf(-48),
                                "a\xFF"
                                "b")),

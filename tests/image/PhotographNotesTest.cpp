@@ -38,7 +38,7 @@ TEST_F(PhotographNotesTest, WhatIsAskedForIsReadAndNothingElse) {
   EXPECT_EQ(Read(photograph, {}).orientation, Orientation::AsStored);
 }
 
-TEST_F(PhotographNotesTest, AFileWithoutNotesStandsAsItIsStored) {
+TEST_F(PhotographNotesTest, AFileWithoutNotesIsAsItIsStored) {
   const auto notes = Read(jpeg);
   EXPECT_EQ(notes.orientation, Orientation::AsStored);
   EXPECT_TRUE(notes.profile.empty());
@@ -66,7 +66,7 @@ TEST_F(PhotographNotesTest, BytesThatBelongToNoSegmentAreSkipped) {
   EXPECT_EQ(OrientationWith(std::string("\xFF\0", 2) + six), 6) << "a stuffed zero";
 }
 
-TEST_F(PhotographNotesTest, NotesBehindThePictureAreNotItsOwn) {
+TEST_F(PhotographNotesTest, NotesAfterThePictureAreNotItsOwn) {
   EXPECT_EQ(Read(jpeg + JpegSegment(kAPP1, ExifOf(6))).orientation, Orientation::AsStored);
   EXPECT_EQ(OrientationWith("\xFF\xD9" + JpegSegment(kAPP1, ExifOf(6))), 1) << "after the end of another picture";
 }
@@ -81,7 +81,7 @@ TEST_F(PhotographNotesTest, AFileThatEndsInTheMiddleOfANoteIsReadToItsEndAndSays
   }
 }
 
-TEST_F(PhotographNotesTest, WhatIsNoJpegFileHasNoNotes) {
+TEST_F(PhotographNotesTest, WhatIsNotAJpegFileHasNoNotes) {
   const std::string six = JpegSegment(kAPP1, ExifOf(6));
   for (const std::string& bytes : {std::string(), std::string("\xFF"), six, "text" + jpeg, std::string(500, '\xFF')}) {
     EXPECT_EQ(Read(bytes).orientation, Orientation::AsStored);

@@ -117,7 +117,7 @@ TEST_F(PictureTest, AFileThatLacksOnlyItsEndMarkMakesTheSamePictures) {
   }
 }
 
-TEST_F(PictureTest, WhatIsNoPictureIsNotDecoded) {
+TEST_F(PictureTest, AFileThatIsNotAPictureIsNotDecoded) {
   for (const std::string& bytes : {std::string(), std::string("text"), std::string(5000, '\xFF')}) {
     EXPECT_FALSE(Make(bytes, {Sized(5, 5), {}}).decoded) << bytes.substr(0, 10);
   }

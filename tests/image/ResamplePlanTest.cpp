@@ -54,7 +54,7 @@ TEST(ResamplePlan, RowsThatAreAskedForAreMarkedAndNoOthers) {
   }
 }
 
-TEST(ResamplePlan, WhatIsInColumnsWithoutAMarkDoesNotShow) {
+TEST(ResamplePlan, UnmarkedColumnsDoNotChangeTheResult) {
   for (const std::int32_t newWidth : {1, 2, 9, 30, 49, 50, 51, 120}) {
     const ResamplePlan plan({50, 50}, {newWidth, newWidth == 50 ? 50 : 20});
     WantedPixels pixels(50, 50);
@@ -73,7 +73,7 @@ TEST(ResamplePlan, WhatIsInColumnsWithoutAMarkDoesNotShow) {
   }
 }
 
-TEST(ResamplePlan, NothingBehindTheNewRowIsWritten) {
+TEST(ResamplePlan, NothingIsWrittenBeyondTheNewRow) {
   for (std::int32_t width = 1; width < 300; ++width) {
     const ResamplePlan plan({50, 50}, {width, 20});
     const std::vector<std::uint8_t> source(150, 7);

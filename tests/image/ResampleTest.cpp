@@ -121,7 +121,7 @@ TEST(Resample, TiesGoToTheEvenByte) {
   }
 }
 
-TEST(Resample, WhatCannotBeCreatedIsNull) {
+TEST(Resample, APictureThatCannotBeCreatedIsNull) {
   const cDIBSection source = fakes::Plain(4, 4, {});
   constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
   constexpr std::pair<std::int32_t, std::int32_t> kSizes[] = {{0, 4}, {4, 0}, {-4, 4}, {4, -4}, {kMost, kMost}};

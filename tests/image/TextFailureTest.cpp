@@ -47,7 +47,7 @@ Failure UnreadableFile(const std::filesystem::path& file) {
   return {"The watermark cannot be drawn: the font file \"" + file.string() + "\" cannot be read.", 75};
 }
 
-TEST(TextFailure, WhereNoFontIsInstalledDrawingFailsAndSaysSo) {
+TEST(TextFailure, WithoutAnInstalledFontDrawingFailsWithAMessage) {
   const FontFolder fonts;
   EXPECT_EQ(FailureToDraw("text"), kNoFont);
   EXPECT_EQ(FailureToDraw("text", TextForm::Turned), kNoFont);
@@ -55,7 +55,7 @@ TEST(TextFailure, WhereNoFontIsInstalledDrawingFailsAndSaysSo) {
   EXPECT_EQ(FailureIn([&] { std::ignore = raster.Measure({}, "text", TextForm::Lines); }), kNoFont);
 }
 
-TEST(TextFailure, WhereNoFontIsInstalledAnEmptyTextIsStillDrawn) {
+TEST(TextFailure, WithoutAnInstalledFontAnEmptyTextIsDrawn) {
   const FontFolder fonts;
   EXPECT_EQ(FailureToDraw(""), Failure());
 }
@@ -75,7 +75,7 @@ TEST(TextFailure, AFontFileThatCannotBeReadIsNamed) {
   EXPECT_EQ(FailureToDraw("text", TextForm::Turned), UnreadableFile(file));
 }
 
-TEST(TextFailure, SoIsTheFileOfAFontThatStandsInForMissingLetters) {
+TEST(TextFailure, TheFileOfAFallbackFontIsNamedToo) {
   const FontFolder fonts;
   fonts.Add(kSans);
   const auto file = fonts.Add(kArabic);
@@ -88,7 +88,7 @@ TEST(TextFailure, SoIsTheFileOfAFontThatStandsInForMissingLetters) {
   EXPECT_EQ(FailureIn([&] { draw("text"); }), Failure());
 }
 
-TEST(TextFailure, WhereNoThreadIsToBeHadDrawingFailsAndSaysSo) {
+TEST(TextFailure, WithoutAThreadDrawingFailsWithAMessage) {
   pthread_attr_t old;
   ASSERT_EQ(::pthread_getattr_default_np(&old), 0);
   pthread_attr_t huge = old;

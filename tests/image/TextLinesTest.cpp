@@ -36,7 +36,7 @@ TEST(TextLines, ControlCharactersAreBlanks) {
             Lines({"a b c d"}));
 }
 
-TEST(TextLines, WhatIsNoTextIsReplaced) {
+TEST(TextLines, InvalidUTF8IsReplaced) {
   EXPECT_EQ(LinesOfText("a\xFF"
                         "b"),
             Lines({"a\uFFFDb"}));

@@ -31,7 +31,7 @@ TEST(TextMask, PixelsComeFromTheLeftToTheRight) {
   for (std::int32_t x : {-1, 9, 12, 72, 80, 1000}) EXPECT_FALSE(mask.Covers(x, 21)) << x;
 }
 
-TEST(TextMask, WithoutASideThereIsNoRectangle) {
+TEST(TextMask, ASideOfZeroHasNoRectangle) {
   for (const auto& mask : {TextMask(5, 5, 0, 3), TextMask(5, 5, 3, 0), TextMask(5, 5, -3, -3)}) {
     EXPECT_EQ(mask.width(), 0);
     EXPECT_EQ(mask.height(), 0);

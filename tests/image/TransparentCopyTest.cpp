@@ -104,7 +104,7 @@ TEST(TransparentCopy, From100OnOnlyTheKeysComplementIsCopied) {
   }
 }
 
-TEST(TransparentCopy, ASmallerSourceLiesAtTheBottomLeft) {
+TEST(TransparentCopy, ASmallerSourceIsAtTheBottomLeft) {
   cDIBSection target = Plain(3, 3, {0, 0, 0});
   ASSERT_TRUE(TransparentCopy(Plain(2, 1, {255, 255, 255}), target, kBlack, 100));
   for (std::int32_t y = 0; y < 3; ++y) {

@@ -30,7 +30,7 @@ std::int32_t Escapement(std::int16_t placement, std::int32_t width, std::int32_t
   return font.lfEscapement;
 }
 
-TEST(WatermarkPlace, StraightTextsTouchTheEdgesOrStandInTheMiddle) {
+TEST(WatermarkPlace, StraightTextsTouchTheEdgesOrAreCentered) {
   const BoxTextRaster raster(200, 53);
   const std::pair<int, int> wanted[] = {{0, 0},     {220, 0}, {440, 0},   {0, 214},  {220, 214},
                                         {440, 214}, {0, 427}, {220, 427}, {440, 427}};

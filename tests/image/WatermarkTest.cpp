@@ -48,7 +48,7 @@ Drawn DrawBox(const cDIBSection& on, std::int16_t placement, std::uint32_t color
   return drawn;
 }
 
-TEST(Watermark, ATextAtTheTopLeftLiesInTheTopRows) {
+TEST(Watermark, ATextAtTheTopLeftIsInTheTopRows) {
   const cDIBSection picture = DrawBox(Plain(20, 10, kBlack), 0, 0xFFFFFF, 100).picture;
   EXPECT_EQ(PixelAt(picture, 0, 9), (RGB{255, 255, 255}));
   EXPECT_EQ(PixelAt(picture, 3, 8), (RGB{255, 255, 255}));
@@ -221,7 +221,7 @@ TEST_F(WatermarkPainting, OnlyTheLastSizesAreKept) {
   EXPECT_FALSE(last.expired());
 }
 
-TEST_F(WatermarkPainting, APercentageThatIsNoByteOverflowsWhereItIsDrawn) {
+TEST_F(WatermarkPainting, APercentageBeyondAByteOverflowsWhenItIsDrawn) {
   const BoxTextRaster raster(4, 2);
   for (const std::int16_t alpha : {std::int16_t{-1}, std::int16_t{256}, std::int16_t{32767}}) {
     WatermarkSettings settings = Settings(10);

@@ -74,7 +74,7 @@ TEST_F(AsioFTPSocketTest, ConnectsByNumberAndByName) {
   EXPECT_EQ(socket.PeerAddress(), "");
 }
 
-TEST_F(AsioFTPSocketTest, WhereNobodyListensNothingConnects) {
+TEST_F(AsioFTPSocketTest, AConnectionToAPortWithoutAListenerFails) {
   std::uint16_t port = 0;
   {
     const LoopbackListener gone;

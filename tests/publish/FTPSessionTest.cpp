@@ -107,7 +107,7 @@ TEST(FTPSession, AServerThatLeavesWith421EndsTheSession) {
   EXPECT_EQ(session.server.Files(), Files{});
 }
 
-TEST(FTPSession, AFullServerIsNoConnection) {
+TEST(FTPSession, AFullServerRefusesTheConnection) {
   ScriptedFtpServer::Script script;
   script.greet = [](Session& server) { server.Say("421 Too many users\r\n"); };
   FTPSession session(script);
@@ -223,7 +223,7 @@ TEST(FTPSession, AReplyWithoutEndIsGivenUp) {
   EXPECT_FALSE(session.client.ftp.IsConnected());
 }
 
-TEST(FTPSession, AStrangerOnTheDataPortIsTurnedAway) {
+TEST(FTPSession, ADataConnectionFromAnotherHostIsRefused) {
   FTPSession session(On("STOR", [](Session& server, const std::string& name) {
     server.Say("150 Send\r\n");
     EXPECT_TRUE(server.OpenData("127.0.0.2"));

@@ -53,7 +53,7 @@ TEST_F(AListing, ALinkToAFileIsAFileAndALinkToAFolderIsALinkedFolder) {
             (Entries{{"a", EntryKind::File}, {"above", EntryKind::LinkedFolder}, {"link", EntryKind::File}}));
 }
 
-TEST_F(AListing, WhatIsNeitherFileNorFolderIsLeftOut) {
+TEST_F(AListing, OnlyFilesAndFoldersAreListed) {
   fs::create_symlink(folder.Path() / "nowhere", folder.Path() / "dangling");
   fs::create_symlink("itself", folder.Path() / "itself");
   ASSERT_EQ(::mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
@@ -62,7 +62,7 @@ TEST_F(AListing, WhatIsNeitherFileNorFolderIsLeftOut) {
   EXPECT_TRUE(listing.complete);
 }
 
-TEST_F(AListing, WhatARunHasNotFinishedIsLeftOut) {
+TEST_F(AListing, UnfinishedFilesOfARunAreLeftOut) {
   folder.Write(".vantorium-1234567-0", "half");
   folder.Write(".vantorium-1-17", "half");
   folder.Write(".vantorium-mine", "x");
@@ -76,7 +76,7 @@ TEST_F(AListing, OfAnEmptyFolderIsCompleteAndEmpty) {
   EXPECT_EQ(listing.entries, Entries());
 }
 
-TEST_F(AListing, AsksAtItsStartAndBehindEachEntryWhetherToGoOn) {
+TEST_F(AListing, AsksAtItsStartAndAfterEachEntryWhetherToGoOn) {
   EXPECT_TRUE(List().complete);
   EXPECT_EQ(asked, 1);
   for (const char* name : {"a", "b", "c"}) folder.Write(name, "x");
@@ -90,7 +90,7 @@ TEST_F(AListing, AsksAtItsStartAndBehindEachEntryWhetherToGoOn) {
   }
 }
 
-TEST_F(AListing, OfWhatIsNoFolderDoesNotStart) {
+TEST_F(AListing, OfAFileDoesNotStart) {
   for (const fs::path& path : {folder.Write("file", "x"), folder.Path() / "missing", fs::path()}) {
     const FolderListing listing = List(path);
     EXPECT_EQ(asked, 0) << path;

@@ -11,7 +11,7 @@ TEST(HostLookup, FindsAddressesOfIPv4Only) {
   EXPECT_TRUE(LookUpHost("::1").get().empty());
 }
 
-TEST(HostLookup, WhatIsNoHostHasNoAddress) {
+TEST(HostLookup, AnInvalidHostNameHasNoAddress) {
   for (const std::string host : {"300.1.1.1", "a b", "ftp://localhost", ""}) {
     EXPECT_TRUE(host.empty() || LookUpHost(host).get().empty()) << host;
   }

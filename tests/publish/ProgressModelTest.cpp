@@ -49,7 +49,7 @@ TEST_F(ProgressModelTest, ComesUpAsTheWindowOfARunUnderWay) {
   EXPECT_FALSE(HasFile()) << "an unlogged run writes no header";
 }
 
-TEST_F(ProgressModelTest, KeepsWhatItIsTold) {
+TEST_F(ProgressModelTest, KeepsWhatItIsReported) {
   window->SetCaption("Uploading Folder");
   window->SetText1("one");
   window->SetText2("two");
@@ -94,7 +94,7 @@ TEST_F(ProgressModelTest, TheBarOfTheFileAppearsWithItsFirstValue) {
   EXPECT_EQ(window->FileProgress(), 100);
 }
 
-TEST_F(ProgressModelTest, TheLogBoxTakesTextInPlaceOfItsOwnOrBehindItAndAddsNoLineBreak) {
+TEST_F(ProgressModelTest, TheLogBoxReplacesItsTextOrAppendsToItWithoutALineBreak) {
   window->SetText3("a", true);
   window->SetText3("b", true);
   EXPECT_EQ(window->LogBoxText(), "ab");
@@ -140,7 +140,7 @@ TEST_F(ProgressModelTest, CharactersAreCountedAndNotBytes) {
   }
 }
 
-TEST_F(ProgressModelTest, ReplacingTheTextOfAFullLogBoxIsNoSavepoint) {
+TEST_F(ProgressModelTest, ReplacingTheTextOfAFullLogBoxDoesNotSaveIt) {
   window->LogToFile = true;
   window->Show();
   window->SetText3(std::string(40000, 'x'), false);
@@ -188,7 +188,7 @@ TEST_F(ProgressModelTest, TheFooterOfAFailedRunFollowsAnEmptyLine) {
   EXPECT_EQ(Chunks(), "530 No\r\n\r\n\r\n");
 }
 
-TEST_F(ProgressModelTest, AFailedRunThatIsNotLoggedAddsItsTextBehindTheLogThatIsThere) {
+TEST_F(ProgressModelTest, AFailedRunThatIsNotLoggedAppendsItsTextToTheLog) {
   program.Write("ftplog.txt", "before\r\n");
   window->Show();
   window->SetText3("text", true);

@@ -25,7 +25,7 @@ class ServerListFile : public testing::Test {
   fakes::TemporaryFolder program;
 };
 
-TEST_F(ServerListFile, LiesInTheProgramsFolder) {
+TEST_F(ServerListFile, IsInTheProgramsFolder) {
   EXPECT_EQ(ServerListFileName("/home/me/program"), "/home/me/program/vantorium.pub");
 }
 

@@ -70,7 +70,7 @@ TEST_F(ServerListTest, ComesBackFromTheFileAsItWasWritten) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(ServerListTest, OpeningReadsTheFileAnew) {
+TEST_F(ServerListTest, OpeningReadsTheFileAgain) {
   WriteThree(1);
   list.Open();
   list.DeleteServer();
@@ -114,7 +114,7 @@ TEST_F(ServerListTest, NoFileIsAListOfZeroAndTheNextOpeningGivesTheDefault) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(ServerListTest, WhatWasReadBeforeAFailureIsWrittenAndReadAgain) {
+TEST_F(ServerListTest, ServersReadBeforeAFailureAreWrittenAndReadAgain) {
   struct Case {
     const char* line;
     const char* instead;

@@ -15,7 +15,7 @@ bool SleepThrough(Milliseconds slice) {
   return false;
 }
 
-TEST(SlicedWait, WhatIsOverAtOnceNeedsNoTurn) {
+TEST(SlicedWait, AWaitThatIsOverAtOnceNeedsNoTurn) {
   fakes::CountingEventLoop loop;
   const bool abandoned = false;
   EXPECT_TRUE(SlicedWait(loop, Milliseconds(1000), abandoned).Until([](Milliseconds) { return true; }));

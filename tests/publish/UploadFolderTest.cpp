@@ -81,7 +81,7 @@ TEST_F(UploadFolderTest, AFolderComesInItsPlaceAmongTheNames) {
                                  "copy C:\\site\\m\\file to web/m/file", "copy C:\\site\\z to web/z"}));
 }
 
-TEST_F(UploadFolderTest, WhatIsDoneIsShownInTheWindowAndInTheStatusBar) {
+TEST_F(UploadFolderTest, EachStepIsShownInTheWindowAndInTheStatusBar) {
   Write("sub/a.htm");
   EXPECT_TRUE(Send());
   const Lines expected = {"Creating Directory \"web\"...", "Creating Directory \"web/sub\"...",
@@ -116,7 +116,7 @@ TEST_F(UploadFolderTest, OneSeparatorAtTheEndOfEachPathIsDropped) {
   }
 }
 
-TEST_F(UploadFolderTest, PathsAreRelativeToWhereTheSessionStands) {
+TEST_F(UploadFolderTest, PathsAreRelativeToTheFolderOfTheSession) {
   for (const char* name : {"a.txt", "sub/b.txt"}) Write(name);
   for (const char* remote : {"", "/", "//", "\\"}) {
     server.calls.clear();
@@ -149,14 +149,14 @@ TEST_F(UploadFolderTest, CountingSendsAndShowsNothing) {
   EXPECT_TRUE(record.values.empty());
 }
 
-TEST_F(UploadFolderTest, AFolderCountsForItselfAndForTheFolderItLiesIn) {
+TEST_F(UploadFolderTest, AFolderCountsForItselfAndForItsParent) {
   for (const char* name : {"a", "b", "sub/c", "sub/d"}) Write(name);
   EXPECT_EQ(Count(), 7);
   EXPECT_TRUE(Send());
   EXPECT_EQ(record.values, (std::vector<std::int32_t>{1, 2, 3, 4, 5, 6, 7}));
 }
 
-TEST_F(UploadFolderTest, EachCountBeginsAnew) {
+TEST_F(UploadFolderTest, EachCountBeginsAgain) {
   Write("a");
   EXPECT_EQ(Count(), 2);
   EXPECT_EQ(Count(), 2);
@@ -274,7 +274,7 @@ TEST_F(UploadFolderTest, AFileThatFailsInASubfolderEndsTheWholeUpload) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsInSilenceBehindItsRemoteDirectory) {
+TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsSilentlyAfterItsRemoteDirectory) {
   drive.Write("file", "x");
   for (const char* local : {"C:\\missing", "C:\\file", "Q:\\site", "\\\\server\\share"}) {
     server.calls.clear();
@@ -387,7 +387,7 @@ TEST_F(UploadFolderTest, EveryPollMayBeTheCancelAndEndsTheUploadWithOneBox) {
   }
 }
 
-TEST_F(UploadFolderTest, ACancelBehindTheLastFileOfASubfolderIsNoticed) {
+TEST_F(UploadFolderTest, ACancelAfterTheLastFileOfASubfolderIsNoticed) {
   Write("sub/a");
   server.onCall = [this] { cancel.cancelled = server.calls.size() == 3; };
   EXPECT_FALSE(Send());

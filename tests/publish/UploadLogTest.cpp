@@ -59,7 +59,7 @@ TEST_F(UploadLogTest, TheTimesAreThoseOfWriting) {
   EXPECT_NE(Text().find("End of Upload Log (0987/01/02 03:04:05)"), std::string::npos) << Text();
 }
 
-TEST_F(UploadLogTest, TextIsAddedBehindWhateverIsThere) {
+TEST_F(UploadLogTest, TextIsAppendedToTheFile) {
   program.Write("ftplog.txt", "old");
   log.WriteLog("new");
   EXPECT_EQ(Text(), "oldnew\r\n");
@@ -80,7 +80,7 @@ TEST_F(UploadLogTest, TheHeaderMakesTheFolder) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadLogTest, AFileIsNoFolder) {
+TEST_F(UploadLogTest, AFileInThePlaceOfTheFolderIsAFailure) {
   program.Write("file", "x");
   EXPECT_FALSE(UploadLog(program.Path() / "file", clock, boxes).HasFolder());
 }

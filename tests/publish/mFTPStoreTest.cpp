@@ -202,7 +202,7 @@ TEST_F(mFTPStoreTest, AShortWriteBreaksTheTransfer) {
   EXPECT_EQ(window.log, "200 Port\r\n200 Type\r\n150 Send\r\n226 Stored\r\n");
 }
 
-TEST_F(mFTPStoreTest, ACancelBeforeABlockBreaksTheTransferAndNobodyIsTold) {
+TEST_F(mFTPStoreTest, ACancelBeforeABlockBreaksTheTransferAndNobodyIsReported) {
   folder.Write("b.jpg", std::string(10000, 'x'));
   loop.onTurn = [this](int turn) { cancel.isRequested = turn >= 2; };
   Replies(kGoodReplies);

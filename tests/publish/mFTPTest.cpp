@@ -159,7 +159,7 @@ TEST_F(mFTPTest, ASizeThatTheServerKeepsToItselfIsZero) {
   EXPECT_EQ(journal, Journal{});
 }
 
-TEST_F(mFTPTest, ASizeThatIsNoNumberIsAFailure) {
+TEST_F(mFTPTest, ASizeThatIsNotANumberIsAFailure) {
   Replies({"213 many\r\n"});
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), FailureKind::TypeMismatch);
   Replies({"213 2147483648\r\n"});

@@ -169,11 +169,11 @@ bool frmCreateGallery::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmCreateGallery::accept() {
-  const Application result = model_.Apply();
+  const ApplyResult result = model_.Apply();
   ShowTexts();
-  if (result == Application::Done) return QDialog::accept();
-  if (result == Application::NoSourceFolder) ui_->textUploadSourceFolder->setFocus();
-  if (result == Application::NoDestination) {
+  if (result == ApplyResult::Done) return QDialog::accept();
+  if (result == ApplyResult::NoSourceFolder) ui_->textUploadSourceFolder->setFocus();
+  if (result == ApplyResult::NoDestination) {
     (model_.Chosen() == Option::Publish ? ui_->textPublishDestination : ui_->textUploadDestination)->setFocus();
   }
 }

@@ -1,6 +1,6 @@
 #include "ui/files/FileWindow.h"
 
-#include "ui/files/FilePreview.h"
+#include "ui/files/FilePreviewPane.h"
 #include "ui/files/FolderPathBox.h"
 #include "ui/model/dialogs/DialogPlace.h"
 #include "ui/model/files/FileFilters.h"
@@ -86,7 +86,7 @@ void FileWindow::SetUpLayout(const FileDialogRequest& request) {
   connect(folder, &FolderPathBox::Chosen, this, [this](const QString& path) { setDirectory(path); });
 
   auto* const grid = qobject_cast<QGridLayout*>(layout());
-  preview_ = new FilePreview(files_, request.preview, this);
+  preview_ = new FilePreviewPane(files_, request.preview, this);
   grid->addWidget(preview_, 1, grid->columnCount());
   resize(request.preview ? QSize(860, 480) : QSize(680, 460));
 }

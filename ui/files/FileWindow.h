@@ -15,7 +15,7 @@ class QPushButton;
 
 namespace vantorium {
 
-class FilePreview;
+class FilePreviewPane;
 class FolderPathBox;
 
 /// The window of one file dialog: Qt's own, with path text in place of native paths, a preview at its right, and this
@@ -59,7 +59,7 @@ class FileWindow : public QFileDialog {
   QAbstractItemView* view_ = nullptr;
   QLineEdit* name_ = nullptr;
   QPushButton* ok_ = nullptr;
-  FilePreview* preview_ = nullptr;
+  FilePreviewPane* preview_ = nullptr;
   QSet<QString> loadedFolders_;  // native
 };
 

@@ -37,15 +37,15 @@ void SettingsDialogs::OnClick(std::string_view name, std::function<void()> open)
 
 void SettingsDialogs::Edit(const CodeButton& row) {
   const std::string title(row.title);
-  SetIfOther(row.code, EditHTMLSingle(title, parts_.binder.Project().*row.code, parts_.ports.boxes, &form_));
+  SetIfChanged(row.code, EditHTMLSingle(title, parts_.binder.Project().*row.code, parts_.ports.boxes, &form_));
 }
 
 void SettingsDialogs::Edit(const HeaderFooterButton& row) {
   const GalleryProject& project = parts_.binder.Project();
   const HeaderAndFooter texts =
       EditHTML(std::string(row.title), {project.*row.header, project.*row.footer}, parts_.ports.boxes, &form_);
-  SetIfOther(row.header, texts.header);
-  SetIfOther(row.footer, texts.footer);
+  SetIfChanged(row.header, texts.header);
+  SetIfChanged(row.footer, texts.footer);
 }
 
 void SettingsDialogs::Edit(const BackdropButton& row) {
@@ -55,7 +55,7 @@ void SettingsDialogs::Edit(const BackdropButton& row) {
                                                                               .fileName = GetFileName(path),
                                                                               .filter = "All Files (*.*)|*.*",
                                                                               .preview = true});
-  if (!chosen.result.empty()) SetIfOther(row.path, chosen.result);
+  if (!chosen.result.empty()) SetIfChanged(row.path, chosen.result);
 }
 
 void SettingsDialogs::Edit(const ColorsButton& row) {
@@ -100,7 +100,7 @@ void SettingsDialogs::Edit(const WatermarkButton& row) {
   });
 }
 
-void SettingsDialogs::SetIfOther(std::string GalleryProject::*field, const std::string& text) {
+void SettingsDialogs::SetIfChanged(std::string GalleryProject::*field, const std::string& text) {
   if (parts_.binder.Project().*field == text) return;
   parts_.binder.Edit([&](ProjectEditor& editor) { editor.Set(field, text); });
 }

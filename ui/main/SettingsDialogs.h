@@ -39,7 +39,7 @@ class SettingsDialogs : public QObject {
   void Edit(const LinkButton& row);
   void Edit(const FiltersButton& row);
   void Edit(const WatermarkButton& row);
-  void SetIfOther(std::string GalleryProject::*field, const std::string& text);
+  void SetIfChanged(std::string GalleryProject::*field, const std::string& text);
   [[nodiscard]] SamplePorts PortsOfSamples() const;
 
   Parts parts_;

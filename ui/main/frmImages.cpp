@@ -54,8 +54,8 @@ void frmImages::ConnectList() {
 }
 
 void frmImages::ConnectPreview() {
-  connect(ui_->pbImagesPreview, &ImagePreview::DoubleClicked, this, &frmImages::AskForFullScreen);
-  connect(ui_->pbImagesPreview, &ImagePreview::Failed, this, &frmImages::AskAboutInvalidImage);
+  connect(ui_->pbImagesPreview, &FittedPicture::DoubleClicked, this, &frmImages::AskForFullScreen);
+  connect(ui_->pbImagesPreview, &FittedPicture::Failed, this, &frmImages::AskAboutInvalidImage);
   connect(ui_->checkImagesPreview, &QCheckBox::toggled, this, [this](bool checked) {
     parts_.preferences.checkImagesPreview = FlagOf(checked);
     RefreshPreview();

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "ui/model/dialogs/SampleDialog.h"
-#include "ui/widgets/PictureBox.h"
+#include "ui/widgets/UnscaledPicture.h"
 
 #include <QDialog>
 
 namespace vantorium {
 
-/// The SampleBox of a dialog that shows its sample in a PictureBox.
+/// The SampleBox of a dialog that shows its sample in a UnscaledPicture.
 class QtSampleBox : public SampleBox {
  public:
-  QtSampleBox(QDialog& dialog, PictureBox& box) : dialog_(dialog), box_(box) {}
+  QtSampleBox(QDialog& dialog, UnscaledPicture& box) : dialog_(dialog), box_(box) {}
 
   [[nodiscard]] PictureSize SizeInPixels() const override { return box_.SizeInPixels(); }
   [[nodiscard]] double PixelRatio() const override { return box_.devicePixelRatioF(); }
@@ -20,7 +20,7 @@ class QtSampleBox : public SampleBox {
 
  private:
   QDialog& dialog_;
-  PictureBox& box_;
+  UnscaledPicture& box_;
 };
 
 }  // namespace vantorium

@@ -104,7 +104,7 @@ TEST_F(ProjectFileReaderFiltersTest, ThumbnailFiltersAreTheirOwn) {
   EXPECT_EQ(Watermark().checkUseWatermark, 0);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, AValueThatIsNoNumberFailsAndWhatCameBeforeStays) {
+TEST_F(ProjectFileReaderFiltersTest, AValueThatIsNotANumberFailsAndKeepsWhatWasReadBefore) {
   const std::pair<std::string, std::string> cases[] = {
       {"<FILTER TYPE='noise' RANDOM='x'/>", "Type mismatch"},
       {"<FILTER TYPE='brightness' VALUE='bright'/>", "Type mismatch"},

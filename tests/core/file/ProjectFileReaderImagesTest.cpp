@@ -74,7 +74,7 @@ TEST_F(ProjectFileReaderImagesTest, AnAbsentNameIsEmpty) {
   EXPECT_EQ(desk.project.images.Count(), 1U);
 }
 
-TEST_F(ProjectFileReaderImagesTest, AnIndexThatIsNoPositionFails) {
+TEST_F(ProjectFileReaderImagesTest, AnIndexThatIsNotAPositionFails) {
   const std::pair<std::string, std::string> cases[] = {{"first", "Type mismatch"},    {"", "Type mismatch"},
                                                        {"0", "Index out of bounds"},  {"3", "Index out of bounds"},
                                                        {"-1", "Index out of bounds"}, {"99999999999", "Overflow"}};

@@ -58,7 +58,7 @@ TEST_F(ProjectFileReaderLayoutTest, AnUnknownTypeLeavesTheNamesOfANewProject) {
   EXPECT_EQ(Settings().textThumbnailFrameName, "thumb_frame");
 }
 
-TEST_F(ProjectFileReaderLayoutTest, FrameNamesAreTakenAsTheyStandEvenWhenEmpty) {
+TEST_F(ProjectFileReaderLayoutTest, FrameNamesAreTakenUnchangedEvenWhenEmpty) {
   ASSERT_TRUE(ReadLayout("TYPE='thumbsleft' IMAGEFRAMENAME='_top' THUMBFRAMENAME=''"));
   EXPECT_EQ(Settings().comboImageFrameName, "_top");
   EXPECT_EQ(Settings().textThumbnailFrameName, "");
@@ -93,7 +93,7 @@ TEST_F(ProjectFileReaderLayoutTest, AnAbsentFrameSizeStaysThatOfANewProject) {
   EXPECT_EQ(Settings().checkGalleryFrameSizeInPercent, 0);
 }
 
-TEST_F(ProjectFileReaderLayoutTest, AFrameSizeThatIsNoNumberFails) {
+TEST_F(ProjectFileReaderLayoutTest, AFrameSizeThatIsNotANumberFails) {
   for (const std::string size : {"wide", "x%"}) {
     EXPECT_FALSE(ReadLayout("TYPE='singleframe' FRAMESIZE='" + size + "'")) << size;
     EXPECT_EQ(Box(), "Vantorium: Type mismatch") << size;
@@ -144,14 +144,14 @@ TEST_F(ProjectFileReaderLayoutTest, AnEmptySlideShowHasNoAutoStartAndNoDelays) {
   EXPECT_EQ(Settings().textGallerySlideShowDelay, "0");
 }
 
-TEST_F(ProjectFileReaderLayoutTest, AutoStartThatIsNoNumberIsOff) {
+TEST_F(ProjectFileReaderLayoutTest, AutoStartThatIsNotANumberIsOff) {
   for (const char* value : {"yes", "", "2", "-1", "0"}) {
     ASSERT_TRUE(ReadSlideShow("AUTOSTART='" + std::string(value) + "'")) << value;
     EXPECT_EQ(Settings().checkGallerySlideShowAutoStart, 0) << value;
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, ADelayThatIsNoNumberFails) {
+TEST_F(ProjectFileReaderLayoutTest, ADelayThatIsNotANumberFails) {
   EXPECT_FALSE(ReadSlideShow("DELAY=''"));
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
   EXPECT_FALSE(ReadSlideShow("AUTOSTARTDELAY='soon'"));

@@ -63,7 +63,7 @@ TEST_F(ProjectFileReaderPagesTest, AColorOfTwoDigitsIsItsRed) {
   EXPECT_EQ(Settings().ThumbnailPageBgColor, 0x0000FFU);
 }
 
-TEST_F(ProjectFileReaderPagesTest, AColorThatIsNoNumberFails) {
+TEST_F(ProjectFileReaderPagesTest, AColorThatIsNotANumberFails) {
   for (const char* color : {"red", "", "#FF0000", "FFG"}) {
     EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPageAttributes = "TEXT='" + std::string(color) + "'"})) << color;
     EXPECT_EQ(Box(), "Vantorium: Type mismatch") << color;

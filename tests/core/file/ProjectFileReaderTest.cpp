@@ -28,7 +28,7 @@ TEST_F(ProjectFileReaderTest, ReadingShowsTheFileAndTheWaitPointerAndTakesThemAw
             (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "status ", "pointer"}));
 }
 
-TEST_F(ProjectFileReaderTest, WhatIsNoXmlHasNoProject) {
+TEST_F(ProjectFileReaderTest, AFileThatIsNotXmlHasNoProject) {
   for (const std::string& text :
        {""s, "   "s, "this is no XML"s, "{}"s, "\0\1\2\3"s, "<a><b></a>"s, "<GALLERYPROJECT>"s,
         ProjectFileParts{}.Text() + "x", ProjectFileParts{}.Text() + "<a/>", ProjectFileParts{}.Text().substr(0, 100),
@@ -40,7 +40,7 @@ TEST_F(ProjectFileReaderTest, WhatIsNoXmlHasNoProject) {
   }
 }
 
-TEST_F(ProjectFileReaderTest, AnotherDocumentElementIsNoProject) {
+TEST_F(ProjectFileReaderTest, AnotherDocumentElementIsNotAProject) {
   for (const char* text : {"<GALLERY/>", "<galleryproject><GALLERY/></galleryproject>",
                            "<ROOT><GALLERYPROJECT><GALLERY/></GALLERYPROJECT></ROOT>"}) {
     EXPECT_FALSE(Read(text)) << text;
@@ -125,7 +125,7 @@ TEST_F(ProjectFileReaderTest, AnUnreadableNumberShowsItsFailureAndLeavesTheStatu
   EXPECT_EQ(Box(), "Vantorium: Overflow");
 }
 
-TEST_F(ProjectFileReaderTest, TheEventLoopGetsATurnBehindTheStatusTextAndBeforeTheSettingsAreTouched) {
+TEST_F(ProjectFileReaderTest, TheEventLoopGetsATurnAfterTheStatusTextAndBeforeTheSettingsAreTouched) {
   desk.project.settings.ImageHeader = "old";
   Calls callsThen;
   desk.events.onTurn = [&](int turn) {
@@ -167,7 +167,7 @@ TEST_F(ProjectFileReaderTest, AReadingLeavesTheStatesOfTheProject) {
   }
 }
 
-TEST_F(ProjectFileReaderTest, WhatWasReadBeforeAFailureStays) {
+TEST_F(ProjectFileReaderTest, ValuesReadBeforeAFailureStay) {
   desk.File("a.jpg");
   EXPECT_FALSE(Read(ProjectFileParts{
       .lists = "<HEAD>head</HEAD><IMAGES><IMAGE INDEX='1' NAME='a' SOURCE='" + desk.PathOf("a.jpg") + "'/></IMAGES>",

@@ -224,7 +224,7 @@ TEST_F(ProjectFileRoundTrip, AListLongerThan16BitsCountComesBack) {
   EXPECT_EQ(desk.project.images.Entry(kImages).ThumbnailDescription, "t");
 }
 
-TEST_F(ProjectFileRoundTrip, WhatAFieldHoldsAtMostComesBack) {
+TEST_F(ProjectFileRoundTrip, TheLargestValueOfEachFieldIsReadBack) {
   GalleryProject& project = desk.project.settings;
   project.checkGallerySlideShow = project.checkGallerySlideShowAutoStart = 1;
   project.comboGallerySlideShowBeginWith = 0;

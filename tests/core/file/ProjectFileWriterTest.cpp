@@ -301,7 +301,7 @@ TEST_F(ProjectFileWriterTest, ATextThatClosesItsSectionIsReadBackWhole) {
   }
 }
 
-TEST_F(ProjectFileWriterTest, WhatXmlCannotHoldIsReplacedAndTheFileReads) {
+TEST_F(ProjectFileWriterTest, CharactersThatXmlForbidsAreReplacedAndTheFileCanBeRead) {
   Edit().textGalleryTitle = std::string("a\0b\x01", 4) + "\xE9";
   Edit().GalleryHeadCode = "caf\xE9\x1B";
   ASSERT_TRUE(Read(Text()));
@@ -319,7 +319,7 @@ TEST_F(ProjectFileWriterTest, AnImagePathThatXmlCannotHoldIsNotWritten) {
   EXPECT_EQ(desk.folder.Read("a.gpj"), "old");
 }
 
-TEST_F(ProjectFileWriterTest, WhatTheReaderWouldNotTakeIsNotWritten) {
+TEST_F(ProjectFileWriterTest, ValuesThatTheReaderRefusesAreNotWritten) {
   Edit().textGalleryTitle = std::string(20'000'000, 'x');
   EXPECT_THROW(std::ignore = Text(), RuntimeFailure);
 }
@@ -358,7 +358,7 @@ TEST_F(ProjectFileWriterTest, ALinkToItselfIsNotFollowedForEver) {
   SUCCEED();
 }
 
-TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnBehindTheStatusText) {
+TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnAfterTheStatusText) {
   Calls callsThen;
   desk.events.onTurn = [&](int turn) {
     if (turn == 1) callsThen = desk.calls;

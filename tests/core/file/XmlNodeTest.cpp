@@ -56,7 +56,7 @@ TEST(XmlNode, DescendantsComeInDocumentOrderAndFromBelowTheElementOnly) {
   EXPECT_FALSE(NextElement(last, first, "x"));
 }
 
-TEST(XmlNode, WhatIsNoDocumentHasNoRoot) {
+TEST(XmlNode, AMalformedDocumentHasNoRoot) {
   for (const char* bytes : {"", "no XML", "<a><b></a>", "\xFF\xFE<"}) {
     XmlFile file;
     EXPECT_FALSE(file.Parse(bytes)) << bytes;

@@ -43,7 +43,7 @@ TEST(XmlSyntax, SoundDocumentsPass) {
   }
 }
 
-TEST(XmlSyntax, WhatIsNoDocumentIsRefused) {
+TEST(XmlSyntax, AMalformedDocumentIsRefused) {
   for (const std::string& text : {""s,
                                   "   "s,
                                   "text"s,

@@ -12,7 +12,7 @@ TEST(XmlText, CharactersOfXmlAreKeptAsTheyAre) {
   }
 }
 
-TEST(XmlText, WhatXmlCannotHoldBecomesTheReplacementCharacter) {
+TEST(XmlText, CharactersThatXmlForbidsBecomeTheReplacementCharacter) {
   const std::string mark = "\xEF\xBF\xBD";
   const std::pair<std::string, std::string> cases[] = {
       {std::string("a\0b", 3), "a" + mark + "b"},

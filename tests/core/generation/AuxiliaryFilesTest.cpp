@@ -52,7 +52,7 @@ TEST_F(AuxiliaryFilesTest, EachSettingGoesToItsFixedNameWithTheSourcesExtension)
   EXPECT_EQ(folder.Read("out/Images/_imagelink_index.GIF"), "graphic");
 }
 
-TEST_F(AuxiliaryFilesTest, AGraphicWithAFolderIsUsedAsItStands) {
+TEST_F(AuxiliaryFilesTest, AGraphicWithAFolderIsUsedUnchanged) {
   folder.Write("elsewhere/g.gif", "there");
   folder.Write("project/g.gif", "beside the project");
   project.settings.textThumbnailsPageBackdrop = "T:/elsewhere/g.gif";

@@ -127,7 +127,7 @@ TEST_F(CreateGalleryTest, AListedBrowserThatDoesNotStartIsTriedAsACommandLine) {
   EXPECT_TRUE(boxes.boxes.empty()) << boxes.boxes[0].text;
 }
 
-TEST_F(CreateGalleryTest, WhenBothAttemptsFailedTheSecondFailureIsTold) {
+TEST_F(CreateGalleryTest, WhenBothAttemptsFailedTheSecondFailureIsReported) {
   AddPhotograph("a");
   shell.startsThatFail = 2;
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
@@ -135,7 +135,7 @@ TEST_F(CreateGalleryTest, WhenBothAttemptsFailedTheSecondFailureIsTold) {
   ExpectErrorBox("Error: 75\r\r\"gio\" failed");
 }
 
-TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailureIsTold) {
+TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailureIsReported) {
   AddPhotograph("a");
   preferences.Browsers = {{"One", "one"}};
   shell.startsThatFail = 2;
@@ -143,7 +143,7 @@ TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailure
   ExpectErrorBox("Error: 75\r\r\"/bin/sh\" failed");
 }
 
-TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerWhoseFailureIsToldWhenItIsFound) {
+TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerWhoseFailureIsReportedWhenItIsFound) {
   AddPhotograph("a");
   shell.startsThatFail = 2;
   shell.failsLater = true;
@@ -158,14 +158,14 @@ TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerWhoseFailureIsToldWhenItIs
   ExpectErrorBox("Error: 75\r\r\"gio\" failed");
 }
 
-TEST_F(CreateGalleryTest, AnOpenerIsStartedBehindTheEndOfTheProgressWindow) {
+TEST_F(CreateGalleryTest, AnOpenerIsStartedAfterTheEndOfTheProgressWindow) {
   AddPhotograph("a");
   Create(GenerationMode::Preview);
   const auto unloaded = std::ranges::find(journal, "progress unloaded");
   EXPECT_LT(unloaded, std::ranges::find(journal, Started().at(0)));
 }
 
-TEST_F(CreateGalleryTest, ABrowserThatIsNotListedIsTold) {
+TEST_F(CreateGalleryTest, ABrowserThatIsNotListedIsReported) {
   AddPhotograph("a");
   preferences.Browsers = {{"One", "one"}};
   for (const std::int16_t index : {std::int16_t{2}, std::int16_t{-1}, std::int16_t{32767}, std::int16_t{-32768}}) {
@@ -176,7 +176,7 @@ TEST_F(CreateGalleryTest, ABrowserThatIsNotListedIsTold) {
   EXPECT_TRUE(Started().empty());
 }
 
-TEST_F(CreateGalleryTest, AListedBrowserWithoutALocationIsTold) {
+TEST_F(CreateGalleryTest, AListedBrowserWithoutALocationIsReported) {
   AddPhotograph("a");
   preferences.Browsers = {{"One", ""}};
   EXPECT_EQ(Create(GenerationMode::Preview, 1), RunEnd::Success);

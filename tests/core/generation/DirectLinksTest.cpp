@@ -32,12 +32,12 @@ TEST_F(DirectLinks, OnePageIsItsNumber) {
   for (const Digits most : {"0", "1", "2", "5"}) EXPECT_EQ(Short(most, 1, 1), "1") << most;
 }
 
-TEST_F(DirectLinks, AnEvenNumberHasOneMoreBehindThePage) {
+TEST_F(DirectLinks, AnEvenNumberHasOneMoreLinkAfterThePage) {
   EXPECT_EQ(Short("4", 5, 20), "~3 [4] 5 [6] [7] ~8");
   EXPECT_EQ(Short("2", 5, 20), "~4 5 [6] ~7");
 }
 
-TEST_F(DirectLinks, AnOddNumberStandsAroundThePage) {
+TEST_F(DirectLinks, AnOddNumberIsCenteredOnThePage) {
   EXPECT_EQ(Short("5", 10, 20), "~7 [8] [9] 10 [11] [12] ~13");
   EXPECT_EQ(Short("1", 5, 20), "~4 5 ~6");
 }
@@ -77,7 +77,7 @@ TEST_F(DirectLinks, TheCheckBoxIsNotLookedAt) {
   EXPECT_EQ(Short("0", 1, 2), "1 [2]");
 }
 
-TEST_F(DirectLinks, ATextThatIsNoNumberIsATypeMismatch) {
+TEST_F(DirectLinks, ATextThatIsNotANumberIsATypeMismatch) {
   for (const Digits text : {"", "x", "5 pages"}) {
     try {
       ADD_FAILURE() << text << " gave " << Short(text, 1, 3);

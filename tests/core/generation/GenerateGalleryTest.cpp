@@ -129,7 +129,7 @@ TEST_F(GenerateGalleryTest, TheCollectionShowsItsCountEveryHundredImages) {
                    "Collecting Image Information (200 out of 250)...", "Collecting Image Information (complete)..."}));
 }
 
-TEST_F(GenerateGalleryTest, WithoutPagesNothingBehindTheLinkGraphicsRuns) {
+TEST_F(GenerateGalleryTest, WithoutPagesNothingRunsAfterTheLinkGraphics) {
   AddPhotograph("a");
   RunOrder order = OrderToCreate();
   order.CreateHTML = false;
@@ -186,7 +186,7 @@ TEST_F(GenerateGalleryTest, AnImagesSubfolderOfSeveralLevelsIsMadeAndLinked) {
   EXPECT_NE(folder.Read("out/a.htm").find("<IMG SRC=\"Images/Big/a.jpg\""), std::string::npos);
 }
 
-TEST_F(GenerateGalleryTest, WithoutAnImagesSubfolderTheFilesStandInTheOutputFolder) {
+TEST_F(GenerateGalleryTest, WithoutAnImagesSubfolderTheFilesAreInTheOutputFolder) {
   AddPhotograph("a");
   project.settings.textImageSettingsSubFolder = "";
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
@@ -272,7 +272,7 @@ TEST_F(GenerateGalleryTest, TheLogOfAFailedRunIsWrittenAndTheBoxEmptied) {
   EXPECT_EQ(host.progress.log, "");
 }
 
-TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsToldWithItsDescriptionAndNumber) {
+TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsReportedWithItsDescriptionAndNumber) {
   AddPhotograph("a");
   AddPhotograph("b");
   project.settings.textThumbnailsTableRows = "0";
@@ -284,7 +284,7 @@ TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsToldWithItsDescriptionAndNumber
             "An Error has occurred during Creation of this Gallery:\r\rDivision by zero\r\rError #11");
 }
 
-TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsToldWithTheReason) {
+TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsReportedWithTheReason) {
   AddPhotograph("a");
   RunOrder order = OrderToCreate();
   order.OutputFolder = "Q:\\";

@@ -38,7 +38,7 @@ TEST_F(LinkBars, AtTheLastPageTheTextsStayWithoutTheirAnchors) {
                                                "BACK</A>&nbsp;&nbsp;NEXT</A>&nbsp;LAST</A>");
 }
 
-TEST_F(LinkBars, DirectLinksStandInTheMiddleWhenTheyAreWanted) {
+TEST_F(LinkBars, DirectLinksAreInTheMiddleWhenTheyAreWanted) {
   EXPECT_FALSE(Contains(BuildThumbnailPageBar(run, 1), "(direct)"));
   project.checkPageLinksThumbnailDirectLinks = 1;
   EXPECT_TRUE(Contains(BuildThumbnailPageBar(run, 1), "BACK</A>&nbsp;(direct)&nbsp;<A"));
@@ -52,7 +52,7 @@ TEST_F(LinkBars, OnePageAndOneImageHaveNoBar) {
   EXPECT_EQ(BuildImagePageBar(run, 1), "");
 }
 
-TEST_F(LinkBars, GraphicsStandBeforeTheTextOnTheLeftAndBehindItOnTheRight) {
+TEST_F(LinkBars, GraphicsPrecedeTheTextOnTheLeftAndFollowItOnTheRight) {
   project.ThumbnailFirstLink = {"F", "a.gif", "a0.gif"};
   project.ThumbnailPreviousLink = {"P", "a.png", "a0.png"};
   project.ThumbnailNextLink = {"N", "a.jpg", "a0.jpg"};
@@ -67,7 +67,7 @@ TEST_F(LinkBars, GraphicsStandBeforeTheTextOnTheLeftAndBehindItOnTheRight) {
                                                         G("_thumblink_previous_first.png") + "</A>&nbsp;P</A>&nbsp;"));
 }
 
-TEST_F(LinkBars, AGraphicWithoutALabelStandsAlone) {
+TEST_F(LinkBars, AGraphicWithoutALabelIsAlone) {
   project.ThumbnailFirstLink = {"", "a.gif", ""};
   project.ThumbnailPreviousLink = {"", "a.gif", ""};
   project.ThumbnailNextLink = {"", "a.gif", ""};
@@ -107,7 +107,7 @@ TEST_F(LinkBars, LayoutsWithTwoFramesHaveNoIndex) {
   }
 }
 
-TEST_F(LinkBars, TheGraphicOfTheIndexStandsOnEitherSideOfItsText) {
+TEST_F(LinkBars, TheGraphicOfTheIndexIsOnEitherSideOfItsText) {
   const std::string anchor = A("thumbpage_2.htm#img2");
   const std::string graphic = anchor + G("_imagelink_index.gif") + "</A>";
   project.ImageIndexLink = {"INDEX", "i.gif", ""};
@@ -139,7 +139,7 @@ TEST_F(LinkBars, TheLastImageAndTheThumbnailBarLookAtTheirOwnLabels) {
   EXPECT_TRUE(Contains(BuildThumbnailPageBar(run, 2), A("thumbpage_3.htm") + "NEXT</A>&nbsp;"));
 }
 
-TEST_F(LinkBars, AGridWithoutCellsFailsOnlyWhereTheIndexStands) {
+TEST_F(LinkBars, AGridWithoutCellsFailsOnlyAtTheIndexLink) {
   SetGrid("0", "5");
   EXPECT_THROW((void)BuildImagePageBar(run, 2), RuntimeFailure);
   project.comboGalleryLayoutType = 1;

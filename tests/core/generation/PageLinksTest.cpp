@@ -117,7 +117,7 @@ TEST_F(PageLinks, AnEmptyDisabledGraphicGivesANameWithoutExtension) {
   EXPECT_EQ(Graphic(0, 1, 4), R"(<IMG SRC="Images/_imagelink_first_first" BORDER="0" ALIGN="MIDDLE">)");
 }
 
-TEST_F(PageLinks, GraphicsStandInTheProjectsFolderAlsoInAPreview) {
+TEST_F(PageLinks, GraphicsLieInTheProjectsFolderInAPreviewToo) {
   Prepare(GenerationMode::Preview);
   project.textImageSettingsSubFolder = "Pics\\Big";
   EXPECT_EQ(Graphic(1, 2, 4), R"(<IMG SRC="Pics/Big/_imagelink_previous" BORDER="0" ALIGN="MIDDLE">)");
@@ -127,7 +127,7 @@ TEST_F(PageLinks, GraphicsStandInTheProjectsFolderAlsoInAPreview) {
   EXPECT_EQ(Graphic(1, 2, 4), R"(<IMG SRC="/_imagelink_previous" BORDER="0" ALIGN="MIDDLE">)");
 }
 
-TEST_F(PageLinks, AnImageStandsOnThePageOfItsQuotient) {
+TEST_F(PageLinks, AnImagesPageIsItsNumberDividedByThePageSize) {
   SetGrid("5", "5");
   EXPECT_EQ(ThumbnailPageOfImage(project, 1), 1);
   EXPECT_EQ(ThumbnailPageOfImage(project, 25), 1);

@@ -43,7 +43,7 @@ class PictureWorkshopTest : public ::testing::Test {
   PictureWorkshop::Waiting wait = [] { return true; };
 };
 
-TEST_F(PictureWorkshopTest, EachNumberGetsWhatCameOfItsTaskWhateverTheNumberOfWorkers) {
+TEST_F(PictureWorkshopTest, EachNumberGetsTheResultOfItsTaskForAnyNumberOfWorkers) {
   for (unsigned jobs : {1U, 2U, 4U}) {
     PictureWorkshop workshop(jobs, 20, plan);
     for (std::int32_t number = 1; number <= 20; ++number) {

@@ -139,7 +139,7 @@ TEST_F(ProducePicturesTest, AnImageThatDoesNotDecodeEndsTheRunWithItsMessage) {
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to copy the File \"T:\\photos\\text.jpg\".");
 }
 
-TEST_F(ProducePicturesTest, AFileThatIsNoPictureIsStillCopiedWhenNothingIsChanged) {
+TEST_F(ProducePicturesTest, AFileThatIsNotAPictureIsStillCopiedWhenNothingIsChanged) {
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
@@ -196,7 +196,7 @@ TEST_F(ProducePicturesTest, TheFilesAreTheSameForEveryNumberOfJobs) {
   }
 }
 
-TEST_F(ProducePicturesTest, ASourceThatVanishesBehindItsImageFailsItsThumbnail) {
+TEST_F(ProducePicturesTest, ASourceThatVanishesAfterItsImageFailsItsThumbnail) {
   AddPhotograph("a");
   AddPhotograph("b");
   loop.onTurn = [this](int) {

@@ -64,7 +64,7 @@ TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceTheSourceOfAnother) {
   }
 }
 
-TEST_F(ProtectSourcesTest, ASourceIsKnownBehindLinksAndOtherPaths) {
+TEST_F(ProtectSourcesTest, ASourceIsRecognizedThroughLinksAndOtherPaths) {
   AddPhotograph("a");
   Link("out/Images/a.jpg", "photos/a.jpg");
   ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
@@ -126,7 +126,7 @@ TEST_F(ProtectSourcesTest, APageReplacesNeitherTheProjectNorAPhotograph) {
   ExpectRefusal(order, PageTextOf("T:\\out\\index.htm"));
 }
 
-TEST_F(ProtectSourcesTest, WhatTheRunDoesNotWriteIsNoReasonToRefuse) {
+TEST_F(ProtectSourcesTest, FilesThatTheRunDoesNotWriteDoNotRefuseIt) {
   folder.Write("out/Images/a.jpg", PlainJpeg(40, 30));
   AddEntry("a", kOwnImage);
   const std::string photograph = folder.Read("out/Images/a.jpg");

@@ -10,7 +10,7 @@ namespace {
 
 using RunHindrancesTest = RunFixture;
 
-TEST_F(RunHindrancesTest, WhateverIsThrownInARunEndsItInFailureWithItsBox) {
+TEST_F(RunHindrancesTest, AnyExceptionEndsARunInFailureWithItsBox) {
   AddPhotograph("a");
   const std::string start = "An Error has occurred during Creation of this Gallery:\r\r";
   const std::pair<std::function<void()>, std::string> cases[] = {

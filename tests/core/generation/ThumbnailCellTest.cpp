@@ -57,7 +57,7 @@ TEST_F(ThumbnailCell, ThePopupCaptionIsItsAlternativeText) {
   EXPECT_TRUE(Content().ends_with(R"( BORDER="0" ALT=""></A>)"));
 }
 
-TEST_F(ThumbnailCell, ADescriptionStandsInItsPlace) {
+TEST_F(ThumbnailCell, ADescriptionIsPlacedAsSet) {
   SetDescription(1, 0);
   EXPECT_EQ(Content(), kWide + R"(<TR><TD ALIGN="LEFT" VALIGN="TOP">D</TD><TD WIDTH="61"ALIGN="RIGHT" VALIGN="TOP">)" +
                            kThumbnail + kEnd);
@@ -83,7 +83,7 @@ TEST_F(ThumbnailCell, ADescriptionHasItsHeaderAndFooterAndKnowsNoPage) {
       << Content();
 }
 
-TEST_F(ThumbnailCell, ACaptionStandsInItsPlace) {
+TEST_F(ThumbnailCell, ACaptionIsPlacedAsSet) {
   SetCaption(0, 0);
   EXPECT_EQ(Content(),
             kNarrow + R"(<TR><TD ALIGN="LEFT" VALIGN="TOP" WIDTH="100%">C&nbsp;</TD><TD ALIGN="LEFT" VALIGN="TOP">)" +

@@ -17,7 +17,7 @@ class ThumbnailPage : public PageTest {
   }
 };
 
-TEST_F(ThumbnailPage, OfOneImageStandsLineByLine) {
+TEST_F(ThumbnailPage, OfOneImageIsExpectedLineByLine) {
   AddImages(1);
   Prepare();
   EXPECT_EQ(Page(), Lines({"<HTML>",
@@ -91,7 +91,7 @@ struct GridCase {
   std::int32_t images;
 };
 
-TEST_F(ThumbnailPage, TellsHowManyImagesStandOnAPage) {
+TEST_F(ThumbnailPage, SaysHowManyImagesAreOnAPage) {
   AddImages(7);
   for (const GridCase& each :
        {GridCase{"2", "2", 1, 4}, GridCase{"2", "2", 5, 3}, GridCase{"2", "2", 7, 1}, GridCase{"2", "2", 8, 0},
@@ -115,7 +115,7 @@ TEST_F(ThumbnailPage, AGridThatNoPageCanHoldIsAnOverflow) {
   EXPECT_THROW((void)Page(), RuntimeFailure);
 }
 
-TEST_F(ThumbnailPage, ColorsAndBackdropStandInTheBody) {
+TEST_F(ThumbnailPage, ColorsAndBackdropAreAttributesOfTheBody) {
   AddImages(1);
   Prepare();
   project.textThumbnailsPageBackdrop = "C:\\pics\\sand.gif";
@@ -161,7 +161,7 @@ TEST_F(ThumbnailPage, AlignmentOfTheTableIsThatOfItsDivAndFitToPageIsWide) {
   }
 }
 
-TEST_F(ThumbnailPage, BarsStandAboveAndBelowTheTable) {
+TEST_F(ThumbnailPage, BarsAreAboveAndBelowTheTable) {
   AddImages(2);
   SetGrid("1", "1");
   Prepare();
@@ -186,7 +186,7 @@ TEST_F(ThumbnailPage, OnePageHasNoBarAtAll) {
   }
 }
 
-TEST_F(ThumbnailPage, TheSlideShowRefreshStandsOnEveryPage) {
+TEST_F(ThumbnailPage, TheSlideShowRefreshIsOnEveryPage) {
   AddImages(2);
   SetGrid("1", "1");
   Prepare();

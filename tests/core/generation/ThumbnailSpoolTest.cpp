@@ -30,7 +30,7 @@ TEST(ThumbnailSpool, WithoutAFolderItKeepsNothing) {
   EXPECT_FALSE(spool.Put("bytes"));
 }
 
-TEST(ThumbnailSpool, APlaceBehindTheEndGivesNothing) {
+TEST(ThumbnailSpool, APlaceBeyondTheEndGivesNothing) {
   const fakes::TemporaryFolder folder;
   const ThumbnailSpool spool(folder.Path());
   EXPECT_FALSE(spool.Get({.offset = 100, .size = 5}));

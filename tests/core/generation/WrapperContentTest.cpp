@@ -64,7 +64,7 @@ TEST_F(WrapperContentLine, ThePopupCaptionIsTheAlternativeText) {
   EXPECT_EQ(Content(), R"(<IMG SRC="Images/x.JPG" BORDER="0"  ALT="1: E <VANTORIUM_THUMBPAGE_INDEX>">)");
 }
 
-TEST_F(WrapperContentLine, ACaptionStandsInItsPlace) {
+TEST_F(WrapperContentLine, ACaptionIsPlacedAsSet) {
   SetCaption(0, 1);
   EXPECT_EQ(Content(),
             kTable + R"(<TD ALIGN="RIGHT" VALIGN="CENTER">C</TD><TD ALIGN="RIGHT" VALIGN="CENTER">)" + kImage + kEnd);
@@ -79,7 +79,7 @@ TEST_F(WrapperContentLine, ACaptionStandsInItsPlace) {
                            R"(</TD></TR><TR><TD ALIGN="RIGHT" VALIGN="TOP">C)" + kEnd);
 }
 
-TEST_F(WrapperContentLine, ADescriptionStandsAroundImageAndCaption) {
+TEST_F(WrapperContentLine, ADescriptionIsPlacedAroundImageAndCaption) {
   SetCaption(1, 1);
   const std::string inner =
       kTable + R"(<TD ALIGN="LEFT" VALIGN="CENTER">)" + kImage + R"(</TD><TD ALIGN="LEFT" VALIGN="CENTER">C)" + kEnd;

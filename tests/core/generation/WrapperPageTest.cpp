@@ -15,7 +15,7 @@ class WrapperPage : public PageTest {
   std::string Page(std::int32_t image = 1) const { return BuildWrapperPage(run, image); }
 };
 
-TEST_F(WrapperPage, OfTheOnlyImageStandsLineByLine) {
+TEST_F(WrapperPage, OfTheOnlyImageIsExpectedLineByLine) {
   AddImage("x");
   Prepare();
   EXPECT_EQ(Page(), Lines({"<HTML>",
@@ -55,7 +55,7 @@ TEST_F(WrapperPage, OfTheOnlyImageStandsLineByLine) {
                            "</HTML>"}));
 }
 
-TEST_F(WrapperPage, BarsStandAboveAndBelowTheImageWithALineBreak) {
+TEST_F(WrapperPage, BarsAreAboveAndBelowTheImageWithALineBreak) {
   AddImages(2);
   Prepare();
   const std::string bar = R"(FIRST</A>&nbsp;BACK</A>&nbsp;<A HREF="thumbpage_1.htm#img1">INDEX</A>)"
@@ -72,7 +72,7 @@ TEST_F(WrapperPage, BarsStandAboveAndBelowTheImageWithALineBreak) {
   }
 }
 
-TEST_F(WrapperPage, WithOneImageTheLinesOfTheBarStandAllTheSame) {
+TEST_F(WrapperPage, TheLinesOfTheBarAreThereEvenWithOneImage) {
   AddImages(1);
   Prepare();
   project.comboPageLinksImageLinkPlacement = 3;
@@ -80,7 +80,7 @@ TEST_F(WrapperPage, WithOneImageTheLinesOfTheBarStandAllTheSame) {
   EXPECT_TRUE(Contains(Page(), "IMAGE FOOTER -->\r\n\r\n<BR>\r\n\r\n<BR><BR>\r\n"));
 }
 
-TEST_F(WrapperPage, TheSlideShowRefreshStandsBehindTheGenerator) {
+TEST_F(WrapperPage, TheSlideShowRefreshIsAfterTheGenerator) {
   AddImages(2);
   Prepare();
   const std::string refresh = R"(<META HTTP-EQUIV="REFRESH")";

@@ -87,7 +87,7 @@ TEST(HuffmanTables, ARunWithoutAValueEndsTheBlockUnlessItIsOfSixteenZeros) {
   }
 }
 
-TEST(HuffmanTables, ABlockWithoutAnEndStopsAtItsLastPlaceWhateverFollows) {
+TEST(HuffmanTables, ABlockWithoutEndOfBlockStopsAtItsLastCoefficient) {
   for (const char* more : {"0", "101", "110000", "1110", "1111111"}) {
     EXPECT_EQ(Skipped(SomeTable(), Times(63, "101") + Times(9, more)), std::pair(kLastPlace, std::ptrdiff_t{189}));
     EXPECT_EQ(Skipped(SomeTable(), Times(21, "110101") + Times(9, more)), std::pair(kLastPlace, std::ptrdiff_t{126}));

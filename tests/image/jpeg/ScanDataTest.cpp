@@ -35,7 +35,7 @@ TEST_F(ScanDataTest, StuffedZerosAreGoneAndTheSegmentEndsAtItsMarker) {
             "c\xFF");
 }
 
-TEST_F(ScanDataTest, ZerosStandBehindASegment) {
+TEST_F(ScanDataTest, ZerosFollowASegment) {
   const ScanData data = Open("abc\xFF\xD9");
   EXPECT_TRUE(std::all_of(data.End(), data.End() + ScanData::kRoom, [](auto byte) { return byte == 0; }));
 }

@@ -93,7 +93,7 @@ TEST_F(FileNameEditing, NoWayLeadsOutWithoutStoring) {
   EXPECT_EQ(project.textThumbnailPageSettingsFilePrefix, "closed");
 }
 
-TEST_F(FileNameEditing, WhatIsTypedIsNotCompleted) {
+TEST_F(FileNameEditing, TypedTextIsNotCompleted) {
   Drive([](QWidget& form) {
     Type(Find<QWidget>(form, "comboImageWrapperSettingsFileExtension"), "HT");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

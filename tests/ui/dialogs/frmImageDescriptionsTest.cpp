@@ -63,7 +63,7 @@ class DescriptionsWindow : public testing::Test {
   frmImageDescriptions form{project, binder, boxes, nullptr};
 };
 
-TEST_F(DescriptionsWindow, StandsBesideTheMainWindow) {
+TEST_F(DescriptionsWindow, IsBesideTheMainWindow) {
   EXPECT_EQ(form.objectName(), "frmImageDescriptions");
   EXPECT_EQ(form.windowTitle(), "Image Descriptions ToolBox");
   EXPECT_FALSE(form.isModal());
@@ -134,7 +134,7 @@ TEST_F(DescriptionsWindow, FollowsTheListWithoutAChange) {
   EXPECT_EQ(project.images.Entry(1).ImageDescription, "the Alps");
 }
 
-TEST_F(DescriptionsWindow, WhatIsTypedReachesTheCurrentImage) {
+TEST_F(DescriptionsWindow, TypedTextReachesTheCurrentImage) {
   int edits = 0;
   QObject::connect(&binder, &FieldBinder::Edited, [&edits] { ++edits; });
   GoTo(2);
@@ -261,7 +261,7 @@ TEST_F(DescriptionsWindow, TheTitleBarAndEscapeLoseNothing) {
   EXPECT_EQ(project.settings.comboImageDescriptionPlacement, 3);
 }
 
-TEST_F(DescriptionsWindow, ClosingUntouchedIsNoChange) {
+TEST_F(DescriptionsWindow, ClosingWithoutEditsIsNotAChange) {
   Click(form, "btnClose");
   EXPECT_FALSE(project.IsModified);
 }
@@ -384,7 +384,7 @@ TEST_F(DescriptionsWindow, TheEditorOfHeaderAndFooterWritesWhatDiffers) {
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(DescriptionsWindow, TheEditorOfHeaderAndFooterLeftUntouchedIsNoChange) {
+TEST_F(DescriptionsWindow, ClosingTheHeaderAndFooterEditorWithoutEditsIsNotAChange) {
   ShowThumbnails();
   fakes::DriveModal([this] { Click(form, "btnThumbnailDescriptionsHeaderAndFooter"); },
                     [](QWidget& dialog) {

@@ -49,7 +49,7 @@ TEST_F(ImageFiltersForm, ShowsItsSettingsAndItsSample) {
     EXPECT_EQ(Find<QLabel>(form, "lblFade").text(), "200");
     EXPECT_EQ(Find<QLabel>(form, "lblNoise").text(), "70");
     EXPECT_EQ(Find<QLabel>(form, "lblQuality").text(), "60");
-    const QImage& sample = Find<PictureBox>(form, "pbPreview").Shown();
+    const QImage& sample = Find<UnscaledPicture>(form, "pbPreview").Shown();
     ASSERT_FALSE(sample.isNull());
     const QColor middle = sample.pixelColor(sample.rect().center());
     EXPECT_EQ(middle.red(), middle.blue()) << "grey";
@@ -133,9 +133,9 @@ TEST_F(ImageFiltersForm, AppliesWhatWasSetWithKeysAndMouse) {
   EXPECT_EQ(filters.sliderQuality, 75);
 }
 
-TEST_F(ImageFiltersForm, ThePreviewButtonShowsTheSampleAnew) {
+TEST_F(ImageFiltersForm, ThePreviewButtonShowsTheSampleAgain) {
   Edit([](QWidget& form) {
-    auto& box = Find<PictureBox>(form, "pbPreview");
+    auto& box = Find<UnscaledPicture>(form, "pbPreview");
     const QRgb before = box.Shown().pixel(50, 50);
     Click(form, "checkGrayscale");
     EXPECT_EQ(box.Shown().pixel(50, 50), before);
@@ -148,7 +148,7 @@ TEST_F(ImageFiltersForm, ThePreviewButtonShowsTheSampleAnew) {
 TEST_F(ImageFiltersForm, ASliderThatIsDraggedChangesTheSettingsAndThePictureOnlyWithTheButton) {
   Edit([](QWidget& form) {
     const auto& model = dynamic_cast<frmImageFilters&>(form).Model();
-    const QImage before = Find<PictureBox>(form, "pbPreview").Shown();
+    const QImage before = Find<UnscaledPicture>(form, "pbPreview").Shown();
     for (const char* name : {"sliderBrightness", "sliderFade", "sliderNoise", "sliderQuality"}) {
       if (model.SettingsChanged()) Click(form, "btnPreview");
       EXPECT_FALSE(model.SettingsChanged());
@@ -159,9 +159,9 @@ TEST_F(ImageFiltersForm, ASliderThatIsDraggedChangesTheSettingsAndThePictureOnly
       EXPECT_EQ(Find<QLabel>(form, (std::string("lbl") + (name + 6)).c_str()).text(), "5");
       slider.setSliderDown(false);
     }
-    EXPECT_EQ(Find<PictureBox>(form, "pbPreview").Shown(), before);
+    EXPECT_EQ(Find<UnscaledPicture>(form, "pbPreview").Shown(), before);
     Click(form, "btnPreview");
-    EXPECT_NE(Find<PictureBox>(form, "pbPreview").Shown(), before);
+    EXPECT_NE(Find<UnscaledPicture>(form, "pbPreview").Shown(), before);
   });
 }
 

@@ -98,7 +98,7 @@ TEST_F(LinksForm, WithoutTextsOfItsCallerItHasItsOwn) {
   EXPECT_EQ(Find<QLabel>(form, "lblFirstLastLink").text(), "&First/Last Link Graphic");
 }
 
-TEST_F(LinksForm, WhatIsPastedIsOneLine) {
+TEST_F(LinksForm, PastedTextBecomesOneLine) {
   EXPECT_EQ(Edit({"NEXT", "", "C:\\b.gif"},
                  [](QWidget& form) {
                    QApplication::clipboard()->setText("\tC:\\next.gif\r\n");

@@ -100,7 +100,7 @@ TEST_F(ProgressForm, TheBarOfTheFileAppearsWithItsFirstValueAndMovesNothing) {
   EXPECT_TRUE(Shows([this] { return In<QProgressBar>("pbFile").value() == 64; }));
 }
 
-TEST_F(ProgressForm, TheBarCountsBeyond16BitsAndStandsStillWithoutSteps) {
+TEST_F(ProgressForm, TheBarCountsBeyond16BitsAndDoesNotMoveWithoutSteps) {
   auto& bar = In<QProgressBar>("pbProgress");
   form->SetMax(400000);
   form->SetProgress(399999);
@@ -151,7 +151,7 @@ TEST_F(ProgressForm, TheCaretStaysAtTheEndOfTheLog) {
   EXPECT_TRUE(box.viewport()->rect().contains(box.cursorRect()));
 }
 
-TEST_F(ProgressForm, AFullLogBeginsAnew) {
+TEST_F(ProgressForm, AFullLogIsCleared) {
   form->SetText3(std::string(kFullLogBox, 'x'), true);
   form->SetText3("y", true);
   EXPECT_TRUE(Shows([this] { return Log() == "y"; })) << Log().size();
@@ -192,7 +192,7 @@ TEST_F(ProgressForm, AStrayEnterAsksNothing) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(ProgressForm, AConfirmedCancelIsToldInTheLogAndAskedNoMore) {
+TEST_F(ProgressForm, AConfirmedCancelIsLoggedAndNotAskedAgain) {
   Click(*form, "CancelButton");
   EXPECT_TRUE(form->IsCancelled());
   EXPECT_TRUE(cancel.CancelRequested());

@@ -138,7 +138,7 @@ TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
   });
 }
 
-TEST_F(PublishForm, WithoutAHostThereIsNoOk) {
+TEST_F(PublishForm, OkNeedsAHost) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textServerURL"), "");
     EXPECT_FALSE(IsEnabled(form, "OKButton"));
@@ -248,7 +248,7 @@ TEST_F(PublishForm, CancelLeavesTheFileAndShowsTheServerOfTheOpening) {
   }
 }
 
-TEST_F(PublishForm, AMissingFileIsToldAndGivesAnEmptyDialog) {
+TEST_F(PublishForm, AMissingFileIsReportedAndGivesAnEmptyDialog) {
   std::filesystem::remove(desk.ServerFile());
   Drive([](QWidget& form) { EXPECT_FALSE(IsEnabled(form, "textServerURL")); });
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);

@@ -35,7 +35,7 @@ class WatermarkForm : public testing::Test {
     return answer;
   }
 
-  static QImage Sample(QWidget& form) { return Find<PictureBox>(form, "pbPreview").Shown(); }
+  static QImage Sample(QWidget& form) { return Find<UnscaledPicture>(form, "pbPreview").Shown(); }
 
   fakes::SampleDesk desk;
   fakes::ScriptedCommonDialogs dialogs;
@@ -88,7 +88,7 @@ TEST_F(WatermarkForm, HasItsTextsAndToolTips) {
   });
 }
 
-TEST_F(WatermarkForm, AFontOfAnyNameIsToldAsItIsAndMakesTheDialogNoWider) {
+TEST_F(WatermarkForm, AFontOfAnyNameIsReportedAsItIsAndMakesTheDialogNoWider) {
   dialogs.fonts = {FontDescription{.Name = "<B>" + std::string(300, 'W'), .Size = 20}};
   Edit([](QWidget& form) {
     const int width = form.width();

@@ -34,7 +34,7 @@ TEST_F(Loading, APictureComesReducedForItsPlace) {
   EXPECT_EQ(sizes, (std::vector<QSize>{{100, 50}}));
 }
 
-TEST_F(Loading, OnlyTheLatestOneIsTold) {
+TEST_F(Loading, OnlyTheLatestOneIsReported) {
   const auto large = File(3000, 2000);
   const auto small = File(40, 30);
   for (int i = 0; i < 20; ++i) loader->Load(large, box);
@@ -43,7 +43,7 @@ TEST_F(Loading, OnlyTheLatestOneIsTold) {
   EXPECT_EQ(sizes, (std::vector<QSize>{{40, 30}}));
 }
 
-TEST_F(Loading, WhatDoesNotDecodeComesAsANullImage) {
+TEST_F(Loading, AnUndecodableFileIsANullImage) {
   loader->Load(folder.Write("text.jpg", "no picture"), box);
   Wait();
   EXPECT_EQ(sizes, (std::vector<QSize>{{0, 0}}));

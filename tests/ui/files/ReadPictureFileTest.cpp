@@ -59,7 +59,7 @@ TEST(ReadPictureFile, TheMiddleIsThatOfThePicture) {
   }
 }
 
-TEST(ReadPictureFile, WhatIsNoPictureIsNull) {
+TEST(ReadPictureFile, WhatIsNotAPictureIsNull) {
   const fakes::TemporaryFolder folder;
   for (const auto& file : {folder.Path(), folder.Path() / "missing", folder.Write("a.png", "no picture")}) {
     EXPECT_TRUE(ReadPictureFile(file).isNull()) << file;

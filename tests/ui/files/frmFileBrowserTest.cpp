@@ -1,7 +1,7 @@
 #include "core/ImageFormats.h"
 #include "tests/ui/BrowserDesk.h"
 #include "ui/files/frmFileBrowser.h"
-#include "ui/widgets/PreviewBox.h"
+#include "ui/widgets/StretchedPicture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -61,7 +61,7 @@ class FileDialog : public testing::Test {
     QApplication::processEvents();
   }
 
-  static bool HasPicture(QWidget& dialog) { return !Find<PreviewBox>(dialog, "pbPreview").Picture().isNull(); }
+  static bool HasPicture(QWidget& dialog) { return !Find<StretchedPicture>(dialog, "pbPreview").Picture().isNull(); }
   static bool PictureComes(QWidget& dialog) {
     return QTest::qWaitFor([&] { return HasPicture(dialog); });
   }
@@ -163,7 +163,7 @@ TEST_F(FileDialog, ThePictureIsStretchedOverAllOfItsBox) {
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
     ClickFile(dialog, "drawing.png");
-    auto& box = Find<PreviewBox>(dialog, "pbPreview");
+    auto& box = Find<StretchedPicture>(dialog, "pbPreview");
     const QImage drawn = box.grab().toImage();
     const QRect inside = box.contentsRect().adjusted(1, 1, -1, -1);
     EXPECT_EQ(drawn.pixelColor(inside.topLeft()), QColor(Qt::red));
@@ -171,7 +171,7 @@ TEST_F(FileDialog, ThePictureIsStretchedOverAllOfItsBox) {
   });
 }
 
-TEST_F(FileDialog, WhatIsNoPictureShowsNothing) {
+TEST_F(FileDialog, AFileThatIsNotAPictureShowsNothing) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -276,7 +276,7 @@ TEST_F(FileDialog, FiltersShowTheirDescriptionsAndMatchInAnyCase) {
   });
 }
 
-TEST_F(FileDialog, ATextOf1023CharactersIsToldAndOneOf1022IsNot) {
+TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndOneOf1022IsNot) {
   const std::string base = "photos/long/";
   for (const char first : {'a', 'b', 'c', 'd'}) desk.disk.Write(base + first + std::string(248, 'x') + ".jpg", "");
   desk.disk.Write(base + 'e' + std::string(247, 'x') + ".jpg", "");
@@ -431,7 +431,7 @@ TEST_F(FileDialog, WithoutAFolderItBeginsWhereItWasLeft) {
        [](QWidget& dialog) { EXPECT_EQ(Find<QComboBox>(dialog, "comboFolder").currentText(), "C:\\photos"); });
 }
 
-TEST_F(FileDialog, AFileThatIsNotThereIsToldAndTheDialogStays) {
+TEST_F(FileDialog, AFileThatIsNotThereIsReportedAndTheDialogStays) {
   Show(Images(), [](QWidget& dialog) {
     Type(NameBox(dialog), "none.jpg");
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);

@@ -85,7 +85,7 @@ TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCutAtTwoSides) {
   EXPECT_NE(drawn.pixelColor(0, screen.height() / 2 - 11), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToStandUprightAndItsMiddleIsShown) {
+TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToAreUprightAndItsMiddleIsShown) {
   const auto& pic = Find<QLabel>(preview, "pic");
   const auto write = [this](int width, int height) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = width, .height = height}), 6);
@@ -102,13 +102,13 @@ TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToStandUprightAndItsMiddleIsS
   EXPECT_LT(pic.pixmap().height(), 9000);
 }
 
-TEST_F(FullScreenPreview, WhatIsNoPhotographIsShownAsItIs) {
+TEST_F(FullScreenPreview, WhatIsNotAPhotographIsShownAsItIs) {
   Draw({40, 30}, {0, 0});
   preview.SetPicture("picture", "C:\\picture.png", {.upright = true, .trueColors = true});
   EXPECT_EQ(Find<QLabel>(preview, "pic").pixmap().size(), QSize(40, 30));
 }
 
-TEST_F(FullScreenPreview, WhatCannotBeShownLeavesTheScreenEmpty) {
+TEST_F(FullScreenPreview, APictureThatCannotBeShownLeavesTheScreenEmpty) {
   for (const char* file : {"C:\\photos\\broken.jpg", "C:\\photos\\none.jpg", "C:\\photos", "X:\\a.jpg", ""}) {
     preview.SetPicture("text", file);
     EXPECT_TRUE(Find<QLabel>(preview, "pic").pixmap().isNull()) << file;

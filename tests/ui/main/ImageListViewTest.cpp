@@ -69,7 +69,7 @@ TEST_F(DraggingRows, AListThatIsKeptSortedRefuses) {
   EXPECT_EQ(desk.boxes.boxes.back().title, "Item cannot be moved");
 }
 
-TEST_F(DraggingRows, WhatComesFromElsewhereIsIgnored) {
+TEST_F(DraggingRows, DropsFromElsewhereAreIgnored) {
   QMimeData foreign;
   foreign.setText("a.jpg");
   QDropEvent drop(MiddleOf(2), Qt::MoveAction | Qt::CopyAction, &foreign, Qt::LeftButton, {});

@@ -137,7 +137,7 @@ TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return title.hasFocus(); }));
 }
 
-TEST_F(AroundTheMainWindow, TheKeyboardIsInTheTitleBehindAStartWithAProject) {
+TEST_F(AroundTheMainWindow, TheTitleHasTheKeyboardAfterAStartWithAProject) {
   desk.Start();
   desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   desk.Trigger("menuFileSave");
@@ -176,7 +176,7 @@ TEST_F(AroundTheMainWindow, TheKeysOfCommandsWorkInTheDescriptionsWindow) {
   EXPECT_EQ(descriptions.focusWidget(), &header);
 }
 
-TEST_F(AroundTheMainWindow, TheStatusIsNoMarkup) {
+TEST_F(AroundTheMainWindow, TheStatusIsPlainText) {
   desk.Start();
   EXPECT_EQ(Find<QLabel>(*desk.window, "sbMainText").textFormat(), Qt::PlainText);
 }
@@ -219,7 +219,7 @@ class SmallWindows {
   QTimer watch_;
 };
 
-TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreToldStepByStep) {
+TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreReportedStepByStep) {
   SmallWindows windows;
   desk.Start();
   EXPECT_EQ(windows.seen, (std::vector<std::string>{"Please wait while Vantorium is initializing..."}));
@@ -250,7 +250,7 @@ class PaintedTexts : public QObject {
   }
 };
 
-TEST_F(AroundTheMainWindow, AReadingAndAWritingAreToldAndTheirTextsArePainted) {
+TEST_F(AroundTheMainWindow, AReadingAndAWritingAreReportedAndTheirTextsArePainted) {
   desk.Start();
   desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   PaintedTexts writing;

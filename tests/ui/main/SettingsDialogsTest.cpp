@@ -1,6 +1,6 @@
 // Changes applied in dialogs of the settings pages reach the project; cancelled ones do not.
 #include "tests/ui/MainDesk.h"
-#include "ui/widgets/PictureBox.h"
+#include "ui/widgets/UnscaledPicture.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -174,7 +174,7 @@ TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
   const auto middle = [this](const char* button) {
     QColor color;
     Drive(1, button, [&](QWidget& dialog) {
-      const QImage& sample = Find<PictureBox>(dialog, "pbPreview").Shown();
+      const QImage& sample = Find<UnscaledPicture>(dialog, "pbPreview").Shown();
       color = sample.pixelColor(sample.rect().center());
     });
     return std::pair(color.red() / 64, color.blue() / 64);

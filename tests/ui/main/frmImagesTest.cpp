@@ -1,5 +1,5 @@
 #include "tests/ui/ImagesDesk.h"
-#include "ui/main/ImagePreview.h"
+#include "ui/main/FittedPicture.h"
 #include "ui/main/frmImages.h"
 
 #include <QCheckBox>
@@ -22,7 +22,7 @@ using Positions = std::vector<std::size_t>;
 
 class ImagesPage : public testing::Test {
  protected:
-  [[nodiscard]] ImagePreview& Preview() { return Find<ImagePreview>(*desk.page, "pbImagesPreview"); }
+  [[nodiscard]] FittedPicture& Preview() { return Find<FittedPicture>(*desk.page, "pbImagesPreview"); }
   [[nodiscard]] bool PreviewShows() {
     return QTest::qWaitFor([this] { return !Preview().Picture().isNull(); }, 5000);
   }
@@ -82,7 +82,7 @@ TEST_F(ImagesPage, EveryButtonCanBeReachedAndTellsWhatItDoes) {
   }
 }
 
-TEST_F(ImagesPage, AListThatChangesBehindItsBackIsDrawnWithoutHarm) {
+TEST_F(ImagesPage, AListThatChangesUnnoticedIsDrawnSafely) {
   desk.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   images.Remove(1);
   EXPECT_EQ(desk.ShownText(2), "");
@@ -94,7 +94,7 @@ TEST_F(ImagesPage, AListThatChangesBehindItsBackIsDrawnWithoutHarm) {
 
 // Selection and current row
 
-TEST_F(ImagesPage, WhatTheUserSelectsIsSelectedInTheList) {
+TEST_F(ImagesPage, RowsThatTheUserSelectsAreSelectedInTheList) {
   desk.AddAll({"a.jpg", "b.jpg", "c.jpg", "d.jpg"});
   desk.ClickRow(1);
   EXPECT_EQ(desk.Selected(), (Positions{2}));
@@ -121,7 +121,7 @@ TEST_F(ImagesPage, RefreshShowsTheSelectionAndTheCurrentRowOfTheList) {
   EXPECT_FALSE(desk.list->currentIndex().isValid());
 }
 
-TEST_F(ImagesPage, WhatTheListDoesIsNotTakenForTheUser) {
+TEST_F(ImagesPage, ChangesMadeByTheListAreNotTakenForTheUsers) {
   desk.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   const QSignalSpy told(desk.list, &ImageListView::CurrentRowChanged);
   desk.MakeCurrent(3);
@@ -133,7 +133,7 @@ TEST_F(ImagesPage, WhatTheListDoesIsNotTakenForTheUser) {
   EXPECT_EQ(told.count(), 0);
 }
 
-TEST_F(ImagesPage, AnotherCurrentRowIsToldOnce) {
+TEST_F(ImagesPage, AnotherCurrentRowIsReportedOnce) {
   desk.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   desk.MakeCurrent(1);
   int told = 0;
@@ -174,7 +174,7 @@ TEST_F(ImagesPage, WithoutACurrentRowThePreviewIsEmpty) {
   EXPECT_EQ(Size(), "");
 }
 
-TEST_F(ImagesPage, ThePreviewCanBeSwitchedOffWhichIsNoChangeOfTheProject) {
+TEST_F(ImagesPage, SwitchingThePreviewOffDoesNotModifyTheProject) {
   desk.AddAll({"a.jpg"});
   desk.ClickRow(0);
   ASSERT_TRUE(PreviewShows());
@@ -252,7 +252,7 @@ TEST_F(ImagesPage, NothingIsAskedWhileTheWindowIsBusy) {
   desk.Add("bad.jpg", "no picture");
   desk.page->RefreshList();
   desk.page->setEnabled(false);
-  const QSignalSpy failed(&Preview(), &ImagePreview::Failed);
+  const QSignalSpy failed(&Preview(), &FittedPicture::Failed);
   desk.MakeCurrent(1);
   EXPECT_TRUE(QTest::qWaitFor([&] { return failed.count() == 1; }, 10000));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -330,7 +330,7 @@ TEST_F(ImagesPage, TheDeleteKeyAndTheButtonRemoveTheSelection) {
   EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
-TEST_F(ImagesPage, DeleteTakesRowAfterRowWithoutSelectingAnew) {
+TEST_F(ImagesPage, DeleteRemovesRowAfterRowWithoutSelecting) {
   desk.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   desk.ClickRow(1);
   for (const Names& left : {Names{"a.jpg", "c.jpg"}, Names{"a.jpg"}, Names{}}) {
@@ -456,7 +456,7 @@ TEST_F(ImagesPage, RenameCanNameAllImagesOrNone) {
   EXPECT_EQ(desk.Names(), (Names{"x", "x_1"}));
 }
 
-TEST_F(ImagesPage, ACancelledDialogIsNoOperation) {
+TEST_F(ImagesPage, ACancelledDialogIsNotAnOperation) {
   desk.AddAll({"a.jpg"});
   desk.MakeCurrent(1);
   const QSignalSpy operations(desk.page.get(), &frmImages::ListChanged);

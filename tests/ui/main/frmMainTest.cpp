@@ -1,7 +1,7 @@
 // The main window: its menus and tool bar, its start, and its question before it closes.
 #include "tests/fakes/PhotographMaker.h"
 #include "tests/ui/MainDesk.h"
-#include "ui/main/ImagePreview.h"
+#include "ui/main/FittedPicture.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -147,7 +147,7 @@ TEST_F(MainWindow, ThePreviewFollowsTheEntryForUprightPhotographs) {
   EXPECT_TRUE(size.text().startsWith("(64x48, "));
   desk.Trigger("menuOptionsUpright");
   EXPECT_TRUE(size.text().startsWith("(48x64, "));
-  const auto& preview = Find<ImagePreview>(*desk.window, "pbImagesPreview");
+  const auto& preview = Find<FittedPicture>(*desk.window, "pbImagesPreview");
   EXPECT_TRUE(QTest::qWaitFor([&] { return preview.Picture().size() == QSize(48, 64); }, 10000));
 }
 
@@ -193,7 +193,7 @@ TEST_F(MainWindow, ListsTheBrowsersOfThePreferences) {
   EXPECT_EQ(EntriesOf(Find<QMenu>(*desk.window, "menuActionsView"))[2], "...in One");
 }
 
-TEST_F(MainWindow, PreferencesThatCannotBeReadAreToldOnceAtTheStart) {
+TEST_F(MainWindow, PreferencesThatCannotBeReadAreReportedOnceAtTheStart) {
   desk.Start();
   EXPECT_TRUE(desk.boxes.boxes.empty());
   const auto file = desk.folder.Path() / "program/vantorium.ini";
@@ -223,7 +223,7 @@ TEST_F(MainWindow, OpensTheProjectOfTheCommandLine) {
   EXPECT_FALSE(Now().IsModified);
 }
 
-TEST_F(MainWindow, ACommandLineThatIsNoProjectIsTold) {
+TEST_F(MainWindow, ACommandLineThatIsNotAProjectIsReported) {
   desk.Start("T:\\missing.gpj");
   EXPECT_FALSE(desk.boxes.boxes.empty());
   EXPECT_EQ(Now().images.Count(), 0U);
@@ -369,7 +369,7 @@ TEST_F(MainWindow, TheEntryThatAsksForTheBrowsersOutlivesItsMenusRebuild) {
   }
 }
 
-TEST_F(MainWindow, WhatDisablesItLeavesTheFocusWhereItWas) {
+TEST_F(MainWindow, DisablingItKeepsTheFocus) {
   desk.Start();
   auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
   for (const char* command : {"menuFileSave", "menuOptionsClearTempFolder"}) {

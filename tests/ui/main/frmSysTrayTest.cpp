@@ -96,7 +96,7 @@ TEST_F(SysTrayForm, TheMenuIsShownOnceOnly) {
   EXPECT_EQ(Sent(), "");
 }
 
-TEST_F(SysTrayForm, TheMouseOverTheIconIsTold) {
+TEST_F(SysTrayForm, TheMouseOverTheIconIsReported) {
   Activate(QSystemTrayIcon::Trigger);
   EXPECT_EQ(Sent(), "button 1; ");
   Activate(QSystemTrayIcon::Context);
@@ -118,7 +118,7 @@ TEST_F(SysTrayForm, TwoTriggersAreADoubleClickAndActOnce) {
   EXPECT_EQ(Sent(), "button 1; ") << "the first of the next";
 }
 
-TEST_F(SysTrayForm, ADoubleClickThatIsToldIsNoFirstTrigger) {
+TEST_F(SysTrayForm, AReportedDoubleClickIsNotAFirstTrigger) {
   Activate(QSystemTrayIcon::Trigger);
   Activate(QSystemTrayIcon::DoubleClick);
   Activate(QSystemTrayIcon::Trigger);
@@ -162,7 +162,7 @@ TEST_F(SysTrayForm, WithoutADefaultADoubleClickChoosesNothing) {
   EXPECT_EQ(Sent(), "double; ");
 }
 
-TEST_F(SysTrayForm, WhileItIsDisabledNothingIsTold) {
+TEST_F(SysTrayForm, WhileItIsDisabledNothingIsReported) {
   tray.SetEnabled(false);
   EXPECT_FALSE(Entry("mnuSysTray5").isEnabled());
   Entry("mnuSysTray5").trigger();

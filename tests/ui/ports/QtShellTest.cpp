@@ -49,7 +49,7 @@ TEST_F(QtShellTest, AProgramThatIsNotThereFailsAtOnce) {
   EXPECT_EQ(failures, Texts{"no-such-program-here: No such file or directory"});
 }
 
-TEST_F(QtShellTest, TheSecondAttemptIsMadeWhenTheFirstHasFailedAndItsFailureIsToldOnce) {
+TEST_F(QtShellTest, TheSecondAttemptIsMadeWhenTheFirstHasFailedAndItsFailureIsReportedOnce) {
   Launch({WaitingFor("first", 3), WaitingFor("second", 4)}, shell, note);
   LetGoOn("first");
   EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200)) << "the second attempt goes on";
@@ -79,7 +79,7 @@ TEST_F(QtShellTest, AMessageAboutTheFailureIsNotShownTwiceWhileItsEventLoopRuns)
   EXPECT_EQ(failures.size(), 1U);
 }
 
-TEST_F(QtShellTest, NothingIsToldBehindTheEndOfTheDesktop) {
+TEST_F(QtShellTest, NothingIsReportedAfterTheEndOfTheDesktop) {
   auto desktop = std::make_unique<QtShell>(paths);
   desktop->Start(WaitingFor("go", 3), note);
   desktop.reset();

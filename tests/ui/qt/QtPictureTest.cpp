@@ -68,7 +68,7 @@ std::string Loaded(const QImage& source, const BlitArea& from) {
   return Places(ImageOf(picture));
 }
 
-TEST(QtPicture, AnImageStandsUprightInItsColors) {
+TEST(QtPicture, AnImageIsUprightAndKeepsItsColors) {
   EXPECT_EQ(Places(ImageOf(Numbered())), "00 10 20\n01 11 21\n");
   for (const int width : {1, 2, 3, 4}) {
     const QImage image = ImageOf(Numbered(width, 1));
@@ -176,7 +176,7 @@ TEST(QtPicture, AnImageOfAFineScreenKeepsItsPixels) {
   EXPECT_EQ(Places(ImageOf(picture)), "00 10 20\n01 11 21\n");
 }
 
-TEST(QtPicture, WhatIsTransparentBecomesWhite) {
+TEST(QtPicture, TransparentPixelsBecomeWhite) {
   QImage glass(2, 1, QImage::Format_ARGB32);
   glass.setPixel(0, 0, qRgba(0, 0, 0, 0));
   glass.setPixel(1, 0, qRgba(0, 0, 0, 255));

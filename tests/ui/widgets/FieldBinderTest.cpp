@@ -62,7 +62,7 @@ class FieldBinding : public testing::Test {
   int edits = 0;
 };
 
-TEST_F(FieldBinding, RefreshShowsTheProjectAndIsNoEdit) {
+TEST_F(FieldBinding, RefreshShowsTheProjectAndIsNotAnEdit) {
   project.textGalleryTitle = "Zürich";
   project.comboGalleryLayoutType = 3;
   binder.Refresh();
@@ -74,7 +74,7 @@ TEST_F(FieldBinding, RefreshShowsTheProjectAndIsNoEdit) {
   EXPECT_EQ(edits, 0);
 }
 
-TEST_F(FieldBinding, WhatIsTypedReachesTheField) {
+TEST_F(FieldBinding, TypedTextReachesTheField) {
   Type(title, "Ferien");
   EXPECT_EQ(project.textGalleryTitle, "Ferien");
   EXPECT_TRUE(modified);
@@ -123,7 +123,7 @@ TEST_F(FieldBinding, APastedNumberBelowItsBoundBecomesTheBound) {
   EXPECT_EQ(project.textThumbnailsTableRows, "0");
 }
 
-TEST_F(FieldBinding, WhatIsNoNumberEmptiesTheDirectLinksAndLeavesOtherNumbersAlone) {
+TEST_F(FieldBinding, ATextThatIsNotANumberEmptiesTheDirectLinksAndNoOtherField) {
   Paste(directLinks, "12");
   Paste(directLinks, "7x");
   EXPECT_EQ(directLinks.text(), "");
@@ -140,7 +140,7 @@ TEST_F(FieldBinding, WhatIsNoNumberEmptiesTheDirectLinksAndLeavesOtherNumbersAlo
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(FieldBinding, AKeyThatIsNoDigitDoesNothing) {
+TEST_F(FieldBinding, AKeyThatIsNotADigitDoesNothing) {
   modified = false;
   for (const char* box : {"x", "-", " ", "."}) {
     for (QLineEdit* number : {&frameSize, &directLinks}) {

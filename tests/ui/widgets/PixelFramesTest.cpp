@@ -1,5 +1,5 @@
 #include "ui/widgets/PixelFrames.h"
-#include "ui/widgets/PreviewBox.h"
+#include "ui/widgets/StretchedPicture.h"
 
 #include <QImage>
 #include <QListView>
@@ -92,7 +92,7 @@ TEST(PixelFrames, APreviewKeepsItsFourLinesAroundAPictureThatFillsItsInside) {
   red.fill(Qt::red);
   for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
     for (const int height : {60, 61, 62, 63}) {
-      PreviewBox box;
+      StretchedPicture box;
       box.Show(red);
       const OnAScreen screen(box, {height + 40, height}, scale);
       for (const int line : screen.LinesOf(LineColor())) EXPECT_GE(line, 1) << scale << " " << height;

@@ -44,7 +44,7 @@ TEST_F(TextBoxTest, APastedTextComesInAtTheCursorAndIsOneStepOfUndo) {
   EXPECT_EQ(box.toPlainText(), "one ");
 }
 
-TEST_F(TextBoxTest, WhatIsTypedBeforeAndBehindAPasteIsUndoneApartFromIt) {
+TEST_F(TextBoxTest, TextTypedBeforeAndAfterAPasteIsUndoneSeparately) {
   for (const char* pasted : {"two", "two\nthree"}) {
     box.setPlainText("");
     QTest::keyClicks(&box, "a");

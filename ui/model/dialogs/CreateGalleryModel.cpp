@@ -169,19 +169,19 @@ bool CreateGalleryModel::RefuseDestination() const {
   return true;
 }
 
-Application CreateGalleryModel::Apply() {
+ApplyResult CreateGalleryModel::Apply() {
   if (NothingIsMade()) {
     boxes_.Critical("Cannot create Gallery", "Please make sure you have one of the Options checked!");
-    return Application::Refused;
+    return ApplyResult::Refused;
   }
   if (order_.Mode == GenerationMode::Create) LeaveFilePath();
   if (order_.Mode == GenerationMode::Upload) {
     LeaveSourceFolder();
-    if (!NormalizeFolderPath(sourceFolder_, boxes_)) return Application::NoSourceFolder;
+    if (!NormalizeFolderPath(sourceFolder_, boxes_)) return ApplyResult::NoSourceFolder;
   }
-  if (RefuseDestination()) return Application::NoDestination;
+  if (RefuseDestination()) return ApplyResult::NoDestination;
   Cancelled = false;
-  return Application::Done;
+  return ApplyResult::Done;
 }
 
 std::optional<RunOrder> CreateGalleryModel::Order() const {

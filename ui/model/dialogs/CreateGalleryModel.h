@@ -23,7 +23,7 @@ namespace vantorium {
 [[nodiscard]] std::string PathKey(std::string_view before, const std::string& key);
 
 /// The result of the button that starts the run.
-enum class Application {
+enum class ApplyResult {
   Done,            ///< the dialog closes
   Refused,         ///< a message box told why; the dialog stays open
   NoSourceFolder,  ///< the same, for the folder to upload
@@ -81,7 +81,7 @@ class CreateGalleryModel {
   /// Call when the server dialog, which shows `profile`, is no longer in front.
   void LeaveServers(const ServerProfile& profile);
 
-  [[nodiscard]] Application Apply();
+  [[nodiscard]] ApplyResult Apply();
   void Cancel() { Cancelled = true; }
   /// What the user chose, once the dialog has closed; nullopt if it was cancelled.
   [[nodiscard]] std::optional<RunOrder> Order() const;

@@ -33,7 +33,7 @@ TEST(BrowserEntry, EachChangeDecidesAgain) {
   EXPECT_FALSE(entry.IsOKEnabled());
 }
 
-TEST(BrowserEntry, AChosenExecutableEnablesOKWhateverTheNameIs) {
+TEST(BrowserEntry, AChosenExecutableEnablesOKForAnyName) {
   BrowserEntry entry("Add Browser", {});
   entry.ComeUp();
   entry.TakeExecutable("");

@@ -8,7 +8,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-TEST(CodeEditor, WhatAFileCanKeepPassesWithoutABox) {
+TEST(CodeEditor, CodeThatAFileCanHoldIsAccepted) {
   for (const char* text : {"", "]", ">", "]]", "]] >", "] ]>", "]>]", "a[0]>b]", "<b>Zürich</b>\r\n]]\r\n>"}) {
     fakes::RecordingMessageBox boxes;
     EXPECT_FALSE(FindRefusedCode(Texts{text, text}, boxes)) << text;
@@ -16,7 +16,7 @@ TEST(CodeEditor, WhatAFileCanKeepPassesWithoutABox) {
   }
 }
 
-TEST(CodeEditor, TheEndOfASectionIsRefusedWhereverItStands) {
+TEST(CodeEditor, TheEndOfASectionIsRefusedAnywhere) {
   struct Case {
     std::string text;
     std::size_t position;
@@ -29,7 +29,7 @@ TEST(CodeEditor, TheEndOfASectionIsRefusedWhereverItStands) {
   }
 }
 
-TEST(CodeEditor, ARefusalIsToldInACriticalBox) {
+TEST(CodeEditor, ARefusalIsReportedInACriticalBox) {
   fakes::RecordingMessageBox boxes;
   ASSERT_TRUE(FindRefusedCode(Texts{"]]>"}, boxes));
   ASSERT_EQ(boxes.boxes.size(), 1U);

@@ -35,7 +35,7 @@ class CreateGalleryModelTest : public testing::Test {
   /// What the dialog orders for `option`, closed by its button.
   RunOrder Applied(GenerationMode option) {
     model.Choose(option);
-    EXPECT_EQ(model.Apply(), Application::Done);
+    EXPECT_EQ(model.Apply(), ApplyResult::Done);
     return model.Order().value_or(RunOrder{.Mode = GenerationMode::Preview});
   }
   void ExpectBox(const std::string& title, const std::string& text) const {
@@ -196,7 +196,7 @@ TEST_F(CreateGalleryModelTest, ComesUpWithoutThePasswordButWithTheOptionAndTheSw
   model.Choose(GenerationMode::Publish);
   model.Check(&RunOrder::Overwrite, false);
   model.EditPassword("secret");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().Password, "secret");
   model.ComeUp();
   EXPECT_EQ(model.Password(), "");
@@ -371,16 +371,16 @@ TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlo
   const std::string servers = program.Read("vantorium.pub");
   model.Choose(GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(program.Read("vantorium.pub"), servers);
   model.ComeUp();
   EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().ServerAddress, "one.example.org");
   EXPECT_EQ(model.Order().value().RemoteIndexFileName, "start.htm");
 }
 
-TEST_F(CreateGalleryModelTest, ADestinationThatStandsAsItWasFilledInIsTheServersOwn) {
+TEST_F(CreateGalleryModelTest, AnUntouchedDestinationIsTheServersOwn) {
   for (const char* index : {"a//b//start.htm", "", "start.htm", "a/b/"}) {
     ComeUpWithIndex(index);
     const RunOrder before = Applied(GenerationMode::Publish);
@@ -403,24 +403,24 @@ TEST_F(CreateGalleryModelTest, ADestinationThatStandsAsItWasFilledInIsTheServers
   }
 }
 
-TEST_F(CreateGalleryModelTest, AServerChosenBehindAChangeByHandTakesItsPlace) {
+TEST_F(CreateGalleryModelTest, AServerChosenAfterATypedChangeReplacesIt) {
   ComeUpWith({kOne});
   model.Choose(GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
   model.TakeServer(kTwo);
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().ServerAddress, "two.example.org");
   EXPECT_EQ(model.Order().value().RemoteIndexFileName, "index.htm");
 }
 
-TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsToldBeforeTheRun) {
+TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsReportedBeforeTheRun) {
   for (const char* typed :
        {"", "x", "gallery.htm", "/gallery/index.htm", "http://host/a", "host:2121/a", "me@host/a"}) {
     ComeUpWith({kOne});
     boxes.boxes.clear();
     model.Choose(GenerationMode::Publish);
     model.EditPublishDestination(typed);
-    EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
+    EXPECT_EQ(model.Apply(), ApplyResult::NoDestination) << typed;
     EXPECT_EQ(model.Order(), std::nullopt) << typed;
     ExpectBox("Invalid Destination",
               "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\".");
@@ -428,20 +428,20 @@ TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsToldBeforeTheRun) {
     model.Choose(GenerationMode::Upload);
     model.EditSourceFolder("D:\\photos");
     model.EditUploadDestination(typed);
-    EXPECT_EQ(model.Apply(), Application::NoDestination) << typed;
+    EXPECT_EQ(model.Apply(), ApplyResult::NoDestination) << typed;
     ExpectBox("Invalid Destination", "Please give Server and Folder, such as \"ftp.example.org/gallery\".");
     model.EditUploadDestination("host/" + std::string(typed));
-    EXPECT_EQ(model.Apply(), Application::Done) << typed;
+    EXPECT_EQ(model.Apply(), ApplyResult::Done) << typed;
   }
 }
 
 TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
   ComeUpWith({kOne});
   model.EditPublishDestination("x");
-  EXPECT_EQ(model.Apply(), Application::Done) << "a local gallery";
+  EXPECT_EQ(model.Apply(), ApplyResult::Done) << "a local gallery";
   model.Choose(GenerationMode::Upload);
   model.EditSourceFolder("D:\\photos");
-  EXPECT_EQ(model.Apply(), Application::Done) << "a folder";
+  EXPECT_EQ(model.Apply(), ApplyResult::Done) << "a folder";
   EXPECT_EQ(model.Order().value().ServerAddress, "one.example.org");
   EXPECT_TRUE(boxes.boxes.empty());
 }
@@ -463,11 +463,11 @@ TEST_F(CreateGalleryModelTest, AGalleryOfNothingIsRefused) {
     for (const auto box : {&RunOrder::CreateImages, &RunOrder::CreateThumbnails, &RunOrder::CreateHTML}) {
       model.Check(box, false);
     }
-    EXPECT_EQ(model.Apply(), Application::Refused);
+    EXPECT_EQ(model.Apply(), ApplyResult::Refused);
     ExpectBox("Cannot create Gallery", "Please make sure you have one of the Options checked!");
     EXPECT_EQ(model.Order(), std::nullopt);
     model.Check(&RunOrder::CreateHTML, true);
-    EXPECT_EQ(model.Apply(), Application::Done);
+    EXPECT_EQ(model.Apply(), ApplyResult::Done);
     EXPECT_EQ(model.Order().value().Mode, option);
   }
 }
@@ -478,7 +478,7 @@ TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
     model.Check(box, false);
   }
   model.EditSourceFolder("C:\\photos");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_TRUE(boxes.boxes.empty());
   EXPECT_EQ(model.Order().value().Mode, GenerationMode::Upload);
   EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
@@ -487,7 +487,7 @@ TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
 TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
   model.Choose(GenerationMode::Upload);
   model.EditSourceFolder("photos");
-  EXPECT_EQ(model.Apply(), Application::NoSourceFolder);
+  EXPECT_EQ(model.Apply(), ApplyResult::NoSourceFolder);
   EXPECT_EQ(model.SourceFolder(), "photos\\");
   ExpectBox("Invalid Path", "You must specify an absolute Path.");
   EXPECT_EQ(model.Order(), std::nullopt);
@@ -495,23 +495,23 @@ TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
 
 TEST_F(CreateGalleryModelTest, AFolderIsNotLookedAtForAGallery) {
   model.EditSourceFolder("photos");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.SourceFolder(), "photos");
 }
 
 TEST_F(CreateGalleryModelTest, APathIsFinishedWhenTheKeyboardAppliesFromItsBox) {
   model.EditFilePath("D:");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().OutputFolder, "D:\\");
   EXPECT_EQ(model.Order().value().IndexFileName, "index.htm");
   model.Choose(GenerationMode::Upload);
   model.EditSourceFolder("/home/me/photos");
-  EXPECT_EQ(model.Apply(), Application::Done);
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
 }
 
-TEST_F(CreateGalleryModelTest, ACancelIsNoRun) {
-  EXPECT_EQ(model.Apply(), Application::Done);
+TEST_F(CreateGalleryModelTest, CancelStartsNoRun) {
+  EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_FALSE(model.Cancelled);
   model.Cancel();
   EXPECT_TRUE(model.Cancelled);

@@ -35,7 +35,7 @@ TEST_F(Places, AFolderThatIsMissingGivesWayToTheNearestAboveIt) {
   }
 }
 
-TEST_F(Places, WhatIsNoPathOfThisSystemLeadsHome) {
+TEST_F(Places, APathThatIsNotOfThisSystemOpensTheHomeFolder) {
   for (const char* text : {"", "X:\\photos", "\\\\server\\share\\photos"}) {
     EXPECT_EQ(NearestFolder(paths, text, home), home) << text;
   }

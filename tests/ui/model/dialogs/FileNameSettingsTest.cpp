@@ -72,7 +72,7 @@ TEST_F(NameSettings, AnExtensionIsStoredWithAPoint) {
   EXPECT_EQ(project.comboImageWrapperSettingsFileExtension, ".");
 }
 
-TEST_F(NameSettings, StoringTheSameNamesIsNoChange) {
+TEST_F(NameSettings, StoringTheSameNamesIsNotAChange) {
   for (const NameField& name : FileNameFields()) StoreName(name, ShownName(name, project), editor);
   for (const NameField& name : FrameNameFields()) StoreName(name, ShownName(name, project), editor);
   EXPECT_FALSE(modified);

@@ -24,7 +24,7 @@ class LinkDialog : public testing::Test {
   int edits = 0;
 };
 
-TEST_F(LinkDialog, ComingUpIsNoEdit) {
+TEST_F(LinkDialog, OpeningIsNotAnEdit) {
   const LinksModel model = Model({"NEXT", "C:\\a.gif", ""});
   EXPECT_EQ(edits, 0);
   EXPECT_FALSE(model.MirrorGraphics());

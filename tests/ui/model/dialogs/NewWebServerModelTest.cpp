@@ -30,7 +30,7 @@ TEST(NewWebServerModel, ANameCountsOnceItIsConfirmed) {
   EXPECT_FALSE(model.IsCancelled());
 }
 
-TEST(NewWebServerModel, CancelIsTold) {
+TEST(NewWebServerModel, CancelIsReported) {
   NewWebServerModel model;
   model.Cancel();
   EXPECT_TRUE(model.IsCancelled());

@@ -70,7 +70,7 @@ TEST_F(PublishModelTest, WithoutAFileTheFirstOpeningIsEmptyAndTheNextHasTheDefau
   EXPECT_EQ(model->Shown().IndexPath, "gallery");
 }
 
-TEST_F(PublishModelTest, WithoutAHostThereIsNoOk) {
+TEST_F(PublishModelTest, OkNeedsAHost) {
   Open({kOne});
   model->Edit(&ServerProfile::ServerURL, "");
   EXPECT_FALSE(model->CanAccept());
@@ -174,7 +174,7 @@ TEST_F(PublishModelTest, AnIndexFileWithAPathIsRefusedWhereItCanBeSeen) {
   EXPECT_EQ(model->Shown().IndexFile, "index.htm");
 }
 
-TEST_F(PublishModelTest, AFileThatCannotBeWrittenIsToldAndTheServerStillServes) {
+TEST_F(PublishModelTest, AFileThatCannotBeWrittenIsReportedAndTheServerStillServes) {
   Open({kOne});
   std::filesystem::remove(File());
   std::filesystem::create_directories(File() / "in the way");

@@ -10,7 +10,7 @@ void PrintTo(const ServerPlace& place, std::ostream* stream) {
 
 namespace {
 
-TEST(ServerPlace, IsWhatStandsBeforeAndBehindTheFirstSlash) {
+TEST(ServerPlace, IsSplitAtTheFirstSlash) {
   const std::pair<std::string, ServerPlace> cases[] = {
       {"ftp.example.org/gallery/index.htm", {"ftp.example.org", "gallery/index.htm"}},
       {"ftp.example.org/index.htm", {"ftp.example.org", "index.htm"}},

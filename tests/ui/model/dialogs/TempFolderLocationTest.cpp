@@ -65,7 +65,7 @@ TEST_F(TempFolderLocationTest, AbsolutePathsAreCleanedUpAndTaken) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(TempFolderLocationTest, OtherPathsAreToldAndTheDialogStays) {
+TEST_F(TempFolderLocationTest, OtherPathsAreReportedAndTheDialogStays) {
   for (const std::string typed : {"temp", "C:tmp", "temp\\new", "\\temp", "", "\\", "\\\\", "file://x", "C:/temp"}) {
     boxes.boxes.clear();
     EXPECT_FALSE(Dialog(typed).Accept()) << typed;

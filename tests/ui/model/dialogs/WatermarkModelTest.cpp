@@ -86,7 +86,7 @@ TEST_F(WatermarkDialog, WithoutAWatermarkTheSampleStillShowsTheQuality) {
   EXPECT_EQ(texts.drawn, 0);
 }
 
-TEST_F(WatermarkDialog, EachControlShowsTheSampleAnew) {
+TEST_F(WatermarkDialog, EachControlShowsTheSampleAgain) {
   const auto model = Opened(on);
   WatermarkSettings settings = on;
   model->SetAlpha(90);
@@ -226,7 +226,7 @@ class FailingRaster : public fakes::BoxTextRaster {
   }
 };
 
-TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsToldAndTheSampleShownWithoutIt) {
+TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsReportedAndTheSampleShownWithoutIt) {
   const FailingRaster failing;
   WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, failing, screen}, box);
   model.Open();
@@ -238,7 +238,7 @@ TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsToldAndTheSampleShownWithou
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
 
-TEST_F(WatermarkDialog, AFontDialogThatFailsIsToldAndTheFontKept) {
+TEST_F(WatermarkDialog, AFontDialogThatFailsIsReportedAndTheFontKept) {
   class Failing : public fakes::ScriptedCommonDialogs {
    public:
     [[nodiscard]] bool ShowFontDialog(FontDescription& /*font*/) override {
@@ -253,7 +253,7 @@ TEST_F(WatermarkDialog, AFontDialogThatFailsIsToldAndTheFontKept) {
   EXPECT_EQ(model.WorkingFont().Name, "Arial");
 }
 
-TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsToldAndTheSampleShownWithoutIt) {
+TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsReportedAndTheSampleShownWithoutIt) {
   texts.extent = {40000, 10};
   const auto model = Opened(on);
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
@@ -292,7 +292,7 @@ TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
   EXPECT_TRUE(model.Cancelled());
 }
 
-TEST_F(WatermarkDialog, TheFontIsToldInWords) {
+TEST_F(WatermarkDialog, TheFontIsReportedInWords) {
   const auto model = Opened(on);
   EXPECT_EQ(model->FontSummary(), "Arial, 36 points, bold");
   dialogs.fonts = {
@@ -309,7 +309,7 @@ TEST(FontWeights, OnlyAChangeOfBoldChangesTheWeight) {
   EXPECT_EQ(WeightFor(false, 0), 0);
 }
 
-TEST(FontSamples, LightColorsStandOnADarkGround) {
+TEST(FontSamples, LightColorsHaveADarkBackground) {
   EXPECT_TRUE(NeedsDarkGround(0xFFFFFF));
   EXPECT_TRUE(NeedsDarkGround(0x00FF00)) << "green";
   EXPECT_FALSE(NeedsDarkGround(0x000000));

@@ -63,7 +63,7 @@ TEST_F(AddingFiles, ACancelChangesNothing) {
   EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
-TEST_F(AddingFiles, AFileThatCannotBeReadIsToldAndEndsIt) {
+TEST_F(AddingFiles, AFileThatCannotBeReadIsReportedAndEndsIt) {
   desk.File("a.jpg");
   desk.File("c.jpg");
   browser.answer = {.result = "x", .folder = desk.PathOf(""), .names = {"a.jpg", "gone.jpg", "c.jpg"}};

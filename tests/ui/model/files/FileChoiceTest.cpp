@@ -60,7 +60,7 @@ TEST_F(Choosing, AFileToOpenMustExist) {
   EXPECT_EQ(choice.Result().result, "");
 }
 
-TEST_F(Choosing, ANameThatCannotStandInAProjectIsTold) {
+TEST_F(Choosing, ANameThatAProjectCannotHoldIsReported) {
   disk.Write("photos/bell\a.jpg", "");
   EXPECT_EQ(OpenOne().Ok("C:\\photos", "bell\a.jpg"), Step::Stay);
   EXPECT_EQ(OpenSeveral().Ok("C:\\photos", "\"a.jpg\" \"bell\a.jpg\""), Step::Stay);
@@ -69,7 +69,7 @@ TEST_F(Choosing, ANameThatCannotStandInAProjectIsTold) {
   EXPECT_EQ(boxes.boxes[0].text, "bell\uFFFD.jpg\r\nThis name cannot stand in a project.");
 }
 
-TEST_F(Choosing, ADriveWithoutAFolderIsTold) {
+TEST_F(Choosing, ADriveWithoutAFolderIsReported) {
   EXPECT_EQ(OpenOne().Ok("C:\\photos", "X:\\a.jpg"), Step::Stay);
   EXPECT_EQ(Save().Ok("C:\\photos", "\\\\server\\share\\a.gpj"), Step::Stay);
   ASSERT_EQ(boxes.boxes.size(), 2U);
@@ -100,7 +100,7 @@ TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItEndsInIt) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(Choosing, ANameToOpenGetsItOnlyWhereThereIsNoSuchFile) {
+TEST_F(Choosing, ANameToOpenGetsItOnlyIfThereIsNoSuchFile) {
   FileChoice choice = Choice({.defaultExtension = "gpj"});
   ASSERT_EQ(choice.Ok("C:\\", "my"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\my.gpj");

@@ -93,14 +93,14 @@ TEST_F(NameLimit, GoingDownTo1022AllowsOkAgain) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(NameLimit, EachChangeOfTheSelectionIsTold) {
+TEST_F(NameLimit, EachChangeOfTheSelectionIsReported) {
   limit.SelectionChanged(1023);
   limit.SelectionChanged(1024);
   limit.SelectionChanged(1023);
   EXPECT_EQ(boxes.boxes.size(), 3U);
 }
 
-TEST_F(NameLimit, TypingIsToldOnceUntilTheTextIsShortEnough) {
+TEST_F(NameLimit, TypingIsReportedOnceUntilTheTextIsShortEnough) {
   limit.Typed(1022);
   EXPECT_TRUE(boxes.boxes.empty());
   limit.Typed(1023);

@@ -163,7 +163,7 @@ TEST_F(Checking, ALongWalkGivesTheEventLoopItsTurnsAndCanBeStopped) {
   EXPECT_LT(folders.looks - looks, 100);
 }
 
-TEST_F(Checking, ADeepFolderIsNoTrouble) {
+TEST_F(Checking, ADeepFolderIsChecked) {
   std::string path = "/q";
   for (int i = 0; i < 400; ++i) path += "/d";
   folders.Add(path);

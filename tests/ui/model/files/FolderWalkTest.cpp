@@ -38,7 +38,7 @@ TEST_F(Walking, TheImagesOfAFolderComeInTheOrderOfTheirNames) {
   EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
-TEST_F(Walking, FoldersComeInTheirOrderWithoutWhatLiesBelowThem) {
+TEST_F(Walking, FoldersAreWalkedInOrderWithoutTheirSubfolders) {
   for (const char* name : {"p/a.jpg", "p/sub/b.jpg", "q/a.jpg", "p/folder.jpg/x.txt"}) desk.File(name);
   Walk({desk.PathOf("q"), desk.PathOf("p") + "\\"});
   EXPECT_EQ(NamesInList(), (Names{"a.jpg", "a.jpg_1"}));
@@ -83,7 +83,7 @@ TEST_F(Walking, AFolderWithoutImagesModifiesNothing) {
   EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
-TEST_F(Walking, AFolderThatCannotBeReadIsToldAndTheOthersAreAdded) {
+TEST_F(Walking, AFolderThatCannotBeReadIsReportedAndTheOthersAreAdded) {
   desk.File("p/a.jpg");
   Walk({desk.PathOf("gone"), "Q:\\nowhere", desk.PathOf("p")});
   EXPECT_EQ(NamesInList(), (Names{"a.jpg"}));
@@ -93,7 +93,7 @@ TEST_F(Walking, AFolderThatCannotBeReadIsToldAndTheOthersAreAdded) {
                                           "\"Q:\\nowhere\" cannot be read: No such file or directory.");
 }
 
-TEST_F(Walking, NamesThatCannotStandInAProjectArePassedOverAndTold) {
+TEST_F(Walking, NamesThatAProjectCannotHoldAreSkippedAndReported) {
   for (const char* name : {"p/a.jpg", "p/bad\xFF.jpg", "p/back\\slash.jpg", "p/z.jpg"}) desk.File(name);
   Walk({desk.PathOf("p")});
   EXPECT_EQ(NamesInList(), (Names{"a.jpg", "z.jpg"}));

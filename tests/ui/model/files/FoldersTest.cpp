@@ -34,7 +34,7 @@ TEST(LocalFolders, LinksToFoldersAreShownAsSuch) {
   EXPECT_FALSE(LocalFolders().IsLink(disk.Path() / "missing"));
 }
 
-TEST(LocalFolders, AreNoneInWhatIsNoFolder) {
+TEST(LocalFolders, AreNoneInAFile) {
   const fakes::TemporaryFolder disk;
   EXPECT_TRUE(NamesIn(disk.Path() / "missing").empty());
   EXPECT_TRUE(NamesIn(disk.Write("file", "")).empty());

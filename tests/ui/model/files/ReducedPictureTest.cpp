@@ -88,7 +88,7 @@ TEST(ReducedPicture, SidesAreRoundedUp) {
   EXPECT_EQ(dib.height(), 8);
 }
 
-TEST(ReducedPicture, WhatDoesNotDecodeInWholeIsNothing) {
+TEST(ReducedPicture, AFileThatDoesNotDecodeWhollyIsNothing) {
   const fakes::TemporaryFolder folder;
   cDIBSection dib;
   const PictureSize box = {.width = 10, .height = 10};

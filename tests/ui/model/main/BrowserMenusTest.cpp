@@ -47,7 +47,7 @@ TEST(BrowserMenus, EachBrowserHasAnEntryBetweenTwoSeparatorsAndOneInTheMenu) {
   EXPECT_EQ(menus.ViewBrowser, (std::vector<std::string>{"...in One", "...in Two & more"}));
 }
 
-TEST(BrowserMenus, ABrowserOfAnyNameIsNoSeparator) {
+TEST(BrowserMenus, ABrowserOfAnyNameIsNotASeparator) {
   for (const char* name : {"", "-", "default", "available"}) {
     const BrowserMenus menus = RebuildBrowserMenus({{name, "C:\\1"}});
     EXPECT_EQ(menus.DropDown.at(2), (BrowserMenuEntry{std::string("...in ") + name, "browser1"})) << name;

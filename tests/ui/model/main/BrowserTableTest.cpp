@@ -56,7 +56,7 @@ TEST_F(BrowserTableTest, EveryOpeningReversesTheStoredOrder) {
   EXPECT_EQ(browsers, (Browsers{{"a", "1"}, {"b", "2"}}));
 }
 
-TEST_F(BrowserTableTest, WhatTheUserDoesIsTakenBackFromTheTop) {
+TEST_F(BrowserTableTest, TheUsersStepsAreUndoneFromTheTop) {
   Browsers browsers = {{"a", "1"}, {"b", "2"}};
   dialog.Types("c", "3");
   host.user = [](BrowserList& list) {

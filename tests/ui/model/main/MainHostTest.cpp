@@ -52,7 +52,7 @@ TEST_F(MainHostTest, ARunUsesThePortForServersThatTheProgramWasGiven) {
   EXPECT_EQ(order->Port, 2121);
 }
 
-TEST_F(MainHostTest, ACancelledDialogIsNoOrder) {
+TEST_F(MainHostTest, ACancelledDialogIsNotAnOrder) {
   EXPECT_FALSE(host.AskWhatToCreate());
 }
 

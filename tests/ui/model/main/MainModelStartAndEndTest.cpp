@@ -35,7 +35,7 @@ TEST_F(MainModelStartAndEndTest, TheStartReadsThePreferencesAndEndsWithANewProje
   EXPECT_TRUE(desk.boxes.boxes.empty());
 }
 
-TEST_F(MainModelStartAndEndTest, PreferencesThatCannotBeReadAreToldFirst) {
+TEST_F(MainModelStartAndEndTest, PreferencesThatCannotBeReadAreReportedFirst) {
   std::filesystem::create_directories(desk.folder.Path() / "program/vantorium.ini");
   desk.model.Start("");
   EXPECT_EQ(desk.calls.front(), "box File Error");
@@ -56,7 +56,7 @@ TEST_F(MainModelStartAndEndTest, TheProjectOfTheCommandLineIsShownAtTheStart) {
                         end[5], "start step", "turn"}));
 }
 
-TEST_F(MainModelStartAndEndTest, ACommandLineThatIsNoProjectLeavesTheNewOne) {
+TEST_F(MainModelStartAndEndTest, ACommandLineThatIsNotAProjectLeavesTheNewOne) {
   desk.model.Start("T:\\missing.gpj");
   EXPECT_FALSE(desk.boxes.boxes.empty());
   EXPECT_EQ(Now().ProjectFileName, "Gallery1");

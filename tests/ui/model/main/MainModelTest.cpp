@@ -95,7 +95,7 @@ TEST_F(MainModelTest, OpenWithoutAChosenFileKeepsTheProject) {
   EXPECT_FALSE(desk.Called("disabled"));
 }
 
-TEST_F(MainModelTest, SaveWritesBehindAnInfoWindowAndShowsTheRepairedSettings) {
+TEST_F(MainModelTest, SaveWritesAfterAnInfoWindowAndShowsTheRepairedSettings) {
   desk.Start();
   desk.ChangeTitle("");
   desk.ChooseFile("T:\\a.gpj");
@@ -187,7 +187,7 @@ TEST_F(MainModelTest, TheEditedBrowsersAreInTheMenusAndInThePreferencesFile) {
   EXPECT_NE(desk.folder.Read("program/vantorium.ini").find("Name1=\"One\""), std::string::npos);
 }
 
-TEST_F(MainModelTest, TheTemporaryFolderIsClearedBehindAnInfoWindow) {
+TEST_F(MainModelTest, TheTemporaryFolderIsClearedAfterAnInfoWindow) {
   desk.Start();
   desk.folder.Write("program/VANTORIUM_TEMP/old.htm", "x");
   desk.model.ClearTemporaryFolder();
@@ -207,7 +207,7 @@ TEST_F(MainModelTest, TheHelpIsOpenedFromTheFilesOfTheProgram) {
   EXPECT_EQ(desk.calls, (Calls{"open T:\\data\\help\\index.html"}));
 }
 
-TEST_F(MainModelTest, AHelpThatCannotBeOpenedIsTold) {
+TEST_F(MainModelTest, AHelpThatCannotBeOpenedIsReported) {
   desk.folder.Write("data/help/index.html", "x");
   desk.shell.fails = true;
   desk.model.ShowHelp();

@@ -3,7 +3,7 @@
 namespace vantorium {
 namespace {
 
-TEST(ProgramVersion, IsToldWithItsBuild) {
+TEST(ProgramVersion, IsReportedWithItsBuild) {
   EXPECT_EQ((ProgramVersion{3, 0, 0}).Text(), "Version 3.0 (Build 0)");
   EXPECT_EQ((ProgramVersion{3, 12, 2048}).Text(), "Version 3.12 (Build 2048)");
 }

@@ -81,7 +81,7 @@ TEST(SysTrayMenu, AnInvalidIndexChangesNothing) {
   EXPECT_EQ(Told(empty), "");
 }
 
-TEST(SysTrayMenu, EntriesBehindARemovedOneMoveUp) {
+TEST(SysTrayMenu, EntriesAfterARemovedOneMoveUp) {
   SysTrayMenu menu = MenuOf(4);
   menu.RemoveMenuItem(1);
   EXPECT_EQ(Told(menu), "[0=key0][2=key2][3=key3]");

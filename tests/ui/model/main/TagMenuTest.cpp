@@ -51,7 +51,7 @@ TEST(TagMenu, HasFourMenusOfTheirSizes) {
   }
 }
 
-TEST(TagMenu, EachEntryStandsAtItsIndex) {
+TEST(TagMenu, EachEntryIsAtItsIndex) {
   struct Case {
     std::size_t menu;
     std::size_t index;

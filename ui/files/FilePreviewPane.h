@@ -16,13 +16,13 @@ class mFileFunctions;
 
 /// The right side of a file dialog: a preview of the selected file, its size, and a check box to turn the preview off.
 /// A file that is not a picture shows nothing. A click on the preview shows the picture full screen.
-class FilePreview : public QWidget {
+class FilePreviewPane : public QWidget {
   Q_OBJECT
 
  public:
   /// If `wanted` is false, it takes no room and stays unchecked.
-  FilePreview(const mFileFunctions& files, bool wanted, QWidget* parent = nullptr);
-  ~FilePreview() override;
+  FilePreviewPane(const mFileFunctions& files, bool wanted, QWidget* parent = nullptr);
+  ~FilePreviewPane() override;
 
   /// Shows a file, given as path text; nothing if it is empty.
   void Show(const std::string& file);

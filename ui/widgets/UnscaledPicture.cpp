@@ -1,4 +1,4 @@
-#include "ui/widgets/PictureBox.h"
+#include "ui/widgets/UnscaledPicture.h"
 
 #include "ui/qt/QtPicture.h"
 #include "ui/widgets/DevicePixels.h"
@@ -12,26 +12,26 @@ constexpr QSize kInside(440, 330);
 
 }  // namespace
 
-PictureBox::PictureBox(QWidget* parent) : QFrame(parent) {
+UnscaledPicture::UnscaledPicture(QWidget* parent) : QFrame(parent) {
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-QSize PictureBox::sizeHint() const {
+QSize UnscaledPicture::sizeHint() const {
   return kInside + QSize(2 * frameWidth(), 2 * frameWidth());
 }
 
-PictureSize PictureBox::SizeInPixels() const {
+PictureSize UnscaledPicture::SizeInPixels() const {
   const QSize size = DevicePixels(*this);
   return {size.width(), size.height()};
 }
 
-void PictureBox::Clear() {
+void UnscaledPicture::Clear() {
   shown_ = {};
   update();
 }
 
-void PictureBox::Show(const cDIBSection& picture) {
+void UnscaledPicture::Show(const cDIBSection& picture) {
   const PictureSize size = SizeInPixels();
   shown_ = QImage(size.width, size.height, QImage::Format_ARGB32_Premultiplied);
   shown_.fill(Qt::transparent);
@@ -40,7 +40,7 @@ void PictureBox::Show(const cDIBSection& picture) {
   update();
 }
 
-void PictureBox::paintEvent(QPaintEvent* event) {
+void UnscaledPicture::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   if (shown_.isNull()) return;
   QPainter painter(this);

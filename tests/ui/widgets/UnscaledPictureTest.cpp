@@ -1,22 +1,22 @@
 #include "tests/fakes/SampleFakes.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/widgets/ColorButton.h"
-#include "ui/widgets/PictureBox.h"
+#include "ui/widgets/UnscaledPicture.h"
 
 #include <gtest/gtest.h>
 
 namespace vantorium {
 namespace {
 
-TEST(PictureBox, HasThePixelsOfItsInsideOnItsScreen) {
-  PictureBox box;
+TEST(UnscaledPicture, HasThePixelsOfItsInsideOnItsScreen) {
+  UnscaledPicture box;
   box.resize(box.sizeHint());
   const double ratio = box.devicePixelRatioF();
   EXPECT_EQ(box.SizeInPixels(), (PictureSize{static_cast<int>(440 * ratio), static_cast<int>(330 * ratio)}));
 }
 
-TEST(PictureBox, ShowsAPicturePixelForPixelInItsCorner) {
-  PictureBox box;
+TEST(UnscaledPicture, ShowsAPicturePixelForPixelInItsCorner) {
+  UnscaledPicture box;
   box.resize(box.sizeHint());
   box.Show(fakes::PlainPicture(30, 20, 0x0000FF));
   EXPECT_EQ(box.Shown().pixel(29, 19), qRgb(255, 0, 0));
@@ -27,8 +27,8 @@ TEST(PictureBox, ShowsAPicturePixelForPixelInItsCorner) {
   EXPECT_EQ(seen.pixel(frame + 5, frame + 5), qRgb(255, 0, 0));
 }
 
-TEST(PictureBox, ClearsItself) {
-  PictureBox box;
+TEST(UnscaledPicture, ClearsItself) {
+  UnscaledPicture box;
   box.Show(fakes::PlainPicture(3, 2, 0x0000FF));
   box.Clear();
   EXPECT_TRUE(box.Shown().isNull());

@@ -9,11 +9,11 @@
 namespace vantorium {
 
 /// A framed box of a fixed size that shows a copy of a picture, pixel for pixel on every screen.
-class PictureBox : public QFrame {
+class UnscaledPicture : public QFrame {
   Q_OBJECT
 
  public:
-  explicit PictureBox(QWidget* parent = nullptr);
+  explicit UnscaledPicture(QWidget* parent = nullptr);
 
   /// The room inside the frame, in pixels of the screen that the box is on.
   [[nodiscard]] PictureSize SizeInPixels() const;

@@ -1,4 +1,4 @@
-#include "ui/main/ImagePreview.h"
+#include "ui/main/FittedPicture.h"
 
 #include "ui/widgets/DevicePixels.h"
 
@@ -13,22 +13,22 @@ constexpr QSize kSmallestBox(800, 600);
 
 }  // namespace
 
-ImagePreview::ImagePreview(QWidget* parent) : QFrame(parent) {
-  connect(&loader_, &PreviewLoader::Loaded, this, &ImagePreview::Show);
+FittedPicture::FittedPicture(QWidget* parent) : QFrame(parent) {
+  connect(&loader_, &PreviewLoader::Loaded, this, &FittedPicture::Show);
 }
 
-void ImagePreview::Load(const std::optional<std::filesystem::path>& file, Corrections corrections) {
+void FittedPicture::Load(const std::optional<std::filesystem::path>& file, Corrections corrections) {
   const QSize box = DevicePixels(*this).expandedTo(kSmallestBox);
   loader_.Load(file, {.width = box.width(), .height = box.height()}, corrections);
 }
 
-void ImagePreview::Clear() {
+void FittedPicture::Clear() {
   loader_.Cancel();
   picture_ = {};
   update();
 }
 
-void ImagePreview::Show(const QImage& picture) {
+void FittedPicture::Show(const QImage& picture) {
   picture_ = picture;
   fitted_ = {};
   update();
@@ -39,14 +39,14 @@ void ImagePreview::Show(const QImage& picture) {
   }
 }
 
-void ImagePreview::FitPicture() {
+void FittedPicture::FitPicture() {
   const QSize size = picture_.size().scaled(DevicePixels(*this), Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
   if (fitted_.size() == size && fitted_.devicePixelRatio() == devicePixelRatioF()) return;
   fitted_ = QPixmap::fromImage(picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   fitted_.setDevicePixelRatio(devicePixelRatioF());
 }
 
-void ImagePreview::paintEvent(QPaintEvent* event) {
+void FittedPicture::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   if (picture_.isNull() || contentsRect().isEmpty()) return;
   FitPicture();
@@ -58,7 +58,7 @@ void ImagePreview::paintEvent(QPaintEvent* event) {
                             fitted_);  // on whole pixels, so it stays sharp
 }
 
-void ImagePreview::mouseDoubleClickEvent(QMouseEvent* event) {
+void FittedPicture::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) emit DoubleClicked();
 }
 

@@ -1,4 +1,4 @@
-#include "ui/widgets/PreviewBox.h"
+#include "ui/widgets/StretchedPicture.h"
 
 #include "ui/widgets/DevicePixels.h"
 
@@ -9,18 +9,18 @@
 
 namespace vantorium {
 
-PreviewBox::PreviewBox(QWidget* parent) : QFrame(parent) {
+StretchedPicture::StretchedPicture(QWidget* parent) : QFrame(parent) {
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   setFocusPolicy(Qt::StrongFocus);
 }
 
-void PreviewBox::Show(const QImage& picture) {
+void StretchedPicture::Show(const QImage& picture) {
   picture_ = picture;
   setCursor(picture.isNull() ? Qt::ArrowCursor : Qt::PointingHandCursor);
   update();
 }
 
-void PreviewBox::paintEvent(QPaintEvent* event) {
+void StretchedPicture::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -35,11 +35,11 @@ void PreviewBox::paintEvent(QPaintEvent* event) {
   style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
-void PreviewBox::mouseReleaseEvent(QMouseEvent* event) {
+void StretchedPicture::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->pos())) emit Clicked();
 }
 
-void PreviewBox::keyPressEvent(QKeyEvent* event) {
+void StretchedPicture::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space) {
     emit Clicked();
   } else {

@@ -1,4 +1,4 @@
-#include "ui/files/FilePreview.h"
+#include "ui/files/FilePreviewPane.h"
 
 #include "core/ImageFormats.h"
 #include "env/PathText.h"
@@ -14,30 +14,30 @@
 
 namespace vantorium {
 
-FilePreview::FilePreview(const mFileFunctions& files, bool wanted, QWidget* parent)
+FilePreviewPane::FilePreviewPane(const mFileFunctions& files, bool wanted, QWidget* parent)
     : QWidget(parent), files_(files), ui_(std::make_unique<Ui::frmFileBrowser>()), loader_(new PreviewLoader(this)) {
   setObjectName("extendedArea");
   ui_->setupUi(this);
   setFixedWidth(ui_->pbPreview->maximumWidth() + 20);
   setVisible(wanted);
   ui_->checkPreview->setChecked(wanted);
-  connect(ui_->checkPreview, &QCheckBox::toggled, this, &FilePreview::Refresh);
-  connect(ui_->pbPreview, &PreviewBox::Clicked, this, &FilePreview::ShowInFull);
+  connect(ui_->checkPreview, &QCheckBox::toggled, this, &FilePreviewPane::Refresh);
+  connect(ui_->pbPreview, &StretchedPicture::Clicked, this, &FilePreviewPane::ShowInFull);
   connect(loader_, &PreviewLoader::Loaded, this, [this](const QImage& picture) {
     if (picture.isNull()) Clear();
     ui_->pbPreview->Show(picture);
   });
 }
 
-FilePreview::~FilePreview() = default;
+FilePreviewPane::~FilePreviewPane() = default;
 
-void FilePreview::Show(const std::string& file) {
+void FilePreviewPane::Show(const std::string& file) {
   if (file == file_) return;
   file_ = file;
   Refresh();
 }
 
-void FilePreview::Refresh() {
+void FilePreviewPane::Refresh() {
   loader_->Cancel();
   const auto native = files_.Paths().ToNative(file_);
   if (file_.empty() || !native || !ui_->checkPreview->isChecked()) {
@@ -49,14 +49,14 @@ void FilePreview::Refresh() {
   }
 }
 
-void FilePreview::Clear() {
+void FilePreviewPane::Clear() {
   ui_->pbPreview->Show({});
   ui_->pbDummy->clear();
   ui_->lblSize->clear();
 }
 
 /// Shows the size at once; the picture of a large photograph follows.
-void FilePreview::ShowJPEG(const std::filesystem::path& native) {
+void FilePreviewPane::ShowJPEG(const std::filesystem::path& native) {
   std::int32_t width = 0;
   std::int32_t height = 0;
   if (!ReadJPEGSize(native, width, height)) return Clear();
@@ -65,7 +65,7 @@ void FilePreview::ShowJPEG(const std::filesystem::path& native) {
   loader_->Load(native, {box.width(), box.height()});
 }
 
-void FilePreview::ShowOther(const std::filesystem::path& native) {
+void FilePreviewPane::ShowOther(const std::filesystem::path& native) {
   const QImage picture = ReadPictureFile(native);
   if (picture.isNull()) return Clear();
   ui_->pbDummy->setPixmap(QPixmap::fromImage(picture));
@@ -73,14 +73,14 @@ void FilePreview::ShowOther(const std::filesystem::path& native) {
   ShowSize(picture.width(), picture.height());
 }
 
-void FilePreview::ShowSize(int width, int height) {
+void FilePreviewPane::ShowSize(int width, int height) {
   std::error_code error;
   const auto bytes = std::filesystem::file_size(files_.Paths().ToNative(file_).value_or(""), error);
   if (error) return Clear();
   ui_->lblSize->setText(ToQt(ImageSizeText(width, height, bytes)));
 }
 
-void FilePreview::ShowInFull() {
+void FilePreviewPane::ShowInFull() {
   if (file_.empty() || !ui_->checkPreview->isChecked()) return;
   frmPreview preview(files_.Paths(), window());
   preview.SetPicture(GetFileName(file_) + ' ' + FromQt(ui_->lblSize->text()), file_);

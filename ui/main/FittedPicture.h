@@ -9,11 +9,11 @@ namespace vantorium {
 
 /// A picture fitted into a frame, sharp at every scale of the screen. A requested picture replaces the previous one
 /// once it is decoded.
-class ImagePreview : public QFrame {
+class FittedPicture : public QFrame {
   Q_OBJECT
 
  public:
-  explicit ImagePreview(QWidget* parent = nullptr);
+  explicit FittedPicture(QWidget* parent = nullptr);
 
   /// `file` is native; nullopt if it is not there.
   void Load(const std::optional<std::filesystem::path>& file, Corrections corrections = {});

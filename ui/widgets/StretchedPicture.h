@@ -6,11 +6,11 @@
 namespace vantorium {
 
 /// A framed picture that can be clicked, stretched to fill its box. The space bar counts as a click.
-class PreviewBox : public QFrame {
+class StretchedPicture : public QFrame {
   Q_OBJECT
 
  public:
-  explicit PreviewBox(QWidget* parent = nullptr);
+  explicit StretchedPicture(QWidget* parent = nullptr);
 
   /// A null picture clears the box.
   void Show(const QImage& picture);
