@@ -80,17 +80,17 @@ class Bench {
     for (int i = 0; i < kRuns; ++i) {
       desk.project.images.Clear();
       fakes::RecordingImageListDisplay display;
-      ImageListOperations images(desk.project, desk.files, desk.boxes, display);
-      frmAddFoldersProcess progress;
+      core::ImageListOperations images(desk.project, desk.files, desk.boxes, display);
+      ui::frmAddFoldersProcess progress;
       const auto due = PressLater(progress, "OKButton", milliseconds(120));
-      FolderWalk({desk.project, images, desk.paths, desk.boxes, desk.loop}).Run({"T:\\many"}, progress);
+      ui::FolderWalk({desk.project, images, desk.paths, desk.boxes, desk.loop}).Run({"T:\\many"}, progress);
       if (progress.Cancelled) longest.Add(steady_clock::now() - due);
     }
     longest.Print("adding a folder of 40,000 photographs");
   }
 
  private:
-  using Run = std::function<RunEnd(fakes::RunDesk&)>;
+  using Run = std::function<generation::RunEnd(fakes::RunDesk&)>;
 
   void AddPhotographs(fakes::RunDesk& desk) const {
     fs::create_directory_symlink(photographs_, desk.folder.Path() / "photos");
@@ -98,16 +98,17 @@ class Bench {
       desk.AddImage(file.path().stem().string(), "T:\\photos\\" + file.path().filename().string());
     }
   }
-  static RunEnd Upload(fakes::RunDesk& desk, std::uint16_t port) {
-    RunOrder& order = desk.host.order;
-    order.Mode = GenerationMode::Upload;
+  static generation::RunEnd Upload(fakes::RunDesk& desk, std::uint16_t port) {
+    generation::RunOrder& order = desk.host.order;
+    order.Mode = generation::GenerationMode::Upload;
     order.ServerAddress = "127.0.0.1";
     order.Port = port;
     order.UserName = "me";
     order.RemoteFolder = "web/";
     order.OutputFolder = "T:\\site\\";
-    mFTP ftp(std::make_unique<AsioFTPSocket>(desk.loop), std::make_unique<AsioFTPSocket>(desk.loop), desk.paths,
-             desk.boxes, desk.loop, desk.cancel);
+    publish::mFTP ftp(std::make_unique<publish::AsioFTPSocket>(desk.loop),
+                      std::make_unique<publish::AsioFTPSocket>(desk.loop), desk.paths, desk.boxes, desk.loop,
+                      desk.cancel);
     desk.cancel.OnCancel([&ftp] { ftp.FTPCancelData(); });
     return desk.Create(&ftp);
   }
@@ -119,7 +120,7 @@ class Bench {
     return steady_clock::now() + delay;
   }
   /// A cancelled folder upload ends like a failed one: its window stays open until it is closed.
-  static void CloseWhenItEnded(frmProgress& progress, steady_clock::time_point& ended) {
+  static void CloseWhenItEnded(ui::frmProgress& progress, steady_clock::time_point& ended) {
     auto* look = new QTimer(&progress);
     QObject::connect(look, &QTimer::timeout, &progress, [&progress, &ended] {
       if (!progress.OffersClose() || ended != steady_clock::time_point()) return;
@@ -134,11 +135,11 @@ class Bench {
       fakes::RunDesk desk;
       steady_clock::time_point due;
       steady_clock::time_point ended;
-      desk.host.onProgress = [&](frmProgress& progress) {
+      desk.host.onProgress = [&](ui::frmProgress& progress) {
         due = PressLater(progress, "CancelButton", latest);
         CloseWhenItEnded(progress, ended);
       };
-      if (run(desk) == RunEnd::Cancelled) ended = steady_clock::now();
+      if (run(desk) == generation::RunEnd::Cancelled) ended = steady_clock::now();
       if (ended > due) longest.Add(ended - due);
     }
     longest.Print(what);

@@ -20,17 +20,17 @@ namespace {
 constexpr std::int32_t kWidth = 6000;
 constexpr std::int32_t kHeight = 4000;
 
-std::size_t Bytes(const cDIBSection& dib) {
+std::size_t Bytes(const image::cDIBSection& dib) {
   return static_cast<std::size_t>(dib.BytesPerScanLine()) * static_cast<std::size_t>(dib.height());
 }
 
 // All routines share one random picture. Filters change it, but no filter's time depends on the colors.
 cDIBSection& Picture() {
-  static cDIBSection picture = [] {
-    cDIBSection made;
+  static image::cDIBSection picture = [] {
+    image::cDIBSection made;
     if (!made.Create(kWidth, kHeight)) std::abort();
-    NoiseStream stream(1, 0);
-    RandomiseBits(made, false, stream);
+    image::NoiseStream stream(1, 0);
+    image::RandomiseBits(made, false, stream);
     return made;
   }();
   return picture;
@@ -47,13 +47,13 @@ void CopyPicture() {
 }
 
 void AddUniformNoise() {
-  NoiseStream stream(1, 2);
-  AddNoise(Picture(), 50, false, stream);
+  image::NoiseStream stream(1, 2);
+  image::AddNoise(Picture(), 50, false, stream);
 }
 
 void AddRandomNoise() {
-  NoiseStream stream(1, 2);
-  AddNoise(Picture(), 50, true, stream);
+  image::NoiseStream stream(1, 2);
+  image::AddNoise(Picture(), 50, true, stream);
 }
 
 template <auto resample>
@@ -74,14 +74,14 @@ struct Work {
 
 const std::vector<Work>& Works() {
   static const std::vector<Work> works = {
-      {"GrayScale", 3, [] { GrayScale(Picture()); }},
-      {"Fade", 3, [] { Fade(Picture(), 250); }},
+      {"GrayScale", 3, [] { image::GrayScale(Picture()); }},
+      {"Fade", 3, [] { image::Fade(Picture(), 250); }},
       {"AddNoise", 10, AddUniformNoise},
       {"AddNoise random", 10, AddRandomNoise},
-      {"Lighten", 15, [] { Lighten(Picture(), 25); }},
-      {"Resample to 450 x 300", 0, Reduce<Resample>},
-      {"ResampleLiteral to 450 x 300", 0, Reduce<ResampleLiteral>},
-      {"Resample to 3000 x 2000", 0, Enlarge<Resample>},
+      {"Lighten", 15, [] { image::Lighten(Picture(), 25); }},
+      {"Resample to 450 x 300", 0, Reduce<image::Resample>},
+      {"ResampleLiteral to 450 x 300", 0, Reduce<image::literal::ResampleLiteral>},
+      {"Resample to 3000 x 2000", 0, Enlarge<image::Resample>},
   };
   return works;
 }

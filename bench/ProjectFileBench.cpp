@@ -10,12 +10,14 @@
 namespace vantorium {
 namespace {
 
-class QuietBoxes : public MessageBoxPort {
+class QuietBoxes : public env::MessageBoxPort {
  public:
-  BoxAnswer Show(BoxKind, BoxButtons, const std::string&, const std::string&) override { return BoxAnswer::Ok; }
+  env::BoxAnswer Show(env::BoxKind, env::BoxButtons, const std::string&, const std::string&) override {
+    return env::BoxAnswer::Ok;
+  }
 };
 
-class QuietEvents : public EventLoop {
+class QuietEvents : public env::EventLoop {
  public:
   void Turn() override {}
 };
@@ -40,17 +42,17 @@ class Bench {
 
  private:
   fakes::TemporaryFolder folder_;
-  PathMap paths_{{}};
-  RegionalFormats formats_;
-  mFileFunctions files_{paths_, formats_};
+  env::PathMap paths_{{}};
+  env::RegionalFormats formats_;
+  env::mFileFunctions files_{paths_, formats_};
   QuietBoxes boxes_;
   QuietEvents events_;
-  ImageListDisplay display_;
-  ProjectFileDialog dialog_;
-  ProjectSessionHost host_;
-  Project project_;
-  ImageListOperations images_{project_, files_, boxes_, display_};
-  ProjectSession session_{project_, images_, {paths_, boxes_, dialog_, host_, events_}};
+  core::ImageListDisplay display_;
+  core::ProjectFileDialog dialog_;
+  core::ProjectSessionHost host_;
+  core::Project project_;
+  core::ImageListOperations images_{project_, files_, boxes_, display_};
+  core::ProjectSession session_{project_, images_, {paths_, boxes_, dialog_, host_, events_}};
   std::string source_;
   std::string target_;
 };

@@ -22,34 +22,34 @@ namespace {
 constexpr std::int32_t kWidth = 6000;
 constexpr std::int32_t kHeight = 4000;
 
-cDIBSection Noise(std::uint64_t number) {
-  cDIBSection made;
+image::cDIBSection Noise(std::uint64_t number) {
+  image::cDIBSection made;
   if (!made.Create(kWidth, kHeight)) std::abort();
-  NoiseStream stream(1, number);
-  RandomiseBits(made, false, stream);
+  image::NoiseStream stream(1, number);
+  image::RandomiseBits(made, false, stream);
   return made;
 }
 
 /// The pictures and tools that all measurements share.
 struct Bench {
-  cDIBSection picture = Noise(0);
-  cDIBSection source = Noise(1);
-  cDIBSection copy = Noise(2);
-  PangoTextRaster raster;
-  WatermarkSettings settings = {.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
-  WatermarkPainter painter{settings, 96, raster};
+  image::cDIBSection picture = Noise(0);
+  image::cDIBSection source = Noise(1);
+  image::cDIBSection copy = Noise(2);
+  image::PangoTextRaster raster;
+  image::WatermarkSettings settings = {.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
+  image::WatermarkPainter painter{settings, 96, raster};
 
   void Copy() {
     const auto bytes = static_cast<std::size_t>(picture.BytesPerScanLine()) * static_cast<std::size_t>(kHeight);
     std::memcpy(copy.DIBSectionBitsPtr(), picture.DIBSectionBitsPtr(), bytes);
     benchmark::ClobberMemory();
   }
-  void Blend(std::uint8_t alpha) { benchmark::DoNotOptimize(TransparentCopy(source, picture, 0, alpha)); }
-  void DrawInPictureOfNewSize() { WatermarkPainter(settings, 96, raster).Draw(picture); }
+  void Blend(std::uint8_t alpha) { benchmark::DoNotOptimize(image::TransparentCopy(source, picture, 0, alpha)); }
+  void DrawInPictureOfNewSize() { image::WatermarkPainter(settings, 96, raster).Draw(picture); }
   void DrawLiterally() {
-    LogFont font = MakeWatermarkFont(settings, 96);
-    DrawWatermarkTextLiteral(picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color, 65,
-                             raster);
+    image::LogFont font = image::MakeWatermarkFont(settings, 96);
+    image::literal::DrawWatermarkTextLiteral(picture, font, settings.textWatermark, settings.comboTextPlacement,
+                                             settings.Color, 65, raster);
   }
 };
 

@@ -5,7 +5,7 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
-namespace vantorium {
+namespace vantorium::core {
 
 std::string FoldCase(std::string_view text) {
   std::string folded;
@@ -23,4 +23,4 @@ bool BeginsWithLetterOrDigit(std::string_view text) {
   return u_isalnum(decoded.char32At(0)) != 0;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

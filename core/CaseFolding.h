@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// Returns `text` (UTF-8) with its case folded by Unicode full case folding: texts that differ only in case give the
 /// same result, as do "Straße" and "STRASSE". Bytes that are not UTF-8 are kept.
@@ -12,4 +12,4 @@ namespace vantorium {
 /// Whether the first character of `text` (UTF-8) is a letter or a decimal digit of any script.
 [[nodiscard]] bool BeginsWithLetterOrDigit(std::string_view text);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

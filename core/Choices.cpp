@@ -2,7 +2,7 @@
 
 #include "core/GalleryProject.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 bool HasBit(LinkPlacement placement, LinkPlacement bit) {
@@ -84,4 +84,4 @@ LinkPlacement ThumbnailLinkPlacement(const GalleryProject& project) {
   return static_cast<LinkPlacement>(project.comboPageLinksThumbnailLinkPlacement);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

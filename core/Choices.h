@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::core {
 
 struct GalleryProject;
 
@@ -101,4 +101,4 @@ template <typename Enum>
 [[nodiscard]] LinkPlacement ImageLinkPlacement(const GalleryProject& project);
 [[nodiscard]] LinkPlacement ThumbnailLinkPlacement(const GalleryProject& project);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -10,7 +10,7 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::core {
 
 const char kThumbnailPageCentringHeader[] =
     "<!-- This code is used to center the contents of the thumbnail page vertically -->\r\n"
@@ -39,16 +39,16 @@ void ResetToDefaults(GalleryProject& project, const std::string& projectName) {
   project = std::move(fresh);
 }
 
-Corrections CorrectionsOf(const GalleryProject& project) {
+image::Corrections CorrectionsOf(const GalleryProject& project) {
   return {.upright = IsOn(project.checkImagesUpright), .trueColors = IsOn(project.checkImagesTrueColors)};
 }
 
 std::int32_t ThumbnailsPerPage(const GalleryProject& project) {
-  const double rows = ParseNumber(project.textThumbnailsTableRows).value_or(0);
-  const double columns = ParseNumber(project.textThumbnailsTableColumns).value_or(0);
+  const double rows = env::ParseNumber(project.textThumbnailsTableRows).value_or(0);
+  const double columns = env::ParseNumber(project.textThumbnailsTableColumns).value_or(0);
   // Larger products than any list can hold are clamped.
   return static_cast<std::int32_t>(
-      std::clamp<double>(RoundHalfEven(rows * columns), 0, std::numeric_limits<std::int32_t>::max()));
+      std::clamp<double>(env::RoundHalfEven(rows * columns), 0, std::numeric_limits<std::int32_t>::max()));
 }
 
 std::int32_t ThumbnailPageCount(const GalleryProject& project, std::int32_t imageCount) {
@@ -64,9 +64,10 @@ std::string ColorToHex(Color color) {
 Color HexToColor(const std::string& text) {
   Color color = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), color, 16);
-  if (error == std::errc::result_out_of_range) throw RuntimeFailure(FailureKind::Overflow);
-  if (error != std::errc() || end != text.data() + text.size()) throw RuntimeFailure(FailureKind::TypeMismatch);
+  if (error == std::errc::result_out_of_range) throw env::RuntimeFailure(env::FailureKind::Overflow);
+  if (error != std::errc() || end != text.data() + text.size())
+    throw env::RuntimeFailure(env::FailureKind::TypeMismatch);
   return color;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::core {
 
 using Color = std::uint32_t;  ///< 0x00BBGGRR
 using Digits = std::string;   ///< a decimal number as typed; may be empty during editing
@@ -80,8 +80,8 @@ struct GalleryProject {
   Flag checkImageWrapperImageSizesInPercent = kOff;
   Digits textImageWrapperImageWidth = "400";
   Digits textImageWrapperImageHeight = "300";
-  ImageFilterSettings ImageFilters;
-  WatermarkSettings ImageWatermark = {.textWatermark = "SAMPLE"};
+  image::ImageFilterSettings ImageFilters;
+  image::WatermarkSettings ImageWatermark = {.textWatermark = "SAMPLE"};
 
   // Thumbnails and their pages
   std::string ThumbnailPageHeadCode;
@@ -109,8 +109,8 @@ struct GalleryProject {
   Flag checkThumbnailsImageSetWidth = kOff;
   Digits textThumbnailsImageWidth = "60";
   Digits textThumbnailsImageHeight = "60";
-  ImageFilterSettings ThumbnailFilters;
-  WatermarkSettings ThumbnailWatermark = {.textWatermark = "THUMB", .FontSize = 14};
+  image::ImageFilterSettings ThumbnailFilters;
+  image::WatermarkSettings ThumbnailWatermark = {.textWatermark = "THUMB", .FontSize = 14};
 
   // Captions
   Flag checkCaptionsImagesRegular = kOff;
@@ -157,7 +157,7 @@ struct GalleryProject {
 };
 
 /// Returns what the project has corrected in its photographs.
-[[nodiscard]] Corrections CorrectionsOf(const GalleryProject& project);
+[[nodiscard]] image::Corrections CorrectionsOf(const GalleryProject& project);
 
 /// Sets every field to its value in a new project named `projectName`, except the fields that a reset keeps.
 void ResetToDefaults(GalleryProject& project, const std::string& projectName);
@@ -176,4 +176,4 @@ void ResetToDefaults(GalleryProject& project, const std::string& projectName);
 /// Reads a hexadecimal number. Throws RuntimeFailure TypeMismatch for anything else and Overflow beyond 32 bits.
 [[nodiscard]] Color HexToColor(const std::string& text);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 // A gallery shows its photographs twice: as images, each on its wrapper page, and as thumbnails on thumbnail pages.
 // Most settings exist once for each of these two targets. Here they are paired; code that treats both targets alike
@@ -110,8 +110,8 @@ struct TargetFields {
   Backdrop backdrop;
   CodeFields codes;
   SizeFields size;
-  ImageFilterSettings GalleryProject::*filters;
-  WatermarkSettings GalleryProject::*watermark;
+  image::ImageFilterSettings GalleryProject::*filters;
+  image::WatermarkSettings GalleryProject::*watermark;
   CaptionFields captions;
   DescriptionFields description;
   Choice GalleryProject::*linkPlacement;
@@ -201,4 +201,4 @@ inline constexpr Backdrop kTableBackdrop = {&GalleryProject::textThumbnailsTable
   return nullptr;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

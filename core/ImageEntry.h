@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// One row of the image list. Its key, which is unique in a list, is "key_" + ImageName.
 struct ImageEntry {
@@ -14,4 +14,4 @@ struct ImageEntry {
   std::string ThumbnailDescription;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

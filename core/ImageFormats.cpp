@@ -2,10 +2,10 @@
 
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 bool IsSupportedImageExtension(std::string_view extension) {
-  const std::string lower = AsciiLower(extension);
+  const std::string lower = env::AsciiLower(extension);
   return lower == ".jpg" || lower == ".jpeg" || lower == ".jfif";
 }
 
@@ -15,4 +15,4 @@ std::string ImageFileFilter() {
          "JFIF Images (*.jfif)|*.jfif";
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// Returns whether image files may have this extension (with its dot): ".jpg", ".jpeg" and ".jfif" in any case.
 [[nodiscard]] bool IsSupportedImageExtension(std::string_view extension);
@@ -11,4 +11,4 @@ namespace vantorium {
 /// Returns the filter for dialogs that choose images: pairs of description and pattern, separated by "|".
 [[nodiscard]] std::string ImageFileFilter();
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 const std::string& TextOf(const ImageEntry& entry, SortColumn column) {
@@ -30,7 +30,7 @@ bool BeginsWithWord(std::string_view name, const std::string& foldedWord) {
 }
 
 void CheckPosition(std::size_t position, std::size_t last) {
-  if (position < 1 || position > last) throw RuntimeFailure(FailureKind::IndexOutOfBounds);
+  if (position < 1 || position > last) throw env::RuntimeFailure(env::FailureKind::IndexOutOfBounds);
 }
 
 std::ptrdiff_t OffsetOf(std::size_t position) {
@@ -197,4 +197,4 @@ void ImageList::Sort() {
   current_ = static_cast<std::size_t>(found - rows_.begin()) + 1;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The column by which a list is sorted.
 enum class SortColumn { ImageName, SourcePath, SizeKey, DateKey };
@@ -92,4 +92,4 @@ class ImageList {
   std::size_t current_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

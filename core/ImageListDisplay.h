@@ -4,10 +4,10 @@
 
 #include <cstddef>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// What ImageListOperations needs from the window that shows the list. A program without a window overrides nothing.
-class ImageListDisplay : public virtual WindowState {
+class ImageListDisplay : public virtual env::WindowState {
  public:
   /// The preview shows the list's current row, and is empty without one.
   virtual void RefreshPreview() {}
@@ -16,4 +16,4 @@ class ImageListDisplay : public virtual WindowState {
   virtual void ScrollIntoView(std::size_t /*position*/) {}
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// In the order of SortingOrder, after Unsorted.
@@ -25,7 +25,7 @@ constexpr std::array<ListOrder, 8> kOrders = {{{SortColumn::ImageName, SortDirec
 bool ImageListOperations::AddImage(std::size_t index, const std::string& sourcePath, const std::string& imageName,
                                    const std::string& imageDescription, const std::string& thumbnailDescription) {
   const auto position = Add(index, {.ImageName = imageName,
-                                    .SourcePath = std::string(WithoutFilePrefix(sourcePath)),
+                                    .SourcePath = std::string(env::WithoutFilePrefix(sourcePath)),
                                     .SizeKey = {},
                                     .DateKey = {},
                                     .ImageDescription = imageDescription,
@@ -45,7 +45,7 @@ bool ImageListOperations::ReadSortKeys(ImageEntry& entry) {
     entry.SizeKey = files_.GetFileSizeText(entry.SourcePath, true);
     entry.DateKey = files_.GetFileDateTimeText(entry.SourcePath, true);
     return true;
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     boxes_.Critical("File Error", "An Error occurred trying to read the image file \"" + entry.SourcePath + "\":\r\r" +
                                       failure.Description() + "\r\rLoading Process cancelled.");
     display_.ShowBusyPointer(false);
@@ -55,8 +55,8 @@ bool ImageListOperations::ReadSortKeys(ImageEntry& entry) {
 
 bool ImageListOperations::AddFile(const std::string& path) {
   ImageEntry entry;
-  entry.ImageName = GetFileName(path);
-  entry.SourcePath = WithoutFilePrefix(path);
+  entry.ImageName = env::GetFileName(path);
+  entry.SourcePath = env::WithoutFilePrefix(path);
   const auto position = Add(project_.images.Count() + 1, std::move(entry));
   if (position && project_.images.Current() == 0) SelectAsCurrent(*position);
   return position.has_value();
@@ -103,7 +103,7 @@ void ImageListOperations::RemoveCorrupted() {
 // Reads the keys before touching the row: otherwise a row whose file is gone would be lost.
 bool ImageListOperations::MoveEntry(std::size_t fromIndex, std::size_t toIndex) {
   ImageList& images = project_.images;
-  if (toIndex < 1 || toIndex > images.Count()) throw RuntimeFailure(FailureKind::IndexOutOfBounds);
+  if (toIndex < 1 || toIndex > images.Count()) throw env::RuntimeFailure(env::FailureKind::IndexOutOfBounds);
   ImageEntry entry = images.Entry(fromIndex);
   if (!ReadSortKeys(entry)) return false;
   const bool isCurrent = images.Current() == fromIndex;
@@ -151,7 +151,8 @@ void ImageListOperations::Drop(const std::string& draggedName, std::size_t targe
 
 void ImageListOperations::SetSortingOrder(Choice index) {
   ImageList& images = project_.images;
-  if (index < 0 || index > static_cast<Choice>(kOrders.size())) throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+  if (index < 0 || index > static_cast<Choice>(kOrders.size()))
+    throw env::RuntimeFailure(env::FailureKind::SubscriptOutOfRange);
   project_.IsModified = true;
   constexpr Choice kUnsorted = NumberOf(SortingOrder::Unsorted);
   const bool losesAnOrder = !images.Empty() && !images.IsKeptSorted() && index != kUnsorted;
@@ -231,4 +232,4 @@ void ImageListOperations::RefreshPreviewAndCounts() {
   display_.RefreshCounts();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The name base that means "rename nothing", returned by the rename dialog when it is cancelled.
 inline constexpr char kNoNameBase[] = "?&null&?";
@@ -22,7 +22,8 @@ enum class RenameScope { CurrentImage, AllImages };
 /// set IsModified, except AddImage, AddFile, MoveEntry and StopSorting, which are steps of other operations.
 class ImageListOperations {
  public:
-  ImageListOperations(Project& project, const mFileFunctions& files, MessageBoxPort& boxes, ImageListDisplay& display)
+  ImageListOperations(Project& project, const env::mFileFunctions& files, env::MessageBoxPort& boxes,
+                      ImageListDisplay& display)
       : project_(project), files_(files), boxes_(boxes), display_(display) {}
 
   /// Adds the image of a file, `sourcePath` with or without a leading "file://", at `index` (1 to the count + 1), or at
@@ -91,9 +92,9 @@ class ImageListOperations {
   void RefreshPreviewAndCounts();
 
   Project& project_;
-  const mFileFunctions& files_;
-  MessageBoxPort& boxes_;
+  const env::mFileFunctions& files_;
+  env::MessageBoxPort& boxes_;
   ImageListDisplay& display_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

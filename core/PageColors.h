@@ -2,7 +2,7 @@
 
 #include "core/GalleryProject.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The five colors of a page.
 struct PageColors {
@@ -30,4 +30,4 @@ struct PageColorFields {
           project.*fields.activeLink};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -10,21 +10,21 @@
 #include "env/mFileFunctions.h"
 #include "image/TextRaster.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// What both programs need from outside. Each main chooses the real ports, a test its own; they outlive whatever holds
 /// this. Structs that need more derive from it.
 struct Ports {
-  const PathMap& paths;
-  const RegionalFormats& formats;
-  const mFileFunctions& files;
-  MessageBoxPort& boxes;
-  EventLoop& loop;
-  Shell& shell;
-  const Clock& clock;
-  const Screen& screen;
-  const TextRaster& texts;
+  const env::PathMap& paths;
+  const env::RegionalFormats& formats;
+  const env::mFileFunctions& files;
+  env::MessageBoxPort& boxes;
+  env::EventLoop& loop;
+  env::Shell& shell;
+  const env::Clock& clock;
+  const env::Screen& screen;
+  const image::TextRaster& texts;
   unsigned jobs = 1;  ///< photographs processed at a time; the output does not depend on it
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

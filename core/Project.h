@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The one project that the program works on: its settings, its images and its relation to its file.
 struct Project {
@@ -24,4 +24,4 @@ struct Project {
   [[nodiscard]] std::string UntitledName() const { return "Gallery" + std::to_string(UntitledCounter); }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -8,7 +8,7 @@
 #include <array>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 using Project = GalleryProject;
@@ -26,7 +26,7 @@ void RepairDisabledGraphic(LinkSettings& link) {
 }  // namespace
 
 std::string Clamped(std::string Project::*field, std::string value) {
-  const auto number = ParseNumber(value);
+  const auto number = env::ParseNumber(value);
   if (field == &Project::textPageLinksThumbnailMaxDirectLinks && !number) return {};
   const auto& range = FieldOf(field).range;
   if (!number || !range) return value;
@@ -65,12 +65,12 @@ void ProjectEditor::Set(LinkSettings Project::*field, LinkSettings value) {
   modified_ = true;
 }
 
-void ProjectEditor::Set(ImageFilterSettings Project::*field, ImageFilterSettings value) {
+void ProjectEditor::Set(image::ImageFilterSettings Project::*field, image::ImageFilterSettings value) {
   project_.*field = value;
   modified_ = true;
 }
 
-void ProjectEditor::Set(WatermarkSettings Project::*field, WatermarkSettings value) {
+void ProjectEditor::Set(image::WatermarkSettings Project::*field, image::WatermarkSettings value) {
   project_.*field = std::move(value);
   modified_ = true;
 }
@@ -78,8 +78,8 @@ void ProjectEditor::Set(WatermarkSettings Project::*field, WatermarkSettings val
 void ProjectEditor::FrameSizeEdited() {
   std::string& size = project_.textGalleryFrameSize;
   if (size.empty()) return;
-  if (IsOn(project_.checkGalleryFrameSizeInPercent) && ParseNumber(size).value_or(0) > 99) size = "99";
-  const std::int32_t pixelsOrPercent = ParseInt32(size);
+  if (IsOn(project_.checkGalleryFrameSizeInPercent) && env::ParseNumber(size).value_or(0) > 99) size = "99";
+  const std::int32_t pixelsOrPercent = env::ParseInt32(size);
   const bool thumbnails = SizedFrameOf(project_) == SizedFrame::Thumbnails;
   (thumbnails ? project_.ThumbnailFrameSize : project_.ImageFrameSize) = pixelsOrPercent;
 }
@@ -119,4 +119,4 @@ void NormalizeForOutput(Project& project, bool& modified) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -2,7 +2,7 @@
 
 #include "core/GalleryProject.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// Edits the settings of a project as its controls do: each Set stores the value, clamps it and applies the rules that
 /// tie the field to others. Reading a project file uses it too, so a file can set nothing that an edit could not. Every
@@ -18,8 +18,8 @@ class ProjectEditor {
   void Set(std::int16_t GalleryProject::*field, std::int16_t value);
   void Set(Color GalleryProject::*field, Color value);
   void Set(LinkSettings GalleryProject::*field, LinkSettings value);
-  void Set(ImageFilterSettings GalleryProject::*field, ImageFilterSettings value);
-  void Set(WatermarkSettings GalleryProject::*field, WatermarkSettings value);
+  void Set(image::ImageFilterSettings GalleryProject::*field, image::ImageFilterSettings value);
+  void Set(image::WatermarkSettings GalleryProject::*field, image::WatermarkSettings value);
 
   [[nodiscard]] const GalleryProject& Project() const { return project_; }
 
@@ -43,4 +43,4 @@ void ImageFrameNameForLayout(GalleryProject& project, Choice layoutType);
 /// link's image was repaired.
 void NormalizeForOutput(GalleryProject& project, bool& modified);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 constexpr std::string_view kGalleryLayoutType[] = {"single frame", "thumbnail frame left", "thumbnail frame right",
@@ -188,26 +188,26 @@ constexpr ProjectField kFields[] = {
     HiddenWhileOff(FlagRow(MEMBER(P, checkImagesTrueColors))),
 };
 
-constexpr RecordField<ImageFilterSettings> kFilterFields[] = {
-    {MEMBER(ImageFilterSettings, checkGrayscale)},   {MEMBER(ImageFilterSettings, checkBrightness)},
-    {MEMBER(ImageFilterSettings, sliderBrightness)}, {MEMBER(ImageFilterSettings, checkFade)},
-    {MEMBER(ImageFilterSettings, sliderFade)},       {MEMBER(ImageFilterSettings, checkNoise)},
-    {MEMBER(ImageFilterSettings, sliderNoise)},      {MEMBER(ImageFilterSettings, checkNoiseRandom)},
-    {MEMBER(ImageFilterSettings, sliderQuality)},
+constexpr RecordField<image::ImageFilterSettings> kFilterFields[] = {
+    {MEMBER(image::ImageFilterSettings, checkGrayscale)},   {MEMBER(image::ImageFilterSettings, checkBrightness)},
+    {MEMBER(image::ImageFilterSettings, sliderBrightness)}, {MEMBER(image::ImageFilterSettings, checkFade)},
+    {MEMBER(image::ImageFilterSettings, sliderFade)},       {MEMBER(image::ImageFilterSettings, checkNoise)},
+    {MEMBER(image::ImageFilterSettings, sliderNoise)},      {MEMBER(image::ImageFilterSettings, checkNoiseRandom)},
+    {MEMBER(image::ImageFilterSettings, sliderQuality)},
 };
 
-constexpr RecordField<WatermarkSettings> kWatermarkFields[] = {
-    {MEMBER(WatermarkSettings, checkUseWatermark)},
-    {MEMBER(WatermarkSettings, textWatermark)},
-    {MEMBER(WatermarkSettings, comboTextPlacement)},
-    {MEMBER(WatermarkSettings, sliderAlpha)},
-    {MEMBER(WatermarkSettings, FontName)},
-    {MEMBER(WatermarkSettings, FontSize)},
-    {MEMBER(WatermarkSettings, FontWeight)},
-    {MEMBER(WatermarkSettings, FontItalic)},
-    {MEMBER(WatermarkSettings, FontUnderline)},
-    {MEMBER(WatermarkSettings, FontStrikeout)},
-    {MEMBER(WatermarkSettings, Color)},
+constexpr RecordField<image::WatermarkSettings> kWatermarkFields[] = {
+    {MEMBER(image::WatermarkSettings, checkUseWatermark)},
+    {MEMBER(image::WatermarkSettings, textWatermark)},
+    {MEMBER(image::WatermarkSettings, comboTextPlacement)},
+    {MEMBER(image::WatermarkSettings, sliderAlpha)},
+    {MEMBER(image::WatermarkSettings, FontName)},
+    {MEMBER(image::WatermarkSettings, FontSize)},
+    {MEMBER(image::WatermarkSettings, FontWeight)},
+    {MEMBER(image::WatermarkSettings, FontItalic)},
+    {MEMBER(image::WatermarkSettings, FontUnderline)},
+    {MEMBER(image::WatermarkSettings, FontStrikeout)},
+    {MEMBER(image::WatermarkSettings, Color)},
 };
 
 constexpr RecordField<LinkSettings> kLinkFields[] = {
@@ -237,8 +237,8 @@ template <typename Record, std::size_t count>
 constexpr bool kHasMembers = kHolds<Record, count> && !kHolds<Record, count + 1>;
 
 static_assert(kHasMembers<GalleryProject, std::size(kFields)>, "a row for each member");
-static_assert(kHasMembers<ImageFilterSettings, std::size(kFilterFields)>, "a row for each member");
-static_assert(kHasMembers<WatermarkSettings, std::size(kWatermarkFields)>, "a row for each member");
+static_assert(kHasMembers<image::ImageFilterSettings, std::size(kFilterFields)>, "a row for each member");
+static_assert(kHasMembers<image::WatermarkSettings, std::size(kWatermarkFields)>, "a row for each member");
 static_assert(kHasMembers<LinkSettings, std::size(kLinkFields)>, "a row for each member");
 
 }  // namespace
@@ -267,14 +267,14 @@ ValueList AlignmentTexts(bool aboveOrBelow) {
   return aboveOrBelow ? ValueList(kCaptionAlignmentHorizontal) : ValueList(kCaptionAlignmentVertical);
 }
 
-std::span<const RecordField<ImageFilterSettings>> FilterFields() {
+std::span<const RecordField<image::ImageFilterSettings>> FilterFields() {
   return kFilterFields;
 }
-std::span<const RecordField<WatermarkSettings>> WatermarkFields() {
+std::span<const RecordField<image::WatermarkSettings>> WatermarkFields() {
   return kWatermarkFields;
 }
 std::span<const RecordField<LinkSettings>> LinkFields() {
   return kLinkFields;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

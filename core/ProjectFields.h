@@ -7,7 +7,7 @@
 #include <string_view>
 #include <variant>
 
-namespace vantorium {
+namespace vantorium::core {
 
 enum class FieldKind { Text, Digits, Flag, Choice, Color, Size, Record };
 
@@ -23,8 +23,8 @@ using ValueList = std::span<const std::string_view>;
 
 using FieldMember =
     std::variant<std::string GalleryProject::*, std::int16_t GalleryProject::*, std::int32_t GalleryProject::*,
-                 Color GalleryProject::*, ImageFilterSettings GalleryProject::*, WatermarkSettings GalleryProject::*,
-                 LinkSettings GalleryProject::*>;
+                 Color GalleryProject::*, image::ImageFilterSettings GalleryProject::*,
+                 image::WatermarkSettings GalleryProject::*, LinkSettings GalleryProject::*>;
 
 /// One field of GalleryProject. The alignment lists of captions and descriptions depend on the placement; `values` is
 /// then the list for placement left or right.
@@ -61,8 +61,8 @@ struct RecordField {
   std::variant<std::string Record::*, std::int16_t Record::*, bool Record::*, std::uint32_t Record::*> member;
 };
 
-[[nodiscard]] std::span<const RecordField<ImageFilterSettings>> FilterFields();
-[[nodiscard]] std::span<const RecordField<WatermarkSettings>> WatermarkFields();
+[[nodiscard]] std::span<const RecordField<image::ImageFilterSettings>> FilterFields();
+[[nodiscard]] std::span<const RecordField<image::WatermarkSettings>> WatermarkFields();
 [[nodiscard]] std::span<const RecordField<LinkSettings>> LinkFields();
 
-}  // namespace vantorium
+}  // namespace vantorium::core

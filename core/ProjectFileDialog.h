@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The dialog in which the user names a project file.
 class ProjectFileDialog {
@@ -25,4 +25,4 @@ class ProjectFileDialog {
   [[nodiscard]] virtual std::string Choose(const Request& /*request*/) { return {}; }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -8,13 +8,13 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 constexpr char kFileFilter[] = "Vantorium 3.0 Project Files (*.gpj)|*.gpj";
 
-void ShowFileError(MessageBoxPort& boxes, const std::string& text) {
-  boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "File Error", text);
+void ShowFileError(env::MessageBoxPort& boxes, const std::string& text) {
+  boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "File Error", text);
 }
 
 }  // namespace
@@ -46,24 +46,24 @@ void ProjectSession::StartUntitledProject() {
   parts_.host.RebuildCustomColors();
 }
 
-BoxAnswer ProjectSession::AskToSave() {
+env::BoxAnswer ProjectSession::AskToSave() {
   project_.IsPristine = false;
-  return parts_.boxes.Show(BoxKind::Question, BoxButtons::YesNoCancel, "Project modified",
+  return parts_.boxes.Show(env::BoxKind::Question, env::BoxButtons::YesNoCancel, "Project modified",
                            "The current Gallery Project has been modified.  Do you wish to save the changes?");
 }
 
 bool ProjectSession::MayLeaveProject() {
   if (!project_.IsModified) return true;
-  const BoxAnswer answer = AskToSave();
-  return answer == BoxAnswer::Yes ? SaveProject() : answer == BoxAnswer::No;
+  const env::BoxAnswer answer = AskToSave();
+  return answer == env::BoxAnswer::Yes ? SaveProject() : answer == env::BoxAnswer::No;
 }
 
 void ProjectSession::OpenProject() {
   if (project_.IsModified) {
-    const BoxAnswer answer = AskToSave();
+    const env::BoxAnswer answer = AskToSave();
     // A failed save does not stop the Open.
-    if (answer == BoxAnswer::Yes) SaveProject();
-    if (answer == BoxAnswer::Cancel) return;
+    if (answer == env::BoxAnswer::Yes) SaveProject();
+    if (answer == env::BoxAnswer::Cancel) return;
   }
   const std::string path = parts_.dialog.Choose({.purpose = ProjectFileDialog::Purpose::Open,
                                                  .title = "Open Gallery Project",
@@ -82,7 +82,7 @@ void ProjectSession::OpenProject() {
 }
 
 void ProjectSession::OpenProjectFromCommandLine(std::string_view commandLine) {
-  const std::string typed = ReplaceAll(commandLine, "\"", "");
+  const std::string typed = env::ReplaceAll(commandLine, "\"", "");
   if (typed.empty()) return;
   const std::string path = parts_.paths.ToTextFromUser(typed);
   images_.StopSorting();
@@ -99,7 +99,7 @@ bool ProjectSession::LoadProject(const std::string& path) {
 }
 
 bool ProjectSession::ReadWhileDisabled(const std::string& path) {
-  const DisabledMainWindow disabled(parts_.host);
+  const env::DisabledMainWindow disabled(parts_.host);
   return Read(path);
 }
 
@@ -128,7 +128,7 @@ void ProjectSession::AdoptOpened(const std::string& path) {
 
 void ProjectSession::TakePath(const std::string& path) {
   // GetFilePath would drop a leading separator, but the folder must lead back to the file.
-  const std::string whole = WithBackslashes(path);
+  const std::string whole = env::WithBackslashes(path);
   const auto name = whole.rfind('\\') + 1;  // npos + 1 is 0
   project_.ProjectFolder = whole.substr(0, name);
   project_.ProjectFileName = whole.substr(name);
@@ -172,7 +172,7 @@ bool ProjectSession::WriteToChosenFile() {
 }
 
 bool ProjectSession::WriteToItsFile() {
-  project_.ProjectFileName = WithExtension(project_.ProjectFileName, ".gpj");
+  project_.ProjectFileName = env::WithExtension(project_.ProjectFileName, ".gpj");
   return Write(project_.ProjectFolder + project_.ProjectFileName);
 }
 
@@ -184,7 +184,7 @@ bool ProjectSession::Write(const std::string& path) {
 }
 
 bool ProjectSession::WriteWhileDisabled(const std::string& path) {
-  const DisabledMainWindow disabled(parts_.host);
+  const env::DisabledMainWindow disabled(parts_.host);
   const bool written = ProjectFileWriter(project_, parts_.paths, parts_.host, parts_.events).WriteProjectFile(path);
   if (!written) ShowFileError(parts_.boxes, "An error occurred while saving the Gallery Project.");
   return written;
@@ -198,4 +198,4 @@ void ProjectSession::AdoptSaved() {
   parts_.host.RefreshTitleBar();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

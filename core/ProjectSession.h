@@ -11,18 +11,18 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The menu commands New, Open, Save and Save As, and the same without dialogs. A window only forwards to it. Paths are
 /// path text. Failures never propagate; each is shown in a message box.
 class ProjectSession {
  public:
   struct Parts {
-    const PathMap& paths;
-    MessageBoxPort& boxes;
+    const env::PathMap& paths;
+    env::MessageBoxPort& boxes;
     ProjectFileDialog& dialog;
     ProjectSessionHost& host;
-    EventLoop& events;
+    env::EventLoop& events;
   };
 
   ProjectSession(Project& project, ImageListOperations& images, const Parts& parts)
@@ -52,7 +52,7 @@ class ProjectSession {
   [[nodiscard]] bool SaveProjectTo(const std::string& path);
 
  private:
-  [[nodiscard]] BoxAnswer AskToSave();
+  [[nodiscard]] env::BoxAnswer AskToSave();
   void StartUntitledProject();
   [[nodiscard]] bool Read(const std::string& path);
   [[nodiscard]] bool ReadWhileDisabled(const std::string& path);
@@ -70,4 +70,4 @@ class ProjectSession {
   bool holdsPartOfAnotherFile_ = false;  ///< an Open failed, and the project's file must not be replaced without asking
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

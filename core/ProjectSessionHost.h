@@ -4,11 +4,11 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// What New, Open and Save need from the main window. A program without a window uses this class as it is. Functions
 /// that also exist in other ports of a window mean the same there.
-class ProjectSessionHost : public virtual WindowState {
+class ProjectSessionHost : public virtual env::WindowState {
  public:
   /// A small window with one text, shown during a wait.
   virtual void ShowInfoWindow(const std::string& /*text*/) {}
@@ -29,4 +29,4 @@ class ProjectSessionHost : public virtual WindowState {
   virtual void RebuildCustomColors() {}
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

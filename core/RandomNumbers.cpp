@@ -1,9 +1,9 @@
 #include "core/RandomNumbers.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 void ClockSeededNumbers::SeedFromClock() {
-  const CivilTime now = clock_.Now();
+  const env::CivilTime now = clock_.Now();
   const int day = (now.year * 12 + now.month) * 31 + now.day;
   const int second = (now.hour * 60 + now.minute) * 60 + now.second;
   std::seed_seq seed = {day, second};
@@ -15,4 +15,4 @@ double ClockSeededNumbers::Next() {
   return static_cast<double>(engine_()) * kStep;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -4,7 +4,7 @@
 
 #include <random>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// Uniformly distributed numbers in [0, 1).
 class RandomNumbers {
@@ -18,13 +18,13 @@ class RandomNumbers {
 /// The program's random numbers: multiples of 2^-32.
 class ClockSeededNumbers : public RandomNumbers {
  public:
-  explicit ClockSeededNumbers(const Clock& clock) : clock_(clock) {}
+  explicit ClockSeededNumbers(const env::Clock& clock) : clock_(clock) {}
   void SeedFromClock() override;
   [[nodiscard]] double Next() override;
 
  private:
-  const Clock& clock_;
+  const env::Clock& clock_;
   std::mt19937 engine_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

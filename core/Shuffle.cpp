@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 constexpr std::size_t kFirstRoundThatYields = 250;
@@ -29,4 +29,4 @@ bool ShuffleRows(ImageList& images, const ShuffleTools& tools) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

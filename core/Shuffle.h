@@ -4,7 +4,7 @@
 #include "core/RandomNumbers.h"
 #include "env/EventLoop.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The window shown while the rows are shuffled: a label "Shuffling Images...", a bar and a button "&Stop".
 class ShuffleProgress {
@@ -21,7 +21,7 @@ class ShuffleProgress {
 /// What ShuffleRows needs.
 struct ShuffleTools {
   ShuffleProgress& progress;
-  EventLoop& eventLoop;
+  env::EventLoop& eventLoop;
   RandomNumbers& random;
 };
 
@@ -30,4 +30,4 @@ struct ShuffleTools {
 /// if stopped.
 [[nodiscard]] bool ShuffleRows(ImageList& images, const ShuffleTools& tools);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 constexpr char kFolder[] = "themes";
@@ -19,7 +19,7 @@ bool BelongsToTheImages(const ProjectField& field) {
 
 }  // namespace
 
-std::vector<ThemeFile> FindThemes(const BundledFiles& files) {
+std::vector<ThemeFile> FindThemes(const env::BundledFiles& files) {
   std::vector<ThemeFile> themes;
   for (const std::filesystem::path& project : files.FindAll(kFolder, ".gpj")) {
     const std::string name = project.stem().string();
@@ -28,12 +28,13 @@ std::vector<ThemeFile> FindThemes(const BundledFiles& files) {
   return themes;
 }
 
-std::optional<GalleryProject> ReadTheme(const std::string& path, const PathMap& paths, MessageBoxPort& boxes,
-                                        EventLoop& events) {
+std::optional<GalleryProject> ReadTheme(const std::string& path, const env::PathMap& paths, env::MessageBoxPort& boxes,
+                                        env::EventLoop& events) {
   Project theme;
-  WindowState noWindow;
+  env::WindowState noWindow;
   if (ProjectFileReader(theme, paths, boxes, noWindow, events).ReadProjectFile(path)) return theme.settings;
-  boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "File Error", fmt::format("The theme \"{}\" cannot be read.", path));
+  boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "File Error",
+             fmt::format("The theme \"{}\" cannot be read.", path));
   return std::nullopt;
 }
 
@@ -46,4 +47,4 @@ void ApplyTheme(GalleryProject& project, const GalleryProject& theme) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 struct NumberedName {
@@ -71,4 +71,4 @@ void UniqueNames::Clear() {
   numbers_.clear();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The set of names of a list. Names are compared exactly. Operations take amortized logarithmic time, even if every
 /// requested name is the same.
@@ -42,4 +42,4 @@ class UniqueNames {
   NumbersOfBases numbers_;  ///< of the bases that were requested more than once
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

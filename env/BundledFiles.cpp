@@ -5,7 +5,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::env {
 
 std::optional<fs::path> BundledFiles::Find(std::string_view name) const {
   for (const fs::path& folder : folders_) {
@@ -39,4 +39,4 @@ std::vector<fs::path> BundledFolders(const fs::path& programFolder, const Proces
   return folders;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

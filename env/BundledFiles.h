@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The files that ship with the program and are only read, such as `preview.jpg` and the help. They are in the
 /// program's folder, where users can put their own versions, or in a folder of the installation.
@@ -34,4 +34,4 @@ class BundledFiles {
 [[nodiscard]] std::vector<std::filesystem::path> BundledFolders(const std::filesystem::path& programFolder,
                                                                 const ProcessEnvironment& around);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

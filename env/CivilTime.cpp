@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <chrono>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 constexpr std::int64_t kTicksPerSecond = 10'000'000;
@@ -35,4 +35,4 @@ FileTime FileTimeOfUnixTime(std::int64_t seconds, std::int64_t nanoseconds) {
   return {since1601 * kTicksPerSecond + nanoseconds / 100};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -3,7 +3,7 @@
 #include <compare>
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// A calendar date and time of day, without a time zone.
 struct CivilTime {
@@ -31,4 +31,4 @@ struct FileTime {
 /// years from 1970 are clamped to that.
 [[nodiscard]] FileTime FileTimeOfUnixTime(std::int64_t seconds, std::int64_t nanoseconds);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/CivilTime.h"
 
-namespace vantorium {
+namespace vantorium::env {
 
 class Clock {
  public:
@@ -11,4 +11,4 @@ class Clock {
   [[nodiscard]] virtual CivilTime Now() const = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -5,7 +5,7 @@
 #include "env/Text.h"
 #include "env/mINIFileFunctions.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 /// Returns the letter, as a capital, of a line that begins with a letter and "="; NUL for any other line.
@@ -39,4 +39,4 @@ PathMap ReadPathMap(const std::filesystem::path& preferencesFile, const std::fil
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Reads the folders of the drive letters, for PathMap, from the text of a preferences file: one key per letter in the
 /// section DRIVES, such as `C="/home/me"`. Unlike other values, they are read from that section only. A folder that is
@@ -19,4 +19,4 @@ namespace vantorium {
 /// guess would put the user's files in the wrong place.
 [[nodiscard]] PathMap ReadPathMap(const std::filesystem::path& preferencesFile, const std::filesystem::path& home);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

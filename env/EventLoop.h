@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The event loop of the face that runs the engine. Long operations give it a turn at fixed points, so that a Cancel is
 /// noticed. It does not depend on Qt.
@@ -13,4 +13,4 @@ class EventLoop {
   virtual void Wait() { Turn(); }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -11,7 +11,7 @@
 #include <sys/sendfile.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 bool IsSameFile(const struct stat& left, const struct stat& right) {
@@ -52,4 +52,4 @@ void CopyFileWhole(const std::filesystem::path& source, const std::filesystem::p
   to.TakeTargetName();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Copies `source` to `target`: bytes, access and write time, and permissions (the owner can always write the copy). A
 /// replaced file keeps its own permissions. `target` never shows a partial file. A file copied onto itself stays
@@ -10,4 +10,4 @@ namespace vantorium {
 /// is false, the target may not be replaced (env/NeighbourFile.h), or the bytes cannot be read or written.
 void CopyFileWhole(const std::filesystem::path& source, const std::filesystem::path& target, bool overwrite);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

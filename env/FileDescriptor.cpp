@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 
 bool FileDescriptor::Close() {
   const int descriptor = std::exchange(descriptor_, -1);
@@ -27,4 +27,4 @@ bool WriteAll(int descriptor, std::string_view bytes) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

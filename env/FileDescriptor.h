@@ -4,7 +4,7 @@
 #include <tuple>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Owns an open file descriptor and closes it on destruction.
 class FileDescriptor {
@@ -27,4 +27,4 @@ class FileDescriptor {
 /// all.
 [[nodiscard]] bool WriteAll(int descriptor, std::string_view bytes);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -11,7 +11,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 /// Opens with O_NONBLOCK, so that a pipe of that name does not block the program.
@@ -42,4 +42,4 @@ std::string ReadFileWhole(const std::filesystem::path& file, std::size_t most) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/NeighbourFile.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 /// Follows symbolic links from `path` to the file at their end.
@@ -30,4 +30,4 @@ void WriteKeptFile(const std::filesystem::path& target, std::string_view bytes) 
   file.TakeTargetName();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Writes `bytes` to `target`, which never shows a partial file: the bytes go to a new file in the same folder, which
 /// gets the target's owner and permissions as NeighbourFile says and is then renamed over it. Replaces a symbolic link
@@ -15,4 +15,4 @@ void WriteFileWhole(const std::filesystem::path& target, std::string_view bytes)
 /// a symbolic link stays, so that the file it points to, which may not exist yet, is written.
 void WriteKeptFile(const std::filesystem::path& target, std::string_view bytes);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 bool BeginsWithKey(std::string_view line, std::string_view key) {
@@ -115,4 +115,4 @@ std::string WithINIString(std::string_view text, std::string_view section, std::
   return result.insert(place.begin, (open ? lineEnd : "") + ValueLine(key, value) + (merges ? "\r\n" : lineEnd));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

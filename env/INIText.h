@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 // The text of a preference-like file:
 //
@@ -43,4 +43,4 @@ INILine TakeINILine(std::string_view& rest);
 [[nodiscard]] std::string WithINIString(std::string_view text, std::string_view section, std::string_view key,
                                         std::string_view value);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/RuntimeFailure.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using std::chrono::milliseconds;
@@ -40,4 +40,4 @@ void Launch(const LaunchAttempts& attempts, Shell& shell, const StartFailed& fai
   });
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -6,7 +6,7 @@
 #include <array>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The commands that are tried to open a file: the second only if the first could not be started.
 using LaunchAttempts = std::array<ShellCommand, 2>;
@@ -30,4 +30,4 @@ using LaunchAttempts = std::array<ShellCommand, 2>;
 /// Makes the attempts. If both fail, calls `failed` with the failure of the second, perhaps later (see Shell::Start).
 void Launch(const LaunchAttempts& attempts, Shell& shell, const StartFailed& failed);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

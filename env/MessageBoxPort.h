@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 enum class BoxKind { Plain, Critical, Question, Exclamation, Information };
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
@@ -24,4 +24,4 @@ class MessageBoxPort {
   }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

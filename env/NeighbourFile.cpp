@@ -15,7 +15,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 constexpr std::string_view kPrefix = ".vantorium-";
@@ -121,4 +121,4 @@ void RemoveAbandonedNeighbours(const std::filesystem::path& folder) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// A new file next to `target`, to be filled and then renamed over it, so that `target` never shows a partial file. It
 /// only replaces a regular file or a symbolic link, and never a file that its owner may not write. It gets owner, group
@@ -47,4 +47,4 @@ void RemoveAbandonedNeighbours(const std::filesystem::path& folder);
 /// Throws RuntimeFailure FileAccess with a description that names `path` and `reason`, an errno value.
 [[noreturn]] void ThrowFileAccess(const std::filesystem::path& path, int reason = errno);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 template <typename Integer>
@@ -85,4 +85,4 @@ std::int32_t MulDivRounded(std::int32_t a, std::int32_t b, std::int32_t c) {
   return ToInt32(static_cast<double>(static_cast<std::int64_t>(a) * b) / c);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

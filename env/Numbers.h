@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 // Arithmetic and conversions between floating point, integers and texts. Every conversion of a floating-point value to
 // an integer rounds to nearest with ties to even; a result outside the integer's range is the failure Overflow.
@@ -33,4 +33,4 @@ namespace vantorium {
 /// result does not fit.
 [[nodiscard]] std::int32_t MulDivRounded(std::int32_t a, std::int32_t b, std::int32_t c);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

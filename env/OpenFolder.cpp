@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 
 OpenFolder::OpenFolder(int folder) : listing_(folder >= 0 ? ::fdopendir(folder) : nullptr) {
   if (listing_ == nullptr && folder >= 0) ::close(folder);
@@ -20,4 +20,4 @@ std::optional<std::string> OpenFolder::Next() {
   return std::nullopt;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -6,7 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The flags for opening a folder. With O_NOFOLLOW added, a symbolic link is refused.
 inline constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
@@ -30,4 +30,4 @@ class OpenFolder {
   DIR* listing_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/PathText.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 char DriveLetter(std::string_view text) {
@@ -68,4 +68,4 @@ std::string PathMap::ToTextIfNative(std::string_view typed) const {
   return typed.starts_with('/') ? ToTextFromUser(typed) : std::string(typed);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Maps between Windows path text, which the program uses everywhere, and native paths.
 class PathMap {
@@ -38,4 +38,4 @@ class PathMap {
   std::map<char, std::string> drives_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 std::string Prepared(std::string_view path) {
@@ -52,4 +52,4 @@ std::string WithTrailingBackslash(std::string_view folder) {
   return text;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 // Paths inside the program are Windows path text on every system: backslashes separate folders; a few operations also
 // accept slashes and convert them. These functions only look at the text.
@@ -32,4 +32,4 @@ namespace vantorium {
 /// `folder` with a backslash appended unless it ends in one.
 [[nodiscard]] std::string WithTrailingBackslash(std::string_view folder);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 constexpr const char* kFolders = "FOLDERS";
@@ -127,4 +127,4 @@ void WriteBrowsers(const std::vector<Browser>& browsers, const std::filesystem::
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// A browser that the user listed for viewing galleries: its name in the menus and the path of its executable.
 struct Browser {
@@ -53,4 +53,4 @@ void WritePreferences(const Preferences& preferences, const std::filesystem::pat
 /// are read. Throws RuntimeFailure Preferences at the first value that cannot be written.
 void WriteBrowsers(const std::vector<Browser>& browsers, const std::filesystem::path& file);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 std::string Variable(const char* name) {
@@ -59,4 +59,4 @@ std::string GetAppPath(const fs::path& programFolder, const PathMap& paths) {
   return text;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The environment of a process. An empty text is a variable that is not set.
 struct ProcessEnvironment {
@@ -31,4 +31,4 @@ struct ProcessEnvironment {
 /// Returns a program folder as path text without a trailing backslash.
 [[nodiscard]] std::string GetAppPath(const std::filesystem::path& programFolder, const PathMap& paths);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

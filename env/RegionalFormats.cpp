@@ -10,7 +10,7 @@
 #include <unicode/gregocal.h>
 #include <unicode/timezone.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using icu::DateFormat;
@@ -73,4 +73,4 @@ std::string RegionalFormats::Format(const CivilTime& time, RegionalFormat format
   return formatted.toUTF8String(text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The named formats of the regional settings, with the program's numbers for them.
 enum class RegionalFormat { ShortDate = 0, LongDate = 1, ShortTime = 2, LongTime = 3 };
@@ -27,4 +27,4 @@ class RegionalFormats {
   std::unique_ptr<Formatters> formatters_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 constexpr std::pair<FailureKind, const char*> kDescriptions[] = {
@@ -34,4 +34,4 @@ RuntimeFailure::RuntimeFailure(FailureKind kind) : RuntimeFailure(kind, Descript
 RuntimeFailure::RuntimeFailure(FailureKind kind, const std::string& description)
     : std::runtime_error(description), number_(static_cast<std::int32_t>(kind)) {}
 
-}  // namespace vantorium
+}  // namespace vantorium::env

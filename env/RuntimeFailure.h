@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The failures that the program raises. Messages show their numbers after "Error #".
 enum class FailureKind : std::int32_t {
@@ -38,4 +38,4 @@ class RuntimeFailure : public std::runtime_error {
   std::int32_t number_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::env {
 
 class Screen {
  public:
@@ -11,4 +11,4 @@ class Screen {
   [[nodiscard]] virtual std::int32_t PixelsPerInch() const { return 96; }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::env {
 
 enum class BeepKind { Information, Warning };
 
@@ -36,4 +36,4 @@ class Shell {
   virtual void Start(const ShellCommand& command, const StartFailed& failed) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 
 void HoldStandardStreams() {
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
@@ -15,4 +15,4 @@ void HoldStandardStreams() {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

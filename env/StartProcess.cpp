@@ -13,7 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 /// How the new process differs from this one.
@@ -113,4 +113,4 @@ void StartProcess(const ShellCommand& command) {
   while (process.IsWatched()) std::this_thread::sleep_for(kPause);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -4,7 +4,7 @@
 
 #include <sys/types.h>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// A started program, in its own session, so that nothing typed for this process ends it, and with empty standard
 /// streams. It runs on its own; this object only watches whether it could be started.
@@ -29,4 +29,4 @@ class StartedProcess {
 /// Starts a program and waits while it is watched. Throws as StartedProcess does.
 void StartProcess(const ShellCommand& command);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include <ctime>
 
-namespace vantorium {
+namespace vantorium::env {
 
 CivilTime SystemClock::Now() const {
   const std::time_t now = std::time(nullptr);
@@ -11,4 +11,4 @@ CivilTime SystemClock::Now() const {
   return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include "env/Clock.h"
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The machine's local time.
 class SystemClock : public Clock {
@@ -10,4 +10,4 @@ class SystemClock : public Clock {
   [[nodiscard]] CivilTime Now() const override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -15,7 +15,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 const std::string kTempFolder = TempFolderIn("") + '\\';
@@ -112,4 +112,4 @@ bool ClearTempFolder(std::string_view tempFolderLocation, const mFileFunctions& 
   return deleted;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

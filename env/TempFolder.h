@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The name of the folder that the program calls its own, below a location that the user chooses.
 inline constexpr std::string_view kTempFolderName = "VANTORIUM_TEMP";
@@ -26,4 +26,4 @@ inline constexpr std::string_view kTempFolderName = "VANTORIUM_TEMP";
 /// folder, returns false and changes nothing.
 bool ClearTempFolder(std::string_view tempFolderLocation, const mFileFunctions& files, EventLoop& loop);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -12,7 +12,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 std::optional<struct stat> StatusIn(int parent, const std::string& name) {
@@ -68,4 +68,4 @@ std::string RefusalOfTempFolder(const fs::path& folder) {
   return RefusalWithin(AT_FDCWD, folder.string(), folder);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

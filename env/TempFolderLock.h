@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Locks the folder VANTORIUM_TEMP (native path) for one process: two runs in the same folder would send each other's
 /// files. The system releases the lock when the process ends, however it ends. On a file system without locks, and for
@@ -28,4 +28,4 @@ class TempFolderLock {
 /// Removes the right of others to write to it. A missing folder is not refused.
 [[nodiscard]] std::string RefusalOfTempFolder(const std::filesystem::path& folder);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 char Upper(char letter) {
@@ -83,4 +83,4 @@ std::string_view WithoutFilePrefix(std::string_view text) {
   return text;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

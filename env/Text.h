@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 // Comparisons and replacements that ignore the case of ASCII letters only, and conversion of line ends. All texts are
 // UTF-8.
@@ -35,4 +35,4 @@ inline constexpr std::string_view kCrLf = "\r\n";
 /// Returns `text` without a leading "file://" in any case.
 [[nodiscard]] std::string_view WithoutFilePrefix(std::string_view text);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

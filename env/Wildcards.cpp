@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 bool IsContinuation(char byte) {
@@ -47,4 +47,4 @@ bool MatchesWildcards(std::string_view name, std::string_view pattern) {
   return pattern.find_first_not_of('*') == std::string_view::npos;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

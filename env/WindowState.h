@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// What work that takes a while changes on the main window. A program without a window uses this class as it is.
 /// Interfaces that need more of the window derive from it virtually, so that a window implements it once.
@@ -39,4 +39,4 @@ class DisabledMainWindow {
   WindowState& window_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// The user's 16 custom colors, which a color dialog offers and lets edit, as 0x00BBGGRR.
 using CustomColors = std::array<std::uint32_t, 16>;
@@ -33,4 +33,4 @@ class mCommonDialogs {
   [[nodiscard]] virtual bool ShowFontDialog(FontDescription& font) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -14,7 +14,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 struct stat StatusOf(const PathMap& paths, std::string_view path, FailureKind failure) {
@@ -132,4 +132,4 @@ void mFileFunctions::DeleteLocalFile(std::string_view path) const {
   if (const auto native = paths_.ToNative(path)) ::unlink(native->c_str());
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

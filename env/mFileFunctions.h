@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 /// Returns `size` in bytes as display text: divided by 1024 while above 1023, rounded down, with " Bytes", "KB", "MB",
 /// "GB", "TB" or "?".
@@ -68,4 +68,4 @@ class mFileFunctions {
   const RegionalFormats& formats_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::env

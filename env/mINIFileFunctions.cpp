@@ -6,7 +6,7 @@
 #include "env/Numbers.h"
 #include "env/RuntimeFailure.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 void RefuseLineBreaks(std::string_view text) {
@@ -53,4 +53,4 @@ void WriteINIString(std::string_view section, std::string_view key, std::string_
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::env {
 
 // Reads and writes single values of preference-like files, which env/INIText.h describes. Files are native paths.
 
@@ -33,4 +33,4 @@ inline constexpr std::size_t kMostINIBytes = std::size_t{16} << 20;
 void WriteINIString(std::string_view section, std::string_view key, std::string_view value,
                     const std::filesystem::path& file);
 
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -1,6 +1,6 @@
 #include "image/CoefficientBudget.h"
 
-namespace vantorium {
+namespace vantorium::image {
 
 CoefficientBudget::Share::~Share() {
   if (budget_ == nullptr) return;
@@ -19,4 +19,4 @@ CoefficientBudget::Share CoefficientBudget::Take(std::uint64_t bytes, const std:
   return {*this, bytes};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -5,7 +5,7 @@
 #include <mutex>
 #include <stop_token>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Limits the memory that pictures which must be held take at one time. A decoder of a picture in several scans holds
 /// all its coefficients, about 70 MB for 24 megapixels; a photograph that is turned holds the pixels that are wanted of
@@ -41,4 +41,4 @@ class CoefficientBudget {
   std::uint64_t used_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

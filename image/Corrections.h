@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// What is corrected in a photograph before a picture is made of it.
 struct Corrections {
@@ -10,4 +10,4 @@ struct Corrections {
   [[nodiscard]] bool Any() const { return upright || trueColors; }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 constexpr std::string_view kName("Exif\0", 5);
@@ -67,4 +67,4 @@ std::optional<Orientation> OrientationInExif(std::string_view segment) {
   return std::nullopt;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 
 #include <pango/pangofc-fontmap.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// Keyed by the name in lower case.
@@ -31,7 +31,7 @@ void AddNames(Names& names, const FcPattern* font) {
   FcChar8* family = nullptr;
   for (int i = 0; FcPatternGetString(font, FC_FAMILY, i, &family) == FcResultMatch; ++i) {
     const std::string name = reinterpret_cast<const char*>(family);
-    if (CanBeAskedFor(name)) names.try_emplace(AsciiLower(name), name);
+    if (CanBeAskedFor(name)) names.try_emplace(env::AsciiLower(name), name);
   }
 }
 
@@ -52,4 +52,4 @@ std::vector<std::string> FaceNamesOf(PangoFontMap* map) {
   return sorted;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

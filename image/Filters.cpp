@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // The luminance is a quotient of integers up to 255000, which floats represent exactly. Rounding the quotient to a
@@ -65,4 +65,4 @@ void RandomiseBits(cDIBSection& dib, bool gray, NoiseStream& stream) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // The filters. Each changes a picture in place, in one pass, and does not touch the padding of the rows. The picture
 // must not be empty. Throws RuntimeFailure Overflow if a byte would leave 0 to 255, which cannot happen for amounts in
@@ -32,4 +32,4 @@ void AddNoise(cDIBSection& dib, std::int32_t amount, bool random, NoiseStream& s
 /// `stream`.
 void RandomiseBits(cDIBSection& dib, bool gray, NoiseStream& stream);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Converts to hue, saturation and lightness and back like mHLSRGB, but stage by stage over pieces of a row, so that the
@@ -177,4 +177,4 @@ void Lighten(cDIBSection& dib, std::int32_t amount) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

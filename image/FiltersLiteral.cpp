@@ -6,12 +6,12 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 template <typename Number>
 std::uint8_t Byte(Number value) {
-  if (value < 0 || value > 255) throw RuntimeFailure(FailureKind::Overflow);
+  if (value < 0 || value > 255) throw env::RuntimeFailure(env::FailureKind::Overflow);
   return static_cast<std::uint8_t>(value);
 }
 
@@ -43,7 +43,7 @@ void LightenPixel(std::uint8_t* pixel, double factor) {
 
 void GrayScaleLiteral(cDIBSection& dib) {
   EachPixel(dib, [](std::uint8_t* pixel, std::int32_t, std::int32_t) {
-    const double v = RoundHalfEven((707 * pixel[1] + 222 * pixel[2] + 71 * pixel[0]) / 1000.0);
+    const double v = env::RoundHalfEven((707 * pixel[1] + 222 * pixel[2] + 71 * pixel[0]) / 1000.0);
     std::fill_n(pixel, 3, Byte(v));
   });
 }
@@ -68,10 +68,10 @@ void AddNoiseLiteral(cDIBSection& dib, std::int32_t amount, bool random, NoiseSt
     if (random && !(noise.Uniform(NoiseStream::OfPixel(x / 3)) * 100.0 > amount)) return;
     for (int i = 0; i < 3; ++i) {
       const double r = noise.Uniform(NoiseStream::OfByte(x + i));
-      const double v = RoundHalfEven(r * static_cast<double>(spread) + static_cast<double>(pixel[i] - half));
+      const double v = env::RoundHalfEven(r * static_cast<double>(spread) + static_cast<double>(pixel[i] - half));
       pixel[i] = Byte(std::clamp(v, 0.0, 255.0));
     }
   });
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

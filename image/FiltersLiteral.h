@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // Straightforward versions of the filters, which must produce the same bytes. Tests use them as the reference; the
 // filters call them for amounts outside the stated ranges.
@@ -15,4 +15,4 @@ void FadeLiteral(cDIBSection& dib, std::int32_t amount);
 void LightenLiteral(cDIBSection& dib, std::int32_t amount);
 void AddNoiseLiteral(cDIBSection& dib, std::int32_t amount, bool random, NoiseStream& stream);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Pixels are processed in pieces of this many, which stay in the L1 cache.
@@ -85,4 +85,4 @@ void AddNoise(cDIBSection& dib, std::int32_t amount, bool random, NoiseStream& s
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The filters of one target (images or thumbnails) and the JPEG quality of its files. Switches are 0 or 1.
 struct ImageFilterSettings {
@@ -21,4 +21,4 @@ struct ImageFilterSettings {
   }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

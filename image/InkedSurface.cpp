@@ -5,7 +5,7 @@
 #include <cstring>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// The bits of a one-bit surface. Cairo packs 32 pixels into a machine word, the first one in the lowest bit on
@@ -90,4 +90,4 @@ TextMask InkOf(cairo_surface_t* surface) {
   return mask;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

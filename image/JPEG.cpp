@@ -5,11 +5,11 @@
 #include "image/JPEGDecoder.h"
 #include "image/JPEGEncoder.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 [[noreturn]] void FailToSave(const std::string& reason) {
-  throw RuntimeFailure(FailureKind::JPEGLibrary, "Failed to save to JPG " + reason);
+  throw env::RuntimeFailure(env::FailureKind::JPEGLibrary, "Failed to save to JPG " + reason);
 }
 
 }  // namespace
@@ -42,8 +42,8 @@ std::string EncodeJPEG(const cDIBSection& dib, std::int32_t quality) {
 
 void WriteJPEGFile(const std::filesystem::path& file, std::string_view jpeg) {
   try {
-    WriteFileWhole(file, jpeg);
-  } catch (const RuntimeFailure& failure) {
+    env::WriteFileWhole(file, jpeg);
+  } catch (const env::RuntimeFailure& failure) {
     FailToSave(failure.Description());
   }
 }
@@ -52,4 +52,4 @@ void SaveJPEGImage(const cDIBSection& dib, const std::filesystem::path& file, st
   WriteJPEGFile(file, EncodeJPEG(dib, quality));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // The interface to JPEG files for the rest of the program. Reading never throws or shows anything; the caller decides
 // what to say. It returns false for any file that cannot be read completely: missing, empty, not a regular file, not a
@@ -32,4 +32,4 @@ void WriteJPEGFile(const std::filesystem::path& file, std::string_view jpeg);
 /// Encodes `dib` into a file. Replaces an existing file, unless its owner may not write it. Throws like EncodeJPEG.
 void SaveJPEGImage(const cDIBSection& dib, const std::filesystem::path& file, std::int32_t quality);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

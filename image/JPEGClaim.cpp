@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Arithmetic coding has no minimum number of bits per block. Up to 2^18 blocks, about 11 megapixels, such a picture is
@@ -29,4 +29,4 @@ bool CanHold(std::uint64_t bytes, const jpeg_decompress_struct& codec) {
   return blocks <= (codec.progressive_mode != FALSE ? bits : bits / 2);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 
 #include <jpeglib.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // What the header of a JPEG file claims, once it has been read.
 
@@ -16,4 +16,4 @@ namespace vantorium {
 /// Returns whether a file of `bytes` bytes can hold the claimed blocks.
 [[nodiscard]] bool CanHold(std::uint64_t bytes, const jpeg_decompress_struct& codec);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

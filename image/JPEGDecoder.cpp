@@ -14,7 +14,7 @@
 
 #include <jerror.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Each scan costs a pass over the whole picture, however few bytes it has. Encoders write about ten.
@@ -272,4 +272,4 @@ bool JPEGDecoder::Finish() {
          (!state.errors.EndedEarly() || complete);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

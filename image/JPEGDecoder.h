@@ -8,7 +8,7 @@
 #include <optional>
 #include <stop_token>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Decodes one JPEG file row by row, from the top of the picture down. Call Open, Start, then ReadRow and SkipRows
 /// until all rows are consumed, then Finish. Once a call returns false the file cannot be decoded.
@@ -70,4 +70,4 @@ class JPEGDecoder {
   int divisor_ = 1;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

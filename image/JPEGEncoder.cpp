@@ -10,7 +10,7 @@
 
 #include <jerror.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 struct JPEGEncoder::State {
   ~State() { jpeg_destroy_compress(&codec); }
@@ -74,7 +74,7 @@ void JPEGEncoder::State::Start(std::int32_t width, std::int32_t height, std::int
 }
 
 void JPEGEncoder::State::Check(bool done) const {
-  if (!done) throw RuntimeFailure(FailureKind::JPEGLibrary, "Failed to save to JPG " + errors.Text());
+  if (!done) throw env::RuntimeFailure(env::FailureKind::JPEGLibrary, "Failed to save to JPG " + errors.Text());
 }
 
 JPEGEncoder::JPEGEncoder(std::int32_t width, std::int32_t height, std::int32_t quality)
@@ -98,4 +98,4 @@ std::string JPEGEncoder::Finish() {
   return std::move(state.bytes);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

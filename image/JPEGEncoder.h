@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Encodes one picture row by row, from the top down, into memory: baseline, YCbCr with chroma halved in both
 /// directions, default Huffman tables, the accurate integer DCT. Any call may throw RuntimeFailure JPEGLibrary with
@@ -27,4 +27,4 @@ class JPEGEncoder {
   std::unique_ptr<State> state_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

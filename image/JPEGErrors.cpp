@@ -2,7 +2,7 @@
 
 #include <jerror.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Unknown versions, stray bytes between segments and the like are not damage: the picture is still complete.
@@ -56,4 +56,4 @@ bool JPEGErrors::RunGuarded(void (*work)(void*), void* context) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 
 #include <jpeglib.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Handles the errors of one libjpeg-turbo codec object. Errors end the guarded call; warnings are classified as damage
 /// to the picture or as harmless. Prints nothing.
@@ -60,4 +60,4 @@ class JPEGErrors {
   bool failed_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 FileHandle OpenRegularFile(const std::filesystem::path& path, std::uint64_t& size) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
@@ -20,4 +20,4 @@ FileHandle OpenRegularFile(const std::filesystem::path& path, std::uint64_t& siz
   return file;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

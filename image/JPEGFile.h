@@ -6,7 +6,7 @@
 #include <memory>
 #include <tuple>
 
-namespace vantorium {
+namespace vantorium::image {
 
 struct FileCloser {
   void operator()(std::FILE* file) const { std::ignore = std::fclose(file); }
@@ -17,4 +17,4 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 /// be read, or is a folder, pipe or device; never waits for the other end of a pipe.
 [[nodiscard]] FileHandle OpenRegularFile(const std::filesystem::path& path, std::uint64_t& size);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -1,6 +1,6 @@
 #include "image/JPEGInks.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 std::uint8_t Product(unsigned left, unsigned right) {
@@ -20,4 +20,4 @@ void InksToBGR(std::span<const std::uint8_t> row, bool areInks, std::uint8_t* bg
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -1,6 +1,6 @@
 #include "image/JPEGSegments.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 constexpr int kMarkerPrefix = 0xFF;
@@ -56,4 +56,4 @@ std::string JPEGSegments::Contents() {
   return read == contents.size() ? contents : std::string();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

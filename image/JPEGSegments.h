@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Walks through the segments in front of the first scan of a JPEG file. Only what is asked for is read; the rest is
 /// skipped.
@@ -28,4 +28,4 @@ class JPEGSegments {
   long left_ = 0;  // bytes of the current segment that are not read
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 constexpr std::size_t kFaceNameCharacters = 31;
@@ -27,7 +27,7 @@ std::string FaceNameOf(const std::string& name) {
 
 LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixelsPerInch) {
   LogFont font;
-  font.lfHeight = -MulDivRounded(settings.FontSize, pixelsPerInch, 72);
+  font.lfHeight = -env::MulDivRounded(settings.FontSize, pixelsPerInch, 72);
   font.lfWeight = std::abs(std::int32_t{settings.FontWeight});
   font.lfItalic = settings.FontItalic ? 1 : 0;
   font.lfUnderline = settings.FontUnderline ? 1 : 0;
@@ -36,4 +36,4 @@ LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixels
   return font;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// A request for a font.
 struct LogFont {
@@ -29,4 +29,4 @@ inline constexpr std::uint8_t kNonAntialiasedQuality = 3;
 /// on it and on the point size, never on the picture.
 [[nodiscard]] LogFont MakeWatermarkFont(const WatermarkSettings& settings, std::int32_t pixelsPerInch);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

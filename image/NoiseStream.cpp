@@ -1,6 +1,6 @@
 #include "image/NoiseStream.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // The output step of SplitMix64: Steele, Lea, Flood, "Fast splittable pseudorandom number generators", 2014.
@@ -24,4 +24,4 @@ NoiseRow NoiseStream::Row(std::int32_t row) const {
   return NoiseRow(Mixed(key_ ^ static_cast<std::uint32_t>(firstRow_ + row)));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

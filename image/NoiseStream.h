@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The random numbers of one picture row. Number `index` is a pure function of the row's key and the index, so numbers
 /// may be read in any order.
@@ -52,4 +52,4 @@ class NoiseStream {
   std::int32_t firstRow_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::image {
 
 Turn::Turn(Orientation orientation)
     : swapsSides(orientation >= Orientation::SwapSides),
@@ -45,4 +45,4 @@ bool TurnUpright(cDIBSection& dib, Orientation orientation) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// How a photograph must be turned to stand upright: the values of the Exif tag Orientation (Exif 2.3, 4.6.4 A). The
 /// names tell what is done to the stored picture.
@@ -38,4 +38,4 @@ struct Turn {
 /// Turns a whole picture. Returns false if there is no memory for a second picture; `dib` is then unchanged.
 [[nodiscard]] bool TurnUpright(cDIBSection& dib, Orientation orientation);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -9,7 +9,7 @@
 #include <hb-ot.h>
 #include <pango/pangofc-fontmap.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// Fontconfig rules that are loaded after the machine's own and so override them.
@@ -126,10 +126,10 @@ void PangoFace::SetHeights(const LogFont& font) {
   if (font.lfHeight < 0) emHeight_ = std::min(-std::max(font.lfHeight, -kLargestEmHeight), kLargestEmHeight);
   if (font.lfHeight > 0) {
     const std::int32_t line = std::min(font.lfHeight, kLargestEmHeight);
-    emHeight_ = std::max(1, MulDivRounded(line, design.perEm, design.ascent + design.descent));
+    emHeight_ = std::max(1, env::MulDivRounded(line, design.perEm, design.ascent + design.descent));
   }
-  ascent_ = MulDivRounded(design.ascent, emHeight_, design.perEm);
-  descent_ = MulDivRounded(design.descent, emHeight_, design.perEm);
+  ascent_ = env::MulDivRounded(design.ascent, emHeight_, design.perEm);
+  descent_ = env::MulDivRounded(design.descent, emHeight_, design.perEm);
 }
 
 PangoFace::Stroke PangoFace::Underline() const {
@@ -150,4 +150,4 @@ GObjectHandle<PangoLayout> PangoFace::Shape(const std::string& line) const {
   return layout;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 struct FontMapReleaser {
   void operator()(PangoFontMap* map) const;
@@ -49,4 +49,4 @@ class PangoFace {
   std::int32_t descent_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 #include <hb.h>
 #include <pango/pangocairo.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // Owning handles for the objects of GLib, Pango, Cairo, Fontconfig and HarfBuzz.
 
@@ -29,4 +29,4 @@ using FcConfigHandle = std::unique_ptr<FcConfig, HandleReleaser<FcConfigDestroy>
 using BlobHandle = std::unique_ptr<hb_blob_t, HandleReleaser<hb_blob_destroy>>;
 using ShaperFontHandle = std::unique_ptr<hb_font_t, HandleReleaser<hb_font_destroy>>;
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -7,7 +7,7 @@
 
 #include <hb-ot.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// Letters up to this em height in pixels are drawn as bitmaps with the font's own hinting, larger ones as outlines,
@@ -171,4 +171,4 @@ void PangoPen::DrawStroke(PangoFace::Stroke stroke, double from, double to) {
   cairo_fill(cairo_.get());
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

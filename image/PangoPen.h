@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// A shaped line of text. Positions are in pixels from its left end.
 class PangoLine {
@@ -55,4 +55,4 @@ class PangoPen {
   CairoHandle cairo_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

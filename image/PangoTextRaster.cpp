@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <mutex>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// Draws a line rotated around the middle of its lower edge, which is at the pen's origin.
@@ -84,4 +84,4 @@ std::vector<std::string> PangoTextRaster::FaceNames() const {
   return FaceNamesOf(fonts_->Map());
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Draws text of any script with Pango and Cairo. A letter that the font lacks is drawn from another font of the
 /// machine, or as a box; a color glyph is drawn as its shape, or as a box when it is very large.
@@ -27,4 +27,4 @@ class PangoTextRaster : public TextRaster {
   std::unique_ptr<Fonts> fonts_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

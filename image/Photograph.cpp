@@ -6,7 +6,7 @@
 
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 void ApplyProfile(cDIBSection& dib, const PhotographNotes& notes) {
@@ -36,4 +36,4 @@ bool Correct(cDIBSection& dib, const std::filesystem::path& file, Corrections co
   return TurnUpright(dib, notes.orientation);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // ReadJPEGSize and LoadJPEGImage for photographs that are corrected. They return false for the same files.
 
@@ -21,4 +21,4 @@ namespace vantorium {
 /// if there is no memory for turning it.
 [[nodiscard]] bool Correct(cDIBSection& dib, const std::filesystem::path& file, Corrections corrections);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include "image/JPEGSegments.h"
 #include "image/ProfileChunks.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 constexpr int kAPP1 = 0xE1;
@@ -43,4 +43,4 @@ PhotographNotes ReadPhotographNotes(const std::filesystem::path& file, Correctio
   return notes;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// What a JPEG file notes about its picture, in the segments in front of the picture.
 struct PhotographNotes {
@@ -19,4 +19,4 @@ struct PhotographNotes {
 /// first Exif segment that says an orientation counts. Without corrections the file is not opened.
 [[nodiscard]] PhotographNotes ReadPhotographNotes(const std::filesystem::path& file, Corrections corrections);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

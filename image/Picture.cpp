@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// An output that keeps its failure: one output may fail without the other, and a failure counts only if the source
@@ -44,7 +44,7 @@ class GuardedOutput {
   void Guard(Work work) {
     try {
       work();
-    } catch (const RuntimeFailure&) {
+    } catch (const env::RuntimeFailure&) {
       file_.failure = std::current_exception();
       output_.reset();
     }
@@ -101,4 +101,4 @@ PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequ
   return files;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -10,7 +10,7 @@
 #include <stop_token>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The outputs requested of one photograph.
 struct PictureRequest {
@@ -49,4 +49,4 @@ struct PictureWork {
 [[nodiscard]] PictureFiles MakePictures(const std::filesystem::path& source, const PictureRequest& request,
                                         const PictureWork& work);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

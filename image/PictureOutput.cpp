@@ -5,12 +5,12 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 [[noreturn]] void ThrowNoSuchPicture(PictureSize size) {
-  throw RuntimeFailure(FailureKind::InvalidArgument,
-                       fmt::format("A picture of {} x {} pixels cannot be made.", size.width, size.height));
+  throw env::RuntimeFailure(env::FailureKind::InvalidArgument,
+                            fmt::format("A picture of {} x {} pixels cannot be made.", size.width, size.height));
 }
 
 PictureSize SizeOf(const PictureRecipe& recipe, PictureSize source) {
@@ -83,4 +83,4 @@ std::string PictureOutput::Finish() {
   return encoder_.Finish();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// One output of a photograph, made from the rows of its source as they arrive, from the top of the picture down. Each
 /// row is finished and encoded before the next one is made, so no size needs memory for more than a few rows. Any call
@@ -46,4 +46,4 @@ class PictureOutput {
   cDIBSection row_;                     // the new row before it is encoded
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 #include <memory>
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// How one output of a photograph is made, in this order: resize, convert the colors if asked for, filter, draw the
 /// watermark, encode as JPEG at the filters' quality.
@@ -19,4 +19,4 @@ struct PictureRecipe {
   std::shared_ptr<const WatermarkPainter> watermark = {};  ///< null for none
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

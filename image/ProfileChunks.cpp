@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 constexpr std::string_view kName("ICC_PROFILE\0", 12);
@@ -41,4 +41,4 @@ std::string ProfileChunks::Profile() const {
   return profile;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Puts a color profile together from the segments of a JPEG file (ICC.1:2010, B.4). A profile is stored in up to 255
 /// APP2 segments: "ICC_PROFILE", 0, the number of the chunk from 1, the number of chunks, the bytes of the chunk.
@@ -23,4 +23,4 @@ class ProfileChunks {
   bool wrong_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <new>
 
-namespace vantorium {
+namespace vantorium::image {
 
 std::unique_ptr<cDIBSection> Resample(const cDIBSection& source, std::int32_t newHeight, std::int32_t newWidth) try {
   auto result = std::make_unique<cDIBSection>();
@@ -19,4 +19,4 @@ std::unique_ptr<cDIBSection> Resample(const cDIBSection& source, std::int32_t ne
   return nullptr;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 static_assert(FLT_EVAL_METHOD == 0, "Roundings must happen where they are written");
@@ -142,4 +142,4 @@ void ResamplePlan::CombineRows(const SourceRows& rows, const std::uint8_t* lower
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

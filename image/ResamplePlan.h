@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Width and height in pixels.
 struct PictureSize {
@@ -54,4 +54,4 @@ class ResamplePlan {
   std::vector<float> rightWeights_;      // share of the right neighbour, stored three times for each new column
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -7,7 +7,7 @@
 
 #include <lcms2.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 struct ProfileCloser {
@@ -116,4 +116,4 @@ std::unique_ptr<const SRGBTransform> SRGBTransform::For(const std::string& profi
   return transform;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

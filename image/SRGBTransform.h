@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Converts the pixels of one photograph from its color profile to sRGB, with Little CMS. May be used from several
 /// threads at once.
@@ -23,4 +23,4 @@ class SRGBTransform {
   virtual void Apply(std::uint8_t* bgr, std::size_t pixels) const = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

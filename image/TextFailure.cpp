@@ -10,14 +10,14 @@
 
 #include <pango/pangofc-font.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// Pango starts two for each size and script in which it looks for a font; some still run when the next ones start.
 constexpr int kThreadsOfPango = 8;
 
-[[noreturn]] void Fail(FailureKind kind, const std::string& reason) {
-  throw RuntimeFailure(kind, "The watermark cannot be drawn: " + reason);
+[[noreturn]] void Fail(env::FailureKind kind, const std::string& reason) {
+  throw env::RuntimeFailure(kind, "The watermark cannot be drawn: " + reason);
 }
 
 std::string FileOf(PangoFont* font) {
@@ -37,16 +37,17 @@ bool CanBeRead(PangoFont* font) {
 }  // namespace
 
 void CheckFont(PangoFont* font) {
-  if (font == nullptr) Fail(FailureKind::FileNotFound, "no font is installed on this computer.");
-  if (!CanBeRead(font)) Fail(FailureKind::FileAccess, "the font file \"" + FileOf(font) + "\" cannot be read.");
+  if (font == nullptr) Fail(env::FailureKind::FileNotFound, "no font is installed on this computer.");
+  if (!CanBeRead(font)) Fail(env::FailureKind::FileAccess, "the font file \"" + FileOf(font) + "\" cannot be read.");
 }
 
 void CheckDrawing(cairo_status_t status) {
-  if (status != CAIRO_STATUS_SUCCESS) Fail(FailureKind::OutOfMemory, cairo_status_to_string(status) + std::string("."));
+  if (status != CAIRO_STATUS_SUCCESS)
+    Fail(env::FailureKind::OutOfMemory, cairo_status_to_string(status) + std::string("."));
 }
 
 void CheckFontSettings(bool read) {
-  if (!read) Fail(FailureKind::FileAccess, "the font settings of this computer cannot be read.");
+  if (!read) Fail(env::FailureKind::FileAccess, "the font settings of this computer cannot be read.");
 }
 
 void CheckThreadsToSpare() try {
@@ -55,7 +56,7 @@ void CheckThreadsToSpare() try {
   const std::lock_guard closed(gate);  // keeps all threads running at once
   for (int i = 0; i < kThreadsOfPango; ++i) threads.emplace_back([&gate] { const std::lock_guard passed(gate); });
 } catch (const std::system_error&) {
-  Fail(FailureKind::OutOfMemory, "there is no room for the threads that fonts are looked for on.");
+  Fail(env::FailureKind::OutOfMemory, "there is no room for the threads that fonts are looked for on.");
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -2,7 +2,7 @@
 
 #include "image/PangoHandles.h"
 
-namespace vantorium {
+namespace vantorium::image {
 
 // Checks that text can be drawn. Each throws RuntimeFailure with a sentence for the user where Pango and Cairo would
 // draw nothing or end the program.
@@ -20,4 +20,4 @@ void CheckFontSettings(bool read);
 /// Throws OutOfMemory unless as many threads can be started as Pango may use at once to look for fonts.
 void CheckThreadsToSpare();
 
-}  // namespace vantorium
+}  // namespace vantorium::image

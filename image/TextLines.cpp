@@ -5,7 +5,7 @@
 
 #include <glib.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 struct GFree {
@@ -34,4 +34,4 @@ std::vector<std::string> LinesOfText(std::string_view text) {
   return lines;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -1,6 +1,6 @@
 #include "image/TextMask.h"
 
-namespace vantorium {
+namespace vantorium::image {
 
 TextMask::TextMask(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
   if (width < 1 || height < 1) return;
@@ -23,4 +23,4 @@ void TextMask::Cover(std::int32_t x, std::int32_t y) {
   words_[RowStart(y) + column / 64] |= std::uint64_t{1} << (column % 64);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The pixels of a picture that a text covers: one bit for each pixel of a rectangle, none outside it. Columns and rows
 /// are counted from the picture's top left corner.
@@ -47,4 +47,4 @@ class TextMask {
   std::vector<std::uint64_t> words_;  // row by row from the top, the lowest bit at the left
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// How a text is laid out and what its position means. CR LF, CR and LF end a line.
 enum class TextForm {
@@ -53,4 +53,4 @@ class TextRaster {
   [[nodiscard]] virtual std::vector<std::string> FaceNames() const = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

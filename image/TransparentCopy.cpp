@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Rows are processed in blocks that stay in the L1 cache from one pass to the next. A block is large enough for the
@@ -110,4 +110,4 @@ bool TransparentCopy(const cDIBSection& source, cDIBSection& target, std::uint32
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image {
 
 // Part of the module's interface; the program itself does not call it.
 
@@ -19,4 +19,4 @@ namespace vantorium {
 [[nodiscard]] bool TransparentCopy(const cDIBSection& source, cDIBSection& target, std::uint32_t key,
                                    std::uint8_t alpha);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <new>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Enough for the pictures of any camera, which have up to 150 megapixels; a header may claim more.
@@ -125,4 +125,4 @@ void UprightRows::GiveRow(std::int32_t row) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

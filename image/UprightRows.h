@@ -7,7 +7,7 @@
 #include <stop_token>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Decodes a photograph and gives out its rows as they are once it is upright, from its top down. A photograph that
 /// need not be turned, or only mirrored from left to right, is given out as it is decoded. Of any other the wanted
@@ -50,4 +50,4 @@ class UprightRows {
   std::vector<std::uint8_t> above_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

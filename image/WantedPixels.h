@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The pixels that are looked at: those of the marked columns in the marked rows. Rows are counted from the top.
 struct WantedPixels {
@@ -14,4 +14,4 @@ struct WantedPixels {
   std::vector<std::uint8_t> rows;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 /// The number of picture sizes whose masks are cached. A mask takes at most 1/24 of its picture's memory.
@@ -27,7 +27,7 @@ std::uint8_t Mixed(int ink, int picture, int alpha) {
 }
 
 void CheckAlpha(std::int16_t alpha) {
-  if (alpha < 0 || alpha > 255) throw RuntimeFailure(FailureKind::Overflow);
+  if (alpha < 0 || alpha > 255) throw env::RuntimeFailure(env::FailureKind::Overflow);
 }
 
 }  // namespace
@@ -92,4 +92,4 @@ std::shared_ptr<const TextMask> WatermarkPainter::MaskFor(std::int32_t width, st
   return mask;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// Draws `text` over the picture at one of eleven places, blended at `alpha` percent. `color` is 0x00BBGGRR. An empty
 /// text or picture changes nothing. Changes `lfQuality`, `lfEscapement` and `lfOrientation` of the font. Throws
@@ -66,4 +66,4 @@ class WatermarkPainter {
   mutable std::vector<KnownMask> known_;  // most recently used last
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,11 +4,11 @@
 
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 std::int16_t Checked(std::int64_t value) {
-  return ToInt16(static_cast<double>(value));
+  return env::ToInt16(static_cast<double>(value));
 }
 
 void Turn(LogFont& font, std::int32_t tenthsOfDegree) {
@@ -19,7 +19,7 @@ void Turn(LogFont& font, std::int32_t tenthsOfDegree) {
 /// The position along one side: at its start, in its middle or at its end. The two are halved separately.
 std::int32_t Aligned(int third, std::int16_t side, std::int16_t text) {
   if (third == 0) return 0;
-  if (third == 1) return ToInt16(side / 2.0 - text / 2.0);
+  if (third == 1) return env::ToInt16(side / 2.0 - text / 2.0);
   return side - text;
 }
 
@@ -37,11 +37,11 @@ TextPlace PlaceDiagonal(LogFont& font, std::string_view text, std::int16_t place
                         std::int16_t height, const TextRaster& raster) {
   constexpr double kPi = 3.14159265358979;
   const int sign = placement == kTopLeftToBottomRight ? -1 : 1;
-  const double angle = std::atan(Divide(height, width));
+  const double angle = std::atan(env::Divide(height, width));
   Turn(font, sign * 10 * static_cast<std::int32_t>(std::floor(angle * 180 / kPi)));
   const double half = static_cast<double>(raster.Measure(font, text, TextForm::Turned).height) / 2.0;
-  return {TextForm::Turned, ToInt16(width / 2.0 + sign * (half * std::sin(angle))),
-          ToInt16(height / 2.0 + half * std::cos(angle))};
+  return {TextForm::Turned, env::ToInt16(width / 2.0 + sign * (half * std::sin(angle))),
+          env::ToInt16(height / 2.0 + half * std::cos(angle))};
 }
 
 }  // namespace
@@ -55,4 +55,4 @@ TextPlace PlaceWatermark(LogFont& font, std::string_view text, std::int16_t plac
   return (diagonal ? PlaceDiagonal : PlaceStraight)(font, text, placement, width, height, raster);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

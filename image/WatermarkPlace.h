@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::image {
 
 inline constexpr std::int16_t kTopLeftToBottomRight = 9;
 inline constexpr std::int16_t kBottomLeftToTopRight = 10;
@@ -22,4 +22,4 @@ inline constexpr std::int16_t kBottomLeftToTopRight = 10;
 [[nodiscard]] TextPlace PlaceWatermark(LogFont& font, std::string_view text, std::int16_t placement,
                                        std::int32_t pictureWidth, std::int32_t pictureHeight, const TextRaster& raster);
 
-}  // namespace vantorium
+}  // namespace vantorium::image

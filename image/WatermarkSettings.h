@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The watermark of one target (images or thumbnails).
 struct WatermarkSettings {
@@ -20,4 +20,4 @@ struct WatermarkSettings {
   std::uint32_t Color = 0xFFFFFF;  ///< 0x00BBGGRR
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

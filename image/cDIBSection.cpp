@@ -3,7 +3,7 @@
 #include <limits>
 #include <new>
 
-namespace vantorium {
+namespace vantorium::image {
 
 bool cDIBSection::Create(std::int32_t width, std::int32_t height) {
   ClearUp();
@@ -32,4 +32,4 @@ const std::uint8_t* cDIBSection::Row(std::int32_t row) const {
   return bits_.get() + static_cast<std::ptrdiff_t>(row) * BytesPerScanLine();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

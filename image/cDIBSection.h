@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-namespace vantorium {
+namespace vantorium::image {
 
 /// The program's one image type: 24 bits per pixel, bytes blue, green, red, rows bottom-up (row 0 is the bottom row of
 /// the picture), each row padded to a multiple of 4 bytes. No operation writes the padding.
@@ -32,4 +32,4 @@ class cDIBSection {
   std::unique_ptr<std::uint8_t[]> bits_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Calculations use double precision; stored values are floats.
@@ -79,9 +79,9 @@ void RGBToHLS(std::int32_t r, std::int32_t g, std::int32_t b, float& H, float& S
 
 void HLSToRGB(float H, float S, float L, std::int32_t& r, std::int32_t& g, std::int32_t& b) {
   const Channels channels = ChannelsOf(H, S, L);
-  r = ToInt32(channels.r * 255.0);
-  g = ToInt32(channels.g * 255.0);
-  b = ToInt32(channels.b * 255.0);
+  r = env::ToInt32(channels.r * 255.0);
+  g = env::ToInt32(channels.g * 255.0);
+  b = env::ToInt32(channels.b * 255.0);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image

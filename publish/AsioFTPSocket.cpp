@@ -15,7 +15,7 @@
 #include <netinet/tcp.h>
 #include <poll.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 using asio::ip::tcp;
 using Milliseconds = std::chrono::milliseconds;
@@ -23,7 +23,7 @@ using Milliseconds = std::chrono::milliseconds;
 /// The non-blocking sockets and the code that waits for them.
 class AsioFTPSocket::Connection {
  public:
-  explicit Connection(EventLoop& loop) : loop_(loop) {}
+  explicit Connection(env::EventLoop& loop) : loop_(loop) {}
 
   /// Marks a call as blocking while it exists.
   class BlockingCall {
@@ -61,7 +61,7 @@ class AsioFTPSocket::Connection {
  private:
   void BeginStream();
 
-  EventLoop& loop_;
+  env::EventLoop& loop_;
 };
 
 namespace {
@@ -167,7 +167,7 @@ void AsioFTPSocket::Connection::Close() {
   isAbandoned = true;
 }
 
-AsioFTPSocket::AsioFTPSocket(EventLoop& loop) : connection_(std::make_unique<Connection>(loop)) {}
+AsioFTPSocket::AsioFTPSocket(env::EventLoop& loop) : connection_(std::make_unique<Connection>(loop)) {}
 
 AsioFTPSocket::~AsioFTPSocket() {
   connection_->Close();
@@ -252,7 +252,7 @@ void AsioFTPSocket::Accept(const FTPSocket& control) {
     return false;
   };
   if (!connection_->NewWait().Until(isOver) || !connection_->isConnected) {
-    throw RuntimeFailure(FailureKind::FileAccess, "The server has not opened the data connection");
+    throw env::RuntimeFailure(env::FailureKind::FileAccess, "The server has not opened the data connection");
   }
 }
 
@@ -293,4 +293,4 @@ void AsioFTPSocket::CancelBlockingCall() {
   if (connection_->isBlocking) connection_->isAbandoned = true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

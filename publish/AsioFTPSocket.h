@@ -5,12 +5,12 @@
 
 #include <memory>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// FTPSocket on Asio's TCP sockets. A lost peer shows only in results; no signal is raised.
 class AsioFTPSocket : public FTPSocket {
  public:
-  explicit AsioFTPSocket(EventLoop& loop);
+  explicit AsioFTPSocket(env::EventLoop& loop);
   ~AsioFTPSocket() override;
   AsioFTPSocket(const AsioFTPSocket&) = delete;
   AsioFTPSocket& operator=(const AsioFTPSocket&) = delete;
@@ -37,4 +37,4 @@ class AsioFTPSocket : public FTPSocket {
   std::unique_ptr<Connection> connection_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

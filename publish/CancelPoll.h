@@ -2,7 +2,7 @@
 
 #include "publish/ProgressWindow.h"
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// The check for a cancel that a run makes before each step, and that the cancel button of its window makes at once.
 class CancelPoll {
@@ -12,4 +12,4 @@ class CancelPoll {
   [[nodiscard]] virtual bool CheckForCancel(ProgressWindow& progress) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// Whether the user has confirmed a cancel of the current run.
 class CancelState {
@@ -9,4 +9,4 @@ class CancelState {
   [[nodiscard]] virtual bool CancelRequested() const = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

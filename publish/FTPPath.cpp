@@ -4,20 +4,20 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 std::string FTPGetFileName(std::string_view path) {
-  return WithSlashes(GetFileName(path));
+  return env::WithSlashes(env::GetFileName(path));
 }
 
 std::string FTPGetFilePath(std::string_view path) {
-  return WithSlashes(GetFilePath(path));
+  return env::WithSlashes(env::GetFilePath(path));
 }
 
 std::string RelativeToSession(std::string_view path) {
-  std::string relative = WithSlashes(path);
+  std::string relative = env::WithSlashes(path);
   relative.erase(0, std::min(relative.find_first_not_of('/'), relative.size()));
   return relative;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

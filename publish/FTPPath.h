@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// Returns the last element of a path, as GetFileName does, with forward slashes.
 [[nodiscard]] std::string FTPGetFileName(std::string_view path);
@@ -15,4 +15,4 @@ namespace vantorium {
 /// to the server's root.
 [[nodiscard]] std::string RelativeToSession(std::string_view path);
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -4,11 +4,11 @@
 
 #include <limits>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 std::optional<std::int16_t> FTPPercentage(std::int32_t sent, std::int32_t length) {
   if (sent > std::numeric_limits<std::int32_t>::max() / 100) return std::nullopt;
-  return ToInt16(Divide(sent * 100, length));
+  return env::ToInt16(env::Divide(sent * 100, length));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

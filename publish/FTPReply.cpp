@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 bool BeginsWithNumber(std::string_view line) {
@@ -25,10 +25,10 @@ void FTPReply::Take(std::string_view piece) {
   pending_ += piece;
 
   std::size_t lineStart = 0;
-  for (auto lineEnd = pending_.find(kCrLf, searchFrom); lineEnd != std::string::npos;
-       lineEnd = pending_.find(kCrLf, searchFrom)) {
+  for (auto lineEnd = pending_.find(env::kCrLf, searchFrom); lineEnd != std::string::npos;
+       lineEnd = pending_.find(env::kCrLf, searchFrom)) {
     TakeLine(std::string_view(pending_).substr(lineStart, lineEnd - lineStart));
-    searchFrom = lineStart = lineEnd + kCrLf.size();
+    searchFrom = lineStart = lineEnd + env::kCrLf.size();
   }
   pending_.erase(0, lineStart);
 }
@@ -40,9 +40,9 @@ void FTPReply::TakeLine(std::string_view line) {
     code_ = NumberOf(line);
     if (line.substr(3, 1) != "-") isComplete_ = true;
   }
-  if (line.size() < stripped) throw RuntimeFailure(FailureKind::InvalidArgument);
+  if (line.size() < stripped) throw env::RuntimeFailure(env::FailureKind::InvalidArgument);
   if (!text_.empty()) text_ += ' ';
   text_ += line.substr(stripped);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// A reply of an FTP server (RFC 959, section 4.2), assembled from pieces as they arrive.
 ///
@@ -39,4 +39,4 @@ class FTPReply {
   std::string text_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// The FTP client's settings of a socket. The rest never changes: IPv4, TCP, blocking calls.
 struct FTPSocketSettings {
@@ -69,4 +69,4 @@ class FTPSocket {
   virtual void CancelBlockingCall() = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

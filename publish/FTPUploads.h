@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// What FolderUpload needs from the FTP client. Remote paths are relative to the session's current directory.
 class FTPUploads {
@@ -17,4 +17,4 @@ class FTPUploads {
                                          bool overwrite) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -7,7 +7,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 std::optional<EntryKind> KindOf(const fs::directory_entry& entry) {
@@ -27,7 +27,7 @@ FolderListing ListFolder(const fs::path& folder, const std::function<bool()>& go
   for (; goesOn && entry != fs::directory_iterator(); goesOn = !error && goOn()) {
     const std::string name = entry->path().filename().string();
     const auto kind = KindOf(*entry);
-    const bool unfinished = kind == EntryKind::File && IsNeighbourName(name);
+    const bool unfinished = kind == EntryKind::File && env::IsNeighbourName(name);
     if (kind && !unfinished) listing.entries.push_back({name, *kind});
     entry.increment(error);
   }
@@ -36,4 +36,4 @@ FolderListing ListFolder(const fs::path& folder, const std::function<bool()>& go
   return listing;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 enum class EntryKind { Folder, File, LinkedFolder };
 
@@ -28,4 +28,4 @@ struct FolderListing {
 /// many; the first false ends the listing.
 [[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder, const std::function<bool()>& goOn);
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -9,7 +9,7 @@
 #include <netdb.h>
 #include <sys/socket.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 std::string TextOf(const addrinfo& entry) {
@@ -48,4 +48,4 @@ std::future<std::vector<std::string>> LookUpHost(const std::string& host) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

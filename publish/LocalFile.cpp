@@ -11,26 +11,26 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 /// Blocks are small: reading them one by one would cost more in system calls than in copying.
 constexpr std::size_t kReadAhead = 64 * 1024;
 
 [[noreturn]] void ThrowWhyNot(const std::filesystem::path& file) {
-  if (errno == ENOENT || errno == ENOTDIR) throw RuntimeFailure(FailureKind::FileNotFound);
-  ThrowFileAccess(file);
+  if (errno == ENOENT || errno == ENOTDIR) throw env::RuntimeFailure(env::FailureKind::FileNotFound);
+  env::ThrowFileAccess(file);
 }
 
 }  // namespace
 
 std::int32_t LengthOfFile(const std::optional<std::filesystem::path>& file) {
   struct stat status = {};
-  if (!file) throw RuntimeFailure(FailureKind::FileNotFound);
+  if (!file) throw env::RuntimeFailure(env::FailureKind::FileNotFound);
   if (::stat(file->c_str(), &status) != 0) ThrowWhyNot(*file);
-  if (S_ISDIR(status.st_mode)) throw RuntimeFailure(FailureKind::FileNotFound);
-  if (!S_ISREG(status.st_mode)) ThrowFileAccess(*file, EINVAL);
-  if (status.st_size > std::numeric_limits<std::int32_t>::max()) throw RuntimeFailure(FailureKind::Overflow);
+  if (S_ISDIR(status.st_mode)) throw env::RuntimeFailure(env::FailureKind::FileNotFound);
+  if (!S_ISREG(status.st_mode)) env::ThrowFileAccess(*file, EINVAL);
+  if (status.st_size > std::numeric_limits<std::int32_t>::max()) throw env::RuntimeFailure(env::FailureKind::Overflow);
   return static_cast<std::int32_t>(status.st_size);
 }
 
@@ -62,4 +62,4 @@ bool LocalFile::ReadAhead() {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

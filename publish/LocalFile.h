@@ -8,7 +8,7 @@
 #include <span>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// Returns the length of a regular file in bytes. Throws RuntimeFailure FileNotFound, also if `file` is nullopt,
 /// FileAccess, and Overflow for a length that needs more than 31 bits.
@@ -26,9 +26,9 @@ class LocalFile {
  private:
   [[nodiscard]] bool ReadAhead();
 
-  FileDescriptor file_;
+  env::FileDescriptor file_;
   std::vector<char> buffer_;
   std::span<const char> ahead_;  ///< of buffer_: bytes read but not yet returned
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -2,7 +2,7 @@
 
 #include "publish/UploadLog.h"
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 bool IsContinuation(char byte) {
@@ -102,4 +102,4 @@ void ProgressModel::WriteLog(const std::string& text) {
   if (LogToFile || log_.HasFolder()) log_.WriteLog(text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// A part of the progress window that has changed and must be drawn.
 enum class ProgressPart {
@@ -85,4 +85,4 @@ class ProgressModel : public ProgressWindow {
   bool offersClose_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// The window in which every run reports. A face without windows implements it in another way. It exists for one run;
 /// destroying it unloads the window.
@@ -44,4 +44,4 @@ class ProgressWindow {
   virtual void WriteLog(const std::string& text) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -6,15 +6,15 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 constexpr const char* kDefaultIndexFile = "index.htm";
 constexpr const char* kDefaultIndexText = "gallery/index.htm";
 constexpr const char* kPlaceholderURL = "ftp.example.com";
 
-void ShowFileError(MessageBoxPort& boxes, const std::string& doing, const RuntimeFailure& failure) {
-  boxes.Show(BoxKind::Plain, BoxButtons::Ok, "File Error",
+void ShowFileError(env::MessageBoxPort& boxes, const std::string& doing, const env::RuntimeFailure& failure) {
+  boxes.Show(env::BoxKind::Plain, env::BoxButtons::Ok, "File Error",
              "An Error has occurred " + doing + " the Server Information File:\r\r" + failure.Description() +
                  "\r\rError #" + std::to_string(failure.Number()));
 }
@@ -36,19 +36,19 @@ void SetIndexText(ServerProfile& profile, std::string_view indexText) {
 void CleanUpPath(std::string& path) {
   DropLeadingSlash(path);
   DropTrailingSlash(path);
-  path = ReplaceAll(path, "//", "/");
+  path = env::ReplaceAll(path, "//", "/");
 }
 
 void CleanUpURL(std::string& url) {
   const auto scheme = url.find("://");
   if (scheme != std::string::npos) url.erase(0, scheme + 3);
   DropLeadingSlash(url);
-  url = ReplaceAll(url, "//", "/");
+  url = env::ReplaceAll(url, "//", "/");
 }
 
 }  // namespace
 
-bool ValidateSettings(ServerProfile& profile, bool hideIndexFile, MessageBoxPort& boxes) {
+bool ValidateSettings(ServerProfile& profile, bool hideIndexFile, env::MessageBoxPort& boxes) {
   CleanUpPath(profile.IndexPath);
   CleanUpURL(profile.ServerURL);
   std::string& file = profile.IndexFile;
@@ -69,7 +69,7 @@ void ServerList::Open() {
   nameBefore_.clear();
   try {
     Read();
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     ShowFileError(boxes_, "reading", failure);
     std::ignore = SaveServerList();
   }
@@ -104,7 +104,7 @@ void ServerList::ReadProfile(const ServerListValues& values, std::int32_t number
 /// `preferred` counts from 1; a number outside the list selects the first profile.
 void ServerList::SelectPreferred(std::int32_t preferred) {
   // A count below 0 leaves nothing to select.
-  if (profiles_.empty()) throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+  if (profiles_.empty()) throw env::RuntimeFailure(env::FailureKind::SubscriptOutOfRange);
   const bool valid = preferred >= 1 && static_cast<std::size_t>(preferred) <= profiles_.size();
   Select(valid ? static_cast<std::size_t>(preferred) - 1 : 0);
   nameBefore_ = profiles_[*selected_].ServerName;
@@ -114,7 +114,7 @@ bool ServerList::SaveServerList() {
   try {
     WriteServerList(profiles_, selected_, file_);
     return true;
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     ShowFileError(boxes_, "writing", failure);
     return false;
   }
@@ -123,8 +123,9 @@ bool ServerList::SaveServerList() {
 void ServerList::AddServerProfile(ServerProfile profile, std::string_view indexText) {
   SetIndexText(profile, indexText);
   if (!FitsServerListFile(profile)) {
-    boxes_.Show(BoxKind::Plain, BoxButtons::Ok, "Error adding Server",
-                "An Error occurred trying to add a Server: " + RuntimeFailure(FailureKind::Preferences).Description());
+    boxes_.Show(env::BoxKind::Plain, env::BoxButtons::Ok, "Error adding Server",
+                "An Error occurred trying to add a Server: " +
+                    env::RuntimeFailure(env::FailureKind::Preferences).Description());
     return;
   }
   profiles_.push_back(std::move(profile));
@@ -152,8 +153,8 @@ void ServerList::DeleteServer() {
 }
 
 void ServerList::Select(std::size_t index) {
-  if (index >= profiles_.size()) throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+  if (index >= profiles_.size()) throw env::RuntimeFailure(env::FailureKind::SubscriptOutOfRange);
   selected_ = index;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

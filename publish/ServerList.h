@@ -9,21 +9,21 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 class ServerListValues;
 
 /// Cleans up what the user typed into a profile, in place. Returns false, after a message box, if the index file
 /// contains a path. With `hideIndexFile`, where the user did not type it, such an index file is emptied instead. An
 /// empty index file becomes "index.htm".
-[[nodiscard]] bool ValidateSettings(ServerProfile& profile, bool hideIndexFile, MessageBoxPort& boxes);
+[[nodiscard]] bool ValidateSettings(ServerProfile& profile, bool hideIndexFile, env::MessageBoxPort& boxes);
 
 /// The user's servers, one of them selected if there is any. Edits change the selected profile directly; SaveServerList
 /// writes them to the file.
 class ServerList {
  public:
   /// `file`: see publish/ServerListFile.h.
-  ServerList(std::filesystem::path file, MessageBoxPort& boxes) : file_(std::move(file)), boxes_(boxes) {}
+  ServerList(std::filesystem::path file, env::MessageBoxPort& boxes) : file_(std::move(file)), boxes_(boxes) {}
 
   /// Reads the file again. A list of zero servers gets a default profile and is written. A failure is shown and ends
   /// the reading; the profiles read so far are then written, so that the next Open finds a consistent file.
@@ -56,10 +56,10 @@ class ServerList {
   void SelectPreferred(std::int32_t preferred);
 
   std::filesystem::path file_;
-  MessageBoxPort& boxes_;
+  env::MessageBoxPort& boxes_;
   std::vector<ServerProfile> profiles_;
   std::optional<std::size_t> selected_;
   std::string nameBefore_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

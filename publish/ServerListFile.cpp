@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 constexpr std::string_view kSection = "PUBLISH";
@@ -33,8 +33,8 @@ std::filesystem::path ServerListFileName(const std::filesystem::path& programFol
 
 ServerListValues::ServerListValues(const std::filesystem::path& file) {
   try {
-    text_ = ReadFileWhole(file, kMostINIBytes);
-  } catch (const RuntimeFailure&) {
+    text_ = env::ReadFileWhole(file, env::kMostINIBytes);
+  } catch (const env::RuntimeFailure&) {
     return;
   }
   Index();
@@ -45,9 +45,9 @@ void ServerListValues::Index() {
   bool inSection = false;
   std::string_view line;
   for (std::string_view rest = text_; !rest.empty();) {
-    line = TakeINILine(rest).content;
+    line = env::TakeINILine(rest).content;
     if (inSection) Keep(line);
-    inSection = inSection || IsSectionLine(line, kSection);
+    inSection = inSection || env::IsSectionLine(line, kSection);
   }
   if (!inSection) Keep(line);
 }
@@ -55,17 +55,17 @@ void ServerListValues::Index() {
 void ServerListValues::Keep(std::string_view line) {
   const auto equals = line.find('=');
   if (equals == std::string_view::npos) return;
-  values_.try_emplace(AsciiUpper(line.substr(0, equals)), line.substr(equals + 1));
+  values_.try_emplace(env::AsciiUpper(line.substr(0, equals)), line.substr(equals + 1));
 }
 
 std::string ServerListValues::Text(std::string_view key) const {
-  const auto found = values_.find(AsciiUpper(key));
-  if (found == values_.end()) throw RuntimeFailure(FailureKind::Preferences);
-  return std::string(WithoutMarks(found->second));
+  const auto found = values_.find(env::AsciiUpper(key));
+  if (found == values_.end()) throw env::RuntimeFailure(env::FailureKind::Preferences);
+  return std::string(env::WithoutMarks(found->second));
 }
 
 std::int32_t ServerListValues::Integer(std::string_view key) const {
-  return ParseInt32(Text(key));
+  return env::ParseInt32(Text(key));
 }
 
 bool FitsServerListFile(const ServerProfile& profile) {
@@ -78,7 +78,7 @@ bool FitsServerListFile(const ServerProfile& profile) {
 
 void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<std::size_t> selected,
                      const std::filesystem::path& file) {
-  if (!std::ranges::all_of(profiles, FitsServerListFile)) throw RuntimeFailure(FailureKind::Preferences);
+  if (!std::ranges::all_of(profiles, FitsServerListFile)) throw env::RuntimeFailure(env::FailureKind::Preferences);
   const std::size_t preferred = selected ? *selected + 1 : 0;
   std::string text = "[" + std::string(kSection) + "]\r\n" + ValueLine("ServerCount", std::to_string(profiles.size())) +
                      ValueLine("PreferredServer", std::to_string(preferred));
@@ -86,7 +86,7 @@ void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<s
 
   std::error_code ignored;  // the write fails if the folder is missing
   std::filesystem::create_directories(file.parent_path(), ignored);
-  WriteKeptFile(file, text);
+  env::WriteKeptFile(file, text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 // The file vantorium.pub in the program's folder, which keeps the user's servers between runs:
 //
@@ -55,4 +55,4 @@ class ServerListValues {
 void WriteServerList(const std::vector<ServerProfile>& profiles, std::optional<std::size_t> selected,
                      const std::filesystem::path& file);
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// Where to upload and as which user. The password is not part of it: it lives in the dialog of a run, for that run
 /// only.
@@ -23,7 +23,7 @@ struct ServerProfile {
 
 /// Whether the profile is for anonymous FTP, whose password need not be hidden.
 [[nodiscard]] inline bool IsAnonymous(const ServerProfile& profile) {
-  return EqualsIgnoringCase(profile.UserName, "anonymous");
+  return env::EqualsIgnoringCase(profile.UserName, "anonymous");
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <chrono>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// Waits for one blocking call in slices, with a turn of the event loop between them, until the call is done, the time
 /// limit has passed or the call was abandoned from inside a turn. Time spent in turns does not count.
@@ -14,7 +14,7 @@ class SlicedWait {
   using Milliseconds = std::chrono::milliseconds;
 
   /// `abandoned` is checked after each turn. A limit of 0 means none.
-  SlicedWait(EventLoop& loop, Milliseconds limit, const bool& abandoned)
+  SlicedWait(env::EventLoop& loop, Milliseconds limit, const bool& abandoned)
       : loop_(loop), limit_(limit), abandoned_(abandoned) {}
 
   /// Calls `isOver`, which waits at most the time it is given, until it returns true. Returns false if the time limit
@@ -47,10 +47,10 @@ class SlicedWait {
     return std::min(kSlice, std::chrono::ceil<Milliseconds>(limit_ - waited_));
   }
 
-  EventLoop& loop_;
+  env::EventLoop& loop_;
   Milliseconds limit_;
   const bool& abandoned_;
   Clock::duration waited_{};
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 std::string WithoutOneAtEnd(std::string text, char separator) {
@@ -16,14 +16,15 @@ std::string WithoutOneAtEnd(std::string text, char separator) {
 
 /// A name as one line of a message.
 std::string OnOneLine(const std::string& name) {
-  return ReplaceAll(ReplaceAll(name, "\r", "\\r"), "\n", "\\n");
+  return env::ReplaceAll(env::ReplaceAll(name, "\r", "\\r"), "\n", "\\n");
 }
 
 /// Refuses a file name that would be a path here and on the server, perhaps one that leads elsewhere, or that does not
 /// fit into a command to the server.
 void RefuseName(const std::string& name) {
   const auto refuse = [&name](const char* what) {
-    throw RuntimeFailure(FailureKind::FileAccess, "\"" + OnOneLine(name) + "\" has a " + what + " in its name.");
+    throw env::RuntimeFailure(env::FailureKind::FileAccess,
+                              "\"" + OnOneLine(name) + "\" has a " + what + " in its name.");
   };
   if (name.find('\\') != std::string::npos) refuse("backslash");
   if (name.find_first_of("\r\n") != std::string::npos) refuse("line break");
@@ -80,7 +81,7 @@ bool FolderUpload::Trapped(const std::function<bool()>& pass) {
   bool passed = false;
   try {
     passed = pass();
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     environment_.boxes.Critical("Failure", "An Error has occurred during the Upload of this Gallery:\r\r" +
                                                failure.Description() + "\r\rError #" +
                                                std::to_string(failure.Number()));
@@ -138,7 +139,7 @@ void FolderUpload::TellLeftOut() const {
   for (std::size_t i = 0; i < named; ++i) text += "\r" + leftOut_[i];
   const std::size_t more = leftOut_.size() - named;
   if (more > 0) text += "\r\r" + std::to_string(more) + " more are named in the Log.";
-  environment_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Folders left out", text);
+  environment_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "Folders left out", text);
 }
 
 /// Large folders and slow disks take time; meanwhile the window stays responsive and a cancel is obeyed.
@@ -154,7 +155,7 @@ FolderListing FolderUpload::List(const std::string& localFolder) {
 bool FolderUpload::Cancelled() {
   if (!environment_.cancel.CheckForCancel(environment_.progress)) return false;
   if (!cancelReported_) {
-    environment_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Upload cancelled",
+    environment_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "Upload cancelled",
                             "The User has cancelled Upload of the Gallery");
   }
   cancelReported_ = true;
@@ -170,4 +171,4 @@ void FolderUpload::Step() {
   environment_.progress.SetProgress(environment_.progress.GetProgress() + 1);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -14,17 +14,17 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// What FolderUpload depends on. The owner keeps these alive for the length of the run.
 struct UploadEnvironment {
   FTPUploads& ftp;
-  const PathMap& paths;
-  MessageBoxPort& boxes;
-  EventLoop& loop;
+  const env::PathMap& paths;
+  env::MessageBoxPort& boxes;
+  env::EventLoop& loop;
   CancelPoll& cancel;
   ProgressWindow& progress;
-  WindowState& window;
+  env::WindowState& window;
 };
 
 /// Sends a local folder, with everything below it, to a server. One object serves one run and reports a cancel once.
@@ -73,4 +73,4 @@ class FolderUpload {
   std::vector<std::string> leftOut_;  ///< folders that are symbolic links
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

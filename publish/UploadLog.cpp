@@ -8,7 +8,7 @@
 #include <fcntl.h>
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 std::string Underscores() {
@@ -17,7 +17,7 @@ std::string Underscores() {
 
 std::string AsLines(std::initializer_list<std::string_view> lines) {
   std::string text;
-  for (const std::string_view line : lines) text.append(line).append(kCrLf);
+  for (const std::string_view line : lines) text.append(line).append(env::kCrLf);
   return text;
 }
 
@@ -27,9 +27,9 @@ int OpenToWrite(const std::filesystem::path& file, int more) {
 }
 
 void WriteToFile(const std::filesystem::path& path, std::string_view bytes, int opening) {
-  FileDescriptor file(OpenToWrite(path, opening));
-  if (!file.IsOpen()) ThrowFileAccess(path);
-  if (!WriteAll(file.Get(), bytes) || !file.Close()) ThrowFileAccess(path);
+  env::FileDescriptor file(OpenToWrite(path, opening));
+  if (!file.IsOpen()) env::ThrowFileAccess(path);
+  if (!env::WriteAll(file.Get(), bytes) || !file.Close()) env::ThrowFileAccess(path);
 }
 
 }  // namespace
@@ -57,15 +57,15 @@ bool UploadLog::HasFolder() const {
 void UploadLog::Write(std::string_view bytes, Opening opening) {
   try {
     WriteToFile(file_, bytes, opening == Opening::Truncate ? O_TRUNC : O_APPEND);
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     boxes_.Critical("Error writing Log", "An error has occurred writing the log file: \r\r" + failure.Description());
   }
 }
 
 std::string UploadLog::Now() const {
-  const CivilTime now = clock_.Now();
+  const env::CivilTime now = clock_.Now();
   return fmt::format("{:04}/{:02}/{:02} {:02}:{:02}:{:02}", now.year, now.month, now.day, now.hour, now.minute,
                      now.second);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 inline constexpr const char* kUploadLogName = "ftplog.txt";
 
@@ -23,7 +23,7 @@ inline constexpr const char* kUploadLogName = "ftplog.txt";
 class UploadLog {
  public:
   /// `programFolder`: a native path.
-  UploadLog(const std::filesystem::path& programFolder, const Clock& clock, MessageBoxPort& boxes)
+  UploadLog(const std::filesystem::path& programFolder, const env::Clock& clock, env::MessageBoxPort& boxes)
       : file_(programFolder / kUploadLogName), clock_(clock), boxes_(boxes) {}
 
   /// Starts the log of a run, replacing the last one. Creates the program's folder if it is missing.
@@ -43,8 +43,8 @@ class UploadLog {
   [[nodiscard]] std::string Now() const;
 
   std::filesystem::path file_;
-  const Clock& clock_;
-  MessageBoxPort& boxes_;
+  const env::Clock& clock_;
+  env::MessageBoxPort& boxes_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 constexpr std::uint16_t kFTPPort = 21;
@@ -28,13 +28,13 @@ bool IsOneLine(std::string_view text) {
 /// Like FileSizeText, but keeps the negative size that a server may claim.
 std::string ClaimedSizeText(std::int32_t size) {
   if (size < 0) return std::to_string(size) + " Bytes";
-  return FileSizeText(static_cast<std::uint64_t>(size));
+  return env::FileSizeText(static_cast<std::uint64_t>(size));
 }
 
 }  // namespace
 
-mFTP::mFTP(std::unique_ptr<FTPSocket> sockCmd, std::unique_ptr<FTPSocket> sockData, const PathMap& paths,
-           MessageBoxPort& boxes, EventLoop& loop, const CancelState& cancel, FTPTimeLimits limits)
+mFTP::mFTP(std::unique_ptr<FTPSocket> sockCmd, std::unique_ptr<FTPSocket> sockData, const env::PathMap& paths,
+           env::MessageBoxPort& boxes, env::EventLoop& loop, const CancelState& cancel, FTPTimeLimits limits)
     : sockCmd_(std::move(sockCmd)),
       sockData_(std::move(sockData)),
       paths_(paths),
@@ -86,7 +86,7 @@ bool mFTP::FTPMakeDirectory(const std::string& path) {
 
 bool mFTP::FTPCreateDirectoryPath(const std::string& path) {
   FTPLog("Creating directory " + path + "\r\n");
-  std::string rest = WithSlashes(path);
+  std::string rest = env::WithSlashes(path);
   if (!rest.ends_with('/')) rest += '/';
   if (rest.starts_with('/')) rest.erase(0, 1);
 
@@ -125,7 +125,7 @@ std::string mFTP::FTPGetFileSize(const std::string& path) {
   FTPLog("Reading file size for " + path + " ... ");
   if (path.empty()) return kUnknownSize;
   std::string reply;
-  if (FTPExecute("SIZE " + path, reply, Logging::Logged) == 213) return ClaimedSizeText(ParseInt32(reply));
+  if (FTPExecute("SIZE " + path, reply, Logging::Logged) == 213) return ClaimedSizeText(env::ParseInt32(reply));
   sockData_->Close();
   return kUnknownSize;
 }
@@ -177,7 +177,7 @@ std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
 
 // A transfer that the user cancels fails for that reason alone and needs no message.
 void mFTP::FTPShowError(const std::string& text) {
-  if (!cancel_.CancelRequested()) boxes_.Show(BoxKind::Exclamation, BoxButtons::Ok, "FTP Error", text);
+  if (!cancel_.CancelRequested()) boxes_.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "FTP Error", text);
 }
 
 void mFTP::FTPLog(const std::string& text) {
@@ -188,4 +188,4 @@ void mFTP::ShowPercentage(std::int16_t percentage) {
   if (FTPProgress != nullptr) FTPProgress->SetFileProgress(percentage);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

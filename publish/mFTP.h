@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 struct FTPTimeLimits {
   /// Of each blocking call on the control connection.
@@ -33,8 +33,8 @@ struct FTPTimeLimits {
 /// commands, and for a few failures through a message box "FTP Error", unless the user has cancelled the run.
 class mFTP : public FTPUploads {
  public:
-  mFTP(std::unique_ptr<FTPSocket> sockCmd, std::unique_ptr<FTPSocket> sockData, const PathMap& paths,
-       MessageBoxPort& boxes, EventLoop& loop, const CancelState& cancel, FTPTimeLimits limits = {});
+  mFTP(std::unique_ptr<FTPSocket> sockCmd, std::unique_ptr<FTPSocket> sockData, const env::PathMap& paths,
+       env::MessageBoxPort& boxes, env::EventLoop& loop, const CancelState& cancel, FTPTimeLimits limits = {});
 
   /// The window of the current run: set before the run's first call, and reset to null when the window is destroyed.
   ProgressWindow* FTPProgress = nullptr;
@@ -100,11 +100,11 @@ class mFTP : public FTPUploads {
 
   std::unique_ptr<FTPSocket> sockCmd_;
   std::unique_ptr<FTPSocket> sockData_;
-  const PathMap& paths_;
-  MessageBoxPort& boxes_;
-  EventLoop& loop_;
+  const env::PathMap& paths_;
+  env::MessageBoxPort& boxes_;
+  env::EventLoop& loop_;
   const CancelState& cancel_;
   FTPTimeLimits limits_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 constexpr std::int32_t kBlockSize = 4096;
@@ -18,7 +18,7 @@ constexpr std::int32_t kBlockSize = 4096;
 
 bool mFTP::FTPCopyFile(const std::string& localPath, const std::string& remotePath, bool overwrite) {
   FTPLog("Copying file " + localPath + " to " + remotePath + "\r\n");
-  const std::string target = WithSlashes(remotePath);
+  const std::string target = env::WithSlashes(remotePath);
   if (FTPStoreFile(localPath, target, overwrite)) return true;
   FTPDeleteFile(target);
   return false;
@@ -30,7 +30,7 @@ bool mFTP::FTPStoreFile(const std::string& localPath, const std::string& remoteP
   std::int32_t length = 0;
   try {
     length = LengthOfFile(paths_.ToNative(localPath));
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     FTPShowError(failure.Description());
     return false;
   }
@@ -62,7 +62,7 @@ bool mFTP::AcceptData() {
   try {
     sockData_->Accept(*sockCmd_);
     return true;
-  } catch (const RuntimeFailure&) {
+  } catch (const env::RuntimeFailure&) {
     return false;
   }
 }
@@ -71,7 +71,7 @@ bool mFTP::SendFile(const std::string& localPath, std::int32_t length) {
   std::optional<LocalFile> file;
   try {
     file.emplace(paths_.ToNative(localPath).value_or(""));
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     sockData_->Close();
     FTPShowError(failure.Description());
     return false;
@@ -107,4 +107,4 @@ bool mFTP::SendBlocks(LocalFile& file, std::int32_t length) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -21,13 +21,13 @@
 #include <algorithm>
 #include <thread>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 std::filesystem::path ProgramFolderOf(const BatchOptions& options) {
   std::optional<std::filesystem::path> given;
   if (!options.programFolder.empty()) given = std::filesystem::absolute(options.programFolder);
-  return FindProgramFolder(given, EnvironmentOfProcess());
+  return env::FindProgramFolder(given, env::EnvironmentOfProcess());
 }
 
 unsigned JobsOf(const BatchOptions& options) {
@@ -46,7 +46,7 @@ class BatchProgram {
   explicit BatchProgram(const BatchOptions& options)
       : options_(options),
         programFolder_(ProgramFolderOf(options)),
-        paths_(ReadPathMap(GetINIFileName(programFolder_), EnvironmentOfProcess().home)),
+        paths_(env::ReadPathMap(env::GetINIFileName(programFolder_), env::EnvironmentOfProcess().home)),
         terminal_(ChooseProgressStyle(options.quiet, options.verbose)) {
     cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
     session_.NewProject();
@@ -72,34 +72,38 @@ class BatchProgram {
   /// Shows `refusal` and returns true, unless it is empty.
   bool Refuse(const std::string& refusal);
   [[nodiscard]] ExitCode SaveTo(const std::string& typed);
-  [[nodiscard]] ExitCode CarryOut(const RunOrder& order);
-  [[nodiscard]] ExitCode CarryOutOnServer(const RunOrder& order);
-  [[nodiscard]] Preferences PreferencesOfRun() const;
-  [[nodiscard]] RunOrder OrderFor(GenerationMode mode) const;
+  [[nodiscard]] ExitCode CarryOut(const generation::RunOrder& order);
+  [[nodiscard]] ExitCode CarryOutOnServer(const generation::RunOrder& order);
+  [[nodiscard]] env::Preferences PreferencesOfRun() const;
+  [[nodiscard]] generation::RunOrder OrderFor(generation::GenerationMode mode) const;
   /// Sets what the run needs to know about the server. Returns false, after a message, if there is no password.
-  [[nodiscard]] bool SetServer(RunOrder& order);
+  [[nodiscard]] bool SetServer(generation::RunOrder& order);
 
   const BatchOptions& options_;
   std::filesystem::path programFolder_;
-  PathMap paths_;
-  RegionalFormats formats_;
-  mFileFunctions files_{paths_, formats_};
+  env::PathMap paths_;
+  env::RegionalFormats formats_;
+  env::mFileFunctions files_{paths_, formats_};
   Terminal terminal_;
   TerminalMessageBox boxes_{terminal_};
-  SystemClock present_;  ///< the log shows the real time of a run, whatever its creation time
-  UploadLog log_{programFolder_, present_, boxes_};
-  CancelCheck cancel_{boxes_};
+  env::SystemClock present_;  ///< the log shows the real time of a run, whatever its creation time
+  publish::UploadLog log_{programFolder_, present_, boxes_};
+  generation::CancelCheck cancel_{boxes_};
   InterruptLoop loop_{cancel_};
-  mFTP ftp_{
-      std::make_unique<AsioFTPSocket>(loop_), std::make_unique<AsioFTPSocket>(loop_), paths_, boxes_, loop_, cancel_};
+  publish::mFTP ftp_{std::make_unique<publish::AsioFTPSocket>(loop_),
+                     std::make_unique<publish::AsioFTPSocket>(loop_),
+                     paths_,
+                     boxes_,
+                     loop_,
+                     cancel_};
   BatchHost host_{terminal_, loop_, log_};
-  Screen screen_;
-  PangoTextRaster texts_;
-  Project project_;
-  ImageListDisplay noDisplay_;
-  ImageListOperations images_{project_, files_, boxes_, noDisplay_};
-  ProjectFileDialog noDialog_;
-  ProjectSession session_{project_, images_, {paths_, boxes_, noDialog_, host_, loop_}};
+  env::Screen screen_;
+  image::PangoTextRaster texts_;
+  core::Project project_;
+  core::ImageListDisplay noDisplay_;
+  core::ImageListOperations images_{project_, files_, boxes_, noDisplay_};
+  core::ProjectFileDialog noDialog_;
+  core::ProjectSession session_{project_, images_, {paths_, boxes_, noDialog_, host_, loop_}};
 };
 
 bool BatchProgram::OutputIsAmong(const std::vector<std::string>& inputs) const {
@@ -131,16 +135,16 @@ ExitCode BatchProgram::New() {
   }
   if (!TakeTheme(*theme)) return ExitCode::Failure;
   if (options_.title) project_.settings.textGalleryTitle = *options_.title;
-  project_.settings.checkImagesUpright = Flag{options_.upright};
-  project_.settings.checkImagesTrueColors = Flag{options_.trueColors};
+  project_.settings.checkImagesUpright = core::Flag{options_.upright};
+  project_.settings.checkImagesTrueColors = core::Flag{options_.trueColors};
   if (!images_.AddFiles(found)) return ExitCode::Failure;
   return SaveTo(options_.output);
 }
 
 bool BatchProgram::TakeTheme(const std::string& path) {
   if (path.empty()) return true;
-  const auto theme = ReadTheme(path, paths_, boxes_, loop_);
-  if (theme) ApplyTheme(project_.settings, *theme);
+  const auto theme = core::ReadTheme(path, paths_, boxes_, loop_);
+  if (theme) core::ApplyTheme(project_.settings, *theme);
   return theme.has_value();
 }
 
@@ -163,19 +167,19 @@ ExitCode BatchProgram::Create() {
   if (OutputIsAmong({options_.project})) return ExitCode::WrongUsage;
   const std::string indexFile = IndexFileOf(PathText(options_.output), paths_);
   if (Refuse(RefusalOfIndexFile(indexFile, paths_)) || !Load()) return ExitCode::Failure;
-  RunOrder order = OrderFor(GenerationMode::Create);
-  SetIndexFile(order, indexFile);
+  generation::RunOrder order = OrderFor(generation::GenerationMode::Create);
+  generation::SetIndexFile(order, indexFile);
   return CarryOut(order);
 }
 
 ExitCode BatchProgram::Preview() {
   if (!Load()) return ExitCode::Failure;
-  return CarryOut({.Mode = GenerationMode::Preview});
+  return CarryOut({.Mode = generation::GenerationMode::Preview});
 }
 
 ExitCode BatchProgram::Publish() {
-  RunOrder order = OrderFor(GenerationMode::Publish);
-  SetRemoteIndexFile(order, "", options_.remote);
+  generation::RunOrder order = OrderFor(generation::GenerationMode::Publish);
+  generation::SetRemoteIndexFile(order, "", options_.remote);
   if (!SetServer(order) || !Load()) return ExitCode::Failure;
   return CarryOutOnServer(order);
 }
@@ -186,13 +190,13 @@ ExitCode BatchProgram::Upload() {
     boxes_.Critical("File Error", "The folder \"" + options_.folder + "\" cannot be read.");
     return ExitCode::Failure;
   }
-  RunOrder order = OrderFor(GenerationMode::Upload);
-  order.OutputFolder = WithTrailingBackslash(folder);
-  SetRemoteFolder(order, options_.remote);
+  generation::RunOrder order = OrderFor(generation::GenerationMode::Upload);
+  order.OutputFolder = env::WithTrailingBackslash(folder);
+  generation::SetRemoteFolder(order, options_.remote);
   return SetServer(order) ? CarryOutOnServer(order) : ExitCode::Failure;
 }
 
-RunOrder BatchProgram::OrderFor(GenerationMode mode) const {
+generation::RunOrder BatchProgram::OrderFor(generation::GenerationMode mode) const {
   return {.Mode = mode,
           .CreateImages = !options_.noImages,
           .CreateThumbnails = !options_.noThumbnails,
@@ -200,7 +204,7 @@ RunOrder BatchProgram::OrderFor(GenerationMode mode) const {
           .Overwrite = !options_.keepExisting};
 }
 
-bool BatchProgram::SetServer(RunOrder& order) {
+bool BatchProgram::SetServer(generation::RunOrder& order) {
   const auto password = ReadPassword(options_.passwordFile);
   if (!password) {
     boxes_.Critical("File Error", "The password file \"" + options_.passwordFile + "\" cannot be read.");
@@ -214,22 +218,23 @@ bool BatchProgram::SetServer(RunOrder& order) {
   return true;
 }
 
-ExitCode BatchProgram::CarryOut(const RunOrder& order) {
+ExitCode BatchProgram::CarryOut(const generation::RunOrder& order) {
   BatchShell shell(paths_, options_.open);
   const BatchClock clock(options_.creationTime);
-  Preferences preferences = PreferencesOfRun();
-  GalleryCreator creator(project_, preferences, GetAppPath(programFolder_, paths_),
-                         {{paths_, formats_, files_, boxes_, loop_, shell, clock, screen_, texts_, JobsOf(options_)},
-                          host_,
-                          cancel_,
-                          &ftp_});
-  const RunEnd end = creator.CarryOut(order, 0);
+  env::Preferences preferences = PreferencesOfRun();
+  generation::GalleryCreator creator(
+      project_, preferences, env::GetAppPath(programFolder_, paths_),
+      {{paths_, formats_, files_, boxes_, loop_, shell, clock, screen_, texts_, JobsOf(options_)},
+       host_,
+       cancel_,
+       &ftp_});
+  const generation::RunEnd end = creator.CarryOut(order, 0);
   terminal_.EraseBar();
   // A cancelled upload of a folder is a failure with its own message, but the exit code tells the caller of the program
   // that it was cancelled.
-  if (end != RunEnd::Success) return cancel_.CancelRequested() ? ExitCode::Cancelled : ExitCode::Failure;
-  if (order.Mode == GenerationMode::Preview) {
-    const auto index = paths_.ToNative(TempFolderIn(preferences.TempFolderLocation) + "\\index.htm");
+  if (end != generation::RunEnd::Success) return cancel_.CancelRequested() ? ExitCode::Cancelled : ExitCode::Failure;
+  if (order.Mode == generation::GenerationMode::Preview) {
+    const auto index = paths_.ToNative(env::TempFolderIn(preferences.TempFolderLocation) + "\\index.htm");
     const bool printed = PrintResult(index.value_or("").string() + "\n");
     if (!printed || !shell.HasOpened()) return ExitCode::Failure;
   }
@@ -237,23 +242,24 @@ ExitCode BatchProgram::CarryOut(const RunOrder& order) {
 }
 
 /// The progress window on a desktop has a button for the log instead of a message about what the server refused.
-ExitCode BatchProgram::CarryOutOnServer(const RunOrder& order) {
+ExitCode BatchProgram::CarryOutOnServer(const generation::RunOrder& order) {
   const ExitCode code = CarryOut(order);
   if (code == ExitCode::Failure && !boxes_.HaveSpoken()) {
-    const std::string log = (programFolder_ / kUploadLogName).string();
+    const std::string log = (programFolder_ / publish::kUploadLogName).string();
     boxes_.Critical("Upload failed", "What the server has answered is in the file \"" + log + "\".");
   }
   return code;
 }
 
-Preferences BatchProgram::PreferencesOfRun() const {
-  Preferences preferences = ReadPreferences(GetINIFileName(programFolder_), GetAppPath(programFolder_, paths_), files_);
+env::Preferences BatchProgram::PreferencesOfRun() const {
+  env::Preferences preferences =
+      env::ReadPreferences(env::GetINIFileName(programFolder_), env::GetAppPath(programFolder_, paths_), files_);
   if (!options_.tempFolder.empty()) preferences.TempFolderLocation = PathText(options_.tempFolder);
   return preferences;
 }
 
 ExitCode BatchProgram::Run() {
-  if (Refuse(ProblemOfPreferences(GetINIFileName(programFolder_)))) return ExitCode::Failure;
+  if (Refuse(env::ProblemOfPreferences(env::GetINIFileName(programFolder_)))) return ExitCode::Failure;
   switch (options_.command) {
     case BatchCommand::New:
       return New();
@@ -279,4 +285,4 @@ ExitCode RunBatchCommand(const BatchOptions& options) {
   return BatchProgram(options).Run();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

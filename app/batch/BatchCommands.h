@@ -3,9 +3,9 @@
 #include "app/batch/BatchOptions.h"
 #include "app/batch/CommandLine.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// Runs the command that the command line asks for.
 [[nodiscard]] ExitCode RunBatchCommand(const BatchOptions& options);
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 enum class BatchCommand { New, Show, Save, Create, Preview, Publish, Upload };
 
@@ -18,7 +18,7 @@ struct BatchOptions {
   // For every command
   std::string programFolder;
   std::string tempFolder;
-  std::optional<CivilTime> creationTime;
+  std::optional<env::CivilTime> creationTime;
   unsigned jobs = 0;  ///< images processed at the same time; 0 for one per processor
   bool quiet = false;
   bool verbose = false;
@@ -47,4 +47,4 @@ struct BatchOptions {
   std::string baseDirectory;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -10,7 +10,7 @@
 
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 // A signal handler can only reach a global.
@@ -26,7 +26,7 @@ bool IsIgnored(int signal) {
   return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
-std::string InWords(const ShellCommand& command) {
+std::string InWords(const env::ShellCommand& command) {
   std::string text;
   for (const std::string& word : command.words) text += (text.empty() ? "" : " ") + word;
   return "\"" + text + "\"";
@@ -34,35 +34,37 @@ std::string InWords(const ShellCommand& command) {
 
 }  // namespace
 
-BoxAnswer TerminalMessageBox::Show(BoxKind /*kind*/, BoxButtons buttons, const std::string& title,
-                                   const std::string& text) {
+env::BoxAnswer TerminalMessageBox::Show(env::BoxKind /*kind*/, env::BoxButtons buttons, const std::string& title,
+                                        const std::string& text) {
   haveSpoken_ = true;
   terminal_.PrintMessage(title, text);
-  return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Yes;
+  return buttons == env::BoxButtons::Ok ? env::BoxAnswer::Ok : env::BoxAnswer::Yes;
 }
 
-CivilTime BatchClock::Now() const {
-  return fixed_ ? *fixed_ : SystemClock::Now();
+env::CivilTime BatchClock::Now() const {
+  return fixed_ ? *fixed_ : env::SystemClock::Now();
 }
 
-void BatchShell::Beep(BeepKind /*kind*/) {}
+void BatchShell::Beep(env::BeepKind /*kind*/) {}
 
 void BatchShell::OpenFile(const std::string& path) {
-  Launch(DefaultOpener(path, paths_), *this, [](const RuntimeFailure& failure) { throw RuntimeFailure(failure); });
+  env::Launch(env::DefaultOpener(path, paths_), *this,
+              [](const env::RuntimeFailure& failure) { throw env::RuntimeFailure(failure); });
 }
 
-void BatchShell::Start(const ShellCommand& command, const StartFailed& failed) {
+void BatchShell::Start(const env::ShellCommand& command, const env::StartFailed& failed) {
   if (!mayOpenFiles_) return;
   try {
-    StartProcess(command);
+    env::StartProcess(command);
     opened_ = true;
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     tried_ += "\nTried " + InWords(command) + ": " + failure.Description();
-    failed(RuntimeFailure(static_cast<FailureKind>(failure.Number()), "Nothing could open the preview." + tried_));
+    failed(env::RuntimeFailure(static_cast<env::FailureKind>(failure.Number()),
+                               "Nothing could open the preview." + tried_));
   }
 }
 
-void InterruptLoop::Watch(ProgressWindow* progress) {
+void InterruptLoop::Watch(publish::ProgressWindow* progress) {
   progress_ = progress;
   const auto handler = progress != nullptr ? OnInterrupt : SIG_DFL;
   std::signal(SIGINT, handler);
@@ -77,8 +79,8 @@ void InterruptLoop::Turn() {
   std::ignore = cancel_.CheckForCancel(*progress_);
 }
 
-std::unique_ptr<ProgressWindow> BatchHost::CreateProgressWindow() {
+std::unique_ptr<publish::ProgressWindow> BatchHost::CreateProgressWindow() {
   return std::make_unique<TerminalProgress>(log_, terminal_, loop_);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

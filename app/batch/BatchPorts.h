@@ -14,13 +14,14 @@
 #include <optional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// Prints message boxes as lines on standard error. Answers every question with Yes.
-class TerminalMessageBox : public MessageBoxPort {
+class TerminalMessageBox : public env::MessageBoxPort {
  public:
   explicit TerminalMessageBox(Terminal& terminal) : terminal_(terminal) {}
-  BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override;
+  env::BoxAnswer Show(env::BoxKind kind, env::BoxButtons buttons, const std::string& title,
+                      const std::string& text) override;
   /// Whether any message was shown.
   [[nodiscard]] bool HaveSpoken() const { return haveSpoken_; }
 
@@ -30,28 +31,28 @@ class TerminalMessageBox : public MessageBoxPort {
 };
 
 /// The current time, or the time given on the command line.
-class BatchClock : public SystemClock {
+class BatchClock : public env::SystemClock {
  public:
-  explicit BatchClock(std::optional<CivilTime> fixed) : fixed_(fixed) {}
-  [[nodiscard]] CivilTime Now() const override;
+  explicit BatchClock(std::optional<env::CivilTime> fixed) : fixed_(fixed) {}
+  [[nodiscard]] env::CivilTime Now() const override;
 
  private:
-  std::optional<CivilTime> fixed_;
+  std::optional<env::CivilTime> fixed_;
 };
 
 /// The desktop of a batch run: it only opens files, and only if the command line asks for it.
-class BatchShell : public Shell {
+class BatchShell : public env::Shell {
  public:
-  BatchShell(const PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
-  void Beep(BeepKind kind) override;
+  BatchShell(const env::PathMap& paths, bool mayOpenFiles) : paths_(paths), mayOpenFiles_(mayOpenFiles) {}
+  void Beep(env::BeepKind kind) override;
   void OpenFile(const std::string& path) override;
   /// A failure names this command and those that failed before it.
-  void Start(const ShellCommand& command, const StartFailed& failed) override;
+  void Start(const env::ShellCommand& command, const env::StartFailed& failed) override;
   /// Returns false if programs were tried to open a file and none could be started.
   [[nodiscard]] bool HasOpened() const { return tried_.empty() || opened_; }
 
  private:
-  const PathMap& paths_;
+  const env::PathMap& paths_;
   bool mayOpenFiles_;
   std::string tried_;  ///< the commands that failed, and why
   bool opened_ = false;
@@ -60,31 +61,32 @@ class BatchShell : public Shell {
 /// Makes Ctrl+C press the cancel button of the open progress window. A second one ends the process at once, and so does
 /// the first while no window is open. SIGTERM does the same. So does SIGHUP, from a lost terminal, unless the program
 /// was started to ignore it; but as it may arrive more than once, a SIGHUP that comes second does not end the process.
-class InterruptLoop : public EventLoop {
+class InterruptLoop : public env::EventLoop {
  public:
-  explicit InterruptLoop(CancelCheck& cancel) : cancel_(cancel) {}
+  explicit InterruptLoop(generation::CancelCheck& cancel) : cancel_(cancel) {}
   void Turn() override;
   /// The window whose cancel button to press; null for none.
-  void Watch(ProgressWindow* progress);
+  void Watch(publish::ProgressWindow* progress);
 
  private:
-  CancelCheck& cancel_;
-  ProgressWindow* progress_ = nullptr;
+  generation::CancelCheck& cancel_;
+  publish::ProgressWindow* progress_ = nullptr;
   bool pressed_ = false;
 };
 
 /// Replaces the main window, which the batch program does not have.
-class BatchHost : public ProjectSessionHost, public RunHost {
+class BatchHost : public core::ProjectSessionHost, public generation::RunHost {
  public:
-  BatchHost(Terminal& terminal, InterruptLoop& loop, UploadLog& log) : terminal_(terminal), loop_(loop), log_(log) {}
+  BatchHost(Terminal& terminal, InterruptLoop& loop, publish::UploadLog& log)
+      : terminal_(terminal), loop_(loop), log_(log) {}
 
   void SetStatusText(const std::string& text) override { terminal_.ShowStatus(text); }
-  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
+  [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override;
 
  private:
   Terminal& terminal_;
   InterruptLoop& loop_;
-  UploadLog& log_;
+  publish::UploadLog& log_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -8,7 +8,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 const char kDescription[] =
@@ -21,8 +21,8 @@ const char kFooter[] =
     "Exit code: 0 success, 1 failure, 2 wrong command line, 130 cancelled.";
 
 /// Parses "YYYY-MM-DD HH:MM:SS". Returns nullopt for any other form, and for a time that does not exist.
-std::optional<CivilTime> ParseTime(const std::string& text) {
-  CivilTime time;
+std::optional<env::CivilTime> ParseTime(const std::string& text) {
+  env::CivilTime time;
   int read = 0;
   const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &time.year, &time.month, &time.day,
                                  &time.hour, &time.minute, &time.second, &read);
@@ -169,4 +169,4 @@ std::variant<BatchOptions, ExitCode> ParseCommandLine(int argc, const char* cons
   return options;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -4,7 +4,7 @@
 
 #include <variant>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// Exit codes of the program.
 enum class ExitCode { Success = 0, Failure = 1, WrongUsage = 2, Cancelled = 130 };
@@ -13,4 +13,4 @@ enum class ExitCode { Success = 0, Failure = 1, WrongUsage = 2, Cancelled = 130 
 /// the version on standard output or one line about the error on standard error.
 [[nodiscard]] std::variant<BatchOptions, ExitCode> ParseCommandLine(int argc, const char* const* argv);
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -8,11 +8,11 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 bool IsImage(const fs::path& path) {
-  return IsSupportedImageExtension(GetFileExtension(path.filename().string()));
+  return core::IsSupportedImageExtension(env::GetFileExtension(path.filename().string()));
 }
 
 /// The entries of one folder in the order of their names.
@@ -43,19 +43,20 @@ std::vector<fs::path> ImagesOf(const fs::path& top, bool recursive) {
 
 /// Returns why an image cannot be in a project; empty if it can.
 std::string ProblemOf(const std::string& path) {
-  if (IsXmlText(path)) return {};
-  return "\"" + ToXmlText(path) + "\" has a name that is no UTF-8 text and cannot stand in a project.";
+  if (core::IsXmlText(path)) return {};
+  return "\"" + core::ToXmlText(path) + "\" has a name that is no UTF-8 text and cannot stand in a project.";
 }
 
 /// Returns the images of a folder as path text: each on its own best drive if the folder is on its best drive, else on
 /// the drive typed.
-FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, bool recursive, const PathMap& paths) {
+FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, bool recursive,
+                          const env::PathMap& paths) {
   FoundImages found;
   const bool onBestDrive = folder == paths.ToText(native.has_filename() ? native : native.parent_path());
   try {
     for (const fs::path& image : ImagesOf(native, recursive)) {
       found.paths.push_back(onBestDrive ? paths.ToText(native / image)
-                                        : WithTrailingBackslash(folder) + WithBackslashes(image.string()));
+                                        : env::WithTrailingBackslash(folder) + env::WithBackslashes(image.string()));
       found.problem = ProblemOf(found.paths.back());
       if (!found.problem.empty()) break;
     }
@@ -67,15 +68,15 @@ FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, boo
 
 }  // namespace
 
-FoundImages FindImages(const std::string& typed, bool recursive, const PathMap& paths) {
+FoundImages FindImages(const std::string& typed, bool recursive, const env::PathMap& paths) {
   const std::string path = paths.ToTextFromUser(typed);
   const auto native = paths.ToNative(path);
   std::error_code error;
   const auto status = native ? fs::status(*native, error) : fs::file_status();
-  if (!fs::exists(status)) return {{}, "\"" + ToXmlText(typed) + "\" does not exist."};
+  if (!fs::exists(status)) return {{}, "\"" + core::ToXmlText(typed) + "\" does not exist."};
   if (fs::is_directory(status)) return FilesOfFolder(*native, path, recursive, paths);
-  if (!IsImage(*native)) return {{}, "\"" + ToXmlText(typed) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
+  if (!IsImage(*native)) return {{}, "\"" + core::ToXmlText(typed) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
   return {{path}, ProblemOf(path)};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -8,15 +8,15 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
-std::string Quoted(const std::string& path, const PathMap& paths) {
+std::string Quoted(const std::string& path, const env::PathMap& paths) {
   const auto native = paths.ToNative(path);
   return "\"" + (native ? native->string() : path) + "\"";
 }
 
-fs::file_status StatusOf(const std::string& path, const PathMap& paths) {
+fs::file_status StatusOf(const std::string& path, const env::PathMap& paths) {
   const auto native = paths.ToNative(path);
   std::error_code error;
   return native ? fs::status(*native, error) : fs::file_status();
@@ -24,38 +24,39 @@ fs::file_status StatusOf(const std::string& path, const PathMap& paths) {
 
 bool IsProject(const fs::path& file) {
   try {
-    XmlFile xml;
-    return xml.Parse(ReadFileWhole(file, kLargestXmlFile)) && std::string_view(xml.Root().name()) == "GALLERYPROJECT";
-  } catch (const RuntimeFailure&) {
+    core::XmlFile xml;
+    return xml.Parse(env::ReadFileWhole(file, core::kLargestXmlFile)) &&
+           std::string_view(xml.Root().name()) == "GALLERYPROJECT";
+  } catch (const env::RuntimeFailure&) {
     return false;
   }
 }
 
 }  // namespace
 
-bool IsSameFile(const std::string& one, const std::string& other, const PathMap& paths) {
+bool IsSameFile(const std::string& one, const std::string& other, const env::PathMap& paths) {
   const auto first = paths.ToNative(one);
   const auto second = paths.ToNative(other);
   std::error_code error;  // one of them does not exist
   return first && second && fs::equivalent(*first, *second, error);
 }
 
-std::string RefusalOfNewProject(const std::string& file, bool force, const PathMap& paths) {
+std::string RefusalOfNewProject(const std::string& file, bool force, const env::PathMap& paths) {
   if (!fs::exists(StatusOf(file, paths))) return {};
   const std::string exists = Quoted(file, paths) + " exists";
   if (!IsProject(paths.ToNative(file).value_or(""))) return exists + " and is no project, so it is not replaced.";
   return force ? "" : exists + ".  It is replaced only with --force.";
 }
 
-std::string IndexFileOf(const std::string& path, const PathMap& paths) {
+std::string IndexFileOf(const std::string& path, const env::PathMap& paths) {
   const bool isFolder = path.ends_with('\\') || fs::is_directory(StatusOf(path, paths));
-  return isFolder ? WithTrailingBackslash(path) + "index.htm" : path;
+  return isFolder ? env::WithTrailingBackslash(path) + "index.htm" : path;
 }
 
-std::string RefusalOfIndexFile(const std::string& path, const PathMap& paths) {
+std::string RefusalOfIndexFile(const std::string& path, const env::PathMap& paths) {
   const fs::file_status status = StatusOf(path, paths);
   if (!fs::exists(status) || fs::is_regular_file(status)) return {};
   return Quoted(path, paths) + " cannot be the index file, as it is there and is no file.";
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -10,7 +10,7 @@
 #include <termios.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 /// Longer than any password. A longer first line means the wrong file, or a device without end.
@@ -53,7 +53,7 @@ class HiddenTyping {
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     hidden.c_lflag |= ECHONL;
     ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
-    std::ignore = WriteAll(STDERR_FILENO, "Password: ");
+    std::ignore = env::WriteAll(STDERR_FILENO, "Password: ");
   }
   ~HiddenTyping() {
     if (!isTerminal_) return;
@@ -90,8 +90,8 @@ std::optional<std::string> ReadPassword(const std::string& file) {
     const HiddenTyping hidden;
     return FirstLine(STDIN_FILENO);
   }
-  const FileDescriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  const env::FileDescriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
   return FirstLine(opened.Get());
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -22,11 +22,11 @@ Json Value(std::uint32_t number) {
   return number;
 }
 Json Value(bool flag) {
-  return FlagOf(flag);
+  return core::FlagOf(flag);
 }
 
 template <typename Record>
-Json Object(const Record& record, std::span<const RecordField<Record>> fields) {
+Json Object(const Record& record, std::span<const core::RecordField<Record>> fields) {
   Json object;
   for (const auto& field : fields) {
     object[std::string(field.name)] = std::visit([&](auto member) { return Value(record.*member); }, field.member);
@@ -34,26 +34,26 @@ Json Object(const Record& record, std::span<const RecordField<Record>> fields) {
   return object;
 }
 
-Json Value(const ImageFilterSettings& filters) {
-  return Object(filters, FilterFields());
+Json Value(const image::ImageFilterSettings& filters) {
+  return Object(filters, core::FilterFields());
 }
-Json Value(const WatermarkSettings& watermark) {
-  return Object(watermark, WatermarkFields());
+Json Value(const image::WatermarkSettings& watermark) {
+  return Object(watermark, core::WatermarkFields());
 }
-Json Value(const LinkSettings& link) {
-  return Object(link, LinkFields());
+Json Value(const core::LinkSettings& link) {
+  return Object(link, core::LinkFields());
 }
 
-Json Settings(const GalleryProject& project) {
+Json Settings(const core::GalleryProject& project) {
   Json object;
-  for (const ProjectField& field : ProjectFields()) {
-    if (IsHidden(project, field)) continue;
+  for (const core::ProjectField& field : core::ProjectFields()) {
+    if (core::IsHidden(project, field)) continue;
     object[std::string(field.name)] = std::visit([&](auto member) { return Value(project.*member); }, field.member);
   }
   return object;
 }
 
-Json Image(const ImageEntry& entry) {
+Json Image(const core::ImageEntry& entry) {
   return {{"ImageName", entry.ImageName},
           {"SourcePath", entry.SourcePath},
           {"SizeKey", entry.SizeKey},
@@ -64,7 +64,7 @@ Json Image(const ImageEntry& entry) {
 
 }  // namespace
 
-std::string ProjectAsJson(const Project& project) {
+std::string ProjectAsJson(const core::Project& project) {
   Json images = Json::array();
   for (std::size_t position = 1; position <= project.images.Count(); ++position) {
     images.push_back(Image(project.images.Entry(position)));
@@ -72,8 +72,8 @@ std::string ProjectAsJson(const Project& project) {
   const auto count = static_cast<std::int32_t>(project.images.Count());
   const Json whole = {{"project", Settings(project.settings)},
                       {"images", std::move(images)},
-                      {"thumbnailPageCount", ThumbnailPageCount(project.settings, count)}};
+                      {"thumbnailPageCount", core::ThumbnailPageCount(project.settings, count)}};
   return whole.dump(2, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -13,7 +13,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 constexpr std::size_t kBarWidth = 24;
@@ -37,11 +37,11 @@ std::string CutTo(const std::string& text, std::size_t columns) {
 
 /// Failures are ignored.
 void Say(std::string_view text) {
-  std::ignore = WriteAll(STDERR_FILENO, text);
+  std::ignore = env::WriteAll(STDERR_FILENO, text);
 }
 
 std::string OneLine(std::string_view text) {
-  return ReplaceAll(Harmless(text), "\n", "\\u000A");
+  return env::ReplaceAll(Harmless(text), "\n", "\\u000A");
 }
 
 /// Returns the number of bytes of the first UTF-8 character of `text`; 1 for a byte that begins none.
@@ -82,7 +82,7 @@ void SayInOneLine(std::string_view text) {
 
 bool PrintResult(std::string_view text) {
   const bool onTerminal = ::isatty(STDOUT_FILENO) == 1;
-  if (WriteAll(STDOUT_FILENO, onTerminal ? Harmless(text) : std::string(text))) return true;
+  if (env::WriteAll(STDOUT_FILENO, onTerminal ? Harmless(text) : std::string(text))) return true;
   SayInOneLine(std::string("The output cannot be written: ") + std::strerror(errno));
   return false;
 }
@@ -95,7 +95,7 @@ ProgressStyle ChooseProgressStyle(bool quiet, bool verbose) {
 
 void Terminal::PrintMessage(const std::string& title, const std::string& text) {
   EraseBar();
-  const std::string lines = ReplaceAll(ReplaceAll(text, kCrLf, "\n"), "\r", "\n");
+  const std::string lines = env::ReplaceAll(env::ReplaceAll(text, env::kCrLf, "\n"), "\r", "\n");
   Say(fmt::format("{}: {}\n", OneLine(title), Harmless(lines)));
 }
 
@@ -145,4 +145,4 @@ std::string Terminal::TimeLeft() const {
   return fmt::format(", {}:{:02} left", left / 60, left % 60);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

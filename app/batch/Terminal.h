@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 enum class ProgressStyle { None, Bar, Lines };
 
@@ -54,4 +54,4 @@ class Terminal {
 /// Returns the style for the options; the bar only if standard error is a terminal.
 [[nodiscard]] ProgressStyle ChooseProgressStyle(bool quiet, bool verbose);
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -1,6 +1,6 @@
 #include "app/batch/TerminalProgress.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 
 TerminalProgress::~TerminalProgress() {
   loop_.Watch(nullptr);
@@ -8,24 +8,24 @@ TerminalProgress::~TerminalProgress() {
 }
 
 void TerminalProgress::OfferClose() {
-  ProgressModel::OfferClose();
+  publish::ProgressModel::OfferClose();
   CloseRequested = true;
 }
 
-void TerminalProgress::Draw(ProgressPart part) {
+void TerminalProgress::Draw(publish::ProgressPart part) {
   switch (part) {
-    case ProgressPart::Window:
+    case publish::ProgressPart::Window:
       terminal_.StartClock();
       return loop_.Watch(this);
-    case ProgressPart::Text1:
+    case publish::ProgressPart::Text1:
       return terminal_.ShowStatus(Text1());
-    case ProgressPart::Text2:
+    case publish::ProgressPart::Text2:
       return terminal_.ShowStatus(Text2());
-    case ProgressPart::Progress:
+    case publish::ProgressPart::Progress:
       return terminal_.ShowProgress(GetProgress(), GetMax());
     default:
       return;
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

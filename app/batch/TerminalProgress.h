@@ -4,14 +4,14 @@
 #include "app/batch/Terminal.h"
 #include "publish/ProgressModel.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// The progress window of a batch run, which shows its bar and texts on the terminal. Nobody reads it after a failure,
 /// so it closes itself.
-class TerminalProgress : public ProgressModel {
+class TerminalProgress : public publish::ProgressModel {
  public:
-  TerminalProgress(UploadLog& log, Terminal& terminal, InterruptLoop& loop)
-      : ProgressModel(log), terminal_(terminal), loop_(loop) {}
+  TerminalProgress(publish::UploadLog& log, Terminal& terminal, InterruptLoop& loop)
+      : publish::ProgressModel(log), terminal_(terminal), loop_(loop) {}
   ~TerminalProgress() override;
   TerminalProgress(const TerminalProgress&) = delete;
   TerminalProgress& operator=(const TerminalProgress&) = delete;
@@ -19,11 +19,11 @@ class TerminalProgress : public ProgressModel {
   void OfferClose() override;
 
  protected:
-  void Draw(ProgressPart part) override;
+  void Draw(publish::ProgressPart part) override;
 
  private:
   Terminal& terminal_;
   InterruptLoop& loop_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

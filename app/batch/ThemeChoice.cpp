@@ -5,26 +5,26 @@
 #include "env/BundledFiles.h"
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 bool IsPath(const std::string& typed) {
   constexpr std::string_view kExtension = ".gpj";
   const bool hasExtension =
       typed.size() >= kExtension.size() &&
-      EqualsIgnoringCase(std::string_view(typed).substr(typed.size() - kExtension.size()), kExtension);
+      env::EqualsIgnoringCase(std::string_view(typed).substr(typed.size() - kExtension.size()), kExtension);
   return hasExtension || typed.find_first_of("/\\") != std::string::npos;
 }
 
 }  // namespace
 
 std::optional<std::string> ProjectOfTheme(const std::string& typed, const std::filesystem::path& programFolder,
-                                          const PathMap& paths) {
+                                          const env::PathMap& paths) {
   if (typed.empty()) return typed;
   if (IsPath(typed)) return paths.ToTextFromUser(typed);
-  const BundledFiles files(BundledFolders(programFolder, EnvironmentOfProcess()));
+  const env::BundledFiles files(env::BundledFolders(programFolder, env::EnvironmentOfProcess()));
   std::string names;
-  for (const ThemeFile& theme : FindThemes(files)) {
+  for (const core::ThemeFile& theme : core::FindThemes(files)) {
     if (theme.name == typed) return paths.ToText(theme.project);
     names += (names.empty() ? "" : ", ") + theme.name;
   }
@@ -32,4 +32,4 @@ std::optional<std::string> ProjectOfTheme(const std::string& typed, const std::f
   return std::nullopt;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

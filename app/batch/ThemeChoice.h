@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// Returns the project file (path text) of the theme that the user typed, or an empty text for an empty one. It is a
 /// path if it has a separator or ends in ".gpj"; else it is the name of a theme that comes with the program, or of one
@@ -14,6 +14,6 @@ namespace vantorium {
 /// and returns nullopt.
 [[nodiscard]] std::optional<std::string> ProjectOfTheme(const std::string& typed,
                                                         const std::filesystem::path& programFolder,
-                                                        const PathMap& paths);
+                                                        const env::PathMap& paths);
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

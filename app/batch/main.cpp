@@ -6,17 +6,17 @@
 #include <exception>
 
 int main(int argc, char** argv) {
-  using vantorium::ExitCode;
-  vantorium::HoldStandardStreams();
+  using vantorium::batch::ExitCode;
+  vantorium::env::HoldStandardStreams();
   // A failed write reports its own failure and must not end the program.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
   try {
-    const auto parsed = vantorium::ParseCommandLine(argc, argv);
+    const auto parsed = vantorium::batch::ParseCommandLine(argc, argv);
     if (const auto* end = std::get_if<ExitCode>(&parsed)) return static_cast<int>(*end);
-    return static_cast<int>(vantorium::RunBatchCommand(std::get<vantorium::BatchOptions>(parsed)));
+    return static_cast<int>(vantorium::batch::RunBatchCommand(std::get<vantorium::batch::BatchOptions>(parsed)));
   } catch (const std::exception& failure) {
-    vantorium::SayInOneLine(failure.what());
+    vantorium::batch::SayInOneLine(failure.what());
     return static_cast<int>(ExitCode::Failure);
   }
 }

@@ -24,7 +24,7 @@
 #include <algorithm>
 #include <thread>
 
-namespace vantorium {
+namespace vantorium::desktop {
 namespace {
 
 /// Returns the port of FTP servers: 21 unless the environment variable VANTORIUM_FTP_PORT holds another.
@@ -36,7 +36,7 @@ std::uint16_t FtpPort() {
 /// The objects that the main window depends on, for the whole run of the program.
 class Desktop {
  public:
-  [[nodiscard]] DesktopPorts AllPorts() {
+  [[nodiscard]] ui::DesktopPorts AllPorts() {
     return {{paths_, formats_, files_, boxes_, loop_, shell_, clock_, screen_, texts_,
              std::max(1U, std::thread::hardware_concurrency())},
             dialogs_,
@@ -49,29 +49,29 @@ class Desktop {
   }
 
  private:
-  ProcessEnvironment around_ = EnvironmentOfProcess();
-  std::filesystem::path programFolder_ = FindProgramFolder(std::nullopt, around_);
-  PathMap paths_ = ReadPathMap(GetINIFileName(programFolder_), around_.home);
-  RegionalFormats formats_;
-  mFileFunctions files_{paths_, formats_};
-  BundledFiles bundled_{BundledFolders(programFolder_, around_)};
-  QtMessageBox boxes_;
-  QtEventLoop loop_;
-  QtShell shell_{paths_};
-  SystemClock clock_;
-  QtScreen screen_;
-  PangoTextRaster texts_;
-  QtCommonDialogs dialogs_{texts_};
-  frmFileBrowser browser_{paths_, boxes_, files_};
-  QtFolderBrowser folders_{paths_};
+  env::ProcessEnvironment around_ = env::EnvironmentOfProcess();
+  std::filesystem::path programFolder_ = env::FindProgramFolder(std::nullopt, around_);
+  env::PathMap paths_ = env::ReadPathMap(env::GetINIFileName(programFolder_), around_.home);
+  env::RegionalFormats formats_;
+  env::mFileFunctions files_{paths_, formats_};
+  env::BundledFiles bundled_{env::BundledFolders(programFolder_, around_)};
+  ui::QtMessageBox boxes_;
+  ui::QtEventLoop loop_;
+  ui::QtShell shell_{paths_};
+  env::SystemClock clock_;
+  ui::QtScreen screen_;
+  image::PangoTextRaster texts_;
+  ui::QtCommonDialogs dialogs_{texts_};
+  ui::frmFileBrowser browser_{paths_, boxes_, files_};
+  ui::QtFolderBrowser folders_{paths_};
 };
 
 int ShowWindow() {
   Desktop desktop;
-  MainModel model(desktop.AllPorts());
-  frmMain window(model);
-  QObject::connect(&window, &frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
-  window.Start(FromQt(QApplication::arguments().value(1)));
+  ui::MainModel model(desktop.AllPorts());
+  ui::frmMain window(model);
+  QObject::connect(&window, &ui::frmMain::Closed, qApp, &QApplication::quit, Qt::QueuedConnection);
+  window.Start(ui::FromQt(QApplication::arguments().value(1)));
   window.show();
   return QApplication::exec();
 }
@@ -79,23 +79,23 @@ int ShowWindow() {
 int Run(int argc, char** argv) {
   QApplication application(argc, argv);
   LoadVantoriumResources();
-  QApplication::setStyle(new PixelFrames);
+  QApplication::setStyle(new ui::PixelFrames);
   QApplication::setApplicationName("vantorium");
   QApplication::setDesktopFileName("vantorium");
   QApplication::setWindowIcon(QIcon(":/vantorium/vantorium.svg"));
 
   try {
     return ShowWindow();
-  } catch (const RuntimeFailure& failure) {  // from the setup of the window
-    QMessageBox::critical(nullptr, "Vantorium", ToQt(failure.Description()));
+  } catch (const env::RuntimeFailure& failure) {  // from the setup of the window
+    QMessageBox::critical(nullptr, "Vantorium", ui::ToQt(failure.Description()));
     return 1;
   }
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::desktop
 
 int main(int argc, char** argv) {
-  vantorium::HoldStandardStreams();
+  vantorium::env::HoldStandardStreams();
   return vantorium::Run(argc, argv);
 }

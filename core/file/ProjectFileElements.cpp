@@ -2,7 +2,7 @@
 
 #include "core/file/XmlText.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 void PutAttribute(pugi::xml_node element, const char* name, std::string_view value) {
   element.append_attribute(name).set_value(ToXmlText(value).c_str());
@@ -44,4 +44,4 @@ void PutTextElementUnlessEmpty(pugi::xml_node parent, const char* name, std::str
   if (!text.empty()) PutTextElement(parent, name, text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

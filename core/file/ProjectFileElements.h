@@ -11,7 +11,7 @@
 
 #include <pugixml.hpp>
 
-namespace vantorium {
+namespace vantorium::core {
 
 // Builds the tree of the project file. Each function appends, so the order of calls is the order in the file.
 
@@ -31,8 +31,9 @@ void PutTextElementUnlessEmpty(pugi::xml_node parent, const char* name, std::str
 
 // The children of GALLERY. The event loop gets a turn every 100 images and thumbnails.
 void PutLayout(pugi::xml_node gallery, const GalleryProject& project);
-void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, EventLoop& events);
-void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, EventLoop& events);
+void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images, env::EventLoop& events);
+void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& images,
+                   env::EventLoop& events);
 void PutThumbnailPage(pugi::xml_node gallery, const GalleryProject& project);
 void PutImagePage(pugi::xml_node gallery, const GalleryProject& project);
 
@@ -40,4 +41,4 @@ void PutImagePage(pugi::xml_node gallery, const GalleryProject& project);
 void PutImageFilters(pugi::xml_node modify, const GalleryProject& project);
 void PutThumbnailFilters(pugi::xml_node modify, const GalleryProject& project);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -5,7 +5,7 @@
 
 #include <variant>
 
-namespace vantorium {
+namespace vantorium::core {
 
 // The names that the project file has for settings. Each list is in the order of the file; writer and reader walk it.
 
@@ -63,4 +63,4 @@ inline constexpr LinkElement kLinkElements[] = {{"FIRST", "FIRSTIMAGE", LinkGoal
                                                 {"NEXT", "LASTIMAGE", LinkGoal::Next},
                                                 {"INDEX", nullptr, LinkGoal::Index}};
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -1,6 +1,6 @@
 #include "core/file/ProjectFileElements.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 pugi::xml_node PutFilter(pugi::xml_node modify, std::string_view type) {
@@ -14,7 +14,7 @@ void PutFilterWithValue(pugi::xml_node modify, std::string_view type, std::int16
 }
 
 /// The four filters; the order of the watermark and the quality differs between images and thumbnails.
-void PutFilters(pugi::xml_node modify, const ImageFilterSettings& filters) {
+void PutFilters(pugi::xml_node modify, const image::ImageFilterSettings& filters) {
   if (IsOn(filters.checkGrayscale)) PutFilter(modify, kGrayscaleWord);
   if (IsOn(filters.checkNoise)) {
     pugi::xml_node noise = PutFilter(modify, kNoiseWord);
@@ -25,7 +25,7 @@ void PutFilters(pugi::xml_node modify, const ImageFilterSettings& filters) {
   if (IsOn(filters.checkFade)) PutFilterWithValue(modify, kFadeWord, filters.sliderFade);
 }
 
-void PutWatermark(pugi::xml_node modify, const WatermarkSettings& watermark) {
+void PutWatermark(pugi::xml_node modify, const image::WatermarkSettings& watermark) {
   pugi::xml_node filter = PutFilter(modify, kWatermarkWord);
   PutAttribute(filter, "CAPTION", watermark.textWatermark);
   PutAttribute(filter, "ALPHA", watermark.sliderAlpha);
@@ -60,4 +60,4 @@ void PutThumbnailFilters(pugi::xml_node modify, const GalleryProject& project) {
   if (IsOn(project.ImageWatermark.checkUseWatermark)) PutWatermark(modify, project.ThumbnailWatermark);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

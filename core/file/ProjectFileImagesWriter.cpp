@@ -5,15 +5,15 @@
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 void PutImage(pugi::xml_node images, std::size_t position, const ImageEntry& entry) {
-  if (!IsXmlText(entry.SourcePath)) throw RuntimeFailure(FailureKind::InvalidArgument);
+  if (!IsXmlText(entry.SourcePath)) throw env::RuntimeFailure(env::FailureKind::InvalidArgument);
   pugi::xml_node image = images.append_child("IMAGE");
   PutAttribute(image, "INDEX", static_cast<std::int64_t>(position));
   PutAttribute(image, "NAME", entry.ImageName);
-  PutAttribute(image, "SOURCE", std::string(kFilePrefix) + WithSlashes(entry.SourcePath));
+  PutAttribute(image, "SOURCE", std::string(kFilePrefix) + env::WithSlashes(entry.SourcePath));
   PutTextElementUnlessEmpty(image, "DESCRIPTION", entry.ImageDescription);
 }
 
@@ -66,7 +66,7 @@ pugi::xml_node PutSize(pugi::xml_node modify, const GalleryProject& project, con
 
 }  // namespace
 
-void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
+void PutImages(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, env::EventLoop& events) {
   pugi::xml_node images = gallery.append_child("IMAGES");
   PutAttribute(images, "FOLDER", project.*kImages.folder);
   if (IsOn(project.checkImagesUpright)) PutAttribute(images, "UPRIGHT", 1);
@@ -86,7 +86,8 @@ void PutImages(pugi::xml_node gallery, const GalleryProject& project, const Imag
   PutImageFilters(modify, project);
 }
 
-void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list, EventLoop& events) {
+void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const ImageList& list,
+                   env::EventLoop& events) {
   pugi::xml_node thumbnails = gallery.append_child("THUMBNAILS");
   PutAttribute(thumbnails, "FOLDER", project.*kThumbnails.folder);
   RegularTurns turns(events);
@@ -101,4 +102,4 @@ void PutThumbnails(pugi::xml_node gallery, const GalleryProject& project, const 
   PutThumbnailFilters(modify, project);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

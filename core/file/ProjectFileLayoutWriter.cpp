@@ -1,6 +1,6 @@
 #include "core/file/ProjectFileElements.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 void PutSlideShow(pugi::xml_node layout, const GalleryProject& project) {
@@ -25,4 +25,4 @@ void PutLayout(pugi::xml_node gallery, const GalleryProject& project) {
   if (HasSlideShow(project)) PutSlideShow(layout, project);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

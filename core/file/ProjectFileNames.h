@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The words that represent the indices of a list in the project file. An empty word is not written.
 using FileWords = std::span<const std::string_view>;
@@ -56,4 +56,4 @@ inline constexpr std::string_view kFadeWord = "fade";
 inline constexpr std::string_view kQualityWord = "quality";
 inline constexpr std::string_view kWatermarkWord = "watermark";
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -2,7 +2,7 @@
 #include "core/file/ProjectFileFields.h"
 #include "env/Numbers.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 void PutAttributeUnlessEmpty(pugi::xml_node element, const char* name, std::string_view value) {
@@ -64,7 +64,7 @@ void PutArrangement(pugi::xml_node page, const GalleryProject& project) {
 
 std::string_view DirectLinks(const GalleryProject& project) {
   const std::string& most = project.textPageLinksThumbnailMaxDirectLinks;
-  return ParseNumber(most) == 0.0 ? kUnlimitedLinksWord : std::string_view(most);
+  return env::ParseNumber(most) == 0.0 ? kUnlimitedLinksWord : std::string_view(most);
 }
 
 }  // namespace
@@ -89,4 +89,4 @@ void PutImagePage(pugi::xml_node gallery, const GalleryProject& project) {
   PutLinks(page.append_child("PAGELINKS"), project, kImages);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -11,20 +11,20 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 constexpr char kProgramTitle[] = "Vantorium";
 
 /// Returns false for a file that cannot be read or is not an XML document.
-bool Load(XmlFile& file, const PathMap& paths, const std::string& path, EventLoop& events) {
+bool Load(XmlFile& file, const env::PathMap& paths, const std::string& path, env::EventLoop& events) {
   const auto native = paths.ToNative(path);
   if (!native) return false;
   try {
-    std::string bytes = ReadFileWhole(*native, kLargestXmlFile);
+    std::string bytes = env::ReadFileWhole(*native, kLargestXmlFile);
     events.Turn();
     return file.Parse(std::move(bytes));
-  } catch (const RuntimeFailure&) {
+  } catch (const env::RuntimeFailure&) {
     return false;
   }
 }
@@ -41,12 +41,12 @@ bool ProjectFileReader::ReadProjectFile(const std::string& path) {
   ReadResult result = ReadResult::Complete;
   try {
     result = ReadInto(editor, path);
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     // Leaves the status text and the pointer unchanged, as users of the program know it.
-    boxes_.Show(BoxKind::Plain, BoxButtons::Ok, kProgramTitle, failure.Description());
+    boxes_.Show(env::BoxKind::Plain, env::BoxButtons::Ok, kProgramTitle, failure.Description());
     return false;
   } catch (const std::bad_alloc&) {
-    boxes_.Show(BoxKind::Plain, BoxButtons::Ok, kProgramTitle, "Out of memory");
+    boxes_.Show(env::BoxKind::Plain, env::BoxButtons::Ok, kProgramTitle, "Out of memory");
     return false;
   }
   if (const std::string reason = ReasonOf(result); !reason.empty()) ReportInvalidProjectFile(path, reason);
@@ -89,4 +89,4 @@ ReadResult ProjectFileReader::ReadGallery(pugi::xml_node gallery, ProjectEditor&
   return result == ReadResult::Complete ? ReadImagePage(gallery.child("IMAGEPAGE"), editor) : result;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -14,19 +14,19 @@ namespace pugi {
 class xml_node;
 }
 
-namespace vantorium {
+namespace vantorium::core {
 
 class ProjectEditor;
 
 /// Reads a project file into the one project. Gives the event loop turns, so that the progress shown is drawn.
 class ProjectFileReader {
  public:
-  ProjectFileReader(Project& project, ImageListOperations& images, const PathMap& paths, MessageBoxPort& boxes,
-                    WindowState& window, EventLoop& events)
+  ProjectFileReader(Project& project, ImageListOperations& images, const env::PathMap& paths,
+                    env::MessageBoxPort& boxes, env::WindowState& window, env::EventLoop& events)
       : project_(project), images_(&images), paths_(paths), boxes_(boxes), window_(window), events_(events) {}
   /// A reader of settings alone: it leaves out the images with their texts, so their files need not exist.
-  ProjectFileReader(Project& project, const PathMap& paths, MessageBoxPort& boxes, WindowState& window,
-                    EventLoop& events)
+  ProjectFileReader(Project& project, const env::PathMap& paths, env::MessageBoxPort& boxes, env::WindowState& window,
+                    env::EventLoop& events)
       : project_(project), paths_(paths), boxes_(boxes), window_(window), events_(events) {}
 
   /// Resets the settings to those of a new project, then applies those of the file at `path` (path text) by the rules
@@ -44,10 +44,10 @@ class ProjectFileReader {
 
   Project& project_;
   ImageListOperations* images_ = nullptr;  ///< null: the images are left out
-  const PathMap& paths_;
-  MessageBoxPort& boxes_;
-  WindowState& window_;
-  EventLoop& events_;
+  const env::PathMap& paths_;
+  env::MessageBoxPort& boxes_;
+  env::WindowState& window_;
+  env::EventLoop& events_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

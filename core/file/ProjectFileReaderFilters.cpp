@@ -3,7 +3,7 @@
 #include "env/Numbers.h"
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// A copy of a record of the settings to read fields into. The destructor writes it back to the settings, even if
@@ -25,7 +25,7 @@ class RecordEdit {
 };
 
 void ReadNumberInto(std::int16_t& number, pugi::xml_node element, const char* attribute) {
-  if (const auto value = AttributeOf(element, attribute)) number = ParseInt16(*value);
+  if (const auto value = AttributeOf(element, attribute)) number = env::ParseInt16(*value);
 }
 
 void ReadTextInto(std::string& text, pugi::xml_node element, const char* attribute) {
@@ -33,10 +33,10 @@ void ReadTextInto(std::string& text, pugi::xml_node element, const char* attribu
 }
 
 void ReadBooleanInto(bool& flag, pugi::xml_node element, const char* attribute) {
-  if (const auto value = AttributeOf(element, attribute)) flag = ParseInt16(*value) != 0;
+  if (const auto value = AttributeOf(element, attribute)) flag = env::ParseInt16(*value) != 0;
 }
 
-void ReadFont(WatermarkSettings& watermark, pugi::xml_node font) {
+void ReadFont(image::WatermarkSettings& watermark, pugi::xml_node font) {
   ReadTextInto(watermark.FontName, font, "FACE");
   ReadNumberInto(watermark.FontSize, font, "HEIGHT");
   ReadNumberInto(watermark.FontWeight, font, "WEIGHT");
@@ -46,7 +46,7 @@ void ReadFont(WatermarkSettings& watermark, pugi::xml_node font) {
   if (const auto color = AttributeOf(font, "COLOR")) watermark.Color = HexToColor(std::string(*color));
 }
 
-void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
+void ReadWatermark(image::WatermarkSettings& watermark, pugi::xml_node filter) {
   watermark.checkUseWatermark = kOn;
   ReadTextInto(watermark.textWatermark, filter, "CAPTION");
   ReadNumberInto(watermark.sliderAlpha, filter, "ALPHA");
@@ -55,20 +55,20 @@ void ReadWatermark(WatermarkSettings& watermark, pugi::xml_node filter) {
   if (const pugi::xml_node font = filter.child("FONT")) ReadFont(watermark, font);
 }
 
-void ReadFilter(ImageFilterSettings& filters, pugi::xml_node filter, std::string_view type) {
-  if (EqualsIgnoringCase(type, kGrayscaleWord)) {
+void ReadFilter(image::ImageFilterSettings& filters, pugi::xml_node filter, std::string_view type) {
+  if (env::EqualsIgnoringCase(type, kGrayscaleWord)) {
     filters.checkGrayscale = kOn;
-  } else if (EqualsIgnoringCase(type, kNoiseWord)) {
+  } else if (env::EqualsIgnoringCase(type, kNoiseWord)) {
     filters.checkNoise = kOn;
     ReadNumberInto(filters.checkNoiseRandom, filter, "RANDOM");
     ReadNumberInto(filters.sliderNoise, filter, "VALUE");
-  } else if (EqualsIgnoringCase(type, kBrightnessWord)) {
+  } else if (env::EqualsIgnoringCase(type, kBrightnessWord)) {
     filters.checkBrightness = kOn;
     ReadNumberInto(filters.sliderBrightness, filter, "VALUE");
-  } else if (EqualsIgnoringCase(type, kFadeWord)) {
+  } else if (env::EqualsIgnoringCase(type, kFadeWord)) {
     filters.checkFade = kOn;
     ReadNumberInto(filters.sliderFade, filter, "VALUE");
-  } else if (EqualsIgnoringCase(type, kQualityWord)) {
+  } else if (env::EqualsIgnoringCase(type, kQualityWord)) {
     ReadNumberInto(filters.sliderQuality, filter, "VALUE");
   }
 }
@@ -80,7 +80,7 @@ void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetField
   RecordEdit watermarkEdit(editor, target.watermark);
   for (auto node = NextElement(modify, modify, "FILTER"); node; node = NextElement(node, modify, "FILTER")) {
     const std::string_view type = AttributeOf(node, "TYPE").value_or("");
-    if (EqualsIgnoringCase(type, kWatermarkWord)) {
+    if (env::EqualsIgnoringCase(type, kWatermarkWord)) {
       ReadWatermark(watermarkEdit.value, node);
     } else {
       ReadFilter(filterEdit.value, node, type);
@@ -88,4 +88,4 @@ void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetField
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -5,13 +5,13 @@
 #include "env/Numbers.h"
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 // The positions are 32-bit numbers, so that lists longer than 16 bits can count are restored.
 
 [[nodiscard]] bool AddImageElement(pugi::xml_node image, ImageListOperations& list) {
-  const auto index = ParseInt32(AttributeOf(image, "INDEX").value_or(""));
+  const auto index = env::ParseInt32(AttributeOf(image, "INDEX").value_or(""));
   return list.AddImage(static_cast<std::size_t>(index), TextOrEmpty(image, "SOURCE"), TextOrEmpty(image, "NAME"),
                        MultilineText(image.child("DESCRIPTION")), "");
 }
@@ -19,14 +19,14 @@ namespace {
 [[nodiscard]] bool DescribeThumbnail(pugi::xml_node thumbnail, ImageList& list) {
   const auto index = AttributeOf(thumbnail, "INDEX");
   if (!index) return true;
-  const std::int64_t position = ParseInt32(*index);
+  const std::int64_t position = env::ParseInt32(*index);
   if (position < 1 || position > static_cast<std::int64_t>(list.Count())) return false;
   list.SetThumbnailDescription(static_cast<std::size_t>(position), MultilineText(thumbnail.child("DESCRIPTION")));
   return true;
 }
 
 /// Returns false if an image is refused.
-[[nodiscard]] bool AddImages(pugi::xml_node images, ImageListOperations& list, EventLoop& events) {
+[[nodiscard]] bool AddImages(pugi::xml_node images, ImageListOperations& list, env::EventLoop& events) {
   RegularTurns turns(events);
   for (auto node = NextElement(images, images, "IMAGE"); node; node = NextElement(node, images, "IMAGE")) {
     if (!AddImageElement(node, list)) return false;
@@ -36,7 +36,7 @@ namespace {
 }
 
 /// Returns false if a description is of no image.
-[[nodiscard]] bool DescribeThumbnails(pugi::xml_node thumbnails, ImageList& list, EventLoop& events) {
+[[nodiscard]] bool DescribeThumbnails(pugi::xml_node thumbnails, ImageList& list, env::EventLoop& events) {
   RegularTurns turns(events);
   for (auto node = NextElement(thumbnails, thumbnails, "THUMBNAIL"); node;
        node = NextElement(node, thumbnails, "THUMBNAIL")) {
@@ -48,10 +48,10 @@ namespace {
 
 void ReadCaption(pugi::xml_node caption, ProjectEditor& editor, const CaptionFields& fields) {
   const std::string_view type = AttributeOf(caption, "TYPE").value_or("");
-  if (EqualsIgnoringCase(type, kPopupCaptionWord)) {
+  if (env::EqualsIgnoringCase(type, kPopupCaptionWord)) {
     editor.Set(fields.popup, kOn);
     editor.Set(fields.popupText, MultilineText(caption));
-  } else if (EqualsIgnoringCase(type, kRegularCaptionWord)) {
+  } else if (env::EqualsIgnoringCase(type, kRegularCaptionWord)) {
     editor.Set(fields.regular, kOn);
     editor.Set(fields.regularText, MultilineText(caption));
     ReadWord(editor, caption, "PLACE", kReadCaptionPlaceWords, fields.placement);
@@ -105,7 +105,7 @@ void ReadThumbnailModifications(pugi::xml_node modify, ProjectEditor& editor) {
 
 }  // namespace
 
-ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations* list, EventLoop& events) {
+ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations* list, env::EventLoop& events) {
   ReadTextOr(editor, images, "FOLDER", kImages.folder, DefaultOf(kImages.folder));
   ReadSwitch(editor, images, "UPRIGHT", &GalleryProject::checkImagesUpright);
   ReadSwitch(editor, images, "TRUECOLORS", &GalleryProject::checkImagesTrueColors);
@@ -116,7 +116,7 @@ ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOpe
   return ReadResult::Complete;
 }
 
-ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList* list, EventLoop& events) {
+ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList* list, env::EventLoop& events) {
   ReadTextOr(editor, thumbnails, "FOLDER", kThumbnails.folder, "1");
   if (list != nullptr && !DescribeThumbnails(thumbnails, *list, events)) return ReadResult::InvalidThumbnailIndex;
   ReadCaptions(thumbnails, editor, kThumbnails.captions);
@@ -126,4 +126,4 @@ ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, Imag
   return ReadResult::Complete;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

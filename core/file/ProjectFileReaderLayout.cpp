@@ -3,7 +3,7 @@
 #include "core/file/ProjectFileReaderValues.h"
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// In seconds; an absent attribute is 0.
@@ -51,7 +51,7 @@ ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor) {
   const auto type = AttributeOf(layout, "TYPE");
   if (!type) return ReadResult::NoLayout;
   ReadWord(editor, layout, "TYPE", kLayoutTypeWords, &GalleryProject::comboGalleryLayoutType);
-  const bool singleFrame = EqualsIgnoringCase(*type, kLayoutTypeWords[0]);
+  const bool singleFrame = env::EqualsIgnoringCase(*type, kLayoutTypeWords[0]);
   if (const pugi::xml_node show = layout.child("SLIDESHOW"); singleFrame && show) ReadSlideShow(show, editor);
   ReadFrameNames(layout, editor, singleFrame);
   ReadFrameSize(layout, editor);
@@ -59,4 +59,4 @@ ReadResult ReadLayout(pugi::xml_node gallery, ProjectEditor& editor) {
   return ReadResult::Complete;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -2,7 +2,7 @@
 #include "core/file/ProjectFileReaderValues.h"
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// Whether a comma-separated list contains `word`. A single word is not a list.
@@ -18,7 +18,7 @@ LinkPlacement PlacementOfBars(bool top, bool bottom) {
 
 void ReadPlace(pugi::xml_node links, ProjectEditor& editor, NumberField field) {
   const auto value = AttributeOf(links, "PLACE");
-  const std::string place = AsciiUpper(value.value_or(""));
+  const std::string place = env::AsciiUpper(value.value_or(""));
   const bool top = place == "TOP" || ListHolds(place, "TOP");
   const bool bottom = place == "BOTTOM" || ListHolds(place, "BOTTOM");
   if (value && !top && !bottom) return;
@@ -29,12 +29,12 @@ void ReadDirectLinks(pugi::xml_node links, ProjectEditor& editor) {
   const auto direct = AttributeOf(links, "DIRECT");
   editor.Set(&GalleryProject::checkPageLinksThumbnailDirectLinks, FlagOf(direct.has_value()));
   if (!direct) return;
-  const bool unlimited = EqualsIgnoringCase(*direct, kUnlimitedLinksWord);
+  const bool unlimited = env::EqualsIgnoringCase(*direct, kUnlimitedLinksWord);
   editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, unlimited ? "0" : WholeNumber(*direct));
 }
 
 std::string LinkPath(pugi::xml_node link, const char* attribute) {
-  return std::string(WithoutFilePrefix(AttributeOf(link, attribute).value_or("")));
+  return std::string(env::WithoutFilePrefix(AttributeOf(link, attribute).value_or("")));
 }
 
 /// An absent element or attribute gives an empty text.
@@ -78,4 +78,4 @@ void ReadImagePageLinks(pugi::xml_node links, ProjectEditor& editor) {
   ReadLinks(links, editor, kImages, [&editor] { editor.Set(&GalleryProject::ImageFirstLink, LinkSettings{}); });
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -1,7 +1,7 @@
 #include "core/file/ProjectFileReaderSections.h"
 #include "core/file/ProjectFileReaderValues.h"
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 void ReadColors(pugi::xml_node page, ProjectEditor& editor, const PageColorFields& fields) {
@@ -53,4 +53,4 @@ ReadResult ReadImagePage(pugi::xml_node page, ProjectEditor& editor) {
   return ReadResult::Complete;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -9,7 +9,7 @@
 
 #include <pugixml.hpp>
 
-namespace vantorium {
+namespace vantorium::core {
 
 // Read the sections of the project file into the settings and the images. A failed read keeps what it has read so far.
 // A value that cannot be converted throws RuntimeFailure.
@@ -20,12 +20,12 @@ namespace vantorium {
 /// IMAGES: the images, their captions, the header and footer of their descriptions, their size and filters. If `list`
 /// is null, the images are left out. The event loop gets a turn every 100 images.
 [[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations* list,
-                                    EventLoop& events);
+                                    env::EventLoop& events);
 
 /// THUMBNAILS: the descriptions of the thumbnails, left out if `list` is null, and the rest as for the images. The
 /// event loop gets a turn every 100 thumbnails.
 [[nodiscard]] ReadResult ReadThumbnails(pugi::xml_node thumbnails, ProjectEditor& editor, ImageList* list,
-                                        EventLoop& events);
+                                        env::EventLoop& events);
 
 /// The FILTER elements of a MODIFY, including the watermark.
 void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetFields& target);
@@ -38,4 +38,4 @@ void ReadFilters(pugi::xml_node modify, ProjectEditor& editor, const TargetField
 void ReadThumbnailPageLinks(pugi::xml_node links, ProjectEditor& editor);
 void ReadImagePageLinks(pugi::xml_node links, ProjectEditor& editor);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -8,11 +8,11 @@
 #include <algorithm>
 #include <limits>
 
-namespace vantorium {
+namespace vantorium::core {
 
 // pugixml has converted every line end to LF.
 std::string MultilineText(pugi::xml_node element) {
-  return ReplaceAll(TextOf(element), "\n", kCrLf);
+  return env::ReplaceAll(TextOf(element), "\n", env::kCrLf);
 }
 
 std::string TextOrEmpty(pugi::xml_node element, const char* attribute) {
@@ -30,9 +30,9 @@ void ReadTextOr(ProjectEditor& editor, pugi::xml_node element, const char* attri
 
 std::string WholeNumber(std::string_view text) {
   using Limits = std::numeric_limits<std::int32_t>;
-  const auto number = ParseNumber(text);
-  if (!number) throw RuntimeFailure(FailureKind::TypeMismatch);
-  return std::to_string(ToInt32(std::clamp<double>(*number, Limits::min(), Limits::max())));
+  const auto number = env::ParseNumber(text);
+  if (!number) throw env::RuntimeFailure(env::FailureKind::TypeMismatch);
+  return std::to_string(env::ToInt32(std::clamp<double>(*number, Limits::min(), Limits::max())));
 }
 
 void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attribute, TextField field) {
@@ -40,7 +40,7 @@ void ReadDigits(ProjectEditor& editor, pugi::xml_node element, const char* attri
 }
 
 void ReadNumber(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
-  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, ParseInt16(*value));
+  if (const auto value = AttributeOf(element, attribute)) editor.Set(field, env::ParseInt16(*value));
 }
 
 void ReadSwitch(ProjectEditor& editor, pugi::xml_node element, const char* attribute, NumberField field) {
@@ -84,7 +84,7 @@ void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, const CodeFiel
 }
 
 bool IsNumberOne(std::string_view text) {
-  return ParseNumber(text) == 1.0;
+  return env::ParseNumber(text) == 1.0;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 // Convert attributes and texts of an element to settings. An absent attribute leaves the setting unchanged; an empty
 // one is a value like any other. Throws RuntimeFailure TypeMismatch for text that is not a number, and Overflow for a
@@ -49,4 +49,4 @@ void ReadChildTexts(ProjectEditor& editor, pugi::xml_node parent, const CodeFiel
 /// Whether the text reads as the number 1.
 [[nodiscard]] bool IsNumberOne(std::string_view text);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

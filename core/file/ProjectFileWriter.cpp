@@ -39,12 +39,12 @@
 //         PAGELINKS PLACE?
 //           FIRST  LAST  PREVIOUS  NEXT  INDEX
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 class TextWriter : public pugi::xml_writer {
  public:
-  explicit TextWriter(EventLoop& events) : turns_(events) {}
+  explicit TextWriter(env::EventLoop& events) : turns_(events) {}
 
   void write(const void* data, std::size_t size) override {
     text.append(static_cast<const char*>(data), size);
@@ -57,7 +57,7 @@ class TextWriter : public pugi::xml_writer {
   RegularTurns turns_;
 };
 
-void PutGallery(pugi::xml_node document, const Project& project, EventLoop& events) {
+void PutGallery(pugi::xml_node document, const Project& project, env::EventLoop& events) {
   const GalleryProject& settings = project.settings;
   pugi::xml_node gallery = document.append_child("GALLERY");
   PutAttribute(gallery, "TITLE", settings.textGalleryTitle);
@@ -72,7 +72,7 @@ void PutGallery(pugi::xml_node document, const Project& project, EventLoop& even
 
 }  // namespace
 
-std::string ProjectFileText(const Project& project, EventLoop& events) {
+std::string ProjectFileText(const Project& project, env::EventLoop& events) {
   pugi::xml_document document;
   pugi::xml_node root = document.append_child("GALLERYPROJECT");
   PutAttribute(root, "VERSION", "3.0");
@@ -84,7 +84,7 @@ std::string ProjectFileText(const Project& project, EventLoop& events) {
   TextWriter writer(events);
   document.save(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
   if (writer.text.size() > kLargestXmlFile || !IsWellFormedXml(writer.text)) {
-    throw RuntimeFailure(FailureKind::InvalidArgument);
+    throw env::RuntimeFailure(env::FailureKind::InvalidArgument);
   }
   return std::move(writer.text);
 }
@@ -98,7 +98,7 @@ bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
     if (const auto native = paths_.ToNative(path)) {
       const std::string text = ProjectFileText(project_, events_);
       events_.Turn();
-      WriteKeptFile(*native, text);
+      env::WriteKeptFile(*native, text);
       written = true;
     }
   } catch (const std::exception&) {
@@ -109,4 +109,4 @@ bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
   return written;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -7,13 +7,13 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// Writes the settings and the images of a project to its file. Gives the event loop turns, in which nothing may change
 /// the project.
 class ProjectFileWriter {
  public:
-  ProjectFileWriter(const Project& project, const PathMap& paths, WindowState& window, EventLoop& events)
+  ProjectFileWriter(const Project& project, const env::PathMap& paths, env::WindowState& window, env::EventLoop& events)
       : project_(project), paths_(paths), window_(window), events_(events) {}
 
   /// Writes the file at `path` (path text) anew. An old file stays unchanged until the new one is complete and on disk,
@@ -22,15 +22,15 @@ class ProjectFileWriter {
 
  private:
   const Project& project_;
-  const PathMap& paths_;
-  WindowState& window_;
-  EventLoop& events_;
+  const env::PathMap& paths_;
+  env::WindowState& window_;
+  env::EventLoop& events_;
 };
 
 /// Returns the content of the project file: an XML document in UTF-8 without a declaration and without white space
 /// between elements. What XML cannot hold (control characters, bytes that are not UTF-8) becomes the replacement
 /// character, except in the path of an image: such a file would name another image and could not be opened again, so
 /// this throws RuntimeFailure InvalidArgument. So does a project beyond the reader's limits.
-[[nodiscard]] std::string ProjectFileText(const Project& project, EventLoop& events);
+[[nodiscard]] std::string ProjectFileText(const Project& project, env::EventLoop& events);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

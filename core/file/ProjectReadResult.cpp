@@ -1,6 +1,6 @@
 #include "core/file/ProjectReadResult.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 const char* ReasonOf(ReadResult result) {
   switch (result) {
@@ -25,4 +25,4 @@ const char* ReasonOf(ReadResult result) {
   return "";
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The result of reading a project file or a section of it.
 enum class ReadResult {
@@ -18,4 +18,4 @@ enum class ReadResult {
 /// Returns the reason to show to the user, empty for results that need none.
 [[nodiscard]] const char* ReasonOf(ReadResult result);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

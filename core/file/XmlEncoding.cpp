@@ -8,7 +8,7 @@
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 struct Encoding {
@@ -45,7 +45,7 @@ Encoding EncodingOf(std::string_view bytes) {
 }
 
 bool IsUtf8(std::string_view name) {
-  return name.empty() || EqualsIgnoringCase(name, "UTF-8") || EqualsIgnoringCase(name, "UTF8");
+  return name.empty() || env::EqualsIgnoringCase(name, "UTF-8") || env::EqualsIgnoringCase(name, "UTF8");
 }
 
 Converter StrictConverter(const std::string& name) {
@@ -80,4 +80,4 @@ std::optional<std::string> DecodeXml(std::string bytes) {
   return Converted(std::string_view(bytes).substr(encoding.markLength), encoding.name);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

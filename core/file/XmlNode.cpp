@@ -3,7 +3,7 @@
 #include "core/file/XmlEncoding.h"
 #include "core/file/XmlSyntax.h"
 
-namespace vantorium {
+namespace vantorium::core {
 
 bool XmlFile::Parse(std::string bytes) {
   auto text = DecodeXml(std::move(bytes));
@@ -40,4 +40,4 @@ pugi::xml_node NextElement(pugi::xml_node node, pugi::xml_node top, std::string_
   return node;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -6,7 +6,7 @@
 
 #include <pugixml.hpp>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// An XML file, parsed with pugixml.
 class XmlFile {
@@ -36,4 +36,4 @@ class XmlFile {
 /// Returns the next element of that name after `node` in document order inside `top`, empty at the end.
 [[nodiscard]] pugi::xml_node NextElement(pugi::xml_node node, pugi::xml_node top, std::string_view name);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
@@ -260,4 +260,4 @@ bool IsWellFormedXml(std::string_view text, const XmlLimits& limits) {
   return IsXmlText(text) && Scanner(text, limits).Document();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

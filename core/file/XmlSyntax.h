@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// The size limit in bytes of the XML files that the program reads or writes.
 inline constexpr std::size_t kLargestXmlFile = 512 << 20;
@@ -21,4 +21,4 @@ struct XmlLimits {
 /// predefined entities are known and none is ever expanded. A single pass; needs memory for the open elements only.
 [[nodiscard]] bool IsWellFormedXml(std::string_view text, const XmlLimits& limits = {});
 
-}  // namespace vantorium
+}  // namespace vantorium::core

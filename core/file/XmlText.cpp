@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// Fast path: nearly all bytes of nearly all texts need no decoding.
@@ -72,4 +72,4 @@ std::string ToXmlText(std::string_view text) {
   return result;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// Returns whether XML 1.0 allows the character: tab, LF, CR and all of Unicode from the space on, except the
 /// surrogates, U+FFFE and U+FFFF.
@@ -17,4 +17,4 @@ namespace vantorium {
 /// control characters and bytes that are not UTF-8.
 [[nodiscard]] std::string ToXmlText(std::string_view text);
 
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -4,15 +4,15 @@
 #include "core/generation/RunMessages.h"
 #include "env/PathText.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
-constexpr Backdrop kBackdrops[] = {kTableBackdrop, kThumbnails.backdrop, kImages.backdrop};
+constexpr core::Backdrop kBackdrops[] = {core::kTableBackdrop, core::kThumbnails.backdrop, core::kImages.backdrop};
 
 /// A source without a folder is in the folder of the project file.
 std::string Resolved(const RunState& run, const std::string& source) {
-  if (!GetFilePath(source).empty()) return source;
-  return WithTrailingBackslash(run.ProjectFolder) + source;
+  if (!env::GetFilePath(source).empty()) return source;
+  return env::WithTrailingBackslash(run.ProjectFolder) + source;
 }
 
 /// Adds the file named by a setting, unless the setting is empty.
@@ -20,13 +20,13 @@ void AddFile(std::vector<AuxiliaryFile>& files, const RunState& run, const std::
              std::string_view fixedName, bool isImageLink) {
   if (setting.empty()) return;
   const std::string source = Resolved(run, setting);
-  files.push_back({source, std::string(fixedName) + GetFileExtension(source), isImageLink});
+  files.push_back({source, std::string(fixedName) + env::GetFileExtension(source), isImageLink});
 }
 
-void AddLinkGraphics(std::vector<AuxiliaryFile>& files, const RunState& run, const TargetFields& target,
+void AddLinkGraphics(std::vector<AuxiliaryFile>& files, const RunState& run, const core::TargetFields& target,
                      bool areImageLinks) {
-  for (const PageLink& link : target.links) {
-    const LinkSettings& settings = run.project.*link.settings;
+  for (const core::PageLink& link : target.links) {
+    const core::LinkSettings& settings = run.project.*link.settings;
     AddFile(files, run, settings.textLinkGraphic, link.graphic, areImageLinks);
     if (link.disabledGraphic.empty()) continue;
     AddFile(files, run, settings.textLinkGraphicDisabled, link.disabledGraphic, areImageLinks);
@@ -49,9 +49,9 @@ std::vector<AuxiliaryFile> Backdrops(const RunState& run) {
 
 std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
   std::vector<AuxiliaryFile> files;
-  AddLinkGraphics(files, run, kThumbnails, /*areImageLinks=*/false);
+  AddLinkGraphics(files, run, core::kThumbnails, /*areImageLinks=*/false);
   // Links between images are on wrapper pages only.
-  if (IsOn(run.project.checkImageWrapperUse)) AddLinkGraphics(files, run, kImages, /*areImageLinks=*/true);
+  if (core::IsOn(run.project.checkImageWrapperUse)) AddLinkGraphics(files, run, core::kImages, /*areImageLinks=*/true);
   return files;
 }
 
@@ -77,4 +77,4 @@ PhaseResult CopyLinkGraphics(const RunContext& context) {
   return kGoOn;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

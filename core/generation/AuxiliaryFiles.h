@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// A backdrop or link graphic that a run copies.
 struct AuxiliaryFile {
@@ -26,4 +26,4 @@ struct AuxiliaryFile {
 [[nodiscard]] PhaseResult CopyBackdrops(const RunContext& context);
 [[nodiscard]] PhaseResult CopyLinkGraphics(const RunContext& context);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

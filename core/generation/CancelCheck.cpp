@@ -1,8 +1,8 @@
 #include "core/generation/CancelCheck.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
-bool CancelCheck::CheckForCancel(ProgressWindow& progress) {
+bool CancelCheck::CheckForCancel(publish::ProgressWindow& progress) {
   if (cancelRequested_ || !progress.IsCancelled()) return progress.IsCancelled();
   if (boxes_.AskYesNo("Cancel Request", "Are you sure you wish to cancel?")) {
     progress.SetText3("\r\nCancelling Request...\r\n", true);
@@ -15,4 +15,4 @@ bool CancelCheck::CheckForCancel(ProgressWindow& progress) {
   return progress.IsCancelled();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

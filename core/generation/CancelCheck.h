@@ -7,16 +7,16 @@
 
 #include <functional>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Decides whether the current run must stop. The run polls it at each phase and each item; the cancel button of the
 /// progress window calls it at once.
-class CancelCheck : public CancelPoll, public CancelState {
+class CancelCheck : public publish::CancelPoll, public publish::CancelState {
  public:
-  explicit CancelCheck(MessageBoxPort& boxes) : boxes_(boxes) {}
+  explicit CancelCheck(env::MessageBoxPort& boxes) : boxes_(boxes) {}
 
   /// Returns true if the run must stop. The first call after the button was pressed asks the user to confirm.
-  [[nodiscard]] bool CheckForCancel(ProgressWindow& progress) override;
+  [[nodiscard]] bool CheckForCancel(publish::ProgressWindow& progress) override;
 
   [[nodiscard]] bool CancelRequested() const override { return cancelRequested_; }
   void Clear() { cancelRequested_ = false; }
@@ -24,9 +24,9 @@ class CancelCheck : public CancelPoll, public CancelState {
   void OnCancel(std::function<void()> action) { onCancel_ = std::move(action); }
 
  private:
-  MessageBoxPort& boxes_;
+  env::MessageBoxPort& boxes_;
   bool cancelRequested_ = false;
   std::function<void()> onCancel_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

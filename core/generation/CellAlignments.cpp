@@ -1,6 +1,6 @@
 #include "core/generation/CellAlignments.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 constexpr std::string_view kLeftTop = R"(ALIGN="LEFT" VALIGN="TOP")";
@@ -43,28 +43,28 @@ constexpr Table<std::string_view> kImageDescription = {
      R"(VALIGN="TOP" ALIGN="RIGHT")"}};
 
 template <typename Cell>
-Cell Lookup(const Table<Cell>& table, Choice alignment, Placement placement) {
-  if (alignment < NumberOf(Alignment::Start) || alignment > NumberOf(Alignment::End)) return {};
-  if (!IsBeside(placement) && !IsAboveOrBelow(placement)) return {};
-  return table[alignment][NumberOf(placement) - NumberOf(Placement::Left)];
+Cell Lookup(const Table<Cell>& table, core::Choice alignment, core::Placement placement) {
+  if (alignment < core::NumberOf(core::Alignment::Start) || alignment > core::NumberOf(core::Alignment::End)) return {};
+  if (!core::IsBeside(placement) && !core::IsAboveOrBelow(placement)) return {};
+  return table[alignment][core::NumberOf(placement) - core::NumberOf(core::Placement::Left)];
 }
 
 }  // namespace
 
-CellPair ThumbnailDescriptionCells(Choice alignment, Placement placement) {
+CellPair ThumbnailDescriptionCells(core::Choice alignment, core::Placement placement) {
   return Lookup(kThumbnailDescription, alignment, placement);
 }
 
-CellPair ThumbnailCaptionCells(Choice alignment, Placement placement) {
+CellPair ThumbnailCaptionCells(core::Choice alignment, core::Placement placement) {
   return Lookup(kThumbnailCaption, alignment, placement);
 }
 
-CellPair ImageCaptionCells(Choice alignment, Placement placement) {
+CellPair ImageCaptionCells(core::Choice alignment, core::Placement placement) {
   return Lookup(kImageCaption, alignment, placement);
 }
 
-std::string_view ImageDescriptionCell(Choice alignment, Placement placement) {
+std::string_view ImageDescriptionCell(core::Choice alignment, core::Placement placement) {
   return Lookup(kImageDescription, alignment, placement);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Alignment attributes of the table cells of a text and of its picture.
 struct CellPair {
@@ -14,9 +14,9 @@ struct CellPair {
 
 // `alignment` is the number of an Alignment. The results are empty for an alignment or placement outside the tables.
 
-[[nodiscard]] CellPair ThumbnailDescriptionCells(Choice alignment, Placement placement);
-[[nodiscard]] CellPair ThumbnailCaptionCells(Choice alignment, Placement placement);
-[[nodiscard]] CellPair ImageCaptionCells(Choice alignment, Placement placement);
-[[nodiscard]] std::string_view ImageDescriptionCell(Choice alignment, Placement placement);
+[[nodiscard]] CellPair ThumbnailDescriptionCells(core::Choice alignment, core::Placement placement);
+[[nodiscard]] CellPair ThumbnailCaptionCells(core::Choice alignment, core::Placement placement);
+[[nodiscard]] CellPair ImageCaptionCells(core::Choice alignment, core::Placement placement);
+[[nodiscard]] std::string_view ImageDescriptionCell(core::Choice alignment, core::Placement placement);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

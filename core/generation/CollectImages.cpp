@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// Runs one statement and ignores its RuntimeFailure; what it would have set keeps its value.
@@ -15,59 +15,59 @@ template <typename Statement>
 void Ignoring(Statement statement) {
   try {
     statement();
-  } catch (const RuntimeFailure&) {
+  } catch (const env::RuntimeFailure&) {
   }
 }
 
 bool ReadSourceSize(const RunState& run, const ImageRunInfo& image, std::int32_t& width, std::int32_t& height) {
   const auto native = run.files.Paths().ToNative(image.Path);
-  return native && ReadPhotographSize(*native, run.project.checkImagesUpright == 1, width, height);
+  return native && image::ReadPhotographSize(*native, run.project.checkImagesUpright == 1, width, height);
 }
 
-void GivenWidthSetsHeight(const GalleryProject& project, ImageRunInfo& image, double w, double h) {
-  Ignoring([&] { image.Width = ParseInt32(project.textImageWrapperImageWidth); });
-  Ignoring([&] { image.Height = ToInt32(Divide(h, w) * image.Width); });
+void GivenWidthSetsHeight(const core::GalleryProject& project, ImageRunInfo& image, double w, double h) {
+  Ignoring([&] { image.Width = env::ParseInt32(project.textImageWrapperImageWidth); });
+  Ignoring([&] { image.Height = env::ToInt32(env::Divide(h, w) * image.Width); });
 }
 
-void GivenHeightSetsWidth(const GalleryProject& project, ImageRunInfo& image, double w, double h) {
-  Ignoring([&] { image.Height = ParseInt32(project.textImageWrapperImageHeight); });
-  Ignoring([&] { image.Width = ToInt32(Divide(w, h) * image.Height); });
+void GivenHeightSetsWidth(const core::GalleryProject& project, ImageRunInfo& image, double w, double h) {
+  Ignoring([&] { image.Height = env::ParseInt32(project.textImageWrapperImageHeight); });
+  Ignoring([&] { image.Width = env::ToInt32(env::Divide(w, h) * image.Height); });
 }
 
 void FindImageSize(const RunState& run, ImageRunInfo& image) {
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   std::int32_t w = 0;
   std::int32_t h = 0;
-  if (IsOn(project.checkImageWrapperImageKeepSize)) {
+  if (core::IsOn(project.checkImageWrapperImageKeepSize)) {
     Ignoring([&] { std::ignore = ReadSourceSize(run, image, image.Width, image.Height); });
-  } else if (IsOn(project.checkImageWrapperImageKeepAspectRatio)) {
+  } else if (core::IsOn(project.checkImageWrapperImageKeepAspectRatio)) {
     if (!ReadSourceSize(run, image, w, h)) return;
-    if (IsOn(project.checkImageWrapperImageSetWidth)) {
+    if (core::IsOn(project.checkImageWrapperImageSetWidth)) {
       GivenWidthSetsHeight(project, image, w, h);
     } else {
       GivenHeightSetsWidth(project, image, w, h);
     }
   } else {
-    Ignoring([&] { image.Width = ParseInt32(project.textImageWrapperImageWidth); });
-    Ignoring([&] { image.Height = ParseInt32(project.textImageWrapperImageHeight); });
+    Ignoring([&] { image.Width = env::ParseInt32(project.textImageWrapperImageWidth); });
+    Ignoring([&] { image.Height = env::ParseInt32(project.textImageWrapperImageHeight); });
   }
 }
 
 /// The thumbnail keeps the aspect ratio of the image as the gallery shows it, not of the source.
-void FindThumbnailSize(const GalleryProject& project, ImageRunInfo& image) {
-  const bool keepRatio = IsOn(project.checkThumbnailsImageKeepAspectRatio);
-  const bool widthGiven = IsOn(project.checkThumbnailsImageSetWidth);
+void FindThumbnailSize(const core::GalleryProject& project, ImageRunInfo& image) {
+  const bool keepRatio = core::IsOn(project.checkThumbnailsImageKeepAspectRatio);
+  const bool widthGiven = core::IsOn(project.checkThumbnailsImageSetWidth);
   if (!keepRatio || widthGiven) {
-    Ignoring([&] { image.ThumbWidth = ParseInt32(project.textThumbnailsImageWidth); });
+    Ignoring([&] { image.ThumbWidth = env::ParseInt32(project.textThumbnailsImageWidth); });
   }
   if (!keepRatio || !widthGiven) {
-    Ignoring([&] { image.ThumbHeight = ParseInt32(project.textThumbnailsImageHeight); });
+    Ignoring([&] { image.ThumbHeight = env::ParseInt32(project.textThumbnailsImageHeight); });
   }
   if (!keepRatio) return;
   if (widthGiven) {
-    Ignoring([&] { image.ThumbHeight = ToInt32(Divide(image.Height, image.Width) * image.ThumbWidth); });
+    Ignoring([&] { image.ThumbHeight = env::ToInt32(env::Divide(image.Height, image.Width) * image.ThumbWidth); });
   } else {
-    Ignoring([&] { image.ThumbWidth = ToInt32(Divide(image.Width, image.Height) * image.ThumbHeight); });
+    Ignoring([&] { image.ThumbWidth = env::ToInt32(env::Divide(image.Width, image.Height) * image.ThumbHeight); });
   }
 }
 
@@ -75,7 +75,7 @@ void Raise(std::int32_t& maximum, std::int32_t value) {
   maximum = std::max(maximum, value);
 }
 
-ImageRunInfo Collect(RunState& run, const ImageEntry& entry) {
+ImageRunInfo Collect(RunState& run, const core::ImageEntry& entry) {
   ImageRunInfo image{.Path = entry.SourcePath, .FileName = BuildFileName(entry.ImageName, entry.SourcePath)};
   Ignoring([&] { image.FileTime = run.files.GetFileWriteTime(image.Path); });
   FindImageSize(run, image);
@@ -112,8 +112,8 @@ PhaseResult CollectImages(const RunContext& context) {
   context.Announce("Collecting Image Information (complete)...");
   context.environment.loop.Turn();
   run.ImageCount = static_cast<std::int32_t>(total);
-  run.ThumbnailPageCount = ThumbnailPageCount(run.project, run.ImageCount);
+  run.ThumbnailPageCount = core::ThumbnailPageCount(run.project, run.ImageCount);
   return kGoOn;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

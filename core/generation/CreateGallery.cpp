@@ -5,7 +5,7 @@
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 RunEnd GalleryCreator::CreateGallery(GenerationMode& mode, std::int16_t browserIndex) {
   Repair();
   auto order = mode == GenerationMode::Preview ? RunOrder{.Mode = mode} : environment_.host.AskWhatToCreate();
@@ -21,13 +21,13 @@ RunEnd GalleryCreator::CarryOut(RunOrder order, std::int16_t browserIndex) {
 
 void GalleryCreator::Repair() {
   if (preferences_.TempFolderLocation.empty()) preferences_.TempFolderLocation = programFolder_;
-  NormalizeForOutput(project_.settings, project_.IsModified);
+  core::NormalizeForOutput(project_.settings, project_.IsModified);
 }
 
 RunEnd GalleryCreator::Start(RunOrder order, std::int16_t browserIndex) {
   if (!Prepare(order)) return RunEnd::NotStarted;
   const bool usesTempFolder = order.Mode == GenerationMode::Preview || order.Mode == GenerationMode::Publish;
-  const TempFolderLock lock(usesTempFolder ? NativeTempFolder() : std::filesystem::path());
+  const env::TempFolderLock lock(usesTempFolder ? NativeTempFolder() : std::filesystem::path());
   if (usesTempFolder && RefuseTempFolder(lock)) return RunEnd::NotStarted;
   environment_.cancel.Clear();
   environment_.host.EnableTrayIcon(false);
@@ -35,7 +35,7 @@ RunEnd GalleryCreator::Start(RunOrder order, std::int16_t browserIndex) {
   if (end == RunEnd::Success && order.Mode == GenerationMode::Preview) {
     OpenInBrowser(order.OutputFolder + order.IndexFileName, browserIndex);
   }
-  environment_.shell.Beep(BeepKind::Information);
+  environment_.shell.Beep(env::BeepKind::Information);
   environment_.host.EnableTrayIcon(true);
   if (end == RunEnd::Success) environment_.host.SetStatusText("");
   return end;
@@ -80,19 +80,19 @@ bool GalleryCreator::RefuseEmptyList(const char* text) {
 }
 
 std::string GalleryCreator::TempFolder() const {
-  return TempFolderIn(preferences_.TempFolderLocation);
+  return env::TempFolderIn(preferences_.TempFolderLocation);
 }
 
 std::filesystem::path GalleryCreator::NativeTempFolder() const {
   return environment_.files.Paths().ToNative(TempFolder()).value_or("");
 }
 
-bool GalleryCreator::RefuseTempFolder(const TempFolderLock& lock) {
+bool GalleryCreator::RefuseTempFolder(const env::TempFolderLock& lock) {
   const std::filesystem::path folder = NativeTempFolder();
   const std::string problem = lock.IsTakenElsewhere()
                                   ? "Another run is using the temporary folder \"" + folder.string() +
                                         "\".  Please wait for its end, or choose another location."
-                                  : RefusalOfTempFolder(folder);
+                                  : env::RefusalOfTempFolder(folder);
   if (problem.empty()) return false;
   environment_.boxes.Critical("Directory Error", problem);
   return true;
@@ -104,15 +104,15 @@ void GalleryCreator::MakeTempFolder() {
 
 /// Captures only the boxes: the failure may be reported long after this run and this object are gone.
 void GalleryCreator::OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex) {
-  const StartFailed tell = [&boxes = environment_.boxes](const RuntimeFailure& failure) {
+  const env::StartFailed tell = [&boxes = environment_.boxes](const env::RuntimeFailure& failure) {
     boxes.Critical("Error", "Error: " + std::to_string(failure.Number()) + "\r\r" + failure.Description());
   };
   try {
-    const PathMap& paths = environment_.files.Paths();
-    Launch(browserIndex == 0 ? DefaultOpener(indexFile, paths)
-                             : ListedBrowser(BrowserLocation(browserIndex), indexFile, paths),
-           environment_.shell, tell);
-  } catch (const RuntimeFailure& failure) {
+    const env::PathMap& paths = environment_.files.Paths();
+    env::Launch(browserIndex == 0 ? env::DefaultOpener(indexFile, paths)
+                                  : env::ListedBrowser(BrowserLocation(browserIndex), indexFile, paths),
+                environment_.shell, tell);
+  } catch (const env::RuntimeFailure& failure) {
     tell(failure);
   }
 }
@@ -120,9 +120,9 @@ void GalleryCreator::OpenInBrowser(const std::string& indexFile, std::int16_t br
 std::string GalleryCreator::BrowserLocation(std::int16_t browserIndex) const {
   const auto& browsers = preferences_.Browsers;
   if (browserIndex < 1 || static_cast<std::size_t>(browserIndex) > browsers.size()) {
-    throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+    throw env::RuntimeFailure(env::FailureKind::SubscriptOutOfRange);
   }
   return browsers[static_cast<std::size_t>(browserIndex) - 1].Location;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

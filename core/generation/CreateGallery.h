@@ -4,13 +4,14 @@
 #include "env/Preferences.h"
 #include "env/TempFolderLock.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Carries out every command that previews, creates, publishes or uploads.
 class GalleryCreator {
  public:
   /// Reads the location of the temporary folder from `preferences` and stores the last target there.
-  GalleryCreator(Project& project, Preferences& preferences, std::string programFolder, RunEnvironment environment)
+  GalleryCreator(core::Project& project, env::Preferences& preferences, std::string programFolder,
+                 RunEnvironment environment)
       : project_(project),
         preferences_(preferences),
         programFolder_(std::move(programFolder)),
@@ -35,15 +36,15 @@ class GalleryCreator {
   void MakeTempFolder();
   [[nodiscard]] std::filesystem::path NativeTempFolder() const;
   /// Returns true, after a message box with the reason, if the run may not use the temporary folder.
-  [[nodiscard]] bool RefuseTempFolder(const TempFolderLock& lock);
+  [[nodiscard]] bool RefuseTempFolder(const env::TempFolderLock& lock);
   [[nodiscard]] std::string TempFolder() const;
   void OpenInBrowser(const std::string& indexFile, std::int16_t browserIndex);
   [[nodiscard]] std::string BrowserLocation(std::int16_t browserIndex) const;
 
-  Project& project_;
-  Preferences& preferences_;
+  core::Project& project_;
+  env::Preferences& preferences_;
   std::string programFolder_;
   RunEnvironment environment_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

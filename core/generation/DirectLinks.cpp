@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 struct PageRange {
@@ -35,7 +35,7 @@ PageRange LinkedPages(std::int64_t page, std::int64_t pageCount, std::int64_t mo
 /// share are built once.
 class LinkAppender {
  public:
-  explicit LinkAppender(const GalleryProject& project)
+  explicit LinkAppender(const core::GalleryProject& project)
       : opening_(R"(<A HREF=")" + project.textThumbnailPageSettingsFilePrefix),
         afterNumber_(project.comboThumbnailPageSettingsFileExtension + R"(">)") {}
 
@@ -55,7 +55,7 @@ class LinkAppender {
 }  // namespace
 
 std::string BuildDirectLinks(const RunState& run, std::int32_t page) {
-  const std::int32_t most = ParseInt32(run.project.textPageLinksThumbnailMaxDirectLinks);
+  const std::int32_t most = env::ParseInt32(run.project.textPageLinksThumbnailMaxDirectLinks);
   const PageRange range = LinkedPages(page, run.ThumbnailPageCount, most);
   const LinkAppender links(run.project);
 
@@ -81,4 +81,4 @@ std::string BuildDirectLinks(const RunState& run, std::int32_t page) {
   return text;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Why a file could not be delivered, as a message box shows it.
 struct Refusal {
@@ -50,4 +50,4 @@ class GalleryTarget {
   [[nodiscard]] virtual Delivery StoreWrapperPage(const std::string& listText, std::string_view page) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

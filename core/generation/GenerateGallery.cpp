@@ -22,7 +22,7 @@
 #include <new>
 #include <span>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 PhaseResult StampAndSetPaths(const RunContext& context) {
@@ -31,15 +31,15 @@ PhaseResult StampAndSetPaths(const RunContext& context) {
   run.GalleryCreationTime = context.environment.clock.Now();
   run.ImageUrlPrefix = preview ? "images/" : UrlFolder(run.project.textImageSettingsSubFolder);
   run.ThumbUrlPrefix = preview ? "thumbs/" : UrlFolder(run.project.textThumbnailImageSettingsSubFolder);
-  run.LocalImagesDir = run.OutputFolder + WithBackslashes(run.ImageUrlPrefix);
-  run.LocalThumbsDir = run.OutputFolder + WithBackslashes(run.ThumbUrlPrefix);
+  run.LocalImagesDir = run.OutputFolder + env::WithBackslashes(run.ImageUrlPrefix);
+  run.LocalThumbsDir = run.OutputFolder + env::WithBackslashes(run.ThumbUrlPrefix);
   return kGoOn;
 }
 
 /// Removes the unfinished files of a killed run, which would otherwise stay forever.
 void TidyFolders(const RunState& run) {
   for (const std::string& folder : {run.OutputFolder, run.LocalImagesDir, run.LocalThumbsDir}) {
-    if (const auto native = run.files.Paths().ToNative(folder)) RemoveAbandonedNeighbours(*native);
+    if (const auto native = run.files.Paths().ToNative(folder)) env::RemoveAbandonedNeighbours(*native);
   }
 }
 
@@ -118,7 +118,7 @@ RunEnd RunTrapped(const RunContext& context) {
   constexpr std::int32_t kInternal = 51;
   try {
     return GoThroughPhases(context);
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     return FailUnexpectedly(context, failure.Description(), failure.Number());
   } catch (const std::bad_alloc&) {
     return FailUnexpectedly(context, "Out of memory", kOutOfMemory);
@@ -129,25 +129,26 @@ RunEnd RunTrapped(const RunContext& context) {
   }
 }
 
-std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunOrder& order, mFTP* ftp) {
+std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunOrder& order, publish::mFTP* ftp) {
   if (order.Mode == GenerationMode::Publish) return std::make_unique<ServerTarget>(run, order, *ftp);
   return std::make_unique<LocalTarget>(run);
 }
 
-std::string ProjectFileOf(const Project& project) {
+std::string ProjectFileOf(const core::Project& project) {
   if (project.IsUntitled || project.ProjectFileName.empty()) return {};
-  return WithTrailingBackslash(project.ProjectFolder) + project.ProjectFileName;
+  return env::WithTrailingBackslash(project.ProjectFolder) + project.ProjectFileName;
 }
 
 /// Sizes in percent never appear on a page, although the option can be set.
-void ForceOffSizesInPercent(Project& project) {
-  constexpr auto kField = &GalleryProject::checkImageWrapperImageSizesInPercent;
-  if (!IsOff(project.settings.*kField)) ProjectEditor(project.settings, project.IsModified).Set(kField, kOff);
+void ForceOffSizesInPercent(core::Project& project) {
+  constexpr auto kField = &core::GalleryProject::checkImageWrapperImageSizesInPercent;
+  if (!core::IsOff(project.settings.*kField))
+    core::ProjectEditor(project.settings, project.IsModified).Set(kField, core::kOff);
 }
 
 }  // namespace
 
-RunEnd GenerateGallery(Project& project, const RunOrder& order, const RunEnvironment& environment) {
+RunEnd GenerateGallery(core::Project& project, const RunOrder& order, const RunEnvironment& environment) {
   ForceOffSizesInPercent(project);
   RunWindows windows(project, order, environment);
   RunState run{.project = project.settings,
@@ -165,4 +166,4 @@ RunEnd GenerateGallery(Project& project, const RunOrder& order, const RunEnviron
   return end;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

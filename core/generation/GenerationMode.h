@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// The purpose of a run.
 enum class GenerationMode : std::int16_t {
@@ -16,4 +16,4 @@ enum class GenerationMode : std::int16_t {
   return mode == GenerationMode::Publish || mode == GenerationMode::Upload;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

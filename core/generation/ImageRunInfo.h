@@ -5,13 +5,13 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// What a run knows about one image in addition to its ImageEntry. Sizes are in pixels.
 struct ImageRunInfo {
-  std::string Path{};              ///< path text of the source file
-  std::string FileName{};          ///< name of the output file
-  vantorium::FileTime FileTime{};  ///< last write time of the source file
+  std::string Path{};                   ///< path text of the source file
+  std::string FileName{};               ///< name of the output file
+  vantorium::env::FileTime FileTime{};  ///< last write time of the source file
   std::int32_t Width = 0;
   std::int32_t Height = 0;
   std::int32_t ThumbWidth = 0;
@@ -20,4 +20,4 @@ struct ImageRunInfo {
   std::string ThumbFileSize = "0KB";
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -5,7 +5,7 @@
 #include "core/generation/PageText.h"
 #include "core/generation/TemplateTags.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 struct Frame {
@@ -27,9 +27,9 @@ void AddHead(PageText& page, const RunState& run) {
 
 /// A slide show that begins with the first image names its wrapper page, even if there are no wrapper pages.
 std::string FirstPage(const RunState& run) {
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   const bool beginsWithImage =
-      IsOn(project.checkGallerySlideShow) && SlideShowBeginOf(project) == SlideShowBegin::FirstImage;
+      core::IsOn(project.checkGallerySlideShow) && core::SlideShowBeginOf(project) == core::SlideShowBegin::FirstImage;
   return beginsWithImage ? WrapperPageName(project, run.ListText(1)) : ThumbnailPageName(project, 1);
 }
 
@@ -40,28 +40,28 @@ void AddSingleFrame(PageText& page, const RunState& run) {
   page.Line("</FRAMESET>");
 }
 
-std::string SizeText(std::int32_t size, const GalleryProject& project) {
-  return fmt::format("{}{}", size, IsOn(project.checkGalleryFrameSizeInPercent) ? "%" : "");
+std::string SizeText(std::int32_t size, const core::GalleryProject& project) {
+  return fmt::format("{}{}", size, core::IsOn(project.checkGalleryFrameSizeInPercent) ? "%" : "");
 }
 
 Frame ThumbnailFrame(const RunState& run) {
-  const GalleryProject& project = run.project;
-  const bool sized = SizedFrameOf(project) == SizedFrame::Thumbnails;
+  const core::GalleryProject& project = run.project;
+  const bool sized = core::SizedFrameOf(project) == core::SizedFrame::Thumbnails;
   return {project.textThumbnailFrameName, ThumbnailPageName(project, 1),
           sized ? SizeText(project.ThumbnailFrameSize, project) : "*"};
 }
 
 Frame ImageFrame(const RunState& run) {
-  const GalleryProject& project = run.project;
-  const bool sized = SizedFrameOf(project) != SizedFrame::Thumbnails;
+  const core::GalleryProject& project = run.project;
+  const bool sized = core::SizedFrameOf(project) != core::SizedFrame::Thumbnails;
   return {project.comboImageFrameName, ImageTarget(run, 1), sized ? SizeText(project.ImageFrameSize, project) : "*"};
 }
 
 // Spaces double where two of these pieces meet, and remain where a piece is empty.
-void AddFrames(PageText& page, const GalleryProject& project, std::string_view attribute, const Frame& first,
+void AddFrames(PageText& page, const core::GalleryProject& project, std::string_view attribute, const Frame& first,
                const Frame& second) {
-  const bool borders = IsOn(project.checkGalleryFramesDisplayBorders);
-  const std::string_view resize = IsOn(project.checkGalleryFramesResizable) ? "" : " NORESIZE ";
+  const bool borders = core::IsOn(project.checkGalleryFramesDisplayBorders);
+  const std::string_view resize = core::IsOn(project.checkGalleryFramesResizable) ? "" : " NORESIZE ";
   const std::string_view frameBorder = borders ? "" : R"( FRAMEBORDER="0" )";
   const std::string_view border = borders ? "" : R"( BORDER="0" )";
   page.Format(R"(<FRAMESET {}="{},{}"{}>)", attribute, first.size, second.size, border);
@@ -74,12 +74,12 @@ void AddFrames(PageText& page, const GalleryProject& project, std::string_view a
 void AddTwoFrames(PageText& page, const RunState& run) {
   const Frame thumbnails = ThumbnailFrame(run);
   const Frame image = ImageFrame(run);
-  switch (LayoutOf(run.project)) {
-    case GalleryLayout::ThumbnailsLeft:
+  switch (core::LayoutOf(run.project)) {
+    case core::GalleryLayout::ThumbnailsLeft:
       return AddFrames(page, run.project, "COLS", thumbnails, image);
-    case GalleryLayout::ThumbnailsRight:
+    case core::GalleryLayout::ThumbnailsRight:
       return AddFrames(page, run.project, "COLS", image, thumbnails);
-    case GalleryLayout::ThumbnailsTop:
+    case core::GalleryLayout::ThumbnailsTop:
       return AddFrames(page, run.project, "ROWS", thumbnails, image);
     default:
       return AddFrames(page, run.project, "ROWS", image, thumbnails);
@@ -91,7 +91,7 @@ void AddTwoFrames(PageText& page, const RunState& run) {
 std::string BuildIndexPage(const RunState& run) {
   PageText page;
   AddHead(page, run);
-  if (IsSingleFrame(run.project)) {
+  if (core::IsSingleFrame(run.project)) {
     AddSingleFrame(page, run);
   } else {
     AddTwoFrames(page, run);
@@ -100,4 +100,4 @@ std::string BuildIndexPage(const RunState& run) {
   return page.Take();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 
 #include "core/generation/PageLinks.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 constexpr std::string_view kEnd = "</A>";
@@ -16,8 +16,8 @@ class LinkBar {
       : run_(run), current_(current), total_(total) {}
 
   /// First and Previous: a blank after each form.
-  void Leading(LinkKind kind) {
-    const LinkSettings& link = LinkOf(run_.project, kind);
+  void Leading(core::LinkKind kind) {
+    const core::LinkSettings& link = LinkOf(run_.project, kind);
     const std::string anchor = Anchor(kind);
     if (!link.textLinkGraphic.empty()) {
       Add(anchor, Graphic(kind), kEndAndBlank);
@@ -28,8 +28,8 @@ class LinkBar {
 
   /// Next and Last: a blank before the first form and between the two. A link with a graphic has the text form too if
   /// `testedLabel` is not empty.
-  void Trailing(LinkKind kind, const std::string& testedLabel) {
-    const LinkSettings& link = LinkOf(run_.project, kind);
+  void Trailing(core::LinkKind kind, const std::string& testedLabel) {
+    const core::LinkSettings& link = LinkOf(run_.project, kind);
     const std::string anchor = Anchor(kind);
     bar_ += kBlank;
     if (link.textLinkGraphic.empty()) {
@@ -42,13 +42,13 @@ class LinkBar {
 
   /// If the link has both forms, the graphic appears on both sides of the text.
   void Index() {
-    const LinkSettings& link = LinkOf(run_.project, LinkKind::Index);
-    const std::string anchor = Anchor(LinkKind::Index);
+    const core::LinkSettings& link = LinkOf(run_.project, core::LinkKind::Index);
+    const std::string anchor = Anchor(core::LinkKind::Index);
     if (link.textLinkGraphic.empty()) {
       Add(anchor, link.textLinkLabel, kEnd);
       return;
     }
-    const std::string graphic = Graphic(LinkKind::Index);
+    const std::string graphic = Graphic(core::LinkKind::Index);
     Add(anchor, graphic, kEndAndBlank);
     if (link.textLinkLabel.empty()) return;
     Add(anchor, link.textLinkLabel, kEndAndBlank);
@@ -60,8 +60,10 @@ class LinkBar {
   [[nodiscard]] std::string Take() { return std::move(bar_); }
 
  private:
-  [[nodiscard]] std::string Anchor(LinkKind kind) const { return BuildLinkAnchor(run_, kind, current_, total_); }
-  [[nodiscard]] std::string Graphic(LinkKind kind) const { return BuildLinkGraphic(run_, kind, current_, total_); }
+  [[nodiscard]] std::string Anchor(core::LinkKind kind) const { return BuildLinkAnchor(run_, kind, current_, total_); }
+  [[nodiscard]] std::string Graphic(core::LinkKind kind) const {
+    return BuildLinkGraphic(run_, kind, current_, total_);
+  }
 
   void Add(std::string_view anchor, std::string_view shown, std::string_view end) {
     bar_.append(anchor).append(shown).append(end);
@@ -77,27 +79,27 @@ class LinkBar {
 
 std::string BuildThumbnailPageBar(const RunState& run, std::int32_t page) {
   if (run.ThumbnailPageCount == 1) return {};
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   LinkBar bar(run, page, run.ThumbnailPageCount);
-  bar.Leading(LinkKind::FirstThumbnailPage);
-  bar.Leading(LinkKind::PreviousThumbnailPage);
-  if (IsOn(project.checkPageLinksThumbnailDirectLinks)) bar.Text(run.DirectLinksText);
-  bar.Trailing(LinkKind::NextThumbnailPage, project.ThumbnailNextLink.textLinkLabel);
-  bar.Trailing(LinkKind::LastThumbnailPage, project.ThumbnailLastLink.textLinkLabel);
+  bar.Leading(core::LinkKind::FirstThumbnailPage);
+  bar.Leading(core::LinkKind::PreviousThumbnailPage);
+  if (core::IsOn(project.checkPageLinksThumbnailDirectLinks)) bar.Text(run.DirectLinksText);
+  bar.Trailing(core::LinkKind::NextThumbnailPage, project.ThumbnailNextLink.textLinkLabel);
+  bar.Trailing(core::LinkKind::LastThumbnailPage, project.ThumbnailLastLink.textLinkLabel);
   return bar.Take();
 }
 
 std::string BuildImagePageBar(const RunState& run, std::int32_t image) {
   if (run.ImageCount == 1) return {};
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   LinkBar bar(run, image, run.ImageCount);
-  bar.Leading(LinkKind::FirstImage);
-  bar.Leading(LinkKind::PreviousImage);
-  if (IsSingleFrame(project)) bar.Index();
+  bar.Leading(core::LinkKind::FirstImage);
+  bar.Leading(core::LinkKind::PreviousImage);
+  if (core::IsSingleFrame(project)) bar.Index();
   // Next tests the label of Previous, to match existing galleries.
-  bar.Trailing(LinkKind::NextImage, project.ImagePreviousLink.textLinkLabel);
-  bar.Trailing(LinkKind::LastImage, project.ImageLastLink.textLinkLabel);
+  bar.Trailing(core::LinkKind::NextImage, project.ImagePreviousLink.textLinkLabel);
+  bar.Trailing(core::LinkKind::LastImage, project.ImageLastLink.textLinkLabel);
   return bar.Take();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

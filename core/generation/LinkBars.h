@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Returns the link bar of thumbnail page `page`; empty if it is the only page. Includes run.DirectLinksText if the
 /// project uses direct links.
@@ -15,4 +15,4 @@ namespace vantorium {
 /// has a link to the thumbnails and throws like ThumbnailPageOfImage.
 [[nodiscard]] std::string BuildImagePageBar(const RunState& run, std::int32_t image);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

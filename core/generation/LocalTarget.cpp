@@ -10,12 +10,12 @@
 
 #include <cerrno>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 std::filesystem::path NativeOrThrow(const RunState& run, const std::string& path) {
   auto native = run.files.Paths().ToNative(path);
-  if (!native) ThrowFileAccess(path, ENODEV);
+  if (!native) env::ThrowFileAccess(path, ENODEV);
   return *std::move(native);
 }
 
@@ -60,9 +60,9 @@ Delivery LocalTarget::CopyImage(const ImageRunInfo& image) {
 
 Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
   if (!IsPlainFileName(image.FileName)) return FileError(UnableToCopy(image.Path));
-  WriteJPEGFile(NativeOrThrow(run_, LocalImagePath(run_, image)), jpeg);
+  image::WriteJPEGFile(NativeOrThrow(run_, LocalImagePath(run_, image)), jpeg);
   run_.files.CopyFileTimes(image.Path, LocalImagePath(run_, image));
-  image.FileSize = FileSizeText(jpeg.size());
+  image.FileSize = env::FileSizeText(jpeg.size());
   return {};
 }
 
@@ -70,7 +70,7 @@ Delivery LocalTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view
   if (!IsPlainFileName(image.FileName) || LeavesFolder(ThumbnailFileName(run_.project, image))) {
     return FileError(UnableToCreateThumbnail(image.Path));
   }
-  WriteJPEGFile(NativeOrThrow(run_, LocalThumbnailPath(run_, image)), jpeg);
+  image::WriteJPEGFile(NativeOrThrow(run_, LocalThumbnailPath(run_, image)), jpeg);
   return {};
 }
 
@@ -93,14 +93,14 @@ Delivery LocalTarget::StoreThumbnailPage(std::int32_t number, std::string_view p
 
 Delivery LocalTarget::StoreWrapperPage(const std::string& listText, std::string_view page) {
   const std::string name = WrapperPageName(run_.project, listText);
-  if (!IsPlainFileName(name)) ThrowFileAccess(name, EACCES);
+  if (!IsPlainFileName(name)) env::ThrowFileAccess(name, EACCES);
   WritePage(name, page);
   return {};
 }
 
 void LocalTarget::WritePage(const std::string& name, std::string_view page) const {
-  if (LeavesFolder(name)) ThrowFileAccess(name, EACCES);
-  WriteFileWhole(NativeOrThrow(run_, run_.OutputFolder + name), page);
+  if (LeavesFolder(name)) env::ThrowFileAccess(name, EACCES);
+  env::WriteFileWhole(NativeOrThrow(run_, run_.OutputFolder + name), page);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

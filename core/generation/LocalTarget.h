@@ -3,7 +3,7 @@
 #include "core/generation/GalleryTarget.h"
 #include "core/generation/RunState.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// The target of Create and Preview: the output folder.
 class LocalTarget : public GalleryTarget {
@@ -29,4 +29,4 @@ class LocalTarget : public GalleryTarget {
   const RunState& run_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

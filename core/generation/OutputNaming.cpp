@@ -2,22 +2,22 @@
 
 #include "env/PathText.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 std::string BuildFileName(const std::string& listText, const std::string& sourcePath) {
-  return listText + GetFileExtension(sourcePath);
+  return listText + env::GetFileExtension(sourcePath);
 }
 
-std::string ThumbnailPageName(const GalleryProject& project, std::int32_t page) {
+std::string ThumbnailPageName(const core::GalleryProject& project, std::int32_t page) {
   return project.textThumbnailPageSettingsFilePrefix + std::to_string(page) +
          project.comboThumbnailPageSettingsFileExtension;
 }
 
-std::string WrapperPageName(const GalleryProject& project, const std::string& listText) {
+std::string WrapperPageName(const core::GalleryProject& project, const std::string& listText) {
   return listText + project.comboImageWrapperSettingsFileExtension;
 }
 
-std::string ThumbnailFileName(const GalleryProject& project, const ImageRunInfo& image) {
+std::string ThumbnailFileName(const core::GalleryProject& project, const ImageRunInfo& image) {
   return project.textThumbnailImageSettingsFilePrefix + image.FileName;
 }
 
@@ -30,7 +30,7 @@ std::string LocalThumbnailPath(const RunState& run, const ImageRunInfo& image) {
 }
 
 std::string UrlFolder(const std::string& folder) {
-  std::string url = WithSlashes(folder);
+  std::string url = env::WithSlashes(folder);
   if (!url.ends_with('/')) url += '/';
   return url;
 }
@@ -41,14 +41,14 @@ std::string ImageUrl(const RunState& run, std::int32_t image) {
 }
 
 std::string ImageTarget(const RunState& run, std::int32_t image) {
-  if (IsOn(run.project.checkImageWrapperUse)) return WrapperPageName(run.project, run.ListText(image));
+  if (core::IsOn(run.project.checkImageWrapperUse)) return WrapperPageName(run.project, run.ListText(image));
   return ImageUrl(run, image);
 }
 
 std::string SourceUrl(const RunState& run, std::int32_t image) {
   const std::string& path = run.Info(image).Path;
   const auto native = run.files.Paths().ToNative(path);
-  return "file://" + (native ? native->string() : WithSlashes(path));
+  return "file://" + (native ? native->string() : env::WithSlashes(path));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

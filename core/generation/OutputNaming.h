@@ -5,19 +5,19 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Name of an image's output file: the list text and the extension of the source.
 [[nodiscard]] std::string BuildFileName(const std::string& listText, const std::string& sourcePath);
 
 /// Name of thumbnail page `page`.
-[[nodiscard]] std::string ThumbnailPageName(const GalleryProject& project, std::int32_t page);
+[[nodiscard]] std::string ThumbnailPageName(const core::GalleryProject& project, std::int32_t page);
 
 /// Name of the wrapper page of the image with list text `listText`.
-[[nodiscard]] std::string WrapperPageName(const GalleryProject& project, const std::string& listText);
+[[nodiscard]] std::string WrapperPageName(const core::GalleryProject& project, const std::string& listText);
 
 /// Name of an image's thumbnail file.
-[[nodiscard]] std::string ThumbnailFileName(const GalleryProject& project, const ImageRunInfo& image);
+[[nodiscard]] std::string ThumbnailFileName(const core::GalleryProject& project, const ImageRunInfo& image);
 
 /// Local path (path text) of an image's output file: in the images folder or, when publishing, directly in the
 /// temporary folder.
@@ -38,4 +38,4 @@ namespace vantorium {
 /// The "file://" URL of a source file: its native path with slashes, without any encoding.
 [[nodiscard]] std::string SourceUrl(const RunState& run, std::int32_t image);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 std::string EncodePage(std::string page) {
   const bool ascii =
@@ -11,4 +11,4 @@ std::string EncodePage(std::string page) {
   return page;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

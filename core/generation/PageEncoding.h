@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 inline constexpr std::string_view kUtf8ByteOrderMark = "\xEF\xBB\xBF";
 
@@ -11,4 +11,4 @@ inline constexpr std::string_view kUtf8ByteOrderMark = "\xEF\xBB\xBF";
 /// mark, so that a browser needs no declaration of the encoding.
 [[nodiscard]] std::string EncodePage(std::string page);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

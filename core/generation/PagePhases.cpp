@@ -7,7 +7,7 @@
 #include "core/generation/ThumbnailPage.h"
 #include "core/generation/WrapperPage.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 PhaseResult WriteThumbnailPage(const RunContext& context, std::int32_t page, std::int32_t firstImage) {
@@ -49,11 +49,11 @@ PhaseResult WriteThumbnailPages(const RunContext& context) {
 }
 
 PhaseResult WriteWrapperPages(const RunContext& context) {
-  if (!IsOn(context.run.project.checkImageWrapperUse)) return kGoOn;
+  if (!core::IsOn(context.run.project.checkImageWrapperUse)) return kGoOn;
   for (std::int32_t image = 1; image <= context.run.ImageCount; ++image) {
     if (auto end = WriteWrapperPage(context, image)) return end;
   }
   return kGoOn;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

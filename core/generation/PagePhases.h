@@ -2,7 +2,7 @@
 
 #include "core/generation/RunContext.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 // The page phases of a run: each page is built, then stored at the target.
 
@@ -10,4 +10,4 @@ namespace vantorium {
 [[nodiscard]] PhaseResult WriteThumbnailPages(const RunContext& context);
 [[nodiscard]] PhaseResult WriteWrapperPages(const RunContext& context);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

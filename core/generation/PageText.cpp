@@ -1,6 +1,6 @@
 #include "core/generation/PageText.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 void PageText::UserCode(std::string_view place, std::string_view code, std::string_view indent) {
   Format("{}<!-- BEGIN USER DEFINED {} -->", indent, place);
@@ -8,4 +8,4 @@ void PageText::UserCode(std::string_view place, std::string_view code, std::stri
   Format("{}<!-- END USER DEFINED {} -->", indent, place);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -1,6 +1,6 @@
 #include "core/generation/PictureRecipes.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 namespace {
 
@@ -12,37 +12,37 @@ std::uint64_t NoiseOfThumbnail(std::int32_t image) {
   return NoiseOfImage(image) + 1;
 }
 
-std::shared_ptr<const WatermarkPainter> PainterOf(const WatermarkSettings& settings, const Screen& screen,
-                                                  const TextRaster& texts) {
-  if (!IsOn(settings.checkUseWatermark)) return nullptr;
-  return std::make_shared<const WatermarkPainter>(settings, screen.PixelsPerInch(), texts);
+std::shared_ptr<const image::WatermarkPainter> PainterOf(const image::WatermarkSettings& settings,
+                                                         const env::Screen& screen, const image::TextRaster& texts) {
+  if (!core::IsOn(settings.checkUseWatermark)) return nullptr;
+  return std::make_shared<const image::WatermarkPainter>(settings, screen.PixelsPerInch(), texts);
 }
 
 }  // namespace
 
-void PrepareWatermarks(RunState& run, const Screen& screen, const TextRaster& texts) {
+void PrepareWatermarks(RunState& run, const env::Screen& screen, const image::TextRaster& texts) {
   run.ImageWatermark = PainterOf(run.project.ImageWatermark, screen, texts);
   run.ThumbnailWatermark = PainterOf(run.project.ThumbnailWatermark, screen, texts);
 }
 
-std::optional<PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image) {
-  const GalleryProject& project = run.project;
+std::optional<image::PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image) {
+  const core::GalleryProject& project = run.project;
   const bool resized =
-      IsOff(project.checkImageWrapperImageKeepSize) && IsOn(project.checkImageWrapperImagePhysicalResize);
+      core::IsOff(project.checkImageWrapperImageKeepSize) && core::IsOn(project.checkImageWrapperImagePhysicalResize);
   if (!resized && !project.ImageFilters.AnyFilter() && !run.ImageWatermark) return std::nullopt;
-  PictureRecipe recipe{
+  image::PictureRecipe recipe{
       .noiseNumber = NoiseOfImage(image), .filters = project.ImageFilters, .watermark = run.ImageWatermark};
   const ImageRunInfo& info = run.Info(image);
-  if (resized) recipe.size = PictureSize{info.Width, info.Height};
+  if (resized) recipe.size = image::PictureSize{info.Width, info.Height};
   return recipe;
 }
 
-PictureRecipe ThumbnailRecipe(const RunState& run, std::int32_t image) {
+image::PictureRecipe ThumbnailRecipe(const RunState& run, std::int32_t image) {
   const ImageRunInfo& info = run.Info(image);
   return {.noiseNumber = NoiseOfThumbnail(image),
-          .size = PictureSize{info.ThumbWidth, info.ThumbHeight},
+          .size = image::PictureSize{info.ThumbWidth, info.ThumbHeight},
           .filters = run.project.ThumbnailFilters,
           .watermark = run.ThumbnailWatermark};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

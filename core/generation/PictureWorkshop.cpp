@@ -11,7 +11,7 @@
 #include <asio/io_context.hpp>
 #include <asio/post.hpp>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 // Enough for three multi-scan pictures of 24 megapixels.
@@ -56,7 +56,7 @@ PictureWorkshop::~PictureWorkshop() {
 
 MadePictures PictureWorkshop::Make(const PictureTask& task) {
   const auto stamp = StampOf(task.source);
-  return {MakePictures(task.source, task.request, {stop_.get_token(), budget_}), stamp};
+  return {image::MakePictures(task.source, task.request, {stop_.get_token(), budget_}), stamp};
 }
 
 /// How many numbers are planned at a time, including the one asked for.
@@ -90,4 +90,4 @@ std::optional<MadePictures> PictureWorkshop::Take(std::int32_t number, const Wai
   return made.get();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -10,17 +10,17 @@
 #include <memory>
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// One photograph to process.
 struct PictureTask {
   std::filesystem::path source;
-  PictureRequest request;
+  image::PictureRequest request;
 };
 
 /// The result of a task, and the file it was made from.
 struct MadePictures {
-  PictureFiles files;
+  image::PictureFiles files;
   std::optional<SourceStamp> source;  ///< stamp of the file before it was read
 };
 
@@ -61,10 +61,10 @@ class PictureWorkshop {
   Plan plan_;
   std::int32_t count_;
   std::int32_t planned_ = 0;  // the last planned number
-  CoefficientBudget budget_;
+  image::CoefficientBudget budget_;
   std::stop_source stop_;
   std::deque<Ahead> ahead_;
   std::unique_ptr<Workers> workers_;  // last, so that it is destroyed first
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

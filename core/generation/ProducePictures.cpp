@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// A thumbnail made together with its image.
@@ -43,8 +43,9 @@ class PictureProduction {
 
   [[nodiscard]] std::optional<PictureTask> PlanImage(Number number);
   [[nodiscard]] std::optional<PictureTask> PlanThumbnail(Number number);
-  [[nodiscard]] PictureTask Task(Number number, PictureRequest request) const;
-  [[nodiscard]] std::optional<PictureFiles> Take(PictureWorkshop& workshop, Number number, const PictureTask& task);
+  [[nodiscard]] PictureTask Task(Number number, image::PictureRequest request) const;
+  [[nodiscard]] std::optional<image::PictureFiles> Take(PictureWorkshop& workshop, Number number,
+                                                        const PictureTask& task);
   [[nodiscard]] std::optional<std::string> EarlyBytes(Number number) const;
   void KeepThumbnail(Number number, const MadePictures& made);
 
@@ -125,7 +126,7 @@ PhaseResult PictureProduction::CopyImage(Number number) {
   ImageRunInfo& image = InfoOf(number);
   try {
     image.FileSize = run_.files.GetFileSizeText(image.Path);
-  } catch (const RuntimeFailure&) {
+  } catch (const env::RuntimeFailure&) {
     return ImageNotLoaded(number);
   }
   return context_.Settle(context_.target.CopyImage(image));
@@ -144,7 +145,7 @@ PhaseResult PictureProduction::MakeImage(PictureWorkshop& workshop, Number numbe
 std::optional<PictureTask> PictureProduction::PlanImage(Number number) {
   const auto recipe = ImageRecipe(run_, number);
   if (!recipe || WillKeepImage(number)) return std::nullopt;
-  PictureRequest request{recipe, {}};
+  image::PictureRequest request{recipe, {}};
   if (context_.order.CreateThumbnails && !WillKeepThumbnail(number)) {
     request.thumbnail = ThumbnailRecipe(run_, number);
   }
@@ -155,7 +156,7 @@ PhaseResult PictureProduction::SizeStep(Number number) {
   if (auto end = Begin("Getting Image File Size for", number)) return end;
   try {
     InfoOf(number).FileSize = context_.target.ImageSizeText(InfoOf(number));
-  } catch (const RuntimeFailure&) {
+  } catch (const env::RuntimeFailure&) {
     // A missing image keeps "0KB".
   }
   return kGoOn;
@@ -188,7 +189,7 @@ std::optional<PictureTask> PictureProduction::PlanThumbnail(Number number) {
 }
 
 void PictureProduction::KeepThumbnail(Number number, const MadePictures& made) {
-  const PictureFile& thumbnail = made.files.thumbnail;
+  const image::PictureFile& thumbnail = made.files.thumbnail;
   if (thumbnail.jpeg.empty() || !made.source) return;
   const auto place = spool_.Put(thumbnail.jpeg);
   if (place) early_.at(static_cast<std::size_t>(number) - 1) = EarlyThumbnail{*made.source, *place};
@@ -204,14 +205,15 @@ std::optional<std::string> PictureProduction::EarlyBytes(Number number) const {
 
 // Both
 
-PictureTask PictureProduction::Task(Number number, PictureRequest request) const {
-  request.corrections = CorrectionsOf(run_.project);
+PictureTask PictureProduction::Task(Number number, image::PictureRequest request) const {
+  request.corrections = core::CorrectionsOf(run_.project);
   return {run_.files.Paths().ToNative(run_.Info(number).Path).value_or(""), std::move(request)};
 }
 
 /// Returns the result of the work done ahead for `number`. If there is none, or the source has changed since, runs
 /// `task` now. Returns nullopt if the run was cancelled meanwhile.
-std::optional<PictureFiles> PictureProduction::Take(PictureWorkshop& workshop, Number number, const PictureTask& task) {
+std::optional<image::PictureFiles> PictureProduction::Take(PictureWorkshop& workshop, Number number,
+                                                           const PictureTask& task) {
   bool cancelled = false;
   auto made = workshop.Take(number, [&] {
     cancelled = context_.Cancelled();
@@ -232,4 +234,4 @@ PhaseResult ProducePictures(const RunContext& context) {
   return production.Thumbnails();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

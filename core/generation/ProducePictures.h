@@ -2,7 +2,7 @@
 
 #include "core/generation/RunContext.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Produces the images of the gallery, copied or decoded, changed and encoded, and then its thumbnails. If no images
 /// are to be made, reads their sizes from the target.
@@ -11,4 +11,4 @@ namespace vantorium {
 /// visible (announcements, polls, files, failures) happens here, picture by picture, as if each were made at its turn.
 [[nodiscard]] PhaseResult ProducePictures(const RunContext& context);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

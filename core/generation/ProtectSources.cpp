@@ -9,7 +9,7 @@
 #include <set>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// A file that the run will write.
@@ -82,7 +82,7 @@ Outputs OutputsOfImage(const RunContext& context, std::int32_t number) {
   Outputs outputs;
   if (produces && context.order.CreateImages) AddImage(outputs, context, number);
   if (produces && context.order.CreateThumbnails) AddThumbnail(outputs, context, number);
-  if (context.order.CreateHTML && IsOn(run.project.checkImageWrapperUse)) {
+  if (context.order.CreateHTML && core::IsOn(run.project.checkImageWrapperUse)) {
     outputs.push_back(Page(run, WrapperPageName(run.project, run.ListText(number))));
   }
   return outputs;
@@ -159,4 +159,4 @@ PhaseResult ProtectSources(const RunContext& context) {
   return CheckPages(context, sources);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 
 #include "core/generation/RunContext.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Ends the run in failure, before its first picture is made, if it would overwrite a file that the gallery is made
 /// from: a photograph, a backdrop, a link graphic or the project file. Files are compared by device and inode, so
@@ -10,4 +10,4 @@ namespace vantorium {
 /// changes nothing.
 [[nodiscard]] PhaseResult ProtectSources(const RunContext& context);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -7,14 +7,14 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// What the phases of a run work with, and the operations they share.
 struct RunContext {
   RunState& run;
   const RunOrder& order;
   const RunEnvironment& environment;
-  ProgressWindow& progress;
+  publish::ProgressWindow& progress;
   GalleryTarget& target;
 
   /// Shows `text` in the status bar and in the progress window.
@@ -52,4 +52,4 @@ struct RunContext {
   void Advance(std::int32_t steps = 1) const { progress.SetProgress(progress.GetProgress() + steps); }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

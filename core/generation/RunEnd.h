@@ -2,7 +2,7 @@
 
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// How a run ended, or that it never started.
 enum class RunEnd { NotStarted, Success, Failure, Cancelled };
@@ -12,4 +12,4 @@ using PhaseResult = std::optional<RunEnd>;
 
 inline constexpr PhaseResult kGoOn = std::nullopt;
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

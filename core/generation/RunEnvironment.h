@@ -5,13 +5,13 @@
 #include "core/generation/RunHost.h"
 #include "publish/mFTP.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Everything a run needs from the program. The owner keeps these alive until the run ends.
-struct RunEnvironment : Ports {
+struct RunEnvironment : core::Ports {
   RunHost& host;
   CancelCheck& cancel;
-  mFTP* ftp = nullptr;  ///< null in a program that only creates and previews
+  publish::mFTP* ftp = nullptr;  ///< null in a program that only creates and previews
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -7,17 +7,17 @@
 #include <memory>
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// What a run needs from the main window.
-class RunHost : public virtual WindowState {
+class RunHost : public virtual env::WindowState {
  public:
   /// Shows the dialog that starts a run, modally. Returns nullopt if the user cancels it. A program without a window
   /// gives its order itself and keeps this.
   [[nodiscard]] virtual std::optional<RunOrder> AskWhatToCreate() { return std::nullopt; }
-  [[nodiscard]] virtual std::unique_ptr<ProgressWindow> CreateProgressWindow() = 0;
+  [[nodiscard]] virtual std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() = 0;
   /// Sets whether the tray icon responds.
   virtual void EnableTrayIcon(bool /*enabled*/) {}
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

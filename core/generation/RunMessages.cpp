@@ -1,6 +1,6 @@
 #include "core/generation/RunMessages.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 std::string UnableToCopy(const std::string& source) {
   return "Unable to copy the File \"" + source + "\".";
@@ -18,4 +18,4 @@ std::string UnableToCreatePage(const std::string& page) {
   return "Unable to create the File \"" + page + "\".";
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 // The messages about files that a run cannot make. A path is the source file's, except where a page is meant.
 
@@ -13,4 +13,4 @@ namespace vantorium {
 /// `page`: its path, here or on the server.
 [[nodiscard]] std::string UnableToCreatePage(const std::string& page);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -3,7 +3,7 @@
 #include "env/PathText.h"
 #include "publish/FTPPath.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// Returns a remote folder to which a name can be appended.
@@ -15,19 +15,19 @@ std::string WithTrailingSeparator(const std::string& folder) {
 }  // namespace
 
 void SetIndexFile(RunOrder& order, const std::string& path) {
-  order.IndexFileName = GetFileName(path);
+  order.IndexFileName = env::GetFileName(path);
   // GetFilePath would drop a leading separator.
   order.OutputFolder = path.substr(0, path.size() - order.IndexFileName.size());
 }
 
 void SetRemoteFolder(RunOrder& order, const std::string& folder) {
-  order.RemoteFolder = FTPGetFilePath(WithTrailingSeparator(folder));
+  order.RemoteFolder = publish::FTPGetFilePath(WithTrailingSeparator(folder));
 }
 
 void SetRemoteIndexFile(RunOrder& order, const std::string& folder, const std::string& file) {
   const std::string remote = WithTrailingSeparator(folder) + file;
-  order.RemoteFolder = FTPGetFilePath(remote);
-  order.RemoteIndexFileName = FTPGetFileName(remote);
+  order.RemoteFolder = publish::FTPGetFilePath(remote);
+  order.RemoteIndexFileName = publish::FTPGetFileName(remote);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// What a run does, and where: the user's choice in the dialog or on the command line. Folders and paths are path text;
 /// remote ones have forward slashes.
@@ -37,4 +37,4 @@ void SetRemoteFolder(RunOrder& order, const std::string& folder);
 /// Sets folder and name of a gallery on the server. `file` may have folders too.
 void SetRemoteIndexFile(RunOrder& order, const std::string& folder, const std::string& file);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

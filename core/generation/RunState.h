@@ -12,14 +12,14 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// The state of a run, which its page builders read. Images and pages are numbered from 1.
 struct RunState {
-  const GalleryProject& project;
-  const ImageList& images;
-  const mFileFunctions& files;
-  const RegionalFormats& formats;
+  const core::GalleryProject& project;
+  const core::ImageList& images;
+  const env::mFileFunctions& files;
+  const env::RegionalFormats& formats;
   GenerationMode mode = GenerationMode::Create;
 
   std::string ProjectFolder{};   ///< folder of the project file, path text
@@ -31,8 +31,8 @@ struct RunState {
   std::string LocalImagesDir{};  ///< path text with a trailing backslash
   std::string LocalThumbsDir{};  ///< path text with a trailing backslash
 
-  std::shared_ptr<const WatermarkPainter> ImageWatermark{};      ///< null if images get none
-  std::shared_ptr<const WatermarkPainter> ThumbnailWatermark{};  ///< null if thumbnails get none
+  std::shared_ptr<const image::WatermarkPainter> ImageWatermark{};      ///< null if images get none
+  std::shared_ptr<const image::WatermarkPainter> ThumbnailWatermark{};  ///< null if thumbnails get none
 
   std::vector<ImageRunInfo> RunInfo{};  ///< element i - 1 is for image i
   std::int32_t ImageCount = 0;
@@ -41,17 +41,17 @@ struct RunState {
   std::int32_t MaxImageHeight = 0;
   std::int32_t MaxThumbWidth = 0;
   std::int32_t MaxThumbHeight = 0;
-  std::string DirectLinksText{};    ///< for the current thumbnail page
-  CivilTime GalleryCreationTime{};  ///< local time
+  std::string DirectLinksText{};         ///< for the current thumbnail page
+  env::CivilTime GalleryCreationTime{};  ///< local time
 
   [[nodiscard]] const ImageRunInfo& Info(std::int32_t image) const {
     return RunInfo.at(static_cast<std::size_t>(image) - 1);
   }
-  [[nodiscard]] const ImageEntry& Entry(std::int32_t image) const {
+  [[nodiscard]] const core::ImageEntry& Entry(std::int32_t image) const {
     return images.Entry(static_cast<std::size_t>(image));
   }
   /// The image's name in the list.
   [[nodiscard]] const std::string& ListText(std::int32_t image) const { return Entry(image).ImageName; }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 struct ModeTexts {
@@ -20,9 +20,9 @@ constexpr std::array<ModeTexts, 4> kModeTexts = {{
 
 /// Maximum of the progress bar: for each image, one step for collecting its information and one for each phase that
 /// processes it.
-std::int32_t ProgressMaximum(const Project& project, const RunOrder& order) {
+std::int32_t ProgressMaximum(const core::Project& project, const RunOrder& order) {
   if (order.Mode == GenerationMode::Upload) return 100;
-  const bool wrappers = IsOn(project.settings.checkImageWrapperUse);
+  const bool wrappers = core::IsOn(project.settings.checkImageWrapperUse);
   const int phases = order.Mode == GenerationMode::Preview
                          ? 1 + (wrappers ? 1 : 0)
                          : int{order.CreateImages} + int{order.CreateThumbnails} + int{order.CreateHTML} +
@@ -30,8 +30,8 @@ std::int32_t ProgressMaximum(const Project& project, const RunOrder& order) {
   return static_cast<std::int32_t>(project.images.Count()) * (phases + 1);
 }
 
-std::unique_ptr<ProgressWindow> OpenProgressWindow(const Project& project, const RunOrder& order,
-                                                   const RunEnvironment& environment) {
+std::unique_ptr<publish::ProgressWindow> OpenProgressWindow(const core::Project& project, const RunOrder& order,
+                                                            const RunEnvironment& environment) {
   auto progress = environment.host.CreateProgressWindow();
   progress->LogToFile = SendsToServer(order.Mode);
   progress->SetMax(ProgressMaximum(project, order));
@@ -48,7 +48,7 @@ std::unique_ptr<ProgressWindow> OpenProgressWindow(const Project& project, const
 
 }  // namespace
 
-RunWindows::RunWindows(const Project& project, const RunOrder& order, const RunEnvironment& environment)
+RunWindows::RunWindows(const core::Project& project, const RunOrder& order, const RunEnvironment& environment)
     : environment_(environment),
       busy_(environment.host),
       disabled_(environment.host),
@@ -92,14 +92,14 @@ void RunWindows::ShowFailure() {
   progress_->SetText3("", /*append=*/false);
   busy_.reset();
   progress_->ShowBusyPointer(false);
-  environment_.shell.Beep(BeepKind::Warning);
+  environment_.shell.Beep(env::BeepKind::Warning);
   while (!progress_->CloseRequested) environment_.loop.Wait();
 }
 
 void RunWindows::ShowCancel() {
-  environment_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Creation cancelled",
+  environment_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "Creation cancelled",
                           "The User has cancelled Creation of the Gallery");
   environment_.host.SetStatusText("");
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -4,16 +4,16 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of("/\\") == std::string_view::npos &&
-         name.find('\0') == std::string_view::npos && !HasDrive(name);
+         name.find('\0') == std::string_view::npos && !env::HasDrive(name);
 }
 
 bool LeavesFolder(std::string_view relativePath) {
-  if (HasDrive(relativePath)) return true;
-  const std::string path = "/" + WithSlashes(relativePath) + "/";
+  if (env::HasDrive(relativePath)) return true;
+  const std::string path = "/" + env::WithSlashes(relativePath) + "/";
   return path.find("/../") != std::string::npos || path.find('\0') != std::string::npos;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

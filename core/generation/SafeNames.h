@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Returns true if `name` is a single plain file name: no separator, no drive, not "." or "..". List texts come from
 /// project files of any origin, and a run must write only inside the gallery's folder.
@@ -12,4 +12,4 @@ namespace vantorium {
 /// drive.
 [[nodiscard]] bool LeavesFolder(std::string_view relativePath);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

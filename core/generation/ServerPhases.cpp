@@ -2,7 +2,7 @@
 
 #include "publish/UploadFolder.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 const char kFtpError[] = "FTP Error";
@@ -24,7 +24,7 @@ PhaseResult AfterClosing(const RunContext& context, bool worked, const std::stri
 
 PhaseResult OpenServerSession(const RunContext& context) {
   const RunOrder& order = context.order;
-  mFTP& ftp = *context.environment.ftp;
+  publish::mFTP& ftp = *context.environment.ftp;
   context.progress.SetText2("Connecting...");
   if (auto end = After(context, ftp.FTPConnect(order.ServerAddress, order.Port),
                        "Cannot connect to Server.  Please check your Internet Connection and Server URL.")) {
@@ -43,8 +43,8 @@ PhaseResult OpenServerSession(const RunContext& context) {
 PhaseResult SendFolder(const RunContext& context) {
   const RunOrder& order = context.order;
   const RunEnvironment& environment = context.environment;
-  FolderUpload upload({*environment.ftp, context.run.files.Paths(), environment.boxes, environment.loop,
-                       environment.cancel, context.progress, environment.host});
+  publish::FolderUpload upload({*environment.ftp, context.run.files.Paths(), environment.boxes, environment.loop,
+                                environment.cancel, context.progress, environment.host});
   const std::int32_t steps = upload.CountSteps(order.OutputFolder);
   if (environment.cancel.CancelRequested()) return RunEnd::Failure;
   context.progress.SetMax(steps);
@@ -54,4 +54,4 @@ PhaseResult SendFolder(const RunContext& context) {
   return kGoOn;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

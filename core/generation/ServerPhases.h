@@ -2,7 +2,7 @@
 
 #include "core/generation/RunContext.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 // The phases of a run that sends to a server.
 
@@ -12,4 +12,4 @@ namespace vantorium {
 /// Counts the contents of the folder, then sends them.
 [[nodiscard]] PhaseResult SendFolder(const RunContext& context);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -6,7 +6,7 @@
 #include "image/JPEG.h"
 #include "publish/FTPPath.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 const char kTransferError[] = "FTP File Error";
@@ -14,11 +14,11 @@ const char kTransferError[] = "FTP File Error";
 }  // namespace
 
 std::string ServerTarget::RemoteImagesDir() const {
-  return RelativeToSession(order_.RemoteFolder + run_.ImageUrlPrefix);
+  return publish::RelativeToSession(order_.RemoteFolder + run_.ImageUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbsDir() const {
-  return RelativeToSession(order_.RemoteFolder + run_.ThumbUrlPrefix);
+  return publish::RelativeToSession(order_.RemoteFolder + run_.ThumbUrlPrefix);
 }
 
 std::string ServerTarget::RemoteThumbnail(const ImageRunInfo& image) const {
@@ -61,9 +61,9 @@ Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
   if (!IsPlainFileName(image.FileName) || !native) {
     return Refusal{"File Error", UnableToCopyTemporarily(image.Path)};
   }
-  WriteJPEGFile(*native, jpeg);
+  image::WriteJPEGFile(*native, jpeg);
   run_.files.CopyFileTimes(image.Path, copy);
-  image.FileSize = FileSizeText(jpeg.size());
+  image.FileSize = env::FileSizeText(jpeg.size());
   if (!ftp_.FTPCopyFile(copy, RemoteImagesDir() + image.FileName, /*overwrite=*/true)) {
     return Refusal{kTransferError, UnableToCopy(image.Path)};
   }
@@ -84,7 +84,7 @@ Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::strin
 Delivery ServerTarget::StoreIndexPage(std::string_view page) {
   if (auto refusal = local_.StoreIndexPage(page)) return refusal;
   return Move(run_.OutputFolder + run_.IndexFileName,
-              RelativeToSession(order_.RemoteFolder + order_.RemoteIndexFileName),
+              publish::RelativeToSession(order_.RemoteFolder + order_.RemoteIndexFileName),
               "Unable to create the Gallery Index File.");
 }
 
@@ -99,7 +99,7 @@ Delivery ServerTarget::StoreWrapperPage(const std::string& listText, std::string
 }
 
 Delivery ServerTarget::SendPage(const std::string& name) {
-  const std::string remote = RelativeToSession(order_.RemoteFolder + name);
+  const std::string remote = publish::RelativeToSession(order_.RemoteFolder + name);
   return Move(run_.OutputFolder + name, remote, UnableToCreatePage(remote));
 }
 
@@ -109,4 +109,4 @@ Delivery ServerTarget::Move(const std::string& localPath, const std::string& rem
   return {};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

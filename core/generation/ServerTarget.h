@@ -4,13 +4,13 @@
 #include "core/generation/RunOrder.h"
 #include "publish/mFTP.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// The target of Publish: a server. Generated files are in the temporary folder until they are sent; pages and
 /// thumbnails are deleted there afterwards, images stay.
 class ServerTarget : public GalleryTarget {
  public:
-  ServerTarget(const RunState& run, const RunOrder& order, mFTP& ftp)
+  ServerTarget(const RunState& run, const RunOrder& order, publish::mFTP& ftp)
       : run_(run), order_(order), ftp_(ftp), local_(run) {}
 
   [[nodiscard]] Delivery MakeFolders() override;
@@ -36,8 +36,8 @@ class ServerTarget : public GalleryTarget {
 
   const RunState& run_;
   const RunOrder& order_;
-  mFTP& ftp_;
+  publish::mFTP& ftp_;
   LocalTarget local_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

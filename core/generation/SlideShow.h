@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Returns the target to which a thumbnail page advances by itself: the first image. Returns nullopt unless a slide
 /// show starts automatically from a thumbnail page.
@@ -16,4 +16,4 @@ namespace vantorium {
 /// there. Throws RuntimeFailure DivisionByZero like ThumbnailPageOfImage.
 [[nodiscard]] std::optional<std::string> SlideAfter(const RunState& run, std::int32_t image);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

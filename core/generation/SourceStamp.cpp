@@ -2,7 +2,7 @@
 
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 std::int64_t Nanoseconds(const timespec& time) {
@@ -18,4 +18,4 @@ std::optional<SourceStamp> StampOf(const std::filesystem::path& file) {
                      Nanoseconds(status.st_ctim)};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Identifies a file's content: a changed or replaced file has a different stamp.
 struct SourceStamp {
@@ -20,4 +20,4 @@ struct SourceStamp {
 /// Returns the current stamp of a file, or nullopt if the file cannot be found.
 [[nodiscard]] std::optional<SourceStamp> StampOf(const std::filesystem::path& file);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 using Scope = const TagScope&;
@@ -19,12 +19,12 @@ const ImageRunInfo& Info(Scope at) {
 }
 
 /// The file's date or time in UTC.
-template <RegionalFormat format>
+template <env::RegionalFormat format>
 std::string FileDate(Scope at) {
   return at.run.files.FormatFileTime(Info(at).FileTime, static_cast<int>(format));
 }
 
-template <RegionalFormat format>
+template <env::RegionalFormat format>
 std::string CreationDate(Scope at) {
   return at.run.formats.Format(at.run.GalleryCreationTime, format);
 }
@@ -34,13 +34,13 @@ struct Place {
   std::int32_t total;
 };
 
-Place PlaceOf(Scope at, LinkKind kind) {
-  if (IsImageLink(kind)) return {at.image, at.run.ImageCount};
+Place PlaceOf(Scope at, core::LinkKind kind) {
+  if (core::IsImageLink(kind)) return {at.image, at.run.ImageCount};
   return {at.page, at.run.ThumbnailPageCount};
 }
 
 // At the end of the sequence the anchor is empty, but its "</A>" is still written.
-template <LinkKind kind>
+template <core::LinkKind kind>
 std::string LinkText(Scope at) {
   const std::string& label = LinkOf(at.run.project, kind).textLinkLabel;
   if (label.empty()) return {};
@@ -48,7 +48,7 @@ std::string LinkText(Scope at) {
   return BuildLinkAnchor(at.run, kind, current, total) + label + "</A>";
 }
 
-template <LinkKind kind>
+template <core::LinkKind kind>
 std::string LinkGraphic(Scope at) {
   if (LinkOf(at.run.project, kind).textLinkGraphic.empty()) return {};
   const auto [current, total] = PlaceOf(at, kind);
@@ -62,12 +62,12 @@ constexpr auto kNothing = TagNeeds::Nothing;
 // clang-format off
 constexpr TagRow kRows[] = {
     {kImage, "<VANTORIUM_IMAGE_INDEX>", [](Scope at) { return Number(at.image); }},
-    {kImage, "<VANTORIUM_IMAGE_TITLE>", [](Scope at) { return ReplaceAll(at.run.ListText(at.image), "_", " "); }},
+    {kImage, "<VANTORIUM_IMAGE_TITLE>", [](Scope at) { return env::ReplaceAll(at.run.ListText(at.image), "_", " "); }},
     {kImage, "<VANTORIUM_IMAGE_FILENAME>", [](Scope at) { return Info(at).FileName; }},
-    {kImage, "<VANTORIUM_IMAGE_FILEDATE_SHORT>", FileDate<RegionalFormat::ShortDate>},
-    {kImage, "<VANTORIUM_IMAGE_FILEDATE_LONG>", FileDate<RegionalFormat::LongDate>},
-    {kImage, "<VANTORIUM_IMAGE_FILETIME_SHORT>", FileDate<RegionalFormat::ShortTime>},
-    {kImage, "<VANTORIUM_IMAGE_FILETIME_LONG>", FileDate<RegionalFormat::LongTime>},
+    {kImage, "<VANTORIUM_IMAGE_FILEDATE_SHORT>", FileDate<env::RegionalFormat::ShortDate>},
+    {kImage, "<VANTORIUM_IMAGE_FILEDATE_LONG>", FileDate<env::RegionalFormat::LongDate>},
+    {kImage, "<VANTORIUM_IMAGE_FILETIME_SHORT>", FileDate<env::RegionalFormat::ShortTime>},
+    {kImage, "<VANTORIUM_IMAGE_FILETIME_LONG>", FileDate<env::RegionalFormat::LongTime>},
     {kImage, "<VANTORIUM_IMAGE_FILESIZE>", [](Scope at) { return Info(at).FileSize; }},
     {kImage, "<VANTORIUM_IMAGE_WIDTH>", [](Scope at) { return Number(Info(at).Width); }},
     {kImage, "<VANTORIUM_IMAGE_HEIGHT>", [](Scope at) { return Number(Info(at).Height); }},
@@ -81,37 +81,37 @@ constexpr TagRow kRows[] = {
     {kPage, "<VANTORIUM_THUMBPAGE_INDEX>", [](Scope at) { return Number(at.page); }},
     {kNothing, "<VANTORIUM_THUMBPAGE_COUNT>", [](Scope at) { return Number(at.run.ThumbnailPageCount); }},
     {kNothing, "<VANTORIUM_GALLERY_TITLE>", [](Scope at) { return at.run.project.textGalleryTitle; }},
-    {kNothing, "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>", CreationDate<RegionalFormat::ShortDate>},
-    {kNothing, "<VANTORIUM_GALLERY_CREATIONDATE_LONG>", CreationDate<RegionalFormat::LongDate>},
-    {kNothing, "<VANTORIUM_GALLERY_CREATIONTIME_SHORT>", CreationDate<RegionalFormat::ShortTime>},
-    {kNothing, "<VANTORIUM_GALLERY_CREATIONTIME_LONG>", CreationDate<RegionalFormat::LongTime>},
-    {kImage, "<VANTORIUM_PAGELINK_FIRSTIMAGE_TEXT>", LinkText<LinkKind::FirstImage>},
-    {kImage, "<VANTORIUM_PAGELINK_FIRSTIMAGE_GRAPHIC>", LinkGraphic<LinkKind::FirstImage>},
-    {kImage, "<VANTORIUM_PAGELINK_PREVIMAGE_TEXT>", LinkText<LinkKind::PreviousImage>},
-    {kImage, "<VANTORIUM_PAGELINK_PREVIMAGE_GRAPHIC>", LinkGraphic<LinkKind::PreviousImage>},
-    {kImage, kNextImageTextTag, LinkText<LinkKind::NextImage>},
-    {kImage, kNextImageGraphicTag, LinkGraphic<LinkKind::NextImage>},
-    {kImage, "<VANTORIUM_PAGELINK_LASTIMAGE_TEXT>", LinkText<LinkKind::LastImage>},
-    {kImage, "<VANTORIUM_PAGELINK_LASTIMAGE_GRAPHIC>", LinkGraphic<LinkKind::LastImage>},
-    {kImage, "<VANTORIUM_PAGELINK_INDEX_TEXT>", LinkText<LinkKind::Index>},
-    {kImage, "<VANTORIUM_PAGELINK_INDEX_GRAPHIC>", LinkGraphic<LinkKind::Index>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>", CreationDate<env::RegionalFormat::ShortDate>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONDATE_LONG>", CreationDate<env::RegionalFormat::LongDate>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONTIME_SHORT>", CreationDate<env::RegionalFormat::ShortTime>},
+    {kNothing, "<VANTORIUM_GALLERY_CREATIONTIME_LONG>", CreationDate<env::RegionalFormat::LongTime>},
+    {kImage, "<VANTORIUM_PAGELINK_FIRSTIMAGE_TEXT>", LinkText<core::LinkKind::FirstImage>},
+    {kImage, "<VANTORIUM_PAGELINK_FIRSTIMAGE_GRAPHIC>", LinkGraphic<core::LinkKind::FirstImage>},
+    {kImage, "<VANTORIUM_PAGELINK_PREVIMAGE_TEXT>", LinkText<core::LinkKind::PreviousImage>},
+    {kImage, "<VANTORIUM_PAGELINK_PREVIMAGE_GRAPHIC>", LinkGraphic<core::LinkKind::PreviousImage>},
+    {kImage, kNextImageTextTag, LinkText<core::LinkKind::NextImage>},
+    {kImage, kNextImageGraphicTag, LinkGraphic<core::LinkKind::NextImage>},
+    {kImage, "<VANTORIUM_PAGELINK_LASTIMAGE_TEXT>", LinkText<core::LinkKind::LastImage>},
+    {kImage, "<VANTORIUM_PAGELINK_LASTIMAGE_GRAPHIC>", LinkGraphic<core::LinkKind::LastImage>},
+    {kImage, "<VANTORIUM_PAGELINK_INDEX_TEXT>", LinkText<core::LinkKind::Index>},
+    {kImage, "<VANTORIUM_PAGELINK_INDEX_GRAPHIC>", LinkGraphic<core::LinkKind::Index>},
     {kPage, "<VANTORIUM_PAGELINK_DIRECTTHUMBPAGE>", [](Scope at) { return at.run.DirectLinksText; }},
-    {kPage, "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_TEXT>", LinkText<LinkKind::FirstThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::FirstThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_TEXT>", LinkText<LinkKind::PreviousThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::PreviousThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_TEXT>", LinkText<LinkKind::NextThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::NextThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_TEXT>", LinkText<LinkKind::LastThumbnailPage>},
-    {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_GRAPHIC>", LinkGraphic<LinkKind::LastThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_TEXT>", LinkText<core::LinkKind::FirstThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_FIRSTTHUMBPAGE_GRAPHIC>", LinkGraphic<core::LinkKind::FirstThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_TEXT>", LinkText<core::LinkKind::PreviousThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_PREVTHUMBPAGE_GRAPHIC>", LinkGraphic<core::LinkKind::PreviousThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_TEXT>", LinkText<core::LinkKind::NextThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_NEXTTHUMBPAGE_GRAPHIC>", LinkGraphic<core::LinkKind::NextThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_TEXT>", LinkText<core::LinkKind::LastThumbnailPage>},
+    {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_GRAPHIC>", LinkGraphic<core::LinkKind::LastThumbnailPage>},
 };
 // clang-format on
 
 constexpr DescriptionTags kDescriptionRows[] = {
     {"<VANTORIUM_IMAGE_DESCRIPTION", "<VANTORIUM_IMAGE_DESCRIPTION>", "<VANTORIUM_IMAGE_DESCRIPTION_FULL>",
-     kImages.description},
+     core::kImages.description},
     {"<VANTORIUM_THUMB_DESCRIPTION", "<VANTORIUM_THUMB_DESCRIPTION>", "<VANTORIUM_THUMB_DESCRIPTION_FULL>",
-     kThumbnails.description},
+     core::kThumbnails.description},
 };
 
 constexpr OfferedTag kGalleryTags[] = {
@@ -199,4 +199,4 @@ std::span<const OfferedTag> OfferedTags(TagGroup group) {
   return {};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

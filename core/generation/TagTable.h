@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// The context in which a template is expanded. `image` and `page` count from 1, or are kNoIndex.
 struct TagScope {
@@ -37,7 +37,7 @@ struct DescriptionTags {
   std::string_view start;  ///< the beginning of both tags
   std::string_view tag;
   std::string_view fullTag;  ///< with header and footer
-  const DescriptionFields& fields;
+  const core::DescriptionFields& fields;
 };
 
 /// The tags of the image description, then those of the thumbnail description.
@@ -55,4 +55,4 @@ struct OfferedTag {
 /// The tags of a group, in the order in which they are offered.
 [[nodiscard]] std::span<const OfferedTag> OfferedTags(TagGroup group);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

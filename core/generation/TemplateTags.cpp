@@ -5,7 +5,7 @@
 
 #include <new>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// An underscore follows this in every tag. Most texts have few underscores, and an underscore has no case, so
@@ -19,7 +19,7 @@ std::size_t FindTagStart(std::string_view text, std::size_t start) {
   std::size_t underscore = text.find('_', start + kLength);
   while (underscore != std::string_view::npos) {
     const std::size_t at = underscore - kLength;
-    if (text[at] == '<' && EqualsIgnoringCase(text.substr(at, kLength), kBeforeUnderscore)) return at;
+    if (text[at] == '<' && env::EqualsIgnoringCase(text.substr(at, kLength), kBeforeUnderscore)) return at;
     underscore = text.find('_', underscore + 1);
   }
   return std::string_view::npos;
@@ -56,7 +56,8 @@ std::size_t RowReplacing(std::string_view tag, const TagScope& scope, std::size_
   const auto rows = TagRows();
   for (std::size_t row = from; row < end; ++row) {
     const std::string_view replaced = ReplacedTag(rows[row], scope.run);
-    if (replaced.size() == tag.size() && Applies(rows[row], scope) && EqualsIgnoringCase(replaced, tag)) return row;
+    if (replaced.size() == tag.size() && Applies(rows[row], scope) && env::EqualsIgnoringCase(replaced, tag))
+      return row;
   }
   return end;
 }
@@ -73,12 +74,12 @@ std::size_t NextRow(std::string_view text, const TagScope& scope, std::size_t fr
 /// Replaces all occurrences of `tag`. Throws std::bad_alloc if that would make the text too long.
 std::string WithTagReplaced(std::string_view text, std::string_view tag, std::string_view value) {
   std::size_t length = text.size();
-  for (auto at = FindIgnoringCase(text, tag); at != std::string_view::npos;
-       at = FindIgnoringCase(text, tag, at + tag.size())) {
+  for (auto at = env::FindIgnoringCase(text, tag); at != std::string_view::npos;
+       at = env::FindIgnoringCase(text, tag, at + tag.size())) {
     length += value.size();
     if (length > kLongestExpandedText) throw std::bad_alloc();
   }
-  return ReplaceAllIgnoringCase(text, tag, value);
+  return env::ReplaceAllIgnoringCase(text, tag, value);
 }
 
 }  // namespace
@@ -100,7 +101,7 @@ std::string ExpandDescriptionTags(const RunState& run, std::string text, std::in
   if (imageIndex == kNoIndex || FindTagStart(text, 0) == std::string::npos) return text;
   const auto expand = [&](const std::string& part) { return ExpandTags(run, part, imageIndex, pageIndex); };
   for (const DescriptionTags& tags : DescriptionTagRows()) {
-    if (FindIgnoringCase(text, tags.start) == std::string::npos) continue;
+    if (env::FindIgnoringCase(text, tags.start) == std::string::npos) continue;
     const std::string description = expand(run.Entry(imageIndex).*tags.fields.text);
     const std::string full =
         expand(run.project.*tags.fields.header) + description + expand(run.project.*tags.fields.footer);
@@ -114,10 +115,10 @@ std::string ExpandAllTags(const RunState& run, std::string_view text, std::int32
   return ExpandDescriptionTags(run, ExpandTags(run, text, imageIndex, pageIndex), imageIndex, pageIndex);
 }
 
-std::string DescriptionText(const RunState& run, const DescriptionFields& fields, std::int32_t imageIndex) {
+std::string DescriptionText(const RunState& run, const core::DescriptionFields& fields, std::int32_t imageIndex) {
   return ExpandAllTags(run, run.project.*fields.header, imageIndex, kNoIndex) +
          ExpandTags(run, run.Entry(imageIndex).*fields.text, imageIndex, kNoIndex) +
          ExpandAllTags(run, run.project.*fields.footer, imageIndex, kNoIndex);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 // Templates are user texts with tags of the form <VANTORIUM_IMAGE_INDEX>. Tags ignore the case of ASCII letters. Text
 // that is not a tag is left unchanged.
@@ -37,7 +37,7 @@ inline constexpr std::size_t kLongestExpandedText = std::size_t{64} << 20U;
 
 /// Returns the description of an image or of its thumbnail as a page shows it: header, description and footer, with
 /// their tags replaced.
-[[nodiscard]] std::string DescriptionText(const RunState& run, const DescriptionFields& fields,
+[[nodiscard]] std::string DescriptionText(const RunState& run, const core::DescriptionFields& fields,
                                           std::int32_t imageIndex);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -4,7 +4,7 @@
 #include "core/generation/OutputNaming.h"
 #include "core/generation/TemplateTags.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 constexpr std::string_view kDescriptionTable = R"(<TABLE WIDTH="100%" BORDER="0" CELLSPACING="1" CELLPADDING="0">)";
@@ -12,11 +12,11 @@ constexpr std::string_view kCaptionTable = R"(<TABLE BORDER="0" CELLSPACING="1" 
 constexpr std::string_view kTableEnd = "</TD></TR></TABLE>";
 
 /// Returns the caption with blanks between it and the thumbnail, as its alignment beside the thumbnail requires.
-std::string SpacedCaption(const std::string& caption, Choice alignment) {
+std::string SpacedCaption(const std::string& caption, core::Choice alignment) {
   constexpr std::string_view kBlank = "&nbsp;";
-  const bool isStart = alignment == NumberOf(Alignment::Start);
+  const bool isStart = alignment == core::NumberOf(core::Alignment::Start);
   const std::string_view before = isStart ? "" : kBlank;
-  const std::string_view behind = isStart || alignment == NumberOf(Alignment::Center) ? kBlank : "";
+  const std::string_view behind = isStart || alignment == core::NumberOf(core::Alignment::Center) ? kBlank : "";
   return fmt::format("{}{}{}", before, caption, behind);
 }
 
@@ -28,13 +28,13 @@ class CellContent {
         project_(run.project),
         page_(page),
         image_(image),
-        description_(DescriptionPlacement(project_.comboThumbnailDescriptionPlacement)),
-        hasCaption_(IsOn(project_.checkCaptionsThumbnailsRegular)),
-        caption_(CaptionPlacement(project_.comboCaptionsThumbnailsRegularPlacement)) {}
+        description_(core::DescriptionPlacement(project_.comboThumbnailDescriptionPlacement)),
+        hasCaption_(core::IsOn(project_.checkCaptionsThumbnailsRegular)),
+        caption_(core::CaptionPlacement(project_.comboCaptionsThumbnailsRegularPlacement)) {}
 
   std::string Compose() {
     const std::string alt = Alt();
-    if (description_ != Placement::None) OpenDescription();
+    if (description_ != core::Placement::None) OpenDescription();
     if (hasCaption_) OpenCaption();
     AddThumbnail(alt);
     if (hasCaption_) CloseCaption();
@@ -53,44 +53,44 @@ class CellContent {
   }
 
   [[nodiscard]] std::string Alt() const {
-    if (!IsOn(project_.checkCaptionsThumbnailsPopup)) return {};
+    if (!core::IsOn(project_.checkCaptionsThumbnailsPopup)) return {};
     return fmt::format(R"(ALT="{}")", Expanded(project_.ThumbnailPopupCaption, page_));
   }
 
   void OpenDescription() {
-    text_ = DescriptionText(run_, kThumbnails.description, image_);
+    text_ = DescriptionText(run_, core::kThumbnails.description, image_);
     cells_ = ThumbnailDescriptionCells(project_.comboThumbnailDescriptionAlignment, description_);
     const std::int32_t width = run_.MaxThumbWidth;
     // There is no space between WIDTH and the alignment of the thumbnail's cell.
     switch (description_) {
-      case Placement::Left:
+      case core::Placement::Left:
         return Add(R"({}<TR><TD {}>{}</TD><TD WIDTH="{}"{}>)", kDescriptionTable, cells_.text, text_, width,
                    cells_.picture);
-      case Placement::Right:
+      case core::Placement::Right:
         return Add(R"({}<TR><TD WIDTH="{}"{}>)", kDescriptionTable, width, cells_.picture);
-      case Placement::Above:
+      case core::Placement::Above:
         return OpenBelowText(kDescriptionTable);
-      case Placement::Below:
+      case core::Placement::Below:
         return Add("{}<TR><TD {}>", kDescriptionTable, cells_.picture);
-      case Placement::None:
+      case core::Placement::None:
         break;
     }
   }
 
   void OpenCaption() {
-    const Choice alignment = project_.comboCaptionsThumbnailsRegularAlignment;
+    const core::Choice alignment = project_.comboCaptionsThumbnailsRegularAlignment;
     text_ = Expanded(project_.ThumbnailRegularCaption, page_);
-    if (IsBeside(caption_)) text_ = SpacedCaption(text_, alignment);
+    if (core::IsBeside(caption_)) text_ = SpacedCaption(text_, alignment);
     cells_ = ThumbnailCaptionCells(alignment, caption_);
     switch (caption_) {
-      case Placement::Left:
+      case core::Placement::Left:
         return Add(R"({}<TR><TD {} WIDTH="100%">{}</TD><TD {}>)", kCaptionTable, cells_.text, text_, cells_.picture);
-      case Placement::Right:
-      case Placement::Below:
+      case core::Placement::Right:
+      case core::Placement::Below:
         return Add("{}<TR><TD {}>", kCaptionTable, cells_.picture);
-      case Placement::Above:
+      case core::Placement::Above:
         return OpenBelowText(kCaptionTable);
-      case Placement::None:
+      case core::Placement::None:
         break;
     }
   }
@@ -113,14 +113,14 @@ class CellContent {
 
   void CloseCaption() {
     switch (caption_) {
-      case Placement::Right:
+      case core::Placement::Right:
         return Add(R"(</TD><TD {} WIDTH="100%">{}{})", cells_.text, text_, kTableEnd);
-      case Placement::Below:
+      case core::Placement::Below:
         return CloseAboveText();
-      case Placement::Left:
-      case Placement::Above:
+      case core::Placement::Left:
+      case core::Placement::Above:
         return Add("{}", kTableEnd);
-      case Placement::None:
+      case core::Placement::None:
         break;
     }
   }
@@ -129,14 +129,14 @@ class CellContent {
   /// existing galleries.
   void CloseDescription() {
     switch (description_) {
-      case Placement::Right:
+      case core::Placement::Right:
         return Add("</TD><TD {}>{}{}", cells_.text, text_, kTableEnd);
-      case Placement::Below:
+      case core::Placement::Below:
         return CloseAboveText();
-      case Placement::Left:
-      case Placement::Above:
+      case core::Placement::Left:
+      case core::Placement::Above:
         return Add("{}", kTableEnd);
-      case Placement::None:
+      case core::Placement::None:
         break;
     }
   }
@@ -144,12 +144,12 @@ class CellContent {
   void CloseAboveText() { Add(R"(</TD></TR><TR><TD {} HEIGHT="100%">{}{})", cells_.text, text_, kTableEnd); }
 
   const RunState& run_;
-  const GalleryProject& project_;
+  const core::GalleryProject& project_;
   std::int32_t page_;
   std::int32_t image_;
-  Placement description_;
+  core::Placement description_;
   bool hasCaption_;
-  Placement caption_;
+  core::Placement caption_;
   std::string text_;  ///< text shown around the thumbnail: the description, then the caption
   CellPair cells_;    ///< alignments of the cells of text_ and thumbnail
   std::string content_;
@@ -174,4 +174,4 @@ void AddThumbnailCell(PageText& text, const RunState& run, std::int32_t page, st
   text.Line("</TD>");
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Appends the cell of one image to thumbnail page `page`.
 void AddThumbnailCell(PageText& text, const RunState& run, std::int32_t page, std::int32_t image);
@@ -14,4 +14,4 @@ void AddThumbnailCell(PageText& text, const RunState& run, std::int32_t page, st
 /// The line of a cell that shows the thumbnail: a link to the image, with caption and description around it.
 [[nodiscard]] std::string ThumbnailCellContent(const RunState& run, std::int32_t page, std::int32_t image);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

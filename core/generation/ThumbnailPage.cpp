@@ -8,39 +8,39 @@
 #include "core/generation/ThumbnailCell.h"
 #include "env/Numbers.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
-std::int32_t GridNumber(const Digits& text) {
-  return ToInt32(ParseNumber(text).value_or(0));
+std::int32_t GridNumber(const core::Digits& text) {
+  return env::ToInt32(env::ParseNumber(text).value_or(0));
 }
 
 /// A single page has no bar.
 LinkPlacement PlacementOfBars(const RunState& run) {
-  return run.ThumbnailPageCount > 1 ? ThumbnailLinkPlacement(run.project) : LinkPlacement::None;
+  return run.ThumbnailPageCount > 1 ? core::ThumbnailLinkPlacement(run.project) : core::LinkPlacement::None;
 }
 
-std::string_view DivAlignment(TableAlignment alignment) {
+std::string_view DivAlignment(core::TableAlignment alignment) {
   switch (alignment) {
-    case TableAlignment::Left:
+    case core::TableAlignment::Left:
       return "LEFT";
-    case TableAlignment::Right:
+    case core::TableAlignment::Right:
       return "RIGHT";
-    case TableAlignment::FitToPage:
-    case TableAlignment::Center:
+    case core::TableAlignment::FitToPage:
+    case core::TableAlignment::Center:
       break;
   }
   return "CENTER";
 }
 
 std::string PageBodyTag(const RunState& run) {
-  const GalleryProject& project = run.project;
-  const std::string backdrop = BackdropAttribute(run, kThumbnails.backdrop);
-  return BodyTag(project, kThumbnails.colors, backdrop);
+  const core::GalleryProject& project = run.project;
+  const std::string backdrop = BackdropAttribute(run, core::kThumbnails.backdrop);
+  return BodyTag(project, core::kThumbnails.colors, backdrop);
 }
 
 void AddHead(PageText& text, const RunState& run, std::int32_t page) {
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   text.Line("<HTML>");
   text.Line("<HEAD>");
   text.Format("<TITLE>{} Index Page {} of {}</TITLE>", project.textGalleryTitle, page, run.ThumbnailPageCount);
@@ -51,15 +51,15 @@ void AddHead(PageText& text, const RunState& run, std::int32_t page) {
 }
 
 void AddTableTag(PageText& text, const RunState& run) {
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   std::string color;
-  if (IsOn(project.checkThumbnailsTableUseBGColor)) {
+  if (core::IsOn(project.checkThumbnailsTableUseBGColor)) {
     color = fmt::format(R"(BGCOLOR="#{}")", ColorToHtml(project.btnThumbnailsTableBGColor));
   }
   text.Format(R"(<TABLE {}{} BORDER={} CELLSPACING="{}" CELLPADDING="{}"{}>)", color,
-              BackdropAttribute(run, kTableBackdrop), project.textThumbnailsTableBorder,
+              BackdropAttribute(run, core::kTableBackdrop), project.textThumbnailsTableBorder,
               project.textThumbnailsTableCellSpacing, project.textThumbnailsTableCellPadding,
-              TableAlignmentOf(project) == TableAlignment::FitToPage ? R"( WIDTH="100%")" : "");
+              core::TableAlignmentOf(project) == core::TableAlignment::FitToPage ? R"( WIDTH="100%")" : "");
 }
 
 /// The last row of the gallery is not padded with empty cells.
@@ -78,12 +78,12 @@ void AddGrid(PageText& text, const RunState& run, std::int32_t page, std::int32_
 
 void AddTable(PageText& text, const RunState& run, std::int32_t page, std::int32_t firstImage) {
   const std::string bar = BuildThumbnailPageBar(run, page);
-  text.Format(R"(<DIV ALIGN="{}">)", DivAlignment(TableAlignmentOf(run.project)));
-  if (HasBarAbove(PlacementOfBars(run))) text.Line(bar);
+  text.Format(R"(<DIV ALIGN="{}">)", DivAlignment(core::TableAlignmentOf(run.project)));
+  if (core::HasBarAbove(PlacementOfBars(run))) text.Line(bar);
   AddTableTag(text, run);
   AddGrid(text, run, page, firstImage);
   text.Line("</TABLE>");
-  if (HasBarBelow(PlacementOfBars(run))) text.Line(bar);
+  if (core::HasBarBelow(PlacementOfBars(run))) text.Line(bar);
   text.Line("</DIV>");
 }
 
@@ -97,7 +97,7 @@ std::int32_t ImagesOnThumbnailPage(const RunState& run, std::int32_t firstImage)
 }
 
 std::string BuildThumbnailPage(const RunState& run, std::int32_t page, std::int32_t firstImage) {
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   PageText text;
   AddHead(text, run, page);
   text.Line(PageBodyTag(run));
@@ -113,4 +113,4 @@ std::string BuildThumbnailPage(const RunState& run, std::int32_t page, std::int3
   return text.Take();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

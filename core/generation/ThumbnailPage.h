@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Returns the number of images on a thumbnail page whose first image is `firstImage`: the number of its cells or of
 /// the remaining images, whichever is smaller. Rows and columns that are not numbers count as 0. Throws RuntimeFailure
@@ -16,4 +16,4 @@ namespace vantorium {
 /// whatever its tags and ImagesOnThumbnailPage throw.
 [[nodiscard]] std::string BuildThumbnailPage(const RunState& run, std::int32_t page, std::int32_t firstImage);
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// Opens a file without a name. If the file system does not support that, opens a named file and unlinks it at once.
@@ -38,4 +38,4 @@ std::optional<std::string> ThumbnailSpool::Get(Place place) const {
   return bytes;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// Stores thumbnails, which are made together with their images, until their turn comes after all images. They are in a
 /// file without a name, so that a gallery of any length costs no memory and a killed program leaves no file behind.
@@ -28,8 +28,8 @@ class ThumbnailSpool {
   [[nodiscard]] std::optional<std::string> Get(Place place) const;
 
  private:
-  FileDescriptor file_;
+  env::FileDescriptor file_;
   std::int64_t end_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

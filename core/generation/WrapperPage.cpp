@@ -7,20 +7,20 @@
 #include "core/generation/TemplateTags.h"
 #include "core/generation/WrapperContent.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 /// If the thumbnail pages have the same backdrop, uses their copy of it.
 std::string PageBodyTag(const RunState& run) {
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   const bool shared = project.textImageWrapperBackdrop == project.textThumbnailsPageBackdrop;
-  const std::string backdrop = BackdropAttribute(run, (shared ? kThumbnails : kImages).backdrop);
-  return BodyTag(project, kImages.colors, backdrop);
+  const std::string backdrop = BackdropAttribute(run, (shared ? core::kThumbnails : core::kImages).backdrop);
+  return BodyTag(project, core::kImages.colors, backdrop);
 }
 
 void AddHead(PageText& page, const RunState& run, std::int32_t image) {
   constexpr std::string_view kIndent = "  ";
-  const GalleryProject& project = run.project;
+  const core::GalleryProject& project = run.project;
   page.Line("<HTML>");
   page.Line("<HEAD>");
   page.Format("<TITLE>{} Image {} of {}</TITLE>", project.textGalleryTitle, image, run.ImageCount);
@@ -45,12 +45,12 @@ void AddImage(PageText& page, const RunState& run, std::int32_t image) {
 void AddImageWithBars(PageText& page, const RunState& run, std::int32_t image) {
   constexpr std::string_view kLineBreak = "<BR>";
   const std::string bar = BuildImagePageBar(run, image);
-  if (HasBarAbove(ImageLinkPlacement(run.project))) {
+  if (core::HasBarAbove(core::ImageLinkPlacement(run.project))) {
     page.Line(bar);
     page.Line(kLineBreak);
   }
   AddImage(page, run, image);
-  if (HasBarBelow(ImageLinkPlacement(run.project))) {
+  if (core::HasBarBelow(core::ImageLinkPlacement(run.project))) {
     page.Line(kLineBreak);
     page.Line(bar);
   }
@@ -76,4 +76,4 @@ std::string BuildWrapperPage(const RunState& run, std::int32_t image) {
   return page.Take();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

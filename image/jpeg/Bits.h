@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// A window of up to 63 bits on entropy-coded data from which the stuffed zeros are gone. The first bit is the highest.
 /// It reads up to 8 bytes behind the byte that it stands at; the owner of the data sees to it that they are there.
@@ -47,4 +47,4 @@ class BitWindow {
   const std::uint8_t* next_;
 };
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

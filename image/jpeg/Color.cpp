@@ -6,7 +6,7 @@
 #include <emmintrin.h>
 #endif
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 constexpr int kMiddle = 128;
@@ -179,4 +179,4 @@ void WritePixels(const SampleRows& rows, Chroma chroma, std::size_t begin, std::
   }
 }
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

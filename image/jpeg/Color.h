@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// How much coarser chroma is than luminance.
 enum class Chroma { None, Full, HalfWidth, HalfBoth };
@@ -35,4 +35,4 @@ struct SampleRows {
 /// the library does.
 void WritePixels(const SampleRows& rows, Chroma chroma, std::size_t begin, std::size_t end, std::uint8_t* bgr);
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

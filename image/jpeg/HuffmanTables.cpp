@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 constexpr unsigned kSixteenZeros = 0xF0;
@@ -88,4 +88,4 @@ unsigned SkipTable::PassSingly(std::uint64_t bits) const {
   return code.length == 0 ? kBadCode << 8 : MoveOf(code.symbol) << 8 | (code.length + code.symbol % 16);
 }
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -10,7 +10,7 @@
 
 #include <jpeglib.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 // Within a block, `k` is the place of the last coefficient that was read, in the order of the file: 0 is the first one,
 // 63 the last. Every symbol moves it on. The end of a block moves it to 128 and more, a code that there is none of to
@@ -112,4 +112,4 @@ class SkipTable {
   std::vector<std::uint16_t> entries_;  // move, length; 0 where the first code is longer
 };
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// How the blocks of a scan are grouped: the groups follow one another from left to right in rows from the top.
 struct GroupGrid {
@@ -54,4 +54,4 @@ class Plane {
   std::vector<std::uint8_t> samples_;
 };
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

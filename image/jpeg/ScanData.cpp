@@ -6,7 +6,7 @@
 
 #include <unistd.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 constexpr std::size_t kPiece = std::size_t{1} << 15;
@@ -83,4 +83,4 @@ void ScanData::BeginNextSegment() {
   Fill();
 }
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -6,7 +6,7 @@
 
 #include <sys/types.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// The entropy-coded data of a scan, piece by piece as they are needed, without the zeros that are stuffed behind each
 /// byte FF. They come in segments that end at a marker.
@@ -50,4 +50,4 @@ class ScanData {
   std::uint8_t marker_ = 0;
 };
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

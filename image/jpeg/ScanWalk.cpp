@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 constexpr unsigned kFirstRestart = 0xD0;
@@ -155,4 +155,4 @@ bool ScanWalk::PassRow() {
   return ++rowsPassed_ < grid_.rows || EndsSegment(window, kEndOfImage);
 }
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// A component on its way through the scan.
 struct ScanComponent {
@@ -54,4 +54,4 @@ class ScanWalk {
   unsigned restarts_ = 0;
 };
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

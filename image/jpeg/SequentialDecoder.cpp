@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 struct Span {
@@ -118,4 +118,4 @@ bool SequentialDecoder::ReadRow(std::size_t row, std::uint8_t* bgr) {
   return state_->ReadRow(row, bgr);
 }
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -10,7 +10,7 @@
 #include <jpeglib.h>
 #include <sys/types.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// Decodes the wanted pixels of JPEG files of the usual kind, much faster than the library and with the same outcome to
 /// the last bit: one sequential scan of Huffman codes, 8 bits a sample, grey or YCbCr with chroma of full size, half
@@ -47,4 +47,4 @@ class SequentialDecoder {
   std::unique_ptr<State> state_;
 };
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -6,7 +6,7 @@
 #include <emmintrin.h>
 #endif
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 // The library's transform does the columns first, which leaves two more bits than the samples have, then the rows. Its
@@ -233,4 +233,4 @@ void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std
 
 #endif
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// The 64 coefficients of a block, multiplied by their steps. Each two rows lie interleaved: column 0 of the first and
 /// of the second, column 1 of both, and so on.
@@ -33,4 +33,4 @@ void TransformRowsPlainly(const Block& block, unsigned rows, std::uint8_t* sampl
 /// Whether all routines of the library agree about the samples of those rows.
 [[nodiscard]] bool IsTame(const Block& block, unsigned rows);
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

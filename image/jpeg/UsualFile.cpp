@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <span>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 constexpr unsigned kMostStep = 255;
@@ -110,4 +110,4 @@ std::optional<UsualFile> TakeOver(const jpeg_decompress_struct& header) {
   return file;
 }
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

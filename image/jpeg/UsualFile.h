@@ -9,7 +9,7 @@
 
 #include <jpeglib.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 
 /// What the header of a file of the usual kind says.
 struct UsualFile {
@@ -25,4 +25,4 @@ struct UsualFile {
 /// kind, or its tables are none.
 [[nodiscard]] std::optional<UsualFile> TakeOver(const jpeg_decompress_struct& header);
 
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

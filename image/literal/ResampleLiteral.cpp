@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace vantorium {
+namespace vantorium::image::literal {
 namespace {
 
 // A position in the source along one axis. `at` and `next` are clamped to the source: where `next` would lie outside,
@@ -26,7 +26,7 @@ Position PositionOf(float scale, std::int32_t index, std::int32_t side) {
 
 double Between(float weight, double first, double second) {
   const double share = weight;
-  return RoundHalfEven((1 - share) * first + share * second);
+  return env::RoundHalfEven((1 - share) * first + share * second);
 }
 
 std::uint8_t Channel(const cDIBSection& source, const Position& x, const Position& y, std::int32_t channel) {
@@ -69,4 +69,4 @@ std::unique_ptr<cDIBSection> ResampleLiteral(const cDIBSection& source, std::int
   return target;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

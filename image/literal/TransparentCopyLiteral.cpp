@@ -2,11 +2,11 @@
 
 #include "env/Numbers.h"
 
-namespace vantorium {
+namespace vantorium::image::literal {
 namespace {
 
 std::uint8_t Mixed(std::uint8_t source, std::uint8_t target, std::int32_t alpha) {
-  return static_cast<std::uint8_t>(RoundHalfEven((target * (100 - alpha) + source * alpha) / 100.0));
+  return static_cast<std::uint8_t>(env::RoundHalfEven((target * (100 - alpha) + source * alpha) / 100.0));
 }
 
 }  // namespace
@@ -32,4 +32,4 @@ bool TransparentCopyLiteral(const cDIBSection& source, cDIBSection& target, std:
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::image::literal {
 
 /// A straightforward version of TransparentCopy, which must produce the same bytes. The reference for tests.
 [[nodiscard]] bool TransparentCopyLiteral(const cDIBSection& source, cDIBSection& target, std::uint32_t key,
                                           std::uint8_t alpha);
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::image::literal {
 namespace {
 
 /// Returns column and row, from the top left, of the stored pixel that is seen at (x, y) of the upright picture.
@@ -49,4 +49,4 @@ cDIBSection TurnLiteral(const cDIBSection& stored, Orientation orientation) {
   return upright;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

@@ -3,10 +3,10 @@
 #include "image/Orientation.h"
 #include "image/cDIBSection.h"
 
-namespace vantorium {
+namespace vantorium::image::literal {
 
 /// Returns the picture as it stands upright, pixel by pixel: what UprightRows and TurnUpright must give. The reference
 /// for tests.
 [[nodiscard]] cDIBSection TurnLiteral(const cDIBSection& stored, Orientation orientation);
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

@@ -5,7 +5,7 @@
 
 #include <tuple>
 
-namespace vantorium {
+namespace vantorium::image::literal {
 namespace {
 
 void SetPixel(std::uint8_t* pixel, std::uint32_t color) {
@@ -31,4 +31,4 @@ void DrawWatermarkTextLiteral(cDIBSection& dib, LogFont& font, const std::string
   std::ignore = TransparentCopyLiteral(mask, dib, key, alpha);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::image::literal {
 
 /// A straightforward version of DrawWatermarkText, which must produce the same bytes: draws the text in its color on
 /// the complement of that color, and copies the result over the picture with the complement as the key. The reference
@@ -15,4 +15,4 @@ namespace vantorium {
 void DrawWatermarkTextLiteral(cDIBSection& dib, LogFont& font, const std::string& text, std::int16_t placement,
                               std::uint32_t color, std::uint8_t alpha, const TextRaster& raster);
 
-}  // namespace vantorium
+}  // namespace vantorium::image::literal

@@ -15,7 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using namespace std::chrono_literals;
@@ -60,7 +60,7 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& e
 }
 
 /// Closes the stream at its end, which a terminal reports as an error.
-void AppendFrom(FileDescriptor& stream, std::string& text) {
+void AppendFrom(env::FileDescriptor& stream, std::string& text) {
   char bytes[4096];
   const auto read = ::read(stream.Get(), bytes, sizeof bytes);
   if (read > 0) {
@@ -70,7 +70,7 @@ void AppendFrom(FileDescriptor& stream, std::string& text) {
   }
 }
 
-int BytesWaiting(const FileDescriptor& stream) {
+int BytesWaiting(const env::FileDescriptor& stream) {
   int bytes = 0;
   Checked(::ioctl(stream.Get(), FIONREAD, &bytes), "FIONREAD");
   return bytes;
@@ -83,7 +83,7 @@ ChildProcess::Stream ChildProcess::MakePipe() {
   int ends[2] = {};
   Checked(::pipe2(ends, O_CLOEXEC), "pipe2");
   Checked(::fcntl(ends[0], F_SETPIPE_SZ, 1), "F_SETPIPE_SZ");
-  return {.ours = FileDescriptor(ends[0]), .childs = FileDescriptor(ends[1])};
+  return {.ours = env::FileDescriptor(ends[0]), .childs = env::FileDescriptor(ends[1])};
 }
 
 ChildProcess::Stream ChildProcess::MakeTerminal(unsigned short columns) {
@@ -93,7 +93,7 @@ ChildProcess::Stream ChildProcess::MakeTerminal(unsigned short columns) {
   const int slave = Checked(::open(::ptsname(master), O_RDWR | O_NOCTTY | O_CLOEXEC), "opening a terminal");
   const winsize size = {.ws_row = 25, .ws_col = columns, .ws_xpixel = 0, .ws_ypixel = 0};
   Checked(::ioctl(slave, TIOCSWINSZ, &size), "TIOCSWINSZ");
-  return {.ours = FileDescriptor(master), .childs = FileDescriptor(slave)};
+  return {.ours = env::FileDescriptor(master), .childs = env::FileDescriptor(slave)};
 }
 
 ChildProcess::ChildProcess(const StartOptions& options)
@@ -187,4 +187,4 @@ void ChildProcess::GiveUp(const std::string& why) const {
                            "\nstandard error:\n" + result_.err);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -10,7 +10,7 @@
 
 #include <sys/types.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 enum class StandardError { Pipe, Terminal };
 
@@ -66,8 +66,8 @@ class ChildProcess {
 
   /// Both ends of a pipe or a terminal. This process closes the child's end once the child runs.
   struct Stream {
-    FileDescriptor ours;
-    FileDescriptor childs;
+    env::FileDescriptor ours;
+    env::FileDescriptor childs;
   };
 
   [[nodiscard]] static Stream MakePipe();
@@ -80,4 +80,4 @@ class ChildProcess {
   ProcessResult result_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

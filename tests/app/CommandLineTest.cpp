@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using testing::AssertionFailure;
@@ -227,4 +227,4 @@ TEST(CommandLine, AfterTwoDashesAPathMayBeginWithADash) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -6,7 +6,7 @@
 
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 const char kWholeGallery[] =
@@ -37,7 +37,7 @@ class CreateCommand : public testing::Test {
 
 std::pair<std::int32_t, std::int32_t> SizeOf(const std::filesystem::path& file) {
   std::pair<std::int32_t, std::int32_t> size;
-  EXPECT_TRUE(ReadJPEGSize(file, size.first, size.second)) << file;
+  EXPECT_TRUE(image::ReadJPEGSize(file, size.first, size.second)) << file;
   return size;
 }
 
@@ -256,4 +256,4 @@ TEST_F(CreateCommand, ALineOfAMessageIsItsTitleAndItsText) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using namespace std::chrono_literals;
@@ -210,4 +210,4 @@ TEST_P(InterruptOfARunToAServer, LeavesNoPartOfAFileOnTheServer) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using Json = nlohmann::json;
@@ -249,7 +249,7 @@ TEST(NewCommand, AProjectThatCannotBeWrittenIsAFailure) {
 TEST(NewCommand, APathTextKeepsTheDriveThatWasTyped) {
   const Workplace place;
   place.Photograph("home/pictures/a.jpg");
-  const std::string typed = "Z:" + ReplaceAll(place.Path("home/pictures").string(), "/", "\\");
+  const std::string typed = "Z:" + env::ReplaceAll(place.Path("home/pictures").string(), "/", "\\");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", typed, typed + "\\a.jpg"})));
   const std::string source = "Z:" + place.Path("home/pictures/a.jpg").string();
   EXPECT_EQ(Images(place, "a.gpj", "SourcePath"), (Texts{source, source}));
@@ -266,4 +266,4 @@ TEST(NewCommand, ANameThatIsNotUTF8IsReportedAndNothingIsWritten) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -164,4 +164,4 @@ TEST(NewTheme, NoTagOfAThemeIsLeftInItsPages) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

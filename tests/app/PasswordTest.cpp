@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -10,9 +10,9 @@ namespace fs = std::filesystem;
 const char kWrongLogin[] = "FTP Error: Invalid User ID or Password.\n";
 
 /// Uses ProFTPD because vsftpd accepts every password.
-class Password : public ServerPlace {
+class Password : public ui::ServerPlace {
  protected:
-  Password() : ServerPlace(fakes::FtpServerKind::Proftpd) { place.Write("site/index.htm", "x"); }
+  Password() : ui::ServerPlace(fakes::FtpServerKind::Proftpd) { place.Write("site/index.htm", "x"); }
 
   /// An upload that reads the password from standard input.
   [[nodiscard]] StartOptions FromStandardInput() const { return UploadWithFile("-"); }
@@ -121,4 +121,4 @@ TEST_F(Password, IsWrittenNowhere) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

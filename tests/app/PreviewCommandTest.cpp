@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 TEST(PreviewCommand, PrintsTheIndexFileAndMakesPagesAlone) {
@@ -108,7 +108,7 @@ TEST(PreviewCommand, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
   const auto folder = place.Path("temp/VANTORIUM_TEMP");
   std::filesystem::create_directory(folder);
   {
-    const FileDescriptor other(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const env::FileDescriptor other(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     ASSERT_EQ(::flock(other.Get(), LOCK_EX), 0);
     const ProcessResult result = place.Run({"preview", "a.gpj"});
     EXPECT_TRUE(EndedWith(1, result));
@@ -135,4 +135,4 @@ TEST(PreviewCommand, ALinkInTheTemporaryFolderIsRefused) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -1,6 +1,6 @@
 #include "tests/app/ServerPlace.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -106,7 +106,7 @@ TEST_P(PublishCommand, VerbosePrintsEachStatusTextOnALine) {
   EXPECT_EQ(result.err.find("Creating Gallery Index File...\n"), result.err.rfind("Creating Gallery Index File...\n"));
 }
 
-class PublishRefusal : public ServerPlace {
+class PublishRefusal : public ui::ServerPlace {
  protected:
   [[nodiscard]] ProcessResult PublishProject(const std::string& project) const {
     return ChildProcess(Options("publish", project, "web/index.htm")).Finish();
@@ -142,4 +142,4 @@ TEST_F(PublishRefusal, OfAPictureThatCannotBeRead) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 const char kSavingFailed[] = "File Error: An error occurred while saving the Gallery Project.\n";
@@ -94,4 +94,4 @@ TEST(SaveCommand, NothingIsLeftBesideTheTarget) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

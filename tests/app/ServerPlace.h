@@ -3,12 +3,12 @@
 #include "tests/app/Workplace.h"
 #include "tests/fakes/FtpServerProcess.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// A workplace and a real server on loopback. The file "password" holds the server's password.
-class ServerPlace : public testing::Test {
+class ui::ServerPlace : public testing::Test {
  protected:
-  explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
+  explicit ui::ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
     place.Write("password", server.Password() + "\n");
   }
 
@@ -40,9 +40,9 @@ class ServerPlace : public testing::Test {
 };
 
 /// The same for each kind of server.
-class EachServerPlace : public ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
+class EachServerPlace : public ui::ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
  protected:
-  EachServerPlace() : ServerPlace(GetParam()) {}
+  EachServerPlace() : ui::ServerPlace(GetParam()) {}
 };
 
 inline const auto kEachServer = testing::Values(fakes::FtpServerKind::Vsftpd, fakes::FtpServerKind::Proftpd);
@@ -50,4 +50,4 @@ inline std::string NameOfServer(const testing::TestParamInfo<fakes::FtpServerKin
   return info.param == fakes::FtpServerKind::Vsftpd ? "vsftpd" : "ProFTPD";
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

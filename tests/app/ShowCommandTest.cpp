@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using Json = nlohmann::json;
@@ -147,4 +147,4 @@ TEST(ShowCommand, OutputThatCannotBeWrittenIsAFailure) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

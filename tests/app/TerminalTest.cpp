@@ -3,7 +3,7 @@
 #include <csignal>
 #include <regex>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 const char kErase[] = "\r\x1b[K";
@@ -220,4 +220,4 @@ TEST(Terminal, AResultThatCannotBeWrittenIsAFailure) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

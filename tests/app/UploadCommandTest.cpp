@@ -1,6 +1,6 @@
 #include "tests/app/ServerPlace.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -121,4 +121,4 @@ TEST(UploadWithoutServer, IsAFailureWithAMessage) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 /// A workplace with a project whose run fails, because its photograph is not a JPEG file, and with a folder to upload.
@@ -139,4 +139,4 @@ TEST_P(UploadLogOfAServer, InAProgramFolderThatIsNotThereMakesTheFolder) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

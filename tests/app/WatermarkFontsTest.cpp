@@ -1,7 +1,7 @@
 #include "tests/app/Workplace.h"
 #include "tests/fakes/FontFolder.h"
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 using fakes::FontFolder;
@@ -64,4 +64,4 @@ TEST_F(WatermarkFonts, WithoutAWatermarkNoFontIsNeeded) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -11,7 +11,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::batch {
 namespace {
 
 /// This process's environment, which holds the sanitizers' options, with the variables that the program reads replaced.
@@ -30,7 +30,7 @@ std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
 
 /// A smooth color gradient, so that the file is no larger than a photograph's.
 cDIBSection Slope(int width, int height, std::size_t seed) {
-  cDIBSection picture;
+  image::cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no memory for a picture");
   for (int y = 0; y < height; ++y) {
     std::uint8_t* pixel = picture.Row(y);
@@ -74,7 +74,7 @@ std::string Workplace::Read(const fs::path& name) const {
 
 fs::path Workplace::Photograph(const fs::path& name, int width, int height) const {
   constexpr std::int32_t kQuality = 90;
-  return Write(name, EncodeJPEG(Slope(width, height, std::hash<std::string>()(name.string())), kQuality));
+  return Write(name, image::EncodeJPEG(Slope(width, height, std::hash<std::string>()(name.string())), kQuality));
 }
 
 void Workplace::Project(const fs::path& name, const std::vector<std::string>& photographs) const {
@@ -146,4 +146,4 @@ testing::AssertionResult EndedWith(int exitCode, const ProcessResult& result) {
                                      << result.err;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::batch {
 
 /// A folder with what the program needs: "home" (drive C:), "program" (preferences), "temp", and whatever a test adds.
 /// The program starts in it and finds none of the user's own settings.
@@ -57,4 +57,4 @@ using fakes::FilesBelow;
 [[nodiscard]] testing::AssertionResult Succeeded(const ProcessResult& result);
 [[nodiscard]] testing::AssertionResult EndedWith(int exitCode, const ProcessResult& result);
 
-}  // namespace vantorium
+}  // namespace vantorium::batch

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 TEST(CaseFolding, TextsThatDifferInCaseFoldToTheSame) {
@@ -42,4 +42,4 @@ TEST(CaseFolding, LettersAndDigitsOfEveryScriptAreKnown) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

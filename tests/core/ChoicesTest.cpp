@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 TEST(Choices, AFlagIsOnAtOneAndOffAtZeroAndNeitherOtherwise) {
@@ -96,4 +96,4 @@ TEST(Choices, ASlideShowStartsByItselfOnlyFromAThumbnailPage) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

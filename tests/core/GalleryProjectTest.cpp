@@ -7,13 +7,13 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 std::int32_t FailureOf(const std::string& hex) {
   try {
     std::ignore = HexToColor(hex);
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     return failure.Number();
   }
   return 0;
@@ -88,10 +88,10 @@ TEST(GalleryProject, AColorIsReadAsAHexadecimalNumber) {
 
 TEST(GalleryProject, ATextThatIsNotAHexadecimalNumberIsAFailure) {
   for (const char* text : {"", "red", "#FF0000", "0xFF", "FF ", " FF", "-1", "+1", "F F", "1.0"}) {
-    EXPECT_EQ(FailureOf(text), static_cast<std::int32_t>(FailureKind::TypeMismatch)) << '"' << text << '"';
+    EXPECT_EQ(FailureOf(text), static_cast<std::int32_t>(env::FailureKind::TypeMismatch)) << '"' << text << '"';
   }
   for (const char* text : {"100000000", "FFFFFFFFF"}) {
-    EXPECT_EQ(FailureOf(text), static_cast<std::int32_t>(FailureKind::Overflow)) << text;
+    EXPECT_EQ(FailureOf(text), static_cast<std::int32_t>(env::FailureKind::Overflow)) << text;
   }
 }
 
@@ -100,4 +100,4 @@ TEST(GalleryProject, EveryColorComesBackFromItsText) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

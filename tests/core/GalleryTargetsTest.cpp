@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// The settings of a target by name, always in the same order.
@@ -82,4 +82,4 @@ TEST(GalleryTargets, LinksAreFoundByKindAndByGoal) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 TEST(ImageFormats, TheThreeExtensionsAreSupportedInAnyCase) {
@@ -24,4 +24,4 @@ TEST(ImageFormats, TheFilterNamesAllFormatsThenEach) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

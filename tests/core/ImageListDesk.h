@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 
 /// A project whose images are files on drive C:, which is a temporary folder.
 class ImageListDesk : public testing::Test {
@@ -54,7 +54,7 @@ class ImageListDesk : public testing::Test {
     return names;
   }
 
-  void ExpectOneBox(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) {
+  void ExpectOneBox(env::BoxKind kind, env::BoxButtons buttons, const std::string& title, const std::string& text) {
     ASSERT_EQ(boxes.boxes.size(), 1U);
     EXPECT_EQ(boxes.boxes[0].kind, kind);
     EXPECT_EQ(boxes.boxes[0].buttons, buttons);
@@ -63,15 +63,15 @@ class ImageListDesk : public testing::Test {
   }
 
   void ExpectFileErrorBox(const std::string& path) {
-    ExpectOneBox(BoxKind::Critical, BoxButtons::Ok, "File Error",
+    ExpectOneBox(env::BoxKind::Critical, env::BoxButtons::Ok, "File Error",
                  "An Error occurred trying to read the image file \"" + path +
                      "\":\r\rFile not found\r\rLoading Process cancelled.");
   }
 
   fakes::TemporaryFolder folder;
-  PathMap paths{{{'C', folder.Path().string()}}};
-  RegionalFormats formats{"en_US"};
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'C', folder.Path().string()}}};
+  env::RegionalFormats formats{"en_US"};
+  env::mFileFunctions files{paths, formats};
   fakes::RecordingMessageBox boxes;
   fakes::RecordingImageListDisplay display;
   Project project;
@@ -79,4 +79,4 @@ class ImageListDesk : public testing::Test {
   ImageListOperations operations{project, files, boxes, display};
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::core

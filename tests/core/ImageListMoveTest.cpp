@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 namespace fs = std::filesystem;
@@ -46,10 +46,10 @@ TEST_F(Move, AnEntryWhoseFileHasGoneIsNotLost) {
 
 TEST_F(Move, IndexesOutsideTheListAreRefused) {
   Fill({"a", "b"});
-  EXPECT_THROW(operations.MoveEntry(0, 1), RuntimeFailure);
-  EXPECT_THROW(operations.MoveEntry(3, 1), RuntimeFailure);
-  EXPECT_THROW(operations.MoveEntry(1, 0), RuntimeFailure);
-  EXPECT_THROW(operations.MoveEntry(1, 3), RuntimeFailure);
+  EXPECT_THROW(operations.MoveEntry(0, 1), env::RuntimeFailure);
+  EXPECT_THROW(operations.MoveEntry(3, 1), env::RuntimeFailure);
+  EXPECT_THROW(operations.MoveEntry(1, 0), env::RuntimeFailure);
+  EXPECT_THROW(operations.MoveEntry(1, 3), env::RuntimeFailure);
   EXPECT_EQ(ListNames(), (Names{"a", "b"}));
 }
 
@@ -133,7 +133,7 @@ TEST_F(Drop, IsRefusedWhileTheListIsKeptSorted) {
   boxes.boxes.clear();
   project.IsModified = false;
   operations.Drop("a", 2);
-  ExpectOneBox(BoxKind::Critical, BoxButtons::Ok, "Item cannot be moved",
+  ExpectOneBox(env::BoxKind::Critical, env::BoxButtons::Ok, "Item cannot be moved",
                "You cannot change the order of images while the list is being kept sorted.\rPlease select 'unsorted' "
                "in the 'Sort Image List' box!");
   EXPECT_EQ(ListNames(), (Names{"a", "b"}));
@@ -158,4 +158,4 @@ TEST_F(Drop, OfARowWhoseFileHasGoneLeavesTheListAsItWas) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <tuple>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 namespace fs = std::filesystem;
@@ -63,8 +63,8 @@ TEST_F(AddImage, RefusesAnIndexOutsideTheListAndAddsNothing) {
     try {
       std::ignore = Add(index, "C:\\a", "x");
       ADD_FAILURE() << index;
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(FailureKind::IndexOutOfBounds));
+    } catch (const env::RuntimeFailure& failure) {
+      EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(env::FailureKind::IndexOutOfBounds));
     }
   }
   EXPECT_EQ(ListNames(), Names{"a"});
@@ -212,7 +212,7 @@ TEST_F(Remove, NothingSelectedOnlyRefreshes) {
 TEST_F(Remove, AllAsksFirst) {
   Fill({"a", "b"});
   operations.RemoveAll();
-  ExpectOneBox(BoxKind::Question, BoxButtons::YesNo, "Remove all Images",
+  ExpectOneBox(env::BoxKind::Question, env::BoxButtons::YesNo, "Remove all Images",
                "Are you sure you wish to remove all image entries from the gallery?");
   EXPECT_TRUE(images.Empty());
   EXPECT_TRUE(project.IsModified);
@@ -221,7 +221,7 @@ TEST_F(Remove, AllAsksFirst) {
 
 TEST_F(Remove, AllKeepsTheListOnNo) {
   Fill({"a", "b"});
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   operations.RemoveAll();
   EXPECT_EQ(ListNames(), (Names{"a", "b"}));
   EXPECT_FALSE(project.IsModified);
@@ -295,7 +295,7 @@ TEST_F(Find, NoHitIsSaid) {
   Fill({"photo1", "a"});
   Select({"a"});
   operations.FindByName("photo");
-  ExpectOneBox(BoxKind::Critical, BoxButtons::Ok, "Image not found",
+  ExpectOneBox(env::BoxKind::Critical, env::BoxButtons::Ok, "Image not found",
                "This Gallery does not contain an Image named \"photo\".");
   EXPECT_EQ(images.Current(), 0U);
   EXPECT_EQ(SelectedNames(), Names{"a"});
@@ -347,4 +347,4 @@ TEST_F(Rename, WithoutACurrentRowNothingIsRenamed) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 using Sorting = ImageListDesk;
@@ -12,7 +12,7 @@ using Sorting = ImageListDesk;
 TEST_F(Sorting, AsksBeforeAnOrderOfTheUsersOwnIsLost) {
   Fill({"b", "a"});
   operations.SetSortingOrder(1);
-  ExpectOneBox(BoxKind::Question, BoxButtons::YesNo, "Change Sorting Order",
+  ExpectOneBox(env::BoxKind::Question, env::BoxButtons::YesNo, "Change Sorting Order",
                "Are you sure you wish to change the Sorting Order for the Images in this Gallery?");
   EXPECT_EQ(ListNames(), (Names{"a", "b"}));
   EXPECT_EQ(project.settings.comboImagesSortingOrder, 1);
@@ -21,7 +21,7 @@ TEST_F(Sorting, AsksBeforeAnOrderOfTheUsersOwnIsLost) {
 
 TEST_F(Sorting, NoLeavesTheOrderAndTheListUnsorted) {
   Fill({"b", "a"});
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   operations.SetSortingOrder(4);
   EXPECT_EQ(ListNames(), (Names{"b", "a"}));
   EXPECT_EQ(project.settings.comboImagesSortingOrder, 0);
@@ -76,7 +76,7 @@ TEST_F(Sorting, SizesSortAsNumbers) {
 TEST_F(Sorting, AnIndexOutsideItsListIsRefused) {
   Fill({"b", "a"});
   for (const Choice index : {Choice{-1}, Choice{9}, Choice{32767}})
-    EXPECT_THROW(operations.SetSortingOrder(index), RuntimeFailure) << index;
+    EXPECT_THROW(operations.SetSortingOrder(index), env::RuntimeFailure) << index;
   EXPECT_FALSE(project.IsModified);
   EXPECT_EQ(project.settings.comboImagesSortingOrder, 0);
 }
@@ -109,7 +109,8 @@ TEST_F(ShuffleOperation, AsksAndShufflesAndSelectsTheFirstRow) {
   images.SetCurrent(3);
   fakes::ScriptedShuffle script({0.0, 0.99});
   operations.Shuffle(script.Tools());
-  ExpectOneBox(BoxKind::Question, BoxButtons::YesNo, "Shuffle Images", "Are you sure you wish to shuffle the Images?");
+  ExpectOneBox(env::BoxKind::Question, env::BoxButtons::YesNo, "Shuffle Images",
+               "Are you sure you wish to shuffle the Images?");
   EXPECT_EQ(script.calls, (Calls{"open", "seed", "close"}));
   EXPECT_EQ(script.percents.size(), 6U);
   EXPECT_EQ(display.calls, (Calls{"wait", "preview", "reset"}));
@@ -120,7 +121,7 @@ TEST_F(ShuffleOperation, AsksAndShufflesAndSelectsTheFirstRow) {
 
 TEST_F(ShuffleOperation, ChangesNothingOnNo) {
   Fill({"a", "b"});
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   fakes::ScriptedShuffle script({0.0, 0.99});
   operations.Shuffle(script.Tools());
   EXPECT_EQ(ListNames(), (Names{"a", "b"}));
@@ -155,4 +156,4 @@ TEST_F(ShuffleOperation, StopSkipsOnlyTheDeselection) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -50,8 +50,8 @@ void ExpectOutOfBounds(const std::function<void()>& operation) {
   try {
     operation();
     ADD_FAILURE() << "nothing was thrown";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(FailureKind::IndexOutOfBounds));
+  } catch (const env::RuntimeFailure& failure) {
+    EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(env::FailureKind::IndexOutOfBounds));
   }
 }
 
@@ -387,4 +387,4 @@ TEST(ImageList, AHundredThousandRowsSortAndTakeOneName) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 class ProjectEditorTest : public testing::Test {
@@ -21,7 +21,7 @@ class ProjectEditorTest : public testing::Test {
   std::int32_t FailureOfFrameSize(const std::string& text) {
     try {
       editor.Set(&GalleryProject::textGalleryFrameSize, text);
-    } catch (const RuntimeFailure& failure) {
+    } catch (const env::RuntimeFailure& failure) {
       return failure.Number();
     }
     return 0;
@@ -58,11 +58,11 @@ TEST_F(ProjectEditorTest, RecordsAreStoredWhole) {
   EXPECT_EQ(project.ImageIndexLink.textLinkGraphic, "graphic");
   EXPECT_EQ(project.ImageIndexLink.textLinkGraphicDisabled, "disabled");
   EXPECT_TRUE(std::exchange(modified, false));
-  editor.Set(&GalleryProject::ThumbnailFilters, ImageFilterSettings{.sliderQuality = 12});
+  editor.Set(&GalleryProject::ThumbnailFilters, image::ImageFilterSettings{.sliderQuality = 12});
   EXPECT_EQ(project.ThumbnailFilters.sliderQuality, 12);
   EXPECT_EQ(project.ImageFilters.sliderQuality, 85);
   EXPECT_TRUE(std::exchange(modified, false));
-  editor.Set(&GalleryProject::ImageWatermark, WatermarkSettings{.textWatermark = "mine"});
+  editor.Set(&GalleryProject::ImageWatermark, image::WatermarkSettings{.textWatermark = "mine"});
   EXPECT_EQ(project.ImageWatermark.textWatermark, "mine");
   EXPECT_EQ(project.ThumbnailWatermark.textWatermark, "THUMB");
   EXPECT_TRUE(modified);
@@ -195,7 +195,7 @@ TEST_F(ProjectEditorTest, TheSizingPriorityDecidesWhichFrameGetsTheSize) {
 }
 
 TEST_F(ProjectEditorTest, AFrameSizeThatIsNotANumberIsAFailureAndALargeOneIsNot) {
-  EXPECT_EQ(FailureOfFrameSize("abc"), static_cast<std::int32_t>(FailureKind::TypeMismatch));
+  EXPECT_EQ(FailureOfFrameSize("abc"), static_cast<std::int32_t>(env::FailureKind::TypeMismatch));
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
   const std::pair<const char*, std::int32_t> cases[] = {{"32768", 32768}, {"99999", 99999}, {"1e300", 99999}};
   for (const auto& [typed, stored] : cases) {
@@ -375,4 +375,4 @@ TEST_F(NormalizeForOutputTest, NeverClearsTheMark) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 /// The kinds that a member of this type may have.
@@ -76,10 +76,10 @@ std::string RecordText(const Record& record, std::span<const RecordField<Record>
   }
   return text;
 }
-std::string TextOf(const ImageFilterSettings& filters) {
+std::string TextOf(const image::ImageFilterSettings& filters) {
   return RecordText(filters, FilterFields());
 }
-std::string TextOf(const WatermarkSettings& watermark) {
+std::string TextOf(const image::WatermarkSettings& watermark) {
   return RecordText(watermark, WatermarkFields());
 }
 
@@ -223,15 +223,15 @@ struct Changed {
   void operator()(std::int32_t& number) const { number = 77; }
   void operator()(Color& color) const { color = 0x123456; }
   void operator()(LinkSettings& link) const { link = {"a", "b", "c"}; }
-  void operator()(ImageFilterSettings& filters) const { filters = {1, 1, 1, 1, 1, 1, 1, 1, 1}; }
-  void operator()(WatermarkSettings& watermark) const { watermark.textWatermark = "changed"; }
+  void operator()(image::ImageFilterSettings& filters) const { filters = {1, 1, 1, 1, 1, 1, 1, 1, 1}; }
+  void operator()(image::WatermarkSettings& watermark) const { watermark.textWatermark = "changed"; }
 };
 
 // The compiler checks in ProjectFields.cpp that each table has as many rows as its record has members.
 TEST(ProjectFields, AreInTheOrderOfTheRecord) {
   ExpectRisingOffsets(ProjectFields(), GalleryProject());
-  ExpectRisingOffsets(FilterFields(), ImageFilterSettings());
-  ExpectRisingOffsets(WatermarkFields(), WatermarkSettings());
+  ExpectRisingOffsets(FilterFields(), image::ImageFilterSettings());
+  ExpectRisingOffsets(WatermarkFields(), image::WatermarkSettings());
   ExpectRisingOffsets(LinkFields(), LinkSettings());
 }
 
@@ -392,4 +392,4 @@ TEST(ProjectFields, FieldOfFindsEachMember) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

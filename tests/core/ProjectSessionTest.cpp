@@ -88,18 +88,18 @@ TEST_F(ProjectSessionTest, ANewProjectResetsEverythingInOrder) {
 
 TEST_F(ProjectSessionTest, AModifiedProjectIsAskedAbout) {
   Modify();
-  desk.boxes.answers = {BoxAnswer::Cancel};
+  desk.boxes.answers = {env::BoxAnswer::Cancel};
   session.NewProject();
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Question);
-  EXPECT_EQ(desk.boxes.boxes[0].buttons, BoxButtons::YesNoCancel);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Question);
+  EXPECT_EQ(desk.boxes.boxes[0].buttons, env::BoxButtons::YesNoCancel);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Project modified");
   EXPECT_EQ(desk.boxes.boxes[0].text, kQuestion);
 }
 
 TEST_F(ProjectSessionTest, CancelKeepsTheProjectWhichIsNoLongerPristine) {
   Modify();
-  desk.boxes.answers = {BoxAnswer::Cancel};
+  desk.boxes.answers = {env::BoxAnswer::Cancel};
   session.NewProject();
   EXPECT_EQ(project.settings.textGalleryTitle, "Changed");
   EXPECT_EQ(States(), "modified untitled");
@@ -108,7 +108,7 @@ TEST_F(ProjectSessionTest, CancelKeepsTheProjectWhichIsNoLongerPristine) {
 
 TEST_F(ProjectSessionTest, NoDropsTheChanges) {
   Modify();
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   session.NewProject();
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
   EXPECT_EQ(States(), "pristine untitled");
@@ -116,7 +116,7 @@ TEST_F(ProjectSessionTest, NoDropsTheChanges) {
 
 TEST_F(ProjectSessionTest, YesSavesFirst) {
   Modify();
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   desk.dialog.answers = {desk.PathOf("saved.gpj")};
   session.NewProject();
   EXPECT_NE(desk.folder.Read("saved.gpj").find("TITLE=\"Changed\""), std::string::npos);
@@ -126,7 +126,7 @@ TEST_F(ProjectSessionTest, YesSavesFirst) {
 TEST_F(ProjectSessionTest, ASaveThatFailsOrIsCancelledStopsNew) {
   for (const std::string& chosen : {std::string(), desk.PathOf("no folder/a.gpj")}) {
     Modify();
-    desk.boxes.answers = {BoxAnswer::Yes};
+    desk.boxes.answers = {env::BoxAnswer::Yes};
     desk.dialog.answers = {chosen};
     session.NewProject();
     EXPECT_EQ(project.settings.textGalleryTitle, "Changed") << chosen;
@@ -137,7 +137,7 @@ TEST_F(ProjectSessionTest, ASaveThatFailsOrIsCancelledStopsNew) {
 TEST_F(ProjectSessionTest, LeavingAProjectAsksOnlyAboutAModifiedOne) {
   EXPECT_TRUE(session.MayLeaveProject());
   EXPECT_TRUE(desk.boxes.boxes.empty());
-  const std::pair<BoxAnswer, bool> cases[] = {{BoxAnswer::Cancel, false}, {BoxAnswer::No, true}};
+  const std::pair<env::BoxAnswer, bool> cases[] = {{env::BoxAnswer::Cancel, false}, {env::BoxAnswer::No, true}};
   for (const auto& [answer, may] : cases) {
     Modify();
     desk.boxes.answers = {answer};
@@ -208,7 +208,7 @@ TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
             (Calls{"dialog Open Gallery Project", "info Please wait... Reading Project File.", "disabled",
                    "status Reading Project File \"" + path + "\"...", "wait pointer", "box Invalid Project File",
                    "status ", "pointer", "box File Error", "enabled", "info hidden"}));
-  EXPECT_EQ(desk.boxes.boxes[1].kind, BoxKind::Exclamation);
+  EXPECT_EQ(desk.boxes.boxes[1].kind, env::BoxKind::Exclamation);
   EXPECT_EQ(desk.boxes.boxes[1].text, "An error occurred while opening the Gallery Project \"" + path + "\".");
   EXPECT_EQ(project.ProjectFileName, "Gallery1");
   EXPECT_EQ(project.LastProjectFolder, "");
@@ -264,11 +264,11 @@ TEST_F(ProjectSessionTest, ASaveGoesToItsFileAgainOnceTheProjectHasOne) {
 
 TEST_F(ProjectSessionTest, OpenAsksAboutAModifiedProject) {
   Modify();
-  desk.boxes.answers = {BoxAnswer::Cancel};
+  desk.boxes.answers = {env::BoxAnswer::Cancel};
   session.OpenProject();
   EXPECT_EQ(desk.calls, Calls{"box Project modified"});
   desk.calls.clear();
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   session.OpenProject();
   EXPECT_EQ(desk.calls, (Calls{"box Project modified", "dialog Open Gallery Project"}));
   EXPECT_EQ(States(), "modified untitled");
@@ -276,7 +276,7 @@ TEST_F(ProjectSessionTest, OpenAsksAboutAModifiedProject) {
 
 TEST_F(ProjectSessionTest, OpenGoesOnWhenTheSaveFails) {
   Modify();
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   desk.dialog.answers = {"", ValidFile()};
   session.OpenProject();
   EXPECT_EQ(desk.dialog.requests.size(), 2U);
@@ -377,7 +377,7 @@ TEST_F(ProjectSessionTest, AFailedSaveSaysSoAndTheProjectStaysModified) {
   EXPECT_FALSE(session.SaveProject());
   const std::string path = desk.PathOf("no folder/mine.gpj");
   EXPECT_EQ(desk.calls, Joined(WriteCalls(path), {"box File Error", "enabled", "info hidden"}));
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Exclamation);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Exclamation);
   EXPECT_EQ(desk.boxes.boxes[0].text, "An error occurred while saving the Gallery Project.");
   EXPECT_EQ(States(), "modified ");
 }

@@ -4,12 +4,12 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
-struct SettableClock : Clock {
-  CivilTime now = {2024, 5, 6, 7, 8, 9};
-  [[nodiscard]] CivilTime Now() const override { return now; }
+struct SettableClock : env::Clock {
+  env::CivilTime now = {2024, 5, 6, 7, 8, 9};
+  [[nodiscard]] env::CivilTime Now() const override { return now; }
 };
 
 std::vector<double> FirstNumbers(const SettableClock& clock) {
@@ -43,4 +43,4 @@ TEST(RandomNumbers, TheClockDecidesTheSequence) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

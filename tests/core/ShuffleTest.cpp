@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -91,4 +91,4 @@ TEST(Shuffle, StopEndsItBeforeTheRoundsMove) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

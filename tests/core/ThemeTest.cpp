@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 namespace fs = std::filesystem;
@@ -121,7 +121,7 @@ TEST_F(Theme, ThemesAreFoundWithTheirPictures) {
   folder.Write("themes/a.gpj", "x");
   folder.Write("themes/a.jpg", "x");
   folder.Write("themes/c.jpg", "a picture without a theme");
-  const auto themes = FindThemes(BundledFiles({folder.Path()}));
+  const auto themes = FindThemes(env::BundledFiles({folder.Path()}));
   ASSERT_EQ(themes.size(), 2U);
   EXPECT_EQ(themes[0].name, "a");
   EXPECT_EQ(themes[0].project, folder.Path() / "themes/a.gpj");
@@ -132,7 +132,7 @@ TEST_F(Theme, ThemesAreFoundWithTheirPictures) {
 
 class ShippedThemes : public Theme {
  protected:
-  std::vector<ThemeFile> themes = FindThemes(BundledFiles({fakes::SourceFolder() / "data"}));
+  std::vector<ThemeFile> themes = FindThemes(env::BundledFiles({fakes::SourceFolder() / "data"}));
 };
 
 TEST_F(ShippedThemes, AreTheFiveThatTheHelpTellsOfEachWithAPicture) {
@@ -179,4 +179,4 @@ TEST_F(ShippedThemes, NameNoFileAndNoAddressOutsideTheGallery) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

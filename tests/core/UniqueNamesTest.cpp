@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::core {
 namespace {
 
 TEST(UniqueNames, AFreeNameIsTakenUnchanged) {
@@ -146,4 +146,4 @@ TEST(UniqueNames, AgreesWithTheSearchFromOneOnMixedOperations) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::core

@@ -1,7 +1,7 @@
 #include "env/BundledFiles.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -69,4 +69,4 @@ TEST(BundledFiles, WithoutAnExecutableOnlyTheProgramsFolderIsLookedThrough) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

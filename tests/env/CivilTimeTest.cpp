@@ -3,7 +3,7 @@
 #include <limits>
 #include <ostream>
 
-namespace vantorium {
+namespace vantorium::env {
 
 static std::ostream& operator<<(std::ostream& stream, const CivilTime& time) {
   return stream << time.year << "-" << time.month << "-" << time.day << " " << time.hour << ":" << time.minute << ":"
@@ -44,4 +44,4 @@ TEST(CivilTime, ATimeOfTheSystemBeyondAllFileTimesIsCut) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

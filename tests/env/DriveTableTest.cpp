@@ -1,7 +1,7 @@
 #include "env/DriveTable.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using Drives = std::map<char, std::string>;
@@ -62,4 +62,4 @@ TEST(DriveTable, AFileThatIsThereAndCannotBeReadGivesNoLetterAFolder) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

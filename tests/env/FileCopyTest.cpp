@@ -6,7 +6,7 @@
 
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -128,4 +128,4 @@ TEST(FileCopy, AReadOnlyTargetOrAFolderIsNotReplaced) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 TEST(FileDescriptor, AllBytesAreWritten) {
@@ -31,4 +31,4 @@ TEST(FileDescriptor, BytesThatTheSystemDoesNotAcceptAreAFailureWithItsReason) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

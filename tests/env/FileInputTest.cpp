@@ -4,7 +4,7 @@
 
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using fakes::FailureOf;
@@ -40,4 +40,4 @@ TEST(FileInput, AFileBeyondTheLimitIsAFailure) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -165,4 +165,4 @@ TEST(FileOutput, AReaderOfTheOldFileKeepsIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

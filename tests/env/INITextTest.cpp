@@ -1,7 +1,7 @@
 #include "env/INIText.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 TEST(INIText, ALineEndsAtCrLfOrEitherOfThem) {
@@ -146,4 +146,4 @@ TEST(INIText, AnyBytesCanBeRead) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

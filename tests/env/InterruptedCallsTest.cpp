@@ -63,7 +63,7 @@ int __wrap_close(int file) {
 }
 }
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 class InterruptedCalls : public testing::Test {
@@ -107,7 +107,7 @@ TEST_F(InterruptedCalls, AreRepeatedUntilAFileIsCopied) {
 }
 
 TEST_F(InterruptedCalls, AreRepeatedWhileAFileIsReadForItsUpload) {
-  LocalFile local(file);
+  publish::LocalFile local(file);
   std::string read(bytes.size(), ' ');
   EXPECT_TRUE(local.Read(read));
   EXPECT_GT(interruptions, 0);
@@ -116,7 +116,7 @@ TEST_F(InterruptedCalls, AreRepeatedWhileAFileIsReadForItsUpload) {
 
 TEST_F(InterruptedCalls, AreRepeatedWhileAPhotographIsRead) {
   const FileDescriptor photograph(::open(file.c_str(), O_RDONLY));
-  jpeg::ScanData data(photograph.Get(), 0);
+  image::jpeg::ScanData data(photograph.Get(), 0);
   std::size_t read = 0;
   while (!data.IsWhole()) {
     read += static_cast<std::size_t>(data.End() - data.Begin());
@@ -135,4 +135,4 @@ TEST_F(InterruptedCalls, WithoutEndAreNotMadeOfAWriteThatTakesNothing) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -4,7 +4,7 @@
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using fakes::FailureOf;
@@ -164,4 +164,4 @@ TEST_F(ListedBrowserRuns, AFileThatIsNotAProgramFailsTwice) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -164,4 +164,4 @@ TEST(NeighbourFile, TheFailureNamesFileAndReason) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using fakes::FailureOf;
@@ -119,4 +119,4 @@ TEST(Numbers, MulDivRoundedBeyondTheRangeIsAnOverflow) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

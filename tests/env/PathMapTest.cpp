@@ -1,7 +1,7 @@
 #include "env/PathMap.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 const std::map<char, std::string> kDrives = {
@@ -104,4 +104,4 @@ TEST(PathMap, AWorkingFolderThatIsGoneLeavesTheTextOfAUser) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -1,6 +1,6 @@
 #include "env/PathText.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 struct Parts {
@@ -57,4 +57,4 @@ TEST(PathText, ABackslashIsAppendedOnce) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -3,7 +3,7 @@
 #include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -80,4 +80,4 @@ TEST(ProgramFolder, TheFilesLieInItAndItsTextEndsInNoBackslash) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

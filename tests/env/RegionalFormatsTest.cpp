@@ -7,7 +7,7 @@
 
 #include <unicode/uclean.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using fakes::EnvironmentVariable;
@@ -107,4 +107,4 @@ TEST(RegionalFormats, TheFirstAndTheFurthestDayHaveAText) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -1,6 +1,6 @@
 #include "env/RuntimeFailure.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 TEST(RuntimeFailure, EachKindHasItsNumberAndDescription) {
@@ -40,4 +40,4 @@ TEST(RuntimeFailure, AnUnknownKindHasTheGeneralDescription) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 #include <sstream>
 #include <thread>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 using fakes::FailureOf;
@@ -128,4 +128,4 @@ TEST(StartProcess, SignalsThatThisProcessIgnoresOrHoldsBackReachIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

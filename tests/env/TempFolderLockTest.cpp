@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -135,4 +135,4 @@ TEST_F(TempFolderLockTest, OthersLoseTheRightToWrite) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

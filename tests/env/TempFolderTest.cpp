@@ -7,7 +7,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -227,4 +227,4 @@ TEST_F(TempFolderTest, ClearingThatStopsLeavesTheFolder) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

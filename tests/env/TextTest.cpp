@@ -1,6 +1,6 @@
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 TEST(Text, OnlyAsciiLettersChangeTheirCase) {
@@ -82,4 +82,4 @@ TEST(Text, AFilePrefixIsDroppedOnceAndInAnyCase) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

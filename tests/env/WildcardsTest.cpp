@@ -1,6 +1,6 @@
 #include "env/Wildcards.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 TEST(Wildcards, ANameMatches) {
@@ -42,4 +42,4 @@ TEST(Wildcards, ManyStarsTakeNoTimeOfTheirOwn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

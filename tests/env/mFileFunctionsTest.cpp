@@ -6,7 +6,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -209,4 +209,4 @@ TEST_F(mFileFunctionsTest, DeletionTakesFilesAndLinksOnly) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -4,7 +4,7 @@
 #include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
-namespace vantorium {
+namespace vantorium::env {
 namespace {
 
 namespace fs = std::filesystem;
@@ -113,4 +113,4 @@ TEST_F(mINIFileFunctionsTest, AMissingFolderIsAFailureAndIsNotMade) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::env

@@ -7,7 +7,7 @@
 namespace vantorium::fakes {
 
 /// Counts its turns and calls `onTurn` in each.
-class CountingEventLoop : public EventLoop {
+class CountingEventLoop : public env::EventLoop {
  public:
   void Turn() override {
     ++turns;

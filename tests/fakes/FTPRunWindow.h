@@ -9,7 +9,7 @@
 namespace vantorium::fakes {
 
 /// Records what the FTP client reports to the window of its run.
-class FTPRunWindow : public ProgressWindow {
+class FTPRunWindow : public publish::ProgressWindow {
  public:
   void Show() override {}
   void SetCaption(const std::string& /*text*/) override {}
@@ -35,7 +35,7 @@ class FTPRunWindow : public ProgressWindow {
   std::vector<std::int16_t> percentages;
 };
 
-class CancelSwitch : public CancelState {
+class CancelSwitch : public publish::CancelState {
  public:
   [[nodiscard]] bool CancelRequested() const override { return isRequested; }
 

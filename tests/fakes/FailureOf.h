@@ -7,7 +7,7 @@
 
 namespace vantorium {
 
-inline std::ostream& operator<<(std::ostream& stream, FailureKind kind) {
+inline std::ostream& operator<<(std::ostream& stream, env::FailureKind kind) {
   return stream << "failure " << static_cast<std::int32_t>(kind);
 }
 
@@ -15,12 +15,12 @@ namespace fakes {
 
 /// The failure that `operation` throws. Returns nullopt if it succeeds.
 template <typename Operation>
-std::optional<FailureKind> FailureOf(Operation operation) {
+std::optional<env::FailureKind> FailureOf(Operation operation) {
   try {
     operation();
     return std::nullopt;
-  } catch (const RuntimeFailure& failure) {
-    return static_cast<FailureKind>(failure.Number());
+  } catch (const env::RuntimeFailure& failure) {
+    return static_cast<env::FailureKind>(failure.Number());
   }
 }
 

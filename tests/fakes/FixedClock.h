@@ -4,11 +4,11 @@
 
 namespace vantorium::fakes {
 
-class FixedClock : public Clock {
+class FixedClock : public env::Clock {
  public:
-  [[nodiscard]] CivilTime Now() const override { return now; }
+  [[nodiscard]] env::CivilTime Now() const override { return now; }
 
-  CivilTime now{2026, 3, 4, 5, 6, 7};
+  env::CivilTime now{2026, 3, 4, 5, 6, 7};
 };
 
 }  // namespace vantorium::fakes

@@ -88,7 +88,7 @@ sockaddr_in Loopback(std::uint16_t port) {
 }
 
 std::uint16_t FreePort() {
-  const FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  const env::FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
   sockaddr_in name = Loopback(0);
   socklen_t size = sizeof name;
   auto* plain = reinterpret_cast<sockaddr*>(&name);
@@ -100,7 +100,7 @@ std::uint16_t FreePort() {
 
 /// The beginning of the greeting of the server on that port; empty if there is no server.
 std::string GreetingOf(std::uint16_t port) {
-  const FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  const env::FileDescriptor probe(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
   const timeval patience = {5, 0};
   ::setsockopt(probe.Get(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
   const sockaddr_in name = Loopback(port);

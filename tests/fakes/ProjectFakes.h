@@ -18,7 +18,7 @@ namespace vantorium::fakes {
 /// The calls of all ports, in order.
 using Calls = std::vector<std::string>;
 
-class RecordingSessionHost : public ProjectSessionHost {
+class RecordingSessionHost : public core::ProjectSessionHost {
  public:
   explicit RecordingSessionHost(Calls& calls) : calls_(calls) {}
 
@@ -41,7 +41,7 @@ class RecordingSessionHost : public ProjectSessionHost {
 };
 
 /// Returns the paths in `answers`, in order, then empty texts.
-class ScriptedProjectFileDialog : public ProjectFileDialog {
+class ScriptedProjectFileDialog : public core::ProjectFileDialog {
  public:
   explicit ScriptedProjectFileDialog(Calls& calls) : calls_(calls) {}
 
@@ -66,7 +66,8 @@ class RecordedBoxes : public RecordingMessageBox {
  public:
   explicit RecordedBoxes(Calls& calls) : calls_(calls) {}
 
-  BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override {
+  env::BoxAnswer Show(env::BoxKind kind, env::BoxButtons buttons, const std::string& title,
+                      const std::string& text) override {
     calls_.push_back("box " + title);
     return RecordingMessageBox::Show(kind, buttons, title, text);
   }
@@ -83,13 +84,13 @@ struct ProjectDesk {
   ScriptedProjectFileDialog dialog{calls};
   RecordingSessionHost host{calls};
   CountingEventLoop events;
-  PathMap paths{{}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
-  ImageListDisplay display;
-  Project project;
-  ImageListOperations images{project, files, boxes, display};
-  ProjectSession session{project, images, {paths, boxes, dialog, host, events}};
+  env::PathMap paths{{}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
+  core::ImageListDisplay display;
+  core::Project project;
+  core::ImageListOperations images{project, files, boxes, display};
+  core::ProjectSession session{project, images, {paths, boxes, dialog, host, events}};
 
   /// Path text of a file in the folder. The file need not exist.
   [[nodiscard]] std::string PathOf(const std::string& name) const { return paths.ToText(folder.Path() / name); }
@@ -105,7 +106,7 @@ struct ProjectDesk {
 };
 
 /// All settings by name, those of records as "ImageFilters.sliderFade". Comparing them shows which ones differ.
-inline std::map<std::string, std::string> SettingTexts(const GalleryProject& project) {
+inline std::map<std::string, std::string> SettingTexts(const core::GalleryProject& project) {
   std::map<std::string, std::string> texts;
   const auto put = [&texts](const std::string& name, const auto& value) {
     if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) {
@@ -119,18 +120,18 @@ inline std::map<std::string, std::string> SettingTexts(const GalleryProject& pro
       std::visit([&](auto member) { put(name + "." + std::string(field.name), record.*member); }, field.member);
     }
   };
-  for (const ProjectField& field : ProjectFields()) {
+  for (const core::ProjectField& field : core::ProjectFields()) {
     const std::string name(field.name);
     std::visit(
         [&](auto member) {
           const auto& value = project.*member;
           using Value = std::decay_t<decltype(value)>;
-          if constexpr (std::is_same_v<Value, ImageFilterSettings>) {
-            putRecord(name, value, FilterFields());
-          } else if constexpr (std::is_same_v<Value, WatermarkSettings>) {
-            putRecord(name, value, WatermarkFields());
-          } else if constexpr (std::is_same_v<Value, LinkSettings>) {
-            putRecord(name, value, LinkFields());
+          if constexpr (std::is_same_v<Value, image::ImageFilterSettings>) {
+            putRecord(name, value, core::FilterFields());
+          } else if constexpr (std::is_same_v<Value, image::WatermarkSettings>) {
+            putRecord(name, value, core::WatermarkFields());
+          } else if constexpr (std::is_same_v<Value, core::LinkSettings>) {
+            putRecord(name, value, core::LinkFields());
           } else {
             put(name, value);
           }

@@ -35,7 +35,7 @@ class ProjectReading {
     desk.project.images.Clear();
     desk.boxes.boxes.clear();
     desk.calls.clear();
-    ProjectFileReader reader(desk.project, desk.images, desk.paths, desk.boxes, desk.host, desk.events);
+    core::ProjectFileReader reader(desk.project, desk.images, desk.paths, desk.boxes, desk.host, desk.events);
     return reader.ReadProjectFile(path);
   }
   /// The reason in the only message box.
@@ -48,7 +48,7 @@ class ProjectReading {
   [[nodiscard]] std::string Box() const {
     return desk.boxes.boxes.size() == 1 ? desk.boxes.boxes[0].title + ": " + desk.boxes.boxes[0].text : "not one box";
   }
-  [[nodiscard]] const GalleryProject& Settings() const { return desk.project.settings; }
+  [[nodiscard]] const core::GalleryProject& Settings() const { return desk.project.settings; }
 
   ProjectDesk desk;
   std::string path;

@@ -8,13 +8,15 @@
 namespace vantorium::fakes {
 
 /// Records the calls.
-class RecordingDesktop : public Shell {
+class RecordingDesktop : public env::Shell {
  public:
-  void Beep(BeepKind kind) override { beeps.push_back(kind); }
+  void Beep(env::BeepKind kind) override { beeps.push_back(kind); }
   void OpenFile(const std::string& path) override { opened.push_back(path); }
-  void Start(const ShellCommand& command, const StartFailed& /*failed*/) override { started.push_back(command.words); }
+  void Start(const env::ShellCommand& command, const env::StartFailed& /*failed*/) override {
+    started.push_back(command.words);
+  }
 
-  std::vector<BeepKind> beeps;
+  std::vector<env::BeepKind> beeps;
   std::vector<std::string> opened;
   std::vector<std::vector<std::string>> started;
 };

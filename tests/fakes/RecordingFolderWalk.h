@@ -8,7 +8,7 @@
 namespace vantorium::fakes {
 
 /// Records what a walk shows, and presses Stop once `cancelAt` images have been added.
-class RecordingFolderWalk : public FolderWalkProgress {
+class RecordingFolderWalk : public ui::FolderWalkProgress {
  public:
   void Open() override { calls.emplace_back("open"); }
   void Show(const std::string& folder, std::size_t added) override {

@@ -8,7 +8,7 @@
 namespace vantorium::fakes {
 
 /// Records, in order, the calls that the image list's operations make to their window.
-class RecordingImageListDisplay : public ImageListDisplay {
+class RecordingImageListDisplay : public core::ImageListDisplay {
  public:
   void ShowBusyPointer(bool busy) override { calls.emplace_back(busy ? "wait" : "reset"); }
   void RefreshPreview() override { calls.emplace_back("preview"); }

@@ -17,7 +17,7 @@ namespace vantorium::fakes {
 using Journal = std::vector<std::string>;
 
 /// Counts its turns and calls `onTurn` in each.
-class ScriptedLoop : public EventLoop {
+class ScriptedLoop : public env::EventLoop {
  public:
   void Turn() override {
     ++turns;
@@ -28,24 +28,24 @@ class ScriptedLoop : public EventLoop {
   std::function<void(int)> onTurn;
 };
 
-class RecordingShell : public Shell {
+class RecordingShell : public env::Shell {
  public:
   explicit RecordingShell(Journal& journal) : journal_(journal) {}
 
-  void Beep(BeepKind kind) override {
-    journal_.emplace_back(kind == BeepKind::Information ? "beep information" : "beep warning");
+  void Beep(env::BeepKind kind) override {
+    journal_.emplace_back(kind == env::BeepKind::Information ? "beep information" : "beep warning");
   }
   void OpenFile(const std::string& path) override {
     journal_.push_back("open " + path);
-    if (fails) throw RuntimeFailure(FailureKind::FileNotFound);
+    if (fails) throw env::RuntimeFailure(env::FailureKind::FileNotFound);
   }
-  void Start(const ShellCommand& command, const StartFailed& failed) override {
+  void Start(const env::ShellCommand& command, const env::StartFailed& failed) override {
     std::string line = "start";
     for (const std::string& word : command.words) line += " " + word;
     journal_.push_back(line);
     if (startsThatFail-- <= 0) return;
     later = [failed, program = command.words.front()] {
-      failed(RuntimeFailure(FailureKind::FileAccess, "\"" + program + "\" failed"));
+      failed(env::RuntimeFailure(env::FailureKind::FileAccess, "\"" + program + "\" failed"));
     };
     if (!failsLater) LetFail();
   }
@@ -76,7 +76,7 @@ struct ProgressRecord {
   bool unloaded = false;
 };
 
-class RecordingProgress : public ProgressWindow {
+class RecordingProgress : public publish::ProgressWindow {
  public:
   RecordingProgress(ProgressRecord& record, Journal& journal) : record_(record), journal_(journal) {}
   ~RecordingProgress() override {
@@ -116,15 +116,15 @@ class RecordingProgress : public ProgressWindow {
   Journal& journal_;
 };
 
-class RecordingRunHost : public RunHost {
+class RecordingRunHost : public generation::RunHost {
  public:
   explicit RecordingRunHost(Journal& journal) : journal_(journal) {}
 
-  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override {
+  [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override {
     journal_.emplace_back("asked");
     return order;
   }
-  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
+  [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override {
     auto window = std::make_unique<RecordingProgress>(progress, journal_);
     window->closesAtOnce = windowClosesAtOnce;
     openWindow = window.get();
@@ -135,7 +135,7 @@ class RecordingRunHost : public RunHost {
   void EnableMainWindow(bool enabled) override { journal_.emplace_back(enabled ? "window on" : "window off"); }
   void EnableTrayIcon(bool enabled) override { journal_.emplace_back(enabled ? "tray on" : "tray off"); }
 
-  std::optional<RunOrder> order;  ///< the user's answer
+  std::optional<generation::RunOrder> order;  ///< the user's answer
   ProgressRecord progress;
   std::vector<std::string> statuses;
   bool windowClosesAtOnce = true;

@@ -13,8 +13,8 @@
 namespace vantorium::fakes {
 
 /// A picture in one color, 0x00BBGGRR. Each column is brighter by `ramp` than the one before.
-inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::uint32_t color, int ramp = 0) {
-  cDIBSection picture;
+inline image::cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::uint32_t color, int ramp = 0) {
+  image::cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no picture");
   for (std::int32_t y = 0; y < height; ++y) {
     for (std::int32_t x = 0; x < width; ++x) {
@@ -28,7 +28,7 @@ inline cDIBSection PlainPicture(std::int32_t width, std::int32_t height, std::ui
 }
 
 /// The bytes of a picture without padding, for comparisons.
-inline std::string BytesOf(const cDIBSection& picture) {
+inline std::string BytesOf(const image::cDIBSection& picture) {
   std::string bytes;
   for (std::int32_t y = 0; y < picture.height(); ++y) {
     bytes.append(reinterpret_cast<const char*>(picture.Row(y)), static_cast<std::size_t>(picture.width()) * 3);
@@ -36,12 +36,12 @@ inline std::string BytesOf(const cDIBSection& picture) {
   return bytes;
 }
 
-class RecordingSampleBox : public SampleBox {
+class RecordingSampleBox : public ui::SampleBox {
  public:
-  [[nodiscard]] PictureSize SizeInPixels() const override { return size; }
+  [[nodiscard]] image::PictureSize SizeInPixels() const override { return size; }
   [[nodiscard]] double PixelRatio() const override { return ratio; }
   void Clear() override { calls += "clear "; }
-  void PaintPicture(const cDIBSection& picture) override {
+  void PaintPicture(const image::cDIBSection& picture) override {
     calls += "paint ";
     painted.push_back(BytesOf(picture));
     paintedSize = {picture.width(), picture.height()};
@@ -58,11 +58,11 @@ class RecordingSampleBox : public SampleBox {
     return rough(2) + " " + rough(1) + " " + rough(0);
   }
 
-  PictureSize size{40, 30};
+  image::PictureSize size{40, 30};
   double ratio = 1;
   std::string calls;
   std::vector<std::string> painted;
-  PictureSize paintedSize;
+  image::PictureSize paintedSize;
 };
 
 /// A folder with sample pictures and a temporary folder.
@@ -72,7 +72,7 @@ struct SampleDesk {
   /// Writes a JPEG file of one color and returns its path text.
   std::string Jpeg(const std::string& name, std::uint32_t color, std::int32_t width = 64, std::int32_t height = 48,
                    int ramp = 0) {
-    SaveJPEGImage(PlainPicture(width, height, color, ramp), folder.Path() / name, 95);
+    image::SaveJPEGImage(PlainPicture(width, height, color, ramp), folder.Path() / name, 95);
     return paths.ToText(folder.Path() / name);
   }
   [[nodiscard]] std::string Missing() const { return paths.ToText(folder.Path() / "missing.jpg"); }
@@ -80,7 +80,7 @@ struct SampleDesk {
   [[nodiscard]] std::filesystem::path TempFile() const {
     return folder.Path() / "temp" / "VANTORIUM_TEMP" / "preview_temp.jpg";
   }
-  [[nodiscard]] SamplePorts Ports() { return {files, boxes, loop}; }
+  [[nodiscard]] ui::SamplePorts Ports() { return {files, boxes, loop}; }
   /// Replaces the temporary folder by a file, so that none can be created.
   void BlockTempFolder() {
     std::filesystem::remove_all(TempFile().parent_path());
@@ -88,9 +88,9 @@ struct SampleDesk {
   }
 
   TemporaryFolder folder;
-  PathMap paths{{}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
   CountingEventLoop loop;
 };

@@ -13,7 +13,7 @@ namespace vantorium::fakes {
 
 /// A socket without a network. Records each call that changes something in a journal, which several sockets can share.
 /// Answers with what the test put into its fields.
-class ScriptedFTPSocket : public FTPSocket {
+class ScriptedFTPSocket : public publish::FTPSocket {
  public:
   ScriptedFTPSocket(std::string name, std::vector<std::string>& journal) : name_(std::move(name)), journal_(journal) {}
 
@@ -26,7 +26,7 @@ class ScriptedFTPSocket : public FTPSocket {
     Note("reset");
     isConnected = false;
   }
-  void Configure(const FTPSocketSettings& given) override { settings = given; }
+  void Configure(const publish::FTPSocketSettings& given) override { settings = given; }
   [[nodiscard]] int Connect() override {
     Note("connect " + settings.host + " " + std::to_string(settings.port));
     isConnected = connectResult == 0;
@@ -39,9 +39,9 @@ class ScriptedFTPSocket : public FTPSocket {
   [[nodiscard]] std::string LocalAddress() const override { return "10.1.2.3"; }
   [[nodiscard]] std::string PeerAddress() const override { return "10.9.8.7"; }
   [[nodiscard]] std::string PortArgument() const override { return settings.portAddress + ":port"; }
-  void Accept(const FTPSocket& /*control*/) override {
+  void Accept(const publish::FTPSocket& /*control*/) override {
     Note("accept");
-    if (acceptFails) throw RuntimeFailure(FailureKind::FileAccess);
+    if (acceptFails) throw env::RuntimeFailure(env::FailureKind::FileAccess);
   }
   [[nodiscard]] std::string Read(std::size_t most) override {
     if (reads.empty()) return {};
@@ -77,7 +77,7 @@ class ScriptedFTPSocket : public FTPSocket {
   std::deque<std::string> reads;            ///< what Read returns, in order; then the end of the stream
   std::deque<std::ptrdiff_t> writeResults;  ///< what Write returns, in order; then the length
   std::function<std::size_t(std::size_t)> onWriteBytes;
-  FTPSocketSettings settings;
+  publish::FTPSocketSettings settings;
   std::vector<std::string> blocks;
 
  private:

@@ -7,15 +7,15 @@
 namespace vantorium::fakes {
 
 /// Returns `answer` each time.
-class ScriptedFileBrowser : public FileBrowser {
+class ScriptedFileBrowser : public ui::FileBrowser {
  public:
-  FileDialogResult DisplayFileDialog(const FileDialogRequest& request) override {
+  ui::FileDialogResult DisplayFileDialog(const ui::FileDialogRequest& request) override {
     requests.push_back(request);
     return answer;
   }
 
-  std::vector<FileDialogRequest> requests;
-  FileDialogResult answer;
+  std::vector<ui::FileDialogRequest> requests;
+  ui::FileDialogResult answer;
 };
 
 }  // namespace vantorium::fakes

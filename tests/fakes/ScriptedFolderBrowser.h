@@ -10,7 +10,7 @@
 namespace vantorium::fakes {
 
 /// Chooses the folders of its script, in order. An empty entry is Cancel, and so is every choice after the end.
-class ScriptedFolderBrowser : public FolderBrowser {
+class ScriptedFolderBrowser : public ui::FolderBrowser {
  public:
   [[nodiscard]] std::optional<std::string> BrowseForFolder(const std::string& title,
                                                            const std::string& initialFolder) override {

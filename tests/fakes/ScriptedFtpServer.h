@@ -52,7 +52,7 @@ class ScriptedFtpServer {
   [[nodiscard]] bool WaitToRead(int descriptor) const;
 
   Script script_;
-  FileDescriptor listener_;
+  env::FileDescriptor listener_;
   std::atomic<bool> isStopping_ = false;
   std::uint16_t port_ = 0;
   mutable std::mutex mutex_;
@@ -93,8 +93,8 @@ class ScriptedFtpServer::Session {
   void Erase(const std::string& name);
 
   ScriptedFtpServer& server_;
-  std::optional<FileDescriptor> control_;
-  std::optional<FileDescriptor> data_;
+  std::optional<env::FileDescriptor> control_;
+  std::optional<env::FileDescriptor> data_;
   std::string received_;
   std::uint16_t dataPort_ = 0;
 };

@@ -9,11 +9,11 @@ namespace vantorium::fakes {
 
 /// All tools of a shuffle in one object: repeats the scripted numbers, records the progress bar and the turns, and
 /// presses Stop in turn `stopInTurn`.
-class ScriptedShuffle : private ShuffleProgress, private EventLoop, private RandomNumbers {
+class ScriptedShuffle : private core::ShuffleProgress, private env::EventLoop, private core::RandomNumbers {
  public:
   explicit ScriptedShuffle(std::vector<double> numbers) : numbers_(std::move(numbers)) {}
 
-  [[nodiscard]] ShuffleTools Tools() { return {*this, *this, *this}; }
+  [[nodiscard]] core::ShuffleTools Tools() { return {*this, *this, *this}; }
 
   int stopInTurn = 0;  ///< 0: never
 

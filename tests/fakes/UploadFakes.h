@@ -12,7 +12,7 @@
 namespace vantorium::fakes {
 
 /// Records the calls. Every call succeeds except for the paths `refused` and `broken`.
-class RecordingUploads : public FTPUploads {
+class RecordingUploads : public publish::FTPUploads {
  public:
   [[nodiscard]] bool FTPCreateDirectoryPath(const std::string& path) override { return Answer("make " + path, path); }
   [[nodiscard]] bool FTPCopyFile(const std::string& localPath, const std::string& remotePath, bool overwrite) override {
@@ -28,15 +28,15 @@ class RecordingUploads : public FTPUploads {
   bool Answer(const std::string& call, const std::string& path) {
     calls.push_back(call);
     if (onCall) onCall();
-    if (!broken.empty() && path == broken) throw RuntimeFailure(FailureKind::DivisionByZero);
+    if (!broken.empty() && path == broken) throw env::RuntimeFailure(env::FailureKind::DivisionByZero);
     return refused.empty() || path != refused;
   }
 };
 
 /// Counts the polls. Reports a cancel from poll `cancelAtPoll` on, if not 0, or while `cancelled` is set.
-class ScriptedCancel : public CancelPoll {
+class ScriptedCancel : public publish::CancelPoll {
  public:
-  [[nodiscard]] bool CheckForCancel(ProgressWindow& progress) override {
+  [[nodiscard]] bool CheckForCancel(publish::ProgressWindow& progress) override {
     ++polls;
     if (onPoll) onPoll(progress);
     return cancelled || (cancelAtPoll > 0 && polls >= cancelAtPoll);
@@ -45,7 +45,7 @@ class ScriptedCancel : public CancelPoll {
   int polls = 0;
   int cancelAtPoll = 0;
   bool cancelled = false;
-  std::function<void(ProgressWindow&)> onPoll;
+  std::function<void(publish::ProgressWindow&)> onPoll;
 };
 
 }  // namespace vantorium::fakes

@@ -37,14 +37,14 @@ struct Options {
   std::uint64_t seed = 1;
 };
 
-void Store(const FileDescriptor& file, const std::string& input) {
+void Store(const env::FileDescriptor& file, const std::string& input) {
   const auto size = static_cast<ssize_t>(input.size());
   if (::ftruncate(file.Get(), 0) != 0 || ::pwrite(file.Get(), input.data(), input.size(), 0) != size) {
     throw std::runtime_error("the input could not be stored");
   }
 }
 
-void RunOne(const FileDescriptor& file, const std::string& input) {
+void RunOne(const env::FileDescriptor& file, const std::string& input) {
   Store(file, input);
   // An exact-size copy, so that the address sanitizer sees reads past the end.
   const std::vector<std::uint8_t> bytes(input.begin(), input.end());
@@ -70,7 +70,7 @@ std::vector<std::string> ReadCorpus(const Options& options) {
   return corpus;
 }
 
-void RunAll(const Options& options, const FileDescriptor& file) {
+void RunAll(const Options& options, const env::FileDescriptor& file) {
   const std::vector<std::string> corpus = ReadCorpus(options);
   if (corpus.empty()) throw std::runtime_error("there is no input");
   for (const std::string& input : corpus) RunOne(file, input);
@@ -79,7 +79,7 @@ void RunAll(const Options& options, const FileDescriptor& file) {
 }
 
 /// Runs in the worker process. It returns through main so that the leak check runs.
-int Work(const Options& options, const FileDescriptor& file) {
+int Work(const Options& options, const env::FileDescriptor& file) {
   try {
     RunAll(options, file);
     return EXIT_SUCCESS;
@@ -117,7 +117,7 @@ void Declare(CLI::App& app, Options& options) {
 
 int RunWatched(const Options& options, const char* program) {
   const fs::path input = fs::absolute(fmt::format("{}-{}.input", fs::path(program).filename().string(), ::getpid()));
-  const FileDescriptor file(::open(input.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+  const env::FileDescriptor file(::open(input.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
   const pid_t worker = file.IsOpen() ? ::fork() : -1;
   if (worker == 0) return Work(options, file);
   if (worker > 0) return Watch(program, worker, input);

@@ -35,10 +35,10 @@ struct Script {
 
 /// Code, completeness and text of a reply. Returns nullopt if a line of it is invalid.
 std::optional<std::string> Told(std::string_view text, std::size_t pieceSize) {
-  FTPReply reply;
+  publish::FTPReply reply;
   try {
     for (; !text.empty(); text.remove_prefix(std::min(pieceSize, text.size()))) reply.Take(text.substr(0, pieceSize));
-  } catch (const RuntimeFailure&) {
+  } catch (const env::RuntimeFailure&) {
     return std::nullopt;
   }
   fuzz::Require(reply.Code() >= 0 && reply.Code() <= 999, "a code has three digits");
@@ -70,7 +70,7 @@ class Client {
       if (!ftp_.FTPConnect("host") || !ftp_.FTPLogin("user", kPassword)) return CheckTraces();
       UseFiles();
       ftp_.Disconnect();
-    } catch (const RuntimeFailure&) {
+    } catch (const env::RuntimeFailure&) {
     }
     CheckTraces();
   }
@@ -121,12 +121,12 @@ class Client {
   std::unique_ptr<fakes::ScriptedFTPSocket> ownedData_ = std::make_unique<fakes::ScriptedFTPSocket>("data", journal_);
   fakes::ScriptedFTPSocket& cmd_ = *ownedCmd_;
   fakes::ScriptedFTPSocket& data_ = *ownedData_;
-  PathMap paths_{{}};
+  env::PathMap paths_{{}};
   fakes::RecordingMessageBox boxes_;
   fakes::CountingEventLoop loop_;
   fakes::CancelSwitch cancel_;
   fakes::FTPRunWindow window_;
-  mFTP ftp_{std::move(ownedCmd_), std::move(ownedData_), paths_, boxes_, loop_, cancel_};
+  publish::mFTP ftp_{std::move(ownedCmd_), std::move(ownedData_), paths_, boxes_, loop_, cancel_};
 };
 
 }  // namespace

@@ -20,16 +20,16 @@ constexpr std::string_view kKey = "ProjectFolder";
 struct Place {
   fakes::TemporaryFolder folder;
   std::filesystem::path file = folder.Path() / "preferences";
-  PathMap paths{{{'C', folder.Path().string()}}};
-  RegionalFormats formats{"en_US"};
-  mFileFunctions functions{paths, formats};
+  env::PathMap paths{{{'C', folder.Path().string()}}};
+  env::RegionalFormats formats{"en_US"};
+  env::mFileFunctions functions{paths, formats};
 
-  [[nodiscard]] Preferences Read() const { return ReadPreferences(file, "C:\\program", functions); }
+  [[nodiscard]] env::Preferences Read() const { return env::ReadPreferences(file, "C:\\program", functions); }
 };
 
 std::vector<std::string> LinesOf(std::string_view text) {
   std::vector<std::string> lines;
-  while (!text.empty()) lines.emplace_back(TakeINILine(text).content);
+  while (!text.empty()) lines.emplace_back(env::TakeINILine(text).content);
   return lines;
 }
 
@@ -46,40 +46,40 @@ std::vector<std::string> LinesLost(std::string_view before, std::string_view aft
 }
 
 void CheckWriting(const std::string& text, const std::string& value) {
-  const std::string written = WithINIString(text, kSection, kKey, value);
-  fuzz::RequireEqual(FindINIString(written, kSection, kKey).value_or("(nothing)"), value, "a value comes back");
-  fuzz::RequireEqual(WithINIString(written, kSection, kKey, value), written, "writing it again changes nothing");
+  const std::string written = env::WithINIString(text, kSection, kKey, value);
+  fuzz::RequireEqual(env::FindINIString(written, kSection, kKey).value_or("(nothing)"), value, "a value comes back");
+  fuzz::RequireEqual(env::WithINIString(written, kSection, kKey, value), written, "writing it again changes nothing");
   const auto lost = LinesLost(text, written);
   fuzz::Require(lost.size() <= 1, "at most one line is changed");
-  fuzz::Require(lost.empty() || FindIgnoringCase(lost[0], kKey) != std::string::npos, "and that is the key's");
+  fuzz::Require(lost.empty() || env::FindIgnoringCase(lost[0], kKey) != std::string::npos, "and that is the key's");
 }
 
 void CheckInteger(const Place& place) {
   try {
-    const std::int32_t number = ReadINIInteger("SETTINGS", "ImagesPreview", place.file);
-    WriteINIString("SETTINGS", "ImagesPreview", std::to_string(number), place.file);
-    fuzz::Require(ReadINIInteger("SETTINGS", "ImagesPreview", place.file) == number, "a number comes back");
-  } catch (const RuntimeFailure&) {
+    const std::int32_t number = env::ReadINIInteger("SETTINGS", "ImagesPreview", place.file);
+    env::WriteINIString("SETTINGS", "ImagesPreview", std::to_string(number), place.file);
+    fuzz::Require(env::ReadINIInteger("SETTINGS", "ImagesPreview", place.file) == number, "a number comes back");
+  } catch (const env::RuntimeFailure&) {
   }
 }
 
 /// `writable`: no value contains a NUL. Such a value is not written and may then be missing.
 void CheckPreferences(const Place& place, bool writable) {
-  Preferences preferences = place.Read();
-  fuzz::Require(preferences.Browsers.size() <= kMostBrowsers, "there are no more browsers than may be");
+  env::Preferences preferences = place.Read();
+  fuzz::Require(preferences.Browsers.size() <= env::kMostBrowsers, "there are no more browsers than may be");
   fuzz::Require(!preferences.CreateFolder.empty() && !preferences.GalleryIndexFileName.empty(), "defaults stand in");
-  WritePreferences(preferences, place.file);
-  const Preferences again = place.Read();
+  env::WritePreferences(preferences, place.file);
+  const env::Preferences again = place.Read();
   preferences.Browsers = again.Browsers;  // not written here, but their keys may be found in any section
   fuzz::Require(again == preferences || !writable, "preferences come back");
 }
 
 void CheckBrowsers(const Place& place) {
-  const std::vector<Browser> browsers = place.Read().Browsers;
+  const std::vector<env::Browser> browsers = place.Read().Browsers;
   try {
-    WriteBrowsers(browsers, place.file);
+    env::WriteBrowsers(browsers, place.file);
     fuzz::Require(place.Read().Browsers == browsers, "browsers come back");
-  } catch (const RuntimeFailure&) {  // a text that cannot be a value
+  } catch (const env::RuntimeFailure&) {  // a text that cannot be a value
   }
 }
 
@@ -90,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string input = fuzz::InputText(data, size);
   const auto lastLine = input.rfind('\n') + 1;  // 0 if there is no line end, as npos + 1 is 0
   const std::string text = input.substr(0, lastLine);
-  const std::string value = ReplaceAll(input.substr(lastLine), "\r", "");
+  const std::string value = env::ReplaceAll(input.substr(lastLine), "\r", "");
   CheckWriting(text, value);
   place.folder.Write("preferences", text);
   CheckInteger(place);

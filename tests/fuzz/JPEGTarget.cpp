@@ -13,28 +13,30 @@ namespace {
 // Larger claimed sizes are accepted if a file of that length can hold them, but take too long here.
 constexpr std::int64_t kMostPixels = 1 << 16;
 
-PictureRecipe Sized(std::int32_t width, std::int32_t height) {
-  PictureRecipe recipe;
-  recipe.size = PictureSize{width, height};
+image::PictureRecipe Sized(std::int32_t width, std::int32_t height) {
+  image::PictureRecipe recipe;
+  recipe.size = image::PictureSize{width, height};
   return recipe;
 }
 
-std::string MadeOfTheWhole(const cDIBSection& whole, const PictureRecipe& recipe) {
-  return EncodeJPEG(*Resample(whole, recipe.size->height, recipe.size->width), recipe.filters.sliderQuality);
+std::string MadeOfTheWhole(const image::cDIBSection& whole, const image::PictureRecipe& recipe) {
+  return image::EncodeJPEG(*image::Resample(whole, recipe.size->height, recipe.size->width),
+                           recipe.filters.sliderQuality);
 }
 
 /// Compares the output with one made from the whole picture. A low output skips most of the file's rows, a higher one
 /// some.
-void CheckPicture(const std::filesystem::path& file, const cDIBSection& whole, const PictureRecipe& recipe) {
+void CheckPicture(const std::filesystem::path& file, const image::cDIBSection& whole,
+                  const image::PictureRecipe& recipe) {
   std::stop_source stop;
-  CoefficientBudget budget{std::uint64_t{1} << 30U};
-  const PictureFiles files = MakePictures(file, {recipe, {}}, {stop.get_token(), budget});
+  image::CoefficientBudget budget{std::uint64_t{1} << 30U};
+  const image::PictureFiles files = image::MakePictures(file, {recipe, {}}, {stop.get_token(), budget});
   fuzz::Require(files.decoded, "what can be read in whole can be read in part");
   fuzz::Require(files.image.Bytes() == MadeOfTheWhole(whole, recipe), "rows left out do not show");
 }
 
 bool ReadsReduced(const std::filesystem::path& file, int divisor) {
-  JPEGDecoder decoder;
+  image::JPEGDecoder decoder;
   if (!decoder.Open(file)) return false;
   decoder.ReduceBy(divisor);
   if (!decoder.Start()) return false;
@@ -52,12 +54,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto file = folder.Write("photo.jpg", fuzz::InputText(data, size));
   std::int32_t width = 0;
   std::int32_t height = 0;
-  const bool hasSize = ReadJPEGSize(file, width, height);
+  const bool hasSize = image::ReadJPEGSize(file, width, height);
   fuzz::Require(hasSize ? width >= 1 && height >= 1 : width == 0 && height == 0, "a size is a size, or left alone");
   if (std::int64_t{width} * height > kMostPixels) return 0;
 
-  cDIBSection whole;
-  const bool loaded = LoadJPEGImage(whole, file);
+  image::cDIBSection whole;
+  const bool loaded = image::LoadJPEGImage(whole, file);
   fuzz::Require(!loaded || hasSize, "a picture has a size");
   fuzz::Require(!loaded || (whole.width() == width && whole.height() == height), "the size is that of the header");
   for (const int divisor : {2, 4, 8}) {

@@ -76,8 +76,8 @@ void WriteNotedPhotographs(const fs::path& folder) {
 
 /// A project that uses every part of the format.
 Project FullProject() {
-  Project project;
-  GalleryProject& settings = project.settings;
+  core::Project project;
+  core::GalleryProject& settings = project.settings;
   settings.textGalleryTitle = "Holidays & \xC3\xA4";
   settings.GalleryHeadCode = settings.GalleryInfoText = settings.ThumbnailPageHeadCode = "<B>\r\n]]>";
   settings.checkGallerySlideShow = settings.checkGallerySlideShowAutoStart = 1;
@@ -90,7 +90,7 @@ Project FullProject() {
   settings.checkPageLinksThumbnailDirectLinks = 1;
   settings.ImageWatermark.checkUseWatermark = 1;
   settings.ImageNextLink = {"next", "C:\\next.gif", "C:\\none.gif"};
-  for (ImageFilterSettings* filters : {&settings.ImageFilters, &settings.ThumbnailFilters}) {
+  for (image::ImageFilterSettings* filters : {&settings.ImageFilters, &settings.ThumbnailFilters}) {
     filters->checkGrayscale = filters->checkNoise = filters->checkBrightness = filters->checkFade = 1;
   }
   project.images.Insert(1, {"a", "P:\\a.jpg", "", "", "first\r\nline", "thumb"});
@@ -123,7 +123,7 @@ void WriteProjects(const fs::path& folder) {
   };
   const std::string wide = SmallProject("", "\xE4");
   fakes::CountingEventLoop events;
-  Write(folder / "full.gpj", ProjectFileText(FullProject(), events));
+  Write(folder / "full.gpj", core::ProjectFileText(FullProject(), events));
   Write(folder / "utf8_mark.gpj", "\xEF\xBB\xBF" + SmallProject("", "\xC3\xA4"));
   Write(folder / "utf16le_mark.gpj", "\xFF\xFE" + Widened(wide, 2, false));
   Write(folder / "utf16be_mark.gpj", "\xFE\xFF" + Widened(wide, 2, true));

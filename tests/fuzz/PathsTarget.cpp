@@ -12,13 +12,13 @@ using namespace vantorium;
 namespace {
 
 void CheckText(const std::string& path) {
-  const std::string backslashes = WithBackslashes(path);
+  const std::string backslashes = env::WithBackslashes(path);
   const std::string prepared = backslashes.starts_with('\\') ? backslashes.substr(1) : backslashes;
-  fuzz::RequireEqual(GetFilePath(path) + GetFileName(path), prepared, "folder and name are the whole path");
-  fuzz::Require(GetFileName(path).find('\\') == std::string::npos, "a name has no separator");
-  fuzz::Require(path.ends_with(GetFileExtension(path)), "an extension is the end of its path");
-  fuzz::RequireEqual(WithSlashes(backslashes), WithSlashes(path), "separators are turned, and nothing else");
-  fuzz::Require(WithTrailingBackslash(path).ends_with('\\'), "a folder ends in a backslash");
+  fuzz::RequireEqual(env::GetFilePath(path) + env::GetFileName(path), prepared, "folder and name are the whole path");
+  fuzz::Require(env::GetFileName(path).find('\\') == std::string::npos, "a name has no separator");
+  fuzz::Require(path.ends_with(env::GetFileExtension(path)), "an extension is the end of its path");
+  fuzz::RequireEqual(env::WithSlashes(backslashes), env::WithSlashes(path), "separators are turned, and nothing else");
+  fuzz::Require(env::WithTrailingBackslash(path).ends_with('\\'), "a folder ends in a backslash");
 }
 
 void CheckDrives(const std::map<char, std::string>& drives) {
@@ -41,7 +41,7 @@ std::string NormalForm(const std::filesystem::path& native) {
   return path;
 }
 
-void CheckMap(const PathMap& map, const std::string& path) {
+void CheckMap(const env::PathMap& map, const std::string& path) {
   if (const auto native = map.ToNative(path)) {
     fuzz::Require(native->string().find('\0') == std::string::npos, "a native path has no NUL");
     if (HasItsOwnText(*native)) {
@@ -59,11 +59,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string input = fuzz::InputText(data, size);
   const auto lastLine = input.rfind('\n') + 1;  // 0 if there is no line end, as npos + 1 is 0
   const std::string path = input.substr(lastLine);
-  const auto drives = DrivesOf(std::string_view(input).substr(0, lastLine));
+  const auto drives = env::DrivesOf(std::string_view(input).substr(0, lastLine));
   CheckText(path);
   CheckDrives(drives);
-  CheckMap(PathMap(drives, "/home/anna"), path);
-  fuzz::Require(MatchesWildcards(path, "*"), "everything matches a star");
-  std::ignore = MatchesWildcards(input, path);
+  CheckMap(env::PathMap(drives, "/home/anna"), path);
+  fuzz::Require(env::MatchesWildcards(path, "*"), "everything matches a star");
+  std::ignore = env::MatchesWildcards(input, path);
   return 0;
 }

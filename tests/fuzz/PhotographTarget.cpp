@@ -16,22 +16,23 @@ namespace {
 
 // Larger claimed sizes are accepted if a file of that length can hold them, but take too long here.
 constexpr std::int64_t kMostPixels = 1 << 16;
-constexpr Corrections kAll = {.upright = true, .trueColors = true};
+constexpr image::Corrections kAll = {.upright = true, .trueColors = true};
 
-std::string MadeOfTheWhole(const cDIBSection& upright, const PhotographNotes& notes, const PictureRecipe& recipe) {
-  const auto resized = Resample(upright, recipe.size->height, recipe.size->width);
-  const auto colors = SRGBTransform::For(notes.profile, notes.channels);
+std::string MadeOfTheWhole(const image::cDIBSection& upright, const image::PhotographNotes& notes,
+                           const image::PictureRecipe& recipe) {
+  const auto resized = image::Resample(upright, recipe.size->height, recipe.size->width);
+  const auto colors = image::SRGBTransform::For(notes.profile, notes.channels);
   for (std::int32_t row = 0; colors && row < resized->height(); ++row) {
     colors->Apply(resized->Row(row), static_cast<std::size_t>(resized->width()));
   }
-  return EncodeJPEG(*resized, recipe.filters.sliderQuality);
+  return image::EncodeJPEG(*resized, recipe.filters.sliderQuality);
 }
 
-void CheckNotes(const std::filesystem::path& file, const PhotographNotes& notes) {
+void CheckNotes(const std::filesystem::path& file, const image::PhotographNotes& notes) {
   const auto value = static_cast<int>(notes.orientation);
   fuzz::Require(value >= 1 && value <= 8, "there are eight orientations");
-  const auto upright = ReadPhotographNotes(file, {.upright = true});
-  const auto colored = ReadPhotographNotes(file, {.trueColors = true});
+  const auto upright = image::ReadPhotographNotes(file, {.upright = true});
+  const auto colored = image::ReadPhotographNotes(file, {.trueColors = true});
   fuzz::Require(upright.orientation == notes.orientation, "the orientation is the same without the profile");
   fuzz::Require(colored.profile == notes.profile, "the profile is the same without the orientation");
 }
@@ -41,23 +42,23 @@ void CheckNotes(const std::filesystem::path& file, const PhotographNotes& notes)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const fakes::TemporaryFolder folder;
   const std::string input = fuzz::InputText(data, size);
-  std::ignore = OrientationInExif(input);
-  for (const int channels : {1, 3}) std::ignore = SRGBTransform::For(input, channels);
+  std::ignore = image::OrientationInExif(input);
+  for (const int channels : {1, 3}) std::ignore = image::SRGBTransform::For(input, channels);
 
   const auto file = folder.Write("photo.jpg", input);
-  const PhotographNotes notes = ReadPhotographNotes(file, kAll);
+  const image::PhotographNotes notes = image::ReadPhotographNotes(file, kAll);
   CheckNotes(file, notes);
   std::int32_t width = 0;
   std::int32_t height = 0;
-  if (!ReadPhotographSize(file, true, width, height) || std::int64_t{width} * height > kMostPixels) return 0;
-  cDIBSection upright;
-  const bool loaded = LoadPhotograph(upright, file, {.upright = true});
+  if (!image::ReadPhotographSize(file, true, width, height) || std::int64_t{width} * height > kMostPixels) return 0;
+  image::cDIBSection upright;
+  const bool loaded = image::LoadPhotograph(upright, file, {.upright = true});
   if (!loaded) return 0;
   fuzz::Require(upright.width() == width && upright.height() == height, "the size is that of the upright photograph");
-  PictureRecipe recipe;
-  recipe.size = PictureSize{5, upright.height() / 3 + 1};
-  CoefficientBudget budget{std::uint64_t{1} << 30U};
-  const PictureFiles files = MakePictures(file, {recipe, {}, kAll}, {{}, budget});
+  image::PictureRecipe recipe;
+  recipe.size = image::PictureSize{5, upright.height() / 3 + 1};
+  image::CoefficientBudget budget{std::uint64_t{1} << 30U};
+  const image::PictureFiles files = image::MakePictures(file, {recipe, {}, kAll}, {{}, budget});
   fuzz::Require(files.decoded, "what can be read in whole can be turned in part");
   fuzz::Require(files.image.Bytes() == MadeOfTheWhole(upright, notes, recipe), "a part is turned as the whole");
   return 0;

@@ -16,7 +16,7 @@ namespace {
 class Desk : public fakes::ProjectDesk {
  public:
   Desk() {
-    paths = PathMap({{'P', folder.Path().string()}});
+    paths = env::PathMap({{'P', folder.Path().string()}});
     folder.Write("a.jpg", "bytes");
     folder.Write("b.jpg", "more bytes");
   }
@@ -29,14 +29,14 @@ class Desk : public fakes::ProjectDesk {
   }
 
   /// The text of the project file with all line ends as LF: writing may change them.
-  [[nodiscard]] std::string Written() { return OneLineEnd(ProjectFileText(project, events)); }
+  [[nodiscard]] std::string Written() { return OneLineEnd(core::ProjectFileText(project, events)); }
 
   /// The images in the form that the file keeps: paths with slashes, and one kind of line end in texts.
   [[nodiscard]] std::string Images() const {
     std::string text;
     for (std::size_t position = 1; position <= project.images.Count(); ++position) {
-      const ImageEntry& entry = project.images.Entry(position);
-      text += entry.ImageName + "\n" + WithSlashes(entry.SourcePath) + "\n" + OneLineEnd(entry.ImageDescription) +
+      const core::ImageEntry& entry = project.images.Entry(position);
+      text += entry.ImageName + "\n" + env::WithSlashes(entry.SourcePath) + "\n" + OneLineEnd(entry.ImageDescription) +
               "\n" + OneLineEnd(entry.ThumbnailDescription) + "\n";
     }
     return text;
@@ -45,29 +45,29 @@ class Desk : public fakes::ProjectDesk {
  private:
   /// Character references can put a CR anywhere. Written in a CDATA section, it is a line end like any other.
   static std::string OneLineEnd(const std::string& text) {
-    return ReplaceAll(ReplaceAll(text, kCrLf, "\n"), "\r", "\n");
+    return env::ReplaceAll(env::ReplaceAll(text, env::kCrLf, "\n"), "\r", "\n");
   }
 };
 
 /// Resets the settings that the writer puts where the reader does not look, see docs/project-file.md.
-void LoseWhatIsNotReadBack(GalleryProject& settings) {
-  constexpr Choice kAbove = 2;
-  constexpr Choice kBelow = 3;
+void LoseWhatIsNotReadBack(core::GalleryProject& settings) {
+  constexpr core::Choice kAbove = 2;
+  constexpr core::Choice kBelow = 3;
   settings.textThumbnailsTableBackdrop.clear();
-  for (Choice* placement :
+  for (core::Choice* placement :
        {&settings.comboCaptionsImagesRegularPlacement, &settings.comboCaptionsThumbnailsRegularPlacement}) {
     if (*placement == kAbove) *placement = kBelow;
   }
 }
 
 void CheckXml(const std::string& bytes) {
-  const auto text = DecodeXml(bytes);
-  XmlFile file;
+  const auto text = core::DecodeXml(bytes);
+  core::XmlFile file;
   const bool parsed = file.Parse(bytes);
-  fuzz::Require(parsed == (text && IsWellFormedXml(*text)), "what is well-formed is parsed, and nothing else");
+  fuzz::Require(parsed == (text && core::IsWellFormedXml(*text)), "what is well-formed is parsed, and nothing else");
   if (!parsed) return;
   std::size_t nodes = 0;
-  for (auto node = file.Root(); node; node = NextInDocument(node, file.Root())) ++nodes;
+  for (auto node = file.Root(); node; node = core::NextInDocument(node, file.Root())) ++nodes;
   fuzz::Require(nodes > 0 && nodes <= text->size(), "a document has an element, and no more nodes than bytes");
 }
 
@@ -79,14 +79,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckXml(input);
   if (!desk.Read(input)) {
     fuzz::Require(!desk.boxes.boxes.empty(), "a project that can't be read gives a box");
-    std::ignore = ProjectFileText(desk.project, desk.events);  // a partly read project may be saved
+    std::ignore = core::ProjectFileText(desk.project, desk.events);  // a partly read project may be saved
     return 0;
   }
   fuzz::Require(desk.boxes.boxes.empty(), "a project that was read gives no box");
   LoseWhatIsNotReadBack(desk.project.settings);
   const std::string images = desk.Images();
   const std::string written = desk.Written();
-  fuzz::Require(desk.Read(ProjectFileText(desk.project, desk.events)), "what was read can be written and read again");
+  fuzz::Require(desk.Read(core::ProjectFileText(desk.project, desk.events)),
+                "what was read can be written and read again");
   fuzz::RequireEqual(desk.Images(), images, "the images come back");
   fuzz::RequireEqual(desk.Written(), written, "the same project gives the same file");
   return 0;

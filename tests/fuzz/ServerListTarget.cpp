@@ -12,15 +12,15 @@ using namespace vantorium;
 namespace {
 
 /// The profiles without leading slashes in their paths, because each reading removes one.
-std::vector<ServerProfile> Comparable(const ServerList& list) {
-  std::vector<ServerProfile> profiles = list.Profiles();
-  for (ServerProfile& profile : profiles) {
+std::vector<publish::ServerProfile> Comparable(const publish::ServerList& list) {
+  std::vector<publish::ServerProfile> profiles = list.Profiles();
+  for (publish::ServerProfile& profile : profiles) {
     profile.IndexPath.erase(0, std::min(profile.IndexPath.find_first_not_of('/'), profile.IndexPath.size()));
   }
   return profiles;
 }
 
-void CheckSelection(ServerList& list) {
+void CheckSelection(publish::ServerList& list) {
   fuzz::Require(list.Profiles().empty() != list.Selected().has_value(), "one profile is selected while there is any");
   fuzz::Require(!list.Selected() || *list.Selected() < list.Profiles().size(), "the selected profile is in the list");
 }
@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string input = fuzz::InputText(data, size);
   const auto file = folder.Write("vantorium.pub", input);
   fakes::RecordingMessageBox boxes;
-  ServerList list(file, boxes);
+  publish::ServerList list(file, boxes);
   list.Open();
   CheckSelection(list);
   fuzz::Require(list.Profiles().size() <= input.size() + 1, "every profile but the default one has lines");
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!failed) fuzz::Require(list.SaveServerList(), "a list can be written");
 
   boxes.boxes.clear();
-  ServerList again(file, boxes);
+  publish::ServerList again(file, boxes);
   again.Open();
   CheckSelection(again);
   fuzz::Require(boxes.boxes.empty(), "what was written is read without a word");

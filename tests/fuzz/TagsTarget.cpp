@@ -36,7 +36,7 @@ class Run {
 
  private:
   void AddImage(const std::string& name, const std::string& description) {
-    ImageRunInfo info;
+    generation::ImageRunInfo info;
     info.Path = "C:\\" + name;
     info.FileName = name;
     state.RunInfo.push_back(info);
@@ -48,45 +48,47 @@ class Run {
                                          .ThumbnailDescription = description});
   }
 
-  GalleryProject project_;
-  ImageList images_;
-  PathMap paths_{{{'C', "/"}}};
+  core::GalleryProject project_;
+  core::ImageList images_;
+  env::PathMap paths_{{{'C', "/"}}};
   // Shared because they are expensive to make.
-  static const RegionalFormats& Formats() {
-    static const RegionalFormats formats{"en_US"};
+  static const env::RegionalFormats& Formats() {
+    static const env::RegionalFormats formats{"en_US"};
     return formats;
   }
-  mFileFunctions files_{paths_, Formats()};
+  env::mFileFunctions files_{paths_, Formats()};
 
  public:
-  RunState state{.project = project_, .images = images_, .files = files_, .formats = Formats()};
+  generation::RunState state{.project = project_, .images = images_, .files = files_, .formats = Formats()};
 };
 
 /// A plain implementation of ExpandTags: applies every row to the whole text.
-std::string ExpandedPlainly(const RunState& run, std::string text, std::int32_t image, std::int32_t page) {
-  for (const TagRow& row : TagRows()) {
-    if ((row.needs == TagNeeds::Image && image == kNoIndex) || (row.needs == TagNeeds::Page && page == kNoIndex)) {
+std::string ExpandedPlainly(const generation::RunState& run, std::string text, std::int32_t image, std::int32_t page) {
+  for (const generation::TagRow& row : generation::TagRows()) {
+    if ((row.needs == generation::TagNeeds::Image && image == generation::kNoIndex) ||
+        (row.needs == generation::TagNeeds::Page && page == generation::kNoIndex)) {
       continue;
     }
-    const bool removesGraphic = row.tag == kNextImageTextTag && run.project.ImageNextLink.textLinkLabel.empty();
-    const std::string_view tag = removesGraphic ? kNextImageGraphicTag : row.tag;
-    if (FindIgnoringCase(text, tag) == std::string::npos) continue;
-    text = ReplaceAllIgnoringCase(text, tag, row.value({run, image, page}));
+    const bool removesGraphic =
+        row.tag == generation::kNextImageTextTag && run.project.ImageNextLink.textLinkLabel.empty();
+    const std::string_view tag = removesGraphic ? generation::kNextImageGraphicTag : row.tag;
+    if (env::FindIgnoringCase(text, tag) == std::string::npos) continue;
+    text = env::ReplaceAllIgnoringCase(text, tag, row.value({run, image, page}));
   }
   return text;
 }
 
-void Check(const RunState& run, const std::string& text, std::int32_t image, std::int32_t page) {
+void Check(const generation::RunState& run, const std::string& text, std::int32_t image, std::int32_t page) {
   std::string expanded;
   try {
-    expanded = ExpandTags(run, text, image, page);
-    std::ignore = ExpandAllTags(run, text, image, page);
+    expanded = generation::ExpandTags(run, text, image, page);
+    std::ignore = generation::ExpandAllTags(run, text, image, page);
   } catch (const std::bad_alloc&) {
     return;  // texts that contain each other's tags grow without limit
   }
   fuzz::RequireEqual(expanded, ExpandedPlainly(run, text, image, page), "tags are replaced row by row");
-  if (FindIgnoringCase(text, "<VANTORIUM_") == std::string::npos) {
-    fuzz::RequireEqual(ExpandAllTags(run, text, image, page), text, "a text without tags stays");
+  if (env::FindIgnoringCase(text, "<VANTORIUM_") == std::string::npos) {
+    fuzz::RequireEqual(generation::ExpandAllTags(run, text, image, page), text, "a text without tags stays");
   }
 }
 
@@ -98,9 +100,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text = fuzz::TakePart(lines, '\n');
   Run run;
   run.TakeTexts(lines);
-  Check(run.state, text, 1, kNoIndex);
+  Check(run.state, text, 1, generation::kNoIndex);
   Check(run.state, text, 2, 2);
-  Check(run.state, text, kNoIndex, kImageCount);
-  Check(run.state, text, kNoIndex, kNoIndex);
+  Check(run.state, text, generation::kNoIndex, kImageCount);
+  Check(run.state, text, generation::kNoIndex, generation::kNoIndex);
   return 0;
 }

@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto file = folder.Write("photo.jpg", input);
   std::int32_t width = 0;
   std::int32_t height = 0;
-  if (!ReadJPEGSize(file, width, height) || std::int64_t{width} * height > kMostPixels) return 0;
+  if (!image::ReadJPEGSize(file, width, height) || std::int64_t{width} * height > kMostPixels) return 0;
 
   // All pixels, and some that hang on the input.
   const unsigned sum = std::accumulate(input.begin(), input.end(), 0U,

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using namespace std::chrono_literals;
@@ -72,4 +72,4 @@ TEST(CoefficientBudget, AStopEndsTheWaiting) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

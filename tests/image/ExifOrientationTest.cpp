@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 // Places in what ExifOf makes: "Exif" and two bytes, the TIFF header, the number of entries, entries of 12 bytes.
@@ -63,4 +63,4 @@ TEST(ExifOrientation, TheFillByteAfterTheNameMayBeAnything) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -3,7 +3,7 @@
 #include "tests/fakes/FailureOf.h"
 #include "tests/image/PictureFixtures.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::PixelAt;
@@ -68,8 +68,8 @@ TEST(Lighten, TellingColorsAtEveryAmountAreAsTheLiteralFilterHasThem) {
 TEST(Lighten, BeyondTheRangeWhiteStaysWhiteAndLessThanBlackIsAFailure) {
   EXPECT_EQ(Lightened({200, 200, 200}, 500), (RGB{255, 255, 255}));
   cDIBSection dib = fakes::Plain(2, 2, {200, 200, 200});
-  EXPECT_EQ(fakes::FailureOf([&] { Lighten(dib, -200); }), FailureKind::Overflow);
+  EXPECT_EQ(fakes::FailureOf([&] { Lighten(dib, -200); }), env::FailureKind::Overflow);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::PixelAt;
@@ -144,4 +144,4 @@ TEST(AddNoise, AmountsBeyondTheRangeDoNoHarm) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -3,7 +3,7 @@
 #include "tests/fakes/FailureOf.h"
 #include "tests/image/PictureFixtures.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::PixelAt;
@@ -88,7 +88,7 @@ TEST(Fade, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
 TEST(Fade, AByteThatDoesNotFitIsAFailure) {
   for (const std::int32_t amount : {256, 100000, 2147483647, -255, -2147483647}) {
     cDIBSection white = fakes::Plain(2, 2, {255, 255, 255});
-    EXPECT_EQ(fakes::FailureOf([&] { Fade(white, amount); }), FailureKind::Overflow) << amount;
+    EXPECT_EQ(fakes::FailureOf([&] { Fade(white, amount); }), env::FailureKind::Overflow) << amount;
     cDIBSection black = fakes::Plain(2, 2, {});
     EXPECT_EQ(fakes::FailureOf([&] { Fade(black, amount); }), std::nullopt) << amount;
   }
@@ -153,4 +153,4 @@ TEST(RandomiseBits, ColorPicturesHaveNoBlue) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 #include <random>
 #include <stop_token>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using Rows = std::vector<std::vector<std::uint8_t>>;
@@ -182,4 +182,4 @@ TEST(JPEGDecoder, DamageAmongSkippedRowsIsNoticed) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 #include "tests/fakes/JpegMaker.h"
 #include "tests/image/PictureFixtures.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 unsigned ByteAt(const std::string& bytes, std::size_t place) {
@@ -57,16 +57,16 @@ TEST(JPEGEncoder, FinishingBeforeTheLastRowIsAFailure) {
   JPEGEncoder encoder(4, 4, 85);
   const std::vector<std::uint8_t> row(12);
   encoder.WriteRow(row.data());
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = encoder.Finish(); }), FailureKind::JPEGLibrary);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = encoder.Finish(); }), env::FailureKind::JPEGLibrary);
 }
 
 TEST(JPEGEncoder, SizesThatNoFileCanHaveAreAFailure) {
   constexpr std::pair<std::int32_t, std::int32_t> kSizes[] = {{0, 4}, {4, 0}, {-1, 4}, {65501, 4}, {4, 70000}};
   for (const auto& [width, height] : kSizes) {
-    EXPECT_EQ(fakes::FailureOf([&, &w = width, &h = height] { JPEGEncoder(w, h, 85); }), FailureKind::JPEGLibrary)
+    EXPECT_EQ(fakes::FailureOf([&, &w = width, &h = height] { JPEGEncoder(w, h, 85); }), env::FailureKind::JPEGLibrary)
         << width << " x " << height;
   }
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 TEST(JPEGInks, EachInkLeavesItsShareOfTheLightAndBlackItsOwn) {
@@ -32,4 +32,4 @@ TEST(JPEGInks, LightIsTheInkTurnedRound) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

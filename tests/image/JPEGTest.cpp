@@ -9,7 +9,7 @@
 
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::JpegColors;
@@ -310,7 +310,7 @@ TEST_F(JPEG, AFileThatCannotBeWrittenFailsWithLibjpegsNumber) {
     try {
       SaveJPEGImage(dib, path, 85);
       ADD_FAILURE() << path << " was written";
-    } catch (const RuntimeFailure& failure) {
+    } catch (const env::RuntimeFailure& failure) {
       EXPECT_EQ(failure.Number(), 26001) << path;
       EXPECT_TRUE(failure.Description().starts_with("Failed to save to JPG ")) << failure.Description();
     }
@@ -319,13 +319,13 @@ TEST_F(JPEG, AFileThatCannotBeWrittenFailsWithLibjpegsNumber) {
 }
 
 TEST_F(JPEG, APictureThatCannotBeEncodedFailsWithLibjpegsNumber) {
-  EXPECT_EQ(fakes::FailureOf([] { std::ignore = EncodeJPEG(cDIBSection(), 85); }), FailureKind::JPEGLibrary);
+  EXPECT_EQ(fakes::FailureOf([] { std::ignore = EncodeJPEG(cDIBSection(), 85); }), env::FailureKind::JPEGLibrary);
   cDIBSection cleared = fakes::Plain(4, 4, {});
   cleared.ClearUp();
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = EncodeJPEG(cleared, 85); }), FailureKind::JPEGLibrary);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = EncodeJPEG(cleared, 85); }), env::FailureKind::JPEGLibrary);
   const cDIBSection wide = fakes::Plain(65501, 1, {});
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = EncodeJPEG(wide, 85); }), FailureKind::JPEGLibrary);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = EncodeJPEG(wide, 85); }), env::FailureKind::JPEGLibrary);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 TEST(LogFont, TheHeightIsTheEmOfThePointsOnThatScreen) {
@@ -51,4 +51,4 @@ TEST(LogFont, TheFaceNameIsCutAfter31Characters) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -2,7 +2,7 @@
 
 #include <set>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 TEST(NoiseStream, NumbersAreSinglesBelowOne) {
@@ -70,4 +70,4 @@ TEST(NoiseStream, EachBitOfAPlaceTurnsEachBitOfItsNumberOverHalfOfTheTime) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 TEST(TurnUpright, AWholePictureIsTurnedAsPixelByPixel) {
@@ -12,7 +12,7 @@ TEST(TurnUpright, AWholePictureIsTurnedAsPixelByPixel) {
     for (int value = 1; value <= 8; ++value) {
       const auto orientation = static_cast<Orientation>(value);
       cDIBSection picture = fakes::Random(width, height, 5);
-      const cDIBSection wanted = TurnLiteral(picture, orientation);
+      const cDIBSection wanted = image::literal::TurnLiteral(picture, orientation);
       ASSERT_TRUE(TurnUpright(picture, orientation));
       ASSERT_EQ(picture.width(), wanted.width());
       ASSERT_EQ(picture.height(), wanted.height());
@@ -40,4 +40,4 @@ TEST(Turn, FromTheFifthOnTheSidesChangePlaces) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 std::ostream& operator<<(std::ostream& stream, const TextExtent& extent) {
   return stream << extent.width << " x " << extent.height;
@@ -316,4 +316,4 @@ TEST_F(PangoTextRasterTest, ThreadsShareIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

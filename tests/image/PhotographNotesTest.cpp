@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::ExifOf;
@@ -91,4 +91,4 @@ TEST_F(PhotographNotesTest, WhatIsNotAJpegFileHasNoNotes) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 class PhotographTest : public ::testing::Test {
@@ -48,13 +48,13 @@ TEST_F(PhotographTest, AWholePhotographIsLoadedWithItsCorrections) {
   EXPECT_EQ(EncodeJPEG(loaded, 90), EncodeJPEG(stored, 90));
 
   ASSERT_TRUE(LoadPhotograph(loaded, file, {.upright = true}));
-  EXPECT_EQ(EncodeJPEG(loaded, 90), EncodeJPEG(TurnLiteral(stored, Orientation::SwapSidesAround), 90));
+  EXPECT_EQ(EncodeJPEG(loaded, 90), EncodeJPEG(image::literal::TurnLiteral(stored, Orientation::SwapSidesAround), 90));
 
   ASSERT_TRUE(LoadPhotograph(loaded, file, {.upright = true, .trueColors = true}));
   const auto colors = SRGBTransform::For(profile, 3);
   ASSERT_TRUE(colors);
   for (std::int32_t y = 0; y < stored.height(); ++y) colors->Apply(stored.Row(y), 31);
-  EXPECT_EQ(EncodeJPEG(loaded, 90), EncodeJPEG(TurnLiteral(stored, Orientation::SwapSidesAround), 90));
+  EXPECT_EQ(EncodeJPEG(loaded, 90), EncodeJPEG(image::literal::TurnLiteral(stored, Orientation::SwapSidesAround), 90));
 }
 
 TEST_F(PhotographTest, ADamagedPhotographIsNotLoaded) {
@@ -65,4 +65,4 @@ TEST_F(PhotographTest, ADamagedPhotographIsNotLoaded) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 constexpr std::int32_t kWidth = 90;
@@ -34,7 +34,7 @@ std::string MakeOf(const cDIBSection& source, const PictureRecipe& recipe) {
 
 void DrawMark(cDIBSection& picture, std::int16_t placement, const TextRaster& raster) {
   LogFont font{.lfHeight = -19, .lfWeight = 700, .lfFaceName = "Arial"};
-  DrawWatermarkTextLiteral(picture, font, "MARK", placement, 0x20C0FF, 65, raster);
+  image::literal::DrawWatermarkTextLiteral(picture, font, "MARK", placement, 0x20C0FF, 65, raster);
 }
 
 TEST(PictureOutput, TheWatermarkIsDrawnRowByRowAsOnTheWholePicture) {
@@ -66,7 +66,10 @@ TEST(PictureOutput, APictureThatCannotHaveItsWatermarkFails) {
   const fakes::BoxTextRaster tooWide(40000, 10);
   PictureRecipe recipe;
   recipe.watermark = PainterOf(4, tooWide);
-  EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), FailureKind::Overflow);
+  EXPECT_EQ(fakes::FailureOf([&] {
+              const PictureOutput output(recipe, {kWidth, kHeight});
+            }),
+            env::FailureKind::Overflow);
   recipe.watermark = nullptr;
   EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), std::nullopt);
 }
@@ -77,7 +80,10 @@ TEST(PictureOutput, APictureWiderThanAWatermarkCanCountFailsOnlyWithOne) {
   recipe.size = PictureSize{32768, 2};
   EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), std::nullopt);
   recipe.watermark = PainterOf(0, raster);
-  EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), FailureKind::Overflow);
+  EXPECT_EQ(fakes::FailureOf([&] {
+              const PictureOutput output(recipe, {kWidth, kHeight});
+            }),
+            env::FailureKind::Overflow);
 }
 
 TEST(PictureOutput, ASideThatNoFileCanHaveIsRefusedInTheEncodersWordsWithoutMemoryForIt) {
@@ -85,7 +91,7 @@ TEST(PictureOutput, ASideThatNoFileCanHaveIsRefusedInTheEncodersWordsWithoutMemo
     try {
       const PictureOutput output(recipe, {kWidth, kHeight});
       return "";
-    } catch (const RuntimeFailure& failure) {
+    } catch (const env::RuntimeFailure& failure) {
       return failure.Description();
     }
   };
@@ -112,4 +118,4 @@ TEST(PictureOutput, TheLargestPictureTakesMemoryForAFewRowsWithFiltersToo) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

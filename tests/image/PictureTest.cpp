@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 class PictureTest : public ::testing::Test {
@@ -23,7 +23,8 @@ class PictureTest : public ::testing::Test {
   [[nodiscard]] std::string Plainly(const PictureRecipe& recipe) const {
     cDIBSection whole;
     EXPECT_TRUE(LoadJPEGImage(whole, folder.Path() / "source.jpg"));
-    if (recipe.size) whole = std::move(*ResampleLiteral(whole, recipe.size->height, recipe.size->width));
+    if (recipe.size)
+      whole = std::move(*image::literal::ResampleLiteral(whole, recipe.size->height, recipe.size->width));
     const auto& filters = recipe.filters;
     if (filters.checkBrightness == 1) Lighten(whole, filters.sliderBrightness);
     if (filters.checkFade == 1) Fade(whole, filters.sliderFade);
@@ -128,7 +129,7 @@ TEST_F(PictureTest, AFileThatIsNotAPictureIsNotDecoded) {
 TEST_F(PictureTest, ASizeWithoutPixelsFailsOnlyItsOwnOutput) {
   const auto files = Make(fakes::MakeJpeg({}), {Sized(10, 0), Sized(4, 4)});
   ASSERT_TRUE(files.decoded);
-  EXPECT_THROW(std::ignore = files.image.Bytes(), RuntimeFailure);
+  EXPECT_THROW(std::ignore = files.image.Bytes(), env::RuntimeFailure);
   EXPECT_EQ(files.thumbnail.Bytes(), Plainly(Sized(4, 4)));
 }
 
@@ -166,4 +167,4 @@ TEST_F(PictureTest, APictureInSeveralScansWaitsForItsShareOfTheMemory) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 std::string Chunk(int number, int count, std::string_view bytes) {
@@ -46,4 +46,4 @@ TEST(ProfileChunks, ThereIsNoProfileIfAnyChunkIsMissingTwiceEmptyOrContradictsAn
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 TEST(ResamplePlan, ARowWithoutWeightIsNotAskedFor) {
@@ -131,4 +131,4 @@ TEST(ResamplePlan, EveryPairOfBytesBetweenColumnsIsRoundedToEven) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

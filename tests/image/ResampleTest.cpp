@@ -5,7 +5,7 @@
 #include <limits>
 #include <random>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::PixelAt;
@@ -24,7 +24,7 @@ std::string PixelDifference(const cDIBSection& got, const cDIBSection& wanted) {
 
 void ExpectLiteral(const cDIBSection& source, std::int32_t width, std::int32_t height) {
   const auto fast = Resample(source, height, width);
-  const auto literal = ResampleLiteral(source, height, width);
+  const auto literal = image::literal::ResampleLiteral(source, height, width);
   ASSERT_TRUE(fast && literal) << width << " x " << height;
   EXPECT_EQ(PixelDifference(*fast, *literal), "")
       << source.width() << " x " << source.height() << " to " << width << " x " << height;
@@ -127,10 +127,10 @@ TEST(Resample, APictureThatCannotBeCreatedIsNull) {
   constexpr std::pair<std::int32_t, std::int32_t> kSizes[] = {{0, 4}, {4, 0}, {-4, 4}, {4, -4}, {kMost, kMost}};
   for (const auto& [height, width] : kSizes) {
     EXPECT_EQ(Resample(source, height, width), nullptr) << width << " x " << height;
-    EXPECT_EQ(ResampleLiteral(source, height, width), nullptr) << width << " x " << height;
+    EXPECT_EQ(image::literal::ResampleLiteral(source, height, width), nullptr) << width << " x " << height;
   }
   EXPECT_EQ(Resample(cDIBSection(), 4, 4), nullptr);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

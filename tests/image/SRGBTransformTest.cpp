@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::ProfileOf;
@@ -73,4 +73,4 @@ TEST(SRGBTransform, NoProfileAndADamagedOneLeaveThePictureAsItIs) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

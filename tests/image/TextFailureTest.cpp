@@ -15,7 +15,7 @@
 #include <pango/pangofc-fontmap.h>
 #include <pthread.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::FontFolder;
@@ -31,7 +31,7 @@ Failure FailureIn(Work work) {
   try {
     work();
     return {};
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     return {failure.Description(), failure.Number()};
   }
 }
@@ -160,4 +160,4 @@ TEST(FaceNames, AFontOfAFormatThatPangoLeavesOutIsNotListed) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

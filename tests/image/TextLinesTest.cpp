@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -45,4 +45,4 @@ TEST(TextLines, InvalidUTF8IsReplaced) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

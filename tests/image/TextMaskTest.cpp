@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 std::vector<std::int32_t> PixelsOf(const TextMask& mask, std::int32_t y) {
@@ -40,4 +40,4 @@ TEST(TextMask, ASideOfZeroHasNoRectangle) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::CopyOf;
@@ -47,7 +47,7 @@ TEST(TransparentCopy, ASourceLargerThanTheTargetIsRefused) {
     const cDIBSection before = Random(4, 3, 1);
     cDIBSection target = CopyOf(before);
     EXPECT_FALSE(TransparentCopy(source, target, kBlack, 100)) << width << " x " << height;
-    EXPECT_FALSE(TransparentCopyLiteral(source, target, kBlack, 100)) << width << " x " << height;
+    EXPECT_FALSE(image::literal::TransparentCopyLiteral(source, target, kBlack, 100)) << width << " x " << height;
     EXPECT_EQ(Difference(target, before), "");
   }
 }
@@ -127,7 +127,7 @@ TEST(TransparentCopy, EqualsTheLiteralVersionForEveryPairOfBytes) {
     cDIBSection got = CopyOf(before);
     cDIBSection wanted = CopyOf(before);
     ASSERT_TRUE(TransparentCopy(source, got, 0x010203, static_cast<std::uint8_t>(alpha)));
-    ASSERT_TRUE(TransparentCopyLiteral(source, wanted, 0x010203, static_cast<std::uint8_t>(alpha)));
+    ASSERT_TRUE(image::literal::TransparentCopyLiteral(source, wanted, 0x010203, static_cast<std::uint8_t>(alpha)));
     ASSERT_EQ(Difference(got, wanted), "") << "alpha " << alpha;
   }
 }
@@ -141,7 +141,7 @@ TEST(TransparentCopy, EqualsTheLiteralVersionAtEverySizeAndLeavesThePaddingAlone
       cDIBSection got = Random(width + static_cast<std::int32_t>(seed % 3), 4, seed);
       cDIBSection wanted = CopyOf(got);
       ASSERT_TRUE(TransparentCopy(source, got, 0x1E140A, alpha));
-      ASSERT_TRUE(TransparentCopyLiteral(source, wanted, 0x1E140A, alpha));
+      ASSERT_TRUE(image::literal::TransparentCopyLiteral(source, wanted, 0x1E140A, alpha));
       ASSERT_EQ(Difference(got, wanted), "") << "width " << width << ", alpha " << int{alpha};
       ASSERT_TRUE(fakes::PaddingUntouched(got)) << "width " << width;
     }
@@ -149,4 +149,4 @@ TEST(TransparentCopy, EqualsTheLiteralVersionAtEverySizeAndLeavesThePaddingAlone
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::JpegColors;
@@ -43,15 +43,16 @@ class UprightRowsTest : public ::testing::Test {
                                     int channels = 3) const {
     cDIBSection stored;
     EXPECT_TRUE(LoadJPEGImage(stored, folder.Path() / "source.jpg"));
-    cDIBSection whole = TurnLiteral(stored, static_cast<Orientation>(orientation));
-    if (recipe.size) whole = std::move(*ResampleLiteral(whole, recipe.size->height, recipe.size->width));
+    cDIBSection whole = image::literal::TurnLiteral(stored, static_cast<Orientation>(orientation));
+    if (recipe.size)
+      whole = std::move(*image::literal::ResampleLiteral(whole, recipe.size->height, recipe.size->width));
     const auto colors = SRGBTransform::For(profile, channels);
     for (std::int32_t y = 0; colors && y < whole.height(); ++y) {
       colors->Apply(whole.Row(y), static_cast<std::size_t>(whole.width()));
     }
     Filter(whole, recipe);
     LogFont font{.lfHeight = -19, .lfWeight = 700, .lfFaceName = "Arial"};
-    if (recipe.watermark) DrawWatermarkTextLiteral(whole, font, kMark, kPlacement, kInk, 65, raster);
+    if (recipe.watermark) image::literal::DrawWatermarkTextLiteral(whole, font, kMark, kPlacement, kInk, 65, raster);
     return EncodeJPEG(whole, recipe.filters.sliderQuality);
   }
   static void Filter(cDIBSection& whole, const PictureRecipe& recipe) {
@@ -201,4 +202,4 @@ TEST_F(UprightRowsTest, PhotographsThatAreHeldWaitForTheirShareOfTheMemory) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 
 std::ostream& operator<<(std::ostream& stream, const TextPlace& place) {
   return stream << (place.form == TextForm::Turned ? "turned" : "lines") << " at " << place.x << ", " << place.y;
@@ -96,8 +96,10 @@ TEST(WatermarkPlace, PicturesOver16BitsOverflow) {
   const BoxTextRaster raster(200, 53);
   for (const std::int16_t placement : {std::int16_t{0}, std::int16_t{4}, std::int16_t{9}, std::int16_t{10}}) {
     EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 32767, 32767, raster); }), std::nullopt) << placement;
-    EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 32768, 1, raster); }), FailureKind::Overflow) << placement;
-    EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 1, 32768, raster); }), FailureKind::Overflow) << placement;
+    EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 32768, 1, raster); }), env::FailureKind::Overflow)
+        << placement;
+    EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 1, 32768, raster); }), env::FailureKind::Overflow)
+        << placement;
   }
 }
 
@@ -106,7 +108,7 @@ TEST(WatermarkPlace, StraightTextsOver16BitsOverflow) {
     for (const auto& [width, height] :
          {TextExtent{32768, 1}, TextExtent{1, 32768}, TextExtent{std::int64_t{1} << 40, 1}}) {
       const BoxTextRaster raster(width, height);
-      EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 640, 480, raster); }), FailureKind::Overflow)
+      EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 640, 480, raster); }), env::FailureKind::Overflow)
           << placement << ", text " << width << " x " << height;
     }
     EXPECT_EQ(FailureOf([&] { std::ignore = Place(placement, 640, 480, BoxTextRaster(32767, 32767)); }), std::nullopt);
@@ -117,9 +119,9 @@ TEST(WatermarkPlace, OnADiagonalOnlyTheCoordinatesMayOverflow) {
   EXPECT_EQ(FailureOf([] { std::ignore = Place(10, 640, 480, BoxTextRaster(std::int64_t{1} << 40, 53)); }),
             std::nullopt);
   EXPECT_EQ(FailureOf([] { std::ignore = Place(10, 640, 480, BoxTextRaster(1, 81317)); }), std::nullopt);
-  EXPECT_EQ(FailureOf([] { std::ignore = Place(10, 640, 480, BoxTextRaster(1, 81320)); }), FailureKind::Overflow);
-  EXPECT_EQ(FailureOf([] { std::ignore = Place(9, 480, 640, BoxTextRaster(1, 90000)); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { std::ignore = Place(10, 640, 480, BoxTextRaster(1, 81320)); }), env::FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { std::ignore = Place(9, 480, 640, BoxTextRaster(1, 90000)); }), env::FailureKind::Overflow);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

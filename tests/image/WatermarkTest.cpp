@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 using fakes::BoxTextRaster;
@@ -102,7 +102,7 @@ TEST(Watermark, AFailureLeavesThePictureUntouched) {
   cDIBSection picture = CopyOf(before);
   LogFont font;
   const BoxTextRaster raster(40000, 2);
-  EXPECT_EQ(FailureOf([&] { DrawWatermarkText(picture, font, "text", 4, 0, 65, raster); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([&] { DrawWatermarkText(picture, font, "text", 4, 0, 65, raster); }), env::FailureKind::Overflow);
   EXPECT_EQ(Difference(picture, before), "");
 }
 
@@ -116,7 +116,7 @@ class WatermarkOfText : public ::testing::Test {
     cDIBSection got = CopyOf(on);
     cDIBSection wanted = CopyOf(on);
     DrawWatermarkText(got, font, text, placement, color, alpha, raster);
-    DrawWatermarkTextLiteral(wanted, literalFont, text, placement, color, alpha, raster);
+    image::literal::DrawWatermarkTextLiteral(wanted, literalFont, text, placement, color, alpha, raster);
     const std::string where = "placement " + std::to_string(placement) + ", alpha " + std::to_string(alpha) + ", " +
                               std::to_string(on.width()) + " x " + std::to_string(on.height());
     EXPECT_EQ(Difference(got, wanted), "") << where;
@@ -227,9 +227,9 @@ TEST_F(WatermarkPainting, APercentageBeyondAByteOverflowsWhenItIsDrawn) {
     WatermarkSettings settings = Settings(10);
     settings.sliderAlpha = alpha;
     const WatermarkPainter painter(settings, 96, raster);
-    EXPECT_EQ(FailureOf([&] { std::ignore = painter.MaskFor(20, 10); }), FailureKind::Overflow) << alpha;
+    EXPECT_EQ(FailureOf([&] { std::ignore = painter.MaskFor(20, 10); }), env::FailureKind::Overflow) << alpha;
     cDIBSection picture = Plain(20, 10, kBlack);
-    EXPECT_EQ(FailureOf([&] { painter.Draw(picture); }), FailureKind::Overflow) << alpha;
+    EXPECT_EQ(FailureOf([&] { painter.Draw(picture); }), env::FailureKind::Overflow) << alpha;
   }
 }
 
@@ -237,7 +237,7 @@ TEST_F(WatermarkPainting, EveryPictureThatCannotHaveItFails) {
   const BoxTextRaster raster(40000, 2);
   const WatermarkPainter painter(Settings(4), 96, raster);
   for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(FailureOf([&] { std::ignore = painter.MaskFor(20, 10); }), FailureKind::Overflow);
+    EXPECT_EQ(FailureOf([&] { std::ignore = painter.MaskFor(20, 10); }), env::FailureKind::Overflow);
   }
 }
 
@@ -265,4 +265,4 @@ TEST_F(WatermarkPainting, ManyThreadsDrawTheSame) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -8,7 +8,7 @@ extern "C" const char* __asan_default_options() {
   return "allocator_may_return_null=1";
 }
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 TEST(cDIBSection, ANewObjectIsEmpty) {
@@ -60,4 +60,4 @@ TEST(cDIBSection, ASecondCreateThrowsTheOldImageAway) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -3,7 +3,7 @@
 #include "tests/fakes/FailureOf.h"
 #include "tests/image/PictureFixtures.h"
 
-namespace vantorium {
+namespace vantorium::image {
 namespace {
 
 struct HLS {
@@ -73,8 +73,8 @@ TEST(mHLSRGB, EachSixthOfTheCircleHasItsOrderOfChannels) {
 
 TEST(mHLSRGB, ALightnessBeyondAllIntegersIsAFailure) {
   std::int32_t rgb[3] = {};
-  EXPECT_EQ(fakes::FailureOf([&] { HLSToRGB(0, 0, 1e30F, rgb[0], rgb[1], rgb[2]); }), FailureKind::Overflow);
+  EXPECT_EQ(fakes::FailureOf([&] { HLSToRGB(0, 0, 1e30F, rgb[0], rgb[1], rgb[2]); }), env::FailureKind::Overflow);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::image

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -39,7 +39,7 @@ class AsioFTPSocketTest : public testing::Test {
     EXPECT_EQ(std::sscanf(socket.PortArgument().c_str(), "127,0,0,1,%u,%u", &high, &low), 2) << socket.PortArgument();
     return static_cast<std::uint16_t>(high * 256 + low);
   }
-  [[nodiscard]] std::optional<FailureKind> AcceptFailure() {
+  [[nodiscard]] std::optional<env::FailureKind> AcceptFailure() {
     return fakes::FailureOf([this] { socket.Accept(control); });
   }
   void CancelInTurn(int number) {
@@ -251,7 +251,7 @@ TEST_F(AsioFTPSocketTest, AcceptWaitsWithoutALimitUntilItIsCancelled) {
   ConfigureFor(0, Milliseconds(0));
   ASSERT_EQ(socket.Listen(), 0);
   CancelInTurn(5);
-  EXPECT_EQ(AcceptFailure(), FailureKind::FileAccess);
+  EXPECT_EQ(AcceptFailure(), env::FailureKind::FileAccess);
   EXPECT_EQ(loop.turns, 5);
 }
 
@@ -261,7 +261,7 @@ TEST_F(AsioFTPSocketTest, AServerThatSpeaksFirstWillNotConnectAnyMore) {
   loop.onTurn = [this](int turn) {
     if (turn == 2) control.reads = {"425 No connection\r\n"};
   };
-  EXPECT_EQ(AcceptFailure(), FailureKind::FileAccess);
+  EXPECT_EQ(AcceptFailure(), env::FailureKind::FileAccess);
 }
 
 TEST_F(AsioFTPSocketTest, AConnectionThatCameBeforeTheNewsIsTaken) {
@@ -273,8 +273,8 @@ TEST_F(AsioFTPSocketTest, AConnectionThatCameBeforeTheNewsIsTaken) {
 }
 
 TEST_F(AsioFTPSocketTest, AcceptWithoutAListenerFails) {
-  EXPECT_EQ(AcceptFailure(), FailureKind::FileAccess);
+  EXPECT_EQ(AcceptFailure(), env::FailureKind::FileAccess);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 struct Case {
@@ -33,4 +33,4 @@ TEST(FTPPath, APathRelativeToTheSessionHasNoSlashInFront) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 TEST(FTPPercentage, IsRoundedWithHalvesToEven) {
@@ -25,8 +25,8 @@ TEST(FTPPercentage, IsNotComputedWhereTheProductOverflows) {
 }
 
 TEST(FTPPercentage, OfAnEmptyFileIsADivisionByZero) {
-  EXPECT_EQ(fakes::FailureOf([] { std::ignore = FTPPercentage(0, 0); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(fakes::FailureOf([] { std::ignore = FTPPercentage(0, 0); }), env::FailureKind::DivisionByZero);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 struct Case {
@@ -79,7 +79,7 @@ TEST(FTPReply, MayComeByteByByte) {
 TEST(FTPReply, ALineOfThreeDigitsIsAnInvalidArgument) {
   for (const char* text : {"220\r\n", "220-a\r\n220\r\n", "000\r\n"}) {
     FTPReply reply;
-    EXPECT_EQ(fakes::FailureOf([&] { reply.Take(text); }), FailureKind::InvalidArgument) << text;
+    EXPECT_EQ(fakes::FailureOf([&] { reply.Take(text); }), env::FailureKind::InvalidArgument) << text;
   }
 }
 
@@ -96,4 +96,4 @@ TEST(FTPReply, IsTooLongBeyondItsLimit) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

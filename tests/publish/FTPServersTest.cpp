@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 using fakes::FtpServerKind;
@@ -96,7 +96,7 @@ TEST_P(FTPServers, KeepNothingOfAFileThatCannotBeStored) {
 }
 
 TEST_P(FTPServers, MakeAnEmptyFileOfOneThatFailsByItsPercentage) {
-  EXPECT_EQ(fakes::FailureOf([this] { std::ignore = Copy("", "empty.jpg"); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(fakes::FailureOf([this] { std::ignore = Copy("", "empty.jpg"); }), env::FailureKind::DivisionByZero);
   client.ftp.Disconnect();
   ASSERT_TRUE(client.ftp.FTPConnect("127.0.0.1", server.Port()));
   ASSERT_TRUE(client.ftp.FTPLogin(server.User(), server.Password()));
@@ -137,4 +137,4 @@ INSTANTIATE_TEST_SUITE_P(On, FTPServers, testing::Values(FtpServerKind::Vsftpd, 
                          [](const auto& info) { return info.param == FtpServerKind::Vsftpd ? "vsftpd" : "ProFTPD"; });
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 using fakes::ScriptedFtpServer;
@@ -239,7 +239,8 @@ TEST(FTPSession, ADataConnectionFromAnotherHostIsRefused) {
 TEST(FTPSession, AnEmptyFileFailsAndTheNextOneIsStored) {
   FTPSession session;
   session.LogIn().client.folder.Write("empty.jpg", "");
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = session.Copy("empty.jpg", "e.jpg"); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = session.Copy("empty.jpg", "e.jpg"); }),
+            env::FailureKind::DivisionByZero);
   EXPECT_TRUE(session.server.WaitToHear("STOR e.jpg"));
   // The next command is sent before the reply to the empty file arrives, and takes that reply for its own.
   std::ignore = session.Copy();
@@ -338,4 +339,4 @@ TEST(FTPSessionCancel, AServerThatIsTooSlowForTheUserStillDeletesWhatHasArrived)
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

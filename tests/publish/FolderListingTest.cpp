@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 void PrintTo(const FolderEntry& entry, std::ostream* stream) {
   *stream << entry.name << (entry.kind == EntryKind::File ? "" : "/")
@@ -100,4 +100,4 @@ TEST_F(AListing, OfAFileDoesNotStart) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

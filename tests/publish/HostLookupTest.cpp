@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 TEST(HostLookup, FindsAddressesOfIPv4Only) {
@@ -24,4 +24,4 @@ TEST(HostLookup, NobodyHasToWait) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 using fakes::FailureOf;
 
-std::optional<FailureKind> LengthFailure(const std::optional<std::filesystem::path>& file) {
+std::optional<env::FailureKind> LengthFailure(const std::optional<std::filesystem::path>& file) {
   return FailureOf([&] { std::ignore = LengthOfFile(file); });
 }
 
@@ -18,11 +18,11 @@ TEST(LocalFile, TellsTheLengthOfRegularFilesOnly) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(LengthOfFile(folder.Write("five", "12345")), 5);
   EXPECT_EQ(LengthOfFile(folder.Write("none", "")), 0);
-  EXPECT_EQ(LengthFailure(folder.Path()), FailureKind::FileNotFound);
-  EXPECT_EQ(LengthFailure(folder.Path() / "missing"), FailureKind::FileNotFound);
-  EXPECT_EQ(LengthFailure(folder.Path() / "five" / "below"), FailureKind::FileNotFound);
-  EXPECT_EQ(LengthFailure(std::nullopt), FailureKind::FileNotFound);
-  EXPECT_EQ(LengthFailure("/dev/zero"), FailureKind::FileAccess);
+  EXPECT_EQ(LengthFailure(folder.Path()), env::FailureKind::FileNotFound);
+  EXPECT_EQ(LengthFailure(folder.Path() / "missing"), env::FailureKind::FileNotFound);
+  EXPECT_EQ(LengthFailure(folder.Path() / "five" / "below"), env::FailureKind::FileNotFound);
+  EXPECT_EQ(LengthFailure(std::nullopt), env::FailureKind::FileNotFound);
+  EXPECT_EQ(LengthFailure("/dev/zero"), env::FailureKind::FileAccess);
 }
 
 TEST(LocalFile, RefusesALengthThatNeedsMoreThan31Bits) {
@@ -31,7 +31,7 @@ TEST(LocalFile, RefusesALengthThatNeedsMoreThan31Bits) {
   std::filesystem::resize_file(file, 0x7FFFFFFF);  // sparse
   EXPECT_EQ(LengthOfFile(file), 0x7FFFFFFF);
   std::filesystem::resize_file(file, 0x80000000);
-  EXPECT_EQ(LengthFailure(file), FailureKind::Overflow);
+  EXPECT_EQ(LengthFailure(file), env::FailureKind::Overflow);
 }
 
 TEST(LocalFile, ReadsWholeBlocksOrNone) {
@@ -61,15 +61,15 @@ TEST(LocalFile, APipeStopsNothing) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-  EXPECT_EQ(LengthFailure(pipe), FailureKind::FileAccess);
+  EXPECT_EQ(LengthFailure(pipe), env::FailureKind::FileAccess);
   LocalFile file(pipe);
   std::string block(1, ' ');
   EXPECT_FALSE(file.Read(block));
 }
 
 TEST(LocalFile, AMissingFileCannotBeOpened) {
-  EXPECT_EQ(FailureOf([] { LocalFile("/nowhere/at/all"); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([] { LocalFile("/nowhere/at/all"); }), env::FailureKind::FileNotFound);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -13,7 +13,7 @@
 #include <netinet/in.h>
 #include <sys/socket.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 inline sockaddr_in LoopbackName(std::uint16_t port, const char* address = "127.0.0.1") {
   sockaddr_in name = {};
@@ -60,7 +60,7 @@ class LoopbackPeer {
   void Close() { std::ignore = socket_.Close(); }
 
  private:
-  FileDescriptor socket_;
+  env::FileDescriptor socket_;
 };
 
 /// Listens on a free port of loopback.
@@ -81,8 +81,8 @@ class LoopbackListener {
   [[nodiscard]] LoopbackPeer Accept() const { return LoopbackPeer(::accept(socket_.Get(), nullptr, nullptr)); }
 
  private:
-  FileDescriptor socket_;
+  env::FileDescriptor socket_;
   std::uint16_t port_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -9,7 +9,7 @@
 
 #include <functional>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// The FTP client with real sockets. Drive C: is a temporary folder.
 struct NetworkClient {
@@ -38,7 +38,7 @@ struct NetworkClient {
   }
 
   fakes::TemporaryFolder folder;
-  PathMap paths{{{'C', folder.Path().string()}}};
+  env::PathMap paths{{{'C', folder.Path().string()}}};
   fakes::RecordingMessageBox boxes;
   fakes::CountingEventLoop loop;
   fakes::CancelSwitch cancel;
@@ -48,4 +48,4 @@ struct NetworkClient {
   mFTP ftp;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

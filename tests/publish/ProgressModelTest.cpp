@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 const std::string kSavepoint = "\r\nLog savepoint - writing to disk...\r\n";
@@ -239,4 +239,4 @@ TEST_F(ProgressModelTest, OffersToCloseUntilTheNextRun) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 /// The FTP client with two scripted sockets. Drive C: is a temporary folder.
 class ScriptedClient : public testing::Test {
@@ -29,8 +29,8 @@ class ScriptedClient : public testing::Test {
     std::vector<std::string> texts;
     for (const auto& box : boxes.boxes) {
       EXPECT_EQ(box.title, "FTP Error");
-      EXPECT_EQ(box.kind, BoxKind::Exclamation);
-      EXPECT_EQ(box.buttons, BoxButtons::Ok);
+      EXPECT_EQ(box.kind, env::BoxKind::Exclamation);
+      EXPECT_EQ(box.buttons, env::BoxButtons::Ok);
       texts.push_back(box.text);
     }
     return texts;
@@ -42,7 +42,7 @@ class ScriptedClient : public testing::Test {
   fakes::ScriptedFTPSocket& cmd = *ownedCmd;
   fakes::ScriptedFTPSocket& data = *ownedData;
   fakes::TemporaryFolder folder;
-  PathMap paths{{{'C', folder.Path().string()}}};
+  env::PathMap paths{{{'C', folder.Path().string()}}};
   fakes::RecordingMessageBox boxes;
   fakes::CountingEventLoop loop;
   fakes::CancelSwitch cancel;
@@ -50,4 +50,4 @@ class ScriptedClient : public testing::Test {
   mFTP ftp{std::move(ownedCmd), std::move(ownedData), paths, boxes, loop, cancel};
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 namespace fs = std::filesystem;
@@ -83,7 +83,7 @@ TEST_F(ServerListFile, ALineBreakOrANulInAnyTextIsRefusedAndTheOldFileStays) {
       ServerProfile profile = kFirst;
       profile.*text = "a" + part + "b";
       EXPECT_FALSE(FitsServerListFile(profile)) << testing::PrintToString(profile.*text);
-      EXPECT_EQ(FailureOf([&] { WriteServerList({kSecond, profile}, 0, File()); }), FailureKind::Preferences);
+      EXPECT_EQ(FailureOf([&] { WriteServerList({kSecond, profile}, 0, File()); }), env::FailureKind::Preferences);
       EXPECT_EQ(Text(), "old");
     }
   }
@@ -93,7 +93,7 @@ TEST_F(ServerListFile, ALineBreakOrANulInAnyTextIsRefusedAndTheOldFileStays) {
 TEST_F(ServerListFile, AFullDiskCostsNotTheOldFile) {
   program.Write("vantorium.pub", "old");
   const fakes::FullDisk full(20);
-  EXPECT_EQ(FailureOf([&] { WriteServerList({kFirst}, 0, File()); }), FailureKind::FileAccess);
+  EXPECT_EQ(FailureOf([&] { WriteServerList({kFirst}, 0, File()); }), env::FailureKind::FileAccess);
   EXPECT_EQ(Text(), "old");
   EXPECT_EQ(std::distance(fs::directory_iterator(program.Path()), fs::directory_iterator()), 1);
 }
@@ -102,7 +102,7 @@ TEST_F(ServerListFile, AFileThatItsOwnerMayNotWriteIsNotReplaced) {
   program.Write("vantorium.pub", "old");
   for (const auto rights : {0444, 0000}) {
     fs::permissions(File(), static_cast<fs::perms>(rights));
-    EXPECT_EQ(FailureOf([&] { WriteServerList({kFirst}, 0, File()); }), FailureKind::FileAccess) << rights;
+    EXPECT_EQ(FailureOf([&] { WriteServerList({kFirst}, 0, File()); }), env::FailureKind::FileAccess) << rights;
     fs::permissions(File(), fs::perms::owner_read);
     EXPECT_EQ(Text(), "old") << rights;
   }
@@ -118,8 +118,8 @@ TEST_F(ServerListFile, AQuotationMarkWithinAValueComesBack) {
 TEST_F(ServerListFile, AMissingValueOrFileIsTheProgramsOwnFailure) {
   const auto missing = [&] {
     const ServerListValues values(File());
-    EXPECT_EQ(FailureOf([&] { std::ignore = values.Text("ServerName1"); }), FailureKind::Preferences);
-    EXPECT_EQ(FailureOf([&] { std::ignore = values.Integer("ServerCount"); }), FailureKind::Preferences);
+    EXPECT_EQ(FailureOf([&] { std::ignore = values.Text("ServerName1"); }), env::FailureKind::Preferences);
+    EXPECT_EQ(FailureOf([&] { std::ignore = values.Integer("ServerCount"); }), env::FailureKind::Preferences);
   };
   missing();
   for (const char* text : {"", "[PUBLISH]", "[PUBLISH]\r\n ServerCount=\"1\"\r\nServerName1 =\"x\"\r\nServerName1"}) {
@@ -135,15 +135,15 @@ TEST_F(ServerListFile, AMissingValueOrFileIsTheProgramsOwnFailure) {
 TEST_F(ServerListFile, ANumberIsADecimalOf32Bits) {
   struct Case {
     const char* value;
-    std::optional<FailureKind> failure;
+    std::optional<env::FailureKind> failure;
   };
   const Case cases[] = {{"\"7\"", {}},
                         {"7", {}},
                         {"\" 7 \"", {}},
                         {"\"2147483647\"", {}},
-                        {"\"2147483648\"", FailureKind::Overflow},
-                        {"\"\"", FailureKind::TypeMismatch},
-                        {"\"seven\"", FailureKind::TypeMismatch}};
+                        {"\"2147483648\"", env::FailureKind::Overflow},
+                        {"\"\"", env::FailureKind::TypeMismatch},
+                        {"\"seven\"", env::FailureKind::TypeMismatch}};
   for (const auto& [value, failure] : cases) {
     program.Write("vantorium.pub", std::string("[PUBLISH]\r\nServerCount=") + value + "\r\n");
     EXPECT_EQ(FailureOf([&] { std::ignore = ServerListValues(File()).Integer("ServerCount"); }), failure) << value;
@@ -165,7 +165,7 @@ TEST_F(ServerListFile, IsReadAsEveryPreferenceLikeFile) {
     const auto file = program.Write("vantorium.pub", text);
     const ServerListValues values(file);
     for (const char* key : {"A", "b", "ServerA", "C"}) {
-      const auto expected = FindINIString(text, "PUBLISH", key);
+      const auto expected = env::FindINIString(text, "PUBLISH", key);
       std::optional<std::string> found;
       FailureOf([&] { found = values.Text(key); });
       ASSERT_EQ(found, expected) << text << "key " << key;
@@ -182,4 +182,4 @@ TEST_F(ServerListFile, TenThousandProfilesAreReadAsTheyWereWritten) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

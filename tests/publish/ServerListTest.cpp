@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 
 void PrintTo(const ServerProfile& profile, std::ostream* stream) {
   *stream << profile.ServerName << " | " << profile.ServerURL << " | " << profile.UserName << " | " << profile.IndexPath
@@ -40,16 +40,16 @@ class ServerListTest : public testing::Test {
     for (const auto& profile : list.Profiles()) names += profile.ServerName + " ";
     return names;
   }
-  void ExpectBox(std::size_t index, BoxKind kind, const std::string& title, const std::string& text) const {
+  void ExpectBox(std::size_t index, env::BoxKind kind, const std::string& title, const std::string& text) const {
     ASSERT_GT(boxes.boxes.size(), index);
     EXPECT_EQ(boxes.boxes[index].kind, kind);
-    EXPECT_EQ(boxes.boxes[index].buttons, BoxButtons::Ok);
+    EXPECT_EQ(boxes.boxes[index].buttons, env::BoxButtons::Ok);
     EXPECT_EQ(boxes.boxes[index].title, title);
     EXPECT_EQ(boxes.boxes[index].text, text);
   }
   void ExpectReadFailure(const std::string& failure) const {
     EXPECT_EQ(boxes.boxes.size(), 1U);
-    ExpectBox(0, BoxKind::Plain, "File Error", kReadFailure + failure);
+    ExpectBox(0, env::BoxKind::Plain, "File Error", kReadFailure + failure);
   }
 
   fakes::TemporaryFolder program;
@@ -170,8 +170,8 @@ TEST_F(ServerListTest, AFileThatCannotBeWrittenIsAFailureOfItsOwn) {
   std::filesystem::create_directory(File());
   list.Open();
   ASSERT_EQ(boxes.boxes.size(), 2U);
-  ExpectBox(0, BoxKind::Plain, "File Error", kReadFailure + kNoPreference);
-  ExpectBox(1, BoxKind::Plain, "File Error", kWriteFailure + File().string() + ": Is a directory\r\rError #75");
+  ExpectBox(0, env::BoxKind::Plain, "File Error", kReadFailure + kNoPreference);
+  ExpectBox(1, env::BoxKind::Plain, "File Error", kWriteFailure + File().string() + ": Is a directory\r\rError #75");
   EXPECT_FALSE(list.SaveServerList());
   EXPECT_EQ(boxes.boxes.size(), 3U);
 }
@@ -218,7 +218,7 @@ TEST_F(ServerListTest, AProfileThatTheFileCannotHoldIsNotAdded) {
   EXPECT_EQ(Names(), "One ");
   EXPECT_EQ(list.Selected(), 0U);
   ASSERT_EQ(boxes.boxes.size(), 2U);
-  ExpectBox(0, BoxKind::Plain, "Error adding Server",
+  ExpectBox(0, env::BoxKind::Plain, "Error adding Server",
             "An Error occurred trying to add a Server: A preference could not be read or written");
 }
 
@@ -240,7 +240,7 @@ TEST_F(ServerListTest, ANewServerNeedsANameOfItsOwnToTheLetter) {
   const std::string text = Text();
   EXPECT_FALSE(list.AddNewServer("Two"));
   EXPECT_EQ(boxes.boxes.size(), 1U);
-  ExpectBox(0, BoxKind::Critical, "Name Exists",
+  ExpectBox(0, env::BoxKind::Critical, "Name Exists",
             "A Server with this name has already been defined.  Please use a different name.");
   EXPECT_EQ(Names(), "One Two Three ");
   EXPECT_EQ(Text(), text);
@@ -270,7 +270,7 @@ TEST_F(ServerListTest, SelectingAPlaceOutsideTheListIsAFailure) {
   list.Open();
   list.Select(2);
   EXPECT_EQ(list.Selected(), 2U);
-  EXPECT_EQ(fakes::FailureOf([&] { list.Select(3); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(fakes::FailureOf([&] { list.Select(3); }), env::FailureKind::SubscriptOutOfRange);
   EXPECT_EQ(list.Selected(), 2U);
 }
 
@@ -289,7 +289,7 @@ TEST_F(ServerListTest, AnEditWithALineBreakIsNotWritten) {
   const std::string text = Text();
   list.SelectedProfile()->JumpTo = "a\r\nServerCount=\"9\"";
   EXPECT_FALSE(list.SaveServerList());
-  ExpectBox(0, BoxKind::Plain, "File Error", kWriteFailure + kNoPreference);
+  ExpectBox(0, env::BoxKind::Plain, "File Error", kWriteFailure + kNoPreference);
   EXPECT_EQ(Text(), text);
 }
 
@@ -327,7 +327,7 @@ TEST_F(ServerListTest, AnIndexFileWithAPathIsRefusedWhereTheUserSeesItAndElseThe
   ServerProfile profile = {.ServerURL = "//h", .IndexFile = "a/b.htm"};
   EXPECT_FALSE(ValidateSettings(profile, false, boxes));
   EXPECT_EQ(boxes.boxes.size(), 1U);
-  ExpectBox(0, BoxKind::Critical, "Invalid Index File Name",
+  ExpectBox(0, env::BoxKind::Critical, "Invalid Index File Name",
             "The Gallery Index File Name may not contain any path specifications.");
   EXPECT_EQ(profile.IndexFile, "a/b.htm");
   EXPECT_EQ(profile.ServerURL, "/h") << "what comes before is cleaned up";
@@ -342,4 +342,4 @@ TEST_F(ServerListTest, AnonymousIsMeantInEveryCase) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

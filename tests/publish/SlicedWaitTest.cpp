@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -53,4 +53,4 @@ TEST(SlicedWait, EndsWhenItIsAbandonedInATurn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

@@ -8,14 +8,14 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 namespace fs = std::filesystem;
 
 using Lines = std::vector<std::string>;
 
-class StatusBar : public WindowState {
+class StatusBar : public env::WindowState {
  public:
   void SetStatusText(const std::string& text) override { texts.push_back(text); }
   Lines texts;
@@ -35,19 +35,19 @@ class UploadFolderTest : public testing::Test {
   std::int32_t Count(const std::string& local = "C:\\site") { return upload.CountSteps(local); }
   [[nodiscard]] std::int32_t Progress() const { return progress.GetProgress(); }
 
-  void ExpectOneBox(BoxKind kind, const std::string& title, const std::string& text) const {
+  void ExpectOneBox(env::BoxKind kind, const std::string& title, const std::string& text) const {
     ASSERT_EQ(boxes.boxes.size(), 1U);
     EXPECT_EQ(boxes.boxes[0].kind, kind);
-    EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::Ok);
+    EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::Ok);
     EXPECT_EQ(boxes.boxes[0].title, title);
     EXPECT_EQ(boxes.boxes[0].text, text);
   }
   void ExpectCancelReportedOnce() const {
-    ExpectOneBox(BoxKind::Exclamation, "Upload cancelled", "The User has cancelled Upload of the Gallery");
+    ExpectOneBox(env::BoxKind::Exclamation, "Upload cancelled", "The User has cancelled Upload of the Gallery");
   }
 
   fakes::TemporaryFolder drive;
-  PathMap paths{{{'C', drive.Path().string()}}};
+  env::PathMap paths{{{'C', drive.Path().string()}}};
   fakes::RecordingUploads server;
   fakes::RecordingMessageBox boxes;
   fakes::CountingEventLoop loop;
@@ -235,7 +235,7 @@ TEST_F(UploadFolderTest, EachLinkToAFolderIsNamedInTheLogAndAtTheEnd) {
             "Leaving out symbolic link C:\\site\\two\\nlines\r\n");
   EXPECT_TRUE(boxes.boxes.empty());
   upload.TellLeftOut();
-  ExpectOneBox(BoxKind::Exclamation, "Folders left out",
+  ExpectOneBox(env::BoxKind::Exclamation, "Folders left out",
                "These Folders are symbolic Links and were not uploaded:\r\rC:\\site\\all\rC:\\site\\sub\\up\r"
                "C:\\site\\two\\nlines");
 }
@@ -309,7 +309,7 @@ TEST_F(UploadFolderTest, AFailureAtRunTimeIsShownOnceAndEndsTheWholeUpload) {
   for (const char* name : {"deep/sub/a", "deep/sub/b", "z"}) Write(name);
   server.broken = "web/deep/sub/a";
   EXPECT_FALSE(Send());
-  ExpectOneBox(BoxKind::Critical, "Failure",
+  ExpectOneBox(env::BoxKind::Critical, "Failure",
                "An Error has occurred during the Upload of this Gallery:\r\rDivision by zero\r\rError #11");
   EXPECT_EQ(server.calls.back(), "copy C:\\site\\deep\\sub\\a to web/deep/sub/a");
 }
@@ -329,7 +329,7 @@ TEST_F(UploadFolderTest, ANameThatIsAPathToOthersIsRefused) {
     EXPECT_TRUE(boxes.boxes.empty()) << name;
     EXPECT_FALSE(Send()) << name;
     EXPECT_EQ(server.calls, Lines{"make web"}) << name;
-    ExpectOneBox(BoxKind::Critical, "Failure",
+    ExpectOneBox(env::BoxKind::Critical, "Failure",
                  "An Error has occurred during the Upload of this Gallery:\r\r\"" + std::string(name) +
                      "\" has a backslash in its name.\r\rError #75");
     fs::remove(file);
@@ -346,7 +346,7 @@ TEST_F(UploadFolderTest, ANameWithALineBreakIsRefusedAndShownOnOneLine) {
       server.calls.clear();
       EXPECT_FALSE(Send()) << shown;
       EXPECT_EQ(server.calls, Lines{"make web"}) << shown;
-      ExpectOneBox(BoxKind::Critical, "Failure",
+      ExpectOneBox(env::BoxKind::Critical, "Failure",
                    "An Error has occurred during the Upload of this Gallery:\r\r\"" + std::string(shown) +
                        "\" has a line break in its name.\r\rError #75");
       fs::remove(drive.Path() / "site" / name);
@@ -440,4 +440,4 @@ TEST_F(UploadFolderTest, ACancelOfTheCountIsNotReportedAgainByTheUpload) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

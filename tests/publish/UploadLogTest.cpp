@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 namespace fs = std::filesystem;
@@ -23,7 +23,7 @@ class UploadLogTest : public testing::Test {
   void ExpectBoxes(std::size_t count, const std::string& description) const {
     EXPECT_EQ(boxes.boxes.size(), count);
     for (const auto& box : boxes.boxes) {
-      EXPECT_EQ(box.kind, BoxKind::Critical);
+      EXPECT_EQ(box.kind, env::BoxKind::Critical);
       EXPECT_EQ(box.title, "Error writing Log");
       EXPECT_EQ(box.text, "An error has occurred writing the log file: \r\r" + description);
     }
@@ -129,4 +129,4 @@ TEST_F(UploadLogTest, WorksAgainWhenTheHindranceIsGone) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

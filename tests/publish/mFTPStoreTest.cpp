@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <numeric>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 const std::deque<std::string> kGoodReplies = {"200 Port\r\n", "200 Type\r\n", "150 Send\r\n", "226 Stored\r\n"};
@@ -93,7 +93,7 @@ TEST_F(mFTPStoreTest, AnEmptyFileFailsByItsPercentageWithTheConnectionLeftOpen) 
     EXPECT_EQ(fakes::FailureOf([&] {
                 std::ignore = copies ? ftp.FTPCopyFile("C:\\empty.jpg", "e.jpg", true) : Store("C:\\empty.jpg");
               }),
-              FailureKind::DivisionByZero);
+              env::FailureKind::DivisionByZero);
     EXPECT_EQ(journal.back(), "data accept");
   }
 }
@@ -244,4 +244,4 @@ TEST_F(mFTPStoreTest, ARemotePathOfTwoLinesIsNeverSent) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

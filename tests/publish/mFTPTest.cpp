@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::publish {
 namespace {
 
 using mFTPTest = ScriptedClient;
@@ -161,9 +161,9 @@ TEST_F(mFTPTest, ASizeThatTheServerKeepsToItselfIsZero) {
 
 TEST_F(mFTPTest, ASizeThatIsNotANumberIsAFailure) {
   Replies({"213 many\r\n"});
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), FailureKind::TypeMismatch);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), env::FailureKind::TypeMismatch);
   Replies({"213 2147483648\r\n"});
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), FailureKind::Overflow);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), env::FailureKind::Overflow);
 }
 
 TEST_F(mFTPTest, ACommandThatCannotBeWrittenMeansThatTheConnectionIsGone) {
@@ -210,7 +210,7 @@ TEST_F(mFTPTest, AReplyWithoutEndIsABrokenConnection) {
 
 TEST_F(mFTPTest, AReplyOfThreeDigitsIsAnInvalidArgument) {
   Replies({"250\r\n"});
-  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPChangeDirectory("a"); }), FailureKind::InvalidArgument);
+  EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPChangeDirectory("a"); }), env::FailureKind::InvalidArgument);
 }
 
 TEST_F(mFTPTest, ACommandOfMoreThanOneLineIsNeverSent) {
@@ -253,4 +253,4 @@ TEST_F(mFTPTest, DisconnectClosesBothSockets) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::publish

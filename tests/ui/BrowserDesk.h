@@ -34,9 +34,9 @@ class BrowserDesk {
   }
 
   TemporaryFolder disk;
-  PathMap paths{{{'C', disk.Path().string()}}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'C', disk.Path().string()}}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
 };
 

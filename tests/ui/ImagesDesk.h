@@ -18,7 +18,7 @@
 namespace vantorium::fakes {
 
 /// The image list's page with everything that it uses, and a folder for its images.
-class ImagesDesk : public ImageListDisplay {
+class ImagesDesk : public core::ImageListDisplay {
  public:
   ImagesDesk() {
     page = std::make_unique<frmImages>(frmImages::Parts{.project = project,
@@ -92,19 +92,19 @@ class ImagesDesk : public ImageListDisplay {
   }
 
   TemporaryFolder folder;
-  Project project;
+  core::Project project;
   RecordingMessageBox boxes;
   CountingEventLoop loop;
   RecordingDesktop shell;
-  SystemClock clock;
-  PathMap paths{{}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::SystemClock clock;
+  env::PathMap paths{{}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   ScriptedFileBrowser browser;
-  Preferences preferences;
+  env::Preferences preferences;
   std::vector<std::string> folders;
-  ImageListOperations operations{project, files, boxes, *this};
-  ProjectEditor editor{project.settings, project.IsModified};
+  core::ImageListOperations operations{project, files, boxes, *this};
+  core::ProjectEditor editor{project.settings, project.IsModified};
   FieldBinder binder{editor, boxes};
   std::unique_ptr<frmImages> page;
   ImageListView* list = nullptr;

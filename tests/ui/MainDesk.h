@@ -59,24 +59,24 @@ class MainDesk {
     if (found == nullptr) throw std::runtime_error(std::string("no action ") + action);
     found->trigger();
   }
-  [[nodiscard]] const GalleryProject& Settings() const { return model->CurrentProject().settings; }
+  [[nodiscard]] const core::GalleryProject& Settings() const { return model->CurrentProject().settings; }
   [[nodiscard]] std::string Title() const { return FromQt(window->windowTitle()); }
   [[nodiscard]] std::string TitleOfLastBox() const { return boxes.boxes.empty() ? "" : boxes.boxes.back().title; }
 
   TemporaryFolder folder;
-  PathMap paths{{{'T', folder.Path().string()}}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'T', folder.Path().string()}}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
   QtEventLoop loop;
   RecordingDesktop shell;
   FixedClock clock;
-  Screen screen;
+  env::Screen screen;
   BoxTextRaster texts{20, 10};
   ScriptedCommonDialogs dialogs;
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;
-  BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
+  env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
   std::unique_ptr<MainModel> model;
   std::unique_ptr<frmMain> window;
   std::uint16_t ftpPort = 21;

@@ -21,8 +21,8 @@ class PublishDesk {
  public:
   PublishDesk() { WriteServers(0); }
 
-  void WriteServers(std::size_t selected) const { WriteServerList({kOne, kTwo}, selected, ServerFile()); }
-  [[nodiscard]] std::filesystem::path ServerFile() const { return ServerListFileName(program.Path()); }
+  void WriteServers(std::size_t selected) const { publish::WriteServerList({kOne, kTwo}, selected, ServerFile()); }
+  [[nodiscard]] std::filesystem::path ServerFile() const { return publish::ServerListFileName(program.Path()); }
   [[nodiscard]] std::string ServerText() const { return program.Read("vantorium.pub"); }
   [[nodiscard]] frmCreateGallery::Parts Parts() {
     return {.preferences = preferences,
@@ -33,12 +33,12 @@ class PublishDesk {
             .folderBrowser = folderBrowser};
   }
 
-  const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
-  const ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
+  const publish::ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
+  const publish::ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
 
   TemporaryFolder program;
-  Preferences preferences;
-  PathMap paths{{{'C', "/home/me"}}};
+  env::Preferences preferences;
+  env::PathMap paths{{{'C', "/home/me"}}};
   RecordingMessageBox boxes;
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;

@@ -15,14 +15,14 @@
 namespace vantorium::fakes {
 
 /// Stands in for a run's main window and creates real progress windows.
-class RunWindow : public RunHost {
+class RunWindow : public generation::RunHost {
  public:
   using MakeProgress = std::function<std::unique_ptr<frmProgress>(QWidget* owner)>;
 
   explicit RunWindow(MakeProgress makeProgress) : makeProgress_(std::move(makeProgress)) { window.show(); }
 
-  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override { return order; }
-  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
+  [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override { return order; }
+  [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override {
     auto made = makeProgress_(&window);
     progress = made.get();
     if (onProgress) onProgress(*made);
@@ -34,7 +34,7 @@ class RunWindow : public RunHost {
   std::function<void(frmProgress&)> onProgress;  ///< called with each progress window
   QWidget window;
   QPointer<frmProgress> progress;
-  RunOrder order;
+  generation::RunOrder order;
   std::string status;
 
  private:
@@ -47,37 +47,38 @@ class RunDesk {
   RunDesk() {
     project.settings.checkImageWrapperUse = 1;
     preferences.TempFolderLocation = "T:\\temp";
-    SetIndexFile(host.order, "T:\\out\\index.htm");
+    generation::SetIndexFile(host.order, "T:\\out\\index.htm");
   }
 
   void AddImage(const std::string& name, const std::string& path) {
-    ImageEntry entry;
+    core::ImageEntry entry;
     entry.ImageName = name;
     entry.SourcePath = path;
     project.images.Insert(project.images.Count() + 1, entry);
   }
-  RunEnd Create(mFTP* ftp = nullptr, unsigned jobs = 1) {
-    GenerationMode mode = GenerationMode::Create;
-    return GalleryCreator(project, preferences, "T:\\program",
-                          {{paths, formats, files, boxes, loop, shell, clock, screen, texts, jobs}, host, cancel, ftp})
+  generation::RunEnd Create(publish::mFTP* ftp = nullptr, unsigned jobs = 1) {
+    generation::GenerationMode mode = generation::GenerationMode::Create;
+    return generation::GalleryCreator(
+               project, preferences, "T:\\program",
+               {{paths, formats, files, boxes, loop, shell, clock, screen, texts, jobs}, host, cancel, ftp})
         .CreateGallery(mode, 0);
   }
 
   TemporaryFolder folder;
-  PathMap paths{{{'T', folder.Path().string()}}};
-  RegionalFormats formats{"en_US"};
-  mFileFunctions files{paths, formats};
-  Project project;
-  Preferences preferences;
+  env::PathMap paths{{{'T', folder.Path().string()}}};
+  env::RegionalFormats formats{"en_US"};
+  env::mFileFunctions files{paths, formats};
+  core::Project project;
+  env::Preferences preferences;
   RecordingMessageBox boxes;
   Journal journal;
   RecordingShell shell{journal};
   FixedClock clock;
   QtEventLoop loop;
-  Screen screen;
-  PangoTextRaster texts;
-  CancelCheck cancel{boxes};
-  UploadLog log{folder.Path() / "program", clock, boxes};
+  env::Screen screen;
+  image::PangoTextRaster texts;
+  generation::CancelCheck cancel{boxes};
+  publish::UploadLog log{folder.Path() / "program", clock, boxes};
   RunWindow host{
       [this](QWidget* owner) { return std::make_unique<frmProgress>(log, cancel, shell, "T:\\program", owner); }};
 };

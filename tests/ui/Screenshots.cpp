@@ -26,7 +26,7 @@
 #include <QPixmap>
 #include <iostream>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -163,8 +163,8 @@ class Photographer {
   }
 
   void TakeRunWindows() {
-    UploadLog log(desk_.folder.Path() / "program", desk_.clock, desk_.boxes);
-    CancelCheck cancel(desk_.boxes);
+    publish::UploadLog log(desk_.folder.Path() / "program", desk_.clock, desk_.boxes);
+    generation::CancelCheck cancel(desk_.boxes);
     frmProgress progress(log, cancel, desk_.shell, "T:\\program", nullptr);
     progress.SetMax(100);
     progress.Show();
@@ -188,12 +188,12 @@ class Photographer {
     adding.Open();
     adding.Show("C:\\Photographs\\Holidays", 128);
     Take(adding, "frmAddFoldersProcess");
-    FontDescription watermark;
+    env::FontDescription watermark;
     watermark.Name = "Liberation Sans";
     watermark.Size = 36;
     watermark.Weight = 700;
     frmFont font(
-        watermark, PangoTextRaster().FaceNames(), [](std::uint32_t&) { return false; }, nullptr);
+        watermark, image::PangoTextRaster().FaceNames(), [](std::uint32_t&) { return false; }, nullptr);
     font.show();
     Take(font, "frmFont");
     frmPreview preview(desk_.paths);
@@ -219,7 +219,7 @@ class Photographer {
 };
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

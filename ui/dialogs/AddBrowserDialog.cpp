@@ -4,10 +4,10 @@
 
 #include <QApplication>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void AddBrowserDialog::Show(BrowserEntry& entry) {
   frmAddBrowser(entry, files_, paths_, programFolder_, QApplication::activeModalWidget()).exec();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

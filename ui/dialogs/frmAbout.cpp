@@ -5,7 +5,7 @@
 
 #include <QIcon>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr QSize kPictureSize(96, 96);
@@ -21,4 +21,4 @@ frmAbout::frmAbout(const ProgramVersion& version, QWidget* parent)
 
 frmAbout::~frmAbout() = default;
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

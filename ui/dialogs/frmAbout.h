@@ -9,7 +9,7 @@ namespace Ui {
 class frmAbout;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows the program's version and its web address.
 class frmAbout : public QDialog {
@@ -23,4 +23,4 @@ class frmAbout : public QDialog {
   std::unique_ptr<Ui::frmAbout> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

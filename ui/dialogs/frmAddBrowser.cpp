@@ -6,10 +6,10 @@
 #include "ui/widgets/ShowText.h"
 #include "ui_frmAddBrowser.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmAddBrowser::frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const PathMap& paths, std::string programFolder,
-                             QWidget* parent)
+frmAddBrowser::frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const env::PathMap& paths,
+                             std::string programFolder, QWidget* parent)
     : QDialog(parent),
       entry_(entry),
       files_(files),
@@ -69,4 +69,4 @@ void frmAddBrowser::reject() {
   QDialog::reject();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

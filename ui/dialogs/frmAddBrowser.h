@@ -10,7 +10,7 @@ namespace Ui {
 class frmAddBrowser;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class BrowserEntry;
 
@@ -20,7 +20,7 @@ class frmAddBrowser : public QDialog {
 
  public:
   /// `programFolder` is where btnBrowse begins; path text.
-  frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const PathMap& paths, std::string programFolder,
+  frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const env::PathMap& paths, std::string programFolder,
                 QWidget* parent = nullptr);
   ~frmAddBrowser() override;
 
@@ -35,9 +35,9 @@ class frmAddBrowser : public QDialog {
 
   BrowserEntry& entry_;
   FileBrowser& files_;
-  const PathMap& paths_;
+  const env::PathMap& paths_;
   std::string programFolder_;
   std::unique_ptr<Ui::frmAddBrowser> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

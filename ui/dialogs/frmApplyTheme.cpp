@@ -7,7 +7,7 @@
 #include <QIcon>
 #include <QPainter>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 QPixmap Framed(QPixmap picture, const QColor& color, int width) {
@@ -19,7 +19,7 @@ QPixmap Framed(QPixmap picture, const QColor& color, int width) {
 
 /// Returns the picture of a theme, or a grey one if it has none that can be read. While it is selected it has a frame
 /// in place of the usual tint, as its colors are what the user wants to see.
-QIcon PictureOf(const ThemeFile& theme, const QSize& size, const QPalette& palette) {
+QIcon PictureOf(const core::ThemeFile& theme, const QSize& size, const QPalette& palette) {
   QPixmap picture;
   if (!theme.picture || !picture.load(ToQt(theme.picture->string()))) {
     picture = QPixmap(size);
@@ -57,4 +57,4 @@ void frmApplyTheme::accept() {
   if (model_.Accept()) QDialog::accept();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@ namespace Ui {
 class frmApplyTheme;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class ThemeModel;
 
@@ -28,4 +28,4 @@ class frmApplyTheme : public QDialog {
   std::unique_ptr<Ui::frmApplyTheme> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@
 #include <QShowEvent>
 #include <QSignalBlocker>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmBrowserList::frmBrowserList(BrowserList& list, QWidget* parent)
     : QDialog(parent), list_(list), ui_(std::make_unique<Ui::frmBrowserList>()) {
@@ -54,7 +54,7 @@ void frmBrowserList::Press(void (BrowserList::*button)()) {
 void frmBrowserList::ShowEntries() {
   const QSignalBlocker blocker(ui_->lvBrowsers);  // the model already knows the selection
   ui_->lvBrowsers->clear();
-  for (const Browser& browser : list_.Entries()) {
+  for (const env::Browser& browser : list_.Entries()) {
     auto* item = new QTreeWidgetItem(ui_->lvBrowsers, {ToQt(browser.Name), ToQt(browser.Location)});
     for (const int column : {0, 1}) item->setToolTip(column, PlainTip(item->text(column)));
   }
@@ -69,4 +69,4 @@ void frmBrowserList::Select() {
   list_.Select(static_cast<std::size_t>(ui_->lvBrowsers->indexOfTopLevelItem(selected.first())));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

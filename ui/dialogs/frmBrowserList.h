@@ -7,7 +7,7 @@ namespace Ui {
 class frmBrowserList;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class BrowserList;
 
@@ -32,4 +32,4 @@ class frmBrowserList : public QDialog {
   std::unique_ptr<Ui::frmBrowserList> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

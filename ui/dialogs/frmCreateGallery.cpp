@@ -8,7 +8,7 @@
 #include "ui/widgets/TypedKeys.h"
 #include "ui_frmCreateGallery.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmCreateGallery::frmCreateGallery(const Parts& parts, QWidget* parent)
     : QDialog(parent),
@@ -19,10 +19,10 @@ frmCreateGallery::frmCreateGallery(const Parts& parts, QWidget* parent)
   BindOption(*ui_->optionCreateGallery, Option::Create);
   BindOption(*ui_->optionUploadGallery, Option::Publish);
   BindOption(*ui_->optionUploadFolder, Option::Upload);
-  BindSwitch(*ui_->checkCreateImages, &RunOrder::CreateImages);
-  BindSwitch(*ui_->checkCreateThumbnails, &RunOrder::CreateThumbnails);
-  BindSwitch(*ui_->checkCreateHTMLFiles, &RunOrder::CreateHTML);
-  BindSwitch(*ui_->checkOverwrite, &RunOrder::Overwrite);
+  BindSwitch(*ui_->checkCreateImages, &generation::RunOrder::CreateImages);
+  BindSwitch(*ui_->checkCreateThumbnails, &generation::RunOrder::CreateThumbnails);
+  BindSwitch(*ui_->checkCreateHTMLFiles, &generation::RunOrder::CreateHTML);
+  BindSwitch(*ui_->checkOverwrite, &generation::RunOrder::Overwrite);
   BindPath(*ui_->textCreateFilePath, &CreateGalleryModel::EditFilePath);
   BindPath(*ui_->textUploadSourceFolder, &CreateGalleryModel::EditSourceFolder);
   BindText(*ui_->textPublishDestination, &CreateGalleryModel::EditPublishDestination);
@@ -79,7 +79,7 @@ void frmCreateGallery::BindPath(QLineEdit& control, Edit edit) {
   control.installEventFilter(this);
 }
 
-std::optional<RunOrder> frmCreateGallery::Ask() {
+std::optional<generation::RunOrder> frmCreateGallery::Ask() {
   model_.ComeUp();
   ShowTexts();
   for (QRadioButton* option : {ui_->optionCreateGallery, ui_->optionUploadGallery, ui_->optionUploadFolder}) {
@@ -183,4 +183,4 @@ void frmCreateGallery::reject() {
   QDialog::reject();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -13,7 +13,7 @@ namespace Ui {
 class frmCreateGallery;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The last dialog before a run that writes output. The main window keeps one for its lifetime, and hides and shows it.
 class frmCreateGallery : public QDialog {
@@ -22,10 +22,10 @@ class frmCreateGallery : public QDialog {
  public:
   /// What the form works with; all of it must outlive the form.
   struct Parts {
-    Preferences& preferences;
+    env::Preferences& preferences;
     std::filesystem::path serverListFile;
-    const PathMap& paths;
-    MessageBoxPort& boxes;
+    const env::PathMap& paths;
+    env::MessageBoxPort& boxes;
     FileBrowser& fileBrowser;
     FolderBrowser& folderBrowser;
   };
@@ -34,7 +34,7 @@ class frmCreateGallery : public QDialog {
   ~frmCreateGallery() override;
 
   /// Shows the dialog modally. Returns nullopt if the user cancels.
-  [[nodiscard]] std::optional<RunOrder> Ask();
+  [[nodiscard]] std::optional<generation::RunOrder> Ask();
 
   void accept() override;
   void reject() override;
@@ -44,7 +44,7 @@ class frmCreateGallery : public QDialog {
   void changeEvent(QEvent* event) override;
 
  private:
-  using Option = GenerationMode;
+  using Option = generation::GenerationMode;
   using Edit = void (CreateGalleryModel::*)(const std::string& text);
 
   void ConnectButtons();
@@ -66,4 +66,4 @@ class frmCreateGallery : public QDialog {
   std::unique_ptr<Ui::frmCreateGallery> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

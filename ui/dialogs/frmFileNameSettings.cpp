@@ -4,7 +4,7 @@
 #include "ui/widgets/NameBox.h"
 #include "ui_frmFileNameSettings.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmFileNameSettings::frmFileNameSettings(FieldBinder& binder, QWidget* parent)
     : QDialog(parent), binder_(binder), ui_(std::make_unique<Ui::frmFileNameSettings>()) {
@@ -13,7 +13,7 @@ frmFileNameSettings::frmFileNameSettings(FieldBinder& binder, QWidget* parent)
     auto* box = names_.emplace_back(new NameBox(*this, name));
     box->Show(binder_.Project());
     connect(box, &NameBox::Edited, this,
-            [this, &name] { binder_.Edit([&](ProjectEditor& editor) { MarkEdited(name, editor); }); });
+            [this, &name] { binder_.Edit([&](core::ProjectEditor& editor) { MarkEdited(name, editor); }); });
   }
   connect(ui_->btnClose, &QPushButton::clicked, this, &QDialog::accept);
 }
@@ -21,10 +21,10 @@ frmFileNameSettings::frmFileNameSettings(FieldBinder& binder, QWidget* parent)
 frmFileNameSettings::~frmFileNameSettings() = default;
 
 void frmFileNameSettings::done(int result) {
-  binder_.Edit([this](ProjectEditor& editor) {
+  binder_.Edit([this](core::ProjectEditor& editor) {
     for (const NameBox* box : names_) box->Store(editor);
   });
   QDialog::done(result);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,7 +8,7 @@ namespace Ui {
 class frmFileNameSettings;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 class NameBox;
@@ -29,4 +29,4 @@ class frmFileNameSettings : public QDialog {
   std::vector<NameBox*> names_;  ///< children of this dialog
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 #include "ui/widgets/TypedNameValidator.h"
 #include "ui_frmFind.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmFind::frmFind(FindModel& model, QWidget* parent)
     : QDialog(parent), model_(model), ui_(std::make_unique<Ui::frmFind>()) {
@@ -34,4 +34,4 @@ void frmFind::reject() {
   QDialog::reject();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@ namespace Ui {
 class frmFind;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FindModel;
 
@@ -29,4 +29,4 @@ class frmFind : public QDialog {
   std::unique_ptr<Ui::frmFind> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,12 +10,12 @@
 #include <algorithm>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr int kLargestSample = 48;  // points; the sample has no room for more
 
-QFont SampleFontOf(const FontDescription& font) {
+QFont SampleFontOf(const env::FontDescription& font) {
   QFont result(ToQt(font.Name));
   result.setPointSize(std::clamp(font.Size, kSmallestFont, kLargestSample));
   result.setBold(IsBold(font.Weight));
@@ -27,7 +27,7 @@ QFont SampleFontOf(const FontDescription& font) {
 
 }  // namespace
 
-frmFont::frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor,
+frmFont::frmFont(const env::FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor,
                  QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmFont>()), font_(font), pickColor_(std::move(pickColor)) {
   ui_->setupUi(this);
@@ -66,18 +66,20 @@ void frmFont::ConnectFace() {
 }
 
 void frmFont::ConnectRest() {
-  const auto edit = [this](auto FontDescription::*field, auto value) {
+  const auto edit = [this](auto env::FontDescription::*field, auto value) {
     font_.*field = value;
     ShowSample();
   };
-  connect(ui_->spinFontSize, &QSpinBox::valueChanged, this, [edit](int size) { edit(&FontDescription::Size, size); });
+  connect(ui_->spinFontSize, &QSpinBox::valueChanged, this,
+          [edit](int size) { edit(&env::FontDescription::Size, size); });
   connect(ui_->checkFontBold, &QCheckBox::toggled, this,
-          [this, edit](bool bold) { edit(&FontDescription::Weight, WeightFor(bold, font_.Weight)); });
-  connect(ui_->checkFontItalic, &QCheckBox::toggled, this, [edit](bool on) { edit(&FontDescription::Italic, on); });
+          [this, edit](bool bold) { edit(&env::FontDescription::Weight, WeightFor(bold, font_.Weight)); });
+  connect(ui_->checkFontItalic, &QCheckBox::toggled, this,
+          [edit](bool on) { edit(&env::FontDescription::Italic, on); });
   connect(ui_->checkFontUnderline, &QCheckBox::toggled, this,
-          [edit](bool on) { edit(&FontDescription::Underline, on); });
+          [edit](bool on) { edit(&env::FontDescription::Underline, on); });
   connect(ui_->checkFontStrikeout, &QCheckBox::toggled, this,
-          [edit](bool on) { edit(&FontDescription::Strikeout, on); });
+          [edit](bool on) { edit(&env::FontDescription::Strikeout, on); });
   connect(ui_->btnFontColor, &QPushButton::clicked, this, &frmFont::ChooseColor);
   connect(ui_->OKButton, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
@@ -104,9 +106,9 @@ void frmFont::ChooseColor() {
 void frmFont::ShowSample() {
   ui_->lblFontSample->setFont(SampleFontOf(font_));
   QPalette colors = ui_->lblFontSample->palette();
-  colors.setColor(QPalette::WindowText, ToQt(Color{font_.Color}));
+  colors.setColor(QPalette::WindowText, ToQt(core::Color{font_.Color}));
   colors.setColor(QPalette::Window, NeedsDarkGround(font_.Color) ? Qt::black : Qt::white);
   ui_->lblFontSample->setPalette(colors);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,7 +12,7 @@ namespace Ui {
 class frmFont;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Lets the user choose a font with all that a FontDescription holds, and shows a sample of it. A face that is not
 /// installed, such as one of a project from another machine, is kept until the user chooses another.
@@ -24,10 +24,11 @@ class frmFont : public QDialog {
   using PickColor = std::function<bool(std::uint32_t& color)>;
 
   /// `faces` are the names in the list.
-  frmFont(const FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor, QWidget* parent);
+  frmFont(const env::FontDescription& font, const std::vector<std::string>& faces, PickColor pickColor,
+          QWidget* parent);
   ~frmFont() override;
 
-  [[nodiscard]] const FontDescription& Font() const { return font_; }
+  [[nodiscard]] const env::FontDescription& Font() const { return font_; }
 
  private:
   void ShowFont();
@@ -38,8 +39,8 @@ class frmFont : public QDialog {
   void ShowSample();
 
   std::unique_ptr<Ui::frmFont> ui_;
-  FontDescription font_;
+  env::FontDescription font_;
   PickColor pickColor_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

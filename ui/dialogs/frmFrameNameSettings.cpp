@@ -4,7 +4,7 @@
 #include "ui/widgets/NameBox.h"
 #include "ui_frmFrameNameSettings.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmFrameNameSettings::frmFrameNameSettings(FieldBinder& binder, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmFrameNameSettings>()) {
@@ -13,11 +13,11 @@ frmFrameNameSettings::frmFrameNameSettings(FieldBinder& binder, QWidget* parent)
     auto* box = new NameBox(*this, name);
     box->Show(binder.Project());
     connect(box, &NameBox::Edited, this,
-            [box, &binder] { binder.Edit([box](ProjectEditor& editor) { box->Store(editor); }); });
+            [box, &binder] { binder.Edit([box](core::ProjectEditor& editor) { box->Store(editor); }); });
   }
   connect(ui_->btnClose, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 frmFrameNameSettings::~frmFrameNameSettings() = default;
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

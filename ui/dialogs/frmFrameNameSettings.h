@@ -7,7 +7,7 @@ namespace Ui {
 class frmFrameNameSettings;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 
@@ -23,4 +23,4 @@ class frmFrameNameSettings : public QDialog {
   std::unique_ptr<Ui::frmFrameNameSettings> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

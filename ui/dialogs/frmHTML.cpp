@@ -7,9 +7,9 @@
 
 #include <QFontDatabase>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmHTML::frmHTML(const std::string& caption, HeaderAndFooter texts, MessageBoxPort& boxes, QWidget* owner)
+frmHTML::frmHTML(const std::string& caption, HeaderAndFooter texts, env::MessageBoxPort& boxes, QWidget* owner)
     : QDialog(owner), ui_(std::make_unique<Ui::frmHTML>()), shown_(std::move(texts)), boxes_(boxes) {
   ui_->setupUi(this);
   setWindowTitle(ToQt(caption));
@@ -38,11 +38,11 @@ HeaderAndFooter frmHTML::Texts() const {
   return {CodeOf(*ui_->textHeader, shown_.header), CodeOf(*ui_->textFooter, shown_.footer)};
 }
 
-HeaderAndFooter EditHTML(const std::string& caption, const HeaderAndFooter& texts, MessageBoxPort& boxes,
+HeaderAndFooter EditHTML(const std::string& caption, const HeaderAndFooter& texts, env::MessageBoxPort& boxes,
                          QWidget* owner) {
   frmHTML dialog(caption, texts, boxes, owner);
   dialog.exec();
   return dialog.Texts();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

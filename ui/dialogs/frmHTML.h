@@ -10,7 +10,7 @@ namespace Ui {
 class frmHTML;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Custom code before and after something.
 struct HeaderAndFooter {
@@ -25,7 +25,7 @@ class frmHTML : public QDialog {
   Q_OBJECT
 
  public:
-  frmHTML(const std::string& caption, HeaderAndFooter texts, MessageBoxPort& boxes, QWidget* owner);
+  frmHTML(const std::string& caption, HeaderAndFooter texts, env::MessageBoxPort& boxes, QWidget* owner);
   ~frmHTML() override;
 
   /// The texts as the user left them.
@@ -40,11 +40,11 @@ class frmHTML : public QDialog {
  private:
   std::unique_ptr<Ui::frmHTML> ui_;
   HeaderAndFooter shown_;
-  MessageBoxPort& boxes_;
+  env::MessageBoxPort& boxes_;
 };
 
 /// Shows the editor and waits until it is closed. Returns the texts as the user left them, with CR LF.
-[[nodiscard]] HeaderAndFooter EditHTML(const std::string& caption, const HeaderAndFooter& texts, MessageBoxPort& boxes,
-                                       QWidget* owner);
+[[nodiscard]] HeaderAndFooter EditHTML(const std::string& caption, const HeaderAndFooter& texts,
+                                       env::MessageBoxPort& boxes, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

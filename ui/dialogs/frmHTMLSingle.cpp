@@ -7,9 +7,10 @@
 
 #include <QFontDatabase>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmHTMLSingle::frmHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes, QWidget* owner)
+frmHTMLSingle::frmHTMLSingle(const std::string& caption, const std::string& text, env::MessageBoxPort& boxes,
+                             QWidget* owner)
     : QDialog(owner), ui_(std::make_unique<Ui::frmHTMLSingle>()), shown_(text), boxes_(boxes) {
   ui_->setupUi(this);
   setWindowTitle(ToQt(caption));
@@ -34,10 +35,11 @@ std::string frmHTMLSingle::Text() const {
   return CodeOf(*ui_->textHTML, shown_);
 }
 
-std::string EditHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes, QWidget* owner) {
+std::string EditHTMLSingle(const std::string& caption, const std::string& text, env::MessageBoxPort& boxes,
+                           QWidget* owner) {
   frmHTMLSingle dialog(caption, text, boxes, owner);
   dialog.exec();
   return dialog.Text();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

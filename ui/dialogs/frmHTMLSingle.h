@@ -10,7 +10,7 @@ namespace Ui {
 class frmHTMLSingle;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Edits one text of custom code. Its button and Escape refuse a text that a project file can't store; the title bar
 /// closes it and keeps the text as it is.
@@ -18,7 +18,7 @@ class frmHTMLSingle : public QDialog {
   Q_OBJECT
 
  public:
-  frmHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes, QWidget* owner);
+  frmHTMLSingle(const std::string& caption, const std::string& text, env::MessageBoxPort& boxes, QWidget* owner);
   ~frmHTMLSingle() override;
 
   /// The text as the user left it.
@@ -33,11 +33,11 @@ class frmHTMLSingle : public QDialog {
  private:
   std::unique_ptr<Ui::frmHTMLSingle> ui_;
   std::string shown_;
-  MessageBoxPort& boxes_;
+  env::MessageBoxPort& boxes_;
 };
 
 /// Shows the editor and waits until it is closed. Returns the text as the user left it, with CR LF.
-[[nodiscard]] std::string EditHTMLSingle(const std::string& caption, const std::string& text, MessageBoxPort& boxes,
-                                         QWidget* owner);
+[[nodiscard]] std::string EditHTMLSingle(const std::string& caption, const std::string& text,
+                                         env::MessageBoxPort& boxes, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

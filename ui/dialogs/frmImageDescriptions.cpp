@@ -11,10 +11,10 @@
 #include <QTabBar>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-void FillList(QComboBox& list, ValueList texts) {
+void FillList(QComboBox& list, core::ValueList texts) {
   list.clear();
   for (const std::string_view text : texts) list.addItem(ToQt(text));
 }
@@ -27,7 +27,7 @@ std::unique_ptr<Ui::frmImageDescriptions> SetUp(frmImageDescriptions& form) {
 
 }  // namespace
 
-frmImageDescriptions::frmImageDescriptions(Project& project, FieldBinder& binder, MessageBoxPort& boxes,
+frmImageDescriptions::frmImageDescriptions(core::Project& project, FieldBinder& binder, env::MessageBoxPort& boxes,
                                            QWidget* parent)
     : QDialog(parent),  // not a Qt::Tool window, where the main window's mnemonics work too
       project_(project),
@@ -44,7 +44,7 @@ frmImageDescriptions::frmImageDescriptions(Project& project, FieldBinder& binder
             *ui_->textThumbFooter, *ui_->frmThumbDescription, *ui_->textThumbDescription}}} {
   auto* menu = new ucPopupMenu(*this);
   for (const Page& page : pages_) {
-    FillList(page.placement, FieldOf(page.kind.fields.placement).values);
+    FillList(page.placement, core::FieldOf(page.kind.fields.placement).values);
     for (QPlainTextEdit* box : {&page.header, &page.footer, &page.text}) menu->Serve(*box);
     Connect(page);
   }
@@ -63,18 +63,18 @@ void frmImageDescriptions::Connect(const Page& page) {
   connect(&page.footer, &QPlainTextEdit::textChanged, this,
           [this, &page] { WriteSetting(page.footer, page.kind.fields.footer); });
   connect(&page.text, &QPlainTextEdit::textChanged, this,
-          [this, &page] { binder_.Edit([&](ProjectEditor&) { model_.SetText(page.kind, CodeOf(page.text)); }); });
+          [this, &page] { binder_.Edit([&](core::ProjectEditor&) { model_.SetText(page.kind, CodeOf(page.text)); }); });
   connect(&page.placement, &QComboBox::activated, this, [this, &page](int index) {
-    binder_.Edit([&](ProjectEditor&) { model_.ChoosePlacement(page.kind, static_cast<Choice>(index)); });
+    binder_.Edit([&](core::ProjectEditor&) { model_.ChoosePlacement(page.kind, static_cast<core::Choice>(index)); });
     ShowAlignments(page);
   });
   connect(&page.alignment, &QComboBox::activated, this,
-          [this, &page](int index) { model_.ChooseAlignment(page.kind, static_cast<Choice>(index)); });
+          [this, &page](int index) { model_.ChooseAlignment(page.kind, static_cast<core::Choice>(index)); });
   connect(&page.headerAndFooter, &QPushButton::clicked, this, [this, &page] { EditHeaderAndFooter(page); });
 }
 
-void frmImageDescriptions::WriteSetting(QPlainTextEdit& box, std::string GalleryProject::*field) {
-  binder_.Edit([&](ProjectEditor& editor) { editor.Set(field, CodeOf(box)); });
+void frmImageDescriptions::WriteSetting(QPlainTextEdit& box, std::string core::GalleryProject::*field) {
+  binder_.Edit([&](core::ProjectEditor& editor) { editor.Set(field, CodeOf(box)); });
 }
 
 void frmImageDescriptions::FollowSelection() {
@@ -136,14 +136,14 @@ void frmImageDescriptions::EditHeaderAndFooter(const Page& page) {
 void frmImageDescriptions::ClearAll() {
   const Page& page = CurrentPage();
   if (!model_.MayClearAll(page.kind)) return;
-  binder_.Edit([&](ProjectEditor&) { model_.ClearAll(page.kind); });
+  binder_.Edit([&](core::ProjectEditor&) { model_.ClearAll(page.kind); });
   const QSignalBlocker quiet(page.text);
   ShowCode(page.text, {});
 }
 
 void frmImageDescriptions::StorePlacings() {
   if (!model_.HasUnstoredPlacings()) return;
-  binder_.Edit([this](ProjectEditor& editor) { model_.StorePlacings(editor); });
+  binder_.Edit([this](core::ProjectEditor& editor) { model_.StorePlacings(editor); });
 }
 
 void frmImageDescriptions::reject() {
@@ -171,4 +171,4 @@ void frmImageDescriptions::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

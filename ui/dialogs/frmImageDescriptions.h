@@ -18,7 +18,7 @@ namespace Ui {
 class frmImageDescriptions;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 
@@ -28,7 +28,7 @@ class frmImageDescriptions : public QDialog {
   Q_OBJECT
 
  public:
-  frmImageDescriptions(Project& project, FieldBinder& binder, MessageBoxPort& boxes, QWidget* parent);
+  frmImageDescriptions(core::Project& project, FieldBinder& binder, env::MessageBoxPort& boxes, QWidget* parent);
   ~frmImageDescriptions() override;
 
   /// Shows the list's current row and the project's settings. Call after changing the current row or loading a project.
@@ -64,7 +64,7 @@ class frmImageDescriptions : public QDialog {
   };
 
   void Connect(const Page& page);
-  void WriteSetting(QPlainTextEdit& box, std::string GalleryProject::*field);
+  void WriteSetting(QPlainTextEdit& box, std::string core::GalleryProject::*field);
   void Fill(QPlainTextEdit& box, const std::string& text, bool sameSubject);
   [[nodiscard]] const Page& CurrentPage() const;
   void EnablePage();
@@ -74,9 +74,9 @@ class frmImageDescriptions : public QDialog {
   void EditHeaderAndFooter(const Page& page);
   void ClearAll();
 
-  Project& project_;
+  core::Project& project_;
   FieldBinder& binder_;
-  MessageBoxPort& boxes_;
+  env::MessageBoxPort& boxes_;
   Descriptions model_;
   std::unique_ptr<Ui::frmImageDescriptions> ui_;
   std::array<Page, 2> pages_;
@@ -85,4 +85,4 @@ class frmImageDescriptions : public QDialog {
   QByteArray place_;  // position and size when last hidden; empty before
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

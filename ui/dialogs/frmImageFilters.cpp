@@ -8,9 +8,9 @@
 
 #include <QShowEvent>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmImageFilters::frmImageFilters(const std::string& title, const ImageFilterSettings& filters,
+frmImageFilters::frmImageFilters(const std::string& title, const image::ImageFilterSettings& filters,
                                  const SampleSources& sample, const SamplePorts& ports, QWidget* owner)
     : QDialog(owner), ui_(std::make_unique<Ui::frmImageFilters>()) {
   ui_->setupUi(this);
@@ -18,15 +18,15 @@ frmImageFilters::frmImageFilters(const std::string& title, const ImageFilterSett
   AlignWidths({ui_->checkBrightness, ui_->checkFade, ui_->checkNoise, ui_->lbl});
   box_ = std::make_unique<QtSampleBox>(*this, *ui_->pbPreview);
   model_ = std::make_unique<ImageFiltersModel>(filters, sample, ports, *box_);
-  Bind(*ui_->checkGrayscale, &ImageFilterSettings::checkGrayscale);
-  Bind(*ui_->checkBrightness, &ImageFilterSettings::checkBrightness);
-  Bind(*ui_->checkFade, &ImageFilterSettings::checkFade);
-  Bind(*ui_->checkNoise, &ImageFilterSettings::checkNoise);
-  Bind(*ui_->checkNoiseRandom, &ImageFilterSettings::checkNoiseRandom);
-  Bind(*ui_->sliderBrightness, *ui_->lblBrightness, &ImageFilterSettings::sliderBrightness);
-  Bind(*ui_->sliderFade, *ui_->lblFade, &ImageFilterSettings::sliderFade);
-  Bind(*ui_->sliderNoise, *ui_->lblNoise, &ImageFilterSettings::sliderNoise);
-  Bind(*ui_->sliderQuality, *ui_->lblQuality, &ImageFilterSettings::sliderQuality);
+  Bind(*ui_->checkGrayscale, &image::ImageFilterSettings::checkGrayscale);
+  Bind(*ui_->checkBrightness, &image::ImageFilterSettings::checkBrightness);
+  Bind(*ui_->checkFade, &image::ImageFilterSettings::checkFade);
+  Bind(*ui_->checkNoise, &image::ImageFilterSettings::checkNoise);
+  Bind(*ui_->checkNoiseRandom, &image::ImageFilterSettings::checkNoiseRandom);
+  Bind(*ui_->sliderBrightness, *ui_->lblBrightness, &image::ImageFilterSettings::sliderBrightness);
+  Bind(*ui_->sliderFade, *ui_->lblFade, &image::ImageFilterSettings::sliderFade);
+  Bind(*ui_->sliderNoise, *ui_->lblNoise, &image::ImageFilterSettings::sliderNoise);
+  Bind(*ui_->sliderQuality, *ui_->lblQuality, &image::ImageFilterSettings::sliderQuality);
   connect(ui_->btnPreview, &QPushButton::clicked, this, &frmImageFilters::Preview);
   connect(ui_->btnOK, &QPushButton::clicked, this, [this] { model_->Apply(); });
   connect(ui_->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -34,12 +34,13 @@ frmImageFilters::frmImageFilters(const std::string& title, const ImageFilterSett
 
 frmImageFilters::~frmImageFilters() = default;
 
-void frmImageFilters::Bind(QCheckBox& control, std::int16_t ImageFilterSettings::*field) {
-  control.setChecked(IsOn(model_->Settings().*field));
-  connect(&control, &QCheckBox::clicked, this, [this, field](bool checked) { model_->Set(field, FlagOf(checked)); });
+void frmImageFilters::Bind(QCheckBox& control, std::int16_t image::ImageFilterSettings::*field) {
+  control.setChecked(core::IsOn(model_->Settings().*field));
+  connect(&control, &QCheckBox::clicked, this,
+          [this, field](bool checked) { model_->Set(field, core::FlagOf(checked)); });
 }
 
-void frmImageFilters::Bind(QSlider& control, QLabel& label, std::int16_t ImageFilterSettings::*field) {
+void frmImageFilters::Bind(QSlider& control, QLabel& label, std::int16_t image::ImageFilterSettings::*field) {
   control.setValue(model_->Settings().*field);
   label.setNum(control.value());
   label.setMinimumWidth(label.fontMetrics().horizontalAdvance("-000"));  // keeps the layout still
@@ -69,7 +70,7 @@ void frmImageFilters::reject() {
   QDialog::reject();
 }
 
-bool EditImageFilters(const std::string& title, ImageFilterSettings& filters, const SampleSources& sample,
+bool EditImageFilters(const std::string& title, image::ImageFilterSettings& filters, const SampleSources& sample,
                       const SamplePorts& ports, QWidget* owner) {
   frmImageFilters dialog(title, filters, sample, ports, owner);
   dialog.exec();
@@ -78,4 +79,4 @@ bool EditImageFilters(const std::string& title, ImageFilterSettings& filters, co
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

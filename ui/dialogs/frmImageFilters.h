@@ -14,14 +14,14 @@ namespace Ui {
 class frmImageFilters;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The window of ImageFiltersModel.
 class frmImageFilters : public QDialog {
   Q_OBJECT
 
  public:
-  frmImageFilters(const std::string& title, const ImageFilterSettings& filters, const SampleSources& sample,
+  frmImageFilters(const std::string& title, const image::ImageFilterSettings& filters, const SampleSources& sample,
                   const SamplePorts& ports, QWidget* owner);
   ~frmImageFilters() override;
 
@@ -32,8 +32,8 @@ class frmImageFilters : public QDialog {
   void reject() override;
 
  private:
-  void Bind(QCheckBox& control, std::int16_t ImageFilterSettings::*field);
-  void Bind(QSlider& control, QLabel& label, std::int16_t ImageFilterSettings::*field);
+  void Bind(QCheckBox& control, std::int16_t image::ImageFilterSettings::*field);
+  void Bind(QSlider& control, QLabel& label, std::int16_t image::ImageFilterSettings::*field);
   void Open();
   void Preview();
 
@@ -44,7 +44,7 @@ class frmImageFilters : public QDialog {
 
 /// Lets the user edit `filters` in a dialog over `owner`, which may be null. Returns false and leaves `filters` as they
 /// are if the user cancels.
-[[nodiscard]] bool EditImageFilters(const std::string& title, ImageFilterSettings& filters, const SampleSources& sample,
-                                    const SamplePorts& ports, QWidget* owner);
+[[nodiscard]] bool EditImageFilters(const std::string& title, image::ImageFilterSettings& filters,
+                                    const SampleSources& sample, const SamplePorts& ports, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

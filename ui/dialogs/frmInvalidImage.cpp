@@ -7,9 +7,9 @@
 #include <QShowEvent>
 #include <QStyle>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmInvalidImage::frmInvalidImage(Shell& shell, QWidget* parent)
+frmInvalidImage::frmInvalidImage(env::Shell& shell, QWidget* parent)
     : QDialog(parent), shell_(shell), ui_(std::make_unique<Ui::frmInvalidImage>()) {
   ui_->setupUi(this);
   const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
@@ -30,7 +30,7 @@ InvalidImageAnswer frmInvalidImage::ShowDialog(const std::string& imageName) {
 
 void frmInvalidImage::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!event->spontaneous()) shell_.Beep(BeepKind::Warning);
+  if (!event->spontaneous()) shell_.Beep(env::BeepKind::Warning);
 }
 
 void frmInvalidImage::Answer(InvalidImageAnswer answer) {
@@ -38,4 +38,4 @@ void frmInvalidImage::Answer(InvalidImageAnswer answer) {
   accept();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -11,14 +11,14 @@ namespace Ui {
 class frmInvalidImage;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Asks what to do with an image that cannot be decoded.
 class frmInvalidImage : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmInvalidImage(Shell& shell, QWidget* parent = nullptr);
+  explicit frmInvalidImage(env::Shell& shell, QWidget* parent = nullptr);
   ~frmInvalidImage() override;
 
   /// Beeps, asks and waits for the answer; closing the window means Ignore.
@@ -30,9 +30,9 @@ class frmInvalidImage : public QDialog {
  private:
   void Answer(InvalidImageAnswer answer);
 
-  Shell& shell_;
+  env::Shell& shell_;
   std::unique_ptr<Ui::frmInvalidImage> ui_;
   InvalidImageAnswer answer_ = InvalidImageAnswer::Ignore;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include "ui/widgets/ShowText.h"
 #include "ui_frmLinks.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmLinks::frmLinks(const std::string& title, const std::string& disabledGraphicLabel, LinksModel& model,
                    FileBrowser& browser, QWidget* owner)
@@ -25,8 +25,8 @@ frmLinks::frmLinks(const std::string& title, const std::string& disabledGraphicL
   ShowGraphics();
   connect(ui_->textLinkLabel, &QLineEdit::textEdited, this,
           [this](const QString& text) { model_.EditLabel(FromQt(text)); });
-  Bind(*ui_->textLinkGraphic, *ui_->btnLinkGraphicBrowse, &LinkSettings::textLinkGraphic, browser);
-  Bind(*ui_->textLinkGraphicDisabled, *ui_->btnLinkGraphicDisabledBrowse, &LinkSettings::textLinkGraphicDisabled,
+  Bind(*ui_->textLinkGraphic, *ui_->btnLinkGraphicBrowse, &core::LinkSettings::textLinkGraphic, browser);
+  Bind(*ui_->textLinkGraphicDisabled, *ui_->btnLinkGraphicDisabledBrowse, &core::LinkSettings::textLinkGraphicDisabled,
        browser);
   connect(ui_->OKButton, &QPushButton::clicked, this, &QDialog::accept);
   ui_->textLinkLabel->setFocus();
@@ -54,8 +54,8 @@ void frmLinks::ShowGraphics() {
 
 bool frmLinks::eventFilter(QObject* watched, QEvent* event) {
   if (LeavesControl(*event)) {
-    model_.LeaveGraphic(watched == ui_->textLinkGraphic ? &LinkSettings::textLinkGraphic
-                                                        : &LinkSettings::textLinkGraphicDisabled);
+    model_.LeaveGraphic(watched == ui_->textLinkGraphic ? &core::LinkSettings::textLinkGraphic
+                                                        : &core::LinkSettings::textLinkGraphicDisabled);
     ShowGraphics();
   }
   return QDialog::eventFilter(watched, event);
@@ -66,12 +66,12 @@ void frmLinks::done(int result) {
   QDialog::done(result);
 }
 
-LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel, const LinkSettings& link,
-                      std::string& graphicsFolder, FileBrowser& browser, const PathMap& paths,
-                      const std::function<void()>& edited, QWidget* owner) {
+core::LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel,
+                            const core::LinkSettings& link, std::string& graphicsFolder, FileBrowser& browser,
+                            const env::PathMap& paths, const std::function<void()>& edited, QWidget* owner) {
   LinksModel model(link, paths, graphicsFolder, edited, !disabledGraphicLabel.empty());
   frmLinks(title, disabledGraphicLabel, model, browser, owner).exec();
   return model.Link();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -13,7 +13,7 @@ namespace Ui {
 class frmLinks;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The window of LinksModel. Closing it in any way does what its button does.
 class frmLinks : public QDialog {
@@ -40,8 +40,9 @@ class frmLinks : public QDialog {
 /// Lets the user edit a page link in a dialog over `owner`, which may be null. `disabledGraphicLabel` is the label
 /// above the second graphic, empty if there is none. `graphicsFolder` is where the user last browsed for graphics.
 /// `edited` is called at each change, because no change can be cancelled.
-[[nodiscard]] LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel,
-                                    const LinkSettings& link, std::string& graphicsFolder, FileBrowser& browser,
-                                    const PathMap& paths, const std::function<void()>& edited, QWidget* owner);
+[[nodiscard]] core::LinkSettings EditLink(const std::string& title, const std::string& disabledGraphicLabel,
+                                          const core::LinkSettings& link, std::string& graphicsFolder,
+                                          FileBrowser& browser, const env::PathMap& paths,
+                                          const std::function<void()>& edited, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

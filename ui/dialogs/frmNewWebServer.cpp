@@ -4,7 +4,7 @@
 #include "ui/widgets/OneLineValidator.h"
 #include "ui_frmNewWebServer.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmNewWebServer::frmNewWebServer(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmNewWebServer>()) {
   ui_->setupUi(this);
@@ -31,4 +31,4 @@ void frmNewWebServer::reject() {
   QDialog::reject();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

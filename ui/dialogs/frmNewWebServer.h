@@ -9,7 +9,7 @@ namespace Ui {
 class frmNewWebServer;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Asks for the name of a new server.
 class frmNewWebServer : public QDialog {
@@ -30,4 +30,4 @@ class frmNewWebServer : public QDialog {
   std::unique_ptr<Ui::frmNewWebServer> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

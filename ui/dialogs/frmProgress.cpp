@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr int kDrawInterval = 33;  // milliseconds
@@ -18,9 +18,10 @@ void ShowBar(QProgressBar& bar, int maximum, int value) {
 
 }  // namespace
 
-frmProgress::frmProgress(UploadLog& log, CancelPoll& cancel, Shell& shell, std::string appPath, QWidget* parent)
+frmProgress::frmProgress(publish::UploadLog& log, publish::CancelPoll& cancel, env::Shell& shell, std::string appPath,
+                         QWidget* parent)
     : QDialog(parent),
-      ProgressModel(log),
+      publish::ProgressModel(log),
       cancel_(cancel),
       shell_(shell),
       appPath_(std::move(appPath)),
@@ -48,8 +49,8 @@ void frmProgress::reject() {
   isAsking_ = false;
 }
 
-void frmProgress::Draw(ProgressPart part) {
-  if (part == ProgressPart::Window) return ComeUp();
+void frmProgress::Draw(publish::ProgressPart part) {
+  if (part == publish::ProgressPart::Window) return ComeUp();
   changed_.set(static_cast<std::size_t>(part));
   if (!isVisible() || due_.isActive()) return;
   if (drawn_.hasExpired(kDrawInterval)) return DrawChanges();
@@ -67,22 +68,22 @@ void frmProgress::DrawChanges() {
   DrawTexts();
   DrawLog();
   DrawBars();
-  if (HasChanged(ProgressPart::Buttons)) DrawButtons();
-  if (HasChanged(ProgressPart::Pointer)) IsPointerBusy() ? setCursor(Qt::WaitCursor) : unsetCursor();
+  if (HasChanged(publish::ProgressPart::Buttons)) DrawButtons();
+  if (HasChanged(publish::ProgressPart::Pointer)) IsPointerBusy() ? setCursor(Qt::WaitCursor) : unsetCursor();
   changed_.reset();
   due_.stop();
   drawn_.start();
 }
 
 void frmProgress::DrawTexts() {
-  if (HasChanged(ProgressPart::Caption)) setWindowTitle(ToQt(Caption()));
-  if (HasChanged(ProgressPart::Text1)) ui_->lblText1->setText(ToQt(Text1()));
-  if (HasChanged(ProgressPart::Text2)) ui_->lblText2->setText(ToQt(Text2()));
+  if (HasChanged(publish::ProgressPart::Caption)) setWindowTitle(ToQt(Caption()));
+  if (HasChanged(publish::ProgressPart::Text1)) ui_->lblText1->setText(ToQt(Text1()));
+  if (HasChanged(publish::ProgressPart::Text2)) ui_->lblText2->setText(ToQt(Text2()));
 }
 
 void frmProgress::DrawLog() {
-  const bool isNew = HasChanged(ProgressPart::LogBox);
-  if (!isNew && !HasChanged(ProgressPart::LogBoxEnd)) return;
+  const bool isNew = HasChanged(publish::ProgressPart::LogBox);
+  if (!isNew && !HasChanged(publish::ProgressPart::LogBoxEnd)) return;
   if (isNew) {
     ui_->infoText->clear();
     shownLog_ = 0;
@@ -102,8 +103,8 @@ void frmProgress::AppendLog(const std::string& log) {
 }
 
 void frmProgress::DrawBars() {
-  if (HasChanged(ProgressPart::Progress)) ShowBar(*ui_->pbProgress, GetMax(), GetProgress());
-  if (!HasChanged(ProgressPart::FileProgress)) return;
+  if (HasChanged(publish::ProgressPart::Progress)) ShowBar(*ui_->pbProgress, GetMax(), GetProgress());
+  if (!HasChanged(publish::ProgressPart::FileProgress)) return;
   ui_->pbFile->setVisible(IsFileProgressVisible());
   ShowBar(*ui_->pbFile, 100, FileProgress());
 }
@@ -114,4 +115,4 @@ void frmProgress::DrawButtons() {
   ui_->btnShowLog->setVisible(IsShowLogVisible(*this));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -14,23 +14,24 @@ namespace Ui {
 class frmProgress;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The progress window of a run, in front of the main window, which the run disables. Draws updates at most 30 times a
 /// second, and always the last one.
-class frmProgress : public QDialog, public ProgressModel {
+class frmProgress : public QDialog, public publish::ProgressModel {
   Q_OBJECT
 
  public:
   /// `appPath` is the program's folder as path text.
-  frmProgress(UploadLog& log, CancelPoll& cancel, Shell& shell, std::string appPath, QWidget* parent);
+  frmProgress(publish::UploadLog& log, publish::CancelPoll& cancel, env::Shell& shell, std::string appPath,
+              QWidget* parent);
   ~frmProgress() override;
 
   /// Escape and the title bar do what CancelButton does.
   void reject() override;
 
  protected:
-  void Draw(ProgressPart part) override;
+  void Draw(publish::ProgressPart part) override;
 
  private:
   void ComeUp();
@@ -40,10 +41,12 @@ class frmProgress : public QDialog, public ProgressModel {
   void AppendLog(const std::string& log);
   void DrawBars();
   void DrawButtons();
-  [[nodiscard]] bool HasChanged(ProgressPart part) const { return changed_.test(static_cast<std::size_t>(part)); }
+  [[nodiscard]] bool HasChanged(publish::ProgressPart part) const {
+    return changed_.test(static_cast<std::size_t>(part));
+  }
 
-  CancelPoll& cancel_;
-  Shell& shell_;
+  publish::CancelPoll& cancel_;
+  env::Shell& shell_;
   std::string appPath_;
   std::unique_ptr<Ui::frmProgress> ui_;
   std::bitset<16> changed_;   // indexed by ProgressPart
@@ -53,4 +56,4 @@ class frmProgress : public QDialog, public ProgressModel {
   bool isAsking_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,16 +8,16 @@
 
 #include <QSignalBlocker>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmPublish::frmPublish(std::filesystem::path serverListFile, MessageBoxPort& boxes, QWidget* parent)
+frmPublish::frmPublish(std::filesystem::path serverListFile, env::MessageBoxPort& boxes, QWidget* parent)
     : QDialog(parent), model_(std::move(serverListFile), boxes), ui_(std::make_unique<Ui::frmPublish>()) {
   ui_->setupUi(this);
-  BindField(*ui_->textServerURL, &ServerProfile::ServerURL);
-  BindField(*ui_->textUserName, &ServerProfile::UserName);
-  BindField(*ui_->textJumpTo, &ServerProfile::JumpTo);
-  BindField(*ui_->textGalleryIndexPath, &ServerProfile::IndexPath);
-  BindField(*ui_->textGalleryIndexFile, &ServerProfile::IndexFile);
+  BindField(*ui_->textServerURL, &publish::ServerProfile::ServerURL);
+  BindField(*ui_->textUserName, &publish::ServerProfile::UserName);
+  BindField(*ui_->textJumpTo, &publish::ServerProfile::JumpTo);
+  BindField(*ui_->textGalleryIndexPath, &publish::ServerProfile::IndexPath);
+  BindField(*ui_->textGalleryIndexFile, &publish::ServerProfile::IndexFile);
   connect(ui_->textTimeout, &QLineEdit::textEdited, this,
           [this](const QString& text) { model_.textTimeout = FromQt(text); });
   connect(ui_->comboServers, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -55,7 +55,7 @@ void frmPublish::SetHideIndexFile(bool hide) {
 void frmPublish::ShowList() {
   const QSignalBlocker quiet(ui_->comboServers);
   ui_->comboServers->clear();
-  for (const ServerProfile& profile : model_.Profiles()) ui_->comboServers->addItem(ToQt(profile.ServerName));
+  for (const publish::ServerProfile& profile : model_.Profiles()) ui_->comboServers->addItem(ToQt(profile.ServerName));
   ShowProfile();
 }
 
@@ -63,7 +63,7 @@ void frmPublish::ShowProfile() {
   const QSignalBlocker quiet(ui_->comboServers);
   const auto selected = model_.Selected();
   ui_->comboServers->setCurrentIndex(selected ? static_cast<int>(*selected) : -1);
-  const ServerProfile& profile = model_.Shown();
+  const publish::ServerProfile& profile = model_.Shown();
   ui_->textServerURL->setText(ToQt(profile.ServerURL));
   ui_->textUserName->setText(ToQt(profile.UserName));
   ui_->textJumpTo->setText(ToQt(profile.JumpTo));
@@ -109,4 +109,4 @@ bool frmPublish::event(QEvent* event) {
   return handled;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,7 +10,7 @@ namespace Ui {
 class frmPublish;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The dialog for the upload servers; accepting it chooses the selected one.
 class frmPublish : public QDialog {
@@ -18,7 +18,7 @@ class frmPublish : public QDialog {
 
  public:
   /// Reads the list, see publish/ServerListFile.h; failures are shown in message boxes.
-  frmPublish(std::filesystem::path serverListFile, MessageBoxPort& boxes, QWidget* parent);
+  frmPublish(std::filesystem::path serverListFile, env::MessageBoxPort& boxes, QWidget* parent);
   ~frmPublish() override;
 
   /// Sets whether the dialog is for the upload of a folder, which has no index file. Call before it is shown.
@@ -26,7 +26,7 @@ class frmPublish : public QDialog {
   [[nodiscard]] bool QueryPublish() const { return model_.QueryPublish(); }
   [[nodiscard]] std::int16_t GetTimeout() const { return model_.GetTimeout(); }
   /// The profile that the text boxes show.
-  [[nodiscard]] const ServerProfile& Shown() const { return model_.Shown(); }
+  [[nodiscard]] const publish::ServerProfile& Shown() const { return model_.Shown(); }
 
   void accept() override;
   void reject() override;
@@ -49,4 +49,4 @@ class frmPublish : public QDialog {
   std::unique_ptr<Ui::frmPublish> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 #include "ui/widgets/TypedNameValidator.h"
 #include "ui_frmRename.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmRename::frmRename(RenameModel& model, QWidget* parent)
     : QDialog(parent), model_(model), ui_(std::make_unique<Ui::frmRename>()) {
@@ -35,4 +35,4 @@ void frmRename::reject() {
   QDialog::reject();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

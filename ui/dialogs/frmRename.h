@@ -7,7 +7,7 @@ namespace Ui {
 class frmRename;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class RenameModel;
 
@@ -29,4 +29,4 @@ class frmRename : public QDialog {
   std::unique_ptr<Ui::frmRename> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,10 +7,10 @@
 #include <QMouseEvent>
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-void SetColor(QWidget& control, QPalette::ColorRole role, Color color) {
+void SetColor(QWidget& control, QPalette::ColorRole role, core::Color color) {
   QPalette colors = control.palette();
   colors.setColor(role, ToQt(color));
   control.setPalette(colors);
@@ -23,16 +23,16 @@ bool IsRelease(const QEvent& event) {
 
 }  // namespace
 
-frmSelectColors::frmSelectColors(const std::string& title, const PageColors& colors, const PageColors& others,
-                                 ColorDialog& dialog, QWidget* owner)
+frmSelectColors::frmSelectColors(const std::string& title, const core::PageColors& colors,
+                                 const core::PageColors& others, ColorDialog& dialog, QWidget* owner)
     : QDialog(owner), ui_(std::make_unique<Ui::frmSelectColors>()), model_(title, colors, others), dialog_(dialog) {
   ui_->setupUi(this);
   if (!title.empty()) setWindowTitle(ToQt(title));
-  rows_ = {{&PageColors::background, ui_->btnBGColor, ui_->textBG},
-           {&PageColors::text, ui_->btnFGColor, ui_->lblText},
-           {&PageColors::link, ui_->btnLinkColor, ui_->lblLink},
-           {&PageColors::visitedLink, ui_->btnVisitedLinkColor, ui_->lblVisitedLink},
-           {&PageColors::activeLink, ui_->btnActiveLinkColor, ui_->lblActiveLink}};
+  rows_ = {{&core::PageColors::background, ui_->btnBGColor, ui_->textBG},
+           {&core::PageColors::text, ui_->btnFGColor, ui_->lblText},
+           {&core::PageColors::link, ui_->btnLinkColor, ui_->lblLink},
+           {&core::PageColors::visitedLink, ui_->btnVisitedLinkColor, ui_->lblVisitedLink},
+           {&core::PageColors::activeLink, ui_->btnActiveLinkColor, ui_->lblActiveLink}};
   for (const Row& row : rows_) ConnectRow(row);
   ui_->btnUseOtherColors->setText(ToQt(model_.UseOtherColorsCaption()));
   connect(ui_->btnUseOtherColors, &QPushButton::clicked, this, [this] {
@@ -56,13 +56,13 @@ void frmSelectColors::ConnectRow(const Row& row) {
   row.element->installEventFilter(this);
 }
 
-void frmSelectColors::Choose(Color PageColors::*color) {
+void frmSelectColors::Choose(core::Color core::PageColors::*color) {
   model_.Choose(color, dialog_);
   ShowColors();
 }
 
 void frmSelectColors::ShowColors() {
-  const PageColors& colors = model_.Colors();
+  const core::PageColors& colors = model_.Colors();
   for (const Row& row : rows_) {
     row.button->SetColor(colors.*row.color);
     SetColor(*row.element, QPalette::Window, colors.background);
@@ -85,8 +85,8 @@ void frmSelectColors::reject() {
   QDialog::reject();
 }
 
-bool SelectColors(const std::string& title, PageColors& colors, const PageColors& others, ColorDialog& dialog,
-                  QWidget* owner) {
+bool SelectColors(const std::string& title, core::PageColors& colors, const core::PageColors& others,
+                  ColorDialog& dialog, QWidget* owner) {
   frmSelectColors form(title, colors, others, dialog, owner);
   form.exec();
   if (form.Model().Cancelled()) return false;
@@ -94,4 +94,4 @@ bool SelectColors(const std::string& title, PageColors& colors, const PageColors
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

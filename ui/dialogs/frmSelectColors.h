@@ -12,15 +12,15 @@ namespace Ui {
 class frmSelectColors;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The window of SelectColorsModel: five buttons, and a small sample page in their colors.
 class frmSelectColors : public QDialog {
   Q_OBJECT
 
  public:
-  frmSelectColors(const std::string& title, const PageColors& colors, const PageColors& others, ColorDialog& dialog,
-                  QWidget* owner);
+  frmSelectColors(const std::string& title, const core::PageColors& colors, const core::PageColors& others,
+                  ColorDialog& dialog, QWidget* owner);
   ~frmSelectColors() override;
 
   [[nodiscard]] const SelectColorsModel& Model() const { return model_; }
@@ -32,13 +32,13 @@ class frmSelectColors : public QDialog {
  private:
   /// A color, its button, and the element that shows it on the page.
   struct Row {
-    Color PageColors::*color;
+    core::Color core::PageColors::*color;
     ColorButton* button;
     QWidget* element;
   };
 
   void ConnectRow(const Row& row);
-  void Choose(Color PageColors::*color);
+  void Choose(core::Color core::PageColors::*color);
   void ShowColors();
 
   std::unique_ptr<Ui::frmSelectColors> ui_;
@@ -49,7 +49,7 @@ class frmSelectColors : public QDialog {
 
 /// Lets the user edit `colors` in a dialog over `owner`, which may be null, and copy `others` into them. Returns false
 /// and leaves `colors` as they are if the user cancels.
-[[nodiscard]] bool SelectColors(const std::string& title, PageColors& colors, const PageColors& others,
+[[nodiscard]] bool SelectColors(const std::string& title, core::PageColors& colors, const core::PageColors& others,
                                 ColorDialog& dialog, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include "ui_frmShuffle.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmShuffle::frmShuffle(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmShuffle>()) {
   ui_->setupUi(this);
@@ -25,4 +25,4 @@ void frmShuffle::Close() {
   hide();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,10 +9,10 @@ namespace Ui {
 class frmShuffle;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The small window that is shown while the images are shuffled. Stop, Escape and the title bar stop the shuffle.
-class frmShuffle : public QDialog, public ShuffleProgress {
+class frmShuffle : public QDialog, public core::ShuffleProgress {
   Q_OBJECT
 
  public:
@@ -31,4 +31,4 @@ class frmShuffle : public QDialog, public ShuffleProgress {
   bool stopRequested_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

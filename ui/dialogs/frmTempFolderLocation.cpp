@@ -6,7 +6,7 @@
 #include "ui/widgets/ShowText.h"
 #include "ui_frmTempFolderLocation.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmTempFolderLocation::frmTempFolderLocation(TempFolderLocation& model, FolderBrowser& folders, QWidget* parent)
     : QDialog(parent), model_(model), ui_(std::make_unique<Ui::frmTempFolderLocation>()) {
@@ -20,7 +20,8 @@ frmTempFolderLocation::frmTempFolderLocation(TempFolderLocation& model, FolderBr
     model_.TakeNativePath();
     ShowModel();
   });
-  connect(ui_->checkAutoClear, &QCheckBox::toggled, this, [this](bool on) { model_.checkAutoClear = FlagOf(on); });
+  connect(ui_->checkAutoClear, &QCheckBox::toggled, this,
+          [this](bool on) { model_.checkAutoClear = core::FlagOf(on); });
   connect(ui_->btnBrowse, &QAbstractButton::clicked, this, [this, &folders] {
     model_.Browse(folders);
     ShowModel();
@@ -43,11 +44,11 @@ void frmTempFolderLocation::accept() {
 
 void frmTempFolderLocation::ShowModel() {
   ShowText(*ui_->textTempFolderLocation, model_.textTempFolderLocation);
-  ui_->checkAutoClear->setChecked(!IsOff(model_.checkAutoClear));
+  ui_->checkAutoClear->setChecked(!core::IsOff(model_.checkAutoClear));
 }
 
-bool EditTempFolderLocation(Preferences& preferences, const std::string& appPath, MessageBoxPort& boxes,
-                            const mFileFunctions& files, FolderBrowser& folders, QWidget* owner) {
+bool EditTempFolderLocation(env::Preferences& preferences, const std::string& appPath, env::MessageBoxPort& boxes,
+                            const env::mFileFunctions& files, FolderBrowser& folders, QWidget* owner) {
   if (preferences.TempFolderLocation.empty()) preferences.TempFolderLocation = appPath;
   TempFolderLocation model(preferences, appPath, files, boxes);
   if (frmTempFolderLocation(model, folders, owner).exec() != QDialog::Accepted) return false;
@@ -55,4 +56,4 @@ bool EditTempFolderLocation(Preferences& preferences, const std::string& appPath
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@ namespace Ui {
 class frmTempFolderLocation;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Asks for the location of the temporary folder. OK closes it only with a usable path; Escape and the title bar keep
 /// the old location.
@@ -31,7 +31,7 @@ class frmTempFolderLocation : public QDialog {
 
 /// Lets the user choose; returns true if the choice was stored in `preferences`. An empty location becomes `appPath`
 /// (path text without a trailing backslash) in any case.
-bool EditTempFolderLocation(Preferences& preferences, const std::string& appPath, MessageBoxPort& boxes,
-                            const mFileFunctions& files, FolderBrowser& folders, QWidget* owner);
+bool EditTempFolderLocation(env::Preferences& preferences, const std::string& appPath, env::MessageBoxPort& boxes,
+                            const env::mFileFunctions& files, FolderBrowser& folders, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

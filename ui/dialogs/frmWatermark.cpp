@@ -10,7 +10,7 @@
 
 #include <QShowEvent>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 void ShowLines(QPlainTextEdit& control, int count) {
@@ -20,7 +20,7 @@ void ShowLines(QPlainTextEdit& control, int count) {
 
 }  // namespace
 
-frmWatermark::frmWatermark(const std::string& title, const WatermarkSettings& watermark, std::int16_t quality,
+frmWatermark::frmWatermark(const std::string& title, const image::WatermarkSettings& watermark, std::int16_t quality,
                            const SampleSources& sample, const SamplePorts& samplePorts, const WatermarkPorts& ports,
                            QWidget* owner)
     : QDialog(owner), ui_(std::make_unique<Ui::frmWatermark>()) {
@@ -39,8 +39,8 @@ frmWatermark::frmWatermark(const std::string& title, const WatermarkSettings& wa
 frmWatermark::~frmWatermark() = default;
 
 void frmWatermark::ShowSettings() {
-  const WatermarkSettings& settings = model_->Settings();
-  ui_->checkUseWatermark->setChecked(IsOn(settings.checkUseWatermark));
+  const image::WatermarkSettings& settings = model_->Settings();
+  ui_->checkUseWatermark->setChecked(core::IsOn(settings.checkUseWatermark));
   ShowCode(*ui_->textWatermark, settings.textWatermark);
   ui_->textWatermark->selectAll();
   ShowLines(*ui_->textWatermark, 3);
@@ -102,7 +102,7 @@ void frmWatermark::reject() {
   QDialog::reject();
 }
 
-bool EditWatermark(const std::string& title, WatermarkSettings& watermark, std::int16_t& quality,
+bool EditWatermark(const std::string& title, image::WatermarkSettings& watermark, std::int16_t& quality,
                    const SampleSources& sample, const SamplePorts& samplePorts, const WatermarkPorts& ports,
                    QWidget* owner) {
   frmWatermark dialog(title, watermark, quality, sample, samplePorts, ports, owner);
@@ -113,4 +113,4 @@ bool EditWatermark(const std::string& title, WatermarkSettings& watermark, std::
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -13,14 +13,14 @@ namespace Ui {
 class frmWatermark;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The window of WatermarkModel.
 class frmWatermark : public QDialog {
   Q_OBJECT
 
  public:
-  frmWatermark(const std::string& title, const WatermarkSettings& watermark, std::int16_t quality,
+  frmWatermark(const std::string& title, const image::WatermarkSettings& watermark, std::int16_t quality,
                const SampleSources& sample, const SamplePorts& samplePorts, const WatermarkPorts& ports,
                QWidget* owner);
   ~frmWatermark() override;
@@ -47,8 +47,8 @@ class frmWatermark : public QDialog {
 
 /// Lets the user edit `watermark` and the JPEG `quality` of the same target in a dialog over `owner`, which may be
 /// null. Returns false and leaves both as they are if the user cancels.
-[[nodiscard]] bool EditWatermark(const std::string& title, WatermarkSettings& watermark, std::int16_t& quality,
+[[nodiscard]] bool EditWatermark(const std::string& title, image::WatermarkSettings& watermark, std::int16_t& quality,
                                  const SampleSources& sample, const SamplePorts& samplePorts,
                                  const WatermarkPorts& ports, QWidget* owner);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,9 +12,9 @@
 #include "ui/widgets/DevicePixels.h"
 #include "ui_frmFileBrowser.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
-FilePreviewPane::FilePreviewPane(const mFileFunctions& files, bool wanted, QWidget* parent)
+FilePreviewPane::FilePreviewPane(const env::mFileFunctions& files, bool wanted, QWidget* parent)
     : QWidget(parent), files_(files), ui_(std::make_unique<Ui::frmFileBrowser>()), loader_(new PreviewLoader(this)) {
   setObjectName("extendedArea");
   ui_->setupUi(this);
@@ -42,7 +42,7 @@ void FilePreviewPane::Refresh() {
   const auto native = files_.Paths().ToNative(file_);
   if (file_.empty() || !native || !ui_->checkPreview->isChecked()) {
     Clear();
-  } else if (IsSupportedImageExtension(GetFileExtension(file_))) {
+  } else if (core::IsSupportedImageExtension(env::GetFileExtension(file_))) {
     ShowJPEG(*native);
   } else {
     ShowOther(*native);
@@ -59,7 +59,7 @@ void FilePreviewPane::Clear() {
 void FilePreviewPane::ShowJPEG(const std::filesystem::path& native) {
   std::int32_t width = 0;
   std::int32_t height = 0;
-  if (!ReadJPEGSize(native, width, height)) return Clear();
+  if (!image::ReadJPEGSize(native, width, height)) return Clear();
   ShowSize(width, height);
   const QSize box = DevicePixels(*ui_->pbPreview);
   loader_->Load(native, {box.width(), box.height()});
@@ -83,8 +83,8 @@ void FilePreviewPane::ShowSize(int width, int height) {
 void FilePreviewPane::ShowInFull() {
   if (file_.empty() || !ui_->checkPreview->isChecked()) return;
   frmPreview preview(files_.Paths(), window());
-  preview.SetPicture(GetFileName(file_) + ' ' + FromQt(ui_->lblSize->text()), file_);
+  preview.SetPicture(env::GetFileName(file_) + ' ' + FromQt(ui_->lblSize->text()), file_);
   preview.exec();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

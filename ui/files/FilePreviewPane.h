@@ -9,10 +9,13 @@ namespace Ui {
 class frmFileBrowser;
 }
 
-namespace vantorium {
+namespace vantorium::env {
+class mFileFunctions;
+}  // namespace vantorium::env
+
+namespace vantorium::ui {
 
 class PreviewLoader;
-class mFileFunctions;
 
 /// The right side of a file dialog: a preview of the selected file, its size, and a check box to turn the preview off.
 /// A file that is not a picture shows nothing. A click on the preview shows the picture full screen.
@@ -21,7 +24,7 @@ class FilePreviewPane : public QWidget {
 
  public:
   /// If `wanted` is false, it takes no room and stays unchecked.
-  FilePreviewPane(const mFileFunctions& files, bool wanted, QWidget* parent = nullptr);
+  FilePreviewPane(const env::mFileFunctions& files, bool wanted, QWidget* parent = nullptr);
   ~FilePreviewPane() override;
 
   /// Shows a file, given as path text; nothing if it is empty.
@@ -35,10 +38,10 @@ class FilePreviewPane : public QWidget {
   void ShowSize(int width, int height);
   void ShowInFull();
 
-  const mFileFunctions& files_;
+  const env::mFileFunctions& files_;
   std::unique_ptr<Ui::frmFileBrowser> ui_;
   PreviewLoader* loader_;
   std::string file_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -20,7 +20,7 @@
 #include <QPushButton>
 #include <QTreeView>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr int kLeastNameWidth = 120;
@@ -34,7 +34,7 @@ QString NameFilter(const FileFilter& filter) {
 
 }  // namespace
 
-FileWindow::FileWindow(const FileDialogRequest& request, const mFileFunctions& files, MessageBoxPort& boxes,
+FileWindow::FileWindow(const FileDialogRequest& request, const env::mFileFunctions& files, env::MessageBoxPort& boxes,
                        const std::filesystem::path& home, QWidget* parent)
     : QFileDialog(parent), files_(files), limit_(boxes), choice_(request, files, boxes) {
   setObjectName("frmFileBrowser");
@@ -195,4 +195,4 @@ void FileWindow::FitColumns() {
   details.setColumnWidth(0, std::max(details.viewport()->width() - others, kLeastNameWidth));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

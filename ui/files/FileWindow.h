@@ -13,7 +13,7 @@ class QFileSystemModel;
 class QLineEdit;
 class QPushButton;
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FilePreviewPane;
 class FolderPathBox;
@@ -25,7 +25,7 @@ class FileWindow : public QFileDialog {
 
  public:
   /// `home` is where it begins if the request names no folder; native.
-  FileWindow(const FileDialogRequest& request, const mFileFunctions& files, MessageBoxPort& boxes,
+  FileWindow(const FileDialogRequest& request, const env::mFileFunctions& files, env::MessageBoxPort& boxes,
              const std::filesystem::path& home, QWidget* parent = nullptr);
 
   /// What was chosen, once the dialog is accepted.
@@ -51,7 +51,7 @@ class FileWindow : public QFileDialog {
   void TakeLoadedFolder(const QString& folder);
   void FitColumns();
 
-  const mFileFunctions& files_;
+  const env::mFileFunctions& files_;
   FileNameLimit limit_;
   FileChoice choice_;
   QTimer selectionChange_;  // merges several changes in one turn of the event loop
@@ -63,4 +63,4 @@ class FileWindow : public QFileDialog {
   QSet<QString> loadedFolders_;  // native
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,9 +5,9 @@
 
 #include <QStyle>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-FolderPathBox::FolderPathBox(const PathMap& paths, QWidget* parent) : QComboBox(parent), paths_(paths) {
+FolderPathBox::FolderPathBox(const env::PathMap& paths, QWidget* parent) : QComboBox(parent), paths_(paths) {
   setObjectName("comboFolder");
   setAccessibleName("Folder");
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -36,4 +36,4 @@ void FolderPathBox::Add(const std::filesystem::path& native) {
           folder);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,14 +4,14 @@
 
 #include <QComboBox>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows the path text of a folder, and offers its parent folders and the other drives.
 class FolderPathBox : public QComboBox {
   Q_OBJECT
 
  public:
-  explicit FolderPathBox(const PathMap& paths, QWidget* parent = nullptr);
+  explicit FolderPathBox(const env::PathMap& paths, QWidget* parent = nullptr);
 
   /// Shows the folder `native`.
   void Show(const QString& native);
@@ -23,7 +23,7 @@ class FolderPathBox : public QComboBox {
  private:
   void Add(const std::filesystem::path& native);
 
-  const PathMap& paths_;
+  const env::PathMap& paths_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

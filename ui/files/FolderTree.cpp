@@ -11,7 +11,7 @@
 #include <QStyle>
 #include <QTreeWidgetItemIterator>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr int kPath = Qt::UserRole;
@@ -46,7 +46,7 @@ FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
   });
 }
 
-void FolderTree::ShowDrives(const PathMap& paths, const Folders& folders, IsChecked isChecked) {
+void FolderTree::ShowDrives(const env::PathMap& paths, const Folders& folders, IsChecked isChecked) {
   const QSignalBlocker blocker(this);
   paths_ = &paths;
   folders_ = &folders;
@@ -82,7 +82,7 @@ std::string FolderTree::SelectedPath() const {
   const std::filesystem::path folder = SelectedFolder();
   if (folder.empty()) return {};
   const std::string text = paths_->ToText(folder);
-  return text.ends_with(':') ? WithTrailingBackslash(text) : text;
+  return text.ends_with(':') ? env::WithTrailingBackslash(text) : text;
 }
 
 std::filesystem::path FolderTree::SelectedFolder() const {
@@ -150,4 +150,4 @@ void FolderTree::ShowCheck(QTreeWidgetItem& item) const {
   if (isChecked_) item.setCheckState(0, isChecked_(FolderOf(item)) ? Qt::Checked : Qt::Unchecked);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A tree of the folders of all drives. The subfolders of a folder are looked up when it is expanded; hidden ones are
 /// not shown. With check boxes, the tree asks whether a folder is checked each time it is about to show it.
@@ -21,7 +21,7 @@ class FolderTree : public QTreeWidget {
   explicit FolderTree(QWidget* parent = nullptr);
 
   /// Fills the tree. `paths` and `folders` must outlive it. If `isChecked` is empty, there are no check boxes.
-  void ShowDrives(const PathMap& paths, const Folders& folders, IsChecked isChecked = {});
+  void ShowDrives(const env::PathMap& paths, const Folders& folders, IsChecked isChecked = {});
 
   /// Selects a folder, expands it and scrolls to it: that of `text` or its nearest parent that exists, or the first
   /// drive if there is none.
@@ -47,9 +47,9 @@ class FolderTree : public QTreeWidget {
   [[nodiscard]] QTreeWidgetItem* ChildOf(QTreeWidgetItem& item, const std::filesystem::path& native);
   void ShowCheck(QTreeWidgetItem& item) const;
 
-  const PathMap* paths_ = nullptr;
+  const env::PathMap* paths_ = nullptr;
   const Folders* folders_ = nullptr;
   IsChecked isChecked_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

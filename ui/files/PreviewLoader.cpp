@@ -3,12 +3,12 @@
 #include "ui/model/files/ReducedPicture.h"
 #include "ui/qt/QtPicture.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-QImage Decode(const std::optional<std::filesystem::path>& file, PictureSize box, const std::stop_token& stop,
-              Corrections corrections) {
-  cDIBSection dib;
+QImage Decode(const std::optional<std::filesystem::path>& file, image::PictureSize box, const std::stop_token& stop,
+              image::Corrections corrections) {
+  image::cDIBSection dib;
   if (!file || !LoadReducedPicture(dib, *file, box, stop, corrections)) return {};
   const QImage picture = ImageOf(dib);
   const QSize enough = 2 * QSize(box.width, box.height);  // a huge one is scaled down here, not where it is drawn
@@ -32,7 +32,8 @@ void PreviewLoader::Cancel() {
   worker_.clear();
 }
 
-void PreviewLoader::Load(const std::optional<std::filesystem::path>& file, PictureSize box, Corrections corrections) {
+void PreviewLoader::Load(const std::optional<std::filesystem::path>& file, image::PictureSize box,
+                         image::Corrections corrections) {
   Cancel();
   stop_ = std::stop_source();
   worker_.start([this, file, box, corrections, stop = stop_.get_token()] {
@@ -46,4 +47,4 @@ void PreviewLoader::Load(const std::optional<std::filesystem::path>& file, Pictu
   });
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

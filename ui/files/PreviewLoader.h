@@ -10,7 +10,7 @@
 #include <optional>
 #include <stop_token>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Decodes pictures for previews on a worker thread. Only the latest request counts: decoding an earlier one is
 /// stopped, and its result is never reported.
@@ -22,7 +22,8 @@ class PreviewLoader : public QObject {
   ~PreviewLoader() override;
 
   /// Starts decoding a file (native; nullopt if it is not there) for a box of `box` pixels.
-  void Load(const std::optional<std::filesystem::path>& file, PictureSize box, Corrections corrections = {});
+  void Load(const std::optional<std::filesystem::path>& file, image::PictureSize box,
+            image::Corrections corrections = {});
   /// Drops the current request.
   void Cancel();
 
@@ -36,4 +37,4 @@ class PreviewLoader : public QObject {
   std::stop_source stop_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 #include <QImageReader>
 #include <functional>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// The rectangle of at most `atMost` in the middle of a picture.
@@ -41,4 +41,4 @@ QImage ReadMiddle(QImageReader& reader, QSize atMost) {
   return whole.copy(MiddleOf(whole.size(), atMost));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 
 class QImageReader;
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // Reads pictures of every format that Qt reads, recognized by the file's content and not by its name. Returns a null
 // image if there is no such file, if it is not a picture, or if it is too large to be held in memory.
@@ -20,4 +20,4 @@ namespace vantorium {
 /// advance is in memory as a whole meanwhile, as far as QImageReader::allocationLimit lets it.
 [[nodiscard]] QImage ReadMiddle(QImageReader& reader, QSize atMost);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

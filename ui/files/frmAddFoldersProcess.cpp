@@ -4,7 +4,7 @@
 #include "ui/qt/QtText.h"
 #include "ui_frmAddFoldersProcess.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmAddFoldersProcess::frmAddFoldersProcess(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmAddFoldersProcess>()) {
@@ -28,4 +28,4 @@ void frmAddFoldersProcess::Close() {
   hide();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@ namespace Ui {
 class frmAddFoldersProcess;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The small window that is shown while the photographs of folders are added. Stop, Escape and the title bar stop the
 /// walk.
@@ -33,4 +33,4 @@ class frmAddFoldersProcess : public QDialog, public FolderWalkProgress {
   std::unique_ptr<Ui::frmAddFoldersProcess> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,9 +5,9 @@
 
 #include <QApplication>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmBrowseForFolder::frmBrowseForFolder(const PathMap& paths, QWidget* parent)
+frmBrowseForFolder::frmBrowseForFolder(const env::PathMap& paths, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmBrowseForFolder>()) {
   ui_->setupUi(this);
   ui_->ftvFolders->ShowDrives(paths, folders_);
@@ -49,4 +49,4 @@ std::optional<std::string> QtFolderBrowser::BrowseForFolder(const std::string& t
   return folder;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

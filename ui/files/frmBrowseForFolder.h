@@ -11,14 +11,14 @@ namespace Ui {
 class frmBrowseForFolder;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Lets the user choose a folder in a tree.
 class frmBrowseForFolder : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmBrowseForFolder(const PathMap& paths, QWidget* parent = nullptr);
+  explicit frmBrowseForFolder(const env::PathMap& paths, QWidget* parent = nullptr);
   ~frmBrowseForFolder() override;
 
   /// Path text.
@@ -40,13 +40,13 @@ class frmBrowseForFolder : public QDialog {
 /// The folder dialog of the whole program, shown over the active window.
 class QtFolderBrowser : public FolderBrowser {
  public:
-  explicit QtFolderBrowser(const PathMap& paths) : paths_(paths) {}
+  explicit QtFolderBrowser(const env::PathMap& paths) : paths_(paths) {}
 
   [[nodiscard]] std::optional<std::string> BrowseForFolder(const std::string& title,
                                                            const std::string& initialFolder) override;
 
  private:
-  const PathMap& paths_;
+  const env::PathMap& paths_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

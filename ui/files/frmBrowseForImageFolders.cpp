@@ -4,9 +4,9 @@
 #include "ui/ports/QtEventLoop.h"
 #include "ui_frmBrowseForImageFolders.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmBrowseForImageFolders::frmBrowseForImageFolders(const PathMap& paths, const std::string& initialFolder,
+frmBrowseForImageFolders::frmBrowseForImageFolders(const env::PathMap& paths, const std::string& initialFolder,
                                                    QWidget* parent)
     : QDialog(parent), paths_(paths), ui_(std::make_unique<Ui::frmBrowseForImageFolders>()) {
   ui_->setupUi(this);
@@ -62,8 +62,8 @@ void frmBrowseForImageFolders::LookUp() {
   if (!folders) return;
   for (const std::filesystem::path& folder : *folders) {
     const std::string text = paths_.ToText(folder);
-    chosen_.push_back(text.ends_with(':') ? WithTrailingBackslash(text) : text);
+    chosen_.push_back(text.ends_with(':') ? env::WithTrailingBackslash(text) : text);
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

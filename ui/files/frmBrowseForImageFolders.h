@@ -13,7 +13,7 @@ namespace Ui {
 class frmBrowseForImageFolders;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Lets the user check the folders whose photographs go into the gallery. If no folder is checked, the selected one
 /// counts.
@@ -22,7 +22,7 @@ class frmBrowseForImageFolders : public QDialog {
 
  public:
   /// Paths are path text.
-  frmBrowseForImageFolders(const PathMap& paths, const std::string& initialFolder, QWidget* parent = nullptr);
+  frmBrowseForImageFolders(const env::PathMap& paths, const std::string& initialFolder, QWidget* parent = nullptr);
   ~frmBrowseForImageFolders() override;
 
   bool Cancelled = true;
@@ -38,7 +38,7 @@ class frmBrowseForImageFolders : public QDialog {
   void EnableAllButCancel(bool enable);
   void LookUp();
 
-  const PathMap& paths_;
+  const env::PathMap& paths_;
   LocalFolders folders_;
   FolderChecks checks_{folders_};
   std::vector<std::string> chosen_;
@@ -47,4 +47,4 @@ class frmBrowseForImageFolders : public QDialog {
   std::unique_ptr<Ui::frmBrowseForImageFolders> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

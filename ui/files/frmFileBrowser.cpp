@@ -7,9 +7,9 @@
 #include <QApplication>
 #include <QDir>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-frmFileBrowser::frmFileBrowser(const PathMap& paths, MessageBoxPort& boxes, const mFileFunctions& files)
+frmFileBrowser::frmFileBrowser(const env::PathMap& paths, env::MessageBoxPort& boxes, const env::mFileFunctions& files)
     : paths_(paths), boxes_(boxes), files_(files) {}
 
 FileDialogResult frmFileBrowser::DisplayFileDialog(const FileDialogRequest& request) {
@@ -20,4 +20,4 @@ FileDialogResult frmFileBrowser::DisplayFileDialog(const FileDialogRequest& requ
   return window.Choice();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,22 +6,22 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The file dialog of the whole program, shown over the active window. Its window is called frmFileBrowser. If the
 /// caller names no folder, it begins in the folder where it was last accepted; the first time, in the user's home
 /// folder.
 class frmFileBrowser : public FileBrowser {
  public:
-  frmFileBrowser(const PathMap& paths, MessageBoxPort& boxes, const mFileFunctions& files);
+  frmFileBrowser(const env::PathMap& paths, env::MessageBoxPort& boxes, const env::mFileFunctions& files);
 
   [[nodiscard]] FileDialogResult DisplayFileDialog(const FileDialogRequest& request) override;
 
  private:
-  const PathMap& paths_;
-  MessageBoxPort& boxes_;
-  const mFileFunctions& files_;
+  const env::PathMap& paths_;
+  env::MessageBoxPort& boxes_;
+  const env::mFileFunctions& files_;
   std::string folder_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,7 +10,7 @@
 #include <QPainter>
 #include <QScreen>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Returns a size that covers each screen that the window could be on, in pixels.
@@ -23,16 +23,16 @@ QSize LargestScreen() {
 }
 
 /// The middle of a photograph with its corrections; null if the file is none.
-QImage MiddleOfPhotograph(const std::filesystem::path& native, QSize atMost, Corrections corrections) {
-  cDIBSection dib;
-  if (!LoadPhotograph(dib, native, corrections)) return {};
+QImage MiddleOfPhotograph(const std::filesystem::path& native, QSize atMost, image::Corrections corrections) {
+  image::cDIBSection dib;
+  if (!image::LoadPhotograph(dib, native, corrections)) return {};
   const QImage picture = ImageOf(dib);
   QRect part({}, picture.size().boundedTo(atMost));
   part.moveTo(picture.width() / 2 - part.width() / 2, picture.height() / 2 - part.height() / 2);
   return picture.copy(part);
 }
 
-QImage Middle(const std::filesystem::path& native, Corrections corrections) {
+QImage Middle(const std::filesystem::path& native, image::Corrections corrections) {
   const QSize most = LargestScreen();
   const QImage photograph = corrections.Any() ? MiddleOfPhotograph(native, most, corrections) : QImage();
   return photograph.isNull() ? ReadMiddleOfPictureFile(native, most) : photograph;
@@ -40,7 +40,7 @@ QImage Middle(const std::filesystem::path& native, Corrections corrections) {
 
 }  // namespace
 
-frmPreview::frmPreview(const PathMap& paths, QWidget* parent)
+frmPreview::frmPreview(const env::PathMap& paths, QWidget* parent)
     : QDialog(parent), paths_(paths), ui_(std::make_unique<Ui::frmPreview>()) {
   ui_->setupUi(this);
   setBackgroundRole(QPalette::Shadow);
@@ -52,7 +52,7 @@ frmPreview::frmPreview(const PathMap& paths, QWidget* parent)
 
 frmPreview::~frmPreview() = default;
 
-void frmPreview::SetPicture(const std::string& description, const std::string& file, Corrections corrections) {
+void frmPreview::SetPicture(const std::string& description, const std::string& file, image::Corrections corrections) {
   setWindowTitle("Full Screen Preview: " + ToQt(description));
   const auto native = paths_.ToNative(file);
   ui_->pic->setPixmap(native ? QPixmap::fromImage(Middle(*native, corrections)) : QPixmap());
@@ -71,4 +71,4 @@ void frmPreview::mousePressEvent(QMouseEvent*) {
   reject();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

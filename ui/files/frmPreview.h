@@ -11,7 +11,7 @@ namespace Ui {
 class frmPreview;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A full-screen view of a picture: pixel for pixel, centered, cropped on all sides if the screen has no room for it.
 /// Shown modally; a key or a click closes it.
@@ -19,20 +19,20 @@ class frmPreview : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmPreview(const PathMap& paths, QWidget* parent = nullptr);
+  explicit frmPreview(const env::PathMap& paths, QWidget* parent = nullptr);
   ~frmPreview() override;
 
   /// `description` goes into the title. A `file` (path text) that can't be shown leaves the screen empty.
   /// Corrections are made in photographs only.
-  void SetPicture(const std::string& description, const std::string& file, Corrections corrections = {});
+  void SetPicture(const std::string& description, const std::string& file, image::Corrections corrections = {});
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
-  const PathMap& paths_;
+  const env::PathMap& paths_;
   std::unique_ptr<Ui::frmPreview> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

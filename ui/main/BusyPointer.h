@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows the busy pointer over all windows of the program while it lives.
 class BusyPointer {
@@ -13,4 +13,4 @@ class BusyPointer {
   BusyPointer& operator=(const BusyPointer&) = delete;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

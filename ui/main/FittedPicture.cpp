@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 // Pictures are decoded for at least this many pixels, so that there are enough for another size or screen.
@@ -17,7 +17,7 @@ FittedPicture::FittedPicture(QWidget* parent) : QFrame(parent) {
   connect(&loader_, &PreviewLoader::Loaded, this, &FittedPicture::Show);
 }
 
-void FittedPicture::Load(const std::optional<std::filesystem::path>& file, Corrections corrections) {
+void FittedPicture::Load(const std::optional<std::filesystem::path>& file, image::Corrections corrections) {
   const QSize box = DevicePixels(*this).expandedTo(kSmallestBox);
   loader_.Load(file, {.width = box.width(), .height = box.height()}, corrections);
 }
@@ -62,4 +62,4 @@ void FittedPicture::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) emit DoubleClicked();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

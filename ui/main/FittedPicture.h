@@ -5,7 +5,7 @@
 #include <QFrame>
 #include <QPixmap>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A picture fitted into a frame, sharp at every scale of the screen. A requested picture replaces the previous one
 /// once it is decoded.
@@ -16,7 +16,7 @@ class FittedPicture : public QFrame {
   explicit FittedPicture(QWidget* parent = nullptr);
 
   /// `file` is native; nullopt if it is not there.
-  void Load(const std::optional<std::filesystem::path>& file, Corrections corrections = {});
+  void Load(const std::optional<std::filesystem::path>& file, image::Corrections corrections = {});
   /// Shows nothing.
   void Clear();
   /// The picture that is shown; null if none.
@@ -41,4 +41,4 @@ class FittedPicture : public QFrame {
   QPixmap fitted_;  // the picture in the device pixels that it is drawn with
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,9 +2,9 @@
 
 #include "ui/qt/QtText.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
-ImageListModel::ImageListModel(const ImageList& images, QObject* parent)
+ImageListModel::ImageListModel(const core::ImageList& images, QObject* parent)
     : QAbstractTableModel(parent), images_(images), rows_(static_cast<int>(images.Count())) {}
 
 // Adds or removes rows at the end and reports all others as changed, so that a view keeps its place; a reset would lose
@@ -38,7 +38,7 @@ QVariant ImageListModel::data(const QModelIndex& index, int role) const {
   const auto position = static_cast<std::size_t>(index.row()) + 1;
   const bool isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
   if (!isText || !index.isValid() || position > images_.Count()) return {};
-  const ImageEntry& entry = images_.Entry(position);
+  const core::ImageEntry& entry = images_.Entry(position);
   if (role == Qt::ToolTipRole) return index.column() == ImageSourceFile ? ToQt(entry.SourcePath) : QVariant();
   return ToQt(index.column() == ImageName ? entry.ImageName : entry.SourcePath);
 }
@@ -53,4 +53,4 @@ Qt::ItemFlags ImageListModel::flags(const QModelIndex& index) const {
   return index.isValid() ? whole | Qt::ItemIsDragEnabled : whole;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

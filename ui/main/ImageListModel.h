@@ -4,7 +4,7 @@
 
 #include <QAbstractTableModel>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Presents the image list to a view: row r is position r + 1. Creates no item per row; each text is read from the list
 /// when it is drawn.
@@ -17,7 +17,7 @@ class ImageListModel : public QAbstractTableModel {
  public:
   enum Column { ImageName, ImageSourceFile, ColumnCount };
 
-  explicit ImageListModel(const ImageList& images, QObject* parent = nullptr);
+  explicit ImageListModel(const core::ImageList& images, QObject* parent = nullptr);
 
   /// Shows the list as it is now.
   void Refresh();
@@ -32,8 +32,8 @@ class ImageListModel : public QAbstractTableModel {
  private:
   void SetRowCount(int rows);
 
-  const ImageList& images_;
+  const core::ImageList& images_;
   int rows_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,7 +12,7 @@
 #include <QScopedValueRollback>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 std::size_t PositionOf(int row) {
@@ -36,7 +36,7 @@ ImageListView::ImageListView(QWidget* parent) : QTreeView(parent) {
   setDropIndicatorShown(false);   // it would point between rows, where nothing can be dropped
 }
 
-void ImageListView::Attach(ImageList& images) {
+void ImageListView::Attach(core::ImageList& images) {
   images_ = &images;
   model_ = new ImageListModel(images, this);
   setModel(model_);
@@ -155,4 +155,4 @@ std::size_t ImageListView::TargetAt(int y) const {
   return DropTarget(PositionOf(top.row()), extents, y);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

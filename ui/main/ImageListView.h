@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class ImageListModel;
 
@@ -19,7 +19,7 @@ class ImageListView : public QTreeView {
   explicit ImageListView(QWidget* parent = nullptr);
 
   /// Call once. `images` must outlive this.
-  void Attach(ImageList& images);
+  void Attach(core::ImageList& images);
   /// Shows the list as it is now: rows, selection, current row.
   void Refresh();
   /// `position` counts from 1; a position that the view does not know yet is ignored.
@@ -48,10 +48,10 @@ class ImageListView : public QTreeView {
   void TakeCurrent(const QModelIndex& current);
   [[nodiscard]] std::size_t TargetAt(int y) const;
 
-  ImageList* images_ = nullptr;
+  core::ImageList* images_ = nullptr;
   ImageListModel* model_ = nullptr;
   bool showing_ = false;  // while true, the selection model's signals come from the list itself
   std::optional<std::size_t> dropTarget_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

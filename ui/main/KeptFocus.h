@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Disables a window and enables it again. A disabled window loses its focus, and its dialogs do with it: gives it back
 /// to the window and to one dialog, so that the user can type on after a save.
@@ -27,4 +27,4 @@ class KeptFocus {
   std::array<QPointer<QWidget>, 2> focus_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

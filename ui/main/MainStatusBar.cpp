@@ -4,7 +4,7 @@
 
 #include <QStyle>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 MainStatusBar::MainStatusBar(QWidget* parent) : QStatusBar(parent) {
   status_.setObjectName("sbMainText");
@@ -24,4 +24,4 @@ void MainStatusBar::ShowImageCount(const std::string& text) {
   imageCount_.setText(ToQt(text));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

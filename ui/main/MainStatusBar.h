@@ -4,7 +4,7 @@
 #include <QStatusBar>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The main window's status bar: the running status text, and the number of images.
 class MainStatusBar : public QStatusBar {
@@ -21,4 +21,4 @@ class MainStatusBar : public QStatusBar {
   QLabel imageCount_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,7 +8,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 void InsertWhereTheKeyboardIs(const QString& tag) {
@@ -29,4 +29,4 @@ void MakePopupTextMenu(QWidget& window) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

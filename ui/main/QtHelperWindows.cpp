@@ -12,7 +12,7 @@
 #include "ui/files/frmPreview.h"
 #include "ui/model/main/MainModel.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Brings a window that is hidden or behind others to the front.
@@ -31,7 +31,7 @@ QtHelperWindows::QtHelperWindows(MainModel& model, FieldBinder& binder, QWidget&
   tray_ = std::make_unique<frmSysTray>(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"));
   descriptions_ = std::make_unique<frmImageDescriptions>(model.CurrentProject(), binder, ports.boxes, &mainWindow);
   create_ = std::make_unique<frmCreateGallery>(
-      frmCreateGallery::Parts{model.CurrentPreferences(), ServerListFileName(ports.programFolder), ports.paths,
+      frmCreateGallery::Parts{model.CurrentPreferences(), publish::ServerListFileName(ports.programFolder), ports.paths,
                               ports.boxes, ports.fileBrowser, ports.folderBrowser},
       &mainWindow);
   info_ = std::make_unique<frmInfo>(&mainWindow);
@@ -55,7 +55,7 @@ void QtHelperWindows::ShowAbout() {
 
 void QtHelperWindows::ShowPreview(const std::string& description, const std::string& file) {
   frmPreview preview(model_.Ports().paths, &mainWindow_);
-  preview.SetPicture(description, file, CorrectionsOf(model_.CurrentProject().settings));
+  preview.SetPicture(description, file, core::CorrectionsOf(model_.CurrentProject().settings));
   preview.exec();
 }
 
@@ -88,7 +88,7 @@ void QtHelperWindows::ShowBrowserList(BrowserList& list) {
   frmBrowserList(list, &mainWindow_).exec();
 }
 
-std::unique_ptr<ProgressWindow> QtHelperWindows::CreateProgressWindow() {
+std::unique_ptr<publish::ProgressWindow> QtHelperWindows::CreateProgressWindow() {
   auto progress = std::make_unique<frmProgress>(model_.Log(), model_.Cancel(), model_.Ports().shell, model_.AppPath(),
                                                 &mainWindow_);
   // Some window managers focus no window of the program when a window above a disabled one closes.
@@ -113,4 +113,4 @@ void QtHelperWindows::CloseAll() {
   shutdown_.reset();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 class MainModel;
@@ -54,9 +54,9 @@ class QtHelperWindows : public HelperWindows {
   void StorePlacings() override { descriptions_->StorePlacings(); }
   void HideDescriptionsWindow() override { descriptions_->hide(); }
   [[nodiscard]] bool ShowThemes(ThemeModel& themes) override;
-  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override { return create_->Ask(); }
+  [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override { return create_->Ask(); }
   void ShowBrowserList(BrowserList& list) override;
-  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
+  [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override;
   void ShowShutdownStep(const std::string& text) override;
   void CloseAll() override;
 
@@ -73,4 +73,4 @@ class QtHelperWindows : public HelperWindows {
   QPointer<frmAbout> about_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

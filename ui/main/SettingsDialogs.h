@@ -9,7 +9,7 @@
 #include <functional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class ColorDialog;
 class FieldBinder;
@@ -39,7 +39,7 @@ class SettingsDialogs : public QObject {
   void Edit(const LinkButton& row);
   void Edit(const FiltersButton& row);
   void Edit(const WatermarkButton& row);
-  void SetIfChanged(std::string GalleryProject::*field, const std::string& text);
+  void SetIfChanged(std::string core::GalleryProject::*field, const std::string& text);
   [[nodiscard]] SamplePorts PortsOfSamples() const;
 
   Parts parts_;
@@ -47,4 +47,4 @@ class SettingsDialogs : public QObject {
   std::string graphicsFolder_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr QSize kLayoutPictureSize{160, 120};
@@ -40,7 +40,7 @@ Control& SettingsPages::Find(std::string_view name) const {
   return *control;
 }
 
-void SettingsPages::Refresh(const GalleryProject& project) {
+void SettingsPages::Refresh(const core::GalleryProject& project) {
   for (std::size_t i = 0; i < controls_.size(); ++i) {
     const ControlRule& rule = ControlRules()[i];
     QWidget& control = *controls_[i];
@@ -51,23 +51,23 @@ void SettingsPages::Refresh(const GalleryProject& project) {
     }
   }
   for (const UnitLabel& label : UnitLabels()) {
-    Find<QLabel>(label.control).setText(ToQt(IsOn(project.*label.isPercent) ? label.inPercent : label.inPixels));
+    Find<QLabel>(label.control).setText(ToQt(core::IsOn(project.*label.isPercent) ? label.inPercent : label.inPixels));
   }
   RefreshAlignments(project);
   RefreshLayoutPicture(project);
 }
 
-void SettingsPages::RefreshAlignments(const GalleryProject& project) const {
+void SettingsPages::RefreshAlignments(const core::GalleryProject& project) const {
   for (const AlignmentList& list : AlignmentLists()) {
-    auto& control = Find<QComboBox>(FieldOf(list.alignment).name);
-    const ValueList texts = AlignmentTexts(IsAboveOrBelow(list, project));
+    auto& control = Find<QComboBox>(core::FieldOf(list.alignment).name);
+    const core::ValueList texts = core::AlignmentTexts(core::IsAboveOrBelow(list, project));
     const QSignalBlocker quiet(control);
     for (int i = 0; i < control.count(); ++i) control.setItemText(i, ToQt(texts[static_cast<std::size_t>(i)]));
     control.setCurrentIndex(std::max<int>(project.*list.alignment, 0));
   }
 }
 
-void SettingsPages::RefreshLayoutPicture(const GalleryProject& project) {
+void SettingsPages::RefreshLayoutPicture(const core::GalleryProject& project) {
   if (layoutPicture_ == LayoutPicture(project)) return;
   layoutPicture_ = LayoutPicture(project);
   auto& picture = Find<QLabel>("picLayoutType");
@@ -75,4 +75,4 @@ void SettingsPages::RefreshLayoutPicture(const GalleryProject& project) {
   picture.setPixmap(icon.pixmap(kLayoutPictureSize, picture.devicePixelRatioF()));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

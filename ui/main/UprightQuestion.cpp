@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <chrono>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 // Until it is tried again to ask a user who is busy.
@@ -45,4 +45,4 @@ void UprightQuestion::AskWhenPossible(const std::stop_token& stop) {
   if (offer_.Ask(parts_.boxes)) emit Accepted();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

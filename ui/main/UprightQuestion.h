@@ -6,7 +6,7 @@
 #include <QThreadPool>
 #include <functional>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Looks on a worker thread whether added photographs lie on their side, and then offers to turn them upright. The
 /// question is asked from the event loop, as soon as the user may be asked.
@@ -15,9 +15,9 @@ class UprightQuestion : public QObject {
 
  public:
   struct Parts {
-    const Project& project;
-    const PathMap& paths;
-    MessageBoxPort& boxes;
+    const core::Project& project;
+    const env::PathMap& paths;
+    env::MessageBoxPort& boxes;
     std::function<bool()> mayAsk;
   };
 
@@ -43,4 +43,4 @@ class UprightQuestion : public QObject {
   std::stop_source stop_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QMenu>
 #include <QToolButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// The caller may be an entry of this menu, so the entries live until it has been handled.
@@ -57,4 +57,4 @@ void ViewMenus::AddEntry(QMenu& menu, const BrowserMenuEntry& entry, std::int16_
   action->setObjectName(isArray ? "menuActionsViewBrowser" + QString::number(click.BrowserIndex) : ToQt(entry.Key));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

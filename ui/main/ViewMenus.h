@@ -7,7 +7,7 @@ class QAction;
 class QMenu;
 class QToolButton;
 
-namespace vantorium {
+namespace vantorium::ui {
 
 struct BrowserMenuEntry;
 struct BrowserMenus;
@@ -39,4 +39,4 @@ class ViewMenus : public QObject {
   QMenu& dropDown_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows the wait pointer over a window while it lives. Message boxes above the window keep their own.
 class WaitPointer {
@@ -16,4 +16,4 @@ class WaitPointer {
   QWidget& window_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

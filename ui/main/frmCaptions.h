@@ -7,7 +7,7 @@ namespace Ui {
 class frmCaptions;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 
@@ -23,4 +23,4 @@ class frmCaptions : public QWidget {
   std::unique_ptr<Ui::frmCaptions> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@ namespace Ui {
 class frmGallery;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 
@@ -31,4 +31,4 @@ class frmGallery : public QWidget {
   std::unique_ptr<Ui::frmGallery> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

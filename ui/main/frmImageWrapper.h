@@ -7,21 +7,24 @@ namespace Ui {
 class frmImageWrapper;
 }
 
-namespace vantorium {
+namespace vantorium::env {
+class PathMap;
+}  // namespace vantorium::env
+
+namespace vantorium::ui {
 
 class FieldBinder;
-class PathMap;
 
 /// The Image Wrappers page of the main window, for the pages that show one image each.
 class frmImageWrapper : public QWidget {
   Q_OBJECT
 
  public:
-  frmImageWrapper(FieldBinder& binder, const PathMap& paths, QWidget* parent = nullptr);
+  frmImageWrapper(FieldBinder& binder, const env::PathMap& paths, QWidget* parent = nullptr);
   ~frmImageWrapper() override;
 
  private:
   std::unique_ptr<Ui::frmImageWrapper> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

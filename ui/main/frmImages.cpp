@@ -19,7 +19,7 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmImages::frmImages(const Parts& parts, QWidget* parent)
     : QWidget(parent),
@@ -49,15 +49,15 @@ void frmImages::ConnectList() {
   connect(list, &ImageListView::InsertPressed, this, &frmImages::AddChosenFiles);
   connect(list, &ImageListView::Dropped, this,
           [this](const std::string& name, std::size_t target) { Do([&] { parts_.images.Drop(name, target); }); });
-  parts_.binder.Bind(*ui_->comboImagesSortingOrder, &GalleryProject::comboImagesSortingOrder,
-                     [this](Choice index) { Do([&] { parts_.images.SetSortingOrder(index); }); });
+  parts_.binder.Bind(*ui_->comboImagesSortingOrder, &core::GalleryProject::comboImagesSortingOrder,
+                     [this](core::Choice index) { Do([&] { parts_.images.SetSortingOrder(index); }); });
 }
 
 void frmImages::ConnectPreview() {
   connect(ui_->pbImagesPreview, &FittedPicture::DoubleClicked, this, &frmImages::AskForFullScreen);
   connect(ui_->pbImagesPreview, &FittedPicture::Failed, this, &frmImages::AskAboutInvalidImage);
   connect(ui_->checkImagesPreview, &QCheckBox::toggled, this, [this](bool checked) {
-    parts_.preferences.checkImagesPreview = FlagOf(checked);
+    parts_.preferences.checkImagesPreview = core::FlagOf(checked);
     RefreshPreview();
   });
 }
@@ -88,7 +88,7 @@ void frmImages::ConnectButtons() {
 void frmImages::Do(const std::function<void()>& operation) {
   {
     const QScopedValueRollback guard(working_, true);
-    parts_.binder.Edit([&](ProjectEditor&) { operation(); });
+    parts_.binder.Edit([&](core::ProjectEditor&) { operation(); });
   }
   RefreshList();
   emit ListChanged();
@@ -99,7 +99,7 @@ void frmImages::RefreshList() {
   if (scrollTo_ != 0) ui_->lvImagesList->ScrollToPosition(scrollTo_);
   scrollTo_ = 0;
   const QSignalBlocker quiet(ui_->checkImagesPreview);
-  ui_->checkImagesPreview->setChecked(IsOn(parts_.preferences.checkImagesPreview));
+  ui_->checkImagesPreview->setChecked(core::IsOn(parts_.preferences.checkImagesPreview));
   emit CurrentChanged();
 }
 
@@ -116,29 +116,30 @@ void frmImages::ScrollIntoView(std::size_t position) {
 }
 
 void frmImages::RefreshPreview() {
-  const ImageEntry* entry = CurrentEntry();
+  const core::ImageEntry* entry = CurrentEntry();
   const auto file = entry == nullptr ? std::nullopt : parts_.paths.ToNative(entry->SourcePath);
-  const Corrections corrections = CorrectionsOf(parts_.project.settings);
+  const image::Corrections corrections = core::CorrectionsOf(parts_.project.settings);
   ui_->lblImagesSize->setText(ToQt(ImageSizeLabel(file, corrections.upright)));
-  if (entry == nullptr || !IsOn(parts_.preferences.checkImagesPreview)) {
+  if (entry == nullptr || !core::IsOn(parts_.preferences.checkImagesPreview)) {
     ui_->pbImagesPreview->Clear();
   } else {
     ui_->pbImagesPreview->Load(file, corrections);
   }
 }
 
-const ImageEntry* frmImages::CurrentEntry() const {
-  const ImageList& images = parts_.project.images;
+const core::ImageEntry* frmImages::CurrentEntry() const {
+  const core::ImageList& images = parts_.project.images;
   return images.Current() == 0 ? nullptr : &images.Entry(images.Current());
 }
 
 void frmImages::TurnUpright() {
-  parts_.binder.Edit([](ProjectEditor& editor) { editor.Set(&GalleryProject::checkImagesUpright, Flag{1}); });
+  parts_.binder.Edit(
+      [](core::ProjectEditor& editor) { editor.Set(&core::GalleryProject::checkImagesUpright, core::Flag{1}); });
   RefreshPreview();
 }
 
 void frmImages::AskForFullScreen() {
-  if (const ImageEntry* entry = CurrentEntry()) emit FullScreenPreviewAsked(entry->ImageName, entry->SourcePath);
+  if (const core::ImageEntry* entry = CurrentEntry()) emit FullScreenPreviewAsked(entry->ImageName, entry->SourcePath);
 }
 
 /// Asks nothing in the middle of something else, such as a run: the answer could change the project under it.
@@ -148,7 +149,7 @@ bool frmImages::MayAsk() const {
 
 // If the user may not be asked now, the preview stays empty.
 void frmImages::AskAboutInvalidImage() {
-  const ImageEntry* entry = CurrentEntry();
+  const core::ImageEntry* entry = CurrentEntry();
   if (entry == nullptr || !MayAsk()) return;
   frmInvalidImage question(parts_.shell, this);
   switch (question.ShowDialog(entry->ImageName)) {
@@ -200,8 +201,8 @@ void frmImages::Find() {
 
 void frmImages::Shuffle() {
   frmShuffle progress(this);
-  ClockSeededNumbers random(parts_.clock);
+  core::ClockSeededNumbers random(parts_.clock);
   Do([&] { parts_.images.Shuffle({.progress = progress, .eventLoop = parts_.loop, .random = random}); });
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

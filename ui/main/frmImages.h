@@ -22,7 +22,7 @@ namespace Ui {
 class frmImages;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class UprightQuestion;
 
@@ -32,16 +32,16 @@ class frmImages : public QWidget {
 
  public:
   struct Parts {
-    Project& project;
-    ImageListOperations& images;
+    core::Project& project;
+    core::ImageListOperations& images;
     FieldBinder& binder;
-    MessageBoxPort& boxes;
-    EventLoop& loop;
-    Shell& shell;
-    const Clock& clock;
-    const PathMap& paths;
+    env::MessageBoxPort& boxes;
+    env::EventLoop& loop;
+    env::Shell& shell;
+    const env::Clock& clock;
+    const env::PathMap& paths;
     FileBrowser& browser;
-    Preferences& preferences;
+    env::Preferences& preferences;
     /// Returns the folders that the user chose to add, path text; none if the user cancelled.
     std::function<std::vector<std::string>()> askForImageFolders;
   };
@@ -84,7 +84,7 @@ class frmImages : public QWidget {
   void AskAboutInvalidImage();
   void TurnUpright();
   [[nodiscard]] bool MayAsk() const;
-  [[nodiscard]] const ImageEntry* CurrentEntry() const;
+  [[nodiscard]] const core::ImageEntry* CurrentEntry() const;
 
   Parts parts_;
   std::unique_ptr<Ui::frmImages> ui_;
@@ -94,4 +94,4 @@ class frmImages : public QWidget {
   std::size_t scrollTo_ = 0;  // position to scroll to after the operation; 0 for none
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QApplication>
 #include <QHideEvent>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmInfo::frmInfo(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
@@ -38,4 +38,4 @@ void frmInfo::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

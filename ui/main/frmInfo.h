@@ -12,7 +12,7 @@ namespace Ui {
 class frmInfo;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A small window that says what the program is busy with, and shows the busy pointer meanwhile. The user can't close
 /// it. The keyboard focus stays with, or returns to, the window that has it.
@@ -38,4 +38,4 @@ class frmInfo : public QDialog {
   QPointer<QWidget> activeBefore_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -21,7 +21,7 @@
 #include <QCloseEvent>
 #include <QWindow>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Qt Designer forms have no names for the separators of a menu.
@@ -112,8 +112,8 @@ void frmMain::ConnectCommands() {
   command({ui_->menuOptionsApplyTheme}, [this] { model_.ApplyTheme(); });
   command({ui_->menuHelpOnlineHelp}, [this] { model_.ShowHelp(); });
   command({ui_->menuHelpAbout}, [this] { windows_.ShowAbout(); });
-  binder_.Bind(*ui_->menuOptionsUpright, &GalleryProject::checkImagesUpright);
-  binder_.Bind(*ui_->menuOptionsTrueColors, &GalleryProject::checkImagesTrueColors);
+  binder_.Bind(*ui_->menuOptionsUpright, &core::GalleryProject::checkImagesUpright);
+  binder_.Bind(*ui_->menuOptionsTrueColors, &core::GalleryProject::checkImagesTrueColors);
   command({ui_->menuOptionsUpright, ui_->menuOptionsTrueColors}, [this] { ShowPreview(); });
   connect(viewMenus_, &ViewMenus::ViewAsked, this, [this](std::int16_t browser) { model_.ViewGallery(browser); });
   connect(viewMenus_, &ViewMenus::ListAsked, this, &frmMain::EditBrowserList);
@@ -248,12 +248,12 @@ void frmMain::FocusTitleField() {
   galleryPage_->FocusTitle();
 }
 
-CustomColors frmMain::SystemColors() const {
-  CustomColors colors = {};
+env::CustomColors frmMain::SystemColors() const {
+  env::CustomColors colors = {};
   for (std::size_t i = 0; i < colors.size(); ++i) {
     colors[i] = FromQt(palette().color(static_cast<QPalette::ColorRole>(i)));
   }
   return colors;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,7 +12,7 @@ namespace Ui {
 class frmMain;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class MainModel;
 class SettingsPages;
@@ -48,7 +48,7 @@ class frmMain : public QMainWindow, public MainView {
   void ScrollIntoView(std::size_t position) override;
   void SelectFirstTab() override;
   void FocusTitleField() override;
-  [[nodiscard]] CustomColors SystemColors() const override;
+  [[nodiscard]] env::CustomColors SystemColors() const override;
 
  signals:
   /// The window was closed and everything is cleaned up.
@@ -84,4 +84,4 @@ class frmMain : public QMainWindow, public MainView {
   SettingsPages* pages_ = nullptr;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

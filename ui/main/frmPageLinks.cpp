@@ -3,18 +3,18 @@
 #include "ui/widgets/FieldBinder.h"
 #include "ui_frmPageLinks.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmPageLinks::frmPageLinks(FieldBinder& binder, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::frmPageLinks>()) {
   ui_->setupUi(this);
-  binder.Bind(*ui_->comboPageLinksThumbnailLinkPlacement, &GalleryProject::comboPageLinksThumbnailLinkPlacement);
-  binder.Bind(*ui_->checkPageLinksThumbnailDirectLinks, &GalleryProject::checkPageLinksThumbnailDirectLinks);
+  binder.Bind(*ui_->comboPageLinksThumbnailLinkPlacement, &core::GalleryProject::comboPageLinksThumbnailLinkPlacement);
+  binder.Bind(*ui_->checkPageLinksThumbnailDirectLinks, &core::GalleryProject::checkPageLinksThumbnailDirectLinks);
   binder.Bind(*ui_->textPageLinksThumbnailMaxDirectLinks, *ui_->udPageLinksThumbnailMaxDirectLinks,
-              &GalleryProject::textPageLinksThumbnailMaxDirectLinks);
-  binder.Bind(*ui_->comboPageLinksImageLinkPlacement, &GalleryProject::comboPageLinksImageLinkPlacement);
+              &core::GalleryProject::textPageLinksThumbnailMaxDirectLinks);
+  binder.Bind(*ui_->comboPageLinksImageLinkPlacement, &core::GalleryProject::comboPageLinksImageLinkPlacement);
 }
 
 frmPageLinks::~frmPageLinks() = default;
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

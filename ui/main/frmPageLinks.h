@@ -7,7 +7,7 @@ namespace Ui {
 class frmPageLinks;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 class FieldBinder;
 
@@ -23,4 +23,4 @@ class frmPageLinks : public QWidget {
   std::unique_ptr<Ui::frmPageLinks> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include "ui/qt/QtText.h"
 #include "ui_frmShutdown.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 frmShutdown::frmShutdown(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
@@ -17,4 +17,4 @@ void frmShutdown::ShowStep(const std::string& text) {
   ui_->lblMessage->setText(ToQt(text));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

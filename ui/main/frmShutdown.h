@@ -8,7 +8,7 @@ namespace Ui {
 class frmShutdown;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The small window that says what the program does before it exits. Nothing waits for it, and the user can't close it.
 class frmShutdown : public QDialog {
@@ -26,4 +26,4 @@ class frmShutdown : public QDialog {
   std::unique_ptr<Ui::frmShutdown> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

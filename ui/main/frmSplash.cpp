@@ -5,7 +5,7 @@
 #include <QIcon>
 #include <QScreen>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr QSize kPictureSize(420, 200);
@@ -25,4 +25,4 @@ void frmSplash::Step() {
   ui_->pb1->setValue(ui_->pb1->value() + 1);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@ namespace Ui {
 class frmSplash;
 }
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The splash window, shown in the middle of the screen while the program starts. Nothing waits for it.
 class frmSplash : public QWidget {
@@ -24,4 +24,4 @@ class frmSplash : public QWidget {
   std::unique_ptr<Ui::frmSplash> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QCursor>
 #include <QTimer>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::chrono::seconds kTrayWatch{2};
@@ -133,4 +133,4 @@ void frmSysTray::Choose(std::int32_t index) {
   emit MenuClick(index, ToQt(item.Key));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@
 #include <QSystemTrayIcon>
 #include <functional>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The icon in the desktop's tray, and its menu. If there is no tray, the icon appears as soon as there is one, and
 /// everything else works the same.
@@ -60,4 +60,4 @@ class frmSysTray : public QObject {
   bool enabled_ = true;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

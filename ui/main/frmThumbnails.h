@@ -8,18 +8,21 @@ namespace Ui {
 class frmThumbnails;
 }
 
-namespace vantorium {
+namespace vantorium::env {
+class PathMap;
+}  // namespace vantorium::env
+
+namespace vantorium::ui {
 
 class ColorDialog;
 class FieldBinder;
-class PathMap;
 
 /// The Thumbnails page of the main window, for the thumbnails and their pages.
 class frmThumbnails : public QWidget {
   Q_OBJECT
 
  public:
-  frmThumbnails(FieldBinder& binder, const PathMap& paths, ColorDialog& colors, QWidget* parent = nullptr);
+  frmThumbnails(FieldBinder& binder, const env::PathMap& paths, ColorDialog& colors, QWidget* parent = nullptr);
   ~frmThumbnails() override;
 
   /// Shows the number of images and of pages.
@@ -29,4 +32,4 @@ class frmThumbnails : public QWidget {
   std::unique_ptr<Ui::frmThumbnails> ui_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

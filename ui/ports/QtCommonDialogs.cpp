@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QColorDialog>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-bool QtCommonDialogs::ShowColorDialog(std::uint32_t& color, CustomColors& custom) {
+bool QtCommonDialogs::ShowColorDialog(std::uint32_t& color, env::CustomColors& custom) {
   for (std::size_t i = 0; i < custom.size(); ++i) QColorDialog::setCustomColor(static_cast<int>(i), ToQt(custom[i]));
   QColorDialog dialog(ToQt(color), QApplication::activeWindow());
   dialog.setObjectName("ColorDialog");
@@ -20,7 +20,7 @@ bool QtCommonDialogs::ShowColorDialog(std::uint32_t& color, CustomColors& custom
   return true;
 }
 
-bool QtCommonDialogs::ShowFontDialog(FontDescription& font) {
+bool QtCommonDialogs::ShowFontDialog(env::FontDescription& font) {
   frmFont dialog(
       font, texts_.FaceNames(), [this](std::uint32_t& color) { return ShowColorDialog(color, lastCustom_); },
       QApplication::activeWindow());
@@ -29,4 +29,4 @@ bool QtCommonDialogs::ShowFontDialog(FontDescription& font) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

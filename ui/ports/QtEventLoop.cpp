@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void QtEventLoop::Turn() {
   QCoreApplication::processEvents();
@@ -12,4 +12,4 @@ void QtEventLoop::Wait() {
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,13 +2,13 @@
 
 #include "env/EventLoop.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Qt's event loop. A turn handles all pending events, including repaints.
-class QtEventLoop : public EventLoop {
+class QtEventLoop : public env::EventLoop {
  public:
   void Turn() override;
   void Wait() override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,58 +5,58 @@
 #include <QApplication>
 #include <QMessageBox>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-QMessageBox::Icon IconOf(BoxKind kind) {
+QMessageBox::Icon IconOf(env::BoxKind kind) {
   switch (kind) {
-    case BoxKind::Critical:
+    case env::BoxKind::Critical:
       return QMessageBox::Critical;
-    case BoxKind::Question:
+    case env::BoxKind::Question:
       return QMessageBox::Question;
-    case BoxKind::Exclamation:
+    case env::BoxKind::Exclamation:
       return QMessageBox::Warning;
-    case BoxKind::Information:
+    case env::BoxKind::Information:
       return QMessageBox::Information;
-    case BoxKind::Plain:
+    case env::BoxKind::Plain:
       break;
   }
   return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
+QMessageBox::StandardButtons ButtonsOf(env::BoxButtons buttons) {
   switch (buttons) {
-    case BoxButtons::YesNo:
+    case env::BoxButtons::YesNo:
       return QMessageBox::Yes | QMessageBox::No;
-    case BoxButtons::YesNoCancel:
+    case env::BoxButtons::YesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case BoxButtons::Ok:
+    case env::BoxButtons::Ok:
       break;
   }
   return QMessageBox::Ok;
 }
 
 /// Escape gives the harmless answer.
-QMessageBox::StandardButton EscapeButtonOf(BoxButtons buttons) {
+QMessageBox::StandardButton EscapeButtonOf(env::BoxButtons buttons) {
   switch (buttons) {
-    case BoxButtons::YesNo:
+    case env::BoxButtons::YesNo:
       return QMessageBox::No;
-    case BoxButtons::YesNoCancel:
+    case env::BoxButtons::YesNoCancel:
       return QMessageBox::Cancel;
-    case BoxButtons::Ok:
+    case env::BoxButtons::Ok:
       break;
   }
   return QMessageBox::Ok;
 }
 
 /// Return never confirms what cannot be undone; saving is harmless.
-QMessageBox::StandardButton DefaultButtonOf(BoxButtons buttons) {
+QMessageBox::StandardButton DefaultButtonOf(env::BoxButtons buttons) {
   switch (buttons) {
-    case BoxButtons::YesNo:
+    case env::BoxButtons::YesNo:
       return QMessageBox::No;
-    case BoxButtons::YesNoCancel:
+    case env::BoxButtons::YesNoCancel:
       return QMessageBox::Yes;
-    case BoxButtons::Ok:
+    case env::BoxButtons::Ok:
       break;
   }
   return QMessageBox::Ok;
@@ -73,22 +73,23 @@ QWidget* Owner() {
   return nullptr;
 }
 
-BoxAnswer AnswerOf(int button) {
+env::BoxAnswer AnswerOf(int button) {
   switch (button) {
     case QMessageBox::Yes:
-      return BoxAnswer::Yes;
+      return env::BoxAnswer::Yes;
     case QMessageBox::No:
-      return BoxAnswer::No;
+      return env::BoxAnswer::No;
     case QMessageBox::Cancel:
-      return BoxAnswer::Cancel;
+      return env::BoxAnswer::Cancel;
     default:
-      return BoxAnswer::Ok;
+      return env::BoxAnswer::Ok;
   }
 }
 
 }  // namespace
 
-BoxAnswer QtMessageBox::Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) {
+env::BoxAnswer QtMessageBox::Show(env::BoxKind kind, env::BoxButtons buttons, const std::string& title,
+                                  const std::string& text) {
   QMessageBox box(Owner());
   box.setObjectName("MessageBox");
   box.setIcon(IconOf(kind));
@@ -101,4 +102,4 @@ BoxAnswer QtMessageBox::Show(BoxKind kind, BoxButtons buttons, const std::string
   return AnswerOf(box.exec());
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,12 +2,13 @@
 
 #include "env/MessageBoxPort.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows message boxes over the active window, with plain text.
-class QtMessageBox : public MessageBoxPort {
+class QtMessageBox : public env::MessageBoxPort {
  public:
-  BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override;
+  env::BoxAnswer Show(env::BoxKind kind, env::BoxButtons buttons, const std::string& title,
+                      const std::string& text) override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,12 +2,12 @@
 
 #include "env/Screen.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The desktop's primary screen.
-class QtScreen : public Screen {
+class QtScreen : public env::Screen {
  public:
   [[nodiscard]] std::int32_t PixelsPerInch() const override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

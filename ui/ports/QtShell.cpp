@@ -9,17 +9,17 @@
 #include <QTimer>
 #include <QUrl>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-QString NativeOf(const PathMap& paths, const std::string& path) {
+QString NativeOf(const env::PathMap& paths, const std::string& path) {
   const auto native = paths.ToNative(path);
-  if (!native) throw RuntimeFailure(FailureKind::FileNotFound);
+  if (!native) throw env::RuntimeFailure(env::FailureKind::FileNotFound);
   return ToQt(native->string());
 }
 
 /// Stops the timer before it calls `failed`, which may show a message box, whose event loop runs timers too.
-void WatchOn(QObject& owner, const StartedProcess& process, const StartFailed& failed) {
+void WatchOn(QObject& owner, const env::StartedProcess& process, const env::StartFailed& failed) {
   constexpr std::chrono::milliseconds kPause{20};
   auto* const timer = new QTimer(&owner);
   QObject::connect(timer, &QTimer::timeout, timer, [timer, process, failed] {
@@ -29,7 +29,7 @@ void WatchOn(QObject& owner, const StartedProcess& process, const StartFailed& f
     };
     try {
       if (!process.IsWatched()) stop();
-    } catch (const RuntimeFailure& failure) {
+    } catch (const env::RuntimeFailure& failure) {
       stop();
       failed(failure);
     }
@@ -38,12 +38,12 @@ void WatchOn(QObject& owner, const StartedProcess& process, const StartFailed& f
 }
 
 [[noreturn]] void FailToStart(const std::string& what) {
-  throw RuntimeFailure(FailureKind::FileNotFound, "\"" + what + "\" could not be started.");
+  throw env::RuntimeFailure(env::FailureKind::FileNotFound, "\"" + what + "\" could not be started.");
 }
 
 }  // namespace
 
-void QtShell::Beep(BeepKind /*kind*/) {
+void QtShell::Beep(env::BeepKind /*kind*/) {
   QApplication::beep();
 }
 
@@ -51,13 +51,13 @@ void QtShell::OpenFile(const std::string& path) {
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(NativeOf(paths_, path)))) FailToStart(path);
 }
 
-void QtShell::Start(const ShellCommand& command, const StartFailed& failed) {
+void QtShell::Start(const env::ShellCommand& command, const env::StartFailed& failed) {
   try {
-    const StartedProcess process(command);
+    const env::StartedProcess process(command);
     if (process.IsWatched()) WatchOn(watches_, process, failed);
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     failed(failure);
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,21 +5,21 @@
 
 #include <QObject>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The desktop that shows the window. Started programs run independently and outlive this one. Watched programs are
 /// polled from Qt's event loop while this object lives.
-class QtShell : public Shell {
+class QtShell : public env::Shell {
  public:
-  explicit QtShell(const PathMap& paths) : paths_(paths) {}
+  explicit QtShell(const env::PathMap& paths) : paths_(paths) {}
 
-  void Beep(BeepKind kind) override;
+  void Beep(env::BeepKind kind) override;
   void OpenFile(const std::string& path) override;
-  void Start(const ShellCommand& command, const StartFailed& failed) override;
+  void Start(const env::ShellCommand& command, const env::StartFailed& failed) override;
 
  private:
-  const PathMap& paths_;
+  const env::PathMap& paths_;
   QObject watches_;  ///< owns a timer for each watched program
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <limits>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Returns an upright copy of `count` rows, of which row `top`, counted from above, is the first.
-QImage RowsOf(const cDIBSection& picture, int top, int count) {
+QImage RowsOf(const image::cDIBSection& picture, int top, int count) {
   QImage rows(picture.width(), count, QImage::Format_BGR888);
   if (rows.isNull()) return rows;  // no memory
   const int width = picture.width() * 3;
@@ -39,12 +39,12 @@ Run Clipped(int source, int length, int own, int sourceLength, int room) {
 
 }  // namespace
 
-QImage ImageOf(const cDIBSection& picture) {
+QImage ImageOf(const image::cDIBSection& picture) {
   if (picture.DIBSectionBitsPtr() == nullptr) return {};
   return RowsOf(picture, 0, picture.height());
 }
 
-void LoadPictureBlt(cDIBSection& picture, const QImage& source, const BlitArea& from) {
+void LoadPictureBlt(image::cDIBSection& picture, const QImage& source, const BlitArea& from) {
   if (picture.DIBSectionBitsPtr() == nullptr) return;
   const Run across = Clipped(from.x, from.width, picture.width(), source.width(), picture.width());
   const Run down = Clipped(from.y, from.height, picture.height(), source.height(), picture.height());
@@ -57,7 +57,7 @@ void LoadPictureBlt(cDIBSection& picture, const QImage& source, const BlitArea& 
   }
 }
 
-void PaintPicture(const cDIBSection& picture, QPainter& target, const BlitArea& to, int sourceX, int sourceY) {
+void PaintPicture(const image::cDIBSection& picture, QPainter& target, const BlitArea& to, int sourceX, int sourceY) {
   if (picture.DIBSectionBitsPtr() == nullptr) return;
   constexpr int kNoLimit = std::numeric_limits<int>::max();
   const Run across = Clipped(sourceX, to.width, picture.width(), picture.width(), kNoLimit);
@@ -67,7 +67,7 @@ void PaintPicture(const cDIBSection& picture, QPainter& target, const BlitArea& 
                    QRect(across.source, 0, across.length, down.length));
 }
 
-bool CreateFromPicture(cDIBSection& picture, const QImage& source) {
+bool CreateFromPicture(image::cDIBSection& picture, const QImage& source) {
   if (!picture.Create(source.width(), source.height())) return false;
   QImage opaque(source.size(), QImage::Format_RGB32);
   if (opaque.isNull()) {  // no memory
@@ -80,9 +80,9 @@ bool CreateFromPicture(cDIBSection& picture, const QImage& source) {
   return true;
 }
 
-bool CopyToClipboard(const cDIBSection& picture, bool asDIB, MessageBoxPort& boxes) {
+bool CopyToClipboard(const image::cDIBSection& picture, bool asDIB, env::MessageBoxPort& boxes) {
   if (asDIB) {
-    boxes.Show(BoxKind::Plain, BoxButtons::Ok, FromQt(QApplication::applicationDisplayName()),
+    boxes.Show(env::BoxKind::Plain, env::BoxButtons::Ok, FromQt(QApplication::applicationDisplayName()),
                "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!");
     return false;
   }
@@ -92,4 +92,4 @@ bool CopyToClipboard(const cDIBSection& picture, bool asDIB, MessageBoxPort& box
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

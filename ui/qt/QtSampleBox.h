@@ -5,17 +5,17 @@
 
 #include <QDialog>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The SampleBox of a dialog that shows its sample in a UnscaledPicture.
 class QtSampleBox : public SampleBox {
  public:
   QtSampleBox(QDialog& dialog, UnscaledPicture& box) : dialog_(dialog), box_(box) {}
 
-  [[nodiscard]] PictureSize SizeInPixels() const override { return box_.SizeInPixels(); }
+  [[nodiscard]] image::PictureSize SizeInPixels() const override { return box_.SizeInPixels(); }
   [[nodiscard]] double PixelRatio() const override { return box_.devicePixelRatioF(); }
   void Clear() override { box_.Clear(); }
-  void PaintPicture(const cDIBSection& picture) override { box_.Show(picture); }
+  void PaintPicture(const image::cDIBSection& picture) override { box_.Show(picture); }
   void HideDialog() override { dialog_.hide(); }
 
  private:
@@ -23,4 +23,4 @@ class QtSampleBox : public SampleBox {
   UnscaledPicture& box_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 QString LinesToQt(std::string_view text) {
   QString lines = ToQt(text);
@@ -12,7 +12,7 @@ QString LinesToQt(std::string_view text) {
 }
 
 std::string LinesFromQt(const QString& text) {
-  return WithCrLf(FromQt(text));
+  return env::WithCrLf(FromQt(text));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

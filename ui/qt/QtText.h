@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // The program's texts are UTF-8, with CR LF between lines; Qt's controls use LF.
 
@@ -27,4 +27,4 @@ namespace vantorium {
 /// The text of a multi-line control, with CR LF.
 [[nodiscard]] std::string LinesFromQt(const QString& text);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

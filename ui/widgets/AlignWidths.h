@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Makes the controls as wide as the widest of them, so that what stands beside them lines up across groups.
 inline void AlignWidths(std::initializer_list<QWidget*> controls) {
@@ -13,4 +13,4 @@ inline void AlignWidths(std::initializer_list<QWidget*> controls) {
   for (QWidget* control : controls) control->setMinimumWidth(width);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <QValidator>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Cleans a field's text as it is typed or pasted. The cursor stays where it was.
 class CleaningValidator : public QValidator {
@@ -21,4 +21,4 @@ class CleaningValidator : public QValidator {
   Clean clean_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

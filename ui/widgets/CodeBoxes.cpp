@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Returns the text with LF for each character that starts a new line in a text box.
@@ -40,7 +40,7 @@ std::string CodeOf(const QPlainTextEdit& box, std::string_view shown) {
   return lines == WithLf(LinesToQt(shown)) ? std::string(shown) : LinesFromQt(lines);
 }
 
-bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, MessageBoxPort& port) {
+bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, env::MessageBoxPort& port) {
   std::vector<std::string> texts;
   for (const QPlainTextEdit* box : boxes) texts.push_back(FromQt(LinesOf(*box)));
   const auto refused = FindRefusedCode(texts, port);
@@ -51,4 +51,4 @@ bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, MessageBoxPort& p
   return false;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // Multi-line text boxes that hold code or other texts of the user.
 
@@ -20,6 +20,6 @@ void ShowCode(QPlainTextEdit& box, std::string_view text);
 
 /// Returns whether a project file can store the texts of the boxes. If not, tells the user, focuses the first box at
 /// fault and selects the forbidden characters.
-[[nodiscard]] bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, MessageBoxPort& port);
+[[nodiscard]] bool MayKeepCode(std::initializer_list<QPlainTextEdit*> boxes, env::MessageBoxPort& port);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr int kMargin = 5;  // between the button's edge and its color
@@ -15,7 +15,7 @@ ColorButton::ColorButton(QWidget* parent) : QPushButton(parent) {
   SetColor(0);
 }
 
-void ColorButton::SetColor(Color color) {
+void ColorButton::SetColor(core::Color color) {
   color_ = color;
   setAccessibleDescription(ShownColor().name().toUpper());
   update();
@@ -38,4 +38,4 @@ void ColorButton::paintEvent(QPaintEvent* event) {
   painter.fillRect(swatch.adjusted(1, 1, -1, -1), brush);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A button that shows a color and reports it to screen readers as "#RRGGBB".
 class ColorButton : public QPushButton {
@@ -14,8 +14,8 @@ class ColorButton : public QPushButton {
  public:
   explicit ColorButton(QWidget* parent = nullptr);
 
-  void SetColor(Color color);
-  [[nodiscard]] Color GetColor() const { return color_; }
+  void SetColor(core::Color color);
+  [[nodiscard]] core::Color GetColor() const { return color_; }
   [[nodiscard]] QColor ShownColor() const;
 
   [[nodiscard]] QSize sizeHint() const override;
@@ -24,7 +24,7 @@ class ColorButton : public QPushButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  Color color_ = 0;
+  core::Color color_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

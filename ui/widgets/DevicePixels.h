@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The size of a control's area inside its frame, in pixels of the screen.
 [[nodiscard]] inline QSize DevicePixels(const QWidget& control) {
@@ -19,4 +19,4 @@ namespace vantorium {
   return QRectF(begin, end).toRect();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QStyle>
 #include <QStyleOptionGroupBox>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 QString ElidedGroupBox::ShownTitle() const {
   QStyleOptionGroupBox frame;
@@ -27,4 +27,4 @@ bool ElidedGroupBox::event(QEvent* event) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

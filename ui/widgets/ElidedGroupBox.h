@@ -2,7 +2,7 @@
 
 #include <QGroupBox>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A group box that shows as much of a long title as fits, and all of it in its tool tip.
 class ElidedGroupBox : public QGroupBox {
@@ -19,4 +19,4 @@ class ElidedGroupBox : public QGroupBox {
   bool event(QEvent* event) override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <QStyle>
 #include <QToolTip>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
@@ -33,4 +33,4 @@ bool ElidedLabel::event(QEvent* event) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A one-line label that shows as much of a long text as fits, and all of it in its tool tip. Needs no space except a
 /// line's height.
@@ -19,4 +19,4 @@ class ElidedLabel : public QLabel {
   bool event(QEvent* event) override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,7 +12,7 @@
 #include <QRegularExpression>
 #include <QSignalBlocker>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Unlike ShowText, keeps the cursor and emits no signal: the user may be typing in this very control.
@@ -33,17 +33,17 @@ QString WithoutBlanks(const QString& text) {
 /// Removes spaces and line ends, then accepts the text if the number field makes at most six digits of it.
 class DigitsValidator : public CleaningValidator {
  public:
-  DigitsValidator(Digits GalleryProject::*field, QObject* parent)
+  DigitsValidator(core::Digits core::GalleryProject::*field, QObject* parent)
       : CleaningValidator(WithoutBlanks, parent), field_(field) {}
 
   State validate(QString& text, int& cursor) const override {
     static const QRegularExpression kDigits("^[0-9]{0,6}$");
     CleaningValidator::validate(text, cursor);
-    return kDigits.match(ToQt(Clamped(field_, FromQt(text)))).hasMatch() ? Acceptable : Invalid;
+    return kDigits.match(ToQt(core::Clamped(field_, FromQt(text)))).hasMatch() ? Acceptable : Invalid;
   }
 
  private:
-  Digits GalleryProject::*field_;
+  core::Digits core::GalleryProject::*field_;
 };
 
 /// A key that is not a digit types nothing; in a pasted text the same character counts.
@@ -53,86 +53,90 @@ QString TypedDigit(const QString& /*before*/, const QString& key) {
 
 }  // namespace
 
-void FieldBinder::Bind(QLineEdit& control, std::string GalleryProject::*field) {
+void FieldBinder::Bind(QLineEdit& control, std::string core::GalleryProject::*field) {
   BindText(control, field, new OneLineValidator(&control));
 }
 
-void FieldBinder::BindText(QLineEdit& control, std::string GalleryProject::*field, QValidator* validator) {
-  fields_.push_back(&FieldOf(field));
+void FieldBinder::BindText(QLineEdit& control, std::string core::GalleryProject::*field, QValidator* validator) {
+  fields_.push_back(&core::FieldOf(field));
   control.setValidator(validator);
   connect(&control, &QLineEdit::textEdited, this, [this, field](const QString& text) {
-    Edit([&](ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
+    Edit([&](core::ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
   });
-  show_.push_back([&control, field](const GalleryProject& project) { ShowQuietly(control, ToQt(project.*field)); });
+  show_.push_back(
+      [&control, field](const core::GalleryProject& project) { ShowQuietly(control, ToQt(project.*field)); });
 }
 
-void FieldBinder::BindPath(QLineEdit& control, const PathMap& paths, std::string GalleryProject::*field) {
+void FieldBinder::BindPath(QLineEdit& control, const env::PathMap& paths, std::string core::GalleryProject::*field) {
   Bind(control, field);
   connect(&control, &QLineEdit::editingFinished, this, [this, &paths, field] {
-    const std::string& typed = Project().*field;
+    const std::string& typed = core::Project().*field;
     const std::string path = paths.ToTextIfNative(typed);
-    if (path != typed) Edit([&](ProjectEditor& editor) { editor.Set(field, path); });
+    if (path != typed) Edit([&](core::ProjectEditor& editor) { editor.Set(field, path); });
   });
 }
 
-void FieldBinder::Bind(QLineEdit& control, UpDown& spinner, Digits GalleryProject::*field) {
+void FieldBinder::Bind(QLineEdit& control, UpDown& spinner, core::Digits core::GalleryProject::*field) {
   BindText(control, field, new DigitsValidator(field, &control));
   new TypedKeys(control, TypedDigit);
-  const auto& range = FieldOf(field).range.value();
+  const auto& range = core::FieldOf(field).range.value();
   spinner.Attach(control, range.spinnerMinimum, range.spinnerMaximum);
   connect(&spinner, &UpDown::Stepped, this, [this, field](const QString& text) {
-    Edit([&](ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
+    Edit([&](core::ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
   });
 }
 
-void FieldBinder::Bind(QCheckBox& control, Flag GalleryProject::*field) {
-  fields_.push_back(&FieldOf(field));
-  connect(&control, &QCheckBox::clicked, this,
-          [this, field](bool checked) { Edit([&](ProjectEditor& editor) { editor.Set(field, FlagOf(checked)); }); });
-  show_.push_back([&control, field](const GalleryProject& project) {
+void FieldBinder::Bind(QCheckBox& control, core::Flag core::GalleryProject::*field) {
+  fields_.push_back(&core::FieldOf(field));
+  connect(&control, &QCheckBox::clicked, this, [this, field](bool checked) {
+    Edit([&](core::ProjectEditor& editor) { editor.Set(field, core::FlagOf(checked)); });
+  });
+  show_.push_back([&control, field](const core::GalleryProject& project) {
     const QSignalBlocker quiet(control);
-    control.setChecked(!IsOff(project.*field));
+    control.setChecked(!core::IsOff(project.*field));
   });
 }
 
 // An action's signals are not blocked: its menu follows them.
-void FieldBinder::Bind(QAction& control, Flag GalleryProject::*field) {
-  fields_.push_back(&FieldOf(field));
+void FieldBinder::Bind(QAction& control, core::Flag core::GalleryProject::*field) {
+  fields_.push_back(&core::FieldOf(field));
   connect(&control, &QAction::triggered, this, [this, field](bool checked) {
-    Edit([&](ProjectEditor& editor) { editor.Set(field, static_cast<Flag>(checked ? 1 : 0)); });
+    Edit([&](core::ProjectEditor& editor) { editor.Set(field, static_cast<core::Flag>(checked ? 1 : 0)); });
   });
-  show_.push_back([&control, field](const GalleryProject& project) { control.setChecked(project.*field != 0); });
+  show_.push_back([&control, field](const core::GalleryProject& project) { control.setChecked(project.*field != 0); });
 }
 
-void FieldBinder::Bind(QComboBox& control, Choice GalleryProject::*field) {
-  Bind(control, field, [this, field](Choice index) { Edit([&](ProjectEditor& editor) { editor.Set(field, index); }); });
+void FieldBinder::Bind(QComboBox& control, core::Choice core::GalleryProject::*field) {
+  Bind(control, field,
+       [this, field](core::Choice index) { Edit([&](core::ProjectEditor& editor) { editor.Set(field, index); }); });
 }
 
-void FieldBinder::Bind(QComboBox& control, Choice GalleryProject::*field, std::function<void(Choice)> choose) {
-  const ProjectField& row = FieldOf(field);
+void FieldBinder::Bind(QComboBox& control, core::Choice core::GalleryProject::*field,
+                       std::function<void(core::Choice)> choose) {
+  const core::ProjectField& row = core::FieldOf(field);
   fields_.push_back(&row);
   for (const std::string_view text : row.values) control.addItem(ToQt(text));
   connect(&control, &QComboBox::activated, this,
-          [choose = std::move(choose)](int index) { choose(static_cast<Choice>(index)); });
-  show_.push_back([&control, field](const GalleryProject& project) {
+          [choose = std::move(choose)](int index) { choose(static_cast<core::Choice>(index)); });
+  show_.push_back([&control, field](const core::GalleryProject& project) {
     const QSignalBlocker quiet(control);
     control.setCurrentIndex(project.*field);
   });
 }
 
-void FieldBinder::Bind(ColorButton& control, ColorDialog& dialog, Color GalleryProject::*field) {
-  fields_.push_back(&FieldOf(field));
+void FieldBinder::Bind(ColorButton& control, ColorDialog& dialog, core::Color core::GalleryProject::*field) {
+  fields_.push_back(&core::FieldOf(field));
   connect(&control, &ColorButton::clicked, this, [this, &dialog, field] {
-    Color color = Project().*field;
-    if (dialog.DisplayColorDialog2(color)) Edit([&](ProjectEditor& editor) { editor.Set(field, color); });
+    core::Color color = core::Project().*field;
+    if (dialog.DisplayColorDialog2(color)) Edit([&](core::ProjectEditor& editor) { editor.Set(field, color); });
   });
-  show_.push_back([&control, field](const GalleryProject& project) { control.SetColor(project.*field); });
+  show_.push_back([&control, field](const core::GalleryProject& project) { control.SetColor(project.*field); });
 }
 
-void FieldBinder::Edit(const std::function<void(ProjectEditor&)>& edit) {
+void FieldBinder::Edit(const std::function<void(core::ProjectEditor&)>& edit) {
   try {
     edit(editor_);
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     boxes_.Critical("Invalid Value", failure.Description());
   }
   Refresh();
@@ -143,4 +147,4 @@ void FieldBinder::Refresh() {
   for (const auto& show : show_) show(editor_.Project());
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

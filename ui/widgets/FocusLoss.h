@@ -2,7 +2,7 @@
 
 #include <QFocusEvent>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Returns whether the event means that the user moved from the control to another one in the window. Opening a menu
 /// over it, or switching to another window, does not count.
@@ -12,4 +12,4 @@ namespace vantorium {
   return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 QLineEdit* LineOf(QWidget& control, const NameField& name) {
@@ -27,14 +27,14 @@ NameBox::NameBox(QWidget& form, const NameField& name) : QObject(&form), name_(n
   line_->installEventFilter(this);
 }
 
-void NameBox::Show(const GalleryProject& project) {
+void NameBox::Show(const core::GalleryProject& project) {
   const QSignalBlocker quiet(this);
   const QString text = ToQt(ShownName(name_, project));
   if (auto* list = qobject_cast<QComboBox*>(line_->parentWidget())) list->setCurrentIndex(list->findText(text));
   line_->setText(text);
 }
 
-void NameBox::Store(ProjectEditor& editor) const {
+void NameBox::Store(core::ProjectEditor& editor) const {
   StoreName(name_, FromQt(line_->text()), editor);
 }
 
@@ -50,4 +50,4 @@ bool NameBox::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

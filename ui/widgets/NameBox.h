@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QObject>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Edits one name of a gallery's files or frames, in a line edit or an editable combo box.
 class NameBox : public QObject {
@@ -16,8 +16,8 @@ class NameBox : public QObject {
   NameBox(QWidget& form, const NameField& name);
 
   /// Does not emit Edited.
-  void Show(const GalleryProject& project);
-  void Store(ProjectEditor& editor) const;
+  void Show(const core::GalleryProject& project);
+  void Store(core::ProjectEditor& editor) const;
 
  signals:
   /// The user has changed the text.
@@ -31,4 +31,4 @@ class NameBox : public QObject {
   QLineEdit* line_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

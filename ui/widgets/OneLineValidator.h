@@ -2,7 +2,7 @@
 
 #include "ui/widgets/CleaningValidator.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Keeps a field's text on one line: removes control characters, such as a line end that was copied with a path or
 /// name.
@@ -18,4 +18,4 @@ class OneLineValidator : public CleaningValidator {
   }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

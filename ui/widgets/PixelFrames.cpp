@@ -4,7 +4,7 @@
 #include <QStyleOptionFrame>
 #include <cmath>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Calls `draw` with a copy of the option that is in pixels, and with a painter that paints pixels, if the scale is a
@@ -38,4 +38,4 @@ void PixelFrames::drawPrimitive(PrimitiveElement element, const QStyleOption* op
   if (element != PE_FrameTabWidget || !DrawOnPixels<QStyleOptionTabWidgetFrame>(*option, *painter, draw)) draw(*option);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

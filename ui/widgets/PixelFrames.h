@@ -2,7 +2,7 @@
 
 #include <QProxyStyle>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Draws the frames of controls and tabs on whole pixels when the screen's scale is a fraction, such as 1.5. Otherwise
 /// lines that begin in the middle of a pixel are hidden by the frame's contents.
@@ -14,4 +14,4 @@ class PixelFrames : public QProxyStyle {
                      const QWidget* widget) const override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 #include <QToolTip>
 #include <QWidget>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Returns what to set as a tool tip so that Qt shows `text` literally, including words in angle brackets.
 [[nodiscard]] inline QString PlainTip(const QString& text) {
@@ -29,4 +29,4 @@ class PlainToolTip : public QObject {
   QWidget& control_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 
 #include <QLineEdit>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows a text in a line edit. If the line already shows it, does nothing, so that its cursor and undo history stay.
 inline void ShowText(QLineEdit& control, std::string_view text) {
@@ -12,4 +12,4 @@ inline void ShowText(QLineEdit& control, std::string_view text) {
   if (control.text() != shown) control.setText(shown);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

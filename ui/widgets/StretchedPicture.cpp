@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 StretchedPicture::StretchedPicture(QWidget* parent) : QFrame(parent) {
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -47,4 +47,4 @@ void StretchedPicture::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

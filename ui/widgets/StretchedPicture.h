@@ -3,7 +3,7 @@
 #include <QFrame>
 #include <QImage>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A framed picture that can be clicked, stretched to fill its box. The space bar counts as a click.
 class StretchedPicture : public QFrame {
@@ -28,4 +28,4 @@ class StretchedPicture : public QFrame {
   QImage picture_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

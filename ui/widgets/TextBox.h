@@ -3,7 +3,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Replaces the box's selection with `text`, as an undo step of its own that later typing does not join.
 inline void ReplaceSelection(QPlainTextEdit& box, const QString& text) {
@@ -31,4 +31,4 @@ class TextBox : public QPlainTextEdit {
   }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <functional>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Replaces or drops the characters that keys type into a line. Keyboard commands, and text that arrives in other ways,
 /// are not affected.
@@ -37,4 +37,4 @@ class TypedKeys : public QObject {
   Replacement replacement_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

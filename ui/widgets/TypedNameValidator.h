@@ -4,7 +4,7 @@
 #include "ui/qt/QtText.h"
 #include "ui/widgets/CleaningValidator.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Restricts a field's text, typed or pasted, to what can be the name of an image.
 class TypedNameValidator : public CleaningValidator {
@@ -13,4 +13,4 @@ class TypedNameValidator : public CleaningValidator {
       : CleaningValidator([](const QString& text) { return ToQt(TypedName(FromQt(text))); }, parent) {}
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

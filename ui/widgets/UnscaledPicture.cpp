@@ -5,7 +5,7 @@
 
 #include <QPainter>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr QSize kInside(440, 330);
@@ -21,7 +21,7 @@ QSize UnscaledPicture::sizeHint() const {
   return kInside + QSize(2 * frameWidth(), 2 * frameWidth());
 }
 
-PictureSize UnscaledPicture::SizeInPixels() const {
+image::PictureSize UnscaledPicture::SizeInPixels() const {
   const QSize size = DevicePixels(*this);
   return {size.width(), size.height()};
 }
@@ -31,8 +31,8 @@ void UnscaledPicture::Clear() {
   update();
 }
 
-void UnscaledPicture::Show(const cDIBSection& picture) {
-  const PictureSize size = SizeInPixels();
+void UnscaledPicture::Show(const image::cDIBSection& picture) {
+  const image::PictureSize size = SizeInPixels();
   shown_ = QImage(size.width, size.height, QImage::Format_ARGB32_Premultiplied);
   shown_.fill(Qt::transparent);
   QPainter painter(&shown_);
@@ -47,4 +47,4 @@ void UnscaledPicture::paintEvent(QPaintEvent* event) {
   painter.drawImage(contentsRect(), shown_);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

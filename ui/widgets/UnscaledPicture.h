@@ -6,7 +6,7 @@
 #include <QFrame>
 #include <QImage>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A framed box of a fixed size that shows a copy of a picture, pixel for pixel on every screen.
 class UnscaledPicture : public QFrame {
@@ -16,11 +16,11 @@ class UnscaledPicture : public QFrame {
   explicit UnscaledPicture(QWidget* parent = nullptr);
 
   /// The room inside the frame, in pixels of the screen that the box is on.
-  [[nodiscard]] PictureSize SizeInPixels() const;
+  [[nodiscard]] image::PictureSize SizeInPixels() const;
 
   void Clear();
   /// Shows the picture at the box's top left corner. What it does not cover stays empty.
-  void Show(const cDIBSection& picture);
+  void Show(const image::cDIBSection& picture);
 
   /// Null when the box is clear.
   [[nodiscard]] const QImage& Shown() const { return shown_; }
@@ -34,4 +34,4 @@ class UnscaledPicture : public QFrame {
   QImage shown_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 UpDown::UpDown(QWidget* parent) : QWidget(parent) {
   auto* layout = new QVBoxLayout(this);
@@ -51,4 +51,4 @@ void UpDown::Step(int by) {
   emit Stepped(QString::number(isNumber ? std::clamp(number + by, minimum_, maximum_) : minimum_));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A spinner beside a text box: two small buttons that step the number in the box by 1 within a range. The arrow keys
 /// in the box do the same. A text that is not a number steps to the range's minimum.
@@ -31,4 +31,4 @@ class UpDown : public QWidget {
   int maximum_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

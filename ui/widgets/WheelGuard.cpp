@@ -5,7 +5,7 @@
 #include <QComboBox>
 #include <QEvent>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 WheelGuard::WheelGuard(QObject* parent) : QObject(parent) {
   QApplication::instance()->installEventFilter(this);
@@ -26,4 +26,4 @@ bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

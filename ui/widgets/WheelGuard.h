@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Keeps the mouse wheel from changing a list box or a spinner that does not have the focus: the wheel scrolls the
 /// parent instead, or does nothing. Applies to all windows of the program that are made while the guard lives.
@@ -14,4 +14,4 @@ class WheelGuard : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

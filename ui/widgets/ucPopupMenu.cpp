@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 bool ClipboardHasText() {
@@ -96,4 +96,4 @@ void ucPopupMenu::Run(EditCommand command) {
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The context menu of a form's text boxes, in place of Qt's: the edit commands, and every template tag to insert. Each
 /// of its changes to a text can be undone step by step. Menus and entries are named "mnuEditTOP", "mnuEdit0",
@@ -38,4 +38,4 @@ class ucPopupMenu : public QObject {
   QPointer<QPlainTextEdit> box_;  ///< the box that the menu was last shown for
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,8 +12,8 @@ class ProjectFileReaderFiltersTest : public ::testing::Test, public ProjectReadi
   bool ReadFilters(const std::string& filters) {
     return Read(ProjectFileParts{.lists = "<IMAGES><MODIFY>" + filters + "</MODIFY></IMAGES>"});
   }
-  [[nodiscard]] const ImageFilterSettings& Filters() const { return Settings().ImageFilters; }
-  [[nodiscard]] const WatermarkSettings& Watermark() const { return Settings().ImageWatermark; }
+  [[nodiscard]] const image::ImageFilterSettings& Filters() const { return Settings().ImageFilters; }
+  [[nodiscard]] const image::WatermarkSettings& Watermark() const { return Settings().ImageWatermark; }
 };
 
 }  // namespace

@@ -87,7 +87,7 @@ TEST_F(ProjectFileReaderTest, AProjectNeedsAGallery) {
   EXPECT_EQ(Box(), "Invalid Project File: \"" + path +
                        "\" could not be loaded in whole because it is not a valid Vantorium 3.0 Project File.\r\r"
                        "Reason: The File does not contain a Gallery Description.");
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_FALSE(Read("<GALLERYPROJECT><a><GALLERY/></a></GALLERYPROJECT>"));
   EXPECT_EQ(Reason(), "The File does not contain a Gallery Description.");
 }
@@ -119,7 +119,7 @@ TEST_F(ProjectFileReaderTest, AnInvalidFileTakesTheStatusTextAndTheWaitPointerAw
 TEST_F(ProjectFileReaderTest, AnUnreadableNumberShowsItsFailureAndLeavesTheStatusTextAndTheWaitPointer) {
   EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPage = "<ARRANGEMENT ROWS='many'/><PAGELINKS/>"}));
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Plain);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Plain);
   EXPECT_EQ(desk.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "box Vantorium"}));
   EXPECT_FALSE(Read(ProjectFileParts{.lists = "<IMAGES><MODIFY><SIZE KEEPASPECTRATIO='32768'/></MODIFY></IMAGES>"}));
   EXPECT_EQ(Box(), "Vantorium: Overflow");

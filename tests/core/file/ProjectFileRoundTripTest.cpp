@@ -39,9 +39,9 @@ void Change(GalleryProject& project, const ProjectField& field) {
       [&](auto member) {
         auto& value = project.*member;
         using Value = std::decay_t<decltype(value)>;
-        if constexpr (std::is_same_v<Value, ImageFilterSettings>) {
+        if constexpr (std::is_same_v<Value, image::ImageFilterSettings>) {
           ChangeRecord(value, FilterFields());
-        } else if constexpr (std::is_same_v<Value, WatermarkSettings>) {
+        } else if constexpr (std::is_same_v<Value, image::WatermarkSettings>) {
           ChangeRecord(value, WatermarkFields());
         } else if constexpr (std::is_same_v<Value, LinkSettings>) {
           ChangeRecord(value, LinkFields());
@@ -148,7 +148,7 @@ TEST_F(ProjectFileRoundTrip, ACaptionAboveComesBackBelow) {
 }
 
 TEST_F(ProjectFileRoundTrip, StrikeoutComesBackAsTheUnderline) {
-  WatermarkSettings& watermark = desk.project.settings.ImageWatermark;
+  image::WatermarkSettings& watermark = desk.project.settings.ImageWatermark;
   watermark.checkUseWatermark = 1;
   for (const bool underline : {false, true}) {
     watermark.FontUnderline = underline;

@@ -20,7 +20,7 @@ class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
   }
   /// Compares one element a line, so that a failure shows the element that differs.
   void ExpectText(const std::string& expected) {
-    EXPECT_EQ(ReplaceAll(Text(), "><", ">\n<"), ReplaceAll(expected, "><", ">\n<"));
+    EXPECT_EQ(env::ReplaceAll(Text(), "><", ">\n<"), env::ReplaceAll(expected, "><", ">\n<"));
   }
   /// The start tag of the first element of that name, with its attributes; "none" if there is none.
   [[nodiscard]] std::string Tag(const std::string& name) {
@@ -314,14 +314,14 @@ TEST_F(ProjectFileWriterTest, CharactersThatXmlForbidsAreReplacedAndTheFileCanBe
 TEST_F(ProjectFileWriterTest, AnImagePathThatXmlCannotHoldIsNotWritten) {
   const std::string target = desk.File("a.gpj", "old");
   desk.project.images.Insert(1, {"a", "C:\\caf\xE9.jpg", "", "", "", ""});
-  EXPECT_THROW(std::ignore = Text(), RuntimeFailure);
+  EXPECT_THROW(std::ignore = Text(), env::RuntimeFailure);
   EXPECT_FALSE(Write(target));
   EXPECT_EQ(desk.folder.Read("a.gpj"), "old");
 }
 
 TEST_F(ProjectFileWriterTest, ValuesThatTheReaderRefusesAreNotWritten) {
   Edit().textGalleryTitle = std::string(20'000'000, 'x');
-  EXPECT_THROW(std::ignore = Text(), RuntimeFailure);
+  EXPECT_THROW(std::ignore = Text(), env::RuntimeFailure);
 }
 
 TEST_F(ProjectFileWriterTest, WritingShowsTheFileAndTheWaitPointerAndTakesThemAwayAgain) {

@@ -1,7 +1,7 @@
 #include "core/generation/AuxiliaryFiles.h"
 #include "tests/core/generation/RunFixture.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 class AuxiliaryFilesTest : public RunFixture {
@@ -32,10 +32,11 @@ TEST_F(AuxiliaryFilesTest, EachSettingGoesToItsFixedNameWithTheSourcesExtension)
   folder.Write("project/g.GIF", "graphic");
   auto& s = project.settings;
   s.textThumbnailsTableBackdrop = s.textThumbnailsPageBackdrop = s.textImageWrapperBackdrop = "g.GIF";
-  for (auto link :
-       {&GalleryProject::ThumbnailFirstLink, &GalleryProject::ThumbnailPreviousLink, &GalleryProject::ThumbnailNextLink,
-        &GalleryProject::ThumbnailLastLink, &GalleryProject::ImageFirstLink, &GalleryProject::ImagePreviousLink,
-        &GalleryProject::ImageNextLink, &GalleryProject::ImageLastLink, &GalleryProject::ImageIndexLink}) {
+  for (auto link : {&core::GalleryProject::ThumbnailFirstLink, &core::GalleryProject::ThumbnailPreviousLink,
+                    &core::GalleryProject::ThumbnailNextLink, &core::GalleryProject::ThumbnailLastLink,
+                    &core::GalleryProject::ImageFirstLink, &core::GalleryProject::ImagePreviousLink,
+                    &core::GalleryProject::ImageNextLink, &core::GalleryProject::ImageLastLink,
+                    &core::GalleryProject::ImageIndexLink}) {
     (s.*link).textLinkGraphic = "g.GIF";
     (s.*link).textLinkGraphicDisabled = "g.GIF";
   }
@@ -68,17 +69,18 @@ TEST_F(AuxiliaryFilesTest, AProjectFolderWithoutABackslashGetsOne) {
 }
 
 struct MissingCase {
-  std::string GalleryProject::*backdrop;
-  LinkSettings GalleryProject::*link;
+  std::string core::GalleryProject::*backdrop;
+  core::LinkSettings core::GalleryProject::*link;
   const char* text;
 };
 
 TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunInTheSpellingOfItsKind) {
   for (const MissingCase& c :
-       {MissingCase{&GalleryProject::textImageWrapperBackdrop, nullptr, "Unable to copy the File \"T:\\none.gif\"."},
-        MissingCase{nullptr, &GalleryProject::ThumbnailLastLink, "Unable to copy the File \"T:\\none.gif\"."},
-        MissingCase{nullptr, &GalleryProject::ImageFirstLink, "Unable to copy the file \"T:\\none.gif\"."},
-        MissingCase{nullptr, &GalleryProject::ImageIndexLink, "Unable to copy the file \"T:\\none.gif\"."}}) {
+       {MissingCase{&core::GalleryProject::textImageWrapperBackdrop, nullptr,
+                    "Unable to copy the File \"T:\\none.gif\"."},
+        MissingCase{nullptr, &core::GalleryProject::ThumbnailLastLink, "Unable to copy the File \"T:\\none.gif\"."},
+        MissingCase{nullptr, &core::GalleryProject::ImageFirstLink, "Unable to copy the file \"T:\\none.gif\"."},
+        MissingCase{nullptr, &core::GalleryProject::ImageIndexLink, "Unable to copy the file \"T:\\none.gif\"."}}) {
     project.settings = {};
     boxes.boxes.clear();
     if (c.backdrop != nullptr) project.settings.*c.backdrop = "T:\\none.gif";
@@ -94,8 +96,9 @@ TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunInTheSpellingOfItsKind) {
 TEST_F(AuxiliaryFilesTest, WithoutWrapperPagesTheImageLinksHaveNoGraphics) {
   folder.Write("project/g.gif", "GIF");
   project.settings.checkImageWrapperUse = 0;
-  for (auto link : {&GalleryProject::ImageFirstLink, &GalleryProject::ImagePreviousLink, &GalleryProject::ImageNextLink,
-                    &GalleryProject::ImageLastLink, &GalleryProject::ImageIndexLink}) {
+  for (auto link : {&core::GalleryProject::ImageFirstLink, &core::GalleryProject::ImagePreviousLink,
+                    &core::GalleryProject::ImageNextLink, &core::GalleryProject::ImageLastLink,
+                    &core::GalleryProject::ImageIndexLink}) {
     (project.settings.*link).textLinkGraphic = "g.gif";
     (project.settings.*link).textLinkGraphicDisabled = "missing.gif";
   }
@@ -128,4 +131,4 @@ TEST_F(AuxiliaryFilesTest, TheyAreCopiedWithoutOverwriteToo) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 class CancelCheckTest : public ::testing::Test {
@@ -26,13 +26,13 @@ TEST_F(CancelCheckTest, YesRequestsTheCancelAndSaysSoInTheLog) {
   EXPECT_EQ(record.log, "\r\nCancelling Request...\r\n");
   EXPECT_EQ(journal, (fakes::Journal{"progress busy"}));
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Question);
-  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::YesNo);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Question);
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo);
 }
 
 TEST_F(CancelCheckTest, NoTakesThePressBack) {
   record.cancelled = true;
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   EXPECT_FALSE(cancel.CheckForCancel(progress));
   EXPECT_FALSE(record.cancelled);
   EXPECT_FALSE(cancel.CancelRequested());
@@ -54,4 +54,4 @@ TEST_F(CancelCheckTest, AfterARequestOnlyTheWindowsFlagCounts) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

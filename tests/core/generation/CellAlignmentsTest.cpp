@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 std::string Attributes(const std::string& align, const std::string& valign) {
@@ -12,8 +12,8 @@ std::string Attributes(const std::string& align, const std::string& valign) {
 }
 
 struct PairCase {
-  Choice alignment;
-  Choice placement;  // as stored in the setting
+  core::Choice alignment;
+  core::Choice placement;  // as stored in the setting
   std::string text;
   std::string picture;
 };
@@ -35,7 +35,7 @@ const PairCase kDescriptionCases[] = {
 
 TEST(CellAlignments, OfThumbnailDescriptions) {
   for (const PairCase& each : kDescriptionCases) {
-    const CellPair cells = ThumbnailDescriptionCells(each.alignment, DescriptionPlacement(each.placement));
+    const CellPair cells = ThumbnailDescriptionCells(each.alignment, core::DescriptionPlacement(each.placement));
     EXPECT_EQ(cells.text, each.text) << each.alignment << ", " << each.placement;
     EXPECT_EQ(cells.picture, each.picture) << each.alignment << ", " << each.placement;
   }
@@ -54,7 +54,7 @@ const PairCase kCaptionCases[] = {
 TEST(CellAlignments, OfCaptionsAboveAndBelow) {
   for (const PairCase& each : kCaptionCases) {
     for (const auto& cellsOf : {ThumbnailCaptionCells, ImageCaptionCells}) {
-      const CellPair cells = cellsOf(each.alignment, CaptionPlacement(each.placement));
+      const CellPair cells = cellsOf(each.alignment, core::CaptionPlacement(each.placement));
       EXPECT_EQ(cells.text, each.text) << each.alignment << ", " << each.placement;
       EXPECT_EQ(cells.picture, each.picture) << each.alignment << ", " << each.placement;
     }
@@ -63,12 +63,12 @@ TEST(CellAlignments, OfCaptionsAboveAndBelow) {
 
 TEST(CellAlignments, OfCaptionsBesideAPictureAreTheSameForBothCells) {
   const std::string valigns[] = {"TOP", "CENTER", "BOTTOM"};
-  for (Choice alignment = 0; alignment < 3; ++alignment) {
-    for (Choice placement = 0; placement < 2; ++placement) {
-      const CellPair thumbnail = ThumbnailCaptionCells(alignment, CaptionPlacement(placement));
+  for (core::Choice alignment = 0; alignment < 3; ++alignment) {
+    for (core::Choice placement = 0; placement < 2; ++placement) {
+      const CellPair thumbnail = ThumbnailCaptionCells(alignment, core::CaptionPlacement(placement));
       EXPECT_EQ(thumbnail.text, Attributes("LEFT", valigns[alignment]));
       EXPECT_EQ(thumbnail.picture, thumbnail.text);
-      const CellPair image = ImageCaptionCells(alignment, CaptionPlacement(placement));
+      const CellPair image = ImageCaptionCells(alignment, core::CaptionPlacement(placement));
       EXPECT_EQ(image.text, Attributes(placement == 0 ? "RIGHT" : "LEFT", valigns[alignment]));
       EXPECT_EQ(image.picture, image.text);
     }
@@ -82,24 +82,24 @@ TEST(CellAlignments, OfImageDescriptionsNameTheVerticalFirst) {
                                R"(VALIGN="BOTTOM" ALIGN="RIGHT")"};
   const std::string below[] = {R"(VALIGN="TOP" ALIGN="LEFT")", R"(VALIGN="TOP" ALIGN="CENTER")",
                                R"(VALIGN="TOP" ALIGN="RIGHT")"};
-  for (Choice alignment = 0; alignment < 3; ++alignment) {
-    EXPECT_EQ(ImageDescriptionCell(alignment, Placement::Left), beside[alignment]);
-    EXPECT_EQ(ImageDescriptionCell(alignment, Placement::Right), beside[alignment]);
-    EXPECT_EQ(ImageDescriptionCell(alignment, Placement::Above), above[alignment]);
-    EXPECT_EQ(ImageDescriptionCell(alignment, Placement::Below), below[alignment]);
+  for (core::Choice alignment = 0; alignment < 3; ++alignment) {
+    EXPECT_EQ(ImageDescriptionCell(alignment, core::Placement::Left), beside[alignment]);
+    EXPECT_EQ(ImageDescriptionCell(alignment, core::Placement::Right), beside[alignment]);
+    EXPECT_EQ(ImageDescriptionCell(alignment, core::Placement::Above), above[alignment]);
+    EXPECT_EQ(ImageDescriptionCell(alignment, core::Placement::Below), below[alignment]);
   }
 }
 
 TEST(CellAlignments, AreEmptyOutsideTheTables) {
-  for (const Choice outside : std::initializer_list<Choice>{-32768, -1, 3, 32767}) {
-    EXPECT_EQ(ThumbnailDescriptionCells(outside, Placement::Left).text, "") << outside;
-    EXPECT_EQ(ImageDescriptionCell(outside, Placement::Left), "") << outside;
+  for (const core::Choice outside : std::initializer_list<core::Choice>{-32768, -1, 3, 32767}) {
+    EXPECT_EQ(ThumbnailDescriptionCells(outside, core::Placement::Left).text, "") << outside;
+    EXPECT_EQ(ImageDescriptionCell(outside, core::Placement::Left), "") << outside;
   }
-  for (const Choice outside : std::initializer_list<Choice>{-2, -1, 4, 32767}) {
-    EXPECT_EQ(ThumbnailCaptionCells(0, CaptionPlacement(outside)).picture, "") << outside;
-    EXPECT_EQ(ImageCaptionCells(0, CaptionPlacement(outside)).text, "") << outside;
+  for (const core::Choice outside : std::initializer_list<core::Choice>{-2, -1, 4, 32767}) {
+    EXPECT_EQ(ThumbnailCaptionCells(0, core::CaptionPlacement(outside)).picture, "") << outside;
+    EXPECT_EQ(ImageCaptionCells(0, core::CaptionPlacement(outside)).text, "") << outside;
   }
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

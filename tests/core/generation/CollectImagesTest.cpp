@@ -3,7 +3,7 @@
 #include "tests/core/generation/RunFixture.h"
 #include "tests/fakes/PhotographMaker.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 struct Sizes {
@@ -34,9 +34,9 @@ class CollectImagesTest : public RunFixture {
 
 struct SizeCase {
   const char* what;
-  Flag keepSize, keepRatio, setWidth;
+  core::Flag keepSize, keepRatio, setWidth;
   const char *width, *height;
-  Flag thumbKeepRatio, thumbSetWidth;
+  core::Flag thumbKeepRatio, thumbSetWidth;
   const char *thumbWidth, *thumbHeight;
   Sizes expected;
 };
@@ -77,7 +77,7 @@ TEST_F(CollectImagesTest, ASourceThatCannotBeReadHasNoSizeAndNeitherHasItsThumbn
   project.settings.checkThumbnailsImageSetWidth = 1;
   Collect();
   EXPECT_EQ(SizesOf(1), (Sizes{0, 0, 60, 0}));
-  EXPECT_EQ(run.Info(1).FileTime, FileTime{});
+  EXPECT_EQ(run.Info(1).FileTime, env::FileTime{});
 }
 
 TEST_F(CollectImagesTest, WithBothSizesGivenTheFileIsNotNeeded) {
@@ -91,7 +91,7 @@ TEST_F(CollectImagesTest, SizesAreThoseOfTheUprightPhotographIfTheProjectTurnsTh
   AddEntry("lying", "T:\\photos\\lying.jpg");
   auto& settings = project.settings;
   settings.checkThumbnailsImageKeepAspectRatio = 1;
-  const auto sizes = [&](int orientation, Flag upright, Flag keepSize) {
+  const auto sizes = [&](int orientation, core::Flag upright, core::Flag keepSize) {
     folder.Write("photos/lying.jpg", fakes::WithOrientation(PlainJpeg(80, 20), orientation));
     settings.checkImagesUpright = upright;
     settings.checkImageWrapperImageKeepSize = keepSize;
@@ -140,4 +140,4 @@ TEST_F(CollectImagesTest, ARequestedCancelStopsIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

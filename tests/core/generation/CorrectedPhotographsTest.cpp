@@ -5,7 +5,7 @@
 #include "tests/core/generation/RunFixture.h"
 #include "tests/fakes/PhotographMaker.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 constexpr int kWidth = 64;
@@ -35,11 +35,11 @@ class CorrectedPhotographsTest : public RunFixture {
     return bytes;
   }
   /// Whether the file is the source at that size, corrected.
-  [[nodiscard]] bool IsMadeOf(const std::string& file, const std::string& source, PictureSize size) const {
-    cDIBSection whole;
-    EXPECT_TRUE(LoadPhotograph(whole, folder.Path() / source, {.upright = true}));
-    const auto wanted = Resample(whole, size.height, size.width);
-    return folder.Read(file) == EncodeJPEG(*wanted, 85);
+  [[nodiscard]] bool IsMadeOf(const std::string& file, const std::string& source, image::PictureSize size) const {
+    image::cDIBSection whole;
+    EXPECT_TRUE(image::LoadPhotograph(whole, folder.Path() / source, {.upright = true}));
+    const auto wanted = image::Resample(whole, size.height, size.width);
+    return folder.Read(file) == image::EncodeJPEG(*wanted, 85);
   }
 };
 
@@ -49,8 +49,8 @@ TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveTheirUpright
   Run(CreateArguments());
   for (int orientation = 1; orientation <= 8; ++orientation) {
     const std::string file = std::to_string(orientation) + ".jpg";
-    const PictureSize image = orientation < 5 ? PictureSize{38, 24} : PictureSize{15, 24};
-    const PictureSize thumbnail = orientation < 5 ? PictureSize{95, 60} : PictureSize{38, 60};
+    const image::PictureSize image = orientation < 5 ? image::PictureSize{38, 24} : image::PictureSize{15, 24};
+    const image::PictureSize thumbnail = orientation < 5 ? image::PictureSize{95, 60} : image::PictureSize{38, 60};
     EXPECT_TRUE(IsMadeOf("out/Images/" + file, "photos/" + file, image)) << orientation;
     EXPECT_TRUE(IsMadeOf("out/Thumbs/thumb_" + file, "photos/" + file, thumbnail)) << orientation;
   }
@@ -112,4 +112,4 @@ TEST_F(CorrectedPhotographsTest, WithoutTheSettingsTheNotesOfAPhotographChangeNo
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

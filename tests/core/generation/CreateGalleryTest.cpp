@@ -2,7 +2,7 @@
 #include "env/PathText.h"
 #include "tests/core/generation/RunFixture.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 class CreateGalleryTest : public RunFixture {
@@ -28,12 +28,12 @@ class CreateGalleryTest : public RunFixture {
   [[nodiscard]] std::string PreviewIndex() const { return (folder.Path() / "place/VANTORIUM_TEMP/index.htm").string(); }
   void ExpectErrorBox(const std::string& text) const {
     ASSERT_EQ(boxes.boxes.size(), 1U);
-    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
     EXPECT_EQ(boxes.boxes[0].title, "Error");
     EXPECT_EQ(boxes.boxes[0].text, text);
   }
 
-  Preferences preferences;
+  env::Preferences preferences;
 };
 
 TEST_F(CreateGalleryTest, ACancelledDialogDoesNothing) {
@@ -55,7 +55,7 @@ TEST_F(CreateGalleryTest, TheChosenFileIsFolderAndNameOfTheGallery) {
 
 TEST_F(CreateGalleryTest, ThePathBelowTheRootKeepsItsFirstSeparator) {
   AddPhotograph("a");
-  SetIndexFile(*host.order, WithBackslashes((folder.Path() / "web/start.htm").string()));
+  SetIndexFile(*host.order, env::WithBackslashes((folder.Path() / "web/start.htm").string()));
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   EXPECT_EQ(FilesIn("web").count("start.htm"), 1U);
 }
@@ -83,7 +83,7 @@ TEST_F(CreateGalleryTest, AnEmptyListIsRefusedBeforeARun) {
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].title, "No Images");
   EXPECT_EQ(boxes.boxes[0].text, "You cannot create a Gallery without Images.");
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_TRUE(FilesIn("web").empty());
 }
 
@@ -221,7 +221,7 @@ TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
   const auto place = folder.Path() / "place/VANTORIUM_TEMP";
   std::filesystem::create_directories(place);
   {
-    const TempFolderLock other(place);
+    const env::TempFolderLock other(place);
     EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::NotStarted);
     host.order->Mode = GenerationMode::Publish;
     EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
@@ -241,7 +241,7 @@ TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
 TEST_F(CreateGalleryTest, ARunGivesTheTemporaryFolderBackAtItsEnd) {
   AddPhotograph("a");
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
-  EXPECT_FALSE(TempFolderLock(folder.Path() / "place/VANTORIUM_TEMP").IsTakenElsewhere());
+  EXPECT_FALSE(env::TempFolderLock(folder.Path() / "place/VANTORIUM_TEMP").IsTakenElsewhere());
 }
 
 TEST_F(CreateGalleryTest, ALinkInTheTemporaryFolderIsRefused) {
@@ -275,4 +275,4 @@ TEST_F(CreateGalleryTest, AnEmptyListIsNotPublished) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -8,15 +8,15 @@ namespace {
 class DirectLinks : public PageTest {
  protected:
   /// The links in short form: "~3" for the "..." link to page 3, "[4]" for a link, "5" for the page itself.
-  std::string Short(const Digits& most, std::int32_t page, std::int32_t pageCount) {
+  std::string Short(const core::Digits& most, std::int32_t page, std::int32_t pageCount) {
     project.textPageLinksThumbnailMaxDirectLinks = most;
     run.ThumbnailPageCount = pageCount;
     std::string text = BuildDirectLinks(run, page);
     for (std::int32_t number = pageCount; number >= 1; --number) {
       const std::string digits = std::to_string(number);
       const std::string open = R"(<A HREF="thumbpage_)" + digits + R"(.htm">)";
-      text = ReplaceAll(text, open + digits + "</A>", "[" + digits + "]");
-      text = ReplaceAll(text, open + "...</A>", "~" + digits);
+      text = env::ReplaceAll(text, open + digits + "</A>", "[" + digits + "]");
+      text = env::ReplaceAll(text, open + "...</A>", "~" + digits);
     }
     return text;
   }
@@ -29,7 +29,7 @@ TEST_F(DirectLinks, ZeroListsEveryPage) {
 }
 
 TEST_F(DirectLinks, OnePageIsItsNumber) {
-  for (const Digits most : {"0", "1", "2", "5"}) EXPECT_EQ(Short(most, 1, 1), "1") << most;
+  for (const core::Digits most : {"0", "1", "2", "5"}) EXPECT_EQ(Short(most, 1, 1), "1") << most;
 }
 
 TEST_F(DirectLinks, AnEvenNumberHasOneMoreLinkAfterThePage) {
@@ -78,17 +78,17 @@ TEST_F(DirectLinks, TheCheckBoxIsNotLookedAt) {
 }
 
 TEST_F(DirectLinks, ATextThatIsNotANumberIsATypeMismatch) {
-  for (const Digits text : {"", "x", "5 pages"}) {
+  for (const core::Digits text : {"", "x", "5 pages"}) {
     try {
       ADD_FAILURE() << text << " gave " << Short(text, 1, 3);
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(FailureKind::TypeMismatch)) << text;
+    } catch (const env::RuntimeFailure& failure) {
+      EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(env::FailureKind::TypeMismatch)) << text;
     }
   }
 }
 
 TEST_F(DirectLinks, ANumberBeyond32BitsIsAnOverflow) {
-  EXPECT_THROW((void)Short("2147483648", 1, 3), RuntimeFailure);
+  EXPECT_THROW((void)Short("2147483648", 1, 3), env::RuntimeFailure);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "core/generation/GenerateGallery.h"
 #include "tests/core/generation/RunFixture.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 using GenerateGalleryTest = RunFixture;
@@ -78,7 +78,7 @@ TEST_F(GenerateGalleryTest, EachModeHasItsTextAndCaption) {
 struct MaximumCase {
   GenerationMode mode;
   bool images, thumbnails, html;
-  Flag wrappers;
+  core::Flag wrappers;
   std::int32_t stepsPerImage;
 };
 
@@ -226,7 +226,7 @@ TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
     EXPECT_EQ(boxes.boxes[0].text, "Are you sure you wish to cancel?");
     EXPECT_EQ(boxes.boxes[1].title, "Creation cancelled");
     EXPECT_EQ(boxes.boxes[1].text, "The User has cancelled Creation of the Gallery");
-    EXPECT_EQ(boxes.boxes[1].kind, BoxKind::Exclamation);
+    EXPECT_EQ(boxes.boxes[1].kind, env::BoxKind::Exclamation);
     EXPECT_TRUE(host.progress.unloaded);
     for (const auto& file : FilesIn("out")) EXPECT_EQ(whole.count(file), 1U) << file << " at turn " << turn;
   }
@@ -234,7 +234,7 @@ TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
 
 TEST_F(GenerateGalleryTest, ACancelThatIsTakenBackLetsTheRunGoOn) {
   AddPhotograph("a");
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   CancelInTurn(3);
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_EQ(boxes.boxes.size(), 1U);
@@ -278,7 +278,7 @@ TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsReportedWithItsDescriptionAndNu
   project.settings.textThumbnailsTableRows = "0";
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_EQ(boxes.boxes[0].title, "Failure");
   EXPECT_EQ(boxes.boxes[0].text,
             "An Error has occurred during Creation of this Gallery:\r\rDivision by zero\r\rError #11");
@@ -353,4 +353,4 @@ TEST_F(GenerateGalleryTest, ASubfolderThatLeavesTheGalleryIsNotMade) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -29,7 +29,7 @@ using Pages = std::map<std::string, std::string>;
 /// A project with default settings, 3 images and 2 images on a page, then changed by `set`.
 struct Gallery {
   std::string name;
-  std::function<void(GalleryProject&)> set;
+  std::function<void(core::GalleryProject&)> set;
   int images = 3;
   GenerationMode mode = GenerationMode::Create;
 
@@ -38,7 +38,7 @@ struct Gallery {
 
 const std::string kDescriptionCode = "No. <VANTORIUM_IMAGE_INDEX>: ";
 
-void SetCaptions(GalleryProject& project, Choice placement, Choice alignment) {
+void SetCaptions(core::GalleryProject& project, core::Choice placement, core::Choice alignment) {
   project.checkCaptionsImagesRegular = 1;
   project.ImageRegularCaption = "<VANTORIUM_IMAGE_TITLE>";
   project.comboCaptionsImagesRegularPlacement = placement;
@@ -49,7 +49,7 @@ void SetCaptions(GalleryProject& project, Choice placement, Choice alignment) {
   project.comboCaptionsThumbnailsRegularAlignment = alignment;
 }
 
-void SetDescriptions(GalleryProject& project, Choice placement, Choice alignment) {
+void SetDescriptions(core::GalleryProject& project, core::Choice placement, core::Choice alignment) {
   project.textHeader = kDescriptionCode;
   project.textFooter = ".";
   project.comboImageDescriptionPlacement = placement;
@@ -60,25 +60,28 @@ void SetDescriptions(GalleryProject& project, Choice placement, Choice alignment
   project.comboThumbnailDescriptionAlignment = alignment;
 }
 
-void SetSlideShow(GalleryProject& project, Choice beginWith, Choice afterImage, Choice startOver) {
+void SetSlideShow(core::GalleryProject& project, core::Choice beginWith, core::Choice afterImage,
+                  core::Choice startOver) {
   project.checkGallerySlideShow = 1;
   project.comboGallerySlideShowBeginWith = beginWith;
   project.comboGallerySlideShowActionAfterImage = afterImage;
   project.comboGallerySlideShowStartOverWith = startOver;
 }
 
-void SetLayout(GalleryProject& project, Choice layout) {
+void SetLayout(core::GalleryProject& project, core::Choice layout) {
   project.comboGalleryLayoutType = layout;
   project.comboImageFrameName = "image_frame";
 }
 
-void SetGraphics(GalleryProject& project, bool withLabels) {
+void SetGraphics(core::GalleryProject& project, bool withLabels) {
   int number = 0;
-  for (LinkSettings GalleryProject::*link :
-       {&GalleryProject::ThumbnailFirstLink, &GalleryProject::ThumbnailPreviousLink, &GalleryProject::ThumbnailNextLink,
-        &GalleryProject::ThumbnailLastLink, &GalleryProject::ImageFirstLink, &GalleryProject::ImagePreviousLink,
-        &GalleryProject::ImageNextLink, &GalleryProject::ImageLastLink, &GalleryProject::ImageIndexLink}) {
-    LinkSettings& settings = project.*link;
+  for (core::LinkSettings core::GalleryProject::*link :
+       {&core::GalleryProject::ThumbnailFirstLink, &core::GalleryProject::ThumbnailPreviousLink,
+        &core::GalleryProject::ThumbnailNextLink, &core::GalleryProject::ThumbnailLastLink,
+        &core::GalleryProject::ImageFirstLink, &core::GalleryProject::ImagePreviousLink,
+        &core::GalleryProject::ImageNextLink, &core::GalleryProject::ImageLastLink,
+        &core::GalleryProject::ImageIndexLink}) {
+    core::LinkSettings& settings = project.*link;
     settings.textLinkGraphic = "C:\\Buttons\\" + std::to_string(++number) + ".gif";
     settings.textLinkGraphicDisabled = "C:\\Buttons\\" + std::to_string(number) + ".png";
     if (!withLabels) settings.textLinkLabel.clear();
@@ -96,20 +99,20 @@ std::string EveryTag() {
 }
 
 void AddLayouts(std::vector<Gallery>& galleries) {
-  galleries.push_back({"new_project", [](GalleryProject&) {}});
-  galleries.push_back({"frame_left", [](GalleryProject& project) { SetLayout(project, 1); }});
-  galleries.push_back({"frame_right", [](GalleryProject& project) {
+  galleries.push_back({"new_project", [](core::GalleryProject&) {}});
+  galleries.push_back({"frame_left", [](core::GalleryProject& project) { SetLayout(project, 1); }});
+  galleries.push_back({"frame_right", [](core::GalleryProject& project) {
                          SetLayout(project, 2);
                          project.comboGalleryFrameSizingPriority = 1;
                          project.ImageFrameSize = 80;
                          project.checkGalleryFrameSizeInPercent = 1;
                        }});
-  galleries.push_back({"frame_top", [](GalleryProject& project) {
+  galleries.push_back({"frame_top", [](core::GalleryProject& project) {
                          SetLayout(project, 3);
                          project.checkGalleryFramesDisplayBorders = 1;
                          project.checkGalleryFramesResizable = 1;
                        }});
-  galleries.push_back({"frame_bottom", [](GalleryProject& project) {
+  galleries.push_back({"frame_bottom", [](core::GalleryProject& project) {
                          SetLayout(project, 4);
                          project.checkImageWrapperUse = 0;
                        }});
@@ -117,31 +120,32 @@ void AddLayouts(std::vector<Gallery>& galleries) {
 
 void AddTexts(std::vector<Gallery>& galleries) {
   const std::string places[] = {"left", "right", "above", "below"};
-  for (Choice place = 0; place < 4; ++place) {
-    const auto description = static_cast<Choice>(place + 1);
-    for (Choice alignment = 0; alignment < 3; ++alignment) {
+  for (core::Choice place = 0; place < 4; ++place) {
+    const auto description = static_cast<core::Choice>(place + 1);
+    for (core::Choice alignment = 0; alignment < 3; ++alignment) {
       const std::string end = places[place] + "_" + std::to_string(alignment);
       galleries.push_back(
-          {"caption_" + end, [=](GalleryProject& project) { SetCaptions(project, place, alignment); }, 1});
+          {"caption_" + end, [=](core::GalleryProject& project) { SetCaptions(project, place, alignment); }, 1});
       galleries.push_back({"description_" + end,
-                           [=](GalleryProject& project) { SetDescriptions(project, description, alignment); }, 1});
+                           [=](core::GalleryProject& project) { SetDescriptions(project, description, alignment); },
+                           1});
     }
-    for (Choice caption = 0; caption < 4; ++caption) {
+    for (core::Choice caption = 0; caption < 4; ++caption) {
       galleries.push_back({"description_" + places[place] + "_caption_" + places[caption],
-                           [=](GalleryProject& project) {
+                           [=](core::GalleryProject& project) {
                              SetCaptions(project, caption, 1);
                              SetDescriptions(project, description, 2);
                            },
                            1});
     }
   }
-  galleries.push_back({"popup_captions", [](GalleryProject& project) {
+  galleries.push_back({"popup_captions", [](core::GalleryProject& project) {
                          project.checkCaptionsImagesPopup = 1;
                          project.ImagePopupCaption = "<VANTORIUM_IMAGE_DESCRIPTION>";
                          project.checkCaptionsThumbnailsPopup = 1;
                          project.ThumbnailPopupCaption = "page <VANTORIUM_THUMBPAGE_INDEX>";
                        }});
-  galleries.push_back({"every_tag", [](GalleryProject& project) {
+  galleries.push_back({"every_tag", [](core::GalleryProject& project) {
                          SetGraphics(project, true);
                          SetDescriptions(project, 0, 0);
                          project.GalleryHeadCode = EveryTag();
@@ -149,50 +153,51 @@ void AddTexts(std::vector<Gallery>& galleries) {
                          project.ThumbnailHeader = EveryTag();
                          project.ImageHeader = EveryTag();
                        }});
-  galleries.push_back({"letters_beyond_ascii", [](GalleryProject& project) {
+  galleries.push_back({"letters_beyond_ascii", [](core::GalleryProject& project) {
                          project.textGalleryTitle = "Z\xC3\xBCrich";
                          project.ImageHeader = "\xE2\x82\xAC";
                        }});
 }
 
 void AddSlideShows(std::vector<Gallery>& galleries) {
-  for (const Choice startOver : std::initializer_list<Choice>{0, 1, 2}) {
+  for (const core::Choice startOver : std::initializer_list<core::Choice>{0, 1, 2}) {
     galleries.push_back({"slide_show_start_over_" + std::to_string(startOver),
-                         [=](GalleryProject& project) { SetSlideShow(project, 1, 0, startOver); }});
+                         [=](core::GalleryProject& project) { SetSlideShow(project, 1, 0, startOver); }});
   }
-  for (const Choice afterImage : std::initializer_list<Choice>{1, 2}) {
+  for (const core::Choice afterImage : std::initializer_list<core::Choice>{1, 2}) {
     galleries.push_back({"slide_show_after_image_" + std::to_string(afterImage),
-                         [=](GalleryProject& project) { SetSlideShow(project, 0, afterImage, 1); }});
+                         [=](core::GalleryProject& project) { SetSlideShow(project, 0, afterImage, 1); }});
   }
-  galleries.push_back({"slide_show_by_hand", [](GalleryProject& project) {
+  galleries.push_back({"slide_show_by_hand", [](core::GalleryProject& project) {
                          SetSlideShow(project, 0, 0, 1);
                          project.checkGallerySlideShowAutoStart = 0;
                        }});
-  galleries.push_back({"slide_show_in_two_frames", [](GalleryProject& project) {
+  galleries.push_back({"slide_show_in_two_frames", [](core::GalleryProject& project) {
                          SetSlideShow(project, 0, 0, 1);
                          SetLayout(project, 1);
                        }});
 }
 
 void AddLinks(std::vector<Gallery>& galleries) {
-  galleries.push_back({"links_with_graphics", [](GalleryProject& project) { SetGraphics(project, true); }, 5});
-  galleries.push_back({"links_of_graphics_alone", [](GalleryProject& project) { SetGraphics(project, false); }, 5});
+  galleries.push_back({"links_with_graphics", [](core::GalleryProject& project) { SetGraphics(project, true); }, 5});
+  galleries.push_back(
+      {"links_of_graphics_alone", [](core::GalleryProject& project) { SetGraphics(project, false); }, 5});
   galleries.push_back({"direct_links",
-                       [](GalleryProject& project) {
+                       [](core::GalleryProject& project) {
                          project.checkPageLinksThumbnailDirectLinks = 1;
                          project.textPageLinksThumbnailMaxDirectLinks = "2";
                          project.comboPageLinksThumbnailLinkPlacement = 2;
                          project.comboPageLinksImageLinkPlacement = 1;
                        },
                        9});
-  galleries.push_back({"no_links", [](GalleryProject& project) {
+  galleries.push_back({"no_links", [](core::GalleryProject& project) {
                          project.comboPageLinksThumbnailLinkPlacement = 0;
                          project.comboPageLinksImageLinkPlacement = 0;
                        }});
 }
 
 void AddLooks(std::vector<Gallery>& galleries) {
-  galleries.push_back({"colors_and_backdrops", [](GalleryProject& project) {
+  galleries.push_back({"colors_and_backdrops", [](core::GalleryProject& project) {
                          project.checkThumbnailsPageSetColors = 1;
                          project.checkImageWrapperSetColors = 1;
                          project.ImagePageBgColor = 0x123456;
@@ -204,7 +209,7 @@ void AddLooks(std::vector<Gallery>& galleries) {
                          project.comboThumbnailsTableAlignment = 0;
                          project.checkImageWrapperImageKeepAspectRatio = 0;
                        }});
-  galleries.push_back({"names_of_its_own", [](GalleryProject& project) {
+  galleries.push_back({"names_of_its_own", [](core::GalleryProject& project) {
                          project.textThumbnailImageSettingsFilePrefix = "";
                          project.textThumbnailPageSettingsFilePrefix = "";
                          project.comboThumbnailPageSettingsFileExtension = ".shtml";
@@ -213,9 +218,10 @@ void AddLooks(std::vector<Gallery>& galleries) {
                          project.comboThumbnailsTableAlignment = 3;
                          project.checkImageWrapperImageKeepSize = 1;
                        }});
-  galleries.push_back({"preview", [](GalleryProject& project) { SetLayout(project, 1); }, 3, GenerationMode::Preview});
+  galleries.push_back(
+      {"preview", [](core::GalleryProject& project) { SetLayout(project, 1); }, 3, GenerationMode::Preview});
   galleries.push_back({"preview_without_wrappers",
-                       [](GalleryProject& project) {
+                       [](core::GalleryProject& project) {
                          SetSlideShow(project, 0, 0, 1);
                          project.checkImageWrapperUse = 0;
                          project.textThumbnailsPageBackdrop = "sand.JPG";

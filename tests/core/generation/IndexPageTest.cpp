@@ -46,7 +46,7 @@ TEST_F(IndexPage, OfTwoFramesHasThemInOrder) {
 }
 
 struct LayoutCase {
-  Choice layout;
+  core::Choice layout;
   std::string thumbnailsSized;
   std::string imageSized;
   bool imageFirst;
@@ -146,7 +146,7 @@ TEST_F(IndexPage, WithoutImagesTheFirstOneIsAFailureOnlyWhereItIsNamed) {
   images.Clear();
   EXPECT_NO_THROW((void)BuildIndexPage(run));
   project.comboGalleryLayoutType = 1;
-  EXPECT_THROW((void)BuildIndexPage(run), RuntimeFailure);
+  EXPECT_THROW((void)BuildIndexPage(run), env::RuntimeFailure);
 }
 
 }  // namespace

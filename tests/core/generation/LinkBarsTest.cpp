@@ -98,7 +98,7 @@ TEST_F(LinkBars, TheImageBarAtItsEndsKeepsTheTexts) {
 }
 
 TEST_F(LinkBars, LayoutsWithTwoFramesHaveNoIndex) {
-  for (Choice layout = 1; layout <= 4; ++layout) {
+  for (core::Choice layout = 1; layout <= 4; ++layout) {
     project.comboGalleryLayoutType = layout;
     EXPECT_EQ(BuildImagePageBar(run, 2), A("img1.htm") + "FIRST</A>&nbsp;" + A("img1.htm") + "BACK</A>&nbsp;" +
                                              "&nbsp;" + A("img3.htm") + "NEXT</A>" + "&nbsp;" + A("img3.htm") +
@@ -141,7 +141,7 @@ TEST_F(LinkBars, TheLastImageAndTheThumbnailBarLookAtTheirOwnLabels) {
 
 TEST_F(LinkBars, AGridWithoutCellsFailsOnlyAtTheIndexLink) {
   SetGrid("0", "5");
-  EXPECT_THROW((void)BuildImagePageBar(run, 2), RuntimeFailure);
+  EXPECT_THROW((void)BuildImagePageBar(run, 2), env::RuntimeFailure);
   project.comboGalleryLayoutType = 1;
   EXPECT_NO_THROW((void)BuildImagePageBar(run, 2));
 }

@@ -2,7 +2,7 @@
 #include "tests/core/generation/RunFixture.h"
 #include "tests/fakes/JpegMaker.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 using fakes::JpegColors;
@@ -35,11 +35,12 @@ TEST_F(OddPhotographsTest, OddFilesThatAreWholeBecomePicturesOfTheSizeAskedFor) 
   project.settings.textImageWrapperImageHeight = "20";
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success) << (boxes.boxes.empty() ? "" : boxes.boxes[0].text);
   for (const auto& [name, recipe] : kOddButGood) {
-    cDIBSection picture;
-    ASSERT_TRUE(LoadJPEGImage(picture, folder.Path() / "out/Images" / (std::string(name) + ".jpg"))) << name;
+    image::cDIBSection picture;
+    ASSERT_TRUE(image::LoadJPEGImage(picture, folder.Path() / "out/Images" / (std::string(name) + ".jpg"))) << name;
     EXPECT_EQ(picture.width(), 30) << name;
     EXPECT_EQ(picture.height(), 20) << name;
-    ASSERT_TRUE(LoadJPEGImage(picture, folder.Path() / "out/Thumbs" / ("thumb_" + std::string(name) + ".jpg"))) << name;
+    ASSERT_TRUE(image::LoadJPEGImage(picture, folder.Path() / "out/Thumbs" / ("thumb_" + std::string(name) + ".jpg")))
+        << name;
     EXPECT_EQ(picture.width(), 60) << name;
   }
 }
@@ -73,9 +74,9 @@ TEST_F(OddPhotographsTest, ACancelWhileManyAreUnderWayLeavesWholeFilesOnly) {
   for (const auto& name : FilesIn("out")) {
     std::int32_t width = 0;
     std::int32_t height = 0;
-    EXPECT_TRUE(ReadJPEGSize(folder.Path() / "out" / name, width, height)) << name;
+    EXPECT_TRUE(image::ReadJPEGSize(folder.Path() / "out" / name, width, height)) << name;
   }
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

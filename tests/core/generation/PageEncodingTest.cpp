@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 TEST(PageEncoding, APageOfAsciiStaysAsItIs) {
@@ -16,4 +16,4 @@ TEST(PageEncoding, AnyOtherPageBeginsWithAByteOrderMark) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -52,7 +52,7 @@ class PageTest : public ::testing::Test {
 
   void AddImage(const std::string& name, const std::string& imageDescription = "",
                 const std::string& thumbnailDescription = "") {
-    ImageEntry entry;
+    core::ImageEntry entry;
     entry.ImageName = name;
     entry.SourcePath = "C:\\Photos\\" + name + ".JPG";
     entry.ImageDescription = imageDescription;
@@ -60,7 +60,7 @@ class PageTest : public ::testing::Test {
     ImageRunInfo info;
     info.Path = entry.SourcePath;
     info.FileName = name + ".JPG";
-    info.FileTime = FileTimeOfUnixTime(1'583'020'800, 0);  // 2020-03-01 00:00 UTC
+    info.FileTime = env::FileTimeOfUnixTime(1'583'020'800, 0);  // 2020-03-01 00:00 UTC
     images.Insert(images.Count() + 1, std::move(entry));
     const auto number = static_cast<std::int32_t>(images.Count());
     info.Width = 400 + number;
@@ -80,7 +80,7 @@ class PageTest : public ::testing::Test {
     run.ImageUrlPrefix = mode == GenerationMode::Preview ? "images/" : "Images/";
     run.ThumbUrlPrefix = mode == GenerationMode::Preview ? "thumbs/" : "Thumbs/";
     run.ImageCount = static_cast<std::int32_t>(images.Count());
-    run.ThumbnailPageCount = vantorium::ThumbnailPageCount(project, run.ImageCount);
+    run.ThumbnailPageCount = vantorium::core::ThumbnailPageCount(project, run.ImageCount);
     for (const ImageRunInfo& info : run.RunInfo) {
       run.MaxImageWidth = std::max(run.MaxImageWidth, info.Width);
       run.MaxImageHeight = std::max(run.MaxImageHeight, info.Height);
@@ -89,16 +89,16 @@ class PageTest : public ::testing::Test {
     }
   }
 
-  void SetGrid(const Digits& rows, const Digits& columns) {
+  void SetGrid(const core::Digits& rows, const core::Digits& columns) {
     project.textThumbnailsTableRows = rows;
     project.textThumbnailsTableColumns = columns;
   }
 
-  GalleryProject project;
-  ImageList images;
-  PathMap paths{{{'C', "/home/anna"}}};
-  RegionalFormats formats{"de_DE"};
-  mFileFunctions files{paths, formats};
+  core::GalleryProject project;
+  core::ImageList images;
+  env::PathMap paths{{{'C', "/home/anna"}}};
+  env::RegionalFormats formats{"de_DE"};
+  env::mFileFunctions files{paths, formats};
   RunState run{.project = project, .images = images, .files = files, .formats = formats};
 };
 

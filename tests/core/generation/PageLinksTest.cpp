@@ -14,10 +14,10 @@ class PageLinks : public PageTest {
   }
 
   std::string Anchor(int kind, std::int32_t current, std::int32_t total) const {
-    return BuildLinkAnchor(run, static_cast<LinkKind>(kind), current, total);
+    return BuildLinkAnchor(run, static_cast<core::LinkKind>(kind), current, total);
   }
   std::string Graphic(int kind, std::int32_t current, std::int32_t total) const {
-    return BuildLinkGraphic(run, static_cast<LinkKind>(kind), current, total);
+    return BuildLinkGraphic(run, static_cast<core::LinkKind>(kind), current, total);
   }
 };
 
@@ -73,27 +73,30 @@ TEST_F(PageLinks, TheIndexLeadsToTheImagesPlaceAtEitherEnd) {
 
 struct GraphicCase {
   int kind;
-  LinkSettings GalleryProject::*link;
+  core::LinkSettings core::GalleryProject::*link;
   std::string first;  // at 1 of 4
   std::string middle;
   std::string last;  // at 4 of 4
 };
 
 const GraphicCase kGraphicCases[] = {
-    {0, &GalleryProject::ImageFirstLink, "_imagelink_first_first.end", "_imagelink_first.usual",
+    {0, &core::GalleryProject::ImageFirstLink, "_imagelink_first_first.end", "_imagelink_first.usual",
      "_imagelink_first.usual"},
-    {1, &GalleryProject::ImagePreviousLink, "_imagelink_previous_first.end", "_imagelink_previous.usual",
+    {1, &core::GalleryProject::ImagePreviousLink, "_imagelink_previous_first.end", "_imagelink_previous.usual",
      "_imagelink_previous.usual"},
-    {2, &GalleryProject::ImageNextLink, "_imagelink_next.usual", "_imagelink_next.usual", "_imagelink_next_last.end"},
-    {3, &GalleryProject::ImageLastLink, "_imagelink_last.usual", "_imagelink_last.usual", "_imagelink_last_last.end"},
-    {4, &GalleryProject::ImageIndexLink, "_imagelink_index.usual", "_imagelink_index.usual", "_imagelink_index.usual"},
-    {5, &GalleryProject::ThumbnailFirstLink, "_thumblink_first_first.end", "_thumblink_first.usual",
+    {2, &core::GalleryProject::ImageNextLink, "_imagelink_next.usual", "_imagelink_next.usual",
+     "_imagelink_next_last.end"},
+    {3, &core::GalleryProject::ImageLastLink, "_imagelink_last.usual", "_imagelink_last.usual",
+     "_imagelink_last_last.end"},
+    {4, &core::GalleryProject::ImageIndexLink, "_imagelink_index.usual", "_imagelink_index.usual",
+     "_imagelink_index.usual"},
+    {5, &core::GalleryProject::ThumbnailFirstLink, "_thumblink_first_first.end", "_thumblink_first.usual",
      "_thumblink_first.usual"},
-    {6, &GalleryProject::ThumbnailPreviousLink, "_thumblink_previous_first.end", "_thumblink_previous.usual",
+    {6, &core::GalleryProject::ThumbnailPreviousLink, "_thumblink_previous_first.end", "_thumblink_previous.usual",
      "_thumblink_previous.usual"},
-    {7, &GalleryProject::ThumbnailNextLink, "_thumblink_next.usual", "_thumblink_next.usual",
+    {7, &core::GalleryProject::ThumbnailNextLink, "_thumblink_next.usual", "_thumblink_next.usual",
      "_thumblink_next_last.end"},
-    {8, &GalleryProject::ThumbnailLastLink, "_thumblink_last.usual", "_thumblink_last.usual",
+    {8, &core::GalleryProject::ThumbnailLastLink, "_thumblink_last.usual", "_thumblink_last.usual",
      "_thumblink_last_last.end"},
 };
 
@@ -108,7 +111,7 @@ TEST_F(PageLinks, GraphicsOfEachKindHaveTheirNamesAndTheExtensionOfTheirFile) {
     EXPECT_EQ(Graphic(each.kind, 2, 4), tag(each.middle));
     EXPECT_EQ(Graphic(each.kind, 4, 4), tag(each.last));
     EXPECT_EQ(Graphic(each.kind, 1, 1), "");
-    EXPECT_EQ(&LinkOf(project, static_cast<LinkKind>(each.kind)), &(project.*each.link));
+    EXPECT_EQ(&LinkOf(project, static_cast<core::LinkKind>(each.kind)), &(project.*each.link));
   }
 }
 
@@ -145,15 +148,15 @@ TEST_F(PageLinks, TheProductOfRowsAndColumnsIsRoundedHalfToEven) {
 
 TEST_F(PageLinks, AGridWithoutCellsIsADivisionByZero) {
   for (const auto& [rows, columns] :
-       std::vector<std::pair<Digits, Digits>>{{"0", "5"}, {"5", "0"}, {"", "5"}, {"x", "5"}}) {
+       std::vector<std::pair<core::Digits, core::Digits>>{{"0", "5"}, {"5", "0"}, {"", "5"}, {"x", "5"}}) {
     SetGrid(rows, columns);
     try {
       ADD_FAILURE() << rows << " x " << columns << " gave " << ThumbnailPageOfImage(project, 1);
-    } catch (const RuntimeFailure& failure) {
+    } catch (const env::RuntimeFailure& failure) {
       EXPECT_EQ(failure.Number(), 11);
       EXPECT_EQ(failure.Description(), "Division by zero");
     }
-    EXPECT_THROW((void)Anchor(4, 1, 4), RuntimeFailure);
+    EXPECT_THROW((void)Anchor(4, 1, 4), env::RuntimeFailure);
     EXPECT_EQ(Anchor(0, 2, 4), R"(<A HREF="img1.htm">)");
   }
 }

@@ -19,7 +19,7 @@ TEST_F(PageParts, ABackdropIsItsCopyInTheImagesFolder) {
   const auto attribute = [&](const std::string& path, GenerationMode mode = GenerationMode::Create) {
     project.textImageWrapperBackdrop = path;
     Prepare(mode);
-    return BackdropAttribute(run, kImages.backdrop);
+    return BackdropAttribute(run, core::kImages.backdrop);
   };
   EXPECT_EQ(attribute(""), "");
   EXPECT_EQ(attribute("C:\\pics\\Sand.GIF"), R"( BACKGROUND="Images/_backdrop_imagepage.GIF")");
@@ -28,8 +28,8 @@ TEST_F(PageParts, ABackdropIsItsCopyInTheImagesFolder) {
 }
 
 TEST_F(PageParts, ABodyWithColorsHasFiveOfThemWithoutHashes) {
-  for (const PageColorFields& fields : {kThumbnails.colors, kImages.colors}) {
-    GalleryProject settings;
+  for (const core::PageColorFields& fields : {core::kThumbnails.colors, core::kImages.colors}) {
+    core::GalleryProject settings;
     settings.*fields.use = 1;
     settings.*fields.background = 0xFFFFFF;
     settings.*fields.text = 0;
@@ -43,8 +43,8 @@ TEST_F(PageParts, ABodyWithColorsHasFiveOfThemWithoutHashes) {
 }
 
 TEST_F(PageParts, ABodyWithoutColorsKeepsItsBlank) {
-  for (const PageColorFields& fields : {kThumbnails.colors, kImages.colors}) {
-    const GalleryProject settings;
+  for (const core::PageColorFields& fields : {core::kThumbnails.colors, core::kImages.colors}) {
+    const core::GalleryProject settings;
     EXPECT_EQ(BodyTag(settings, fields, ""), "<BODY >");
     EXPECT_EQ(BodyTag(settings, fields, " BACKGROUND=\"b\""), R"(<BODY  BACKGROUND="b">)");
   }

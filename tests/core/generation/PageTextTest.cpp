@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 TEST(PageText, EveryLineEndsInCrLf) {
@@ -31,4 +31,4 @@ TEST(PageText, UserCodeIsWrittenBetweenItsCommentsAndOnlyTheseAreIndented) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 #include "image/JPEG.h"
 #include "tests/core/generation/RunFixture.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 class PictureRecipesTest : public RunFixture {
@@ -14,8 +14,8 @@ class PictureRecipesTest : public RunFixture {
 
   /// The maximum green value in a picture of the gallery.
   [[nodiscard]] int Brightest(const std::string& name) const {
-    cDIBSection picture;
-    EXPECT_TRUE(LoadJPEGImage(picture, folder.Path() / "out" / name)) << name;
+    image::cDIBSection picture;
+    EXPECT_TRUE(image::LoadJPEGImage(picture, folder.Path() / "out" / name)) << name;
     int brightest = 0;
     for (std::int32_t y = 0; y < picture.height(); ++y) {
       for (std::int32_t x = 0; x < picture.width(); ++x)
@@ -76,7 +76,7 @@ TEST_F(PictureRecipesTest, AWatermarkTooLargeForItsCoordinatesEndsTheRun) {
 }
 
 TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt) {
-  const WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = 300};
+  const image::WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = 300};
   RunOrder order = OrderToCreate();
   order.CreateThumbnails = false;
   project.settings.ImageWatermark = bad;
@@ -92,7 +92,7 @@ TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt)
 }
 
 TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeIsNothingToRunsThatDoNotDrawIt) {
-  const WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = -1};
+  const image::WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = -1};
   project.settings.ImageWatermark = bad;
   RunOrder order = OrderToCreate();
   order.CreateImages = false;
@@ -113,7 +113,7 @@ TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeIsNothingToRunsThatDoN
 }
 
 TEST_F(PictureRecipesTest, TheTextGrowsWithThePixelsOfAnInch) {
-  class FineScreen : public Screen {
+  class FineScreen : public env::Screen {
    public:
     [[nodiscard]] std::int32_t PixelsPerInch() const override { return 192; }
   };
@@ -127,4 +127,4 @@ TEST_F(PictureRecipesTest, TheTextGrowsWithThePixelsOfAnInch) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -8,30 +8,30 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 class PictureWorkshopTest : public ::testing::Test {
  protected:
   PictureWorkshopTest() {
-    cDIBSection picture;
+    image::cDIBSection picture;
     EXPECT_TRUE(picture.Create(64, 48));
     std::fill_n(picture.DIBSectionBitsPtr(), picture.BytesPerScanLine() * picture.height(), std::uint8_t{99});
-    source = folder.Write("source.jpg", EncodeJPEG(picture, 80));
+    source = folder.Write("source.jpg", image::EncodeJPEG(picture, 80));
   }
 
   /// Task n makes a picture n pixels wide. Numbers in `without` have no task.
   [[nodiscard]] std::optional<PictureTask> Plan(std::int32_t number) {
     planned.push_back(number);
     if (without.count(number) > 0) return std::nullopt;
-    PictureRecipe recipe;
-    recipe.size = PictureSize{number, 4};
+    image::PictureRecipe recipe;
+    recipe.size = image::PictureSize{number, 4};
     return PictureTask{source, {recipe, {}}};
   }
   [[nodiscard]] std::int32_t WidthOf(const MadePictures& made) {
     std::int32_t width = 0;
     std::int32_t height = 0;
-    EXPECT_TRUE(ReadJPEGSize(folder.Write("made.jpg", made.files.image.Bytes()), width, height));
+    EXPECT_TRUE(image::ReadJPEGSize(folder.Write("made.jpg", made.files.image.Bytes()), width, height));
     return width;
   }
 
@@ -124,4 +124,4 @@ TEST_F(PictureWorkshopTest, ATaskCanBeDoneAtOnce) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

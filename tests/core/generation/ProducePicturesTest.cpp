@@ -4,7 +4,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 class ProducePicturesTest : public RunFixture {
@@ -12,7 +12,7 @@ class ProducePicturesTest : public RunFixture {
   [[nodiscard]] std::pair<std::int32_t, std::int32_t> SizeOf(const std::string& file) const {
     std::int32_t width = 0;
     std::int32_t height = 0;
-    EXPECT_TRUE(ReadJPEGSize(folder.Path() / file, width, height)) << file;
+    EXPECT_TRUE(image::ReadJPEGSize(folder.Path() / file, width, height)) << file;
     return {width, height};
   }
   void SetWriteTime(const std::string& file, std::int64_t seconds) const {
@@ -127,7 +127,7 @@ TEST_F(ProducePicturesTest, TheSizeOfACopiedImageIsThatOfItsSource) {
   project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
   Run(OrderToCreate());
   const auto size = std::filesystem::file_size(folder.Path() / "photos/a.jpg");
-  EXPECT_NE(folder.Read("out/a.htm").find("\r\n" + FileSizeText(size) + "\r\n"), std::string::npos);
+  EXPECT_NE(folder.Read("out/a.htm").find("\r\n" + env::FileSizeText(size) + "\r\n"), std::string::npos);
 }
 
 TEST_F(ProducePicturesTest, AnImageThatDoesNotDecodeEndsTheRunWithItsMessage) {
@@ -240,8 +240,8 @@ TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
     }
   };
   Run(OrderToCreate());
-  cDIBSection thumbnail;
-  ASSERT_TRUE(LoadJPEGImage(thumbnail, folder.Path() / "out/Thumbs/thumb_a.jpg"));
+  image::cDIBSection thumbnail;
+  ASSERT_TRUE(image::LoadJPEGImage(thumbnail, folder.Path() / "out/Thumbs/thumb_a.jpg"));
   EXPECT_GE(*thumbnail.Row(0), 245);
 }
 
@@ -257,4 +257,4 @@ TEST_F(ProducePicturesTest, AnImageThatIsThereByItsTurnIsKeptThoughItWasMadeAhea
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

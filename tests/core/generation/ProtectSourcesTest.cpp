@@ -1,7 +1,7 @@
 #include "core/generation/ProtectSources.h"
 #include "tests/core/generation/RunFixture.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 namespace fs = std::filesystem;
@@ -15,7 +15,7 @@ class ProtectSourcesTest : public RunFixture {
     for (const auto& name : names) before[name] = folder.Read(name);
     EXPECT_EQ(Run(order), RunEnd::Failure) << text;
     ASSERT_EQ(boxes.boxes.size(), 1U) << text;
-    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
     EXPECT_EQ(boxes.boxes[0].title, "File Error");
     EXPECT_EQ(boxes.boxes[0].text, text);
     EXPECT_EQ(FilesIn("."), names);
@@ -58,7 +58,7 @@ TEST_F(ProtectSourcesTest, AnImageDoesNotReplaceTheSourceOfAnother) {
   folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
   AddEntry("other", kOwnImage);
   AddPhotograph("a");
-  for (const Flag keepSize : {Flag{0}, Flag{1}}) {
+  for (const core::Flag keepSize : {core::Flag{0}, core::Flag{1}}) {
     project.settings.checkImageWrapperImageKeepSize = keepSize;
     ExpectRefusal(OrderToCreate(), ImageText("T:\\photos\\a.jpg", kOwnImage));
   }
@@ -194,4 +194,4 @@ TEST_F(ProtectSourcesTest, ALongListIsLookedThroughWithTurnsAndCanBeCancelled) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 #include "tests/core/generation/RunFixture.h"
 #include "tests/fakes/ScriptedFtpServer.h"
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 using fakes::ScriptedFtpServer;
@@ -62,15 +62,15 @@ class PublishRunTest : public RunFixture {
     return script;
   }
 
-  std::unique_ptr<AsioFTPSocket> ownedData = std::make_unique<AsioFTPSocket>(loop);
-  const AsioFTPSocket* data = ownedData.get();
-  mFTP ftp{std::make_unique<AsioFTPSocket>(loop),
-           std::move(ownedData),
-           paths,
-           boxes,
-           loop,
-           cancel,
-           FTPTimeLimits{std::chrono::seconds(20), std::chrono::milliseconds(300)}};
+  std::unique_ptr<publish::AsioFTPSocket> ownedData = std::make_unique<publish::AsioFTPSocket>(loop);
+  const publish::AsioFTPSocket* data = ownedData.get();
+  publish::mFTP ftp{std::make_unique<publish::AsioFTPSocket>(loop),
+                    std::move(ownedData),
+                    paths,
+                    boxes,
+                    loop,
+                    cancel,
+                    publish::FTPTimeLimits{std::chrono::seconds(20), std::chrono::milliseconds(300)}};
 };
 
 TEST_F(PublishRunTest, APublishedGalleryEqualsTheCreatedOneFileByFile) {
@@ -408,4 +408,4 @@ TEST_F(PublishRunTest, ACancelOfAnUploadHasItsOwnBoxAndEndsInFailure) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -16,15 +16,15 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 
 /// The bytes of a JPEG file of one color.
 inline std::string PlainJpeg(std::int32_t width, std::int32_t height, std::uint8_t level = 120) {
-  cDIBSection picture;
+  image::cDIBSection picture;
   EXPECT_TRUE(picture.Create(width, height));
   const auto size = static_cast<std::size_t>(picture.BytesPerScanLine()) * static_cast<std::size_t>(height);
   std::fill_n(picture.DIBSectionBitsPtr(), size, level);
-  return EncodeJPEG(picture, 90);
+  return image::EncodeJPEG(picture, 90);
 }
 
 /// A project in a temporary folder, which is drive T:, and recording fakes of what a run needs. Photographs are in
@@ -40,7 +40,7 @@ class RunFixture : public ::testing::Test {
   }
 
   void AddEntry(const std::string& name, const std::string& source) {
-    ImageEntry entry;
+    core::ImageEntry entry;
     entry.ImageName = name;
     entry.SourcePath = source;
     project.images.Insert(project.images.Count() + 1, entry);
@@ -79,10 +79,10 @@ class RunFixture : public ::testing::Test {
   }
 
   fakes::TemporaryFolder folder;
-  PathMap paths{{{'T', folder.Path().string()}}};
-  RegionalFormats formats{"en_US"};
-  mFileFunctions files{paths, formats};
-  Project project;
+  env::PathMap paths{{{'T', folder.Path().string()}}};
+  env::RegionalFormats formats{"en_US"};
+  env::mFileFunctions files{paths, formats};
+  core::Project project;
 
   fakes::Journal journal;
   fakes::RecordingRunHost host{journal};
@@ -91,9 +91,9 @@ class RunFixture : public ::testing::Test {
   fakes::FixedClock clock;
   fakes::RecordingShell shell{journal};
   CancelCheck cancel{boxes};
-  Screen screen;
-  PangoTextRaster texts;
+  env::Screen screen;
+  image::PangoTextRaster texts;
   RunEnvironment environment{{paths, formats, files, boxes, loop, shell, clock, screen, texts}, host, cancel};
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -5,7 +5,7 @@
 
 #include <system_error>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 using RunHindrancesTest = RunFixture;
@@ -52,7 +52,7 @@ TEST_F(RunHindrancesTest, ASideThatNoJpegFileCanHaveIsRefusedWithoutMemoryForIt)
   AddPhotograph("a", 40, 40);
   project.settings.checkThumbnailsImageKeepAspectRatio = 0;
   const std::string refusal = "Failed to save to JPG Maximum supported image dimension is 65500 pixels";
-  for (const Flag filter : {Flag{0}, Flag{1}}) {
+  for (const core::Flag filter : {core::Flag{0}, core::Flag{1}}) {
     for (const char* width : {"65501", "1000000000", "2147483647"}) {
       boxes.boxes.clear();
       project.settings.ThumbnailFilters.checkGrayscale = filter;
@@ -66,4 +66,4 @@ TEST_F(RunHindrancesTest, ASideThatNoJpegFileCanHaveIsRefusedWithoutMemoryForIt)
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

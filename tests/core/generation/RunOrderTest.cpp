@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 TEST(RunOrder, TheIndexFileGivesFolderAndNameAndKeepsALeadingSeparator) {
@@ -49,4 +49,4 @@ TEST(RunOrder, TheIndexFileOnTheServerMayHaveFoldersOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 using namespace std::string_view_literals;
@@ -33,4 +33,4 @@ TEST(SafeNames, DotsAndDrivesLeave) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

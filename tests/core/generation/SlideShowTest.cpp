@@ -45,7 +45,7 @@ TEST_F(SlideShow, DoesNotStartUnlessAllItsSettingsAreThere) {
 }
 
 TEST_F(SlideShow, GoesToTheNextImage) {
-  for (const Choice startOver : std::initializer_list<Choice>{0, 1, 2}) {
+  for (const core::Choice startOver : std::initializer_list<core::Choice>{0, 1, 2}) {
     project.comboGallerySlideShowStartOverWith = startOver;
     EXPECT_EQ(After(1), "img2.htm");
     EXPECT_EQ(After(2), "img3.htm");
@@ -62,7 +62,7 @@ TEST_F(SlideShow, AfterTheLastImageStartsOver) {
 }
 
 TEST_F(SlideShow, BackToTheThumbnailsDoesNotAskHowToStartOver) {
-  for (const Choice startOver : std::initializer_list<Choice>{0, 1, 2}) {
+  for (const core::Choice startOver : std::initializer_list<core::Choice>{0, 1, 2}) {
     project.comboGallerySlideShowStartOverWith = startOver;
     project.comboGallerySlideShowActionAfterImage = 1;
     EXPECT_EQ(After(1), "thumbpage_1.htm");
@@ -83,9 +83,9 @@ TEST_F(SlideShow, NeedsItsSwitchAndTheSingleFrame) {
   project.checkGallerySlideShow = 0;
   EXPECT_EQ(After(1), "(none)");
   project.checkGallerySlideShow = 1;
-  for (Choice layout = 1; layout <= 4; ++layout) {
+  for (core::Choice layout = 1; layout <= 4; ++layout) {
     project.comboGalleryLayoutType = layout;
-    for (const Choice action : std::initializer_list<Choice>{0, 1, 2}) {
+    for (const core::Choice action : std::initializer_list<core::Choice>{0, 1, 2}) {
       project.comboGallerySlideShowActionAfterImage = action;
       EXPECT_EQ(After(1), "(none)") << layout << ", " << action;
     }
@@ -96,7 +96,7 @@ TEST_F(SlideShow, BackToThePageOfAnImageFailsWithoutCells) {
   SetGrid("0", "0");
   EXPECT_NO_THROW((void)After(1));
   project.comboGallerySlideShowActionAfterImage = 1;
-  EXPECT_THROW((void)After(1), RuntimeFailure);
+  EXPECT_THROW((void)After(1), env::RuntimeFailure);
 }
 
 }  // namespace

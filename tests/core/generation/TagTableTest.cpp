@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 struct Spelling {
@@ -81,4 +81,4 @@ TEST(TagTable, HoldsTheFourTagsOfDescriptions) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

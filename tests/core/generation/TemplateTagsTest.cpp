@@ -66,20 +66,20 @@ TEST_F(TemplateTags, TagsOfGalleryAndPageGiveTheirValues) {
 }
 
 TEST_F(TemplateTags, DatesOfTheFileAreUtcInTheRegionalFormats) {
-  const CivilTime midnight{.year = 2020, .month = 3, .day = 1};
-  EXPECT_EQ(Value("IMAGE_FILEDATE_SHORT"), formats.Format(midnight, RegionalFormat::ShortDate));
-  EXPECT_EQ(Value("IMAGE_FILEDATE_LONG"), formats.Format(midnight, RegionalFormat::LongDate));
-  EXPECT_EQ(Value("IMAGE_FILETIME_SHORT"), formats.Format(midnight, RegionalFormat::ShortTime));
-  EXPECT_EQ(Value("IMAGE_FILETIME_LONG"), formats.Format(midnight, RegionalFormat::LongTime));
+  const env::CivilTime midnight{.year = 2020, .month = 3, .day = 1};
+  EXPECT_EQ(Value("IMAGE_FILEDATE_SHORT"), formats.Format(midnight, env::RegionalFormat::ShortDate));
+  EXPECT_EQ(Value("IMAGE_FILEDATE_LONG"), formats.Format(midnight, env::RegionalFormat::LongDate));
+  EXPECT_EQ(Value("IMAGE_FILETIME_SHORT"), formats.Format(midnight, env::RegionalFormat::ShortTime));
+  EXPECT_EQ(Value("IMAGE_FILETIME_LONG"), formats.Format(midnight, env::RegionalFormat::LongTime));
   EXPECT_EQ(Value("IMAGE_FILEDATE_SHORT"), "01.03.20");
 }
 
 TEST_F(TemplateTags, DatesOfTheCreationAreTheRunsOwn) {
-  const CivilTime made = run.GalleryCreationTime;
-  EXPECT_EQ(Value("GALLERY_CREATIONDATE_SHORT"), formats.Format(made, RegionalFormat::ShortDate));
-  EXPECT_EQ(Value("GALLERY_CREATIONDATE_LONG"), formats.Format(made, RegionalFormat::LongDate));
-  EXPECT_EQ(Value("GALLERY_CREATIONTIME_SHORT"), formats.Format(made, RegionalFormat::ShortTime));
-  EXPECT_EQ(Value("GALLERY_CREATIONTIME_LONG"), formats.Format(made, RegionalFormat::LongTime));
+  const env::CivilTime made = run.GalleryCreationTime;
+  EXPECT_EQ(Value("GALLERY_CREATIONDATE_SHORT"), formats.Format(made, env::RegionalFormat::ShortDate));
+  EXPECT_EQ(Value("GALLERY_CREATIONDATE_LONG"), formats.Format(made, env::RegionalFormat::LongDate));
+  EXPECT_EQ(Value("GALLERY_CREATIONTIME_SHORT"), formats.Format(made, env::RegionalFormat::ShortTime));
+  EXPECT_EQ(Value("GALLERY_CREATIONTIME_LONG"), formats.Format(made, env::RegionalFormat::LongTime));
   EXPECT_EQ(Value("GALLERY_CREATIONTIME_LONG"), "13:05:09");
 }
 
@@ -97,21 +97,23 @@ TEST_F(TemplateTags, TextLinksAreTheAnchorTheLabelAndTheEnd) {
 
 struct LinkTag {
   std::string name;
-  LinkSettings GalleryProject::*link;
+  core::LinkSettings core::GalleryProject::*link;
   std::string anchor;  // at image and page 2 of 3
   std::string graphic;
 };
 
 const LinkTag kLinkTags[] = {
-    {"FIRSTIMAGE", &GalleryProject::ImageFirstLink, R"(<A HREF="first_one.htm">)", "_imagelink_first"},
-    {"PREVIMAGE", &GalleryProject::ImagePreviousLink, R"(<A HREF="first_one.htm">)", "_imagelink_previous"},
-    {"NEXTIMAGE", &GalleryProject::ImageNextLink, R"(<A HREF="last.htm">)", "_imagelink_next"},
-    {"LASTIMAGE", &GalleryProject::ImageLastLink, R"(<A HREF="last.htm">)", "_imagelink_last"},
-    {"INDEX", &GalleryProject::ImageIndexLink, R"(<A HREF="thumbpage_2.htm#old_stone_bridge">)", "_imagelink_index"},
-    {"FIRSTTHUMBPAGE", &GalleryProject::ThumbnailFirstLink, R"(<A HREF="thumbpage_1.htm">)", "_thumblink_first"},
-    {"PREVTHUMBPAGE", &GalleryProject::ThumbnailPreviousLink, R"(<A HREF="thumbpage_1.htm">)", "_thumblink_previous"},
-    {"NEXTTHUMBPAGE", &GalleryProject::ThumbnailNextLink, R"(<A HREF="thumbpage_3.htm">)", "_thumblink_next"},
-    {"LASTTHUMBPAGE", &GalleryProject::ThumbnailLastLink, R"(<A HREF="thumbpage_3.htm">)", "_thumblink_last"},
+    {"FIRSTIMAGE", &core::GalleryProject::ImageFirstLink, R"(<A HREF="first_one.htm">)", "_imagelink_first"},
+    {"PREVIMAGE", &core::GalleryProject::ImagePreviousLink, R"(<A HREF="first_one.htm">)", "_imagelink_previous"},
+    {"NEXTIMAGE", &core::GalleryProject::ImageNextLink, R"(<A HREF="last.htm">)", "_imagelink_next"},
+    {"LASTIMAGE", &core::GalleryProject::ImageLastLink, R"(<A HREF="last.htm">)", "_imagelink_last"},
+    {"INDEX", &core::GalleryProject::ImageIndexLink, R"(<A HREF="thumbpage_2.htm#old_stone_bridge">)",
+     "_imagelink_index"},
+    {"FIRSTTHUMBPAGE", &core::GalleryProject::ThumbnailFirstLink, R"(<A HREF="thumbpage_1.htm">)", "_thumblink_first"},
+    {"PREVTHUMBPAGE", &core::GalleryProject::ThumbnailPreviousLink, R"(<A HREF="thumbpage_1.htm">)",
+     "_thumblink_previous"},
+    {"NEXTTHUMBPAGE", &core::GalleryProject::ThumbnailNextLink, R"(<A HREF="thumbpage_3.htm">)", "_thumblink_next"},
+    {"LASTTHUMBPAGE", &core::GalleryProject::ThumbnailLastLink, R"(<A HREF="thumbpage_3.htm">)", "_thumblink_last"},
 };
 
 TEST_F(TemplateTags, GraphicLinksAreTheAnchorTheImageAndTheEnd) {
@@ -183,14 +185,15 @@ TEST_F(TemplateTags, TagsWhoseIndexIsMissingStay) {
 }
 
 TEST_F(TemplateTags, EveryTagWithItsIndexIsReplacedEverywhereInAnyCase) {
-  for (LinkSettings GalleryProject::*link : {&GalleryProject::ImageNextLink, &GalleryProject::ImageIndexLink}) {
+  for (core::LinkSettings core::GalleryProject::*link :
+       {&core::GalleryProject::ImageNextLink, &core::GalleryProject::ImageIndexLink}) {
     (project.*link).textLinkGraphic = "x.gif";
   }
   for (const TagRow& row : TagRows()) {
     const std::string value = Expand(row.tag);
     EXPECT_NE(value, row.tag);
-    const std::string text = "a" + AsciiLower(row.tag) + "<" + std::string(row.tag) + ">" +
-                             AsciiLower(row.tag.substr(0, 9)) + std::string(row.tag.substr(9));
+    const std::string text = "a" + env::AsciiLower(row.tag) + "<" + std::string(row.tag) + ">" +
+                             env::AsciiLower(row.tag.substr(0, 9)) + std::string(row.tag.substr(9));
     EXPECT_EQ(Expand(text), "a" + value + "<" + value + ">" + value) << text;
   }
 }
@@ -228,8 +231,8 @@ TEST_F(TemplateTags, ValuesAreMadeOnlyForTagsThatOccur) {
     try {
       const std::string value = Value(name);
       ADD_FAILURE() << name << " gave " << value;
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(FailureKind::DivisionByZero));
+    } catch (const env::RuntimeFailure& failure) {
+      EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(env::FailureKind::DivisionByZero));
     }
   }
 }

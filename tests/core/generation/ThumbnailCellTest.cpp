@@ -19,12 +19,12 @@ class ThumbnailCell : public PageTest {
 
   std::string Content() const { return ThumbnailCellContent(run, 1, 1); }
 
-  void SetDescription(Choice placement, Choice alignment) {
+  void SetDescription(core::Choice placement, core::Choice alignment) {
     project.comboThumbnailDescriptionPlacement = placement;
     project.comboThumbnailDescriptionAlignment = alignment;
   }
 
-  void SetCaption(Choice placement, Choice alignment) {
+  void SetCaption(core::Choice placement, core::Choice alignment) {
     project.checkCaptionsThumbnailsRegular = 1;
     project.comboCaptionsThumbnailsRegularPlacement = placement;
     project.comboCaptionsThumbnailsRegularAlignment = alignment;
@@ -104,8 +104,8 @@ TEST_F(ThumbnailCell, ACaptionIsPlacedAsSet) {
 
 TEST_F(ThumbnailCell, OnlyCaptionsBesideTheThumbnailGetBlanks) {
   const std::string spaced[] = {">C&nbsp;</TD>", ">&nbsp;C&nbsp;</TD>", ">&nbsp;C</TD>"};
-  for (Choice alignment = 0; alignment < 3; ++alignment) {
-    for (Choice placement = 0; placement < 4; ++placement) {
+  for (core::Choice alignment = 0; alignment < 3; ++alignment) {
+    for (core::Choice placement = 0; placement < 4; ++placement) {
       SetCaption(placement, alignment);
       EXPECT_TRUE(Contains(Content(), placement < 2 ? spaced[alignment] : ">C</TD>")) << Content();
     }

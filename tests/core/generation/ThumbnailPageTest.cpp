@@ -85,8 +85,8 @@ TEST_F(ThumbnailPage, ARowEndsWhereTheImagesEndAndNoEmptyRowFollows) {
 }
 
 struct GridCase {
-  Digits rows;
-  Digits columns;
+  core::Digits rows;
+  core::Digits columns;
   std::int32_t firstImage;
   std::int32_t images;
 };
@@ -111,8 +111,8 @@ TEST_F(ThumbnailPage, AGridThatNoPageCanHoldIsAnOverflow) {
   AddImages(1);
   run.ImageCount = 1;
   SetGrid("1e10", "0.000001");
-  EXPECT_THROW((void)ImagesOnThumbnailPage(run, 1), RuntimeFailure);
-  EXPECT_THROW((void)Page(), RuntimeFailure);
+  EXPECT_THROW((void)ImagesOnThumbnailPage(run, 1), env::RuntimeFailure);
+  EXPECT_THROW((void)Page(), env::RuntimeFailure);
 }
 
 TEST_F(ThumbnailPage, ColorsAndBackdropAreAttributesOfTheBody) {
@@ -153,7 +153,7 @@ TEST_F(ThumbnailPage, AlignmentOfTheTableIsThatOfItsDivAndFitToPageIsWide) {
   AddImages(1);
   Prepare();
   const std::string names[] = {"CENTER", "LEFT", "CENTER", "RIGHT"};
-  for (Choice alignment = 0; alignment < 4; ++alignment) {
+  for (core::Choice alignment = 0; alignment < 4; ++alignment) {
     project.comboThumbnailsTableAlignment = alignment;
     EXPECT_EQ(LineStartingWith(Page(), "<DIV"), R"(<DIV ALIGN=")" + names[alignment] + R"(">)");
     EXPECT_EQ(LineStartingWith(Page(), "<TABLE"), std::string(R"(<TABLE  BORDER=0 CELLSPACING="2" CELLPADDING="0")") +
@@ -169,7 +169,7 @@ TEST_F(ThumbnailPage, BarsAreAboveAndBelowTheTable) {
                           R"(&nbsp;<A HREF="thumbpage_2.htm">LAST</A>)";
   const std::string above = "<DIV ALIGN=\"CENTER\">\r\n" + bar + "\r\n<TABLE ";
   const std::string below = "</TABLE>\r\n" + bar + "\r\n</DIV>\r\n";
-  for (Choice placement = 0; placement < 4; ++placement) {
+  for (core::Choice placement = 0; placement < 4; ++placement) {
     project.comboPageLinksThumbnailLinkPlacement = placement;
     EXPECT_EQ(Contains(Page(), above), placement == 1 || placement == 3) << placement;
     EXPECT_EQ(Contains(Page(), below), placement == 2 || placement == 3) << placement;
@@ -180,7 +180,7 @@ TEST_F(ThumbnailPage, OnePageHasNoBarAtAll) {
   AddImages(1);
   Prepare();
   const std::string page = Page();
-  for (Choice placement = 0; placement < 4; ++placement) {
+  for (core::Choice placement = 0; placement < 4; ++placement) {
     project.comboPageLinksThumbnailLinkPlacement = placement;
     EXPECT_EQ(Page(), page) << placement;
   }

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::generation {
 namespace {
 
 TEST(ThumbnailSpool, GivesBackWhatWasPutInAnyOrder) {
@@ -37,4 +37,4 @@ TEST(ThumbnailSpool, APlaceBeyondTheEndGivesNothing) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::generation

@@ -19,13 +19,13 @@ class WrapperContentLine : public PageTest {
 
   std::string Content() const { return WrapperContent(run, 1); }
 
-  void SetCaption(Choice placement, Choice alignment) {
+  void SetCaption(core::Choice placement, core::Choice alignment) {
     project.checkCaptionsImagesRegular = 1;
     project.comboCaptionsImagesRegularPlacement = placement;
     project.comboCaptionsImagesRegularAlignment = alignment;
   }
 
-  void SetDescription(Choice placement, Choice alignment) {
+  void SetDescription(core::Choice placement, core::Choice alignment) {
     project.comboImageDescriptionPlacement = placement;
     project.comboImageDescriptionAlignment = alignment;
   }

@@ -60,7 +60,7 @@ TEST_F(WrapperPage, BarsAreAboveAndBelowTheImageWithALineBreak) {
   Prepare();
   const std::string bar = R"(FIRST</A>&nbsp;BACK</A>&nbsp;<A HREF="thumbpage_1.htm#img1">INDEX</A>)"
                           R"(&nbsp;<A HREF="img2.htm">NEXT</A>&nbsp;<A HREF="img2.htm">LAST</A>)";
-  for (Choice placement = 0; placement < 4; ++placement) {
+  for (core::Choice placement = 0; placement < 4; ++placement) {
     project.comboPageLinksImageLinkPlacement = placement;
     const std::string page = Page();
     const bool above = placement == 1 || placement == 3;

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 // Codes of each length from 1 to 16 bits, as many as given, for the symbols in their order.
@@ -117,4 +117,4 @@ TEST(HuffmanTables, ATableTellsOfItsLargestSymbol) {
 }
 
 }  // namespace
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

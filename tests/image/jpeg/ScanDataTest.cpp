@@ -8,7 +8,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 class ScanDataTest : public ::testing::Test {
@@ -19,7 +19,7 @@ class ScanDataTest : public ::testing::Test {
   }
 
   fakes::TemporaryFolder folder;
-  std::optional<FileDescriptor> descriptor;
+  std::optional<env::FileDescriptor> descriptor;
 };
 
 std::string Known(const ScanData& data) {
@@ -84,4 +84,4 @@ TEST_F(ScanDataTest, LongDataComeInPiecesWithoutALoss) {
 }
 
 }  // namespace
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

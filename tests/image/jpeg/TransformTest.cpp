@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium::jpeg {
+namespace vantorium::image::jpeg {
 namespace {
 
 using Samples = std::array<std::uint8_t, 80>;
@@ -104,4 +104,4 @@ TEST(Transform, AClearedBlockHasNoCoefficients) {
 }
 
 }  // namespace
-}  // namespace vantorium::jpeg
+}  // namespace vantorium::image::jpeg

@@ -15,7 +15,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -103,7 +103,7 @@ TEST(frmRename, HasItsTextsAndAcceptsATextOnly) {
   Click(dialog, "CheckRenameAll");
   QTest::keyClick(&Find<QLineEdit>(dialog, "textNameBase"), Qt::Key_Return);
   EXPECT_EQ(model.GetNameBase(), "the_Alps");
-  EXPECT_EQ(model.Scope(), RenameScope::AllImages);
+  EXPECT_EQ(model.Scope(), core::RenameScope::AllImages);
 }
 
 TEST(frmRename, CancelAndEscapeChangeNoName) {
@@ -113,7 +113,7 @@ TEST(frmRename, CancelAndEscapeChangeNoName) {
     dialog.show();
     Type(Find<QLineEdit>(dialog, "textNameBase"), "x");
     escape ? QTest::keyClick(&dialog, Qt::Key_Escape) : Click(dialog, "CancelButton");
-    EXPECT_EQ(model.GetNameBase(), kNoNameBase) << escape;
+    EXPECT_EQ(model.GetNameBase(), core::kNoNameBase) << escape;
     EXPECT_FALSE(dialog.isVisible());
   }
 }
@@ -136,7 +136,7 @@ TEST(frmInvalidImage, EachAnswerHasItsNumber) {
                });
     EXPECT_EQ(answer, code) << button;
   }
-  EXPECT_EQ(shell.beeps, std::vector<BeepKind>(3, BeepKind::Warning));
+  EXPECT_EQ(shell.beeps, std::vector<env::BeepKind>(3, env::BeepKind::Warning));
 }
 
 TEST(frmInvalidImage, HasAnIconThatWarns) {
@@ -230,4 +230,4 @@ TEST(frmShuffle, EscapeAndTheTitleBarStopItUntilItIsOpenedAgain) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

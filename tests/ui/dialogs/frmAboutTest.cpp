@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -83,6 +83,6 @@ TEST(AboutForm, TheAddressIsOpenedWithTheKeyboardToo) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui
 
 #include "frmAboutTest.moc"

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -20,7 +20,7 @@ using fakes::Type;
 class AddBrowserForm : public testing::Test {
  protected:
   /// The entry's texts after the dialog, separated by "|" and preceded by "cancelled " if it was cancelled.
-  std::string Edit(const Browser& texts, const std::function<void(QWidget&)>& drive) {
+  std::string Edit(const env::Browser& texts, const std::function<void(QWidget&)>& drive) {
     BrowserEntry entry("Add Browser", texts);
     entry.ComeUp();
     AddBrowserDialog dialog(files, paths, "C:\\program");
@@ -28,7 +28,7 @@ class AddBrowserForm : public testing::Test {
     return (entry.Cancelled() ? "cancelled " : "") + entry.Texts().Name + "|" + entry.Texts().Location;
   }
 
-  PathMap paths{{{'C', "/home/me"}, {'Z', "/"}}};
+  env::PathMap paths{{{'C', "/home/me"}, {'Z', "/"}}};
   fakes::ScriptedFileBrowser files;
 };
 
@@ -129,4 +129,4 @@ TEST_F(AddBrowserForm, ATextThatIsPastedWithLineBreaksIsOneLine) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

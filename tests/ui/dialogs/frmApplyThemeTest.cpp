@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -33,7 +33,7 @@ class ApplyThemeForm : public testing::Test {
   void Open(const std::function<void(QWidget&)>& drive) {
     DriveModal([&] { desk.Trigger("menuOptionsApplyTheme"); }, drive);
   }
-  [[nodiscard]] const Project& Now() const { return desk.window->CurrentProject(); }
+  [[nodiscard]] const core::Project& Now() const { return desk.window->CurrentProject(); }
 
   fakes::MainDesk desk;
 };
@@ -83,7 +83,7 @@ TEST_F(ApplyThemeForm, ADoubleClickTakesATheme) {
 }
 
 TEST_F(ApplyThemeForm, AfterNoAnotherThemeCanBeChosen) {
-  desk.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Open([&](QWidget& form) {
     Click(form, "OKButton");
     EXPECT_TRUE(form.isVisible());
@@ -111,4 +111,4 @@ TEST_F(ApplyThemeForm, WithoutThemesAMessageSaysSo) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

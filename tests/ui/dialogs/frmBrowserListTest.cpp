@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -43,7 +43,7 @@ class BrowserListForm : public testing::Test {
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(view.topLevelItem(row)).center());
   }
 
-  PathMap paths{{{'C', "/home/me"}, {'Z', "/"}}};
+  env::PathMap paths{{{'C', "/home/me"}, {'Z', "/"}}};
   fakes::ScriptedFileBrowser files;
   fakes::RecordingMessageBox boxes;
   AddBrowserDialog dialog{files, paths, "C:\\program"};
@@ -205,4 +205,4 @@ TEST_F(BrowserListForm, WithEightEntriesAddRefusesBeforeTheDialogOpens) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

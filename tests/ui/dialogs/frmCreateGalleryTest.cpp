@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -29,8 +29,8 @@ const Controls kBoxes = {"checkCreateImages", "checkCreateThumbnails", "checkCre
 
 class CreateForm : public testing::Test {
  protected:
-  std::optional<RunOrder> Ask(const std::function<void(QWidget&)>& drive) {
-    std::optional<RunOrder> order;
+  std::optional<generation::RunOrder> Ask(const std::function<void(QWidget&)>& drive) {
+    std::optional<generation::RunOrder> order;
     DriveModal([&] { order = form.Ask(); }, drive);
     return order;
   }
@@ -59,7 +59,7 @@ TEST_F(CreateForm, ComesUpForALocalGalleryWithEverythingChecked) {
     QTest::keyClick(&form, Qt::Key_Return);
   });
   ASSERT_TRUE(order);
-  EXPECT_EQ(order->Mode, GenerationMode::Create);
+  EXPECT_EQ(order->Mode, generation::GenerationMode::Create);
   EXPECT_EQ(order->OutputFolder + order->IndexFileName, "D:\\web\\index.htm");
   EXPECT_TRUE(order->CreateImages && order->CreateThumbnails && order->CreateHTML && order->Overwrite);
 }
@@ -182,7 +182,7 @@ TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
     QTest::keyClick(&form, Qt::Key_Return);
   });
   ASSERT_TRUE(order);
-  EXPECT_EQ(order->Mode, GenerationMode::Publish);
+  EXPECT_EQ(order->Mode, generation::GenerationMode::Publish);
   EXPECT_EQ(order->ServerAddress, "new.example.org");
   EXPECT_EQ(order->UserName, "me");
   EXPECT_EQ(order->RemoteFolder, "a/b/");
@@ -214,7 +214,7 @@ TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
     Click(form, "OKButton");
   });
   ASSERT_TRUE(order);
-  EXPECT_EQ(order->Mode, GenerationMode::Upload);
+  EXPECT_EQ(order->Mode, generation::GenerationMode::Upload);
   EXPECT_EQ(order->ServerAddress, "two.example.org");
   EXPECT_EQ(order->Password, "me@home");
   EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
@@ -344,7 +344,7 @@ TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
     Click(form, "OKButton");
   });
   ASSERT_TRUE(first);
-  EXPECT_EQ(first->Mode, GenerationMode::Publish);
+  EXPECT_EQ(first->Mode, generation::GenerationMode::Publish);
   desk.preferences.CreateFolder = "D:\\later\\";
   EXPECT_FALSE(Ask([](QWidget& form) {
     EXPECT_TRUE(Find<QRadioButton>(form, "optionUploadGallery").isChecked());
@@ -368,4 +368,4 @@ TEST_F(CreateForm, EveryMnemonicIsItsOwn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

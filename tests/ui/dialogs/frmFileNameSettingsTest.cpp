@@ -5,7 +5,7 @@
 
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -18,9 +18,9 @@ class FileNameEditing : public testing::Test {
     fakes::DriveModal([this] { frmFileNameSettings(binder, nullptr).exec(); }, drive);
   }
 
-  GalleryProject project;
+  core::GalleryProject project;
   bool modified = false;
-  ProjectEditor editor{project, modified};
+  core::ProjectEditor editor{project, modified};
   fakes::RecordingMessageBox boxes;
   FieldBinder binder{editor, boxes};
 };
@@ -115,4 +115,4 @@ TEST_F(FileNameEditing, TheTabKeyGoesThroughTheForm) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

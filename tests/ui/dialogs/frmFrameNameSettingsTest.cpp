@@ -5,7 +5,7 @@
 
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -18,9 +18,9 @@ class FrameNameEditing : public testing::Test {
     fakes::DriveModal([this] { frmFrameNameSettings(binder, nullptr).exec(); }, drive);
   }
 
-  GalleryProject project;
+  core::GalleryProject project;
   bool modified = false;
-  ProjectEditor editor{project, modified};
+  core::ProjectEditor editor{project, modified};
   fakes::RecordingMessageBox boxes;
   FieldBinder binder{editor, boxes};
 };
@@ -79,4 +79,4 @@ TEST_F(FrameNameEditing, TheTabKeyGoesThroughTheForm) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,7 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -134,4 +134,4 @@ TEST_F(CodeEditing, TheKeyboardAloneIsEnough) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,7 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -149,4 +149,4 @@ TEST_F(HeaderAndFooterEditing, TheTabKeyGoesThroughTheForm) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -17,7 +17,7 @@
 #include <QToolTip>
 #include <QWindow>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -56,8 +56,8 @@ class DescriptionsWindow : public testing::Test {
     form.FollowSelection();
   }
 
-  Project project;
-  ProjectEditor editor{project.settings, project.IsModified};
+  core::Project project;
+  core::ProjectEditor editor{project.settings, project.IsModified};
   fakes::RecordingMessageBox boxes;
   FieldBinder binder{editor, boxes};
   frmImageDescriptions form{project, binder, boxes, nullptr};
@@ -352,7 +352,7 @@ TEST_F(DescriptionsWindow, ClearAllClearsTheKindOfItsTab) {
   EXPECT_EQ(project.images.Entry(2).ThumbnailDescription, "R");
   EXPECT_TRUE(project.IsModified);
   ShowThumbnails();
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   Click(form, "btnClearAll");
   EXPECT_EQ(boxes.boxes[1].title, "Clear Thumbnail Descriptions");
   EXPECT_EQ(Box("textThumbDescription").toPlainText(), "A");
@@ -452,4 +452,4 @@ TEST_F(DescriptionsWindow, TheTabKeyGoesThroughTheForm) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -25,7 +25,7 @@ class ImageFiltersForm : public testing::Test {
 
   fakes::SampleDesk desk;
   SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, desk.TempFolderLocation()};
-  ImageFilterSettings filters;
+  image::ImageFilterSettings filters;
 };
 
 TEST_F(ImageFiltersForm, ShowsItsSettingsAndItsSample) {
@@ -202,4 +202,4 @@ TEST_F(ImageFiltersForm, WithoutASampleItClosesAtOnceWithTheBox) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -21,9 +21,9 @@ using fakes::Type;
 class LinksForm : public testing::Test {
  protected:
   /// Edits `link` in the dialog and returns the resulting fields, separated by "|".
-  std::string Edit(const LinkSettings& link, const std::function<void(QWidget&)>& drive,
+  std::string Edit(const core::LinkSettings& link, const std::function<void(QWidget&)>& drive,
                    const std::string& label = "Link Graphic &on last Image Wrapper") {
-    LinkSettings result;
+    core::LinkSettings result;
     DriveModal(
         [&] {
           result = EditLink(
@@ -33,7 +33,7 @@ class LinksForm : public testing::Test {
     return result.textLinkLabel + "|" + result.textLinkGraphic + "|" + result.textLinkGraphicDisabled;
   }
 
-  PathMap paths{{{'C', "/home/me"}}};
+  env::PathMap paths{{{'C', "/home/me"}}};
   std::string folder = "C:\\graphics\\";
   fakes::ScriptedFileBrowser browser;
   int edits = 0;
@@ -67,7 +67,7 @@ TEST_F(LinksForm, WithoutALabelTheSecondGraphicIsHidden) {
 }
 
 TEST_F(LinksForm, TheOnlyGraphicOfALinkCanBeTakenAway) {
-  const auto type = [this](const LinkSettings& link, const char* text) {
+  const auto type = [this](const core::LinkSettings& link, const char* text) {
     return Edit(
         link,
         [text](QWidget& form) {
@@ -163,7 +163,7 @@ TEST_F(LinksForm, TwoGraphicsAreBrowsedForOneAfterTheOther) {
 }
 
 TEST_F(LinksForm, HoweverItIsClosedAMissingGraphicTakesTheOther) {
-  const LinkSettings link = {"NEXT", "", "C:\\b.gif"};
+  const core::LinkSettings link = {"NEXT", "", "C:\\b.gif"};
   const std::string expected = "NEXT|C:\\b.gif|C:\\b.gif";
   EXPECT_EQ(Edit(link, [](QWidget& form) { Click(form, "OKButton"); }), expected);
   EXPECT_EQ(Edit(link, [](QWidget& form) { QTest::keyClick(&form, Qt::Key_Return); }), expected);
@@ -177,4 +177,4 @@ TEST_F(LinksForm, TwoEmptyGraphicsStayEmpty) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -17,7 +17,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -26,8 +26,9 @@ using fakes::Find;
 /// Answers from its script, and calls `whileShown` before it returns.
 class BusyMessageBox : public fakes::RecordingMessageBox {
  public:
-  BoxAnswer Show(BoxKind kind, BoxButtons buttons, const std::string& title, const std::string& text) override {
-    const BoxAnswer answer = RecordingMessageBox::Show(kind, buttons, title, text);
+  env::BoxAnswer Show(env::BoxKind kind, env::BoxButtons buttons, const std::string& title,
+                      const std::string& text) override {
+    const env::BoxAnswer answer = RecordingMessageBox::Show(kind, buttons, title, text);
     if (whileShown) whileShown();
     return answer;
   }
@@ -58,8 +59,8 @@ class ProgressForm : public testing::Test {
   BusyMessageBox boxes;
   fakes::Journal journal;
   fakes::RecordingShell shell{journal};
-  CancelCheck cancel{boxes};
-  UploadLog log{program.Path(), clock, boxes};
+  generation::CancelCheck cancel{boxes};
+  publish::UploadLog log{program.Path(), clock, boxes};
   QWidget owner;
   std::unique_ptr<frmProgress> form;
 };
@@ -152,7 +153,7 @@ TEST_F(ProgressForm, TheCaretStaysAtTheEndOfTheLog) {
 }
 
 TEST_F(ProgressForm, AFullLogIsCleared) {
-  form->SetText3(std::string(kFullLogBox, 'x'), true);
+  form->SetText3(std::string(publish::kFullLogBox, 'x'), true);
   form->SetText3("y", true);
   EXPECT_TRUE(Shows([this] { return Log() == "y"; })) << Log().size();
 }
@@ -177,7 +178,7 @@ TEST_F(ProgressForm, TheButtonEscapeAndTheTitleBarAskAtOnce) {
        }}};
   for (const auto& [name, press] : ways) {
     boxes.boxes.clear();
-    boxes.answers = {BoxAnswer::No};
+    boxes.answers = {env::BoxAnswer::No};
     press();
     ASSERT_EQ(boxes.boxes.size(), 1U) << name;
     EXPECT_EQ(boxes.boxes[0].text, "Are you sure you wish to cancel?");
@@ -205,7 +206,7 @@ TEST_F(ProgressForm, AConfirmedCancelIsLoggedAndNotAskedAgain) {
 }
 
 TEST_F(ProgressForm, NothingAsksAgainWhileTheQuestionIsUp) {
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   boxes.whileShown = [this] {
     Click(*form, "CancelButton");
     form->close();
@@ -264,4 +265,4 @@ TEST_F(ProgressForm, WaitingForTheUserSleepsUntilThereIsSomethingToHandle) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -178,11 +178,11 @@ TEST_F(PublishForm, ANewServerIsNamedInItsOwnDialog) {
 }
 
 TEST_F(PublishForm, ALongNameDoesNotWidenTheDialog) {
-  ServerProfile profile = desk.kOne;
+  publish::ServerProfile profile = desk.kOne;
   int width = 0;
   Drive([&](QWidget& form) { width = form.width(); });
   profile.ServerName = std::string(1000, 'x');
-  WriteServerList({profile}, 0, desk.ServerFile());
+  publish::WriteServerList({profile}, 0, desk.ServerFile());
   Drive([&](QWidget& form) { EXPECT_EQ(form.width(), width); });
 }
 
@@ -256,4 +256,4 @@ TEST_F(PublishForm, AMissingFileIsReportedAndGivesAnEmptyDialog) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

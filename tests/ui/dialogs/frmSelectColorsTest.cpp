@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -19,14 +19,14 @@ using fakes::Find;
 struct Pair {
   const char* button;
   const char* element;
-  Color PageColors::*color;
+  core::Color core::PageColors::*color;
 };
 
-constexpr Pair kPairs[] = {{"btnBGColor", "textBG", &PageColors::background},
-                           {"btnFGColor", "lblText", &PageColors::text},
-                           {"btnLinkColor", "lblLink", &PageColors::link},
-                           {"btnVisitedLinkColor", "lblVisitedLink", &PageColors::visitedLink},
-                           {"btnActiveLinkColor", "lblActiveLink", &PageColors::activeLink}};
+constexpr Pair kPairs[] = {{"btnBGColor", "textBG", &core::PageColors::background},
+                           {"btnFGColor", "lblText", &core::PageColors::text},
+                           {"btnLinkColor", "lblLink", &core::PageColors::link},
+                           {"btnVisitedLinkColor", "lblVisitedLink", &core::PageColors::visitedLink},
+                           {"btnActiveLinkColor", "lblActiveLink", &core::PageColors::activeLink}};
 
 class SelectColorsForm : public testing::Test {
  protected:
@@ -37,13 +37,13 @@ class SelectColorsForm : public testing::Test {
   }
 
   /// Returns the buttons' colors. Expects that the sample page shows the same.
-  static PageColors Shown(QWidget& form) {
-    PageColors shown;
+  static core::PageColors Shown(QWidget& form) {
+    core::PageColors shown;
     for (const Pair& pair : kPairs) {
       shown.*pair.color = Find<ColorButton>(form, pair.button).GetColor();
       const QPalette palette = Find<QWidget>(form, pair.element).palette();
       EXPECT_EQ(FromQt(palette.color(QPalette::Window)), Find<ColorButton>(form, "btnBGColor").GetColor());
-      if (pair.color == &PageColors::background) continue;
+      if (pair.color == &core::PageColors::background) continue;
       EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), shown.*pair.color) << pair.element;
     }
     return shown;
@@ -51,8 +51,8 @@ class SelectColorsForm : public testing::Test {
 
   fakes::ScriptedCommonDialogs dialogs;
   ColorDialog dialog{dialogs};
-  PageColors colors = {0xFFFFFF, 0x000000, 0xA00000, 0x800080, 0x0000FF};
-  const PageColors others = {0x111111, 0x222222, 0x333333, 0x444444, 0x555555};
+  core::PageColors colors = {0xFFFFFF, 0x000000, 0xA00000, 0x800080, 0x0000FF};
+  const core::PageColors others = {0x111111, 0x222222, 0x333333, 0x444444, 0x555555};
 };
 
 TEST_F(SelectColorsForm, ShowsItsColorsWithTheFocusOnApply) {
@@ -77,15 +77,15 @@ TEST_F(SelectColorsForm, ShowsItsColorsWithTheFocusOnApply) {
 TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColor) {
   for (const Pair& pair : kPairs) {
     for (const char* control : {pair.button, pair.element}) {
-      const PageColors before = colors;
+      const core::PageColors before = colors;
       dialogs.colors = {0x123456};
       EXPECT_TRUE(Edit([&](QWidget& form) {
-        if (control == pair.element && pair.color == &PageColors::background) {
+        if (control == pair.element && pair.color == &core::PageColors::background) {
           QTest::mouseClick(&Find<QWidget>(form, control), Qt::LeftButton, {}, QPoint(4, 4));  // next to the labels
         } else {
           Click(form, control);
         }
-        PageColors expected = before;
+        core::PageColors expected = before;
         expected.*pair.color = 0x123456;
         EXPECT_EQ(Shown(form), expected) << control;
         Click(form, "OKButton");
@@ -104,7 +104,7 @@ TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColors) {
     for (const Pair& pair : kPairs) {
       const QPalette palette = Find<QWidget>(form, pair.element).palette();
       EXPECT_EQ(FromQt(palette.color(QPalette::Window)), 0x123456U) << pair.element;
-      if (pair.color == &PageColors::background) continue;
+      if (pair.color == &core::PageColors::background) continue;
       EXPECT_EQ(FromQt(palette.color(QPalette::WindowText)), colors.*pair.color) << pair.element;
     }
   });
@@ -138,7 +138,7 @@ TEST_F(SelectColorsForm, TheOtherPagesColorsAreCopied) {
 }
 
 TEST_F(SelectColorsForm, ACopyThatIsCancelledChangesNothing) {
-  const PageColors before = colors;
+  const core::PageColors before = colors;
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Edit(
         [byButton](QWidget& form) {
@@ -164,4 +164,4 @@ TEST_F(SelectColorsForm, WithoutATitleItHasItsOwn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -32,12 +32,12 @@ class TempFolderLocationForm : public testing::Test {
   }
 
   fakes::TemporaryFolder disk;
-  PathMap paths{{{'C', disk.Path().string()}}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'C', disk.Path().string()}}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   fakes::RecordingMessageBox boxes;
   fakes::ScriptedFolderBrowser folders;
-  Preferences preferences;
+  env::Preferences preferences;
 };
 
 TEST_F(TempFolderLocationForm, ComesUpWithTheLocationSelected) {
@@ -152,4 +152,4 @@ TEST_F(TempFolderLocationForm, ANativePathBecomesPathTextWhenItsBoxIsLeft) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -13,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -39,10 +39,10 @@ class WatermarkForm : public testing::Test {
 
   fakes::SampleDesk desk;
   fakes::ScriptedCommonDialogs dialogs;
-  PangoTextRaster texts;
-  Screen screen;
+  image::PangoTextRaster texts;
+  env::Screen screen;
   SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, desk.TempFolderLocation()};
-  WatermarkSettings watermark{.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
+  image::WatermarkSettings watermark{.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
   std::int16_t quality = 85;
 };
 
@@ -89,7 +89,7 @@ TEST_F(WatermarkForm, HasItsTextsAndToolTips) {
 }
 
 TEST_F(WatermarkForm, AFontOfAnyNameIsReportedAsItIsAndMakesTheDialogNoWider) {
-  dialogs.fonts = {FontDescription{.Name = "<B>" + std::string(300, 'W'), .Size = 20}};
+  dialogs.fonts = {env::FontDescription{.Name = "<B>" + std::string(300, 'W'), .Size = 20}};
   Edit([](QWidget& form) {
     const int width = form.width();
     Click(form, "btnBrowseFont");
@@ -114,7 +114,7 @@ TEST_F(WatermarkForm, HasTheLimitsAndStepsOfItsSliders) {
 }
 
 TEST_F(WatermarkForm, AppliesWhatWasSetWithKeysAndMouse) {
-  dialogs.fonts = {FontDescription{.Name = "Serif", .Size = 20, .Weight = 400, .Italic = true, .Color = 0x0000FF}};
+  dialogs.fonts = {env::FontDescription{.Name = "Serif", .Size = 20, .Weight = 400, .Italic = true, .Color = 0x0000FF}};
   const bool applied = Edit([](QWidget& form) {
     auto& text = Find<QPlainTextEdit>(form, "textWatermark");
     Type(text, "Z");
@@ -202,7 +202,7 @@ TEST_F(WatermarkForm, WhileASliderIsDraggedOnlyItsNumberFollows) {
 }
 
 TEST_F(WatermarkForm, CancelLeavesTheSettingsAlone) {
-  dialogs.fonts = {FontDescription{.Name = "Serif"}, FontDescription{.Name = "Serif"}};
+  dialogs.fonts = {env::FontDescription{.Name = "Serif"}, env::FontDescription{.Name = "Serif"}};
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Edit([byButton](QWidget& form) {
       Type(Find<QPlainTextEdit>(form, "textWatermark"), "other");
@@ -242,4 +242,4 @@ TEST_F(WatermarkForm, ATemporaryFolderThatIsBlockedClosesItWithTheBox) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

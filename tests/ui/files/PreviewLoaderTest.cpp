@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 class Loading : public testing::Test {
@@ -21,7 +21,7 @@ class Loading : public testing::Test {
     QTest::qWait(50);
   }
 
-  const PictureSize box = {.width = 100, .height = 100};
+  const image::PictureSize box = {.width = 100, .height = 100};
   fakes::TemporaryFolder folder;
   std::unique_ptr<PreviewLoader> loader = std::make_unique<PreviewLoader>();
   std::vector<QSize> sizes;
@@ -71,4 +71,4 @@ TEST_F(Loading, ItCanBeDestroyedInTheMiddle) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// A GIF file of 6 x 4 red pixels.
@@ -68,4 +68,4 @@ TEST(ReadPictureFile, WhatIsNotAPictureIsNull) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

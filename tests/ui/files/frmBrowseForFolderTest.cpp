@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QPushButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -107,7 +107,7 @@ TEST_F(FolderDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
 }
 
 TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
-  const PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', desk.disk.Path().string()}, {'Z', "/"}}};
+  const env::PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', desk.disk.Path().string()}, {'Z', "/"}}};
   frmBrowseForFolder form(paths);
   form.SetSelectedPath("D:\\photos");
   const FolderTree& tree = Tree(form);
@@ -131,4 +131,4 @@ TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QStyleOptionViewItem>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -166,4 +166,4 @@ TEST_F(ImageFoldersDialog, TheTreeGrowsWithTheWindow) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

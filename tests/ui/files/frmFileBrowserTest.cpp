@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <QTreeView>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -37,7 +37,7 @@ class FileDialog : public testing::Test {
     return {.multiSelect = several,
             .title = "Add Images",
             .initialFolder = "C:\\photos",
-            .filter = ImageFileFilter(),
+            .filter = core::ImageFileFilter(),
             .preview = true};
   }
 
@@ -445,7 +445,7 @@ TEST_F(FileDialog, AFileThatIsNotThereIsReportedAndTheDialogStays) {
 
 TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
   desk.disk.Write("my.gpj", "old");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   const FileDialogRequest request{.open = false,
                                   .title = "Save Gallery Project As",
                                   .initialFolder = "C:\\",
@@ -465,4 +465,4 @@ TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <QScreen>
 #include <fstream>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::DriveModal;
@@ -135,4 +135,4 @@ TEST_F(FullScreenPreview, AClickClosesIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Real runs with photographs.
@@ -44,7 +44,7 @@ TEST_F(RunInItsWindow, GoesThroughToItsEndAndGivesTheMainWindowBack) {
     wasDisabled = !host.window.isEnabled() && window.isEnabled();
     return true;
   });
-  EXPECT_EQ(Create(), RunEnd::Success);
+  EXPECT_EQ(Create(), generation::RunEnd::Success);
   EXPECT_TRUE(wasDisabled);
   EXPECT_TRUE(host.window.isEnabled());
   EXPECT_TRUE(host.progress.isNull());
@@ -52,7 +52,7 @@ TEST_F(RunInItsWindow, GoesThroughToItsEndAndGivesTheMainWindowBack) {
 }
 
 TEST_F(RunInItsWindow, IsCancelledThroughTheButtonInMidRun) {
-  boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   std::int32_t refusedAt = 0;
   std::int32_t confirmedAt = 0;
   Watch([&](frmProgress& window) {
@@ -61,7 +61,7 @@ TEST_F(RunInItsWindow, IsCancelledThroughTheButtonInMidRun) {
     (boxes.boxes.size() == 1 ? refusedAt : confirmedAt) = window.GetProgress();
     return boxes.boxes.size() == 2;
   });
-  EXPECT_EQ(Create(), RunEnd::Cancelled);
+  EXPECT_EQ(Create(), generation::RunEnd::Cancelled);
   ASSERT_EQ(boxes.boxes.size(), 3U);
   EXPECT_EQ(boxes.boxes[0].title, "Cancel Request");
   EXPECT_EQ(boxes.boxes[1].title, "Cancel Request");
@@ -82,11 +82,11 @@ TEST_F(RunInItsWindow, AFailureStaysUntilItIsClosed) {
     fakes::Click(window, "CancelButton");
     return true;
   });
-  EXPECT_EQ(Create(), RunEnd::Failure);
+  EXPECT_EQ(Create(), generation::RunEnd::Failure);
   EXPECT_TRUE(host.window.isEnabled());
   EXPECT_TRUE(host.progress.isNull());
   EXPECT_EQ(journal, (fakes::Journal{"beep warning", "open T:\\program/ftplog.txt", "beep information"}));
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 
 #include <QTabBar>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Find;
@@ -39,4 +39,4 @@ TEST(Focus, NoPageThatGoesLeavesItToAButtonThatDestroys) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

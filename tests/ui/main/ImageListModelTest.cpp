@@ -3,10 +3,10 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-void Add(ImageList& images, const std::string& name) {
+void Add(core::ImageList& images, const std::string& name) {
   images.Insert(images.Count() + 1, {.ImageName = name,
                                      .SourcePath = "C:\\" + name,
                                      .SizeKey = {},
@@ -22,7 +22,7 @@ class ListModel : public testing::Test {
     model.Refresh();
   }
 
-  ImageList images;
+  core::ImageList images;
   ImageListModel model{images};
   QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
@@ -67,4 +67,4 @@ TEST_F(ListModel, RowsCanBeDraggedAndDroppedOn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QTimer>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -79,4 +79,4 @@ TEST_F(DraggingRows, DropsFromElsewhereAreIgnored) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -19,7 +19,7 @@
 
 #include <QtTest/qtestspontaneevent.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -30,7 +30,7 @@ using fakes::Type;
 
 class AroundTheMainWindow : public testing::Test {
  protected:
-  [[nodiscard]] const Project& Now() const { return desk.model->CurrentProject(); }
+  [[nodiscard]] const core::Project& Now() const { return desk.model->CurrentProject(); }
 
   MainDesk desk;
 };
@@ -362,4 +362,4 @@ TEST_F(AroundTheMainWindow, APastedTitleIsOneLine) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <QWindow>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -55,7 +55,7 @@ class RunOfTheMainWindow : public testing::Test {
 };
 
 TEST_F(RunOfTheMainWindow, HasTheWaitPointerOnTheMainWindowAndOnNoOtherBeforeAConfirmedCancel) {
-  desk.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Create([&](frmProgress& progress) {
     EXPECT_EQ(MainPointer(), Qt::WaitCursor);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "it would lie over all windows";
@@ -115,4 +115,4 @@ TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QMenuBar>
 #include <map>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::MainDesk;
@@ -44,4 +44,4 @@ TEST(Mnemonics, AreUniqueOnEachPageAndAgainstTheMenus) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <QPlainTextEdit>
 #include <QSlider>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -24,7 +24,7 @@ class DialogsOfPages : public testing::Test {
     desk.GoTo(page);
     DriveModal([&] { Click(*desk.window, button); }, drive);
   }
-  [[nodiscard]] const GalleryProject& Settings() const { return desk.Settings(); }
+  [[nodiscard]] const core::GalleryProject& Settings() const { return desk.Settings(); }
   [[nodiscard]] bool Modified() const { return desk.model->CurrentProject().IsModified; }
 
   MainDesk desk;
@@ -218,4 +218,4 @@ TEST_F(DialogsOfPages, AnImageFillsTheScreen) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

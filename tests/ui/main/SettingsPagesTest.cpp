@@ -12,7 +12,7 @@
 #include <QToolButton>
 #include <set>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -46,16 +46,16 @@ class SettingsOnPages : public testing::Test {
   }
 
   StartedDesk desk;
-  const GalleryProject& settings = desk.Settings();
+  const core::GalleryProject& settings = desk.Settings();
 };
 
 TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
   std::set<std::string_view> edited;
-  for (const ProjectField* field : desk.window->Binder().BoundFields()) {
+  for (const core::ProjectField* field : desk.window->Binder().BoundFields()) {
     EXPECT_TRUE(edited.insert(field->name).second) << field->name << " has two controls";
   }
   const auto add = [&edited](auto member) {
-    EXPECT_TRUE(edited.insert(FieldOf(member).name).second) << FieldOf(member).name;
+    EXPECT_TRUE(edited.insert(core::FieldOf(member).name).second) << core::FieldOf(member).name;
   };
   for (const auto& row : CodeButtons()) add(row.code);
   for (const auto& row : HeaderFooterButtons()) {
@@ -86,32 +86,32 @@ TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
   edited.insert("ThumbnailFrameSize");
   edited.insert("ImageFrameSize");
 
-  for (const ProjectField& field : ProjectFields()) EXPECT_EQ(edited.count(field.name), 1U) << field.name;
-  EXPECT_EQ(edited.size(), ProjectFields().size());
+  for (const core::ProjectField& field : core::ProjectFields()) EXPECT_EQ(edited.count(field.name), 1U) << field.name;
+  EXPECT_EQ(edited.size(), core::ProjectFields().size());
 }
 
 TEST_F(SettingsOnPages, EveryTextReachesItsField) {
   struct Row {
     Page page;
     const char* control;
-    std::string GalleryProject::*field;
+    std::string core::GalleryProject::*field;
   };
   ClickOn(Wrappers, "checkImageWrapperImageKeepAspectRatio");
   const Row rows[] = {
-      {Gallery, "textGalleryTitle", &GalleryProject::textGalleryTitle},
-      {Gallery, "textGallerySlideShowDelay", &GalleryProject::textGallerySlideShowDelay},
-      {Wrappers, "textImageWrapperImageWidth", &GalleryProject::textImageWrapperImageWidth},
-      {Wrappers, "textImageWrapperImageHeight", &GalleryProject::textImageWrapperImageHeight},
-      {Wrappers, "textImageWrapperBackdrop", &GalleryProject::textImageWrapperBackdrop},
-      {Thumbnails, "textThumbnailsTableRows", &GalleryProject::textThumbnailsTableRows},
-      {Thumbnails, "textThumbnailsTableColumns", &GalleryProject::textThumbnailsTableColumns},
-      {Thumbnails, "textThumbnailsTableBorder", &GalleryProject::textThumbnailsTableBorder},
-      {Thumbnails, "textThumbnailsTableCellSpacing", &GalleryProject::textThumbnailsTableCellSpacing},
-      {Thumbnails, "textThumbnailsTableCellPadding", &GalleryProject::textThumbnailsTableCellPadding},
-      {Thumbnails, "textThumbnailsTableBackdrop", &GalleryProject::textThumbnailsTableBackdrop},
-      {Thumbnails, "textThumbnailsPageBackdrop", &GalleryProject::textThumbnailsPageBackdrop},
-      {Thumbnails, "textThumbnailsImageWidth", &GalleryProject::textThumbnailsImageWidth},
-      {Thumbnails, "textThumbnailsImageHeight", &GalleryProject::textThumbnailsImageHeight},
+      {Gallery, "textGalleryTitle", &core::GalleryProject::textGalleryTitle},
+      {Gallery, "textGallerySlideShowDelay", &core::GalleryProject::textGallerySlideShowDelay},
+      {Wrappers, "textImageWrapperImageWidth", &core::GalleryProject::textImageWrapperImageWidth},
+      {Wrappers, "textImageWrapperImageHeight", &core::GalleryProject::textImageWrapperImageHeight},
+      {Wrappers, "textImageWrapperBackdrop", &core::GalleryProject::textImageWrapperBackdrop},
+      {Thumbnails, "textThumbnailsTableRows", &core::GalleryProject::textThumbnailsTableRows},
+      {Thumbnails, "textThumbnailsTableColumns", &core::GalleryProject::textThumbnailsTableColumns},
+      {Thumbnails, "textThumbnailsTableBorder", &core::GalleryProject::textThumbnailsTableBorder},
+      {Thumbnails, "textThumbnailsTableCellSpacing", &core::GalleryProject::textThumbnailsTableCellSpacing},
+      {Thumbnails, "textThumbnailsTableCellPadding", &core::GalleryProject::textThumbnailsTableCellPadding},
+      {Thumbnails, "textThumbnailsTableBackdrop", &core::GalleryProject::textThumbnailsTableBackdrop},
+      {Thumbnails, "textThumbnailsPageBackdrop", &core::GalleryProject::textThumbnailsPageBackdrop},
+      {Thumbnails, "textThumbnailsImageWidth", &core::GalleryProject::textThumbnailsImageWidth},
+      {Thumbnails, "textThumbnailsImageHeight", &core::GalleryProject::textThumbnailsImageHeight},
   };
   for (const Row& row : rows) {
     Type(On<QLineEdit>(row.page, row.control), "17");
@@ -125,30 +125,35 @@ TEST_F(SettingsOnPages, EveryNumberHasASpinner) {
     Page page;
     const char* text;
     const char* spinner;
-    std::string GalleryProject::*field;
+    std::string core::GalleryProject::*field;
   };
   ClickOn(Wrappers, "checkImageWrapperImageKeepAspectRatio");
   ClickOn(PageLinks, "checkPageLinksThumbnailDirectLinks");
   const Row rows[] = {
-      {Gallery, "textGalleryFrameSize", "udGalleryFrameSize", &GalleryProject::textGalleryFrameSize},
+      {Gallery, "textGalleryFrameSize", "udGalleryFrameSize", &core::GalleryProject::textGalleryFrameSize},
       {Gallery, "textGallerySlideShowAutoStartDelay", "udGallerySlideShowAutoStartDelay",
-       &GalleryProject::textGallerySlideShowAutoStartDelay},
-      {Gallery, "textGallerySlideShowDelay", "udGallerySlideShowDelay", &GalleryProject::textGallerySlideShowDelay},
-      {Wrappers, "textImageWrapperImageWidth", "udImageWrapperImageWidth", &GalleryProject::textImageWrapperImageWidth},
+       &core::GalleryProject::textGallerySlideShowAutoStartDelay},
+      {Gallery, "textGallerySlideShowDelay", "udGallerySlideShowDelay",
+       &core::GalleryProject::textGallerySlideShowDelay},
+      {Wrappers, "textImageWrapperImageWidth", "udImageWrapperImageWidth",
+       &core::GalleryProject::textImageWrapperImageWidth},
       {Wrappers, "textImageWrapperImageHeight", "udImageWrapperImageHeight",
-       &GalleryProject::textImageWrapperImageHeight},
-      {Thumbnails, "textThumbnailsTableRows", "udThumbnailsTableRows", &GalleryProject::textThumbnailsTableRows},
+       &core::GalleryProject::textImageWrapperImageHeight},
+      {Thumbnails, "textThumbnailsTableRows", "udThumbnailsTableRows", &core::GalleryProject::textThumbnailsTableRows},
       {Thumbnails, "textThumbnailsTableColumns", "udThumbnailsTableColumns",
-       &GalleryProject::textThumbnailsTableColumns},
-      {Thumbnails, "textThumbnailsTableBorder", "udThumbnailsTableBorder", &GalleryProject::textThumbnailsTableBorder},
+       &core::GalleryProject::textThumbnailsTableColumns},
+      {Thumbnails, "textThumbnailsTableBorder", "udThumbnailsTableBorder",
+       &core::GalleryProject::textThumbnailsTableBorder},
       {Thumbnails, "textThumbnailsTableCellSpacing", "udThumbnailsTableCellSpacing",
-       &GalleryProject::textThumbnailsTableCellSpacing},
+       &core::GalleryProject::textThumbnailsTableCellSpacing},
       {Thumbnails, "textThumbnailsTableCellPadding", "udThumbnailsTableCellPadding",
-       &GalleryProject::textThumbnailsTableCellPadding},
-      {Thumbnails, "textThumbnailsImageWidth", "udThumbnailsImageWidth", &GalleryProject::textThumbnailsImageWidth},
-      {Thumbnails, "textThumbnailsImageHeight", "udThumbnailsImageHeight", &GalleryProject::textThumbnailsImageHeight},
+       &core::GalleryProject::textThumbnailsTableCellPadding},
+      {Thumbnails, "textThumbnailsImageWidth", "udThumbnailsImageWidth",
+       &core::GalleryProject::textThumbnailsImageWidth},
+      {Thumbnails, "textThumbnailsImageHeight", "udThumbnailsImageHeight",
+       &core::GalleryProject::textThumbnailsImageHeight},
       {PageLinks, "textPageLinksThumbnailMaxDirectLinks", "udPageLinksThumbnailMaxDirectLinks",
-       &GalleryProject::textPageLinksThumbnailMaxDirectLinks},
+       &core::GalleryProject::textPageLinksThumbnailMaxDirectLinks},
   };
   for (const Row& row : rows) {
     desk.GoTo(row.page);
@@ -163,29 +168,29 @@ TEST_F(SettingsOnPages, EveryCheckBoxReachesItsField) {
   struct Row {
     Page page;
     const char* control;
-    Flag GalleryProject::*field;
+    core::Flag core::GalleryProject::*field;
   };
   const Row rows[] = {
-      {Wrappers, "checkImageWrapperImagePhysicalResize", &GalleryProject::checkImageWrapperImagePhysicalResize},
-      {Wrappers, "checkImageWrapperImageSizesInPercent", &GalleryProject::checkImageWrapperImageSizesInPercent},
-      {Wrappers, "checkImageWrapperImageSetWidth", &GalleryProject::checkImageWrapperImageSetWidth},
-      {Wrappers, "checkImageWrapperImageKeepAspectRatio", &GalleryProject::checkImageWrapperImageKeepAspectRatio},
-      {Wrappers, "checkImageWrapperImageKeepSize", &GalleryProject::checkImageWrapperImageKeepSize},
-      {Wrappers, "checkImageWrapperSetColors", &GalleryProject::checkImageWrapperSetColors},
-      {Wrappers, "checkImageWrapperUse", &GalleryProject::checkImageWrapperUse},
-      {Gallery, "checkGallerySlideShow", &GalleryProject::checkGallerySlideShow},
-      {Thumbnails, "checkThumbnailsTableUseBGColor", &GalleryProject::checkThumbnailsTableUseBGColor},
-      {Thumbnails, "checkThumbnailsPageSetColors", &GalleryProject::checkThumbnailsPageSetColors},
-      {Thumbnails, "checkThumbnailsImageKeepAspectRatio", &GalleryProject::checkThumbnailsImageKeepAspectRatio},
-      {Thumbnails, "checkThumbnailsImageSetWidth", &GalleryProject::checkThumbnailsImageSetWidth},
-      {Captions, "checkCaptionsImagesRegular", &GalleryProject::checkCaptionsImagesRegular},
-      {Captions, "checkCaptionsImagesPopup", &GalleryProject::checkCaptionsImagesPopup},
-      {Captions, "checkCaptionsThumbnailsRegular", &GalleryProject::checkCaptionsThumbnailsRegular},
-      {Captions, "checkCaptionsThumbnailsPopup", &GalleryProject::checkCaptionsThumbnailsPopup},
-      {PageLinks, "checkPageLinksThumbnailDirectLinks", &GalleryProject::checkPageLinksThumbnailDirectLinks},
+      {Wrappers, "checkImageWrapperImagePhysicalResize", &core::GalleryProject::checkImageWrapperImagePhysicalResize},
+      {Wrappers, "checkImageWrapperImageSizesInPercent", &core::GalleryProject::checkImageWrapperImageSizesInPercent},
+      {Wrappers, "checkImageWrapperImageSetWidth", &core::GalleryProject::checkImageWrapperImageSetWidth},
+      {Wrappers, "checkImageWrapperImageKeepAspectRatio", &core::GalleryProject::checkImageWrapperImageKeepAspectRatio},
+      {Wrappers, "checkImageWrapperImageKeepSize", &core::GalleryProject::checkImageWrapperImageKeepSize},
+      {Wrappers, "checkImageWrapperSetColors", &core::GalleryProject::checkImageWrapperSetColors},
+      {Wrappers, "checkImageWrapperUse", &core::GalleryProject::checkImageWrapperUse},
+      {Gallery, "checkGallerySlideShow", &core::GalleryProject::checkGallerySlideShow},
+      {Thumbnails, "checkThumbnailsTableUseBGColor", &core::GalleryProject::checkThumbnailsTableUseBGColor},
+      {Thumbnails, "checkThumbnailsPageSetColors", &core::GalleryProject::checkThumbnailsPageSetColors},
+      {Thumbnails, "checkThumbnailsImageKeepAspectRatio", &core::GalleryProject::checkThumbnailsImageKeepAspectRatio},
+      {Thumbnails, "checkThumbnailsImageSetWidth", &core::GalleryProject::checkThumbnailsImageSetWidth},
+      {Captions, "checkCaptionsImagesRegular", &core::GalleryProject::checkCaptionsImagesRegular},
+      {Captions, "checkCaptionsImagesPopup", &core::GalleryProject::checkCaptionsImagesPopup},
+      {Captions, "checkCaptionsThumbnailsRegular", &core::GalleryProject::checkCaptionsThumbnailsRegular},
+      {Captions, "checkCaptionsThumbnailsPopup", &core::GalleryProject::checkCaptionsThumbnailsPopup},
+      {PageLinks, "checkPageLinksThumbnailDirectLinks", &core::GalleryProject::checkPageLinksThumbnailDirectLinks},
   };
   for (const Row& row : rows) {
-    const Flag before = settings.*row.field;
+    const core::Flag before = settings.*row.field;
     auto& box = On<QCheckBox>(row.page, row.control);
     EXPECT_EQ(box.isChecked(), before == 1) << row.control;
     Click(box);
@@ -198,28 +203,30 @@ TEST_F(SettingsOnPages, EveryListReachesItsFieldAndHasItsTexts) {
   struct Row {
     Page page;
     const char* control;
-    Choice GalleryProject::*field;
+    core::Choice core::GalleryProject::*field;
   };
   ClickOn(Gallery, "checkGallerySlideShow");
   ClickOn(Captions, "checkCaptionsImagesRegular");
   ClickOn(Captions, "checkCaptionsThumbnailsRegular");
   const Row rows[] = {
-      {Gallery, "comboGallerySlideShowBeginWith", &GalleryProject::comboGallerySlideShowBeginWith},
-      {Gallery, "comboGallerySlideShowStartOverWith", &GalleryProject::comboGallerySlideShowStartOverWith},
-      {Gallery, "comboGallerySlideShowActionAfterImage", &GalleryProject::comboGallerySlideShowActionAfterImage},
-      {Thumbnails, "comboThumbnailsTableAlignment", &GalleryProject::comboThumbnailsTableAlignment},
-      {Captions, "comboCaptionsImagesRegularPlacement", &GalleryProject::comboCaptionsImagesRegularPlacement},
-      {Captions, "comboCaptionsImagesRegularAlignment", &GalleryProject::comboCaptionsImagesRegularAlignment},
-      {Captions, "comboCaptionsThumbnailsRegularPlacement", &GalleryProject::comboCaptionsThumbnailsRegularPlacement},
-      {Captions, "comboCaptionsThumbnailsRegularAlignment", &GalleryProject::comboCaptionsThumbnailsRegularAlignment},
-      {PageLinks, "comboPageLinksThumbnailLinkPlacement", &GalleryProject::comboPageLinksThumbnailLinkPlacement},
-      {PageLinks, "comboPageLinksImageLinkPlacement", &GalleryProject::comboPageLinksImageLinkPlacement},
-      {Gallery, "comboGalleryLayoutType", &GalleryProject::comboGalleryLayoutType},
-      {Gallery, "comboGalleryFrameSizingPriority", &GalleryProject::comboGalleryFrameSizingPriority},
+      {Gallery, "comboGallerySlideShowBeginWith", &core::GalleryProject::comboGallerySlideShowBeginWith},
+      {Gallery, "comboGallerySlideShowStartOverWith", &core::GalleryProject::comboGallerySlideShowStartOverWith},
+      {Gallery, "comboGallerySlideShowActionAfterImage", &core::GalleryProject::comboGallerySlideShowActionAfterImage},
+      {Thumbnails, "comboThumbnailsTableAlignment", &core::GalleryProject::comboThumbnailsTableAlignment},
+      {Captions, "comboCaptionsImagesRegularPlacement", &core::GalleryProject::comboCaptionsImagesRegularPlacement},
+      {Captions, "comboCaptionsImagesRegularAlignment", &core::GalleryProject::comboCaptionsImagesRegularAlignment},
+      {Captions, "comboCaptionsThumbnailsRegularPlacement",
+       &core::GalleryProject::comboCaptionsThumbnailsRegularPlacement},
+      {Captions, "comboCaptionsThumbnailsRegularAlignment",
+       &core::GalleryProject::comboCaptionsThumbnailsRegularAlignment},
+      {PageLinks, "comboPageLinksThumbnailLinkPlacement", &core::GalleryProject::comboPageLinksThumbnailLinkPlacement},
+      {PageLinks, "comboPageLinksImageLinkPlacement", &core::GalleryProject::comboPageLinksImageLinkPlacement},
+      {Gallery, "comboGalleryLayoutType", &core::GalleryProject::comboGalleryLayoutType},
+      {Gallery, "comboGalleryFrameSizingPriority", &core::GalleryProject::comboGalleryFrameSizingPriority},
   };
   for (const Row& row : rows) {
     auto& list = On<QComboBox>(row.page, row.control);
-    EXPECT_EQ(static_cast<std::size_t>(list.count()), FieldOf(row.field).values.size()) << row.control;
+    EXPECT_EQ(static_cast<std::size_t>(list.count()), core::FieldOf(row.field).values.size()) << row.control;
     EXPECT_EQ(list.currentIndex(), settings.*row.field) << row.control;
     const bool last = list.currentIndex() == list.count() - 1;
     const int wanted = list.currentIndex() + (last ? -1 : 1);
@@ -353,15 +360,15 @@ TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {
     Page page;
     const char* button;
     const char* title;
-    std::string GalleryProject::*field;
+    std::string core::GalleryProject::*field;
   };
   const Row rows[] = {
       {Wrappers, "btnImageWrapperBackdropBrowse", "Select Backdrop Image for Image (Wrapper) Page",
-       &GalleryProject::textImageWrapperBackdrop},
+       &core::GalleryProject::textImageWrapperBackdrop},
       {Thumbnails, "btnThumbnailsPageBackDropBrowse", "Select Backdrop Image for Thumbnail Page",
-       &GalleryProject::textThumbnailsPageBackdrop},
+       &core::GalleryProject::textThumbnailsPageBackdrop},
       {Thumbnails, "btnThumbnailsTableBackdropBrowse", "Select Thumbnail Table Backdrop Image",
-       &GalleryProject::textThumbnailsTableBackdrop},
+       &core::GalleryProject::textThumbnailsTableBackdrop},
   };
   for (const Row& row : rows) {
     desk.fileBrowser.answer = {"T:\\a.gif", "T:\\", {"T:\\a.gif"}};
@@ -436,7 +443,7 @@ TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
   ChooseNext(Gallery, "comboGalleryLayoutType");
   ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
   EXPECT_NE(RuledControls(*desk.window), before);
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   desk.Trigger("menuFileNew");
   EXPECT_EQ(RuledControls(*desk.window), before);
   EXPECT_FALSE(desk.model->CurrentProject().IsModified);
@@ -501,4 +508,4 @@ TEST_F(SettingsOnPages, EachButtonOpensItsDialog) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

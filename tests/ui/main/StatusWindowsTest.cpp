@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Find;
@@ -83,4 +83,4 @@ TEST(InfoForm, GivesThePointerBackWhenItGoesWhileShown) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

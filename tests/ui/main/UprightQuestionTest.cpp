@@ -2,7 +2,7 @@
 #include "tests/fakes/PhotographMaker.h"
 #include "tests/ui/ImagesDesk.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -23,7 +23,7 @@ TEST_F(UprightQuestionOnThePage, WhenPhotographsThatLieAreAddedTheUserIsAskedOnc
   const auto asked = [this](std::size_t times) {
     return QTest::qWaitFor([&] { return desk.boxes.boxes.size() == times; }, 10000);
   };
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   AddLying("a.jpg");
   ASSERT_TRUE(asked(1));
   EXPECT_EQ(desk.boxes.boxes[0].title, "Photographs on their Side");
@@ -67,4 +67,4 @@ TEST_F(UprightQuestionOnThePage, TheQuestionAboutPhotographsThatLieWaitsWhileThe
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QTimer>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -118,4 +118,4 @@ TEST_P(ServerWithPassword, AWrongPasswordFailsWithALogThatCanBeReadAndAWindowToC
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

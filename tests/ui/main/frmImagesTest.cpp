@@ -11,7 +11,7 @@
 #include <QSignalSpy>
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -49,7 +49,7 @@ class ImagesPage : public testing::Test {
   }
 
   fakes::ImagesDesk desk;
-  ImageList& images = desk.project.images;
+  core::ImageList& images = desk.project.images;
 };
 
 // Display
@@ -168,7 +168,7 @@ TEST_F(ImagesPage, WithoutACurrentRowThePreviewIsEmpty) {
   desk.AddAll({"a.jpg"});
   desk.ClickRow(0);
   ASSERT_TRUE(PreviewShows());
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   Click(*desk.page, "btnImagesRemoveAll");
   EXPECT_TRUE(Preview().Picture().isNull());
   EXPECT_EQ(Size(), "");
@@ -220,7 +220,7 @@ TEST_F(ImagesPage, AnImageThatDoesNotDecodeIsAskedAbout) {
   Answer([&](QWidget& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmInvalidImage");
     EXPECT_EQ(Find<QLabel>(dialog, "lblImageName").text(), "bad.jpg");
-    EXPECT_EQ(desk.shell.beeps, (std::vector<BeepKind>{BeepKind::Warning}));
+    EXPECT_EQ(desk.shell.beeps, (std::vector<env::BeepKind>{env::BeepKind::Warning}));
     Click(dialog, "btnIgnore");
   });
   EXPECT_TRUE(Preview().Picture().isNull());
@@ -343,7 +343,7 @@ TEST_F(ImagesPage, DeleteRemovesRowAfterRowWithoutSelecting) {
 
 TEST_F(ImagesPage, AllAreRemovedOnlyAfterAQuestion) {
   desk.AddAll({"a.jpg", "b.jpg"});
-  desk.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Click(*desk.page, "btnImagesRemoveAll");
   EXPECT_EQ(images.Count(), 2U);
   Click(*desk.page, "btnImagesRemoveAll");
@@ -388,11 +388,11 @@ TEST_F(ImagesPage, ASortingOrderIsAskedAboutAndKept) {
   desk.AddAll({"b.jpg", "c.jpg", "a.jpg"});
   auto& combo = Find<QComboBox>(*desk.page, "comboImagesSortingOrder");
   combo.setFocus();
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   QTest::keyClick(&combo, Qt::Key_Down);
   EXPECT_EQ(combo.currentIndex(), 0);
   EXPECT_EQ(desk.ShownText(0), "b.jpg");
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   QTest::keyClick(&combo, Qt::Key_Down);
   EXPECT_EQ(combo.currentIndex(), 1);
   EXPECT_EQ(desk.Names(), (Names{"a.jpg", "b.jpg", "c.jpg"}));
@@ -547,11 +547,11 @@ TEST_F(ImagesPage, AShuffleCanBeStopped) {
 
 TEST_F(ImagesPage, AShuffleThatIsNotWantedDoesNothing) {
   desk.AddAll({"a.jpg", "b.jpg"});
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   Click(*desk.page, "btnImagesShuffle");
   EXPECT_EQ(desk.Names(), (Names{"a.jpg", "b.jpg"}));
   EXPECT_FALSE(desk.project.IsModified);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

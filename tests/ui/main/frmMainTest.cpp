@@ -15,7 +15,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -32,7 +32,7 @@ class MainWindow : public testing::Test {
     desk.GoTo(0);
     Type(Find<QLineEdit>(*desk.window, "textGalleryTitle"), title);
   }
-  [[nodiscard]] const Project& Now() const { return desk.model->CurrentProject(); }
+  [[nodiscard]] const core::Project& Now() const { return desk.model->CurrentProject(); }
   /// Sets the answer of the project file dialog.
   void ChooseFile(const std::string& path) { desk.fileBrowser.answer = {path, "", {path}}; }
 
@@ -130,7 +130,7 @@ TEST_F(MainWindow, TheEntriesForPhotographsAreSettingsOfTheProject) {
   EXPECT_EQ(desk.Settings().checkImagesUpright, 0);
   EXPECT_EQ(desk.Settings().checkImagesTrueColors, 1);
   EXPECT_TRUE(checked("menuOptionsTrueColors"));
-  desk.boxes.answers = {BoxAnswer::No};  // to saving
+  desk.boxes.answers = {env::BoxAnswer::No};  // to saving
   desk.Trigger("menuFileNew");
   EXPECT_FALSE(checked("menuOptionsTrueColors")) << "a new project has them off";
 }
@@ -140,7 +140,7 @@ TEST_F(MainWindow, ThePreviewFollowsTheEntryForUprightPhotographs) {
   desk.fileBrowser.answer = {"T:\\lying.jpg", "T:\\", {"lying.jpg"}};
   desk.Start();
   desk.GoTo(1);
-  desk.boxes.answers = {BoxAnswer::No};  // to turning upright
+  desk.boxes.answers = {env::BoxAnswer::No};  // to turning upright
   Click(*desk.window, "btnImagesAddFiles");
   EXPECT_TRUE(QTest::qWaitFor([this] { return desk.TitleOfLastBox() == "Photographs on their Side"; }, 10000));
   const auto& size = Find<QLabel>(*desk.window, "lblImagesSize");
@@ -200,7 +200,7 @@ TEST_F(MainWindow, PreferencesThatCannotBeReadAreReportedOnceAtTheStart) {
   std::filesystem::create_directories(file);
   desk.Start();
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
   EXPECT_EQ(desk.boxes.boxes[0].text,
             "The preferences file cannot be read.  Without it no drive letter has a folder.\r\r" + file.string() +
@@ -233,10 +233,10 @@ TEST_F(MainWindow, ACommandLineThatIsNotAProjectIsReported) {
 TEST_F(MainWindow, NewAsksAboutChangesAndCountsProjects) {
   desk.Start();
   ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::Cancel};
+  desk.boxes.answers = {env::BoxAnswer::Cancel};
   desk.Trigger("menuFileNew");
   EXPECT_EQ(Now().settings.textGalleryTitle, "x");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   desk.Trigger("tbMainNew");
   EXPECT_EQ(desk.Title(), "Vantorium 3.0 - [Gallery2]");
   EXPECT_EQ(Find<QLineEdit>(*desk.window, "textGalleryTitle").text(), "Gallery2");
@@ -247,7 +247,7 @@ TEST_F(MainWindow, OpenReplacesTheProject) {
   desk.AddPhotograph("a.jpg");
   ChooseFile("T:\\a.gpj");
   desk.Trigger("menuFileSaveAs");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   desk.Trigger("menuFileNew");
   EXPECT_EQ(Count(), "0 Image(s)");
   desk.Trigger("menuFileOpen");
@@ -267,16 +267,16 @@ TEST_F(MainWindow, ClosesAtOnceWithoutChanges) {
 TEST_F(MainWindow, AsksBeforeChangesAreLost) {
   desk.Start();
   ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::Cancel};
+  desk.boxes.answers = {env::BoxAnswer::Cancel};
   EXPECT_FALSE(desk.window->close());
   EXPECT_EQ(desk.boxes.boxes.back().title, "Project modified");
   EXPECT_EQ(desk.boxes.boxes.back().text,
             "The current Gallery Project has been modified.  Do you wish to save the changes?");
   EXPECT_TRUE(desk.window->isVisible());
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   ChooseFile("");
   EXPECT_FALSE(desk.window->close()) << "a save that was not done keeps the program open";
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   ChooseFile("T:\\x.gpj");
   EXPECT_TRUE(desk.window->close());
   EXPECT_EQ(desk.closed, 1);
@@ -286,7 +286,7 @@ TEST_F(MainWindow, AsksBeforeChangesAreLost) {
 TEST_F(MainWindow, NoToTheQuestionClosesWithoutSaving) {
   desk.Start();
   ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   EXPECT_TRUE(desk.window->close());
   EXPECT_TRUE(desk.fileBrowser.requests.empty());
 }
@@ -468,7 +468,7 @@ TEST_F(MainWindow, DescriptionsFollowTheListAndComeWithASave) {
   QTest::keyClick(&list, Qt::Key_End);
   EXPECT_EQ(Find<QPlainTextEdit>(tool, "textDescription").toPlainText(), "");
   EXPECT_EQ(Now().images.Entry(1).ImageDescription, "first");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   desk.Trigger("menuFileNew");
   EXPECT_FALSE(tool.isVisible());
 }
@@ -483,7 +483,7 @@ TEST_F(MainWindow, PlacementsInTheOpenDescriptionsWindowAreSavedBeforeAnotherPro
     auto& tool = Find<QWidget>(*desk.window, "frmImageDescriptions");
     auto& placement = Find<QComboBox>(tool, "comboImageDescriptionPlacement");
     QTest::keyClick(&placement, Qt::Key_End);
-    desk.boxes.answers = {BoxAnswer::Yes};
+    desk.boxes.answers = {env::BoxAnswer::Yes};
     desk.fileBrowser.answer = {};
     desk.Trigger(leave);
     desk.Start("T:\\saved.gpj");
@@ -525,4 +525,4 @@ TEST_F(MainWindow, EveryControlHasANameForThoseWhoCannotSeeIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

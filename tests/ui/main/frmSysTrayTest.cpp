@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// The program's tray menu. The platform of these tests has no tray.
@@ -189,4 +189,4 @@ TEST_F(SysTrayForm, EntriesAreAddedAndDisabled) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -11,9 +11,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-inline std::ostream& operator<<(std::ostream& stream, const Browser& browser) {
+inline std::ostream& operator<<(std::ostream& stream, const env::Browser& browser) {
   return stream << browser.Name << " at " << browser.Location;
 }
 
@@ -49,7 +49,7 @@ class ScriptedEntryDialog : public BrowserEntryDialog {
 
 }  // namespace fakes
 
-using Browsers = std::vector<Browser>;
+using Browsers = std::vector<env::Browser>;
 
 /// Browsers named 1 to `count`.
 inline Browsers Numbered(std::size_t count) {
@@ -63,9 +63,9 @@ inline Browsers Numbered(std::size_t count) {
 /// Expects exactly one message box, of kind Critical, with this title and text.
 inline void ExpectOneBox(const fakes::RecordingMessageBox& boxes, const std::string& title, const std::string& text) {
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_EQ(boxes.boxes[0].title, title);
   EXPECT_EQ(boxes.boxes[0].text, text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

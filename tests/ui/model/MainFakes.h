@@ -36,9 +36,9 @@ class RecordingMainView : public MainView {
   void ScrollIntoView(std::size_t position) override { calls_.push_back("scroll to " + std::to_string(position)); }
   void SelectFirstTab() override { calls_.emplace_back("first tab"); }
   void FocusTitleField() override { calls_.emplace_back("title field"); }
-  [[nodiscard]] CustomColors SystemColors() const override { return systemColors; }
+  [[nodiscard]] env::CustomColors SystemColors() const override { return systemColors; }
 
-  CustomColors systemColors = {};
+  env::CustomColors systemColors = {};
 
  private:
   Calls& calls_;
@@ -57,7 +57,7 @@ class RecordingHelperWindows : public HelperWindows {
     if (onPlacings) onPlacings();
   }
   void HideDescriptionsWindow() override { calls_.emplace_back("descriptions hidden"); }
-  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override {
+  [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override {
     calls_.emplace_back("asked");
     return order;
   }
@@ -66,7 +66,7 @@ class RecordingHelperWindows : public HelperWindows {
     return takesTheme;
   }
   void ShowBrowserList(BrowserList& /*list*/) override { calls_.emplace_back("browser list"); }
-  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override {
+  [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override {
     calls_.emplace_back("progress");
     return std::make_unique<RecordingProgress>(progress, calls_);
   }
@@ -75,7 +75,7 @@ class RecordingHelperWindows : public HelperWindows {
 
   std::function<void()> onPlacings;
   bool takesTheme = false;
-  std::optional<RunOrder> order;  ///< nullopt: the user cancels the dialog
+  std::optional<generation::RunOrder> order;  ///< nullopt: the user cancels the dialog
   ProgressRecord progress;
 
  private:
@@ -101,7 +101,7 @@ struct MainModelDesk {
     calls.clear();
   }
   /// Changes the title as a user would.
-  void ChangeTitle(const std::string& title) { model.Editor().Set(&GalleryProject::textGalleryTitle, title); }
+  void ChangeTitle(const std::string& title) { model.Editor().Set(&core::GalleryProject::textGalleryTitle, title); }
   /// Sets the answer of the project file dialog.
   void ChooseFile(const std::string& path) { fileBrowser.answer = {path, "", {path}}; }
   [[nodiscard]] bool Exists(const char* name) const { return std::filesystem::exists(folder.Path() / name); }
@@ -111,19 +111,19 @@ struct MainModelDesk {
 
   TemporaryFolder folder;
   Calls calls;
-  PathMap paths{{{'T', folder.Path().string()}}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'T', folder.Path().string()}}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   RecordedBoxes boxes{calls};
   CountingEventLoop loop;
   RecordingShell shell{calls};
   FixedClock clock;
-  Screen screen;
+  env::Screen screen;
   BoxTextRaster texts{20, 10};
   ScriptedCommonDialogs dialogs;
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;
-  BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
+  env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
   MainModel model{{paths,
                    formats,
                    files,

@@ -15,7 +15,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -32,14 +32,14 @@ class SystemDialogs : public testing::Test {
     return answer;
   }
 
-  PangoTextRaster texts;
+  image::PangoTextRaster texts;
   QtCommonDialogs dialogs{texts};
-  FontDescription font{.Name = "Liberation Sans", .Size = 36, .Weight = 700, .Color = 0xFFFFFF};
+  env::FontDescription font{.Name = "Liberation Sans", .Size = 36, .Weight = 700, .Color = 0xFFFFFF};
 };
 
 TEST_F(SystemDialogs, AColorIsChosenFromTheOneThatIsGiven) {
   std::uint32_t color = 0x302010;
-  CustomColors custom = {};
+  env::CustomColors custom = {};
   custom[3] = 0x0000FF;
   bool answer = false;
   DriveModal([&] { answer = dialogs.ShowColorDialog(color, custom); },
@@ -59,7 +59,7 @@ TEST_F(SystemDialogs, AColorIsChosenFromTheOneThatIsGiven) {
 
 TEST_F(SystemDialogs, ACancelledColorDialogChangesNothing) {
   std::uint32_t color = 0x302010;
-  CustomColors custom = {};
+  env::CustomColors custom = {};
   bool answer = true;
   DriveModal([&] { answer = dialogs.ShowColorDialog(color, custom); },
              [](QWidget& dialog) {
@@ -69,13 +69,13 @@ TEST_F(SystemDialogs, ACancelledColorDialogChangesNothing) {
              });
   EXPECT_FALSE(answer);
   EXPECT_EQ(color, 0x302010U);
-  EXPECT_EQ(custom, CustomColors{});
+  EXPECT_EQ(custom, env::CustomColors{});
 }
 
 TEST_F(SystemDialogs, TheFontDialogBeginsWithItsFont) {
   font.Underline = true;
   font.Italic = true;
-  const FontDescription before = font;
+  const env::FontDescription before = font;
   EXPECT_TRUE(FontDialog([](QWidget& dialog) {
     EXPECT_EQ(Find<QLineEdit>(dialog, "textFontName").text(), "Liberation Sans");
     EXPECT_EQ(Find<QSpinBox>(dialog, "spinFontSize").value(), 36);
@@ -106,13 +106,13 @@ TEST_F(SystemDialogs, EverythingOfAFontIsChosenWithKeysAndMouse) {
     EXPECT_TRUE(Find<QLabel>(dialog, "lblFontSample").font().strikeOut());
     Click(dialog, "OKButton");
   }));
-  EXPECT_EQ(font, (FontDescription{.Name = "Liberation Serif",
-                                   .Size = 20,
-                                   .Weight = 400,
-                                   .Italic = true,
-                                   .Underline = true,
-                                   .Strikeout = true,
-                                   .Color = 0x0000FF}));
+  EXPECT_EQ(font, (env::FontDescription{.Name = "Liberation Serif",
+                                        .Size = 20,
+                                        .Weight = 400,
+                                        .Italic = true,
+                                        .Underline = true,
+                                        .Strikeout = true,
+                                        .Color = 0x0000FF}));
 }
 
 TEST_F(SystemDialogs, TheFontsAreThoseThatTextsAreDrawnWithEachOnce) {
@@ -173,7 +173,7 @@ TEST_F(SystemDialogs, AFontNeedsAName) {
 }
 
 TEST_F(SystemDialogs, ACancelledFontDialogChangesNothing) {
-  const FontDescription before = font;
+  const env::FontDescription before = font;
   EXPECT_FALSE(FontDialog([](QWidget& dialog) {
     Click(dialog, "checkFontBold");
     QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -191,4 +191,4 @@ TEST_F(SystemDialogs, AWeightThatIsNeitherNormalNorBoldIsKept) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

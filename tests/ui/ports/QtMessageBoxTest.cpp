@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::DriveModal;
@@ -55,29 +55,29 @@ TEST(QtMessageBox, BelongsToADialogThatWaitsForTheUser) {
   EXPECT_EQ(OwnerOfABox(), &dialog);
 }
 
-BoxAnswer AnswerTo(BoxButtons buttons, const std::function<void(QWidget&)>& answer) {
-  BoxAnswer given = BoxAnswer::Ok;
+env::BoxAnswer AnswerTo(env::BoxButtons buttons, const std::function<void(QWidget&)>& answer) {
+  env::BoxAnswer given = env::BoxAnswer::Ok;
   QtMessageBox boxes;
-  DriveModal([&] { given = boxes.Show(BoxKind::Question, buttons, "Title", "Are you sure?"); }, answer);
+  DriveModal([&] { given = boxes.Show(env::BoxKind::Question, buttons, "Title", "Are you sure?"); }, answer);
   return given;
 }
 
-BoxAnswer AnswerTo(BoxButtons buttons, Qt::Key key) {
+env::BoxAnswer AnswerTo(env::BoxButtons buttons, Qt::Key key) {
   return AnswerTo(buttons, [key](QWidget& box) { QTest::keyClick(&box, key); });
 }
 
 TEST(QtMessageBox, ReturnAndEscapeAgreeToNothingThatCannotBeTakenBack) {
-  EXPECT_EQ(AnswerTo(BoxButtons::YesNo, Qt::Key_Return), BoxAnswer::No);
-  EXPECT_EQ(AnswerTo(BoxButtons::YesNo, Qt::Key_Escape), BoxAnswer::No);
+  EXPECT_EQ(AnswerTo(env::BoxButtons::YesNo, Qt::Key_Return), env::BoxAnswer::No);
+  EXPECT_EQ(AnswerTo(env::BoxButtons::YesNo, Qt::Key_Escape), env::BoxAnswer::No);
   const auto pressYes = [](QWidget& box) { fakes::Click(*static_cast<QMessageBox&>(box).button(QMessageBox::Yes)); };
-  EXPECT_EQ(AnswerTo(BoxButtons::YesNo, pressYes), BoxAnswer::Yes);
+  EXPECT_EQ(AnswerTo(env::BoxButtons::YesNo, pressYes), env::BoxAnswer::Yes);
 }
 
 TEST(QtMessageBox, ReturnSavesAndEscapeCancels) {
-  EXPECT_EQ(AnswerTo(BoxButtons::YesNoCancel, Qt::Key_Return), BoxAnswer::Yes);
-  EXPECT_EQ(AnswerTo(BoxButtons::YesNoCancel, Qt::Key_Escape), BoxAnswer::Cancel);
-  EXPECT_EQ(AnswerTo(BoxButtons::Ok, Qt::Key_Return), BoxAnswer::Ok);
+  EXPECT_EQ(AnswerTo(env::BoxButtons::YesNoCancel, Qt::Key_Return), env::BoxAnswer::Yes);
+  EXPECT_EQ(AnswerTo(env::BoxButtons::YesNoCancel, Qt::Key_Escape), env::BoxAnswer::Cancel);
+  EXPECT_EQ(AnswerTo(env::BoxButtons::Ok, Qt::Key_Return), env::BoxAnswer::Ok);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using std::chrono::milliseconds;
@@ -20,7 +20,7 @@ constexpr milliseconds kLong{30000};
 class QtShellTest : public testing::Test {
  protected:
   /// A command that waits until a file of that name exists, and then ends with the exit code `code`.
-  [[nodiscard]] ShellCommand WaitingFor(const std::string& name, int code, milliseconds watched = kLong) const {
+  [[nodiscard]] env::ShellCommand WaitingFor(const std::string& name, int code, milliseconds watched = kLong) const {
     const std::string script = "until test -e \"$0\"; do sleep 0.01; done; exit " + std::to_string(code);
     return {{"/bin/sh", "-c", script, (folder.Path() / name).string()}, watched};
   }
@@ -30,10 +30,10 @@ class QtShellTest : public testing::Test {
   }
 
   fakes::TemporaryFolder folder;
-  PathMap paths{{{'C', folder.Path().string()}}};
+  env::PathMap paths{{{'C', folder.Path().string()}}};
   QtShell shell{paths};
   Texts failures;
-  StartFailed note = [this](const RuntimeFailure& failure) { failures.push_back(failure.Description()); };
+  env::StartFailed note = [this](const env::RuntimeFailure& failure) { failures.push_back(failure.Description()); };
 };
 
 TEST_F(QtShellTest, AProgramIsWatchedFromTheEventLoopWhileTheWindowGoesOn) {
@@ -50,7 +50,7 @@ TEST_F(QtShellTest, AProgramThatIsNotThereFailsAtOnce) {
 }
 
 TEST_F(QtShellTest, TheSecondAttemptIsMadeWhenTheFirstHasFailedAndItsFailureIsReportedOnce) {
-  Launch({WaitingFor("first", 3), WaitingFor("second", 4)}, shell, note);
+  env::Launch({WaitingFor("first", 3), WaitingFor("second", 4)}, shell, note);
   LetGoOn("first");
   EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200)) << "the second attempt goes on";
   LetGoOn("second");
@@ -70,7 +70,7 @@ TEST_F(QtShellTest, AProgramThatEndsWellOrGoesOnOrIsNotWatchedHasNotFailed) {
 }
 
 TEST_F(QtShellTest, AMessageAboutTheFailureIsNotShownTwiceWhileItsEventLoopRuns) {
-  shell.Start(WaitingFor("go", 3), [this](const RuntimeFailure& failure) {
+  shell.Start(WaitingFor("go", 3), [this](const env::RuntimeFailure& failure) {
     note(failure);
     QTest::qWait(200);
   });
@@ -88,4 +88,4 @@ TEST_F(QtShellTest, NothingIsReportedAfterTheEndOfTheDesktop) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

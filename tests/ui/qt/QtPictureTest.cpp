@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr QRgb kEmpty = 0xFFFFFFFF;
@@ -18,8 +18,8 @@ QRgb PixelAt(int x, int y) {
   return qRgb(10 + x, 100 + y, 200);
 }
 
-cDIBSection Numbered(int width = 3, int height = 2) {
-  cDIBSection picture;
+image::cDIBSection Numbered(int width = 3, int height = 2) {
+  image::cDIBSection picture;
   EXPECT_TRUE(picture.Create(width, height));
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
@@ -63,7 +63,7 @@ std::string Painted(const BlitArea& to, int sourceX = 0, int sourceY = 0) {
 }
 
 std::string Loaded(const QImage& source, const BlitArea& from) {
-  cDIBSection picture = fakes::PlainPicture(3, 2, 0xFFFFFF);
+  image::cDIBSection picture = fakes::PlainPicture(3, 2, 0xFFFFFF);
   LoadPictureBlt(picture, source, from);
   return Places(ImageOf(picture));
 }
@@ -80,7 +80,7 @@ TEST(QtPicture, AnImageIsUprightAndKeepsItsColors) {
 TEST(QtPicture, AnImageIsACopy) {
   QImage image;
   {
-    cDIBSection picture = Numbered();
+    image::cDIBSection picture = Numbered();
     image = ImageOf(picture);
     picture.Row(0)[0] = 0;
   }
@@ -117,7 +117,7 @@ TEST(QtPicture, PaintingLeavesOutWhatIsOutsideOfThePicture) {
 }
 
 TEST(QtPicture, APictureWithoutPixelsPaintsAndTakesNothing) {
-  cDIBSection picture = Numbered();
+  image::cDIBSection picture = Numbered();
   picture.ClearUp();
   EXPECT_EQ(picture.width(), 3);
   EXPECT_TRUE(ImageOf(picture).isNull());
@@ -153,7 +153,7 @@ TEST(QtPicture, LoadingWithAWidthOrHeightOfNothingCopiesNothing) {
 }
 
 TEST(QtPicture, LoadingLeavesThePaddingAlone) {
-  cDIBSection picture = Numbered(3, 2);
+  image::cDIBSection picture = Numbered(3, 2);
   for (int y = 0; y < 2; ++y) std::fill_n(picture.Row(y) + 9, 3, std::uint8_t{77});
   LoadPictureBlt(picture, NumberedImage(9, 9));
   for (int y = 0; y < 2; ++y) EXPECT_EQ(std::string(picture.Row(y) + 9, picture.Row(y) + 12), "MMM") << y;
@@ -162,7 +162,7 @@ TEST(QtPicture, LoadingLeavesThePaddingAlone) {
 TEST(QtPicture, AnImageOfAnyFormatMakesAPicture) {
   for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888,
                                       QImage::Format_BGR888, QImage::Format_RGBA64}) {
-    cDIBSection picture;
+    image::cDIBSection picture;
     ASSERT_TRUE(CreateFromPicture(picture, NumberedImage().convertToFormat(format))) << format;
     EXPECT_EQ(Places(ImageOf(picture)), "00 10 20\n01 11 21\n") << format;
   }
@@ -171,7 +171,7 @@ TEST(QtPicture, AnImageOfAnyFormatMakesAPicture) {
 TEST(QtPicture, AnImageOfAFineScreenKeepsItsPixels) {
   QImage fine = NumberedImage();
   fine.setDevicePixelRatio(2);
-  cDIBSection picture;
+  image::cDIBSection picture;
   ASSERT_TRUE(CreateFromPicture(picture, fine));
   EXPECT_EQ(Places(ImageOf(picture)), "00 10 20\n01 11 21\n");
 }
@@ -180,14 +180,14 @@ TEST(QtPicture, TransparentPixelsBecomeWhite) {
   QImage glass(2, 1, QImage::Format_ARGB32);
   glass.setPixel(0, 0, qRgba(0, 0, 0, 0));
   glass.setPixel(1, 0, qRgba(0, 0, 0, 255));
-  cDIBSection picture;
+  image::cDIBSection picture;
   ASSERT_TRUE(CreateFromPicture(picture, glass));
   EXPECT_EQ(ImageOf(picture).pixel(0, 0), 0xFFFFFFFF);
   EXPECT_EQ(ImageOf(picture).pixel(1, 0), 0xFF000000);
 }
 
 TEST(QtPicture, ASizeThatCannotBeMadeLeavesThePictureEmpty) {
-  cDIBSection picture = Numbered();
+  image::cDIBSection picture = Numbered();
   EXPECT_FALSE(CreateFromPicture(picture, QImage()));
   EXPECT_EQ(picture.DIBSectionBitsPtr(), nullptr);
 }
@@ -195,7 +195,7 @@ TEST(QtPicture, ASizeThatCannotBeMadeLeavesThePictureEmpty) {
 TEST(QtPicture, TheClipboardGetsACopy) {
   fakes::RecordingMessageBox boxes;
   {
-    const cDIBSection picture = Numbered();
+    const image::cDIBSection picture = Numbered();
     EXPECT_TRUE(CopyToClipboard(picture, false, boxes));
   }
   EXPECT_EQ(Places(QApplication::clipboard()->image()), "00 10 20\n01 11 21\n");
@@ -217,4 +217,4 @@ TEST(QtPicture, TheClipboardHasTheBitmapFormOnly) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <QClipboard>
 #include <QVBoxLayout>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Click;
@@ -20,14 +20,14 @@ class FieldBinding : public testing::Test {
                                          &directLinks, &directLinksSpinner, &wrappers, &slideShow, &layout}) {
       column.addWidget(control);
     }
-    binder.Bind(title, &GalleryProject::textGalleryTitle);
-    binder.Bind(frameSize, spinner, &GalleryProject::textGalleryFrameSize);
-    binder.Bind(rows, rowsSpinner, &GalleryProject::textThumbnailsTableRows);
-    binder.Bind(delay, delaySpinner, &GalleryProject::textGallerySlideShowDelay);
-    binder.Bind(directLinks, directLinksSpinner, &GalleryProject::textPageLinksThumbnailMaxDirectLinks);
-    binder.Bind(wrappers, &GalleryProject::checkImageWrapperUse);
-    binder.Bind(slideShow, &GalleryProject::checkGallerySlideShow);
-    binder.Bind(layout, &GalleryProject::comboGalleryLayoutType);
+    binder.Bind(title, &core::GalleryProject::textGalleryTitle);
+    binder.Bind(frameSize, spinner, &core::GalleryProject::textGalleryFrameSize);
+    binder.Bind(rows, rowsSpinner, &core::GalleryProject::textThumbnailsTableRows);
+    binder.Bind(delay, delaySpinner, &core::GalleryProject::textGallerySlideShowDelay);
+    binder.Bind(directLinks, directLinksSpinner, &core::GalleryProject::textPageLinksThumbnailMaxDirectLinks);
+    binder.Bind(wrappers, &core::GalleryProject::checkImageWrapperUse);
+    binder.Bind(slideShow, &core::GalleryProject::checkGallerySlideShow);
+    binder.Bind(layout, &core::GalleryProject::comboGalleryLayoutType);
     binder.Refresh();
     form.show();
     QObject::connect(&binder, &FieldBinder::Edited, [this] { ++edits; });
@@ -40,9 +40,9 @@ class FieldBinding : public testing::Test {
     QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
   }
 
-  GalleryProject project;
+  core::GalleryProject project;
   bool modified = false;
-  ProjectEditor editor{project, modified};
+  core::ProjectEditor editor{project, modified};
   fakes::RecordingMessageBox boxes;
   FieldBinder binder{editor, boxes};
   QWidget form;
@@ -182,4 +182,4 @@ TEST_F(FieldBinding, AListIsChosenFromWithTheKeyboard) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

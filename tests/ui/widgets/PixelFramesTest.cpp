@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Renders a control at (7, 5) of a window at the given scale.
@@ -104,4 +104,4 @@ TEST(PixelFrames, APreviewKeepsItsFourLinesAroundAPictureThatFillsItsInside) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// A box with a text and the cursor after it.
@@ -92,4 +92,4 @@ TEST_F(TextBoxTest, ABoxThatIsOnlyReadTakesNothing) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

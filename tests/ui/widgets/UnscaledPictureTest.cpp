@@ -5,14 +5,14 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(UnscaledPicture, HasThePixelsOfItsInsideOnItsScreen) {
   UnscaledPicture box;
   box.resize(box.sizeHint());
   const double ratio = box.devicePixelRatioF();
-  EXPECT_EQ(box.SizeInPixels(), (PictureSize{static_cast<int>(440 * ratio), static_cast<int>(330 * ratio)}));
+  EXPECT_EQ(box.SizeInPixels(), (image::PictureSize{static_cast<int>(440 * ratio), static_cast<int>(330 * ratio)}));
 }
 
 TEST(UnscaledPicture, ShowsAPicturePixelForPixelInItsCorner) {
@@ -46,4 +46,4 @@ TEST(ColorButton, ShowsAndTellsItsColor) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 #include <QContextMenuEvent>
 #include <QVBoxLayout>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Find;
@@ -190,4 +190,4 @@ TEST_F(MenuOfATextBox, CanBeUsedWithTheKeyboard) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

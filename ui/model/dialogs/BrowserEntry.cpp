@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void BrowserEntry::ComeUp() {
   cancelled_ = true;
@@ -20,7 +20,7 @@ void BrowserEntry::ChangeLocation(const std::string& text) {
   EnableOK();
 }
 
-void BrowserEntry::LeaveLocation(const PathMap& paths) {
+void BrowserEntry::LeaveLocation(const env::PathMap& paths) {
   std::error_code ignored;
   std::string& location = texts_.Location;
   if (location.find(' ') != std::string::npos && !std::filesystem::exists(location, ignored)) return;
@@ -41,4 +41,4 @@ void BrowserEntry::EnableOK() {
   isOKEnabled_ = !texts_.Name.empty() && !texts_.Location.empty();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,12 +5,12 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The logic of the dialog `frmAddBrowser`, without its widgets: the two texts of one browser and what the buttons do.
 class BrowserEntry {
  public:
-  BrowserEntry(std::string title, Browser texts) : title_(std::move(title)), texts_(std::move(texts)) {}
+  BrowserEntry(std::string title, env::Browser texts) : title_(std::move(title)), texts_(std::move(texts)) {}
 
   /// Call each time the dialog is shown, before the user can do anything. Resets Cancelled() to true.
   void ComeUp();
@@ -19,7 +19,7 @@ class BrowserEntry {
   void ChangeLocation(const std::string& text);
   /// browserLocation lost the focus. A native path becomes path text. A text with blanks that names no existing file
   /// may be a command line and stays unchanged.
-  void LeaveLocation(const PathMap& paths);
+  void LeaveLocation(const env::PathMap& paths);
   /// Takes the file chosen with btnBrowse; an empty `path` does nothing. Enables OKButton whatever the name is.
   void TakeExecutable(const std::string& path);
   /// OKButton and the cancel button, which both hide the dialog. OKButton does nothing while it is disabled.
@@ -27,7 +27,7 @@ class BrowserEntry {
   void PressCancel() { cancelled_ = true; }
 
   [[nodiscard]] const std::string& Title() const { return title_; }
-  [[nodiscard]] const Browser& Texts() const { return texts_; }
+  [[nodiscard]] const env::Browser& Texts() const { return texts_; }
   [[nodiscard]] bool IsOKEnabled() const { return isOKEnabled_; }
   [[nodiscard]] bool Cancelled() const { return cancelled_; }
 
@@ -35,7 +35,7 @@ class BrowserEntry {
   void EnableOK();
 
   std::string title_;
-  Browser texts_;
+  env::Browser texts_;
   bool isOKEnabled_ = false;
   bool cancelled_ = true;
 };
@@ -49,4 +49,4 @@ class BrowserEntryDialog {
   virtual void Show(BrowserEntry& entry) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,13 +4,14 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 
-BrowserList::BrowserList(const std::vector<Browser>& browsers, BrowserEntryDialog& dialog, MessageBoxPort& boxes)
+BrowserList::BrowserList(const std::vector<env::Browser>& browsers, BrowserEntryDialog& dialog,
+                         env::MessageBoxPort& boxes)
     : dialog_(dialog), boxes_(boxes), entries_(browsers.rbegin(), browsers.rend()) {}
 
 void BrowserList::PressAdd() {
-  if (entries_.size() >= kMostBrowsers) {
+  if (entries_.size() >= env::kMostBrowsers) {
     return boxes_.Critical("Reached Browser Limit", "You cannot list more than 8 Browsers.");
   }
   BrowserEntry entry("Add Browser", {});
@@ -22,7 +23,7 @@ void BrowserList::PressEdit() {
   if (!selected_) {
     return boxes_.Critical("No Browser selected", "Please select one of the Browsers in the List first.");
   }
-  Browser& old = entries_[*selected_];
+  env::Browser& old = entries_[*selected_];
   BrowserEntry entry("Edit Browser", old);
   while (Confirmed(entry)) {
     if (entry.Texts().Name == old.Name) {
@@ -44,7 +45,7 @@ void BrowserList::PressRemove() {
 }
 
 void BrowserList::Select(std::optional<std::size_t> index) {
-  if (index && *index >= entries_.size()) throw RuntimeFailure(FailureKind::IndexOutOfBounds);
+  if (index && *index >= entries_.size()) throw env::RuntimeFailure(env::FailureKind::IndexOutOfBounds);
   selected_ = index;
 }
 
@@ -55,8 +56,8 @@ bool BrowserList::Confirmed(BrowserEntry& entry) {
 }
 
 /// The selection stays with its entry.
-bool BrowserList::Insert(const Browser& browser) {
-  const auto hasName = [&](const Browser& other) { return other.Name == browser.Name; };
+bool BrowserList::Insert(const env::Browser& browser) {
+  const auto hasName = [&](const env::Browser& other) { return other.Name == browser.Name; };
   if (std::ranges::any_of(entries_, hasName)) {
     boxes_.Critical("Duplicate Browser Name",
                     "A Browser with this Name already exists in the Browser List. Please rename it.");
@@ -67,4 +68,4 @@ bool BrowserList::Insert(const Browser& browser) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

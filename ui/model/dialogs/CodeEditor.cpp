@@ -1,8 +1,8 @@
 #include "ui/model/dialogs/CodeEditor.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
-std::optional<RefusedCode> FindRefusedCode(std::span<const std::string> texts, MessageBoxPort& boxes) {
+std::optional<RefusedCode> FindRefusedCode(std::span<const std::string> texts, env::MessageBoxPort& boxes) {
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const std::size_t position = texts[i].find("]]>");
     if (position == std::string::npos) continue;
@@ -13,4 +13,4 @@ std::optional<RefusedCode> FindRefusedCode(std::span<const std::string> texts, M
   return std::nullopt;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

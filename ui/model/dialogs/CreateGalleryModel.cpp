@@ -7,53 +7,53 @@
 #include "publish/ServerListFile.h"
 #include "ui/model/dialogs/ServerPlace.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Returns the preferred profile, or nullopt if there is none.
-std::optional<ServerProfile> PreferredServer(const std::filesystem::path& file) {
+std::optional<publish::ServerProfile> PreferredServer(const std::filesystem::path& file) {
   try {
-    const ServerListValues values(file);
+    const publish::ServerListValues values(file);
     const std::int32_t count = values.Integer("ServerCount");
     const std::int32_t preferred = values.Integer("PreferredServer");
     if (count < 1) return std::nullopt;
     const std::string index = std::to_string(preferred < 1 || preferred > count ? 1 : preferred);
     const std::string indexText = values.Text("IndexFile" + index);
-    return ServerProfile{.ServerURL = values.Text("ServerURL" + index),
-                         .UserName = values.Text("UserName" + index),
-                         .IndexPath = FTPGetFilePath(indexText),
-                         .IndexFile = FTPGetFileName(indexText),
-                         .JumpTo = values.Text("JumpTo" + index)};
-  } catch (const RuntimeFailure&) {
+    return publish::ServerProfile{.ServerURL = values.Text("ServerURL" + index),
+                                  .UserName = values.Text("UserName" + index),
+                                  .IndexPath = publish::FTPGetFilePath(indexText),
+                                  .IndexFile = publish::FTPGetFileName(indexText),
+                                  .JumpTo = values.Text("JumpTo" + index)};
+  } catch (const env::RuntimeFailure&) {
     return std::nullopt;
   }
 }
 
 /// Returns server, folder and index file of a gallery. IndexPath may end in a slash.
-std::string PublishText(const ServerProfile& profile) {
+std::string PublishText(const publish::ServerProfile& profile) {
   const std::string& path = profile.IndexPath;
   const bool needsSlash = !path.empty() && !path.ends_with('/');
   return profile.ServerURL + "/" + path + (needsSlash ? "/" : "") + profile.IndexFile;
 }
 
-std::string UploadText(const ServerProfile& profile) {
+std::string UploadText(const publish::ServerProfile& profile) {
   return profile.ServerURL + "/" + profile.IndexPath;
 }
 
 std::string WithSingleSlashes(const std::string& text) {
-  return ReplaceAll(text, "//", "/");
+  return env::ReplaceAll(text, "//", "/");
 }
 
 }  // namespace
 
-bool NormalizeFolderPath(std::string& path, MessageBoxPort& boxes) {
+bool NormalizeFolderPath(std::string& path, env::MessageBoxPort& boxes) {
   bool valid = path.ends_with(":\\") || path.ends_with(':');
   if (!valid) {
     if (path.ends_with('\\')) path.pop_back();
     valid = path.find(":\\") != std::string::npos;
     if (!valid) boxes.Critical("Invalid Path", "You must specify an absolute Path.");
   }
-  path = WithTrailingBackslash(path);
+  path = env::WithTrailingBackslash(path);
   return valid;
 }
 
@@ -62,20 +62,20 @@ std::string PathKey(std::string_view before, const std::string& key) {
   return key == "/" && !native ? "\\" : key;
 }
 
-CreateGalleryModel::CreateGalleryModel(const Preferences& preferences, std::filesystem::path serverListFile,
-                                       const PathMap& paths, MessageBoxPort& boxes)
+CreateGalleryModel::CreateGalleryModel(const env::Preferences& preferences, std::filesystem::path serverListFile,
+                                       const env::PathMap& paths, env::MessageBoxPort& boxes)
     : preferences_(preferences), serverListFile_(std::move(serverListFile)), paths_(paths), boxes_(boxes) {}
 
 void CreateGalleryModel::ComeUp() {
   Cancelled = true;
   const std::string& folder = preferences_.CreateFolder;
-  filePath_ = (folder.empty() ? folder : WithTrailingBackslash(folder)) + preferences_.GalleryIndexFileName;
-  sourceFolder_ = GetFilePath(folder);
+  filePath_ = (folder.empty() ? folder : env::WithTrailingBackslash(folder)) + preferences_.GalleryIndexFileName;
+  sourceFolder_ = env::GetFilePath(folder);
   UploadPassword.clear();
   const auto server = PreferredServer(serverListFile_);
-  TakeUploadValues(server.value_or(ServerProfile{}));
+  TakeUploadValues(server.value_or(publish::ServerProfile{}));
   if (!server) return FillIn("", "");
-  isPasswordHidden_ = !IsAnonymous(*server);
+  isPasswordHidden_ = !publish::IsAnonymous(*server);
   FillIn(WithSingleSlashes(PublishText(*server)), WithSingleSlashes(UploadText(*server)));
 }
 
@@ -87,7 +87,7 @@ void CreateGalleryModel::FillIn(const std::string& publish, const std::string& u
 
 /// Converts typed text to path text. It may have slashes of either kind, or be a native path.
 std::string CreateGalleryModel::Finished(const std::string& typed) const {
-  return typed.starts_with('/') ? paths_.ToTextFromUser(typed) : WithBackslashes(typed);
+  return typed.starts_with('/') ? paths_.ToTextFromUser(typed) : env::WithBackslashes(typed);
 }
 
 void CreateGalleryModel::LeaveFilePath() {
@@ -96,7 +96,7 @@ void CreateGalleryModel::LeaveFilePath() {
   if (path.find(':') == std::string::npos) path = preferences_.CreateFolder;
   if (path.ends_with(':')) path += "\\index.htm";
   if (path.ends_with('\\')) path += "index.htm";
-  if (GetFileExtension(path).empty()) path += "\\index.htm";
+  if (env::GetFileExtension(path).empty()) path += "\\index.htm";
 }
 
 void CreateGalleryModel::BrowseFilePath(FileBrowser& browser) {
@@ -115,7 +115,7 @@ void CreateGalleryModel::LeaveSourceFolder() {
 }
 
 bool CreateGalleryModel::BrowseSourceFolder(FolderBrowser& browser) {
-  const auto folder = browser.BrowseForFolder("Select Source Folder", GetFilePath(sourceFolder_));
+  const auto folder = browser.BrowseForFolder("Select Source Folder", env::GetFilePath(sourceFolder_));
   if (folder) sourceFolder_ = *folder;
   return folder.has_value();
 }
@@ -127,13 +127,13 @@ void CreateGalleryModel::SetDestinations(const std::string& publish, const std::
   uploadDestination_ = upload;
 }
 
-void CreateGalleryModel::TakeServer(const ServerProfile& profile) {
+void CreateGalleryModel::TakeServer(const publish::ServerProfile& profile) {
   TakeUploadValues(profile);
   FillIn(WithSingleSlashes(profile.ServerURL + "/" + profile.IndexPath + "/" + profile.IndexFile),
          WithSingleSlashes(UploadText(profile)));
 }
 
-void CreateGalleryModel::TakeUploadValues(const ServerProfile& profile) {
+void CreateGalleryModel::TakeUploadValues(const publish::ServerProfile& profile) {
   UploadServer = profile.ServerURL;
   UploadUser = profile.UserName;
   UploadIndexPath = profile.IndexPath;
@@ -141,8 +141,8 @@ void CreateGalleryModel::TakeUploadValues(const ServerProfile& profile) {
   UploadJumpTo = profile.JumpTo;
 }
 
-void CreateGalleryModel::LeaveServers(const ServerProfile& profile) {
-  isPasswordHidden_ = !IsAnonymous(profile);
+void CreateGalleryModel::LeaveServers(const publish::ServerProfile& profile) {
+  isPasswordHidden_ = !publish::IsAnonymous(profile);
   UploadPassword.clear();
 }
 
@@ -154,8 +154,10 @@ std::optional<std::string> CreateGalleryModel::TypedDestination() const {
   const auto unlessFilledIn = [](const std::string& text, const std::string& filledIn) {
     return text == filledIn ? std::nullopt : std::optional(text);
   };
-  if (order_.Mode == GenerationMode::Publish) return unlessFilledIn(publishDestination_, filledPublishDestination_);
-  if (order_.Mode == GenerationMode::Upload) return unlessFilledIn(uploadDestination_, filledUploadDestination_);
+  if (order_.Mode == generation::GenerationMode::Publish)
+    return unlessFilledIn(publishDestination_, filledPublishDestination_);
+  if (order_.Mode == generation::GenerationMode::Upload)
+    return unlessFilledIn(uploadDestination_, filledUploadDestination_);
   return std::nullopt;
 }
 
@@ -163,7 +165,7 @@ bool CreateGalleryModel::RefuseDestination() const {
   const auto typed = TypedDestination();
   if (!typed || ReadServerPlace(*typed)) return false;
   boxes_.Critical("Invalid Destination",
-                  order_.Mode == GenerationMode::Publish
+                  order_.Mode == generation::GenerationMode::Publish
                       ? "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\"."
                       : "Please give Server and Folder, such as \"ftp.example.org/gallery\".");
   return true;
@@ -174,8 +176,8 @@ ApplyResult CreateGalleryModel::Apply() {
     boxes_.Critical("Cannot create Gallery", "Please make sure you have one of the Options checked!");
     return ApplyResult::Refused;
   }
-  if (order_.Mode == GenerationMode::Create) LeaveFilePath();
-  if (order_.Mode == GenerationMode::Upload) {
+  if (order_.Mode == generation::GenerationMode::Create) LeaveFilePath();
+  if (order_.Mode == generation::GenerationMode::Upload) {
     LeaveSourceFolder();
     if (!NormalizeFolderPath(sourceFolder_, boxes_)) return ApplyResult::NoSourceFolder;
   }
@@ -184,31 +186,32 @@ ApplyResult CreateGalleryModel::Apply() {
   return ApplyResult::Done;
 }
 
-std::optional<RunOrder> CreateGalleryModel::Order() const {
+std::optional<generation::RunOrder> CreateGalleryModel::Order() const {
   if (Cancelled) return std::nullopt;
-  RunOrder order = order_;
-  if (order.Mode == GenerationMode::Create) {
-    SetIndexFile(order, filePath_);
+  generation::RunOrder order = order_;
+  if (order.Mode == generation::GenerationMode::Create) {
+    generation::SetIndexFile(order, filePath_);
   } else {
     SetServer(order);
   }
-  if (order.Mode == GenerationMode::Upload) order.OutputFolder = sourceFolder_;
+  if (order.Mode == generation::GenerationMode::Upload) order.OutputFolder = sourceFolder_;
   return order;
 }
 
 /// A destination that was typed takes the place of the host and the path that were filled in. If it names no file for a
 /// gallery, uses the usual "index.htm".
-void CreateGalleryModel::SetServer(RunOrder& order) const {
+void CreateGalleryModel::SetServer(generation::RunOrder& order) const {
   const auto typed = TypedDestination();
   const auto place = typed ? ReadServerPlace(*typed) : std::nullopt;
   order.ServerAddress = place ? place->host : UploadServer;
   order.UserName = UploadUser;
   order.Password = UploadPassword;
   order.BaseDirectory = UploadJumpTo;
-  if (order.Mode == GenerationMode::Upload) return SetRemoteFolder(order, place ? place->path : UploadIndexPath);
-  if (!place) return SetRemoteIndexFile(order, UploadIndexPath, UploadIndexFile);
-  SetRemoteIndexFile(order, "", place->path);
+  if (order.Mode == generation::GenerationMode::Upload)
+    return generation::SetRemoteFolder(order, place ? place->path : UploadIndexPath);
+  if (!place) return generation::SetRemoteIndexFile(order, UploadIndexPath, UploadIndexFile);
+  generation::SetRemoteIndexFile(order, "", place->path);
   if (order.RemoteIndexFileName.empty()) order.RemoteIndexFileName = "index.htm";
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

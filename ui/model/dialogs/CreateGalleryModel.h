@@ -12,11 +12,11 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Completes path text of a folder in place, so that it ends in a backslash. Returns false, after a message box, if it
 /// has no drive.
-[[nodiscard]] bool NormalizeFolderPath(std::string& path, MessageBoxPort& boxes);
+[[nodiscard]] bool NormalizeFolderPath(std::string& path, env::MessageBoxPort& boxes);
 
 /// What `key` types into a path after the text `before`: a backslash for a slash, except in a native path, which begins
 /// with a slash.
@@ -34,21 +34,21 @@ enum class ApplyResult {
 /// model lives as long as the main window, so the user's choices last from one opening to the next.
 class CreateGalleryModel {
  public:
-  using Switch = bool RunOrder::*;
+  using Switch = bool generation::RunOrder::*;
 
   /// `serverListFile`: see publish/ServerListFile.h.
-  CreateGalleryModel(const Preferences& preferences, std::filesystem::path serverListFile, const PathMap& paths,
-                     MessageBoxPort& boxes);
+  CreateGalleryModel(const env::Preferences& preferences, std::filesystem::path serverListFile,
+                     const env::PathMap& paths, env::MessageBoxPort& boxes);
 
   /// Call each time the dialog opens. Fills in the last target and the preferred server, without a password. A server
   /// list that cannot be read counts as empty.
   void ComeUp();
 
   /// `option`: any mode but Preview.
-  void Choose(GenerationMode option) { order_.Mode = option; }
-  [[nodiscard]] GenerationMode Chosen() const { return order_.Mode; }
+  void Choose(generation::GenerationMode option) { order_.Mode = option; }
+  [[nodiscard]] generation::GenerationMode Chosen() const { return order_.Mode; }
   /// Whether the run makes files, so that the user can choose which.
-  [[nodiscard]] bool Produces() const { return order_.Mode != GenerationMode::Upload; }
+  [[nodiscard]] bool Produces() const { return order_.Mode != generation::GenerationMode::Upload; }
   void Check(Switch box, bool checked) { order_.*box = checked; }
   [[nodiscard]] bool IsChecked(Switch box) const { return order_.*box; }
   [[nodiscard]] bool CanOverwrite() const { return Produces() && (order_.CreateImages || order_.CreateThumbnails); }
@@ -72,19 +72,19 @@ class CreateGalleryModel {
   void EditPublishDestination(const std::string& text) { SetDestinations(text, uploadDestination_); }
   void EditUploadDestination(const std::string& text) { SetDestinations(publishDestination_, text); }
   /// Fills in the server chosen in the server dialog.
-  void TakeServer(const ServerProfile& profile);
+  void TakeServer(const publish::ServerProfile& profile);
 
   /// The password for both kinds of upload.
   [[nodiscard]] const std::string& Password() const { return UploadPassword; }
   void EditPassword(const std::string& text) { UploadPassword = text; }
   [[nodiscard]] bool IsPasswordHidden() const { return isPasswordHidden_; }
   /// Call when the server dialog, which shows `profile`, is no longer in front.
-  void LeaveServers(const ServerProfile& profile);
+  void LeaveServers(const publish::ServerProfile& profile);
 
   [[nodiscard]] ApplyResult Apply();
   void Cancel() { Cancelled = true; }
   /// What the user chose, once the dialog has closed; nullopt if it was cancelled.
-  [[nodiscard]] std::optional<RunOrder> Order() const;
+  [[nodiscard]] std::optional<generation::RunOrder> Order() const;
 
   bool Cancelled = true;
   // The server that was filled in, and the password for this run only.
@@ -101,16 +101,16 @@ class CreateGalleryModel {
   /// The chosen destination, or nullopt if it is still the one that was filled in.
   [[nodiscard]] std::optional<std::string> TypedDestination() const;
   [[nodiscard]] bool RefuseDestination() const;
-  void TakeUploadValues(const ServerProfile& profile);
-  void SetServer(RunOrder& order) const;
+  void TakeUploadValues(const publish::ServerProfile& profile);
+  void SetServer(generation::RunOrder& order) const;
   [[nodiscard]] std::string Finished(const std::string& typed) const;
   [[nodiscard]] bool NothingIsMade() const;
 
-  const Preferences& preferences_;
+  const env::Preferences& preferences_;
   std::filesystem::path serverListFile_;
-  const PathMap& paths_;
-  MessageBoxPort& boxes_;
-  RunOrder order_;  // mode and switches; Order sets the rest
+  const env::PathMap& paths_;
+  env::MessageBoxPort& boxes_;
+  generation::RunOrder order_;  // mode and switches; Order sets the rest
   std::string filePath_;
   std::string sourceFolder_;
   std::string publishDestination_;
@@ -120,4 +120,4 @@ class CreateGalleryModel {
   bool isPasswordHidden_ = true;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,13 +1,13 @@
 #include "ui/model/dialogs/Descriptions.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::array<DescriptionKind, 2> kKinds = {{
-    {"Image Description: ", kImages.description, &ImageList::SetImageDescription,
+    {"Image Description: ", core::kImages.description, &core::ImageList::SetImageDescription,
      "Image Descriptions Header and Footer", "Clear Image Descriptions",
      "This will delete the Descriptions for ALL Images in the Gallery.  Are you sure you wish to continue?"},
-    {"Thumb Description: ", kThumbnails.description, &ImageList::SetThumbnailDescription,
+    {"Thumb Description: ", core::kThumbnails.description, &core::ImageList::SetThumbnailDescription,
      "Thumbnail Descriptions Header and Footer", "Clear Thumbnail Descriptions",
      "This will delete the Descriptions for ALL Thumbnails in the Gallery.  Are you sure you wish to continue?"},
 }};
@@ -38,8 +38,8 @@ void Descriptions::SetText(const DescriptionKind& kind, std::string text) {
 
 bool Descriptions::MayClearAll(const DescriptionKind& kind) {
   if (project_.images.Empty()) return false;
-  return boxes_.Show(BoxKind::Exclamation, BoxButtons::YesNo, std::string(kind.clearTitle),
-                     std::string(kind.clearQuestion)) == BoxAnswer::Yes;
+  return boxes_.Show(env::BoxKind::Exclamation, env::BoxButtons::YesNo, std::string(kind.clearTitle),
+                     std::string(kind.clearQuestion)) == env::BoxAnswer::Yes;
 }
 
 void Descriptions::ClearAll(const DescriptionKind& kind) {
@@ -57,22 +57,22 @@ void Descriptions::TakePlacings() {
   justLoaded_ = false;
 }
 
-void Descriptions::ChoosePlacement(const DescriptionKind& kind, Choice placement) {
-  Choice& shown = shown_[IndexOf(kind)].placement;
+void Descriptions::ChoosePlacement(const DescriptionKind& kind, core::Choice placement) {
+  core::Choice& shown = shown_[IndexOf(kind)].placement;
   if (shown == placement) return;
   shown = placement;
   project_.IsModified = true;
 }
 
-void Descriptions::ChooseAlignment(const DescriptionKind& kind, Choice alignment) {
+void Descriptions::ChooseAlignment(const DescriptionKind& kind, core::Choice alignment) {
   shown_[IndexOf(kind)].alignment = alignment;
 }
 
-ValueList Descriptions::Alignments(const DescriptionKind& kind) const {
-  return AlignmentTexts(!IsBeside(DescriptionPlacement(Shown(kind).placement)));
+core::ValueList Descriptions::Alignments(const DescriptionKind& kind) const {
+  return core::AlignmentTexts(!core::IsBeside(core::DescriptionPlacement(Shown(kind).placement)));
 }
 
-void Descriptions::StorePlacings(ProjectEditor& editor) {
+void Descriptions::StorePlacings(core::ProjectEditor& editor) {
   for (const DescriptionKind& kind : kKinds) {
     editor.Set(kind.fields.placement, Shown(kind).placement);
     editor.Set(kind.fields.alignment, Shown(kind).alignment);
@@ -92,4 +92,4 @@ Descriptions::Placings Descriptions::StoredPlacings() const {
   return stored;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,13 +10,13 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The differences between descriptions of images and of thumbnails.
 struct DescriptionKind {
   std::string_view caption;  ///< of the frame around the text, before the image's name
-  DescriptionFields fields;
-  void (ImageList::*setText)(std::size_t position, std::string text);
+  core::DescriptionFields fields;
+  void (core::ImageList::*setText)(std::size_t position, std::string text);
   std::string_view headerFooterTitle;
   std::string_view clearTitle;
   std::string_view clearQuestion;
@@ -32,12 +32,12 @@ inline constexpr std::size_t kThumbnailDescriptions = 1;
 class Descriptions {
  public:
   struct Placing {
-    Choice placement = 0;
-    Choice alignment = 0;
+    core::Choice placement = 0;
+    core::Choice alignment = 0;
     bool operator==(const Placing&) const = default;
   };
 
-  Descriptions(Project& project, MessageBoxPort& boxes) : project_(project), boxes_(boxes) {}
+  Descriptions(core::Project& project, env::MessageBoxPort& boxes) : project_(project), boxes_(boxes) {}
 
   [[nodiscard]] bool HasImage() const { return project_.images.Current() != 0; }
   /// Name of the current image, "" for none.
@@ -61,15 +61,15 @@ class Descriptions {
   void Disappear() { justLoaded_ = true; }
   [[nodiscard]] const Placing& Shown(const DescriptionKind& kind) const { return shown_[IndexOf(kind)]; }
   /// A different placement marks the project as modified; the alignment keeps its index.
-  void ChoosePlacement(const DescriptionKind& kind, Choice placement);
-  void ChooseAlignment(const DescriptionKind& kind, Choice alignment);
+  void ChoosePlacement(const DescriptionKind& kind, core::Choice placement);
+  void ChooseAlignment(const DescriptionKind& kind, core::Choice alignment);
   [[nodiscard]] bool IsAlignmentEnabled(const DescriptionKind& kind) const {
-    return DescriptionPlacement(Shown(kind).placement) != Placement::None;
+    return core::DescriptionPlacement(Shown(kind).placement) != core::Placement::None;
   }
-  [[nodiscard]] ValueList Alignments(const DescriptionKind& kind) const;
+  [[nodiscard]] core::ValueList Alignments(const DescriptionKind& kind) const;
   /// Whether the window is open with placements that differ from the project's.
   [[nodiscard]] bool HasUnstoredPlacings() const { return !justLoaded_ && shown_ != StoredPlacings(); }
-  void StorePlacings(ProjectEditor& editor);
+  void StorePlacings(core::ProjectEditor& editor);
 
  private:
   using Placings = std::array<Placing, 2>;
@@ -77,12 +77,12 @@ class Descriptions {
   [[nodiscard]] static std::size_t IndexOf(const DescriptionKind& kind);
   [[nodiscard]] Placings StoredPlacings() const;
 
-  Project& project_;
-  MessageBoxPort& boxes_;
+  core::Project& project_;
+  env::MessageBoxPort& boxes_;
   bool justLoaded_ = true;
   Placings shown_;
   Placings taken_;             ///< the project's values when shown_ was taken from it
   std::string takenFromFile_;  ///< the project's file name at that time
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

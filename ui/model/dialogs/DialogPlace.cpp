@@ -2,7 +2,7 @@
 
 #include "env/PathText.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 bool IsFolder(const std::filesystem::path& path) {
@@ -12,7 +12,8 @@ bool IsFolder(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::filesystem::path NearestFolder(const PathMap& paths, const std::string& text, const std::filesystem::path& home) {
+std::filesystem::path NearestFolder(const env::PathMap& paths, const std::string& text,
+                                    const std::filesystem::path& home) {
   const auto native = paths.ToNative(text);
   if (!native || native->empty()) return home;
   std::error_code error;
@@ -25,8 +26,8 @@ std::filesystem::path NearestFolder(const PathMap& paths, const std::string& tex
   return folder;
 }
 
-DialogPlace PlaceOf(const FileDialogRequest& request, const PathMap& paths, const std::filesystem::path& home) {
-  const std::string name = WithBackslashes(request.fileName);
+DialogPlace PlaceOf(const FileDialogRequest& request, const env::PathMap& paths, const std::filesystem::path& home) {
+  const std::string name = env::WithBackslashes(request.fileName);
   const std::size_t separator = name.rfind('\\');
   if (separator == std::string::npos) return {NearestFolder(paths, request.initialFolder, home), name};
   const auto folder = paths.ToNative(name.substr(0, separator + 1));
@@ -36,4 +37,4 @@ DialogPlace PlaceOf(const FileDialogRequest& request, const PathMap& paths, cons
           name.substr(separator + 1)};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,9 +1,9 @@
 #include "ui/model/dialogs/FileNameSettings.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-using P = GalleryProject;
+using P = core::GalleryProject;
 
 constexpr std::string_view kPageExtensions[] = {"htm", "html", "shtm", "shtml"};
 constexpr std::string_view kBrowserTargets[] = {"_blank", "_parent", "_self", "_top"};
@@ -37,18 +37,18 @@ std::string NameKey(const NameField& name, const std::string& key) {
   return replaced ? "_" : key;
 }
 
-std::string ShownName(const NameField& name, const GalleryProject& project) {
+std::string ShownName(const NameField& name, const core::GalleryProject& project) {
   const std::string& stored = project.*name.field;
   return name.isExtension && stored.starts_with('.') ? stored.substr(1) : stored;
 }
 
-void StoreName(const NameField& name, const std::string& shown, ProjectEditor& editor) {
+void StoreName(const NameField& name, const std::string& shown, core::ProjectEditor& editor) {
   const std::string stored = name.isExtension ? "." + shown : shown;
   if (editor.Project().*name.field != stored) editor.Set(name.field, stored);
 }
 
-void MarkEdited(const NameField& name, ProjectEditor& editor) {
+void MarkEdited(const NameField& name, core::ProjectEditor& editor) {
   editor.Set(name.field, editor.Project().*name.field);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

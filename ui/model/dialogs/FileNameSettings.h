@@ -6,14 +6,14 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // The names of a gallery's files, folders and frames, as their two dialogs edit them.
 
 /// A name and the control that edits it.
 struct NameField {
   std::string_view control;
-  std::string GalleryProject::*field;
+  std::string core::GalleryProject::*field;
   bool isExtension = false;
   std::span<const std::string_view> offers = {};  ///< texts in the control's list; others can be typed
 };
@@ -27,10 +27,10 @@ struct NameField {
 [[nodiscard]] std::string NameKey(const NameField& name, const std::string& key);
 
 /// Returns the name as its box shows it: an extension without its dot.
-[[nodiscard]] std::string ShownName(const NameField& name, const GalleryProject& project);
+[[nodiscard]] std::string ShownName(const NameField& name, const core::GalleryProject& project);
 /// Stores the text of the box, with a dot before an extension. An unchanged name does not modify the project.
-void StoreName(const NameField& name, const std::string& shown, ProjectEditor& editor);
+void StoreName(const NameField& name, const std::string& shown, core::ProjectEditor& editor);
 /// Call when a box is edited whose name is stored later. Marks the project as modified.
-void MarkEdited(const NameField& name, ProjectEditor& editor);
+void MarkEdited(const NameField& name, core::ProjectEditor& editor);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

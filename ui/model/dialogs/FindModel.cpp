@@ -2,10 +2,10 @@
 
 #include "ui/model/dialogs/TypedName.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void FindModel::SetTitle(const std::string& title) {
   title_ = TypedName(title);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

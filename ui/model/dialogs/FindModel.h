@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The dialog that asks for the name of an image to find. It lives as long as the list's page, so that it offers the
 /// last text again.
@@ -23,4 +23,4 @@ class FindModel {
   std::string title_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 inline constexpr std::int32_t kNormalWeight = 400;
 inline constexpr std::int32_t kBoldWeight = 700;
@@ -28,4 +28,4 @@ inline constexpr std::int32_t kLargestFont = 999;
   return light > 128U * 1000U;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,14 +6,14 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 void Clamp(std::int16_t& value, std::int16_t low, std::int16_t high) {
   value = std::clamp(value, low, high);
 }
 
-ImageFilterSettings WithinSliders(ImageFilterSettings settings) {
+image::ImageFilterSettings WithinSliders(image::ImageFilterSettings settings) {
   Clamp(settings.sliderBrightness, -100, 100);
   Clamp(settings.sliderFade, 0, 255);
   Clamp(settings.sliderNoise, 0, 100);
@@ -23,7 +23,7 @@ ImageFilterSettings WithinSliders(ImageFilterSettings settings) {
 
 }  // namespace
 
-ImageFiltersModel::ImageFiltersModel(const ImageFilterSettings& settings, const SampleSources& sources,
+ImageFiltersModel::ImageFiltersModel(const image::ImageFilterSettings& settings, const SampleSources& sources,
                                      const SamplePorts& ports, SampleBox& box)
     : settings_(WithinSliders(settings)), box_(box), dialog_(sources, ports, box) {}
 
@@ -33,7 +33,7 @@ void ImageFiltersModel::Open() {
   Preview();
 }
 
-void ImageFiltersModel::Set(std::int16_t ImageFilterSettings::*field, std::int16_t value) {
+void ImageFiltersModel::Set(std::int16_t image::ImageFilterSettings::*field, std::int16_t value) {
   settings_.*field = value;
   settingsChanged_ = true;
 }
@@ -46,26 +46,27 @@ void ImageFiltersModel::Preview() {
     return;
   }
   settingsChanged_ = !settingsChanged_;
-  const PictureSize size = box_.SizeInPixels();
-  const auto picture = Resample(compressed_, size.height, size.width);
+  const image::PictureSize size = box_.SizeInPixels();
+  const auto picture = image::Resample(compressed_, size.height, size.width);
   if (picture == nullptr) return;
   Filter(*picture);
   box_.PaintPicture(*picture);
 }
 
-void ImageFiltersModel::Filter(cDIBSection& picture) {
-  if (IsOn(settings_.checkNoise)) AddNoise(picture, settings_.sliderNoise, IsOn(settings_.checkNoiseRandom), noise_);
-  if (IsOn(settings_.checkFade)) Fade(picture, settings_.sliderFade);
-  if (IsOn(settings_.checkBrightness)) Lighten(picture, settings_.sliderBrightness);
-  if (IsOn(settings_.checkGrayscale)) GrayScale(picture);
+void ImageFiltersModel::Filter(image::cDIBSection& picture) {
+  if (core::IsOn(settings_.checkNoise))
+    image::AddNoise(picture, settings_.sliderNoise, core::IsOn(settings_.checkNoiseRandom), noise_);
+  if (core::IsOn(settings_.checkFade)) image::Fade(picture, settings_.sliderFade);
+  if (core::IsOn(settings_.checkBrightness)) image::Lighten(picture, settings_.sliderBrightness);
+  if (core::IsOn(settings_.checkGrayscale)) image::GrayScale(picture);
 }
 
 void ImageFiltersModel::Apply() {
   if (!dialog_.IsOpen()) return;
-  if (settings_.sliderNoise == 0) settings_.checkNoise = kOff;
-  if (settings_.sliderBrightness == 0) settings_.checkBrightness = kOff;
-  if (settings_.sliderFade == 255) settings_.checkFade = kOff;
+  if (settings_.sliderNoise == 0) settings_.checkNoise = core::kOff;
+  if (settings_.sliderBrightness == 0) settings_.checkBrightness = core::kOff;
+  if (settings_.sliderFade == 255) settings_.checkFade = core::kOff;
   dialog_.Close(false);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,17 +4,17 @@
 
 #include <utility>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 LinksModel::Graphic OtherOf(LinksModel::Graphic box) {
-  return box == &LinkSettings::textLinkGraphic ? &LinkSettings::textLinkGraphicDisabled
-                                               : &LinkSettings::textLinkGraphic;
+  return box == &core::LinkSettings::textLinkGraphic ? &core::LinkSettings::textLinkGraphicDisabled
+                                                     : &core::LinkSettings::textLinkGraphic;
 }
 
 }  // namespace
 
-LinksModel::LinksModel(const LinkSettings& link, const PathMap& paths, std::string& graphicsFolder,
+LinksModel::LinksModel(const core::LinkSettings& link, const env::PathMap& paths, std::string& graphicsFolder,
                        std::function<void()> edited, bool showDisabledGraphic)
     : link_(link),
       paths_(paths),
@@ -57,16 +57,16 @@ void LinksModel::Browse(Graphic box, FileBrowser& browser) {
   if (chosen.result.empty()) return;
   EditGraphic(box, chosen.result);
   typedInto_ = nullptr;
-  graphicsFolder_ = GetFilePath(chosen.result);
+  graphicsFolder_ = env::GetFilePath(chosen.result);
 }
 
 void LinksModel::Close() {
   if (typedInto_ != nullptr) FinishTyping(typedInto_);
   if (!showDisabledGraphic_ || link_.textLinkGraphic.empty() == link_.textLinkGraphicDisabled.empty()) return;
-  const Graphic missing =
-      link_.textLinkGraphic.empty() ? &LinkSettings::textLinkGraphic : &LinkSettings::textLinkGraphicDisabled;
+  const Graphic missing = link_.textLinkGraphic.empty() ? &core::LinkSettings::textLinkGraphic
+                                                        : &core::LinkSettings::textLinkGraphicDisabled;
   link_.*missing = link_.*OtherOf(missing);
   edited_();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

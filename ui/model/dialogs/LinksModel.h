@@ -7,18 +7,18 @@
 #include <functional>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The dialog for one page link. It has no Cancel: each change takes effect at once.
 class LinksModel {
  public:
   /// `edited` is called at each change. `graphicsFolder` is the folder last browsed for graphics. Without
   /// `showDisabledGraphic` the link has only one graphic, and its second one stays unchanged.
-  LinksModel(const LinkSettings& link, const PathMap& paths, std::string& graphicsFolder, std::function<void()> edited,
-             bool showDisabledGraphic = true);
+  LinksModel(const core::LinkSettings& link, const env::PathMap& paths, std::string& graphicsFolder,
+             std::function<void()> edited, bool showDisabledGraphic = true);
 
   /// One of the two graphics.
-  using Graphic = std::string LinkSettings::*;
+  using Graphic = std::string core::LinkSettings::*;
 
   void EditLabel(const std::string& text);
   /// Call when the text of a box changes. If the other graphic is empty, it follows letter by letter until
@@ -30,15 +30,15 @@ class LinksModel {
   /// If the link has two graphics and one is missing, copies the other.
   void Close();
 
-  [[nodiscard]] const LinkSettings& Link() const { return link_; }
+  [[nodiscard]] const core::LinkSettings& Link() const { return link_; }
   [[nodiscard]] bool ShowDisabledGraphic() const { return showDisabledGraphic_; }
   [[nodiscard]] bool MirrorGraphics() const { return mirrorGraphics_; }
 
  private:
   void FinishTyping(Graphic box);
 
-  LinkSettings link_;
-  const PathMap& paths_;
+  core::LinkSettings link_;
+  const env::PathMap& paths_;
   std::string& graphicsFolder_;
   std::function<void()> edited_;
   bool showDisabledGraphic_;
@@ -46,4 +46,4 @@ class LinksModel {
   Graphic typedInto_ = nullptr;  // the box being typed into
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The dialog that asks for the name of a new server.
 class NewWebServerModel {
@@ -26,4 +26,4 @@ class NewWebServerModel {
   bool isCancelled_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

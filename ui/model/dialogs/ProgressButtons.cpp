@@ -3,13 +3,13 @@
 #include "env/RuntimeFailure.h"
 #include "publish/UploadLog.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
-std::string CancelButtonCaption(const ProgressModel& window) {
+std::string CancelButtonCaption(const publish::ProgressModel& window) {
   return window.OffersClose() ? "&Close" : "&Cancel";
 }
 
-void PressCancelButton(ProgressModel& window, CancelPoll& cancel) {
+void PressCancelButton(publish::ProgressModel& window, publish::CancelPoll& cancel) {
   if (window.OffersClose()) {
     window.CloseRequested = true;
     return;
@@ -18,16 +18,16 @@ void PressCancelButton(ProgressModel& window, CancelPoll& cancel) {
   std::ignore = cancel.CheckForCancel(window);
 }
 
-bool IsShowLogVisible(const ProgressModel& window) {
+bool IsShowLogVisible(const publish::ProgressModel& window) {
   return window.OffersClose();
 }
 
-void PressShowLog(Shell& shell, const std::string& appPath) {
+void PressShowLog(env::Shell& shell, const std::string& appPath) {
   try {
-    shell.OpenFile(appPath + '/' + kUploadLogName);
-  } catch (const RuntimeFailure&) {
+    shell.OpenFile(appPath + '/' + publish::kUploadLogName);
+  } catch (const env::RuntimeFailure&) {
     // A desktop that cannot open a text file tells the user itself.
   }
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

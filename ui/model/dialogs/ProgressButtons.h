@@ -6,16 +6,16 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // The two buttons of the progress window, CancelButton and btnShowLog.
 
-[[nodiscard]] std::string CancelButtonCaption(const ProgressModel& window);
+[[nodiscard]] std::string CancelButtonCaption(const publish::ProgressModel& window);
 /// CancelButton: as "&Cancel" it sets IsCancelled and lets `cancel` ask the user, as "&Close" it sets CloseRequested.
-void PressCancelButton(ProgressModel& window, CancelPoll& cancel);
+void PressCancelButton(publish::ProgressModel& window, publish::CancelPoll& cancel);
 
-[[nodiscard]] bool IsShowLogVisible(const ProgressModel& window);
+[[nodiscard]] bool IsShowLogVisible(const publish::ProgressModel& window);
 /// btnShowLog: opens the log. `appPath` is the program's folder as path text. Failures are ignored.
-void PressShowLog(Shell& shell, const std::string& appPath);
+void PressShowLog(env::Shell& shell, const std::string& appPath);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,10 +3,10 @@
 #include "core/ProjectFileDialog.h"
 #include "ui/model/files/FileBrowser.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Shows the dialog for project files with the program's file dialog.
-class ProjectFileDialogWindow : public ProjectFileDialog {
+class ProjectFileDialogWindow : public core::ProjectFileDialog {
  public:
   explicit ProjectFileDialogWindow(FileBrowser& browser) : browser_(browser) {}
 
@@ -25,4 +25,4 @@ class ProjectFileDialogWindow : public ProjectFileDialog {
   FileBrowser& browser_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,23 +4,23 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 std::string ServerKey(ServerField field, const std::string& key) {
-  const bool isUserName = field == &ServerProfile::UserName;
-  const bool isIndex = field == &ServerProfile::IndexPath || field == &ServerProfile::IndexFile;
+  const bool isUserName = field == &publish::ServerProfile::UserName;
+  const bool isIndex = field == &publish::ServerProfile::IndexPath || field == &publish::ServerProfile::IndexFile;
   if (key == "\\" && !isUserName) return "/";
   if (key == " " && isIndex) return "_";
   return key;
 }
 
-PublishModel::PublishModel(std::filesystem::path file, MessageBoxPort& boxes)
+PublishModel::PublishModel(std::filesystem::path file, env::MessageBoxPort& boxes)
     : boxes_(boxes), list_(std::move(file), boxes) {
   list_.Open();
 }
 
-const ServerProfile& PublishModel::Shown() const {
-  static const ServerProfile kNone;
+const publish::ServerProfile& PublishModel::Shown() const {
+  static const publish::ServerProfile kNone;
   const auto selected = list_.Selected();
   return selected ? list_.Profiles()[*selected] : kNone;
 }
@@ -31,7 +31,7 @@ void PublishModel::Select(std::size_t index) {
 }
 
 void PublishModel::Edit(ServerField field, const std::string& text) {
-  if (ServerProfile* profile = list_.SelectedProfile()) profile->*field = text;
+  if (publish::ServerProfile* profile = list_.SelectedProfile()) profile->*field = text;
 }
 
 bool PublishModel::AddNewServer(const std::string& name) {
@@ -48,8 +48,8 @@ void PublishModel::DeleteServer() {
 }
 
 bool PublishModel::Accept() {
-  ServerProfile* profile = list_.SelectedProfile();
-  if (profile != nullptr && !ValidateSettings(*profile, HideIndexFile, boxes_)) return false;
+  publish::ServerProfile* profile = list_.SelectedProfile();
+  if (profile != nullptr && !publish::ValidateSettings(*profile, HideIndexFile, boxes_)) return false;
   std::ignore = list_.SaveServerList();  // a message box reported any failure, and the run does not need the file
   queryPublish_ = true;
   return true;
@@ -57,16 +57,17 @@ bool PublishModel::Accept() {
 
 void PublishModel::Cancel() {
   const auto& profiles = list_.Profiles();
-  const auto before = std::ranges::find(profiles, list_.NameBefore(), &ServerProfile::ServerName);
+  const auto before = std::ranges::find(profiles, list_.NameBefore(), &publish::ServerProfile::ServerName);
   if (before != profiles.end()) Select(static_cast<std::size_t>(before - profiles.begin()));
   queryPublish_ = false;
 }
 
 std::int16_t PublishModel::GetTimeout() const {
   for (std::size_t size = textTimeout.size(); size > 0; --size) {
-    if (const auto number = ParseNumber(std::string_view(textTimeout).substr(0, size))) return ToInt16(*number);
+    if (const auto number = env::ParseNumber(std::string_view(textTimeout).substr(0, size)))
+      return env::ToInt16(*number);
   }
   return 0;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A text of a profile that the user can edit.
-using ServerField = std::string ServerProfile::*;
+using ServerField = std::string publish::ServerProfile::*;
 
 /// What `key` types into the box of a field: hosts and paths take slashes for backslashes, the gallery's path takes
 /// underscores for spaces.
@@ -19,16 +19,16 @@ using ServerField = std::string ServerProfile::*;
 class PublishModel {
  public:
   /// Reads the list; failures are shown in message boxes. `file`: see publish/ServerListFile.h.
-  PublishModel(std::filesystem::path file, MessageBoxPort& boxes);
+  PublishModel(std::filesystem::path file, env::MessageBoxPort& boxes);
 
   /// True if the dialog is for uploading a folder, which has no index file. Set before the dialog is shown.
   bool HideIndexFile = false;
 
   /// Nothing is selected in an empty list.
-  [[nodiscard]] const std::vector<ServerProfile>& Profiles() const { return list_.Profiles(); }
+  [[nodiscard]] const std::vector<publish::ServerProfile>& Profiles() const { return list_.Profiles(); }
   [[nodiscard]] std::optional<std::size_t> Selected() const { return list_.Selected(); }
   /// The profile that the boxes show; its texts are empty if the list is empty.
-  [[nodiscard]] const ServerProfile& Shown() const;
+  [[nodiscard]] const publish::ServerProfile& Shown() const;
   void Select(std::size_t index);
   void Edit(ServerField field, const std::string& text);
 
@@ -54,10 +54,10 @@ class PublishModel {
   [[nodiscard]] std::int16_t GetTimeout() const;
 
  private:
-  MessageBoxPort& boxes_;
-  ServerList list_;
+  env::MessageBoxPort& boxes_;
+  publish::ServerList list_;
   bool canCancel_ = true;
   bool queryPublish_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,10 +2,10 @@
 
 #include "ui/model/dialogs/TypedName.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void RenameModel::SetNameBase(const std::string& nameBase) {
   nameBase_ = TypedName(nameBase);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

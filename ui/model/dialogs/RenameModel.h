@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The dialog that asks for a new name for the current image or for all.
 class RenameModel {
@@ -17,8 +17,10 @@ class RenameModel {
   void Cancel() { accepted_ = false; }
 
   /// Returns the field's text if it was accepted, else kNoNameBase.
-  [[nodiscard]] std::string GetNameBase() const { return accepted_ ? nameBase_ : kNoNameBase; }
-  [[nodiscard]] RenameScope Scope() const { return RenameAll ? RenameScope::AllImages : RenameScope::CurrentImage; }
+  [[nodiscard]] std::string GetNameBase() const { return accepted_ ? nameBase_ : core::kNoNameBase; }
+  [[nodiscard]] core::RenameScope Scope() const {
+    return RenameAll ? core::RenameScope::AllImages : core::RenameScope::CurrentImage;
+  }
 
   bool RenameAll = false;
 
@@ -27,4 +29,4 @@ class RenameModel {
   bool accepted_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

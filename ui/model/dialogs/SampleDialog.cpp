@@ -7,15 +7,16 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr char kFailureTitle[] = "Unable to load default Preview Image";
 
-bool Load(cDIBSection& picture, const std::string& path, const PathMap& paths, Corrections corrections) {
+bool Load(image::cDIBSection& picture, const std::string& path, const env::PathMap& paths,
+          image::Corrections corrections) {
   if (path.empty()) return false;
   const auto native = paths.ToNative(path);
-  return native && LoadPhotograph(picture, *native, corrections);
+  return native && image::LoadPhotograph(picture, *native, corrections);
 }
 
 }  // namespace
@@ -37,8 +38,8 @@ bool SampleDialog::Open() {
   return false;
 }
 
-std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
-  auto picture = std::make_unique<cDIBSection>();
+std::unique_ptr<image::cDIBSection> SampleDialog::LoadSource() const {
+  auto picture = std::make_unique<image::cDIBSection>();
   const auto loads = [&](const std::string& path) {
     return Load(*picture, path, ports_.files.Paths(), sources_.corrections);
   };
@@ -49,19 +50,19 @@ std::unique_ptr<cDIBSection> SampleDialog::LoadSource() const {
 /// Makes the folder before it is looked through: one that is the user's own stays so, as nobody else can write to it.
 bool SampleDialog::MakeTempFolder() const {
   const auto folder = ports_.files.Paths().ToNative(TempFolder());
-  return folder && ports_.files.MakePath(TempFolder()) && RefusalOfTempFolder(*folder).empty();
+  return folder && ports_.files.MakePath(TempFolder()) && env::RefusalOfTempFolder(*folder).empty();
 }
 
-bool SampleDialog::Compress(const cDIBSection& picture, std::int32_t quality, cDIBSection& result) const {
+bool SampleDialog::Compress(const image::cDIBSection& picture, std::int32_t quality, image::cDIBSection& result) const {
   if (!mayUseTempFolder_ || !ports_.files.MakePath(TempFolder())) return false;
   const auto file = ports_.files.Paths().ToNative(TempFile());
   if (!file) return false;
   try {
-    SaveJPEGImage(picture, *file, quality);
-  } catch (const RuntimeFailure&) {
+    image::SaveJPEGImage(picture, *file, quality);
+  } catch (const env::RuntimeFailure&) {
     return false;
   }
-  return LoadJPEGImage(result, *file);
+  return image::LoadJPEGImage(result, *file);
 }
 
 void SampleDialog::Close(bool cancelled) {
@@ -77,4 +78,4 @@ void SampleDialog::CloseWithFailure(const std::string& place) {
   Close(true);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

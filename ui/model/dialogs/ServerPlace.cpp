@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Accepts letters beyond ASCII; the system that looks up the name decides on them.
@@ -27,19 +27,19 @@ bool IsControl(char letter) {
 
 std::string_view WithoutScheme(std::string_view text) {
   constexpr std::string_view kScheme = "ftp://";
-  return EqualsIgnoringCase(text.substr(0, kScheme.size()), kScheme) ? text.substr(kScheme.size()) : text;
+  return env::EqualsIgnoringCase(text.substr(0, kScheme.size()), kScheme) ? text.substr(kScheme.size()) : text;
 }
 
 }  // namespace
 
 std::optional<ServerPlace> ReadServerPlace(std::string_view typed) {
-  const std::string slashed = WithSlashes(typed);
+  const std::string slashed = env::WithSlashes(typed);
   const std::string_view text = WithoutScheme(slashed);
   const std::string_view host = text.substr(0, text.find('/'));
   if (host == text || !IsHost(host) || std::ranges::any_of(text, IsControl)) return std::nullopt;
-  std::string path = RelativeToSession(text.substr(host.size()));
-  while (path.find("//") != std::string::npos) path = ReplaceAll(path, "//", "/");
+  std::string path = publish::RelativeToSession(text.substr(host.size()));
+  while (path.find("//") != std::string::npos) path = env::ReplaceAll(path, "//", "/");
   return ServerPlace{std::string(host), path};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

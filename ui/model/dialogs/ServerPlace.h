@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A place on a server as a destination field shows it: "host/path/file" for a gallery, "host/path" for a folder.
 struct ServerPlace {
@@ -19,4 +19,4 @@ struct ServerPlace {
 /// control character.
 [[nodiscard]] std::optional<ServerPlace> ReadServerPlace(std::string_view typed);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,15 +2,15 @@
 
 #include "env/TempFolder.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr const char* kInvalidPath = "Invalid Path";
 
 }  // namespace
 
-TempFolderLocation::TempFolderLocation(const Preferences& preferences, std::string appPath, const mFileFunctions& files,
-                                       MessageBoxPort& boxes)
+TempFolderLocation::TempFolderLocation(const env::Preferences& preferences, std::string appPath,
+                                       const env::mFileFunctions& files, env::MessageBoxPort& boxes)
     : textTempFolderLocation(preferences.TempFolderLocation.empty() ? appPath : preferences.TempFolderLocation),
       checkAutoClear(preferences.TempFolderAutoClear),
       appPath_(std::move(appPath)),
@@ -29,7 +29,7 @@ void TempFolderLocation::Browse(FolderBrowser& browser) {
 
 void TempFolderLocation::Reset() {
   textTempFolderLocation = appPath_;
-  checkAutoClear = kOn;
+  checkAutoClear = core::kOn;
 }
 
 bool TempFolderLocation::Accept() {
@@ -38,7 +38,7 @@ bool TempFolderLocation::Accept() {
     boxes_.Critical(kInvalidPath, " You must specify an absolute Path or a Network Path.");
     return false;
   }
-  if (!files_.MakePath(TempFolderIn(textTempFolderLocation))) {
+  if (!files_.MakePath(env::TempFolderIn(textTempFolderLocation))) {
     boxes_.Critical(kInvalidPath,
                     "The temporary Folder cannot be created in the Path you have specified.  Please make sure that "
                     "your input is correct.");
@@ -47,7 +47,7 @@ bool TempFolderLocation::Accept() {
   return true;
 }
 
-void TempFolderLocation::StoreIn(Preferences& preferences) const {
+void TempFolderLocation::StoreIn(env::Preferences& preferences) const {
   preferences.TempFolderLocation = textTempFolderLocation;
   preferences.TempFolderAutoClear = checkAutoClear;
 }
@@ -61,4 +61,4 @@ bool TempFolderLocation::MakeAbsolute() {
   return path.find(':') == std::string::npos ? path.starts_with("\\\\") : path.find(":\\") != std::string::npos;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

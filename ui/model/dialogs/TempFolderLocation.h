@@ -9,18 +9,18 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The rules of frmTempFolderLocation: where the folder VANTORIUM_TEMP is and whether it is cleared on exit.
 class TempFolderLocation {
  public:
   /// Sets the dialog's initial values. `appPath`: the program's folder, path text without a trailing backslash.
-  TempFolderLocation(const Preferences& preferences, std::string appPath, const mFileFunctions& files,
-                     MessageBoxPort& boxes);
+  TempFolderLocation(const env::Preferences& preferences, std::string appPath, const env::mFileFunctions& files,
+                     env::MessageBoxPort& boxes);
 
   /// Content of the text box, path text. TakeNativePath and Accept convert a typed native path to path text.
   std::string textTempFolderLocation;
-  Flag checkAutoClear = kOn;
+  core::Flag checkAutoClear = core::kOn;
 
   void TakeNativePath();
   /// btnBrowse: lets the user choose the folder.
@@ -31,14 +31,14 @@ class TempFolderLocation {
   /// the path is not absolute or the folder cannot be created.
   [[nodiscard]] bool Accept();
   /// Stores the dialog's values in the preferences.
-  void StoreIn(Preferences& preferences) const;
+  void StoreIn(env::Preferences& preferences) const;
 
  private:
   [[nodiscard]] bool MakeAbsolute();
 
   std::string appPath_;
-  const mFileFunctions& files_;
-  MessageBoxPort& boxes_;
+  const env::mFileFunctions& files_;
+  env::MessageBoxPort& boxes_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

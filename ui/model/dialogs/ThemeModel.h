@@ -8,17 +8,17 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The rules of frmApplyTheme: the choice of a theme, whose settings the project takes over.
 class ThemeModel {
  public:
   /// `themes`: at least one; the first one is chosen.
-  ThemeModel(std::vector<ThemeFile> themes, Project& project, const PathMap& paths, MessageBoxPort& boxes,
-             EventLoop& events)
+  ThemeModel(std::vector<core::ThemeFile> themes, core::Project& project, const env::PathMap& paths,
+             env::MessageBoxPort& boxes, env::EventLoop& events)
       : themes_(std::move(themes)), project_(project), paths_(paths), boxes_(boxes), events_(events) {}
 
-  [[nodiscard]] const std::vector<ThemeFile>& Themes() const { return themes_; }
+  [[nodiscard]] const std::vector<core::ThemeFile>& Themes() const { return themes_; }
   /// The name under the theme's picture: that of its file, beginning with a capital.
   [[nodiscard]] std::string Caption(std::size_t theme) const;
 
@@ -30,12 +30,12 @@ class ThemeModel {
   [[nodiscard]] bool Accept();
 
  private:
-  std::vector<ThemeFile> themes_;
-  Project& project_;
-  const PathMap& paths_;
-  MessageBoxPort& boxes_;
-  EventLoop& events_;
+  std::vector<core::ThemeFile> themes_;
+  core::Project& project_;
+  const env::PathMap& paths_;
+  env::MessageBoxPort& boxes_;
+  env::EventLoop& events_;
   std::size_t chosen_ = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

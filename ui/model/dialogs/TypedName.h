@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Converts text typed or pasted as the name of an image: replaces spaces by underscores and removes line ends and
 /// other control characters.
@@ -13,4 +13,4 @@ namespace vantorium {
   return text;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::string_view kPlacements[] = {"Top Left",
@@ -33,7 +33,7 @@ std::int16_t Narrowed(std::int32_t value) {
   return static_cast<std::int16_t>(std::clamp<std::int32_t>(value, Limits::min(), Limits::max()));
 }
 
-FontDescription FontOf(const WatermarkSettings& settings) {
+env::FontDescription FontOf(const image::WatermarkSettings& settings) {
   return {.Name = settings.FontName,
           .Size = settings.FontSize,
           .Weight = settings.FontWeight,
@@ -43,7 +43,7 @@ FontDescription FontOf(const WatermarkSettings& settings) {
           .Color = settings.Color};
 }
 
-void SetFont(WatermarkSettings& settings, const FontDescription& font) {
+void SetFont(image::WatermarkSettings& settings, const env::FontDescription& font) {
   settings.FontName = font.Name;
   settings.FontSize = Narrowed(font.Size);
   settings.FontWeight = Narrowed(font.Weight);
@@ -59,8 +59,9 @@ std::span<const std::string_view> TextPlacements() {
   return kPlacements;
 }
 
-WatermarkModel::WatermarkModel(const WatermarkSettings& settings, std::int16_t quality, const SampleSources& sources,
-                               const SamplePorts& samplePorts, const WatermarkPorts& ports, SampleBox& box)
+WatermarkModel::WatermarkModel(const image::WatermarkSettings& settings, std::int16_t quality,
+                               const SampleSources& sources, const SamplePorts& samplePorts,
+                               const WatermarkPorts& ports, SampleBox& box)
     : settings_(settings),
       quality_(Percentage(quality)),
       workingFont_(FontOf(settings)),
@@ -80,7 +81,7 @@ void WatermarkModel::Open() {
 }
 
 void WatermarkModel::SetUseWatermark(bool use) {
-  settings_.checkUseWatermark = FlagOf(use);
+  settings_.checkUseWatermark = core::FlagOf(use);
   Preview();
 }
 
@@ -113,16 +114,16 @@ void WatermarkModel::SetQuality(std::int16_t quality) {
 
 void WatermarkModel::BrowseFont() try {
   if (ports_.dialogs.ShowFontDialog(workingFont_)) Preview();
-} catch (const RuntimeFailure& failure) {
+} catch (const env::RuntimeFailure& failure) {
   Tell(failure);
 }
 
 void WatermarkModel::Preview() {
   if (!dialog_.IsOpen()) return;
-  const PictureSize size = box_.SizeInPixels();
-  const auto picture = Resample(dialog_.Source(), size.height, size.width);
+  const image::PictureSize size = box_.SizeInPixels();
+  const auto picture = image::Resample(dialog_.Source(), size.height, size.width);
   if (picture == nullptr) return;
-  if (IsOn(settings_.checkUseWatermark)) DrawWatermark(*picture);
+  if (core::IsOn(settings_.checkUseWatermark)) DrawWatermark(*picture);
   if (dialog_.Compress(*picture, quality_, *picture)) {
     box_.PaintPicture(*picture);
   } else {
@@ -130,23 +131,25 @@ void WatermarkModel::Preview() {
   }
 }
 
-void WatermarkModel::DrawWatermark(cDIBSection& picture) const try {
-  const WatermarkSettings working = WorkingSettings();
+void WatermarkModel::DrawWatermark(image::cDIBSection& picture) const try {
+  const image::WatermarkSettings working = WorkingSettings();
   // On a high-resolution screen the sample has more pixels than on a web page, so the text is larger in proportion.
-  LogFont font = MakeWatermarkFont(working, ToInt32(ports_.screen.PixelsPerInch() * box_.PixelRatio()));
-  DrawWatermarkText(picture, font, working.textWatermark, working.comboTextPlacement, working.Color,
-                    static_cast<std::uint8_t>(working.sliderAlpha), ports_.texts);
-} catch (const RuntimeFailure& failure) {
+  image::LogFont font =
+      image::MakeWatermarkFont(working, env::ToInt32(ports_.screen.PixelsPerInch() * box_.PixelRatio()));
+  image::DrawWatermarkText(picture, font, working.textWatermark, working.comboTextPlacement, working.Color,
+                           static_cast<std::uint8_t>(working.sliderAlpha), ports_.texts);
+} catch (const env::RuntimeFailure& failure) {
   Tell(failure);
 }
 
-void WatermarkModel::Tell(const RuntimeFailure& failure) const {
-  const bool tooLarge = failure.Number() == static_cast<std::int32_t>(FailureKind::Overflow);  // thousands of letters
+void WatermarkModel::Tell(const env::RuntimeFailure& failure) const {
+  const bool tooLarge =
+      failure.Number() == static_cast<std::int32_t>(env::FailureKind::Overflow);  // thousands of letters
   samplePorts_.boxes.Critical(tooLarge ? "Invalid Value" : "Watermark", failure.Description());
 }
 
-WatermarkSettings WatermarkModel::WorkingSettings() const {
-  WatermarkSettings working = settings_;
+image::WatermarkSettings WatermarkModel::WorkingSettings() const {
+  image::WatermarkSettings working = settings_;
   SetFont(working, workingFont_);
   working.comboTextPlacement = workingPlacement_;
   return working;
@@ -167,4 +170,4 @@ void WatermarkModel::Apply() {
   dialog_.Close(false);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

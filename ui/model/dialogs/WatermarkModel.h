@@ -12,16 +12,16 @@
 #include <string>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The placements of a watermark as the dialog names them, in the order of their numbers.
 [[nodiscard]] std::span<const std::string_view> TextPlacements();
 
 /// What else the watermark dialog needs from the program.
 struct WatermarkPorts {
-  mCommonDialogs& dialogs;
-  const TextRaster& texts;
-  const Screen& screen;
+  env::mCommonDialogs& dialogs;
+  const image::TextRaster& texts;
+  const env::Screen& screen;
 };
 
 /// The dialog for the watermark of one target and the JPEG quality of its files. Its sample is made like a gallery's
@@ -29,7 +29,7 @@ struct WatermarkPorts {
 class WatermarkModel {
  public:
   /// Clamps values to the range of their slider.
-  WatermarkModel(const WatermarkSettings& settings, std::int16_t quality, const SampleSources& sources,
+  WatermarkModel(const image::WatermarkSettings& settings, std::int16_t quality, const SampleSources& sources,
                  const SamplePorts& samplePorts, const WatermarkPorts& ports, SampleBox& box);
 
   /// Call when the dialog has opened. Loads the sample and shows it.
@@ -52,23 +52,23 @@ class WatermarkModel {
   [[nodiscard]] bool Cancelled() const { return dialog_.Cancelled(); }
   [[nodiscard]] bool TextChanged() const { return textChanged_; }
   /// Font and placement are those of the last Apply; the rest is what the controls show.
-  [[nodiscard]] const WatermarkSettings& Settings() const { return settings_; }
+  [[nodiscard]] const image::WatermarkSettings& Settings() const { return settings_; }
   [[nodiscard]] std::int16_t Quality() const { return quality_; }
 
   // Values that the controls show and that are not applied yet.
-  [[nodiscard]] const FontDescription& WorkingFont() const { return workingFont_; }
+  [[nodiscard]] const env::FontDescription& WorkingFont() const { return workingFont_; }
   [[nodiscard]] std::int16_t WorkingPlacement() const { return workingPlacement_; }
   /// The working font in words, such as "Arial, 36 points, bold".
   [[nodiscard]] std::string FontSummary() const;
 
  private:
-  [[nodiscard]] WatermarkSettings WorkingSettings() const;
-  void DrawWatermark(cDIBSection& picture) const;
-  void Tell(const RuntimeFailure& failure) const;
+  [[nodiscard]] image::WatermarkSettings WorkingSettings() const;
+  void DrawWatermark(image::cDIBSection& picture) const;
+  void Tell(const env::RuntimeFailure& failure) const;
 
-  WatermarkSettings settings_;
+  image::WatermarkSettings settings_;
   std::int16_t quality_;
-  FontDescription workingFont_;
+  env::FontDescription workingFont_;
   std::int16_t workingPlacement_;
   bool textChanged_ = false;
 
@@ -79,4 +79,4 @@ class WatermarkModel {
   SampleDialog dialog_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,13 +3,13 @@
 #include "core/ImageFormats.h"
 #include "env/PathText.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Returns the path of a name in the dialog's folder. A typed full path is unchanged.
 std::string PathOf(const std::string& folder, const std::string& name) {
   const bool isWhole = name.starts_with('\\') || (name.size() > 1 && name[1] == ':');
-  return isWhole ? name : WithTrailingBackslash(folder) + name;
+  return isWhole ? name : env::WithTrailingBackslash(folder) + name;
 }
 
 }  // namespace
@@ -20,7 +20,7 @@ void AddFiles::Run() {
                                         .multiSelect = true,
                                         .title = "Add Images",
                                         .initialFolder = parts_.preferences.ImageSourceFolder,
-                                        .filter = ImageFileFilter(),
+                                        .filter = core::ImageFileFilter(),
                                         .preview = true});
   if (chosen.result.empty()) return;
   parts_.preferences.ImageSourceFolder = chosen.folder;
@@ -29,4 +29,4 @@ void AddFiles::Run() {
   parts_.images.AddFiles(paths);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

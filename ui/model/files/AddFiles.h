@@ -4,7 +4,7 @@
 #include "env/Preferences.h"
 #include "ui/model/files/FileBrowser.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Lets the user choose photographs and adds them to the image list in the order the dialog returns them. The dialog
 /// opens in the folder where images were last chosen and remembers the new folder.
@@ -12,8 +12,8 @@ class AddFiles {
  public:
   struct Parts {
     FileBrowser& browser;
-    Preferences& preferences;
-    ImageListOperations& images;
+    env::Preferences& preferences;
+    core::ImageListOperations& images;
   };
   explicit AddFiles(const Parts& parts) : parts_(parts) {}
 
@@ -23,4 +23,4 @@ class AddFiles {
   Parts parts_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,6 +1,6 @@
 #include "ui/model/files/Drives.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// "/data/" and "/data" are the same folder; "/" is unchanged.
@@ -10,7 +10,7 @@ std::filesystem::path WithoutSeparatorAtItsEnd(const std::filesystem::path& fold
 
 }  // namespace
 
-std::vector<Drive> DriveFolders(const PathMap& paths) {
+std::vector<Drive> DriveFolders(const env::PathMap& paths) {
   std::vector<Drive> drives;
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
     const auto folder = paths.ToNative(std::string(1, letter) + ":\\");
@@ -21,4 +21,4 @@ std::vector<Drive> DriveFolders(const PathMap& paths) {
   return drives;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

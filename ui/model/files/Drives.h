@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// A drive of path text, and the native folder it maps to.
 struct Drive {
@@ -14,6 +14,6 @@ struct Drive {
 };
 
 /// All drives whose folders exist, by letter.
-[[nodiscard]] std::vector<Drive> DriveFolders(const PathMap& paths);
+[[nodiscard]] std::vector<Drive> DriveFolders(const env::PathMap& paths);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Options of a file dialog. Paths are path text.
 struct FileDialogRequest {
@@ -42,4 +42,4 @@ class FolderBrowser {
                                                                    const std::string& initialFolder) = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 #include "env/Text.h"
 #include "ui/model/files/FileNameBox.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// In what a user types, any character before a colon counts as a drive.
@@ -28,14 +28,14 @@ bool GoesUp(const std::string& path) {
 
 /// Returns the text of the box for a single file, without surrounding quotes.
 std::string WithoutQuotes(std::string_view text) {
-  text = TrimNull(text);
+  text = env::TrimNull(text);
   if (text.size() >= 2 && text.starts_with('"') && text.ends_with('"')) text = text.substr(1, text.size() - 2);
   return std::string(text);
 }
 
 }  // namespace
 
-FileChoice::FileChoice(FileDialogRequest request, const mFileFunctions& files, MessageBoxPort& boxes)
+FileChoice::FileChoice(FileDialogRequest request, const env::mFileFunctions& files, env::MessageBoxPort& boxes)
     : request_(std::move(request)), flags_(FileDialogFlags(request_)), files_(files), boxes_(boxes) {}
 
 FileChoice::Step FileChoice::Ok(const std::string& folder, const std::string& text) {
@@ -46,7 +46,7 @@ FileChoice::Step FileChoice::Ok(const std::string& folder, const std::string& te
   std::vector<std::string> paths;
   for (const std::string& name : names) paths.push_back(PathOf(folder, name));
   if (paths.size() == 1 && IsFolder(paths[0])) {
-    folder_ = WithTrailingBackslash(paths[0]);
+    folder_ = env::WithTrailingBackslash(paths[0]);
     return Step::EnterFolder;
   }
   return several ? AcceptSeveral(text, names, paths) : AcceptOne(WithDefaultExtension(paths[0]));
@@ -70,8 +70,8 @@ bool FileChoice::IsFolder(const std::string& path) const {
 }
 
 std::string FileChoice::PathOf(const std::string& folder, const std::string& name) const {
-  std::string path = name.starts_with('/') ? files_.Paths().ToTextFromUser(name) : WithBackslashes(name);
-  if (!BeginsWithDrive(path) && !path.starts_with('\\')) path = WithTrailingBackslash(folder) + path;
+  std::string path = name.starts_with('/') ? files_.Paths().ToTextFromUser(name) : env::WithBackslashes(name);
+  if (!BeginsWithDrive(path) && !path.starts_with('\\')) path = env::WithTrailingBackslash(folder) + path;
   if (BeginsWithDrive(path) && path.find('\\') == std::string::npos) path.insert(2, 1, '\\');
   const auto native = GoesUp(path) ? files_.Paths().ToNative(path) : std::nullopt;
   return native ? files_.Paths().ToText(native->lexically_normal()) : path;
@@ -79,12 +79,12 @@ std::string FileChoice::PathOf(const std::string& folder, const std::string& nam
 
 std::string FileChoice::WithDefaultExtension(const std::string& path) const {
   const bool complete = request_.defaultExtension.empty() || (request_.open && files_.PathExists(path));
-  return complete ? path : WithExtension(path, '.' + request_.defaultExtension);
+  return complete ? path : env::WithExtension(path, '.' + request_.defaultExtension);
 }
 
 bool FileChoice::MayBeChosen(const std::string& path) {
-  if (!IsXmlText(path)) {
-    Tell(ToXmlText(GetFileName(path)) + "\r\nThis name cannot stand in a project.");
+  if (!core::IsXmlText(path)) {
+    Tell(core::ToXmlText(env::GetFileName(path)) + "\r\nThis name cannot stand in a project.");
     return false;
   }
   if (!files_.Paths().ToNative(path)) {
@@ -93,11 +93,11 @@ bool FileChoice::MayBeChosen(const std::string& path) {
   }
   const bool exists = files_.PathExists(path);
   if (Has(FileDialogFlag::kFileMustExist) && (!exists || IsFolder(path))) {
-    Tell(GetFileName(path) + "\r\nFile not found.\r\nPlease check the file name and try again.");
+    Tell(env::GetFileName(path) + "\r\nFile not found.\r\nPlease check the file name and try again.");
     return false;
   }
   return !exists || !Has(FileDialogFlag::kOverwritePrompt) ||
-         boxes_.AskYesNo(request_.title, GetFileName(path) + " already exists.\r\nDo you want to replace it?");
+         boxes_.AskYesNo(request_.title, env::GetFileName(path) + " already exists.\r\nDo you want to replace it?");
 }
 
 FileChoice::Step FileChoice::AcceptOne(const std::string& path) {
@@ -118,7 +118,7 @@ FileChoice::Step FileChoice::AcceptSeveral(const std::string& text, const std::v
       return Step::Stay;
     }
     plain = plain && !HasFolder(names[i]);
-    parts.push_back(GetFileName(paths[i]));
+    parts.push_back(env::GetFileName(paths[i]));
   }
   if (paths.size() == 1) lastBrowsed_ = paths[0];  // it was typed, perhaps over the name of another file
   const std::string box = plain ? text : JoinFileNames(parts);
@@ -127,7 +127,7 @@ FileChoice::Step FileChoice::AcceptSeveral(const std::string& text, const std::v
 }
 
 void FileChoice::Tell(const std::string& text) {
-  boxes_.Show(BoxKind::Exclamation, BoxButtons::Ok, request_.title, text);
+  boxes_.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, request_.title, text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Decides what happens to the text in a file dialog's name box when OK is pressed. Paths are path text; the box also
 /// accepts native paths.
@@ -22,7 +22,7 @@ class FileChoice {
     Accept        ///< Result() is the choice
   };
 
-  FileChoice(FileDialogRequest request, const mFileFunctions& files, MessageBoxPort& boxes);
+  FileChoice(FileDialogRequest request, const env::mFileFunctions& files, env::MessageBoxPort& boxes);
 
   /// Sets the file that the user has just selected.
   void Browsed(std::string file) { lastBrowsed_ = std::move(file); }
@@ -51,11 +51,11 @@ class FileChoice {
 
   FileDialogRequest request_;
   std::uint32_t flags_;
-  const mFileFunctions& files_;
-  MessageBoxPort& boxes_;
+  const env::mFileFunctions& files_;
+  env::MessageBoxPort& boxes_;
   std::string lastBrowsed_;
   std::string folder_;
   FileDialogResult result_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::string_view kEveryFile = "*";
@@ -20,9 +20,9 @@ std::vector<std::string> PiecesOf(std::string_view text, char separator) {
 std::vector<std::string> PatternsOf(std::string_view text) {
   std::vector<std::string> patterns;
   for (const std::string& piece : PiecesOf(text, ';')) {
-    const std::string pattern(TrimNull(piece));
+    const std::string pattern(env::TrimNull(piece));
     if (pattern.empty()) continue;
-    const bool any = pattern == "*.*" || EqualsIgnoringCase(pattern, "*.exe");
+    const bool any = pattern == "*.*" || env::EqualsIgnoringCase(pattern, "*.exe");
     patterns.push_back(any ? std::string(kEveryFile) : pattern);
   }
   if (patterns.empty()) patterns.emplace_back(kEveryFile);
@@ -40,4 +40,4 @@ std::vector<FileFilter> ParseFileFilters(std::string_view filter) {
   return filters;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

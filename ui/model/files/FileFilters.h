@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// One line of a file dialog's list of file types.
 struct FileFilter {
@@ -17,4 +17,4 @@ struct FileFilter {
 /// names have no extension at all.
 [[nodiscard]] std::vector<FileFilter> ParseFileFilters(std::string_view filter);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include "env/PathText.h"
 #include "env/Text.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 std::uint32_t FileDialogFlags(const FileDialogRequest& request) {
   using namespace FileDialogFlag;
@@ -22,7 +22,7 @@ std::vector<std::string> CutFileNames(std::string_view text) {
   if (text.starts_with('"')) text.remove_prefix(1);
   if (text.ends_with('"')) text.remove_suffix(1);
   std::string cut(text);
-  for (const std::string_view quotes : {"\" \"", "\"\"", "\""}) cut = ReplaceAll(cut, quotes, kSeparator);
+  for (const std::string_view quotes : {"\" \"", "\"\"", "\""}) cut = env::ReplaceAll(cut, quotes, kSeparator);
 
   std::vector<std::string> names;
   if (cut.empty()) return names;
@@ -37,8 +37,8 @@ std::vector<std::string> CutFileNames(std::string_view text) {
 
 std::vector<std::string> ChosenFileNames(std::string_view text, std::string_view lastBrowsed) {
   std::vector<std::string> names = CutFileNames(text);
-  if (names.size() == 1 && GetFileExtension(names[0]).empty() && !lastBrowsed.empty()) {
-    names[0] = GetFileName(lastBrowsed);
+  if (names.size() == 1 && env::GetFileExtension(names[0]).empty() && !lastBrowsed.empty()) {
+    names[0] = env::GetFileName(lastBrowsed);
   }
   return names;
 }
@@ -62,9 +62,9 @@ void FileNameLimit::Typed(std::size_t length) {
 }
 
 void FileNameLimit::Tell() {
-  boxes_.Show(BoxKind::Information, BoxButtons::Ok, "File Name Length Limit",
+  boxes_.Show(env::BoxKind::Information, env::BoxButtons::Ok, "File Name Length Limit",
               "You have exceeded the file name length limit. Please deselect some files, insert the rest, and open "
               "this dialog a second time.");
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

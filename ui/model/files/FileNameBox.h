@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // The rules of a file dialog's name box and of its buttons.
 
@@ -44,7 +44,7 @@ class FileNameLimit {
  public:
   static constexpr std::size_t kTooLong = 1023;
 
-  explicit FileNameLimit(MessageBoxPort& boxes) : boxes_(boxes) {}
+  explicit FileNameLimit(env::MessageBoxPort& boxes) : boxes_(boxes) {}
 
   /// Call after a change of the selection with the length of the text, including the names just selected. Shows a
   /// message box each time the text is too long.
@@ -58,8 +58,8 @@ class FileNameLimit {
  private:
   void Tell();
 
-  MessageBoxPort& boxes_;
+  env::MessageBoxPort& boxes_;
   bool exceeded_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

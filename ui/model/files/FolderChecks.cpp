@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::size_t kFoldersForATurn = 32;
@@ -15,7 +15,7 @@ bool IsHidden(const std::filesystem::path& name) {
 }  // namespace
 
 struct FolderChecks::Walk {
-  EventLoop& loop;
+  env::EventLoop& loop;
   const std::function<bool()>& stop;
   std::vector<std::filesystem::path> checked = {};
   std::size_t listed = 0;
@@ -47,13 +47,13 @@ bool FolderChecks::IsChecked(const std::filesystem::path& folder) const {
   for (const std::filesystem::path& part : folder.relative_path()) {
     if (node != nullptr) inherited = node->below.value_or(inherited);
     reached /= part;
-    inherited = inherited && !IsHidden(part) && !folders_.IsLink(reached);
+    inherited = inherited && !core::IsHidden(part) && !folders_.IsLink(reached);
     node = Find(node, part.string());
   }
   return node != nullptr ? node->own.value_or(inherited) : inherited;
 }
 
-std::optional<std::vector<std::filesystem::path>> FolderChecks::Expand(EventLoop& loop,
+std::optional<std::vector<std::filesystem::path>> FolderChecks::Expand(env::EventLoop& loop,
                                                                        const std::function<bool()>& stop) const {
   Walk walk{loop, stop};
   Visit(&root_, "/", false, walk);
@@ -101,4 +101,4 @@ void FolderChecks::VisitNodesIn(const Node& node, const std::filesystem::path& f
   for (const auto& [key, child] : node.nodes) Visit(&child, folder / child.name, false, walk);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The check boxes of a folder tree. Checking a folder recursively only leaves a mark that the folders below inherit,
 /// so it costs nothing on a huge disk; a later check inside takes precedence. Symbolic links and hidden folders inherit
@@ -29,7 +29,7 @@ class FolderChecks {
   /// Returns all checked folders in the order of the tree: a folder comes before the folders in it, which are sorted by
   /// name. Folders below a mark are looked up now; the event loop gets its turns meanwhile. Returns nullopt if `stop`
   /// returned true after such a turn.
-  [[nodiscard]] std::optional<std::vector<std::filesystem::path>> Expand(EventLoop& loop,
+  [[nodiscard]] std::optional<std::vector<std::filesystem::path>> Expand(env::EventLoop& loop,
                                                                          const std::function<bool()>& stop) const;
 
  private:
@@ -51,4 +51,4 @@ class FolderChecks {
   Node root_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

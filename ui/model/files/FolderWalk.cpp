@@ -11,7 +11,7 @@
 
 namespace fs = std::filesystem;
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::size_t kMostProblemsTold = 8;
@@ -36,7 +36,7 @@ void FolderWalk::Run(const std::vector<std::string>& folders, FolderWalkProgress
 bool FolderWalk::AddFolder(const std::string& folder) {
   folder_ = folder;
   for (const std::string& name : ImagesIn(folder)) {
-    if (!GoesOn() || !AddImage(WithTrailingBackslash(folder) + name, name)) return false;
+    if (!GoesOn() || !AddImage(env::WithTrailingBackslash(folder) + name, name)) return false;
   }
   return GoesOn();
 }
@@ -51,11 +51,11 @@ std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
     if (!GoesOn()) return {};
     std::error_code unknown;
     std::string name = entry->path().filename().string();
-    if (IsSupportedImageExtension(GetFileExtension(name)) && entry->is_regular_file(unknown)) {
+    if (core::IsSupportedImageExtension(env::GetFileExtension(name)) && entry->is_regular_file(unknown)) {
       names.push_back(std::move(name));
     }
   }
-  if (error) problems_.push_back(fmt::format("\"{}\" cannot be read: {}.", ToXmlText(folder), error.message()));
+  if (error) problems_.push_back(fmt::format("\"{}\" cannot be read: {}.", core::ToXmlText(folder), error.message()));
   std::ranges::sort(names);
   return names;
 }
@@ -63,8 +63,8 @@ std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
 /// Returns false, after a message box, if the file could not be read. A name with a backslash would be the path of
 /// another file.
 bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
-  if (!IsXmlText(path) || name.find('\\') != std::string::npos) {
-    problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", ToXmlText(path)));
+  if (!core::IsXmlText(path) || name.find('\\') != std::string::npos) {
+    problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", core::ToXmlText(path)));
     return true;
   }
   if (!parts_.images.AddFile(path)) return false;
@@ -90,7 +90,7 @@ void FolderWalk::TellProblems() {
     text += fmt::format("There are {} more of these.\r", problems_.size() - kMostProblemsTold);
   }
   text.pop_back();
-  parts_.boxes.Show(BoxKind::Exclamation, BoxButtons::Ok, "Add Folder to Gallery", text);
+  parts_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "Add Folder to Gallery", text);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

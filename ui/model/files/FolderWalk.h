@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The small window shown while the photographs of folders are added.
 class FolderWalkProgress {
@@ -30,11 +30,11 @@ class FolderWalkProgress {
 class FolderWalk {
  public:
   struct Parts {
-    Project& project;
-    ImageListOperations& images;
-    const PathMap& paths;
-    MessageBoxPort& boxes;
-    EventLoop& loop;
+    core::Project& project;
+    core::ImageListOperations& images;
+    const env::PathMap& paths;
+    env::MessageBoxPort& boxes;
+    env::EventLoop& loop;
   };
 
   /// The event loop gets a turn at the beginning and then whenever `pace` has passed.
@@ -64,4 +64,4 @@ class FolderWalk {
   Clock::time_point lastTurn_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <map>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 std::string FolderSortKey(const std::string& name) {
-  return FoldCase(name) + '\0' + name;
+  return core::FoldCase(name) + '\0' + name;
 }
 
 std::vector<SubFolder> LocalFolders::In(const std::filesystem::path& folder) const {
@@ -31,4 +31,4 @@ bool LocalFolders::IsLink(const std::filesystem::path& folder) const {
   return std::filesystem::is_symlink(folder, ignored);
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

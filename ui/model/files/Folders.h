@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 struct SubFolder {
   std::string name;
@@ -30,4 +30,4 @@ class LocalFolders : public Folders {
 /// Returns the key by which a folder name is sorted: case matters only if nothing else differs.
 [[nodiscard]] std::string FolderSortKey(const std::string& name);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// What to do with an image that cannot be decoded. The numbers are those of the desktop's own message boxes.
 enum class InvalidImageAnswer {
@@ -9,4 +9,4 @@ enum class InvalidImageAnswer {
   Ignore = 5,
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,6 +1,6 @@
 #include "ui/model/main/BrowserMenus.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr const char* kDefaultKey = "default";
@@ -12,10 +12,10 @@ BrowserMenuEntry Separator() {
 
 }  // namespace
 
-BrowserMenus RebuildBrowserMenus(const std::vector<Browser>& browsers) {
+BrowserMenus RebuildBrowserMenus(const std::vector<env::Browser>& browsers) {
   BrowserMenus menus;
   menus.DropDown = {{"...in Default Browser", kDefaultKey}, Separator()};
-  for (const Browser& browser : browsers) {
+  for (const env::Browser& browser : browsers) {
     const std::string caption = "...in " + browser.Name;
     menus.ViewBrowser.push_back(caption);
     menus.DropDown.push_back({caption, "browser" + std::to_string(menus.ViewBrowser.size())});
@@ -33,4 +33,4 @@ BrowserClick DropDownClick(int button, std::string_view key, std::int16_t positi
   return {Kind::View, static_cast<std::int16_t>(position - 2)};
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// An entry of the drop-down list of the toolbar's View button. A separator has the text "-" and no key.
 struct BrowserMenuEntry {
@@ -24,7 +24,7 @@ struct BrowserMenus {
   std::vector<std::string> ViewBrowser;    ///< captions of menuActionsViewBrowser, from its element 1 on
 };
 
-[[nodiscard]] BrowserMenus RebuildBrowserMenus(const std::vector<Browser>& browsers);
+[[nodiscard]] BrowserMenus RebuildBrowserMenus(const std::vector<env::Browser>& browsers);
 
 /// The index of the toolbar button that has the drop-down list.
 inline constexpr int kViewButton = 6;
@@ -46,4 +46,4 @@ struct BrowserClick {
 /// `position` counts from 1.
 [[nodiscard]] BrowserClick DropDownClick(int button, std::string_view key, std::int16_t position);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

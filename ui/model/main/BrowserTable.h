@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// What EditBrowsers needs from the main window.
-class BrowserTableHost : public virtual WindowState {
+class BrowserTableHost : public virtual env::WindowState {
  public:
   /// Shows frmBrowserList modally, with the entries of `list`, and passes the user's actions to `list` until it is
   /// closed.
@@ -22,7 +22,7 @@ class BrowserTableHost : public virtual WindowState {
 
 /// Lets the user edit `browsers`, rebuilds the menus and writes the list to the preferences file, creating its folder
 /// if it is missing. Returns false if the list could not be written; it then holds only until the program ends.
-[[nodiscard]] bool EditBrowsers(std::vector<Browser>& browsers, const std::filesystem::path& preferencesFile,
-                                BrowserTableHost& host, BrowserEntryDialog& dialog, MessageBoxPort& boxes);
+[[nodiscard]] bool EditBrowsers(std::vector<env::Browser>& browsers, const std::filesystem::path& preferencesFile,
+                                BrowserTableHost& host, BrowserEntryDialog& dialog, env::MessageBoxPort& boxes);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

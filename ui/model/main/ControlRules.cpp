@@ -2,52 +2,52 @@
 
 #include "core/GalleryTargets.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-using P = const GalleryProject&;
+using P = const core::GalleryProject&;
 
 constexpr auto kVisible = ControlProperty::Visible;
 constexpr auto kEnabled = ControlProperty::Enabled;
 
 bool SeveralFrames(P p) {
-  return !IsSingleFrame(p);
+  return !core::IsSingleFrame(p);
 }
 bool SlideShow(P p) {
-  return IsOn(p.checkGallerySlideShow);
+  return core::IsOn(p.checkGallerySlideShow);
 }
 bool BeginsWithPage(P p) {
-  return SlideShowBeginOf(p) == SlideShowBegin::FirstThumbnailPage;
+  return core::SlideShowBeginOf(p) == core::SlideShowBegin::FirstThumbnailPage;
 }
 bool GoesToNextImage(P p) {
-  return SlideShowActionOf(p) == SlideShowAction::NextImage;
+  return core::SlideShowActionOf(p) == core::SlideShowAction::NextImage;
 }
 bool Wrappers(P p) {
-  return IsOn(p.checkImageWrapperUse);
+  return core::IsOn(p.checkImageWrapperUse);
 }
 
 // Whether the width or the height of a target's pictures is given; both are unless the aspect ratio is kept.
-template <const TargetFields& target>
+template <const core::TargetFields& target>
 bool RatioKept(P p) {
-  return IsOn(p.*target.size.keepAspectRatio);
+  return core::IsOn(p.*target.size.keepAspectRatio);
 }
-template <const TargetFields& target>
+template <const core::TargetFields& target>
 bool WidthGiven(P p) {
-  return !RatioKept<target>(p) || IsOn(p.*target.size.setWidth);
+  return !RatioKept<target>(p) || core::IsOn(p.*target.size.setWidth);
 }
-template <const TargetFields& target>
+template <const core::TargetFields& target>
 bool HeightGiven(P p) {
-  return !RatioKept<target>(p) || IsOff(p.*target.size.setWidth);
+  return !RatioKept<target>(p) || core::IsOff(p.*target.size.setWidth);
 }
 
-template <Flag GalleryProject::*flag>
+template <core::Flag core::GalleryProject::*flag>
 bool IsSet(P p) {
-  return IsOn(p.*flag);
+  return core::IsOn(p.*flag);
 }
 
 constexpr ControlRule kRules[] = {
     // Gallery
-    {"frmFrameLayoutSingleFrame", kVisible, IsSingleFrame},
+    {"frmFrameLayoutSingleFrame", kVisible, core::IsSingleFrame},
     {"frmFrameLayoutMultipleFrames", kVisible, SeveralFrames},
     {"frmFrameLayoutSlideShow", kVisible, SlideShow},
     {"checkGallerySlideShowAutoStart", kVisible, BeginsWithPage},
@@ -59,53 +59,55 @@ constexpr ControlRule kRules[] = {
     // Image wrappers
     {"frmImageWrapperCodeSettings", kVisible, Wrappers},
     {"frmImageWrapperImageSettings", kVisible, Wrappers},
-    {"btnImageWrapperColors", kEnabled, IsSet<kImages.colors.use>},
-    {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return IsOff(p.checkImageWrapperImageKeepSize); }},
-    {"checkImageWrapperImageSetWidth", kVisible, RatioKept<kImages>},
-    {"lblImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
-    {"textImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
-    {"udImageWrapperImageWidth", kVisible, WidthGiven<kImages>},
-    {"lblImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
-    {"textImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
-    {"udImageWrapperImageHeight", kVisible, HeightGiven<kImages>},
+    {"btnImageWrapperColors", kEnabled, IsSet<core::kImages.colors.use>},
+    {"frmImageWrapperImageSettingsSub", kVisible, [](P p) { return core::IsOff(p.checkImageWrapperImageKeepSize); }},
+    {"checkImageWrapperImageSetWidth", kVisible, RatioKept<core::kImages>},
+    {"lblImageWrapperImageWidth", kVisible, WidthGiven<core::kImages>},
+    {"textImageWrapperImageWidth", kVisible, WidthGiven<core::kImages>},
+    {"udImageWrapperImageWidth", kVisible, WidthGiven<core::kImages>},
+    {"lblImageWrapperImageHeight", kVisible, HeightGiven<core::kImages>},
+    {"textImageWrapperImageHeight", kVisible, HeightGiven<core::kImages>},
+    {"udImageWrapperImageHeight", kVisible, HeightGiven<core::kImages>},
     // Thumbnails
-    {"btnThumbnailsPageColors", kEnabled, IsSet<kThumbnails.colors.use>},
-    {"btnThumbnailsTableBGColor", kVisible, IsSet<&GalleryProject::checkThumbnailsTableUseBGColor>},
-    {"checkThumbnailsImageSetWidth", kVisible, RatioKept<kThumbnails>},
-    {"lblThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
-    {"textThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
-    {"udThumbnailsImageWidth", kVisible, WidthGiven<kThumbnails>},
-    {"lblThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
-    {"textThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
-    {"udThumbnailsImageHeight", kVisible, HeightGiven<kThumbnails>},
+    {"btnThumbnailsPageColors", kEnabled, IsSet<core::kThumbnails.colors.use>},
+    {"btnThumbnailsTableBGColor", kVisible, IsSet<&core::GalleryProject::checkThumbnailsTableUseBGColor>},
+    {"checkThumbnailsImageSetWidth", kVisible, RatioKept<core::kThumbnails>},
+    {"lblThumbnailsImageWidth", kVisible, WidthGiven<core::kThumbnails>},
+    {"textThumbnailsImageWidth", kVisible, WidthGiven<core::kThumbnails>},
+    {"udThumbnailsImageWidth", kVisible, WidthGiven<core::kThumbnails>},
+    {"lblThumbnailsImageHeight", kVisible, HeightGiven<core::kThumbnails>},
+    {"textThumbnailsImageHeight", kVisible, HeightGiven<core::kThumbnails>},
+    {"udThumbnailsImageHeight", kVisible, HeightGiven<core::kThumbnails>},
     // Captions
     {"frmCaptionsImages", kVisible, Wrappers},
-    {"btnCaptionsImagesRegular", kEnabled, IsSet<kImages.captions.regular>},
-    {"comboCaptionsImagesRegularPlacement", kEnabled, IsSet<kImages.captions.regular>},
-    {"comboCaptionsImagesRegularAlignment", kEnabled, IsSet<kImages.captions.regular>},
-    {"btnCaptionsImagesPopup", kEnabled, IsSet<kImages.captions.popup>},
-    {"btnCaptionsThumbnailsRegular", kEnabled, IsSet<kThumbnails.captions.regular>},
-    {"comboCaptionsThumbnailsRegularPlacement", kEnabled, IsSet<kThumbnails.captions.regular>},
-    {"comboCaptionsThumbnailsRegularAlignment", kEnabled, IsSet<kThumbnails.captions.regular>},
-    {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<kThumbnails.captions.popup>},
+    {"btnCaptionsImagesRegular", kEnabled, IsSet<core::kImages.captions.regular>},
+    {"comboCaptionsImagesRegularPlacement", kEnabled, IsSet<core::kImages.captions.regular>},
+    {"comboCaptionsImagesRegularAlignment", kEnabled, IsSet<core::kImages.captions.regular>},
+    {"btnCaptionsImagesPopup", kEnabled, IsSet<core::kImages.captions.popup>},
+    {"btnCaptionsThumbnailsRegular", kEnabled, IsSet<core::kThumbnails.captions.regular>},
+    {"comboCaptionsThumbnailsRegularPlacement", kEnabled, IsSet<core::kThumbnails.captions.regular>},
+    {"comboCaptionsThumbnailsRegularAlignment", kEnabled, IsSet<core::kThumbnails.captions.regular>},
+    {"btnCaptionsThumbnailsPopup", kEnabled, IsSet<core::kThumbnails.captions.popup>},
     // Page links
     {"frmPageLinksOnImagePages", kVisible, Wrappers},
-    {"btnPageLinksImageIndexLink", kEnabled, IsSingleFrame},
-    {"textPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&GalleryProject::checkPageLinksThumbnailDirectLinks>},
-    {"udPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&GalleryProject::checkPageLinksThumbnailDirectLinks>},
+    {"btnPageLinksImageIndexLink", kEnabled, core::IsSingleFrame},
+    {"textPageLinksThumbnailMaxDirectLinks", kEnabled,
+     IsSet<&core::GalleryProject::checkPageLinksThumbnailDirectLinks>},
+    {"udPageLinksThumbnailMaxDirectLinks", kEnabled, IsSet<&core::GalleryProject::checkPageLinksThumbnailDirectLinks>},
 };
 
 constexpr UnitLabel kUnitLabels[] = {
     {"lblFrameLayoutFrameSize", "Frame Size (%)", "Frame Size (Pixels)",
-     &GalleryProject::checkGalleryFrameSizeInPercent},
-    {"lblImageWrapperImageWidth", "Width (%)", "Width (Pixels)", &GalleryProject::checkImageWrapperImageSizesInPercent},
+     &core::GalleryProject::checkGalleryFrameSizeInPercent},
+    {"lblImageWrapperImageWidth", "Width (%)", "Width (Pixels)",
+     &core::GalleryProject::checkImageWrapperImageSizesInPercent},
     {"lblImageWrapperImageHeight", "Height (%)", "Height (Pixels)",
-     &GalleryProject::checkImageWrapperImageSizesInPercent},
+     &core::GalleryProject::checkImageWrapperImageSizesInPercent},
 };
 
 constexpr AlignmentList kAlignmentLists[] = {
-    {kImages.captions.alignment, kImages.captions.placement},
-    {kThumbnails.captions.alignment, kThumbnails.captions.placement},
+    {core::kImages.captions.alignment, core::kImages.captions.placement},
+    {core::kThumbnails.captions.alignment, core::kThumbnails.captions.placement},
 };
 
 }  // namespace
@@ -122,12 +124,12 @@ std::span<const AlignmentList> AlignmentLists() {
   return kAlignmentLists;
 }
 
-bool IsAboveOrBelow(const AlignmentList& list, const GalleryProject& project) {
-  return IsAboveOrBelow(CaptionPlacement(project.*list.placement));
+bool IsAboveOrBelow(const AlignmentList& list, const core::GalleryProject& project) {
+  return core::IsAboveOrBelow(core::CaptionPlacement(project.*list.placement));
 }
 
-int LayoutPicture(const GalleryProject& project) {
+int LayoutPicture(const core::GalleryProject& project) {
   return project.comboGalleryLayoutType + 1;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

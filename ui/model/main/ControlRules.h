@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // How the settings affect the controls that show them. A window walks these tables after each edit.
 
@@ -15,7 +15,7 @@ enum class ControlProperty { Visible, Enabled };
 struct ControlRule {
   std::string_view control;  ///< its object name
   ControlProperty property;
-  bool (*holds)(const GalleryProject& project);
+  bool (*holds)(const core::GalleryProject& project);
 };
 
 /// Returns all rules. A control appears at most once for each property.
@@ -26,24 +26,24 @@ struct UnitLabel {
   std::string_view control;
   std::string_view inPercent;
   std::string_view inPixels;
-  Flag GalleryProject::*isPercent;
+  core::Flag core::GalleryProject::*isPercent;
 };
 
 [[nodiscard]] std::span<const UnitLabel> UnitLabels();
 
 /// A list of a caption's alignments, which depends on its placement; the list's index is kept while its texts change.
 struct AlignmentList {
-  Choice GalleryProject::*alignment;
-  Choice GalleryProject::*placement;
+  core::Choice core::GalleryProject::*alignment;
+  core::Choice core::GalleryProject::*placement;
 };
 
 /// Returns the alignment lists of the captions.
 [[nodiscard]] std::span<const AlignmentList> AlignmentLists();
 
 /// Whether the list shows the texts for a placement above or below.
-[[nodiscard]] bool IsAboveOrBelow(const AlignmentList& list, const GalleryProject& project);
+[[nodiscard]] bool IsAboveOrBelow(const AlignmentList& list, const core::GalleryProject& project);
 
 /// Returns the number of the picture of the gallery's layout, from 1.
-[[nodiscard]] int LayoutPicture(const GalleryProject& project);
+[[nodiscard]] int LayoutPicture(const core::GalleryProject& project);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

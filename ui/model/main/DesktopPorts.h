@@ -8,17 +8,17 @@
 
 #include <filesystem>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Everything outside of the main window that it uses. The program passes the real ports, a test its own.
-struct DesktopPorts : Ports {
-  mCommonDialogs& dialogs;
+struct DesktopPorts : core::Ports {
+  env::mCommonDialogs& dialogs;
   FileBrowser& fileBrowser;
   FolderBrowser& folderBrowser;
   std::filesystem::path programFolder;  ///< has the preferences, the server list and the log; native
-  const BundledFiles& bundled;
+  const env::BundledFiles& bundled;
   ProgramVersion version;
   std::uint16_t ftpPort = 21;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,6 +1,6 @@
 #include "ui/model/main/DropTarget.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 std::size_t DropTarget(std::size_t firstVisible, std::span<const RowExtent> extents, int y) {
   if (extents.empty()) return 0;
@@ -10,4 +10,4 @@ std::size_t DropTarget(std::size_t firstVisible, std::span<const RowExtent> exte
   return y < extents.front().top ? firstVisible : firstVisible + extents.size() - 1;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <span>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The extent of a row of the list in its window, in the window's own unit, counted downward.
 struct RowExtent {
@@ -16,4 +16,4 @@ struct RowExtent {
 /// the list; returns 0 if there are none.
 [[nodiscard]] std::size_t DropTarget(std::size_t firstVisible, std::span<const RowExtent> extents, int y);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,6 +1,6 @@
 #include "ui/model/main/EditMenu.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr EditMenuEntry kEntries[] = {
@@ -34,4 +34,4 @@ bool IsEnabled(EditCommand command, const TextBoxState& box) {
   return true;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// State of a text box and the clipboard when the menu of the box is about to open.
 struct TextBoxState {
@@ -25,4 +25,4 @@ struct EditMenuEntry {
 
 [[nodiscard]] bool IsEnabled(EditCommand command, const TextBoxState& box);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The windows beside the main window, as far as MainModel shows, asks and closes them.
 class HelperWindows {
@@ -25,12 +25,12 @@ class HelperWindows {
   virtual void HideDescriptionsWindow() = 0;
 
   // Each shows its dialog modally.
-  [[nodiscard]] virtual std::optional<RunOrder> AskWhatToCreate() = 0;
+  [[nodiscard]] virtual std::optional<generation::RunOrder> AskWhatToCreate() = 0;
   virtual void ShowBrowserList(BrowserList& list) = 0;
   /// Returns true if the user chose a theme and its settings were taken over.
   [[nodiscard]] virtual bool ShowThemes(ThemeModel& themes) = 0;
 
-  [[nodiscard]] virtual std::unique_ptr<ProgressWindow> CreateProgressWindow() = 0;
+  [[nodiscard]] virtual std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() = 0;
 
   /// Shows frmShutdown with this text.
   virtual void ShowShutdownStep(const std::string& text) = 0;
@@ -38,4 +38,4 @@ class HelperWindows {
   virtual void CloseAll() = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

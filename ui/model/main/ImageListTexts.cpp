@@ -4,7 +4,7 @@
 
 #include <fmt/format.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 std::string ImageCountText(std::int32_t imageCount) {
   return fmt::format("{} Image(s)", imageCount);
@@ -15,7 +15,7 @@ std::string PageCountText(std::int32_t imageCount, std::int32_t pageCount) {
 }
 
 std::string ImageSizeText(std::int32_t width, std::int32_t height, std::uint64_t fileSize) {
-  return fmt::format("({}x{}, {})", width, height, FileSizeText(fileSize));
+  return fmt::format("({}x{}, {})", width, height, env::FileSizeText(fileSize));
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // Texts that a window shows about the image list.
 
@@ -16,4 +16,4 @@ namespace vantorium {
 /// "(800x600, 93KB)": pixels, and the file's size in readable form.
 [[nodiscard]] std::string ImageSizeText(std::int32_t width, std::int32_t height, std::uint64_t fileSize);
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include "ui/model/main/ImageListTexts.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void MainHost::Attach(MainView& view, HelperWindows& windows) {
   view_ = &view;
@@ -19,17 +19,17 @@ void MainHost::RefreshCounts() {
 }
 
 void MainHost::RefreshPageCount() {
-  view_->ShowPageCount(PageCountText(ImageCount(), ThumbnailPageCount(project_.settings, ImageCount())));
+  view_->ShowPageCount(PageCountText(ImageCount(), core::ThumbnailPageCount(project_.settings, ImageCount())));
 }
 
-std::optional<RunOrder> MainHost::AskWhatToCreate() {
+std::optional<generation::RunOrder> MainHost::AskWhatToCreate() {
   auto order = windows_->AskWhatToCreate();
   if (order) order->Port = ftpPort_;
   return order;
 }
 
-std::unique_ptr<ProgressWindow> MainHost::CreateProgressWindow() {
+std::unique_ptr<publish::ProgressWindow> MainHost::CreateProgressWindow() {
   return windows_->CreateProgressWindow();
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

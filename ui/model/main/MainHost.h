@@ -9,13 +9,16 @@
 #include "ui/model/main/HelperWindows.h"
 #include "ui/model/main/MainView.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Gives the session, the image list's operations and the runs what they need from the main window: words it for the
 /// project and shows it in a MainView and its HelperWindows.
-class MainHost : public ProjectSessionHost, public RunHost, public ImageListDisplay, public BrowserTableHost {
+class MainHost : public core::ProjectSessionHost,
+                 public generation::RunHost,
+                 public core::ImageListDisplay,
+                 public BrowserTableHost {
  public:
-  MainHost(const Project& project, ColorDialog& colors, std::uint16_t ftpPort)
+  MainHost(const core::Project& project, ColorDialog& colors, std::uint16_t ftpPort)
       : project_(project), colors_(colors), ftpPort_(ftpPort) {}
 
   /// Call before anything else. Both must live as long as this is used.
@@ -35,8 +38,8 @@ class MainHost : public ProjectSessionHost, public RunHost, public ImageListDisp
   void SelectFirstTab() override { view_->SelectFirstTab(); }
   void FocusTitleField() override { view_->FocusTitleField(); }
   void RebuildCustomColors() override { colors_.RebuildCustomColors(view_->SystemColors()); }
-  [[nodiscard]] std::optional<RunOrder> AskWhatToCreate() override;
-  [[nodiscard]] std::unique_ptr<ProgressWindow> CreateProgressWindow() override;
+  [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override;
+  [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override;
   void ShowBusyPointer(bool busy) override { view_->ShowBusyPointer(busy); }
   void EnableTrayIcon(bool enabled) override { windows_->EnableTrayIcon(enabled); }
   void ScrollIntoView(std::size_t position) override { view_->ScrollIntoView(position); }
@@ -46,11 +49,11 @@ class MainHost : public ProjectSessionHost, public RunHost, public ImageListDisp
  private:
   [[nodiscard]] std::int32_t ImageCount() const { return static_cast<std::int32_t>(project_.images.Count()); }
 
-  const Project& project_;
+  const core::Project& project_;
   ColorDialog& colors_;
   std::uint16_t ftpPort_;
   MainView* view_ = nullptr;
   HelperWindows* windows_ = nullptr;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -7,12 +7,12 @@
 #include "publish/AsioFTPSocket.h"
 #include "ui/model/dialogs/ThemeModel.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 MainModel::MainModel(const DesktopPorts& ports)
     : ports_(ports),
-      appPath_(GetAppPath(ports.programFolder, ports.paths)),
-      preferencesFile_(GetINIFileName(ports.programFolder)),
+      appPath_(env::GetAppPath(ports.programFolder, ports.paths)),
+      preferencesFile_(env::GetINIFileName(ports.programFolder)),
       colors_(ports.dialogs),
       host_(project_, colors_, ports.ftpPort),
       images_(project_, ports.files, ports.boxes, host_),
@@ -20,8 +20,8 @@ MainModel::MainModel(const DesktopPorts& ports)
       session_(project_, images_, {ports.paths, ports.boxes, projectDialog_, host_, ports.loop}),
       log_(ports.programFolder, ports.clock, ports.boxes),
       cancel_(ports.boxes),
-      ftp_(std::make_unique<AsioFTPSocket>(ports.loop), std::make_unique<AsioFTPSocket>(ports.loop), ports.paths,
-           ports.boxes, ports.loop, cancel_) {
+      ftp_(std::make_unique<publish::AsioFTPSocket>(ports.loop), std::make_unique<publish::AsioFTPSocket>(ports.loop),
+           ports.paths, ports.boxes, ports.loop, cancel_) {
   cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
 }
 
@@ -31,10 +31,10 @@ void MainModel::ShowStartStep() {
 }
 
 void MainModel::Start(const std::string& commandLine) {
-  if (const std::string problem = ProblemOfPreferences(preferencesFile_); !problem.empty()) {
+  if (const std::string problem = env::ProblemOfPreferences(preferencesFile_); !problem.empty()) {
     ports_.boxes.Critical("File Error", problem);
   }
-  preferences_ = ReadPreferences(preferencesFile_, appPath_, ports_.files);
+  preferences_ = env::ReadPreferences(preferencesFile_, appPath_, ports_.files);
   project_.LastProjectFolder = preferences_.ProjectFolder;
   ShowStartStep();
   host_.ShowBrowserMenus(RebuildBrowserMenus(preferences_.Browsers));
@@ -84,17 +84,16 @@ void MainModel::SaveProjectAs() {
 }
 
 void MainModel::ViewGallery(std::int16_t browserIndex) {
-  Run(GenerationMode::Preview, browserIndex);
+  Run(generation::GenerationMode::Preview, browserIndex);
 }
 
 void MainModel::CreateGallery() {
-  Run(GenerationMode::Create, 0);
+  Run(generation::GenerationMode::Create, 0);
 }
 
-void MainModel::Run(GenerationMode mode, std::int16_t browserIndex) {
+void MainModel::Run(generation::GenerationMode mode, std::int16_t browserIndex) {
   host_.Windows().StorePlacings();
-  GalleryCreator creator(project_, preferences_, appPath_,
-                         {ports_, host_, cancel_, &ftp_});
+  generation::GalleryCreator creator(project_, preferences_, appPath_, {ports_, host_, cancel_, &ftp_});
   creator.CreateGallery(mode, browserIndex);
   host_.View().ShowSettings();
 }
@@ -108,7 +107,7 @@ void MainModel::ClearTemporaryFolder() {
   host_.EnableMainWindow(false);
   host_.ShowInfoWindow("Please wait... Clearing Temporary Folder.");
   ports_.loop.Turn();
-  ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
+  env::ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
   host_.EnableMainWindow(true);
   host_.HideInfoWindow();
   host_.ShowBusyPointer(false);
@@ -117,7 +116,7 @@ void MainModel::ClearTemporaryFolder() {
 
 void MainModel::ApplyTheme() {
   host_.Windows().StorePlacings();
-  std::vector<ThemeFile> themes = FindThemes(ports_.bundled);
+  std::vector<core::ThemeFile> themes = core::FindThemes(ports_.bundled);
   if (themes.empty()) {
     ports_.boxes.Critical("File Error", "The themes cannot be found.");
     return;
@@ -134,7 +133,7 @@ void MainModel::ShowHelp() {
   }
   try {
     ports_.shell.OpenFile(ports_.paths.ToText(*help));
-  } catch (const RuntimeFailure& failure) {
+  } catch (const env::RuntimeFailure& failure) {
     ports_.boxes.Critical("File Error", failure.Description());
   }
 }
@@ -149,15 +148,15 @@ bool MainModel::ShutDown() {
 void MainModel::CleanUp() {
   ShowShutdownStep("Saving Preferences");
   preferences_.ProjectFolder = project_.LastProjectFolder;
-  WritePreferences(preferences_, preferencesFile_);
+  env::WritePreferences(preferences_, preferencesFile_);
   host_.ShowBusyPointer(true);
   ShowShutdownStep("Clearing Project");
   project_.images.Clear();
   host_.View().ShowImages();
   host_.EnableMainWindow(false);
-  if (IsOn(preferences_.TempFolderAutoClear)) {
+  if (core::IsOn(preferences_.TempFolderAutoClear)) {
     ShowShutdownStep("Clearing Temporary Folder");
-    ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
+    env::ClearTempFolder(preferences_.TempFolderLocation, ports_.files, ports_.loop);
   }
   host_.EnableMainWindow(true);
   ShowShutdownStep("Cleanup");
@@ -172,15 +171,15 @@ void MainModel::ShowShutdownStep(const char* text) {
 
 SampleSources MainModel::Samples() const {
   SampleSources sources;
-  const ImageList& images = project_.images;
+  const core::ImageList& images = project_.images;
   if (images.Current() != 0) sources.selectedFile = images.Entry(images.Current()).SourcePath;
   sources.defaultSamples.push_back(appPath_ + "\\preview.jpg");
   if (const auto sample = ports_.bundled.Find("preview.jpg")) {
     sources.defaultSamples.push_back(ports_.paths.ToText(*sample));
   }
   sources.tempFolderLocation = preferences_.TempFolderLocation;
-  sources.corrections = CorrectionsOf(project_.settings);
+  sources.corrections = core::CorrectionsOf(project_.settings);
   return sources;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

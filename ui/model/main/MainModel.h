@@ -13,7 +13,7 @@
 #include "ui/model/main/DesktopPorts.h"
 #include "ui/model/main/MainHost.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The main window without Qt. It owns what lasts from the start of the program to its end: the one project, the
 /// preferences, the FTP client, the upload log and the cancel question. It carries out the commands of the menus, the
@@ -62,36 +62,36 @@ class MainModel {
   // What the pages and the helper windows work with.
   [[nodiscard]] const DesktopPorts& Ports() const { return ports_; }
   [[nodiscard]] const std::string& AppPath() const { return appPath_; }  ///< path text, no trailing backslash
-  [[nodiscard]] Project& CurrentProject() { return project_; }
-  [[nodiscard]] Preferences& CurrentPreferences() { return preferences_; }
-  [[nodiscard]] ProjectEditor& Editor() { return editor_; }
-  [[nodiscard]] ImageListOperations& Images() { return images_; }
+  [[nodiscard]] core::Project& CurrentProject() { return project_; }
+  [[nodiscard]] env::Preferences& CurrentPreferences() { return preferences_; }
+  [[nodiscard]] core::ProjectEditor& Editor() { return editor_; }
+  [[nodiscard]] core::ImageListOperations& Images() { return images_; }
   [[nodiscard]] ColorDialog& Colors() { return colors_; }
-  [[nodiscard]] UploadLog& Log() { return log_; }
-  [[nodiscard]] CancelCheck& Cancel() { return cancel_; }
+  [[nodiscard]] publish::UploadLog& Log() { return log_; }
+  [[nodiscard]] generation::CancelCheck& Cancel() { return cancel_; }
   /// Returns the present sources of the sample pictures of dialogs.
   [[nodiscard]] SampleSources Samples() const;
 
  private:
   void ShowProject();
-  void Run(GenerationMode mode, std::int16_t browserIndex);
+  void Run(generation::GenerationMode mode, std::int16_t browserIndex);
   void ShowShutdownStep(const char* text);
   void CleanUp();
 
   DesktopPorts ports_;
   std::string appPath_;
   std::filesystem::path preferencesFile_;
-  Preferences preferences_;
-  Project project_;
-  ProjectEditor editor_{project_.settings, project_.IsModified};
+  env::Preferences preferences_;
+  core::Project project_;
+  core::ProjectEditor editor_{project_.settings, project_.IsModified};
   ColorDialog colors_;
   MainHost host_;
-  ImageListOperations images_;
+  core::ImageListOperations images_;
   ProjectFileDialogWindow projectDialog_;
-  ProjectSession session_;
-  UploadLog log_;
-  CancelCheck cancel_;
-  mFTP ftp_;
+  core::ProjectSession session_;
+  publish::UploadLog log_;
+  generation::CancelCheck cancel_;
+  publish::mFTP ftp_;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// What MainModel shows in the main window and its pages.
 class MainView {
@@ -33,7 +33,7 @@ class MainView {
   virtual void SelectFirstTab() = 0;
   virtual void FocusTitleField() = 0;
   /// Returns the first 16 colors of the desktop.
-  [[nodiscard]] virtual CustomColors SystemColors() const = 0;
+  [[nodiscard]] virtual env::CustomColors SystemColors() const = 0;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// The version of the program; `revision` counts its builds.
 struct ProgramVersion {
@@ -17,4 +17,4 @@ struct ProgramVersion {
   }
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

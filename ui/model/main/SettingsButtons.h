@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 // The buttons of the settings pages that open a dialog for some settings, by object name.
 
@@ -13,30 +13,30 @@ namespace vantorium {
 struct CodeButton {
   std::string_view button;
   std::string_view title;
-  std::string GalleryProject::*code;
+  std::string core::GalleryProject::*code;
 };
 
 /// Opens an editor for two texts, a header and a footer.
 struct HeaderFooterButton {
   std::string_view button;
   std::string_view title;
-  std::string GalleryProject::*header;
-  std::string GalleryProject::*footer;
+  std::string core::GalleryProject::*header;
+  std::string core::GalleryProject::*footer;
 };
 
 /// Opens the file dialog for the path in a text box.
 struct BackdropButton {
   std::string_view button;
   std::string_view title;
-  std::string GalleryProject::*path;
+  std::string core::GalleryProject::*path;
 };
 
 /// Opens the dialog for the five colors of a page; it offers to copy those of the other kind of page.
 struct ColorsButton {
   std::string_view button;
   std::string_view title;
-  const PageColorFields& colors;
-  const PageColorFields& others;
+  const core::PageColorFields& colors;
+  const core::PageColorFields& others;
 };
 
 /// Opens the dialog for a page link. With an empty label the link has no second graphic.
@@ -44,21 +44,21 @@ struct LinkButton {
   std::string_view button;
   std::string_view title;
   std::string_view disabledGraphicLabel;
-  LinkSettings GalleryProject::*link;
+  core::LinkSettings core::GalleryProject::*link;
 };
 
 struct FiltersButton {
   std::string_view button;
   std::string_view title;
-  ImageFilterSettings GalleryProject::*filters;
+  image::ImageFilterSettings core::GalleryProject::*filters;
 };
 
 /// The quality of a watermarked picture is a setting of its filters.
 struct WatermarkButton {
   std::string_view button;
   std::string_view title;
-  WatermarkSettings GalleryProject::*watermark;
-  ImageFilterSettings GalleryProject::*filters;
+  image::WatermarkSettings core::GalleryProject::*watermark;
+  image::ImageFilterSettings core::GalleryProject::*filters;
 };
 
 [[nodiscard]] std::span<const CodeButton> CodeButtons();
@@ -69,4 +69,4 @@ struct WatermarkButton {
 [[nodiscard]] std::span<const FiltersButton> FiltersButtons();
 [[nodiscard]] std::span<const WatermarkButton> WatermarkButtons();
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::ptrdiff_t kLongestToolTip = 63;
@@ -63,4 +63,4 @@ SysTrayMenu VantoriumSysTrayMenu() {
   return menu;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

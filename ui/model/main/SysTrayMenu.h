@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// An entry of the tray icon's menu. With the caption "-" it is a separator.
 struct SysTrayMenuItem {
@@ -51,4 +51,4 @@ class SysTrayMenu {
 /// Returns the program's menu: its window, help, about and close.
 [[nodiscard]] SysTrayMenu VantoriumSysTrayMenu();
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

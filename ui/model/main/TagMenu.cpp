@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr TagMenuEntry kPopupTextTags[] = {
@@ -17,10 +17,10 @@ constexpr TagMenuEntry kPopupTextTags[] = {
 
 std::span<const TagMenu> TagMenus() {
   static const std::array<TagMenu, 4> kMenus = {{
-      {"mnuEditTagsGallery", "Gallery Tags", OfferedTags(TagGroup::Gallery)},
-      {"mnuEditTagsImage", "Image Tags", OfferedTags(TagGroup::Image)},
-      {"mnuEditTagsThumbnail", "Thumbnail Tags", OfferedTags(TagGroup::Thumbnail)},
-      {"mnuEditTagsLinks", "Page Link Tags", OfferedTags(TagGroup::PageLink)},
+      {"mnuEditTagsGallery", "Gallery Tags", generation::OfferedTags(generation::TagGroup::Gallery)},
+      {"mnuEditTagsImage", "Image Tags", generation::OfferedTags(generation::TagGroup::Image)},
+      {"mnuEditTagsThumbnail", "Thumbnail Tags", generation::OfferedTags(generation::TagGroup::Thumbnail)},
+      {"mnuEditTagsLinks", "Page Link Tags", generation::OfferedTags(generation::TagGroup::PageLink)},
   }};
   return kMenus;
 }
@@ -29,4 +29,4 @@ std::span<const TagMenuEntry> PopupTextTags() {
   return kPopupTextTags;
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

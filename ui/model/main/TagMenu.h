@@ -5,10 +5,10 @@
 #include <span>
 #include <string_view>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// An entry that inserts a template tag; caption and tag are empty for a separator.
-using TagMenuEntry = OfferedTag;
+using TagMenuEntry = generation::OfferedTag;
 
 /// One submenu of "Insert Vantorium Tag", which inserts the tags of one group. An entry's object name is the menu's
 /// name followed by the entry's index.
@@ -23,4 +23,4 @@ struct TagMenu {
 /// Returns the tags of the main window's "menuPopupText".
 [[nodiscard]] std::span<const TagMenuEntry> PopupTextTags();
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

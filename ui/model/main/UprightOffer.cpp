@@ -4,11 +4,11 @@
 
 #include <algorithm>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 bool Lies(const std::filesystem::path& file) {
-  return ReadPhotographNotes(file, {.upright = true}).orientation != Orientation::AsStored;
+  return image::ReadPhotographNotes(file, {.upright = true}).orientation != image::Orientation::AsStored;
 }
 
 bool AnyLies(const std::vector<std::filesystem::path>& files, const std::stop_token& stop) {
@@ -24,7 +24,7 @@ bool FindsFirstLying(const LyingSearch& search, const std::stop_token& stop) {
 void UprightOffer::BeforeAdding() {
   names_.clear();
   if (!IsOpen()) return;
-  const ImageList& images = project_.images;
+  const core::ImageList& images = project_.images;
   for (std::size_t position = 1; position <= images.Count(); ++position) {
     names_.insert(images.Entry(position).ImageName);
   }
@@ -34,9 +34,9 @@ void UprightOffer::BeforeAdding() {
 std::optional<LyingSearch> UprightOffer::AfterAdding() const {
   if (!IsOpen()) return std::nullopt;
   LyingSearch search;
-  const ImageList& images = project_.images;
+  const core::ImageList& images = project_.images;
   for (std::size_t position = 1; position <= images.Count(); ++position) {
-    const ImageEntry& entry = images.Entry(position);
+    const core::ImageEntry& entry = images.Entry(position);
     const auto file = paths_.ToNative(entry.SourcePath);
     if (file) (names_.contains(entry.ImageName) ? search.earlier : search.added).push_back(*file);
   }
@@ -44,7 +44,7 @@ std::optional<LyingSearch> UprightOffer::AfterAdding() const {
   return search;
 }
 
-bool UprightOffer::Ask(MessageBoxPort& boxes) {
+bool UprightOffer::Ask(env::MessageBoxPort& boxes) {
   if (!IsOpen()) return false;
   asked_ = true;
   return boxes.AskYesNo("Photographs on their Side",
@@ -52,4 +52,4 @@ bool UprightOffer::Ask(MessageBoxPort& boxes) {
                         "them.\r\rDo you wish to turn the photographs of this gallery upright?");
 }
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

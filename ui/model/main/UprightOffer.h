@@ -11,7 +11,7 @@
 #include <unordered_set>
 #include <vector>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 /// Photographs to look at after some were added: native paths.
 struct LyingSearch {
@@ -28,7 +28,7 @@ struct LyingSearch {
 class UprightOffer {
  public:
   /// Both must outlive the offer.
-  UprightOffer(const Project& project, const PathMap& paths) : project_(project), paths_(paths) {}
+  UprightOffer(const core::Project& project, const env::PathMap& paths) : project_(project), paths_(paths) {}
 
   /// Call around what adds photographs. AfterAdding returns what to look at; nullopt if the answer would not matter:
   /// nothing was added, the photographs are turned already, or the user was asked.
@@ -36,17 +36,17 @@ class UprightOffer {
   [[nodiscard]] std::optional<LyingSearch> AfterAdding() const;
 
   /// Asks, unless the photographs are turned by now or the user was asked. Returns whether the user said yes.
-  [[nodiscard]] bool Ask(MessageBoxPort& boxes);
+  [[nodiscard]] bool Ask(env::MessageBoxPort& boxes);
   /// The next project may be asked about.
   void ForgetProject() { asked_ = false; }
 
  private:
   [[nodiscard]] bool IsOpen() const { return !asked_ && project_.settings.checkImagesUpright != 1; }
 
-  const Project& project_;
-  const PathMap& paths_;
+  const core::Project& project_;
+  const env::PathMap& paths_;
   std::unordered_set<std::string> names_;  // of the images before others were added
   bool asked_ = false;
 };
 
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,7 +1,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/dialogs/BrowserEntry.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(BrowserEntry, OKIsEnabledWhenItComesUpOnlyWithBothTexts) {
@@ -15,7 +15,7 @@ TEST(BrowserEntry, OKIsEnabledWhenItComesUpOnlyWithBothTexts) {
     entry.ComeUp();
     EXPECT_EQ(entry.IsOKEnabled(), enabled) << name << " at " << location;
     EXPECT_EQ(entry.Title(), "Edit Browser");
-    EXPECT_EQ(entry.Texts(), (Browser{name, location}));
+    EXPECT_EQ(entry.Texts(), (env::Browser{name, location}));
   }
 }
 
@@ -39,7 +39,7 @@ TEST(BrowserEntry, AChosenExecutableEnablesOKForAnyName) {
   entry.TakeExecutable("");
   EXPECT_FALSE(entry.IsOKEnabled());
   entry.TakeExecutable("C:\\b");
-  EXPECT_EQ(entry.Texts(), (Browser{"", "C:\\b"}));
+  EXPECT_EQ(entry.Texts(), (env::Browser{"", "C:\\b"}));
   EXPECT_TRUE(entry.IsOKEnabled());
   entry.ChangeName("");
   EXPECT_FALSE(entry.IsOKEnabled()) << "until the next change";
@@ -49,12 +49,12 @@ TEST(BrowserEntry, NoChosenExecutableLeavesTheLocation) {
   BrowserEntry entry("Edit Browser", {"a", "b"});
   entry.ComeUp();
   entry.TakeExecutable("");
-  EXPECT_EQ(entry.Texts(), (Browser{"a", "b"}));
+  EXPECT_EQ(entry.Texts(), (env::Browser{"a", "b"}));
 }
 
 TEST(BrowserEntry, ANativePathBecomesPathTextAndACommandLineStays) {
   const fakes::TemporaryFolder disk;
-  const PathMap paths{{{'C', disk.Path().string()}}};
+  const env::PathMap paths{{{'C', disk.Path().string()}}};
   const std::string folder = disk.Write("bin dir/fox", "").parent_path().string();
   const std::string usr = disk.Path().string() + "/usr";
   for (const auto& [typed, stored] : {std::pair{folder + "/fox", std::string("C:\\bin dir\\fox")},
@@ -67,7 +67,7 @@ TEST(BrowserEntry, ANativePathBecomesPathTextAndACommandLineStays) {
                                       {"", ""}}) {
     BrowserEntry entry("Add Browser", {"a", typed});
     entry.LeaveLocation(paths);
-    EXPECT_EQ(entry.Texts(), (Browser{"a", stored})) << typed;
+    EXPECT_EQ(entry.Texts(), (env::Browser{"a", stored})) << typed;
   }
 }
 
@@ -89,8 +89,8 @@ TEST(BrowserEntry, EachTimeItComesUpItIsNotConfirmedYet) {
   entry.PressOK();
   entry.ComeUp();
   EXPECT_TRUE(entry.Cancelled()) << "closing the window is a cancel";
-  EXPECT_EQ(entry.Texts(), (Browser{"a", "b"}));
+  EXPECT_EQ(entry.Texts(), (env::Browser{"a", "b"}));
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 #include "tests/ui/model/BrowserFakes.h"
 #include "ui/model/dialogs/BrowserList.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr const char* kDuplicateTitle = "Duplicate Browser Name";
@@ -205,7 +205,7 @@ TEST_F(BrowserListTest, RemovingWithoutASelectionDoesNothingAndTellsNothing) {
 TEST_F(BrowserListTest, AnEntryThatIsNotThereCannotBeSelected) {
   BrowserList list = ListOf(Numbered(2), 1);
   for (const std::size_t index : {std::size_t{2}, std::size_t{100}, ~std::size_t{0}}) {
-    EXPECT_EQ(fakes::FailureOf([&] { list.Select(index); }), FailureKind::IndexOutOfBounds) << index;
+    EXPECT_EQ(fakes::FailureOf([&] { list.Select(index); }), env::FailureKind::IndexOutOfBounds) << index;
   }
   EXPECT_EQ(list.Selected(), 1U);
   list.Select(std::nullopt);
@@ -213,4 +213,4 @@ TEST_F(BrowserListTest, AnEntryThatIsNotThereCannotBeSelected) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -33,8 +33,8 @@ TEST(CodeEditor, ARefusalIsReportedInACriticalBox) {
   fakes::RecordingMessageBox boxes;
   ASSERT_TRUE(FindRefusedCode(Texts{"]]>"}, boxes));
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
-  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::Ok);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::Ok);
   EXPECT_EQ(boxes.boxes[0].title, "Invalid Characters found");
   EXPECT_EQ(boxes.boxes[0].text, "Custom code may not contain the string \"]]>\". Please edit your code accordingly.");
 }
@@ -47,4 +47,4 @@ TEST(CodeEditor, TheSecondTextIsLookedAtWhenTheFirstPasses) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

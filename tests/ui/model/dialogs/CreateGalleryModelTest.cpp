@@ -7,17 +7,17 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 0, "www"};
-const ServerProfile kTwo = {"Two", "two.example.org", "Anonymous", "", "index.htm", 0, ""};
+const publish::ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 0, "www"};
+const publish::ServerProfile kTwo = {"Two", "two.example.org", "Anonymous", "", "index.htm", 0, ""};
 
 class CreateGalleryModelTest : public testing::Test {
  protected:
-  [[nodiscard]] std::filesystem::path File() const { return ServerListFileName(program.Path()); }
-  void ComeUpWith(const std::vector<ServerProfile>& profiles, std::optional<std::size_t> selected = 0) {
-    WriteServerList(profiles, selected, File());
+  [[nodiscard]] std::filesystem::path File() const { return publish::ServerListFileName(program.Path()); }
+  void ComeUpWith(const std::vector<publish::ServerProfile>& profiles, std::optional<std::size_t> selected = 0) {
+    publish::WriteServerList(profiles, selected, File());
     model.ComeUp();
   }
   void ComeUpWithIndex(const std::string& indexFile) {
@@ -33,21 +33,21 @@ class CreateGalleryModelTest : public testing::Test {
     return model.FilePath();
   }
   /// What the dialog orders for `option`, closed by its button.
-  RunOrder Applied(GenerationMode option) {
+  generation::RunOrder Applied(generation::GenerationMode option) {
     model.Choose(option);
     EXPECT_EQ(model.Apply(), ApplyResult::Done);
-    return model.Order().value_or(RunOrder{.Mode = GenerationMode::Preview});
+    return model.Order().value_or(generation::RunOrder{.Mode = generation::GenerationMode::Preview});
   }
   void ExpectBox(const std::string& title, const std::string& text) const {
     ASSERT_EQ(boxes.boxes.size(), 1U);
-    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
     EXPECT_EQ(boxes.boxes[0].title, title);
     EXPECT_EQ(boxes.boxes[0].text, text);
   }
 
   fakes::TemporaryFolder program;
-  Preferences preferences;
-  PathMap paths{{{'C', "/home/me"}}};
+  env::Preferences preferences;
+  env::PathMap paths{{{'C', "/home/me"}}};
   fakes::RecordingMessageBox boxes;
   CreateGalleryModel model{preferences, File(), paths, boxes};
 };
@@ -84,7 +84,7 @@ TEST(NormalizeFolderPath, AFolderOnNoDriveIsRefused) {
     ASSERT_EQ(boxes.boxes.size(), 1U) << typed;
     EXPECT_EQ(boxes.boxes[0].title, "Invalid Path");
     EXPECT_EQ(boxes.boxes[0].text, "You must specify an absolute Path.");
-    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+    EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
   }
 }
 
@@ -132,7 +132,7 @@ TEST_F(CreateGalleryModelTest, WithoutServersTheDestinationsAreEmpty) {
     model.ComeUp();
     EXPECT_EQ(model.PublishDestination(), "") << text;
     EXPECT_EQ(model.UploadDestination(), "") << text;
-    EXPECT_EQ(Applied(GenerationMode::Publish).ServerAddress, "") << text;
+    EXPECT_EQ(Applied(generation::GenerationMode::Publish).ServerAddress, "") << text;
   }
   std::filesystem::remove(File());
   model.ComeUp();
@@ -144,7 +144,7 @@ TEST_F(CreateGalleryModelTest, ComesUpWithThePreferredServer) {
   ComeUpWith({kTwo, kOne}, 1);
   EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
   EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b/");
-  const RunOrder order = Applied(GenerationMode::Publish);
+  const generation::RunOrder order = Applied(generation::GenerationMode::Publish);
   EXPECT_EQ(order.ServerAddress, "one.example.org");
   EXPECT_EQ(order.UserName, "me");
   EXPECT_EQ(order.RemoteFolder, "a/b/");
@@ -155,7 +155,7 @@ TEST_F(CreateGalleryModelTest, ComesUpWithThePreferredServer) {
 
 TEST_F(CreateGalleryModelTest, APreferenceOutsideTheListIsTheFirstServer) {
   for (const char* preferred : {"0", "-3", "3"}) {
-    WriteServerList({kOne, kTwo}, 0, File());
+    publish::WriteServerList({kOne, kTwo}, 0, File());
     std::string text = program.Read("vantorium.pub");
     text.replace(text.find("PreferredServer=\"1\""), 19, "PreferredServer=\"" + std::string(preferred) + "\"");
     program.Write("vantorium.pub", text);
@@ -190,30 +190,32 @@ TEST_F(CreateGalleryModelTest, ThePasswordIsHiddenUnlessTheServerIsOpenToEveryon
 
 TEST_F(CreateGalleryModelTest, ComesUpWithoutThePasswordButWithTheOptionAndTheSwitches) {
   ComeUpWith({kOne});
-  EXPECT_EQ(model.Chosen(), GenerationMode::Create);
-  EXPECT_TRUE(model.IsChecked(&RunOrder::CreateImages) && model.IsChecked(&RunOrder::CreateThumbnails) &&
-              model.IsChecked(&RunOrder::CreateHTML) && model.IsChecked(&RunOrder::Overwrite));
-  model.Choose(GenerationMode::Publish);
-  model.Check(&RunOrder::Overwrite, false);
+  EXPECT_EQ(model.Chosen(), generation::GenerationMode::Create);
+  EXPECT_TRUE(model.IsChecked(&generation::RunOrder::CreateImages) &&
+              model.IsChecked(&generation::RunOrder::CreateThumbnails) &&
+              model.IsChecked(&generation::RunOrder::CreateHTML) && model.IsChecked(&generation::RunOrder::Overwrite));
+  model.Choose(generation::GenerationMode::Publish);
+  model.Check(&generation::RunOrder::Overwrite, false);
   model.EditPassword("secret");
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().Password, "secret");
   model.ComeUp();
   EXPECT_EQ(model.Password(), "");
-  EXPECT_EQ(model.Chosen(), GenerationMode::Publish);
-  EXPECT_FALSE(model.IsChecked(&RunOrder::Overwrite));
+  EXPECT_EQ(model.Chosen(), generation::GenerationMode::Publish);
+  EXPECT_FALSE(model.IsChecked(&generation::RunOrder::Overwrite));
   EXPECT_TRUE(model.Cancelled);
 }
 
 // Switches
 
 TEST_F(CreateGalleryModelTest, AnUploadOfAFolderProducesNothing) {
-  for (const GenerationMode option : {GenerationMode::Create, GenerationMode::Publish}) {
+  for (const generation::GenerationMode option :
+       {generation::GenerationMode::Create, generation::GenerationMode::Publish}) {
     model.Choose(option);
     EXPECT_TRUE(model.Produces());
     EXPECT_TRUE(model.CanOverwrite());
   }
-  model.Choose(GenerationMode::Upload);
+  model.Choose(generation::GenerationMode::Upload);
   EXPECT_FALSE(model.Produces());
   EXPECT_FALSE(model.CanOverwrite());
 }
@@ -221,8 +223,8 @@ TEST_F(CreateGalleryModelTest, AnUploadOfAFolderProducesNothing) {
 TEST_F(CreateGalleryModelTest, OverwritingIsAboutImagesAndThumbnails) {
   for (const bool images : {true, false}) {
     for (const bool thumbnails : {true, false}) {
-      model.Check(&RunOrder::CreateImages, images);
-      model.Check(&RunOrder::CreateThumbnails, thumbnails);
+      model.Check(&generation::RunOrder::CreateImages, images);
+      model.Check(&generation::RunOrder::CreateThumbnails, thumbnails);
       EXPECT_EQ(model.CanOverwrite(), images || thumbnails);
     }
   }
@@ -302,7 +304,7 @@ TEST_F(CreateGalleryModelTest, AChosenServerIsTakenOver) {
   EXPECT_EQ(model.PublishDestination(), "two.example.org/index.htm");
   EXPECT_EQ(model.UploadDestination(), "two.example.org/");
   std::ignore = model.Apply();
-  const RunOrder order = Applied(GenerationMode::Publish);
+  const generation::RunOrder order = Applied(generation::GenerationMode::Publish);
   EXPECT_EQ(order.ServerAddress, "two.example.org");
   EXPECT_EQ(order.UserName, "Anonymous");
   EXPECT_EQ(order.RemoteFolder, "");
@@ -341,7 +343,7 @@ TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
         TypedCase{"one.example.org/a/b/other.htm", "one.example.org", "a/b/", "other.htm"}}) {
     ComeUpWith({kOne});
     model.EditPublishDestination(typed);
-    const RunOrder order = Applied(GenerationMode::Publish);
+    const generation::RunOrder order = Applied(generation::GenerationMode::Publish);
     EXPECT_EQ(order.ServerAddress, host) << typed;
     EXPECT_EQ(order.RemoteFolder, path) << typed;
     EXPECT_EQ(order.RemoteIndexFileName, file) << typed;
@@ -358,7 +360,7 @@ TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
     ComeUpWith({kOne});
     model.EditSourceFolder("D:\\photos");
     model.EditUploadDestination(typed);
-    const RunOrder order = Applied(GenerationMode::Upload);
+    const generation::RunOrder order = Applied(generation::GenerationMode::Upload);
     EXPECT_EQ(order.ServerAddress, host) << typed;
     EXPECT_EQ(order.RemoteFolder, path) << typed;
     EXPECT_EQ(order.RemoteIndexFileName, file) << typed;
@@ -369,7 +371,7 @@ TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
 TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlone) {
   ComeUpWith({kOne});
   const std::string servers = program.Read("vantorium.pub");
-  model.Choose(GenerationMode::Publish);
+  model.Choose(generation::GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(program.Read("vantorium.pub"), servers);
@@ -383,8 +385,9 @@ TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlo
 TEST_F(CreateGalleryModelTest, AnUntouchedDestinationIsTheServersOwn) {
   for (const char* index : {"a//b//start.htm", "", "start.htm", "a/b/"}) {
     ComeUpWithIndex(index);
-    const RunOrder before = Applied(GenerationMode::Publish);
-    for (const GenerationMode option : {GenerationMode::Publish, GenerationMode::Upload}) {
+    const generation::RunOrder before = Applied(generation::GenerationMode::Publish);
+    for (const generation::GenerationMode option :
+         {generation::GenerationMode::Publish, generation::GenerationMode::Upload}) {
       model.Choose(option);
       model.EditSourceFolder("D:\\photos");
       const std::string publish = model.PublishDestination();
@@ -393,10 +396,10 @@ TEST_F(CreateGalleryModelTest, AnUntouchedDestinationIsTheServersOwn) {
       model.EditUploadDestination("elsewhere");
       model.EditPublishDestination(publish);
       model.EditUploadDestination(upload);
-      const RunOrder order = Applied(option);
+      const generation::RunOrder order = Applied(option);
       EXPECT_EQ(order.ServerAddress, before.ServerAddress) << index;
       EXPECT_EQ(order.RemoteFolder, before.RemoteFolder) << index;
-      if (option == GenerationMode::Publish) {
+      if (option == generation::GenerationMode::Publish) {
         EXPECT_EQ(order.RemoteIndexFileName, before.RemoteIndexFileName) << index;
       }
     }
@@ -405,7 +408,7 @@ TEST_F(CreateGalleryModelTest, AnUntouchedDestinationIsTheServersOwn) {
 
 TEST_F(CreateGalleryModelTest, AServerChosenAfterATypedChangeReplacesIt) {
   ComeUpWith({kOne});
-  model.Choose(GenerationMode::Publish);
+  model.Choose(generation::GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
   model.TakeServer(kTwo);
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
@@ -418,14 +421,14 @@ TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsReportedBeforeTheRu
        {"", "x", "gallery.htm", "/gallery/index.htm", "http://host/a", "host:2121/a", "me@host/a"}) {
     ComeUpWith({kOne});
     boxes.boxes.clear();
-    model.Choose(GenerationMode::Publish);
+    model.Choose(generation::GenerationMode::Publish);
     model.EditPublishDestination(typed);
     EXPECT_EQ(model.Apply(), ApplyResult::NoDestination) << typed;
     EXPECT_EQ(model.Order(), std::nullopt) << typed;
     ExpectBox("Invalid Destination",
               "Please give Server, Folder and Index File, such as \"ftp.example.org/gallery/index.htm\".");
     boxes.boxes.clear();
-    model.Choose(GenerationMode::Upload);
+    model.Choose(generation::GenerationMode::Upload);
     model.EditSourceFolder("D:\\photos");
     model.EditUploadDestination(typed);
     EXPECT_EQ(model.Apply(), ApplyResult::NoDestination) << typed;
@@ -439,7 +442,7 @@ TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
   ComeUpWith({kOne});
   model.EditPublishDestination("x");
   EXPECT_EQ(model.Apply(), ApplyResult::Done) << "a local gallery";
-  model.Choose(GenerationMode::Upload);
+  model.Choose(generation::GenerationMode::Upload);
   model.EditSourceFolder("D:\\photos");
   EXPECT_EQ(model.Apply(), ApplyResult::Done) << "a folder";
   EXPECT_EQ(model.Order().value().ServerAddress, "one.example.org");
@@ -456,36 +459,39 @@ TEST_F(CreateGalleryModelTest, LeavingTheServersHidesThePasswordAsTheirUserNeeds
 // Apply
 
 TEST_F(CreateGalleryModelTest, AGalleryOfNothingIsRefused) {
-  for (const GenerationMode option : {GenerationMode::Create, GenerationMode::Publish}) {
+  for (const generation::GenerationMode option :
+       {generation::GenerationMode::Create, generation::GenerationMode::Publish}) {
     boxes.boxes.clear();
     model.ComeUp();
     model.Choose(option);
-    for (const auto box : {&RunOrder::CreateImages, &RunOrder::CreateThumbnails, &RunOrder::CreateHTML}) {
+    for (const auto box : {&generation::RunOrder::CreateImages, &generation::RunOrder::CreateThumbnails,
+                           &generation::RunOrder::CreateHTML}) {
       model.Check(box, false);
     }
     EXPECT_EQ(model.Apply(), ApplyResult::Refused);
     ExpectBox("Cannot create Gallery", "Please make sure you have one of the Options checked!");
     EXPECT_EQ(model.Order(), std::nullopt);
-    model.Check(&RunOrder::CreateHTML, true);
+    model.Check(&generation::RunOrder::CreateHTML, true);
     EXPECT_EQ(model.Apply(), ApplyResult::Done);
     EXPECT_EQ(model.Order().value().Mode, option);
   }
 }
 
 TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
-  model.Choose(GenerationMode::Upload);
-  for (const auto box : {&RunOrder::CreateImages, &RunOrder::CreateThumbnails, &RunOrder::CreateHTML}) {
+  model.Choose(generation::GenerationMode::Upload);
+  for (const auto box : {&generation::RunOrder::CreateImages, &generation::RunOrder::CreateThumbnails,
+                         &generation::RunOrder::CreateHTML}) {
     model.Check(box, false);
   }
   model.EditSourceFolder("C:\\photos");
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_TRUE(boxes.boxes.empty());
-  EXPECT_EQ(model.Order().value().Mode, GenerationMode::Upload);
+  EXPECT_EQ(model.Order().value().Mode, generation::GenerationMode::Upload);
   EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
 }
 
 TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
-  model.Choose(GenerationMode::Upload);
+  model.Choose(generation::GenerationMode::Upload);
   model.EditSourceFolder("photos");
   EXPECT_EQ(model.Apply(), ApplyResult::NoSourceFolder);
   EXPECT_EQ(model.SourceFolder(), "photos\\");
@@ -504,7 +510,7 @@ TEST_F(CreateGalleryModelTest, APathIsFinishedWhenTheKeyboardAppliesFromItsBox) 
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().OutputFolder, "D:\\");
   EXPECT_EQ(model.Order().value().IndexFileName, "index.htm");
-  model.Choose(GenerationMode::Upload);
+  model.Choose(generation::GenerationMode::Upload);
   model.EditSourceFolder("/home/me/photos");
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
@@ -519,4 +525,4 @@ TEST_F(CreateGalleryModelTest, CancelStartsNoRun) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 class DescriptionsOfAProject : public testing::Test {
@@ -14,14 +14,14 @@ class DescriptionsOfAProject : public testing::Test {
   }
 
   [[nodiscard]] std::vector<std::string_view> Alignments(const DescriptionKind& kind) const {
-    const ValueList texts = descriptions.Alignments(kind);
+    const core::ValueList texts = descriptions.Alignments(kind);
     return {texts.begin(), texts.end()};
   }
 
   const DescriptionKind& images = DescriptionKinds()[kImageDescriptions];
   const DescriptionKind& thumbnails = DescriptionKinds()[kThumbnailDescriptions];
-  Project project;
-  ProjectEditor editor{project.settings, project.IsModified};
+  core::Project project;
+  core::ProjectEditor editor{project.settings, project.IsModified};
   fakes::RecordingMessageBox boxes;
   Descriptions descriptions{project, boxes};
 };
@@ -71,8 +71,8 @@ TEST_F(DescriptionsOfAProject, ClearingAllAsksAndClearsOneKind) {
   }
   EXPECT_TRUE(descriptions.MayClearAll(thumbnails));
   ASSERT_EQ(boxes.boxes.size(), 2U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Exclamation);
-  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::YesNo);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Exclamation);
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo);
   EXPECT_EQ(boxes.boxes[0].title, "Clear Image Descriptions");
   EXPECT_EQ(boxes.boxes[0].text,
             "This will delete the Descriptions for ALL Images in the Gallery.  Are you sure you wish to continue?");
@@ -82,7 +82,7 @@ TEST_F(DescriptionsOfAProject, ClearingAllAsksAndClearsOneKind) {
 }
 
 TEST_F(DescriptionsOfAProject, ClearingAllTakesNoForAnAnswer) {
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   EXPECT_FALSE(descriptions.MayClearAll(images));
 }
 
@@ -97,7 +97,7 @@ TEST_F(DescriptionsOfAProject, TheAlignmentsFollowThePlacement) {
   const std::vector<std::string_view> vertical = {"align top", "align center", "align bottom"};
   const std::vector<std::string_view> horizontal = {"align left", "align center", "align right"};
   for (const DescriptionKind& kind : DescriptionKinds()) {
-    for (Choice placement = 0; placement <= 4; ++placement) {
+    for (core::Choice placement = 0; placement <= 4; ++placement) {
       descriptions.ChoosePlacement(kind, placement);
       EXPECT_EQ(Alignments(kind), placement == 1 || placement == 2 ? vertical : horizontal) << placement;
       EXPECT_EQ(descriptions.IsAlignmentEnabled(kind), placement != 0) << placement;
@@ -156,4 +156,4 @@ TEST_F(DescriptionsOfAProject, PlacementsAreTakenAgainFromAnotherProject) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

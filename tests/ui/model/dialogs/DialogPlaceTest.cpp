@@ -2,7 +2,7 @@
 #include "ui/model/dialogs/DialogPlace.h"
 #include "ui/model/files/Drives.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 class Places : public testing::Test {
@@ -14,7 +14,7 @@ class Places : public testing::Test {
 
   fakes::TemporaryFolder disk;
   std::filesystem::path home = disk.Path() / "home";
-  PathMap paths{{{'C', disk.Path().string()}, {'Q', (disk.Path() / "missing").string()}, {'Z', "/"}}};
+  env::PathMap paths{{{'C', disk.Path().string()}, {'Q', (disk.Path() / "missing").string()}, {'Z', "/"}}};
 };
 
 struct Nearest {
@@ -66,4 +66,4 @@ TEST_F(Places, DrivesAreThoseWhoseFoldersExist) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

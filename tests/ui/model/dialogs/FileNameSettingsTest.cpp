@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 const NameField& Named(std::string_view control) {
@@ -21,9 +21,9 @@ class NameSettings : public testing::Test {
   const NameField& folder = Named("textImageSettingsSubFolder");
   const NameField& extension = Named("comboImageWrapperSettingsFileExtension");
   const NameField& frame = Named("comboImageFrameName");
-  GalleryProject project;
+  core::GalleryProject project;
   bool modified = false;
-  ProjectEditor editor{project, modified};
+  core::ProjectEditor editor{project, modified};
 };
 
 TEST_F(NameSettings, AreSixOfFilesAndTwoOfFrames) {
@@ -92,4 +92,4 @@ TEST_F(NameSettings, AnEditMarksTheProjectAndStoresNothingYet) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

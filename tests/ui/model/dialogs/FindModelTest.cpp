@@ -1,6 +1,6 @@
 #include "ui/model/dialogs/FindModel.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(FindModel, OnlyATextCanBeLookedFor) {
@@ -45,4 +45,4 @@ TEST(FindModel, TheNextTimeTheTextIsStillThereButNoResult) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

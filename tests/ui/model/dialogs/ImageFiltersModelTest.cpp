@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-using Settings = ImageFilterSettings;
+using Settings = image::ImageFilterSettings;
 
 class ImageFiltersDialog : public testing::Test {
  protected:
@@ -26,13 +26,13 @@ class ImageFiltersDialog : public testing::Test {
   }
 
   /// The expected source after compression to a JPEG file and resizing.
-  std::unique_ptr<cDIBSection> CompressedAndResized(int quality) {
-    cDIBSection source;
-    EXPECT_TRUE(LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
+  std::unique_ptr<image::cDIBSection> CompressedAndResized(int quality) {
+    image::cDIBSection source;
+    EXPECT_TRUE(image::LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
     const auto file = desk.folder.Path() / "expected.jpg";
-    SaveJPEGImage(source, file, quality);
-    EXPECT_TRUE(LoadJPEGImage(source, file));
-    return Resample(source, box.size.height, box.size.width);
+    image::SaveJPEGImage(source, file, quality);
+    EXPECT_TRUE(image::LoadJPEGImage(source, file));
+    return image::Resample(source, box.size.height, box.size.width);
   }
 
   fakes::SampleDesk desk;
@@ -43,7 +43,7 @@ class ImageFiltersDialog : public testing::Test {
 TEST_F(ImageFiltersDialog, OpensWithItsSampleStretchedToTheBox) {
   const auto model = Opened();
   EXPECT_EQ(box.calls, "clear clear paint ");
-  EXPECT_EQ(box.paintedSize, (PictureSize{40, 30}));
+  EXPECT_EQ(box.paintedSize, (image::PictureSize{40, 30}));
   EXPECT_EQ(box.painted.at(0), fakes::BytesOf(*CompressedAndResized(85)));
   EXPECT_TRUE(model->Cancelled());
 }
@@ -59,11 +59,11 @@ TEST_F(ImageFiltersDialog, TheSampleShowsQualityThenSizeThenNoiseFadeBrightnessA
           .checkNoiseRandom = 1,
           .sliderQuality = 7});
   const auto expected = CompressedAndResized(7);
-  NoiseStream noise(0, 0);
-  AddNoise(*expected, 60, true, noise);
-  Fade(*expected, 200);
-  Lighten(*expected, 40);
-  GrayScale(*expected);
+  image::NoiseStream noise(0, 0);
+  image::AddNoise(*expected, 60, true, noise);
+  image::Fade(*expected, 200);
+  image::Lighten(*expected, 40);
+  image::GrayScale(*expected);
   EXPECT_EQ(box.painted.at(0), fakes::BytesOf(*expected));
 }
 
@@ -188,4 +188,4 @@ TEST_F(ImageFiltersDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

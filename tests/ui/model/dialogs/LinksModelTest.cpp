@@ -3,22 +3,22 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-constexpr auto kFirst = &LinkSettings::textLinkGraphic;
-constexpr auto kSecond = &LinkSettings::textLinkGraphicDisabled;
+constexpr auto kFirst = &core::LinkSettings::textLinkGraphic;
+constexpr auto kSecond = &core::LinkSettings::textLinkGraphicDisabled;
 
 class LinkDialog : public testing::Test {
  protected:
-  LinksModel Model(const LinkSettings& link) {
+  LinksModel Model(const core::LinkSettings& link) {
     return {link, paths, folder, [this] { ++edits; }};
   }
   static std::string Graphics(const LinksModel& model) {
     return model.Link().textLinkGraphic + "|" + model.Link().textLinkGraphicDisabled;
   }
 
-  PathMap paths{{{'C', "/home/me"}, {'Z', "/"}}};
+  env::PathMap paths{{{'C', "/home/me"}, {'Z', "/"}}};
   std::string folder = "C:\\last\\";
   fakes::ScriptedFileBrowser browser;
   int edits = 0;
@@ -145,7 +145,7 @@ TEST_F(LinkDialog, AGraphicThatIsBrowsedForIsFollowedToo) {
 
 TEST_F(LinkDialog, CloseGivesAMissingGraphicTheOther) {
   struct Case {
-    LinkSettings link;
+    core::LinkSettings link;
     const char* expected;
     int edits;
   };
@@ -167,4 +167,4 @@ TEST_F(LinkDialog, CloseFinishesWhatIsBeingTyped) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

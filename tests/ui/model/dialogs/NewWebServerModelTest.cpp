@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(NewWebServerModel, BeginsWithANameThatCanBeConfirmed) {
@@ -37,4 +37,4 @@ TEST(NewWebServerModel, CancelIsReported) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 class ProgressButtonsTest : public testing::Test {
@@ -15,15 +15,15 @@ class ProgressButtonsTest : public testing::Test {
   fakes::FixedClock clock;
   fakes::RecordingMessageBox boxes;
   fakes::ScriptedCancel cancel;
-  UploadLog log{program.Path(), clock, boxes};
-  ProgressModel window{log};
+  publish::UploadLog log{program.Path(), clock, boxes};
+  publish::ProgressModel window{log};
 };
 
 TEST_F(ProgressButtonsTest, TheCancelButtonSetsTheFlagAndAsksAtOnce) {
   window.Show();
   EXPECT_EQ(CancelButtonCaption(window), "&Cancel");
   EXPECT_FALSE(IsShowLogVisible(window));
-  cancel.onPoll = [this](ProgressWindow& progress) {
+  cancel.onPoll = [this](publish::ProgressWindow& progress) {
     EXPECT_EQ(&progress, &window);
     EXPECT_TRUE(progress.IsCancelled());
     progress.SetIsCancelled(false);  // the user answers No
@@ -56,4 +56,4 @@ TEST_F(ProgressButtonsTest, ShowLogOpensTheLogAndAFailureOfTheDesktopIsNotLooked
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

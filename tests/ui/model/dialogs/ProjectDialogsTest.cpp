@@ -1,6 +1,6 @@
 #include "ui/model/dialogs/ProjectDialogs.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 class ScriptedFileBrowser : public FileBrowser {
@@ -22,7 +22,7 @@ class ProjectDialog : public testing::Test {
 
 TEST_F(ProjectDialog, AProjectIsOpenedThroughTheFileDialog) {
   browser.answer = "C:\\galleries\\a.gpj";
-  EXPECT_EQ(dialog.Choose({.purpose = ProjectFileDialog::Purpose::Open,
+  EXPECT_EQ(dialog.Choose({.purpose = core::ProjectFileDialog::Purpose::Open,
                            .title = "Open Gallery Project",
                            .filter = "Vantorium 3.0 Project Files (*.gpj)|*.gpj",
                            .defaultPattern = "*.gpj",
@@ -42,7 +42,7 @@ TEST_F(ProjectDialog, AProjectIsOpenedThroughTheFileDialog) {
 }
 
 TEST_F(ProjectDialog, AProjectIsSavedUnderTheNameProposed) {
-  EXPECT_EQ(dialog.Choose({.purpose = ProjectFileDialog::Purpose::Save,
+  EXPECT_EQ(dialog.Choose({.purpose = core::ProjectFileDialog::Purpose::Save,
                            .title = "Save Gallery Project As",
                            .filter = "Projects|*.gpj",
                            .defaultPattern = "",
@@ -57,4 +57,4 @@ TEST_F(ProjectDialog, AProjectIsSavedUnderTheNameProposed) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

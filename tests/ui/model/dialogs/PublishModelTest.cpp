@@ -6,18 +6,19 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-const ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
-const ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
+const publish::ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
+const publish::ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
 
 TEST(ServerKey, HostsAndPathsAreTypedWithSlashesAndTheGallerysWithoutBlanks) {
-  const std::vector<std::tuple<ServerField, std::string, std::string>> cases = {{&ServerProfile::ServerURL, "/", " "},
-                                                                                {&ServerProfile::JumpTo, "/", " "},
-                                                                                {&ServerProfile::IndexPath, "/", "_"},
-                                                                                {&ServerProfile::IndexFile, "/", "_"},
-                                                                                {&ServerProfile::UserName, "\\", " "}};
+  const std::vector<std::tuple<ServerField, std::string, std::string>> cases = {
+      {&publish::ServerProfile::ServerURL, "/", " "},
+      {&publish::ServerProfile::JumpTo, "/", " "},
+      {&publish::ServerProfile::IndexPath, "/", "_"},
+      {&publish::ServerProfile::IndexFile, "/", "_"},
+      {&publish::ServerProfile::UserName, "\\", " "}};
   for (const auto& [field, backslash, blank] : cases) {
     EXPECT_EQ(ServerKey(field, "\\"), backslash);
     EXPECT_EQ(ServerKey(field, " "), blank);
@@ -28,10 +29,10 @@ TEST(ServerKey, HostsAndPathsAreTypedWithSlashesAndTheGallerysWithoutBlanks) {
 
 class PublishModelTest : public testing::Test {
  protected:
-  [[nodiscard]] std::filesystem::path File() const { return ServerListFileName(program.Path()); }
+  [[nodiscard]] std::filesystem::path File() const { return publish::ServerListFileName(program.Path()); }
   [[nodiscard]] std::string Text() const { return program.Read("vantorium.pub"); }
-  PublishModel& Open(const std::vector<ServerProfile>& profiles, std::size_t selected = 0) {
-    WriteServerList(profiles, selected, File());
+  PublishModel& Open(const std::vector<publish::ServerProfile>& profiles, std::size_t selected = 0) {
+    publish::WriteServerList(profiles, selected, File());
     return Open();
   }
   PublishModel& Open() {
@@ -59,10 +60,10 @@ TEST_F(PublishModelTest, WithoutAFileTheFirstOpeningIsEmptyAndTheNextHasTheDefau
   EXPECT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].title, "File Error");
   EXPECT_FALSE(model->Selected());
-  EXPECT_EQ(model->Shown(), ServerProfile());
+  EXPECT_EQ(model->Shown(), publish::ServerProfile());
   EXPECT_FALSE(model->CanAccept());
   EXPECT_FALSE(model->CanDelete());
-  model->Edit(&ServerProfile::ServerURL, "typed into nothing");
+  model->Edit(&publish::ServerProfile::ServerURL, "typed into nothing");
   EXPECT_FALSE(model->CanAccept());
   Open();
   EXPECT_EQ(boxes.boxes.size(), 1U);
@@ -72,15 +73,15 @@ TEST_F(PublishModelTest, WithoutAFileTheFirstOpeningIsEmptyAndTheNextHasTheDefau
 
 TEST_F(PublishModelTest, OkNeedsAHost) {
   Open({kOne});
-  model->Edit(&ServerProfile::ServerURL, "");
+  model->Edit(&publish::ServerProfile::ServerURL, "");
   EXPECT_FALSE(model->CanAccept());
-  model->Edit(&ServerProfile::ServerURL, "h");
+  model->Edit(&publish::ServerProfile::ServerURL, "h");
   EXPECT_TRUE(model->CanAccept());
 }
 
 TEST_F(PublishModelTest, EditsGoIntoTheSelectedServerAndStayThere) {
   Open({kOne, kTwo});
-  model->Edit(&ServerProfile::UserName, "somebody");
+  model->Edit(&publish::ServerProfile::UserName, "somebody");
   model->Select(1);
   EXPECT_EQ(model->Shown(), kTwo);
   model->Select(0);
@@ -110,13 +111,13 @@ TEST_F(PublishModelTest, TheTimeOutIsTheNumberThatItsTextBeginsWith) {
     EXPECT_EQ(model->GetTimeout(), number) << text;
   }
   model->textTimeout = "40000";
-  EXPECT_EQ(fakes::FailureOf([this] { std::ignore = model->GetTimeout(); }), FailureKind::Overflow);
+  EXPECT_EQ(fakes::FailureOf([this] { std::ignore = model->GetTimeout(); }), env::FailureKind::Overflow);
 }
 
 TEST_F(PublishModelTest, ANewServerIsWrittenAtOnceAndEndsTheCancel) {
   Open({kOne});
   EXPECT_TRUE(model->AddNewServer("Three"));
-  EXPECT_EQ(model->Shown(), (ServerProfile{"Three", "", "", "gallery", "index.htm", 0, ""}));
+  EXPECT_EQ(model->Shown(), (publish::ServerProfile{"Three", "", "", "gallery", "index.htm", 0, ""}));
   EXPECT_FALSE(model->CanCancel());
   EXPECT_TRUE(model->CanDelete());
   EXPECT_FALSE(model->CanAccept()) << "its host is missing";
@@ -152,19 +153,19 @@ TEST_F(PublishModelTest, ADeletedServerGivesItsPlaceToTheNextAndTheFileFollowsWi
 TEST_F(PublishModelTest, OkCleansUpAndWritesTheList) {
   Open({kOne, kTwo});
   model->Select(1);
-  model->Edit(&ServerProfile::ServerURL, "ftp://host/");
-  model->Edit(&ServerProfile::IndexPath, "/a//b/");
-  model->Edit(&ServerProfile::IndexFile, "");
+  model->Edit(&publish::ServerProfile::ServerURL, "ftp://host/");
+  model->Edit(&publish::ServerProfile::IndexPath, "/a//b/");
+  model->Edit(&publish::ServerProfile::IndexFile, "");
   EXPECT_TRUE(model->Accept());
   EXPECT_TRUE(model->QueryPublish());
-  EXPECT_EQ(model->Shown(), (ServerProfile{"Two", "host/", "anonymous", "a/b", "index.htm", 0, ""}));
+  EXPECT_EQ(model->Shown(), (publish::ServerProfile{"Two", "host/", "anonymous", "a/b", "index.htm", 0, ""}));
   EXPECT_NE(Text().find("PreferredServer=\"2\""), std::string::npos) << Text();
   EXPECT_NE(Text().find("IndexFile2=\"a/b/index.htm\""), std::string::npos) << Text();
 }
 
 TEST_F(PublishModelTest, AnIndexFileWithAPathIsRefusedWhereItCanBeSeen) {
   Open({kOne});
-  model->Edit(&ServerProfile::IndexFile, "a/start.htm");
+  model->Edit(&publish::ServerProfile::IndexFile, "a/start.htm");
   EXPECT_FALSE(model->Accept());
   EXPECT_FALSE(model->QueryPublish());
   ASSERT_EQ(boxes.boxes.size(), 1U);
@@ -188,7 +189,7 @@ TEST_F(PublishModelTest, CancelGoesBackToTheServerOfTheOpening) {
   Open({kOne, kTwo}, 1);
   const std::string before = Text();
   model->Select(0);
-  model->Edit(&ServerProfile::UserName, "somebody");
+  model->Edit(&publish::ServerProfile::UserName, "somebody");
   model->Cancel();
   EXPECT_EQ(model->Shown(), kTwo);
   EXPECT_FALSE(model->QueryPublish());
@@ -203,4 +204,4 @@ TEST_F(PublishModelTest, CancelWithoutThatServerLeavesTheSelection) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -1,6 +1,6 @@
 #include "ui/model/dialogs/RenameModel.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(RenameModel, OnlyATextCanBeAccepted) {
@@ -36,15 +36,15 @@ TEST(RenameModel, AcceptGivesTheTextAndCancelNone) {
   model.Accept();
   EXPECT_EQ(model.GetNameBase(), "Alps");
   model.Cancel();
-  EXPECT_EQ(model.GetNameBase(), kNoNameBase);
+  EXPECT_EQ(model.GetNameBase(), core::kNoNameBase);
 }
 
 TEST(RenameModel, TheCheckBoxChoosesTheImages) {
   RenameModel model;
-  EXPECT_EQ(model.Scope(), RenameScope::CurrentImage);
+  EXPECT_EQ(model.Scope(), core::RenameScope::CurrentImage);
   model.RenameAll = true;
-  EXPECT_EQ(model.Scope(), RenameScope::AllImages);
+  EXPECT_EQ(model.Scope(), core::RenameScope::AllImages);
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr std::uint32_t kRed = 0x0000FF;
@@ -43,7 +43,7 @@ TEST_F(SampleDialogs, TheSelectedImageIsTheSample) {
 TEST_F(SampleDialogs, TheSampleIsCorrectedAsThePhotographsOfTheGallery) {
   desk.folder.Write("lying.jpg", fakes::WithOrientation(fakes::MakeJpeg({.width = 40, .height = 30}), 6));
   const std::string lying = desk.paths.ToText(desk.folder.Path() / "lying.jpg");
-  const auto widthOf = [&](Corrections corrections) {
+  const auto widthOf = [&](image::Corrections corrections) {
     SampleDialog dialog({lying, {}, "", corrections}, desk.Ports(), box);
     return dialog.Open() ? dialog.Source().width() : 0;
   };
@@ -71,7 +71,7 @@ TEST_F(SampleDialogs, WithoutAnySampleTheDialogClosesWithItsBox) {
   SampleDialog dialog({"", {desk.Missing()}, ""}, desk.Ports(), box);
   EXPECT_FALSE(dialog.Open());
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Unable to load default Preview Image");
   EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
   EXPECT_TRUE(dialog.Cancelled());
@@ -110,13 +110,13 @@ TEST_F(SampleDialogs, ADialogIsCancelledUntilItIsClosedOtherwise) {
 TEST_F(SampleDialogs, APictureGoesThroughAFileInTheTemporaryFolder) {
   const SampleDialog& dialog = OpenedAt(desk.TempFolderLocation());
   EXPECT_EQ(dialog.TempFile(), desk.TempFolderLocation() + "\\VANTORIUM_TEMP\\preview_temp.jpg");
-  const cDIBSection picture = fakes::PlainPicture(33, 21, kRed, 3);
-  cDIBSection coarse;
+  const image::cDIBSection picture = fakes::PlainPicture(33, 21, kRed, 3);
+  image::cDIBSection coarse;
   ASSERT_TRUE(dialog.Compress(picture, 1, coarse));
-  cDIBSection expected;
-  ASSERT_TRUE(LoadJPEGImage(expected, desk.TempFile()));
+  image::cDIBSection expected;
+  ASSERT_TRUE(image::LoadJPEGImage(expected, desk.TempFile()));
   EXPECT_EQ(fakes::BytesOf(coarse), fakes::BytesOf(expected));
-  cDIBSection fine;
+  image::cDIBSection fine;
   ASSERT_TRUE(dialog.Compress(picture, 100, fine));
   EXPECT_NE(fakes::BytesOf(coarse), fakes::BytesOf(fine));
 }
@@ -127,15 +127,15 @@ TEST_F(SampleDialogs, ATemporaryFolderThatIsALinkIsNotWrittenTo) {
   std::filesystem::remove_all(place);
   std::filesystem::create_directory(stranger);
   std::filesystem::create_directory_symlink(stranger, place);
-  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
-  cDIBSection result;
+  const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  image::cDIBSection result;
   EXPECT_FALSE(OpenedAt(desk.TempFolderLocation()).Compress(picture, 85, result));
   EXPECT_TRUE(std::filesystem::is_empty(stranger));
 }
 
 TEST_F(SampleDialogs, TheTemporaryFolderIsLookedThroughOnceWhenTheDialogOpens) {
-  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
-  cDIBSection result;
+  const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  image::cDIBSection result;
   const auto link = desk.TempFile().parent_path() / "link";
   std::filesystem::create_symlink(desk.folder.Path(), link);
   EXPECT_FALSE(OpenedAt(desk.TempFolderLocation()).Compress(picture, 85, result));
@@ -147,18 +147,18 @@ TEST_F(SampleDialogs, TheTemporaryFolderIsLookedThroughOnceWhenTheDialogOpens) {
 }
 
 TEST_F(SampleDialogs, NothingIsWrittenBeforeTheDialogOpens) {
-  cDIBSection result;
+  image::cDIBSection result;
   const SampleDialog dialog({"", {}, desk.TempFolderLocation()}, desk.Ports(), box);
   EXPECT_FALSE(dialog.Compress(fakes::PlainPicture(8, 8, kRed), 85, result));
   EXPECT_FALSE(std::filesystem::exists(desk.TempFile()));
 }
 
 TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
-  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   for (const char* missing : {"temp", "other/parent"}) {
     std::filesystem::remove_all(desk.folder.Path() / missing);
     const std::string location = desk.paths.ToText(desk.folder.Path() / missing);
-    cDIBSection result;
+    image::cDIBSection result;
     EXPECT_TRUE(OpenedAt(location).Compress(picture, 85, result)) << missing;
     EXPECT_TRUE(std::filesystem::exists(desk.folder.Path() / missing / "VANTORIUM_TEMP" / "preview_temp.jpg"));
   }
@@ -166,10 +166,10 @@ TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
 
 TEST_F(SampleDialogs, ATemporaryFolderThatIsNoneFails) {
   desk.folder.Write("file", "");
-  const cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
+  const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   for (const std::string& location :
        {desk.paths.ToText(desk.folder.Path() / "file"), std::string("Q:\\temp"), std::string("\\\\server\\share")}) {
-    cDIBSection result;
+    image::cDIBSection result;
     EXPECT_FALSE(OpenedAt(location).Compress(picture, 85, result)) << location;
   }
 }
@@ -179,7 +179,7 @@ TEST_F(SampleDialogs, AFailedPreviewNamesItsPlaceAndClosesTheDialog) {
   ASSERT_TRUE(dialog.Open());
   dialog.CloseWithFailure("C:\\place");
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Unable to load default Preview Image");
   EXPECT_EQ(
       desk.boxes.boxes[0].text,
@@ -190,4 +190,4 @@ TEST_F(SampleDialogs, AFailedPreviewNamesItsPlaceAndClosesTheDialog) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-constexpr PageColors kOwn = {1, 2, 3, 4, 5};
-constexpr PageColors kOthers = {11, 12, 13, 14, 15};
+constexpr core::PageColors kOwn = {1, 2, 3, 4, 5};
+constexpr core::PageColors kOthers = {11, 12, 13, 14, 15};
 
 TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhatCanBeCopied) {
   for (const char* title : {"Select Thumbnail Page Colors", "Thumbnail", "MyThumbnails"}) {
@@ -21,12 +21,12 @@ TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhatCanBeCopied) {
 TEST(SelectColorsModel, AChosenColorReplacesItsOwnOnly) {
   fakes::ScriptedCommonDialogs dialogs;
   ColorDialog dialog(dialogs);
-  for (const auto which : {&PageColors::background, &PageColors::text, &PageColors::link, &PageColors::visitedLink,
-                           &PageColors::activeLink}) {
+  for (const auto which : {&core::PageColors::background, &core::PageColors::text, &core::PageColors::link,
+                           &core::PageColors::visitedLink, &core::PageColors::activeLink}) {
     SelectColorsModel model("", kOwn, kOthers);
     dialogs.colors = {0xABCDEF, std::nullopt};
     model.Choose(which, dialog);
-    PageColors expected = kOwn;
+    core::PageColors expected = kOwn;
     expected.*which = 0xABCDEF;
     EXPECT_EQ(model.Colors(), expected);
     EXPECT_EQ(dialogs.colorsShown.back(), kOwn.*which);
@@ -38,25 +38,25 @@ TEST(SelectColorsModel, AChosenColorReplacesItsOwnOnly) {
 /// A user who adds a custom color each time, and confirms every other time.
 class CustomColorUser : public fakes::ScriptedCommonDialogs {
  public:
-  [[nodiscard]] bool ShowColorDialog(std::uint32_t& /*color*/, CustomColors& custom) override {
+  [[nodiscard]] bool ShowColorDialog(std::uint32_t& /*color*/, env::CustomColors& custom) override {
     shown.push_back(custom);
     custom[shown.size()] = 0xABCDEF;
     return shown.size() % 2 == 1;
   }
 
-  std::vector<CustomColors> shown;
+  std::vector<env::CustomColors> shown;
 };
 
 TEST(ColorDialogs, TheUsersOwnColorsAreThereTheNextTime) {
   CustomColorUser user;
   ColorDialog dialog(user);
-  const CustomColors first = {0x111111};
+  const env::CustomColors first = {0x111111};
   dialog.RebuildCustomColors(first);
-  Color color = 0;
+  core::Color color = 0;
   EXPECT_TRUE(dialog.DisplayColorDialog2(color));
   EXPECT_FALSE(dialog.DisplayColorDialog2(color));
   EXPECT_EQ(user.shown.at(0), first);
-  CustomColors second = first;
+  env::CustomColors second = first;
   second[1] = 0xABCDEF;
   EXPECT_EQ(user.shown.at(1), second);
 }
@@ -78,4 +78,4 @@ TEST(SelectColorsModel, ApplyAndCancelSetTheFlag) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 void PrintTo(const ServerPlace& place, std::ostream* stream) {
   *stream << place.host << " and " << place.path;
@@ -56,4 +56,4 @@ TEST(ServerPlace, IsNothingWithAControlCharacter) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

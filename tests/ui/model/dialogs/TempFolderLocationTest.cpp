@@ -3,7 +3,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/dialogs/TempFolderLocation.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr const char* kNotAbsolute = " You must specify an absolute Path or a Network Path.";
@@ -25,12 +25,12 @@ class TempFolderLocationTest : public testing::Test {
   }
 
   fakes::TemporaryFolder disk;
-  PathMap paths{{{'C', disk.Path().string()}}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'C', disk.Path().string()}}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   fakes::RecordingMessageBox boxes;
   fakes::ScriptedFolderBrowser folders;
-  Preferences preferences;
+  env::Preferences preferences;
 };
 
 TEST_F(TempFolderLocationTest, BeginsWithThePreferences) {
@@ -70,7 +70,7 @@ TEST_F(TempFolderLocationTest, OtherPathsAreReportedAndTheDialogStays) {
     boxes.boxes.clear();
     EXPECT_FALSE(Dialog(typed).Accept()) << typed;
     ASSERT_EQ(boxes.boxes.size(), 1U) << typed;
-    EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical) << typed;
+    EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical) << typed;
     EXPECT_EQ(boxes.boxes[0].title, "Invalid Path") << typed;
     EXPECT_EQ(boxes.boxes[0].text, kNotAbsolute) << typed;
   }
@@ -86,7 +86,7 @@ TEST_F(TempFolderLocationTest, AcceptMakesTheFolder) {
 TEST_F(TempFolderLocationTest, ATextThatHoldsNoPathCannotBeCreated) {
   EXPECT_FALSE(Dialog(std::string("C:\\te\0mp", 8)).Accept());
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Critical);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_EQ(boxes.boxes[0].title, "Invalid Path");
   EXPECT_EQ(boxes.boxes[0].text, kNotMade);
 }
@@ -129,4 +129,4 @@ TEST_F(TempFolderLocationTest, ANativePathBecomesPathText) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

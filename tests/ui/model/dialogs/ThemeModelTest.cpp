@@ -3,7 +3,7 @@
 
 #include <optional>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::ProjectFileParts;
@@ -26,7 +26,7 @@ class ApplyingATheme : public testing::Test, public fakes::ProjectDesk {
   }
 
   [[nodiscard]] ThemeModel Model() {
-    return {FindThemes(BundledFiles({folder.Path()})), project, paths, boxes, events};
+    return {core::FindThemes(env::BundledFiles({folder.Path()})), project, paths, boxes, events};
   }
 
   std::map<std::string, std::string> before;
@@ -50,12 +50,12 @@ TEST_F(ApplyingATheme, NamesThatBeginOtherwiseStayAsTheyAre) {
 TEST_F(ApplyingATheme, AfterOneQuestionTheProjectHasTheSettingsOfTheChosenTheme) {
   ThemeModel model = Model();
   model.Choose(1);
-  boxes.answers = {BoxAnswer::Yes};
+  boxes.answers = {env::BoxAnswer::Yes};
   EXPECT_TRUE(model.Accept());
   EXPECT_EQ(project.settings.textThumbnailsTableRows, "7");
   EXPECT_TRUE(project.IsModified);
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::YesNo);
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo);
   EXPECT_EQ(boxes.boxes[0].title, "Replace Settings");
   EXPECT_EQ(boxes.boxes[0].text,
             "All settings of this project, except its title, will be replaced by those of the theme \"Plain\".  The "
@@ -63,7 +63,7 @@ TEST_F(ApplyingATheme, AfterOneQuestionTheProjectHasTheSettingsOfTheChosenTheme)
 }
 
 TEST_F(ApplyingATheme, TitleAndImagesStay) {
-  boxes.answers = {BoxAnswer::Yes};
+  boxes.answers = {env::BoxAnswer::Yes};
   EXPECT_TRUE(Model().Accept());
   EXPECT_EQ(project.settings.textGalleryTitle, "Mine");
   ASSERT_EQ(project.images.Count(), 1U);
@@ -72,7 +72,7 @@ TEST_F(ApplyingATheme, TitleAndImagesStay) {
 }
 
 TEST_F(ApplyingATheme, NoLeavesTheProjectAsItWas) {
-  boxes.answers = {BoxAnswer::No};
+  boxes.answers = {env::BoxAnswer::No};
   EXPECT_FALSE(Model().Accept());
   EXPECT_EQ(SettingTexts(project.settings), before);
   EXPECT_FALSE(project.IsModified);
@@ -100,4 +100,4 @@ TEST_F(ApplyingATheme, AThemeThatIsGoneMeanwhileIsSaid) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -13,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Records the last measured font.
@@ -21,35 +21,36 @@ class FontRecordingRaster : public fakes::BoxTextRaster {
  public:
   using BoxTextRaster::BoxTextRaster;
 
-  [[nodiscard]] TextExtent Measure(const LogFont& font, std::string_view text, TextForm form) const override {
+  [[nodiscard]] image::TextExtent Measure(const image::LogFont& font, std::string_view text,
+                                          image::TextForm form) const override {
     last = font;
     return BoxTextRaster::Measure(font, text, form);
   }
 
-  mutable LogFont last;
+  mutable image::LogFont last;
 };
 
 class WatermarkDialog : public testing::Test {
  protected:
-  std::unique_ptr<WatermarkModel> Opened(const WatermarkSettings& settings, std::int16_t quality = 85) {
+  std::unique_ptr<WatermarkModel> Opened(const image::WatermarkSettings& settings, std::int16_t quality = 85) {
     auto model = std::make_unique<WatermarkModel>(settings, quality, sources, desk.Ports(),
                                                   WatermarkPorts{dialogs, texts, screen}, box);
     model->Open();
     return model;
   }
 
-  std::string Expected(const WatermarkSettings& settings, int quality) {
-    cDIBSection source;
-    EXPECT_TRUE(LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
-    const auto picture = Resample(source, box.size.height, box.size.width);
-    LogFont font = MakeWatermarkFont(settings, 96);
+  std::string Expected(const image::WatermarkSettings& settings, int quality) {
+    image::cDIBSection source;
+    EXPECT_TRUE(image::LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
+    const auto picture = image::Resample(source, box.size.height, box.size.width);
+    image::LogFont font = image::MakeWatermarkFont(settings, 96);
     if (settings.checkUseWatermark == 1) {
-      DrawWatermarkText(*picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color,
-                        static_cast<std::uint8_t>(settings.sliderAlpha), texts);
+      image::DrawWatermarkText(*picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color,
+                               static_cast<std::uint8_t>(settings.sliderAlpha), texts);
     }
     const auto file = desk.folder.Path() / "expected.jpg";
-    SaveJPEGImage(*picture, file, quality);
-    EXPECT_TRUE(LoadJPEGImage(*picture, file));
+    image::SaveJPEGImage(*picture, file, quality);
+    EXPECT_TRUE(image::LoadJPEGImage(*picture, file));
     return fakes::BytesOf(*picture);
   }
 
@@ -57,9 +58,9 @@ class WatermarkDialog : public testing::Test {
   fakes::RecordingSampleBox box;
   fakes::ScriptedCommonDialogs dialogs;
   FontRecordingRaster texts{20, 10};
-  Screen screen;
+  env::Screen screen;
   SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, desk.TempFolderLocation()};
-  const WatermarkSettings on{.checkUseWatermark = 1, .textWatermark = "SAMPLE", .comboTextPlacement = 4};
+  const image::WatermarkSettings on{.checkUseWatermark = 1, .textWatermark = "SAMPLE", .comboTextPlacement = 4};
 };
 
 TEST(TextPlacements, AreElevenInTheOrderOfTheirNumbers) {
@@ -76,7 +77,7 @@ TEST_F(WatermarkDialog, TheSampleIsResizedThenMarkedThenCompressed) {
 }
 
 TEST_F(WatermarkDialog, WithoutAWatermarkTheSampleStillShowsTheQuality) {
-  WatermarkSettings off = on;
+  image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   const auto model = Opened(off, 100);
   EXPECT_EQ(box.painted.at(0), Expected(off, 100));
@@ -88,7 +89,7 @@ TEST_F(WatermarkDialog, WithoutAWatermarkTheSampleStillShowsTheQuality) {
 
 TEST_F(WatermarkDialog, EachControlShowsTheSampleAgain) {
   const auto model = Opened(on);
-  WatermarkSettings settings = on;
+  image::WatermarkSettings settings = on;
   model->SetAlpha(90);
   settings.sliderAlpha = 90;
   EXPECT_EQ(box.painted.back(), Expected(settings, 85));
@@ -127,16 +128,17 @@ TEST_F(WatermarkDialog, AnEditOfTheTextIsShownWhenItIsLeft) {
 
 TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndReachesTheSettingsWithApply) {
   const auto model = Opened(on);
-  const FontDescription chosen{.Name = "Serif",
-                               .Size = 20,
-                               .Weight = 400,
-                               .Italic = true,
-                               .Underline = true,
-                               .Strikeout = true,
-                               .Color = 0x0000FF};
+  const env::FontDescription chosen{.Name = "Serif",
+                                    .Size = 20,
+                                    .Weight = 400,
+                                    .Italic = true,
+                                    .Underline = true,
+                                    .Strikeout = true,
+                                    .Color = 0x0000FF};
   dialogs.fonts = {chosen};
   model->BrowseFont();
-  EXPECT_EQ(dialogs.fontsShown.at(0), (FontDescription{.Name = "Arial", .Size = 36, .Weight = 700, .Color = 0xFFFFFF}));
+  EXPECT_EQ(dialogs.fontsShown.at(0),
+            (env::FontDescription{.Name = "Arial", .Size = 36, .Weight = 700, .Color = 0xFFFFFF}));
   ASSERT_EQ(box.painted.size(), 2U);
   EXPECT_NE(box.painted[0], box.painted[1]);
   EXPECT_EQ(texts.last.lfFaceName, "Serif");
@@ -163,7 +165,7 @@ TEST_F(WatermarkDialog, ACancelledFontDialogShowsNothing) {
 
 TEST_F(WatermarkDialog, AFontBeyondSixteenBitsIsTakenAtTheirEnd) {
   const auto model = Opened(on);
-  dialogs.fonts = {FontDescription{.Name = "Arial", .Size = 40000, .Weight = -40000}};
+  dialogs.fonts = {env::FontDescription{.Name = "Arial", .Size = 40000, .Weight = -40000}};
   model->BrowseFont();
   model->Apply();
   EXPECT_EQ(model->Settings().FontSize, std::numeric_limits<std::int16_t>::max());
@@ -220,9 +222,10 @@ TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
 class FailingRaster : public fakes::BoxTextRaster {
  public:
   FailingRaster() : BoxTextRaster(20, 10) {}
-  [[nodiscard]] TextMask Draw(const LogFont& /*font*/, std::string_view /*text*/, const TextPlace& /*place*/,
-                              std::int32_t /*width*/, std::int32_t /*height*/) const override {
-    throw RuntimeFailure(FailureKind::FileNotFound, "no font");
+  [[nodiscard]] image::TextMask Draw(const image::LogFont& /*font*/, std::string_view /*text*/,
+                                     const image::TextPlace& /*place*/, std::int32_t /*width*/,
+                                     std::int32_t /*height*/) const override {
+    throw env::RuntimeFailure(env::FailureKind::FileNotFound, "no font");
   }
 };
 
@@ -233,7 +236,7 @@ TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsReportedAndTheSampleShownWi
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Watermark");
   EXPECT_EQ(desk.boxes.boxes[0].text, "no font");
-  WatermarkSettings off = on;
+  image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
@@ -241,8 +244,8 @@ TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsReportedAndTheSampleShownWi
 TEST_F(WatermarkDialog, AFontDialogThatFailsIsReportedAndTheFontKept) {
   class Failing : public fakes::ScriptedCommonDialogs {
    public:
-    [[nodiscard]] bool ShowFontDialog(FontDescription& /*font*/) override {
-      throw RuntimeFailure(FailureKind::OutOfMemory, "no fonts");
+    [[nodiscard]] bool ShowFontDialog(env::FontDescription& /*font*/) override {
+      throw env::RuntimeFailure(env::FailureKind::OutOfMemory, "no fonts");
     }
   } failing;
   WatermarkModel model(on, 85, sources, desk.Ports(), {failing, texts, screen}, box);
@@ -259,13 +262,13 @@ TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsReportedAndTheSampleShownWithou
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Value");
   EXPECT_EQ(desk.boxes.boxes[0].text, "Overflow");
-  WatermarkSettings off = on;
+  image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
 
 TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
-  WatermarkSettings wild = on;
+  image::WatermarkSettings wild = on;
   wild.sliderAlpha = 0;
   EXPECT_EQ(Opened(wild, 0)->Settings().sliderAlpha, 1);
   EXPECT_EQ(Opened(wild, 0)->Quality(), 1);
@@ -275,7 +278,7 @@ TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
 }
 
 TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
-  WatermarkSettings wild = on;
+  image::WatermarkSettings wild = on;
   wild.comboTextPlacement = 77;
   const auto model = Opened(wild);
   model->Apply();
@@ -295,8 +298,8 @@ TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
 TEST_F(WatermarkDialog, TheFontIsReportedInWords) {
   const auto model = Opened(on);
   EXPECT_EQ(model->FontSummary(), "Arial, 36 points, bold");
-  dialogs.fonts = {
-      FontDescription{.Name = "Serif", .Size = 9, .Weight = 400, .Italic = true, .Underline = true, .Strikeout = true}};
+  dialogs.fonts = {env::FontDescription{
+      .Name = "Serif", .Size = 9, .Weight = 400, .Italic = true, .Underline = true, .Strikeout = true}};
   model->BrowseFont();
   EXPECT_EQ(model->FontSummary(), "Serif, 9 points, italic, underlined, struck out");
 }
@@ -317,4 +320,4 @@ TEST(FontSamples, LightColorsHaveADarkBackground) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

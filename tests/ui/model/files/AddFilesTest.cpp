@@ -3,7 +3,7 @@
 #include "tests/fakes/ScriptedFileBrowser.h"
 #include "ui/model/files/AddFiles.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 class AddingFiles : public testing::Test {
@@ -19,7 +19,7 @@ class AddingFiles : public testing::Test {
 
   fakes::ProjectDesk desk;
   fakes::ScriptedFileBrowser browser;
-  Preferences preferences;
+  env::Preferences preferences;
 };
 
 TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
@@ -29,7 +29,7 @@ TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
   const FileDialogRequest& request = browser.requests[0];
   EXPECT_EQ(request.title, "Add Images");
   EXPECT_EQ(request.initialFolder, "C:\\photos\\");
-  EXPECT_EQ(request.filter, ImageFileFilter());
+  EXPECT_EQ(request.filter, core::ImageFileFilter());
   EXPECT_TRUE(request.open && request.multiSelect && request.preview);
 }
 
@@ -74,4 +74,4 @@ TEST_F(AddingFiles, AFileThatCannotBeReadIsReportedAndEndsIt) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

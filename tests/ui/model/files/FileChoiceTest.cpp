@@ -2,7 +2,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/files/FileChoice.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -17,14 +17,14 @@ class Choosing : public testing::Test {
   }
 
   FileChoice Choice(FileDialogRequest request) { return {std::move(request), files, boxes}; }
-  FileChoice OpenOne() { return Choice({.title = "Open"}); }
-  FileChoice OpenSeveral() { return Choice({.multiSelect = true, .title = "Add"}); }
-  FileChoice Save() { return Choice({.open = false, .title = "Save", .defaultExtension = "gpj"}); }
+  FileChoice OpenOne() { return core::Choice({.title = "Open"}); }
+  FileChoice OpenSeveral() { return core::Choice({.multiSelect = true, .title = "Add"}); }
+  FileChoice Save() { return core::Choice({.open = false, .title = "Save", .defaultExtension = "gpj"}); }
 
   fakes::TemporaryFolder disk;
-  PathMap paths{{{'C', disk.Path().string()}}};
-  RegionalFormats formats;
-  mFileFunctions files{paths, formats};
+  env::PathMap paths{{{'C', disk.Path().string()}}};
+  env::RegionalFormats formats;
+  env::mFileFunctions files{paths, formats};
   fakes::RecordingMessageBox boxes;
 };
 
@@ -54,7 +54,7 @@ TEST_F(Choosing, AFileToOpenMustExist) {
   FileChoice choice = OpenOne();
   EXPECT_EQ(choice.Ok("C:\\photos", "none.jpg"), Step::Stay);
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Exclamation);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Exclamation);
   EXPECT_EQ(boxes.boxes[0].title, "Open");
   EXPECT_EQ(boxes.boxes[0].text, "none.jpg\r\nFile not found.\r\nPlease check the file name and try again.");
   EXPECT_EQ(choice.Result().result, "");
@@ -101,7 +101,7 @@ TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItEndsInIt) {
 }
 
 TEST_F(Choosing, ANameToOpenGetsItOnlyIfThereIsNoSuchFile) {
-  FileChoice choice = Choice({.defaultExtension = "gpj"});
+  FileChoice choice = core::Choice({.defaultExtension = "gpj"});
   ASSERT_EQ(choice.Ok("C:\\", "my"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\my.gpj");
   ASSERT_EQ(choice.Ok("C:\\photos", "README"), Step::Accept);
@@ -109,7 +109,7 @@ TEST_F(Choosing, ANameToOpenGetsItOnlyIfThereIsNoSuchFile) {
 }
 
 TEST_F(Choosing, AFileIsReplacedOnlyAfterAQuestion) {
-  boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   FileChoice choice = Save();
   EXPECT_EQ(choice.Ok("C:\\", "my"), Step::Stay);
   EXPECT_EQ(choice.Result().result, "");
@@ -172,4 +172,4 @@ TEST_F(Choosing, ANativePathBecomesPathText) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

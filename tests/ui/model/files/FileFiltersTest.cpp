@@ -1,13 +1,13 @@
 #include "core/ImageFormats.h"
 #include "ui/model/files/FileFilters.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Patterns = std::vector<std::string>;
 
 TEST(FileFilters, TheFilterOfImagesHasThreeLines) {
-  const std::vector<FileFilter> filters = ParseFileFilters(ImageFileFilter());
+  const std::vector<FileFilter> filters = ParseFileFilters(core::ImageFileFilter());
   ASSERT_EQ(filters.size(), 3U);
   EXPECT_EQ(filters[0].description, "All supported Formats");
   EXPECT_EQ(filters[0].patterns, (Patterns{"*.jpg", "*.jpeg", "*.jfif"}));
@@ -44,4 +44,4 @@ TEST(FileFilters, AnEmptyTextHasNone) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

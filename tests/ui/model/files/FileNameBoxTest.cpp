@@ -1,7 +1,7 @@
 #include "tests/fakes/RecordingMessageBox.h"
 #include "ui/model/files/FileNameBox.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -72,8 +72,8 @@ TEST_F(NameLimit, ATextOf1023CharactersIsTooLong) {
   limit.SelectionChanged(1023);
   EXPECT_FALSE(limit.AllowsOk());
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].kind, BoxKind::Information);
-  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::Ok);
+  EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Information);
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::Ok);
   EXPECT_EQ(boxes.boxes[0].title, "File Name Length Limit");
   EXPECT_EQ(boxes.boxes[0].text,
             "You have exceeded the file name length limit. Please deselect some files, insert the rest, and open this "
@@ -114,4 +114,4 @@ TEST_F(NameLimit, TypingIsReportedOnceUntilTheTextIsShortEnough) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// Folders in memory, given by their paths. Counts the calls of In.
@@ -173,4 +173,4 @@ TEST_F(Checking, ADeepFolderIsChecked) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 #include "tests/fakes/RecordingFolderWalk.h"
 #include "ui/model/files/FolderWalk.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -98,7 +98,7 @@ TEST_F(Walking, NamesThatAProjectCannotHoldAreSkippedAndReported) {
   Walk({desk.PathOf("p")});
   EXPECT_EQ(NamesInList(), (Names{"a.jpg", "z.jpg"}));
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].kind, BoxKind::Exclamation);
+  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Exclamation);
   EXPECT_EQ(desk.boxes.boxes[0].title, "Add Folder to Gallery");
 }
 
@@ -141,4 +141,4 @@ TEST_F(Walking, AListThatIsKeptSortedSortsThemIn) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

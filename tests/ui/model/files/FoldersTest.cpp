@@ -1,7 +1,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/files/Folders.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
@@ -41,4 +41,4 @@ TEST(LocalFolders, AreNoneInAFile) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

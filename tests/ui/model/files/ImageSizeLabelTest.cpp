@@ -2,7 +2,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/files/ImageSizeLabel.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(ImageSizeLabel, HasTheSizesOfThePictureAndOfItsFile) {
@@ -30,4 +30,4 @@ TEST(ImageSizeLabel, IsEmptyForWhatCannotBeRead) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,15 +3,15 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/files/ReducedPicture.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::JpegRecipe;
 using fakes::MakeJpeg;
 
 struct DivisorCase {
-  PictureSize picture;
-  PictureSize box;
+  image::PictureSize picture;
+  image::PictureSize box;
   int divisor;
 };
 
@@ -33,9 +33,9 @@ TEST(ReducedPicture, TheDivisorLeavesThePixelsThatAreShown) {
 TEST(ReducedPicture, WithRoomForAllItEqualsTheDecodedFile) {
   const fakes::TemporaryFolder folder;
   const auto file = folder.Write("a.jpg", MakeJpeg({}));
-  cDIBSection whole;
-  cDIBSection dib;
-  ASSERT_TRUE(LoadJPEGImage(whole, file));
+  image::cDIBSection whole;
+  image::cDIBSection dib;
+  ASSERT_TRUE(image::LoadJPEGImage(whole, file));
   ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 2000, .height = 2000}));
   ASSERT_EQ(dib.width(), whole.width());
   ASSERT_EQ(dib.height(), whole.height());
@@ -45,7 +45,7 @@ TEST(ReducedPicture, WithRoomForAllItEqualsTheDecodedFile) {
 }
 
 /// The average of a square of the decoded file whose top left corner is (x, y), counted from the top.
-int AverageOf(const cDIBSection& whole, int x, int y, int side, int channel) {
+int AverageOf(const image::cDIBSection& whole, int x, int y, int side, int channel) {
   int sum = 0;
   for (int row = y; row < y + side; ++row) {
     for (int column = x; column < x + side; ++column) {
@@ -65,9 +65,9 @@ TEST(ReducedPicture, EveryKindOfFileLooksAsItDoesInFull) {
       return std::array<std::uint8_t, 4>{level, static_cast<std::uint8_t>(level / 2), 90, 200};
     };
     const auto file = folder.Write("a.jpg", MakeJpeg(recipe, pixels));
-    cDIBSection whole;
-    cDIBSection dib;
-    ASSERT_TRUE(LoadJPEGImage(whole, file)) << recipe;
+    image::cDIBSection whole;
+    image::cDIBSection dib;
+    ASSERT_TRUE(image::LoadJPEGImage(whole, file)) << recipe;
     ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 16, .height = 10})) << recipe;
     ASSERT_EQ(dib.width(), 16) << recipe;
     ASSERT_EQ(dib.height(), 10) << recipe;
@@ -81,7 +81,7 @@ TEST(ReducedPicture, EveryKindOfFileLooksAsItDoesInFull) {
 
 TEST(ReducedPicture, SidesAreRoundedUp) {
   const fakes::TemporaryFolder folder;
-  cDIBSection dib;
+  image::cDIBSection dib;
   ASSERT_TRUE(
       LoadReducedPicture(dib, folder.Write("a.jpg", MakeJpeg({.width = 37, .height = 29})), {.width = 9, .height = 9}));
   EXPECT_EQ(dib.width(), 10);
@@ -90,8 +90,8 @@ TEST(ReducedPicture, SidesAreRoundedUp) {
 
 TEST(ReducedPicture, AFileThatDoesNotDecodeWhollyIsNothing) {
   const fakes::TemporaryFolder folder;
-  cDIBSection dib;
-  const PictureSize box = {.width = 10, .height = 10};
+  image::cDIBSection dib;
+  const image::PictureSize box = {.width = 10, .height = 10};
   const std::string jpeg = MakeJpeg({});
   EXPECT_FALSE(LoadReducedPicture(dib, folder.Path() / "gone.jpg", box));
   EXPECT_FALSE(LoadReducedPicture(dib, folder.Path(), box));
@@ -104,7 +104,7 @@ TEST(ReducedPicture, AFileThatDoesNotDecodeWhollyIsNothing) {
 
 TEST(ReducedPicture, AStopEndsIt) {
   const fakes::TemporaryFolder folder;
-  cDIBSection dib;
+  image::cDIBSection dib;
   std::stop_source stop;
   stop.request_stop();
   EXPECT_FALSE(
@@ -114,7 +114,7 @@ TEST(ReducedPicture, AStopEndsIt) {
 TEST(ReducedPicture, APhotographIsTurnedAndReducedByItsUprightSize) {
   const fakes::TemporaryFolder folder;
   const auto file = folder.Write("a.jpg", fakes::WithOrientation(MakeJpeg({.width = 160, .height = 80}), 6));
-  cDIBSection dib;
+  image::cDIBSection dib;
   ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 40, .height = 160}, {}, {.upright = true}));
   EXPECT_EQ(dib.width(), 40);
   EXPECT_EQ(dib.height(), 80);
@@ -129,7 +129,7 @@ TEST(ReducedPicture, ItsColorsAreConvertedIfTheyAreToBeTrue) {
   const auto red = fakes::InProfile(profile, {200, 60, 40});
   const auto pixels = [&red](int, int) { return std::array<std::uint8_t, 4>{red[0], red[1], red[2], 0}; };
   const auto file = folder.Write("a.jpg", fakes::WithProfile(MakeJpeg({}, pixels), profile));
-  cDIBSection dib;
+  image::cDIBSection dib;
   ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 90, .height = 90}, {}, {.trueColors = true}));
   EXPECT_NEAR(dib.Row(0)[2], 200, 4);
   ASSERT_TRUE(LoadReducedPicture(dib, file, {.width = 90, .height = 90}));
@@ -137,4 +137,4 @@ TEST(ReducedPicture, ItsColorsAreConvertedIfTheyAreToBeTrue) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

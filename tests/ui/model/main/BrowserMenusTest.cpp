@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-namespace vantorium {
+namespace vantorium::ui {
 
 static std::ostream& operator<<(std::ostream& stream, const BrowserClick& click) {
   return stream << "kind " << static_cast<int>(click.kind) << " index " << click.BrowserIndex;
@@ -10,8 +10,8 @@ static std::ostream& operator<<(std::ostream& stream, const BrowserClick& click)
 
 namespace {
 
-std::vector<Browser> Browsers(int count) {
-  std::vector<Browser> browsers;
+std::vector<env::Browser> Browsers(int count) {
+  std::vector<env::Browser> browsers;
   for (int n = 1; n <= count; ++n) browsers.push_back({"B" + std::to_string(n), "C:\\" + std::to_string(n)});
   return browsers;
 }
@@ -94,4 +94,4 @@ TEST(BrowserMenus, AnotherButtonsListMeansNothing) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -3,7 +3,7 @@
 #include "tests/ui/model/BrowserFakes.h"
 #include "ui/model/main/BrowserTable.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// A main window that records the calls, and a user of frmBrowserList.
@@ -90,15 +90,15 @@ TEST_F(BrowserTableTest, ANinthBrowserOfAnEditHoldsUntilTheProgramEnds) {
   };
   EXPECT_TRUE(Edit(browsers));
   EXPECT_EQ(browsers.size(), 9U);
-  EXPECT_EQ(browsers[0], (Browser{"x", "y"}));
-  EXPECT_EQ(ReadINIInteger("BROWSERS", "Count", file), 8);
+  EXPECT_EQ(browsers[0], (env::Browser{"x", "y"}));
+  EXPECT_EQ(env::ReadINIInteger("BROWSERS", "Count", file), 8);
 }
 
 TEST_F(BrowserTableTest, TheFilesFolderIsMadeWhenItIsMissing) {
   file = folder.Path() / "a/b/vantorium.ini";
   Browsers browsers = {{"a", "1"}};
   EXPECT_TRUE(Edit(browsers));
-  EXPECT_EQ(ReadINIString("BROWSERS", "Name1", file), "a");
+  EXPECT_EQ(env::ReadINIString("BROWSERS", "Name1", file), "a");
 }
 
 TEST_F(BrowserTableTest, AFileThatCannotBeWrittenLeavesTheListAndTheStatusEmpty) {
@@ -111,4 +111,4 @@ TEST_F(BrowserTableTest, AFileThatCannotBeWrittenLeavesTheListAndTheStatusEmpty)
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
-bool Holds(std::string_view control, const GalleryProject& project) {
+bool Holds(std::string_view control, const core::GalleryProject& project) {
   for (const ControlRule& rule : ControlRules()) {
     if (rule.control == control) return rule.holds(project);
   }
@@ -17,7 +17,7 @@ bool Holds(std::string_view control, const GalleryProject& project) {
 }
 
 /// "SWH" for the SetWidth box, width and height, with a dot for each that is hidden.
-std::string SizeControls(const std::string& page, const GalleryProject& project) {
+std::string SizeControls(const std::string& page, const core::GalleryProject& project) {
   std::string shown;
   shown += Holds("check" + page + "ImageSetWidth", project) ? 'S' : '.';
   shown += Holds("text" + page + "ImageWidth", project) ? 'W' : '.';
@@ -37,8 +37,8 @@ TEST(ControlRules, NameEachControlOnceAProperty) {
 }
 
 TEST(ControlRules, WithoutAnAspectRatioBothSizesAreShownAndSetWidthIsHidden) {
-  for (const Flag setWidth : {Flag{0}, Flag{1}}) {
-    GalleryProject project;
+  for (const core::Flag setWidth : {core::Flag{0}, core::Flag{1}}) {
+    core::GalleryProject project;
     project.checkImageWrapperImageKeepAspectRatio = 0;
     project.checkImageWrapperImageSetWidth = setWidth;
     project.checkThumbnailsImageKeepAspectRatio = 0;
@@ -49,8 +49,8 @@ TEST(ControlRules, WithoutAnAspectRatioBothSizesAreShownAndSetWidthIsHidden) {
 }
 
 TEST(ControlRules, WithAnAspectRatioOneSizeIsShown) {
-  for (const Flag setWidth : {Flag{0}, Flag{1}}) {
-    GalleryProject project;
+  for (const core::Flag setWidth : {core::Flag{0}, core::Flag{1}}) {
+    core::GalleryProject project;
     project.checkImageWrapperImageKeepAspectRatio = 1;
     project.checkImageWrapperImageSetWidth = setWidth;
     project.checkThumbnailsImageKeepAspectRatio = 1;
@@ -62,8 +62,8 @@ TEST(ControlRules, WithAnAspectRatioOneSizeIsShown) {
 }
 
 TEST(ControlRules, OnlyTheSingleFrameHasASlideShowAndAnIndexLink) {
-  for (Choice layout = 0; layout <= 4; ++layout) {
-    GalleryProject project;
+  for (core::Choice layout = 0; layout <= 4; ++layout) {
+    core::GalleryProject project;
     project.comboGalleryLayoutType = layout;
     EXPECT_EQ(Holds("frmFrameLayoutSingleFrame", project), layout == 0) << layout;
     EXPECT_EQ(Holds("frmFrameLayoutMultipleFrames", project), layout != 0) << layout;
@@ -73,7 +73,7 @@ TEST(ControlRules, OnlyTheSingleFrameHasASlideShowAndAnIndexLink) {
 }
 
 TEST(ControlRules, TheSlideShowShowsWhatItsChoicesUse) {
-  GalleryProject project;
+  core::GalleryProject project;
   EXPECT_FALSE(Holds("frmFrameLayoutSlideShow", project));
   project.checkGallerySlideShow = 1;
   EXPECT_TRUE(Holds("frmFrameLayoutSlideShow", project));
@@ -85,7 +85,7 @@ TEST(ControlRules, TheSlideShowShowsWhatItsChoicesUse) {
     EXPECT_TRUE(Holds(control, project)) << control;
   }
   for (const char* control : {"comboGallerySlideShowStartOverWith", "lblFrameLayoutSlideShowStartOverWith"}) {
-    for (Choice action = 0; action <= 2; ++action) {
+    for (core::Choice action = 0; action <= 2; ++action) {
       project.comboGallerySlideShowActionAfterImage = action;
       EXPECT_EQ(Holds(control, project), action == 0) << control << action;
     }
@@ -93,7 +93,7 @@ TEST(ControlRules, TheSlideShowShowsWhatItsChoicesUse) {
 }
 
 TEST(ControlRules, WithoutWrappersTheirFramesAreHidden) {
-  GalleryProject project;
+  core::GalleryProject project;
   for (const char* frame : {"frmImageWrapperCodeSettings", "frmImageWrapperImageSettings", "frmPageLinksOnImagePages",
                             "frmCaptionsImages"}) {
     project.checkImageWrapperUse = 1;
@@ -105,25 +105,25 @@ TEST(ControlRules, WithoutWrappersTheirFramesAreHidden) {
 
 TEST(ControlRules, ASwitchEnablesWhatItIsAbout) {
   struct Case {
-    Flag GalleryProject::*flag;
+    core::Flag core::GalleryProject::*flag;
     const char* control;
   };
   const Case cases[] = {
-      {&GalleryProject::checkCaptionsImagesRegular, "btnCaptionsImagesRegular"},
-      {&GalleryProject::checkCaptionsImagesRegular, "comboCaptionsImagesRegularPlacement"},
-      {&GalleryProject::checkCaptionsImagesRegular, "comboCaptionsImagesRegularAlignment"},
-      {&GalleryProject::checkCaptionsImagesPopup, "btnCaptionsImagesPopup"},
-      {&GalleryProject::checkCaptionsThumbnailsRegular, "btnCaptionsThumbnailsRegular"},
-      {&GalleryProject::checkCaptionsThumbnailsRegular, "comboCaptionsThumbnailsRegularPlacement"},
-      {&GalleryProject::checkCaptionsThumbnailsRegular, "comboCaptionsThumbnailsRegularAlignment"},
-      {&GalleryProject::checkCaptionsThumbnailsPopup, "btnCaptionsThumbnailsPopup"},
-      {&GalleryProject::checkImageWrapperSetColors, "btnImageWrapperColors"},
-      {&GalleryProject::checkThumbnailsPageSetColors, "btnThumbnailsPageColors"},
-      {&GalleryProject::checkThumbnailsTableUseBGColor, "btnThumbnailsTableBGColor"},
-      {&GalleryProject::checkPageLinksThumbnailDirectLinks, "textPageLinksThumbnailMaxDirectLinks"},
+      {&core::GalleryProject::checkCaptionsImagesRegular, "btnCaptionsImagesRegular"},
+      {&core::GalleryProject::checkCaptionsImagesRegular, "comboCaptionsImagesRegularPlacement"},
+      {&core::GalleryProject::checkCaptionsImagesRegular, "comboCaptionsImagesRegularAlignment"},
+      {&core::GalleryProject::checkCaptionsImagesPopup, "btnCaptionsImagesPopup"},
+      {&core::GalleryProject::checkCaptionsThumbnailsRegular, "btnCaptionsThumbnailsRegular"},
+      {&core::GalleryProject::checkCaptionsThumbnailsRegular, "comboCaptionsThumbnailsRegularPlacement"},
+      {&core::GalleryProject::checkCaptionsThumbnailsRegular, "comboCaptionsThumbnailsRegularAlignment"},
+      {&core::GalleryProject::checkCaptionsThumbnailsPopup, "btnCaptionsThumbnailsPopup"},
+      {&core::GalleryProject::checkImageWrapperSetColors, "btnImageWrapperColors"},
+      {&core::GalleryProject::checkThumbnailsPageSetColors, "btnThumbnailsPageColors"},
+      {&core::GalleryProject::checkThumbnailsTableUseBGColor, "btnThumbnailsTableBGColor"},
+      {&core::GalleryProject::checkPageLinksThumbnailDirectLinks, "textPageLinksThumbnailMaxDirectLinks"},
   };
   for (const Case& c : cases) {
-    GalleryProject project;
+    core::GalleryProject project;
     project.*c.flag = 0;
     EXPECT_FALSE(Holds(c.control, project)) << c.control;
     project.*c.flag = 1;
@@ -132,7 +132,7 @@ TEST(ControlRules, ASwitchEnablesWhatItIsAbout) {
 }
 
 TEST(ControlRules, KeptImageSizesHideTheSizeSettings) {
-  GalleryProject project;
+  core::GalleryProject project;
   EXPECT_TRUE(Holds("frmImageWrapperImageSettingsSub", project));
   project.checkImageWrapperImageKeepSize = 1;
   EXPECT_FALSE(Holds("frmImageWrapperImageSettingsSub", project));
@@ -141,13 +141,13 @@ TEST(ControlRules, KeptImageSizesHideTheSizeSettings) {
 TEST(ControlRules, PlacementsFromTheThirdOnAreAboveOrBelow) {
   ASSERT_EQ(AlignmentLists().size(), 2U);
   for (const AlignmentList& list : AlignmentLists()) {
-    for (Choice placement = 0; placement <= 3; ++placement) {
-      GalleryProject project;
+    for (core::Choice placement = 0; placement <= 3; ++placement) {
+      core::GalleryProject project;
       project.*list.placement = placement;
-      EXPECT_EQ(IsAboveOrBelow(list, project), placement >= 2) << placement;
+      EXPECT_EQ(core::IsAboveOrBelow(list, project), placement >= 2) << placement;
     }
   }
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

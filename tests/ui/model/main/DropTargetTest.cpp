@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 constexpr RowExtent kRows[] = {{100, 20}, {125, 20}, {150, 20}};  // rows 4 to 6, with gaps of 5
@@ -35,4 +35,4 @@ TEST(DropTarget, AnEmptyListHasNone) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

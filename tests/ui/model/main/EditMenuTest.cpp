@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// The letter of each enabled entry and a dot for each disabled one, without separators.
@@ -46,4 +46,4 @@ TEST(EditMenu, EntriesAreEnabledByTheBoxAndTheClipboard) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

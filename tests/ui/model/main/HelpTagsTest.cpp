@@ -2,7 +2,7 @@
 #include "tests/fakes/TemporaryFolder.h"
 #include "ui/model/main/TagMenu.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(HelpTags, TheHelpExplainsEveryTagOfTheEditors) {
@@ -17,4 +17,4 @@ TEST(HelpTags, TheHelpExplainsEveryTagOfTheEditors) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(ImageListTexts, TheCountIsFollowedByImages) {
@@ -21,4 +21,4 @@ TEST(ImageListTexts, TheSizeIsPixelsAndReadableBytes) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

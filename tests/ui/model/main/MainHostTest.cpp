@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Calls;
@@ -16,7 +16,7 @@ class MainHostTest : public testing::Test {
   fakes::RecordingHelperWindows windows{calls};
   fakes::ScriptedCommonDialogs dialogs;
   ColorDialog colors{dialogs};
-  Project project;
+  core::Project project;
   MainHost host{project, colors, 2121};
 };
 
@@ -57,4 +57,4 @@ TEST_F(MainHostTest, ACancelledDialogIsNotAnOrder) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

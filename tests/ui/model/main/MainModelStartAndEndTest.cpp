@@ -5,14 +5,14 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Calls;
 
 class MainModelStartAndEndTest : public testing::Test {
  protected:
-  [[nodiscard]] Project& Now() { return desk.model.CurrentProject(); }
+  [[nodiscard]] core::Project& Now() { return desk.model.CurrentProject(); }
 
   fakes::MainModelDesk desk;
 };
@@ -118,8 +118,8 @@ TEST_F(MainModelStartAndEndTest, NothingEndsIfTheUserCancelsOrTheSaveFails) {
   desk.folder.Write("file", "");
   desk.Start();
   desk.ChangeTitle("x");
-  for (const auto& [answer, file] : {std::pair{BoxAnswer::Cancel, "T:\\a.gpj"}, std::pair{BoxAnswer::Yes, ""},
-                                     std::pair{BoxAnswer::Yes, "T:\\file\\a.gpj"}}) {
+  for (const auto& [answer, file] : {std::pair{env::BoxAnswer::Cancel, "T:\\a.gpj"}, std::pair{env::BoxAnswer::Yes, ""},
+                                     std::pair{env::BoxAnswer::Yes, "T:\\file\\a.gpj"}}) {
     desk.calls.clear();
     desk.boxes.answers = {answer};
     desk.ChooseFile(file);
@@ -133,11 +133,11 @@ TEST_F(MainModelStartAndEndTest, NothingEndsIfTheUserCancelsOrTheSaveFails) {
 TEST_F(MainModelStartAndEndTest, NoToTheQuestionEndsWithoutSaving) {
   desk.Start();
   desk.ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   EXPECT_TRUE(desk.model.ShutDown());
   EXPECT_TRUE(desk.fileBrowser.requests.empty());
   EXPECT_EQ(desk.calls.back(), "idle");
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -6,14 +6,14 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using fakes::Calls;
 
 class MainModelTest : public testing::Test {
  protected:
-  [[nodiscard]] Project& Now() { return desk.model.CurrentProject(); }
+  [[nodiscard]] core::Project& Now() { return desk.model.CurrentProject(); }
   /// The calls from `first` on.
   [[nodiscard]] Calls CallsFrom(const std::string& first) const {
     return {std::find(desk.calls.begin(), desk.calls.end(), first), desk.calls.end()};
@@ -46,7 +46,7 @@ TEST_F(MainModelTest, PlacingsThatAreStoredOnlyNowAreSavedBeforeTheProjectIsLeft
   desk.Start();
   desk.ChooseFile("T:\\x.gpj");
   desk.windows.onPlacings = [this] { desk.ChangeTitle("placed"); };
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   EXPECT_TRUE(desk.model.ShutDown());
   EXPECT_EQ(desk.boxes.boxes.back().title, "Project modified");
   EXPECT_NE(desk.folder.Read("x.gpj").find("TITLE=\"placed\""), std::string::npos);
@@ -55,7 +55,7 @@ TEST_F(MainModelTest, PlacingsThatAreStoredOnlyNowAreSavedBeforeTheProjectIsLeft
 TEST_F(MainModelTest, NewShowsTheNewProject) {
   desk.Start();
   desk.ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::No};
+  desk.boxes.answers = {env::BoxAnswer::No};
   desk.model.NewProject();
   EXPECT_EQ(Now().settings.textGalleryTitle, "Gallery2");
   EXPECT_EQ(CallsFrom("settings"), (Calls{"settings", "list", "title Vantorium 3.0 - [Gallery2]", "preview",
@@ -65,7 +65,7 @@ TEST_F(MainModelTest, NewShowsTheNewProject) {
 TEST_F(MainModelTest, NewThatTheUserCancelsKeepsTheProject) {
   desk.Start();
   desk.ChangeTitle("x");
-  desk.boxes.answers = {BoxAnswer::Cancel};
+  desk.boxes.answers = {env::BoxAnswer::Cancel};
   desk.model.NewProject();
   EXPECT_EQ(Now().settings.textGalleryTitle, "x");
   EXPECT_TRUE(Now().IsModified);
@@ -149,7 +149,7 @@ TEST_F(MainModelTest, AViewWithoutImagesIsRefused) {
 TEST_F(MainModelTest, CreateMakesTheGalleryWhereTheDialogSays) {
   desk.Start();
   desk.AddPhotograph("a.jpg");
-  SetIndexFile(desk.windows.order.emplace(), "T:\\out\\start.htm");
+  generation::SetIndexFile(desk.windows.order.emplace(), "T:\\out\\start.htm");
   desk.model.CreateGallery();
   EXPECT_TRUE(desk.Exists("out/start.htm"));
   EXPECT_EQ(desk.model.CurrentPreferences().CreateFolder, "T:\\out\\");
@@ -168,7 +168,7 @@ TEST_F(MainModelTest, ARunThatTheUserCancelsEndsAndTheNextOneRuns) {
   desk.Start();
   desk.AddPhotograph("a.jpg");
   desk.windows.progress.cancelled = true;
-  desk.boxes.answers = {BoxAnswer::Yes};
+  desk.boxes.answers = {env::BoxAnswer::Yes};
   desk.model.ViewGallery(0);
   EXPECT_FALSE(desk.Exists("program/VANTORIUM_TEMP/index.htm"));
   EXPECT_TRUE(desk.model.Cancel().CancelRequested());
@@ -227,4 +227,4 @@ TEST_F(MainModelTest, TheSampleIsTheCurrentImageAndElseOneOfTheProgram) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

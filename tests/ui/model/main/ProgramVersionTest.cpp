@@ -1,6 +1,6 @@
 #include "ui/model/main/ProgramVersion.h"
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 TEST(ProgramVersion, IsReportedWithItsBuild) {
@@ -9,4 +9,4 @@ TEST(ProgramVersion, IsReportedWithItsBuild) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 /// The entries in brackets: caption=key, with "*" before the default entry and "!" after a disabled one.
@@ -153,4 +153,4 @@ TEST(SysTrayMenu, TheProgramHasItsWindowHelpAboutAndClose) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,13 +5,13 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 std::set<std::string_view> KnownTags() {
   std::set<std::string_view> tags;
-  for (const TagRow& row : TagRows()) tags.insert(row.tag);
-  for (const DescriptionTags& row : DescriptionTagRows()) tags.insert({row.tag, row.fullTag});
+  for (const generation::TagRow& row : generation::TagRows()) tags.insert(row.tag);
+  for (const generation::DescriptionTags& row : generation::DescriptionTagRows()) tags.insert({row.tag, row.fullTag});
   return tags;
 }
 
@@ -117,4 +117,4 @@ TEST(TagMenu, EachEntryIsAtItsIndex) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium {
+namespace vantorium::ui {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -13,7 +13,7 @@ using Names = std::vector<std::string>;
 class UprightOfferTest : public testing::Test {
  protected:
   void Add(const std::string& name, std::size_t position = 0) {
-    ImageEntry entry{.ImageName = name, .SourcePath = "T:\\" + name};
+    core::ImageEntry entry{.ImageName = name, .SourcePath = "T:\\" + name};
     project.images.Insert(position == 0 ? project.images.Count() + 1 : position, entry);
   }
   /// The names of the added photographs to look at, then "|" and those of the earlier ones; "none" if nothing is.
@@ -28,8 +28,8 @@ class UprightOfferTest : public testing::Test {
   }
 
   fakes::TemporaryFolder folder;
-  PathMap paths{{{'T', folder.Path().string()}}};
-  Project project;
+  env::PathMap paths{{{'T', folder.Path().string()}}};
+  core::Project project;
   fakes::RecordingMessageBox boxes;
   UprightOffer offer{project, paths};
 };
@@ -50,14 +50,14 @@ TEST_F(UprightOfferTest, APathThatNamesNoPlaceIsNotLookedAt) {
 }
 
 TEST_F(UprightOfferTest, TheUserIsAskedOnceForAProject) {
-  boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+  boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   EXPECT_FALSE(offer.Ask(boxes));
   EXPECT_FALSE(offer.Ask(boxes));
   offer.BeforeAdding();
   Add("a.jpg");
   EXPECT_EQ(Looked(), "none");
   ASSERT_EQ(boxes.boxes.size(), 1U);
-  EXPECT_EQ(boxes.boxes[0].buttons, BoxButtons::YesNo);
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo);
   EXPECT_EQ(boxes.boxes[0].title, "Photographs on their Side");
 
   offer.ForgetProject();
@@ -103,4 +103,4 @@ TEST_F(UprightOfferTest, AStoppedSearchFindsNothing) {
 }
 
 }  // namespace
-}  // namespace vantorium
+}  // namespace vantorium::ui
