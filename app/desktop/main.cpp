@@ -97,5 +97,5 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   vantorium::env::HoldStandardStreams();
-  return vantorium::Run(argc, argv);
+  return vantorium::desktop::Run(argc, argv);
 }

@@ -16,7 +16,7 @@ std::int32_t GridNumber(const core::Digits& text) {
 }
 
 /// A single page has no bar.
-LinkPlacement PlacementOfBars(const RunState& run) {
+core::LinkPlacement PlacementOfBars(const RunState& run) {
   return run.ThumbnailPageCount > 1 ? core::ThumbnailLinkPlacement(run.project) : core::LinkPlacement::None;
 }
 

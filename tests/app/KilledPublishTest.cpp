@@ -8,17 +8,17 @@
 namespace vantorium::batch {
 namespace {
 
-using env::Clock = std::chrono::steady_clock;
+using Clock = std::chrono::steady_clock;
 namespace fs = std::filesystem;
 
 const char kPreferences[] =
     "[DIRECTORIES]\r\nCREATEFOLDER=\"C:\\gallery\"\r\n\r\n; mine\r\n[PUBLISH]\r\nDESCRIPTION1=\"home\"\r\n";
 
 /// Runs publish among files that must survive a kill.
-class KilledPublish : public ui::ServerPlace {
+class KilledPublish : public ServerPlace {
  protected:
   void SetUp() override {
-    ui::ServerPlace::SetUp();
+    ServerPlace::SetUp();
     if (IsSkipped()) return;
     place.Write("program/vantorium.ini", kPreferences);
     fs::create_directory(place.Path("project"));
@@ -31,15 +31,15 @@ class KilledPublish : public ui::ServerPlace {
     return Options("publish", "project/a.gpj", "web/index.htm", {"--creation-time", kTime});
   }
   /// Runs to the end, which puts the complete gallery on the server. Returns how long that took.
-  env::Clock::duration RunToTheEnd() const {
-    const auto begin = env::Clock::now();
+  Clock::duration RunToTheEnd() const {
+    const auto begin = Clock::now();
     EXPECT_TRUE(Succeeded(ChildProcess(Run()).Finish()));
-    const auto length = env::Clock::now() - begin;
+    const auto length = Clock::now() - begin;
     EXPECT_TRUE(SameFiles(OnServer("web"), place.Path("out")));
     return length;
   }
   /// Kills a run `moment` after its start. If the run ends before that, tries again with half the time.
-  void KillAfter(env::Clock::duration moment) const {
+  void KillAfter(Clock::duration moment) const {
     for (;; moment /= 2) {
       ChildProcess program(Run());
       std::this_thread::sleep_for(moment);
@@ -77,13 +77,13 @@ TEST_F(KilledPublish, LeavesEveryFileWholeAndTheNextRunEndsWell) {
   constexpr int kRuns = 20;
   constexpr unsigned kSeed = 20;
   const auto before = FilesBelow(place.Path());
-  const env::Clock::duration length = RunToTheEnd();
+  const Clock::duration length = RunToTheEnd();
   std::mt19937 random(kSeed);
   for (int run = 0; run < kRuns; ++run) {
     // One random moment in each twentieth of the run's length, so that the moments cover all of it.
     const double share = (run + std::uniform_real_distribution<>()(random)) / kRuns;
     SCOPED_TRACE(testing::Message() << "killed at " << share << " of a run");
-    KillAfter(std::chrono::duration_cast<env::Clock::duration>(length * share));
+    KillAfter(std::chrono::duration_cast<Clock::duration>(length * share));
     ExpectAllIsWhole(before);
     RunToTheEnd();
     ExpectAllIsWhole(before);

@@ -10,9 +10,9 @@ namespace fs = std::filesystem;
 const char kWrongLogin[] = "FTP Error: Invalid User ID or Password.\n";
 
 /// Uses ProFTPD because vsftpd accepts every password.
-class Password : public ui::ServerPlace {
+class Password : public ServerPlace {
  protected:
-  Password() : ui::ServerPlace(fakes::FtpServerKind::Proftpd) { place.Write("site/index.htm", "x"); }
+  Password() : ServerPlace(fakes::FtpServerKind::Proftpd) { place.Write("site/index.htm", "x"); }
 
   /// An upload that reads the password from standard input.
   [[nodiscard]] StartOptions FromStandardInput() const { return UploadWithFile("-"); }

@@ -62,9 +62,9 @@ TEST(Paths, EveryArgumentMayBePathTextOfADrive) {
 
 TEST(Paths, PathTextThatBeginsWithASeparatorIsBelowTheRoot) {
   const Workplace place;
-  const std::string file = env::WithBackslashes(place.Photograph("a.jpg").string());
-  ASSERT_TRUE(Succeeded(place.Run({"new", env::WithBackslashes(place.Path("a.gpj").string()), file})));
-  ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", env::WithBackslashes(place.Path("out/index.htm").string())})));
+  const std::string file = WithBackslashes(place.Photograph("a.jpg").string());
+  ASSERT_TRUE(Succeeded(place.Run({"new", WithBackslashes(place.Path("a.gpj").string()), file})));
+  ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", WithBackslashes(place.Path("out/index.htm").string())})));
   EXPECT_TRUE(std::filesystem::exists(place.Path("out/Images/a.jpg.jpg")));
 }
 

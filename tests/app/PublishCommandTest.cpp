@@ -106,7 +106,7 @@ TEST_P(PublishCommand, VerbosePrintsEachStatusTextOnALine) {
   EXPECT_EQ(result.err.find("Creating Gallery Index File...\n"), result.err.rfind("Creating Gallery Index File...\n"));
 }
 
-class PublishRefusal : public ui::ServerPlace {
+class PublishRefusal : public ServerPlace {
  protected:
   [[nodiscard]] ProcessResult PublishProject(const std::string& project) const {
     return ChildProcess(Options("publish", project, "web/index.htm")).Finish();

@@ -6,9 +6,9 @@
 namespace vantorium::batch {
 
 /// A workplace and a real server on loopback. The file "password" holds the server's password.
-class ui::ServerPlace : public testing::Test {
+class ServerPlace : public testing::Test {
  protected:
-  explicit ui::ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
+  explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
     place.Write("password", server.Password() + "\n");
   }
 
@@ -40,9 +40,9 @@ class ui::ServerPlace : public testing::Test {
 };
 
 /// The same for each kind of server.
-class EachServerPlace : public ui::ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
+class EachServerPlace : public ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
  protected:
-  EachServerPlace() : ui::ServerPlace(GetParam()) {}
+  EachServerPlace() : ServerPlace(GetParam()) {}
 };
 
 inline const auto kEachServer = testing::Values(fakes::FtpServerKind::Vsftpd, fakes::FtpServerKind::Proftpd);

@@ -69,7 +69,7 @@ TEST_F(PreferencesTest, WithoutAFileEveryValueHasItsDefault) {
 TEST_F(PreferencesTest, AFileThatIsNoneOrHoldsNonsenseGivesTheDefaults) {
   for (const std::string& text : {std::string(), std::string("\0\xFF\n=", 4), std::string("[FOLDERS]"),
                                   std::string(100'000, '\n'), std::string("[FOLDERS]\n[SETTINGS]\n[BROWSERS]\n")}) {
-    EXPECT_EQ(core::ReadText(text), Defaults());
+    EXPECT_EQ(ReadText(text), Defaults());
   }
   fs::remove(file);
   fs::create_directory(file);
@@ -120,15 +120,15 @@ TEST_F(PreferencesTest, EmptyTextsBecomeTheDefaultsAtTheNextStart) {
 }
 
 TEST_F(PreferencesTest, TheTemporaryFolderIsMadeOnlyInTheProgramsFolder) {
-  std::ignore = core::ReadText("[FOLDERS]\nTempFolderLocation=\"C:\\temp\"\n");
+  std::ignore = ReadText("[FOLDERS]\nTempFolderLocation=\"C:\\temp\"\n");
   EXPECT_EQ(fakes::NamesIn(folder.Path()), std::vector<std::string>{"vantorium.ini"});
-  std::ignore = core::ReadText("[FOLDERS]\nTempFolderLocation=\"\"\n");
+  std::ignore = ReadText("[FOLDERS]\nTempFolderLocation=\"\"\n");
   EXPECT_TRUE(fs::is_directory(folder.Path() / "program/VANTORIUM_TEMP"));
 }
 
 TEST_F(PreferencesTest, ASwitchThatCannotBeReadIsOn) {
   for (const char* bad : {"\"\"", "\"x\"", "\"70000\"", "\"99999999999\""}) {
-    const Preferences read = core::ReadText(std::string("[FOLDERS]\nTempFolderAutoClear=") + bad +
+    const Preferences read = ReadText(std::string("[FOLDERS]\nTempFolderAutoClear=") + bad +
                                             "\n[SETTINGS]\nImagesPreview=" + bad + "\n");
     EXPECT_EQ(read.TempFolderAutoClear, 1) << bad;
     EXPECT_EQ(read.checkImagesPreview, 1) << bad;
@@ -137,10 +137,10 @@ TEST_F(PreferencesTest, ASwitchThatCannotBeReadIsOn) {
 
 TEST_F(PreferencesTest, ACheckBoxTakesOnlyItsTwoStates) {
   for (const char* bad : {"-1", "2", "5", "32767"}) {
-    EXPECT_EQ(core::ReadText(std::string("[SETTINGS]\nImagesPreview=\"") + bad + "\"\n").checkImagesPreview, 1) << bad;
+    EXPECT_EQ(ReadText(std::string("[SETTINGS]\nImagesPreview=\"") + bad + "\"\n").checkImagesPreview, 1) << bad;
   }
-  EXPECT_EQ(core::ReadText("[SETTINGS]\nImagesPreview=\"0\"\n").checkImagesPreview, 0);
-  EXPECT_EQ(core::ReadText("[FOLDERS]\nTempFolderAutoClear=5\n").TempFolderAutoClear, 5);
+  EXPECT_EQ(ReadText("[SETTINGS]\nImagesPreview=\"0\"\n").checkImagesPreview, 0);
+  EXPECT_EQ(ReadText("[FOLDERS]\nTempFolderAutoClear=5\n").TempFolderAutoClear, 5);
 }
 
 std::string BrowserSection(const std::string& count, int entries) {
@@ -156,7 +156,7 @@ TEST_F(PreferencesTest, TheCountGovernsTheBrowsersAndEndsAtEight) {
   const std::pair<const char*, std::size_t> cases[] = {{"0", 0},     {"1", 1},  {"8", 8},      {"9", 8}, {"12", 8},
                                                        {"32767", 8}, {"-1", 0}, {"-32768", 0}, {"x", 0}, {"", 0}};
   for (const auto& [count, expected] : cases) {
-    const auto browsers = core::ReadText(BrowserSection(count, 12)).Browsers;
+    const auto browsers = ReadText(BrowserSection(count, 12)).Browsers;
     ASSERT_EQ(browsers.size(), expected) << count;
     for (std::size_t n = 1; n <= expected; ++n) {
       const std::string number = std::to_string(n);
@@ -166,7 +166,7 @@ TEST_F(PreferencesTest, TheCountGovernsTheBrowsersAndEndsAtEight) {
 }
 
 TEST_F(PreferencesTest, ABrowserWithoutALineHasNoNameAndNoPlace) {
-  const auto browsers = core::ReadText("[BROWSERS]\nCount=2\nLocation1=\"C:\\a.exe\"\n").Browsers;
+  const auto browsers = ReadText("[BROWSERS]\nCount=2\nLocation1=\"C:\\a.exe\"\n").Browsers;
   EXPECT_EQ(browsers, (std::vector<Browser>{{"", "C:\\a.exe"}, {"", ""}}));
 }
 

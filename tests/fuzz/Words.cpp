@@ -49,7 +49,7 @@ std::vector<std::string> WordsOf(std::string_view text) {
   std::vector<std::string> words;
   while (!text.empty()) {
     const std::string line = TakePart(text, '\n');
-    if (!line.empty() && !line.starts_with('#')) words.push_back(core::WordOf(line));
+    if (!line.empty() && !line.starts_with('#')) words.push_back(WordOf(line));
   }
   return words;
 }

@@ -20,22 +20,22 @@ struct RGB {
 std::ostream& operator<<(std::ostream& stream, const RGB& color);
 
 /// A picture of one color; its padding bytes are 0xA5.
-[[nodiscard]] cDIBSection Plain(std::int32_t width, std::int32_t height, RGB color);
+[[nodiscard]] image::cDIBSection Plain(std::int32_t width, std::int32_t height, RGB color);
 /// A picture of random bytes; its padding bytes are 0xA5.
-[[nodiscard]] cDIBSection Random(std::int32_t width, std::int32_t height, unsigned seed);
+[[nodiscard]] image::cDIBSection Random(std::int32_t width, std::int32_t height, unsigned seed);
 /// A picture of 4096 x 4096 pixels with every possible color once.
-[[nodiscard]] cDIBSection EveryColor();
-[[nodiscard]] cDIBSection CopyOf(const cDIBSection& dib);
+[[nodiscard]] image::cDIBSection EveryColor();
+[[nodiscard]] image::cDIBSection CopyOf(const image::cDIBSection& dib);
 
 /// The pixel in column `x` from the left and memory row `y`.
-[[nodiscard]] RGB PixelAt(const cDIBSection& dib, std::int32_t x, std::int32_t y);
+[[nodiscard]] RGB PixelAt(const image::cDIBSection& dib, std::int32_t x, std::int32_t y);
 
 /// Describes the first difference of two pictures. Empty if all their bytes are equal, including padding.
-[[nodiscard]] std::string Difference(const cDIBSection& got, const cDIBSection& wanted);
+[[nodiscard]] std::string Difference(const image::cDIBSection& got, const image::cDIBSection& wanted);
 
 /// Whether all padding bytes are still 0xA5.
-[[nodiscard]] bool PaddingUntouched(const cDIBSection& dib);
+[[nodiscard]] bool PaddingUntouched(const image::cDIBSection& dib);
 /// Sets all bytes to 0xA5.
-void Paint(cDIBSection& dib);
+void Paint(image::cDIBSection& dib);
 
 }  // namespace vantorium::fakes

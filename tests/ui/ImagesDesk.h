@@ -21,21 +21,21 @@ namespace vantorium::fakes {
 class ImagesDesk : public core::ImageListDisplay {
  public:
   ImagesDesk() {
-    page = std::make_unique<frmImages>(frmImages::Parts{.project = project,
-                                                        .images = operations,
-                                                        .binder = binder,
-                                                        .boxes = boxes,
-                                                        .loop = loop,
-                                                        .shell = shell,
-                                                        .clock = clock,
-                                                        .paths = paths,
-                                                        .browser = browser,
-                                                        .preferences = preferences,
-                                                        .askForImageFolders = [this] { return folders; }});
+    page = std::make_unique<ui::frmImages>(ui::frmImages::Parts{.project = project,
+                                                                .images = operations,
+                                                                .binder = binder,
+                                                                .boxes = boxes,
+                                                                .loop = loop,
+                                                                .shell = shell,
+                                                                .clock = clock,
+                                                                .paths = paths,
+                                                                .browser = browser,
+                                                                .preferences = preferences,
+                                                                .askForImageFolders = [this] { return folders; }});
     binder.Refresh();
     page->resize(860, 480);
     page->show();
-    list = &Find<ImageListView>(*page, "lvImagesList");
+    list = &Find<ui::ImageListView>(*page, "lvImagesList");
   }
 
   void RefreshPreview() override {
@@ -105,9 +105,9 @@ class ImagesDesk : public core::ImageListDisplay {
   std::vector<std::string> folders;
   core::ImageListOperations operations{project, files, boxes, *this};
   core::ProjectEditor editor{project.settings, project.IsModified};
-  FieldBinder binder{editor, boxes};
-  std::unique_ptr<frmImages> page;
-  ImageListView* list = nullptr;
+  ui::FieldBinder binder{editor, boxes};
+  std::unique_ptr<ui::frmImages> page;
+  ui::ImageListView* list = nullptr;
 };
 
 }  // namespace vantorium::fakes

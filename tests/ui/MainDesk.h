@@ -30,17 +30,17 @@ class MainDesk {
   /// Creates the window and starts it as the program does.
   void Start(const std::string& commandLine = {}) {
     window.reset();
-    model =
-        std::make_unique<MainModel>(DesktopPorts{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 2},
-                                                 dialogs,
-                                                 fileBrowser,
-                                                 folderBrowser,
-                                                 folder.Path() / "program",
-                                                 bundled,
-                                                 {3, 0, 1},
-                                                 ftpPort});
-    window = std::make_unique<frmMain>(*model);
-    QObject::connect(window.get(), &frmMain::Closed, [this] { ++closed; });
+    model = std::make_unique<ui::MainModel>(
+        ui::DesktopPorts{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 2},
+                         dialogs,
+                         fileBrowser,
+                         folderBrowser,
+                         folder.Path() / "program",
+                         bundled,
+                         {3, 0, 1},
+                         ftpPort});
+    window = std::make_unique<ui::frmMain>(*model);
+    QObject::connect(window.get(), &ui::frmMain::Closed, [this] { ++closed; });
     window->Start(commandLine);
     window->show();
     window->activateWindow();
@@ -60,7 +60,7 @@ class MainDesk {
     found->trigger();
   }
   [[nodiscard]] const core::GalleryProject& Settings() const { return model->CurrentProject().settings; }
-  [[nodiscard]] std::string Title() const { return FromQt(window->windowTitle()); }
+  [[nodiscard]] std::string Title() const { return ui::FromQt(window->windowTitle()); }
   [[nodiscard]] std::string TitleOfLastBox() const { return boxes.boxes.empty() ? "" : boxes.boxes.back().title; }
 
   TemporaryFolder folder;
@@ -68,7 +68,7 @@ class MainDesk {
   env::RegionalFormats formats;
   env::mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
-  QtEventLoop loop;
+  ui::QtEventLoop loop;
   RecordingDesktop shell;
   FixedClock clock;
   env::Screen screen;
@@ -77,8 +77,8 @@ class MainDesk {
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;
   env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
-  std::unique_ptr<MainModel> model;
-  std::unique_ptr<frmMain> window;
+  std::unique_ptr<ui::MainModel> model;
+  std::unique_ptr<ui::frmMain> window;
   std::uint16_t ftpPort = 21;
   int closed = 0;
 };

@@ -24,7 +24,7 @@ class PublishDesk {
   void WriteServers(std::size_t selected) const { publish::WriteServerList({kOne, kTwo}, selected, ServerFile()); }
   [[nodiscard]] std::filesystem::path ServerFile() const { return publish::ServerListFileName(program.Path()); }
   [[nodiscard]] std::string ServerText() const { return program.Read("vantorium.pub"); }
-  [[nodiscard]] frmCreateGallery::Parts Parts() {
+  [[nodiscard]] ui::frmCreateGallery::Parts Parts() {
     return {.preferences = preferences,
             .serverListFile = ServerFile(),
             .paths = paths,

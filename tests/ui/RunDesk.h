@@ -17,7 +17,7 @@ namespace vantorium::fakes {
 /// Stands in for a run's main window and creates real progress windows.
 class RunWindow : public generation::RunHost {
  public:
-  using MakeProgress = std::function<std::unique_ptr<frmProgress>(QWidget* owner)>;
+  using MakeProgress = std::function<std::unique_ptr<ui::frmProgress>(QWidget* owner)>;
 
   explicit RunWindow(MakeProgress makeProgress) : makeProgress_(std::move(makeProgress)) { window.show(); }
 
@@ -31,9 +31,9 @@ class RunWindow : public generation::RunHost {
   void SetStatusText(const std::string& text) override { status = text; }
   void EnableMainWindow(bool enabled) override { window.setEnabled(enabled); }
 
-  std::function<void(frmProgress&)> onProgress;  ///< called with each progress window
+  std::function<void(ui::frmProgress&)> onProgress;  ///< called with each progress window
   QWidget window;
-  QPointer<frmProgress> progress;
+  QPointer<ui::frmProgress> progress;
   generation::RunOrder order;
   std::string status;
 
@@ -74,13 +74,13 @@ class RunDesk {
   Journal journal;
   RecordingShell shell{journal};
   FixedClock clock;
-  QtEventLoop loop;
+  ui::QtEventLoop loop;
   env::Screen screen;
   image::PangoTextRaster texts;
   generation::CancelCheck cancel{boxes};
   publish::UploadLog log{folder.Path() / "program", clock, boxes};
   RunWindow host{
-      [this](QWidget* owner) { return std::make_unique<frmProgress>(log, cancel, shell, "T:\\program", owner); }};
+      [this](QWidget* owner) { return std::make_unique<ui::frmProgress>(log, cancel, shell, "T:\\program", owner); }};
 };
 
 }  // namespace vantorium::fakes

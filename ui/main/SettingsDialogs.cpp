@@ -7,8 +7,8 @@
 #include "ui/dialogs/frmLinks.h"
 #include "ui/dialogs/frmSelectColors.h"
 #include "ui/dialogs/frmWatermark.h"
-#include "ui/main/DesktopPorts.h"
 #include "ui/model/dialogs/ColorDialog.h"
+#include "ui/model/main/DesktopPorts.h"
 #include "ui/qt/QtText.h"
 #include "ui/widgets/FieldBinder.h"
 

@@ -60,7 +60,7 @@ void SettingsPages::Refresh(const core::GalleryProject& project) {
 void SettingsPages::RefreshAlignments(const core::GalleryProject& project) const {
   for (const AlignmentList& list : AlignmentLists()) {
     auto& control = Find<QComboBox>(core::FieldOf(list.alignment).name);
-    const core::ValueList texts = core::AlignmentTexts(core::IsAboveOrBelow(list, project));
+    const core::ValueList texts = core::AlignmentTexts(IsAboveOrBelow(list, project));
     const QSignalBlocker quiet(control);
     for (int i = 0; i < control.count(); ++i) control.setItemText(i, ToQt(texts[static_cast<std::size_t>(i)]));
     control.setCurrentIndex(std::max<int>(project.*list.alignment, 0));

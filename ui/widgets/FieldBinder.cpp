@@ -70,7 +70,7 @@ void FieldBinder::BindText(QLineEdit& control, std::string core::GalleryProject:
 void FieldBinder::BindPath(QLineEdit& control, const env::PathMap& paths, std::string core::GalleryProject::*field) {
   Bind(control, field);
   connect(&control, &QLineEdit::editingFinished, this, [this, &paths, field] {
-    const std::string& typed = core::Project().*field;
+    const std::string& typed = Project().*field;
     const std::string path = paths.ToTextIfNative(typed);
     if (path != typed) Edit([&](core::ProjectEditor& editor) { editor.Set(field, path); });
   });
@@ -127,7 +127,7 @@ void FieldBinder::Bind(QComboBox& control, core::Choice core::GalleryProject::*f
 void FieldBinder::Bind(ColorButton& control, ColorDialog& dialog, core::Color core::GalleryProject::*field) {
   fields_.push_back(&core::FieldOf(field));
   connect(&control, &ColorButton::clicked, this, [this, &dialog, field] {
-    core::Color color = core::Project().*field;
+    core::Color color = Project().*field;
     if (dialog.DisplayColorDialog2(color)) Edit([&](core::ProjectEditor& editor) { editor.Set(field, color); });
   });
   show_.push_back([&control, field](const core::GalleryProject& project) { control.SetColor(project.*field); });

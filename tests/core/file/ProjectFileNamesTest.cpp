@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 using namespace vantorium;
+using namespace vantorium::core;
 
 TEST(ProjectFileNames, AnIndexOutsideTheListHasNoWord) {
   EXPECT_EQ(WordOf(kStartOverWords, 2), "stop");

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace vantorium;
+using namespace vantorium::core;
 using namespace vantorium::fakes;
 
 namespace {

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 using namespace vantorium;
+using namespace vantorium::core;
 using namespace vantorium::fakes;
 using namespace std::string_literals;
 

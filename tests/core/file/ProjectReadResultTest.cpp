@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace vantorium;
+using namespace vantorium::core;
 
 TEST(ProjectReadResult, OnlyAnInvalidFileHasAReason) {
   EXPECT_EQ(std::string_view(ReasonOf(ReadResult::Complete)), "");

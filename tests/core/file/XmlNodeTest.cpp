@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace vantorium;
+using namespace vantorium::core;
 
 namespace {
 

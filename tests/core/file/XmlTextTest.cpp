@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 using namespace vantorium;
+using namespace vantorium::core;
 
 TEST(XmlText, CharactersOfXmlAreKeptAsTheyAre) {
   for (const char* text : {"", "plain", "tab\tline\r\nend", "<&>\"'", "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80",

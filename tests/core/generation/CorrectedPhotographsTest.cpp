@@ -46,7 +46,7 @@ class CorrectedPhotographsTest : public RunFixture {
 TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveTheirUprightSize) {
   project.settings.checkImagesTrueColors = 0;
   AddLyingPhotographs();
-  Run(CreateArguments());
+  Run(OrderToCreate());
   for (int orientation = 1; orientation <= 8; ++orientation) {
     const std::string file = std::to_string(orientation) + ".jpg";
     const image::PictureSize image = orientation < 5 ? image::PictureSize{38, 24} : image::PictureSize{15, 24};
@@ -58,23 +58,23 @@ TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveTheirUpright
 
 TEST_F(CorrectedPhotographsTest, TheGalleryIsTheSameForEveryNumberOfJobs) {
   AddLyingPhotographs();
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const auto first = Gallery();
   for (const unsigned jobs : {2U, 5U}) {
     std::filesystem::remove_all(folder.Path() / "out");
     environment.jobs = jobs;
-    Run(CreateArguments());
+    Run(OrderToCreate());
     EXPECT_TRUE(Gallery() == first) << jobs << " jobs";
   }
 }
 
 TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
   AddLyingPhotographs();
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const auto corrected = Gallery();
   project.settings.checkImagesTrueColors = 0;
   std::filesystem::remove_all(folder.Path() / "out");
-  Run(CreateArguments());
+  Run(OrderToCreate());
   for (const auto& [name, bytes] : Gallery()) {
     EXPECT_EQ(corrected.at(name) != bytes, name.ends_with(".jpg")) << name;
   }
@@ -83,7 +83,7 @@ TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
 TEST_F(CorrectedPhotographsTest, AnImageThatIsOnlyCopiedStaysACopy) {
   AddLyingPhotographs();
   project.settings.checkImageWrapperImagePhysicalResize = 0;
-  Run(CreateArguments());
+  Run(OrderToCreate());
   for (const char* name : {"1", "6", "8"}) {
     EXPECT_EQ(folder.Read(std::string("out/Images/") + name + ".jpg"),
               folder.Read(std::string("photos/") + name + ".jpg"));
@@ -92,7 +92,7 @@ TEST_F(CorrectedPhotographsTest, AnImageThatIsOnlyCopiedStaysACopy) {
 
 TEST_F(CorrectedPhotographsTest, APreviewAsksTheBrowserForUprightSizesOfThePhotographs) {
   AddLyingPhotographs();
-  Run(PreviewArguments());
+  Run(OrderToPreview());
   const std::string page = folder.Read("temp/thumbpage_1.htm");
   EXPECT_NE(page.find("/photos/1.jpg\" BORDER=\"0\" WIDTH=\"95\" HEIGHT=\"60\""), std::string::npos) << page;
   EXPECT_NE(page.find("/photos/6.jpg\" BORDER=\"0\" WIDTH=\"38\" HEIGHT=\"60\""), std::string::npos);
@@ -103,11 +103,11 @@ TEST_F(CorrectedPhotographsTest, WithoutTheSettingsTheNotesOfAPhotographChangeNo
   const std::string jpeg = fakes::MakeJpeg({.width = kWidth, .height = kHeight});
   AddEntry("a", "T:\\photos\\a.jpg");
   folder.Write("photos/a.jpg", jpeg);
-  Run(CreateArguments());
+  Run(OrderToCreate());
   const auto plain = Gallery();
   const std::string profile = fakes::ProfileOf(fakes::TestProfile::DisplayP3);
   folder.Write("photos/a.jpg", fakes::WithOrientation(fakes::WithProfile(jpeg, profile), 6));
-  Run(CreateArguments());
+  Run(OrderToCreate());
   EXPECT_TRUE(Gallery() == plain);
 }
 

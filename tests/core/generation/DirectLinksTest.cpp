@@ -11,7 +11,7 @@ class DirectLinks : public PageTest {
   std::string Short(const core::Digits& most, std::int32_t page, std::int32_t pageCount) {
     project.textPageLinksThumbnailMaxDirectLinks = most;
     run.ThumbnailPageCount = pageCount;
-    std::string text = BuildDirectLinks(run, page);
+    std::string text = generation::BuildDirectLinks(run, page);
     for (std::int32_t number = pageCount; number >= 1; --number) {
       const std::string digits = std::to_string(number);
       const std::string open = R"(<A HREF="thumbpage_)" + digits + R"(.htm">)";
@@ -69,7 +69,7 @@ TEST_F(DirectLinks, LinksUseTheProjectsNames) {
   project.comboThumbnailPageSettingsFileExtension = ".html";
   project.textPageLinksThumbnailMaxDirectLinks = "1";
   run.ThumbnailPageCount = 3;
-  EXPECT_EQ(BuildDirectLinks(run, 2), R"(<A HREF="p1.html">...</A> 2 <A HREF="p3.html">...</A>)");
+  EXPECT_EQ(generation::BuildDirectLinks(run, 2), R"(<A HREF="p1.html">...</A> 2 <A HREF="p3.html">...</A>)");
 }
 
 TEST_F(DirectLinks, TheCheckBoxIsNotLookedAt) {

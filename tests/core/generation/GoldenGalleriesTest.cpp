@@ -31,7 +31,7 @@ struct Gallery {
   std::string name;
   std::function<void(core::GalleryProject&)> set;
   int images = 3;
-  GenerationMode mode = GenerationMode::Create;
+  generation::GenerationMode mode = generation::GenerationMode::Create;
 
   friend void PrintTo(const Gallery& gallery, std::ostream* stream) { *stream << gallery.name; }
 };
@@ -93,8 +93,10 @@ void SetGraphics(core::GalleryProject& project, bool withLabels) {
 
 std::string EveryTag() {
   std::string text;
-  for (const TagRow& row : TagRows()) text.append(row.tag.substr(1)).append(" ").append(row.tag).append("\r\n");
-  for (const DescriptionTags& row : DescriptionTagRows()) text.append(row.tag).append(" ").append(row.fullTag);
+  for (const generation::TagRow& row : generation::TagRows())
+    text.append(row.tag.substr(1)).append(" ").append(row.tag).append("\r\n");
+  for (const generation::DescriptionTags& row : generation::DescriptionTagRows())
+    text.append(row.tag).append(" ").append(row.fullTag);
   return text;
 }
 
@@ -218,15 +220,15 @@ void AddLooks(std::vector<Gallery>& galleries) {
                          project.comboThumbnailsTableAlignment = 3;
                          project.checkImageWrapperImageKeepSize = 1;
                        }});
-  galleries.push_back(
-      {"preview", [](core::GalleryProject& project) { SetLayout(project, 1); }, 3, GenerationMode::Preview});
+  galleries.push_back({"preview", [](core::GalleryProject& project) { SetLayout(project, 1); }, 3,
+                       generation::GenerationMode::Preview});
   galleries.push_back({"preview_without_wrappers",
                        [](core::GalleryProject& project) {
                          SetSlideShow(project, 0, 0, 1);
                          project.checkImageWrapperUse = 0;
                          project.textThumbnailsPageBackdrop = "sand.JPG";
                        },
-                       3, GenerationMode::Preview});
+                       3, generation::GenerationMode::Preview});
 }
 
 std::vector<Gallery> Galleries() {
@@ -280,16 +282,18 @@ class GoldenGallery : public PageTest, public ::testing::WithParamInterface<Gall
 
   Pages AllPages() {
     Pages pages;
-    pages["index.htm"] = EncodePage(BuildIndexPage(run));
+    pages["index.htm"] = generation::EncodePage(generation::BuildIndexPage(run));
     std::int32_t firstImage = 1;
     for (std::int32_t page = 1; page <= run.ThumbnailPageCount; ++page) {
-      run.DirectLinksText = BuildDirectLinks(run, page);
-      pages[ThumbnailPageName(project, page)] = EncodePage(BuildThumbnailPage(run, page, firstImage));
-      firstImage += ImagesOnThumbnailPage(run, firstImage);
+      run.DirectLinksText = generation::BuildDirectLinks(run, page);
+      pages[generation::ThumbnailPageName(project, page)] =
+          generation::EncodePage(generation::BuildThumbnailPage(run, page, firstImage));
+      firstImage += generation::ImagesOnThumbnailPage(run, firstImage);
     }
     EXPECT_EQ(firstImage, run.ImageCount + 1);
     for (std::int32_t image = 1; project.checkImageWrapperUse == 1 && image <= run.ImageCount; ++image) {
-      pages[WrapperPageName(project, run.ListText(image))] = EncodePage(BuildWrapperPage(run, image));
+      pages[generation::WrapperPageName(project, run.ListText(image))] =
+          generation::EncodePage(generation::BuildWrapperPage(run, image));
     }
     return pages;
   }

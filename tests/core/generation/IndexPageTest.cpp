@@ -13,12 +13,14 @@ class IndexPage : public PageTest {
     Prepare();
   }
 
-  std::string LineOf(const std::string& start) const { return LineStartingWith(BuildIndexPage(run), start); }
+  std::string LineOf(const std::string& start) const {
+    return LineStartingWith(generation::BuildIndexPage(run), start);
+  }
   std::string Frameset() const { return LineOf("<FRAMESET"); }
 };
 
 TEST_F(IndexPage, OfASingleFrameIsAFramesetWithOneFrame) {
-  EXPECT_EQ(BuildIndexPage(run),
+  EXPECT_EQ(generation::BuildIndexPage(run),
             Lines({"<HTML>", "", "<HEAD>", "<TITLE>Holidays</TITLE>",
                    R"(<META NAME="GENERATOR" CONTENT="Vantorium Image Gallery Creator 3.0">)",
                    "<!-- BEGIN USER DEFINED HEAD CODE -->", "", "<!-- END USER DEFINED HEAD CODE -->", "</HEAD>", "",
@@ -36,7 +38,7 @@ TEST_F(IndexPage, AFrameIsAsWideAsItsFieldHolds) {
 TEST_F(IndexPage, OfTwoFramesHasThemInOrder) {
   project.comboGalleryLayoutType = 1;
   EXPECT_EQ(
-      BuildIndexPage(run),
+      generation::BuildIndexPage(run),
       Lines({"<HTML>", "", "<HEAD>", "<TITLE>Holidays</TITLE>",
              R"(<META NAME="GENERATOR" CONTENT="Vantorium Image Gallery Creator 3.0">)",
              "<!-- BEGIN USER DEFINED HEAD CODE -->", "", "<!-- END USER DEFINED HEAD CODE -->", "</HEAD>", "",
@@ -68,7 +70,7 @@ TEST_F(IndexPage, LayoutAndPriorityDecideOrderAndSizes) {
     EXPECT_EQ(Frameset(), "<FRAMESET " + each.thumbnailsSized + R"( BORDER="0" >)");
     project.comboGalleryFrameSizingPriority = 1;
     EXPECT_EQ(Frameset(), "<FRAMESET " + each.imageSized + R"( BORDER="0" >)");
-    const std::string page = BuildIndexPage(run);
+    const std::string page = generation::BuildIndexPage(run);
     EXPECT_EQ(page.find("NAME=\"image_frame\"") < page.find("NAME=\"thumb_frame\""), each.imageFirst) << each.layout;
     EXPECT_EQ(CountOf(page, "<FRAME "), 2U);
   }
@@ -100,9 +102,9 @@ TEST_F(IndexPage, TheImageFrameBeginsWithTheFirstImage) {
   EXPECT_TRUE(LineOf(start).starts_with(start + "img1.htm\""));
   project.checkImageWrapperUse = 0;
   EXPECT_TRUE(LineOf(start).starts_with(start + "Images/img1.JPG\""));
-  run.mode = GenerationMode::Publish;
+  run.mode = generation::GenerationMode::Publish;
   EXPECT_TRUE(LineOf(start).starts_with(start + "Images/img1.JPG\""));
-  Prepare(GenerationMode::Preview);
+  Prepare(generation::GenerationMode::Preview);
   EXPECT_TRUE(LineOf(start).starts_with(start + "file:///home/anna/Photos/img1.JPG\"")) << LineOf(start);
 }
 
@@ -122,17 +124,17 @@ TEST_F(IndexPage, ASlideShowMayBeginWithTheFirstImageEvenWithoutWrapperPages) {
 
 TEST_F(IndexPage, ASlideShowDoesNotTouchTwoFrames) {
   project.comboGalleryLayoutType = 3;
-  const std::string without = BuildIndexPage(run);
+  const std::string without = generation::BuildIndexPage(run);
   project.checkGallerySlideShow = 1;
   project.comboGallerySlideShowBeginWith = 1;
-  EXPECT_EQ(BuildIndexPage(run), without);
+  EXPECT_EQ(generation::BuildIndexPage(run), without);
 }
 
 TEST_F(IndexPage, HeadCodeIsExpandedWithoutImageAndPage) {
   project.GalleryHeadCode =
       "<VANTORIUM_GALLERY_TITLE> <VANTORIUM_IMAGE_COUNT> <VANTORIUM_IMAGE_INDEX> <VANTORIUM_THUMBPAGE_INDEX> "
       "<VANTORIUM_IMAGE_DESCRIPTION>";
-  EXPECT_TRUE(Contains(BuildIndexPage(run),
+  EXPECT_TRUE(Contains(generation::BuildIndexPage(run),
                        "\r\nHolidays 2 <VANTORIUM_IMAGE_INDEX> <VANTORIUM_THUMBPAGE_INDEX> "
                        "<VANTORIUM_IMAGE_DESCRIPTION>\r\n"));
 }
@@ -144,9 +146,9 @@ TEST_F(IndexPage, TextsAreNeitherEscapedNorExpandedInTheTitle) {
 
 TEST_F(IndexPage, WithoutImagesTheFirstOneIsAFailureOnlyWhereItIsNamed) {
   images.Clear();
-  EXPECT_NO_THROW((void)BuildIndexPage(run));
+  EXPECT_NO_THROW((void)generation::BuildIndexPage(run));
   project.comboGalleryLayoutType = 1;
-  EXPECT_THROW((void)BuildIndexPage(run), env::RuntimeFailure);
+  EXPECT_THROW((void)generation::BuildIndexPage(run), env::RuntimeFailure);
 }
 
 }  // namespace

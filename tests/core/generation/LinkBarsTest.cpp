@@ -23,33 +23,33 @@ class LinkBars : public PageTest {
 };
 
 TEST_F(LinkBars, TheThumbnailBarHasFourTextLinks) {
-  EXPECT_EQ(BuildThumbnailPageBar(run, 2),
+  EXPECT_EQ(generation::BuildThumbnailPageBar(run, 2),
             A("thumbpage_1.htm") + "FIRST</A>&nbsp;" + A("thumbpage_1.htm") + "BACK</A>&nbsp;" +  //
                 "&nbsp;" + A("thumbpage_3.htm") + "NEXT</A>" + "&nbsp;" + A("thumbpage_3.htm") + "LAST</A>");
 }
 
 TEST_F(LinkBars, AtTheFirstPageTheTextsStayWithoutTheirAnchors) {
-  EXPECT_EQ(BuildThumbnailPageBar(run, 1), "FIRST</A>&nbsp;BACK</A>&nbsp;&nbsp;" + A("thumbpage_2.htm") +
-                                               "NEXT</A>&nbsp;" + A("thumbpage_3.htm") + "LAST</A>");
+  EXPECT_EQ(generation::BuildThumbnailPageBar(run, 1), "FIRST</A>&nbsp;BACK</A>&nbsp;&nbsp;" + A("thumbpage_2.htm") +
+                                                           "NEXT</A>&nbsp;" + A("thumbpage_3.htm") + "LAST</A>");
 }
 
 TEST_F(LinkBars, AtTheLastPageTheTextsStayWithoutTheirAnchors) {
-  EXPECT_EQ(BuildThumbnailPageBar(run, 3), A("thumbpage_1.htm") + "FIRST</A>&nbsp;" + A("thumbpage_2.htm") +
-                                               "BACK</A>&nbsp;&nbsp;NEXT</A>&nbsp;LAST</A>");
+  EXPECT_EQ(generation::BuildThumbnailPageBar(run, 3), A("thumbpage_1.htm") + "FIRST</A>&nbsp;" + A("thumbpage_2.htm") +
+                                                           "BACK</A>&nbsp;&nbsp;NEXT</A>&nbsp;LAST</A>");
 }
 
 TEST_F(LinkBars, DirectLinksAreInTheMiddleWhenTheyAreWanted) {
-  EXPECT_FALSE(Contains(BuildThumbnailPageBar(run, 1), "(direct)"));
+  EXPECT_FALSE(Contains(generation::BuildThumbnailPageBar(run, 1), "(direct)"));
   project.checkPageLinksThumbnailDirectLinks = 1;
-  EXPECT_TRUE(Contains(BuildThumbnailPageBar(run, 1), "BACK</A>&nbsp;(direct)&nbsp;<A"));
+  EXPECT_TRUE(Contains(generation::BuildThumbnailPageBar(run, 1), "BACK</A>&nbsp;(direct)&nbsp;<A"));
 }
 
 TEST_F(LinkBars, OnePageAndOneImageHaveNoBar) {
   run.ThumbnailPageCount = 1;
   run.ImageCount = 1;
   project.checkPageLinksThumbnailDirectLinks = 1;
-  EXPECT_EQ(BuildThumbnailPageBar(run, 1), "");
-  EXPECT_EQ(BuildImagePageBar(run, 1), "");
+  EXPECT_EQ(generation::BuildThumbnailPageBar(run, 1), "");
+  EXPECT_EQ(generation::BuildImagePageBar(run, 1), "");
 }
 
 TEST_F(LinkBars, GraphicsPrecedeTheTextOnTheLeftAndFollowItOnTheRight) {
@@ -57,14 +57,15 @@ TEST_F(LinkBars, GraphicsPrecedeTheTextOnTheLeftAndFollowItOnTheRight) {
   project.ThumbnailPreviousLink = {"P", "a.png", "a0.png"};
   project.ThumbnailNextLink = {"N", "a.jpg", "a0.jpg"};
   project.ThumbnailLastLink = {"L", "a.bmp", "a0.bmp"};
-  EXPECT_EQ(BuildThumbnailPageBar(run, 2),
+  EXPECT_EQ(generation::BuildThumbnailPageBar(run, 2),
             A("thumbpage_1.htm") + G("_thumblink_first.gif") + "</A>&nbsp;" + A("thumbpage_1.htm") + "F</A>&nbsp;" +
                 A("thumbpage_1.htm") + G("_thumblink_previous.png") + "</A>&nbsp;" + A("thumbpage_1.htm") +
                 "P</A>&nbsp;" + "&nbsp;" + A("thumbpage_3.htm") + "N</A>&nbsp;" + A("thumbpage_3.htm") +
                 G("_thumblink_next.jpg") + "</A>" + "&nbsp;" + A("thumbpage_3.htm") + "L</A>&nbsp;" +
                 A("thumbpage_3.htm") + G("_thumblink_last.bmp") + "</A>");
-  EXPECT_TRUE(BuildThumbnailPageBar(run, 1).starts_with(G("_thumblink_first_first.gif") + "</A>&nbsp;F</A>&nbsp;" +
-                                                        G("_thumblink_previous_first.png") + "</A>&nbsp;P</A>&nbsp;"));
+  EXPECT_TRUE(generation::BuildThumbnailPageBar(run, 1).starts_with(
+      G("_thumblink_first_first.gif") + "</A>&nbsp;F</A>&nbsp;" + G("_thumblink_previous_first.png") +
+      "</A>&nbsp;P</A>&nbsp;"));
 }
 
 TEST_F(LinkBars, AGraphicWithoutALabelIsAlone) {
@@ -72,37 +73,39 @@ TEST_F(LinkBars, AGraphicWithoutALabelIsAlone) {
   project.ThumbnailPreviousLink = {"", "a.gif", ""};
   project.ThumbnailNextLink = {"", "a.gif", ""};
   project.ThumbnailLastLink = {"", "a.gif", ""};
-  EXPECT_EQ(BuildThumbnailPageBar(run, 2), A("thumbpage_1.htm") + G("_thumblink_first.gif") + "</A>&nbsp;" +
-                                               A("thumbpage_1.htm") + G("_thumblink_previous.gif") + "</A>&nbsp;" +
-                                               "&nbsp;" + A("thumbpage_3.htm") + G("_thumblink_next.gif") + "</A>" +
-                                               "&nbsp;" + A("thumbpage_3.htm") + G("_thumblink_last.gif") + "</A>");
+  EXPECT_EQ(generation::BuildThumbnailPageBar(run, 2), A("thumbpage_1.htm") + G("_thumblink_first.gif") + "</A>&nbsp;" +
+                                                           A("thumbpage_1.htm") + G("_thumblink_previous.gif") +
+                                                           "</A>&nbsp;" + "&nbsp;" + A("thumbpage_3.htm") +
+                                                           G("_thumblink_next.gif") + "</A>" + "&nbsp;" +
+                                                           A("thumbpage_3.htm") + G("_thumblink_last.gif") + "</A>");
 }
 
 TEST_F(LinkBars, ALinkWithNeitherFormLeavesAnEmptyAnchor) {
   project.ThumbnailFirstLink = {};
   project.ThumbnailLastLink = {};
-  const std::string bar = BuildThumbnailPageBar(run, 2);
+  const std::string bar = generation::BuildThumbnailPageBar(run, 2);
   EXPECT_TRUE(bar.starts_with(A("thumbpage_1.htm") + "</A>&nbsp;"));
   EXPECT_TRUE(bar.ends_with("&nbsp;" + A("thumbpage_3.htm") + "</A>"));
 }
 
 TEST_F(LinkBars, TheImageBarHasTheIndexInTheMiddle) {
-  EXPECT_EQ(BuildImagePageBar(run, 2), A("img1.htm") + "FIRST</A>&nbsp;" + A("img1.htm") + "BACK</A>&nbsp;" +
-                                           A("thumbpage_2.htm#img2") + "INDEX</A>" + "&nbsp;" + A("img3.htm") +
-                                           "NEXT</A>" + "&nbsp;" + A("img3.htm") + "LAST</A>");
+  EXPECT_EQ(generation::BuildImagePageBar(run, 2),
+            A("img1.htm") + "FIRST</A>&nbsp;" + A("img1.htm") + "BACK</A>&nbsp;" + A("thumbpage_2.htm#img2") +
+                "INDEX</A>" + "&nbsp;" + A("img3.htm") + "NEXT</A>" + "&nbsp;" + A("img3.htm") + "LAST</A>");
 }
 
 TEST_F(LinkBars, TheImageBarAtItsEndsKeepsTheTexts) {
-  EXPECT_TRUE(BuildImagePageBar(run, 1).starts_with("FIRST</A>&nbsp;BACK</A>&nbsp;" + A("thumbpage_1.htm#img1")));
-  EXPECT_TRUE(BuildImagePageBar(run, 3).ends_with("INDEX</A>&nbsp;NEXT</A>&nbsp;LAST</A>"));
+  EXPECT_TRUE(
+      generation::BuildImagePageBar(run, 1).starts_with("FIRST</A>&nbsp;BACK</A>&nbsp;" + A("thumbpage_1.htm#img1")));
+  EXPECT_TRUE(generation::BuildImagePageBar(run, 3).ends_with("INDEX</A>&nbsp;NEXT</A>&nbsp;LAST</A>"));
 }
 
 TEST_F(LinkBars, LayoutsWithTwoFramesHaveNoIndex) {
   for (core::Choice layout = 1; layout <= 4; ++layout) {
     project.comboGalleryLayoutType = layout;
-    EXPECT_EQ(BuildImagePageBar(run, 2), A("img1.htm") + "FIRST</A>&nbsp;" + A("img1.htm") + "BACK</A>&nbsp;" +
-                                             "&nbsp;" + A("img3.htm") + "NEXT</A>" + "&nbsp;" + A("img3.htm") +
-                                             "LAST</A>")
+    EXPECT_EQ(generation::BuildImagePageBar(run, 2), A("img1.htm") + "FIRST</A>&nbsp;" + A("img1.htm") +
+                                                         "BACK</A>&nbsp;" + "&nbsp;" + A("img3.htm") + "NEXT</A>" +
+                                                         "&nbsp;" + A("img3.htm") + "LAST</A>")
         << layout;
   }
 }
@@ -111,39 +114,41 @@ TEST_F(LinkBars, TheGraphicOfTheIndexIsOnEitherSideOfItsText) {
   const std::string anchor = A("thumbpage_2.htm#img2");
   const std::string graphic = anchor + G("_imagelink_index.gif") + "</A>";
   project.ImageIndexLink = {"INDEX", "i.gif", ""};
-  EXPECT_TRUE(Contains(BuildImagePageBar(run, 2),
+  EXPECT_TRUE(Contains(generation::BuildImagePageBar(run, 2),
                        "BACK</A>&nbsp;" + graphic + "&nbsp;" + anchor + "INDEX</A>&nbsp;" + graphic + "&nbsp;<A"));
   project.ImageIndexLink = {"", "i.gif", ""};
-  EXPECT_TRUE(Contains(BuildImagePageBar(run, 2), "BACK</A>&nbsp;" + graphic + "&nbsp;&nbsp;<A"));
+  EXPECT_TRUE(Contains(generation::BuildImagePageBar(run, 2), "BACK</A>&nbsp;" + graphic + "&nbsp;&nbsp;<A"));
 }
 
 TEST_F(LinkBars, TheTextOfANextImageWithAGraphicDependsOnTheLabelOfPrevious) {
   const std::string graphic = A("img3.htm") + G("_imagelink_next.gif") + "</A>";
   const std::string last = "&nbsp;" + A("img3.htm") + "LAST</A>";
   project.ImageNextLink = {"NEXT", "n.gif", ""};
-  EXPECT_TRUE(BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "NEXT</A>&nbsp;" + graphic + last));
+  EXPECT_TRUE(
+      generation::BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "NEXT</A>&nbsp;" + graphic + last));
   project.ImageNextLink.textLinkLabel = "";
-  EXPECT_TRUE(BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "</A>&nbsp;" + graphic + last));
+  EXPECT_TRUE(
+      generation::BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "</A>&nbsp;" + graphic + last));
   project.ImagePreviousLink.textLinkLabel = "";
   project.ImageNextLink.textLinkLabel = "NEXT";
-  EXPECT_TRUE(BuildImagePageBar(run, 2).ends_with("INDEX</A>&nbsp;" + graphic + last));
+  EXPECT_TRUE(generation::BuildImagePageBar(run, 2).ends_with("INDEX</A>&nbsp;" + graphic + last));
 }
 
 TEST_F(LinkBars, TheLastImageAndTheThumbnailBarLookAtTheirOwnLabels) {
   project.ImagePreviousLink.textLinkLabel = "";
   project.ImageLastLink = {"LAST", "l.gif", ""};
-  EXPECT_TRUE(BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "LAST</A>&nbsp;" + A("img3.htm") +
-                                                  G("_imagelink_last.gif") + "</A>"));
+  EXPECT_TRUE(generation::BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "LAST</A>&nbsp;" +
+                                                              A("img3.htm") + G("_imagelink_last.gif") + "</A>"));
   project.ThumbnailPreviousLink.textLinkLabel = "";
   project.ThumbnailNextLink = {"NEXT", "n.gif", ""};
-  EXPECT_TRUE(Contains(BuildThumbnailPageBar(run, 2), A("thumbpage_3.htm") + "NEXT</A>&nbsp;"));
+  EXPECT_TRUE(Contains(generation::BuildThumbnailPageBar(run, 2), A("thumbpage_3.htm") + "NEXT</A>&nbsp;"));
 }
 
 TEST_F(LinkBars, AGridWithoutCellsFailsOnlyAtTheIndexLink) {
   SetGrid("0", "5");
-  EXPECT_THROW((void)BuildImagePageBar(run, 2), env::RuntimeFailure);
+  EXPECT_THROW((void)generation::BuildImagePageBar(run, 2), env::RuntimeFailure);
   project.comboGalleryLayoutType = 1;
-  EXPECT_NO_THROW((void)BuildImagePageBar(run, 2));
+  EXPECT_NO_THROW((void)generation::BuildImagePageBar(run, 2));
 }
 
 }  // namespace

@@ -7,49 +7,49 @@ namespace {
 using OutputNaming = PageTest;
 
 TEST_F(OutputNaming, AFileNameIsTheListTextWithTheSourcesExtension) {
-  EXPECT_EQ(BuildFileName("Sunset", "C:\\Photos\\IMG_1.JPG"), "Sunset.JPG");
-  EXPECT_EQ(BuildFileName("a.b", "C:\\Photos\\x.y.jpeg"), "a.b.jpeg");
-  EXPECT_EQ(BuildFileName("Sunset", "C:\\Photos\\IMG_1"), "Sunset");
-  EXPECT_EQ(BuildFileName("", "x.jpg"), ".jpg");
+  EXPECT_EQ(generation::BuildFileName("Sunset", "C:\\Photos\\IMG_1.JPG"), "Sunset.JPG");
+  EXPECT_EQ(generation::BuildFileName("a.b", "C:\\Photos\\x.y.jpeg"), "a.b.jpeg");
+  EXPECT_EQ(generation::BuildFileName("Sunset", "C:\\Photos\\IMG_1"), "Sunset");
+  EXPECT_EQ(generation::BuildFileName("", "x.jpg"), ".jpg");
 }
 
 TEST_F(OutputNaming, PagesAreNumberedWithoutPadding) {
-  EXPECT_EQ(ThumbnailPageName(project, 1), "thumbpage_1.htm");
-  EXPECT_EQ(ThumbnailPageName(project, 100'000), "thumbpage_100000.htm");
+  EXPECT_EQ(generation::ThumbnailPageName(project, 1), "thumbpage_1.htm");
+  EXPECT_EQ(generation::ThumbnailPageName(project, 100'000), "thumbpage_100000.htm");
   project.textThumbnailPageSettingsFilePrefix = "";
-  EXPECT_EQ(ThumbnailPageName(project, 2), "2.htm");
+  EXPECT_EQ(generation::ThumbnailPageName(project, 2), "2.htm");
 }
 
 TEST_F(OutputNaming, WrapperPagesAndThumbnailsBearTheNameOfTheirImage) {
   AddImage("Sunset");
-  EXPECT_EQ(WrapperPageName(project, "Sunset"), "Sunset.htm");
-  EXPECT_EQ(ThumbnailFileName(project, run.Info(1)), "thumb_Sunset.JPG");
+  EXPECT_EQ(generation::WrapperPageName(project, "Sunset"), "Sunset.htm");
+  EXPECT_EQ(generation::ThumbnailFileName(project, run.Info(1)), "thumb_Sunset.JPG");
 }
 
 TEST_F(OutputNaming, AFolderInAddressesHasSlashesAndOneAtItsEnd) {
-  EXPECT_EQ(UrlFolder("Images"), "Images/");
-  EXPECT_EQ(UrlFolder("Images\\Big"), "Images/Big/");
-  EXPECT_EQ(UrlFolder("Images\\"), "Images/");
-  EXPECT_EQ(UrlFolder("Images/"), "Images/");
-  EXPECT_EQ(UrlFolder(""), "/");
+  EXPECT_EQ(generation::UrlFolder("Images"), "Images/");
+  EXPECT_EQ(generation::UrlFolder("Images\\Big"), "Images/Big/");
+  EXPECT_EQ(generation::UrlFolder("Images\\"), "Images/");
+  EXPECT_EQ(generation::UrlFolder("Images/"), "Images/");
+  EXPECT_EQ(generation::UrlFolder(""), "/");
 }
 
 TEST_F(OutputNaming, AnImageIsFoundInItsFolderAndInAPreviewAtItsSource) {
   AddImage("Sunset");
   Prepare();
-  EXPECT_EQ(ImageUrl(run, 1), "Images/Sunset.JPG");
-  EXPECT_EQ(ImageTarget(run, 1), "Sunset.htm");
+  EXPECT_EQ(generation::ImageUrl(run, 1), "Images/Sunset.JPG");
+  EXPECT_EQ(generation::ImageTarget(run, 1), "Sunset.htm");
   project.checkImageWrapperUse = 0;
-  EXPECT_EQ(ImageTarget(run, 1), "Images/Sunset.JPG");
-  Prepare(GenerationMode::Preview);
-  EXPECT_EQ(ImageUrl(run, 1), "file:///home/anna/Photos/Sunset.JPG");
-  EXPECT_EQ(ImageTarget(run, 1), "file:///home/anna/Photos/Sunset.JPG");
+  EXPECT_EQ(generation::ImageTarget(run, 1), "Images/Sunset.JPG");
+  Prepare(generation::GenerationMode::Preview);
+  EXPECT_EQ(generation::ImageUrl(run, 1), "file:///home/anna/Photos/Sunset.JPG");
+  EXPECT_EQ(generation::ImageTarget(run, 1), "file:///home/anna/Photos/Sunset.JPG");
 }
 
 TEST_F(OutputNaming, ASourceThatNoDriveHoldsKeepsItsTextWithSlashes) {
   AddImage("Sunset");
   run.RunInfo[0].Path = "Q:\\a b\\x.jpg";
-  EXPECT_EQ(SourceUrl(run, 1), "file://Q:/a b/x.jpg");
+  EXPECT_EQ(generation::SourceUrl(run, 1), "file://Q:/a b/x.jpg");
 }
 
 }  // namespace

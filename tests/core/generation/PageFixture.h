@@ -57,7 +57,7 @@ class PageTest : public ::testing::Test {
     entry.SourcePath = "C:\\Photos\\" + name + ".JPG";
     entry.ImageDescription = imageDescription;
     entry.ThumbnailDescription = thumbnailDescription;
-    ImageRunInfo info;
+    generation::ImageRunInfo info;
     info.Path = entry.SourcePath;
     info.FileName = name + ".JPG";
     info.FileTime = env::FileTimeOfUnixTime(1'583'020'800, 0);  // 2020-03-01 00:00 UTC
@@ -75,13 +75,13 @@ class PageTest : public ::testing::Test {
   }
 
   /// Computes what a run computes before it builds pages.
-  void Prepare(GenerationMode mode = GenerationMode::Create) {
+  void Prepare(generation::GenerationMode mode = generation::GenerationMode::Create) {
     run.mode = mode;
-    run.ImageUrlPrefix = mode == GenerationMode::Preview ? "images/" : "Images/";
-    run.ThumbUrlPrefix = mode == GenerationMode::Preview ? "thumbs/" : "Thumbs/";
+    run.ImageUrlPrefix = mode == generation::GenerationMode::Preview ? "images/" : "Images/";
+    run.ThumbUrlPrefix = mode == generation::GenerationMode::Preview ? "thumbs/" : "Thumbs/";
     run.ImageCount = static_cast<std::int32_t>(images.Count());
     run.ThumbnailPageCount = vantorium::core::ThumbnailPageCount(project, run.ImageCount);
-    for (const ImageRunInfo& info : run.RunInfo) {
+    for (const generation::ImageRunInfo& info : run.RunInfo) {
       run.MaxImageWidth = std::max(run.MaxImageWidth, info.Width);
       run.MaxImageHeight = std::max(run.MaxImageHeight, info.Height);
       run.MaxThumbWidth = std::max(run.MaxThumbWidth, info.ThumbWidth);
@@ -99,7 +99,7 @@ class PageTest : public ::testing::Test {
   env::PathMap paths{{{'C', "/home/anna"}}};
   env::RegionalFormats formats{"de_DE"};
   env::mFileFunctions files{paths, formats};
-  RunState run{.project = project, .images = images, .files = files, .formats = formats};
+  generation::RunState run{.project = project, .images = images, .files = files, .formats = formats};
 };
 
 }  // namespace vantorium::tests

@@ -14,10 +14,10 @@ class PageLinks : public PageTest {
   }
 
   std::string Anchor(int kind, std::int32_t current, std::int32_t total) const {
-    return BuildLinkAnchor(run, static_cast<core::LinkKind>(kind), current, total);
+    return generation::BuildLinkAnchor(run, static_cast<core::LinkKind>(kind), current, total);
   }
   std::string Graphic(int kind, std::int32_t current, std::int32_t total) const {
-    return BuildLinkGraphic(run, static_cast<core::LinkKind>(kind), current, total);
+    return generation::BuildLinkGraphic(run, static_cast<core::LinkKind>(kind), current, total);
   }
 };
 
@@ -111,7 +111,7 @@ TEST_F(PageLinks, GraphicsOfEachKindHaveTheirNamesAndTheExtensionOfTheirFile) {
     EXPECT_EQ(Graphic(each.kind, 2, 4), tag(each.middle));
     EXPECT_EQ(Graphic(each.kind, 4, 4), tag(each.last));
     EXPECT_EQ(Graphic(each.kind, 1, 1), "");
-    EXPECT_EQ(&LinkOf(project, static_cast<core::LinkKind>(each.kind)), &(project.*each.link));
+    EXPECT_EQ(&generation::LinkOf(project, static_cast<core::LinkKind>(each.kind)), &(project.*each.link));
   }
 }
 
@@ -121,7 +121,7 @@ TEST_F(PageLinks, AnEmptyDisabledGraphicGivesANameWithoutExtension) {
 }
 
 TEST_F(PageLinks, GraphicsLieInTheProjectsFolderInAPreviewToo) {
-  Prepare(GenerationMode::Preview);
+  Prepare(generation::GenerationMode::Preview);
   project.textImageSettingsSubFolder = "Pics\\Big";
   EXPECT_EQ(Graphic(1, 2, 4), R"(<IMG SRC="Pics/Big/_imagelink_previous" BORDER="0" ALIGN="MIDDLE">)");
   project.textImageSettingsSubFolder = "Pics/";
@@ -132,18 +132,18 @@ TEST_F(PageLinks, GraphicsLieInTheProjectsFolderInAPreviewToo) {
 
 TEST_F(PageLinks, AnImagesPageIsItsNumberDividedByThePageSize) {
   SetGrid("5", "5");
-  EXPECT_EQ(ThumbnailPageOfImage(project, 1), 1);
-  EXPECT_EQ(ThumbnailPageOfImage(project, 25), 1);
-  EXPECT_EQ(ThumbnailPageOfImage(project, 26), 2);
-  EXPECT_EQ(ThumbnailPageOfImage(project, 100'000), 4000);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 1), 1);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 25), 1);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 26), 2);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 100'000), 4000);
 }
 
 TEST_F(PageLinks, TheProductOfRowsAndColumnsIsRoundedHalfToEven) {
   SetGrid("2.5", "1");
-  EXPECT_EQ(ThumbnailPageOfImage(project, 3), 2);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 3), 2);
   SetGrid("3.5", "1");
-  EXPECT_EQ(ThumbnailPageOfImage(project, 4), 1);
-  EXPECT_EQ(ThumbnailPageOfImage(project, 5), 2);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 4), 1);
+  EXPECT_EQ(generation::ThumbnailPageOfImage(project, 5), 2);
 }
 
 TEST_F(PageLinks, AGridWithoutCellsIsADivisionByZero) {
@@ -151,7 +151,7 @@ TEST_F(PageLinks, AGridWithoutCellsIsADivisionByZero) {
        std::vector<std::pair<core::Digits, core::Digits>>{{"0", "5"}, {"5", "0"}, {"", "5"}, {"x", "5"}}) {
     SetGrid(rows, columns);
     try {
-      ADD_FAILURE() << rows << " x " << columns << " gave " << ThumbnailPageOfImage(project, 1);
+      ADD_FAILURE() << rows << " x " << columns << " gave " << generation::ThumbnailPageOfImage(project, 1);
     } catch (const env::RuntimeFailure& failure) {
       EXPECT_EQ(failure.Number(), 11);
       EXPECT_EQ(failure.Description(), "Division by zero");

@@ -16,15 +16,15 @@ class SlideShow : public PageTest {
     Prepare();
   }
 
-  std::string After(std::int32_t image) const { return SlideAfter(run, image).value_or("(none)"); }
-  std::string Start() const { return SlideShowStart(run).value_or("(none)"); }
+  std::string After(std::int32_t image) const { return generation::SlideAfter(run, image).value_or("(none)"); }
+  std::string Start() const { return generation::SlideShowStart(run).value_or("(none)"); }
 };
 
 TEST_F(SlideShow, StartsFromThumbnailPagesWithTheFirstImage) {
   EXPECT_EQ(Start(), "img1.htm");
   project.checkImageWrapperUse = 0;
   EXPECT_EQ(Start(), "Images/img1.JPG");
-  Prepare(GenerationMode::Preview);
+  Prepare(generation::GenerationMode::Preview);
   EXPECT_EQ(Start(), "file:///home/anna/Photos/img1.JPG");
   project.checkImageWrapperUse = 1;
   EXPECT_EQ(Start(), "img1.htm");

@@ -21,10 +21,10 @@ class TemplateTags : public PageTest {
   }
 
   std::string Expand(std::string_view text, std::int32_t image = 2, std::int32_t page = 2) const {
-    return ExpandTags(run, text, image, page);
+    return generation::ExpandTags(run, text, image, page);
   }
-  std::string ExpandAll(std::string_view text, std::int32_t image = 2, std::int32_t page = kNoIndex) const {
-    return ExpandAllTags(run, text, image, page);
+  std::string ExpandAll(std::string_view text, std::int32_t image = 2, std::int32_t page = generation::kNoIndex) const {
+    return generation::ExpandAllTags(run, text, image, page);
   }
   std::string Value(const std::string& name, std::int32_t image = 2, std::int32_t page = 2) const {
     return Expand("<VANTORIUM_" + name + ">", image, page);
@@ -172,14 +172,14 @@ TEST_F(TemplateTags, InAGalleryOfOneImageOnlyTheIndexKeepsItsAnchor) {
 }
 
 TEST_F(TemplateTags, TagsWhoseIndexIsMissingStay) {
-  for (const TagRow& row : TagRows()) {
+  for (const generation::TagRow& row : generation::TagRows()) {
     const std::string tag(row.tag);
-    if (row.needs == TagNeeds::Image) {
-      EXPECT_EQ(Expand(tag, kNoIndex, 2), tag);
-    } else if (row.needs == TagNeeds::Page) {
-      EXPECT_EQ(Expand(tag, 2, kNoIndex), tag);
+    if (row.needs == generation::TagNeeds::Image) {
+      EXPECT_EQ(Expand(tag, generation::kNoIndex, 2), tag);
+    } else if (row.needs == generation::TagNeeds::Page) {
+      EXPECT_EQ(Expand(tag, 2, generation::kNoIndex), tag);
     } else {
-      EXPECT_NE(Expand(tag, kNoIndex, kNoIndex), tag);
+      EXPECT_NE(Expand(tag, generation::kNoIndex, generation::kNoIndex), tag);
     }
   }
 }
@@ -189,7 +189,7 @@ TEST_F(TemplateTags, EveryTagWithItsIndexIsReplacedEverywhereInAnyCase) {
        {&core::GalleryProject::ImageNextLink, &core::GalleryProject::ImageIndexLink}) {
     (project.*link).textLinkGraphic = "x.gif";
   }
-  for (const TagRow& row : TagRows()) {
+  for (const generation::TagRow& row : generation::TagRows()) {
     const std::string value = Expand(row.tag);
     EXPECT_NE(value, row.tag);
     const std::string text = "a" + env::AsciiLower(row.tag) + "<" + std::string(row.tag) + ">" +
@@ -257,13 +257,14 @@ TEST_F(TemplateTags, DescriptionTagsGiveTheDescriptionAloneAndWithItsFrame) {
 
 TEST_F(TemplateTags, DescriptionTagsAreOnlyForTheSecondStep) {
   EXPECT_EQ(Expand("<VANTORIUM_IMAGE_DESCRIPTION>"), "<VANTORIUM_IMAGE_DESCRIPTION>");
-  EXPECT_EQ(ExpandDescriptionTags(run, "<VANTORIUM_IMAGE_INDEX>", 2, 2), "<VANTORIUM_IMAGE_INDEX>");
+  EXPECT_EQ(generation::ExpandDescriptionTags(run, "<VANTORIUM_IMAGE_INDEX>", 2, 2), "<VANTORIUM_IMAGE_INDEX>");
 }
 
 TEST_F(TemplateTags, ADescriptionIsExpandedWithTheIndicesOfItsPlace) {
   images.SetImageDescription(2, "no. <VANTORIUM_IMAGE_INDEX> page <VANTORIUM_THUMBPAGE_INDEX>");
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", 2, 2), "no. 2 page 2");
-  EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", 2, kNoIndex), "no. 2 page <VANTORIUM_THUMBPAGE_INDEX>");
+  EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", 2, generation::kNoIndex),
+            "no. 2 page <VANTORIUM_THUMBPAGE_INDEX>");
 }
 
 TEST_F(TemplateTags, ADescriptionThatHoldsItsOwnTagLeavesIt) {
@@ -281,7 +282,7 @@ TEST_F(TemplateTags, ADescriptionThatHoldsALaterDescriptionTagHasItReplaced) {
 }
 
 TEST_F(TemplateTags, WithoutAnImageDescriptionTagsStay) {
-  EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", kNoIndex, 1), "<VANTORIUM_IMAGE_DESCRIPTION>");
+  EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", generation::kNoIndex, 1), "<VANTORIUM_IMAGE_DESCRIPTION>");
 }
 
 TEST_F(TemplateTags, ATextThatWouldGrowBeyondAllBoundsIsOutOfMemory) {
@@ -294,9 +295,9 @@ TEST_F(TemplateTags, ATextThatWouldGrowBeyondAllBoundsIsOutOfMemory) {
   project.ImageFirstLink.textLinkLabel = many("<VANTORIUM_PAGELINK_NEXTIMAGE_TEXT>");
   project.ImageNextLink.textLinkLabel = many("<VANTORIUM_PAGELINK_INDEX_TEXT>");
   EXPECT_THROW(Expand(many("<VANTORIUM_GALLERY_TITLE>")), std::bad_alloc);
-  images.SetImageDescription(2, std::string(kLongestExpandedText / 100, 'x'));
+  images.SetImageDescription(2, std::string(generation::kLongestExpandedText / 100, 'x'));
   EXPECT_THROW(ExpandAll(many("<VANTORIUM_IMAGE_DESCRIPTION>")), std::bad_alloc);
-  project.textGalleryTitle = std::string(kLongestExpandedText / 200, 'x');
+  project.textGalleryTitle = std::string(generation::kLongestExpandedText / 200, 'x');
   EXPECT_EQ(Expand(many("<VANTORIUM_GALLERY_TITLE>")).size(), project.textGalleryTitle.size() * 100);
 }
 

@@ -17,7 +17,7 @@ class ThumbnailCell : public PageTest {
     project.ThumbnailRegularCaption = "C";
   }
 
-  std::string Content() const { return ThumbnailCellContent(run, 1, 1); }
+  std::string Content() const { return generation::ThumbnailCellContent(run, 1, 1); }
 
   void SetDescription(core::Choice placement, core::Choice alignment) {
     project.comboThumbnailDescriptionPlacement = placement;
@@ -36,12 +36,12 @@ TEST_F(ThumbnailCell, IsALinkToTheImage) {
   project.comboImageFrameName = "image_frame";
   project.checkImageWrapperUse = 0;
   EXPECT_EQ(Content(), R"(<A HREF="Images/a.JPG" TARGET="image_frame"><IMG SRC="Thumbs/thumb_a.JPG" BORDER="0" ></A>)");
-  run.mode = GenerationMode::Publish;
+  run.mode = generation::GenerationMode::Publish;
   EXPECT_TRUE(Contains(Content(), R"(SRC="Thumbs/thumb_a.JPG")"));
 }
 
 TEST_F(ThumbnailCell, InAPreviewTheSourceIsScaled) {
-  Prepare(GenerationMode::Preview);
+  Prepare(generation::GenerationMode::Preview);
   const std::string image = R"(<IMG SRC="file:///home/anna/Photos/a.JPG" BORDER="0" WIDTH="61" HEIGHT="46" ></A>)";
   EXPECT_EQ(Content(), R"(<A HREF="a.htm" TARGET="_self">)" + image);
   project.checkImageWrapperUse = 0;

@@ -13,7 +13,7 @@ class ThumbnailPage : public PageTest {
   }
 
   std::string Page(std::int32_t page = 1, std::int32_t firstImage = 1) const {
-    return BuildThumbnailPage(run, page, firstImage);
+    return generation::BuildThumbnailPage(run, page, firstImage);
   }
 };
 
@@ -101,7 +101,8 @@ TEST_F(ThumbnailPage, SaysHowManyImagesAreOnAPage) {
     SetGrid(each.rows, each.columns);
     run.ImageCount = 7;
     run.ThumbnailPageCount = 2;
-    EXPECT_EQ(ImagesOnThumbnailPage(run, each.firstImage), each.images) << each.rows << " x " << each.columns;
+    EXPECT_EQ(generation::ImagesOnThumbnailPage(run, each.firstImage), each.images)
+        << each.rows << " x " << each.columns;
     EXPECT_EQ(CountOf(Page(1, each.firstImage), "<TD ALIGN=CENTER"), static_cast<std::size_t>(each.images))
         << each.rows << " x " << each.columns;
   }
@@ -111,7 +112,7 @@ TEST_F(ThumbnailPage, AGridThatNoPageCanHoldIsAnOverflow) {
   AddImages(1);
   run.ImageCount = 1;
   SetGrid("1e10", "0.000001");
-  EXPECT_THROW((void)ImagesOnThumbnailPage(run, 1), env::RuntimeFailure);
+  EXPECT_THROW((void)generation::ImagesOnThumbnailPage(run, 1), env::RuntimeFailure);
   EXPECT_THROW((void)Page(), env::RuntimeFailure);
 }
 

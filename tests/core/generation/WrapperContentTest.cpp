@@ -17,7 +17,7 @@ class WrapperContentLine : public PageTest {
     project.ImageRegularCaption = "C";
   }
 
-  std::string Content() const { return WrapperContent(run, 1); }
+  std::string Content() const { return generation::WrapperContent(run, 1); }
 
   void SetCaption(core::Choice placement, core::Choice alignment) {
     project.checkCaptionsImagesRegular = 1;
@@ -33,12 +33,12 @@ class WrapperContentLine : public PageTest {
 
 TEST_F(WrapperContentLine, OfAnImageAloneKeepsTheBlanksOfWhatIsEmpty) {
   EXPECT_EQ(Content(), kImage);
-  run.mode = GenerationMode::Publish;
+  run.mode = generation::GenerationMode::Publish;
   EXPECT_EQ(Content(), kImage);
 }
 
 TEST_F(WrapperContentLine, InAPreviewTheSourceIsShown) {
-  Prepare(GenerationMode::Preview);
+  Prepare(generation::GenerationMode::Preview);
   EXPECT_EQ(Content(), R"(<IMG SRC="file:///home/anna/Photos/x.JPG" BORDER="0"  >)");
 }
 

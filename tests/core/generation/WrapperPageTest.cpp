@@ -12,7 +12,7 @@ class WrapperPage : public PageTest {
     project.checkImageWrapperImageKeepSize = 1;
   }
 
-  std::string Page(std::int32_t image = 1) const { return BuildWrapperPage(run, image); }
+  std::string Page(std::int32_t image = 1) const { return generation::BuildWrapperPage(run, image); }
 };
 
 TEST_F(WrapperPage, OfTheOnlyImageIsExpectedLineByLine) {

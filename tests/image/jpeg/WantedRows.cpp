@@ -19,7 +19,7 @@ void KeepWanted(const std::vector<std::uint8_t>& columns, std::vector<std::uint8
 }
 
 template <typename ReadRow>
-std::optional<WantedRows> ReadRows(const WantedPixels& wanted, ReadRow readRow) {
+std::optional<WantedRows> ReadRows(const image::WantedPixels& wanted, ReadRow readRow) {
   WantedRows rows;
   for (std::size_t y = 0; y < wanted.rows.size(); ++y) {
     if (wanted.rows[y] == 0) continue;
@@ -31,7 +31,7 @@ std::optional<WantedRows> ReadRows(const WantedPixels& wanted, ReadRow readRow) 
   return rows;
 }
 
-std::optional<WantedRows> ReadBy(JPEGDecoder& decoder, const WantedPixels& wanted) {
+std::optional<WantedRows> ReadBy(image::JPEGDecoder& decoder, const image::WantedPixels& wanted) {
   if (!decoder.Start()) return {};
   std::size_t next = 0;
   auto rows = ReadRows(wanted, [&](std::size_t y, std::uint8_t* row) {
@@ -47,7 +47,7 @@ std::optional<WantedRows> ReadBy(JPEGDecoder& decoder, const WantedPixels& wante
 struct Header {
   explicit Header(const std::filesystem::path& path) {
     std::uint64_t size = 0;
-    file = OpenRegularFile(path, size);
+    file = image::OpenRegularFile(path, size);
     codec.err = errors.Manager();
     isRead = file != nullptr && errors.Run([this] {
       jpeg_create_decompress(&codec);
@@ -63,16 +63,16 @@ struct Header {
     return ::ftello(file.get()) - static_cast<off_t>(codec.src->bytes_in_buffer);
   }
 
-  JPEGErrors errors;
-  FileHandle file;
+  image::JPEGErrors errors;
+  image::FileHandle file;
   jpeg_decompress_struct codec = {};
   bool isRead = false;
 };
 
 }  // namespace
 
-WantedPixels SomePixels(std::int32_t width, std::int32_t height, unsigned number) {
-  WantedPixels wanted(width, height);
+image::WantedPixels SomePixels(std::int32_t width, std::int32_t height, unsigned number) {
+  image::WantedPixels wanted(width, height);
   std::mt19937 generator(number);
   for (auto* marks : {&wanted.columns, &wanted.rows}) {
     for (auto& mark : *marks) mark = generator() % (number + 1) == 0 ? 1 : 0;
@@ -81,24 +81,24 @@ WantedPixels SomePixels(std::int32_t width, std::int32_t height, unsigned number
   return wanted;
 }
 
-std::optional<WantedRows> ReadByLibrary(const std::filesystem::path& file, const WantedPixels& wanted) {
-  JPEGDecoder decoder;
+std::optional<WantedRows> ReadByLibrary(const std::filesystem::path& file, const image::WantedPixels& wanted) {
+  image::JPEGDecoder decoder;
   if (!decoder.Open(file)) return {};
   return ReadBy(decoder, wanted);
 }
 
-std::optional<WantedRows> ReadAsWanted(const std::filesystem::path& file, const WantedPixels& wanted) {
-  JPEGDecoder decoder;
+std::optional<WantedRows> ReadAsWanted(const std::filesystem::path& file, const image::WantedPixels& wanted) {
+  image::JPEGDecoder decoder;
   if (!decoder.Open(file)) return {};
   decoder.Want(wanted);
   return ReadBy(decoder, wanted);
 }
 
-std::optional<WantedRows> ReadAlone(const std::filesystem::path& file, const WantedPixels& wanted) {
+std::optional<WantedRows> ReadAlone(const std::filesystem::path& file, const image::WantedPixels& wanted) {
   const Header header(file);
   if (!header.isRead) return {};
   const auto decoder =
-      jpeg::SequentialDecoder::For(header.codec, ::fileno(header.file.get()), header.DataPlace(), wanted);
+      image::jpeg::SequentialDecoder::For(header.codec, ::fileno(header.file.get()), header.DataPlace(), wanted);
   if (decoder == nullptr) return {};
   return ReadRows(wanted, [&](std::size_t y, std::uint8_t* row) { return decoder->ReadRow(y, row); });
 }

@@ -17,7 +17,7 @@
 
 namespace vantorium::fakes {
 
-class RecordingMainView : public MainView {
+class RecordingMainView : public ui::MainView {
  public:
   explicit RecordingMainView(Calls& calls) : calls_(calls) {}
 
@@ -25,7 +25,7 @@ class RecordingMainView : public MainView {
   void ShowStatus(const std::string& text) override { calls_.push_back("status " + text); }
   void ShowImageCount(const std::string& text) override { calls_.push_back("images: " + text); }
   void ShowPageCount(const std::string& text) override { calls_.push_back("pages: " + text); }
-  void ShowBrowserMenus(const BrowserMenus& menus) override {
+  void ShowBrowserMenus(const ui::BrowserMenus& menus) override {
     calls_.push_back("menus of " + std::to_string(menus.ViewBrowser.size()));
   }
   void ShowBusyPointer(bool busy) override { calls_.emplace_back(busy ? "busy" : "idle"); }
@@ -44,7 +44,7 @@ class RecordingMainView : public MainView {
   Calls& calls_;
 };
 
-class RecordingHelperWindows : public HelperWindows {
+class RecordingHelperWindows : public ui::HelperWindows {
  public:
   explicit RecordingHelperWindows(Calls& calls) : calls_(calls) {}
 
@@ -61,11 +61,11 @@ class RecordingHelperWindows : public HelperWindows {
     calls_.emplace_back("asked");
     return order;
   }
-  [[nodiscard]] bool ShowThemes(ThemeModel& /*themes*/) override {
+  [[nodiscard]] bool ShowThemes(ui::ThemeModel& /*themes*/) override {
     calls_.emplace_back("themes");
     return takesTheme;
   }
-  void ShowBrowserList(BrowserList& /*list*/) override { calls_.emplace_back("browser list"); }
+  void ShowBrowserList(ui::BrowserList& /*list*/) override { calls_.emplace_back("browser list"); }
   [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override {
     calls_.emplace_back("progress");
     return std::make_unique<RecordingProgress>(progress, calls_);
@@ -124,23 +124,23 @@ struct MainModelDesk {
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;
   env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
-  MainModel model{{paths,
-                   formats,
-                   files,
-                   boxes,
-                   loop,
-                   shell,
-                   clock,
-                   screen,
-                   texts,
-                   dialogs,
-                   fileBrowser,
-                   folderBrowser,
-                   folder.Path() / "program",
-                   bundled,
-                   {3, 0, 1},
-                   1,
-                   2121}};
+  ui::MainModel model{{paths,
+                       formats,
+                       files,
+                       boxes,
+                       loop,
+                       shell,
+                       clock,
+                       screen,
+                       texts,
+                       dialogs,
+                       fileBrowser,
+                       folderBrowser,
+                       folder.Path() / "program",
+                       bundled,
+                       {3, 0, 1},
+                       1,
+                       2121}};
   RecordingMainView view{calls};
   RecordingHelperWindows windows{calls};
 };

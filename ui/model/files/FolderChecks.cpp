@@ -47,7 +47,7 @@ bool FolderChecks::IsChecked(const std::filesystem::path& folder) const {
   for (const std::filesystem::path& part : folder.relative_path()) {
     if (node != nullptr) inherited = node->below.value_or(inherited);
     reached /= part;
-    inherited = inherited && !core::IsHidden(part) && !folders_.IsLink(reached);
+    inherited = inherited && !IsHidden(part) && !folders_.IsLink(reached);
     node = Find(node, part.string());
   }
   return node != nullptr ? node->own.value_or(inherited) : inherited;

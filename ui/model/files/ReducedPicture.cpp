@@ -20,7 +20,7 @@ bool LoadReducedPicture(image::cDIBSection& dib, const std::filesystem::path& fi
   image::JPEGDecoder decoder;
   decoder.StopWith(stop);
   if (!decoder.Open(file) || !decoder.IsPlausible()) return false;
-  const Turn turn(image::ReadPhotographNotes(file, {.upright = corrections.upright}).orientation);
+  const image::Turn turn(image::ReadPhotographNotes(file, {.upright = corrections.upright}).orientation);
   decoder.ReduceBy(DivisorFor({.width = decoder.width(), .height = decoder.height()}, turn.SizeOf(box)));
   if (!dib.Create(decoder.OutputWidth(), decoder.OutputHeight()) || !decoder.Start()) return false;
   for (std::int32_t row = dib.height() - 1; row >= 0; --row) {
