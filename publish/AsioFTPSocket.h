@@ -24,7 +24,12 @@ class AsioFTPSocket : public FTPSocket {
   [[nodiscard]] std::string LocalAddress() const override;
   [[nodiscard]] std::string PeerAddress() const override;
   [[nodiscard]] std::string PortArgument() const override;
+  [[nodiscard]] std::string ExtendedPortArgument() const override;
   void Accept(const FTPSocket& control) override;
+  [[nodiscard]] TlsHandshake StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed) override;
+  [[nodiscard]] std::shared_ptr<TlsTicket> Ticket() const override;
+  void BeginFile() override;
+  [[nodiscard]] bool Finish() override;
   [[nodiscard]] std::string Read(std::size_t most) override;
   [[nodiscard]] bool HasNews() const override;
   [[nodiscard]] std::ptrdiff_t Write(std::string_view text) override;

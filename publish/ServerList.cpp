@@ -98,6 +98,7 @@ void ServerList::ReadProfile(const ServerListValues& values, std::int32_t number
   const std::string indexText = values.Text("IndexFile" + index);
   profile.TimeOut = values.Integer("TimeOut" + index);
   profile.JumpTo = values.Text("JumpTo" + index);
+  values.ReadOptions(index, profile);
   AddServerProfile(std::move(profile), indexText);
 }
 
@@ -150,6 +151,16 @@ void ServerList::DeleteServer() {
   } else {
     Select(std::min(*selected_, profiles_.size() - 1));
   }
+}
+
+void ServerList::RememberCertificate(const std::string& host, const std::string& fingerprint) {
+  bool isKnown = false;
+  for (ServerProfile& profile : profiles_) {
+    if (!profile.Encrypted || !env::EqualsIgnoringCase(profile.ServerURL, host)) continue;
+    profile.Fingerprint = fingerprint;
+    isKnown = true;
+  }
+  if (isKnown) std::ignore = SaveServerList();
 }
 
 void ServerList::Select(std::size_t index) {

@@ -39,6 +39,9 @@ class ServerList {
   [[nodiscard]] bool AddNewServer(const std::string& name);
   /// Removes the selected profile, if any, and selects the one that takes its place, else the last.
   void DeleteServer();
+  /// Keeps the fingerprint of an accepted certificate in each encrypted profile of that host, and writes the file if
+  /// there is one.
+  void RememberCertificate(const std::string& host, const std::string& fingerprint);
   /// `index` counts from 0. Throws RuntimeFailure SubscriptOutOfRange if it is outside the list.
   void Select(std::size_t index);
 

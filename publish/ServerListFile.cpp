@@ -6,6 +6,7 @@
 #include "env/Numbers.h"
 #include "env/RuntimeFailure.h"
 #include "env/mINIFileFunctions.h"
+#include "publish/ServerCertificate.h"
 
 #include <algorithm>
 
@@ -13,16 +14,27 @@ namespace vantorium::publish {
 namespace {
 
 constexpr std::string_view kSection = "PUBLISH";
+constexpr const char* kOn = "1";
 
 std::string ValueLine(const std::string& key, const std::string& value) {
   return key + "=\"" + value + "\"\r\n";
+}
+
+/// Older versions of the program never see these lines unless somebody uses them.
+std::string OptionLines(const ServerProfile& profile, const std::string& index) {
+  std::string lines;
+  if (profile.Passive) lines += ValueLine("Passive" + index, kOn);
+  if (profile.Encrypted) lines += ValueLine("Encrypted" + index, kOn);
+  if (!profile.Fingerprint.empty()) lines += ValueLine("Fingerprint" + index, profile.Fingerprint);
+  return lines;
 }
 
 std::string ProfileLines(const ServerProfile& profile, const std::string& index) {
   return ValueLine("ServerName" + index, profile.ServerName) + ValueLine("ServerURL" + index, profile.ServerURL) +
          ValueLine("UserName" + index, profile.UserName) +
          ValueLine("IndexFile" + index, profile.IndexPath + "/" + profile.IndexFile) +
-         ValueLine("TimeOut" + index, std::to_string(profile.TimeOut)) + ValueLine("JumpTo" + index, profile.JumpTo);
+         ValueLine("TimeOut" + index, std::to_string(profile.TimeOut)) + ValueLine("JumpTo" + index, profile.JumpTo) +
+         OptionLines(profile, index);
 }
 
 }  // namespace
@@ -58,6 +70,17 @@ void ServerListValues::Keep(std::string_view line) {
   values_.try_emplace(env::AsciiUpper(line.substr(0, equals)), line.substr(equals + 1));
 }
 
+std::string ServerListValues::TextOrNothing(std::string_view key) const {
+  const auto found = values_.find(env::AsciiUpper(key));
+  return found == values_.end() ? std::string() : std::string(env::WithoutMarks(found->second));
+}
+
+void ServerListValues::ReadOptions(const std::string& number, ServerProfile& profile) const {
+  profile.Passive = TextOrNothing("Passive" + number) == kOn;
+  profile.Encrypted = TextOrNothing("Encrypted" + number) == kOn;
+  profile.Fingerprint = NormalizedFingerprint(TextOrNothing("Fingerprint" + number)).value_or("");
+}
+
 std::string ServerListValues::Text(std::string_view key) const {
   const auto found = values_.find(env::AsciiUpper(key));
   if (found == values_.end()) throw env::RuntimeFailure(env::FailureKind::Preferences);
@@ -70,8 +93,8 @@ std::int32_t ServerListValues::Integer(std::string_view key) const {
 
 bool FitsServerListFile(const ServerProfile& profile) {
   constexpr std::string_view kBreaks("\r\n\0", 3);
-  const auto texts = {&profile.ServerName, &profile.ServerURL, &profile.UserName,
-                      &profile.IndexPath,  &profile.IndexFile, &profile.JumpTo};
+  const auto texts = {&profile.ServerName, &profile.ServerURL, &profile.UserName,   &profile.IndexPath,
+                      &profile.IndexFile,  &profile.JumpTo,    &profile.Fingerprint};
   return std::ranges::none_of(
       texts, [&](const std::string* text) { return text->find_first_of(kBreaks) != std::string::npos; });
 }

@@ -18,6 +18,7 @@ namespace vantorium::publish {
 //   count   = ServerCount="n"                             n profiles follow
 //   preferred = PreferredServer="k"                       the selected profile, counted from 1; 0 for none
 //   profile = ServerNamei= ServerURLi= UserNamei= IndexFilei= TimeOuti= JumpToi=    i from 1 to n, a line each
+//             [Passivei="1"] [Encryptedi="1"] [Fingerprinti=]                       only where they are on
 //
 // Values are in double quotation marks, IndexFile as path, "/", file. Nothing is escaped.
 
@@ -35,10 +36,13 @@ class ServerListValues {
 
   /// Throws Preferences if there is no such key.
   [[nodiscard]] std::string Text(std::string_view key) const;
+  /// Sets Passive, Encrypted and Fingerprint of the profile with that number. What is missing or makes no sense is off.
+  void ReadOptions(const std::string& number, ServerProfile& profile) const;
   /// Throws Preferences if there is no such key; TypeMismatch or Overflow if the value is not a 32-bit number.
   [[nodiscard]] std::int32_t Integer(std::string_view key) const;
 
  private:
+  [[nodiscard]] std::string TextOrNothing(std::string_view key) const;
   void Index();
   void Keep(std::string_view line);
 

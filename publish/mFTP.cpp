@@ -14,6 +14,9 @@ namespace {
 constexpr std::uint16_t kFTPPort = 21;
 constexpr std::size_t kReplyPiece = 512;
 constexpr const char* kUnknownSize = "0KB";
+/// What is read of a reply after a cancel. In clear a reply comes in one piece, with TLS each line may come on its own,
+/// and a server that still has something to say might not take the next command.
+constexpr int kMostLinesAfterCancel = 20;
 
 std::string WithoutBlanksAround(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
@@ -53,13 +56,17 @@ bool mFTP::FTPConnect(std::string_view host, std::uint16_t port) {
   FTPSocketSettings settings;
   settings.host = WithoutBlanksAround(host);
   settings.port = port == 0 ? kFTPPort : port;
+  settings.anyFamily = Options.passive || Options.encrypted;
   settings.timeLimit = limits_.control;
+  encryptionProblem_.clear();
+  refusesEpsv_ = false;
+  host_ = settings.host;
   if (settings.host.empty()) return false;
   sockCmd_->Configure(settings);
   if (sockCmd_->Connect() != 0) return false;
 
   std::string greeting;
-  if (FTPReadReply(greeting, Logging::Logged) == 220) return true;
+  if (FTPReadReply(greeting, Logging::Logged) == 220 && (!Options.encrypted || Encrypt(host_))) return true;
   sockCmd_->Close();
   return false;
 }
@@ -157,6 +164,7 @@ std::int16_t mFTP::FTPExecute(const std::string& command, std::string& replyText
 
 std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
   const bool wasCancelled = cancel_.CancelRequested();
+  int piecesLeft = Options.encrypted ? kMostLinesAfterCancel : 1;
   FTPReply reply;
   do {
     const std::string piece = sockCmd_->Read(kReplyPiece);
@@ -169,7 +177,8 @@ std::int16_t mFTP::FTPReadReply(std::string& replyText, Logging logging) {
       return reply.Code();
     }
     loop_.Turn();
-  } while (!wasCancelled);
+    --piecesLeft;
+  } while (!wasCancelled || piecesLeft > 0);
   // After a cancel the connection stays open, so that even a slow server gets the command that cleans up.
   if (!wasCancelled) sockCmd_->Close();
   return 0;

@@ -4,6 +4,8 @@
 #include "env/MessageBoxPort.h"
 #include "env/PathMap.h"
 #include "publish/CancelState.h"
+#include "publish/CertificatePrompt.h"
+#include "publish/FTPOptions.h"
 #include "publish/FTPSocket.h"
 #include "publish/FTPUploads.h"
 #include "publish/ProgressWindow.h"
@@ -11,6 +13,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,10 +26,10 @@ struct FTPTimeLimits {
   std::chrono::milliseconds afterCancel{30};
 };
 
-/// A small, strictly synchronous FTP client (RFC 959) that only stores files, in active mode. A session is FTPConnect,
-/// FTPLogin, then any of the others, then Disconnect; there is no QUIT, and nothing is retried. Remote paths are sent
-/// to the server as given, relative to the directory of the last successful FTPChangeDirectory; paths and replies are
-/// bytes without an encoding.
+/// A small, strictly synchronous FTP client (RFC 959) that only stores files; by Options in passive mode (RFC 2428) and
+/// encrypted (RFC 4217). A session is FTPConnect, FTPLogin, then any of the others, then Disconnect; there is no QUIT,
+/// and nothing is retried. Remote paths are sent to the server as given, relative to the directory of the last
+/// successful FTPChangeDirectory; paths and replies are bytes without an encoding.
 ///
 /// Every operation runs to its end and meanwhile gives the event loop turns, inside which FTPCancelData may be called.
 /// It reports through its result, through text in the log of FTPProgress, which shows replies unchanged and never
@@ -39,12 +42,20 @@ class mFTP : public FTPUploads {
   /// The window of the current run: set before the run's first call, and reset to null when the window is destroyed.
   ProgressWindow* FTPProgress = nullptr;
 
+  /// How the next session talks to its server: set before FTPConnect.
+  FTPOptions Options;
+  /// Asked about a certificate that nothing vouches for; null: such a certificate is refused.
+  CertificatePrompt* Certificates = nullptr;
+
   [[nodiscard]] bool IsConnected() const { return sockCmd_->IsConnected(); }
   /// Closes the control connection and any data connection.
   void Disconnect();
 
-  /// Returns true if the server greets with 220. Port 0 means 21.
+  /// Returns true if the server greets with 220 and, if the session is to be encrypted, both connections will be: the
+  /// user name and the password are never sent in clear instead. Port 0 means 21.
   [[nodiscard]] bool FTPConnect(std::string_view host, std::uint16_t port = 21);
+  /// Why the last FTPConnect did not encrypt the session, for the user; empty if it did not come to that.
+  [[nodiscard]] const std::string& EncryptionProblem() const { return encryptionProblem_; }
   /// Returns true on a final 230. The password is sent only if the server answers 331 to the user name.
   [[nodiscard]] bool FTPLogin(std::string_view user, std::string_view password);
 
@@ -64,8 +75,9 @@ class mFTP : public FTPUploads {
   [[nodiscard]] std::string FTPGetFileSize(const std::string& path);
 
   /// Sends a local file, given as path text. Returns true if all of it was sent, whatever the server then replies, or
-  /// if the file already exists and `overwrite` is false. Throws RuntimeFailure DivisionByZero for an empty file, after
-  /// the server has begun to store it and with the data connection left open.
+  /// if the file already exists and `overwrite` is false. An encrypted transfer must also end in order on both sides
+  /// and be confirmed by the server. Throws RuntimeFailure DivisionByZero for an empty file, after the server has begun
+  /// to store it and with the data connection left open.
   [[nodiscard]] bool FTPStoreFile(const std::string& localPath, const std::string& remotePath, bool overwrite);
   /// Like FTPStoreFile, but the remote path may contain backslashes, and the remote file is deleted if the result is
   /// false.
@@ -87,9 +99,21 @@ class mFTP : public FTPUploads {
   [[nodiscard]] bool DirectoryCommand(const std::string& command);
   [[nodiscard]] bool LeaveDirectories(int depth);
 
-  [[nodiscard]] bool FTPOpenDataPort();
+  // The control connection, in mFTPEncryption.cpp.
+  [[nodiscard]] bool Encrypt(const std::string& host);
+  [[nodiscard]] bool Trust(const std::string& host, const ServerCertificate& certificate);
+  bool RefuseEncryption(const std::string& problem);
+
+  // The data connection, in mFTPData.cpp.
   [[nodiscard]] bool OpenDataConnection(const std::string& remotePath);
+  [[nodiscard]] bool FTPOpenDataPort();
+  [[nodiscard]] bool OpenPassively();
+  [[nodiscard]] std::optional<std::uint16_t> AskForPort();
+  [[nodiscard]] bool Opens(std::int16_t code) const;
   [[nodiscard]] bool AcceptData();
+  [[nodiscard]] bool EncryptData();
+  [[nodiscard]] bool EndData(bool sent);
+
   [[nodiscard]] bool SendFile(const std::string& localPath, std::int32_t length);
   /// Throws as FTPStoreFile.
   [[nodiscard]] bool SendBlocks(class LocalFile& file, std::int32_t length);
@@ -105,6 +129,10 @@ class mFTP : public FTPUploads {
   env::EventLoop& loop_;
   const CancelState& cancel_;
   FTPTimeLimits limits_;
+  std::string host_;               ///< of the session
+  std::string fingerprint_;        ///< of the session's certificate
+  std::string encryptionProblem_;  //
+  bool refusesEpsv_ = false;       ///< the session's server
 };
 
 }  // namespace vantorium::publish

@@ -1,4 +1,4 @@
-// Storing files: the data connection and the transfer.
+// Storing files.
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 #include "publish/FTPPercentage.h"
@@ -38,35 +38,6 @@ bool mFTP::FTPStoreFile(const std::string& localPath, const std::string& remoteP
   return OpenDataConnection(remotePath) && SendFile(localPath, length);
 }
 
-bool mFTP::FTPOpenDataPort() {
-  FTPSocketSettings settings;
-  settings.portAddress = sockCmd_->LocalAddress();
-  settings.acceptFrom = sockCmd_->PeerAddress();
-  sockData_->Configure(settings);
-  if (sockData_->Listen() == 0 && FTPSendCommand("PORT " + sockData_->PortArgument()) == 200 &&
-      FTPSendCommand("TYPE I") == 200) {
-    return true;
-  }
-  sockData_->Close();
-  return false;
-}
-
-bool mFTP::OpenDataConnection(const std::string& remotePath) {
-  if (!FTPOpenDataPort()) return false;
-  if (FTPSendCommand("STOR " + remotePath) == 150 && AcceptData()) return true;
-  sockData_->Close();
-  return false;
-}
-
-bool mFTP::AcceptData() {
-  try {
-    sockData_->Accept(*sockCmd_);
-    return true;
-  } catch (const env::RuntimeFailure&) {
-    return false;
-  }
-}
-
 bool mFTP::SendFile(const std::string& localPath, std::int32_t length) {
   std::optional<LocalFile> file;
   try {
@@ -79,16 +50,7 @@ bool mFTP::SendFile(const std::string& localPath, std::int32_t length) {
   const bool sent = SendBlocks(*file, length);
   ShowPercentage(100);
   file.reset();
-  // The end of the connection means the end of the file, so an incomplete transfer must not end like a complete one.
-  if (sent) {
-    sockData_->Close();
-  } else {
-    sockData_->Reset();
-  }
-  // Once the bytes are sent, the result is fixed, whatever the server replies.
-  std::string closingReply;
-  FTPReadReply(closingReply, Logging::Logged);
-  return sent;
+  return EndData(sent);
 }
 
 bool mFTP::SendBlocks(LocalFile& file, std::int32_t length) {

@@ -215,6 +215,7 @@ bool BatchProgram::SetServer(generation::RunOrder& order) {
   order.UserName = options_.user;
   order.Password = *password;
   order.BaseDirectory = options_.baseDirectory;
+  order.ServerOptions = options_.transfer;
   return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "env/CivilTime.h"
+#include "publish/FTPOptions.h"
 
 #include <cstdint>
 #include <optional>
@@ -45,6 +46,7 @@ struct BatchOptions {
   std::string passwordFile;  ///< "-" is standard input
   std::string remote;        ///< FOLDER/INDEX-FILE for publish, FOLDER for upload
   std::string baseDirectory;
+  publish::FTPOptions transfer;  ///< how to talk to the server
 };
 
 }  // namespace vantorium::batch

@@ -1,6 +1,7 @@
 #include "app/batch/CommandLine.h"
 
 #include "app/batch/Terminal.h"
+#include "publish/ServerCertificate.h"
 
 #include <chrono>
 #include <sstream>
@@ -62,6 +63,23 @@ void AddRunSwitches(CLI::App& command, BatchOptions& options) {
   command.add_flag("--keep-existing", options.keepExisting, "Keep images and thumbnails that exist");
 }
 
+/// The options say how to talk to a server.
+void AddTransfer(CLI::App& command, publish::FTPOptions& transfer) {
+  command.add_flag("--passive", transfer.passive, "Open the data connections from here");
+  CLI::Option* tls = command.add_flag("--tls", transfer.encrypted, "Encrypt both connections");
+  command
+      .add_option_function<std::string>(
+          "--tls-fingerprint",
+          [&transfer](const std::string& text) {
+            const auto fingerprint = publish::NormalizedFingerprint(text);
+            if (!fingerprint) throw CLI::ValidationError("--tls-fingerprint", "no SHA-256 fingerprint (64 hex digits)");
+            transfer.fingerprint = *fingerprint;
+          },
+          "Accept the server's certificate only if it has this fingerprint")
+      ->type_name("SHA256")
+      ->needs(tls);
+}
+
 void AddServer(CLI::App& command, BatchOptions& options, const char* remote) {
   command.add_option("--server", options.server, "Host of the FTP server")->type_name("HOST")->required();
   command.add_option("--user", options.user, "Name to log in with")->type_name("NAME")->required();
@@ -75,6 +93,7 @@ void AddServer(CLI::App& command, BatchOptions& options, const char* remote) {
   command.add_option("--port", options.port, "Port of the server; 21 unless given")
       ->type_name("N")
       ->check(CLI::Range(1, 65535));
+  AddTransfer(command, options.transfer);
 }
 
 CLI::App& AddCommand(CLI::App& app, BatchOptions& options, BatchCommand command, const char* name, const char* about) {

@@ -53,11 +53,11 @@ bool GalleryCreator::Prepare(RunOrder& order) {
       preferences_.GalleryIndexFileName = order.IndexFileName;
       return !RefuseEmptyList("You cannot create a Gallery without Images.");
     case GenerationMode::Publish:
-      CloseOldConnection();
+      PrepareConnection(order.ServerOptions);
       UseTempFolder(order, order.RemoteIndexFileName);
       return !RefuseEmptyList("You cannot upload a Gallery without Images.");
     case GenerationMode::Upload:
-      CloseOldConnection();
+      PrepareConnection(order.ServerOptions);
       return true;
   }
   return false;
@@ -69,8 +69,10 @@ void GalleryCreator::UseTempFolder(RunOrder& order, const std::string& indexFile
   order.IndexFileName = indexFileName;
 }
 
-void GalleryCreator::CloseOldConnection() {
-  if (environment_.ftp != nullptr && environment_.ftp->IsConnected()) environment_.ftp->Disconnect();
+void GalleryCreator::PrepareConnection(const publish::FTPOptions& options) {
+  if (environment_.ftp == nullptr) return;
+  if (environment_.ftp->IsConnected()) environment_.ftp->Disconnect();
+  environment_.ftp->Options = options;
 }
 
 bool GalleryCreator::RefuseEmptyList(const char* text) {

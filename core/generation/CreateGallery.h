@@ -32,7 +32,7 @@ class GalleryCreator {
   /// Completes `order`. Returns false, after a message box, if there is nothing to make.
   [[nodiscard]] bool Prepare(RunOrder& order);
   void UseTempFolder(RunOrder& order, const std::string& indexFileName);
-  void CloseOldConnection();
+  void PrepareConnection(const publish::FTPOptions& options);
   void MakeTempFolder();
   [[nodiscard]] std::filesystem::path NativeTempFolder() const;
   /// Returns true, after a message box with the reason, if the run may not use the temporary folder.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/generation/GenerationMode.h"
+#include "publish/FTPOptions.h"
 
 #include <cstdint>
 #include <string>
@@ -27,7 +28,8 @@ struct RunOrder {
   std::uint16_t Port = 21;
   std::string UserName{};
   std::string Password{};
-  std::string BaseDirectory{};  ///< directory to change to after login; empty for none
+  std::string BaseDirectory{};          ///< directory to change to after login; empty for none
+  publish::FTPOptions ServerOptions{};  ///< how to talk to the server
 };
 
 /// Sets folder and name of a local gallery from the path text of its index file.

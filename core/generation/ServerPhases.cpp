@@ -7,6 +7,11 @@ namespace {
 
 const char kFtpError[] = "FTP Error";
 
+std::string ConnectFailure(const publish::mFTP& ftp) {
+  if (!ftp.EncryptionProblem().empty()) return ftp.EncryptionProblem();
+  return "Cannot connect to Server.  Please check your Internet Connection and Server URL.";
+}
+
 /// Returns the result of a server operation that worked or failed. A cancel takes precedence over both.
 PhaseResult After(const RunContext& context, bool worked, const std::string& text) {
   if (context.environment.cancel.CancelRequested()) return RunEnd::Cancelled;
@@ -26,10 +31,8 @@ PhaseResult OpenServerSession(const RunContext& context) {
   const RunOrder& order = context.order;
   publish::mFTP& ftp = *context.environment.ftp;
   context.progress.SetText2("Connecting...");
-  if (auto end = After(context, ftp.FTPConnect(order.ServerAddress, order.Port),
-                       "Cannot connect to Server.  Please check your Internet Connection and Server URL.")) {
-    return end;
-  }
+  const bool connected = ftp.FTPConnect(order.ServerAddress, order.Port);
+  if (auto end = After(context, connected, ConnectFailure(ftp))) return end;
   context.progress.SetText2("Logging in...");
   if (auto end = AfterClosing(context, ftp.FTPLogin(order.UserName, order.Password), "Invalid User ID or Password.")) {
     return end;

@@ -49,10 +49,11 @@ TEST(CommandLine, HelpOfACommandNamesItsSwitches) {
       {"preview", {"PROJECT.gpj", "--open"}},
       {"publish",
        {"PROJECT.gpj", "FOLDER/INDEX-FILE", "--server", "--user", "--password-file", "--remote", "--base-directory",
-        "--port", "--no-images", "--no-thumbnails", "--no-html", "--keep-existing"}},
-      {"upload",
-       {"FOLDER", "--server", "--user", "--password-file", "--remote", "--base-directory", "--port",
+        "--port", "--passive", "--tls", "--tls-fingerprint", "--no-images", "--no-thumbnails", "--no-html",
         "--keep-existing"}},
+      {"upload",
+       {"FOLDER", "--server", "--user", "--password-file", "--remote", "--base-directory", "--port", "--passive",
+        "--tls", "--tls-fingerprint", "--keep-existing"}},
   };
   for (const auto& [command, words] : commands) {
     const ProcessResult result = Workplace().Run({command, "--help"});
@@ -165,6 +166,19 @@ TEST(CommandLine, PortIsTheNumberOfAPort) {
     arguments.insert(arguments.end(), {"--port", port});
     EXPECT_TRUE(IsRefused(arguments, "--port"));
   }
+}
+
+TEST(CommandLine, AFingerprintIsThatOfAnEncryptedServer) {
+  const std::string good(64, 'a');
+  for (const std::string& fingerprint :
+       {std::string(), std::string("sha256"), good + "0", good.substr(1), " " + good}) {
+    Arguments arguments = Without("", "upload");
+    arguments.insert(arguments.end(), {"--tls", "--tls-fingerprint", fingerprint});
+    EXPECT_TRUE(IsRefused(arguments, "--tls-fingerprint"));
+  }
+  Arguments inClear = Without("", "publish");
+  inClear.insert(inClear.end(), {"--tls-fingerprint", good});
+  EXPECT_TRUE(IsRefused(inClear, "--tls"));
 }
 
 TEST(CommandLine, TheRemotePathOfAGalleryNamesItsIndexFile) {

@@ -8,7 +8,10 @@ namespace vantorium::batch {
 /// A workplace and a real server on loopback. The file "password" holds the server's password.
 class ServerPlace : public testing::Test {
  protected:
-  explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd) : server(kind) {
+  /// With a certificate the server demands TLS.
+  explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd,
+                       std::optional<fakes::TestCertificate> certificate = std::nullopt)
+      : server(kind, std::move(certificate)) {
     place.Write("password", server.Password() + "\n");
   }
 

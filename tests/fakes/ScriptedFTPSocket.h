@@ -36,12 +36,25 @@ class ScriptedFTPSocket : public publish::FTPSocket {
     Note("listen");
     return listenResult;
   }
-  [[nodiscard]] std::string LocalAddress() const override { return "10.1.2.3"; }
-  [[nodiscard]] std::string PeerAddress() const override { return "10.9.8.7"; }
+  [[nodiscard]] std::string LocalAddress() const override { return localAddress; }
+  [[nodiscard]] std::string PeerAddress() const override { return peerAddress; }
   [[nodiscard]] std::string PortArgument() const override { return settings.portAddress + ":port"; }
+  [[nodiscard]] std::string ExtendedPortArgument() const override { return "|" + settings.portAddress + "|port|"; }
   void Accept(const publish::FTPSocket& /*control*/) override {
     Note("accept");
     if (acceptFails) throw env::RuntimeFailure(env::FailureKind::FileAccess);
+  }
+  [[nodiscard]] publish::TlsHandshake StartTls(const std::string& host,
+                                               std::shared_ptr<TlsTicket> /*resumed*/) override {
+    Note("tls " + host);
+    return handshake;
+  }
+  [[nodiscard]] std::shared_ptr<TlsTicket> Ticket() const override { return nullptr; }
+  void BeginFile() override {}
+  [[nodiscard]] bool Finish() override {
+    Note("finish");
+    isConnected = false;
+    return finishes;
   }
   [[nodiscard]] std::string Read(std::size_t most) override {
     if (reads.empty()) return {};
@@ -74,6 +87,10 @@ class ScriptedFTPSocket : public publish::FTPSocket {
   int connectResult = 0;
   int listenResult = 0;
   bool acceptFails = false;
+  bool finishes = true;
+  std::string localAddress = "10.1.2.3";
+  std::string peerAddress = "10.9.8.7";
+  publish::TlsHandshake handshake;
   std::deque<std::string> reads;            ///< what Read returns, in order; then the end of the stream
   std::deque<std::ptrdiff_t> writeResults;  ///< what Write returns, in order; then the length
   std::function<std::size_t(std::size_t)> onWriteBytes;

@@ -1,13 +1,14 @@
 #include "tests/fakes/ScriptedFtpServer.h"
 
+#include "tests/fakes/SocketName.h"
+
 #include <algorithm>
-#include <array>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <stdexcept>
 #include <tuple>
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
@@ -18,45 +19,32 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{20};
 
-sockaddr_in Loopback(std::uint16_t port, const char* address = "127.0.0.1") {
-  sockaddr_in name = {};
-  name.sin_family = AF_INET;
-  name.sin_port = htons(port);
-  ::inet_pton(AF_INET, address, &name.sin_addr);
-  return name;
-}
-
-const sockaddr* Plain(const sockaddr_in& name) {
-  return reinterpret_cast<const sockaddr*>(&name);
-}
-
-int NewListener() {
-  const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  const sockaddr_in name = Loopback(0);
-  if (::bind(listener, Plain(name), sizeof name) != 0 || ::listen(listener, 8) != 0) {
+int NewListener(const std::string& address) {
+  SocketName name(address, 0);
+  const int listener = name.NewSocket();
+  if (::bind(listener, name.Plain(), name.size) != 0 || ::listen(listener, 8) != 0) {
     throw std::runtime_error("no server could be made on loopback");
   }
   return listener;
 }
 
 std::uint16_t PortOf(int listener) {
-  sockaddr_in name = {};
-  socklen_t size = sizeof name;
-  ::getsockname(listener, reinterpret_cast<sockaddr*>(&name), &size);
-  return ntohs(name.sin_port);
+  SocketName name("::", 0);
+  ::getsockname(listener, name.Plain(), &name.size);
+  return ntohs(reinterpret_cast<sockaddr_in&>(name.bytes).sin_port);  // in the same place for both families
 }
 
-void Send(int descriptor, std::string_view text) {
-  while (!text.empty()) {
-    const auto count = ::send(descriptor, text.data(), text.size(), MSG_NOSIGNAL);
-    if (count <= 0) return;
-    text.remove_prefix(static_cast<std::size_t>(count));
-  }
+/// The last two numbers of an address in RFC 959.
+std::string PortNumbers(unsigned port) {
+  return std::to_string(port / 256) + "," + std::to_string(port % 256);
 }
 
 }  // namespace
 
-ScriptedFtpServer::ScriptedFtpServer(Script script) : script_(std::move(script)), listener_(NewListener()) {
+ScriptedFtpServer::ScriptedFtpServer(Script script)
+    : script_(std::move(script)),
+      tls_(script_.certificate ? std::make_unique<TlsServer>(*script_.certificate) : nullptr),
+      listener_(NewListener(script_.address)) {
   port_ = PortOf(listener_.Get());
   thread_ = std::thread([this] { Serve(); });
 }
@@ -67,6 +55,10 @@ ScriptedFtpServer::~ScriptedFtpServer() {
 }
 
 void ScriptedFtpServer::Serve() {
+  sigset_t writesToNobody;
+  sigemptyset(&writesToNobody);
+  sigaddset(&writesToNobody, SIGPIPE);
+  ::pthread_sigmask(SIG_BLOCK, &writesToNobody, nullptr);
   while (WaitToRead(listener_.Get())) {
     Session(*this, ::accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC)).Run();
   }
@@ -114,7 +106,8 @@ bool ScriptedFtpServer::WaitToHear(std::string_view command) const {
   return false;
 }
 
-ScriptedFtpServer::Session::Session(ScriptedFtpServer& server, int control) : server_(server), control_(control) {
+ScriptedFtpServer::Session::Session(ScriptedFtpServer& server, int control)
+    : server_(server), control_(std::make_unique<ServerChannel>(control)) {
   const int on = 1;
   ::setsockopt(control, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
 }
@@ -141,14 +134,19 @@ void ScriptedFtpServer::Session::Run() {
 
 void ScriptedFtpServer::Session::Answer(const std::string& verb, const std::string& argument) {
   static const std::map<std::string, std::string> kReplies = {
-      {"USER", "331 Password"}, {"PASS", "230 In"}, {"CWD", "250 There"},  {"MKD", "257 Made"},
-      {"TYPE", "200 Binary"},   {"PORT", "200 Ok"}, {"RNTO", "250 Moved"},
+      {"USER", "331 Password"}, {"PASS", "230 In"},      {"CWD", "250 There"},  {"MKD", "257 Made"},
+      {"TYPE", "200 Binary"},   {"PORT", "200 Ok"},      {"RNTO", "250 Moved"}, {"EPRT", "200 Ok"},
+      {"PBSZ", "200 PBSZ=0"},   {"PROT", "200 Private"},
   };
   const auto files = server_.Files();
   const auto file = files.find(argument);
-  if (verb == "PORT") ListenTo(argument);
+  if (verb == "PORT" || verb == "EPRT") ListenTo(argument);
   if (verb == "STOR") {
     Store(argument);
+  } else if (verb == "EPSV" || verb == "PASV") {
+    OfferPort(verb);
+  } else if (verb == "AUTH" && server_.tls_) {
+    BeginEncryption();
   } else if (verb == "DELE") {
     Erase(argument);
   } else if (verb == "RNFR") {
@@ -163,13 +161,24 @@ void ScriptedFtpServer::Session::Answer(const std::string& verb, const std::stri
 
 void ScriptedFtpServer::Session::Store(const std::string& name) {
   Say("150 Send\r\n");
-  if (!OpenData()) {
+  if (!OpenData() || !EncryptData()) {
     Say("425 No connection\r\n");
     return;
   }
   const bool isWhole = Receive(name);
   CloseData();
   Say(isWhole ? "226 Stored\r\n" : "426 Broken\r\n");
+}
+
+void ScriptedFtpServer::Session::BeginEncryption() {
+  Say("234 Go on\r\n");
+  if (!StartTls()) HangUp();
+}
+
+void ScriptedFtpServer::Session::OfferPort(const std::string& verb) {
+  const auto port = std::to_string(ListenForData());
+  if (verb == "EPSV") return Say("229 Entering Extended Passive Mode (|||" + port + "|)\r\n");
+  Say("227 Entering Passive Mode (127,0,0,1," + PortNumbers(dataPort_) + ").\r\n");
 }
 
 void ScriptedFtpServer::Session::Erase(const std::string& name) {
@@ -180,13 +189,27 @@ void ScriptedFtpServer::Session::Erase(const std::string& name) {
 void ScriptedFtpServer::Session::ListenTo(const std::string& portArgument) {
   unsigned high = 0;
   unsigned low = 0;
+  dataListener_.reset();
   if (std::sscanf(portArgument.c_str(), "127,0,0,1,%u,%u", &high, &low) == 2) {
     dataPort_ = static_cast<std::uint16_t>(high * 256 + low);
+  } else if (std::sscanf(portArgument.c_str(), "|2|::1|%u|", &low) == 1) {
+    dataPort_ = static_cast<std::uint16_t>(low);
   }
 }
 
+std::uint16_t ScriptedFtpServer::Session::ListenForData() {
+  dataListener_.emplace(NewListener(server_.script_.address));
+  dataPort_ = PortOf(dataListener_->Get());
+  return dataPort_;
+}
+
+bool ScriptedFtpServer::Session::StartTls(const TlsServer& tls) {
+  encrypts_ = control_ && control_->StartTls(tls);
+  return encrypts_;
+}
+
 void ScriptedFtpServer::Session::Say(std::string_view text) const {
-  if (control_) Send(control_->Get(), text);
+  if (control_) control_->Send(text);
 }
 
 void ScriptedFtpServer::Session::SayByteByByte(std::string_view text) const {
@@ -206,32 +229,48 @@ void ScriptedFtpServer::Session::HangUp() {
 }
 
 bool ScriptedFtpServer::Session::OpenData(const char* source) {
-  data_.emplace(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-  const sockaddr_in from = Loopback(0, source);
-  const sockaddr_in to = Loopback(dataPort_);
-  const bool isOpen =
-      ::bind(data_->Get(), Plain(from), sizeof from) == 0 && ::connect(data_->Get(), Plain(to), sizeof to) == 0;
+  data_.reset();
+  if (dataListener_) {
+    if (!server_.WaitToRead(dataListener_->Get())) return false;
+    data_ = std::make_unique<ServerChannel>(::accept4(dataListener_->Get(), nullptr, nullptr, SOCK_CLOEXEC));
+    dataListener_.reset();
+    return true;
+  }
+  SocketName from(source != nullptr ? source : server_.script_.address, 0);
+  SocketName to(server_.script_.address, dataPort_);
+  data_ = std::make_unique<ServerChannel>(from.NewSocket());
+  const bool isOpen = ::bind(data_->Descriptor(), from.Plain(), from.size) == 0 &&
+                      ::connect(data_->Descriptor(), to.Plain(), to.size) == 0;
   if (!isOpen) data_.reset();
   return isOpen;
 }
 
+bool ScriptedFtpServer::Session::EncryptData(const TlsServer& tls) {
+  if (!data_ || !data_->StartTls(tls)) return false;
+  if (data_->IsResumed()) ++server_.resumedSessions_;
+  return true;
+}
+
 bool ScriptedFtpServer::Session::Receive(const std::string& name, std::size_t most) {
   std::string bytes;
-  std::array<char, 65536> block = {};
   bool isAtEnd = false;
-  while (bytes.size() < most && data_ && server_.WaitToRead(data_->Get())) {
-    const auto count = ::recv(data_->Get(), block.data(), std::min(block.size(), most - bytes.size()), 0);
-    isAtEnd = count == 0;
-    if (count <= 0) break;
-    bytes.append(block.data(), static_cast<std::size_t>(count));
+  while (bytes.size() < most && data_ && (data_->HasReceived() || server_.WaitToRead(data_->Descriptor()))) {
+    const std::string block = data_->Receive(std::min<std::size_t>(65536, most - bytes.size()));
+    isAtEnd = data_->IsAtEnd();
+    if (block.empty()) break;
+    bytes += block;
   }
   server_.PutFile(name, bytes);
   return isAtEnd;
 }
 
+void ScriptedFtpServer::Session::CloseData() {
+  if (data_) data_->SayEnd();
+  data_.reset();
+}
+
 void ScriptedFtpServer::Session::ResetData() {
-  const linger now = {1, 0};
-  if (data_) ::setsockopt(data_->Get(), SOL_SOCKET, SO_LINGER, &now, sizeof now);
+  if (data_) data_->ResetOnClose();
   data_.reset();
 }
 
@@ -243,11 +282,10 @@ std::optional<std::string> ScriptedFtpServer::Session::NextLine() {
       received_.erase(0, end + 2);
       return line;
     }
-    std::array<char, 1024> block = {};
-    if (!control_ || !server_.WaitToRead(control_->Get())) return std::nullopt;
-    const auto count = ::recv(control_->Get(), block.data(), block.size(), 0);
-    if (count <= 0) return std::nullopt;
-    received_.append(block.data(), static_cast<std::size_t>(count));
+    if (!control_ || (!control_->HasReceived() && !server_.WaitToRead(control_->Descriptor()))) return std::nullopt;
+    const std::string block = control_->Receive(1024);
+    if (block.empty()) return std::nullopt;
+    received_ += block;
   }
 }
 

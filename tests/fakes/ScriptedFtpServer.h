@@ -1,6 +1,7 @@
 #pragma once
 
 #include "env/FileDescriptor.h"
+#include "tests/fakes/ServerChannel.h"
 
 #include <atomic>
 #include <functional>
@@ -28,9 +29,14 @@ class ScriptedFtpServer {
     std::function<void(Session&)> greet;
     /// Called instead of the usual answer, by verb.
     std::map<std::string, Handler> on;
+    /// What the server shows to clients that ask for TLS; without it they are refused.
+    std::optional<TestCertificate> certificate = std::nullopt;
+    /// Of the server: "127.0.0.1" or "::1".
+    std::string address = "127.0.0.1";
   };
 
-  explicit ScriptedFtpServer(Script script = {});
+  explicit ScriptedFtpServer(Script script);
+  ScriptedFtpServer() : ScriptedFtpServer(Script()) {}
   ~ScriptedFtpServer();
   ScriptedFtpServer(const ScriptedFtpServer&) = delete;
   ScriptedFtpServer& operator=(const ScriptedFtpServer&) = delete;
@@ -40,6 +46,8 @@ class ScriptedFtpServer {
   [[nodiscard]] std::vector<std::string> Commands() const;
   [[nodiscard]] std::map<std::string, std::string> Files() const;
   void PutFile(const std::string& name, const std::string& bytes);
+  /// How many data connections took up the TLS session of a control connection.
+  [[nodiscard]] int ResumedSessions() const { return resumedSessions_; }
   /// Whether a command that begins with `command` has been received.
   [[nodiscard]] bool HasHeard(std::string_view command) const;
   /// Waits for such a command. Returns false if none comes.
@@ -52,8 +60,10 @@ class ScriptedFtpServer {
   [[nodiscard]] bool WaitToRead(int descriptor) const;
 
   Script script_;
+  std::unique_ptr<TlsServer> tls_;
   env::FileDescriptor listener_;
   std::atomic<bool> isStopping_ = false;
+  std::atomic<int> resumedSessions_ = 0;
   std::uint16_t port_ = 0;
   mutable std::mutex mutex_;
   std::vector<std::string> commands_;
@@ -77,12 +87,24 @@ class ScriptedFtpServer::Session {
   /// Sends nothing until the client disconnects or the server stops.
   void StaySilent();
   void HangUp();
+  /// Encrypts the control connection and, from now on, the data connections. Returns false if that fails.
+  bool StartTls(const TlsServer& tls);
+  bool StartTls() { return StartTls(*server_.tls_); }
 
-  /// Connects from `source` to the client's listening port. Returns false if that fails.
-  bool OpenData(const char* source = "127.0.0.1");
+  /// Connects from `source` to the client's listening port, or accepts the client's connection. Returns false if that
+  /// fails.
+  bool OpenData(const char* source = nullptr);
+  /// Listens for a data connection, and returns the port.
+  [[nodiscard]] std::uint16_t ListenForData();
+  /// Encrypts the data connection, if the control connection is. Returns false if that fails.
+  bool EncryptData(const TlsServer& tls);
+  bool EncryptData() { return !encrypts_ || EncryptData(*server_.tls_); }
   /// Reads at most `most` bytes into the file. Returns true at the end of the stream.
   bool Receive(const std::string& name, std::size_t most = static_cast<std::size_t>(-1));
-  void CloseData() { data_.reset(); }
+  /// Ends the data connection as one should.
+  void CloseData();
+  /// Ends it without a word of TLS.
+  void DropData() { data_.reset(); }
   /// Resets the data connection.
   void ResetData();
 
@@ -91,10 +113,14 @@ class ScriptedFtpServer::Session {
   void Store(const std::string& name);
   void ListenTo(const std::string& portArgument);
   void Erase(const std::string& name);
+  void BeginEncryption();
+  void OfferPort(const std::string& verb);
 
   ScriptedFtpServer& server_;
-  std::optional<env::FileDescriptor> control_;
-  std::optional<env::FileDescriptor> data_;
+  std::unique_ptr<ServerChannel> control_;
+  std::unique_ptr<ServerChannel> data_;
+  std::optional<env::FileDescriptor> dataListener_;
+  bool encrypts_ = false;
   std::string received_;
   std::uint16_t dataPort_ = 0;
 };

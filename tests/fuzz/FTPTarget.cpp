@@ -2,6 +2,7 @@
 // server, and then the server's output in one piece for each read, separated by "|".
 #include "env/RuntimeFailure.h"
 #include "publish/FTPReply.h"
+#include "publish/PassiveReply.h"
 #include "publish/mFTP.h"
 #include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/FTPRunWindow.h"
@@ -52,6 +53,16 @@ void CheckReply(const std::string& text) {
   }
 }
 
+/// Both kinds of replies that name a port: what is found does not depend on what stands around it.
+void CheckPorts(const std::string& text) {
+  const auto epsv = publish::PortOfEpsvReply(text);
+  const auto pasv = publish::PortOfPasvReply(text);
+  fuzz::Require(epsv.value_or(1) > 0 && pasv.value_or(1) > 0, "there is no port 0");
+  fuzz::Require(!epsv || publish::PortOfEpsvReply(text + "(|||1|)") == epsv, "the first port of EPSV counts");
+  fuzz::Require(!pasv || publish::PortOfPasvReply("text " + text + " text") == pasv,
+                "text around six numbers does not matter");
+}
+
 class Client {
  public:
   explicit Client(const Script& script) : script_(script) {
@@ -63,6 +74,10 @@ class Client {
     loop_.onTurn = [this](int turn) { Cancel(turn); };
     cmd_.reads = script.pieces;
     ftp_.FTPProgress = &window_;
+    ftp_.Options = {.passive = script.Has('p'), .encrypted = script.Has('e'), .fingerprint = {}};
+    cmd_.handshake = data_.handshake = {.done = !script.Has('h'), .problem = "no", .certificate = {}};
+    data_.finishes = !script.Has('f');
+    if (script.Has('6')) cmd_.peerAddress = cmd_.localAddress = "2001:db8::1";
   }
 
   void RunSession() {
@@ -106,6 +121,10 @@ class Client {
       fuzz::Require(end != std::string::npos && end + 2 == call.size() && call.ends_with("\r\n"),
                     "a command is one line");
     }
+    const bool saysPassword =
+        std::ranges::any_of(journal_, [](const std::string& call) { return call.starts_with("cmd write PASS"); });
+    fuzz::Require(!saysPassword || !script_.Has('e') || ftp_.EncryptionProblem().empty(),
+                  "a session that cannot be encrypted says no password");
     fuzz::Require(HasSaid(kPassword) || window_.log.find(kPassword) == std::string::npos, "passwords are not logged");
   }
 
@@ -134,6 +153,7 @@ class Client {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string input = fuzz::InputText(data, size);
   CheckReply(input);
+  CheckPorts(input);
   const Script script(input);
   Client(script).RunSession();
   return 0;

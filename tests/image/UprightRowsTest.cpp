@@ -7,6 +7,7 @@
 #include "image/literal/ResampleLiteral.h"
 #include "image/literal/TurnLiteral.h"
 #include "image/literal/WatermarkLiteral.h"
+#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/PhotographMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 
@@ -160,17 +161,21 @@ TEST_F(UprightRowsTest, AProfileThatIsDamagedOrOfOtherChannelsLeavesTheColorsAsT
 TEST_F(UprightRowsTest, AFileThatEndsEarlyIsNotDecodedInAnyOrientation) {
   for (int orientation = 1; orientation <= 8; ++orientation) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = 64, .height = 64}), orientation);
-    for (std::size_t size = fakes::PictureDataOf(jpeg); size + 2 < jpeg.size(); size += 150) {
+    for (std::size_t size = fakes::PictureDataOf(jpeg); size + 2 < jpeg.size(); size += 20) {
       EXPECT_FALSE(Make(jpeg.substr(0, size), {Sized(5, 5), Sized(2, 2), kUpright}).decoded) << orientation;
     }
   }
 }
 
 TEST_F(UprightRowsTest, APhotographThatClaimsMorePixelsThanCanBeHeldIsNotDecoded) {
-  // A header of 20,000 x 20,000 pixels, before as many bytes as such a file needs at least.
-  const std::string small = fakes::MakeJpeg({.width = 8, .height = 8, .colors = fakes::JpegColors::Grey});
-  const std::string large = fakes::ClaimingSize(small, 20000, 20000) + std::string(std::size_t{8} << 20U, '\0');
-  EXPECT_FALSE(Make(fakes::WithOrientation(large, 6), {PictureRecipe(), {}, kUpright}).decoded);
+  // Headers of many pixels, before as many bytes as such files need at least.
+  const std::string small = fakes::MakeJpeg({.width = 8, .height = 8, .colors = JpegColors::Grey});
+  const std::string zeros(std::size_t{8} << 20U, '\0');
+  for (const int side : {12000, 20000}) {
+    const std::string large = fakes::WithOrientation(fakes::ClaimingSize(small, side, side) + zeros, 6);
+    const fakes::MemoryLimit limit(std::uint64_t{64} << 20U);
+    EXPECT_FALSE(Make(large, {PictureRecipe(), {}, kUpright}).decoded) << side;
+  }
 }
 
 TEST_F(UprightRowsTest, ASizeWithoutPixelsFailsOnlyItsOwnOutput) {

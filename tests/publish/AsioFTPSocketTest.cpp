@@ -222,7 +222,7 @@ TEST_F(AsioFTPSocketTest, EachListenerHasAPortOfItsOwn) {
 
 TEST_F(AsioFTPSocketTest, AnAddressOfAnotherMachineCannotBeListenedOn) {
   FTPSocketSettings settings;
-  for (const char* address : {"192.0.2.1", "nonsense", "::1"}) {
+  for (const char* address : {"192.0.2.1", "nonsense", "2001:db8::1"}) {
     settings.listenAddress = address;
     socket.Configure(settings);
     EXPECT_NE(socket.Listen(), 0) << address;

@@ -133,8 +133,9 @@ TEST_P(FTPServers, NeverSeeACommandInsideAFileName) {
   EXPECT_EQ(Stored("keep.jpg"), "1");
 }
 
-INSTANTIATE_TEST_SUITE_P(On, FTPServers, testing::Values(FtpServerKind::Vsftpd, FtpServerKind::Proftpd),
-                         [](const auto& info) { return info.param == FtpServerKind::Vsftpd ? "vsftpd" : "ProFTPD"; });
+INSTANTIATE_TEST_SUITE_P(On, FTPServers,
+                         testing::Values(FtpServerKind::Vsftpd, FtpServerKind::Proftpd, FtpServerKind::Pureftpd),
+                         [](const auto& test) { return fakes::NameOf(test.param); });
 
 }  // namespace
 }  // namespace vantorium::publish

@@ -23,5 +23,17 @@ TEST(HostLookup, NobodyHasToWait) {
   SUCCEED();
 }
 
+TEST(HostLookup, IPv6AddressesAreFoundOnDemandOnly) {
+  EXPECT_EQ(LookUpHost("::1", HostFamily::Any).get(), std::vector<std::string>{"::1"});
+  EXPECT_TRUE(LookUpHost("::1", HostFamily::IPv4).get().empty());
+  EXPECT_TRUE(LookUpHost("::g", HostFamily::Any).get().empty());
+}
+
+TEST(HostLookup, IPv4AddressesComeFirst) {
+  const auto addresses = LookUpHost("localhost", HostFamily::Any).get();
+  ASSERT_FALSE(addresses.empty());
+  EXPECT_EQ(addresses.front(), "127.0.0.1");
+}
+
 }  // namespace
 }  // namespace vantorium::publish

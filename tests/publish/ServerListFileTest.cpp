@@ -78,7 +78,7 @@ TEST_F(ServerListFile, ALineBreakOrANulInAnyTextIsRefusedAndTheOldFileStays) {
   program.Write("vantorium.pub", "old");
   for (std::string ServerProfile::*text :
        {&ServerProfile::ServerName, &ServerProfile::ServerURL, &ServerProfile::UserName, &ServerProfile::IndexPath,
-        &ServerProfile::IndexFile, &ServerProfile::JumpTo}) {
+        &ServerProfile::IndexFile, &ServerProfile::JumpTo, &ServerProfile::Fingerprint}) {
     for (const std::string& part : {std::string("\r"), std::string("\n"), std::string(1, '\0')}) {
       ServerProfile profile = kFirst;
       profile.*text = "a" + part + "b";
@@ -179,6 +179,39 @@ TEST_F(ServerListFile, TenThousandProfilesAreReadAsTheyWereWritten) {
   const ServerListValues values(File());
   EXPECT_EQ(values.Integer("ServerCount"), 10000);
   EXPECT_EQ(values.Text("JumpTo10000"), "www");
+}
+
+ServerProfile SecureProfile() {
+  ServerProfile profile = kFirst;
+  profile.Passive = profile.Encrypted = true;
+  for (int byte = 0; byte < 32; ++byte) profile.Fingerprint += byte > 0 ? ":0F" : "0F";
+  return profile;
+}
+
+TEST_F(ServerListFile, HoldsOptionsOnlyOfTheServersThatUseThem) {
+  WriteServerList({SecureProfile(), kSecond}, 0, File());
+  const std::string text = Text();
+  const std::string lines = "JumpTo1=\"www\"\r\nPassive1=\"1\"\r\nEncrypted1=\"1\"\r\nFingerprint1=\"" +
+                            SecureProfile().Fingerprint + "\"\r\nServerName2=";
+  EXPECT_NE(text.find(lines), std::string::npos) << text;
+  for (const char* key : {"Passive2", "Encrypted2", "Fingerprint2"}) EXPECT_EQ(text.find(key), std::string::npos);
+}
+
+TEST_F(ServerListFile, OptionsThatMakeNoSenseAreOff) {
+  const std::string good = SecureProfile().Fingerprint;
+  const std::pair<std::string, ServerProfile> cases[] = {
+      {"", {}},
+      {"Passive1=\"0\"\r\nEncrypted1=\"yes\"\r\nFingerprint1=\"\"\r\n", {}},
+      {"Passive1=\"11\"\r\nEncrypted1=\"\"\r\nFingerprint1=\"0F:0F\"\r\n", {}},
+      {"Passive2=\"1\"\r\nFingerprint1=\"" + good + "0\"\r\n", {}},
+      {"passive1=1\r\nENCRYPTED1=\"1\"\r\n", {.Passive = true, .Encrypted = true}},
+      {"Fingerprint1=\"" + good + "\"\r\n", {.Fingerprint = good}}};
+  for (const auto& [lines, expected] : cases) {
+    program.Write("vantorium.pub", "[PUBLISH]\r\n" + lines);
+    ServerProfile profile;
+    ServerListValues(File()).ReadOptions("1", profile);
+    EXPECT_EQ(OptionsOf(profile), OptionsOf(expected)) << lines;
+  }
 }
 
 }  // namespace

@@ -341,5 +341,33 @@ TEST_F(ServerListTest, AnonymousIsMeantInEveryCase) {
   for (const char* name : {"", "anonymous ", "me"}) EXPECT_FALSE(IsAnonymous({.UserName = name})) << name;
 }
 
+TEST_F(ServerListTest, AnAcceptedCertificateIsRememberedForTheEncryptedServersOfItsHost) {
+  std::string fingerprint = "0F";
+  for (int byte = 1; byte < 32; ++byte) fingerprint += ":0F";
+  ServerProfile encrypted = kOne;
+  encrypted.Encrypted = true;
+  ServerProfile elsewhere = kTwo;
+  elsewhere.Encrypted = true;
+  WriteServerList({kOne, encrypted, elsewhere}, 2, File());
+  list.Open();
+  list.RememberCertificate("ONE.example.org", fingerprint);
+  ServerList again(File(), boxes);
+  again.Open();
+  EXPECT_EQ(again.Profiles()[0].Fingerprint, "") << "not encrypted";
+  EXPECT_EQ(again.Profiles()[1].Fingerprint, fingerprint);
+  EXPECT_EQ(again.Profiles()[2].Fingerprint, "") << "another host";
+  EXPECT_EQ(again.Selected(), 2U);
+  EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(ServerListTest, ACertificateOfAHostThatIsNotInTheListChangesNoFile) {
+  WriteThree(0);
+  list.Open();
+  Write("untouched");
+  list.RememberCertificate("four.example.org", "0F");
+  list.RememberCertificate("one.example.org", "0F");
+  EXPECT_EQ(Text(), "untouched");
+}
+
 }  // namespace
 }  // namespace vantorium::publish

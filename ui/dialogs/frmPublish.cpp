@@ -24,6 +24,13 @@ frmPublish::frmPublish(std::filesystem::path serverListFile, env::MessageBoxPort
     model_.Select(static_cast<std::size_t>(index));
     ShowProfile();
   });
+  BindSwitch(*ui_->checkPassive, &publish::ServerProfile::Passive);
+  BindSwitch(*ui_->checkEncrypted, &publish::ServerProfile::Encrypted);
+  connect(ui_->btnForgetCertificate, &QPushButton::clicked, this, [this] {
+    model_.ForgetCertificate();
+    ShowProfile();
+    ui_->checkEncrypted->setFocus();
+  });
   connect(ui_->btnNew, &QPushButton::clicked, this, &frmPublish::AddNew);
   connect(ui_->btnDelete, &QPushButton::clicked, this, [this] {
     model_.DeleteServer();
@@ -44,6 +51,10 @@ void frmPublish::BindField(QLineEdit& control, ServerField field) {
     model_.Edit(field, FromQt(text));
     ShowButtons();
   });
+}
+
+void frmPublish::BindSwitch(QCheckBox& control, ServerSwitch box) {
+  connect(&control, &QCheckBox::clicked, this, [this, box](bool checked) { model_.Check(box, checked); });
 }
 
 void frmPublish::SetHideIndexFile(bool hide) {
@@ -70,12 +81,15 @@ void frmPublish::ShowProfile() {
   ui_->textGalleryIndexPath->setText(ToQt(profile.IndexPath));
   ui_->textGalleryIndexFile->setText(ToQt(profile.IndexFile));
   ui_->textTimeout->setText(ToQt(model_.textTimeout));
+  ui_->checkPassive->setChecked(profile.Passive);
+  ui_->checkEncrypted->setChecked(profile.Encrypted);
   ShowButtons();
 }
 
 void frmPublish::ShowButtons() {
   ui_->frmServer->setEnabled(model_.Selected().has_value());
   ui_->comboServers->setEnabled(model_.Selected().has_value());
+  ui_->btnForgetCertificate->setEnabled(model_.CanForgetCertificate());
   ui_->btnDelete->setEnabled(model_.CanDelete());
   ui_->OKButton->setEnabled(model_.CanAccept());
   ui_->CancelButton->setEnabled(model_.CanCancel());

@@ -2,6 +2,7 @@
 
 #include "ui/model/dialogs/PublishModel.h"
 
+#include <QCheckBox>
 #include <QDialog>
 #include <QLineEdit>
 #include <memory>
@@ -40,6 +41,7 @@ class frmPublish : public QDialog {
 
  private:
   void BindField(QLineEdit& control, ServerField field);
+  void BindSwitch(QCheckBox& control, ServerSwitch box);
   void ShowList();
   void ShowProfile();
   void ShowButtons();

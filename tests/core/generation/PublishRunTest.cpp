@@ -407,5 +407,14 @@ TEST_F(PublishRunTest, ACancelOfAnUploadHasItsOwnBoxAndEndsInFailure) {
   EXPECT_LT(NamesOn(server).size(), 20U);
 }
 
+TEST_F(PublishRunTest, WhyTheSessionIsNotEncryptedIsTheMessageOfTheRun) {
+  AddPhotograph("a");
+  ScriptedFtpServer server;
+  ftp.Options.encrypted = true;
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Failure);
+  EXPECT_EQ(LastBox(), "FTP Error: The server \"127.0.0.1\" offers no encryption (TLS).");
+  EXPECT_EQ(server.Commands(), Texts{"AUTH TLS"});
+}
+
 }  // namespace
 }  // namespace vantorium::generation

@@ -1,11 +1,13 @@
 #include "tests/ui/PublishDesk.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -253,6 +255,48 @@ TEST_F(PublishForm, AMissingFileIsReportedAndGivesAnEmptyDialog) {
   Drive([](QWidget& form) { EXPECT_FALSE(IsEnabled(form, "textServerURL")); });
   ASSERT_EQ(desk.boxes.boxes.size(), 1U);
   EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
+}
+
+TEST_F(PublishForm, TheSwitchesAreAtTheEndAndAreKept) {
+  desk.WriteServers(0);
+  EXPECT_TRUE(Drive([](QWidget& form) {
+    auto& passive = Find<QCheckBox>(form, "checkPassive");
+    auto& encrypted = Find<QCheckBox>(form, "checkEncrypted");
+    EXPECT_FALSE(passive.isChecked());
+    EXPECT_FALSE(encrypted.isChecked());
+    EXPECT_FALSE(IsEnabled(form, "btnForgetCertificate"));
+    Find<QWidget>(form, "textTimeout").setFocus();
+    for (const char* next : {"checkPassive", "checkEncrypted", "OKButton"}) {
+      QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+      EXPECT_TRUE(GetsFocus(form, next)) << next;
+    }
+    for (QCheckBox* box : {&passive, &encrypted}) {
+      QTest::keyClick(box, Qt::Key_Space);
+      EXPECT_TRUE(box->isChecked());
+      EXPECT_NE(box->text().indexOf('&'), -1) << "a key of its own";
+    }
+    Click(form, "OKButton");
+  }));
+  EXPECT_NE(desk.ServerText().find("JumpTo1=\"www\"\r\nPassive1=\"1\"\r\nEncrypted1=\"1\"\r\nServerName2"),
+            std::string::npos)
+      << desk.ServerText();
+}
+
+TEST_F(PublishForm, AnAcceptedCertificateCanBeForgotten) {
+  publish::ServerProfile profile = desk.kOne;
+  profile.Encrypted = true;
+  profile.Fingerprint = "0F";
+  for (int byte = 1; byte < 32; ++byte) profile.Fingerprint += ":0F";
+  publish::WriteServerList({profile}, 0, desk.ServerFile());
+  EXPECT_TRUE(Drive([](QWidget& form) {
+    EXPECT_TRUE(Find<QCheckBox>(form, "checkEncrypted").isChecked());
+    EXPECT_TRUE(IsEnabled(form, "btnForgetCertificate"));
+    Click(form, "btnForgetCertificate");
+    EXPECT_FALSE(IsEnabled(form, "btnForgetCertificate"));
+    EXPECT_TRUE(GetsFocus(form, "checkEncrypted"));
+    Click(form, "OKButton");
+  }));
+  EXPECT_EQ(desk.ServerText().find("Fingerprint"), std::string::npos) << desk.ServerText();
 }
 
 }  // namespace

@@ -19,6 +19,8 @@ using fakes::Type;
 
 class WindowToServer : public testing::TestWithParam<FtpServerKind> {
  protected:
+  explicit WindowToServer(std::optional<fakes::TestCertificate> certificate = std::nullopt)
+      : server(GetParam(), std::move(certificate)) {}
   void SetUp() override {
     desk.ftpPort = server.Port();
     desk.folder.Write("program/vantorium.pub",
@@ -50,7 +52,7 @@ class WindowToServer : public testing::TestWithParam<FtpServerKind> {
   }
   [[nodiscard]] std::string Log() const { return desk.folder.Read("program/ftplog.txt"); }
 
-  fakes::FtpServerProcess server{GetParam()};
+  fakes::FtpServerProcess server;
   MainDesk desk;
 };
 
@@ -85,6 +87,61 @@ TEST_P(WindowToServer, AFolderIsUploadedWithAllItHolds) {
                Click(create, "OKButton");
              });
   EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(desk.folder.Path() / "site")) << Log();
+}
+
+/// The window and a server that demands TLS.
+class WindowToEncryptedServer : public WindowToServer {
+ protected:
+  WindowToEncryptedServer() : WindowToServer(fakes::TestCertificate()) {}
+
+  /// Publishes with both switches on.
+  void PublishSecurely() {
+    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+               [&](QWidget& create) {
+                 Click(create, "optionUploadGallery");
+                 DriveModal([&] { Click(create, "btnBrowsePublishDestination"); },
+                            [&](QWidget& publish) {
+                              Type(Find<QLineEdit>(publish, "textServerURL"), "127.0.0.1");
+                              Type(Find<QLineEdit>(publish, "textUserName"), ToQt(server.User()));
+                              Click(publish, "checkPassive");
+                              Click(publish, "checkEncrypted");
+                              Click(publish, "OKButton");
+                            });
+                 PasswordAndGo(create);
+               });
+  }
+  /// Publishes to the server as it is in the list.
+  void PublishAgain() {
+    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+               [&](QWidget& create) {
+                 Click(create, "optionUploadGallery");
+                 PasswordAndGo(create);
+               });
+  }
+  void PasswordAndGo(QWidget& create) {
+    Type(Find<QLineEdit>(create, "textPublishPassword"), ToQt(server.Password()));
+    Click(create, "OKButton");
+  }
+  [[nodiscard]] std::string ServerFile() const { return desk.folder.Read("program/vantorium.pub"); }
+};
+INSTANTIATE_TEST_SUITE_P(To, WindowToEncryptedServer,
+                         testing::Values(FtpServerKind::Vsftpd, FtpServerKind::Proftpd, FtpServerKind::Pureftpd),
+                         [](const auto& test) { return fakes::NameOf(test.param); });
+
+TEST_P(WindowToEncryptedServer, AGalleryEqualsTheCreatedOneAndTheCertificateIsAskedAboutOnce) {
+  PublishSecurely();
+  ASSERT_EQ(desk.boxes.boxes.size(), 1U) << desk.TitleOfLastBox() << Log();
+  EXPECT_EQ(desk.boxes.boxes[0].title, "Unknown Certificate");
+  EXPECT_NE(ServerFile().find("Fingerprint1="), std::string::npos) << ServerFile();
+  PublishAgain();
+  EXPECT_EQ(desk.boxes.boxes.size(), 1U) << desk.TitleOfLastBox() << Log();
+  DriveModal([&] { desk.Trigger("tbMainCreate"); },
+             [&](QWidget& create) {
+               Click(create, "optionCreateGallery");
+               Type(Find<QLineEdit>(create, "textCreateFilePath"), "T:\\out\\start.htm");
+               Click(create, "OKButton");
+             });
+  EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(desk.folder.Path() / "out"));
 }
 
 /// Uses ProFTPD only, because vsftpd is configured to accept every password.

@@ -19,11 +19,13 @@ std::optional<publish::ServerProfile> PreferredServer(const std::filesystem::pat
     if (count < 1) return std::nullopt;
     const std::string index = std::to_string(preferred < 1 || preferred > count ? 1 : preferred);
     const std::string indexText = values.Text("IndexFile" + index);
-    return publish::ServerProfile{.ServerURL = values.Text("ServerURL" + index),
-                                  .UserName = values.Text("UserName" + index),
-                                  .IndexPath = publish::FTPGetFilePath(indexText),
-                                  .IndexFile = publish::FTPGetFileName(indexText),
-                                  .JumpTo = values.Text("JumpTo" + index)};
+    publish::ServerProfile profile{.ServerURL = values.Text("ServerURL" + index),
+                                   .UserName = values.Text("UserName" + index),
+                                   .IndexPath = publish::FTPGetFilePath(indexText),
+                                   .IndexFile = publish::FTPGetFileName(indexText),
+                                   .JumpTo = values.Text("JumpTo" + index)};
+    values.ReadOptions(index, profile);
+    return profile;
   } catch (const env::RuntimeFailure&) {
     return std::nullopt;
   }
@@ -139,6 +141,7 @@ void CreateGalleryModel::TakeUploadValues(const publish::ServerProfile& profile)
   UploadIndexPath = profile.IndexPath;
   UploadIndexFile = profile.IndexFile;
   UploadJumpTo = profile.JumpTo;
+  serverOptions_ = publish::OptionsOf(profile);
 }
 
 void CreateGalleryModel::LeaveServers(const publish::ServerProfile& profile) {
@@ -207,6 +210,9 @@ void CreateGalleryModel::SetServer(generation::RunOrder& order) const {
   order.UserName = UploadUser;
   order.Password = UploadPassword;
   order.BaseDirectory = UploadJumpTo;
+  order.ServerOptions = serverOptions_;
+  // The accepted certificate is that of the chosen server.
+  if (!env::EqualsIgnoringCase(order.ServerAddress, UploadServer)) order.ServerOptions.fingerprint.clear();
   if (order.Mode == generation::GenerationMode::Upload)
     return generation::SetRemoteFolder(order, place ? place->path : UploadIndexPath);
   if (!place) return generation::SetRemoteIndexFile(order, UploadIndexPath, UploadIndexFile);

@@ -106,6 +106,7 @@ class CreateGalleryModel {
   [[nodiscard]] std::string Finished(const std::string& typed) const;
   [[nodiscard]] bool NothingIsMade() const;
 
+  publish::FTPOptions serverOptions_;
   const env::Preferences& preferences_;
   std::filesystem::path serverListFile_;
   const env::PathMap& paths_;

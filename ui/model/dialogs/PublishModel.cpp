@@ -31,7 +31,14 @@ void PublishModel::Select(std::size_t index) {
 }
 
 void PublishModel::Edit(ServerField field, const std::string& text) {
-  if (publish::ServerProfile* profile = list_.SelectedProfile()) profile->*field = text;
+  publish::ServerProfile* profile = list_.SelectedProfile();
+  if (profile == nullptr) return;
+  if (field == &publish::ServerProfile::ServerURL && profile->ServerURL != text) profile->Fingerprint.clear();
+  profile->*field = text;
+}
+
+void PublishModel::Check(ServerSwitch box, bool checked) {
+  if (publish::ServerProfile* profile = list_.SelectedProfile()) profile->*box = checked;
 }
 
 bool PublishModel::AddNewServer(const std::string& name) {

@@ -9,6 +9,8 @@ namespace vantorium::ui {
 
 /// A text of a profile that the user can edit.
 using ServerField = std::string publish::ServerProfile::*;
+/// What the user can switch on or off in a profile.
+using ServerSwitch = bool publish::ServerProfile::*;
 
 /// What `key` types into the box of a field: hosts and paths take slashes for backslashes, the gallery's path takes
 /// underscores for spaces.
@@ -30,7 +32,12 @@ class PublishModel {
   /// The profile that the boxes show; its texts are empty if the list is empty.
   [[nodiscard]] const publish::ServerProfile& Shown() const;
   void Select(std::size_t index);
+  /// A certificate that was accepted for another host is forgotten.
   void Edit(ServerField field, const std::string& text);
+  void Check(ServerSwitch box, bool checked);
+  [[nodiscard]] bool CanForgetCertificate() const { return !Shown().Fingerprint.empty(); }
+  /// The next run asks about the server's certificate again.
+  void ForgetCertificate() { Edit(&publish::ServerProfile::Fingerprint, ""); }
 
   /// Returns false, after a message box, if there is already a server of that name.
   bool AddNewServer(const std::string& name);

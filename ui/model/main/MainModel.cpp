@@ -5,6 +5,7 @@
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
 #include "publish/AsioFTPSocket.h"
+#include "publish/ServerListFile.h"
 #include "ui/model/dialogs/ThemeModel.h"
 
 namespace vantorium::ui {
@@ -21,7 +22,9 @@ MainModel::MainModel(const DesktopPorts& ports)
       log_(ports.programFolder, ports.clock, ports.boxes),
       cancel_(ports.boxes),
       ftp_(std::make_unique<publish::AsioFTPSocket>(ports.loop), std::make_unique<publish::AsioFTPSocket>(ports.loop),
-           ports.paths, ports.boxes, ports.loop, cancel_) {
+           ports.paths, ports.boxes, ports.loop, cancel_),
+      certificates_(publish::ServerListFileName(ports.programFolder), ports.boxes) {
+  ftp_.Certificates = &certificates_;
   cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
 }
 

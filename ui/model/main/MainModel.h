@@ -10,6 +10,7 @@
 #include "ui/model/dialogs/ColorDialog.h"
 #include "ui/model/dialogs/ProjectDialogs.h"
 #include "ui/model/dialogs/SampleDialog.h"
+#include "ui/model/main/CertificateQuestion.h"
 #include "ui/model/main/DesktopPorts.h"
 #include "ui/model/main/MainHost.h"
 
@@ -92,6 +93,7 @@ class MainModel {
   publish::UploadLog log_;
   generation::CancelCheck cancel_;
   publish::mFTP ftp_;
+  CertificateQuestion certificates_;
 };
 
 }  // namespace vantorium::ui

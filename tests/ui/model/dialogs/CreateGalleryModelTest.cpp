@@ -524,5 +524,25 @@ TEST_F(CreateGalleryModelTest, CancelStartsNoRun) {
   EXPECT_EQ(model.Order(), std::nullopt);
 }
 
+TEST_F(CreateGalleryModelTest, TheOptionsOfTheServerGoWithItAndItsCertificateIsOfItsHostOnly) {
+  publish::ServerProfile profile = kOne;
+  profile.Passive = profile.Encrypted = true;
+  profile.Fingerprint = "0F";
+  for (int byte = 1; byte < 32; ++byte) profile.Fingerprint += ":0F";
+  ComeUpWith({profile});
+  model.Choose(generation::GenerationMode::Publish);
+  const auto options = [this] {
+    EXPECT_EQ(model.Apply(), ApplyResult::Done);
+    return model.Order().value().ServerOptions;
+  };
+  EXPECT_EQ(options(), publish::OptionsOf(profile));
+  model.EditPublishDestination("ONE.example.org/elsewhere/index.htm");
+  EXPECT_EQ(options(), publish::OptionsOf(profile));
+  model.EditPublishDestination("two.example.org/a/index.htm");
+  EXPECT_EQ(options(), (publish::FTPOptions{.passive = true, .encrypted = true, .fingerprint = {}}));
+  model.TakeServer(kTwo);
+  EXPECT_EQ(options(), publish::FTPOptions());
+}
+
 }  // namespace
 }  // namespace vantorium::ui

@@ -203,5 +203,43 @@ TEST_F(PublishModelTest, CancelWithoutThatServerLeavesTheSelection) {
   EXPECT_EQ(model->Shown(), kTwo);
 }
 
+TEST_F(PublishModelTest, TheSwitchesGoIntoTheSelectedProfile) {
+  Open({kOne, kTwo}, 1);
+  model->Check(&publish::ServerProfile::Passive, true);
+  model->Check(&publish::ServerProfile::Encrypted, true);
+  EXPECT_TRUE(model->Accept());
+  EXPECT_NE(Text().find("Passive2=\"1\"\r\nEncrypted2=\"1\"\r\n"), std::string::npos) << Text();
+  model->Check(&publish::ServerProfile::Passive, false);
+  model->Check(&publish::ServerProfile::Encrypted, false);
+  EXPECT_EQ(model->Shown(), kTwo);
+}
+
+TEST_F(PublishModelTest, AnEmptyListHasNoSwitches) {
+  Open({});
+  model->DeleteServer();
+  model->Check(&publish::ServerProfile::Passive, true);
+  model->ForgetCertificate();
+  EXPECT_EQ(model->Shown(), publish::ServerProfile());
+  EXPECT_FALSE(model->CanForgetCertificate());
+}
+
+TEST_F(PublishModelTest, ACertificateIsForgottenOnDemandAndWithItsHost) {
+  publish::ServerProfile profile = kOne;
+  profile.Encrypted = true;
+  profile.Fingerprint = "0F";
+  for (int byte = 1; byte < 32; ++byte) profile.Fingerprint += ":0F";
+  Open({profile});
+  EXPECT_TRUE(model->CanForgetCertificate());
+  model->Edit(&publish::ServerProfile::UserName, "another");
+  model->Edit(&publish::ServerProfile::ServerURL, kOne.ServerURL);
+  EXPECT_TRUE(model->CanForgetCertificate());
+  model->ForgetCertificate();
+  EXPECT_FALSE(model->CanForgetCertificate());
+  EXPECT_TRUE(model->Shown().Encrypted);
+  Open({profile});
+  model->Edit(&publish::ServerProfile::ServerURL, "elsewhere");
+  EXPECT_FALSE(model->CanForgetCertificate());
+}
+
 }  // namespace
 }  // namespace vantorium::ui

@@ -12,8 +12,10 @@ using Names = std::vector<std::string>;
 
 class UprightOfferTest : public testing::Test {
  protected:
-  void Add(const std::string& name, std::size_t position = 0) {
-    core::ImageEntry entry{.ImageName = name, .SourcePath = "T:\\" + name};
+  void Add(const std::string& name, std::size_t position = 0, const std::string& drive = "T:\\") {
+    core::ImageEntry entry;
+    entry.ImageName = name;
+    entry.SourcePath = drive + name;
     project.images.Insert(position == 0 ? project.images.Count() + 1 : position, entry);
   }
   /// The names of the added photographs to look at, then "|" and those of the earlier ones; "none" if nothing is.
@@ -45,7 +47,7 @@ TEST_F(UprightOfferTest, WhatWasAddedIsLookedAtWhereverItIsInTheList) {
 
 TEST_F(UprightOfferTest, APathThatNamesNoPlaceIsNotLookedAt) {
   offer.BeforeAdding();
-  project.images.Insert(1, {.ImageName = "x", .SourcePath = "Q:\\x.jpg"});
+  Add("x.jpg", 1, "Q:\\");
   EXPECT_EQ(Looked(), "none");
 }
 
