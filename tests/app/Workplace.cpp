@@ -29,7 +29,7 @@ std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
 }
 
 /// A smooth color gradient, so that the file is no larger than a photograph's.
-cDIBSection Slope(int width, int height, std::size_t seed) {
+image::cDIBSection Slope(int width, int height, std::size_t seed) {
   image::cDIBSection picture;
   if (!picture.Create(width, height)) throw std::runtime_error("no memory for a picture");
   for (int y = 0; y < height; ++y) {

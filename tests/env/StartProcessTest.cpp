@@ -44,12 +44,12 @@ TEST(StartProcess, AProgramThatIsNotThereOrIsNoneFailsAtOnce) {
   EXPECT_EQ(FailureOf([] { StartProcess({}); }), FailureKind::FileNotFound);
   EXPECT_EQ(FailureOf([&] { StartProcess({{text}}); }), FailureKind::FileAccess);
   EXPECT_EQ(FailureOf([&] { StartProcess({{folder.Path().string()}}); }), FailureKind::FileAccess);
-  EXPECT_EQ(publish::DescriptionOf({{text}}), text + ": Permission denied");
-  EXPECT_EQ(publish::DescriptionOf({{"no-such-program-here"}}), "no-such-program-here: No such file or directory");
+  EXPECT_EQ(DescriptionOf({{text}}), text + ": Permission denied");
+  EXPECT_EQ(DescriptionOf({{"no-such-program-here"}}), "no-such-program-here: No such file or directory");
 }
 
 TEST(StartProcess, AProgramThatEndsWithoutSuccessWhileItIsWatchedCouldNotBeStarted) {
-  EXPECT_EQ(publish::DescriptionOf(Script("exit 3")), "/bin/sh ended with the exit code 3");
+  EXPECT_EQ(DescriptionOf(Script("exit 3")), "/bin/sh ended with the exit code 3");
   EXPECT_EQ(FailureOf([] { StartProcess(Script("exit 127")); }), FailureKind::FileNotFound);
   EXPECT_EQ(FailureOf([] { StartProcess(Script("exit 126")); }), FailureKind::FileAccess);
   EXPECT_EQ(FailureOf([] { StartProcess(Script("kill -9 $$")); }), FailureKind::FileAccess);

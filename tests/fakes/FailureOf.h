@@ -5,13 +5,15 @@
 #include <optional>
 #include <ostream>
 
-namespace vantorium {
+namespace vantorium::env {
 
-inline std::ostream& operator<<(std::ostream& stream, env::FailureKind kind) {
+inline std::ostream& operator<<(std::ostream& stream, FailureKind kind) {
   return stream << "failure " << static_cast<std::int32_t>(kind);
 }
 
-namespace fakes {
+}  // namespace vantorium::env
+
+namespace vantorium::fakes {
 
 /// The failure that `operation` throws. Returns nullopt if it succeeds.
 template <typename Operation>
@@ -24,5 +26,4 @@ std::optional<env::FailureKind> FailureOf(Operation operation) {
   }
 }
 
-}  // namespace fakes
-}  // namespace vantorium
+}  // namespace vantorium::fakes

@@ -45,11 +45,11 @@ class ScriptedFTPSocket : public publish::FTPSocket {
     if (acceptFails) throw env::RuntimeFailure(env::FailureKind::FileAccess);
   }
   [[nodiscard]] publish::TlsHandshake StartTls(const std::string& host,
-                                               std::shared_ptr<TlsTicket> /*resumed*/) override {
+                                               std::shared_ptr<publish::TlsTicket> /*resumed*/) override {
     Note("tls " + host);
     return handshake;
   }
-  [[nodiscard]] std::shared_ptr<TlsTicket> Ticket() const override { return nullptr; }
+  [[nodiscard]] std::shared_ptr<publish::TlsTicket> Ticket() const override { return nullptr; }
   void BeginFile() override {}
   [[nodiscard]] bool Finish() override {
     Note("finish");

@@ -73,8 +73,8 @@ TestCertificate::TestCertificate(const Wish& wish) {
   const Memory keyText(BIO_new(BIO_s_mem()), BIO_free);
   Require(PEM_write_bio_X509(certificateText.get(), made.get()) == 1);
   Require(PEM_write_bio_PrivateKey(keyText.get(), pair.get(), nullptr, nullptr, 0, nullptr, nullptr) == 1);
-  certificate = core::TextOf(certificateText);
-  key = core::TextOf(keyText);
+  certificate = TextOf(certificateText);
+  key = TextOf(keyText);
   std::array<unsigned char, EVP_MAX_MD_SIZE> digest = {};
   unsigned size = 0;
   Require(X509_digest(made.get(), EVP_sha256(), digest.data(), &size) == 1);

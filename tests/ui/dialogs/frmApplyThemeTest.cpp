@@ -33,7 +33,7 @@ class ApplyThemeForm : public testing::Test {
   void Open(const std::function<void(QWidget&)>& drive) {
     DriveModal([&] { desk.Trigger("menuOptionsApplyTheme"); }, drive);
   }
-  [[nodiscard]] const core::Project& Now() const { return desk.window->CurrentProject(); }
+  [[nodiscard]] const core::Project& Now() const { return desk.model->CurrentProject(); }
 
   fakes::MainDesk desk;
 };

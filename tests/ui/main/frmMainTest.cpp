@@ -124,7 +124,7 @@ TEST_F(MainWindow, TheEntriesForPhotographsAreSettingsOfTheProject) {
   desk.Trigger("menuOptionsUpright");
   EXPECT_EQ(desk.Settings().checkImagesUpright, 1);
   EXPECT_EQ(desk.Settings().checkImagesTrueColors, 0);
-  EXPECT_TRUE(desk.window->CurrentProject().IsModified);
+  EXPECT_TRUE(desk.model->CurrentProject().IsModified);
   desk.Trigger("menuOptionsTrueColors");
   desk.Trigger("menuOptionsUpright");
   EXPECT_EQ(desk.Settings().checkImagesUpright, 0);

@@ -11,19 +11,21 @@
 
 #include <gtest/gtest.h>
 
-namespace vantorium::ui {
+namespace vantorium::env {
 
-inline std::ostream& operator<<(std::ostream& stream, const env::Browser& browser) {
+inline std::ostream& operator<<(std::ostream& stream, const Browser& browser) {
   return stream << browser.Name << " at " << browser.Location;
 }
 
-namespace fakes {
+}  // namespace vantorium::env
+
+namespace vantorium::fakes {
 
 /// A user of frmAddBrowser: performs the next action of the script each time the dialog is shown, and cancels after the
 /// script's end.
-class ScriptedEntryDialog : public BrowserEntryDialog {
+class ScriptedEntryDialog : public ui::BrowserEntryDialog {
  public:
-  void Show(BrowserEntry& entry) override {
+  void Show(ui::BrowserEntry& entry) override {
     shown.push_back(entry.Title() + ": " + entry.Texts().Name + ", " + entry.Texts().Location);
     if (script.empty()) return entry.PressCancel();
     const auto act = script.front();
@@ -33,21 +35,23 @@ class ScriptedEntryDialog : public BrowserEntryDialog {
 
   /// The user types both texts and presses OK.
   void Types(const std::string& name, const std::string& location) {
-    script.emplace_back([=](BrowserEntry& entry) {
+    script.emplace_back([=](ui::BrowserEntry& entry) {
       entry.ChangeName(name);
       entry.ChangeLocation(location);
       entry.PressOK();
     });
   }
   void Cancels() {
-    script.emplace_back([](BrowserEntry& entry) { entry.PressCancel(); });
+    script.emplace_back([](ui::BrowserEntry& entry) { entry.PressCancel(); });
   }
 
   std::vector<std::string> shown;  ///< title and texts, each time the dialog was shown
-  std::deque<std::function<void(BrowserEntry&)>> script;
+  std::deque<std::function<void(ui::BrowserEntry&)>> script;
 };
 
-}  // namespace fakes
+}  // namespace vantorium::fakes
+
+namespace vantorium::ui {
 
 using Browsers = std::vector<env::Browser>;
 

@@ -124,22 +124,13 @@ struct MainModelDesk {
   ScriptedFileBrowser fileBrowser;
   ScriptedFolderBrowser folderBrowser;
   env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
-  ui::MainModel model{{paths,
-                       formats,
-                       files,
-                       boxes,
-                       loop,
-                       shell,
-                       clock,
-                       screen,
-                       texts,
+  ui::MainModel model{{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 1},
                        dialogs,
                        fileBrowser,
                        folderBrowser,
                        folder.Path() / "program",
                        bundled,
                        {3, 0, 1},
-                       1,
                        2121}};
   RecordingMainView view{calls};
   RecordingHelperWindows windows{calls};

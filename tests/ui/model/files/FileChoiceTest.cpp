@@ -17,9 +17,9 @@ class Choosing : public testing::Test {
   }
 
   FileChoice Choice(FileDialogRequest request) { return {std::move(request), files, boxes}; }
-  FileChoice OpenOne() { return core::Choice({.title = "Open"}); }
-  FileChoice OpenSeveral() { return core::Choice({.multiSelect = true, .title = "Add"}); }
-  FileChoice Save() { return core::Choice({.open = false, .title = "Save", .defaultExtension = "gpj"}); }
+  FileChoice OpenOne() { return Choice({.title = "Open"}); }
+  FileChoice OpenSeveral() { return Choice({.multiSelect = true, .title = "Add"}); }
+  FileChoice Save() { return Choice({.open = false, .title = "Save", .defaultExtension = "gpj"}); }
 
   fakes::TemporaryFolder disk;
   env::PathMap paths{{{'C', disk.Path().string()}}};
@@ -101,7 +101,7 @@ TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItEndsInIt) {
 }
 
 TEST_F(Choosing, ANameToOpenGetsItOnlyIfThereIsNoSuchFile) {
-  FileChoice choice = core::Choice({.defaultExtension = "gpj"});
+  FileChoice choice = Choice({.defaultExtension = "gpj"});
   ASSERT_EQ(choice.Ok("C:\\", "my"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\my.gpj");
   ASSERT_EQ(choice.Ok("C:\\photos", "README"), Step::Accept);

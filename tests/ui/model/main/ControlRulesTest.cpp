@@ -144,7 +144,7 @@ TEST(ControlRules, PlacementsFromTheThirdOnAreAboveOrBelow) {
     for (core::Choice placement = 0; placement <= 3; ++placement) {
       core::GalleryProject project;
       project.*list.placement = placement;
-      EXPECT_EQ(core::IsAboveOrBelow(list, project), placement >= 2) << placement;
+      EXPECT_EQ(IsAboveOrBelow(list, project), placement >= 2) << placement;
     }
   }
 }
