@@ -11,9 +11,9 @@ namespace {
 
 constexpr char kFolder[] = "themes";
 
-/// What a project says about its own images, and no other can take over.
+/// What a project says about its own images, such as the corrections of its photographs, and no other can take over.
 bool BelongsToTheImages(const ProjectField& field) {
-  return field.member == FieldMember(&GalleryProject::textGalleryTitle) ||
+  return field.hiddenWhileOff || field.member == FieldMember(&GalleryProject::textGalleryTitle) ||
          field.member == FieldMember(&GalleryProject::comboImagesSortingOrder);
 }
 

@@ -64,6 +64,17 @@ TEST_F(Theme, ImagesTheirTextsAndTheirOrderStay) {
   EXPECT_EQ(project.settings.checkImageWrapperImageSizesInPercent, 1);
 }
 
+TEST_F(Theme, CorrectionsOfThePhotographsStay) {
+  GalleryProject project;
+  project.checkImagesUpright = kOn;
+  ApplyTheme(project, GalleryProject());
+  EXPECT_EQ(project.checkImagesUpright, kOn);
+  GalleryProject theme;
+  theme.checkImagesTrueColors = kOn;
+  ApplyTheme(project, theme);
+  EXPECT_EQ(project.checkImagesTrueColors, kOff);
+}
+
 TEST_F(Theme, TheRulesBetweenSettingsHoldAfterwards) {
   ProjectFileParts slideshow;
   slideshow.layout = R"(<LAYOUT TYPE="singleframe"><SLIDESHOW/></LAYOUT>)";
