@@ -103,10 +103,10 @@ struct JPEGDecoder::State {
   jpeg_progress_mgr progress = {};
   jpeg_decompress_struct codec = {};
   std::vector<std::uint8_t> inks;      // one row, for CMYK and YCCK files
-  std::vector<std::uint8_t> unwanted;  // a row that could not be skipped
+  std::vector<std::uint8_t> unwanted;  // a row that cannot be skipped
   std::optional<WantedPixels> wanted;
-  std::unique_ptr<jpeg::SequentialDecoder> usual;  // decodes in the library's place as long as it is there
-  std::int32_t usualRows = 0;                      // so many rows it has passed
+  std::unique_ptr<jpeg::SequentialDecoder> usual;  // decodes instead of libjpeg-turbo while it is set
+  std::int32_t usualRows = 0;                      // rows that `usual` has read or skipped
 };
 
 void JPEGDecoder::State::Create() {
@@ -138,7 +138,7 @@ bool JPEGDecoder::State::IsWhole() const {
   return !errors.Damaged() && (!errors.EndedEarly() || HasEveryCoefficient(codec));
 }
 
-// Where the data begin that follow the header.
+// The file offset of the data after the header.
 off_t JPEGDecoder::State::DataPlace() const {
   return ::ftello(file.get()) - static_cast<off_t>(codec.src->bytes_in_buffer);
 }
@@ -214,7 +214,7 @@ bool JPEGDecoder::StartLibrary() {
   return state.RunPastReservedMarkers([&state] { jpeg_start_decompress(&state.codec); }) && state.IsWhole();
 }
 
-// The library still stands behind the header. What it would have made of the rows so far is the same.
+// libjpeg-turbo has read the header only. It would have made the same of the rows so far, so these are skipped.
 bool JPEGDecoder::TurnToLibrary() {
   State& state = *state_;
   state.usual.reset();
@@ -263,13 +263,17 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
   return done && rows == wanted && state.IsWhole();
 }
 
-// The data were seen to end well when the bottom row was read.
+// SequentialDecoder checks the end of the data before it returns the bottom row. jpeg_finish_decompress is not called:
+// it would free what IsWhole looks at.
 bool JPEGDecoder::Finish() {
   State& state = *state_;
   if (state.usual) return state.usualRows == height();
-  const bool complete = HasEveryCoefficient(state.codec);  // finishing frees what this looks at
-  return state.RunPastReservedMarkers([&state] { jpeg_finish_decompress(&state.codec); }) && !state.errors.Damaged() &&
-         (!state.errors.EndedEarly() || complete);
+  if (state.codec.output_scanline < state.codec.output_height) return false;
+  const auto readToEnd = [&state] {
+    while (jpeg_input_complete(&state.codec) == FALSE && jpeg_consume_input(&state.codec) != JPEG_SUSPENDED) {
+    }
+  };
+  return state.RunPastReservedMarkers(readToEnd) && state.IsWhole();
 }
 
 }  // namespace vantorium::image

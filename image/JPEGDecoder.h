@@ -45,9 +45,9 @@ class JPEGDecoder {
   [[nodiscard]] std::int32_t OutputWidth() const;
   [[nodiscard]] std::int32_t OutputHeight() const;
 
-  /// Between Open and Start: no more than these pixels are looked at, so the others may come out as anything, and only
-  /// wanted rows are read. Files of the usual kind are then decoded without the library, as long as nothing is wrong
-  /// with them. Not for a reduced picture.
+  /// Promises to use these pixels only: ReadRow may then write anything to the others, and the caller must skip all
+  /// other rows. This makes decoding of usual files much faster (jpeg/SequentialDecoder.h). Call between Open and
+  /// Start. ReduceBy does not support it.
   void Want(WantedPixels wanted);
 
   [[nodiscard]] bool Start();

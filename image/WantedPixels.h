@@ -5,7 +5,7 @@
 
 namespace vantorium::image {
 
-/// The pixels that are looked at: those of the marked columns in the marked rows. Rows are counted from the top.
+/// The pixels that are used: those in both a marked column and a marked row. Rows are counted from the top.
 struct WantedPixels {
   WantedPixels(std::int32_t width, std::int32_t height)
       : columns(static_cast<std::size_t>(width)), rows(static_cast<std::size_t>(height)) {}

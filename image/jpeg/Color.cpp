@@ -12,14 +12,14 @@ namespace {
 constexpr int kMiddle = 128;
 constexpr int kHalf = 1 << 15;
 
-// The factors of blue and red chroma, with 16 bits behind the point.
+// The factors of blue and red chroma, with 16 fractional bits.
 constexpr int kBlueOfBlue = 116130;
 constexpr int kGreenOfBlue = -22554;
 constexpr int kGreenOfRed = -46802;
 constexpr int kRedOfRed = 91881;
 
-// What is added before sixteenths are cut off, in columns of even and of odd numbers: halves go down in one and up in
-// the other.
+// Added to a sum of sixteenths before these are cut off, in even and in odd columns. libjpeg-turbo rounds halves down
+// in one and up in the other.
 struct Bias {
   int even;
   int odd;
@@ -37,10 +37,16 @@ void WritePixel(int luminance, int blue, int red, std::uint8_t* bgr) {
   bgr[2] = Byte(luminance + ((kRedOfRed * red + kHalf) >> 16));
 }
 
-// Three parts of the nearest sample and one of the next, down and across.
-int Smooth(const ChromaRows& rows, Bias bias, std::size_t x, std::size_t last) {
-  const auto down = [&](std::size_t column) { return 3 * rows.own[column] + rows.beside[column]; };
-  return (3 * down(x / 2) + down(Beside(x, last)) + (x % 2 == 0 ? bias.even : bias.odd)) >> 4;
+Bias BiasOf(Chroma chroma) {
+  return chroma == Chroma::HalfWidth ? Bias{4, 8} : Bias{8, 7};
+}
+
+// Three parts of the nearest sample and one of the next, vertically and horizontally. Where both are the same sample,
+// the result is this sample.
+int Smooth(const ChromaRows& rows, const ChromaAxis& columns, Bias bias, std::size_t x) {
+  const auto vertical = [&](std::size_t column) { return 3 * rows.own[column] + rows.beside[column]; };
+  const int sum = 3 * vertical(columns.Own(x)) + vertical(columns.Beside(x));
+  return (sum + (x % 2 == 0 ? bias.even : bias.odd)) >> 4;
 }
 
 #ifdef __x86_64__
@@ -57,17 +63,17 @@ __m128i Thrice(__m128i values) {
   return _mm_add_epi16(values, _mm_add_epi16(values, values));
 }
 
-// Eight samples from an even column on, which is not the first.
+// Eight samples that begin at an even column other than the first.
 __m128i EightSmooth(const ChromaRows& rows, Bias bias, std::size_t x) {
   const std::size_t left = x / 2 - 1;
-  const __m128i down = _mm_add_epi16(Thrice(EightSamples(rows.own + left)), EightSamples(rows.beside + left));
-  const __m128i near = Thrice(_mm_srli_si128(down, 2));
-  const __m128i even = _mm_add_epi16(_mm_add_epi16(near, down), Eight(bias.even));
-  const __m128i odd = _mm_add_epi16(_mm_add_epi16(near, _mm_srli_si128(down, 4)), Eight(bias.odd));
+  const __m128i vertical = _mm_add_epi16(Thrice(EightSamples(rows.own + left)), EightSamples(rows.beside + left));
+  const __m128i near = Thrice(_mm_srli_si128(vertical, 2));
+  const __m128i even = _mm_add_epi16(_mm_add_epi16(near, vertical), Eight(bias.even));
+  const __m128i odd = _mm_add_epi16(_mm_add_epi16(near, _mm_srli_si128(vertical, 4)), Eight(bias.odd));
   return _mm_srli_epi16(_mm_unpacklo_epi16(even, odd), 4);
 }
 
-// The rounded product with a factor of less than a half.
+// The rounded product with a factor whose absolute value is less than a half.
 __m128i Part(__m128i values, int factor) {
   const __m128i twice = _mm_mulhi_epi16(_mm_add_epi16(values, values), Eight(factor));
   return _mm_srai_epi16(_mm_add_epi16(twice, Eight(1)), 1);
@@ -82,16 +88,15 @@ __m128i GreenPart(__m128i blue, __m128i red) {
   return _mm_sub_epi16(sums, red);
 }
 
-// Four pixels of four bytes each, the last of which is 0.
-void WriteWithoutFourth(__m128i pixels, std::uint8_t* bgr) {
-  for (int i = 0; i < 2; ++i, pixels = _mm_srli_si128(pixels, 8), bgr += 6) {
-    const auto two = static_cast<std::uint64_t>(_mm_cvtsi128_si64(pixels));
-    const std::uint64_t bytes = (two & 0xFFFFFF) | (two >> 32 << 24);
-    std::memcpy(bgr, &bytes, sizeof bytes);
+// Takes four pixels of four bytes each, the last of which is 0, and writes one byte too many.
+void WriteFourPixels(__m128i pixels, std::uint8_t* bgr) {
+  for (int i = 0; i < 4; ++i, pixels = _mm_srli_si128(pixels, 4), bgr += 3) {
+    const int pixel = _mm_cvtsi128_si32(pixels);
+    std::memcpy(bgr, &pixel, sizeof pixel);
   }
 }
 
-// Eight pixels, and two bytes behind them.
+// Writes eight pixels and the byte that follows them.
 void WriteEightPixels(const std::uint8_t* samples, __m128i blue, __m128i red, std::uint8_t* bgr) {
   const __m128i luminance = EightSamples(samples);
   blue = _mm_sub_epi16(blue, Eight(kMiddle));
@@ -104,78 +109,49 @@ void WriteEightPixels(const std::uint8_t* samples, __m128i blue, __m128i red, st
   };
   const __m128i bg = _mm_unpacklo_epi8(bytes(b), bytes(GreenPart(blue, red)));
   const __m128i r0 = _mm_unpacklo_epi8(bytes(r), _mm_setzero_si128());
-  WriteWithoutFourth(_mm_unpacklo_epi16(bg, r0), bgr);
-  WriteWithoutFourth(_mm_unpackhi_epi16(bg, r0), bgr + 12);
+  WriteFourPixels(_mm_unpacklo_epi16(bg, r0), bgr);
+  WriteFourPixels(_mm_unpackhi_epi16(bg, r0), bgr + 12);
+}
+
+// Writes eight pixels if these can be made at once.
+bool WriteEight(const SampleRows& rows, Bias bias, std::size_t x, std::size_t end, std::uint8_t* bgr) {
+  // The byte that follows the eight pixels belongs to a pixel that is written next.
+  if (x + 8 >= end || (rows.columns.half && (x == 0 || x % 2 != 0))) return false;
+  const auto samples = [&](const ChromaRows& chroma) {
+    return rows.columns.half ? EightSmooth(chroma, bias, x) : EightSamples(chroma.own + x);
+  };
+  WriteEightPixels(rows.luminance + x, samples(rows.blue), samples(rows.red), bgr);
+  return true;
+}
+
+#else
+
+bool WriteEight(const SampleRows&, Bias, std::size_t, std::size_t, std::uint8_t*) {
+  return false;
 }
 
 #endif
 
-struct FullChroma {
-  const SampleRows& rows;
-
-  void WriteOne(std::size_t x, std::uint8_t* bgr) const {
-    WritePixel(rows.luminance[x], rows.blue.own[x], rows.red.own[x], bgr);
-  }
-#ifdef __x86_64__
-  [[nodiscard]] static bool MayBeginEight(std::size_t) {
-    return true;
-  }
-  void WriteEight(std::size_t x, std::uint8_t* bgr) const {
-    WriteEightPixels(rows.luminance + x, EightSamples(rows.blue.own + x), EightSamples(rows.red.own + x), bgr);
-  }
-#endif
-};
-
-struct SmoothChroma {
-  const SampleRows& rows;
-  Bias bias;
-
-  void WriteOne(std::size_t x, std::uint8_t* bgr) const {
-    WritePixel(rows.luminance[x], Smooth(rows.blue, bias, x, rows.lastChroma),
-               Smooth(rows.red, bias, x, rows.lastChroma), bgr);
-  }
-#ifdef __x86_64__
-  [[nodiscard]] static bool MayBeginEight(std::size_t x) {
-    return x % 2 == 0 && x > 0;
-  }
-  void WriteEight(std::size_t x, std::uint8_t* bgr) const {
-    WriteEightPixels(rows.luminance + x, EightSmooth(rows.blue, bias, x), EightSmooth(rows.red, bias, x), bgr);
-  }
-#endif
-};
-
-template <typename Source>
-void Write(const Source& source, std::size_t begin, std::size_t end, std::uint8_t* bgr) {
-  for (std::size_t x = begin; x < end;) {
-#ifdef __x86_64__
-    // The bytes behind are those of a pixel that follows.
-    if (x + 8 < end && Source::MayBeginEight(x)) {
-      source.WriteEight(x, bgr + 3 * x);
-      x += 8;
-      continue;
-    }
-#endif
-    source.WriteOne(x, bgr + 3 * x);
-    ++x;
-  }
+void WriteOne(const SampleRows& rows, Bias bias, std::size_t x, std::uint8_t* bgr) {
+  const auto sample = [&](const ChromaRows& chroma) { return Smooth(chroma, rows.columns, bias, x); };
+  WritePixel(rows.luminance[x], sample(rows.blue), sample(rows.red), bgr);
 }
 
 }  // namespace
 
 void WritePixels(const SampleRows& rows, Chroma chroma, std::size_t begin, std::size_t end, std::uint8_t* bgr) {
-  switch (chroma) {
-    case Chroma::None:
-      for (std::size_t x = begin; x < end; ++x) std::fill_n(bgr + 3 * x, 3, rows.luminance[x]);
-      break;
-    case Chroma::Full:
-      Write(FullChroma{rows}, begin, end, bgr);
-      break;
-    case Chroma::HalfWidth:
-      Write(SmoothChroma{rows, {4, 8}}, begin, end, bgr);
-      break;
-    case Chroma::HalfBoth:
-      Write(SmoothChroma{rows, {8, 7}}, begin, end, bgr);
-      break;
+  if (chroma == Chroma::None) {
+    for (std::size_t x = begin; x < end; ++x) std::fill_n(bgr + 3 * x, 3, rows.luminance[x]);
+    return;
+  }
+  const Bias bias = BiasOf(chroma);
+  for (std::size_t x = begin; x < end;) {
+    if (WriteEight(rows, bias, x, end, bgr + 3 * x)) {
+      x += 8;
+    } else {
+      WriteOne(rows, bias, x, bgr + 3 * x);
+      ++x;
+    }
   }
 }
 

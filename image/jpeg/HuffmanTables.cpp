@@ -7,12 +7,12 @@ namespace {
 
 constexpr unsigned kSixteenZeros = 0xF0;
 
-// A run without a value ends the block, however long it says to be, unless it is of sixteen zeros.
+// A symbol without value bits ends the block, whatever its run of zeros, unless it means sixteen zeros.
 unsigned MoveOf(unsigned symbol) {
   return symbol % 16 == 0 && symbol != kSixteenZeros ? kEndOfBlock : symbol / 16 + 1;
 }
 
-// Values whose first bit is 0 are negative.
+// A value whose first bit is 0 is negative.
 int ValueOf(unsigned bits, unsigned size) {
   const unsigned first = size == 0 ? 0 : 1U << (size - 1);
   return static_cast<int>(bits) - (bits < first ? static_cast<int>(2 * first - 1) : 0);
@@ -28,7 +28,7 @@ bool HuffmanCode::Set(const JHUFF_TBL& table) {
     shift_[length] = count_ - code;
     code += table.bits[length];
     count_ += table.bits[length];
-    // No code is all ones.
+    // The code of all ones is reserved.
     if (table.bits[length] > 0 && code >= 1U << length) return false;
     limit_[length] = code << (16 - length);
   }
@@ -69,7 +69,7 @@ SkipTable::SkipTable(const HuffmanCode& code) : code_(code), entries_(std::size_
   for (std::size_t index = 0; index < entries_.size(); ++index) entries_[index] = EntryOf(static_cast<unsigned>(index));
 }
 
-// The bits of a last value need not be in the index.
+// The value bits of the last symbol may lie beyond the index: only their number matters.
 std::uint16_t SkipTable::EntryOf(unsigned index) const {
   const std::uint64_t bits = std::uint64_t{index} << (64 - kIndexBits);
   unsigned length = 0;

@@ -12,58 +12,57 @@
 
 namespace vantorium::image::jpeg {
 
-// Within a block, `k` is the place of the last coefficient that was read, in the order of the file: 0 is the first one,
-// 63 the last. Every symbol moves it on. The end of a block moves it to 128 and more, a code that there is none of to
-// 192 and more.
+// Within a block, `k` is the index of the last coefficient read, in zigzag order: 0 is the DC coefficient, 63 the last.
+// Each symbol advances it. The end-of-block symbol advances it to 128 or more, an invalid code to 192 or more.
 inline constexpr unsigned kLastPlace = 63;
 inline constexpr unsigned kEndOfBlock = 128;
 inline constexpr unsigned kBadCode = 255;
 
-/// Whether the last symbol of a block left `k` where a block may end.
+/// Whether a valid block may end at `k`.
 [[nodiscard]] inline bool EndsWell(unsigned k) {
   return k == kLastPlace || k / 64 == kEndOfBlock / 64;
 }
 
-/// What a code and the bits of its value say.
+/// A decoded Huffman code with the value bits that follow it.
 struct Symbol {
-  unsigned length;  ///< bits of both
-  unsigned move;    ///< how far it moves `k`
-  int value;        ///< of the coefficient there
+  unsigned length;  ///< bits of the code and the value
+  unsigned move;    ///< how far it advances `k`
+  int value;        ///< the coefficient
 };
 
-/// The codes of one table.
+/// The codes of one Huffman table.
 class HuffmanCode {
  public:
-  /// False when there are no such codes.
+  /// Returns false if the code lengths do not form a valid prefix code.
   [[nodiscard]] bool Set(const JHUFF_TBL& table);
   [[nodiscard]] bool HasSymbolsAbove(unsigned symbol) const;
 
-  /// The code that begins with the highest of 64 bits; length 0 for none.
+  /// Finds the code at the top of `bits`. Returns length 0 if there is none.
   struct Code {
     unsigned length;
     unsigned symbol;
   };
   [[nodiscard]] Code Find(std::uint64_t bits) const;
-  /// The same with its value. At least 31 bits are known.
+  /// Decodes the code at the top of `bits` and its value. At least 31 bits must be valid.
   [[nodiscard]] Symbol Read(std::uint64_t bits) const;
 
  private:
-  std::array<std::uint32_t, 17> limit_ = {};  // codes of this length are below, in 16 bits
-  std::array<std::uint32_t, 17> shift_ = {};  // what makes a code's number of it
+  std::array<std::uint32_t, 17> limit_ = {};  // codes of this length, left-aligned in 16 bits, are below this
+  std::array<std::uint32_t, 17> shift_ = {};  // added to a code of this length gives the index of its symbol
   std::array<std::uint8_t, 256> symbols_ = {};
   unsigned count_ = 0;
 };
 
-/// Reads symbols with their values: those that are not longer than the index at one go.
+/// Decodes symbols with their values, by one table lookup if code and value are short.
 class ValueTable {
  public:
   explicit ValueTable(const HuffmanCode& code);
-  /// The window holds at least 31 bits.
+  /// Returns the next symbol without consuming it. The window must hold at least 31 bits.
   [[nodiscard]] Symbol Read(const BitWindow& window) const {
     const Symbol symbol = ReadShort(window);
     return symbol.length != 0 ? symbol : code_.Read(window.Bits());
   }
-  /// The window holds at least 12 bits. Length 0 for what is longer.
+  /// The same for a symbol of up to 11 bits; returns length 0 for longer ones. The window must hold at least 11 bits.
   [[nodiscard]] Symbol ReadShort(const BitWindow& window) const {
     const std::uint32_t entry = entries_[window.Peek(kIndexBits)];
     return {entry & 0xFF, entry >> 8 & 0xFF, static_cast<std::int32_t>(entry) >> 16};
@@ -73,14 +72,14 @@ class ValueTable {
   static constexpr unsigned kIndexBits = 11;
 
   HuffmanCode code_;
-  std::vector<std::uint32_t> entries_;  // value, move, length; 0 for what is longer
+  std::vector<std::uint32_t> entries_;  // value, move, length; 0 for symbols longer than the index
 };
 
-/// Passes over the coefficients of a block without their values, several symbols at a time.
+/// Skips the coefficients of a block without decoding their values, several symbols in one lookup.
 class SkipTable {
  public:
   explicit SkipTable(const HuffmanCode& code);
-  /// Passes over what follows the first coefficient of a block. Where `k` is then.
+  /// Consumes the AC coefficients of a block and returns the `k` at which they end.
   [[nodiscard]] unsigned Skip(BitWindow& window) const {
     unsigned k = 0;
     do {
@@ -95,7 +94,7 @@ class SkipTable {
  private:
   static constexpr unsigned kIndexBits = 12;
 
-  // The window holds 56 bits, then at least 30.
+  // A refill leaves 56 bits, and the first of two lookups consumes at most 26 of them.
   [[nodiscard]] unsigned Pass(BitWindow& window, unsigned k) const {
     unsigned entry = entries_[window.Peek(kIndexBits)];
     if (entry == 0 || !MayBePassed(k + (entry >> 8))) [[unlikely]]
@@ -103,13 +102,14 @@ class SkipTable {
     window.Drop(entry & 0xFF);
     return entry >> 8;
   }
-  // An entry may hold symbols of the next block when the last place was reached before its last symbol.
+  // An entry is not usable if a symbol before its last one reached the end of the block: the rest belongs to the next
+  // block.
   static bool MayBePassed(unsigned k) { return k <= kLastPlace || k - kEndOfBlock < kLastPlace; }
   [[nodiscard]] std::uint16_t EntryOf(unsigned index) const;
   [[nodiscard]] unsigned PassSingly(std::uint64_t bits) const;
 
   HuffmanCode code_;
-  std::vector<std::uint16_t> entries_;  // move, length; 0 where the first code is longer
+  std::vector<std::uint16_t> entries_;  // move, length; 0 if the first code is longer than the index
 };
 
 }  // namespace vantorium::image::jpeg

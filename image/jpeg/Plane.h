@@ -6,21 +6,21 @@
 
 namespace vantorium::image::jpeg {
 
-/// How the blocks of a scan are grouped: the groups follow one another from left to right in rows from the top.
-struct GroupGrid {
-  std::size_t groupsInRow;
+/// The MCUs of a scan, in rows from the top.
+struct MCUGrid {
+  std::size_t perRow;
   std::size_t rows;
 };
 
-/// The samples of one component, as far as they are wanted, of the last two rows of groups that were decoded.
+/// The wanted samples of one component. Keeps those of the last two rows of MCUs that were decoded.
 class Plane {
  public:
-  /// Each group has `across` times `down` blocks of the component.
-  Plane(const GroupGrid& grid, std::size_t across, std::size_t down)
+  /// An MCU has `across` times `down` blocks of this component.
+  Plane(const MCUGrid& grid, std::size_t across, std::size_t down)
       : across_(across),
         down_(down),
-        stride_(grid.groupsInRow * across * 8),
-        wantedColumns_(grid.groupsInRow * across),
+        stride_(grid.perRow * across * 8),
+        wantedColumns_(grid.perRow * across),
         wantedRows_(grid.rows * down),
         samples_(stride_ * down * 16 + kRoom) {}
 
@@ -32,19 +32,19 @@ class Plane {
   [[nodiscard]] std::size_t Across() const { return across_; }
   [[nodiscard]] std::size_t Down() const { return down_; }
   [[nodiscard]] std::size_t Stride() const { return stride_; }
-  /// For each column of blocks whether a sample of it is wanted.
+  /// For each column of blocks, whether any of its samples is wanted.
   [[nodiscard]] const std::uint8_t* WantedColumns() const { return wantedColumns_.data(); }
-  /// Which rows of a row of blocks are wanted, the top one in the lowest bit.
+  /// The wanted rows of samples in a row of blocks: a bit each, the top row in the lowest.
   [[nodiscard]] unsigned WantedRows(std::size_t blockRow) const { return wantedRows_[blockRow]; }
-  /// The row of groups that a row of samples lies in.
-  [[nodiscard]] std::size_t GroupRowOf(std::size_t row) const { return row / (8 * down_); }
+  /// The row of MCUs that contains a row of samples.
+  [[nodiscard]] std::size_t MCURowOf(std::size_t row) const { return row / (8 * down_); }
   [[nodiscard]] std::uint8_t* Row(std::size_t row) { return samples_.data() + row % (16 * down_) * stride_; }
   [[nodiscard]] const std::uint8_t* Row(std::size_t row) const {
     return samples_.data() + row % (16 * down_) * stride_;
   }
 
  private:
-  static constexpr std::size_t kRoom = 8;  // what is read at a time may reach behind the last row
+  static constexpr std::size_t kRoom = 8;  // vector loads may read beyond the last row
 
   std::size_t across_;
   std::size_t down_;

@@ -35,7 +35,7 @@ int ScanData::NextFileByte() {
   return file_[taken_++];
 }
 
-// At a byte FF.
+// The next byte is FF.
 void ScanData::TakeMarkerOrByte() {
   ++taken_;
   const int second = NextFileByte();
@@ -63,7 +63,7 @@ void ScanData::TakePiece() {
   if (found != nullptr) TakeMarkerOrByte();
 }
 
-// Each piece adds at most kPiece bytes.
+// Each piece adds at most kPiece bytes, so the buffer is large enough.
 void ScanData::Fill() {
   while (!whole_ && size_ < kPiece) TakePiece();
   std::memset(data_.data() + size_, 0, kRoom);

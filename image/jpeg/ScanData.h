@@ -8,28 +8,28 @@
 
 namespace vantorium::image::jpeg {
 
-/// The entropy-coded data of a scan, piece by piece as they are needed, without the zeros that are stuffed behind each
-/// byte FF. They come in segments that end at a marker.
+/// Reads the entropy-coded data of a scan from a file, a piece at a time, and removes the zero stuffed behind each byte
+/// FF. A marker ends a segment; restart markers separate the segments of a scan.
 class ScanData {
  public:
-  /// So many zeros stand behind the end of a segment, and a piece that does not end one is made longer while no fewer
-  /// bytes are left of it. More than one group of blocks can take.
+  /// More bytes than an MCU can consume. As many zeros follow the end of a segment, so an MCU that begins within the
+  /// segment never reads beyond the buffer. Ask for more data before fewer than these are left of an unfinished one.
   static constexpr std::ptrdiff_t kRoom = 4096;
 
-  /// The data begin at `place` of the file `descriptor`, which must stay open.
+  /// The data begin at offset `place` of the file `descriptor`, which must stay open.
   ScanData(int descriptor, off_t place);
 
   [[nodiscard]] const std::uint8_t* Begin() const { return data_.data(); }
-  /// The end of what is known of the segment.
+  /// The end of what was read of the segment.
   [[nodiscard]] const std::uint8_t* End() const { return data_.data() + size_; }
-  /// Whether that is the end of the segment.
+  /// Whether the segment was read to its end.
   [[nodiscard]] bool IsWhole() const { return whole_; }
-  /// The second byte of the marker behind a whole segment; 0 where the file ended or could not be read.
+  /// The second byte of the marker that ends a whole segment; 0 if the file ended or could not be read.
   [[nodiscard]] std::uint8_t Marker() const { return marker_; }
 
-  /// Gives up the data before `unread` and makes more of them known. Where `unread` stands from now on.
+  /// Discards the data before `unread` and reads more. Returns the new address of what `unread` pointed to.
   const std::uint8_t* More(const std::uint8_t* unread);
-  /// Begins the segment behind the marker.
+  /// Reads the beginning of the segment that follows the marker.
   void BeginNextSegment();
 
  private:
@@ -41,7 +41,7 @@ class ScanData {
 
   int descriptor_;
   off_t place_;
-  std::vector<std::uint8_t> file_;  // as the file has them
+  std::vector<std::uint8_t> file_;  // bytes as in the file
   std::size_t taken_ = 0;
   std::size_t read_ = 0;
   std::vector<std::uint8_t> data_;

@@ -9,27 +9,27 @@ namespace {
 constexpr unsigned kFirstRestart = 0xD0;
 constexpr unsigned kEndOfImage = 0xD9;
 
-bool ReadFirst(BitWindow& window, ScanComponent& component) {
+bool ReadDC(BitWindow& window, ScanComponent& component) {
   window.Refill();
-  const Symbol symbol = component.first->Read(window);
+  const Symbol symbol = component.codes->dc.Read(window);
   window.Drop(symbol.length);
   component.prediction += static_cast<unsigned>(symbol.value);
   return symbol.move != kBadCode;
 }
 
-// The window stays in registers as long as it is a variable of the function that reads.
+// A local copy of the window stays in registers.
 bool SkipBlock(BitWindow& shared, ScanComponent& component) {
   BitWindow window = shared;
-  if (!ReadFirst(window, component)) return false;
-  const unsigned k = component.skipped->Skip(window);
+  if (!ReadDC(window, component)) return false;
+  const unsigned k = component.codes->acSkip.Skip(window);
   shared = window;
   return EndsWell(k);
 }
 
-// The sum of the absolute coefficients; above every limit for a block that is not as it should be.
+// Returns the sum of the absolute coefficients, or more than kMostSum if the block is invalid.
 int ReadBlock(BitWindow& shared, ScanComponent& component, Block& block) {
   BitWindow window = shared;
-  if (!ReadFirst(window, component)) return kMostSum + 1;
+  if (!ReadDC(window, component)) return kMostSum + 1;
   Clear(block);
   int sum = 0;
   const auto put = [&](unsigned k, int value) {
@@ -39,7 +39,7 @@ int ReadBlock(BitWindow& shared, ScanComponent& component, Block& block) {
   };
   put(0, static_cast<std::int16_t>(component.prediction));
   unsigned k = 0;
-  const ValueTable& table = *component.others;
+  const ValueTable& table = component.codes->ac;
   const auto take = [&](const Symbol& symbol) {
     window.Drop(symbol.length);
     k += symbol.move;
@@ -48,7 +48,7 @@ int ReadBlock(BitWindow& shared, ScanComponent& component, Block& block) {
   while (k < kLastPlace) {
     window.Refill();
     take(table.Read(window));
-    // What is left of the window is enough for a short one, or for two.
+    // The window still holds enough bits for two short symbols.
     for (int i = 0; i < 2 && k < kLastPlace; ++i) {
       const Symbol symbol = table.ReadShort(window);
       if (symbol.length == 0) break;
@@ -61,33 +61,33 @@ int ReadBlock(BitWindow& shared, ScanComponent& component, Block& block) {
 
 }  // namespace
 
-/// One column of blocks within the groups of a row.
+/// The blocks at one position within the MCUs of a row.
 struct ScanWalk::Lane {
   ScanComponent* component;
-  const std::uint8_t* wanted;  // for the block of the first group; as that of the samples
+  const std::uint8_t* wanted;  // the mark of the first MCU's block
   std::uint8_t* samples;
-  std::size_t step;  // blocks from one group to the next
+  std::size_t step;  // in blocks, from one MCU to the next
   std::size_t stride;
   unsigned rows;
 
-  [[nodiscard]] bool Pass(BitWindow& window, std::size_t group) const {
-    if (rows == 0 || wanted[group * step] == 0) return SkipBlock(window, *component);
+  [[nodiscard]] bool Pass(BitWindow& window, std::size_t mcu) const {
+    if (rows == 0 || wanted[mcu * step] == 0) return SkipBlock(window, *component);
     Block block;
     const int sum = ReadBlock(window, *component, block);
     if (sum > kMostSum || (sum > kTameSum && !IsTame(block, rows))) return false;
-    TransformRows(block, rows, samples + group * step * 8, stride);
+    TransformRows(block, rows, samples + mcu * step * 8, stride);
     return true;
   }
 };
 
-ScanWalk::ScanWalk(ScanData data, GroupGrid grid, unsigned restartInterval, std::vector<ScanComponent> components)
+ScanWalk::ScanWalk(ScanData data, MCUGrid grid, unsigned restartInterval, std::vector<ScanComponent> components)
     : data_(std::move(data)),
       grid_(grid),
       restartInterval_(restartInterval),
       components_(std::move(components)),
       window_(data_.Begin()),
       limit_(data_.Begin()),
-      groupsToRestart_(restartInterval) {}
+      untilRestart_(restartInterval) {}
 
 std::vector<ScanWalk::Lane> ScanWalk::LanesOfRow() {
   std::vector<Lane> lanes;
@@ -104,7 +104,7 @@ std::vector<ScanWalk::Lane> ScanWalk::LanesOfRow() {
   return lanes;
 }
 
-// The limit lies at the begin of the data at first, and wherever their end is not known yet.
+// At the start of a segment the limit is its first byte, so the first MCU comes here, too.
 BitWindow ScanWalk::Extended(BitWindow window) {
   if (!data_.IsWhole()) window.MoveTo(data_.More(window.Next()));
   limit_ = data_.End() - (data_.IsWhole() ? 0 : ScanData::kRoom);
@@ -120,20 +120,20 @@ bool ScanWalk::EndsSegment(BitWindow window, unsigned marker) {
 bool ScanWalk::PassRestart(BitWindow window) {
   if (!EndsSegment(window, kFirstRestart + restarts_ % 8)) return false;
   ++restarts_;
-  groupsToRestart_ = restartInterval_;
+  untilRestart_ = restartInterval_;
   for (ScanComponent& component : components_) component.prediction = 0;
   data_.BeginNextSegment();
   limit_ = data_.Begin();
   return true;
 }
 
-bool ScanWalk::PassGroup(BitWindow& window, const std::vector<Lane>& lanes, std::size_t group) {
+bool ScanWalk::PassMCU(BitWindow& window, const std::vector<Lane>& lanes, std::size_t mcu) {
   if (window.Next() >= limit_) {
     window = Extended(window);
     if (window.BitsBefore(data_.End()) < 0) return false;
   }
   for (const Lane& lane : lanes) {
-    if (!lane.Pass(window, group)) return false;
+    if (!lane.Pass(window, mcu)) return false;
   }
   return true;
 }
@@ -141,16 +141,16 @@ bool ScanWalk::PassGroup(BitWindow& window, const std::vector<Lane>& lanes, std:
 bool ScanWalk::PassRow() {
   const std::vector<Lane> lanes = LanesOfRow();
   BitWindow window = window_;
-  for (std::size_t group = 0; group < grid_.groupsInRow; ++group) {
-    if (restartInterval_ != 0 && groupsToRestart_-- == 0) {
+  for (std::size_t mcu = 0; mcu < grid_.perRow; ++mcu) {
+    if (restartInterval_ != 0 && untilRestart_-- == 0) {
       if (!PassRestart(window)) return false;
-      --groupsToRestart_;
+      --untilRestart_;
       window = BitWindow(data_.Begin());
     }
-    if (!PassGroup(window, lanes, group)) return false;
+    if (!PassMCU(window, lanes, mcu)) return false;
   }
   window_ = window;
-  // The last group was seen to begin within the data, not to end there.
+  // PassMCU checks that an MCU begins within the data; whether the last one also ends there is checked here.
   if (window.BitsBefore(data_.End()) < 0) return false;
   return ++rowsPassed_ < grid_.rows || EndsSegment(window, kEndOfImage);
 }

@@ -13,24 +13,30 @@
 
 namespace vantorium::image::jpeg {
 
-/// A component on its way through the scan.
-struct ScanComponent {
-  Plane plane;
-  std::array<int, 64> steps;  ///< the quantization table, at most 255, in the order of the file
-  std::shared_ptr<const ValueTable> first;
-  std::shared_ptr<const ValueTable> others;
-  std::shared_ptr<const SkipTable> skipped;
-  unsigned prediction = 0;  ///< of the first coefficient; wraps
+/// The Huffman codes of DC and AC coefficients.
+struct CodeTables {
+  ValueTable dc;
+  ValueTable ac;
+  SkipTable acSkip;
 };
 
-/// Walks through the blocks of a scan, row of groups after row of groups, and makes the wanted samples. Whatever is not
-/// as it is in nearly every file ends it; the samples made so far are right all the same.
+/// What decoding a component needs, and its samples.
+struct ScanComponent {
+  Plane plane;
+  std::array<int, 64> steps;                ///< the quantization table in zigzag order; each step is at most 255
+  std::shared_ptr<const CodeTables> codes;  ///< shared by components that use the same tables of the file
+  unsigned prediction = 0;                  ///< of the DC coefficient; wraps
+};
+
+/// Decodes a scan, one row of MCUs at a time, into the wanted samples. Stops at anything unusual in the data; the rows
+/// decoded until then are right nevertheless.
 class ScanWalk {
  public:
-  ScanWalk(ScanData data, GroupGrid grid, unsigned restartInterval, std::vector<ScanComponent> components);
+  ScanWalk(ScanData data, MCUGrid grid, unsigned restartInterval, std::vector<ScanComponent> components);
 
   [[nodiscard]] std::size_t RowsPassed() const { return rowsPassed_; }
-  /// Goes through the next row of groups. Behind the last one the data must end as they should.
+  /// Decodes the next row of MCUs. Returns false if the data are unusual; after the last row they must end at the end
+  /// marker.
   [[nodiscard]] bool PassRow();
   [[nodiscard]] const Plane& PlaneOf(std::size_t component) const { return components_[component].plane; }
 
@@ -38,19 +44,19 @@ class ScanWalk {
   struct Lane;
 
   [[nodiscard]] std::vector<Lane> LanesOfRow();
-  [[nodiscard]] bool PassGroup(BitWindow& window, const std::vector<Lane>& lanes, std::size_t group);
+  [[nodiscard]] bool PassMCU(BitWindow& window, const std::vector<Lane>& lanes, std::size_t mcu);
   [[nodiscard]] BitWindow Extended(BitWindow window);
   [[nodiscard]] bool EndsSegment(BitWindow window, unsigned marker);
   [[nodiscard]] bool PassRestart(BitWindow window);
 
   ScanData data_;
-  GroupGrid grid_;
+  MCUGrid grid_;
   unsigned restartInterval_;
   std::vector<ScanComponent> components_;
   BitWindow window_;
-  const std::uint8_t* limit_;  // a group that begins before it has all its data
+  const std::uint8_t* limit_;  // an MCU that begins before it has all its data in the buffer
   std::size_t rowsPassed_ = 0;
-  unsigned groupsToRestart_;
+  unsigned untilRestart_;
   unsigned restarts_ = 0;
 };
 

@@ -1,50 +1,63 @@
 #pragma once
 
 #include "image/WantedPixels.h"
+#include "image/jpeg/UsualFile.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 #include <jpeglib.h>
 #include <sys/types.h>
 
 namespace vantorium::image::jpeg {
 
-/// Decodes the wanted pixels of JPEG files of the usual kind, much faster than the library and with the same outcome to
-/// the last bit: one sequential scan of Huffman codes, 8 bits a sample, grey or YCbCr with chroma of full size, half
-/// the width, or half the width and height. Blocks without a wanted pixel are only passed over, and of the others only
-/// the wanted rows are transformed.
+/// Decodes the wanted pixels of usual JPEG files, much faster than libjpeg-turbo and to the same bytes. A usual file
+/// has one sequential Huffman-coded scan, 8 bits per sample, and gray or YCbCr colors with chroma of full size, half
+/// the width, or half the width and height. Blocks without wanted pixels are skipped; in the others only the wanted
+/// rows are transformed.
 ///
-/// It knows files that are as nearly all are, and gives up on the first byte that is not. The library then decides
-/// what the file is worth.
+/// It gives up on the first unusual byte, without deciding whether the file is damaged: libjpeg-turbo must decode such
+/// a file.
 class SequentialDecoder {
  public:
-  /// Whether it is the faster one on this processor. In plain C++ it is not: the library has vectors for most.
+  /// Whether it is faster than libjpeg-turbo on this processor. Without vector instructions it is not.
 #ifdef __x86_64__
   static constexpr bool kIsFaster = true;
 #else
   static constexpr bool kIsFaster = false;
 #endif
 
-  /// For the file whose header, up to the data of its first scan, the library has read. The data begin at `place`. Null
-  /// when the file is of another kind.
+  /// Returns a decoder for the file `descriptor`, which must stay open, or null if the file is not a usual one.
+  /// `header` was read by jpeg_read_header; the data of the first scan begin at offset `place`.
   [[nodiscard]] static std::unique_ptr<SequentialDecoder> For(const jpeg_decompress_struct& header, int descriptor,
                                                               off_t place, const WantedPixels& wanted);
-  ~SequentialDecoder();
-  SequentialDecoder(const SequentialDecoder&) = delete;
-  SequentialDecoder& operator=(const SequentialDecoder&) = delete;
+  /// The planes of `file` must know the wanted samples.
+  SequentialDecoder(UsualFile file, ScanData data, const WantedPixels& wanted);
 
-  /// Writes the wanted pixels of a wanted row, counted from the top and below those read before, to their places in
-  /// `bgr`. False, for good, on a surprise. A file whose bottom row was read is whole.
+  /// Writes the wanted pixels of a wanted row to their places in `bgr`. Rows are counted from the top and must be read
+  /// in this order. Returns false if it gives up; all later calls then fail, too. Once the bottom row was read, the
+  /// whole file is known to be undamaged.
   [[nodiscard]] bool ReadRow(std::size_t row, std::uint8_t* bgr);
 
  private:
-  class State;
-  explicit SequentialDecoder(std::unique_ptr<State> state);
+  struct Span {
+    std::size_t begin;
+    std::size_t end;
+  };
 
-  std::unique_ptr<State> state_;
+  [[nodiscard]] static std::vector<Span> SpansOf(const std::vector<std::uint8_t>& marks);
+  [[nodiscard]] bool PassTo(std::size_t row);
+  [[nodiscard]] ChromaRows ChromaRowsOf(std::size_t component, std::size_t row) const;
+
+  Chroma chroma_;
+  ChromaAxis chromaColumns_;
+  ChromaAxis chromaRows_;
+  std::vector<std::uint8_t> wanted_;
+  std::vector<Span> spans_;  // of wanted columns
+  ScanWalk walk_;
 };
 
 }  // namespace vantorium::image::jpeg

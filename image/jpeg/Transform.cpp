@@ -9,54 +9,29 @@
 namespace vantorium::image::jpeg {
 namespace {
 
-// The library's transform does the columns first, which leaves two more bits than the samples have, then the rows. Its
-// steps are sums, and products with constants of 13 bits behind the point, with one rounding at the end of each pass:
-// so each pass is a product with a matrix of whole numbers, and a single row of it can be had alone.
+// libjpeg-turbo transforms the columns first, to values with two fractional bits, and then the rows. A pass consists of
+// sums and of products with constants that have 13 fractional bits, and rounds once, at its end. So each pass equals a
+// product with an integer matrix, of which single rows can be computed.
 constexpr int kFirstShift = 11;
 constexpr int kSecondShift = 18;
 constexpr int kMiddleSample = 128;
 
 using Line = std::array<int, 8>;
 
-constexpr Line EvenHalf(const Line& in) {
-  const int z1 = (in[2] + in[6]) * 4433;
-  const int low = z1 - in[6] * 15137;
-  const int high = z1 + in[2] * 6270;
-  const int sum = (in[0] + in[4]) * 8192;
-  const int difference = (in[0] - in[4]) * 8192;
-  return {sum + high, difference + low, difference - low, sum - high};
+// The weights of the eight input values in the first four output values, with 13 fractional bits. The other four have
+// the same weights in reverse order, negated for the input values of odd numbers. These are sums of libjpeg-turbo's
+// rounded constants, so some of them are off by one.
+constexpr int kWeights[4][8] = {{8192, 11363, 10703, 9633, 8192, 6437, 4433, 2260},
+                                {8192, 9633, 4433, -2259, -8192, -11362, -10704, -6436},
+                                {8192, 6437, -4433, -11362, -8192, 2261, 10704, 9633},
+                                {8192, 2260, -10703, -6436, 8192, 9633, -4433, -11363}};
+
+constexpr int WeightOf(std::size_t in, std::size_t out) {
+  if (out < 4) return kWeights[out][in];
+  return in % 2 == 0 ? kWeights[7 - out][in] : -kWeights[7 - out][in];
 }
 
-constexpr Line OddHalf(const Line& in) {
-  const int z5 = (in[7] + in[3] + in[5] + in[1]) * 9633;
-  const int z1 = (in[7] + in[1]) * -7373;
-  const int z2 = (in[5] + in[3]) * -20995;
-  const int z3 = (in[7] + in[3]) * -16069 + z5;
-  const int z4 = (in[5] + in[1]) * -3196 + z5;
-  return {in[1] * 12299 + z1 + z4, in[3] * 25172 + z2 + z3, in[5] * 16819 + z2 + z4, in[7] * 2446 + z1 + z3};
-}
-
-using Matrix = std::array<std::array<std::int16_t, 8>, 8>;
-
-// What each of the eight values going in adds to each coming out.
-constexpr Matrix MatrixOfPass() {
-  Matrix matrix = {};
-  for (std::size_t in = 0; in < 8; ++in) {
-    Line unit = {};
-    unit[in] = 1;
-    const Line even = EvenHalf(unit);
-    const Line odd = OddHalf(unit);
-    for (std::size_t out = 0; out < 4; ++out) {
-      matrix[out][in] = static_cast<std::int16_t>(even[out] + odd[out]);
-      matrix[7 - out][in] = static_cast<std::int16_t>(even[out] - odd[out]);
-    }
-  }
-  return matrix;
-}
-
-constexpr Matrix kMatrix = MatrixOfPass();
-
-// Where each row or column goes: those of even numbers first.
+// The position of a row or column when the even ones come first.
 constexpr std::size_t EvenFirst(std::size_t i) {
   return i % 2 * 4 + i / 2;
 }
@@ -65,7 +40,7 @@ constexpr std::size_t PlaceOf(std::size_t row, std::size_t column) {
   return EvenFirst(row) / 2 * 16 + EvenFirst(column) * 2 + EvenFirst(row) % 2;
 }
 
-// The file goes along the diagonals, up and down by turns.
+// Applies `place` to the coefficients in zigzag order.
 template <typename Place>
 constexpr std::array<std::uint8_t, 64> InFileOrder(Place place) {
   std::array<std::uint8_t, 64> places = {};
@@ -84,19 +59,18 @@ int Descaled(int value, int shift) {
   return (value + (1 << (shift - 1))) >> shift;
 }
 
-// The samples of a row, with nothing taken off beyond their range.
+// The samples of a row, not yet clamped to their range.
 Line ExactRow(const Block& block, std::size_t row) {
-  const auto& weights = kMatrix[row];
   Line middle = {};
   for (std::size_t column = 0; column < 8; ++column) {
     int sum = 0;
-    for (std::size_t i = 0; i < 8; ++i) sum += block.values[PlaceOf(i, column)] * weights[i];
+    for (std::size_t i = 0; i < 8; ++i) sum += block.values[PlaceOf(i, column)] * WeightOf(i, row);
     middle[column] = Descaled(sum, kFirstShift);
   }
   Line samples = {};
   for (std::size_t column = 0; column < 8; ++column) {
     int sum = 0;
-    for (std::size_t i = 0; i < 8; ++i) sum += middle[i] * kMatrix[column][i];
+    for (std::size_t i = 0; i < 8; ++i) sum += middle[i] * WeightOf(i, column);
     samples[column] = Descaled(sum, kSecondShift);
   }
   return samples;
@@ -130,28 +104,29 @@ bool IsTame(const Block& block, unsigned rows) {
 
 namespace {
 
-// For each of the upper four rows, the weights of two rows of a block at a time, as the instruction wants them that
-// adds two products. And for each two values of a line, their weights in the first four samples: those in the last four
-// are the same from right to left, where the values of odd columns count negative.
-struct alignas(16) Weights {
+// The weights as operands of the instruction that adds two products (pmaddwd). `first`: for each of the upper four rows
+// of samples, the weights of a pair of rows of the block. `second`: for each pair of values of a line, their weights in
+// the first four samples. The last four have the same weights from right to left, negated for odd columns.
+struct alignas(16) PairedWeights {
   std::int16_t first[4][4][8];
   std::int16_t second[4][8];
 };
 
-constexpr Weights WeightsOfPasses() {
+constexpr PairedWeights PairWeights() {
   constexpr std::size_t kPairs[4][2] = {{0, 2}, {4, 6}, {1, 3}, {5, 7}};
-  Weights weights = {};
+  PairedWeights paired = {};
   for (std::size_t pair = 0; pair < 4; ++pair) {
     for (std::size_t i = 0; i < 8; ++i) {
       const std::size_t in = kPairs[pair][i % 2];
-      for (std::size_t out = 0; out < 4; ++out) weights.first[out][pair][i] = kMatrix[out][in];
-      weights.second[pair][i] = kMatrix[i / 2][in];
+      for (std::size_t out = 0; out < 4; ++out)
+        paired.first[out][pair][i] = static_cast<std::int16_t>(kWeights[out][in]);
+      paired.second[pair][i] = static_cast<std::int16_t>(kWeights[i / 2][in]);
     }
   }
-  return weights;
+  return paired;
 }
 
-constexpr Weights kWeights = WeightsOfPasses();
+constexpr PairedWeights kPairedWeights = PairWeights();
 
 __m128i Load(const std::int16_t* values) {
   return _mm_load_si128(reinterpret_cast<const __m128i*>(values));
@@ -161,12 +136,12 @@ __m128i DescaledToShort(__m128i left, __m128i right, int shift) {
   return _mm_packs_epi32(_mm_srai_epi32(left, shift), _mm_srai_epi32(right, shift));
 }
 
-// What the even rows of a block give to a row of samples and to its mirror, and what the odd ones give to the row; to
-// the mirror they give as much less.
+// The sums over the even and over the odd rows of a block for one row of samples. The mirrored row, 7 - `row`, is their
+// difference.
 struct FirstPass {
   FirstPass(const Block& block, int row) {
     const auto product = [&](std::size_t pair, std::size_t half) {
-      return _mm_madd_epi16(Load(block.values.data() + 16 * pair + 8 * half), Load(kWeights.first[row][pair]));
+      return _mm_madd_epi16(Load(block.values.data() + 16 * pair + 8 * half), Load(kPairedWeights.first[row][pair]));
     };
     for (std::size_t half = 0; half < 2; ++half) {
       const __m128i rounded = _mm_add_epi32(product(0, half), _mm_set1_epi32(1 << (kFirstShift - 1)));
@@ -187,7 +162,7 @@ struct FirstPass {
 
 __m128i SecondPass(__m128i line) {
   const auto product = [](__m128i pair, std::size_t number) {
-    return _mm_madd_epi16(pair, Load(kWeights.second[number]));
+    return _mm_madd_epi16(pair, Load(kPairedWeights.second[number]));
   };
   const __m128i even =
       _mm_add_epi32(product(_mm_shuffle_epi32(line, 0x00), 0), product(_mm_shuffle_epi32(line, 0x55), 1));
@@ -205,6 +180,7 @@ void Store(__m128i line, std::uint8_t* samples) {
 
 }  // namespace
 
+// The compiler's own code for this takes much longer.
 void Clear(Block& block) {
   for (std::size_t i = 0; i < block.values.size(); i += 8) {
     _mm_store_si128(reinterpret_cast<__m128i*>(block.values.data() + i), _mm_setzero_si128());

@@ -6,31 +6,31 @@
 
 namespace vantorium::image::jpeg {
 
-/// The 64 coefficients of a block, multiplied by their steps. Each two rows lie interleaved: column 0 of the first and
-/// of the second, column 1 of both, and so on.
+/// The 64 dequantized coefficients of a block. The rows are interleaved in pairs: column 0 of the first and the second
+/// row, column 1 of both, and so on.
 struct alignas(16) Block {
   std::array<std::int16_t, 64> values;
 };
 
-/// Where in a block the coefficient is that comes as number `k` in the file.
+/// The index in a Block of coefficient `k` in zigzag order.
 extern const std::array<std::uint8_t, 64> kPlaceInBlock;
-/// The same in a block whose rows lie one behind the other.
+/// The index in a block stored row by row.
 extern const std::array<std::uint8_t, 64> kRowMajorPlace;
 
-// The sum of the absolute coefficients of a block tells what the arithmetic of 16 bits can do to it. Up to the first of
-// these sums nothing happens at all. Up to the second the transform is exact, but samples may come out so far off their
-// range that the library's routines for different processors disagree about them; above it all of them may overflow.
+// Limits for the sum of the absolute coefficients of a block. Up to kTameSum all of libjpeg-turbo's routines give the
+// same samples. Up to kMostSum 16-bit arithmetic does not overflow, but samples may lie so far outside their range that
+// the routines for different processors clamp them differently; IsTame tells. Above it any of them may overflow.
 inline constexpr int kTameSum = 2100;
 inline constexpr int kMostSum = 5900;
 
 /// Sets all coefficients to 0.
 void Clear(Block& block);
-/// Writes 8 samples for each row of the block that has its bit in `rows`, the top one in the lowest bit: the library's
-/// accurate integer transform. The rows lie `stride` bytes apart, wanted or not.
+/// Writes the 8 samples of each row whose bit is set in `rows`; the lowest bit is the top row. Equals libjpeg-turbo's
+/// accurate integer transform for sums up to kMostSum. The row i begins at `samples + i * stride`.
 void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
-/// The same in plain C++, for processors without a routine of their own.
+/// The same in plain C++, for processors without a special routine.
 void TransformRowsPlainly(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
-/// Whether all routines of the library agree about the samples of those rows.
+/// Whether all of libjpeg-turbo's routines agree about the samples of these rows.
 [[nodiscard]] bool IsTame(const Block& block, unsigned rows);
 
 }  // namespace vantorium::image::jpeg

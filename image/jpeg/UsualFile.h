@@ -11,18 +11,18 @@
 
 namespace vantorium::image::jpeg {
 
-/// What the header of a file of the usual kind says.
+/// The parts of the header that decoding a usual file needs.
 struct UsualFile {
   Chroma chroma;
-  GroupGrid grid;
-  std::size_t lastChromaColumn;
-  std::size_t lastChromaRow;
+  ChromaAxis chromaColumns;
+  ChromaAxis chromaRows;
+  MCUGrid grid;
   unsigned restartInterval;
   std::vector<ScanComponent> components;
 };
 
-/// Takes over what the library read of a header, up to the data of the first scan. Nothing when the file is of another
-/// kind, or its tables are none.
+/// Copies them from a header that jpeg_read_header has read. Returns nothing if the file is not a usual one or its
+/// tables are missing or invalid.
 [[nodiscard]] std::optional<UsualFile> TakeOver(const jpeg_decompress_struct& header);
 
 }  // namespace vantorium::image::jpeg

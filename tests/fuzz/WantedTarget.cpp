@@ -1,5 +1,5 @@
-// JPEG files decoded by the program's own decoder where they are of the usual kind, against the library: the same
-// pixels, or the same refusal.
+// Decodes JPEG files with jpeg::SequentialDecoder and with libjpeg-turbo: both must give the same pixels or refuse the
+// file.
 #include "image/JPEG.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/fuzz/FuzzTarget.h"
@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::int32_t height = 0;
   if (!image::ReadJPEGSize(file, width, height) || std::int64_t{width} * height > kMostPixels) return 0;
 
-  // All pixels, and some that hang on the input.
+  // All pixels, and a selection that depends on the input.
   const unsigned sum = std::accumulate(input.begin(), input.end(), 0U,
                                        [](unsigned all, char byte) { return all + static_cast<unsigned char>(byte); });
   for (const unsigned number : {0U, 1 + sum % 20}) {

@@ -8,7 +8,7 @@
 namespace vantorium::image::jpeg {
 namespace {
 
-// Codes of each length from 1 to 16 bits, as many as given, for the symbols in their order.
+// A table with the given number of codes of each length from 1 to 16 bits.
 JHUFF_TBL TableOf(const std::array<int, 16>& counts, const std::vector<int>& symbols) {
   JHUFF_TBL table = {};
   for (std::size_t i = 0; i < 16; ++i) table.bits[i + 1] = static_cast<UINT8>(counts[i]);
@@ -16,13 +16,13 @@ JHUFF_TBL TableOf(const std::array<int, 16>& counts, const std::vector<int>& sym
   return table;
 }
 
-// The end of a block has the code 0; a value of one bit behind no zero 10, of three bits behind two zeros 110, sixteen
-// zeros 1110, and of ten bits behind no zero 111100000000000.
+// The codes: 0 ends the block, 10 is a value of one bit, 110 two zeros and a value of three bits, 1110 sixteen zeros,
+// 111100000000000 a value of ten bits.
 JHUFF_TBL SomeTable() {
   return TableOf({1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0}, {0x00, 0x01, 0x23, 0xF0, 0x0A});
 }
 
-// Bits as text, with room behind them.
+// The bytes of bits given as text, and padding for reads beyond the end.
 std::vector<std::uint8_t> BytesOf(const std::string& bits) {
   std::vector<std::uint8_t> bytes(bits.size() / 8 + 64);
   for (std::size_t i = 0; i < bits.size(); ++i) {
@@ -31,7 +31,7 @@ std::vector<std::uint8_t> BytesOf(const std::string& bits) {
   return bytes;
 }
 
-// Where a block of these bits ends, and the bits taken.
+// Skips a block. Returns the `k` at its end and the number of bits consumed.
 std::pair<unsigned, std::ptrdiff_t> Skipped(const JHUFF_TBL& table, const std::string& bits) {
   HuffmanCode code;
   EXPECT_TRUE(code.Set(table));

@@ -63,7 +63,7 @@ TEST_F(ScanDataTest, AFileThatEndsHasNoMarkerThere) {
   }
 }
 
-// Bytes FF lie at all places of the pieces that the file is read in.
+// There are bytes FF at the ends of the pieces in which the file is read.
 TEST_F(ScanDataTest, LongDataComeInPiecesWithoutALoss) {
   std::string stuffed;
   std::string plain;

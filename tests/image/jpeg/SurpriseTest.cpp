@@ -1,4 +1,4 @@
-// What SequentialDecoder gives up on is decided by the library, with the rows that came before.
+// When SequentialDecoder gives up, libjpeg-turbo decides about the file and decodes the remaining rows.
 #include "tests/fakes/JpegMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/image/jpeg/WantedRows.h"
@@ -17,7 +17,7 @@ constexpr int kHeight = 90;
 
 class SurpriseTest : public ::testing::Test {
  protected:
-  // Whether the file is good is the library's word, its rows are the library's too.
+  // SequentialDecoder must give up; libjpeg-turbo must find the file good or not, and JPEGDecoder must agree with it.
   void ExpectTheLibrarysWord(const std::string& jpeg, bool good) {
     const auto file = folder.Write("picture.jpg", jpeg);
     for (const unsigned number : {0U, 3U, 30U}) {
@@ -40,7 +40,8 @@ TEST_F(SurpriseTest, BytesBeforeTheEndMarkDoNoHarm) {
   }
 }
 
-// A byte FF more before a stuffed one is none. The rows that come before it must not hang on what seems to be missing.
+// Fill bytes FF before a marker are legal, so libjpeg-turbo takes an extra FF before a stuffed one for a fill byte. The
+// segment seems to end there; no row may be made of the zeros beyond its end.
 TEST_F(SurpriseTest, RowsAreNotGivenOutOfDataThatAreNotThere) {
   for (const unsigned interval : {0U, 7U}) {
     const std::string fine = fakes::MakeJpeg(
@@ -98,7 +99,7 @@ TEST_F(SurpriseTest, BytesBeforeARestartMarkerDoNoHarm) {
   ExpectTheLibrarysWord(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "more"), true);
 }
 
-// Coefficients of any size.
+// Larger quantization steps make coefficients that no encoder writes.
 TEST_F(SurpriseTest, CoefficientsBeyondEveryPictureComeOutAsTheLibrarys) {
   std::mt19937 generator(3);
   const auto rough = [&](int, int) {
@@ -121,7 +122,7 @@ TEST_F(SurpriseTest, CoefficientsBeyondEveryPictureComeOutAsTheLibrarys) {
   }
 }
 
-// A changed byte may still be a picture, another one.
+// A changed byte may leave a valid file with another picture.
 TEST_F(SurpriseTest, AnyChangedByteHasTheSameOutcome) {
   std::mt19937 generator(4);
   for (const std::string& whole : {jpeg, withRestarts}) {

@@ -8,6 +8,11 @@
 #include <algorithm>
 #include <memory>
 #include <random>
+#include <stdexcept>
+
+#include <fmt/format.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace vantorium::fakes {
 namespace {
@@ -43,7 +48,7 @@ std::optional<WantedRows> ReadBy(image::JPEGDecoder& decoder, const image::Wante
   return rows;
 }
 
-/// A file whose header the library has read.
+/// An open file whose header was read with libjpeg-turbo.
 struct Header {
   explicit Header(const std::filesystem::path& path) {
     std::uint64_t size = 0;
@@ -70,6 +75,16 @@ struct Header {
 };
 
 }  // namespace
+
+MemoryFile::MemoryFile() : descriptor_(::memfd_create("test", MFD_CLOEXEC)) {}
+
+std::filesystem::path MemoryFile::Write(std::string_view bytes) const {
+  const int descriptor = descriptor_.Get();
+  if (::ftruncate(descriptor, 0) != 0 || ::lseek(descriptor, 0, SEEK_SET) != 0 || !env::WriteAll(descriptor, bytes)) {
+    throw std::runtime_error("no memory for a test file");
+  }
+  return fmt::format("/proc/self/fd/{}", descriptor);
+}
 
 image::WantedPixels SomePixels(std::int32_t width, std::int32_t height, unsigned number) {
   image::WantedPixels wanted(width, height);

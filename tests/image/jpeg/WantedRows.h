@@ -1,28 +1,41 @@
 #pragma once
 
+#include "env/FileDescriptor.h"
 #include "image/WantedPixels.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace vantorium::fakes {
 
-/// The wanted pixels of wanted rows, by row; the other bytes are 0.
+/// A file in memory. Some file systems wait for the disk when a file is written again and again.
+class MemoryFile {
+ public:
+  MemoryFile();
+  /// Replaces the content. Returns a path to the file, valid while this object exists.
+  [[nodiscard]] std::filesystem::path Write(std::string_view bytes) const;
+
+ private:
+  env::FileDescriptor descriptor_;
+};
+
+/// The wanted rows of a picture by their number; the bytes of unwanted pixels are 0.
 using WantedRows = std::map<std::size_t, std::vector<std::uint8_t>>;
 
-/// Some pixels of a picture, and its bottom row. Number 0 wants all; the others, the fewer the higher they are.
+/// Marks random pixels, always including the bottom row. `number` 0 marks all, higher ones mark fewer.
 [[nodiscard]] image::WantedPixels SomePixels(std::int32_t width, std::int32_t height, unsigned number);
 
-/// What the library makes of a file. Nothing when it can't be read in whole.
+/// The rows as JPEGDecoder reads them with libjpeg-turbo. Empty if the file cannot be read to its end.
 [[nodiscard]] std::optional<WantedRows> ReadByLibrary(const std::filesystem::path& file,
                                                       const image::WantedPixels& wanted);
-/// What JPEGDecoder does that knows what is wanted.
+/// The rows as JPEGDecoder reads them after Want.
 [[nodiscard]] std::optional<WantedRows> ReadAsWanted(const std::filesystem::path& file,
                                                      const image::WantedPixels& wanted);
-/// What SequentialDecoder does without the library behind it. Nothing when it gives up.
+/// The rows as SequentialDecoder alone reads them. Empty if it does not take the file or gives up.
 [[nodiscard]] std::optional<WantedRows> ReadAlone(const std::filesystem::path& file, const image::WantedPixels& wanted);
 
 }  // namespace vantorium::fakes
