@@ -96,7 +96,7 @@ class BatchProgram {
                      boxes_,
                      loop_,
                      cancel_};
-  BatchHost host_{terminal_, loop_, log_};
+  BatchHost host_{terminal_, boxes_, loop_, log_, options_.strict};
   env::Screen screen_;
   image::PangoTextRaster texts_;
   core::Project project_;

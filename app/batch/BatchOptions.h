@@ -38,6 +38,7 @@ struct BatchOptions {
   bool noThumbnails = false;
   bool noHtml = false;
   bool keepExisting = false;
+  bool strict = false;  ///< a run that has warnings does not start
   bool open = false;
   std::string folder;  ///< to upload
   std::string server;

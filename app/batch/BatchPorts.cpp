@@ -79,6 +79,13 @@ void InterruptLoop::Turn() {
   std::ignore = cancel_.CheckForCancel(*progress_);
 }
 
+/// Warnings are not message boxes: if the run fails later, its reason must still be said.
+bool BatchHost::MayStart(generation::RunForecast& forecast) {
+  for (const generation::Finding& finding : forecast.Found()) terminal_.PrintMessage("Warning", LineOf(finding));
+  if (strict_) boxes_.Critical("Not Started", "With --strict, a run that has warnings does not start.");
+  return !strict_;
+}
+
 std::unique_ptr<publish::ProgressWindow> BatchHost::CreateProgressWindow() {
   return std::make_unique<TerminalProgress>(log_, terminal_, loop_);
 }

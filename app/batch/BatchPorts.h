@@ -77,16 +77,20 @@ class InterruptLoop : public env::EventLoop {
 /// Replaces the main window, which the batch program does not have.
 class BatchHost : public core::ProjectSessionHost, public generation::RunHost {
  public:
-  BatchHost(Terminal& terminal, InterruptLoop& loop, publish::UploadLog& log)
-      : terminal_(terminal), loop_(loop), log_(log) {}
+  /// With `strict` a run that has warnings does not start.
+  BatchHost(Terminal& terminal, env::MessageBoxPort& boxes, InterruptLoop& loop, publish::UploadLog& log, bool strict)
+      : terminal_(terminal), boxes_(boxes), loop_(loop), log_(log), strict_(strict) {}
 
   void SetStatusText(const std::string& text) override { terminal_.ShowStatus(text); }
+  [[nodiscard]] bool MayStart(generation::RunForecast& forecast) override;
   [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override;
 
  private:
   Terminal& terminal_;
+  env::MessageBoxPort& boxes_;
   InterruptLoop& loop_;
   publish::UploadLog& log_;
+  bool strict_;
 };
 
 }  // namespace vantorium::batch

@@ -63,6 +63,10 @@ void AddRunSwitches(CLI::App& command, BatchOptions& options) {
   command.add_flag("--keep-existing", options.keepExisting, "Keep images and thumbnails that exist");
 }
 
+void AddStrict(CLI::App& command, BatchOptions& options) {
+  command.add_flag("--strict", options.strict, "Make nothing if something would go wrong, but say what");
+}
+
 /// The options say how to talk to a server.
 void AddTransfer(CLI::App& command, publish::FTPOptions& transfer) {
   command.add_flag("--passive", transfer.passive, "Open the data connections from here");
@@ -134,6 +138,7 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
       ->required()
       ->check([](const std::string& path) { return std::string(path.empty() ? "it is empty" : ""); });
   AddRunSwitches(create, options);
+  AddStrict(create, options);
 
   CLI::App& preview =
       AddCommand(app, options, BatchCommand::Preview, "preview", "Make the pages in the temporary folder");
@@ -149,6 +154,7 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
     return namesFile ? std::string() : std::string("it names no index file");
   });
   AddRunSwitches(publish, options);
+  AddStrict(publish, options);
 
   CLI::App& upload = AddCommand(app, options, BatchCommand::Upload, "upload", "Send a folder to a server");
   upload.add_option("FOLDER", options.folder, "The folder whose contents are sent")->required();

@@ -1,6 +1,7 @@
 #include "core/generation/CreateGallery.h"
 
 #include "core/ProjectEditor.h"
+#include "core/generation/RunForecast.h"
 #include "env/LaunchCommands.h"
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
@@ -25,7 +26,7 @@ void GalleryCreator::Repair() {
 }
 
 RunEnd GalleryCreator::Start(RunOrder order, std::int16_t browserIndex) {
-  if (!Prepare(order)) return RunEnd::NotStarted;
+  if (!Prepare(order) || !MayStart(order)) return RunEnd::NotStarted;
   const bool usesTempFolder = order.Mode == GenerationMode::Preview || order.Mode == GenerationMode::Publish;
   const env::TempFolderLock lock(usesTempFolder ? NativeTempFolder() : std::filesystem::path());
   if (usesTempFolder && RefuseTempFolder(lock)) return RunEnd::NotStarted;
@@ -61,6 +62,11 @@ bool GalleryCreator::Prepare(RunOrder& order) {
       return true;
   }
   return false;
+}
+
+bool GalleryCreator::MayStart(const RunOrder& order) {
+  RunForecast forecast(project_, order, environment_);
+  return forecast.Found().empty() || environment_.host.MayStart(forecast);
 }
 
 void GalleryCreator::UseTempFolder(RunOrder& order, const std::string& indexFileName) {

@@ -31,6 +31,8 @@ class GalleryCreator {
   [[nodiscard]] RunEnd Start(RunOrder order, std::int16_t browserIndex);
   /// Completes `order`. Returns false, after a message box, if there is nothing to make.
   [[nodiscard]] bool Prepare(RunOrder& order);
+  /// Asks the host if there is something that would go wrong.
+  [[nodiscard]] bool MayStart(const RunOrder& order);
   void UseTempFolder(RunOrder& order, const std::string& indexFileName);
   void PrepareConnection(const publish::FTPOptions& options);
   void MakeTempFolder();

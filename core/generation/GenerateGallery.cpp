@@ -4,17 +4,16 @@
 #include "core/generation/AuxiliaryFiles.h"
 #include "core/generation/CollectImages.h"
 #include "core/generation/LocalTarget.h"
-#include "core/generation/OutputNaming.h"
 #include "core/generation/PagePhases.h"
 #include "core/generation/PictureRecipes.h"
 #include "core/generation/ProducePictures.h"
 #include "core/generation/ProtectSources.h"
 #include "core/generation/RunContext.h"
+#include "core/generation/RunFolders.h"
 #include "core/generation/RunWindows.h"
 #include "core/generation/ServerPhases.h"
 #include "core/generation/ServerTarget.h"
 #include "env/NeighbourFile.h"
-#include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 
 #include <array>
@@ -27,12 +26,8 @@ namespace {
 
 PhaseResult StampAndSetPaths(const RunContext& context) {
   RunState& run = context.run;
-  const bool preview = run.mode == GenerationMode::Preview;
   run.GalleryCreationTime = context.environment.clock.Now();
-  run.ImageUrlPrefix = preview ? "images/" : UrlFolder(run.project.textImageSettingsSubFolder);
-  run.ThumbUrlPrefix = preview ? "thumbs/" : UrlFolder(run.project.textThumbnailImageSettingsSubFolder);
-  run.LocalImagesDir = run.OutputFolder + env::WithBackslashes(run.ImageUrlPrefix);
-  run.LocalThumbsDir = run.OutputFolder + env::WithBackslashes(run.ThumbUrlPrefix);
+  SetFolders(run);
   return kGoOn;
 }
 
@@ -134,11 +129,6 @@ std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunOrder& ord
   return std::make_unique<LocalTarget>(run);
 }
 
-std::string ProjectFileOf(const core::Project& project) {
-  if (project.IsUntitled || project.ProjectFileName.empty()) return {};
-  return env::WithTrailingBackslash(project.ProjectFolder) + project.ProjectFileName;
-}
-
 /// Sizes in percent never appear on a page, although the option can be set.
 void ForceOffSizesInPercent(core::Project& project) {
   constexpr auto kField = &core::GalleryProject::checkImageWrapperImageSizesInPercent;
@@ -151,15 +141,7 @@ void ForceOffSizesInPercent(core::Project& project) {
 RunEnd GenerateGallery(core::Project& project, const RunOrder& order, const RunEnvironment& environment) {
   ForceOffSizesInPercent(project);
   RunWindows windows(project, order, environment);
-  RunState run{.project = project.settings,
-               .images = project.images,
-               .files = environment.files,
-               .formats = environment.formats,
-               .mode = order.Mode,
-               .ProjectFolder = project.ProjectFolder,
-               .ProjectFile = ProjectFileOf(project),
-               .OutputFolder = order.OutputFolder,
-               .IndexFileName = order.IndexFileName};
+  RunState run = StateOf(project, order, environment);
   const auto target = TargetOf(run, order, environment.ftp);
   const RunEnd end = RunTrapped({run, order, environment, windows.Progress(), *target});
   windows.ShowEnd(end);

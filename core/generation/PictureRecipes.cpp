@@ -18,6 +18,11 @@ std::shared_ptr<const image::WatermarkPainter> PainterOf(const image::WatermarkS
   return std::make_shared<const image::WatermarkPainter>(settings, screen.PixelsPerInch(), texts);
 }
 
+bool AreImagesResized(const core::GalleryProject& project) {
+  return core::IsOff(project.checkImageWrapperImageKeepSize) &&
+         core::IsOn(project.checkImageWrapperImagePhysicalResize);
+}
+
 }  // namespace
 
 void PrepareWatermarks(RunState& run, const env::Screen& screen, const image::TextRaster& texts) {
@@ -25,15 +30,18 @@ void PrepareWatermarks(RunState& run, const env::Screen& screen, const image::Te
   run.ThumbnailWatermark = PainterOf(run.project.ThumbnailWatermark, screen, texts);
 }
 
+bool AreImagesCopied(const core::GalleryProject& project) {
+  return !AreImagesResized(project) && !project.ImageFilters.AnyFilter() &&
+         !core::IsOn(project.ImageWatermark.checkUseWatermark);
+}
+
 std::optional<image::PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image) {
   const core::GalleryProject& project = run.project;
-  const bool resized =
-      core::IsOff(project.checkImageWrapperImageKeepSize) && core::IsOn(project.checkImageWrapperImagePhysicalResize);
-  if (!resized && !project.ImageFilters.AnyFilter() && !run.ImageWatermark) return std::nullopt;
+  if (AreImagesCopied(project)) return std::nullopt;
   image::PictureRecipe recipe{
       .noiseNumber = NoiseOfImage(image), .filters = project.ImageFilters, .watermark = run.ImageWatermark};
   const ImageRunInfo& info = run.Info(image);
-  if (resized) recipe.size = image::PictureSize{info.Width, info.Height};
+  if (AreImagesResized(project)) recipe.size = image::PictureSize{info.Width, info.Height};
   return recipe;
 }
 

@@ -12,6 +12,9 @@ namespace vantorium::generation {
 /// `texts` must live as long as the run.
 void PrepareWatermarks(RunState& run, const env::Screen& screen, const image::TextRaster& texts);
 
+/// Whether the files of images are plain copies of their sources.
+[[nodiscard]] bool AreImagesCopied(const core::GalleryProject& project);
+
 /// Returns how to make the image's file from its source, or nullopt if the file is copied unchanged.
 [[nodiscard]] std::optional<image::PictureRecipe> ImageRecipe(const RunState& run, std::int32_t image);
 

@@ -109,7 +109,10 @@ class Browser:
         return self._send("POST", f"/session/{self._session}/{name}", body)
 
     def open(self, file):
-        self._command("url", url="file://" + file)
+        self.open_address("file://" + file)
+
+    def open_address(self, address):
+        self._command("url", url=address)
 
     def enter_frame(self, name):
         """Directs the following calls to the frame of that name in the top page; None is the top page itself."""

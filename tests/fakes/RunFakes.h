@@ -124,6 +124,10 @@ class RecordingRunHost : public generation::RunHost {
     journal_.emplace_back("asked");
     return order;
   }
+  [[nodiscard]] bool MayStart(generation::RunForecast& forecast) override {
+    for (const generation::Finding& finding : forecast.Found()) warnings.push_back(LineOf(finding));
+    return startsAnyway;
+  }
   [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override {
     auto window = std::make_unique<RecordingProgress>(progress, journal_);
     window->closesAtOnce = windowClosesAtOnce;
@@ -138,6 +142,8 @@ class RecordingRunHost : public generation::RunHost {
   std::optional<generation::RunOrder> order;  ///< the user's answer
   ProgressRecord progress;
   std::vector<std::string> statuses;
+  std::vector<std::string> warnings;  ///< what the user was warned of before runs
+  bool startsAnyway = true;           ///< the user's answer to warnings
   bool windowClosesAtOnce = true;
   RecordingProgress* openWindow = nullptr;
 

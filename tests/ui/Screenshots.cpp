@@ -10,6 +10,7 @@
 #include "ui/dialogs/frmFont.h"
 #include "ui/dialogs/frmInvalidImage.h"
 #include "ui/dialogs/frmProgress.h"
+#include "ui/dialogs/frmRunWarnings.h"
 #include "ui/dialogs/frmShuffle.h"
 #include "ui/files/frmAddFoldersProcess.h"
 #include "ui/files/frmBrowseForFolder.h"
@@ -18,6 +19,7 @@
 #include "ui/main/frmInfo.h"
 #include "ui/main/frmShutdown.h"
 #include "ui/main/frmSplash.h"
+#include "ui/model/dialogs/RunWarningsModel.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -56,6 +58,7 @@ class Photographer {
     TakeDialogs();
     TakeRunWindows();
     TakeSmallWindows();
+    TakeRunWarnings();
   }
 
  private:
@@ -214,6 +217,20 @@ class Photographer {
     Take(info, "frmInfo");
   }
 
+  /// Spoils some images, so it must be the last one.
+  void TakeRunWarnings() {
+    core::Project& project = desk_.model->CurrentProject();
+    project.images.Rename(1, "Lake#2.jpg");
+    project.images.Rename(4, "portrait.jpg");
+    std::filesystem::remove(desk_.folder.Path() / "Morning.jpg");
+    generation::RunOrder order;
+    generation::SetIndexFile(order, "T:\\gallery\\index.htm");
+    generation::RunForecast forecast(project, order, desk_.model->Ports());
+    RunWarningsModel model(forecast, project, desk_.model->Images());
+    frmRunWarnings warnings(model);
+    TakeModal([&] { warnings.exec(); });
+  }
+
   std::filesystem::path folder_;
   fakes::MainDesk desk_;
 };
@@ -230,6 +247,6 @@ int main(int argc, char** argv) {
     std::cerr << "Use: vantorium-screenshots FOLDER\n";
     return 2;
   }
-  vantorium::Photographer(argv[1]).TakeAll();
+  vantorium::ui::Photographer(argv[1]).TakeAll();
   return 0;
 }

@@ -7,9 +7,11 @@
 #include "ui/dialogs/frmFileNameSettings.h"
 #include "ui/dialogs/frmFrameNameSettings.h"
 #include "ui/dialogs/frmProgress.h"
+#include "ui/dialogs/frmRunWarnings.h"
 #include "ui/dialogs/frmTempFolderLocation.h"
 #include "ui/files/frmBrowseForImageFolders.h"
 #include "ui/files/frmPreview.h"
+#include "ui/model/dialogs/RunWarningsModel.h"
 #include "ui/model/main/MainModel.h"
 
 namespace vantorium::ui {
@@ -82,6 +84,11 @@ std::vector<std::string> QtHelperWindows::AskForImageFolders() {
 void QtHelperWindows::ShowInfoWindow(const std::string& text) {
   info_->SetText(text);
   info_->show();
+}
+
+bool QtHelperWindows::ShowRunWarnings(generation::RunForecast& forecast) {
+  RunWarningsModel warnings(forecast, model_.CurrentProject(), model_.Images());
+  return frmRunWarnings(warnings, &mainWindow_).exec() == QDialog::Accepted;
 }
 
 void QtHelperWindows::ShowBrowserList(BrowserList& list) {

@@ -107,6 +107,8 @@ TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
   std::filesystem::remove(desk.folder.Path() / "19.jpg");
   QTimer closer;
   QObject::connect(&closer, &QTimer::timeout, [] {
+    QWidget* warnings = QApplication::activeModalWidget();
+    if (warnings != nullptr && warnings->objectName() == "frmRunWarnings") Click(*warnings, "CreateButton");
     frmProgress* progress = VisibleProgress();
     if (progress != nullptr && progress->OffersClose()) Click(*progress, "CancelButton");
   });

@@ -65,6 +65,10 @@ class RecordingHelperWindows : public ui::HelperWindows {
     calls_.emplace_back("themes");
     return takesTheme;
   }
+  [[nodiscard]] bool ShowRunWarnings(generation::RunForecast& forecast) override {
+    for (const generation::Finding& finding : forecast.Found()) calls_.push_back("warning " + LineOf(finding));
+    return runsAnyway;
+  }
   void ShowBrowserList(ui::BrowserList& /*list*/) override { calls_.emplace_back("browser list"); }
   [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override {
     calls_.emplace_back("progress");
@@ -75,6 +79,7 @@ class RecordingHelperWindows : public ui::HelperWindows {
 
   std::function<void()> onPlacings;
   bool takesTheme = false;
+  bool runsAnyway = true;
   std::optional<generation::RunOrder> order;  ///< nullopt: the user cancels the dialog
   ProgressRecord progress;
 

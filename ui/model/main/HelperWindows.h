@@ -26,6 +26,8 @@ class HelperWindows {
 
   // Each shows its dialog modally.
   [[nodiscard]] virtual std::optional<generation::RunOrder> AskWhatToCreate() = 0;
+  /// Shows what would go wrong in a run. Returns false if the user does not want it.
+  [[nodiscard]] virtual bool ShowRunWarnings(generation::RunForecast& forecast) = 0;
   virtual void ShowBrowserList(BrowserList& list) = 0;
   /// Returns true if the user chose a theme and its settings were taken over.
   [[nodiscard]] virtual bool ShowThemes(ThemeModel& themes) = 0;

@@ -28,6 +28,13 @@ std::optional<generation::RunOrder> MainHost::AskWhatToCreate() {
   return order;
 }
 
+/// Images may have got new names.
+bool MainHost::MayStart(generation::RunForecast& forecast) {
+  const bool wanted = windows_->ShowRunWarnings(forecast);
+  view_->ShowImages();
+  return wanted;
+}
+
 std::unique_ptr<publish::ProgressWindow> MainHost::CreateProgressWindow() {
   return windows_->CreateProgressWindow();
 }

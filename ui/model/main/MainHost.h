@@ -39,6 +39,7 @@ class MainHost : public core::ProjectSessionHost,
   void FocusTitleField() override { view_->FocusTitleField(); }
   void RebuildCustomColors() override { colors_.RebuildCustomColors(view_->SystemColors()); }
   [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override;
+  [[nodiscard]] bool MayStart(generation::RunForecast& forecast) override;
   [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override;
   void ShowBusyPointer(bool busy) override { view_->ShowBusyPointer(busy); }
   void EnableTrayIcon(bool enabled) override { windows_->EnableTrayIcon(enabled); }

@@ -164,6 +164,33 @@ TEST_F(MainModelTest, CreateThatTheUserCancelsInItsDialogMakesNothing) {
   EXPECT_EQ(desk.calls, (Calls{"placings", "asked", "settings"}));
 }
 
+TEST_F(MainModelTest, BeforeARunTheUserIsWarnedAndTheListIsShownAgainAsNamesMayHaveChanged) {
+  desk.Start();
+  desk.AddPhotograph("a#.jpg");
+  generation::SetIndexFile(desk.windows.order.emplace(), "T:\\out\\index.htm");
+  desk.windows.runsAnyway = false;
+  desk.model.CreateGallery();
+  const std::string warning =
+      "warning Image 1, \"a#.jpg\": Links to \"a#.jpg.htm\" would not work: in a link, what follows \"#\" is a place "
+      "in "
+      "a page.";
+  EXPECT_EQ(CallsFrom("asked"), (Calls{"asked", warning, "list", "settings"}));
+  EXPECT_FALSE(desk.Exists("out"));
+  desk.windows.runsAnyway = true;
+  desk.model.CreateGallery();
+  EXPECT_TRUE(desk.Exists("out/a#.jpg.htm"));
+}
+
+TEST_F(MainModelTest, WithNothingToWarnOfARunBeginsAtOnce) {
+  desk.Start();
+  desk.AddPhotograph("a.jpg");
+  generation::SetIndexFile(desk.windows.order.emplace(), "T:\\out\\index.htm");
+  desk.windows.runsAnyway = false;
+  desk.model.CreateGallery();
+  EXPECT_FALSE(desk.Called("list"));
+  EXPECT_TRUE(desk.Exists("out/index.htm"));
+}
+
 TEST_F(MainModelTest, ARunThatTheUserCancelsEndsAndTheNextOneRuns) {
   desk.Start();
   desk.AddPhotograph("a.jpg");

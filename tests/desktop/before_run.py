@@ -1,0 +1,42 @@
+"""Warnings come up before a run: cancelled, nothing is made; renamed there, an image has links that work; and a gallery
+can be made as it is."""
+
+import os
+
+from desk import expect, wait_for_file
+
+TITLE = "Before This Gallery Is Made"
+
+
+def run(desk):
+    for name in ("a#1.jpg", "50%.jpg"):
+        os.link(desk.path("a.jpg"), desk.path(name))
+    desk.make_project("p.gpj", "a#1.jpg", "50%.jpg")
+    screen = desk.screen
+    with desk.project("p.gpj"):
+        ask_for_gallery(screen)
+        screen.press("Return")  # the answer is Cancel unless chosen otherwise
+        screen.wait_for_no_window(TITLE)
+        expect(False, os.path.exists(desk.path("gallery")), "gallery after Cancel")
+        screen.wait_for_window("p.gpj")
+        ask_for_gallery(screen)
+        screen.press("alt+r")
+        screen.wait_for_window("Rename Image")
+        screen.type("better.jpg")
+        screen.press("Return")
+        screen.wait_for_no_window("Rename Image")
+        screen.wait_for_window(TITLE)
+        screen.press("alt+a")
+        wait_for_file(desk.path("gallery", "50%.jpg.htm"))
+        screen.wait_for_no_window("Creating Gallery")
+        screen.wait_for_window("p.gpj")
+        screen.press("ctrl+s")
+    expect(True, os.path.exists(desk.path("gallery", "better.jpg.htm")), "page of the renamed image")
+    expect(["better.jpg", "50%.jpg"], [image["ImageName"] for image in desk.show("p.gpj")["images"]], "names")
+
+
+def ask_for_gallery(screen):
+    screen.press("ctrl+g")
+    screen.wait_for_window("Create Gallery")
+    screen.press("Return")
+    screen.wait_for_window(TITLE)
