@@ -19,6 +19,10 @@ class MessageBoxPort {
   void Critical(const std::string& title, const std::string& text) {
     Show(BoxKind::Critical, BoxButtons::Ok, title, text);
   }
+  /// Informs about a list that may be long: `lines` in the order given, with a line break between two.
+  virtual void ShowList(const std::string& title, const std::string& text, const std::string& lines) {
+    Show(BoxKind::Information, BoxButtons::Ok, title, text + "\r\r" + lines);
+  }
   [[nodiscard]] bool AskYesNo(const std::string& title, const std::string& text) {
     return Show(BoxKind::Question, BoxButtons::YesNo, title, text) == BoxAnswer::Yes;
   }

@@ -29,16 +29,18 @@ fs::path Cleaned(const fs::path& folder) {
   return clean.has_filename() || !clean.has_relative_path() ? clean : clean.parent_path();
 }
 
-fs::path UserConfigurations(const ProcessEnvironment& around) {
-  const fs::path configured(around.xdgConfigHome);
-  return configured.is_absolute() ? configured : fs::path(around.home) / ".config";
+/// Returns the folder in a variable, or the one in the home folder if the variable holds no absolute path.
+fs::path UserFolder(const std::string& variable, const ProcessEnvironment& around, const char* inHome) {
+  const fs::path folder(variable);
+  return folder.is_absolute() ? folder : fs::path(around.home) / inHome;
 }
 
 }  // namespace
 
 ProcessEnvironment EnvironmentOfProcess() {
   std::error_code ignored;
-  return {fs::read_symlink("/proc/self/exe", ignored), HomeFolder(), Variable("XDG_CONFIG_HOME")};
+  return {fs::read_symlink("/proc/self/exe", ignored), HomeFolder(), Variable("XDG_CONFIG_HOME"),
+          Variable("XDG_CACHE_HOME")};
 }
 
 fs::path FindProgramFolder(const std::optional<fs::path>& given, const ProcessEnvironment& around) {
@@ -46,7 +48,11 @@ fs::path FindProgramFolder(const std::optional<fs::path>& given, const ProcessEn
   std::error_code ignored;
   const fs::path beside = around.executable.parent_path();
   if (!beside.empty() && fs::is_regular_file(GetINIFileName(beside), ignored)) return Cleaned(beside);
-  return Cleaned(UserConfigurations(around) / "vantorium");
+  return Cleaned(UserFolder(around.xdgConfigHome, around, ".config") / "vantorium");
+}
+
+fs::path FindCacheFolder(const ProcessEnvironment& around) {
+  return Cleaned(UserFolder(around.xdgCacheHome, around, ".cache") / "vantorium");
 }
 
 fs::path GetINIFileName(const fs::path& programFolder) {

@@ -13,6 +13,7 @@ struct ProcessEnvironment {
   std::filesystem::path executable;  ///< of this process, absolute
   std::string home;                  ///< HOME, else the folder in the user database
   std::string xdgConfigHome;         ///< XDG_CONFIG_HOME
+  std::string xdgCacheHome{};        ///< XDG_CACHE_HOME
 };
 
 /// Returns the surroundings of this process.
@@ -24,6 +25,10 @@ struct ProcessEnvironment {
 /// XDG base directories): XDG_CONFIG_HOME if that is absolute, else ".config" in the home folder.
 [[nodiscard]] std::filesystem::path FindProgramFolder(const std::optional<std::filesystem::path>& given,
                                                       const ProcessEnvironment& around);
+
+/// Returns the folder of what the program may lose, such as the records of runs: a native path. Creates nothing. It is
+/// "vantorium" in the user's cache folder: XDG_CACHE_HOME if that is absolute, else ".cache" in the home folder.
+[[nodiscard]] std::filesystem::path FindCacheFolder(const ProcessEnvironment& around);
 
 /// The preferences file of a program folder.
 [[nodiscard]] std::filesystem::path GetINIFileName(const std::filesystem::path& programFolder);

@@ -20,6 +20,9 @@ class TextMask {
   [[nodiscard]] std::int32_t width() const { return width_; }
   [[nodiscard]] std::int32_t height() const { return height_; }
 
+  /// The bits, row by row from the top.
+  [[nodiscard]] const std::vector<std::uint64_t>& words() const { return words_; }
+
   [[nodiscard]] bool Covers(std::int32_t x, std::int32_t y) const;
   /// The pixel must lie in the rectangle.
   void Cover(std::int32_t x, std::int32_t y);

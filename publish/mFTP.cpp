@@ -6,6 +6,7 @@
 #include "env/mFileFunctions.h"
 #include "publish/FTPReply.h"
 
+#include <charconv>
 #include <utility>
 
 namespace vantorium::publish {
@@ -53,6 +54,7 @@ void mFTP::Disconnect() {
 
 bool mFTP::FTPConnect(std::string_view host, std::uint16_t port) {
   if (sockCmd_->IsConnected()) sockCmd_->Close();
+  isBinary_ = false;
   FTPSocketSettings settings;
   settings.host = WithoutBlanksAround(host);
   settings.port = port == 0 ? kFTPPort : port;
@@ -135,6 +137,18 @@ std::string mFTP::FTPGetFileSize(const std::string& path) {
   if (FTPExecute("SIZE " + path, reply, Logging::Logged) == 213) return ClaimedSizeText(env::ParseInt32(reply));
   sockData_->Close();
   return kUnknownSize;
+}
+
+/// Some servers report the size of a binary transfer only.
+std::optional<std::uint64_t> mFTP::FTPStoredSize(const std::string& path) {
+  FTPLog("Reading file size for " + path + " ... ");
+  if (!isBinary_) isBinary_ = FTPSendCommand("TYPE I") == 200;
+  std::string reply;
+  if (FTPExecute("SIZE " + path, reply, Logging::Logged) != 213) return std::nullopt;
+  std::uint64_t size = 0;
+  const auto [end, error] = std::from_chars(reply.data(), reply.data() + reply.size(), size);
+  const bool isNumber = error == std::errc() && end == reply.data() + reply.size();
+  return isNumber ? std::optional(size) : std::nullopt;
 }
 
 void mFTP::FTPCancelData() {

@@ -74,6 +74,11 @@ class mFTP : public FTPUploads {
   /// Overflow if the server reports something that is not a 32-bit number.
   [[nodiscard]] std::string FTPGetFileSize(const std::string& path);
 
+  /// Returns the size in bytes of a file on the server (RFC 3659), or nullopt if the server does not report one.
+  [[nodiscard]] std::optional<std::uint64_t> FTPStoredSize(const std::string& path);
+  /// Whether the server has confirmed the last file of FTPStoreFile: it was sent, and the closing reply was positive.
+  [[nodiscard]] bool FTPHasConfirmed() const { return hasConfirmed_; }
+
   /// Sends a local file, given as path text. Returns true if all of it was sent, whatever the server then replies, or
   /// if the file already exists and `overwrite` is false. An encrypted transfer must also end in order on both sides
   /// and be confirmed by the server. Throws RuntimeFailure DivisionByZero for an empty file, after the server has begun
@@ -133,6 +138,8 @@ class mFTP : public FTPUploads {
   std::string fingerprint_;        ///< of the session's certificate
   std::string encryptionProblem_;  //
   bool refusesEpsv_ = false;       ///< the session's server
+  bool isBinary_ = false;          ///< whether the session has agreed to binary transfers
+  bool hasConfirmed_ = false;      ///< see FTPHasConfirmed
 };
 
 }  // namespace vantorium::publish

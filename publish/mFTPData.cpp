@@ -118,7 +118,8 @@ bool mFTP::EndData(bool sent) {
   std::string closingReply;
   const auto code = FTPReadReply(closingReply, Logging::Logged);
   // In clear, once the bytes are sent, the result is fixed, whatever the server replies.
-  return Options.encrypted ? isWhole && code >= 200 && code < 300 : sent;
+  hasConfirmed_ = isWhole && code >= 200 && code < 300;
+  return Options.encrypted ? hasConfirmed_ : sent;
 }
 
 }  // namespace vantorium::publish

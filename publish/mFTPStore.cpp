@@ -26,6 +26,7 @@ bool mFTP::FTPCopyFile(const std::string& localPath, const std::string& remotePa
 
 bool mFTP::FTPStoreFile(const std::string& localPath, const std::string& remotePath, bool overwrite) {
   ShowPercentage(0);
+  hasConfirmed_ = false;
   if (localPath.empty() || remotePath.empty()) return false;
   std::int32_t length = 0;
   try {

@@ -201,7 +201,9 @@ generation::RunOrder BatchProgram::OrderFor(generation::GenerationMode mode) con
           .CreateImages = !options_.noImages,
           .CreateThumbnails = !options_.noThumbnails,
           .CreateHTML = !options_.noHtml,
-          .Overwrite = !options_.keepExisting};
+          .Overwrite = !options_.keepExisting,
+          .OnlyChanges = options_.onlyChanges,
+          .RemoveUnused = options_.removeUnused};
 }
 
 bool BatchProgram::SetServer(generation::RunOrder& order) {
@@ -228,7 +230,8 @@ ExitCode BatchProgram::CarryOut(const generation::RunOrder& order) {
       {{paths_, formats_, files_, boxes_, loop_, shell, clock, screen_, texts_, JobsOf(options_)},
        host_,
        cancel_,
-       &ftp_});
+       &ftp_,
+       env::FindCacheFolder(env::EnvironmentOfProcess())});
   const generation::RunEnd end = creator.CarryOut(order, 0);
   terminal_.EraseBar();
   // A cancelled upload of a folder is a failure with its own message, but the exit code tells the caller of the program

@@ -38,6 +38,8 @@ struct BatchOptions {
   bool noThumbnails = false;
   bool noHtml = false;
   bool keepExisting = false;
+  bool onlyChanges = false;
+  bool removeUnused = false;
   bool strict = false;  ///< a run that has warnings does not start
   bool open = false;
   std::string folder;  ///< to upload

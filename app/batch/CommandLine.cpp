@@ -56,11 +56,19 @@ void AddCommonOptions(CLI::App& app, BatchOptions& options) {
   app.add_flag("--verbose", options.verbose, "Each status text on a line of its own");
 }
 
+void AddChangesSwitches(CLI::App& command, BatchOptions& options) {
+  CLI::Option* changes =
+      command.add_flag("--only-changes", options.onlyChanges, "Keep what the last run to the same place made or sent");
+  command.add_flag("--remove-unused", options.removeUnused, "Remove files of earlier runs that nothing uses any more")
+      ->needs(changes);
+}
+
 void AddRunSwitches(CLI::App& command, BatchOptions& options) {
   command.add_flag("--no-images", options.noImages, "Make no images");
   command.add_flag("--no-thumbnails", options.noThumbnails, "Make no thumbnails");
   command.add_flag("--no-html", options.noHtml, "Make no pages");
   command.add_flag("--keep-existing", options.keepExisting, "Keep images and thumbnails that exist");
+  AddChangesSwitches(command, options);
 }
 
 void AddStrict(CLI::App& command, BatchOptions& options) {
@@ -160,6 +168,7 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   upload.add_option("FOLDER", options.folder, "The folder whose contents are sent")->required();
   AddServer(upload, options, "FOLDER");
   upload.add_flag("--keep-existing", options.keepExisting, "Keep files that the server has");
+  AddChangesSwitches(upload, options);
 }
 
 /// Returns what is wrong, in one line. CLI11 may add a hint about --help, and for an unknown command it only says that

@@ -45,7 +45,8 @@ class Desktop {
             programFolder_,
             bundled_,
             {VANTORIUM_VERSION_MAJOR, VANTORIUM_VERSION_MINOR, VANTORIUM_VERSION_REVISION},
-            FtpPort()};
+            FtpPort(),
+            env::FindCacheFolder(around_)};
   }
 
  private:

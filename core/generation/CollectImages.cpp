@@ -75,8 +75,11 @@ void Raise(std::int32_t& maximum, std::int32_t value) {
   maximum = std::max(maximum, value);
 }
 
-ImageRunInfo Collect(RunState& run, const core::ImageEntry& entry) {
-  ImageRunInfo image{.Path = entry.SourcePath, .FileName = BuildFileName(entry.ImageName, entry.SourcePath)};
+ImageRunInfo Collect(RunState& run, std::size_t index) {
+  const core::ImageEntry& entry = run.images.Entry(index);
+  ImageRunInfo image{.Number = static_cast<std::int32_t>(index),
+                     .Path = entry.SourcePath,
+                     .FileName = BuildFileName(entry.ImageName, entry.SourcePath)};
   Ignoring([&] { image.FileTime = run.files.GetFileWriteTime(image.Path); });
   FindImageSize(run, image);
   Raise(run.MaxImageWidth, image.Width);
@@ -105,7 +108,7 @@ PhaseResult CollectImages(const RunContext& context) {
   for (std::size_t index = 1; index <= total; ++index) {
     context.environment.loop.Turn();
     if (context.environment.cancel.CancelRequested()) return RunEnd::Cancelled;
-    run.RunInfo.push_back(Collect(run, run.images.Entry(index)));
+    run.RunInfo.push_back(Collect(run, index));
     if (index % kDisplayEvery == 0) ShowCount(context, index, total);
   }
   context.progress.SetProgress(static_cast<std::int32_t>(total));

@@ -33,6 +33,13 @@ class GalleryTarget {
   /// Returns the size of an image at the target as text. Throws RuntimeFailure if it cannot be read.
   [[nodiscard]] virtual std::string ImageSizeText(const ImageRunInfo& image) = 0;
 
+  /// Whether the target already has the file that this run would make. HasImage then sets the image's FileSize.
+  [[nodiscard]] virtual bool HasImage(ImageRunInfo& /*image*/) { return false; }
+  [[nodiscard]] virtual bool HasThumbnail(const ImageRunInfo& /*image*/) { return false; }
+  /// The same ahead of an image's turn: what HasImage and HasThumbnail will probably return. Asks no server.
+  [[nodiscard]] virtual bool WillHaveImage(const ImageRunInfo& /*image*/) { return false; }
+  [[nodiscard]] virtual bool WillHaveThumbnail(const ImageRunInfo& /*image*/) { return false; }
+
   /// Copies the source file unchanged.
   [[nodiscard]] virtual Delivery CopyImage(const ImageRunInfo& image) = 0;
   /// Stores an encoded image with the file times of its source and sets the image's FileSize. Throws RuntimeFailure

@@ -13,6 +13,8 @@
 #include "core/generation/RunWindows.h"
 #include "core/generation/ServerPhases.h"
 #include "core/generation/ServerTarget.h"
+#include "core/generation/changes/Changes.h"
+#include "core/generation/changes/ChangesTarget.h"
 #include "env/NeighbourFile.h"
 #include "env/RuntimeFailure.h"
 
@@ -101,6 +103,12 @@ RunEnd GoThroughPhases(const RunContext& context) {
   return RunEnd::Success;
 }
 
+RunEnd GoThroughAll(const RunContext& context) {
+  const RunEnd end = GoThroughPhases(context);
+  if (end != RunEnd::Success || context.changes == nullptr) return end;
+  return context.changes->FindUnused(context).value_or(RunEnd::Success);
+}
+
 RunEnd FailUnexpectedly(const RunContext& context, const std::string& description, std::int32_t number) {
   context.environment.boxes.Critical("Failure", "An Error has occurred during Creation of this Gallery:\r\r" +
                                                     description + "\r\rError #" + std::to_string(number));
@@ -112,7 +120,7 @@ RunEnd RunTrapped(const RunContext& context) {
   constexpr std::int32_t kOutOfMemory = 7;
   constexpr std::int32_t kInternal = 51;
   try {
-    return GoThroughPhases(context);
+    return GoThroughAll(context);
   } catch (const env::RuntimeFailure& failure) {
     return FailUnexpectedly(context, failure.Description(), failure.Number());
   } catch (const std::bad_alloc&) {
@@ -124,9 +132,32 @@ RunEnd RunTrapped(const RunContext& context) {
   }
 }
 
-std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunOrder& order, publish::mFTP* ftp) {
+std::unique_ptr<GalleryTarget> PlainTargetOf(const RunState& run, const RunOrder& order, publish::mFTP* ftp) {
   if (order.Mode == GenerationMode::Publish) return std::make_unique<ServerTarget>(run, order, *ftp);
   return std::make_unique<LocalTarget>(run);
+}
+
+std::unique_ptr<GalleryTarget> TargetOf(const RunState& run, const RunOrder& order, publish::mFTP* ftp,
+                                        Changes* changes) {
+  auto target = PlainTargetOf(run, order, ftp);
+  if (changes == nullptr) return target;
+  return std::make_unique<ChangesTarget>(run, order, changes->Known(), std::move(target));
+}
+
+/// Runs to one end and keeps the record of a run with OnlyChanges.
+RunEnd RunToEnd(RunState& run, const RunOrder& order, const RunEnvironment& environment,
+                publish::ProgressWindow& progress) {
+  std::optional<Changes> changes;
+  if (order.OnlyChanges) {
+    changes.emplace(run, order, environment);
+  } else {
+    ForgetServer(order, environment);
+  }
+  Changes* const kept = changes ? &*changes : nullptr;
+  const auto target = TargetOf(run, order, environment.ftp, kept);
+  const RunEnd end = RunTrapped({run, order, environment, progress, *target, kept});
+  if (changes) changes->Save();
+  return end;
 }
 
 /// Sizes in percent never appear on a page, although the option can be set.
@@ -142,8 +173,7 @@ RunEnd GenerateGallery(core::Project& project, const RunOrder& order, const RunE
   ForceOffSizesInPercent(project);
   RunWindows windows(project, order, environment);
   RunState run = StateOf(project, order, environment);
-  const auto target = TargetOf(run, order, environment.ftp);
-  const RunEnd end = RunTrapped({run, order, environment, windows.Progress(), *target});
+  const RunEnd end = RunToEnd(run, order, environment, windows.Progress());
   windows.ShowEnd(end);
   return end;
 }

@@ -9,6 +9,7 @@ namespace vantorium::generation {
 
 /// What a run knows about one image in addition to its ImageEntry. Sizes are in pixels.
 struct ImageRunInfo {
+  std::int32_t Number = 0;              ///< of the image, from 1
   std::string Path{};                   ///< path text of the source file
   std::string FileName{};               ///< name of the output file
   vantorium::env::FileTime FileTime{};  ///< last write time of the source file

@@ -58,10 +58,12 @@ class PictureProduction {
   /// Whether it is known ahead that a picture will be kept. If the target cannot be asked ahead, the picture is made
   /// ahead, in vain if it exists; but work ahead starts only after a picture that did not exist.
   [[nodiscard]] bool WillKeepImage(Number number) {
-    return context_.target.MayAskAhead() && KeepsExistingImage(number);
+    return (context_.target.MayAskAhead() && KeepsExistingImage(number)) ||
+           context_.target.WillHaveImage(run_.Info(number));
   }
   [[nodiscard]] bool WillKeepThumbnail(Number number) {
-    return context_.target.MayAskAhead() && KeepsExistingThumbnail(number);
+    return (context_.target.MayAskAhead() && KeepsExistingThumbnail(number)) ||
+           context_.target.WillHaveThumbnail(run_.Info(number));
   }
   [[nodiscard]] ImageRunInfo& InfoOf(Number number) { return run_.RunInfo.at(static_cast<std::size_t>(number) - 1); }
   [[nodiscard]] PhaseResult Begin(const char* doing, Number number) const {
@@ -114,8 +116,8 @@ PhaseResult PictureProduction::ImageStep(PictureWorkshop& workshop, Number numbe
   if (auto end = Begin("Copying File", number)) return end;
   if (KeepsExistingImage(number)) {
     InfoOf(number).FileSize = context_.target.ImageSizeText(InfoOf(number));
-  } else if (auto end = MakeImage(workshop, number)) {
-    return end;
+  } else if (!context_.target.HasImage(InfoOf(number))) {
+    if (auto end = MakeImage(workshop, number)) return end;
   }
   context_.Advance();
   return kGoOn;
@@ -166,7 +168,7 @@ PhaseResult PictureProduction::SizeStep(Number number) {
 
 PhaseResult PictureProduction::ThumbnailStep(PictureWorkshop& workshop, Number number) {
   if (auto end = Begin("Creating Thumbnail for File", number)) return end;
-  if (!KeepsExistingThumbnail(number)) {
+  if (!KeepsExistingThumbnail(number) && !context_.target.HasThumbnail(run_.Info(number))) {
     if (auto end = MakeThumbnail(workshop, number)) return end;
   }
   context_.Advance();

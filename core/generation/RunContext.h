@@ -9,6 +9,8 @@
 
 namespace vantorium::generation {
 
+class Changes;
+
 /// What the phases of a run work with, and the operations they share.
 struct RunContext {
   RunState& run;
@@ -16,6 +18,7 @@ struct RunContext {
   const RunEnvironment& environment;
   publish::ProgressWindow& progress;
   GalleryTarget& target;
+  Changes* changes = nullptr;  ///< of a run with OnlyChanges
 
   /// Shows `text` in the status bar and in the progress window.
   void Announce(const std::string& text) const {

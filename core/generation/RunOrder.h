@@ -17,6 +17,11 @@ struct RunOrder {
   bool CreateHTML = true;
   bool Overwrite = true;  ///< false: an image or thumbnail that exists at the target is not produced again
 
+  /// Whether files that an earlier run into the same target made are kept if this run would make the same bytes. The
+  /// files there are then the same as after a run without it.
+  bool OnlyChanges = false;
+  bool RemoveUnused = false;  ///< with OnlyChanges: files of earlier runs that nothing uses any more are removed
+
   /// With a trailing backslash. Create: the gallery's folder; Upload: the folder to send. For Preview and Publish,
   /// GalleryCreator sets the temporary folder.
   std::string OutputFolder{};

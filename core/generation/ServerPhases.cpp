@@ -1,5 +1,7 @@
 #include "core/generation/ServerPhases.h"
 
+#include "core/generation/changes/ChangedUploads.h"
+#include "core/generation/changes/Changes.h"
 #include "publish/UploadFolder.h"
 
 namespace vantorium::generation {
@@ -46,7 +48,12 @@ PhaseResult OpenServerSession(const RunContext& context) {
 PhaseResult SendFolder(const RunContext& context) {
   const RunOrder& order = context.order;
   const RunEnvironment& environment = context.environment;
-  publish::FolderUpload upload({*environment.ftp, context.run.files.Paths(), environment.boxes, environment.loop,
+  std::optional<ChangedUploads> changed;
+  if (context.changes != nullptr) {
+    changed.emplace(order, context.run.files.Paths(), context.changes->Known(), *environment.ftp);
+  }
+  publish::FTPUploads& uploads = changed ? static_cast<publish::FTPUploads&>(*changed) : *environment.ftp;
+  publish::FolderUpload upload({uploads, context.run.files.Paths(), environment.boxes, environment.loop,
                                 environment.cancel, context.progress, environment.host});
   const std::int32_t steps = upload.CountSteps(order.OutputFolder);
   if (environment.cancel.CancelRequested()) return RunEnd::Failure;

@@ -45,15 +45,17 @@ TEST(CommandLine, HelpOfACommandNamesItsSwitches) {
       {"new", {"OUT.gpj", "PATH", "--title", "--recursive", "--force"}},
       {"show", {"PROJECT.gpj"}},
       {"save", {"PROJECT.gpj", "OUT.gpj"}},
-      {"create", {"PROJECT.gpj", "INDEX-FILE", "--no-images", "--no-thumbnails", "--no-html", "--keep-existing"}},
+      {"create",
+       {"PROJECT.gpj", "INDEX-FILE", "--no-images", "--no-thumbnails", "--no-html", "--keep-existing", "--only-changes",
+        "--remove-unused"}},
       {"preview", {"PROJECT.gpj", "--open"}},
       {"publish",
        {"PROJECT.gpj", "FOLDER/INDEX-FILE", "--server", "--user", "--password-file", "--remote", "--base-directory",
         "--port", "--passive", "--tls", "--tls-fingerprint", "--no-images", "--no-thumbnails", "--no-html",
-        "--keep-existing"}},
+        "--keep-existing", "--only-changes", "--remove-unused"}},
       {"upload",
        {"FOLDER", "--server", "--user", "--password-file", "--remote", "--base-directory", "--port", "--passive",
-        "--tls", "--tls-fingerprint", "--keep-existing"}},
+        "--tls", "--tls-fingerprint", "--keep-existing", "--only-changes", "--remove-unused"}},
   };
   for (const auto& [command, words] : commands) {
     const ProcessResult result = Workplace().Run({command, "--help"});
@@ -92,6 +94,8 @@ TEST(CommandLine, AnUnknownSwitchIsNamed) {
 
 TEST(CommandLine, ASwitchOfAnotherCommandIsUnknown) {
   EXPECT_TRUE(IsRefused({"show", "a.gpj", "--keep-existing"}, "--keep-existing"));
+  EXPECT_TRUE(IsRefused({"preview", "a.gpj", "--only-changes"}, "--only-changes"));
+  EXPECT_TRUE(IsRefused({"create", "a.gpj", "out/", "--remove-unused"}, "--only-changes"));
   EXPECT_TRUE(IsRefused({"save", "a.gpj", "b.gpj", "--recursive"}, "--recursive"));
   EXPECT_TRUE(IsRefused({"preview", "a.gpj", "--no-html"}, "--no-html"));
   EXPECT_TRUE(IsRefused({"create", "a.gpj", "index.htm", "--open"}, "--open"));

@@ -51,6 +51,32 @@ TEST_F(CreateCommand, MakesPagesImagesAndThumbnailsWithTheFoldersTheyNeed) {
   EXPECT_EQ(ListingOf(place.Path("deep/er/out")), expected);
 }
 
+TEST_F(CreateCommand, OnlyChangesWritesWhatChangedAndNamesWhatIsNotUsedAnyMore) {
+  ASSERT_TRUE(Succeeded(Create({"--only-changes"})));
+  const auto picture = place.Path("out/Images/a.jpg.jpg");
+  const auto time = std::filesystem::last_write_time(place.Path("out/index.htm"));
+  ASSERT_TRUE(Succeeded(Create({"--only-changes"})));
+  EXPECT_EQ(std::filesystem::last_write_time(place.Path("out/index.htm")), time);
+  EXPECT_FALSE(std::filesystem::is_empty(place.Path("home/.cache/vantorium")));
+
+  place.Project("a.gpj", {"b.jpg"});
+  const std::string names = "\nImages/a.jpg.jpg\nThumbs/thumb_a.jpg.jpg\na.jpg.htm\n";
+  ProcessResult result = Create({"--only-changes"});
+  ASSERT_TRUE(Succeeded(result));
+  EXPECT_EQ(result.err, "Unused Files: These Files of earlier Runs are not used any more.\n" + names);
+  EXPECT_TRUE(std::filesystem::exists(picture));
+  result = Create({"--only-changes", "--remove-unused"});
+  ASSERT_TRUE(Succeeded(result));
+  EXPECT_EQ(result.err,
+            "Unused Files: These Files of earlier Runs were not used any more and have been removed.\n" + names);
+  EXPECT_EQ(Listing(), "Images/b.jpg.jpg\nThumbs/thumb_b.jpg.jpg\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
+}
+
+TEST_F(CreateCommand, WithoutOnlyChangesThereIsNoCacheFolder) {
+  ASSERT_TRUE(Succeeded(Create()));
+  EXPECT_FALSE(std::filesystem::exists(place.Path("home/.cache")));
+}
+
 TEST_F(CreateCommand, PicturesHaveTheSizesOfTheProject) {
   ASSERT_TRUE(Succeeded(Create()));
   EXPECT_EQ(SizeOf(place.Path("out/Images/a.jpg.jpg")), std::pair(400, 300));

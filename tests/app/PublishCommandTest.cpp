@@ -44,6 +44,26 @@ TEST_P(PublishCommand, ASecondTimeReplacesEverything) {
   EXPECT_TRUE(SameFiles(OnServer("web"), place.Path("out")));
 }
 
+TEST_P(PublishCommand, OnlyChangesSendsOnlyWhatChangedAndRemovesOnlyWhatItSent) {
+  std::vector<std::string> options = kCreationTime;
+  options.insert(options.end(), {"--only-changes", "--remove-unused"});
+  ASSERT_TRUE(Succeeded(Publish("web/index.htm", options))) << Log();
+  place.Write(OnServer("web/mine.htm"), "mine");
+  fs::remove(OnServer("web/index.htm"));
+  ASSERT_TRUE(Succeeded(Publish("web/index.htm", options))) << Log();
+  const std::string log = Log();
+  EXPECT_EQ(log.find("Copying file"), log.rfind("Copying file")) << log;
+  EXPECT_EQ(place.Read(OnServer("web/mine.htm")), "mine");
+  fs::remove(OnServer("web/mine.htm"));
+  Create();
+  EXPECT_TRUE(SameFiles(OnServer("web"), place.Path("out")));
+
+  place.Project("a.gpj", {"a.jpg"});
+  ASSERT_TRUE(Succeeded(Publish("web/index.htm", options))) << Log();
+  EXPECT_EQ(ListingOf(OnServer("web")),
+            "Images/a.jpg.jpg\nThumbs/thumb_a.jpg.jpg\na.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
+}
+
 TEST_P(PublishCommand, KeepExistingSendsOnlyTheMissingPicturesAndAllPages) {
   ASSERT_TRUE(Succeeded(Publish("web/index.htm", kCreationTime)));
   const std::string index = place.Read(OnServer("web/index.htm"));

@@ -63,6 +63,15 @@ TEST_F(Warnings, AFileThatIsGoneIsSaidBeforeTheFailureOfTheRun) {
             "File Error: Unable to copy the File \"C:/gone.gif\".\n");
 }
 
+TEST_F(Warnings, APhotographThatTheRunWouldReplaceIsSaidOnlyForThatFolder) {
+  place.Project("a.gpj", {"out/Images/own.jpg"});
+  place.Replace("a.gpj", "NAME=\"own.jpg\"", "NAME=\"own\"");
+  EXPECT_EQ(Create({"--strict"}).err,
+            fmt::format("Warning: Image 1, \"own\": The gallery would replace \"{}\", which it is made from.\n{}",
+                        place.Text("out/Images/own.jpg"), kNotStarted));
+  EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "other/index.htm", "--strict"})));
+}
+
 TEST_F(Warnings, APreviewHasNone) {
   place.Project("a.gpj", {"a#1.jpg"});
   const ProcessResult result = place.Run({"preview", "a.gpj"});

@@ -23,6 +23,7 @@ std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
     environment[text.substr(0, equals)] = text.substr(equals + 1);
   }
   environment.erase("XDG_CONFIG_HOME");
+  environment.erase("XDG_CACHE_HOME");
   environment["HOME"] = home.string();
   environment["LC_ALL"] = "C.UTF-8";
   return environment;

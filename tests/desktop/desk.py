@@ -20,6 +20,7 @@ class Desk:
         self._programs = programs
         self._window = None
         self._environment = dict(os.environ, DISPLAY=screen.display, HOME=folder, XDG_CONFIG_HOME=self.path("config"),
+                                 XDG_CACHE_HOME=self.path("cache"),
                                  XDG_RUNTIME_DIR=folder, QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="0",
                                  PATH=self.path("bin") + ":" + os.environ["PATH"])
         for name in ("a.jpg", "b.jpg"):

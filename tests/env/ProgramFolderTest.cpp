@@ -45,6 +45,14 @@ TEST(ProgramFolder, ARelativeXdgFolderIsInvalidAndPassedOver) {
   }
 }
 
+TEST(CacheFolder, IsInTheUsersFolderForCaches) {
+  EXPECT_EQ(FindCacheFolder({"", "/home/me", "/x", ""}), "/home/me/.cache/vantorium");
+  EXPECT_EQ(FindCacheFolder({"", "/home/me", "/x", "/c/"}), "/c/vantorium");
+  for (const char* relative : {".", "cache", "../x", "~/.cache"}) {
+    EXPECT_EQ(FindCacheFolder({"", "/home/me", "", relative}), "/home/me/.cache/vantorium") << relative;
+  }
+}
+
 TEST(ProgramFolder, NothingIsMade) {
   const fakes::TemporaryFolder folder;
   std::ignore = FindProgramFolder({}, {"", folder.Path().string(), (folder.Path() / "xdg").string()});
@@ -55,11 +63,13 @@ TEST(ProgramFolder, NothingIsMade) {
 TEST(ProgramFolder, TheProcessKnowsItsSurroundings) {
   const EnvironmentVariable home("HOME", "/home/me");
   const EnvironmentVariable xdg("XDG_CONFIG_HOME", "/x");
+  const EnvironmentVariable cache("XDG_CACHE_HOME", "/c");
   const ProcessEnvironment around = EnvironmentOfProcess();
   EXPECT_EQ(around.executable.filename(), "test_env");
   EXPECT_TRUE(fs::is_regular_file(around.executable));
   EXPECT_EQ(around.home, "/home/me");
   EXPECT_EQ(around.xdgConfigHome, "/x");
+  EXPECT_EQ(around.xdgCacheHome, "/c");
 }
 
 TEST(ProgramFolder, WithoutHomeTheUserDataBaseNamesIt) {

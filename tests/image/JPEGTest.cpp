@@ -136,6 +136,18 @@ TEST_F(JPEG, AFileWhoseDataAreCutOffAnywhereIsNotLoaded) {
   }
 }
 
+// With bytes to spare, the decoder makes all rows before it looks for the mark.
+TEST_F(JPEG, AnArithmeticFileWithoutItsEndMarkIsNotLoaded) {
+  for (int width = 1; width <= 40; ++width) {
+    const std::string jpeg = MakeJpeg({.width = width, .arithmetic = true});
+    const std::size_t end = jpeg.size() - kEndMark;
+    const std::string_view spare("\0\0\0\0\0\0\0\0", 8);
+    EXPECT_TRUE(Loads(fakes::WithBytesAt(jpeg, end, spare))) << width;
+    EXPECT_FALSE(Loads(jpeg.substr(0, end))) << width;
+    EXPECT_FALSE(Loads(jpeg.substr(0, end).append(spare))) << width;
+  }
+}
+
 TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkIsLoaded) {
   auto kinds = fakes::EveryKindOfJpeg();
   kinds.push_back({.scanPerChannel = true});

@@ -76,6 +76,9 @@ TEST_P(FTPServers, TellWhichFilesAreThereAndHowLargeTheyAre) {
   EXPECT_EQ(Stored("a.jpg").size(), 2047U) << "the question leaves the file alone";
   EXPECT_EQ(client.ftp.FTPGetFileSize("a.jpg"), "1KB");
   EXPECT_EQ(client.ftp.FTPGetFileSize("b.jpg"), "0KB");
+  EXPECT_TRUE(client.ftp.FTPHasConfirmed());
+  EXPECT_EQ(client.ftp.FTPStoredSize("a.jpg"), 2047U);
+  EXPECT_EQ(client.ftp.FTPStoredSize("b.jpg"), std::nullopt);
   EXPECT_TRUE(client.ftp.FTPDeleteFile("a.jpg"));
   EXPECT_FALSE(client.ftp.FTPDeleteFile("a.jpg"));
   EXPECT_FALSE(fs::exists(server.Root() / "a.jpg"));

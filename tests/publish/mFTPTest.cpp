@@ -159,6 +159,21 @@ TEST_F(mFTPTest, ASizeThatTheServerKeepsToItselfIsZero) {
   EXPECT_EQ(journal, Journal{});
 }
 
+TEST_F(mFTPTest, TheStoredSizeIsThatOfABinaryTransferWhichIsAgreedOnOnce) {
+  Replies({"200 Binary\r\n", "213 5000000000\r\n", "550 none\r\n"});
+  EXPECT_EQ(ftp.FTPStoredSize("a.jpg"), 5'000'000'000U);
+  EXPECT_EQ(ftp.FTPStoredSize("b.jpg"), std::nullopt);
+  EXPECT_EQ(journal, (Journal{"cmd write TYPE I\r\n", "cmd write SIZE a.jpg\r\n", "cmd write SIZE b.jpg\r\n"}));
+}
+
+TEST_F(mFTPTest, AStoredSizeThatIsNotANumberIsNone) {
+  for (const char* reply : {"213 many\r\n", "213 \r\n", "213 -1\r\n", "213 7 bytes\r\n", "200 7\r\n"}) {
+    Replies({"200 Binary\r\n", reply});
+    EXPECT_EQ(ftp.FTPStoredSize("a.jpg"), std::nullopt) << reply;
+    Replies({});
+  }
+}
+
 TEST_F(mFTPTest, ASizeThatIsNotANumberIsAFailure) {
   Replies({"213 many\r\n"});
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), env::FailureKind::TypeMismatch);

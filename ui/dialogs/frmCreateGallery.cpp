@@ -23,6 +23,8 @@ frmCreateGallery::frmCreateGallery(const Parts& parts, QWidget* parent)
   BindSwitch(*ui_->checkCreateThumbnails, &generation::RunOrder::CreateThumbnails);
   BindSwitch(*ui_->checkCreateHTMLFiles, &generation::RunOrder::CreateHTML);
   BindSwitch(*ui_->checkOverwrite, &generation::RunOrder::Overwrite);
+  BindSwitch(*ui_->checkOnlyChanges, &generation::RunOrder::OnlyChanges);
+  BindSwitch(*ui_->checkRemoveUnused, &generation::RunOrder::RemoveUnused);
   BindPath(*ui_->textCreateFilePath, &CreateGalleryModel::EditFilePath);
   BindPath(*ui_->textUploadSourceFolder, &CreateGalleryModel::EditSourceFolder);
   BindText(*ui_->textPublishDestination, &CreateGalleryModel::EditPublishDestination);
@@ -61,6 +63,7 @@ void frmCreateGallery::BindSwitch(QCheckBox& control, CreateGalleryModel::Switch
   connect(&control, &QCheckBox::toggled, this, [this, box](bool checked) {
     model_.Check(box, checked);
     ui_->checkOverwrite->setEnabled(model_.CanOverwrite());
+    ui_->checkRemoveUnused->setEnabled(model_.CanRemoveUnused());
   });
 }
 
@@ -111,6 +114,7 @@ void frmCreateGallery::ShowEnabled() {
     control->setEnabled(model_.Produces());
   }
   ui_->checkOverwrite->setEnabled(model_.CanOverwrite());
+  ui_->checkRemoveUnused->setEnabled(model_.CanRemoveUnused());
   ShowCaptions();
 }
 

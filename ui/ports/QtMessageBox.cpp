@@ -88,6 +88,14 @@ env::BoxAnswer AnswerOf(int button) {
 
 }  // namespace
 
+void QtMessageBox::ShowList(const std::string& title, const std::string& text, const std::string& lines) {
+  QMessageBox box(QMessageBox::Information, ToQt(title), LinesToQt(text), QMessageBox::Ok, Owner());
+  box.setObjectName("MessageBox");
+  box.setTextFormat(Qt::PlainText);
+  box.setDetailedText(LinesToQt(lines));
+  box.exec();
+}
+
 env::BoxAnswer QtMessageBox::Show(env::BoxKind kind, env::BoxButtons buttons, const std::string& title,
                                   const std::string& text) {
   QMessageBox box(Owner());

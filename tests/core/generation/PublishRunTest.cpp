@@ -1,6 +1,4 @@
-#include "publish/AsioFTPSocket.h"
-#include "tests/core/generation/RunFixture.h"
-#include "tests/fakes/ScriptedFtpServer.h"
+#include "tests/core/generation/PublishFixture.h"
 
 namespace vantorium::generation {
 namespace {
@@ -10,39 +8,8 @@ using Script = ScriptedFtpServer::Script;
 using Session = ScriptedFtpServer::Session;
 using Texts = std::vector<std::string>;
 
-/// Runs to a server. Drive T: is that of the fixture; the temporary folder is T:\temp.
-class PublishRunTest : public RunFixture {
+class PublishRunTest : public PublishFixture {
  protected:
-  PublishRunTest() {
-    environment.ftp = &ftp;
-    cancel.OnCancel([this] { ftp.FTPCancelData(); });
-  }
-
-  [[nodiscard]] static RunOrder PublishTo(const ScriptedFtpServer& server) {
-    RunOrder order = OrderFor(GenerationMode::Publish, "T:\\temp\\");
-    order.RemoteFolder = "web/";
-    order.RemoteIndexFileName = "index.htm";
-    order.ServerAddress = "127.0.0.1";
-    order.Port = server.Port();
-    order.UserName = "me";
-    order.Password = "secret";
-    return order;
-  }
-  [[nodiscard]] static RunOrder UploadTo(const ScriptedFtpServer& server) {
-    RunOrder order = PublishTo(server);
-    order.Mode = GenerationMode::Upload;
-    order.OutputFolder = "T:\\folder\\";
-    return order;
-  }
-  /// The last message box, with which a failed run ends.
-  [[nodiscard]] std::string LastBox() const {
-    return boxes.boxes.empty() ? "" : boxes.boxes.back().title + ": " + boxes.boxes.back().text;
-  }
-  [[nodiscard]] static std::set<std::string> NamesOn(const ScriptedFtpServer& server) {
-    std::set<std::string> names;
-    for (const auto& [name, bytes] : server.Files()) names.insert(name);
-    return names;
-  }
   /// How often the client asked whether a file exists.
   [[nodiscard]] static std::size_t Questions(const ScriptedFtpServer& server) {
     const Texts commands = server.Commands();
@@ -55,22 +22,6 @@ class PublishRunTest : public RunFixture {
     std::erase_if(commands, [](const std::string& line) { return line.starts_with("PORT "); });
     return commands;
   }
-  /// A server that answers `verb` with `reply` and all other verbs normally.
-  [[nodiscard]] static Script Answering(const std::string& verb, const std::string& reply) {
-    Script script;
-    script.on[verb] = [reply](Session& session, const std::string&) { session.Say(reply); };
-    return script;
-  }
-
-  std::unique_ptr<publish::AsioFTPSocket> ownedData = std::make_unique<publish::AsioFTPSocket>(loop);
-  const publish::AsioFTPSocket* data = ownedData.get();
-  publish::mFTP ftp{std::make_unique<publish::AsioFTPSocket>(loop),
-                    std::move(ownedData),
-                    paths,
-                    boxes,
-                    loop,
-                    cancel,
-                    publish::FTPTimeLimits{std::chrono::seconds(20), std::chrono::milliseconds(300)}};
 };
 
 TEST_F(PublishRunTest, APublishedGalleryEqualsTheCreatedOneFileByFile) {

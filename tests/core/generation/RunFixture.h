@@ -56,6 +56,10 @@ class RunFixture : public ::testing::Test {
     return order;
   }
 
+  /// The last message box, with which a failed run ends.
+  [[nodiscard]] std::string LastBox() const {
+    return boxes.boxes.empty() ? "" : boxes.boxes.back().title + ": " + boxes.boxes.back().text;
+  }
   RunEnd Run(const RunOrder& order) { return GenerateGallery(project, order, environment); }
 
   /// The files in a folder of drive T: and its subfolders, by path relative to that folder.

@@ -97,6 +97,31 @@ TEST_F(CreateForm, TheCaptionOfTheChosenOptionIsHighlighted) {
   });
 }
 
+TEST_F(CreateForm, OnlyChangesIsOffAndRemovingNeedsIt) {
+  auto order = Ask([](QWidget& form) {
+    for (const char* name : {"checkOnlyChanges", "checkRemoveUnused"}) {
+      EXPECT_FALSE(Find<QCheckBox>(form, name).isChecked()) << name;
+    }
+    ExpectEnabled(form, {"checkRemoveUnused"}, false);
+    QTest::keyClick(&form, Qt::Key_N, Qt::AltModifier);
+    ExpectEnabled(form, {"checkRemoveUnused"}, true);
+    QTest::keyClick(&form, Qt::Key_R, Qt::AltModifier);
+    Click(form, "optionUploadFolder");
+    ExpectEnabled(form, {"checkOnlyChanges", "checkRemoveUnused"}, true);
+    Click(form, "optionCreateGallery");
+    Click(form, "OKButton");
+  });
+  ASSERT_TRUE(order);
+  EXPECT_TRUE(order->OnlyChanges && order->RemoveUnused);
+  order = Ask([](QWidget& form) {
+    Click(form, "checkOnlyChanges");
+    ExpectEnabled(form, {"checkRemoveUnused"}, false);
+    Click(form, "OKButton");
+  });
+  ASSERT_TRUE(order);
+  EXPECT_FALSE(order->OnlyChanges || order->RemoveUnused);
+}
+
 TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "checkOverwrite");

@@ -39,6 +39,19 @@ const QWidget* OwnerOfABox() {
   return owner;
 }
 
+TEST(QtMessageBox, AListIsBehindAButton) {
+  QtMessageBox boxes;
+  DriveModal([&] { boxes.ShowList("Unused Files", "These are <b>unused</b>.", "a.htm\rb.htm"); },
+             [](QWidget& box) {
+               const auto& shown = dynamic_cast<QMessageBox&>(box);
+               EXPECT_EQ(shown.windowTitle(), "Unused Files");
+               EXPECT_EQ(shown.text(), "These are <b>unused</b>.");
+               EXPECT_EQ(shown.textFormat(), Qt::PlainText);
+               EXPECT_EQ(shown.detailedText(), "a.htm\nb.htm");
+               box.close();
+             });
+}
+
 TEST(QtMessageBox, BelongsToTheWindowOfTheRunWhileTheUserIsInAnotherProgram) {
   RunInTheBack run;
   ASSERT_EQ(QApplication::activeWindow(), nullptr);

@@ -192,6 +192,7 @@ ApplyResult CreateGalleryModel::Apply() {
 std::optional<generation::RunOrder> CreateGalleryModel::Order() const {
   if (Cancelled) return std::nullopt;
   generation::RunOrder order = order_;
+  order.RemoveUnused = order_.RemoveUnused && CanRemoveUnused();
   if (order.Mode == generation::GenerationMode::Create) {
     generation::SetIndexFile(order, filePath_);
   } else {

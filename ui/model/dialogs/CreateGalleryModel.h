@@ -53,6 +53,8 @@ class CreateGalleryModel {
   [[nodiscard]] bool IsChecked(Switch box) const { return order_.*box; }
   [[nodiscard]] bool CanOverwrite() const { return Produces() && (order_.CreateImages || order_.CreateThumbnails); }
 
+  [[nodiscard]] bool CanRemoveUnused() const { return order_.OnlyChanges; }
+
   [[nodiscard]] const std::string& FilePath() const { return filePath_; }
   void EditFilePath(const std::string& text) { filePath_ = text; }
   /// Completes the typed text to the path of a file.

@@ -19,6 +19,7 @@ struct DesktopPorts : core::Ports {
   const env::BundledFiles& bundled;
   ProgramVersion version;
   std::uint16_t ftpPort = 21;
+  std::filesystem::path cacheFolder{};  ///< has the records of runs; native; empty: none are kept
 };
 
 }  // namespace vantorium::ui

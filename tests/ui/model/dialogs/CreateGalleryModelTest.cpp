@@ -52,6 +52,20 @@ class CreateGalleryModelTest : public testing::Test {
   CreateGalleryModel model{preferences, File(), paths, boxes};
 };
 
+TEST_F(CreateGalleryModelTest, NothingIsRemovedWithoutOnlyChanges) {
+  using generation::RunOrder;
+  model.ComeUp();
+  EXPECT_FALSE(model.IsChecked(&RunOrder::OnlyChanges) || model.CanRemoveUnused());
+  model.Check(&RunOrder::RemoveUnused, true);
+  EXPECT_FALSE(Applied(generation::GenerationMode::Create).RemoveUnused);
+  model.Check(&RunOrder::OnlyChanges, true);
+  EXPECT_TRUE(model.CanRemoveUnused());
+  for (const auto mode : {generation::GenerationMode::Create, generation::GenerationMode::Publish}) {
+    const RunOrder order = Applied(mode);
+    EXPECT_TRUE(order.OnlyChanges && order.RemoveUnused);
+  }
+}
+
 // Folder paths
 
 TEST(NormalizeFolderPath, AFolderOnADriveEndsInABackslash) {

@@ -1,0 +1,100 @@
+#include "core/generation/changes/UnusedFiles.h"
+
+#include "core/CaseFolding.h"
+#include "core/generation/AuxiliaryFiles.h"
+#include "core/generation/changes/GalleryNames.h"
+#include "env/PathText.h"
+
+#include <set>
+#include <utility>
+
+namespace vantorium::generation {
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// The files in use, in the ways by which they can be recognized.
+class FilesInUse {
+ public:
+  FilesInUse(const RunContext& context, KnownFiles& known) : run_(context.run), isServer_(known.There().IsServer()) {
+    const bool isUpload = context.order.Mode == GenerationMode::Upload;
+    for (const std::string& name : isUpload ? SentNames(known) : NamesOfGallery(run_, context.order)) Add(name);
+    if (isServer_) return;
+    AddFile(run_.ProjectFile);
+    for (const ImageRunInfo& image : run_.RunInfo) AddFile(image.Path);
+    for (const auto& files : {Backdrops(run_), PageLinkGraphics(run_)}) {
+      for (const AuxiliaryFile& file : files) AddFile(file.source);
+    }
+  }
+
+  [[nodiscard]] bool Has(const std::string& name, const std::optional<SourceStamp>& stamp) const {
+    if (names_.contains(name) || folded_.contains(core::FoldCase(name))) return true;
+    return stamp && files_.contains(Identity(stamp->device, stamp->inode));
+  }
+
+ private:
+  using Identity = std::pair<std::uint64_t, std::uint64_t>;
+
+  [[nodiscard]] static Names SentNames(const KnownFiles& known) {
+    const Names untouched = known.Untouched();
+    const std::set<std::string> unused(untouched.begin(), untouched.end());
+    Names sent;
+    for (const auto& [name, file] : known.Files()) {
+      if (!unused.contains(name)) sent.push_back(name);
+    }
+    return sent;
+  }
+  void Add(const std::string& name) {
+    names_.insert(name);
+    if (isServer_) {
+      folded_.insert(core::FoldCase(name));
+    } else {
+      AddFile(run_.OutputFolder + env::WithBackslashes(name));
+    }
+  }
+  void AddFile(const std::string& path) {
+    const auto native = run_.files.Paths().ToNative(path);
+    const auto stamp = native ? StampOf(*native) : std::nullopt;
+    if (stamp) files_.insert(Identity(stamp->device, stamp->inode));
+  }
+
+  const RunState& run_;
+  bool isServer_;
+  std::set<std::string> names_;
+  std::set<std::string> folded_;
+  std::set<Identity> files_;
+};
+
+/// Returns the names of earlier runs that are not in use. Most runs have none, and need not look at all files.
+Names UnusedNames(const RunContext& context, KnownFiles& known) {
+  Names unused = known.Untouched();
+  if (unused.empty()) return unused;
+  const FilesInUse used(context, known);
+  std::erase_if(unused, [&](const std::string& name) { return used.Has(name, known.Files().at(name).stamp); });
+  return unused;
+}
+
+std::string Lines(const Names& names) {
+  std::string lines;
+  for (const std::string& name : names) lines += (lines.empty() ? "" : "\r") + name;
+  return lines;
+}
+
+}  // namespace
+
+PhaseResult TellUnusedFiles(const RunContext& context, KnownFiles& known) {
+  const bool removes = context.order.RemoveUnused;
+  Names found;
+  for (const std::string& name : UnusedNames(context, known)) {
+    const std::string doing = removes ? "Removing" : "Looking for";
+    if (auto end = context.Begin(doing + " unused File \"" + name + "\"...")) return end;
+    if (removes ? known.Remove(name) : known.IsAsLeft(name)) found.push_back(name);
+  }
+  if (found.empty()) return kGoOn;
+  const char* const text = removes ? "These Files of earlier Runs were not used any more and have been removed."
+                                   : "These Files of earlier Runs are not used any more.";
+  context.environment.boxes.ShowList("Unused Files", text, Lines(found));
+  return kGoOn;
+}
+
+}  // namespace vantorium::generation
