@@ -46,8 +46,9 @@ bool ImageListOperations::ReadSortKeys(ImageEntry& entry) {
     entry.DateKey = files_.GetFileDateTimeText(entry.SourcePath, true);
     return true;
   } catch (const env::RuntimeFailure& failure) {
-    boxes_.Critical("File Error", "An Error occurred trying to read the image file \"" + entry.SourcePath + "\":\r\r" +
-                                      failure.Description() + "\r\rLoading Process cancelled.");
+    boxes_.Critical("File Error", "An Error occurred trying to read the image file \"" +
+                                      files_.Paths().Surface(entry.SourcePath) + "\":\r\r" + failure.Description() +
+                                      "\r\rLoading Process cancelled.");
     display_.ShowBusyPointer(false);
     return false;
   }

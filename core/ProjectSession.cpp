@@ -105,11 +105,14 @@ bool ProjectSession::ReadWhileDisabled(const std::string& path) {
 
 bool ProjectSession::Read(const std::string& path) {
   ProjectFileReader reader(project_, images_, parts_.paths, parts_.boxes, parts_.host, parts_.events);
+  reader.OnSourcesWithoutPlace([this](const auto& sources) { return parts_.host.AskForMovedFolders(sources); });
   const bool read = reader.ReadProjectFile(path);
+  hasMovedSources_ = reader.HasMovedSources();
   images_.SelectFirstIfNoneIsCurrent();
   if (!read) {
     holdsPartOfAnotherFile_ = true;
-    ShowFileError(parts_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".", path));
+    ShowFileError(parts_.boxes, fmt::format("An error occurred while opening the Gallery Project \"{}\".",
+                                            parts_.paths.Surface(path)));
   }
   return read;
 }
@@ -118,7 +121,7 @@ void ProjectSession::AdoptOpened(const std::string& path) {
   TakePath(path);
   holdsPartOfAnotherFile_ = false;
   project_.IsUntitled = false;
-  project_.IsModified = false;
+  project_.IsModified = hasMovedSources_;
   project_.IsPristine = false;
   parts_.host.RefreshTitleBar();
   parts_.host.RefreshPageCount();

@@ -67,6 +67,7 @@ class ProjectSession {
   Project& project_;
   ImageListOperations& images_;
   Parts parts_;
+  bool hasMovedSources_ = false;         ///< the last file that was read names other places than the project
   bool holdsPartOfAnotherFile_ = false;  ///< an Open failed, and the project's file must not be replaced without asking
 };
 

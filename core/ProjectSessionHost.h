@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/MovedFolders.h"
 #include "env/WindowState.h"
 
 #include <string>
+#include <vector>
 
 namespace vantorium::core {
 
@@ -13,6 +15,12 @@ class ProjectSessionHost : public virtual env::WindowState {
   /// A small window with one text, shown during a wait.
   virtual void ShowInfoWindow(const std::string& /*text*/) {}
   virtual void HideInfoWindow() {}
+
+  /// Asks where the folders of these photographs are, which have no place on this system. Returns what the user knows;
+  /// nothing if the paths stay as they are.
+  [[nodiscard]] virtual std::vector<MovedFolder> AskForMovedFolders(const std::vector<std::string>& /*sources*/) {
+    return {};
+  }
 
   virtual void RefreshTitleBar() {}
   /// The picture of the list's current row.

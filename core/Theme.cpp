@@ -34,7 +34,7 @@ std::optional<GalleryProject> ReadTheme(const std::string& path, const env::Path
   env::WindowState noWindow;
   if (ProjectFileReader(theme, paths, boxes, noWindow, events).ReadProjectFile(path)) return theme.settings;
   boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "File Error",
-             fmt::format("The theme \"{}\" cannot be read.", path));
+             fmt::format("The theme \"{}\" cannot be read.", paths.Surface(path)));
   return std::nullopt;
 }
 

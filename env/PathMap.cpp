@@ -5,6 +5,8 @@
 namespace vantorium::env {
 namespace {
 
+constexpr char kHomeDrive = 'C';
+
 char DriveLetter(std::string_view text) {
   return static_cast<char>(text[0] >= 'a' ? text[0] - 'a' + 'A' : text[0]);
 }
@@ -21,13 +23,15 @@ bool IsBelow(std::string_view native, std::string_view stem) {
 
 }  // namespace
 
-PathMap::PathMap(std::map<char, std::string> drives, const std::filesystem::path& home) : drives_(std::move(drives)) {
-  if (drives_.empty()) drives_ = {{'C', home.string()}, {'Z', "/"}};
+PathMap::PathMap(std::map<char, std::string> drives, const std::filesystem::path& home)
+    : drives_(std::move(drives)), showsLetters_(!drives_.empty()) {
+  if (drives_.empty()) drives_ = {{kHomeDrive, home.string()}, {'Z', "/"}};
 }
 
 PathMap PathMap::WithoutDrives() {
   PathMap map({});
   map.drives_.clear();
+  map.showsLetters_ = true;  // the user may have drives
   return map;
 }
 
@@ -65,7 +69,19 @@ std::string PathMap::ToTextFromUser(std::string_view typed) const {
 }
 
 std::string PathMap::ToTextIfNative(std::string_view typed) const {
+  const auto home = drives_.find(kHomeDrive);
+  if (!showsLetters_ && home != drives_.end() && IsBelow(typed, "~")) {
+    return ToTextFromUser(Stem(home->second) + '/' + std::string(typed.substr(1)));
+  }
   return typed.starts_with('/') ? ToTextFromUser(typed) : std::string(typed);
+}
+
+std::string PathMap::Surface(std::string_view text) const {
+  const bool isPathText = HasDrive(text) || text.starts_with('\\');
+  const auto native = isPathText && !showsLetters_ ? ToNative(text) : std::nullopt;
+  if (!native) return std::string(text);
+  const bool isBareDrive = text.size() == 2 && text[1] == ':';
+  return isBareDrive && native->has_relative_path() ? native->parent_path().string() : native->string();
 }
 
 }  // namespace vantorium::env

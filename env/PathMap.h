@@ -8,7 +8,8 @@
 
 namespace vantorium::env {
 
-/// Maps between Windows path text, which the program uses everywhere, and native paths.
+/// Maps between Windows path text, which the program uses everywhere, and native paths. Whatever a user sees of a path
+/// is its surface form.
 class PathMap {
  public:
   /// `drives`: the folder of each drive letter (capitals), a native absolute path. If empty, `C:` is `home` and `Z:` is
@@ -30,12 +31,21 @@ class PathMap {
   /// Converts what a user typed to path text: keeps path text, maps a native path (relative to the working folder).
   [[nodiscard]] std::string ToTextFromUser(std::string_view typed) const;
 
-  /// Returns the path text of an absolute native path; any other text unchanged. For settings, where a name without a
-  /// folder does not mean a file in the working folder.
+  /// Returns the path text of an absolute native path, also of one that begins with `~/` unless the user has drives;
+  /// any other text unchanged. For settings, where a name without a folder does not mean a file in the working folder.
   [[nodiscard]] std::string ToTextIfNative(std::string_view typed) const;
+
+  /// Returns the surface form of path text, which is what a user sees: the native path of a place on a drive or below
+  /// the root. Text that names no such place stays as it is, and so does every text of a user who has drives, who
+  /// thinks in letters. ToTextFromUser and ToTextIfNative take the surface form back.
+  [[nodiscard]] std::string Surface(std::string_view text) const;
+
+  /// Whether the drives are the user's own and not the usual ones, or are unknown.
+  [[nodiscard]] bool ShowsLetters() const { return showsLetters_; }
 
  private:
   std::map<char, std::string> drives_;
+  bool showsLetters_;
 };
 
 }  // namespace vantorium::env

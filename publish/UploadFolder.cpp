@@ -107,7 +107,7 @@ bool FolderUpload::MakeDirectory(const Place& place) {
 
 bool FolderUpload::SendEntry(const Place& place, const FolderEntry& entry) {
   if (entry.kind == EntryKind::LinkedFolder) {
-    LeaveOut(place.LocalPath(OnOneLine(entry.name)));
+    LeaveOut(environment_.paths.Surface(place.LocalPath("")) + OnOneLine(entry.name));
     return true;
   }
   RefuseName(entry.name);
@@ -120,7 +120,7 @@ bool FolderUpload::SendSubfolder(const Place& place, const std::string& name) {
 }
 
 bool FolderUpload::SendFile(const Place& place, const std::string& name) {
-  Announce("Uploading File \"" + place.LocalPath(name) + "\"...");
+  Announce("Uploading File \"" + environment_.paths.Surface(place.LocalPath(name)) + "\"...");
   const bool sent = environment_.ftp.FTPCopyFile(place.LocalPath(name), place.RemotePath(name), place.overwrite);
   Step();
   return sent;

@@ -17,7 +17,7 @@ constexpr std::int32_t kBlockSize = 4096;
 }  // namespace
 
 bool mFTP::FTPCopyFile(const std::string& localPath, const std::string& remotePath, bool overwrite) {
-  FTPLog("Copying file " + localPath + " to " + remotePath + "\r\n");
+  FTPLog("Copying file " + paths_.Surface(localPath) + " to " + remotePath + "\r\n");
   const std::string target = env::WithSlashes(remotePath);
   if (FTPStoreFile(localPath, target, overwrite)) return true;
   FTPDeleteFile(target);

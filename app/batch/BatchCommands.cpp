@@ -111,7 +111,7 @@ bool BatchProgram::OutputIsAmong(const std::vector<std::string>& inputs) const {
     return IsSameFile(PathText(options_.output), PathText(input), paths_);
   };
   if (std::ranges::none_of(inputs, isOutput)) return false;
-  SayInOneLine("\"" + options_.output + "\" is an input too (see --help)");
+  SayInOneLine("\"" + paths_.Surface(options_.output) + "\" is an input too (see --help)");
   return true;
 }
 
@@ -150,7 +150,7 @@ bool BatchProgram::TakeTheme(const std::string& path) {
 
 ExitCode BatchProgram::Show() {
   const bool loaded = Load();
-  const bool printed = PrintResult(ProjectAsJson(project_) + "\n");
+  const bool printed = PrintResult(ProjectAsJson(project_, paths_) + "\n");
   return loaded && printed ? ExitCode::Success : ExitCode::Failure;
 }
 
@@ -187,7 +187,7 @@ ExitCode BatchProgram::Publish() {
 ExitCode BatchProgram::Upload() {
   const std::string folder = PathText(options_.folder);
   if (!CanList(paths_.ToNative(folder))) {
-    boxes_.Critical("File Error", "The folder \"" + options_.folder + "\" cannot be read.");
+    boxes_.Critical("File Error", "The folder \"" + paths_.Surface(options_.folder) + "\" cannot be read.");
     return ExitCode::Failure;
   }
   generation::RunOrder order = OrderFor(generation::GenerationMode::Upload);

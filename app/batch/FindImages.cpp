@@ -42,9 +42,10 @@ std::vector<fs::path> ImagesOf(const fs::path& top, bool recursive) {
 }
 
 /// Returns why an image cannot be in a project; empty if it can.
-std::string ProblemOf(const std::string& path) {
+std::string ProblemOf(const std::string& path, const env::PathMap& paths) {
   if (core::IsXmlText(path)) return {};
-  return "\"" + core::ToXmlText(path) + "\" has a name that is no UTF-8 text and cannot stand in a project.";
+  return "\"" + core::ToXmlText(paths.Surface(path)) +
+         "\" has a name that is no UTF-8 text and cannot stand in a project.";
 }
 
 /// Returns the images of a folder as path text: each on its own best drive if the folder is on its best drive, else on
@@ -57,7 +58,7 @@ FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, boo
     for (const fs::path& image : ImagesOf(native, recursive)) {
       found.paths.push_back(onBestDrive ? paths.ToText(native / image)
                                         : env::WithTrailingBackslash(folder) + env::WithBackslashes(image.string()));
-      found.problem = ProblemOf(found.paths.back());
+      found.problem = ProblemOf(found.paths.back(), paths);
       if (!found.problem.empty()) break;
     }
   } catch (const fs::filesystem_error& failure) {
@@ -73,10 +74,11 @@ FoundImages FindImages(const std::string& typed, bool recursive, const env::Path
   const auto native = paths.ToNative(path);
   std::error_code error;
   const auto status = native ? fs::status(*native, error) : fs::file_status();
-  if (!fs::exists(status)) return {{}, "\"" + core::ToXmlText(typed) + "\" does not exist."};
+  if (!fs::exists(status)) return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" does not exist."};
   if (fs::is_directory(status)) return FilesOfFolder(*native, path, recursive, paths);
-  if (!IsImage(*native)) return {{}, "\"" + core::ToXmlText(typed) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
-  return {{path}, ProblemOf(path)};
+  if (!IsImage(*native))
+    return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
+  return {{path}, ProblemOf(path, paths)};
 }
 
 }  // namespace vantorium::batch

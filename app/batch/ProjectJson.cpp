@@ -53,21 +53,22 @@ Json Settings(const core::GalleryProject& project) {
   return object;
 }
 
-Json Image(const core::ImageEntry& entry) {
-  return {{"ImageName", entry.ImageName},
-          {"SourcePath", entry.SourcePath},
-          {"SizeKey", entry.SizeKey},
-          {"DateKey", entry.DateKey},
-          {"ImageDescription", entry.ImageDescription},
-          {"ThumbnailDescription", entry.ThumbnailDescription}};
+Json Image(const core::ImageEntry& entry, const env::PathMap& paths) {
+  Json image = {{"ImageName", entry.ImageName}, {"SourcePath", entry.SourcePath}};
+  if (const auto native = paths.ToNative(entry.SourcePath)) image["native_path"] = native->string();
+  image["SizeKey"] = entry.SizeKey;
+  image["DateKey"] = entry.DateKey;
+  image["ImageDescription"] = entry.ImageDescription;
+  image["ThumbnailDescription"] = entry.ThumbnailDescription;
+  return image;
 }
 
 }  // namespace
 
-std::string ProjectAsJson(const core::Project& project) {
+std::string ProjectAsJson(const core::Project& project, const env::PathMap& paths) {
   Json images = Json::array();
   for (std::size_t position = 1; position <= project.images.Count(); ++position) {
-    images.push_back(Image(project.images.Entry(position)));
+    images.push_back(Image(project.images.Entry(position), paths));
   }
   const auto count = static_cast<std::int32_t>(project.images.Count());
   const Json whole = {{"project", Settings(project.settings)},

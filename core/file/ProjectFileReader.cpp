@@ -32,7 +32,7 @@ bool Load(XmlFile& file, const env::PathMap& paths, const std::string& path, env
 }  // namespace
 
 bool ProjectFileReader::ReadProjectFile(const std::string& path) {
-  window_.SetStatusText(fmt::format("Reading Project File \"{}\"...", path));
+  window_.SetStatusText(fmt::format("Reading Project File \"{}\"...", paths_.Surface(path)));
   window_.ShowBusyPointer(true);
   events_.Turn();
   ResetToDefaults(project_.settings, project_.UntitledName());
@@ -59,7 +59,7 @@ void ProjectFileReader::ReportInvalidProjectFile(const std::string& path, const 
   boxes_.Critical("Invalid Project File",
                   fmt::format("\"{}\" could not be loaded in whole because it is not a valid Vantorium 3.0 Project "
                               "File.\r\rReason: {}",
-                              path, reason));
+                              paths_.Surface(path), reason));
 }
 
 ReadResult ProjectFileReader::ReadInto(ProjectEditor& editor, const std::string& path) {
@@ -69,7 +69,16 @@ ReadResult ProjectFileReader::ReadInto(ProjectEditor& editor, const std::string&
   }
   events_.Turn();
   const pugi::xml_node gallery = file.Root().child("GALLERY");
+  if (images_ != nullptr && askForMovedFolders_ && !paths_.ShowsLetters()) MoveSources(gallery.child("IMAGES"));
   return gallery ? ReadGallery(gallery, editor) : ReadResult::NoGallery;
+}
+
+/// Writes the places into the document before it is read, so that the rules of reading hold for them.
+void ProjectFileReader::MoveSources(pugi::xml_node images) {
+  const std::vector<std::string> sources = SourcesWithoutPlace(images, paths_);
+  if (sources.empty()) return;
+  const std::vector<MovedFolder> folders = askForMovedFolders_(sources);
+  hasMovedSources_ = !folders.empty() && ReplaceSources(images, folders, paths_);
 }
 
 ReadResult ProjectFileReader::ReadGallery(pugi::xml_node gallery, ProjectEditor& editor) {

@@ -2,10 +2,15 @@
 
 #include "core/GalleryTargets.h"
 #include "core/ImageListOperations.h"
+#include "core/MovedFolders.h"
 #include "core/Project.h"
 #include "core/ProjectEditor.h"
 #include "core/file/ProjectReadResult.h"
 #include "env/EventLoop.h"
+#include "env/PathMap.h"
+
+#include <string>
+#include <vector>
 
 #include <pugixml.hpp>
 
@@ -21,6 +26,12 @@ namespace vantorium::core {
 /// is null, the images are left out. The event loop gets a turn every 100 images.
 [[nodiscard]] ReadResult ReadImages(pugi::xml_node images, ProjectEditor& editor, ImageListOperations* list,
                                     env::EventLoop& events);
+
+/// The photographs in IMAGES whose paths have no place on this system, as path text.
+[[nodiscard]] std::vector<std::string> SourcesWithoutPlace(pugi::xml_node images, const env::PathMap& paths);
+/// Replaces their paths by those where their folders are now. Returns whether any was replaced.
+[[nodiscard]] bool ReplaceSources(pugi::xml_node images, const std::vector<MovedFolder>& folders,
+                                  const env::PathMap& paths);
 
 /// THUMBNAILS: the descriptions of the thumbnails, left out if `list` is null, and the rest as for the images. The
 /// event loop gets a turn every 100 thumbnails.

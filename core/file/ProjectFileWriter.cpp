@@ -90,7 +90,7 @@ std::string ProjectFileText(const Project& project, env::EventLoop& events) {
 }
 
 bool ProjectFileWriter::WriteProjectFile(const std::string& path) const {
-  window_.SetStatusText(fmt::format("Writing Project File \"{}\"...", path));
+  window_.SetStatusText(fmt::format("Writing Project File \"{}\"...", paths_.Surface(path)));
   window_.ShowBusyPointer(true);
   events_.Turn();
   bool written = false;

@@ -35,7 +35,8 @@ void AddLinkGraphics(std::vector<AuxiliaryFile>& files, const RunState& run, con
 
 PhaseResult Copy(const RunContext& context, const AuxiliaryFile& file) {
   Delivery delivery = context.target.CopyAuxiliary(file.source, file.name);
-  if (delivery && context.run.mode != GenerationMode::Publish) delivery->text = UnableToCopyAuxiliary(file);
+  if (delivery && context.run.mode != GenerationMode::Publish)
+    delivery->text = UnableToCopyAuxiliary(context.run, file);
   return context.Settle(delivery);
 }
 
@@ -56,14 +57,15 @@ std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run) {
 }
 
 /// The links between images have a message of their own, with a small letter.
-std::string UnableToCopyAuxiliary(const AuxiliaryFile& file) {
-  if (!file.isImageLink) return UnableToCopy(file.source);
-  return "Unable to copy the file \"" + file.source + "\".";
+std::string UnableToCopyAuxiliary(const RunState& run, const AuxiliaryFile& file) {
+  if (!file.isImageLink) return UnableToCopy(run.Shown(file.source));
+  return "Unable to copy the file \"" + run.Shown(file.source) + "\".";
 }
 
 PhaseResult CopyBackdrops(const RunContext& context) {
   for (const AuxiliaryFile& file : Backdrops(context.run)) {
-    if (auto end = context.Begin("Copying Backdrop Image File \"" + file.source + "\"...")) return end;
+    if (auto end = context.Begin("Copying Backdrop Image File \"" + context.run.Shown(file.source) + "\"..."))
+      return end;
     if (auto end = Copy(context, file)) return end;
   }
   return kGoOn;

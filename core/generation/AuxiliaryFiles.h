@@ -20,7 +20,7 @@ struct AuxiliaryFile {
 [[nodiscard]] std::vector<AuxiliaryFile> PageLinkGraphics(const RunState& run);
 
 /// The message if a file cannot be copied to a local folder.
-[[nodiscard]] std::string UnableToCopyAuxiliary(const AuxiliaryFile& file);
+[[nodiscard]] std::string UnableToCopyAuxiliary(const RunState& run, const AuxiliaryFile& file);
 
 /// Copy these files into the images folder.
 [[nodiscard]] PhaseResult CopyBackdrops(const RunContext& context);

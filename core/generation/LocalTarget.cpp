@@ -54,12 +54,12 @@ std::string LocalTarget::ImageSizeText(const ImageRunInfo& image) {
 Delivery LocalTarget::CopyImage(const ImageRunInfo& image) {
   const bool copied = IsPlainFileName(image.FileName) &&
                       run_.files.CopyLocalFile(image.Path, LocalImagePath(run_, image), /*overwrite=*/true);
-  if (!copied) return FileError(UnableToCopy(image.Path));
+  if (!copied) return FileError(UnableToCopy(run_.Shown(image.Path)));
   return {};
 }
 
 Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
-  if (!IsPlainFileName(image.FileName)) return FileError(UnableToCopy(image.Path));
+  if (!IsPlainFileName(image.FileName)) return FileError(UnableToCopy(run_.Shown(image.Path)));
   image::WriteJPEGFile(NativeOrThrow(run_, LocalImagePath(run_, image)), jpeg);
   run_.files.CopyFileTimes(image.Path, LocalImagePath(run_, image));
   image.FileSize = env::FileSizeText(jpeg.size());
@@ -68,7 +68,7 @@ Delivery LocalTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
 
 Delivery LocalTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
   if (!IsPlainFileName(image.FileName) || LeavesFolder(ThumbnailFileName(run_.project, image))) {
-    return FileError(UnableToCreateThumbnail(image.Path));
+    return FileError(UnableToCreateThumbnail(run_.Shown(image.Path)));
   }
   image::WriteJPEGFile(NativeOrThrow(run_, LocalThumbnailPath(run_, image)), jpeg);
   return {};
@@ -77,7 +77,7 @@ Delivery LocalTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view
 Delivery LocalTarget::CopyAuxiliary(const std::string& source, const std::string& name) {
   const bool copied =
       IsPlainFileName(name) && run_.files.CopyLocalFile(source, run_.LocalImagesDir + name, /*overwrite=*/true);
-  if (!copied) return FileError(UnableToCopy(source));
+  if (!copied) return FileError(UnableToCopy(run_.Shown(source)));
   return {};
 }
 

@@ -75,7 +75,7 @@ class PictureProduction {
   }
 
   [[nodiscard]] PhaseResult ImageNotLoaded(Number number) const {
-    return NotLoaded(UnableToCopy(run_.Info(number).Path));
+    return NotLoaded(UnableToCopy(run_.Shown(run_.Info(number).Path)));
   }
 
   const RunContext& context_;
@@ -180,7 +180,7 @@ PhaseResult PictureProduction::MakeThumbnail(PictureWorkshop& workshop, Number n
   if (const auto bytes = EarlyBytes(number)) return context_.Settle(context_.target.StoreThumbnail(image, *bytes));
   const auto files = Take(workshop, number, Task(number, {{}, ThumbnailRecipe(run_, number)}));
   if (!files) return RunEnd::Cancelled;
-  if (!files->decoded) return NotLoaded("Unable to load JPG Image \"" + image.Path + "\".");
+  if (!files->decoded) return NotLoaded("Unable to load JPG Image \"" + run_.Shown(image.Path) + "\".");
   return context_.Settle(context_.target.StoreThumbnail(image, files->thumbnail.Bytes()));
 }
 

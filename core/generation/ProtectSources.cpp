@@ -13,8 +13,8 @@ RunPlan PlanOf(const RunContext& context) {
 PhaseResult Check(const RunContext& context, const Sources& sources, const std::vector<Output>& outputs) {
   for (const Output& output : outputs) {
     if (!sources.WouldLoseOneTo(output)) continue;
-    return context.Fail(
-        "File Error", output.failure + "  It would replace \"" + output.path + "\", which this Gallery is made from.");
+    return context.Fail("File Error", output.failure + "  It would replace \"" + context.run.Shown(output.path) +
+                                          "\", which this Gallery is made from.");
   }
   return kGoOn;
 }

@@ -116,14 +116,14 @@ class Forecaster {
   void LookAtSource(std::int32_t image, const std::string& path) {
     const auto native = run_.files.Paths().ToNative(path);
     if (native && IsReadableFile(*native)) return;
-    Add(FindingKind::MissingSource, image, "The file \"" + path + "\" cannot be read.");
+    Add(FindingKind::MissingSource, image, "The file \"" + run_.Shown(path) + "\" cannot be read.");
   }
 
   void LookAtOutputs(std::int32_t image, const std::vector<Output>& outputs) {
     for (const Output& output : outputs) {
       if (!sources_.WouldLoseOneTo(output)) continue;
       Add(FindingKind::OverwrittenSource, image,
-          "The gallery would replace \"" + output.path + "\", which it is made from.");
+          "The gallery would replace \"" + run_.Shown(output.path) + "\", which it is made from.");
     }
   }
 

@@ -4,7 +4,8 @@
 
 namespace vantorium::generation {
 
-// The messages about files that a run cannot make. A path is the source file's, except where a page is meant.
+// The messages about files that a run cannot make. A path is the source file's, except where a
+// page is meant, and in its surface form.
 
 [[nodiscard]] std::string UnableToCopy(const std::string& source);
 /// The copy from which an image is sent to a server.

@@ -19,21 +19,22 @@ void AddImage(std::vector<Output>& outputs, const RunPlan& plan, std::int32_t nu
   const bool copied = AreImagesCopied(run.project);
   const bool publishes = run.mode == GenerationMode::Publish;
   if ((copied && publishes) || StaysAsItIs(plan, &GalleryTarget::ImageExists, image)) return;
-  const std::string failure = publishes ? UnableToCopyTemporarily(image.Path) : UnableToCopy(image.Path);
+  const std::string failure =
+      publishes ? UnableToCopyTemporarily(run.Shown(image.Path)) : UnableToCopy(run.Shown(image.Path));
   outputs.push_back({LocalImagePath(run, image), failure, copied ? image.Path : ""});
 }
 
 void AddThumbnail(std::vector<Output>& outputs, const RunPlan& plan, std::int32_t number) {
   const ImageRunInfo& image = plan.run.Info(number);
   if (StaysAsItIs(plan, &GalleryTarget::ThumbnailExists, image)) return;
-  outputs.push_back({LocalThumbnailPath(plan.run, image), UnableToCreateThumbnail(image.Path)});
+  outputs.push_back({LocalThumbnailPath(plan.run, image), UnableToCreateThumbnail(plan.run.Shown(image.Path))});
 }
 
 }  // namespace
 
 Output PageOutput(const RunState& run, const std::string& name) {
   const std::string path = run.OutputFolder + name;
-  return {path, UnableToCreatePage(path)};
+  return {path, UnableToCreatePage(run.Shown(path))};
 }
 
 std::vector<Output> OutputsOfImage(const RunPlan& plan, std::int32_t number) {
@@ -58,7 +59,7 @@ std::vector<Output> AuxiliaryOutputs(const RunState& run) {
   std::vector<Output> outputs;
   if (run.mode == GenerationMode::Publish) return outputs;
   for (const AuxiliaryFile& file : AuxiliaryFilesOf(run)) {
-    outputs.push_back({run.LocalImagesDir + file.name, UnableToCopyAuxiliary(file), file.source});
+    outputs.push_back({run.LocalImagesDir + file.name, UnableToCopyAuxiliary(run, file), file.source});
   }
   return outputs;
 }

@@ -47,6 +47,8 @@ struct RunState {
   [[nodiscard]] const ImageRunInfo& Info(std::int32_t image) const {
     return RunInfo.at(static_cast<std::size_t>(image) - 1);
   }
+  /// The surface form of path text, for messages.
+  [[nodiscard]] std::string Shown(const std::string& path) const { return files.Paths().Surface(path); }
   [[nodiscard]] const core::ImageEntry& Entry(std::int32_t image) const {
     return images.Entry(static_cast<std::size_t>(image));
   }

@@ -51,7 +51,7 @@ std::string ServerTarget::ImageSizeText(const ImageRunInfo& image) {
 Delivery ServerTarget::CopyImage(const ImageRunInfo& image) {
   const bool sent = IsPlainFileName(image.FileName) &&
                     ftp_.FTPCopyFile(image.Path, RemoteImagesDir() + image.FileName, /*overwrite=*/true);
-  if (!sent) return Refusal{kTransferError, UnableToCopy(image.Path)};
+  if (!sent) return Refusal{kTransferError, UnableToCopy(run_.Shown(image.Path))};
   return {};
 }
 
@@ -59,25 +59,25 @@ Delivery ServerTarget::StoreImage(ImageRunInfo& image, std::string_view jpeg) {
   const std::string copy = LocalImagePath(run_, image);
   const auto native = run_.files.Paths().ToNative(copy);
   if (!IsPlainFileName(image.FileName) || !native) {
-    return Refusal{"File Error", UnableToCopyTemporarily(image.Path)};
+    return Refusal{"File Error", UnableToCopyTemporarily(run_.Shown(image.Path))};
   }
   image::WriteJPEGFile(*native, jpeg);
   run_.files.CopyFileTimes(image.Path, copy);
   image.FileSize = env::FileSizeText(jpeg.size());
   if (!ftp_.FTPCopyFile(copy, RemoteImagesDir() + image.FileName, /*overwrite=*/true)) {
-    return Refusal{kTransferError, UnableToCopy(image.Path)};
+    return Refusal{kTransferError, UnableToCopy(run_.Shown(image.Path))};
   }
   return {};
 }
 
 Delivery ServerTarget::StoreThumbnail(const ImageRunInfo& image, std::string_view jpeg) {
   if (auto refusal = local_.StoreThumbnail(image, jpeg)) return refusal;
-  return Move(LocalThumbnailPath(run_, image), RemoteThumbnail(image), UnableToCreateThumbnail(image.Path));
+  return Move(LocalThumbnailPath(run_, image), RemoteThumbnail(image), UnableToCreateThumbnail(run_.Shown(image.Path)));
 }
 
 Delivery ServerTarget::CopyAuxiliary(const std::string& source, const std::string& name) {
   const bool sent = IsPlainFileName(name) && ftp_.FTPCopyFile(source, RemoteImagesDir() + name, /*overwrite=*/true);
-  if (!sent) return Refusal{kTransferError, UnableToCopy(source)};
+  if (!sent) return Refusal{kTransferError, UnableToCopy(run_.Shown(source))};
   return {};
 }
 

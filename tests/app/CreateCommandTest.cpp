@@ -90,7 +90,8 @@ TEST_F(CreateCommand, APhotographInTheGallerysOwnImagesFolderIsNotWrittenOver) {
   place.Replace("own.gpj", "NAME=\"own.jpg\"", "NAME=\"own\"");
   const ProcessResult result = place.Run({"create", "own.gpj", "out/index.htm"});
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_NE(result.err.find("It would replace \"" + place.Text("out/Images/own.jpg") + "\""), std::string::npos)
+  EXPECT_NE(result.err.find("It would replace \"" + place.Path("out/Images/own.jpg").string() + "\""),
+            std::string::npos)
       << result.err;
   EXPECT_EQ(place.Read("out/Images/own.jpg"), photograph);
   EXPECT_EQ(Listing(), "Images/own.jpg\n");
@@ -196,7 +197,7 @@ TEST_F(CreateCommand, APictureThatCannotBeReadEndsTheRunAndWhatWasMadeStays) {
   place.Write("b.jpg", "no JPEG");
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.SourceText("b.jpg") + "\".\n");
+  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.Path("b.jpg").string() + "\".\n");
   EXPECT_EQ(Listing(), "Images/a.jpg.jpg\n");
 }
 
@@ -275,10 +276,11 @@ TEST_F(CreateCommand, ALineOfAMessageIsItsTitleAndItsText) {
   std::filesystem::remove(place.Path("a.jpg"));
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, "File Error: An Error occurred trying to read the image file \"" + place.SourceText("a.jpg") +
+  EXPECT_EQ(result.err, "File Error: An Error occurred trying to read the image file \"" +
+                            place.Path("a.jpg").string() +
                             "\":\n\nFile not found\n\nLoading Process cancelled.\n"
                             "File Error: An error occurred while opening the Gallery Project \"" +
-                            place.Text("a.gpj") + "\".\n");
+                            place.Path("a.gpj").string() + "\".\n");
 }
 
 }  // namespace

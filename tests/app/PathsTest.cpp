@@ -140,6 +140,58 @@ TEST(Paths, PreferencesThatCannotBeReadAreAFailureAndNoOtherPlace) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("b.gpj")));
 }
 
+/// What `show` prints of each image's place.
+std::vector<std::string> NativePaths(const Workplace& place, const std::string& project) {
+  std::vector<std::string> paths;
+  const ProcessResult result = place.Run({"show", project});
+  const auto shown = nlohmann::json::parse(result.out);
+  for (const auto& image : shown.at("images")) {
+    paths.push_back(image.value("native_path", "none"));
+  }
+  return paths;
+}
+
+TEST(Paths, ShowPrintsWhereEachSourceIsOnThisSystem) {
+  const Workplace place;
+  place.Project("a.gpj", {"home/a.jpg", "sea/b.jpg"});
+  const std::vector paths = {place.Path("home/a.jpg").string(), place.Path("sea/b.jpg").string()};
+  EXPECT_EQ(NativePaths(place, "a.gpj"), paths);
+  EXPECT_EQ(Sources(place, "a.gpj"), (std::vector{std::string("C:/a.jpg"), place.SourceText("sea/b.jpg")}));
+  UseDrives(place, "C=\"" + place.Path("home").string() + "\"\r\nZ=\"/\"\r\n");
+  EXPECT_EQ(NativePaths(place, "a.gpj"), paths) << "the place is the same for who thinks in letters";
+}
+
+TEST(Paths, AMessageShowsAPathAsTheSystemWritesIt) {
+  const Workplace place;
+  const std::string missing = place.Path("home/a.jpg").string();
+  for (const std::string& typed :
+       {std::string("C:\\a.jpg"), std::string("c:/a.jpg"), missing, WithBackslashes(missing), "Z:" + missing}) {
+    const ProcessResult result = place.Run({"new", "a.gpj", typed});
+    EXPECT_TRUE(EndedWith(1, result)) << typed;
+    EXPECT_EQ(result.err, "File Error: \"" + missing + "\" does not exist.\n") << typed;
+  }
+}
+
+TEST(Paths, AMessageShowsAPathOfNoPlaceAsItStands) {
+  const Workplace place;
+  for (const std::string typed : {"Q:\\a.jpg", "\\\\server\\share\\a.jpg", "a.jpg", "sea/a.jpg", "~/a.jpg"}) {
+    const ProcessResult result = place.Run({"new", "a.gpj", typed});
+    EXPECT_EQ(result.err, "File Error: \"" + typed + "\" does not exist.\n") << typed;
+  }
+}
+
+TEST(Paths, WithASectionDrivesMessagesShowLetters) {
+  const Workplace place;
+  place.Project("a.gpj", {"home/a.jpg"});
+  UseDrives(place, "C=\"" + place.Path("home").string() + "\"\r\nZ=\"/\"\r\n");
+  place.Write("home/a.jpg", "no JPEG");
+  const ProcessResult run = place.Run({"create", "a.gpj", "out/index.htm"});
+  EXPECT_EQ(run.err, "File Error: Unable to copy the File \"C:/a.jpg\".\n");
+  const ProcessResult verbose = place.Run({"save", "a.gpj", "C:\\b.gpj", "--verbose"});
+  EXPECT_EQ(verbose.err,
+            "Reading Project File \"" + place.Text("a.gpj") + "\"...\nWriting Project File \"C:\\b.gpj\"...\n");
+}
+
 TEST(Paths, ASourceInAProjectMayHaveSlashes) {
   const Workplace place;
   place.Project("a.gpj", {"sea/a.jpg"});

@@ -116,7 +116,7 @@ TEST_P(PublishCommand, AFileInTheWayOfAFolderIsAFailure) {
 TEST_P(PublishCommand, VerbosePrintsEachStatusTextOnALine) {
   const ProcessResult result = Publish("web/index.htm", {"--verbose"});
   ASSERT_TRUE(Succeeded(result));
-  const std::string beginning = "Reading Project File \"" + place.Text("a.gpj") +
+  const std::string beginning = "Reading Project File \"" + place.Path("a.gpj").string() +
                                 "\"...\n"
                                 "Please wait while the Gallery is being published...\n"
                                 "Connecting...\n"

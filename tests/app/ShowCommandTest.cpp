@@ -56,9 +56,10 @@ TEST(ShowCommand, AnImageIsShownWithAllItsFields) {
       "a.gpj", "<THUMBNAILS FOLDER=\"Thumbs\">",
       "<THUMBNAILS FOLDER=\"Thumbs\"><THUMBNAIL INDEX=\"1\"><DESCRIPTION><![CDATA[thumb]]></DESCRIPTION></THUMBNAIL>");
   const Json image = ShowProject(place, "a.gpj").at("images").at(0);
-  EXPECT_EQ(image.size(), 6U) << image;
+  EXPECT_EQ(image.size(), 7U) << image;
   EXPECT_EQ(image.at("ImageName"), "a.jpg");
   EXPECT_EQ(image.at("SourcePath"), place.SourceText("a.jpg"));
+  EXPECT_EQ(image.at("native_path"), place.Path("a.jpg").string());
   EXPECT_EQ(image.at("SizeKey").get<std::string>().size(), 20U);
   EXPECT_EQ(image.at("DateKey").get<std::string>().size(), 17U);
   EXPECT_EQ(image.at("ImageDescription"), "one\r\ntwo <b>&amp;</b>");
@@ -94,7 +95,7 @@ TEST(ShowCommand, AFileThatIsNotAProjectIsReportedAndShownAsANewOne) {
     const ProcessResult result = place.Run({"show", "a.gpj"});
     EXPECT_TRUE(EndedWith(1, result)) << bytes;
     EXPECT_EQ(result.err,
-              InvalidProject(place.Text("a.gpj"), "The File does not contain a Gallery Project Description."));
+              InvalidProject(place.Path("a.gpj"), "The File does not contain a Gallery Project Description."));
     EXPECT_EQ(Shown(result).at("images"), Json::array()) << bytes;
   }
 }
@@ -104,7 +105,7 @@ TEST(ShowCommand, AFileThatDoesNotExistIsReported) {
   const ProcessResult result = place.Run({"show", "nowhere.gpj"});
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_EQ(result.err,
-            InvalidProject(place.Text("nowhere.gpj"), "The File does not contain a Gallery Project Description."));
+            InvalidProject(place.Path("nowhere.gpj"), "The File does not contain a Gallery Project Description."));
 }
 
 TEST(ShowCommand, WhatWasReadBeforeTheFaultIsShown) {
@@ -114,7 +115,7 @@ TEST(ShowCommand, WhatWasReadBeforeTheFaultIsShown) {
   place.Replace("a.gpj", "<THUMBNAILS FOLDER=\"Thumbs\">", "<THUMBNAILS FOLDER=\"Small\"><THUMBNAIL INDEX=\"3\"/>");
   const ProcessResult result = place.Run({"show", "a.gpj"});
   EXPECT_TRUE(EndedWith(1, result));
-  EXPECT_EQ(result.err, InvalidProject(place.Text("a.gpj"), "Invalid Thumbnail Description Index."));
+  EXPECT_EQ(result.err, InvalidProject(place.Path("a.gpj"), "Invalid Thumbnail Description Index."));
   const Json shown = Shown(result);
   EXPECT_EQ(shown.at("images").size(), 2U);
   EXPECT_EQ(shown.at("project").at("textGalleryTitle"), "Half");
@@ -128,9 +129,9 @@ TEST(ShowCommand, AnImageThatIsGoneEndsTheReading) {
   const ProcessResult result = place.Run({"show", "a.gpj"});
   EXPECT_TRUE(EndedWith(1, result));
   const std::string first = "File Error: An Error occurred trying to read the image file \"" +
-                            place.SourceText("b.jpg") + "\":\n\nFile not found\n\nLoading Process cancelled.\n";
+                            place.Path("b.jpg").string() + "\":\n\nFile not found\n\nLoading Process cancelled.\n";
   const std::string second =
-      "File Error: An error occurred while opening the Gallery Project \"" + place.Text("a.gpj") + "\".\n";
+      "File Error: An error occurred while opening the Gallery Project \"" + place.Path("a.gpj").string() + "\".\n";
   EXPECT_EQ(result.err, first + second);
   EXPECT_EQ(Shown(result).at("images").size(), 1U);
 }

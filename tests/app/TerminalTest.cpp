@@ -33,7 +33,7 @@ TEST(Terminal, VerbosePrintsEachStatusTextOnALine) {
   const ProcessResult result = place.Run({"create", "a.gpj", "out/index.htm", "--verbose"});
   ASSERT_TRUE(Succeeded(result));
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(result.err, "Reading Project File \"" + place.Text("a.gpj") +
+  EXPECT_EQ(result.err, "Reading Project File \"" + place.Path("a.gpj").string() +
                             "\"...\n"
                             "Please wait while the Gallery is being created...\n"
                             "Collecting Image Information...\n"
@@ -55,7 +55,7 @@ TEST(Terminal, VerboseTellsOfSaving) {
   place.Photograph("a.jpg");
   const ProcessResult result = place.Run({"new", "a.gpj", "a.jpg", "--verbose"});
   ASSERT_TRUE(Succeeded(result));
-  EXPECT_EQ(result.err, "Writing Project File \"" + place.Text("a.gpj") + "\"...\n");
+  EXPECT_EQ(result.err, "Writing Project File \"" + place.Path("a.gpj").string() + "\"...\n");
 }
 
 TEST(Terminal, VerboseTextsAreInTheSameOrderForEveryNumberOfJobs) {
@@ -80,7 +80,7 @@ TEST(Terminal, QuietKeepsMessages) {
   place.Project("a.gpj", {"a.jpg"});
   place.Write("a.jpg", "no JPEG");
   const ProcessResult result = place.Run({"create", "a.gpj", "out/index.htm", "--quiet"});
-  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.SourceText("a.jpg") + "\".\n");
+  EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.Path("a.jpg").string() + "\".\n");
 }
 
 TEST(Terminal, VerboseOnATerminalIsLinesAndNoBar) {

@@ -68,11 +68,11 @@ TEST_P(UploadCommand, VerbosePrintsEachStatusTextOnALine) {
             "Logging in...\n"
             "Creating Directory \"web\"...\n"
             "Uploading File \"" +
-                place.Text("site") +
-                "\\.hidden\"...\n"
+                place.Path("site/.hidden").string() +
+                "\"...\n"
                 "Creating Directory \"web/empty\"...\n"
                 "Uploading File \"" +
-                place.Text("site") + "\\index.htm\"...\n");
+                place.Path("site/index.htm").string() + "\"...\n");
 }
 
 // A missing folder, a file, a folder on an unmapped drive, and no folder.

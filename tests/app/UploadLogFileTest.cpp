@@ -82,7 +82,7 @@ TEST_P(UploadLogOfAServer, HasTheStepsAndTheAnswers) {
   std::size_t at = 0;
   for (const std::string& part : {std::string("\r\n\r\n220 "), std::string("\r\n331 "), std::string("\r\n230 "),
                                   std::string("\r\nCreating directory web\r\n257 "), std::string("\r\n250 "),
-                                  "\r\nCopying file " + place.Text("site") + "\\a.txt to web/a.txt\r\n200 ",
+                                  "\r\nCopying file " + place.Path("site/a.txt").string() + " to web/a.txt\r\n200 ",
                                   std::string("\r\n200 "), std::string("\r\n150 "), std::string("\r\n226 ")}) {
     at = body.find(part, at);
     ASSERT_NE(at, std::string::npos) << testing::PrintToString(part) << " is missing or not in its place in\n" << body;
@@ -95,7 +95,7 @@ TEST_P(UploadLogOfAServer, LosesNothingAtItsSavepoints) {
   for (int file = 1000; file < 1000 + kFiles; ++file) {
     const std::string name = "file" + std::to_string(file);
     place.Write("site/" + name, "x");
-    copied += "Copying file " + place.Text("site") + "\\" + name + " to web/" + name + "\r\n";
+    copied += "Copying file " + place.Path("site/" + name).string() + " to web/" + name + "\r\n";
   }
   ASSERT_TRUE(Succeeded(Upload("web")));
   const std::string body = BodyOf(Log());

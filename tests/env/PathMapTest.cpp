@@ -93,6 +93,67 @@ TEST(PathMap, AnEmptyTextOfAUserStaysEmpty) {
   EXPECT_EQ(PathMap(kDrives).ToTextFromUser(""), "");
 }
 
+TEST(PathMap, TheSurfaceFormOfAPlaceIsItsNativePath) {
+  const PathMap map({}, "/home/me");
+  const std::pair<const char*, const char*> cases[] = {{"C:\\photos\\a.jpg", "/home/me/photos/a.jpg"},
+                                                       {"c:/photos/a.jpg", "/home/me/photos/a.jpg"},
+                                                       {"C:a.jpg", "/home/me/a.jpg"},
+                                                       {"C:\\photos\\", "/home/me/photos/"},
+                                                       {"C:\\", "/home/me/"},
+                                                       {"C:", "/home/me"},
+                                                       {"C:\\a:", "/home/me/a:"},
+                                                       {"Z:\\home\\me\\a b.jpg", "/home/me/a b.jpg"},
+                                                       {"Z:\\", "/"},
+                                                       {"Z:", "/"},
+                                                       {"\\srv\\a.jpg", "/srv/a.jpg"},
+                                                       {"\\", "/"},
+                                                       {"C:\\\xC3\xA4.jpg", "/home/me/\xC3\xA4.jpg"}};
+  for (const auto& [text, native] : cases) EXPECT_EQ(map.Surface(text), native) << text;
+}
+
+TEST(PathMap, TheSurfaceFormOfATextThatIsNoPlaceIsTheText) {
+  const PathMap map({}, "/home/me");
+  for (const char* text : {"", "D:\\Photos\\a.jpg", "q:", "\\\\server\\share\\a.jpg", "\\/server", "a.jpg",
+                           "photos\\a.jpg", "photos/a.jpg", "/home/me/a.jpg", "/usr/bin/view --as \"a\\b\"", "~/a.jpg",
+                           "1:\\a", ":\\a", "http://example.org/C:\\"}) {
+    EXPECT_EQ(map.Surface(text), text);
+  }
+  const std::string withNul("C:\\a\0b", 6);
+  EXPECT_EQ(map.Surface(withNul), withNul);
+  EXPECT_EQ(PathMap::WithoutDrives().Surface("C:\\a.jpg"), "C:\\a.jpg");
+}
+
+TEST(PathMap, ForWhoHasDrivesTheSurfaceFormIsTheText) {
+  const PathMap map(kDrives, "/home/me");
+  EXPECT_TRUE(map.ShowsLetters());
+  EXPECT_FALSE(PathMap({}, "/home/me").ShowsLetters());
+  for (const char* text :
+       {"C:\\a.jpg", "C:", "Z:/etc", "\\etc", "/etc", "Q:\\a", "\\\\server\\a", "a.jpg", "~/a", ""}) {
+    EXPECT_EQ(map.Surface(text), text);
+  }
+}
+
+TEST(PathMap, ASurfaceFormLeadsBackToItsPlace) {
+  const PathMap map({}, "/home/me");
+  for (const char* text :
+       {"C:\\photos\\a.jpg", "C:\\", "C:", "Z:\\", "Z:\\etc\\fonts", "Z:\\home\\me\\a", "\\srv\\a", "C:/a"}) {
+    const std::string surface = map.Surface(text);
+    for (const std::string& back : {map.ToTextIfNative(surface), map.ToTextFromUser(surface)}) {
+      EXPECT_EQ((*map.ToNative(back) / "").lexically_normal(), (*map.ToNative(text) / "").lexically_normal()) << text;
+    }
+  }
+}
+
+TEST(PathMap, InASettingATildeIsTheHomeFolder) {
+  const PathMap map({}, "/home/me");
+  EXPECT_EQ(map.ToTextIfNative("~/gallery"), "C:\\gallery");
+  EXPECT_EQ(map.ToTextIfNative("~"), "C:\\");
+  EXPECT_EQ(map.ToTextIfNative("~/../you"), "Z:\\home\\you");
+  for (const char* text : {"~you/gallery", "a~/b", "~.jpg", "C:\\~\\a", ""}) EXPECT_EQ(map.ToTextIfNative(text), text);
+  EXPECT_EQ(PathMap(kDrives).ToTextIfNative("~/gallery"), "~/gallery");
+  EXPECT_EQ(PathMap::WithoutDrives().ToTextIfNative("~/gallery"), "~/gallery");
+}
+
 TEST(PathMap, AWorkingFolderThatIsGoneLeavesTheTextOfAUser) {
   const auto before = std::filesystem::current_path();
   const fakes::TemporaryFolder folder;

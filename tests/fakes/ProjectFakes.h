@@ -27,6 +27,10 @@ class RecordingSessionHost : public core::ProjectSessionHost {
   void ShowInfoWindow(const std::string& text) override { calls_.push_back("info " + text); }
   void HideInfoWindow() override { calls_.emplace_back("info hidden"); }
   void EnableMainWindow(bool enabled) override { calls_.emplace_back(enabled ? "enabled" : "disabled"); }
+  [[nodiscard]] std::vector<core::MovedFolder> AskForMovedFolders(const std::vector<std::string>& sources) override {
+    for (const std::string& source : sources) calls_.push_back("no place " + source);
+    return movedFolders;
+  }
   void RefreshTitleBar() override { calls_.emplace_back("title bar"); }
   void RefreshPreview() override { calls_.emplace_back("preview"); }
   void RefreshCounts() override { calls_.emplace_back("counts"); }
@@ -35,6 +39,8 @@ class RecordingSessionHost : public core::ProjectSessionHost {
   void SelectFirstTab() override { calls_.emplace_back("first tab"); }
   void FocusTitleField() override { calls_.emplace_back("title field"); }
   void RebuildCustomColors() override { calls_.emplace_back("custom colors"); }
+
+  std::vector<core::MovedFolder> movedFolders;  ///< none: the paths stay
 
  private:
   Calls& calls_;
@@ -84,7 +90,7 @@ struct ProjectDesk {
   ScriptedProjectFileDialog dialog{calls};
   RecordingSessionHost host{calls};
   CountingEventLoop events;
-  env::PathMap paths{{}};
+  env::PathMap paths{{{'C', "/"}, {'Z', "/"}}};
   env::RegionalFormats formats;
   env::mFileFunctions files{paths, formats};
   core::ImageListDisplay display;

@@ -88,7 +88,7 @@ struct SampleDesk {
   }
 
   TemporaryFolder folder;
-  env::PathMap paths{{}};
+  env::PathMap paths{{{'C', "/"}, {'Z', "/"}}};
   env::RegionalFormats formats;
   env::mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;

@@ -97,7 +97,7 @@ class ImagesDesk : public core::ImageListDisplay {
   CountingEventLoop loop;
   RecordingDesktop shell;
   env::SystemClock clock;
-  env::PathMap paths{{}};
+  env::PathMap paths{{{'C', "/"}, {'Z', "/"}}};
   env::RegionalFormats formats;
   env::mFileFunctions files{paths, formats};
   ScriptedFileBrowser browser;

@@ -47,6 +47,9 @@ class MainDesk {
     std::ignore = QTest::qWaitForWindowActive(window.get());
   }
 
+  /// Gives the user the usual drives in place of T:, with the temporary folder as home.
+  void UseUsualDrives() { paths = env::PathMap({}, folder.Path()); }
+
   void AddPhotograph(const std::string& name) {
     folder.Write(name, MakeJpeg({.width = 64, .height = 48}));
     fileBrowser.answer = {"T:\\" + name, "T:\\", {name}};

@@ -6,6 +6,8 @@
 #include "ui/widgets/ShowText.h"
 #include "ui_frmAddBrowser.h"
 
+#include <QSignalBlocker>
+
 namespace vantorium::ui {
 
 frmAddBrowser::frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const env::PathMap& paths,
@@ -20,14 +22,14 @@ frmAddBrowser::frmAddBrowser(BrowserEntry& entry, FileBrowser& files, const env:
   setWindowTitle(ToQt(entry_.Title()));
   for (QLineEdit* box : {ui_->browserName, ui_->browserLocation}) box->setValidator(new OneLineValidator(box));
   ui_->browserName->setText(ToQt(entry_.Texts().Name));
-  ui_->browserLocation->setText(ToQt(entry_.Texts().Location));
+  ShowLocation();
   EnableOK();
   connect(ui_->browserName, &QLineEdit::textChanged, this, [this](const QString& text) {
     entry_.ChangeName(FromQt(text));
     EnableOK();
   });
   connect(ui_->browserLocation, &QLineEdit::textChanged, this, &frmAddBrowser::ChangeLocation);
-  connect(ui_->browserLocation, &QLineEdit::editingFinished, this, &frmAddBrowser::ShowLocationAsPathText);
+  connect(ui_->browserLocation, &QLineEdit::editingFinished, this, &frmAddBrowser::LeaveLocation);
   connect(ui_->btnBrowse, &QAbstractButton::clicked, this, &frmAddBrowser::Browse);
 }
 
@@ -38,9 +40,15 @@ void frmAddBrowser::ChangeLocation() {
   EnableOK();
 }
 
-void frmAddBrowser::ShowLocationAsPathText() {
+void frmAddBrowser::LeaveLocation() {
   entry_.LeaveLocation(paths_);
-  ShowText(*ui_->browserLocation, entry_.Texts().Location);
+  ShowLocation();
+}
+
+/// Quietly: only what the user types changes the entry.
+void frmAddBrowser::ShowLocation() {
+  const QSignalBlocker quiet(ui_->browserLocation);
+  ShowText(*ui_->browserLocation, paths_.Surface(entry_.Texts().Location));
 }
 
 void frmAddBrowser::Browse() {
@@ -48,8 +56,8 @@ void frmAddBrowser::Browse() {
                                                             .initialFolder = programFolder_,
                                                             .filter = "Executables (*.exe)|*.exe"});
   if (chosen.result.empty()) return;
-  ui_->browserLocation->setText(ToQt(chosen.result));
   entry_.TakeExecutable(chosen.result);
+  ShowLocation();
   EnableOK();
   ui_->OKButton->setFocus();
 }
@@ -59,7 +67,7 @@ void frmAddBrowser::EnableOK() {
 }
 
 void frmAddBrowser::accept() {
-  ShowLocationAsPathText();
+  LeaveLocation();
   entry_.PressOK();
   QDialog::accept();
 }

@@ -29,7 +29,8 @@ class frmAddBrowser : public QDialog {
 
  private:
   void ChangeLocation();
-  void ShowLocationAsPathText();
+  void LeaveLocation();
+  void ShowLocation();
   void Browse();
   void EnableOK();
 

@@ -11,8 +11,8 @@
 
 namespace vantorium::ui {
 
-frmBrowserList::frmBrowserList(BrowserList& list, QWidget* parent)
-    : QDialog(parent), list_(list), ui_(std::make_unique<Ui::frmBrowserList>()) {
+frmBrowserList::frmBrowserList(BrowserList& list, const env::PathMap& paths, QWidget* parent)
+    : QDialog(parent), list_(list), paths_(paths), ui_(std::make_unique<Ui::frmBrowserList>()) {
   ui_->setupUi(this);
   ui_->lvBrowsers->installEventFilter(this);
   ShowEntries();
@@ -55,7 +55,7 @@ void frmBrowserList::ShowEntries() {
   const QSignalBlocker blocker(ui_->lvBrowsers);  // the model already knows the selection
   ui_->lvBrowsers->clear();
   for (const env::Browser& browser : list_.Entries()) {
-    auto* item = new QTreeWidgetItem(ui_->lvBrowsers, {ToQt(browser.Name), ToQt(browser.Location)});
+    auto* item = new QTreeWidgetItem(ui_->lvBrowsers, {ToQt(browser.Name), ToQt(paths_.Surface(browser.Location))});
     for (const int column : {0, 1}) item->setToolTip(column, PlainTip(item->text(column)));
   }
   if (list_.Selected()) {

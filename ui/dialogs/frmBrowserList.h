@@ -1,5 +1,7 @@
 #pragma once
 
+#include "env/PathMap.h"
+
 #include <QDialog>
 #include <memory>
 
@@ -16,7 +18,7 @@ class frmBrowserList : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmBrowserList(BrowserList& list, QWidget* parent = nullptr);
+  frmBrowserList(BrowserList& list, const env::PathMap& paths, QWidget* parent = nullptr);
   ~frmBrowserList() override;
 
  protected:
@@ -29,6 +31,7 @@ class frmBrowserList : public QDialog {
   void Select();
 
   BrowserList& list_;
+  const env::PathMap& paths_;
   std::unique_ptr<Ui::frmBrowserList> ui_;
 };
 

@@ -93,8 +93,8 @@ std::optional<generation::RunOrder> frmCreateGallery::Ask() {
 }
 
 void frmCreateGallery::ShowTexts() {
-  ShowText(*ui_->textCreateFilePath, model_.FilePath());
-  ShowText(*ui_->textUploadSourceFolder, model_.SourceFolder());
+  ShowText(*ui_->textCreateFilePath, parts_.paths.Surface(model_.FilePath()));
+  ShowText(*ui_->textUploadSourceFolder, parts_.paths.Surface(model_.SourceFolder()));
   ShowText(*ui_->textPublishDestination, model_.PublishDestination());
   ShowText(*ui_->textUploadDestination, model_.UploadDestination());
   ShowPasswords();

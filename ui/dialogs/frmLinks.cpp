@@ -48,8 +48,9 @@ void frmLinks::Bind(QLineEdit& control, QAbstractButton& button, LinksModel::Gra
 }
 
 void frmLinks::ShowGraphics() {
-  ShowText(*ui_->textLinkGraphic, model_.Link().textLinkGraphic);
-  if (model_.ShowDisabledGraphic()) ShowText(*ui_->textLinkGraphicDisabled, model_.Link().textLinkGraphicDisabled);
+  ShowText(*ui_->textLinkGraphic, model_.Shown(&core::LinkSettings::textLinkGraphic));
+  if (!model_.ShowDisabledGraphic()) return;
+  ShowText(*ui_->textLinkGraphicDisabled, model_.Shown(&core::LinkSettings::textLinkGraphicDisabled));
 }
 
 bool frmLinks::eventFilter(QObject* watched, QEvent* event) {

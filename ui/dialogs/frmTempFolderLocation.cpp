@@ -43,7 +43,7 @@ void frmTempFolderLocation::accept() {
 }
 
 void frmTempFolderLocation::ShowModel() {
-  ShowText(*ui_->textTempFolderLocation, model_.textTempFolderLocation);
+  ShowText(*ui_->textTempFolderLocation, model_.Shown());
   ui_->checkAutoClear->setChecked(!core::IsOff(model_.checkAutoClear));
 }
 

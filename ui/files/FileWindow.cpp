@@ -98,7 +98,7 @@ void FileWindow::FollowSelection() {
   const auto changed = [this] { selectionChange_.start(0); };
   connect(selection, &QItemSelectionModel::selectionChanged, this, changed);
   connect(selection, &QItemSelectionModel::currentChanged, this, changed);
-  connect(name_, &QLineEdit::editingFinished, this, &FileWindow::TakePathText);
+  connect(name_, &QLineEdit::editingFinished, this, &FileWindow::ShowSurfaces);
   connect(name_, &QLineEdit::textEdited, this, [this] {
     limit_.Typed(NameLength());
     RefreshOk();
@@ -159,8 +159,8 @@ void FileWindow::TellSelection() {
   RefreshOk();
 }
 
-void FileWindow::TakePathText() {
-  const QString text = ToQt(choice_.WithPathText(FromQt(name_->text())));
+void FileWindow::ShowSurfaces() {
+  const QString text = ToQt(choice_.WithSurfaces(FromQt(name_->text())));
   if (text == name_->text()) return;
   view_->clearSelection();  // otherwise the selected file would put its name into the box
   name_->setText(text);

@@ -45,7 +45,7 @@ class FileWindow : public QFileDialog {
   [[nodiscard]] std::string FolderText() const;
   [[nodiscard]] std::size_t NameLength() const;
   void TellSelection();
-  void TakePathText();
+  void ShowSurfaces();
   void RefreshOk();
   void EnterFolder(const QString& folder);
   void TakeLoadedFolder(const QString& folder);

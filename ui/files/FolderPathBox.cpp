@@ -30,7 +30,7 @@ void FolderPathBox::Show(const QString& native) {
 void FolderPathBox::Add(const std::filesystem::path& native) {
   const QString folder = ToQt(native.string());
   if (findData(folder) >= 0) return;
-  QString text = ToQt(paths_.ToText(native));
+  QString text = ToQt(paths_.Surface(paths_.ToText(native)));
   if (text.endsWith(':')) text += '\\';
   addItem(style()->standardIcon(native.has_relative_path() ? QStyle::SP_DirIcon : QStyle::SP_DriveHDIcon), text,
           folder);

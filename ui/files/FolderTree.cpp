@@ -22,8 +22,8 @@ std::filesystem::path FolderOf(const QTreeWidgetItem& item) {
   return item.data(0, kPath).toByteArray().toStdString();
 }
 
-QString DriveText(const Drive& drive) {
-  const QString letter = QString(" (%1:)").arg(drive.letter);
+QString DriveText(const Drive& drive, bool showsLetter) {
+  const QString letter = showsLetter ? QString(" (%1:)").arg(drive.letter) : QString();
   if (ToQt(drive.folder.string()) == QDir::homePath()) return "Home" + letter;
   if (!drive.folder.has_relative_path()) return "File System" + letter;
   return ToQt(drive.folder.filename().string()) + letter;
@@ -53,7 +53,7 @@ void FolderTree::ShowDrives(const env::PathMap& paths, const Folders& folders, I
   isChecked_ = std::move(isChecked);
   clear();
   for (const Drive& drive : DriveFolders(paths)) {
-    QTreeWidgetItem* const item = MakeItem(drive.folder, DriveText(drive));
+    QTreeWidgetItem* const item = MakeItem(drive.folder, DriveText(drive, paths.ShowsLetters()));
     item->setIcon(0, style()->standardIcon(DriveIcon(drive)));
     item->setData(0, kLetter, QChar(drive.letter));
     addTopLevelItem(item);

@@ -4,8 +4,8 @@
 
 namespace vantorium::ui {
 
-ImageListModel::ImageListModel(const core::ImageList& images, QObject* parent)
-    : QAbstractTableModel(parent), images_(images), rows_(static_cast<int>(images.Count())) {}
+ImageListModel::ImageListModel(const core::ImageList& images, const env::PathMap& paths, QObject* parent)
+    : QAbstractTableModel(parent), images_(images), paths_(paths), rows_(static_cast<int>(images.Count())) {}
 
 // Adds or removes rows at the end and reports all others as changed, so that a view keeps its place; a reset would lose
 // it.
@@ -39,8 +39,12 @@ QVariant ImageListModel::data(const QModelIndex& index, int role) const {
   const bool isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
   if (!isText || !index.isValid() || position > images_.Count()) return {};
   const core::ImageEntry& entry = images_.Entry(position);
-  if (role == Qt::ToolTipRole) return index.column() == ImageSourceFile ? ToQt(entry.SourcePath) : QVariant();
-  return ToQt(index.column() == ImageName ? entry.ImageName : entry.SourcePath);
+  if (role == Qt::ToolTipRole) return index.column() == ImageSourceFile ? SourceOf(entry) : QVariant();
+  return index.column() == ImageName ? ToQt(entry.ImageName) : SourceOf(entry);
+}
+
+QString ImageListModel::SourceOf(const core::ImageEntry& entry) const {
+  return ToQt(paths_.Surface(entry.SourcePath));
 }
 
 QVariant ImageListModel::headerData(int section, Qt::Orientation orientation, int role) const {

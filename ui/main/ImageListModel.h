@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/ImageList.h"
+#include "env/PathMap.h"
 
 #include <QAbstractTableModel>
 
@@ -17,7 +18,7 @@ class ImageListModel : public QAbstractTableModel {
  public:
   enum Column { ImageName, ImageSourceFile, ColumnCount };
 
-  explicit ImageListModel(const core::ImageList& images, QObject* parent = nullptr);
+  ImageListModel(const core::ImageList& images, const env::PathMap& paths, QObject* parent = nullptr);
 
   /// Shows the list as it is now.
   void Refresh();
@@ -32,7 +33,10 @@ class ImageListModel : public QAbstractTableModel {
  private:
   void SetRowCount(int rows);
 
+  [[nodiscard]] QString SourceOf(const core::ImageEntry& entry) const;
+
   const core::ImageList& images_;
+  const env::PathMap& paths_;
   int rows_ = 0;
 };
 

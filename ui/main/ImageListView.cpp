@@ -36,9 +36,9 @@ ImageListView::ImageListView(QWidget* parent) : QTreeView(parent) {
   setDropIndicatorShown(false);   // it would point between rows, where nothing can be dropped
 }
 
-void ImageListView::Attach(core::ImageList& images) {
+void ImageListView::Attach(core::ImageList& images, const env::PathMap& paths) {
   images_ = &images;
-  model_ = new ImageListModel(images, this);
+  model_ = new ImageListModel(images, paths, this);
   setModel(model_);
   header()->resizeSection(ImageListModel::ImageName, fontMetrics().averageCharWidth() * 24);
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/ImageList.h"
+#include "env/PathMap.h"
 
 #include <QTreeView>
 #include <optional>
@@ -19,7 +20,7 @@ class ImageListView : public QTreeView {
   explicit ImageListView(QWidget* parent = nullptr);
 
   /// Call once. `images` must outlive this.
-  void Attach(core::ImageList& images);
+  void Attach(core::ImageList& images, const env::PathMap& paths);
   /// Shows the list as it is now: rows, selection, current row.
   void Refresh();
   /// `position` counts from 1; a position that the view does not know yet is ignored.

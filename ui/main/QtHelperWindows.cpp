@@ -6,11 +6,13 @@
 #include "ui/dialogs/frmBrowserList.h"
 #include "ui/dialogs/frmFileNameSettings.h"
 #include "ui/dialogs/frmFrameNameSettings.h"
+#include "ui/dialogs/frmMovedFolders.h"
 #include "ui/dialogs/frmProgress.h"
 #include "ui/dialogs/frmRunWarnings.h"
 #include "ui/dialogs/frmTempFolderLocation.h"
 #include "ui/files/frmBrowseForImageFolders.h"
 #include "ui/files/frmPreview.h"
+#include "ui/model/dialogs/MovedFolders.h"
 #include "ui/model/dialogs/RunWarningsModel.h"
 #include "ui/model/main/MainModel.h"
 
@@ -86,13 +88,20 @@ void QtHelperWindows::ShowInfoWindow(const std::string& text) {
   info_->show();
 }
 
+std::vector<core::MovedFolder> QtHelperWindows::AskForMovedFolders(const std::vector<std::string>& sources) {
+  MovedFolders folders(sources, model_.Ports().files);
+  const bool accepted =
+      frmMovedFolders(folders, model_.Ports().folderBrowser, &mainWindow_).exec() == QDialog::Accepted;
+  return accepted ? folders.Moved() : std::vector<core::MovedFolder>();
+}
+
 bool QtHelperWindows::ShowRunWarnings(generation::RunForecast& forecast) {
   RunWarningsModel warnings(forecast, model_.CurrentProject(), model_.Images());
   return frmRunWarnings(warnings, &mainWindow_).exec() == QDialog::Accepted;
 }
 
 void QtHelperWindows::ShowBrowserList(BrowserList& list) {
-  frmBrowserList(list, &mainWindow_).exec();
+  frmBrowserList(list, model_.Ports().paths, &mainWindow_).exec();
 }
 
 std::unique_ptr<publish::ProgressWindow> QtHelperWindows::CreateProgressWindow() {

@@ -55,6 +55,7 @@ class QtHelperWindows : public HelperWindows {
   void HideDescriptionsWindow() override { descriptions_->hide(); }
   [[nodiscard]] bool ShowThemes(ThemeModel& themes) override;
   [[nodiscard]] std::optional<generation::RunOrder> AskWhatToCreate() override { return create_->Ask(); }
+  [[nodiscard]] std::vector<core::MovedFolder> AskForMovedFolders(const std::vector<std::string>& sources) override;
   [[nodiscard]] bool ShowRunWarnings(generation::RunForecast& forecast) override;
   void ShowBrowserList(BrowserList& list) override;
   [[nodiscard]] std::unique_ptr<publish::ProgressWindow> CreateProgressWindow() override;

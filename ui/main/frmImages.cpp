@@ -28,7 +28,7 @@ frmImages::frmImages(const Parts& parts, QWidget* parent)
       upright_(new UprightQuestion({parts.project, parts.paths, parts.boxes, [this] { return MayAsk(); }}, this)) {
   ui_->setupUi(this);
   connect(upright_, &UprightQuestion::Accepted, this, &frmImages::TurnUpright);
-  ui_->lvImagesList->Attach(parts_.project.images);
+  ui_->lvImagesList->Attach(parts_.project.images, parts_.paths);
   ConnectList();
   ConnectPreview();
   ConnectButtons();

@@ -48,7 +48,7 @@ void QtShell::Beep(env::BeepKind /*kind*/) {
 }
 
 void QtShell::OpenFile(const std::string& path) {
-  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(NativeOf(paths_, path)))) FailToStart(path);
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(NativeOf(paths_, path)))) FailToStart(paths_.Surface(path));
 }
 
 void QtShell::Start(const env::ShellCommand& command, const env::StartFailed& failed) {

@@ -58,21 +58,32 @@ void FieldBinder::Bind(QLineEdit& control, std::string core::GalleryProject::*fi
 }
 
 void FieldBinder::BindText(QLineEdit& control, std::string core::GalleryProject::*field, QValidator* validator) {
+  TakeText(control, field, validator);
+  show_.push_back(
+      [&control, field](const core::GalleryProject& project) { ShowQuietly(control, ToQt(project.*field)); });
+}
+
+void FieldBinder::TakeText(QLineEdit& control, std::string core::GalleryProject::*field, QValidator* validator) {
   fields_.push_back(&core::FieldOf(field));
   control.setValidator(validator);
   connect(&control, &QLineEdit::textEdited, this, [this, field](const QString& text) {
     Edit([&](core::ProjectEditor& editor) { editor.Set(field, FromQt(text)); });
   });
-  show_.push_back(
-      [&control, field](const core::GalleryProject& project) { ShowQuietly(control, ToQt(project.*field)); });
 }
 
 void FieldBinder::BindPath(QLineEdit& control, const env::PathMap& paths, std::string core::GalleryProject::*field) {
-  Bind(control, field);
-  connect(&control, &QLineEdit::editingFinished, this, [this, &paths, field] {
+  TakeText(control, field, new OneLineValidator(&control));
+  connect(&control, &QLineEdit::editingFinished, this, [this, &control, &paths, field] {
     const std::string& typed = Project().*field;
     const std::string path = paths.ToTextIfNative(typed);
     if (path != typed) Edit([&](core::ProjectEditor& editor) { editor.Set(field, path); });
+    ShowQuietly(control, ToQt(paths.Surface(path)));
+  });
+  // A text that is being typed stays as typed.
+  show_.push_back([&control, &paths, field](const core::GalleryProject& project) {
+    const QString text = ToQt(project.*field);
+    const bool isTyped = control.isModified() && control.text() == text;
+    if (!isTyped) ShowQuietly(control, ToQt(paths.Surface(project.*field)));
   });
 }
 

@@ -32,7 +32,8 @@ class FieldBinder : public QObject {
   FieldBinder(core::ProjectEditor& editor, env::MessageBoxPort& boxes) : editor_(editor), boxes_(boxes) {}
 
   void Bind(QLineEdit& control, std::string core::GalleryProject::*field);
-  /// The path of a file. A native path that was typed or pasted becomes path text when the user leaves the box.
+  /// The path of a file. The box shows its surface form, and the text itself while the user is
+  /// typing. A native path that was typed or pasted becomes path text when the user leaves the box.
   void BindPath(QLineEdit& control, const env::PathMap& paths, std::string core::GalleryProject::*field);
   /// A number with its spinner.
   void Bind(QLineEdit& control, UpDown& spinner, core::Digits core::GalleryProject::*field);
@@ -61,6 +62,8 @@ class FieldBinder : public QObject {
   void Edited();
 
  private:
+  /// Takes what the user types; showing the field is the caller's part.
+  void TakeText(QLineEdit& control, std::string core::GalleryProject::*field, QValidator* validator);
   void BindText(QLineEdit& control, std::string core::GalleryProject::*field, QValidator* validator);
 
   core::ProjectEditor& editor_;

@@ -128,5 +128,33 @@ TEST_F(AddBrowserForm, ATextThatIsPastedWithLineBreaksIsOneLine) {
             "Firefox|C:\\fox");
 }
 
+TEST_F(AddBrowserForm, WithoutDrivesALocationIsShownAsTheSystemWritesIt) {
+  paths = env::PathMap({}, "/home/me");
+  const auto accept = [](QWidget& form) { Click(form, "OKButton"); };
+  for (const char* location : {"Z:\\usr\\bin\\fox", "Z:\\home\\me\\fox", "fox --new", "D:\\fox.exe"}) {
+    EXPECT_EQ(Edit({"a", location}, accept), std::string("a|") + location) << "only looked at";
+  }
+  const auto type = [](const char* typed, const char* shown) {
+    return [=](QWidget& form) {
+      auto& box = Find<QLineEdit>(form, "browserLocation");
+      Type(box, typed);
+      EXPECT_EQ(box.text(), typed);
+      Find<QWidget>(form, "browserName").setFocus();
+      EXPECT_EQ(box.text(), shown);
+      Click(form, "OKButton");
+    };
+  };
+  EXPECT_EQ(Edit({"a", "Z:\\bin\\b"}, type("/usr/bin/fox", "/usr/bin/fox")), "a|Z:\\usr\\bin\\fox");
+  EXPECT_EQ(Edit({"a", "Z:\\bin\\b"}, type("C:\\fox", "/home/me/fox")), "a|C:\\fox");
+  files.answer.result = "C:\\browser";
+  EXPECT_EQ(Edit({"a", ""},
+                 [](QWidget& form) {
+                   Click(form, "btnBrowse");
+                   EXPECT_EQ(Find<QLineEdit>(form, "browserLocation").text(), "/home/me/browser");
+                   Click(form, "OKButton");
+                 }),
+            "a|C:\\browser");
+}
+
 }  // namespace
 }  // namespace vantorium::ui

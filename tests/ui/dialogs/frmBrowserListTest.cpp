@@ -24,7 +24,7 @@ using fakes::Type;
 class BrowserListForm : public testing::Test {
  protected:
   void Drive(const std::function<void(QWidget&)>& drive) {
-    DriveModal([&] { frmBrowserList(list, nullptr).exec(); }, drive);
+    DriveModal([&] { frmBrowserList(list, paths, nullptr).exec(); }, drive);
   }
 
   /// The shown entries, each in brackets, the selected ones with a star.
@@ -163,7 +163,7 @@ TEST_F(BrowserListForm, RemoveSelectsTheNextEntryByTheKeyboardToo) {
 TEST_F(BrowserListForm, TheArrowKeysSelectTheOnlyRow) {
   for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up}) {
     BrowserList one({{"a", "x"}}, dialog, boxes);
-    DriveModal([&] { frmBrowserList(one).exec(); },
+    DriveModal([&] { frmBrowserList(one, paths).exec(); },
                [key](QWidget& form) {
                  auto& view = Find<QTreeWidget>(form, "lvBrowsers");
                  view.setFocus();
@@ -190,7 +190,7 @@ TEST_F(BrowserListForm, AnArrowKeySelectsTheRowThatItLeadsTo) {
 
 TEST_F(BrowserListForm, TheTipsHaveWhatTheColumnsCut) {
   BrowserList long_({{"<i>" + std::string(90, 'n'), "Z:\\bin\\a"}}, dialog, boxes);
-  DriveModal([&] { frmBrowserList(long_).exec(); },
+  DriveModal([&] { frmBrowserList(long_, paths).exec(); },
              [](QWidget& form) {
                const QTreeWidgetItem* item = Find<QTreeWidget>(form, "lvBrowsers").topLevelItem(0);
                EXPECT_EQ(item->toolTip(0), "&lt;i&gt;" + QString(90, 'n'));
@@ -200,7 +200,7 @@ TEST_F(BrowserListForm, TheTipsHaveWhatTheColumnsCut) {
 
 TEST_F(BrowserListForm, WithEightEntriesAddRefusesBeforeTheDialogOpens) {
   BrowserList full(Numbered(8), dialog, boxes);
-  DriveModal([&] { frmBrowserList(full).exec(); }, [](QWidget& form) { Click(form, "btnAddBrowser"); });
+  DriveModal([&] { frmBrowserList(full, paths).exec(); }, [](QWidget& form) { Click(form, "btnAddBrowser"); });
   ExpectOneBox(boxes, "Reached Browser Limit", "You cannot list more than 8 Browsers.");
 }
 

@@ -130,5 +130,16 @@ TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
   EXPECT_EQ(Tree(form).currentItem()->childCount(), 0);
 }
 
+TEST_F(FolderDialog, WithoutDrivesItShowsHomeAndTheFileSystem) {
+  const env::PathMap paths({}, QDir::homePath().toStdString());
+  frmBrowseForFolder form(paths);
+  form.SetSelectedPath(paths.ToText(desk.disk.Path() / "photos"));
+  const FolderTree& tree = Tree(form);
+  ASSERT_EQ(tree.topLevelItemCount(), 2);
+  EXPECT_EQ(tree.topLevelItem(0)->text(0), "Home");
+  EXPECT_EQ(tree.topLevelItem(1)->text(0), "File System");
+  EXPECT_EQ(form.SelectedPath(), paths.ToText(desk.disk.Path() / "photos"));
+}
+
 }  // namespace
 }  // namespace vantorium::ui

@@ -23,7 +23,8 @@ class ListModel : public testing::Test {
   }
 
   core::ImageList images;
-  ImageListModel model{images};
+  env::PathMap paths{{{'C', "/home/me"}}};
+  ImageListModel model{images, paths};
   QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -48,6 +49,16 @@ TEST_F(ListModel, TextsAreThoseOfTheMoment) {
   images.Rename(1, "z");
   EXPECT_EQ(model.index(0, 0).data().toString(), "z");
   EXPECT_EQ(model.index(0, 1).data().toString(), "C:\\a");
+}
+
+TEST_F(ListModel, WithoutDrivesASourceIsShownAsTheSystemWritesIt) {
+  const env::PathMap usual({}, "/home/me");
+  images.Insert(2, {"b", "D:\\b", "", "", "", ""});
+  const ImageListModel shown(images, usual);
+  for (const int role : {Qt::DisplayRole, Qt::ToolTipRole}) {
+    EXPECT_EQ(shown.index(0, 1).data(role).toString(), "/home/me/a");
+    EXPECT_EQ(shown.index(1, 1).data(role).toString(), "D:\\b") << "it has no place here";
+  }
 }
 
 TEST_F(ListModel, RefreshTellsThatTextsMayBeOthers) {

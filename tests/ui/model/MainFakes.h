@@ -65,6 +65,10 @@ class RecordingHelperWindows : public ui::HelperWindows {
     calls_.emplace_back("themes");
     return takesTheme;
   }
+  [[nodiscard]] std::vector<core::MovedFolder> AskForMovedFolders(const std::vector<std::string>& sources) override {
+    calls_.push_back("moved folders of " + std::to_string(sources.size()));
+    return movedFolders;
+  }
   [[nodiscard]] bool ShowRunWarnings(generation::RunForecast& forecast) override {
     for (const generation::Finding& finding : forecast.Found()) calls_.push_back("warning " + LineOf(finding));
     return runsAnyway;
@@ -79,6 +83,7 @@ class RecordingHelperWindows : public ui::HelperWindows {
 
   std::function<void()> onPlacings;
   bool takesTheme = false;
+  std::vector<core::MovedFolder> movedFolders;  ///< none: the user cancels the dialog
   bool runsAnyway = true;
   std::optional<generation::RunOrder> order;  ///< nullopt: the user cancels the dialog
   ProgressRecord progress;

@@ -1,3 +1,4 @@
+#include "env/PathMap.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/widgets/FieldBinder.h"
@@ -179,6 +180,56 @@ TEST_F(FieldBinding, AListIsChosenFromWithTheKeyboard) {
   QTest::keyClick(&layout, Qt::Key_Down);
   EXPECT_EQ(project.comboGalleryLayoutType, 1);
   EXPECT_EQ(project.comboImageFrameName, "image_frame");
+}
+
+/// The box of a path, for a user with the usual drives.
+class PathBinding : public FieldBinding {
+ protected:
+  PathBinding() {
+    column.addWidget(&box);
+    project.textThumbnailsPageBackdrop = "C:\\a.gif";
+    box.show();
+    form.activateWindow();
+    std::ignore = QTest::qWaitForWindowActive(&form);
+    binder.BindPath(box, paths, &core::GalleryProject::textThumbnailsPageBackdrop);
+    binder.Refresh();
+  }
+  void Leave() { title.setFocus(); }
+
+  env::PathMap paths{{}, "/home/me"};
+  QLineEdit box;
+};
+
+TEST_F(PathBinding, ShowsThePathAsTheSystemWritesItAndLeavesItAlone) {
+  EXPECT_EQ(box.text(), "/home/me/a.gif");
+  for (const char* path : {"C:\\a.gif", "Z:\\home\\me\\a.gif", "D:\\a.gif", "a.gif", ""}) {
+    project.textThumbnailsPageBackdrop = path;
+    binder.Refresh();
+    box.setFocus();
+    Leave();
+    EXPECT_EQ(project.textThumbnailsPageBackdrop, path);
+  }
+  EXPECT_EQ(edits, 0);
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(PathBinding, TakesBothFormsAndKeepsThemWhileTheyAreTyped) {
+  for (const char* typed : {"C:\\b.gif", "/home/me/b.gif", "~/b.gif"}) {
+    Type(box, typed);
+    EXPECT_EQ(box.text(), typed);
+    Leave();
+    EXPECT_EQ(box.text(), "/home/me/b.gif") << typed;
+    EXPECT_EQ(project.textThumbnailsPageBackdrop, "C:\\b.gif") << typed;
+  }
+}
+
+TEST_F(PathBinding, ATextThatIsNoPlaceStaysAsItIsTyped) {
+  for (const char* typed : {"D:\\b.gif", "b.gif", "sub/b.gif", "\\\\server\\b.gif", "~b.gif", "1:\\b.gif"}) {
+    Type(box, typed);
+    Leave();
+    EXPECT_EQ(box.text(), typed);
+    EXPECT_EQ(project.textThumbnailsPageBackdrop, typed);
+  }
 }
 
 }  // namespace

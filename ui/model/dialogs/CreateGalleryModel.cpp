@@ -60,7 +60,7 @@ bool NormalizeFolderPath(std::string& path, env::MessageBoxPort& boxes) {
 }
 
 std::string PathKey(std::string_view before, const std::string& key) {
-  const bool native = before.empty() || before.starts_with('/');
+  const bool native = before.empty() || before.starts_with('/') || before.starts_with('~');
   return key == "/" && !native ? "\\" : key;
 }
 
@@ -89,7 +89,7 @@ void CreateGalleryModel::FillIn(const std::string& publish, const std::string& u
 
 /// Converts typed text to path text. It may have slashes of either kind, or be a native path.
 std::string CreateGalleryModel::Finished(const std::string& typed) const {
-  return typed.starts_with('/') ? paths_.ToTextFromUser(typed) : env::WithBackslashes(typed);
+  return env::WithBackslashes(paths_.ToTextIfNative(typed));
 }
 
 void CreateGalleryModel::LeaveFilePath() {

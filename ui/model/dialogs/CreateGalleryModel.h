@@ -19,7 +19,7 @@ namespace vantorium::ui {
 [[nodiscard]] bool NormalizeFolderPath(std::string& path, env::MessageBoxPort& boxes);
 
 /// What `key` types into a path after the text `before`: a backslash for a slash, except in a native path, which begins
-/// with a slash.
+/// with a slash or a tilde.
 [[nodiscard]] std::string PathKey(std::string_view before, const std::string& key);
 
 /// The result of the button that starts the run.

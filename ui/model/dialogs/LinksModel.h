@@ -30,6 +30,10 @@ class LinksModel {
   /// If the link has two graphics and one is missing, copies the other.
   void Close();
 
+  /// The surface form of a graphic; the text as typed while the user is typing it.
+  [[nodiscard]] std::string Shown(Graphic box) const {
+    return typedInto_ == box ? link_.*box : paths_.Surface(link_.*box);
+  }
   [[nodiscard]] const core::LinkSettings& Link() const { return link_; }
   [[nodiscard]] bool ShowDisabledGraphic() const { return showDisabledGraphic_; }
   [[nodiscard]] bool MirrorGraphics() const { return mirrorGraphics_; }

@@ -73,7 +73,8 @@ void SampleDialog::Close(bool cancelled) {
 }
 
 void SampleDialog::CloseWithFailure(const std::string& place) {
-  ports_.boxes.Critical(kFailureTitle, "Vantorium was unable to load the default Preview Image in \"" + place +
+  ports_.boxes.Critical(kFailureTitle, "Vantorium was unable to load the default Preview Image in \"" +
+                                           ports_.files.Paths().Surface(place) +
                                            "\".  Please check the Temporary Folder Location.");
   Close(true);
 }

@@ -23,6 +23,8 @@ class TempFolderLocation {
   core::Flag checkAutoClear = core::kOn;
 
   void TakeNativePath();
+  /// textTempFolderLocation in its surface form.
+  [[nodiscard]] std::string Shown() const { return files_.Paths().Surface(textTempFolderLocation); }
   /// btnBrowse: lets the user choose the folder.
   void Browse(FolderBrowser& browser);
   /// btnReset: the program's folder, cleared on exit.

@@ -52,12 +52,13 @@ FileChoice::Step FileChoice::Ok(const std::string& folder, const std::string& te
   return several ? AcceptSeveral(text, names, paths) : AcceptOne(WithDefaultExtension(paths[0]));
 }
 
-std::string FileChoice::WithPathText(const std::string& text) const {
+std::string FileChoice::WithSurfaces(const std::string& text) const {
   std::vector<std::string> names = CutFileNames(text);
   bool turned = false;
   for (std::string& name : names) {
-    if (!name.starts_with('/')) continue;
-    name = files_.Paths().ToTextFromUser(name);
+    const std::string shown = files_.Paths().Surface(files_.Paths().ToTextIfNative(name));
+    if (shown == name) continue;
+    name = shown;
     turned = true;
   }
   return turned ? JoinFileNames(names) : text;
@@ -70,7 +71,7 @@ bool FileChoice::IsFolder(const std::string& path) const {
 }
 
 std::string FileChoice::PathOf(const std::string& folder, const std::string& name) const {
-  std::string path = name.starts_with('/') ? files_.Paths().ToTextFromUser(name) : env::WithBackslashes(name);
+  std::string path = env::WithBackslashes(files_.Paths().ToTextIfNative(name));
   if (!BeginsWithDrive(path) && !path.starts_with('\\')) path = env::WithTrailingBackslash(folder) + path;
   if (BeginsWithDrive(path) && path.find('\\') == std::string::npos) path.insert(2, 1, '\\');
   const auto native = GoesUp(path) ? files_.Paths().ToNative(path) : std::nullopt;

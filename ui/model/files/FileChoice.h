@@ -35,8 +35,8 @@ class FileChoice {
   [[nodiscard]] const std::string& Folder() const { return folder_; }
   [[nodiscard]] const FileDialogResult& Result() const { return result_; }
 
-  /// Returns the box's text with each native path converted to path text; other text is unchanged.
-  [[nodiscard]] std::string WithPathText(const std::string& text) const;
+  /// Returns the box's text with each path in its surface form; other text is unchanged.
+  [[nodiscard]] std::string WithSurfaces(const std::string& text) const;
 
  private:
   [[nodiscard]] bool Has(std::uint32_t flag) const { return (flags_ & flag) != 0; }

@@ -55,7 +55,9 @@ std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
       names.push_back(std::move(name));
     }
   }
-  if (error) problems_.push_back(fmt::format("\"{}\" cannot be read: {}.", core::ToXmlText(folder), error.message()));
+  if (error)
+    problems_.push_back(
+        fmt::format("\"{}\" cannot be read: {}.", core::ToXmlText(parts_.paths.Surface(folder)), error.message()));
   std::ranges::sort(names);
   return names;
 }
@@ -64,7 +66,8 @@ std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
 /// another file.
 bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
   if (!core::IsXmlText(path) || name.find('\\') != std::string::npos) {
-    problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", core::ToXmlText(path)));
+    const std::string shown = parts_.paths.Surface(env::WithTrailingBackslash(folder_)) + name;
+    problems_.push_back(fmt::format("\"{}\" has a name that cannot stand in a project.", core::ToXmlText(shown)));
     return true;
   }
   if (!parts_.images.AddFile(path)) return false;
@@ -75,7 +78,7 @@ bool FolderWalk::AddImage(const std::string& path, const std::string& name) {
 /// Updates the window and gives the event loop a turn from time to time. Returns false if the user has cancelled.
 bool FolderWalk::GoesOn() {
   if (Clock::now() - lastTurn_ >= pace_) {
-    progress_->Show(folder_, added_);
+    progress_->Show(parts_.paths.Surface(folder_), added_);
     parts_.loop.Turn();
     lastTurn_ = Clock::now();
   }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "core/MovedFolders.h"
 #include "core/generation/RunHost.h"
 #include "ui/model/dialogs/BrowserList.h"
 #include "ui/model/dialogs/ThemeModel.h"
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vantorium::ui {
 
@@ -26,6 +28,8 @@ class HelperWindows {
 
   // Each shows its dialog modally.
   [[nodiscard]] virtual std::optional<generation::RunOrder> AskWhatToCreate() = 0;
+  /// Asks where the folders of photographs are that have no place on this system. Returns nothing if the user cancels.
+  [[nodiscard]] virtual std::vector<core::MovedFolder> AskForMovedFolders(const std::vector<std::string>& sources) = 0;
   /// Shows what would go wrong in a run. Returns false if the user does not want it.
   [[nodiscard]] virtual bool ShowRunWarnings(generation::RunForecast& forecast) = 0;
   virtual void ShowBrowserList(BrowserList& list) = 0;

@@ -30,6 +30,9 @@ class MainHost : public core::ProjectSessionHost,
   void ShowInfoWindow(const std::string& text) override { windows_->ShowInfoWindow(text); }
   void HideInfoWindow() override { windows_->HideInfoWindow(); }
   void EnableMainWindow(bool enabled) override { view_->EnableMainWindow(enabled); }
+  [[nodiscard]] std::vector<core::MovedFolder> AskForMovedFolders(const std::vector<std::string>& sources) override {
+    return windows_->AskForMovedFolders(sources);
+  }
   void RefreshTitleBar() override;
   void RefreshPreview() override { view_->ShowPreview(); }
   void RefreshCounts() override;

@@ -558,5 +558,50 @@ TEST_F(CreateGalleryModelTest, TheOptionsOfTheServerGoWithItAndItsCertificateIsO
   EXPECT_EQ(options(), publish::FTPOptions());
 }
 
+// Native paths, for a user with the usual drives
+
+TEST_F(CreateGalleryModelTest, ANativePathOfTheIndexFileIsCompletedLikePathText) {
+  paths = env::PathMap({}, "/home/me");
+  preferences.CreateFolder = "C:\\gallery\\";
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"/home/me/tour/start.htm", "/home/me/tour/start.htm"},
+      {"~/tour/start.htm", "/home/me/tour/start.htm"},
+      {"/home/me/tour/", "/home/me/tour/index.htm"},
+      {"/home/me/tour", "/home/me/tour/index.htm"},
+      {"/home/me", "/home/me/index.htm"},
+      {"~", "/home/me/index.htm"},
+      {"/", "/index.htm"},
+      {"/srv/x/../www", "/srv/www/index.htm"},
+      {"C:\\tour", "/home/me/tour/index.htm"},
+      {"Z:", "/index.htm"},
+      {"tour/start.htm", "/home/me/gallery/index.htm"},
+      {"~you/start.htm", "/home/me/gallery/index.htm"},
+      {"start.htm", "/home/me/gallery/index.htm"},
+      {"", "/home/me/gallery/index.htm"},
+      {"D:\\tour\\start.htm", "D:\\tour\\start.htm"},
+  };
+  for (const auto& [typed, shown] : cases) EXPECT_EQ(paths.Surface(LeftFilePath(typed)), shown) << typed;
+}
+
+TEST_F(CreateGalleryModelTest, ANativeSourceFolderIsAnAbsolutePath) {
+  paths = env::PathMap({}, "/home/me");
+  model.Choose(generation::GenerationMode::Upload);
+  for (const auto& [typed, shown] :
+       std::vector<std::pair<std::string, std::string>>{{"/home/me", "/home/me/"},
+                                                        {"/home/me/site", "/home/me/site/"},
+                                                        {"/srv/site/", "/srv/site/"},
+                                                        {"~/site", "/home/me/site/"},
+                                                        {"/", "/"}}) {
+    model.EditSourceFolder(typed);
+    EXPECT_EQ(model.Apply(), ApplyResult::Done) << typed;
+    EXPECT_EQ(paths.Surface(model.SourceFolder()), shown) << typed;
+  }
+  EXPECT_TRUE(boxes.boxes.empty());
+  for (const char* typed : {"site", "home/me/site", "~me", ""}) {
+    model.EditSourceFolder(typed);
+    EXPECT_EQ(model.Apply(), ApplyResult::NoSourceFolder) << typed;
+  }
+}
+
 }  // namespace
 }  // namespace vantorium::ui

@@ -166,5 +166,22 @@ TEST_F(LinkDialog, CloseFinishesWhatIsBeingTyped) {
   EXPECT_EQ(Graphics(model), "C:\\n.gif|C:\\dim.gif");
 }
 
+TEST_F(LinkDialog, WithoutDrivesAGraphicIsShownAsTheSystemWritesIt) {
+  paths = env::PathMap({}, "/home/me");
+  LinksModel model = Model({"NEXT", "C:\\a.gif", "D:\\b.gif"});
+  EXPECT_EQ(model.Shown(kFirst), "/home/me/a.gif");
+  EXPECT_EQ(model.Shown(kSecond), "D:\\b.gif") << "it has no place here";
+  model.LeaveGraphic(kFirst);
+  EXPECT_EQ(model.Link().textLinkGraphic, "C:\\a.gif");
+  EXPECT_EQ(edits, 0);
+  for (const char* typed : {"C:\\c.gif", "/home/me/c.gif", "~/c.gif"}) {
+    model.EditGraphic(kFirst, typed);
+    EXPECT_EQ(model.Shown(kFirst), typed) << "a text stays as it is while it is typed";
+    model.LeaveGraphic(kFirst);
+    EXPECT_EQ(model.Shown(kFirst), "/home/me/c.gif") << typed;
+    EXPECT_EQ(model.Link().textLinkGraphic, "C:\\c.gif") << typed;
+  }
+}
+
 }  // namespace
 }  // namespace vantorium::ui

@@ -128,5 +128,22 @@ TEST_F(TempFolderLocationTest, ANativePathBecomesPathText) {
   EXPECT_EQ(dialog.textTempFolderLocation, "temp");
 }
 
+TEST_F(TempFolderLocationTest, WithoutDrivesANativePathIsTakenAndShownAsTyped) {
+  paths = env::PathMap({}, disk.Path());
+  const std::string home = disk.Path().string();
+  for (const auto& [typed, stored, shown] :
+       std::vector<std::tuple<std::string, std::string, std::string>>{{home + "/new", "C:\\new", home + "/new"},
+                                                                      {home + "/new//", "C:\\new", home + "/new"},
+                                                                      {"~/new", "C:\\new", home + "/new"},
+                                                                      {"C:\\new", "C:\\new", home + "/new"},
+                                                                      {home, "C:", home}}) {
+    TempFolderLocation dialog = Dialog(typed);
+    EXPECT_TRUE(dialog.Accept()) << typed;
+    EXPECT_EQ(dialog.textTempFolderLocation, stored) << typed;
+    EXPECT_EQ(dialog.Shown(), shown) << typed;
+  }
+  for (const char* typed : {"new", "a/b", "~you", ""}) EXPECT_FALSE(Dialog(typed).Accept()) << typed;
+}
+
 }  // namespace
 }  // namespace vantorium::ui

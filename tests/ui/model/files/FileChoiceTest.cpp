@@ -164,11 +164,25 @@ TEST_F(Choosing, ATypedNameWithoutAnExtensionIsNotTakenForTheFileBrowsedBefore) 
 TEST_F(Choosing, ANativePathBecomesPathText) {
   const FileChoice choice = OpenSeveral();
   const std::string native = (disk.Path() / "photos/a.jpg").string();
-  EXPECT_EQ(choice.WithPathText(native), "C:\\photos\\a.jpg");
-  EXPECT_EQ(choice.WithPathText('"' + native + "\" \"b.jpg\""), "\"C:\\photos\\a.jpg\" \"b.jpg\"");
+  EXPECT_EQ(choice.WithSurfaces(native), "C:\\photos\\a.jpg");
+  EXPECT_EQ(choice.WithSurfaces('"' + native + "\" \"b.jpg\""), "\"C:\\photos\\a.jpg\" \"b.jpg\"");
   for (const char* text : {"", "a.jpg", "\"a.jpg\"  \"b.jpg\"", "C:\\photos\\a.jpg", "photos/a.jpg"}) {
-    EXPECT_EQ(choice.WithPathText(text), text);
+    EXPECT_EQ(choice.WithSurfaces(text), text);
   }
+}
+
+TEST_F(Choosing, WithoutDrivesAPathIsShownAsTheSystemWritesIt) {
+  const env::PathMap usual({}, disk.Path());
+  const env::mFileFunctions usualFiles{usual, formats};
+  FileChoice choice({.title = "Open"}, usualFiles, boxes);
+  const std::string native = (disk.Path() / "photos/a.jpg").string();
+  for (const std::string& typed : {native, std::string("C:\\photos\\a.jpg"), std::string("~/photos/a.jpg")}) {
+    EXPECT_EQ(choice.WithSurfaces(typed), native);
+    ASSERT_EQ(choice.Ok("Z:\\", typed), Step::Accept) << typed;
+    EXPECT_EQ(choice.Result().result, "C:\\photos\\a.jpg") << typed;
+  }
+  for (const char* text : {"", "a.jpg", "~a.jpg", "D:\\a.jpg", "photos/a.jpg"})
+    EXPECT_EQ(choice.WithSurfaces(text), text);
 }
 
 }  // namespace
