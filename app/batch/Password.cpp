@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -28,7 +29,7 @@ std::optional<std::string> FirstLine(int file) {
   std::string line;
   for (char character = 0; character != '\n';) {
     const auto read = ::read(file, &character, 1);
-    if (read < 0 && errno == EINTR && endingSignal == 0) continue;
+    if (read < 0 && errno == EINTR) continue;
     if (read < 0 || line.size() > kLongest) return std::nullopt;
     if (read == 0) break;
     if (character != '\n') line += character;
@@ -45,11 +46,15 @@ constexpr std::array kEndingSignals = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
 /// that would end the process ends it only after the terminal shows what is typed again.
 class HiddenTyping {
  public:
-  HiddenTyping() : isTerminal_(::tcgetattr(STDIN_FILENO, &before_) == 0) {
+  HiddenTyping() : isTerminal_(::tcgetattr(STDIN_FILENO, &shown_) == 0) {
     if (!isTerminal_) return;
+    sigset_t ending = {};
+    ::sigemptyset(&ending);
+    for (const int signal : kEndingSignals) ::sigaddset(&ending, signal);
+    ::pthread_sigmask(SIG_BLOCK, &ending, &delivered_);
     for (std::size_t i = 0; i < kEndingSignals.size(); ++i) ::sigaction(kEndingSignals[i], nullptr, &actions_[i]);
     Handle(NoteSignal);
-    termios hidden = before_;
+    termios hidden = shown_;
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     hidden.c_lflag |= ECHONL;
     ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
@@ -57,12 +62,24 @@ class HiddenTyping {
   }
   ~HiddenTyping() {
     if (!isTerminal_) return;
-    ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+    ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown_);
     Handle(nullptr);
+    ::pthread_sigmask(SIG_SETMASK, &delivered_, nullptr);
     if (endingSignal != 0) ::raise(endingSignal);
   }
   HiddenTyping(const HiddenTyping&) = delete;
   HiddenTyping& operator=(const HiddenTyping&) = delete;
+
+  /// Waits until a line can be read. Returns false if a signal ends the process. Signals are delivered only during this
+  /// wait, so that none is missed before it.
+  [[nodiscard]] bool WaitForLine() const {
+    if (!isTerminal_) return true;
+    pollfd input = {.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+    while (::ppoll(&input, 1, nullptr, &delivered_) < 0 && errno == EINTR) {
+      if (endingSignal != 0) return false;
+    }
+    return true;
+  }
 
  private:
   /// Lets `handler` handle the signals, or what handled them before if there is none. An ignored signal stays ignored.
@@ -70,16 +87,14 @@ class HiddenTyping {
     for (std::size_t i = 0; i < kEndingSignals.size(); ++i) {
       struct sigaction action = actions_[i];
       if (action.sa_handler == SIG_IGN) continue;
-      if (handler != nullptr) {
-        action.sa_handler = handler;
-        action.sa_flags = 0;  // no SA_RESTART: the read of the password ends
-      }
+      if (handler != nullptr) action.sa_handler = handler;
       ::sigaction(kEndingSignals[i], &action, nullptr);
     }
   }
 
-  termios before_ = {};
+  termios shown_ = {};
   bool isTerminal_;
+  sigset_t delivered_ = {};
   std::array<struct sigaction, kEndingSignals.size()> actions_ = {};
 };
 
@@ -87,8 +102,8 @@ class HiddenTyping {
 
 std::optional<std::string> ReadPassword(const std::string& file) {
   if (file == "-") {
-    const HiddenTyping hidden;
-    return FirstLine(STDIN_FILENO);
+    const HiddenTyping typing;
+    return typing.WaitForLine() ? FirstLine(STDIN_FILENO) : std::nullopt;
   }
   const env::FileDescriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
   return FirstLine(opened.Get());
