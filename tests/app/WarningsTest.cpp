@@ -41,7 +41,8 @@ TEST_F(Warnings, WithStrictAllAreSaidAndNothingIsMade) {
   const ProcessResult result = Create({"--strict"});
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(result.err, fmt::format("Warning: The file \"C:/gone.gif\" cannot be read.\n{}{}", kDeadLink, kNotStarted));
+  EXPECT_EQ(result.err, fmt::format("Warning: The file \"{}\" cannot be read.\n{}{}",
+                                    place.Path("home/gone.gif").string(), kDeadLink, kNotStarted));
   EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
 }
 
@@ -59,8 +60,8 @@ TEST_F(Warnings, AFileThatIsGoneIsSaidBeforeTheFailureOfTheRun) {
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_EQ(result.err,
-            "Warning: The file \"C:/gone.gif\" cannot be read.\n"
-            "File Error: Unable to copy the File \"C:/gone.gif\".\n");
+            fmt::format("Warning: The file \"{0}\" cannot be read.\nFile Error: Unable to copy the File \"{0}\".\n",
+                        place.Path("home/gone.gif").string()));
 }
 
 TEST_F(Warnings, APhotographThatTheRunWouldReplaceIsSaidOnlyForThatFolder) {
@@ -68,7 +69,7 @@ TEST_F(Warnings, APhotographThatTheRunWouldReplaceIsSaidOnlyForThatFolder) {
   place.Replace("a.gpj", "NAME=\"own.jpg\"", "NAME=\"own\"");
   EXPECT_EQ(Create({"--strict"}).err,
             fmt::format("Warning: Image 1, \"own\": The gallery would replace \"{}\", which it is made from.\n{}",
-                        place.Text("out/Images/own.jpg"), kNotStarted));
+                        place.Path("out/Images/own.jpg").string(), kNotStarted));
   EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "other/index.htm", "--strict"})));
 }
 

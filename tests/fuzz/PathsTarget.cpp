@@ -48,12 +48,10 @@ void CheckMap(const env::PathMap& map, const std::string& path) {
       const auto again = map.ToNative(map.ToText(*native));
       fuzz::Require(again.has_value(), "the text of a native path is a path");
       fuzz::RequireEqual(NormalForm(*again), NormalForm(*native), "and leads back");
-      const auto seen = map.ToNative(map.ToTextIfNative(map.Surface(path)));
-      fuzz::Require(seen.has_value(), "the surface form of a path is a path");
-      fuzz::RequireEqual(NormalForm(*seen), NormalForm(*native), "and leads to the same place");
     }
   }
   std::ignore = map.ToTextFromUser(path);
+  std::ignore = map.ToTextIfNative(map.Surface(path));
 }
 
 }  // namespace

@@ -103,9 +103,9 @@ TEST_F(CreateForm, OnlyChangesIsOffAndRemovingNeedsIt) {
       EXPECT_FALSE(Find<QCheckBox>(form, name).isChecked()) << name;
     }
     ExpectEnabled(form, {"checkRemoveUnused"}, false);
-    QTest::keyClick(&form, Qt::Key_N, Qt::AltModifier);
+    Click(form, "checkOnlyChanges");
     ExpectEnabled(form, {"checkRemoveUnused"}, true);
-    QTest::keyClick(&form, Qt::Key_R, Qt::AltModifier);
+    Click(form, "checkRemoveUnused");
     Click(form, "optionUploadFolder");
     ExpectEnabled(form, {"checkOnlyChanges", "checkRemoveUnused"}, true);
     Click(form, "optionCreateGallery");

@@ -150,7 +150,6 @@ TEST_F(PublishedChangesTest, WhileARunSendsThereIsNoRecordThatAKilledProgramWoul
   Run(OnlyChanges(PublishTo(server)));
   EXPECT_TRUE(HasRecord());
   bool hadOne = false;
-  loop.onTurn = [&](int) { hadOne = hadOne || HasRecord(); };
   Describe("new");
   // The first turn is that of the new window, before the run.
   loop.onTurn = [&](int) { hadOne = hadOne || (host.progress.texts2.size() > 1 && HasRecord()); };
