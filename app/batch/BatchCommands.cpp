@@ -34,12 +34,6 @@ unsigned JobsOf(const BatchOptions& options) {
   return options.jobs > 0 ? options.jobs : std::max(1U, std::thread::hardware_concurrency());
 }
 
-bool CanList(const std::optional<std::filesystem::path>& folder) {
-  std::error_code error;
-  if (folder) const std::filesystem::directory_iterator entries(*folder, error);
-  return folder && !error;
-}
-
 /// The whole program for one command: the project and everything it depends on.
 class BatchProgram {
  public:
@@ -47,7 +41,7 @@ class BatchProgram {
       : options_(options),
         programFolder_(ProgramFolderOf(options)),
         paths_(env::ReadPathMap(env::GetINIFileName(programFolder_), env::EnvironmentOfProcess().home)),
-        terminal_(ChooseProgressStyle(options.quiet, options.verbose)) {
+        terminal_(ChooseProgressStyle(options.quiet, options.verbose), options.json) {
     cancel_.OnCancel([this] { ftp_.FTPCancelData(); });
     session_.NewProject();
   }
@@ -55,6 +49,7 @@ class BatchProgram {
   ExitCode Run();
 
  private:
+  ExitCode RunCommand();
   ExitCode New();
   /// Returns false after messages if the theme at `path` cannot be read. Does nothing for an empty path.
   [[nodiscard]] bool TakeTheme(const std::string& path);
@@ -99,6 +94,7 @@ class BatchProgram {
   BatchHost host_{terminal_, boxes_, loop_, log_, options_.strict};
   env::Screen screen_;
   image::PangoTextRaster texts_;
+  std::string index_;  ///< of a preview, native
   core::Project project_;
   core::ImageListDisplay noDisplay_;
   core::ImageListOperations images_{project_, files_, boxes_, noDisplay_};
@@ -186,7 +182,7 @@ ExitCode BatchProgram::Publish() {
 
 ExitCode BatchProgram::Upload() {
   const std::string folder = PathText(options_.folder);
-  if (!CanList(paths_.ToNative(folder))) {
+  if (!CanListFolder(paths_.ToNative(folder))) {
     boxes_.Critical("File Error", "The folder \"" + paths_.Surface(options_.folder) + "\" cannot be read.");
     return ExitCode::Failure;
   }
@@ -239,7 +235,8 @@ ExitCode BatchProgram::CarryOut(const generation::RunOrder& order) {
   if (end != generation::RunEnd::Success) return cancel_.CancelRequested() ? ExitCode::Cancelled : ExitCode::Failure;
   if (order.Mode == generation::GenerationMode::Preview) {
     const auto index = paths_.ToNative(env::TempFolderIn(preferences.TempFolderLocation) + "\\index.htm");
-    const bool printed = PrintResult(index.value_or("").string() + "\n");
+    index_ = index.value_or("").string();
+    const bool printed = options_.json || PrintResult(index_ + "\n");
     if (!printed || !shell.HasOpened()) return ExitCode::Failure;
   }
   return ExitCode::Success;
@@ -263,6 +260,13 @@ env::Preferences BatchProgram::PreferencesOfRun() const {
 }
 
 ExitCode BatchProgram::Run() {
+  const ExitCode code = RunCommand();
+  if (!options_.json) return code;
+  const bool written = terminal_.Events().End(code, index_);
+  return written || code != ExitCode::Success ? code : ExitCode::Failure;
+}
+
+ExitCode BatchProgram::RunCommand() {
   if (Refuse(env::ProblemOfPreferences(env::GetINIFileName(programFolder_)))) return ExitCode::Failure;
   switch (options_.command) {
     case BatchCommand::New:

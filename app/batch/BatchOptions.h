@@ -40,6 +40,7 @@ struct BatchOptions {
   bool keepExisting = false;
   bool onlyChanges = false;
   bool removeUnused = false;
+  bool json = false;    ///< the run's events on standard output
   bool strict = false;  ///< a run that has warnings does not start
   bool open = false;
   std::string folder;  ///< to upload

@@ -71,6 +71,10 @@ void AddRunSwitches(CLI::App& command, BatchOptions& options) {
   AddChangesSwitches(command, options);
 }
 
+void AddJson(CLI::App& command, BatchOptions& options) {
+  command.add_flag("--json", options.json, "Print the run's events on standard output, one JSON object a line");
+}
+
 void AddStrict(CLI::App& command, BatchOptions& options) {
   command.add_flag("--strict", options.strict, "Make nothing if something would go wrong, but say what");
 }
@@ -147,11 +151,13 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
       ->check([](const std::string& path) { return std::string(path.empty() ? "it is empty" : ""); });
   AddRunSwitches(create, options);
   AddStrict(create, options);
+  AddJson(create, options);
 
   CLI::App& preview =
       AddCommand(app, options, BatchCommand::Preview, "preview", "Make the pages in the temporary folder");
   AddProject(preview, options);
   preview.add_flag("--open", options.open, "Open the preview in the default browser");
+  AddJson(preview, options);
 
   CLI::App& publish =
       AddCommand(app, options, BatchCommand::Publish, "publish", "Send a project's gallery to a server");
@@ -163,12 +169,14 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   });
   AddRunSwitches(publish, options);
   AddStrict(publish, options);
+  AddJson(publish, options);
 
   CLI::App& upload = AddCommand(app, options, BatchCommand::Upload, "upload", "Send a folder to a server");
   upload.add_option("FOLDER", options.folder, "The folder whose contents are sent")->required();
   AddServer(upload, options, "FOLDER");
   upload.add_flag("--keep-existing", options.keepExisting, "Keep files that the server has");
   AddChangesSwitches(upload, options);
+  AddJson(upload, options);
 }
 
 /// Returns what is wrong, in one line. CLI11 may add a hint about --help, and for an unknown command it only says that

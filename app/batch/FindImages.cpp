@@ -81,4 +81,10 @@ FoundImages FindImages(const std::string& typed, bool recursive, const env::Path
   return {{path}, ProblemOf(path, paths)};
 }
 
+bool CanListFolder(const std::optional<fs::path>& folder) {
+  std::error_code error;
+  if (folder) const fs::directory_iterator entries(*folder, error);
+  return folder && !error;
+}
+
 }  // namespace vantorium::batch

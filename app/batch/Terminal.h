@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/batch/JsonEvents.h"
+
 #include <chrono>
 #include <string>
 #include <string_view>
@@ -22,7 +24,8 @@ void SayInOneLine(std::string_view text);
 /// is redrawn in place or as one line per text. A terminal that goes away is not a failure.
 class Terminal {
  public:
-  explicit Terminal(ProgressStyle style) : style_(style) {}
+  /// With `json` the events also go to standard output, see JsonEvents.
+  explicit Terminal(ProgressStyle style, bool json = false) : style_(style), events_(json) {}
   ~Terminal() { EraseBar(); }
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
@@ -35,6 +38,7 @@ class Terminal {
   /// Starts a new run: the time left is computed from here.
   void StartClock();
   void EraseBar();
+  [[nodiscard]] JsonEvents& Events() { return events_; }
 
  private:
   using SteadyClock = std::chrono::steady_clock;
@@ -43,6 +47,7 @@ class Terminal {
   [[nodiscard]] std::string TimeLeft() const;
 
   ProgressStyle style_;
+  JsonEvents events_;
   std::string status_;
   std::int64_t value_ = 0;
   std::int64_t maximum_ = 0;

@@ -127,7 +127,8 @@ TEST_F(MainModelTest, AViewIsMadeInTheTemporaryFolderAndOpened) {
                                     [](const std::string& call) { return call.starts_with("start "); });
   ASSERT_NE(started, desk.calls.end());
   EXPECT_TRUE(started->ends_with((desk.folder.Path() / "program/VANTORIUM_TEMP/index.htm").string())) << *started;
-  EXPECT_EQ(Calls(desk.calls.end() - 4, desk.calls.end()), (Calls{"beep information", "tray on", "status ", "settings"}));
+  EXPECT_EQ(Calls(desk.calls.end() - 4, desk.calls.end()),
+            (Calls{"beep information", "tray on", "status ", "settings"}));
 }
 
 TEST_F(MainModelTest, AViewInAListedBrowserStartsThatOne) {
