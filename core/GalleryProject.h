@@ -27,7 +27,7 @@ extern const char kCentringFooter[];
 /// All settings of one gallery except its images, with the values of a new project. A field that a control of a window
 /// edits has the control's name. Multi-line texts hold CR LF. Set fields through ProjectEditor, which applies the rules
 /// between them; ProjectFields lists them all for code that iterates over them.
-struct GalleryProject {
+struct GalleryProject {  // NOLINT(clang-analyzer-optin.performance.Padding): the order of the settings is given
   // Gallery
   std::string textGalleryTitle;  ///< in a new project, the project's name
   std::string GalleryHeadCode;   ///< code in the HEAD section of the index page

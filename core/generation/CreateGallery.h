@@ -15,7 +15,7 @@ class GalleryCreator {
       : project_(project),
         preferences_(preferences),
         programFolder_(std::move(programFolder)),
-        environment_(environment) {}
+        environment_(std::move(environment)) {}
 
   /// Repairs empty settings, asks the user what to do unless `mode` is Preview, and runs like CarryOut. The dialog may
   /// change `mode` to another mode.
