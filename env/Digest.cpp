@@ -7,6 +7,7 @@
 #include <new>
 
 #include <fcntl.h>
+#include <fmt/format.h>
 #include <openssl/evp.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,17 +16,6 @@ namespace vantorium::env {
 namespace {
 
 constexpr std::size_t kDigestBytes = 16;
-
-std::string Hexadecimal(const unsigned char* bytes, std::size_t count) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string text;
-  text.reserve(2 * count);
-  for (std::size_t i = 0; i < count; ++i) {
-    text += kDigits[bytes[i] >> 4];
-    text += kDigits[bytes[i] & 0xF];
-  }
-  return text;
-}
 
 /// OpenSSL reports nothing but a lack of memory here.
 void Check(int result) {
@@ -50,7 +40,7 @@ void Digest::Add(std::string_view bytes) {
 std::string Digest::Text() {
   std::array<unsigned char, EVP_MAX_MD_SIZE> bytes = {};
   Check(::EVP_DigestFinal_ex(context_.get(), bytes.data(), nullptr));
-  return Hexadecimal(bytes.data(), kDigestBytes);
+  return fmt::format("{:02x}", fmt::join(bytes.begin(), bytes.begin() + kDigestBytes, ""));
 }
 
 std::string DigestOf(std::string_view bytes) {

@@ -261,8 +261,9 @@ env::Preferences BatchProgram::PreferencesOfRun() const {
 
 ExitCode BatchProgram::Run() {
   const ExitCode code = RunCommand();
-  if (!options_.json) return code;
-  const bool written = terminal_.Events().End(code, index_);
+  auto& events = terminal_.Events();
+  if (!events) return code;
+  const bool written = events->End(code, index_);
   return written || code != ExitCode::Success ? code : ExitCode::Failure;
 }
 

@@ -42,7 +42,7 @@ bool JsonEvents::End(ExitCode result, const std::string& index) {
 
 // After a failure nothing more is tried: a reader that is gone would be reported for each event.
 void JsonEvents::Print(const std::string& line) {
-  if (!wanted_ || !written_ || line == last_) return;
+  if (!written_ || line == last_) return;
   last_ = line;
   written_ = PrintResult(line);
 }

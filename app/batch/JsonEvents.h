@@ -20,8 +20,6 @@ namespace vantorium::batch {
 /// does not decide the run.
 class JsonEvents {
  public:
-  explicit JsonEvents(bool wanted) : wanted_(wanted) {}
-
   void Status(const std::string& text);
   void Progress(std::int64_t value, std::int64_t maximum);
   void Message(const std::string& title, const std::string& text);
@@ -31,7 +29,6 @@ class JsonEvents {
  private:
   void Print(const std::string& line);
 
-  bool wanted_;
   bool written_ = true;
   std::string last_;
 };

@@ -94,14 +94,14 @@ ProgressStyle ChooseProgressStyle(bool quiet, bool verbose) {
 }
 
 void Terminal::PrintMessage(const std::string& title, const std::string& text) {
-  events_.Message(title, text);
+  if (events_) events_->Message(title, text);
   EraseBar();
   const std::string lines = env::ReplaceAll(env::ReplaceAll(text, env::kCrLf, "\n"), "\r", "\n");
   Say(fmt::format("{}: {}\n", OneLine(title), Harmless(lines)));
 }
 
 void Terminal::ShowStatus(const std::string& text) {
-  events_.Status(text);
+  if (events_) events_->Status(text);
   const std::string line = OneLine(text);
   if (line.empty() || line == status_) return;
   status_ = line;
@@ -109,7 +109,7 @@ void Terminal::ShowStatus(const std::string& text) {
 }
 
 void Terminal::ShowProgress(std::int64_t value, std::int64_t maximum) {
-  events_.Progress(value, maximum);
+  if (events_) events_->Progress(value, maximum);
   value_ = std::min(value, maximum);  // a folder can grow while it is sent
   maximum_ = maximum;
   const auto now = SteadyClock::now();

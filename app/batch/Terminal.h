@@ -3,6 +3,7 @@
 #include "app/batch/JsonEvents.h"
 
 #include <chrono>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,7 +26,9 @@ void SayInOneLine(std::string_view text);
 class Terminal {
  public:
   /// With `json` the events also go to standard output, see JsonEvents.
-  explicit Terminal(ProgressStyle style, bool json = false) : style_(style), events_(json) {}
+  explicit Terminal(ProgressStyle style, bool json = false) : style_(style) {
+    if (json) events_.emplace();
+  }
   ~Terminal() { EraseBar(); }
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
@@ -38,7 +41,8 @@ class Terminal {
   /// Starts a new run: the time left is computed from here.
   void StartClock();
   void EraseBar();
-  [[nodiscard]] JsonEvents& Events() { return events_; }
+  /// nullopt without `json`.
+  [[nodiscard]] std::optional<JsonEvents>& Events() { return events_; }
 
  private:
   using SteadyClock = std::chrono::steady_clock;
@@ -47,7 +51,7 @@ class Terminal {
   [[nodiscard]] std::string TimeLeft() const;
 
   ProgressStyle style_;
-  JsonEvents events_;
+  std::optional<JsonEvents> events_;
   std::string status_;
   std::int64_t value_ = 0;
   std::int64_t maximum_ = 0;

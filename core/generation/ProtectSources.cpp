@@ -10,7 +10,7 @@ RunPlan PlanOf(const RunContext& context) {
   return {context.run, context.order, context.target.MayAskAhead() ? &context.target : nullptr};
 }
 
-PhaseResult Check(const RunContext& context, const Sources& sources, const std::vector<Output>& outputs) {
+PhaseResult Check(const RunContext& context, const FileSet& sources, const std::vector<Output>& outputs) {
   for (const Output& output : outputs) {
     if (!sources.WouldLoseOneTo(output)) continue;
     return context.Fail("File Error", output.failure + "  It would replace \"" + context.run.Shown(output.path) +
@@ -26,7 +26,7 @@ PhaseResult Pause(const RunContext& context, std::int32_t number) {
   return kGoOn;
 }
 
-PhaseResult FindSources(const RunContext& context, Sources& sources) {
+PhaseResult FindSources(const RunContext& context, FileSet& sources) {
   const RunState& run = context.run;
   sources.Add(run.ProjectFile);
   for (const AuxiliaryFile& file : AuxiliaryFilesOf(run)) sources.Add(file.source);
@@ -37,7 +37,7 @@ PhaseResult FindSources(const RunContext& context, Sources& sources) {
   return kGoOn;
 }
 
-PhaseResult CheckImages(const RunContext& context, const Sources& sources) {
+PhaseResult CheckImages(const RunContext& context, const FileSet& sources) {
   for (std::int32_t number = 1; number <= context.run.ImageCount; ++number) {
     if (auto end = Pause(context, number)) return end;
     if (auto end = Check(context, sources, OutputsOfImage(PlanOf(context), number))) return end;
@@ -45,7 +45,7 @@ PhaseResult CheckImages(const RunContext& context, const Sources& sources) {
   return kGoOn;
 }
 
-PhaseResult CheckPages(const RunContext& context, const Sources& sources) {
+PhaseResult CheckPages(const RunContext& context, const FileSet& sources) {
   const RunState& run = context.run;
   if (!context.order.CreateHTML) return kGoOn;
   if (auto end = Check(context, sources, {PageOutput(run, run.IndexFileName)})) return end;
@@ -59,7 +59,7 @@ PhaseResult CheckPages(const RunContext& context, const Sources& sources) {
 }  // namespace
 
 PhaseResult ProtectSources(const RunContext& context) {
-  Sources sources(context.run);
+  FileSet sources(context.run);
   if (auto end = FindSources(context, sources)) return end;
   if (auto end = CheckImages(context, sources)) return end;
   if (auto end = Check(context, sources, AuxiliaryOutputs(context.run))) return end;

@@ -154,7 +154,7 @@ class Forecaster {
   const RunOrder& order_;
   RunState run_;
   LocalTarget local_{run_};
-  Sources sources_{run_};
+  FileSet sources_{run_};
   NamesOfFiles files_;
   Findings findings_;
 };

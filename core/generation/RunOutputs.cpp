@@ -64,17 +64,17 @@ std::vector<Output> AuxiliaryOutputs(const RunState& run) {
   return outputs;
 }
 
-void Sources::Add(const std::string& path) {
+void FileSet::Add(const std::string& path) {
   if (const auto identity = IdentityOf(path)) known_.insert(*identity);
 }
 
-bool Sources::WouldLoseOneTo(const Output& output) const {
+bool FileSet::WouldLoseOneTo(const Output& output) const {
   const auto identity = IdentityOf(output.path);
   if (!identity || !known_.contains(*identity)) return false;
   return output.source.empty() || IdentityOf(output.source) != identity;
 }
 
-std::optional<Sources::Identity> Sources::IdentityOf(const std::string& path) const {
+std::optional<FileSet::Identity> FileSet::IdentityOf(const std::string& path) const {
   const auto native = run_.files.Paths().ToNative(path);
   const auto stamp = native ? StampOf(*native) : std::nullopt;
   if (!stamp) return std::nullopt;

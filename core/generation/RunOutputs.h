@@ -4,6 +4,7 @@
 #include "core/generation/GalleryTarget.h"
 #include "core/generation/RunOrder.h"
 #include "core/generation/RunState.h"
+#include "core/generation/SourceStamp.h"
 
 #include <cstdint>
 #include <optional>
@@ -36,14 +37,15 @@ struct Output {
 /// All backdrops and link graphics of the run.
 [[nodiscard]] std::vector<AuxiliaryFile> AuxiliaryFilesOf(const RunState& run);
 
-/// The files that a gallery is made from, by device and inode.
-class Sources {
+/// Files by device and inode, so that each is recognized by every path and link that leads to it.
+class FileSet {
  public:
-  explicit Sources(const RunState& run) : run_(run) {}
+  explicit FileSet(const RunState& run) : run_(run) {}
 
   /// Adds the file at `path` (path text), if there is one.
   void Add(const std::string& path);
-  /// Whether writing `output` would destroy a source. A copy onto itself changes nothing.
+  [[nodiscard]] bool Has(const SourceStamp& file) const { return known_.contains({file.device, file.inode}); }
+  /// Whether writing `output` would destroy one of the files. A copy onto itself changes nothing.
   [[nodiscard]] bool WouldLoseOneTo(const Output& output) const;
 
  private:

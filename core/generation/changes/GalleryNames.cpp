@@ -1,7 +1,7 @@
 #include "core/generation/changes/GalleryNames.h"
 
-#include "core/generation/AuxiliaryFiles.h"
 #include "core/generation/OutputNaming.h"
+#include "core/generation/RunOutputs.h"
 #include "publish/FTPPath.h"
 
 #include <filesystem>
@@ -39,9 +39,7 @@ std::vector<std::string> NamesOfGallery(const RunState& run, const RunOrder& ord
     names.push_back(NameOfThumbnail(run, image));
     if (wrappers) names.push_back(NameInGallery(WrapperPageName(run.project, run.ListText(image.Number))));
   }
-  for (const auto& files : {Backdrops(run), PageLinkGraphics(run)}) {
-    for (const AuxiliaryFile& file : files) names.push_back(NameOfAuxiliary(run, file.name));
-  }
+  for (const AuxiliaryFile& file : AuxiliaryFilesOf(run)) names.push_back(NameOfAuxiliary(run, file.name));
   return names;
 }
 

@@ -1,12 +1,13 @@
 #include "core/generation/changes/UnusedFiles.h"
 
 #include "core/CaseFolding.h"
-#include "core/generation/AuxiliaryFiles.h"
+#include "core/generation/RunOutputs.h"
 #include "core/generation/changes/GalleryNames.h"
 #include "env/PathText.h"
 
 #include <set>
-#include <utility>
+
+#include <fmt/format.h>
 
 namespace vantorium::generation {
 namespace {
@@ -16,25 +17,22 @@ using Names = std::vector<std::string>;
 /// The files in use, in the ways by which they can be recognized.
 class FilesInUse {
  public:
-  FilesInUse(const RunContext& context, KnownFiles& known) : run_(context.run), isServer_(known.There().IsServer()) {
+  FilesInUse(const RunContext& context, KnownFiles& known)
+      : run_(context.run), isServer_(known.There().IsServer()), files_(context.run) {
     const bool isUpload = context.order.Mode == GenerationMode::Upload;
     for (const std::string& name : isUpload ? SentNames(known) : NamesOfGallery(run_, context.order)) Add(name);
     if (isServer_) return;
-    AddFile(run_.ProjectFile);
-    for (const ImageRunInfo& image : run_.RunInfo) AddFile(image.Path);
-    for (const auto& files : {Backdrops(run_), PageLinkGraphics(run_)}) {
-      for (const AuxiliaryFile& file : files) AddFile(file.source);
-    }
+    files_.Add(run_.ProjectFile);
+    for (const ImageRunInfo& image : run_.RunInfo) files_.Add(image.Path);
+    for (const AuxiliaryFile& file : AuxiliaryFilesOf(run_)) files_.Add(file.source);
   }
 
   [[nodiscard]] bool Has(const std::string& name, const std::optional<SourceStamp>& stamp) const {
     if (names_.contains(name) || folded_.contains(core::FoldCase(name))) return true;
-    return stamp && files_.contains(Identity(stamp->device, stamp->inode));
+    return stamp && files_.Has(*stamp);
   }
 
  private:
-  using Identity = std::pair<std::uint64_t, std::uint64_t>;
-
   [[nodiscard]] static Names SentNames(const KnownFiles& known) {
     const Names untouched = known.Untouched();
     const std::set<std::string> unused(untouched.begin(), untouched.end());
@@ -49,20 +47,15 @@ class FilesInUse {
     if (isServer_) {
       folded_.insert(core::FoldCase(name));
     } else {
-      AddFile(run_.OutputFolder + env::WithBackslashes(name));
+      files_.Add(run_.OutputFolder + env::WithBackslashes(name));
     }
-  }
-  void AddFile(const std::string& path) {
-    const auto native = run_.files.Paths().ToNative(path);
-    const auto stamp = native ? StampOf(*native) : std::nullopt;
-    if (stamp) files_.insert(Identity(stamp->device, stamp->inode));
   }
 
   const RunState& run_;
   bool isServer_;
   std::set<std::string> names_;
   std::set<std::string> folded_;
-  std::set<Identity> files_;
+  FileSet files_;
 };
 
 /// Returns the names of earlier runs that are not in use. Most runs have none, and need not look at all files.
@@ -86,8 +79,8 @@ PhaseResult TellUnusedFiles(const RunContext& context, KnownFiles& known) {
   const bool removes = context.order.RemoveUnused;
   Names found;
   for (const std::string& name : UnusedNames(context, known)) {
-    const std::string doing = removes ? "Removing" : "Looking for";
-    if (auto end = context.Begin(doing + " unused File \"" + name + "\"...")) return end;
+    const char* const doing = removes ? "Removing" : "Looking for";
+    if (auto end = context.Begin(fmt::format("{} unused File \"{}\"...", doing, name))) return end;
     if (removes ? known.Remove(name) : known.IsAsLeft(name)) found.push_back(name);
   }
   if (found.empty()) return kGoOn;
