@@ -31,9 +31,21 @@ function(vantorium_own_code target)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
 endfunction()
 
-# vantorium_library(NAME FILES...): the static library of one folder.
+# vantorium_sources(RESULT [EXCEPT FOLDER]): all sources of this folder and the folders in it, but for one that is a
+# library of its own.
+function(vantorium_sources result)
+  cmake_parse_arguments(PARSE_ARGV 1 SOURCES "" "EXCEPT" "")
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.cpp *.h *.ui *.qrc)
+  if(SOURCES_EXCEPT)
+    list(FILTER files EXCLUDE REGEX "^${SOURCES_EXCEPT}/")
+  endif()
+  set(${result} ${files} PARENT_SCOPE)
+endfunction()
+
+# vantorium_library(NAME [EXCEPT FOLDER]): the static library of one folder.
 function(vantorium_library name)
-  add_library(${name} STATIC ${ARGN})
+  vantorium_sources(files ${ARGN})
+  add_library(${name} STATIC ${files})
   vantorium_own_code(${name})
   target_precompile_headers(${name} PRIVATE <algorithm> <cstdint> <filesystem> <memory> <optional> <string> <string_view> <vector>)
 endfunction()
@@ -63,6 +75,13 @@ if(VANTORIUM_SANITIZE)
   endif()
 endif()
 
+# The build settings of test code. It takes longer to compile than to run, so only benchmarks optimize what they share
+# with tests.
+function(vantorium_test_code target)
+  vantorium_own_code(${target})
+  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Release>>:-O0>)
+endfunction()
+
 # vantorium_test_program(NAME LINK libraries... FILES files... [HEADERS target]): the test program of one folder, to be
 # run by hand. It uses the precompiled headers of `target`, or of vantorium_fakes by default.
 function(vantorium_test_program name)
@@ -71,7 +90,7 @@ function(vantorium_test_program name)
     set(TEST_HEADERS vantorium_fakes)
   endif()
   add_executable(${name} ${TEST_FILES})
-  vantorium_own_code(${name})
+  vantorium_test_code(${name})
   target_link_libraries(${name} PRIVATE ${TEST_LINK} vantorium_fakes GTest::gtest_main)
   target_precompile_headers(${name} REUSE_FROM ${TEST_HEADERS})
 endfunction()
