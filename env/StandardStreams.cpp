@@ -1,5 +1,6 @@
 #include "env/StandardStreams.h"
 
+#include <initializer_list>
 #include <tuple>
 
 #include <fcntl.h>

@@ -31,7 +31,7 @@ std::vector<std::string> AddressesOf(const std::string& host, HostFamily family)
   for (const addrinfo* entry = found; entry != nullptr; entry = entry->ai_next) addresses.push_back(TextOf(*entry));
   ::freeaddrinfo(found);
   const auto isIPv4 = [](const std::string& address) { return address.find(':') == std::string::npos; };
-  std::ranges::stable_partition(addresses, isIPv4);
+  std::stable_partition(addresses.begin(), addresses.end(), isIPv4);
   return addresses;
 }
 

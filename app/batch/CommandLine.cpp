@@ -123,54 +123,72 @@ void AddProject(CLI::App& command, BatchOptions& options) {
   command.add_option("PROJECT.gpj", options.project, "The project file")->required();
 }
 
-void AddCommands(CLI::App& app, BatchOptions& options) {
+std::string RefuseEmpty(const std::string& text) {
+  return text.empty() ? "it is empty" : "";
+}
+
+std::string RefuseFolder(const std::string& path) {
+  const bool namesFile = !path.empty() && path.back() != '/' && path.back() != '\\';
+  return namesFile ? "" : "it names no index file";
+}
+
+void AddNew(CLI::App& app, BatchOptions& options) {
   CLI::App& make = AddCommand(app, options, BatchCommand::New, "new", "Make a project of images and folders");
   make.add_option("OUT.gpj", options.output, "The project file to write")->required();
   make.add_option("--title", options.title, "Title of the gallery")->type_name("TEXT");
   make.add_option("--theme", options.theme, "Take all settings but the title from a theme or a project")
       ->type_name("NAME|PROJECT.gpj")
-      ->check([](const std::string& theme) { return std::string(theme.empty() ? "it is empty" : ""); });
+      ->check(RefuseEmpty);
   make.add_flag("--recursive", options.recursive, "Take the folders' sub folders too");
   make.add_flag("--force", options.force, "Replace a project that exists; any other file never is");
   make.add_flag("--upright", options.upright, "Turn photographs upright as they say");
   make.add_flag("--true-colors", options.trueColors, "Convert photographs from their own color profiles to sRGB");
   make.add_option("PATH", options.paths, "Images, and folders of images")->required();
+}
 
+void AddShow(CLI::App& app, BatchOptions& options) {
   AddProject(AddCommand(app, options, BatchCommand::Show, "show", "Print a project as JSON"), options);
+}
 
+void AddSave(CLI::App& app, BatchOptions& options) {
   CLI::App& save = AddCommand(app, options, BatchCommand::Save, "save", "Read a project and write it as Save does");
   AddProject(save, options);
   save.add_option("OUT.gpj", options.output, "The project file to write")->required();
+}
 
+void AddCreate(CLI::App& app, BatchOptions& options) {
   CLI::App& create = AddCommand(app, options, BatchCommand::Create, "create", "Create a project's gallery in a folder");
   AddProject(create, options);
   create
       .add_option("INDEX-FILE", options.output,
                   "The gallery's index file, in the folder for the gallery; of a folder its index.htm")
       ->required()
-      ->check([](const std::string& path) { return std::string(path.empty() ? "it is empty" : ""); });
+      ->check(RefuseEmpty);
   AddRunSwitches(create, options);
   AddStrict(create, options);
   AddJson(create, options);
+}
 
+void AddPreview(CLI::App& app, BatchOptions& options) {
   CLI::App& preview =
       AddCommand(app, options, BatchCommand::Preview, "preview", "Make the pages in the temporary folder");
   AddProject(preview, options);
   preview.add_flag("--open", options.open, "Open the preview in the default browser");
   AddJson(preview, options);
+}
 
+void AddPublish(CLI::App& app, BatchOptions& options) {
   CLI::App& publish =
       AddCommand(app, options, BatchCommand::Publish, "publish", "Send a project's gallery to a server");
   AddProject(publish, options);
   AddServer(publish, options, "FOLDER/INDEX-FILE");
-  publish.get_option("--remote")->check([](const std::string& path) {
-    const bool namesFile = !path.empty() && path.back() != '/' && path.back() != '\\';
-    return namesFile ? std::string() : std::string("it names no index file");
-  });
+  publish.get_option("--remote")->check(RefuseFolder);
   AddRunSwitches(publish, options);
   AddStrict(publish, options);
   AddJson(publish, options);
+}
 
+void AddUpload(CLI::App& app, BatchOptions& options) {
   CLI::App& upload = AddCommand(app, options, BatchCommand::Upload, "upload", "Send a folder to a server");
   upload.add_option("FOLDER", options.folder, "The folder whose contents are sent")->required();
   AddServer(upload, options, "FOLDER");
@@ -197,7 +215,7 @@ std::variant<BatchOptions, ExitCode> ParseCommandLine(int argc, const char* cons
   app.set_version_flag("--version", "vantorium-batch 3.0");
   app.require_subcommand(1);
   AddCommonOptions(app, options);
-  AddCommands(app, options);
+  for (const auto add : {AddNew, AddShow, AddSave, AddCreate, AddPreview, AddPublish, AddUpload}) add(app, options);
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& success) {  // --help and --version

@@ -21,6 +21,20 @@ bool IsHost(std::string_view text) {
   });
 }
 
+/// With one colon it would be a host name and a port.
+bool IsIPv6Address(std::string_view text) {
+  return std::ranges::count(text, ':') > 1 && text.find_first_not_of("0123456789ABCDEFabcdef:.") == text.npos;
+}
+
+/// Returns the host name or address at the front of a typed place, without the brackets of an IPv6 address; empty for
+/// anything else.
+std::string_view HostOf(std::string_view typed) {
+  const bool hasBrackets = typed.size() > 2 && typed.front() == '[' && typed.back() == ']';
+  const std::string_view address = hasBrackets ? typed.substr(1, typed.size() - 2) : typed;
+  if (IsIPv6Address(address)) return address;
+  return IsHost(typed) ? typed : std::string_view();
+}
+
 bool IsControl(char letter) {
   return static_cast<unsigned char>(letter) < 0x20 || letter == 0x7F;
 }
@@ -35,9 +49,11 @@ std::string_view WithoutScheme(std::string_view text) {
 std::optional<ServerPlace> ReadServerPlace(std::string_view typed) {
   const std::string slashed = env::WithSlashes(typed);
   const std::string_view text = WithoutScheme(slashed);
-  const std::string_view host = text.substr(0, text.find('/'));
-  if (host == text || !IsHost(host) || std::ranges::any_of(text, IsControl)) return std::nullopt;
-  std::string path = publish::RelativeToSession(text.substr(host.size()));
+  const std::size_t slash = text.find('/');
+  if (slash == text.npos || std::ranges::any_of(text, IsControl)) return std::nullopt;
+  const std::string_view host = HostOf(text.substr(0, slash));
+  if (host.empty()) return std::nullopt;
+  std::string path = publish::RelativeToSession(text.substr(slash));
   while (path.find("//") != std::string::npos) path = env::ReplaceAll(path, "//", "/");
   return ServerPlace{std::string(host), path};
 }

@@ -18,6 +18,8 @@ TEST(ServerPlace, IsSplitAtTheFirstSlash) {
       {"ftp.example.org/", {"ftp.example.org", ""}},
       {"127.0.0.1/a b/c:d@e", {"127.0.0.1", "a b/c:d@e"}},
       {"my_host-1/x", {"my_host-1", "x"}},
+      {"::1/x", {"::1", "x"}},
+      {"[2001:DB8::7]/a:b/x", {"2001:DB8::7", "a:b/x"}},
       {"b\xC3\xBC"
        "cher.example/\xC3\xA4",
        {"b\xC3\xBC"
@@ -43,7 +45,8 @@ TEST(ServerPlace, IsNothingWithoutAHostAndASlash) {
 
 TEST(ServerPlace, IsNothingWithAnythingElseThanAHostInFront) {
   for (const char* typed : {"http://host/a", "sftp://host/a", "me@host/a", "me:secret@host/a", "host:2121/a",
-                            "C:\\web\\index.htm", "C:/web/index.htm", "my host/a", " host/a", "[::1]/a", "host?/a"}) {
+                            "C:\\web\\index.htm", "C:/web/index.htm", "my host/a", " host/a", "host?/a", "[host]/a",
+                            "[]/a", "[::1/a", "::1]/a", "[::1]:21/a", "::g/a"}) {
     EXPECT_EQ(ReadServerPlace(typed), std::nullopt) << typed;
   }
 }
