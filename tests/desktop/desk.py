@@ -83,6 +83,22 @@ class Desk:
     def make_project(self, name, *photographs):
         self.batch("new", "--force", self.path(name), *[self.path(photograph) for photograph in photographs])
 
+    def make_photographs(self):
+        """Writes the photographs of tests/browser/Photographs.cpp into the home."""
+        subprocess.run([self._programs.photographs, self.folder], check=True, timeout=60)
+
+    def create(self, folder):
+        """Creates the gallery of the open project in a folder of the home."""
+        screen = self.screen
+        screen.press("ctrl+g")
+        screen.wait_for_window("Create Gallery")
+        screen.press("alt+l", "Tab", "ctrl+a")  # the box after the option
+        screen.type(f"C:\\{folder}\\index.htm")
+        screen.press("Return")
+        screen.wait_for_no_window("Create Gallery")
+        screen.wait_for_no_window("Creating Gallery")
+        wait_for_file(self.path(folder, "index.htm"))
+
     def show(self, name):
         return json.loads(self.batch("show", self.path(name)))
 
