@@ -103,9 +103,9 @@ class Desk:
         return json.loads(self.batch("show", self.path(name)))
 
     @contextlib.contextmanager
-    def ftp_server(self, kind):
-        """Runs a real server on loopback; gives its port, user, password and root."""
-        server = subprocess.Popen([self._programs.ftp_server, kind], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+    def ftp_server(self, *words):
+        """Runs a real server on loopback, as FtpServer.cpp says; gives what that prints."""
+        server = subprocess.Popen([self._programs.ftp_server, *words], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
             yield json.loads(server.stdout.readline())
         finally:
