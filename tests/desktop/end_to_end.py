@@ -1,4 +1,4 @@
-"""Uses the finished program on a screen, with the keyboard alone.
+"""Uses the finished program on a screen, with keyboard and mouse.
 
 Use: end_to_end.py JOURNEY --window PROGRAM --batch PROGRAM --ftp-server PROGRAM --photographs PROGRAM
 with JOURNEY one of the modules beside this one."""
