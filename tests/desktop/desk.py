@@ -96,8 +96,8 @@ class Desk:
         screen.type(f"C:\\{folder}\\index.htm")
         screen.press("Return")
         screen.wait_for_no_window("Create Gallery")
+        wait_for_file(self.path(folder, "index.htm"))  # while the run's window is up
         screen.wait_for_no_window("Creating Gallery")
-        wait_for_file(self.path(folder, "index.htm"))
 
     def show(self, name):
         return json.loads(self.batch("show", self.path(name)))

@@ -5,8 +5,8 @@ until the user forgets the first one."""
 import os
 import shutil
 
-from desk import expect, expect_equal_folders, expect_within, files_below, wait_for_file
-from publishing import add_first_server, choose_server, see_failure, start_with_password, upload_log
+from desk import expect, expect_equal_folders, expect_within, files_below
+from publishing import add_first_server, choose_server, see_failure, start_with_password, upload_log, wait_for_end
 
 
 def run(desk):
@@ -78,9 +78,7 @@ def publish(desk, server, *keys, answer=None):
         screen.wait_for_window("Unknown Certificate")
         screen.press(answer)
         screen.wait_for_no_window("Unknown Certificate")
-    wait_for_file(os.path.join(published, "index.htm"))
-    screen.wait_for_no_window("Publishing Gallery")
-    screen.wait_for_window("p.gpj")
+    wait_for_end(screen, "Publishing Gallery", os.path.join(published, "index.htm"))
     expect_equal_folders(desk.path("created"), published)
 
 

@@ -1,5 +1,7 @@
 """Publishing in the window, as several journeys do it."""
 
+from desk import wait_for_file
+
 
 def choose_server(screen):
     """Opens the list of servers for a gallery."""
@@ -32,6 +34,13 @@ def start_with_password(screen, password):
     screen.type(password)
     screen.press("Return")
     screen.wait_for_no_window("Create Gallery")
+
+
+def wait_for_end(screen, title, file):
+    """Waits for a file that the run makes on the server while its window is up, and then for the end of the run."""
+    wait_for_file(file)
+    screen.wait_for_no_window(title)
+    screen.wait_for_window("p.gpj")
 
 
 def upload_log(desk):

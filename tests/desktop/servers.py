@@ -4,7 +4,7 @@ the same files as after the batch program has sent them."""
 import os
 
 from desk import expect, expect_equal_folders, expect_within, files_below
-from publishing import add_first_server, start_with_password, upload_log
+from publishing import add_first_server, start_with_password, upload_log, wait_for_end
 
 
 def run(desk):
@@ -20,7 +20,8 @@ def run(desk):
 
 def publish(screen, server):
     add_first_server(screen, server)
-    give_password_and_watch(screen, server, "Publishing Gallery")
+    start_with_password(screen, server["password"])
+    wait_for_end(screen, "Publishing Gallery", os.path.join(server["root"], "web", "index.htm"))
 
 
 def upload(screen, server):
@@ -32,13 +33,8 @@ def upload(screen, server):
     screen.press("alt+e", "Tab", "space")
     screen.wait_for_window("Select Web Server")
     screen.write("alt+p", "site")
-    give_password_and_watch(screen, server, "Uploading Folder")
-
-
-def give_password_and_watch(screen, server, title):
     start_with_password(screen, server["password"])
-    screen.wait_for_no_window(title)
-    screen.wait_for_window("p.gpj")
+    wait_for_end(screen, "Uploading Folder", os.path.join(server["root"], "site", "gio"))
 
 
 def check_log(desk, server):
