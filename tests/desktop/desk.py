@@ -83,13 +83,29 @@ class Desk:
     def make_project(self, name, *photographs):
         self.batch("new", "--force", self.path(name), *[self.path(photograph) for photograph in photographs])
 
+    def make_photographs(self):
+        """Writes the photographs of tests/browser/Photographs.cpp into the home."""
+        subprocess.run([self._programs.photographs, self.folder], check=True, timeout=60)
+
+    def create(self, folder):
+        """Creates the gallery of the open project in a folder of the home."""
+        screen = self.screen
+        screen.press("ctrl+g")
+        screen.wait_for_window("Create Gallery")
+        screen.press("alt+l", "Tab", "ctrl+a")  # the box after the option
+        screen.type(f"C:\\{folder}\\index.htm")
+        screen.press("Return")
+        screen.wait_for_no_window("Create Gallery")
+        wait_for_file(self.path(folder, "index.htm"))  # while the run's window is up
+        screen.wait_for_no_window("Creating Gallery")
+
     def show(self, name):
         return json.loads(self.batch("show", self.path(name)))
 
     @contextlib.contextmanager
-    def ftp_server(self, kind):
-        """Runs a real server on loopback; gives its port, user, password and root."""
-        server = subprocess.Popen([self._programs.ftp_server, kind], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+    def ftp_server(self, *words):
+        """Runs a real server on loopback, as FtpServer.cpp says; gives what that prints."""
+        server = subprocess.Popen([self._programs.ftp_server, *words], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
             yield json.loads(server.stdout.readline())
         finally:

@@ -1,6 +1,6 @@
-"""Uses the finished program on a screen, with the keyboard alone.
+"""Uses the finished program on a screen, with keyboard and mouse.
 
-Use: end_to_end.py JOURNEY --window PROGRAM --batch PROGRAM --ftp-server PROGRAM
+Use: end_to_end.py JOURNEY --window PROGRAM --batch PROGRAM --ftp-server PROGRAM --photographs PROGRAM
 with JOURNEY one of the modules beside this one."""
 
 import argparse
@@ -17,6 +17,7 @@ def main():
     arguments.add_argument("--window", required=True)
     arguments.add_argument("--batch", required=True)
     arguments.add_argument("--ftp-server", required=True)
+    arguments.add_argument("--photographs", required=True)
     options = arguments.parse_args()
     journey = importlib.import_module(options.journey)
     with tempfile.TemporaryDirectory() as folder, Screen() as screen:

@@ -5,6 +5,7 @@ import os
 import socket
 
 from desk import expect, expect_within, files_below, wait_for_file
+from publishing import choose_server, see_failure, start_with_password, upload_log
 
 
 def run(desk):
@@ -65,17 +66,10 @@ def write_server_list(desk):
 
 
 def publish(screen, password, user="me"):
-    screen.press("ctrl+g")
-    screen.wait_for_window("Create Gallery")
-    screen.press("alt+u", "Tab", "Tab", "space")
+    choose_server(screen)
     screen.wait_for_window("Select Web Server")
     screen.write("alt+s", user)
-    screen.press("Return")
-    screen.wait_for_no_window("Select Web Server")
-    screen.wait_for_window("Create Gallery")
-    screen.type(password)
-    screen.press("Return")
-    screen.wait_for_no_window("Create Gallery")
+    start_with_password(screen, password)
 
 
 def cancel_before_silent_server(desk):
@@ -91,21 +85,17 @@ def cancel_before_silent_server(desk):
 
 
 def fail_with_wrong_password(desk):
-    """The progress window stays, with its log, until it is closed."""
     screen = desk.screen
     with desk.ftp_server("proftpd") as server:
         with desk.project("p.gpj", ftp_port=server["port"]):
             publish(screen, "wrong", server["user"])
-            screen.wait_for_window("FTP Error")
-            screen.press("Return")
-            screen.wait_for_no_window("FTP Error")
-            screen.wait_for_window("Publishing Gallery")
+            see_failure(screen)
             screen.press("alt+s")
             wait_for_file(desk.path("opened"))
             screen.press("Escape")
             screen.wait_for_no_window("Publishing Gallery")
         expect([], files_below(server["root"]), "files on the server")
     expect_within("vantorium/ftplog.txt", desk.text("opened"), "what was opened")
-    log = desk.text("config", "vantorium", "ftplog.txt")
+    log = upload_log(desk)
     expect_within("530", log, "log")
     expect(False, "wrong" in log, "password in the log")

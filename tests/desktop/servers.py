@@ -4,6 +4,7 @@ the same files as after the batch program has sent them."""
 import os
 
 from desk import expect, expect_equal_folders, expect_within, files_below
+from publishing import add_first_server, start_with_password, upload_log, wait_for_end
 
 
 def run(desk):
@@ -18,22 +19,9 @@ def run(desk):
 
 
 def publish(screen, server):
-    screen.press("ctrl+g")
-    screen.wait_for_window("Create Gallery")
-    screen.press("alt+u", "Tab", "Tab", "space")  # the button after the destination
-    screen.wait_for_window("File Error")  # there is no list of servers yet
-    screen.press("Return")
-    screen.wait_for_window("Select Web Server")
-    screen.press("alt+n")
-    screen.wait_for_window("New Web Server")
-    screen.type("Mine")
-    screen.press("Return")
-    screen.wait_for_window("Select Web Server")
-    screen.write("alt+u", "127.0.0.1")
-    screen.write("alt+s", server["user"])
-    screen.write("alt+p", "web")
-    screen.press("Return")
-    give_password_and_watch(screen, server, "Publishing Gallery")
+    add_first_server(screen, server)
+    start_with_password(screen, server["password"])
+    wait_for_end(screen, "Publishing Gallery", os.path.join(server["root"], "web", "index.htm"))
 
 
 def upload(screen, server):
@@ -45,23 +33,12 @@ def upload(screen, server):
     screen.press("alt+e", "Tab", "space")
     screen.wait_for_window("Select Web Server")
     screen.write("alt+p", "site")
-    screen.press("Return")
-    give_password_and_watch(screen, server, "Uploading Folder")
-
-
-def give_password_and_watch(screen, server, title):
-    """After a server is chosen, the password's box has the keyboard focus."""
-    screen.wait_for_no_window("Select Web Server")
-    screen.wait_for_window("Create Gallery")
-    screen.type(server["password"])
-    screen.press("Return")
-    screen.wait_for_no_window("Create Gallery")
-    screen.wait_for_no_window(title)
-    screen.wait_for_window("p.gpj")
+    start_with_password(screen, server["password"])
+    wait_for_end(screen, "Uploading Folder", os.path.join(server["root"], "site", "gio"))
 
 
 def check_log(desk, server):
-    log = desk.text("config", "vantorium", "ftplog.txt")
+    log = upload_log(desk)
     expect_within("End of Upload Log", log, "log")
     expect(False, server["password"] in log, "password in the log")
 

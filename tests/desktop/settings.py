@@ -62,11 +62,4 @@ def preview_and_create(desk):
         screen.press("ctrl+i")
         wait_for_file(desk.path("opened"))
         screen.wait_for_window("ferien.gpj")
-        screen.press("ctrl+g")
-        screen.wait_for_window("Create Gallery")
-        screen.press("alt+l", "Tab", "ctrl+a")  # the box after the option
-        screen.type("C:\\out\\index.htm")
-        screen.press("Return")
-        screen.wait_for_no_window("Create Gallery")
-        screen.wait_for_no_window("Creating Gallery")
-        wait_for_file(desk.path("out", "index.htm"))
+        desk.create("out")
