@@ -1,6 +1,6 @@
 #include "image/JPEG.h"
 #include "tests/app/Workplace.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 
 #include <filesystem>
 

@@ -8,11 +8,11 @@
 namespace vantorium::core {
 namespace {
 
-using fakes::ProjectDesk;
 using fakes::ProjectFileParts;
+using fakes::ProjectHarness;
 
 /// A project of another system, on one with the usual drives: its first photograph is on a drive that is not there.
-class ForeignProject : public ::testing::Test, public ProjectDesk {
+class ForeignProject : public ::testing::Test, public ProjectHarness {
  protected:
   ForeignProject() {
     paths = env::PathMap({}, folder.Path());

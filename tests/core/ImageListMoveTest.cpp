@@ -1,5 +1,5 @@
 #include "env/RuntimeFailure.h"
-#include "tests/core/ImageListDesk.h"
+#include "tests/core/ImageListFixture.h"
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using Names = std::vector<std::string>;
-using Move = ImageListDesk;
+using Move = ImageListFixture;
 
 TEST_F(Move, AnEntryKeepsItsTextsAndReadsItsKeysAgain) {
   Fill({"a", "b", "c"});
@@ -115,7 +115,7 @@ TEST_F(Move, AnEmptyListCanBeMovedUpAndDown) {
   EXPECT_TRUE(images.Empty());
 }
 
-using Drop = ImageListDesk;
+using Drop = ImageListFixture;
 
 TEST_F(Drop, MovesTheDraggedRowToTheTargetAndSelectsIt) {
   Fill({"a", "b", "c"});

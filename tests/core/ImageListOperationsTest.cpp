@@ -1,5 +1,5 @@
 #include "env/RuntimeFailure.h"
-#include "tests/core/ImageListDesk.h"
+#include "tests/core/ImageListFixture.h"
 
 #include <chrono>
 #include <tuple>
@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using AddImage = ImageListDesk;
+using AddImage = ImageListFixture;
 
 TEST_F(AddImage, FillsEveryColumn) {
   const fs::path file = WriteFile("a.jpg", 1000);
@@ -90,7 +90,7 @@ TEST_F(AddImage, TellsOfDrivesAndSharesThatDoNotExist) {
   ExpectFileErrorBox("Q:/a.jpg");
 }
 
-TEST_F(ImageListDesk, AddFilesAppendsEachUnderItsFileName) {
+TEST_F(ImageListFixture, AddFilesAppendsEachUnderItsFileName) {
   Fill({"a.jpg"});
   WriteFile("sub/a.jpg");
   WriteFile("sub/b.jpg");
@@ -102,7 +102,7 @@ TEST_F(ImageListDesk, AddFilesAppendsEachUnderItsFileName) {
   EXPECT_EQ(display.calls, (Calls{"preview", "counts"}));
 }
 
-TEST_F(ImageListDesk, AddFilesEndsAtTheFirstFileThatCannotBeRead) {
+TEST_F(ImageListFixture, AddFilesEndsAtTheFirstFileThatCannotBeRead) {
   WriteFile("a.jpg");
   EXPECT_FALSE(operations.AddFiles({"C:\\a.jpg", "C:\\missing.jpg", "C:\\a.jpg"}));
   EXPECT_EQ(ListNames(), Names{"a.jpg"});
@@ -110,7 +110,7 @@ TEST_F(ImageListDesk, AddFilesEndsAtTheFirstFileThatCannotBeRead) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(ImageListDesk, AddFilesWithNoCurrentRowSelectsTheFirstFileAndMakesItCurrent) {
+TEST_F(ImageListFixture, AddFilesWithNoCurrentRowSelectsTheFirstFileAndMakesItCurrent) {
   for (const char* name : {"b.jpg", "c.jpg", "a.jpg"}) WriteFile(name);
   Fill({"before"});
   EXPECT_TRUE(operations.AddFiles({"C:\\b.jpg", "C:\\c.jpg"}));
@@ -121,7 +121,7 @@ TEST_F(ImageListDesk, AddFilesWithNoCurrentRowSelectsTheFirstFileAndMakesItCurre
   EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
 }
 
-TEST_F(ImageListDesk, AddFilesFollowsItsFirstFileThroughAKeptOrder) {
+TEST_F(ImageListFixture, AddFilesFollowsItsFirstFileThroughAKeptOrder) {
   for (const char* name : {"b.jpg", "c.jpg", "a.jpg"}) WriteFile(name);
   operations.SetSortingOrder(1);
   EXPECT_TRUE(operations.AddFiles({"C:\\b.jpg", "C:\\a.jpg", "C:\\c.jpg"}));
@@ -130,7 +130,7 @@ TEST_F(ImageListDesk, AddFilesFollowsItsFirstFileThroughAKeptOrder) {
   EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
 }
 
-TEST_F(ImageListDesk, AddFileTellsOfAFileThatCannotBeReadAndSelectsNothing) {
+TEST_F(ImageListFixture, AddFileTellsOfAFileThatCannotBeReadAndSelectsNothing) {
   Fill({"a"});
   EXPECT_FALSE(operations.AddFile("C:\\missing.jpg"));
   ExpectFileErrorBox("C:\\missing.jpg");
@@ -138,7 +138,7 @@ TEST_F(ImageListDesk, AddFileTellsOfAFileThatCannotBeReadAndSelectsNothing) {
   EXPECT_TRUE(SelectedNames().empty());
 }
 
-TEST_F(ImageListDesk, TheFirstRowIsSelectedWhereNoneIsCurrent) {
+TEST_F(ImageListFixture, TheFirstRowIsSelectedWhereNoneIsCurrent) {
   operations.SelectFirstIfNoneIsCurrent();
   EXPECT_EQ(images.Current(), 0U) << "there is none";
   Fill({"a", "b"});
@@ -151,13 +151,13 @@ TEST_F(ImageListDesk, TheFirstRowIsSelectedWhereNoneIsCurrent) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ImageListDesk, AddFilesThatAddsNothingModifiesNothing) {
+TEST_F(ImageListFixture, AddFilesThatAddsNothingModifiesNothing) {
   EXPECT_TRUE(operations.AddFiles({}));
   EXPECT_FALSE(operations.AddFiles({"C:\\missing.jpg"}));
   EXPECT_FALSE(project.IsModified);
 }
 
-using Remove = ImageListDesk;
+using Remove = ImageListFixture;
 
 TEST_F(Remove, SelectedRowsGoAndTheRowAtTheFirstOfThemBecomesCurrentAndSelected) {
   Fill({"a", "b", "c", "d", "e"});
@@ -269,7 +269,7 @@ TEST_F(Remove, WithoutACurrentRowNothingIsCorrupted) {
   EXPECT_FALSE(project.IsModified);
 }
 
-using Find = ImageListDesk;
+using Find = ImageListFixture;
 
 TEST_F(Find, AHitIsScrolledIntoViewSelectedAndPreviewed) {
   Fill({"a", "Photo_1", "b"});
@@ -310,7 +310,7 @@ TEST_F(Find, AnEmptyTextOrListFindsNothingAndSaysNothing) {
   EXPECT_TRUE(display.calls.empty());
 }
 
-using Rename = ImageListDesk;
+using Rename = ImageListFixture;
 
 TEST_F(Rename, GivesTheCurrentRowTheBase) {
   Fill({"a", "b", "c"});

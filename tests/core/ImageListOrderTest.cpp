@@ -1,5 +1,5 @@
 #include "env/RuntimeFailure.h"
-#include "tests/core/ImageListDesk.h"
+#include "tests/core/ImageListFixture.h"
 #include "tests/fakes/ScriptedShuffle.h"
 
 #include <utility>
@@ -7,7 +7,7 @@
 namespace vantorium::core {
 namespace {
 
-using Sorting = ImageListDesk;
+using Sorting = ImageListFixture;
 
 TEST_F(Sorting, AsksBeforeAnOrderOfTheUsersOwnIsLost) {
   Fill({"b", "a"});
@@ -91,7 +91,7 @@ TEST_F(Sorting, StopSortingLeavesTheProjectUnmodified) {
   EXPECT_FALSE(project.IsModified);
 }
 
-using ShuffleOperation = ImageListDesk;
+using ShuffleOperation = ImageListFixture;
 
 TEST_F(ShuffleOperation, AsksNothingOfFewerThanTwoRows) {
   fakes::ScriptedShuffle script({0.0});

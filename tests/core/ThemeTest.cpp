@@ -10,11 +10,11 @@ namespace vantorium::core {
 namespace {
 
 namespace fs = std::filesystem;
-using fakes::ProjectDesk;
 using fakes::ProjectFileParts;
+using fakes::ProjectHarness;
 using fakes::SettingTexts;
 
-class Theme : public ::testing::Test, public ProjectDesk {
+class Theme : public ::testing::Test, public ProjectHarness {
  protected:
   std::optional<GalleryProject> Read(const std::string& path) { return ReadTheme(path, paths, boxes, events); }
   [[nodiscard]] std::vector<std::string> Messages() const {

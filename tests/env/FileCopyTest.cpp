@@ -1,7 +1,7 @@
 #include "env/FileCopy.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <sys/stat.h>

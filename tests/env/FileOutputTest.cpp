@@ -1,8 +1,8 @@
 #include "env/FileDescriptor.h"
 #include "env/FileOutput.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <sys/socket.h>

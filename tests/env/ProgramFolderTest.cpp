@@ -1,6 +1,6 @@
 #include "env/ProgramFolder.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 namespace vantorium::env {

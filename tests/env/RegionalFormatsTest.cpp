@@ -1,6 +1,6 @@
 #include "env/RegionalFormats.h"
 #include "env/RuntimeFailure.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -1,7 +1,7 @@
 #include "env/TempFolder.h"
 #include "tests/fakes/CountingEventLoop.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <fcntl.h>

@@ -13,9 +13,9 @@ using namespace vantorium;
 namespace {
 
 /// A session with a drive P:, which holds the two photographs of the corpus.
-class Desk : public fakes::ProjectDesk {
+class ProjectRoundTrip : public fakes::ProjectHarness {
  public:
-  Desk() {
+  ProjectRoundTrip() {
     paths = env::PathMap({{'P', folder.Path().string()}});
     folder.Write("a.jpg", "bytes");
     folder.Write("b.jpg", "more bytes");
@@ -74,21 +74,21 @@ void CheckXml(const std::string& bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static Desk desk;
+  static ProjectRoundTrip trip;
   const std::string input = fuzz::InputText(data, size);
   CheckXml(input);
-  if (!desk.Read(input)) {
-    fuzz::Require(!desk.boxes.boxes.empty(), "a project that can't be read gives a box");
-    std::ignore = core::ProjectFileText(desk.project, desk.events);  // a partly read project may be saved
+  if (!trip.Read(input)) {
+    fuzz::Require(!trip.boxes.boxes.empty(), "a project that can't be read gives a box");
+    std::ignore = core::ProjectFileText(trip.project, trip.events);  // a partly read project may be saved
     return 0;
   }
-  fuzz::Require(desk.boxes.boxes.empty(), "a project that was read gives no box");
-  LoseWhatIsNotReadBack(desk.project.settings);
-  const std::string images = desk.Images();
-  const std::string written = desk.Written();
-  fuzz::Require(desk.Read(core::ProjectFileText(desk.project, desk.events)),
+  fuzz::Require(trip.boxes.boxes.empty(), "a project that was read gives no box");
+  LoseWhatIsNotReadBack(trip.project.settings);
+  const std::string images = trip.Images();
+  const std::string written = trip.Written();
+  fuzz::Require(trip.Read(core::ProjectFileText(trip.project, trip.events)),
                 "what was read can be written and read again");
-  fuzz::RequireEqual(desk.Images(), images, "the images come back");
-  fuzz::RequireEqual(desk.Written(), written, "the same project gives the same file");
+  fuzz::RequireEqual(trip.Images(), images, "the images come back");
+  fuzz::RequireEqual(trip.Written(), written, "the same project gives the same file");
   return 0;
 }

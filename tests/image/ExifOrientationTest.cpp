@@ -16,9 +16,9 @@ constexpr std::size_t kType = kSecondEntry + 2;
 constexpr std::size_t kCount = kSecondEntry + 4;
 
 TEST(ExifOrientation, EachOfTheEightIsReadInBothByteOrders) {
-  for (const bool greatestFirst : {false, true}) {
+  for (const bool bigEndian : {false, true}) {
     for (int value = 1; value <= 8; ++value) {
-      EXPECT_EQ(OrientationInExif(fakes::ExifOf(value, greatestFirst)), static_cast<Orientation>(value));
+      EXPECT_EQ(OrientationInExif(fakes::ExifOf(value, bigEndian)), static_cast<Orientation>(value));
     }
   }
 }

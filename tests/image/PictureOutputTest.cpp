@@ -6,7 +6,7 @@
 #include "image/literal/WatermarkLiteral.h"
 #include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/FailureOf.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/image/PictureFixtures.h"
 
 #include <gtest/gtest.h>

@@ -7,7 +7,7 @@
 #include "image/literal/ResampleLiteral.h"
 #include "image/literal/TurnLiteral.h"
 #include "image/literal/WatermarkLiteral.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/PhotographMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 

@@ -3,7 +3,7 @@
 #include "env/mINIFileFunctions.h"
 #include "publish/ServerListFile.h"
 #include "tests/fakes/FailureOf.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

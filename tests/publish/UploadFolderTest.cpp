@@ -1,6 +1,6 @@
 #include "publish/UploadFolder.h"
 #include "tests/fakes/CountingEventLoop.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"

@@ -1,5 +1,5 @@
 #include "publish/UploadLog.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"

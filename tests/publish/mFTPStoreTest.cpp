@@ -1,7 +1,7 @@
 // Storing files, with scripted sockets.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/publish/ScriptedClient.h"
 
 #include <filesystem>

@@ -20,12 +20,12 @@ class ProjectFileReaderTest : public ::testing::Test, public ProjectReading {};
 TEST_F(ProjectFileReaderTest, ASmallFileReadsWithoutABox) {
   ASSERT_TRUE(Read(ProjectFileParts{}));
   EXPECT_EQ(Settings().textGalleryTitle, "Holidays");
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
 TEST_F(ProjectFileReaderTest, ReadingShowsTheFileAndTheWaitPointerAndTakesThemAwayAgain) {
   ASSERT_TRUE(Read(ProjectFileParts{}));
-  EXPECT_EQ(desk.calls,
+  EXPECT_EQ(harness.calls,
             (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "status ", "pointer"}));
 }
 
@@ -50,10 +50,10 @@ TEST_F(ProjectFileReaderTest, AnotherDocumentElementIsNotAProject) {
 }
 
 TEST_F(ProjectFileReaderTest, AFileThatCannotBeReadHasNoProject) {
-  const std::string pipe = (desk.folder.Path() / "pipe").string();
+  const std::string pipe = (harness.folder.Path() / "pipe").string();
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
   for (const std::string& name :
-       {desk.PathOf("missing.gpj"), desk.paths.ToText(desk.folder.Path()), desk.PathOf("pipe"),
+       {harness.PathOf("missing.gpj"), harness.paths.ToText(harness.folder.Path()), harness.PathOf("pipe"),
         "Q:\\no such drive\\a.gpj"s, "\\\\server\\share\\a.gpj"s, ""s, "/dev/zero"s}) {
     path = name;
     EXPECT_FALSE(ReadPath()) << name;
@@ -88,7 +88,7 @@ TEST_F(ProjectFileReaderTest, AProjectNeedsAGallery) {
   EXPECT_EQ(Box(), "Invalid Project File: \"" + path +
                        "\" could not be loaded in whole because it is not a valid Vantorium 3.0 Project File.\r\r"
                        "Reason: The File does not contain a Gallery Description.");
-  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Critical);
+  EXPECT_EQ(harness.boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_FALSE(Read("<GALLERYPROJECT><a><GALLERY/></a></GALLERYPROJECT>"));
   EXPECT_EQ(Reason(), "The File does not contain a Gallery Description.");
 }
@@ -113,25 +113,25 @@ TEST_F(ProjectFileReaderTest, EachRequiredElementHasItsReason) {
 
 TEST_F(ProjectFileReaderTest, AnInvalidFileTakesTheStatusTextAndTheWaitPointerAway) {
   EXPECT_FALSE(Read("<GALLERYPROJECT/>"));
-  EXPECT_EQ(desk.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer",
-                               "box Invalid Project File", "status ", "pointer"}));
+  EXPECT_EQ(harness.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer",
+                                  "box Invalid Project File", "status ", "pointer"}));
 }
 
 TEST_F(ProjectFileReaderTest, AnUnreadableNumberShowsItsFailureAndLeavesTheStatusTextAndTheWaitPointer) {
   EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPage = "<ARRANGEMENT ROWS='many'/><PAGELINKS/>"}));
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
-  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Plain);
-  EXPECT_EQ(desk.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "box Vantorium"}));
+  EXPECT_EQ(harness.boxes.boxes[0].kind, env::BoxKind::Plain);
+  EXPECT_EQ(harness.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "box Vantorium"}));
   EXPECT_FALSE(Read(ProjectFileParts{.lists = "<IMAGES><MODIFY><SIZE KEEPASPECTRATIO='32768'/></MODIFY></IMAGES>"}));
   EXPECT_EQ(Box(), "Vantorium: Overflow");
 }
 
 TEST_F(ProjectFileReaderTest, TheEventLoopGetsATurnAfterTheStatusTextAndBeforeTheSettingsAreTouched) {
-  desk.project.settings.ImageHeader = "old";
+  harness.project.settings.ImageHeader = "old";
   Calls callsThen;
-  desk.events.onTurn = [&](int turn) {
+  harness.events.onTurn = [&](int turn) {
     if (turn != 1) return;
-    callsThen = desk.calls;
+    callsThen = harness.calls;
     EXPECT_EQ(Settings().ImageHeader, "old");
   };
   ASSERT_TRUE(Read(ProjectFileParts{}));
@@ -139,9 +139,9 @@ TEST_F(ProjectFileReaderTest, TheEventLoopGetsATurnAfterTheStatusTextAndBeforeTh
 }
 
 TEST_F(ProjectFileReaderTest, AReadingBeginsWithTheSettingsOfANewProject) {
-  desk.project.UntitledCounter = 7;
-  desk.project.settings.ImageHeader = "old";
-  desk.project.settings.checkImageWrapperImageSizesInPercent = 1;
+  harness.project.UntitledCounter = 7;
+  harness.project.settings.ImageHeader = "old";
+  harness.project.settings.checkImageWrapperImageSizesInPercent = 1;
   ASSERT_TRUE(Read(ProjectFileParts{.gallery = ""}));
   EXPECT_EQ(Settings().textGalleryTitle, "Gallery7");
   EXPECT_EQ(Settings().ImageHeader, "");
@@ -154,7 +154,7 @@ TEST_F(ProjectFileReaderTest, AnEmptyTitleIsATitle) {
 }
 
 TEST_F(ProjectFileReaderTest, AReadingLeavesTheStatesOfTheProject) {
-  Project& project = desk.project;
+  Project& project = harness.project;
   project.ProjectFileName = "old.gpj";
   for (const bool state : {false, true}) {
     for (const std::string& text : {ProjectFileParts{}.Text(), std::string("<GALLERYPROJECT/>")}) {
@@ -169,13 +169,13 @@ TEST_F(ProjectFileReaderTest, AReadingLeavesTheStatesOfTheProject) {
 }
 
 TEST_F(ProjectFileReaderTest, ValuesReadBeforeAFailureStay) {
-  desk.File("a.jpg");
+  harness.File("a.jpg");
   EXPECT_FALSE(Read(ProjectFileParts{
-      .lists = "<HEAD>head</HEAD><IMAGES><IMAGE INDEX='1' NAME='a' SOURCE='" + desk.PathOf("a.jpg") + "'/></IMAGES>",
+      .lists = "<HEAD>head</HEAD><IMAGES><IMAGE INDEX='1' NAME='a' SOURCE='" + harness.PathOf("a.jpg") + "'/></IMAGES>",
       .thumbnailPage = ""}));
   EXPECT_EQ(Settings().textGalleryTitle, "Holidays");
   EXPECT_EQ(Settings().GalleryHeadCode, "head");
-  EXPECT_EQ(desk.project.images.Count(), 1U);
+  EXPECT_EQ(harness.project.images.Count(), 1U);
 }
 
 TEST_F(ProjectFileReaderTest, TextsOfTheGalleryComeWithCrLfAndAreEmptyWhenAbsent) {

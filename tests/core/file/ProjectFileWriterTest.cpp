@@ -13,11 +13,11 @@ namespace {
 
 class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
  public:
-  GalleryProject& Edit() { return desk.project.settings; }
-  [[nodiscard]] std::string Text() { return ProjectFileText(desk.project, desk.events); }
+  GalleryProject& Edit() { return harness.project.settings; }
+  [[nodiscard]] std::string Text() { return ProjectFileText(harness.project, harness.events); }
   bool Write(const std::string& target) {
-    desk.calls.clear();
-    return ProjectFileWriter(desk.project, desk.paths, desk.host, desk.events).WriteProjectFile(target);
+    harness.calls.clear();
+    return ProjectFileWriter(harness.project, harness.paths, harness.host, harness.events).WriteProjectFile(target);
   }
   /// Compares one element a line, so that a failure shows the element that differs.
   void ExpectText(const std::string& expected) {
@@ -32,8 +32,8 @@ class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
 };
 
 /// Fills in every optional element of the file.
-void FillIn(ProjectDesk& desk) {
-  GalleryProject& project = desk.project.settings;
+void FillIn(ProjectHarness& harness) {
+  GalleryProject& project = harness.project.settings;
   project.textGalleryTitle = "A \"title\" & <more>";
   project.GalleryHeadCode = "<META>\r\n";
   project.GalleryInfoText = "info";
@@ -76,8 +76,8 @@ void FillIn(ProjectDesk& desk) {
   project.comboPageLinksThumbnailLinkPlacement = 3;
   project.ThumbnailFirstLink = {"F", "C:\\f.gif", "g.gif"};
   project.ImageIndexLink = {"I", "i.gif", "never written"};
-  desk.project.images.Insert(1, {"a.jpg", "C:\\photos\\a.jpg", "", "", "described", ""});
-  desk.project.images.Insert(2, {"b.jpg", "Z:/b.jpg", "", "", "", "a thumbnail"});
+  harness.project.images.Insert(1, {"a.jpg", "C:\\photos\\a.jpg", "", "", "described", ""});
+  harness.project.images.Insert(2, {"b.jpg", "Z:/b.jpg", "", "", "", "a thumbnail"});
 }
 
 }  // namespace
@@ -114,7 +114,7 @@ TEST_F(ProjectFileWriterTest, ANewProjectIsWrittenInItsOrder) {
 }
 
 TEST_F(ProjectFileWriterTest, AProjectWithEveryPartIsWrittenInItsOrder) {
-  FillIn(desk);
+  FillIn(harness);
   ExpectText(
       "<GALLERYPROJECT VERSION=\"3.0\"><META NAME=\"GENERATOR\" CONTENT=\"Vantorium Image Gallery Creator 3.0\"/>"
       "<GALLERY TITLE=\"A &quot;title&quot; &amp; &lt;more>\"><HEAD><![CDATA[<META>\r\n]]></HEAD>"
@@ -294,11 +294,11 @@ TEST_F(ProjectFileWriterTest, LineBreaksOfAttributesAreWrittenAsReferences) {
 TEST_F(ProjectFileWriterTest, ATextThatClosesItsSectionIsReadBackWhole) {
   for (const std::string& text : {std::string("]]>"), std::string("a]]>b]]>"), std::string("]]]]>>"),
                                   std::string("<![CDATA[x]]>"), std::string("]]"), std::string("&lt;]]&gt;")}) {
-    desk.project.images.Clear();
-    desk.AddImage("a.jpg", text, text);
+    harness.project.images.Clear();
+    harness.AddImage("a.jpg", text, text);
     ASSERT_TRUE(Read(Text())) << text;
-    EXPECT_EQ(desk.project.images.Entry(1).ImageDescription, text);
-    EXPECT_EQ(desk.project.images.Entry(1).ThumbnailDescription, text);
+    EXPECT_EQ(harness.project.images.Entry(1).ImageDescription, text);
+    EXPECT_EQ(harness.project.images.Entry(1).ThumbnailDescription, text);
   }
 }
 
@@ -313,11 +313,11 @@ TEST_F(ProjectFileWriterTest, CharactersThatXmlForbidsAreReplacedAndTheFileCanBe
 }
 
 TEST_F(ProjectFileWriterTest, AnImagePathThatXmlCannotHoldIsNotWritten) {
-  const std::string target = desk.File("a.gpj", "old");
-  desk.project.images.Insert(1, {"a", "C:\\caf\xE9.jpg", "", "", "", ""});
+  const std::string target = harness.File("a.gpj", "old");
+  harness.project.images.Insert(1, {"a", "C:\\caf\xE9.jpg", "", "", "", ""});
   EXPECT_THROW(std::ignore = Text(), env::RuntimeFailure);
   EXPECT_FALSE(Write(target));
-  EXPECT_EQ(desk.folder.Read("a.gpj"), "old");
+  EXPECT_EQ(harness.folder.Read("a.gpj"), "old");
 }
 
 TEST_F(ProjectFileWriterTest, ValuesThatTheReaderRefusesAreNotWritten) {
@@ -326,55 +326,55 @@ TEST_F(ProjectFileWriterTest, ValuesThatTheReaderRefusesAreNotWritten) {
 }
 
 TEST_F(ProjectFileWriterTest, WritingShowsTheFileAndTheWaitPointerAndTakesThemAwayAgain) {
-  const std::string target = desk.PathOf("a.gpj");
+  const std::string target = harness.PathOf("a.gpj");
   ASSERT_TRUE(Write(target));
-  EXPECT_EQ(desk.calls,
+  EXPECT_EQ(harness.calls,
             (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer", "status ", "pointer"}));
-  EXPECT_EQ(desk.folder.Read("a.gpj"), Text());
+  EXPECT_EQ(harness.folder.Read("a.gpj"), Text());
 }
 
 TEST_F(ProjectFileWriterTest, AFileThatCannotBeWrittenGivesFalseWithoutABox) {
-  for (const std::string& target : {desk.PathOf("no folder/a.gpj"), desk.paths.ToText(desk.folder.Path()),
+  for (const std::string& target : {harness.PathOf("no folder/a.gpj"), harness.paths.ToText(harness.folder.Path()),
                                     std::string("Q:\\a.gpj"), std::string()}) {
     EXPECT_FALSE(Write(target)) << target;
-    EXPECT_EQ(desk.calls,
+    EXPECT_EQ(harness.calls,
               (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer", "status ", "pointer"}));
   }
 }
 
 TEST_F(ProjectFileWriterTest, AFileBehindALinkIsReplacedAndTheLinkStays) {
-  desk.folder.Write("real/a.gpj", "old");
-  std::filesystem::create_symlink("real/a.gpj", desk.folder.Path() / "link.gpj");
-  std::filesystem::create_symlink("real/new.gpj", desk.folder.Path() / "dangling.gpj");
-  ASSERT_TRUE(Write(desk.PathOf("link.gpj")));
-  EXPECT_TRUE(std::filesystem::is_symlink(desk.folder.Path() / "link.gpj"));
-  EXPECT_EQ(desk.folder.Read("real/a.gpj"), Text());
-  ASSERT_TRUE(Write(desk.PathOf("dangling.gpj")));
-  EXPECT_EQ(desk.folder.Read("real/new.gpj"), Text());
+  harness.folder.Write("real/a.gpj", "old");
+  std::filesystem::create_symlink("real/a.gpj", harness.folder.Path() / "link.gpj");
+  std::filesystem::create_symlink("real/new.gpj", harness.folder.Path() / "dangling.gpj");
+  ASSERT_TRUE(Write(harness.PathOf("link.gpj")));
+  EXPECT_TRUE(std::filesystem::is_symlink(harness.folder.Path() / "link.gpj"));
+  EXPECT_EQ(harness.folder.Read("real/a.gpj"), Text());
+  ASSERT_TRUE(Write(harness.PathOf("dangling.gpj")));
+  EXPECT_EQ(harness.folder.Read("real/new.gpj"), Text());
 }
 
 TEST_F(ProjectFileWriterTest, ALinkToItselfIsNotFollowedForEver) {
-  std::filesystem::create_symlink("loop.gpj", desk.folder.Path() / "loop.gpj");
-  std::ignore = Write(desk.PathOf("loop.gpj"));
+  std::filesystem::create_symlink("loop.gpj", harness.folder.Path() / "loop.gpj");
+  std::ignore = Write(harness.PathOf("loop.gpj"));
   SUCCEED();
 }
 
 TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnAfterTheStatusText) {
   Calls callsThen;
-  desk.events.onTurn = [&](int turn) {
-    if (turn == 1) callsThen = desk.calls;
+  harness.events.onTurn = [&](int turn) {
+    if (turn == 1) callsThen = harness.calls;
   };
-  const std::string target = desk.PathOf("out.gpj");
+  const std::string target = harness.PathOf("out.gpj");
   ASSERT_TRUE(Write(target));
   EXPECT_EQ(callsThen, (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer"}));
 }
 
 TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnEvery100ImagesAndAsTheTextGrows) {
   const auto turnsWith = [&](std::size_t images, const std::string& description) {
-    while (desk.project.images.Count() < images) desk.AddImage("a.jpg", description);
-    desk.events.turns = 0;
+    while (harness.project.images.Count() < images) harness.AddImage("a.jpg", description);
+    harness.events.turns = 0;
     std::ignore = Text();
-    return desk.events.turns;
+    return harness.events.turns;
   };
   const int few = turnsWith(1, "");
   EXPECT_EQ(turnsWith(350, ""), few + 2 * 3) << "for the images and for their thumbnails";

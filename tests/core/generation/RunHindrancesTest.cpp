@@ -1,7 +1,7 @@
 #include "core/generation/GenerateGallery.h"
 #include "tests/core/generation/RunFixture.h"
 #include "tests/core/generation/ThreadLimit.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 
 #include <system_error>
 

@@ -1,4 +1,4 @@
-#include "tests/fakes/RecordingDesktop.h"
+#include "tests/fakes/RecordingShell.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/dialogs/frmFind.h"
 #include "ui/dialogs/frmInvalidImage.h"
@@ -119,7 +119,7 @@ TEST(frmRename, CancelAndEscapeChangeNoName) {
 }
 
 TEST(frmInvalidImage, EachAnswerHasItsNumber) {
-  fakes::RecordingDesktop shell;
+  fakes::RecordingShell shell;
   frmInvalidImage dialog(shell);
   EXPECT_EQ(dialog.windowTitle(), "Corrupted Image");
   EXPECT_EQ(Find<QLabel>(dialog, "lblInfo").text(), "The following Image appears to be corrupted:");
@@ -140,13 +140,13 @@ TEST(frmInvalidImage, EachAnswerHasItsNumber) {
 }
 
 TEST(frmInvalidImage, HasAnIconThatWarns) {
-  fakes::RecordingDesktop shell;
+  fakes::RecordingShell shell;
   frmInvalidImage question(shell, nullptr);
   EXPECT_FALSE(Find<QLabel>(question, "lblIcon").pixmap().isNull());
 }
 
 TEST(frmInvalidImage, ALongNameMakesItNoWider) {
-  fakes::RecordingDesktop shell;
+  fakes::RecordingShell shell;
   frmInvalidImage question(shell);
   int width = 0;
   for (const std::string& name : {std::string("a.jpg"), std::string(255, 'W'), std::string(255, '_')}) {
@@ -161,7 +161,7 @@ TEST(frmInvalidImage, ALongNameMakesItNoWider) {
 }
 
 TEST(frmInvalidImage, EscapeAndEnterIgnore) {
-  fakes::RecordingDesktop shell;
+  fakes::RecordingShell shell;
   frmInvalidImage dialog(shell);
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
     InvalidImageAnswer answer = InvalidImageAnswer::Remove;

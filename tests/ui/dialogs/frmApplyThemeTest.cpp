@@ -1,5 +1,5 @@
 #include "tests/fakes/ProjectReading.h"
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -20,22 +20,22 @@ class ApplyThemeForm : public testing::Test {
   ApplyThemeForm() {
     WriteTheme("film", "3");
     WriteTheme("plain", "7");
-    desk.folder.Write("data/themes/film.jpg", fakes::MakeJpeg({.width = 24, .height = 15}));
-    desk.folder.Write("data/themes/plain.jpg", "no picture");
-    desk.Start();
+    harness.folder.Write("data/themes/film.jpg", fakes::MakeJpeg({.width = 24, .height = 15}));
+    harness.folder.Write("data/themes/plain.jpg", "no picture");
+    harness.Start();
   }
 
   void WriteTheme(const std::string& name, const std::string& rows) const {
     ProjectFileParts parts;
     parts.thumbnailPage = "<ARRANGEMENT ROWS=\"" + rows + "\"/><PAGELINKS/>";
-    desk.folder.Write("data/themes/" + name + ".gpj", parts.Text());
+    harness.folder.Write("data/themes/" + name + ".gpj", parts.Text());
   }
   void Open(const std::function<void(QWidget&)>& drive) {
-    DriveModal([&] { desk.Trigger("menuOptionsApplyTheme"); }, drive);
+    DriveModal([&] { harness.Trigger("menuOptionsApplyTheme"); }, drive);
   }
-  [[nodiscard]] const core::Project& Now() const { return desk.model->CurrentProject(); }
+  [[nodiscard]] const core::Project& Now() const { return harness.model->CurrentProject(); }
 
-  fakes::MainDesk desk;
+  fakes::MainWindowHarness harness;
 };
 
 TEST_F(ApplyThemeForm, ShowsEachThemeAsAPictureWithTheFirstOneChosen) {
@@ -56,18 +56,18 @@ TEST_F(ApplyThemeForm, ShowsEachThemeAsAPictureWithTheFirstOneChosen) {
 }
 
 TEST_F(ApplyThemeForm, TheChosenThemesSettingsAreTakenOverAndShown) {
-  desk.AddPhotograph("a.jpg");
-  desk.GoTo(0);
-  Type(Find<QLineEdit>(*desk.window, "textGalleryTitle"), "Mine");
+  harness.AddPhotograph("a.jpg");
+  harness.GoTo(0);
+  Type(Find<QLineEdit>(*harness.window, "textGalleryTitle"), "Mine");
   Open([](QWidget& form) {
     QTest::keyClick(&Find<QListWidget>(form, "listThemes"), Qt::Key_Right);
     Click(form, "OKButton");
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Replace Settings");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Replace Settings");
   EXPECT_EQ(Now().settings.textThumbnailsTableRows, "7");
-  EXPECT_EQ(Find<QLineEdit>(*desk.window, "textThumbnailsTableRows").text(), "7");
-  EXPECT_EQ(Find<QLineEdit>(*desk.window, "textGalleryTitle").text(), "Mine");
+  EXPECT_EQ(Find<QLineEdit>(*harness.window, "textThumbnailsTableRows").text(), "7");
+  EXPECT_EQ(Find<QLineEdit>(*harness.window, "textGalleryTitle").text(), "Mine");
   EXPECT_EQ(Now().images.Count(), 1U);
   EXPECT_TRUE(Now().IsModified);
 }
@@ -83,7 +83,7 @@ TEST_F(ApplyThemeForm, ADoubleClickTakesATheme) {
 }
 
 TEST_F(ApplyThemeForm, AfterNoAnotherThemeCanBeChosen) {
-  desk.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
+  harness.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Open([&](QWidget& form) {
     Click(form, "OKButton");
     EXPECT_TRUE(form.isVisible());
@@ -97,17 +97,17 @@ TEST_F(ApplyThemeForm, AfterNoAnotherThemeCanBeChosen) {
 
 TEST_F(ApplyThemeForm, CancelChangesNothingAndAsksNothing) {
   Open([](QWidget& form) { Click(form, "CancelButton"); });
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
   EXPECT_EQ(Now().settings.textThumbnailsTableRows, "5");
   EXPECT_FALSE(Now().IsModified);
 }
 
 TEST_F(ApplyThemeForm, WithoutThemesAMessageSaysSo) {
-  std::filesystem::remove_all(desk.folder.Path() / "data/themes");
-  desk.Trigger("menuOptionsApplyTheme");
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
-  EXPECT_EQ(desk.boxes.boxes[0].text, "The themes cannot be found.");
+  std::filesystem::remove_all(harness.folder.Path() / "data/themes");
+  harness.Trigger("menuOptionsApplyTheme");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "File Error");
+  EXPECT_EQ(harness.boxes.boxes[0].text, "The themes cannot be found.");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "tests/ui/PublishDesk.h"
+#include "tests/ui/CreateGalleryHarness.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -45,12 +45,12 @@ class CreateForm : public testing::Test {
   }
   static QLineEdit::EchoMode Echo(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).echoMode(); }
 
-  fakes::PublishDesk desk;
-  frmCreateGallery form{desk.Parts(), nullptr};
+  fakes::CreateGalleryHarness harness;
+  frmCreateGallery form{harness.Parts(), nullptr};
 };
 
 TEST_F(CreateForm, ComesUpForALocalGalleryWithEverythingChecked) {
-  desk.preferences.CreateFolder = "D:\\web";
+  harness.preferences.CreateFolder = "D:\\web";
   const auto order = Ask([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Create Gallery");
     EXPECT_TRUE(Find<QRadioButton>(form, "optionCreateGallery").isChecked());
@@ -176,7 +176,7 @@ TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
 }
 
 TEST_F(CreateForm, TheFileIsBrowsedFor) {
-  desk.fileBrowser.answer.result = "F:\\new\\page.html";
+  harness.fileBrowser.answer.result = "F:\\new\\page.html";
   const auto order = Ask([](QWidget& form) {
     Click(form, "btnBrowseCreateFilePath");
     EXPECT_EQ(Text(form, "textCreateFilePath"), "F:\\new\\page.html");
@@ -184,7 +184,7 @@ TEST_F(CreateForm, TheFileIsBrowsedFor) {
   });
   ASSERT_TRUE(order);
   EXPECT_EQ(order->OutputFolder + order->IndexFileName, "F:\\new\\page.html");
-  EXPECT_EQ(desk.fileBrowser.requests.size(), 1U);
+  EXPECT_EQ(harness.fileBrowser.requests.size(), 1U);
 }
 
 TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
@@ -218,7 +218,7 @@ TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
 }
 
 TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
-  desk.folderBrowser.answers = {"D:\\photos"};
+  harness.folderBrowser.answers = {"D:\\photos"};
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     EXPECT_EQ(Text(form, "textUploadDestination"), "one.example.org/a/b/");
@@ -243,7 +243,7 @@ TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
   EXPECT_EQ(order->ServerAddress, "two.example.org");
   EXPECT_EQ(order->Password, "me@home");
   EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
-  EXPECT_NE(desk.ServerText().find("PreferredServer=\"2\""), std::string::npos);
+  EXPECT_NE(harness.ServerText().find("PreferredServer=\"2\""), std::string::npos);
 }
 
 TEST_F(CreateForm, ThePasswordOfAServerThatIsOpenToEveryoneIsSeen) {
@@ -308,13 +308,13 @@ TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
   ASSERT_TRUE(upload);
   EXPECT_EQ(upload->ServerAddress, "new.example.org");
   EXPECT_EQ(upload->RemoteFolder, "web/");
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
 TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocus) {
   for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
            {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
-    desk.boxes.boxes.clear();
+    harness.boxes.boxes.clear();
     const auto order = Ask([&](QWidget& form) {
       Click(form, option);
       Type(Find<QLineEdit>(form, "textUploadSourceFolder"), "D:\\photos");
@@ -325,8 +325,8 @@ TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocu
       EXPECT_TRUE(GetsFocus(form, destination)) << option;
       Click(form, "CancelButton");
     });
-    ASSERT_EQ(desk.boxes.boxes.size(), 1U) << option;
-    EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Destination");
+    ASSERT_EQ(harness.boxes.boxes.size(), 1U) << option;
+    EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Destination");
     EXPECT_FALSE(order);
   }
 }
@@ -343,8 +343,8 @@ TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
     Type(box, "/home/me/photos");
     QTest::keyClick(&box, Qt::Key_Return);
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Path");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Path");
   ASSERT_TRUE(order);
   EXPECT_EQ(order->OutputFolder, "C:\\photos\\");
 }
@@ -356,8 +356,8 @@ TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
     EXPECT_TRUE(form.isVisible());
     Click(form, "CancelButton");
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Cannot create Gallery");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Cannot create Gallery");
   EXPECT_FALSE(order);
 }
 
@@ -370,7 +370,7 @@ TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
   });
   ASSERT_TRUE(first);
   EXPECT_EQ(first->Mode, generation::GenerationMode::Publish);
-  desk.preferences.CreateFolder = "D:\\later\\";
+  harness.preferences.CreateFolder = "D:\\later\\";
   EXPECT_FALSE(Ask([](QWidget& form) {
     EXPECT_TRUE(Find<QRadioButton>(form, "optionUploadGallery").isChecked());
     EXPECT_FALSE(Find<QCheckBox>(form, "checkCreateImages").isChecked());

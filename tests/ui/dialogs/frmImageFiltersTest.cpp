@@ -18,13 +18,13 @@ class ImageFiltersForm : public testing::Test {
   /// Opens the dialog for `filters`, runs `drive` on it and returns the dialog's answer.
   bool Edit(const std::function<void(QWidget&)>& drive) {
     bool answer = false;
-    DriveModal([&] { answer = EditImageFilters("Filters for Images", filters, sources, desk.Ports(), nullptr); },
+    DriveModal([&] { answer = EditImageFilters("Filters for Images", filters, sources, harness.Ports(), nullptr); },
                drive);
     return answer;
   }
 
-  fakes::SampleDesk desk;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, desk.TempFolderLocation()};
+  fakes::SampleHarness harness;
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, harness.TempFolderLocation()};
   image::ImageFilterSettings filters;
 };
 
@@ -195,10 +195,10 @@ TEST_F(ImageFiltersForm, CancelLeavesTheSettingsAlone) {
 }
 
 TEST_F(ImageFiltersForm, WithoutASampleItClosesAtOnceWithTheBox) {
-  sources = {"", {desk.Missing()}, desk.TempFolderLocation()};
-  EXPECT_FALSE(EditImageFilters("Filters for Images", filters, sources, desk.Ports(), nullptr));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
+  sources = {"", {harness.Missing()}, harness.TempFolderLocation()};
+  EXPECT_FALSE(EditImageFilters("Filters for Images", filters, sources, harness.Ports(), nullptr));
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ class ProgressForm : public testing::Test {
   fakes::FixedClock clock;
   BusyMessageBox boxes;
   fakes::Journal journal;
-  fakes::RecordingShell shell{journal};
+  fakes::JournalingShell shell{journal};
   generation::CancelCheck cancel{boxes};
   publish::UploadLog log{program.Path(), clock, boxes};
   QWidget owner;

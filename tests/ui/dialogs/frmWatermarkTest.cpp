@@ -28,7 +28,7 @@ class WatermarkForm : public testing::Test {
     bool answer = false;
     DriveModal(
         [&] {
-          answer = EditWatermark("Image Watermarks", watermark, quality, sources, desk.Ports(),
+          answer = EditWatermark("Image Watermarks", watermark, quality, sources, harness.Ports(),
                                  {dialogs, texts, screen}, nullptr);
         },
         drive);
@@ -37,11 +37,11 @@ class WatermarkForm : public testing::Test {
 
   static QImage Sample(QWidget& form) { return Find<UnscaledPicture>(form, "pbPreview").Shown(); }
 
-  fakes::SampleDesk desk;
+  fakes::SampleHarness harness;
   fakes::ScriptedCommonDialogs dialogs;
   image::PangoTextRaster texts;
   env::Screen screen;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, desk.TempFolderLocation()};
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, harness.TempFolderLocation()};
   image::WatermarkSettings watermark{.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
   std::int16_t quality = 85;
 };
@@ -223,21 +223,21 @@ TEST_F(WatermarkForm, CancelLeavesTheSettingsAlone) {
 }
 
 TEST_F(WatermarkForm, WithoutASampleItClosesAtOnceWithTheBox) {
-  sources = {"", {desk.Missing()}, desk.TempFolderLocation()};
-  EXPECT_FALSE(
-      EditWatermark("Image Watermarks", watermark, quality, sources, desk.Ports(), {dialogs, texts, screen}, nullptr));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
+  sources = {"", {harness.Missing()}, harness.TempFolderLocation()};
+  EXPECT_FALSE(EditWatermark("Image Watermarks", watermark, quality, sources, harness.Ports(), {dialogs, texts, screen},
+                             nullptr));
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
 }
 
 TEST_F(WatermarkForm, ATemporaryFolderThatIsBlockedClosesItWithTheBox) {
   EXPECT_FALSE(Edit([this](QWidget& form) {
-    desk.BlockTempFolder();
+    harness.BlockTempFolder();
     Type(Find<QPlainTextEdit>(form, "textWatermark"), "other");
     Click(form, "OKButton");
   }));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Unable to load default Preview Image");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Unable to load default Preview Image");
   EXPECT_EQ(watermark.textWatermark, "SAMPLE");
 }
 

@@ -1,4 +1,4 @@
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/FolderTree.h"
 #include "ui/files/frmBrowseForFolder.h"
 
@@ -17,8 +17,8 @@ using fakes::RowOf;
 class FolderDialog : public testing::Test {
  protected:
   FolderDialog() {
-    desk.disk.Write("photos/2005/June/x", "");
-    desk.disk.Write(".cache/temp/x", "");
+    harness.disk.Write("photos/2005/June/x", "");
+    harness.disk.Write(".cache/temp/x", "");
   }
 
   void Browse(const std::string& initialFolder, const std::function<void(QWidget&)>& drive) {
@@ -27,8 +27,8 @@ class FolderDialog : public testing::Test {
 
   static FolderTree& Tree(QWidget& dialog) { return Find<FolderTree>(dialog, "ftvFolders"); }
 
-  fakes::BrowserDesk desk;
-  QtFolderBrowser browser{desk.paths};
+  fakes::FileBrowserHarness harness;
+  QtFolderBrowser browser{harness.paths};
   std::optional<std::string> chosen;
 };
 
@@ -73,7 +73,7 @@ TEST_F(FolderDialog, CancelChoosesNothing) {
 }
 
 TEST_F(FolderDialog, KeepsWhetherItWasCancelled) {
-  frmBrowseForFolder form(desk.paths);
+  frmBrowseForFolder form(harness.paths);
   EXPECT_FALSE(form.Cancelled);
   DriveModal([&] { form.exec(); }, [](QWidget& dialog) { Click(dialog, "CancelButton"); });
   EXPECT_TRUE(form.Cancelled);
@@ -107,13 +107,13 @@ TEST_F(FolderDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
 }
 
 TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
-  const env::PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', desk.disk.Path().string()}, {'Z', "/"}}};
+  const env::PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', harness.disk.Path().string()}, {'Z', "/"}}};
   frmBrowseForFolder form(paths);
   form.SetSelectedPath("D:\\photos");
   const FolderTree& tree = Tree(form);
   ASSERT_EQ(tree.topLevelItemCount(), 3);
   EXPECT_EQ(tree.topLevelItem(0)->text(0), "Home (C:)");
-  EXPECT_EQ(tree.topLevelItem(1)->text(0).toStdString(), desk.disk.Path().filename().string() + " (D:)");
+  EXPECT_EQ(tree.topLevelItem(1)->text(0).toStdString(), harness.disk.Path().filename().string() + " (D:)");
   EXPECT_EQ(tree.topLevelItem(2)->text(0), "File System (Z:)");
   const QTreeWidgetItem& drive = *tree.topLevelItem(1);
   ASSERT_EQ(drive.childCount(), 1);
@@ -124,7 +124,7 @@ TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
 }
 
 TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
-  frmBrowseForFolder form(desk.paths);
+  frmBrowseForFolder form(harness.paths);
   form.SetSelectedPath("C:\\photos\\sub");
   EXPECT_EQ(Tree(form).currentItem()->childIndicatorPolicy(), QTreeWidgetItem::DontShowIndicatorWhenChildless);
   EXPECT_EQ(Tree(form).currentItem()->childCount(), 0);
@@ -133,12 +133,12 @@ TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
 TEST_F(FolderDialog, WithoutDrivesItShowsHomeAndTheFileSystem) {
   const env::PathMap paths({}, QDir::homePath().toStdString());
   frmBrowseForFolder form(paths);
-  form.SetSelectedPath(paths.ToText(desk.disk.Path() / "photos"));
+  form.SetSelectedPath(paths.ToText(harness.disk.Path() / "photos"));
   const FolderTree& tree = Tree(form);
   ASSERT_EQ(tree.topLevelItemCount(), 2);
   EXPECT_EQ(tree.topLevelItem(0)->text(0), "Home");
   EXPECT_EQ(tree.topLevelItem(1)->text(0), "File System");
-  EXPECT_EQ(form.SelectedPath(), paths.ToText(desk.disk.Path() / "photos"));
+  EXPECT_EQ(form.SelectedPath(), paths.ToText(harness.disk.Path() / "photos"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/FolderTree.h"
 #include "ui/files/frmBrowseForImageFolders.h"
 
@@ -18,8 +18,8 @@ using fakes::RowOf;
 
 using Paths = std::vector<std::string>;
 
-struct TripsDesk : fakes::BrowserDesk {
-  TripsDesk() {
+struct TripsHarness : fakes::FileBrowserHarness {
+  TripsHarness() {
     for (const char* name : {"trips/2004/x", "trips/2005/June/x", "trips/2005/July/x"}) disk.Write(name, "");
   }
 };
@@ -43,8 +43,8 @@ class ImageFoldersDialog : public testing::Test {
     return RowOf(Tree(dialog), name).data(Qt::CheckStateRole).toInt() == Qt::Checked;
   }
 
-  TripsDesk desk;
-  frmBrowseForImageFolders form{desk.paths, "C:\\trips"};
+  TripsHarness harness;
+  frmBrowseForImageFolders form{harness.paths, "C:\\trips"};
 };
 
 TEST_F(ImageFoldersDialog, SaysWhatItIsFor) {
@@ -143,7 +143,7 @@ TEST_F(ImageFoldersDialog, CancelGivesNoFolders) {
 }
 
 TEST_F(ImageFoldersDialog, ALookUpOfManyFoldersCanBeCancelled) {
-  for (int i = 0; i < 200; ++i) desk.disk.Write("trips/many/" + std::to_string(i) + "/x", "");
+  for (int i = 0; i < 200; ++i) harness.disk.Write("trips/many/" + std::to_string(i) + "/x", "");
   Show([](QWidget& dialog) {
     Click(dialog, "checkRecursive");
     QMetaObject::invokeMethod(

@@ -1,5 +1,5 @@
 #include "core/ImageFormats.h"
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/frmFileBrowser.h"
 #include "ui/widgets/StretchedPicture.h"
 
@@ -67,8 +67,8 @@ class FileDialog : public testing::Test {
   }
   static std::string SizeText(QWidget& dialog) { return Find<QLabel>(dialog, "lblSize").text().toStdString(); }
 
-  fakes::BrowserDesk desk;
-  frmFileBrowser browser{desk.paths, desk.boxes, desk.files};
+  fakes::FileBrowserHarness harness;
+  frmFileBrowser browser{harness.paths, harness.boxes, harness.files};
   FileDialogResult result;
 };
 
@@ -187,7 +187,7 @@ TEST_F(FileDialog, AFileThatIsNotAPictureShowsNothing) {
 
 TEST_F(FileDialog, APhotographThatBreaksOffShowsNothing) {
   const std::string whole = fakes::MakeJpeg({.width = 64, .height = 64});
-  desk.disk.Write("photos/cut.jpg", whole.substr(0, whole.size() / 2));
+  harness.disk.Write("photos/cut.jpg", whole.substr(0, whole.size() / 2));
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "cut.jpg");
     EXPECT_TRUE(QTest::qWaitFor([&] { return SizeText(dialog).empty(); }));
@@ -278,8 +278,8 @@ TEST_F(FileDialog, FiltersShowTheirDescriptionsAndMatchInAnyCase) {
 
 TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndOneOf1022IsNot) {
   const std::string base = "photos/long/";
-  for (const char first : {'a', 'b', 'c', 'd'}) desk.disk.Write(base + first + std::string(248, 'x') + ".jpg", "");
-  desk.disk.Write(base + 'e' + std::string(247, 'x') + ".jpg", "");
+  for (const char first : {'a', 'b', 'c', 'd'}) harness.disk.Write(base + first + std::string(248, 'x') + ".jpg", "");
+  harness.disk.Write(base + 'e' + std::string(247, 'x') + ".jpg", "");
   FileDialogRequest request = Images();
   request.initialFolder = "C:\\photos\\long";
   Show(request, [&](QWidget& dialog) {
@@ -288,19 +288,19 @@ TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndOneOf1022IsNot) {
     };
     for (const char first : {'a', 'b', 'c'}) click(first, 248);
     EXPECT_TRUE(Ok(dialog).isEnabled());
-    EXPECT_TRUE(desk.boxes.boxes.empty());
+    EXPECT_TRUE(harness.boxes.boxes.empty());
     click('d', 248);
     EXPECT_EQ(NameBox(dialog).text().size(), 1023);
     EXPECT_FALSE(Ok(dialog).isEnabled());
-    EXPECT_EQ(desk.boxes.boxes.size(), 1U);
+    EXPECT_EQ(harness.boxes.boxes.size(), 1U);
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
     click('e', 247);
-    EXPECT_EQ(desk.boxes.boxes.size(), 2U);
+    EXPECT_EQ(harness.boxes.boxes.size(), 2U);
     click('d', 248);
     EXPECT_EQ(NameBox(dialog).text().size(), 1022);
     EXPECT_TRUE(Ok(dialog).isEnabled());
-    EXPECT_EQ(desk.boxes.boxes.size(), 2U);
+    EXPECT_EQ(harness.boxes.boxes.size(), 2U);
     Click(Ok(dialog));
   });
   EXPECT_EQ(result.names.size(), 4U);
@@ -318,7 +318,7 @@ TEST_F(FileDialog, PathTextCanBeTyped) {
 
 TEST_F(FileDialog, ANativePathBecomesPathTextWhenTheBoxIsLeft) {
   Show(Images(), [&](QWidget& dialog) {
-    Type(NameBox(dialog), desk.Native("photos/sub/d.jpg"));
+    Type(NameBox(dialog), harness.Native("photos/sub/d.jpg"));
     if (QWidget* const completions = QApplication::activePopupWidget()) completions->close();
     QTest::keyClick(&NameBox(dialog), Qt::Key_Tab);
     EXPECT_EQ(NameBox(dialog).text(), "C:\\photos\\sub\\d.jpg");
@@ -329,7 +329,7 @@ TEST_F(FileDialog, ANativePathBecomesPathTextWhenTheBoxIsLeft) {
 
 TEST_F(FileDialog, ANativePathIsTakenAtOnce) {
   Show(Images(), [&](QWidget& dialog) {
-    Type(NameBox(dialog), desk.Native("photos/sub/d.jpg"));
+    Type(NameBox(dialog), harness.Native("photos/sub/d.jpg"));
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
   });
   EXPECT_EQ(result.folder, "C:\\photos\\sub\\");
@@ -353,7 +353,7 @@ int WidthNeeded(const QAbstractItemView& list, int column) {
 }
 
 TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
-  desk.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
+  harness.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
   Show(Images(), [](QWidget& dialog) {
     auto& details = Find<QTreeView>(dialog, "treeView");
     const auto fits = [&] {
@@ -383,7 +383,7 @@ TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return details.columnWidth(1) >= WidthNeeded(details, 1); }));
     QApplication::processEvents();
     details.setColumnWidth(1, 33);
-    desk.disk.Write("photos/new.jpg", fakes::MakeJpeg({}));
+    harness.disk.Write("photos/new.jpg", fakes::MakeJpeg({}));
     EXPECT_TRUE(RowOf(details, "new.jpg").isValid());
     QApplication::processEvents();
     EXPECT_EQ(details.columnWidth(1), 33);
@@ -397,7 +397,7 @@ TEST_F(FileDialog, CompletionsCloseWhenAFolderIsEntered) {
     EXPECT_TRUE(RowOf(List(dialog), "sub").isValid());
     Type(NameBox(dialog), "s");
     EXPECT_TRUE(QTest::qWaitFor([&] { return completions.isVisible(); }));
-    dynamic_cast<QFileDialog&>(dialog).setDirectory(desk.Native("photos/sub"));
+    dynamic_cast<QFileDialog&>(dialog).setDirectory(harness.Native("photos/sub"));
     EXPECT_TRUE(RowOf(List(dialog), "d.jpg").isValid());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !completions.isVisible(); }));
     Click(Cancel(dialog));
@@ -438,14 +438,14 @@ TEST_F(FileDialog, AFileThatIsNotThereIsReportedAndTheDialogStays) {
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(NameBox(dialog).text(), "none.jpg");
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_TRUE(desk.boxes.boxes[0].text.starts_with("none.jpg\r\nFile not found.")) << desk.boxes.boxes[0].text;
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_TRUE(harness.boxes.boxes[0].text.starts_with("none.jpg\r\nFile not found.")) << harness.boxes.boxes[0].text;
   EXPECT_EQ(result.result, "");
 }
 
 TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
-  desk.disk.Write("my.gpj", "old");
-  desk.boxes.answers = {env::BoxAnswer::No};
+  harness.disk.Write("my.gpj", "old");
+  harness.boxes.answers = {env::BoxAnswer::No};
   const FileDialogRequest request{.open = false,
                                   .title = "Save Gallery Project As",
                                   .initialFolder = "C:\\",
@@ -460,8 +460,8 @@ TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
     Click(Ok(dialog));
   });
   EXPECT_EQ(result.result, "C:\\my.gpj");
-  ASSERT_EQ(desk.boxes.boxes.size(), 2U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "my.gpj already exists.\r\nDo you want to replace it?");
+  ASSERT_EQ(harness.boxes.boxes.size(), 2U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "my.gpj already exists.\r\nDo you want to replace it?");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 #include "tests/fakes/PhotographMaker.h"
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/frmPreview.h"
 
 #include <QLabel>
@@ -20,7 +20,7 @@ class FullScreenPreview : public testing::Test {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(Qt::blue);
     picture.setPixelColor(red, Qt::red);
-    picture.save(desk.Native("picture.png"));
+    picture.save(harness.Native("picture.png"));
     preview.SetPicture("picture", "C:\\picture.png");
   }
 
@@ -40,8 +40,8 @@ class FullScreenPreview : public testing::Test {
                });
   }
 
-  fakes::BrowserDesk desk;
-  frmPreview preview{desk.paths};
+  fakes::FileBrowserHarness harness;
+  frmPreview preview{harness.paths};
 };
 
 TEST_F(FullScreenPreview, CoversTheScreen) {
@@ -89,7 +89,7 @@ TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToAreUprightAndItsMiddleIsSho
   const auto& pic = Find<QLabel>(preview, "pic");
   const auto write = [this](int width, int height) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = width, .height = height}), 6);
-    std::ofstream(desk.Native("lying.jpg").toStdString(), std::ios::binary) << jpeg;
+    std::ofstream(harness.Native("lying.jpg").toStdString(), std::ios::binary) << jpeg;
   };
   write(60, 20);
   preview.SetPicture("lying", "C:\\lying.jpg", {.upright = true});

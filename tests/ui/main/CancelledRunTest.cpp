@@ -1,6 +1,6 @@
 #include "tests/fakes/JpegMaker.h"
 #include "tests/ui/FormDriver.h"
-#include "tests/ui/RunDesk.h"
+#include "tests/ui/RunHarness.h"
 
 #include <QPushButton>
 #include <QTimer>
@@ -11,7 +11,7 @@ namespace vantorium::ui {
 namespace {
 
 /// Real runs with photographs.
-class RunInItsWindow : public testing::Test, protected fakes::RunDesk {
+class RunInItsWindow : public testing::Test, protected fakes::RunHarness {
  protected:
   RunInItsWindow() {
     const std::string photograph = fakes::MakeJpeg({.width = 320, .height = 240});

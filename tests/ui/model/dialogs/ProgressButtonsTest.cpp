@@ -48,7 +48,7 @@ TEST_F(ProgressButtonsTest, AfterAFailureTheSameButtonClosesTheWindow) {
 
 TEST_F(ProgressButtonsTest, ShowLogOpensTheLogAndAFailureOfTheDesktopIsNotLookedAt) {
   fakes::Journal journal;
-  fakes::RecordingShell shell(journal);
+  fakes::JournalingShell shell(journal);
   PressShowLog(shell, "C:\\program");
   shell.fails = true;
   PressShowLog(shell, "C:\\program");

@@ -9,14 +9,14 @@ namespace {
 class RunWarningsModelTest : public testing::Test {
  protected:
   RunWarningsModelTest() {
-    desk.Start();
-    for (const char* name : {"a#.jpg", "b.jpg", "c?.jpg"}) desk.AddPhotograph(name);
+    harness.Start();
+    for (const char* name : {"a#.jpg", "b.jpg", "c?.jpg"}) harness.AddPhotograph(name);
     generation::SetIndexFile(order, "T:\\out\\index.htm");
     forecast.Renew();
     Now().IsModified = false;
   }
 
-  [[nodiscard]] core::Project& Now() { return desk.model.CurrentProject(); }
+  [[nodiscard]] core::Project& Now() { return harness.model.CurrentProject(); }
   [[nodiscard]] const std::string& Name(std::size_t position) { return Now().images.Entry(position).ImageName; }
   /// Answers the rename dialog for the chosen finding.
   void Rename(const std::string& name, bool all = false) {
@@ -27,10 +27,10 @@ class RunWarningsModelTest : public testing::Test {
     model.Rename(answer);
   }
 
-  fakes::MainModelDesk desk;
+  fakes::MainModelHarness harness;
   generation::RunOrder order;
-  generation::RunForecast forecast{desk.model.CurrentProject(), order, desk.model.Ports()};
-  RunWarningsModel model{forecast, desk.model.CurrentProject(), desk.model.Images()};
+  generation::RunForecast forecast{harness.model.CurrentProject(), order, harness.model.Ports()};
+  RunWarningsModel model{forecast, harness.model.CurrentProject(), harness.model.Images()};
 };
 
 TEST_F(RunWarningsModelTest, EachLineNamesTheImageAndTheFirstIsChosen) {
@@ -88,8 +88,8 @@ TEST_F(RunWarningsModelTest, ACancelledNameChangesNothing) {
 }
 
 TEST_F(RunWarningsModelTest, WhatNoNameCanMendOffersNoRenaming) {
-  std::filesystem::remove(desk.folder.Path() / "b.jpg");
-  desk.model.Editor().Set(&core::GalleryProject::textThumbnailPageSettingsFilePrefix, "p#");
+  std::filesystem::remove(harness.folder.Path() / "b.jpg");
+  harness.model.Editor().Set(&core::GalleryProject::textThumbnailPageSettingsFilePrefix, "p#");
   forecast.Renew();
   ASSERT_EQ(model.Found().size(), 4U);
   const bool expected[] = {false, true, false, true};

@@ -9,7 +9,7 @@ namespace {
 using fakes::ProjectFileParts;
 using fakes::SettingTexts;
 
-class ApplyingATheme : public testing::Test, public fakes::ProjectDesk {
+class ApplyingATheme : public testing::Test, public fakes::ProjectHarness {
  protected:
   ApplyingATheme() {
     WriteTheme("film", "3");

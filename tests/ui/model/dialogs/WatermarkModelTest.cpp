@@ -33,7 +33,7 @@ class FontRecordingRaster : public fakes::BoxTextRaster {
 class WatermarkDialog : public testing::Test {
  protected:
   std::unique_ptr<WatermarkModel> Opened(const image::WatermarkSettings& settings, std::int16_t quality = 85) {
-    auto model = std::make_unique<WatermarkModel>(settings, quality, sources, desk.Ports(),
+    auto model = std::make_unique<WatermarkModel>(settings, quality, sources, harness.Ports(),
                                                   WatermarkPorts{dialogs, texts, screen}, box);
     model->Open();
     return model;
@@ -41,25 +41,25 @@ class WatermarkDialog : public testing::Test {
 
   std::string Expected(const image::WatermarkSettings& settings, int quality) {
     image::cDIBSection source;
-    EXPECT_TRUE(image::LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
+    EXPECT_TRUE(image::LoadJPEGImage(source, *harness.paths.ToNative(sources.selectedFile)));
     const auto picture = image::Resample(source, box.size.height, box.size.width);
     image::LogFont font = image::MakeWatermarkFont(settings, 96);
     if (settings.checkUseWatermark == 1) {
       image::DrawWatermarkText(*picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color,
                                static_cast<std::uint8_t>(settings.sliderAlpha), texts);
     }
-    const auto file = desk.folder.Path() / "expected.jpg";
+    const auto file = harness.folder.Path() / "expected.jpg";
     image::SaveJPEGImage(*picture, file, quality);
     EXPECT_TRUE(image::LoadJPEGImage(*picture, file));
     return fakes::BytesOf(*picture);
   }
 
-  fakes::SampleDesk desk;
+  fakes::SampleHarness harness;
   fakes::RecordingSampleBox box;
   fakes::ScriptedCommonDialogs dialogs;
   FontRecordingRaster texts{20, 10};
   env::Screen screen;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, desk.TempFolderLocation()};
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, harness.TempFolderLocation()};
   const image::WatermarkSettings on{.checkUseWatermark = 1, .textWatermark = "SAMPLE", .comboTextPlacement = 4};
 };
 
@@ -208,12 +208,12 @@ TEST_F(WatermarkDialog, CancelHidesTheDialog) {
 
 TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
   const auto model = Opened(on);
-  desk.BlockTempFolder();
+  harness.BlockTempFolder();
   model->SetAlpha(3);
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
-                                          desk.TempFolderLocation() +
-                                          "\".  Please check the Temporary Folder Location.");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
+                                             harness.TempFolderLocation() +
+                                             "\".  Please check the Temporary Folder Location.");
   EXPECT_TRUE(model->Cancelled());
   EXPECT_EQ(box.calls, "clear paint hide ");
 }
@@ -231,11 +231,11 @@ class FailingRaster : public fakes::BoxTextRaster {
 
 TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsReportedAndTheSampleShownWithoutIt) {
   const FailingRaster failing;
-  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, failing, screen}, box);
+  WatermarkModel model(on, 85, sources, harness.Ports(), {dialogs, failing, screen}, box);
   model.Open();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Watermark");
-  EXPECT_EQ(desk.boxes.boxes[0].text, "no font");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Watermark");
+  EXPECT_EQ(harness.boxes.boxes[0].text, "no font");
   image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
@@ -248,20 +248,20 @@ TEST_F(WatermarkDialog, AFontDialogThatFailsIsReportedAndTheFontKept) {
       throw env::RuntimeFailure(env::FailureKind::OutOfMemory, "no fonts");
     }
   } failing;
-  WatermarkModel model(on, 85, sources, desk.Ports(), {failing, texts, screen}, box);
+  WatermarkModel model(on, 85, sources, harness.Ports(), {failing, texts, screen}, box);
   model.Open();
   model.BrowseFont();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "no fonts");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "no fonts");
   EXPECT_EQ(model.WorkingFont().Name, "Arial");
 }
 
 TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsReportedAndTheSampleShownWithoutIt) {
   texts.extent = {40000, 10};
   const auto model = Opened(on);
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Value");
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Overflow");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Value");
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Overflow");
   image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
@@ -286,7 +286,7 @@ TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
 }
 
 TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
-  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, texts, screen}, box);
+  WatermarkModel model(on, 85, sources, harness.Ports(), {dialogs, texts, screen}, box);
   model.SetAlpha(5);
   model.LeaveText();
   model.Preview();

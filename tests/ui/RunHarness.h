@@ -42,9 +42,9 @@ class RunWindow : public generation::RunHost {
 };
 
 /// Everything that real runs with a real progress window need. The folder is drive T:; the gallery goes to T:\out.
-class RunDesk {
+class RunHarness {
  public:
-  RunDesk() {
+  RunHarness() {
     project.settings.checkImageWrapperUse = 1;
     preferences.TempFolderLocation = "T:\\temp";
     generation::SetIndexFile(host.order, "T:\\out\\index.htm");
@@ -72,7 +72,7 @@ class RunDesk {
   env::Preferences preferences;
   RecordingMessageBox boxes;
   Journal journal;
-  RecordingShell shell{journal};
+  JournalingShell shell{journal};
   FixedClock clock;
   ui::QtEventLoop loop;
   env::Screen screen;

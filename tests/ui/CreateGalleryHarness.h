@@ -17,9 +17,9 @@ inline bool GetsFocus(QWidget& form, const char* name) {
 }
 
 /// A program folder with a server list, and everything that the dialogs before a run use.
-class PublishDesk {
+class CreateGalleryHarness {
  public:
-  PublishDesk() { WriteServers(0); }
+  CreateGalleryHarness() { WriteServers(0); }
 
   void WriteServers(std::size_t selected) const { publish::WriteServerList({kOne, kTwo}, selected, ServerFile()); }
   [[nodiscard]] std::filesystem::path ServerFile() const { return publish::ServerListFileName(program.Path()); }

@@ -13,9 +13,9 @@
 namespace vantorium::fakes {
 
 /// A disk, drive C:, with some photographs for the dialogs that choose files and folders.
-class BrowserDesk {
+class FileBrowserHarness {
  public:
-  BrowserDesk() {
+  FileBrowserHarness() {
     // Qt saves the state of its file dialog in the settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, Native("settings"));
     disk.Write("photos/a.jpg", MakeJpeg({.width = 40, .height = 30}));
