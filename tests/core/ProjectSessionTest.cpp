@@ -21,7 +21,7 @@ class ProjectSessionTest : public ::testing::Test {
     project.IsModified = true;
     project.settings.textGalleryTitle = "Changed";
   }
-  /// Gives the project a file.
+  /// Saves the project to a file of that name.
   void GiveItAFile(const std::string& name = "mine.gpj") {
     ASSERT_TRUE(session.SaveProjectTo(harness.PathOf(name)));
     harness.calls.clear();
@@ -61,7 +61,7 @@ TEST_F(ProjectSessionTest, TheFirstNewProjectIsGallery1) {
   EXPECT_EQ(States(), "pristine untitled");
 }
 
-TEST_F(ProjectSessionTest, ANewProjectOnAPristineOneDoesNothing) {
+TEST_F(ProjectSessionTest, NewDoesNothingToAPristineProject) {
   session.NewProject();
   EXPECT_EQ(harness.calls, Calls{});
   EXPECT_EQ(project.ProjectFileName, "Gallery1");
@@ -107,7 +107,7 @@ TEST_F(ProjectSessionTest, CancelKeepsTheProjectWhichIsNoLongerPristine) {
   EXPECT_EQ(harness.calls, Calls{"box Project modified"});
 }
 
-TEST_F(ProjectSessionTest, NoDropsTheChanges) {
+TEST_F(ProjectSessionTest, NoDiscardsTheChanges) {
   Modify();
   harness.boxes.answers = {env::BoxAnswer::No};
   session.NewProject();
@@ -168,7 +168,7 @@ TEST_F(ProjectSessionTest, OpenWithoutAFileChangesNothing) {
   EXPECT_EQ(States(), "pristine untitled");
 }
 
-TEST_F(ProjectSessionTest, OpenReadsTheFileInItsOrder) {
+TEST_F(ProjectSessionTest, OpenReportsEachStepInOrder) {
   const std::string path = ValidFile();
   harness.AddImage("old.jpg");
   project.images.KeepSorted({SortColumn::ImageName, SortDirection::Ascending});
@@ -202,7 +202,7 @@ TEST_F(ProjectSessionTest, TheFirstImageOfAnOpenedProjectIsCurrentAndSelected) {
   EXPECT_EQ(States(), "");
 }
 
-TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
+TEST_F(ProjectSessionTest, AFailedOpenShowsTwoMessageBoxesAndKeepsTheState) {
   const std::string path = harness.File("bad.gpj", "<GALLERYPROJECT/>");
   harness.dialog.answers = {path};
   session.OpenProject();
@@ -223,19 +223,19 @@ TEST_F(ProjectSessionTest, ASaveAfterAFailedOpenAsksForANameAndKeepsTheOldFile) 
   harness.dialog.answers = {harness.File("bad.gpj", ProjectFileParts{.imagePage = "<IMAGEPAGE/>"}.Text())};
   session.OpenProject();
   EXPECT_EQ(project.ProjectFileName, "mine.gpj");
-  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays") << "what was read so far";
+  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays") << "values read before the failure";
   EXPECT_EQ(States(), "");
   for (int save = 0; save < 2; ++save) {
-    EXPECT_FALSE(session.SaveProject()) << "nothing was chosen";
+    EXPECT_FALSE(session.SaveProject()) << "no file was chosen";
     EXPECT_EQ(harness.dialog.requests.back().title, "Save Gallery Project As");
     EXPECT_EQ(harness.dialog.requests.back().fileName, "mine.gpj");
   }
   session.SaveProjectAs();
-  EXPECT_FALSE(session.SaveProject()) << "a cancelled Save As changes nothing about it";
+  EXPECT_FALSE(session.SaveProject()) << "even after a cancelled Save As";
   EXPECT_EQ(harness.folder.Read("mine.gpj"), before);
 }
 
-TEST_F(ProjectSessionTest, ASaveGoesToItsFileAgainOnceTheProjectHasOne) {
+TEST_F(ProjectSessionTest, OnceTheProjectHasAFileAgainASaveGoesThere) {
   const std::string bad = harness.File("bad.gpj", "<GALLERYPROJECT/>");
   const auto expectNoQuestion = [this](const char* how) {
     const std::size_t asked = harness.dialog.requests.size();
@@ -276,7 +276,7 @@ TEST_F(ProjectSessionTest, OpenAsksAboutAModifiedProject) {
   EXPECT_EQ(States(), "modified untitled");
 }
 
-TEST_F(ProjectSessionTest, OpenGoesOnWhenTheSaveFails) {
+TEST_F(ProjectSessionTest, OpenContinuesWhenTheSaveFails) {
   Modify();
   harness.boxes.answers = {env::BoxAnswer::Yes};
   harness.dialog.answers = {"", ValidFile()};
@@ -285,7 +285,7 @@ TEST_F(ProjectSessionTest, OpenGoesOnWhenTheSaveFails) {
   EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
 }
 
-TEST_F(ProjectSessionTest, TheCommandLineIsAPathInQuotes) {
+TEST_F(ProjectSessionTest, TheCommandLineIsAQuotedPath) {
   const std::string path = ValidFile();
   harness.AddImage("a.jpg");
   session.OpenProjectFromCommandLine('"' + path + '"');
@@ -296,7 +296,7 @@ TEST_F(ProjectSessionTest, TheCommandLineIsAPathInQuotes) {
   EXPECT_EQ(project.images.Count(), 1U);
 }
 
-TEST_F(ProjectSessionTest, TheCommandLineLosesItsQuotesBeforeItsPathIsMadeWhole) {
+TEST_F(ProjectSessionTest, TheCommandLineIsUnquotedBeforeItsPathIsMadeAbsolute) {
   ValidFile("my own.gpj");
   const std::string native = (harness.folder.Path() / "my own.gpj").string();
   const std::string relative =
@@ -315,7 +315,7 @@ TEST_F(ProjectSessionTest, AnEmptyCommandLineDoesNothing) {
   EXPECT_EQ(harness.calls, Calls{});
 }
 
-TEST_F(ProjectSessionTest, ACommandLineThatIsNotAProjectIsReported) {
+TEST_F(ProjectSessionTest, ACommandLineThatNamesNoProjectIsReported) {
   session.OpenProjectFromCommandLine(harness.PathOf("missing.gpj"));
   ASSERT_EQ(harness.boxes.boxes.size(), 2U);
   EXPECT_EQ(harness.boxes.boxes[1].title, "File Error");
@@ -372,7 +372,7 @@ TEST_F(ProjectSessionTest, AFileNameWithoutTheExtensionGetsIt) {
   }
 }
 
-TEST_F(ProjectSessionTest, AFailedSaveSaysSoAndTheProjectStaysModified) {
+TEST_F(ProjectSessionTest, AFailedSaveIsReportedAndTheProjectStaysModified) {
   GiveItAFile();
   Modify();
   project.ProjectFolder = Folder() + "no folder\\";
@@ -392,7 +392,7 @@ TEST_F(ProjectSessionTest, SavingRepairsEmptySettings) {
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(ProjectSessionTest, SaveAsAsksForANameAlsoWithAFile) {
+TEST_F(ProjectSessionTest, SaveAsAsksForANameEvenIfTheProjectHasAFile) {
   GiveItAFile();
   harness.dialog.answers = {harness.PathOf("copy.gpj")};
   session.SaveProjectAs();
@@ -410,7 +410,7 @@ TEST_F(ProjectSessionTest, SaveAsLeavesAnUntitledProjectUntitled) {
   EXPECT_EQ(harness.dialog.requests.size(), 2U);
 }
 
-TEST_F(ProjectSessionTest, ACancelledSaveAsPutsTheStateBack) {
+TEST_F(ProjectSessionTest, ACancelledSaveAsRestoresTheState) {
   GiveItAFile();
   session.SaveProjectAs();
   EXPECT_EQ(States(), "");
@@ -435,7 +435,7 @@ TEST_F(ProjectSessionTest, AProjectWithoutATitleHasTheNameOfTheNewProject) {
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery1");
 }
 
-TEST_F(ProjectSessionTest, TheFolderOfAProjectLeadsBackToItsFile) {
+TEST_F(ProjectSessionTest, TheFolderOfAProjectLocatesItsFile) {
   const std::string native = (harness.folder.Path() / "mine.gpj").string();  // begins with a separator
   harness.folder.Write("mine.gpj", ProjectFileParts{}.Text());
   ASSERT_TRUE(session.LoadProject(native));

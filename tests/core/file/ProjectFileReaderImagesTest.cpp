@@ -35,7 +35,7 @@ class ProjectFileReaderImagesTest : public ::testing::Test, public ProjectReadin
 
 }  // namespace
 
-TEST_F(ProjectFileReaderImagesTest, AnImageComesWithItsPathKeysAndDescription) {
+TEST_F(ProjectFileReaderImagesTest, AnImageIsReadWithItsPathSortKeysAndDescription) {
   ASSERT_TRUE(ReadImages("<IMAGE INDEX='1' NAME='n' SOURCE='FILE://" + harness.File("five.jpg", "12345") +
                          "'><DESCRIPTION><![CDATA[a\r\nb]]></DESCRIPTION></IMAGE>"));
   EXPECT_EQ(Entry(1).ImageName, "n");
@@ -54,12 +54,12 @@ TEST_F(ProjectFileReaderImagesTest, SlashesOfASourceStay) {
   EXPECT_EQ(Entry(1).SourcePath, source);
 }
 
-TEST_F(ProjectFileReaderImagesTest, ImagesGoToTheirIndexInTheOrderOfTheFile) {
+TEST_F(ProjectFileReaderImagesTest, ImagesAreInsertedAtTheirIndexesInFileOrder) {
   ASSERT_TRUE(ReadImages(Image("1", "a") + Image("1", "b") + Image("2", "c")));
   EXPECT_EQ(Names(), "b c a");
 }
 
-TEST_F(ProjectFileReaderImagesTest, OneNameForAllIsNumbered) {
+TEST_F(ProjectFileReaderImagesTest, DuplicateNamesAreNumbered) {
   ASSERT_TRUE(ReadImages(Image("1", "a") + Image("2", "a") + Image("3", "a")));
   EXPECT_EQ(Names(), "a a_1 a_2");
 }
@@ -88,7 +88,7 @@ TEST_F(ProjectFileReaderImagesTest, AnIndexThatIsNotAPositionFails) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, ASourceThatCannotBeReadEndsTheLoadWithItsBox) {
+TEST_F(ProjectFileReaderImagesTest, AnUnreadableSourceEndsTheLoadWithAMessageBox) {
   for (const std::string& source : {harness.PathOf("gone.jpg"), std::string("Q:\\a.jpg"), std::string()}) {
     EXPECT_FALSE(
         ReadImages(Image("1", "a") + "<IMAGE INDEX='2' NAME='b' SOURCE='file://" + source + "'/>" + Image("3", "c")));
@@ -100,7 +100,7 @@ TEST_F(ProjectFileReaderImagesTest, ASourceThatCannotBeReadEndsTheLoadWithItsBox
   }
 }
 
-TEST_F(ProjectFileReaderImagesTest, AnAbsentFolderIsTheOneOfEachList) {
+TEST_F(ProjectFileReaderImagesTest, AnAbsentFolderGetsTheDefaultOfItsList) {
   ASSERT_TRUE(ReadLists("<IMAGES/><THUMBNAILS/>"));
   EXPECT_EQ(Settings().textImageSettingsSubFolder, "Images");
   EXPECT_EQ(Settings().textThumbnailImageSettingsSubFolder, "1");
@@ -125,7 +125,7 @@ TEST_F(ProjectFileReaderImagesTest, CaptionsAreReadByTheirType) {
   EXPECT_EQ(Settings().checkCaptionsThumbnailsPopup, 0);
 }
 
-TEST_F(ProjectFileReaderImagesTest, ThumbnailCaptionsAreTheirOwn) {
+TEST_F(ProjectFileReaderImagesTest, ThumbnailsHaveSeparateCaptions) {
   ASSERT_TRUE(
       ReadThumbnails("<CAPTION TYPE='regular' PLACE='right' ALIGN='bottom'>a</CAPTION>"
                      "<CAPTION TYPE='popup'>b</CAPTION>"));
@@ -137,7 +137,7 @@ TEST_F(ProjectFileReaderImagesTest, ThumbnailCaptionsAreTheirOwn) {
   EXPECT_EQ(Settings().checkCaptionsImagesRegular, 0);
 }
 
-TEST_F(ProjectFileReaderImagesTest, CaptionPlacesAboveAndBelowAreNotKnown) {
+TEST_F(ProjectFileReaderImagesTest, CaptionPlacesAboveAndBelowAreUnknown) {
   const std::pair<std::string, int> cases[] = {{"left", 0},  {"Right", 1}, {"top", 2}, {"BOTTOM", 3},
                                                {"above", 3}, {"below", 3}, {"", 3},    {"x", 3}};
   for (const auto& [place, index] : cases) {
@@ -147,7 +147,7 @@ TEST_F(ProjectFileReaderImagesTest, CaptionPlacesAboveAndBelowAreNotKnown) {
   }
 }
 
-TEST_F(ProjectFileReaderImagesTest, AlignmentsOfBothDirectionsAreOneList) {
+TEST_F(ProjectFileReaderImagesTest, HorizontalAndVerticalAlignmentsShareTheirNumbers) {
   const std::pair<std::string, int> cases[] = {{"top", 0},   {"LEFT", 0}, {"Center", 1}, {"bottom", 2},
                                                {"right", 2}, {"", 2},     {"middle", 2}};
   for (const auto& [align, index] : cases) {
@@ -211,7 +211,7 @@ TEST_F(ProjectFileReaderImagesTest, TheImageSizeIsRead) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, CorrectionsOfThePhotographsAreOnOnlyIfTheyAreTheNumberOne) {
+TEST_F(ProjectFileReaderImagesTest, PhotographCorrectionsAreOnOnlyForTheNumberOne) {
   ASSERT_TRUE(ReadLists("<IMAGES UPRIGHT='1' TRUECOLORS='1'/>"));
   EXPECT_EQ(Settings().checkImagesUpright, 1);
   EXPECT_EQ(Settings().checkImagesTrueColors, 1);
@@ -235,7 +235,7 @@ TEST_F(ProjectFileReaderImagesTest, AnAbsentThumbnailSizeChangesNothing) {
   EXPECT_EQ(Settings().textThumbnailsImageHeight, "60");
 }
 
-TEST_F(ProjectFileReaderImagesTest, ThumbnailsDescribeTheImagesOfTheirIndex) {
+TEST_F(ProjectFileReaderImagesTest, ThumbnailDescriptionsGoToTheImagesWithTheirIndex) {
   ASSERT_TRUE(
       ReadThumbnails("<THUMBNAIL INDEX='2'><DESCRIPTION>old</DESCRIPTION></THUMBNAIL>"
                      "<THUMBNAIL><DESCRIPTION>nobody</DESCRIPTION></THUMBNAIL>"
@@ -245,7 +245,7 @@ TEST_F(ProjectFileReaderImagesTest, ThumbnailsDescribeTheImagesOfTheirIndex) {
   EXPECT_EQ(Entry(2).ThumbnailDescription, "");
 }
 
-TEST_F(ProjectFileReaderImagesTest, AThumbnailOfNoImageFailsAndTheImagesStay) {
+TEST_F(ProjectFileReaderImagesTest, AThumbnailWithoutAnImageFailsAndTheImagesStay) {
   for (const char* index : {"0", "3", "-1", "100000"}) {
     EXPECT_FALSE(ReadThumbnails("<THUMBNAIL INDEX='" + std::string(index) + "'/>")) << index;
     EXPECT_EQ(Reason(), "Invalid Thumbnail Description Index.") << index;
@@ -255,7 +255,7 @@ TEST_F(ProjectFileReaderImagesTest, AThumbnailOfNoImageFailsAndTheImagesStay) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, TheEventLoopGetsATurnEvery100ImagesAndThumbnails) {
+TEST_F(ProjectFileReaderImagesTest, TheEventLoopHasATurnEvery100ImagesAndThumbnails) {
   std::string images, thumbnails;
   for (int count = 0; count < 350; ++count) images += Image("1", "a");
   for (int count = 0; count < 250; ++count) thumbnails += "<THUMBNAIL INDEX='1'/>";

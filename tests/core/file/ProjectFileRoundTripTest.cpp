@@ -109,12 +109,12 @@ void SingleFrameSlideShow(GalleryProject& project) {
   project.checkImageWrapperImageKeepSize = 0;
   project.checkThumbnailsImageKeepAspectRatio = 1;
   project.checkImageWrapperImageSetWidth = 1;
-  // The strikeout is read back as the underline; both are changed.
+  // Strikeout is read back as underline, so both change.
 }
 
 }  // namespace
 
-TEST_F(ProjectFileRoundTrip, EverySettingThatTheFormatHoldsComesBack) {
+TEST_F(ProjectFileRoundTrip, EverySettingOfTheFormatIsReadBack) {
   EXPECT_EQ(Lost(SingleFrameSlideShow), With({"textThumbnailsImageHeight"}));
   EXPECT_EQ(
       Lost([](GalleryProject& project) {
@@ -137,7 +137,7 @@ TEST_F(ProjectFileRoundTrip, EverySettingThatTheFormatHoldsComesBack) {
   EXPECT_EQ(neverBack, kNeverSaved);
 }
 
-TEST_F(ProjectFileRoundTrip, ACaptionAboveComesBackBelow) {
+TEST_F(ProjectFileRoundTrip, ACaptionAboveIsReadBackAsBelow) {
   GalleryProject& project = harness.project.settings;
   project.checkCaptionsImagesRegular = project.checkCaptionsThumbnailsRegular = 1;
   project.comboCaptionsImagesRegularPlacement = project.comboCaptionsThumbnailsRegularPlacement = 2;
@@ -148,7 +148,7 @@ TEST_F(ProjectFileRoundTrip, ACaptionAboveComesBackBelow) {
   EXPECT_EQ(project.comboCaptionsImagesRegularAlignment, 0);
 }
 
-TEST_F(ProjectFileRoundTrip, StrikeoutComesBackAsTheUnderline) {
+TEST_F(ProjectFileRoundTrip, StrikeoutIsReadBackAsUnderline) {
   image::WatermarkSettings& watermark = harness.project.settings.ImageWatermark;
   watermark.checkUseWatermark = 1;
   for (const bool underline : {false, true}) {
@@ -160,7 +160,7 @@ TEST_F(ProjectFileRoundTrip, StrikeoutComesBackAsTheUnderline) {
   }
 }
 
-TEST_F(ProjectFileRoundTrip, AWatermarkOfTheThumbnailsAloneIsLostAndOneOfTheImagesAloneIsGained) {
+TEST_F(ProjectFileRoundTrip, AThumbnailWatermarkAloneIsLostAndAnImageWatermarkIsCopiedToThumbnails) {
   GalleryProject& project = harness.project.settings;
   project.ThumbnailWatermark.checkUseWatermark = 1;
   ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
@@ -185,7 +185,7 @@ TEST_F(ProjectFileRoundTrip, TheTableBackdropIsLost) {
   EXPECT_EQ(project.textThumbnailsTableBackdrop, "");
 }
 
-TEST_F(ProjectFileRoundTrip, WithoutWrapperPagesTheirLinksRevert) {
+TEST_F(ProjectFileRoundTrip, WithoutWrapperPagesTheirLinksGetTheDefaults) {
   GalleryProject& project = harness.project.settings;
   project.checkImageWrapperUse = 0;
   project.ImageNextLink.textLinkLabel = "mine";
@@ -194,7 +194,7 @@ TEST_F(ProjectFileRoundTrip, WithoutWrapperPagesTheirLinksRevert) {
   EXPECT_EQ(project.ImageNextLink.textLinkLabel, "NEXT");
 }
 
-TEST_F(ProjectFileRoundTrip, TheImagesComeBackInTheirOrder) {
+TEST_F(ProjectFileRoundTrip, ImagesAreReadBackInOrder) {
   harness.AddImage("b.jpg", "first\r\n\"line\"", "");
   harness.AddImage("a & <c>.jpg", "", "thumb");
   harness.AddImage("\xC3\xA4 \xF0\x9F\x98\x80.jpg", "]]>", "]]>");
@@ -213,7 +213,7 @@ TEST_F(ProjectFileRoundTrip, TheImagesComeBackInTheirOrder) {
   EXPECT_EQ(texts(), before);
 }
 
-TEST_F(ProjectFileRoundTrip, AListLongerThan16BitsCountComesBack) {
+TEST_F(ProjectFileRoundTrip, AListOfMoreThan65535ImagesIsReadBack) {
   const std::string source = harness.File("photo.jpg");
   constexpr std::size_t kImages = 40'000;
   for (std::size_t position = 1; position <= kImages; ++position) {
