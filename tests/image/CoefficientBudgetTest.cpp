@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Takes a share in its own thread and reports when it has the share.
+/// Takes a share in its own thread, and tells whether it has it yet.
 class Taker {
  public:
   Taker(CoefficientBudget& budget, std::uint64_t bytes)
@@ -36,14 +36,14 @@ class Taker {
   std::jthread thread_;
 };
 
-TEST(CoefficientBudget, SharesThatFitAreGivenAtOnce) {
+TEST(CoefficientBudget, SharesThatFitAreGrantedAtOnce) {
   CoefficientBudget budget(100);
   const auto first = budget.Take(60, {});
   const auto second = budget.Take(40, {});
   const auto nothing = budget.Take(0, {});
 }
 
-TEST(CoefficientBudget, AShareThatDoesNotFitWaitsForOthersToEnd) {
+TEST(CoefficientBudget, AShareThatDoesNotFitWaitsUntilOthersAreReleased) {
   CoefficientBudget budget(100);
   Taker first(budget, 60);
   first.AwaitShare();
@@ -53,7 +53,7 @@ TEST(CoefficientBudget, AShareThatDoesNotFitWaitsForOthersToEnd) {
   second.AwaitShare();
 }
 
-TEST(CoefficientBudget, AShareBeyondTheWholeIsGivenWhenItIsAlone) {
+TEST(CoefficientBudget, AShareLargerThanTheBudgetIsGrantedAlone) {
   CoefficientBudget budget(100);
   Taker small(budget, 1);
   small.AwaitShare();
@@ -63,7 +63,7 @@ TEST(CoefficientBudget, AShareBeyondTheWholeIsGivenWhenItIsAlone) {
   large.AwaitShare();
 }
 
-TEST(CoefficientBudget, AStopEndsTheWaiting) {
+TEST(CoefficientBudget, AStopRequestEndsTheWait) {
   CoefficientBudget budget(100);
   const auto whole = budget.Take(100, {});
   Taker waiting(budget, 50);
