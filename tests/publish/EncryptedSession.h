@@ -9,7 +9,7 @@ namespace vantorium::publish {
 
 inline constexpr std::size_t kLargerThanAllBuffers = std::size_t{16} << 20U;
 
-/// An encrypting client and a scripted server whose certificate is accepted by its fingerprint, unless changed.
+/// An encrypting client and a scripted server. By default the client accepts the server's certificate by its fingerprint.
 class EncryptedSession {
  public:
   explicit EncryptedSession(fakes::ScriptedFtpServer::Script script = {},

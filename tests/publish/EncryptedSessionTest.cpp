@@ -1,4 +1,4 @@
-// Encrypted sessions with a scripted server: what goes out before the certificate is accepted.
+// Encrypted sessions with a scripted server: what the client sends before it accepts the certificate.
 #include "tests/publish/EncryptedSession.h"
 
 namespace vantorium::publish {
@@ -19,12 +19,12 @@ TEST(EncryptedSession, BothConnectionsAreEncryptedBeforeTheUsersNameIsSent) {
     EXPECT_TRUE(session.Copy()) << session.client.window.log;
     EXPECT_TRUE(session.Copy("large.jpg")) << session.client.window.log;
     EXPECT_EQ(session.server.Files().at("t.jpg"), std::string(kLargerThanAllBuffers, 'x'));
-    EXPECT_EQ(session.server.ResumedSessions(), 2) << "the session of the control connection is taken up";
+    EXPECT_EQ(session.server.ResumedSessions(), 2) << "the control connection's session is resumed";
     EXPECT_TRUE(session.client.boxes.boxes.empty());
   }
 }
 
-TEST(EncryptedSession, AServerThatRefusesToEncryptLearnsNothing) {
+TEST(EncryptedSession, AServerThatRefusesEncryptionGetsNoUserName) {
   for (const char* reply :
        {"500 What\r\n", "530 Please log in\r\n", "502 No\r\n", "334 Go on\r\n", "234 Go\r\n230 In\r\n"}) {
     EncryptedSession session(Saying("AUTH", reply));
@@ -35,7 +35,7 @@ TEST(EncryptedSession, AServerThatRefusesToEncryptLearnsNothing) {
   }
 }
 
-TEST(EncryptedSession, AServerThatDoesNotProtectFilesLearnsNothing) {
+TEST(EncryptedSession, AServerThatDoesNotEncryptFilesGetsNoUserName) {
   for (const char* verb : {"PBSZ", "PROT"}) {
     EncryptedSession session(Saying(verb, "536 No\r\n"));
     EXPECT_FALSE(session.Connect());
@@ -44,17 +44,17 @@ TEST(EncryptedSession, AServerThatDoesNotProtectFilesLearnsNothing) {
   }
 }
 
-TEST(EncryptedSession, AServerThatEndsWhileTheUserReadsSaysSo) {
+TEST(EncryptedSession, AServerThatEndsWhileTheUserDecidesIsReported) {
   EncryptedSession session(On("PBSZ", [](Session& server, const std::string&) { server.HangUp(); }));
   EXPECT_FALSE(session.Connect());
   EXPECT_EQ(session.Problem(), "The server \"127.0.0.1\" has ended the connection.");
   EXPECT_FALSE(session.HasSaidASecret());
 }
 
-TEST(EncryptedSession, WhatIsNotATlsIsAFailure) {
+TEST(EncryptedSession, AReplyThatIsNotTlsIsAFailure) {
   EncryptedSession session(On("AUTH", [](Session& server, const std::string&) {
     server.Say("234 Go on\r\n");
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));  // or it may be part of the reply, and is refused so
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));  // or it could arrive with the reply, which is refused too
     server.Say("200 this is no TLS\r\n");
     server.StaySilent();
   }));
@@ -108,7 +108,7 @@ TEST(EncryptedSession, AnUnknownCertificateIsShownAndAskedAboutOnce) {
   EXPECT_EQ(shown.doubt, "self-signed certificate");
 }
 
-TEST(EncryptedSession, ACertificateThatTheUserOrNobodyAcceptsGetsNoSecret) {
+TEST(EncryptedSession, WithoutAnAcceptedCertificateNoUserNameOrPasswordIsSent) {
   for (const bool somebodyIsThere : {true, false}) {
     EncryptedSession session;
     session.client.ftp.Options.fingerprint.clear();
@@ -121,19 +121,19 @@ TEST(EncryptedSession, ACertificateThatTheUserOrNobodyAcceptsGetsNoSecret) {
   }
 }
 
-TEST(EncryptedSession, AChangedCertificateIsRefusedEvenIfTheSystemVouchesForIt) {
+TEST(EncryptedSession, AChangedCertificateIsRefusedEvenIfTheSystemTrustsIt) {
   const TestCertificate changed;
   const SystemCertificate trusted(changed);
   EncryptedSession session({}, changed);
   session.client.ftp.Options.fingerprint = TestCertificate().fingerprint;
   EXPECT_FALSE(session.Connect());
   EXPECT_NE(session.Problem().find("has changed"), std::string::npos) << session.Problem();
-  EXPECT_NE(session.Problem().find(changed.fingerprint), std::string::npos) << "the new one is shown";
+  EXPECT_NE(session.Problem().find(changed.fingerprint), std::string::npos) << "the new fingerprint is shown";
   EXPECT_TRUE(session.prompt.hosts.empty());
   EXPECT_EQ(session.server.Commands(), Texts{"AUTH TLS"});
 }
 
-TEST(EncryptedSession, NobodyIsAskedIfTheSystemVouchesForTheHost) {
+TEST(EncryptedSession, TheUserIsNotAskedIfTheSystemTrustsTheCertificate) {
   const TestCertificate shown;
   const SystemCertificate trusted(shown);
   for (const char* host : {"127.0.0.1", "localhost"}) {
@@ -144,7 +144,7 @@ TEST(EncryptedSession, NobodyIsAskedIfTheSystemVouchesForTheHost) {
   }
 }
 
-TEST(EncryptedSession, ACertificateOfAnotherHostOrTimeIsInDoubt) {
+TEST(EncryptedSession, ACertificateForAnotherHostOrTimeIsNotTrusted) {
   const std::pair<TestCertificate::Wish, const char*> cases[] = {
       {{.names = "DNS:elsewhere.example"}, "hostname mismatch"},
       {{.firstDay = -9, .lastDay = -2}, "certificate has expired"},

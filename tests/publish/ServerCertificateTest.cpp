@@ -24,7 +24,7 @@ TEST(NormalizedFingerprint, CaseAndColonsDoNotMatter) {
   }
 }
 
-TEST(NormalizedFingerprint, AnythingElseIsNone) {
+TEST(NormalizedFingerprint, AnythingElseIsNotAFingerprint) {
   const std::string whole = Digits("");
   for (const std::string& text : {std::string(), std::string("SHA256"), whole.substr(1), whole + "0", whole + ":",
                                   ":" + whole, Digits("::"), Digits(" "), Digits("-"),
@@ -41,7 +41,7 @@ TEST(DescriptionOf, ACertificateShowsNamesDatesAndFingerprint) {
             "SHA-256 fingerprint: AB:CD");
 }
 
-TEST(DescriptionOf, ManyNamesAreCutShort) {
+TEST(DescriptionOf, ALongListOfNamesIsAbbreviated) {
   ServerCertificate certificate;
   certificate.names.assign(1000, "x");
   EXPECT_NE(DescriptionOf(certificate).find("Names: x, x, x, x, x, x, x, x, ...\r"), std::string::npos);
