@@ -53,7 +53,7 @@ void CheckReply(const std::string& text) {
   }
 }
 
-/// Both kinds of replies that name a port: what is found does not depend on what stands around it.
+/// Both kinds of replies that name a port: the port that is found does not depend on the text around it.
 void CheckPorts(const std::string& text) {
   const auto epsv = publish::PortOfEpsvReply(text);
   const auto pasv = publish::PortOfPasvReply(text);

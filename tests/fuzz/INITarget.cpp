@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kSection = "FOLDERS";
 constexpr std::string_view kKey = "ProjectFolder";
 
-/// A folder with nothing but a preferences file.
+/// A folder that has only a preferences file.
 struct Place {
   fakes::TemporaryFolder folder;
   std::filesystem::path file = folder.Path() / "preferences";
@@ -63,14 +63,14 @@ void CheckInteger(const Place& place) {
   }
 }
 
-/// `writable`: no value contains a NUL. Such a value is not written and may then be missing.
+/// `writable`: whether no value contains a NUL. A value with one is not written and may be missing afterwards.
 void CheckPreferences(const Place& place, bool writable) {
   env::Preferences preferences = place.Read();
   fuzz::Require(preferences.Browsers.size() <= env::kMostBrowsers, "there are no more browsers than may be");
   fuzz::Require(!preferences.CreateFolder.empty() && !preferences.GalleryIndexFileName.empty(), "defaults stand in");
   env::WritePreferences(preferences, place.file);
   const env::Preferences again = place.Read();
-  preferences.Browsers = again.Browsers;  // not written here, but their keys may be found in any section
+  preferences.Browsers = again.Browsers;  // not written, but their keys may be found in any section
   fuzz::Require(again == preferences || !writable, "preferences come back");
 }
 

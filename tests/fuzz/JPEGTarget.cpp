@@ -24,8 +24,8 @@ std::string MadeOfTheWhole(const image::cDIBSection& whole, const image::Picture
                            recipe.filters.sliderQuality);
 }
 
-/// Compares the output with one made from the whole picture. A low output skips most of the file's rows, a higher one
-/// some.
+/// Compares the output with one made from the whole picture. An output of few rows skips most of the file's rows, one
+/// of more rows skips some.
 void CheckPicture(const std::filesystem::path& file, const image::cDIBSection& whole,
                   const image::PictureRecipe& recipe) {
   std::stop_source stop;

@@ -31,7 +31,7 @@ class ProjectRoundTrip : public fakes::ProjectHarness {
   /// The text of the project file with all line ends as LF: writing may change them.
   [[nodiscard]] std::string Written() { return OneLineEnd(core::ProjectFileText(project, events)); }
 
-  /// The images in the form that the file keeps: paths with slashes, and one kind of line end in texts.
+  /// The images as the file keeps them: paths with slashes, and one kind of line end in texts.
   [[nodiscard]] std::string Images() const {
     std::string text;
     for (std::size_t position = 1; position <= project.images.Count(); ++position) {
@@ -43,13 +43,13 @@ class ProjectRoundTrip : public fakes::ProjectHarness {
   }
 
  private:
-  /// Character references can put a CR anywhere. Written in a CDATA section, it is a line end like any other.
+  /// A character reference can put a CR anywhere. Once written in a CDATA section, it is a line end like any other.
   static std::string OneLineEnd(const std::string& text) {
     return env::ReplaceAll(env::ReplaceAll(text, env::kCrLf, "\n"), "\r", "\n");
   }
 };
 
-/// Resets the settings that the writer puts where the reader does not look, see docs/project-file.md.
+/// Resets the settings that are written but not read back, see docs/project-file.md.
 void LoseWhatIsNotReadBack(core::GalleryProject& settings) {
   constexpr core::Choice kAbove = 2;
   constexpr core::Choice kBelow = 3;
@@ -87,8 +87,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string images = trip.Images();
   const std::string written = trip.Written();
   fuzz::Require(trip.Read(core::ProjectFileText(trip.project, trip.events)),
-                "what was read can be written and read again");
-  fuzz::RequireEqual(trip.Images(), images, "the images come back");
+                "a project that was read can be written and read again");
+  fuzz::RequireEqual(trip.Images(), images, "the images are read back");
   fuzz::RequireEqual(trip.Written(), written, "the same project gives the same file");
   return 0;
 }
