@@ -1,4 +1,4 @@
-// Whole runs with photographs that are turned upright and converted to sRGB.
+// Runs with photographs that are turned upright and converted to sRGB.
 #include "image/Photograph.h"
 #include "image/Resample.h"
 #include "image/ResamplePlan.h"
@@ -19,7 +19,7 @@ class CorrectedPhotographsTest : public RunFixture {
     project.settings.checkThumbnailsImageKeepAspectRatio = 1;
   }
 
-  /// Adds a photograph of each orientation, "1" to "8".
+  /// Adds a photograph with each orientation, "1" to "8".
   void AddLyingPhotographs() {
     const std::string profile = fakes::ProfileOf(fakes::TestProfile::DisplayP3);
     const std::string jpeg = fakes::WithProfile(fakes::MakeJpeg({.width = kWidth, .height = kHeight}), profile);
@@ -43,7 +43,7 @@ class CorrectedPhotographsTest : public RunFixture {
   }
 };
 
-TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveTheirUprightSize) {
+TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveUprightSizes) {
   project.settings.checkImagesTrueColors = 0;
   AddLyingPhotographs();
   Run(OrderToCreate());
@@ -80,7 +80,7 @@ TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
   }
 }
 
-TEST_F(CorrectedPhotographsTest, AnImageThatIsOnlyCopiedStaysACopy) {
+TEST_F(CorrectedPhotographsTest, ACopiedImageIsNotCorrected) {
   AddLyingPhotographs();
   project.settings.checkImageWrapperImagePhysicalResize = 0;
   Run(OrderToCreate());
@@ -90,7 +90,7 @@ TEST_F(CorrectedPhotographsTest, AnImageThatIsOnlyCopiedStaysACopy) {
   }
 }
 
-TEST_F(CorrectedPhotographsTest, APreviewAsksTheBrowserForUprightSizesOfThePhotographs) {
+TEST_F(CorrectedPhotographsTest, APreviewStatesTheUprightSizesOfPhotographs) {
   AddLyingPhotographs();
   Run(OrderToPreview());
   const std::string page = folder.Read("temp/thumbpage_1.htm");
@@ -98,7 +98,7 @@ TEST_F(CorrectedPhotographsTest, APreviewAsksTheBrowserForUprightSizesOfThePhoto
   EXPECT_NE(page.find("/photos/6.jpg\" BORDER=\"0\" WIDTH=\"38\" HEIGHT=\"60\""), std::string::npos);
 }
 
-TEST_F(CorrectedPhotographsTest, WithoutTheSettingsTheNotesOfAPhotographChangeNoFile) {
+TEST_F(CorrectedPhotographsTest, WithoutTheSettingsTheNotesOfPhotographsAreIgnored) {
   project.settings.checkImagesUpright = project.settings.checkImagesTrueColors = 0;
   const std::string jpeg = fakes::MakeJpeg({.width = kWidth, .height = kHeight});
   AddEntry("a", "T:\\photos\\a.jpg");

@@ -6,7 +6,7 @@
 namespace vantorium::generation {
 namespace {
 
-/// Edits a project as a user may, by chance.
+/// Makes random edits that a user could make.
 class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterface<unsigned> {
  protected:
   [[nodiscard]] std::size_t Below(std::size_t end) { return random_() % end; }
@@ -121,7 +121,7 @@ class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterf
   int images_ = 0;
 };
 
-TEST_P(RandomEditsTest, AfterEachEditTheGalleryIsThatOfAFullRun) {
+TEST_P(RandomEditsTest, AfterEachEditTheGalleryEqualsThatOfAFullRun) {
   constexpr int kEdits = 25;
   for (int i = 0; i < 3; ++i) Add();
   std::string edits = "Seed " + std::to_string(GetParam()) + ", edits";
