@@ -77,7 +77,7 @@ class RecordingHelperWindows : public ui::HelperWindows {
 
   std::function<void()> onPlacings;
   bool takesTheme = false;
-  std::vector<core::MovedFolder> movedFolders;  ///< none: the user cancels the dialog
+  std::vector<core::MovedFolder> movedFolders;  ///< empty: the user cancels the dialog
   bool runsAnyway = true;
   std::optional<generation::RunOrder> order;  ///< nullopt: the user cancels the dialog
   ProgressRecord progress;

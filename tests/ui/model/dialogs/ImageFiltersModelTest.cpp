@@ -48,7 +48,7 @@ TEST_F(ImageFiltersDialog, OpensWithItsSampleStretchedToTheBox) {
   EXPECT_TRUE(model->Cancelled());
 }
 
-TEST_F(ImageFiltersDialog, TheSampleShowsQualityThenSizeThenNoiseFadeBrightnessAndGrey) {
+TEST_F(ImageFiltersDialog, TheSampleHasQualitySizeNoiseFadeBrightnessAndGreyAppliedInThisOrder) {
   Opened({.checkGrayscale = 1,
           .checkBrightness = 1,
           .sliderBrightness = 40,
@@ -67,7 +67,7 @@ TEST_F(ImageFiltersDialog, TheSampleShowsQualityThenSizeThenNoiseFadeBrightnessA
   EXPECT_EQ(box.painted.at(0), fakes::BytesOf(*expected));
 }
 
-TEST_F(ImageFiltersDialog, EachFilterIsShownOnlyWhenItIsOn) {
+TEST_F(ImageFiltersDialog, EachFilterIsAppliedOnlyIfItIsOn) {
   const std::string plain = fakes::BytesOf(*CompressedAndResized(85));
   for (const auto filter :
        {&Settings::checkGrayscale, &Settings::checkBrightness, &Settings::checkFade, &Settings::checkNoise}) {
@@ -77,10 +77,10 @@ TEST_F(ImageFiltersDialog, EachFilterIsShownOnlyWhenItIsOn) {
     EXPECT_NE(box.painted.back(), plain);
   }
   Opened({.checkNoiseRandom = 1});
-  EXPECT_EQ(box.painted.back(), plain) << "random noise without noise";
+  EXPECT_EQ(box.painted.back(), plain) << "random noise without noise does nothing";
 }
 
-TEST_F(ImageFiltersDialog, ASettingIsSeenWithTheButtonOnly) {
+TEST_F(ImageFiltersDialog, ASettingIsShownOnlyAfterPreview) {
   const auto model = Opened();
   model->Set(&Settings::checkGrayscale, 1);
   EXPECT_EQ(box.painted.size(), 1U);
@@ -102,7 +102,7 @@ TEST_F(ImageFiltersDialog, EachControlMarksTheSettingsAsChanged) {
   }
 }
 
-TEST_F(ImageFiltersDialog, WithoutAChangeEveryOtherPreviewCompresses) {
+TEST_F(ImageFiltersDialog, WithoutAChangeEverySecondPreviewCompresses) {
   const auto model = Opened();
   EXPECT_FALSE(PreviewCompresses(*model));
   EXPECT_TRUE(PreviewCompresses(*model));
@@ -110,7 +110,7 @@ TEST_F(ImageFiltersDialog, WithoutAChangeEveryOtherPreviewCompresses) {
   EXPECT_EQ(box.painted.front(), box.painted.back());
 }
 
-TEST_F(ImageFiltersDialog, ApplySwitchesOffWhatWouldDoNothing) {
+TEST_F(ImageFiltersDialog, ApplyTurnsOffFiltersThatDoNothing) {
   struct Case {
     std::int16_t Settings::*slider;
     std::int16_t Settings::*check;
@@ -141,7 +141,7 @@ TEST_F(ImageFiltersDialog, CancelHidesTheDialog) {
   EXPECT_TRUE(box.calls.ends_with("hide "));
 }
 
-TEST_F(ImageFiltersDialog, ATemporaryFolderThatCannotBeMadeClosesItWithThePathOfTheFile) {
+TEST_F(ImageFiltersDialog, ATemporaryFolderThatCannotBeCreatedClosesItWithThePathOfTheFile) {
   harness.BlockTempFolder();
   const auto model = Opened();
   ASSERT_EQ(harness.boxes.boxes.size(), 1U);
@@ -154,7 +154,7 @@ TEST_F(ImageFiltersDialog, ATemporaryFolderThatCannotBeMadeClosesItWithThePathOf
   EXPECT_TRUE(box.calls.ends_with("hide "));
 }
 
-TEST_F(ImageFiltersDialog, ItsButtonsDoNothingBeforeTheSampleIsThere) {
+TEST_F(ImageFiltersDialog, ItsButtonsDoNothingBeforeTheSampleIsLoaded) {
   ImageFiltersModel model({}, sources, harness.Ports(), box);
   model.Preview();
   model.Apply();
@@ -172,7 +172,7 @@ TEST_F(ImageFiltersDialog, ItsButtonsDoNothingOnceItIsClosed) {
   EXPECT_TRUE(model->Cancelled());
 }
 
-TEST_F(ImageFiltersDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
+TEST_F(ImageFiltersDialog, ValuesBeyondTheSlidersAreClamped) {
   const ImageFiltersModel low({.sliderBrightness = -101, .sliderFade = -1, .sliderNoise = -1, .sliderQuality = 0},
                               sources, harness.Ports(), box);
   EXPECT_EQ(low.Settings().sliderBrightness, -100);

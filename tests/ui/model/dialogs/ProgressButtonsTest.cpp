@@ -46,7 +46,7 @@ TEST_F(ProgressButtonsTest, AfterAFailureTheSameButtonClosesTheWindow) {
   EXPECT_EQ(cancel.polls, 0);
 }
 
-TEST_F(ProgressButtonsTest, ShowLogOpensTheLogAndAFailureOfTheDesktopIsNotLookedAt) {
+TEST_F(ProgressButtonsTest, ShowLogOpensTheLogAndIgnoresAFailure) {
   fakes::Journal journal;
   fakes::JournalingShell shell(journal);
   PressShowLog(shell, "C:\\program");

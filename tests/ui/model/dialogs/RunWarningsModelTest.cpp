@@ -41,7 +41,7 @@ TEST_F(RunWarningsModelTest, EachLineNamesTheImageAndTheFirstIsChosen) {
             "the name.");
 }
 
-TEST_F(RunWarningsModelTest, ANewNameMakesItsImageCurrentAndEndsItsWarning) {
+TEST_F(RunWarningsModelTest, ANewNameMakesItsImageCurrentAndResolvesItsWarning) {
   model.Choose(1);
   ASSERT_TRUE(model.CanRename());
   EXPECT_EQ(model.NameToChange().NameBase(), "c?.jpg");
@@ -53,17 +53,17 @@ TEST_F(RunWarningsModelTest, ANewNameMakesItsImageCurrentAndEndsItsWarning) {
   EXPECT_TRUE(Now().IsModified);
   ASSERT_EQ(model.Found().size(), 1U);
   EXPECT_EQ(model.Found()[0].name, "a#.jpg");
-  EXPECT_EQ(model.Chosen(), 0U) << "the last one that is left";
+  EXPECT_EQ(model.Chosen(), 0U) << "the only one left";
 }
 
-TEST_F(RunWarningsModelTest, AfterTheLastNewNameNothingIsLeftToRename) {
+TEST_F(RunWarningsModelTest, AfterTheLastNewNameThereIsNothingToRename) {
   Rename("a");
   Rename("c");
   EXPECT_TRUE(model.Found().empty());
   EXPECT_FALSE(model.CanRename());
 }
 
-TEST_F(RunWarningsModelTest, ANameThatIsNoBetterIsWarnedOfAgain) {
+TEST_F(RunWarningsModelTest, ANewNameWithTheSameProblemIsReportedAgain) {
   Rename("B.jpg");
   ASSERT_EQ(model.Found().size(), 2U);
   EXPECT_EQ(model.Found()[0].kind, generation::FindingKind::SharedName);
@@ -87,7 +87,7 @@ TEST_F(RunWarningsModelTest, ACancelledNameChangesNothing) {
   EXPECT_FALSE(Now().IsModified);
 }
 
-TEST_F(RunWarningsModelTest, WhatNoNameCanMendOffersNoRenaming) {
+TEST_F(RunWarningsModelTest, WarningsThatANewNameCannotResolveOfferNoRenaming) {
   std::filesystem::remove(harness.folder.Path() / "b.jpg");
   harness.model.Editor().Set(&core::GalleryProject::textThumbnailPageSettingsFilePrefix, "p#");
   forecast.Renew();

@@ -23,7 +23,7 @@ class SampleDialogs : public testing::Test {
     return box.MiddleColor();
   }
 
-  /// A dialog that was opened with that temporary folder; it lasts to the next call.
+  /// A dialog that was opened with that temporary folder; valid until the next call.
   SampleDialog& OpenedAt(const std::string& tempFolderLocation) {
     opened.emplace(SampleSources{harness.Jpeg("red.jpg", kRed), {}, tempFolderLocation}, harness.Ports(), box);
     EXPECT_TRUE(opened->Open());
@@ -40,7 +40,7 @@ TEST_F(SampleDialogs, TheSelectedImageIsTheSample) {
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(SampleDialogs, TheSampleIsCorrectedAsThePhotographsOfTheGallery) {
+TEST_F(SampleDialogs, TheSampleIsCorrectedLikeThePhotographsOfTheGallery) {
   harness.folder.Write("lying.jpg", fakes::WithOrientation(fakes::MakeJpeg({.width = 40, .height = 30}), 6));
   const std::string lying = harness.paths.ToText(harness.folder.Path() / "lying.jpg");
   const auto widthOf = [&](image::Corrections corrections) {
@@ -51,7 +51,7 @@ TEST_F(SampleDialogs, TheSampleIsCorrectedAsThePhotographsOfTheGallery) {
   EXPECT_EQ(widthOf({.upright = true}), 30);
 }
 
-TEST_F(SampleDialogs, AnImageThatCannotBeLoadedIsSilentlyReplacedByTheFirstDefaultThatCan) {
+TEST_F(SampleDialogs, AnUnloadableImageIsSilentlyReplacedByTheFirstLoadableDefault) {
   harness.folder.Write("text.jpg", "no picture at all");
   harness.folder.Write("empty.jpg", "");
   const std::string whole = harness.folder.Read(harness.paths.ToNative(harness.Jpeg("red.jpg", kRed))->filename());
@@ -67,7 +67,7 @@ TEST_F(SampleDialogs, AnImageThatCannotBeLoadedIsSilentlyReplacedByTheFirstDefau
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(SampleDialogs, WithoutAnySampleTheDialogClosesWithItsBox) {
+TEST_F(SampleDialogs, WithoutAnySampleTheDialogClosesWithAMessageBox) {
   SampleDialog dialog({"", {harness.Missing()}, ""}, harness.Ports(), box);
   EXPECT_FALSE(dialog.Open());
   ASSERT_EQ(harness.boxes.boxes.size(), 1U);
@@ -104,10 +104,10 @@ TEST_F(SampleDialogs, ADialogIsCancelledUntilItIsClosedOtherwise) {
   dialog.Close(false);
   EXPECT_FALSE(dialog.Cancelled());
   dialog.Close(true);
-  EXPECT_FALSE(dialog.Cancelled()) << "the first way out counts";
+  EXPECT_FALSE(dialog.Cancelled()) << "the first way of closing counts";
 }
 
-TEST_F(SampleDialogs, APictureGoesThroughAFileInTheTemporaryFolder) {
+TEST_F(SampleDialogs, APictureIsCompressedToAFileInTheTemporaryFolder) {
   const SampleDialog& dialog = OpenedAt(harness.TempFolderLocation());
   EXPECT_EQ(dialog.TempFile(), harness.TempFolderLocation() + "\\VANTORIUM_TEMP\\preview_temp.jpg");
   const image::cDIBSection picture = fakes::PlainPicture(33, 21, kRed, 3);
@@ -133,7 +133,7 @@ TEST_F(SampleDialogs, ATemporaryFolderThatIsALinkIsNotWrittenTo) {
   EXPECT_TRUE(std::filesystem::is_empty(stranger));
 }
 
-TEST_F(SampleDialogs, TheTemporaryFolderIsLookedThroughOnceWhenTheDialogOpens) {
+TEST_F(SampleDialogs, TheTemporaryFolderIsCheckedOnceWhenTheDialogOpens) {
   const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   image::cDIBSection result;
   const auto link = harness.TempFile().parent_path() / "link";
@@ -153,7 +153,7 @@ TEST_F(SampleDialogs, NothingIsWrittenBeforeTheDialogOpens) {
   EXPECT_FALSE(std::filesystem::exists(harness.TempFile()));
 }
 
-TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
+TEST_F(SampleDialogs, AMissingTemporaryFolderIsCreated) {
   const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   for (const char* missing : {"temp", "other/parent"}) {
     std::filesystem::remove_all(harness.folder.Path() / missing);
@@ -164,7 +164,7 @@ TEST_F(SampleDialogs, AMissingTemporaryFolderIsMade) {
   }
 }
 
-TEST_F(SampleDialogs, ATemporaryFolderThatIsNoneFails) {
+TEST_F(SampleDialogs, AnInvalidTemporaryFolderFails) {
   harness.folder.Write("file", "");
   const image::cDIBSection picture = fakes::PlainPicture(8, 8, kRed);
   for (const std::string& location : {harness.paths.ToText(harness.folder.Path() / "file"), std::string("Q:\\temp"),
@@ -174,7 +174,7 @@ TEST_F(SampleDialogs, ATemporaryFolderThatIsNoneFails) {
   }
 }
 
-TEST_F(SampleDialogs, AFailedPreviewNamesItsPlaceAndClosesTheDialog) {
+TEST_F(SampleDialogs, AFailedPreviewNamesItsFileAndClosesTheDialog) {
   SampleDialog dialog({harness.Jpeg("red.jpg", kRed), {}, ""}, harness.Ports(), box);
   ASSERT_TRUE(dialog.Open());
   dialog.CloseWithFailure("C:\\place");

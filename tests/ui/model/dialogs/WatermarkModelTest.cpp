@@ -70,7 +70,7 @@ TEST(TextPlacements, AreElevenInTheOrderOfTheirNumbers) {
                                            "Top Left to Bottom Right", "Bottom Left to Top Right"}));
 }
 
-TEST_F(WatermarkDialog, TheSampleIsResizedThenMarkedThenCompressed) {
+TEST_F(WatermarkDialog, TheSampleIsResizedThenWatermarkedThenCompressed) {
   Opened(on, 9);
   EXPECT_EQ(box.calls, "clear paint ");
   EXPECT_EQ(box.painted.at(0), Expected(on, 9));
@@ -87,7 +87,7 @@ TEST_F(WatermarkDialog, WithoutAWatermarkTheSampleStillShowsTheQuality) {
   EXPECT_EQ(texts.drawn, 0);
 }
 
-TEST_F(WatermarkDialog, EachControlShowsTheSampleAgain) {
+TEST_F(WatermarkDialog, EachControlUpdatesTheSample) {
   const auto model = Opened(on);
   image::WatermarkSettings settings = on;
   model->SetAlpha(90);
@@ -105,13 +105,13 @@ TEST_F(WatermarkDialog, EachControlShowsTheSampleAgain) {
   EXPECT_EQ(box.painted.size(), 6U);
 }
 
-TEST_F(WatermarkDialog, ThePlacementThatIsSetAlreadyShowsNothing) {
+TEST_F(WatermarkDialog, TheCurrentPlacementDoesNotUpdateTheSample) {
   const auto model = Opened(on);
   model->SetPlacement(4);
   EXPECT_EQ(box.painted.size(), 1U);
 }
 
-TEST_F(WatermarkDialog, AnEditOfTheTextIsShownWhenItIsLeft) {
+TEST_F(WatermarkDialog, AnEditOfTheTextUpdatesTheSampleWhenTheBoxIsLeft) {
   const auto model = Opened(on);
   model->LeaveText();
   EXPECT_EQ(box.painted.size(), 1U) << "nothing was edited";
@@ -126,7 +126,7 @@ TEST_F(WatermarkDialog, AnEditOfTheTextIsShownWhenItIsLeft) {
   EXPECT_EQ(box.painted.size(), 2U);
 }
 
-TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndReachesTheSettingsWithApply) {
+TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndStoredByApply) {
   const auto model = Opened(on);
   const env::FontDescription chosen{.Name = "Serif",
                                     .Size = 20,
@@ -155,7 +155,7 @@ TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndReachesTheSettingsWithApply) {
   EXPECT_EQ(model->Settings().Color, 0x0000FFU);
 }
 
-TEST_F(WatermarkDialog, ACancelledFontDialogShowsNothing) {
+TEST_F(WatermarkDialog, ACancelledFontDialogDoesNotUpdateTheSample) {
   const auto model = Opened(on);
   dialogs.fonts = {std::nullopt};
   model->BrowseFont();
@@ -163,7 +163,7 @@ TEST_F(WatermarkDialog, ACancelledFontDialogShowsNothing) {
   EXPECT_EQ(model->WorkingFont().Name, "Arial");
 }
 
-TEST_F(WatermarkDialog, AFontBeyondSixteenBitsIsTakenAtTheirEnd) {
+TEST_F(WatermarkDialog, AFontSizeBeyondSixteenBitsIsClamped) {
   const auto model = Opened(on);
   dialogs.fonts = {env::FontDescription{.Name = "Arial", .Size = 40000, .Weight = -40000}};
   model->BrowseFont();
@@ -172,7 +172,7 @@ TEST_F(WatermarkDialog, AFontBeyondSixteenBitsIsTakenAtTheirEnd) {
   EXPECT_EQ(model->Settings().FontWeight, std::numeric_limits<std::int16_t>::min());
 }
 
-TEST_F(WatermarkDialog, OnAFineScreenTheTextGrowsWithThePixels) {
+TEST_F(WatermarkDialog, TheTextScalesWithTheResolutionOfTheScreen) {
   Opened(on);
   EXPECT_EQ(texts.last.lfHeight, -48);
   box.ratio = 1.5;
@@ -180,7 +180,7 @@ TEST_F(WatermarkDialog, OnAFineScreenTheTextGrowsWithThePixels) {
   EXPECT_EQ(texts.last.lfHeight, -72);
 }
 
-TEST_F(WatermarkDialog, ApplyGivesWhatTheControlsShow) {
+TEST_F(WatermarkDialog, ApplyReturnsTheValuesOfTheControls) {
   const auto model = Opened(on, 50);
   model->EditText("two\r\nlines");
   model->SetPlacement(10);
@@ -206,7 +206,7 @@ TEST_F(WatermarkDialog, CancelHidesTheDialog) {
   EXPECT_EQ(box.calls, "clear paint hide ");
 }
 
-TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
+TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeCreatedClosesItWithThePathOfTheFolder) {
   const auto model = Opened(on);
   harness.BlockTempFolder();
   model->SetAlpha(3);
@@ -241,7 +241,7 @@ TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsReportedAndTheSampleShownWi
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
 
-TEST_F(WatermarkDialog, AFontDialogThatFailsIsReportedAndTheFontKept) {
+TEST_F(WatermarkDialog, AFailureOfTheFontDialogIsReportedAndTheFontStays) {
   class Failing : public fakes::ScriptedCommonDialogs {
    public:
     [[nodiscard]] bool ShowFontDialog(env::FontDescription& /*font*/) override {
@@ -267,7 +267,7 @@ TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsReportedAndTheSampleShownWithou
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
 
-TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
+TEST_F(WatermarkDialog, ValuesBeyondTheSlidersAreClamped) {
   image::WatermarkSettings wild = on;
   wild.sliderAlpha = 0;
   EXPECT_EQ(Opened(wild, 0)->Settings().sliderAlpha, 1);
@@ -277,7 +277,7 @@ TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
   EXPECT_EQ(Opened(wild, 101)->Quality(), 100);
 }
 
-TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
+TEST_F(WatermarkDialog, AnUnknownPlacementIsKeptUntilAnotherIsChosen) {
   image::WatermarkSettings wild = on;
   wild.comboTextPlacement = 77;
   const auto model = Opened(wild);
@@ -285,7 +285,7 @@ TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
   EXPECT_EQ(model->Settings().comboTextPlacement, 77);
 }
 
-TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
+TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsLoaded) {
   WatermarkModel model(on, 85, sources, harness.Ports(), {dialogs, texts, screen}, box);
   model.SetAlpha(5);
   model.LeaveText();
@@ -295,7 +295,7 @@ TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
   EXPECT_TRUE(model.Cancelled());
 }
 
-TEST_F(WatermarkDialog, TheFontIsReportedInWords) {
+TEST_F(WatermarkDialog, TheFontIsDescribedInWords) {
   const auto model = Opened(on);
   EXPECT_EQ(model->FontSummary(), "Arial, 36 points, bold");
   dialogs.fonts = {env::FontDescription{

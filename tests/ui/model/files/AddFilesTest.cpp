@@ -22,7 +22,7 @@ class AddingFiles : public testing::Test {
   env::Preferences preferences;
 };
 
-TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
+TEST_F(AddingFiles, TheDialogOpensInTheFolderOfTheLastImages) {
   preferences.ImageSourceFolder = "C:\\photos\\";
   Run();
   ASSERT_EQ(browser.requests.size(), 1U);
@@ -33,7 +33,7 @@ TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
   EXPECT_TRUE(request.open && request.multiSelect && request.preview);
 }
 
-TEST_F(AddingFiles, EachChosenFileComesAtTheEndUnderItsName) {
+TEST_F(AddingFiles, ChosenFilesAreAppendedUnderTheirNames) {
   harness.AddImage("first.jpg");
   harness.File("b.jpg");
   harness.File("a.jpg");
@@ -45,7 +45,7 @@ TEST_F(AddingFiles, EachChosenFileComesAtTheEndUnderItsName) {
   EXPECT_EQ(preferences.ImageSourceFolder, harness.PathOf(""));
 }
 
-TEST_F(AddingFiles, AWholePathInTheNameBoxIsTakenAsItIs) {
+TEST_F(AddingFiles, AFullPathInTheNameBoxIsUsedUnchanged) {
   const std::string path = harness.File("else/where.jpg");
   browser.answer = {.result = path, .folder = "C:\\photos\\", .names = {path}};
   Run();
@@ -63,7 +63,7 @@ TEST_F(AddingFiles, ACancelChangesNothing) {
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(AddingFiles, AFileThatCannotBeReadIsReportedAndEndsIt) {
+TEST_F(AddingFiles, AnUnreadableFileIsReportedAndEndsTheOperation) {
   harness.File("a.jpg");
   harness.File("c.jpg");
   browser.answer = {.result = "x", .folder = harness.PathOf(""), .names = {"a.jpg", "gone.jpg", "c.jpg"}};

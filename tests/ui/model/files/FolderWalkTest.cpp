@@ -9,14 +9,15 @@ using Names = std::vector<std::string>;
 
 class Walking : public testing::Test {
  protected:
-  void Walk(const std::vector<std::string>& folders) {
+  void Walk(const std::vector<std::string>& folders) { Walk(folders, progress); }
+  void Walk(const std::vector<std::string>& folders, FolderWalkProgress& shown) {
     FolderWalk({.project = harness.project,
                 .images = harness.images,
                 .paths = harness.paths,
                 .boxes = harness.boxes,
                 .loop = harness.events},
                std::chrono::milliseconds(0))
-        .Run(folders, progress);
+        .Run(folders, shown);
   }
   [[nodiscard]] Names NamesInList() const {
     Names names;
@@ -30,7 +31,7 @@ class Walking : public testing::Test {
   fakes::RecordingFolderWalk progress;
 };
 
-TEST_F(Walking, TheImagesOfAFolderComeInTheOrderOfTheirNames) {
+TEST_F(Walking, TheImagesOfAFolderAreAddedInTheOrderOfTheirNames) {
   for (const char* name : {"p/c.jpg", "p/a.JPEG", "p/b.jfif", "p/B.jpg", "p/note.txt", "p/d.png", "p/jpg"}) {
     harness.File(name);
   }
@@ -49,7 +50,7 @@ TEST_F(Walking, FoldersAreWalkedInOrderWithoutTheirSubfolders) {
   EXPECT_EQ(harness.project.images.Entry(2).SourcePath, harness.PathOf("p/a.jpg"));
 }
 
-TEST_F(Walking, ShowsTheFolderAndTheCountAndLetsTheWindowLive) {
+TEST_F(Walking, ShowsFolderAndCountAndGivesTheEventLoopTurns) {
   harness.File("p/a.jpg");
   harness.File("p/b.jpg");
   Walk({harness.PathOf("p")});
@@ -62,7 +63,7 @@ TEST_F(Walking, ShowsTheFolderAndTheCountAndLetsTheWindowLive) {
   EXPECT_EQ(static_cast<std::size_t>(harness.events.turns), progress.calls.size() - 2);
 }
 
-TEST_F(Walking, ACancelEndsItBetweenFilesAndKeepsWhatWasAdded) {
+TEST_F(Walking, ACancelEndsItBetweenFilesAndKeepsTheAddedImages) {
   for (const char* name : {"p/a.jpg", "p/b.jpg", "p/c.jpg", "q/d.jpg"}) harness.File(name);
   progress.cancelAt = 2;
   Walk({harness.PathOf("p"), harness.PathOf("q")});
@@ -71,7 +72,7 @@ TEST_F(Walking, ACancelEndsItBetweenFilesAndKeepsWhatWasAdded) {
   EXPECT_EQ(progress.calls.back(), "close");
 }
 
-TEST_F(Walking, ACancelAtOnceAddsNothingAndModifiesNothing) {
+TEST_F(Walking, AnImmediateCancelAddsAndModifiesNothing) {
   harness.File("p/a.jpg");
   progress.cancelAt = 0;
   Walk({harness.PathOf("p")});
@@ -86,7 +87,7 @@ TEST_F(Walking, AFolderWithoutImagesModifiesNothing) {
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(Walking, AFolderThatCannotBeReadIsReportedAndTheOthersAreAdded) {
+TEST_F(Walking, AnUnreadableFolderIsReportedAndTheOthersAreAdded) {
   harness.File("p/a.jpg");
   Walk({harness.PathOf("gone"), "Q:\\nowhere", harness.PathOf("p")});
   EXPECT_EQ(NamesInList(), (Names{"a.jpg"}));
@@ -96,7 +97,7 @@ TEST_F(Walking, AFolderThatCannotBeReadIsReportedAndTheOthersAreAdded) {
                                              "\"Q:\\nowhere\" cannot be read: No such file or directory.");
 }
 
-TEST_F(Walking, NamesThatAProjectCannotHoldAreSkippedAndReported) {
+TEST_F(Walking, NamesThatAProjectCannotStoreAreSkippedAndReported) {
   for (const char* name : {"p/a.jpg", "p/bad\xFF.jpg", "p/back\\slash.jpg", "p/z.jpg"}) harness.File(name);
   Walk({harness.PathOf("p")});
   EXPECT_EQ(NamesInList(), (Names{"a.jpg", "z.jpg"}));
@@ -105,13 +106,13 @@ TEST_F(Walking, NamesThatAProjectCannotHoldAreSkippedAndReported) {
   EXPECT_EQ(harness.boxes.boxes[0].title, "Add Folder to Gallery");
 }
 
-TEST_F(Walking, ManyProblemsMakeOneBoxOfAFewLines) {
+TEST_F(Walking, ManyProblemsAreSummarizedInOneMessageBox) {
   Walk(std::vector<std::string>(30, "Q:\\nowhere"));
   ASSERT_EQ(harness.boxes.boxes.size(), 1U);
   EXPECT_TRUE(harness.boxes.boxes[0].text.ends_with(".\rThere are 22 more of these.")) << harness.boxes.boxes[0].text;
 }
 
-TEST_F(Walking, AFileThatIsGoneByThenEndsItWithItsBox) {
+TEST_F(Walking, AFileRemovedMeanwhileEndsItWithAMessageBox) {
   const std::string p = harness.PathOf("p");
   harness.File("p/a.jpg");
   harness.File("p/b.jpg");
@@ -126,20 +127,14 @@ TEST_F(Walking, AFileThatIsGoneByThenEndsItWithItsBox) {
    private:
     std::filesystem::path file_;
   } remover(harness.folder.Path() / "p/b.jpg");
-  FolderWalk({.project = harness.project,
-              .images = harness.images,
-              .paths = harness.paths,
-              .boxes = harness.boxes,
-              .loop = harness.events},
-             std::chrono::milliseconds(0))
-      .Run({p}, remover);
+  Walk({p}, remover);
   EXPECT_EQ(NamesInList(), (Names{"a.jpg"}));
   ASSERT_EQ(harness.boxes.boxes.size(), 1U);
   EXPECT_EQ(harness.boxes.boxes[0].title, "File Error");
   EXPECT_EQ(remover.calls.back(), "close");
 }
 
-TEST_F(Walking, AListThatIsKeptSortedSortsThemIn) {
+TEST_F(Walking, AListThatIsKeptSortedSortsTheNewImages) {
   for (const char* name : {"p/b.jpg", "q/a.jpg"}) harness.File(name);
   harness.images.SetSortingOrder(1);
   Walk({harness.PathOf("p"), harness.PathOf("q")});

@@ -1,4 +1,4 @@
-// The order of the start and of the end of the main window.
+// The order of the steps at the start and at the end of the main window.
 #include "tests/ui/model/MainFakes.h"
 
 #include <algorithm>
@@ -35,14 +35,14 @@ TEST_F(MainModelStartAndEndTest, TheStartReadsThePreferencesAndEndsWithANewProje
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(MainModelStartAndEndTest, PreferencesThatCannotBeReadAreReportedFirst) {
+TEST_F(MainModelStartAndEndTest, UnreadablePreferencesAreReportedFirst) {
   std::filesystem::create_directories(harness.folder.Path() / "program/vantorium.ini");
   harness.model.Start("");
   EXPECT_EQ(harness.calls.front(), "box File Error");
-  EXPECT_EQ(std::count(harness.calls.begin(), harness.calls.end(), "start step"), 3) << "and the program starts";
+  EXPECT_EQ(std::count(harness.calls.begin(), harness.calls.end(), "start step"), 3) << "the program starts";
 }
 
-TEST_F(MainModelStartAndEndTest, TheProjectOfTheCommandLineIsShownAtTheStart) {
+TEST_F(MainModelStartAndEndTest, TheProjectOfTheCommandLineIsOpenedAtTheStart) {
   harness.Start();
   harness.ChangeTitle("Ferien");
   harness.ChooseFile("T:\\ferien.gpj");
@@ -56,14 +56,14 @@ TEST_F(MainModelStartAndEndTest, TheProjectOfTheCommandLineIsShownAtTheStart) {
                         end[5], "start step", "turn"}));
 }
 
-TEST_F(MainModelStartAndEndTest, ACommandLineThatIsNotAProjectLeavesTheNewOne) {
+TEST_F(MainModelStartAndEndTest, ACommandLineThatIsNotAProjectLeavesANewProject) {
   harness.model.Start("T:\\missing.gpj");
   EXPECT_FALSE(harness.boxes.boxes.empty());
   EXPECT_EQ(Now().ProjectFileName, "Gallery1");
-  EXPECT_EQ(harness.calls.back(), "turn") << "and the start goes on";
+  EXPECT_EQ(harness.calls.back(), "turn") << "the start continues";
 }
 
-TEST_F(MainModelStartAndEndTest, ANewProjectPutsTheColorsOfTheDesktopIntoTheColorDialog) {
+TEST_F(MainModelStartAndEndTest, ANewProjectResetsTheCustomColorsToThoseOfTheDesktop) {
   harness.view.systemColors[3] = 0x123456;
   harness.Start();
   EXPECT_EQ(harness.model.Colors().Custom(), harness.view.systemColors);
@@ -72,7 +72,7 @@ TEST_F(MainModelStartAndEndTest, ANewProjectPutsTheColorsOfTheDesktopIntoTheColo
 // The end
 
 TEST_F(MainModelStartAndEndTest,
-       TheEndSavesThePreferencesThenClearsTheProjectAndTheTemporaryFolderThenClosesTheWindows) {
+       TheEndSavesThePreferencesClearsTheProjectAndTheTemporaryFolderAndThenClosesTheWindows) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   Now().IsModified = false;
@@ -95,7 +95,7 @@ TEST_F(MainModelStartAndEndTest,
   EXPECT_FALSE(harness.Exists("program/VANTORIUM_TEMP/old.htm"));
 }
 
-TEST_F(MainModelStartAndEndTest, EveryStepOfTheEndIsDrawn) {
+TEST_F(MainModelStartAndEndTest, EveryStepOfTheShutdownIsPainted) {
   harness.Start();
   std::ignore = harness.model.ShutDown();
   for (std::size_t i = 0; i < harness.calls.size(); ++i) {
@@ -105,7 +105,7 @@ TEST_F(MainModelStartAndEndTest, EveryStepOfTheEndIsDrawn) {
   EXPECT_TRUE(harness.Called("shutdown Cleanup"));
 }
 
-TEST_F(MainModelStartAndEndTest, ATemporaryFolderThatIsKeptIsNotSpokenOf) {
+TEST_F(MainModelStartAndEndTest, ATemporaryFolderThatIsKeptIsNotMentioned) {
   harness.Start();
   harness.folder.Write("program/VANTORIUM_TEMP/old.htm", "x");
   harness.model.CurrentPreferences().TempFolderAutoClear = 0;
@@ -114,7 +114,7 @@ TEST_F(MainModelStartAndEndTest, ATemporaryFolderThatIsKeptIsNotSpokenOf) {
   EXPECT_TRUE(harness.Exists("program/VANTORIUM_TEMP/old.htm"));
 }
 
-TEST_F(MainModelStartAndEndTest, NothingEndsIfTheUserCancelsOrTheSaveFails) {
+TEST_F(MainModelStartAndEndTest, TheProgramStaysIfTheUserCancelsOrTheSaveFails) {
   harness.folder.Write("file", "");
   harness.Start();
   harness.ChangeTitle("x");
@@ -130,7 +130,7 @@ TEST_F(MainModelStartAndEndTest, NothingEndsIfTheUserCancelsOrTheSaveFails) {
   }
 }
 
-TEST_F(MainModelStartAndEndTest, NoToTheQuestionEndsWithoutSaving) {
+TEST_F(MainModelStartAndEndTest, AnsweringNoEndsWithoutSaving) {
   harness.Start();
   harness.ChangeTitle("x");
   harness.boxes.answers = {env::BoxAnswer::No};

@@ -22,7 +22,7 @@ class MainModelTest : public testing::Test {
   fakes::MainModelHarness harness;
 };
 
-TEST_F(MainModelTest, EveryCommandThatSavesOrGeneratesStoresThePlacingsBeforeEverythingElse) {
+TEST_F(MainModelTest, EveryCommandThatSavesOrGeneratesFirstStoresThePlacements) {
   harness.Start();
   const std::pair<const char*, std::function<void()>> commands[] = {
       {"New", [this] { harness.model.NewProject(); }},
@@ -42,7 +42,7 @@ TEST_F(MainModelTest, EveryCommandThatSavesOrGeneratesStoresThePlacingsBeforeEve
   }
 }
 
-TEST_F(MainModelTest, PlacingsThatAreStoredOnlyNowAreSavedBeforeTheProjectIsLeft) {
+TEST_F(MainModelTest, UnstoredPlacementsAreSavedBeforeTheProjectIsLeft) {
   harness.Start();
   harness.ChooseFile("T:\\x.gpj");
   harness.windows.onPlacings = [this] { harness.ChangeTitle("placed"); };
@@ -62,7 +62,7 @@ TEST_F(MainModelTest, NewShowsTheNewProject) {
                                           "images: 0 Image(s)", harness.calls.back()}));
 }
 
-TEST_F(MainModelTest, NewThatTheUserCancelsKeepsTheProject) {
+TEST_F(MainModelTest, ACancelledNewKeepsTheProject) {
   harness.Start();
   harness.ChangeTitle("x");
   harness.boxes.answers = {env::BoxAnswer::Cancel};
@@ -86,7 +86,7 @@ TEST_F(MainModelTest, OpenShowsTheOpenedProject) {
                                           "images: 1 Image(s)", harness.calls.back()}));
 }
 
-TEST_F(MainModelTest, OpenWithoutAChosenFileKeepsTheProject) {
+TEST_F(MainModelTest, ACancelledOpenKeepsTheProject) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   harness.ChooseFile("");
@@ -95,7 +95,7 @@ TEST_F(MainModelTest, OpenWithoutAChosenFileKeepsTheProject) {
   EXPECT_FALSE(harness.Called("disabled"));
 }
 
-TEST_F(MainModelTest, SaveWritesAfterAnInfoWindowAndShowsTheRepairedSettings) {
+TEST_F(MainModelTest, SaveShowsAnInfoWindowWritesAndShowsTheRepairedSettings) {
   harness.Start();
   harness.ChangeTitle("");
   harness.ChooseFile("T:\\a.gpj");
@@ -118,7 +118,7 @@ TEST_F(MainModelTest, SaveAsAsksForANameEvenIfTheProjectHasOne) {
   EXPECT_EQ(harness.calls.back(), "settings");
 }
 
-TEST_F(MainModelTest, AViewIsMadeInTheTemporaryFolderAndOpened) {
+TEST_F(MainModelTest, AViewIsCreatedInTheTemporaryFolderAndOpened) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   harness.model.ViewGallery(0);
@@ -131,7 +131,7 @@ TEST_F(MainModelTest, AViewIsMadeInTheTemporaryFolderAndOpened) {
             (Calls{"beep information", "tray on", "status ", "settings"}));
 }
 
-TEST_F(MainModelTest, AViewInAListedBrowserStartsThatOne) {
+TEST_F(MainModelTest, AViewInAListedBrowserStartsThatBrowser) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   harness.model.CurrentPreferences().Browsers = {{"One", "T:\\one"}, {"Two", "T:\\two"}};
@@ -147,7 +147,7 @@ TEST_F(MainModelTest, AViewWithoutImagesIsRefused) {
   EXPECT_EQ(harness.calls, (Calls{"placings", "box No Images", "settings"}));
 }
 
-TEST_F(MainModelTest, CreateMakesTheGalleryWhereTheDialogSays) {
+TEST_F(MainModelTest, CreateMakesTheGalleryInTheChosenPlace) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   generation::SetIndexFile(harness.windows.order.emplace(), "T:\\out\\start.htm");
@@ -158,14 +158,14 @@ TEST_F(MainModelTest, CreateMakesTheGalleryWhereTheDialogSays) {
   EXPECT_EQ(harness.calls.back(), "settings");
 }
 
-TEST_F(MainModelTest, CreateThatTheUserCancelsInItsDialogMakesNothing) {
+TEST_F(MainModelTest, ACancelledCreateMakesNothing) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   harness.model.CreateGallery();
   EXPECT_EQ(harness.calls, (Calls{"placings", "asked", "settings"}));
 }
 
-TEST_F(MainModelTest, BeforeARunTheUserIsWarnedAndTheListIsShownAgainAsNamesMayHaveChanged) {
+TEST_F(MainModelTest, AfterWarningsTheListIsShownAgainBecauseNamesMayHaveChanged) {
   harness.Start();
   harness.AddPhotograph("a#.jpg");
   generation::SetIndexFile(harness.windows.order.emplace(), "T:\\out\\index.htm");
@@ -182,7 +182,7 @@ TEST_F(MainModelTest, BeforeARunTheUserIsWarnedAndTheListIsShownAgainAsNamesMayH
   EXPECT_TRUE(harness.Exists("out/a#.jpg.htm"));
 }
 
-TEST_F(MainModelTest, WithNothingToWarnOfARunBeginsAtOnce) {
+TEST_F(MainModelTest, WithoutWarningsARunBeginsAtOnce) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   generation::SetIndexFile(harness.windows.order.emplace(), "T:\\out\\index.htm");
@@ -192,7 +192,7 @@ TEST_F(MainModelTest, WithNothingToWarnOfARunBeginsAtOnce) {
   EXPECT_TRUE(harness.Exists("out/index.htm"));
 }
 
-TEST_F(MainModelTest, ARunThatTheUserCancelsEndsAndTheNextOneRuns) {
+TEST_F(MainModelTest, AfterACancelledRunTheNextOneRuns) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   harness.windows.progress.cancelled = true;
@@ -205,7 +205,7 @@ TEST_F(MainModelTest, ARunThatTheUserCancelsEndsAndTheNextOneRuns) {
   EXPECT_TRUE(harness.Exists("program/VANTORIUM_TEMP/index.htm"));
 }
 
-TEST_F(MainModelTest, TheEditedBrowsersAreInTheMenusAndInThePreferencesFile) {
+TEST_F(MainModelTest, EditedBrowsersAreInTheMenusAndInThePreferencesFile) {
   harness.Start();
   harness.model.CurrentPreferences().Browsers = {{"One", "T:\\one"}};
   fakes::ScriptedEntryDialog entry;
@@ -215,7 +215,7 @@ TEST_F(MainModelTest, TheEditedBrowsersAreInTheMenusAndInThePreferencesFile) {
   EXPECT_NE(harness.folder.Read("program/vantorium.ini").find("Name1=\"One\""), std::string::npos);
 }
 
-TEST_F(MainModelTest, TheTemporaryFolderIsClearedAfterAnInfoWindow) {
+TEST_F(MainModelTest, ClearingTheTemporaryFolderShowsAnInfoWindow) {
   harness.Start();
   harness.folder.Write("program/VANTORIUM_TEMP/old.htm", "x");
   harness.model.ClearTemporaryFolder();
@@ -225,7 +225,7 @@ TEST_F(MainModelTest, TheTemporaryFolderIsClearedAfterAnInfoWindow) {
   EXPECT_EQ(CallsFrom("enabled"), (Calls{"enabled", "info hidden", "idle", "turn"}));
 }
 
-TEST_F(MainModelTest, TheHelpIsOpenedFromTheFilesOfTheProgram) {
+TEST_F(MainModelTest, TheHelpIsOpenedFromTheBundledFiles) {
   harness.model.ShowHelp();
   ASSERT_EQ(harness.boxes.boxes.size(), 1U);
   EXPECT_EQ(harness.boxes.boxes[0].text, "The Help File cannot be found.");
@@ -244,7 +244,7 @@ TEST_F(MainModelTest, AHelpThatCannotBeOpenedIsReported) {
   EXPECT_NE(harness.boxes.boxes[0].text, "The Help File cannot be found.");
 }
 
-TEST_F(MainModelTest, TheSampleIsTheCurrentImageAndElseOneOfTheProgram) {
+TEST_F(MainModelTest, TheSampleIsTheCurrentImageOrElseTheBundledPicture) {
   harness.folder.Write("data/preview.jpg", "x");
   harness.Start();
   EXPECT_EQ(harness.model.Samples().selectedFile, "");
