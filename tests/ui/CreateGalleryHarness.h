@@ -11,12 +11,13 @@
 
 namespace vantorium::fakes {
 
-/// Whether a control has its window's focus. Without a screen no window becomes active after a dialog ends.
+/// Whether a control has its window's focus. QWidget::hasFocus would not do: without a screen, no window becomes active
+/// after a dialog ends.
 inline bool GetsFocus(QWidget& form, const char* name) {
   return form.focusWidget() == &Find<QWidget>(form, name);
 }
 
-/// A program folder with a server list, and everything that the dialogs before a run use.
+/// A program folder with a server list, and the ports of frmCreateGallery and frmPublish.
 class CreateGalleryHarness {
  public:
   CreateGalleryHarness() { WriteServers(0); }

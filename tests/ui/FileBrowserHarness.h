@@ -12,7 +12,7 @@
 
 namespace vantorium::fakes {
 
-/// A disk, drive C:, with some photographs for the dialogs that choose files and folders.
+/// Drive C: with some photographs, for tests of the dialogs that choose files and folders.
 class FileBrowserHarness {
  public:
   FileBrowserHarness() {

@@ -17,7 +17,7 @@
 
 namespace vantorium::fakes {
 
-/// The image list's page with everything that it uses, and a folder for its images.
+/// The page of the image list with its ports, and a folder for its images.
 class ImagesPageHarness : public core::ImageListDisplay {
  public:
   ImagesPageHarness() {

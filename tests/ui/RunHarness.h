@@ -14,7 +14,7 @@
 
 namespace vantorium::fakes {
 
-/// Stands in for a run's main window and creates real progress windows.
+/// A RunHost with a plain main window and real progress windows.
 class RunWindow : public generation::RunHost {
  public:
   using MakeProgress = std::function<std::unique_ptr<ui::frmProgress>(QWidget* owner)>;
@@ -41,7 +41,7 @@ class RunWindow : public generation::RunHost {
   MakeProgress makeProgress_;
 };
 
-/// Everything that real runs with a real progress window need. The folder is drive T:; the gallery goes to T:\out.
+/// Runs with a real progress window. A temporary folder is drive T:; the gallery goes to T:\out.
 class RunHarness {
  public:
   RunHarness() {

@@ -1,7 +1,7 @@
 #include "image/PangoTextRaster.h"
 // Writes a picture of every window and page for the documents. Usage: vantorium-screenshots FOLDER
 //
-// Shows the program's real windows with a small project. All its photographs are copies of the sample picture.
+// Shows the program's windows with a small project. Its photographs are copies of the sample picture.
 #include "core/generation/RunHost.h"
 #include "tests/fakes/SourceFolder.h"
 #include "tests/ui/MainWindowHarness.h"
@@ -217,7 +217,7 @@ class Photographer {
     Take(info, "frmInfo");
   }
 
-  /// Spoils some images, so it must be the last one.
+  /// Damages some images, so it must come last.
   void TakeRunWarnings() {
     core::Project& project = harness_.model->CurrentProject();
     project.images.Rename(1, "Lake#2.jpg");

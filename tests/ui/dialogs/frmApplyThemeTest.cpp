@@ -38,7 +38,7 @@ class ApplyThemeForm : public testing::Test {
   fakes::MainWindowHarness harness;
 };
 
-TEST_F(ApplyThemeForm, ShowsEachThemeAsAPictureWithTheFirstOneChosen) {
+TEST_F(ApplyThemeForm, ShowsAPictureOfEachThemeAndChoosesTheFirst) {
   Open([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Apply Theme");
     auto& list = Find<QListWidget>(form, "listThemes");
@@ -48,14 +48,14 @@ TEST_F(ApplyThemeForm, ShowsEachThemeAsAPictureWithTheFirstOneChosen) {
     EXPECT_EQ(list.item(0)->text(), "Film");
     EXPECT_EQ(list.item(1)->text(), "Plain");
     EXPECT_EQ(list.item(0)->icon().availableSizes().value(0), QSize(24, 15));
-    EXPECT_EQ(list.item(1)->icon().availableSizes().value(0), list.iconSize()) << "grey instead of a picture";
+    EXPECT_EQ(list.item(1)->icon().availableSizes().value(0), list.iconSize()) << "grey instead of a missing picture";
     const QIcon grey = list.item(1)->icon();
     EXPECT_NE(grey.pixmap(list.iconSize(), QIcon::Selected).toImage(), grey.pixmap(list.iconSize()).toImage());
     EXPECT_EQ(Find<QLabel>(form, "lblThemes").buddy(), &list);
   });
 }
 
-TEST_F(ApplyThemeForm, TheChosenThemesSettingsAreTakenOverAndShown) {
+TEST_F(ApplyThemeForm, SettingsOfTheChosenThemeAreAppliedAndShown) {
   harness.AddPhotograph("a.jpg");
   harness.GoTo(0);
   Type(Find<QLineEdit>(*harness.window, "textGalleryTitle"), "Mine");
@@ -72,7 +72,7 @@ TEST_F(ApplyThemeForm, TheChosenThemesSettingsAreTakenOverAndShown) {
   EXPECT_TRUE(Now().IsModified);
 }
 
-TEST_F(ApplyThemeForm, ADoubleClickTakesATheme) {
+TEST_F(ApplyThemeForm, ADoubleClickAppliesATheme) {
   Open([](QWidget& form) {
     auto& list = Find<QListWidget>(form, "listThemes");
     const QPoint place = list.visualItemRect(list.item(1)).center();
@@ -102,7 +102,7 @@ TEST_F(ApplyThemeForm, CancelChangesNothingAndAsksNothing) {
   EXPECT_FALSE(Now().IsModified);
 }
 
-TEST_F(ApplyThemeForm, WithoutThemesAMessageSaysSo) {
+TEST_F(ApplyThemeForm, WithoutThemesAMessageBoxIsShown) {
   std::filesystem::remove_all(harness.folder.Path() / "data/themes");
   harness.Trigger("menuOptionsApplyTheme");
   ASSERT_EQ(harness.boxes.boxes.size(), 1U);

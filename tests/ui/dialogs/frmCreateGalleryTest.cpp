@@ -49,7 +49,7 @@ class CreateForm : public testing::Test {
   frmCreateGallery form{harness.Parts(), nullptr};
 };
 
-TEST_F(CreateForm, ComesUpForALocalGalleryWithEverythingChecked) {
+TEST_F(CreateForm, OpensForALocalGalleryWithEverythingChecked) {
   harness.preferences.CreateFolder = "D:\\web";
   const auto order = Ask([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Create Gallery");
@@ -97,7 +97,7 @@ TEST_F(CreateForm, TheCaptionOfTheChosenOptionIsHighlighted) {
   });
 }
 
-TEST_F(CreateForm, OnlyChangesIsOffAndRemovingNeedsIt) {
+TEST_F(CreateForm, OnlyChangesIsOffAndRemovingRequiresIt) {
   auto order = Ask([](QWidget& form) {
     for (const char* name : {"checkOnlyChanges", "checkRemoveUnused"}) {
       EXPECT_FALSE(Find<QCheckBox>(form, name).isChecked()) << name;
@@ -122,7 +122,7 @@ TEST_F(CreateForm, OnlyChangesIsOffAndRemovingNeedsIt) {
   EXPECT_FALSE(order->OnlyChanges || order->RemoveUnused);
 }
 
-TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
+TEST_F(CreateForm, OverwriteRequiresImagesOrThumbnails) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "checkOverwrite");
     Click(form, "checkCreateImages");
@@ -140,7 +140,7 @@ TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
   EXPECT_FALSE(order->Overwrite);
 }
 
-TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
+TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndCompletedWhenItsBoxIsLeft) {
   const auto order = Ask([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textCreateFilePath");
     Type(box, "D:/web");
@@ -158,7 +158,7 @@ TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
   EXPECT_EQ(order->OutputFolder + order->IndexFileName, "E:\\index.htm");
 }
 
-TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
+TEST_F(CreateForm, LineEndsAreNotPasted) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     for (const auto& [name, text] : std::vector<std::pair<const char*, const char*>>{
@@ -175,7 +175,7 @@ TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
   EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
 }
 
-TEST_F(CreateForm, TheFileIsBrowsedFor) {
+TEST_F(CreateForm, TheFileCanBeBrowsedFor) {
   harness.fileBrowser.answer.result = "F:\\new\\page.html";
   const auto order = Ask([](QWidget& form) {
     Click(form, "btnBrowseCreateFilePath");
@@ -187,7 +187,7 @@ TEST_F(CreateForm, TheFileIsBrowsedFor) {
   EXPECT_EQ(harness.fileBrowser.requests.size(), 1U);
 }
 
-TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
+TEST_F(CreateForm, AGalleryIsPublishedOnTheChosenServer) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     EXPECT_EQ(Text(form, "textPublishDestination"), "one.example.org/a/b/start.htm");
@@ -217,7 +217,7 @@ TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
   EXPECT_EQ(order->Port, 21);
 }
 
-TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
+TEST_F(CreateForm, AFolderIsUploadedToTheChosenServer) {
   harness.folderBrowser.answers = {"D:\\photos"};
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
@@ -246,7 +246,7 @@ TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
   EXPECT_NE(harness.ServerText().find("PreferredServer=\"2\""), std::string::npos);
 }
 
-TEST_F(CreateForm, ThePasswordOfAServerThatIsOpenToEveryoneIsSeen) {
+TEST_F(CreateForm, ThePasswordOfAnAnonymousUserIsVisible) {
   Ask([](QWidget& form) {
     EXPECT_EQ(Echo(form, "textPublishPassword"), QLineEdit::Password);
     EXPECT_EQ(Echo(form, "textUploadPassword"), QLineEdit::Password);
@@ -262,7 +262,7 @@ TEST_F(CreateForm, ThePasswordOfAServerThatIsOpenToEveryoneIsSeen) {
   });
 }
 
-TEST_F(CreateForm, ACancelledChoiceOfAServerChangesNothingButThePassword) {
+TEST_F(CreateForm, ACancelledChoiceOfAServerClearsOnlyThePassword) {
   Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
@@ -276,7 +276,7 @@ TEST_F(CreateForm, ACancelledChoiceOfAServerChangesNothingButThePassword) {
   });
 }
 
-TEST_F(CreateForm, ADestinationEditedByHandEmptiesThePasswords) {
+TEST_F(CreateForm, ATypedDestinationClearsThePasswords) {
   Ask([](QWidget& form) {
     for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
              {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
@@ -290,7 +290,7 @@ TEST_F(CreateForm, ADestinationEditedByHandEmptiesThePasswords) {
   });
 }
 
-TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
+TEST_F(CreateForm, ARunUsesTheTypedDestination) {
   const auto askWith = [this](const char* option, const char* field, const char* destination) {
     return Ask([=](QWidget& form) {
       Click(form, option);
@@ -311,7 +311,7 @@ TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocus) {
+TEST_F(CreateForm, AnInvalidDestinationKeepsTheDialogOpenAndGetsTheFocus) {
   for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
            {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
     harness.boxes.boxes.clear();
@@ -331,7 +331,7 @@ TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocu
   }
 }
 
-TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
+TEST_F(CreateForm, AFolderWithoutADriveKeepsTheDialogOpenAndGetsTheFocus) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     auto& box = Find<QLineEdit>(form, "textUploadSourceFolder");
@@ -349,7 +349,7 @@ TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
   EXPECT_EQ(order->OutputFolder, "C:\\photos\\");
 }
 
-TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
+TEST_F(CreateForm, AGalleryWithNothingCheckedKeepsTheDialogOpen) {
   const auto order = Ask([](QWidget& form) {
     Uncheck(form, {"checkCreateImages", "checkCreateThumbnails", "checkCreateHTMLFiles"});
     Click(form, "OKButton");
@@ -361,7 +361,7 @@ TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
   EXPECT_FALSE(order);
 }
 
-TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
+TEST_F(CreateForm, ChoicesAreKeptForTheNextOpeningButNotThePassword) {
   const auto first = Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     Click(form, "checkCreateImages");
@@ -380,7 +380,7 @@ TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
   }));
 }
 
-TEST_F(CreateForm, EveryMnemonicIsItsOwn) {
+TEST_F(CreateForm, MnemonicsAreUnique) {
   QString taken;
   for (const auto* label : form.findChildren<QLabel*>()) taken += label->text() + ' ';
   for (const auto* button : form.findChildren<QAbstractButton*>()) taken += button->text() + ' ';

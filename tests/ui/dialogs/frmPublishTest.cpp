@@ -75,7 +75,7 @@ TEST_F(PublishForm, TheIndexFileIsHiddenForAFolder) {
   }
 }
 
-TEST_F(PublishForm, AServerIsChosenWithTheKeyboardAndBecomesThePreferredOne) {
+TEST_F(PublishForm, AServerChosenWithTheKeyboardBecomesThePreferredOne) {
   EXPECT_TRUE(Drive([](QWidget& form) {
     auto& combo = Find<QComboBox>(form, "comboServers");
     combo.setFocus();
@@ -88,7 +88,7 @@ TEST_F(PublishForm, AServerIsChosenWithTheKeyboardAndBecomesThePreferredOne) {
   EXPECT_GE(left, 1);
 }
 
-TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
+TEST_F(PublishForm, TypedFieldsAreConvertedAndWritten) {
   EXPECT_TRUE(Drive([this](QWidget& form) {
     Type(Find<QLineEdit>(form, "textServerURL"), "host\\a");
     Type(Find<QLineEdit>(form, "textUserName"), "domain\\some body");
@@ -106,7 +106,7 @@ TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
   EXPECT_EQ(timeout, 30);
 }
 
-TEST_F(PublishForm, TheEndOfALineIsNotPasted) {
+TEST_F(PublishForm, LineEndsAreNotPasted) {
   EXPECT_TRUE(Drive([](QWidget& form) {
     QApplication::clipboard()->setText("pasted\r\n");
     for (const char* name :
@@ -129,7 +129,7 @@ TEST_F(PublishForm, TheEndOfALineIsNotPasted) {
   EXPECT_NE(harness.ServerText().find("ServerName3=\"pasted\"\r\n"), std::string::npos) << harness.ServerText();
 }
 
-TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
+TEST_F(PublishForm, AKeyReplacesTheSelection) {
   Drive([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textGalleryIndexPath");
     box.setSelection(0, 1);
@@ -140,7 +140,7 @@ TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
   });
 }
 
-TEST_F(PublishForm, OkNeedsAHost) {
+TEST_F(PublishForm, OKRequiresAHost) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textServerURL"), "");
     EXPECT_FALSE(IsEnabled(form, "OKButton"));
@@ -151,7 +151,7 @@ TEST_F(PublishForm, OkNeedsAHost) {
   }));
 }
 
-TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndTakesTheFocus) {
+TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndGetsTheFocus) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textGalleryIndexFile"), "a/b.htm");
     Type(Find<QLineEdit>(form, "textServerURL"), "ftp://host/");
@@ -164,7 +164,7 @@ TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndTakesTheFocus) {
   EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Index File Name");
 }
 
-TEST_F(PublishForm, ANewServerIsNamedInItsOwnDialog) {
+TEST_F(PublishForm, ANewServerIsNamedInADialog) {
   EXPECT_TRUE(Drive([this](QWidget& form) {
     AddNew(form, "Three");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "Three");
@@ -188,7 +188,7 @@ TEST_F(PublishForm, ALongNameDoesNotWidenTheDialog) {
   Drive([&](QWidget& form) { EXPECT_EQ(form.width(), width); });
 }
 
-TEST_F(PublishForm, ANameThatIsTakenAddsNothing) {
+TEST_F(PublishForm, ADuplicateNameAddsNothing) {
   Drive([](QWidget& form) {
     AddNew(form, "Two");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 2);
@@ -218,7 +218,7 @@ TEST_F(PublishForm, ANewServerCanBeCancelled) {
   });
 }
 
-TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatStillCloses) {
+TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatCanBeClosed) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Click(form, "btnDelete");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "Two");
@@ -237,7 +237,7 @@ TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatStillCloses) {
   EXPECT_NE(harness.ServerText().find("ServerCount=\"2\""), std::string::npos);
 }
 
-TEST_F(PublishForm, CancelLeavesTheFileAndShowsTheServerOfTheOpening) {
+TEST_F(PublishForm, CancelKeepsTheFileAndShowsTheInitialServerAgain) {
   const std::string before = harness.ServerText();
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Drive([byButton](QWidget& form) {
@@ -257,7 +257,7 @@ TEST_F(PublishForm, AMissingFileIsReportedAndGivesAnEmptyDialog) {
   EXPECT_EQ(harness.boxes.boxes[0].title, "File Error");
 }
 
-TEST_F(PublishForm, TheSwitchesAreAtTheEndAndAreKept) {
+TEST_F(PublishForm, TheSwitchesAreLastAndAreStored) {
   harness.WriteServers(0);
   EXPECT_TRUE(Drive([](QWidget& form) {
     auto& passive = Find<QCheckBox>(form, "checkPassive");
@@ -273,7 +273,7 @@ TEST_F(PublishForm, TheSwitchesAreAtTheEndAndAreKept) {
     for (QCheckBox* box : {&passive, &encrypted}) {
       QTest::keyClick(box, Qt::Key_Space);
       EXPECT_TRUE(box->isChecked());
-      EXPECT_NE(box->text().indexOf('&'), -1) << "a key of its own";
+      EXPECT_NE(box->text().indexOf('&'), -1) << "a mnemonic";
     }
     Click(form, "OKButton");
   }));

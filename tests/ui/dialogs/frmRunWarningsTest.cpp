@@ -26,7 +26,7 @@ class RunWarningsForm : public testing::Test {
     generation::SetIndexFile(order, "T:\\out\\index.htm");
   }
 
-  /// Shows the form alone. Returns whether it was accepted.
+  /// Shows only the form. Returns whether it was accepted.
   bool Open(const std::function<void(QWidget&)>& drive) {
     generation::RunForecast forecast(harness.model->CurrentProject(), order, harness.model->Ports());
     RunWarningsModel model(forecast, harness.model->CurrentProject(), harness.model->Images());
@@ -41,7 +41,7 @@ class RunWarningsForm : public testing::Test {
                  Click(dialog, "OKButton");
                });
   }
-  /// Creates the gallery from the main window. Returns whether warnings came up, which `button` then closed.
+  /// Creates the gallery from the main window. Returns whether the warnings were shown, which `button` then closed.
   bool CreateAndClick(const char* button) {
     bool warned = false;
     QTimer watch;
@@ -68,7 +68,7 @@ class RunWarningsForm : public testing::Test {
   generation::RunOrder order;
 };
 
-TEST_F(RunWarningsForm, ListsEachWarningWithTheFirstChosenAndCancelAsTheDefault) {
+TEST_F(RunWarningsForm, ListsTheWarningsWithTheFirstChosenAndCancelAsDefault) {
   Open([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Before This Gallery Is Made");
     auto& list = Find<QListWidget>(form, "listWarnings");
@@ -83,7 +83,7 @@ TEST_F(RunWarningsForm, ListsEachWarningWithTheFirstChosenAndCancelAsTheDefault)
   });
 }
 
-TEST_F(RunWarningsForm, RenameIsForWarningsThatANameCanMend) {
+TEST_F(RunWarningsForm, RenameIsEnabledForWarningsThatANameCanResolve) {
   Open([](QWidget& form) {
     auto& list = Find<QListWidget>(form, "listWarnings");
     EXPECT_TRUE(Find<QPushButton>(form, "RenameButton").isEnabled());
@@ -94,12 +94,12 @@ TEST_F(RunWarningsForm, RenameIsForWarningsThatANameCanMend) {
   });
 }
 
-TEST_F(RunWarningsForm, ANewNameTakesAWarningAway) {
+TEST_F(RunWarningsForm, ANewNameResolvesAWarning) {
   Open([](QWidget& form) {
     Rename(form, "a");
     EXPECT_EQ(Find<QListWidget>(form, "listWarnings").count(), 1);
     EXPECT_FALSE(Find<QPushButton>(form, "RenameButton").isEnabled());
-    EXPECT_TRUE(Find<QPushButton>(form, "CancelButton").isDefault()) << "one is left";
+    EXPECT_TRUE(Find<QPushButton>(form, "CancelButton").isDefault()) << "one warning is left";
   });
   EXPECT_EQ(Name(1), "a");
 }
@@ -112,7 +112,7 @@ TEST_F(RunWarningsForm, ACancelledRenamingKeepsTheWarning) {
   EXPECT_EQ(Name(1), "a#.jpg");
 }
 
-TEST_F(RunWarningsForm, WithoutWarningsLeftReturnCreates) {
+TEST_F(RunWarningsForm, WithoutWarningsLeftReturnCreatesTheGallery) {
   harness.folder.Write("gone.jpg", harness.folder.Read("b.jpg"));
   EXPECT_TRUE(Open([](QWidget& form) {
     Rename(form, "a");
@@ -129,7 +129,7 @@ TEST_F(RunWarningsForm, ReturnAndEscapeCancel) {
   EXPECT_TRUE(Open([](QWidget& form) { Click(form, "CreateButton"); }));
 }
 
-TEST_F(RunWarningsForm, CancelMakesNothingAndCreateAnywayMakesTheGallery) {
+TEST_F(RunWarningsForm, CancelCreatesNothingAndCreateAnywayCreatesTheGallery) {
   harness.folder.Write("gone.jpg", harness.folder.Read("b.jpg"));
   EXPECT_TRUE(CreateAndClick("CancelButton"));
   EXPECT_FALSE(Exists("out"));
@@ -138,7 +138,7 @@ TEST_F(RunWarningsForm, CancelMakesNothingAndCreateAnywayMakesTheGallery) {
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(RunWarningsForm, DoesNotComeUpWhereThereIsNothingToSay) {
+TEST_F(RunWarningsForm, IsNotShownWithoutWarnings) {
   harness.folder.Write("gone.jpg", harness.folder.Read("b.jpg"));
   harness.model->CurrentProject().images.Rename(1, "a");
   EXPECT_FALSE(CreateAndClick("CancelButton"));

@@ -32,7 +32,7 @@ class FolderDialog : public testing::Test {
   std::optional<std::string> chosen;
 };
 
-TEST_F(FolderDialog, BeginsAtTheFolderOfTheCaller) {
+TEST_F(FolderDialog, BeginsInTheFolderOfTheCaller) {
   Browse("C:\\photos\\2005", [](QWidget& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmBrowseForFolder");
     EXPECT_EQ(dialog.windowTitle(), "Select Source Folder");
@@ -53,7 +53,7 @@ TEST_F(FolderDialog, AFolderIsChosenWithTheMouse) {
   EXPECT_EQ(chosen, "C:\\photos\\sub");
 }
 
-TEST_F(FolderDialog, AndWithTheKeyboard) {
+TEST_F(FolderDialog, AFolderIsChosenWithTheKeyboard) {
   Browse("C:\\photos", [](QWidget& dialog) {
     QTest::keyClick(&Tree(dialog), Qt::Key_Down);
     QTest::keyClick(&Tree(dialog), Qt::Key_Right);
@@ -72,7 +72,7 @@ TEST_F(FolderDialog, CancelChoosesNothing) {
   EXPECT_EQ(chosen, std::nullopt);
 }
 
-TEST_F(FolderDialog, KeepsWhetherItWasCancelled) {
+TEST_F(FolderDialog, RemembersWhetherItWasCancelled) {
   frmBrowseForFolder form(harness.paths);
   EXPECT_FALSE(form.Cancelled);
   DriveModal([&] { form.exec(); }, [](QWidget& dialog) { Click(dialog, "CancelButton"); });
@@ -90,7 +90,7 @@ struct Begin {
   std::string selected;
 };
 
-TEST_F(FolderDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
+TEST_F(FolderDialog, ForAMissingFolderTheNearestParentIsOpened) {
   const std::vector<Begin> cases = {
       {"C:\\photos\\1999\\May", "C:\\photos"},
       {"C:\\photos\\2005\\", "C:\\photos\\2005"},
@@ -123,7 +123,7 @@ TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
   EXPECT_EQ(drive.child(0)->child(1)->text(0), "sub");
 }
 
-TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
+TEST_F(FolderDialog, AFolderWithoutSubfoldersCannotBeExpanded) {
   frmBrowseForFolder form(harness.paths);
   form.SetSelectedPath("C:\\photos\\sub");
   EXPECT_EQ(Tree(form).currentItem()->childIndicatorPolicy(), QTreeWidgetItem::DontShowIndicatorWhenChildless);

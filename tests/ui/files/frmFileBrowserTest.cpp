@@ -62,7 +62,7 @@ class FileDialog : public testing::Test {
   }
 
   static bool HasPicture(QWidget& dialog) { return !Find<StretchedPicture>(dialog, "pbPreview").Picture().isNull(); }
-  static bool PictureComes(QWidget& dialog) {
+  static bool ShowsAPicture(QWidget& dialog) {
     return QTest::qWaitFor([&] { return HasPicture(dialog); });
   }
   static std::string SizeText(QWidget& dialog) { return Find<QLabel>(dialog, "lblSize").text().toStdString(); }
@@ -72,7 +72,7 @@ class FileDialog : public testing::Test {
   FileDialogResult result;
 };
 
-TEST_F(FileDialog, HasItsNameItsTitleAndTheTextsOfItsButtons) {
+TEST_F(FileDialog, HasItsNameTitleAndButtonTexts) {
   Show(Images(), [](QWidget& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmFileBrowser");
     EXPECT_EQ(dialog.windowTitle(), "Add Images");
@@ -96,7 +96,7 @@ TEST_F(FileDialog, AFileIsChosenWithTheMouse) {
   EXPECT_EQ(result.names, Names{"C:\\photos\\a.jpg"});
 }
 
-TEST_F(FileDialog, ADoubleClickChoosesToo) {
+TEST_F(FileDialog, ADoubleClickChoosesAFile) {
   Show(Images(), [](QWidget& dialog) {
     const QModelIndex row = RowOf(List(dialog), "c.jfif");
     ClickRow(List(dialog), row);
@@ -106,7 +106,7 @@ TEST_F(FileDialog, ADoubleClickChoosesToo) {
   EXPECT_EQ(result.names, Names{"c.jfif"});
 }
 
-TEST_F(FileDialog, CancelGivesNothing) {
+TEST_F(FileDialog, CancelChoosesNothing) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
     Click(Cancel(dialog));
@@ -136,18 +136,18 @@ TEST_F(FileDialog, WithoutMultiSelectASecondFileReplacesTheFirst) {
   });
 }
 
-TEST_F(FileDialog, TheSelectedPhotographIsShownWithItsSize) {
+TEST_F(FileDialog, TheSelectedPhotographIsPreviewedWithItsSize) {
   Show(Images(), [](QWidget& dialog) {
     EXPECT_TRUE(Find<QCheckBox>(dialog, "checkPreview").isChecked());
     EXPECT_EQ(Find<QWidget>(dialog, "extendedArea").width(), Find<QWidget>(dialog, "pbPreview").width() + 20);
     EXPECT_EQ(SizeText(dialog), "");
     ClickFile(dialog, "b.JPG");
-    EXPECT_TRUE(PictureComes(dialog));
+    EXPECT_TRUE(ShowsAPicture(dialog));
     EXPECT_TRUE(SizeText(dialog).starts_with("(64x48, ")) << SizeText(dialog);
   });
 }
 
-TEST_F(FileDialog, OtherPicturesAreShownByLoadingThem) {
+TEST_F(FileDialog, OtherPicturesArePreviewedToo) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -158,7 +158,7 @@ TEST_F(FileDialog, OtherPicturesAreShownByLoadingThem) {
   });
 }
 
-TEST_F(FileDialog, ThePictureIsStretchedOverAllOfItsBox) {
+TEST_F(FileDialog, ThePictureIsStretchedToItsBox) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -171,7 +171,7 @@ TEST_F(FileDialog, ThePictureIsStretchedOverAllOfItsBox) {
   });
 }
 
-TEST_F(FileDialog, AFileThatIsNotAPictureShowsNothing) {
+TEST_F(FileDialog, AFileThatIsNotAPictureHasNoPreview) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -185,7 +185,7 @@ TEST_F(FileDialog, AFileThatIsNotAPictureShowsNothing) {
   });
 }
 
-TEST_F(FileDialog, APhotographThatBreaksOffShowsNothing) {
+TEST_F(FileDialog, ATruncatedPhotographHasNoPreview) {
   const std::string whole = fakes::MakeJpeg({.width = 64, .height = 64});
   harness.disk.Write("photos/cut.jpg", whole.substr(0, whole.size() / 2));
   Show(Images(), [](QWidget& dialog) {
@@ -195,25 +195,25 @@ TEST_F(FileDialog, APhotographThatBreaksOffShowsNothing) {
   });
 }
 
-TEST_F(FileDialog, WithoutTheCheckBoxNothingIsShown) {
+TEST_F(FileDialog, WithoutTheCheckBoxNothingIsPreviewed) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
-    ASSERT_TRUE(PictureComes(dialog));
+    ASSERT_TRUE(ShowsAPicture(dialog));
     Click(dialog, "checkPreview");
     EXPECT_FALSE(HasPicture(dialog));
     EXPECT_EQ(SizeText(dialog), "");
     ClickFile(dialog, "b.JPG");
     EXPECT_EQ(SizeText(dialog), "");
     Click(dialog, "checkPreview");
-    EXPECT_TRUE(PictureComes(dialog));
+    EXPECT_TRUE(ShowsAPicture(dialog));
     EXPECT_TRUE(SizeText(dialog).starts_with("(64x48, ")) << SizeText(dialog);
   });
 }
 
-TEST_F(FileDialog, AClickOnThePictureShowsItOnTheWholeScreen) {
+TEST_F(FileDialog, AClickOnThePictureShowsItFullScreen) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
-    ASSERT_TRUE(PictureComes(dialog));
+    ASSERT_TRUE(ShowsAPicture(dialog));
     const std::string size = SizeText(dialog);
     const auto check = [&](QWidget& preview) {
       EXPECT_EQ(preview.objectName(), "frmPreview");
@@ -224,7 +224,7 @@ TEST_F(FileDialog, AClickOnThePictureShowsItOnTheWholeScreen) {
   });
 }
 
-TEST_F(FileDialog, AClickWithNoFileInHandShowsNothing) {
+TEST_F(FileDialog, AClickWithoutASelectedFileShowsNothing) {
   Show(Images(), [](QWidget& dialog) {
     const auto opensAWindow = [&dialog] {
       bool opened = false;
@@ -245,7 +245,7 @@ TEST_F(FileDialog, AClickWithNoFileInHandShowsNothing) {
   });
 }
 
-TEST_F(FileDialog, WithoutPreviewThereIsNoRoomForOne) {
+TEST_F(FileDialog, WithoutPreviewThereIsNoSpaceForOne) {
   Show({.title = "Open", .initialFolder = "C:\\photos"}, [](QWidget& dialog) {
     EXPECT_FALSE(Find<QWidget>(dialog, "pbPreview").isVisible());
     EXPECT_FALSE(Find<QWidget>(dialog, "lblSize").isVisible());
@@ -276,7 +276,7 @@ TEST_F(FileDialog, FiltersShowTheirDescriptionsAndMatchInAnyCase) {
   });
 }
 
-TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndOneOf1022IsNot) {
+TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndATextOf1022IsNot) {
   const std::string base = "photos/long/";
   for (const char first : {'a', 'b', 'c', 'd'}) harness.disk.Write(base + first + std::string(248, 'x') + ".jpg", "");
   harness.disk.Write(base + 'e' + std::string(247, 'x') + ".jpg", "");
@@ -327,7 +327,7 @@ TEST_F(FileDialog, ANativePathBecomesPathTextWhenTheBoxIsLeft) {
   EXPECT_EQ(result.folder, "C:\\photos\\sub\\");
 }
 
-TEST_F(FileDialog, ANativePathIsTakenAtOnce) {
+TEST_F(FileDialog, ANativePathIsAcceptedAtOnce) {
   Show(Images(), [&](QWidget& dialog) {
     Type(NameBox(dialog), harness.Native("photos/sub/d.jpg"));
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
@@ -336,7 +336,7 @@ TEST_F(FileDialog, ANativePathIsTakenAtOnce) {
   EXPECT_EQ(result.names, Names{"d.jpg"});
 }
 
-TEST_F(FileDialog, ATypedFolderIsEntered) {
+TEST_F(FileDialog, ATypedFolderIsOpened) {
   Show(Images(false), [](QWidget& dialog) {
     Type(NameBox(dialog), "C:\\photos\\sub");
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
@@ -352,7 +352,7 @@ int WidthNeeded(const QAbstractItemView& list, int column) {
   return list.sizeHintForColumn(column);
 }
 
-TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
+TEST_F(FileDialog, TheColumnsFitEachOpenedFolder) {
   harness.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
   Show(Images(), [](QWidget& dialog) {
     auto& details = Find<QTreeView>(dialog, "treeView");
@@ -376,7 +376,7 @@ TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
   });
 }
 
-TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
+TEST_F(FileDialog, WidthsSetByTheUserStayWhileTheFolderIsShown) {
   Show(Images(), [&](QWidget& dialog) {
     auto& details = Find<QTreeView>(dialog, "treeView");
     EXPECT_TRUE(RowOf(details, "a.jpg").isValid());
@@ -391,7 +391,7 @@ TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
   });
 }
 
-TEST_F(FileDialog, CompletionsCloseWhenAFolderIsEntered) {
+TEST_F(FileDialog, CompletionsCloseWhenAFolderIsOpened) {
   Show(Images(), [&](QWidget& dialog) {
     const QWidget& completions = *NameBox(dialog).completer()->popup();
     EXPECT_TRUE(RowOf(List(dialog), "sub").isValid());
@@ -404,7 +404,7 @@ TEST_F(FileDialog, CompletionsCloseWhenAFolderIsEntered) {
   });
 }
 
-TEST_F(FileDialog, TheFolderIsShownAsPathTextWithThoseAboveIt) {
+TEST_F(FileDialog, TheFolderAndItsParentsAreListedAsPathText) {
   Show(Images(), [](QWidget& dialog) {
     auto& folder = Find<QComboBox>(dialog, "comboFolder");
     EXPECT_EQ(folder.currentText(), "C:\\photos");
@@ -416,13 +416,13 @@ TEST_F(FileDialog, TheFolderIsShownAsPathTextWithThoseAboveIt) {
   });
 }
 
-TEST_F(FileDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
+TEST_F(FileDialog, ForAMissingFolderTheNearestParentIsOpened) {
   FileDialogRequest request = Images();
   request.initialFolder = "C:\\photos\\1999\\May";
   Show(request, [](QWidget& dialog) { EXPECT_EQ(Find<QComboBox>(dialog, "comboFolder").currentText(), "C:\\photos"); });
 }
 
-TEST_F(FileDialog, WithoutAFolderItBeginsWhereItWasLeft) {
+TEST_F(FileDialog, WithoutAFolderItBeginsInTheLastOne) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
     Click(Ok(dialog));
@@ -431,7 +431,7 @@ TEST_F(FileDialog, WithoutAFolderItBeginsWhereItWasLeft) {
        [](QWidget& dialog) { EXPECT_EQ(Find<QComboBox>(dialog, "comboFolder").currentText(), "C:\\photos"); });
 }
 
-TEST_F(FileDialog, AFileThatIsNotThereIsReportedAndTheDialogStays) {
+TEST_F(FileDialog, AMissingFileIsReportedAndTheDialogStaysOpen) {
   Show(Images(), [](QWidget& dialog) {
     Type(NameBox(dialog), "none.jpg");
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
@@ -443,7 +443,7 @@ TEST_F(FileDialog, AFileThatIsNotThereIsReportedAndTheDialogStays) {
   EXPECT_EQ(result.result, "");
 }
 
-TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
+TEST_F(FileDialog, SavingProposesANameAndAsksBeforeAFileIsReplaced) {
   harness.disk.Write("my.gpj", "old");
   harness.boxes.answers = {env::BoxAnswer::No};
   const FileDialogRequest request{.open = false,

@@ -57,7 +57,7 @@ TEST_F(FullScreenPreview, ItsTitleHasTheDescription) {
   EXPECT_FALSE(Find<QLabel>(preview, "pic").isVisible());
 }
 
-TEST_F(FullScreenPreview, ASmallPictureIsInTheMiddleAtItsNaturalSize) {
+TEST_F(FullScreenPreview, ASmallPictureIsCenteredAtItsNaturalSize) {
   Draw({40, 30}, {0, 0});
   const QImage drawn = Drawn();
   const QPoint corner(Pixels().width() / 2 - 20, Pixels().height() / 2 - 15);
@@ -68,7 +68,7 @@ TEST_F(FullScreenPreview, ASmallPictureIsInTheMiddleAtItsNaturalSize) {
   EXPECT_NE(drawn.pixelColor(corner - QPoint(1, 0)), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, AnOversizedPictureIsCutAtAllSides) {
+TEST_F(FullScreenPreview, AnOversizedPictureIsCroppedAtAllSides) {
   const QSize screen = Pixels();
   Draw(screen + QSize(200, 100), {100, 50});
   const QImage drawn = Drawn();
@@ -77,7 +77,7 @@ TEST_F(FullScreenPreview, AnOversizedPictureIsCutAtAllSides) {
   EXPECT_EQ(drawn.pixelColor(screen.width() - 1, screen.height() - 1), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCutAtTwoSides) {
+TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCroppedAtTwoSides) {
   const QSize screen = Pixels();
   Draw({screen.width() + 200, 20}, {100, 0});
   const QImage drawn = Drawn();
@@ -85,7 +85,7 @@ TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCutAtTwoSides) {
   EXPECT_NE(drawn.pixelColor(0, screen.height() / 2 - 11), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToAreUprightAndItsMiddleIsShown) {
+TEST_F(FullScreenPreview, APhotographIsTurnedOnRequestAndItsMiddleIsShown) {
   const auto& pic = Find<QLabel>(preview, "pic");
   const auto write = [this](int width, int height) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = width, .height = height}), 6);
@@ -102,7 +102,7 @@ TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToAreUprightAndItsMiddleIsSho
   EXPECT_LT(pic.pixmap().height(), 9000);
 }
 
-TEST_F(FullScreenPreview, WhatIsNotAPhotographIsShownAsItIs) {
+TEST_F(FullScreenPreview, APictureThatIsNotAPhotographIsShownAsStored) {
   Draw({40, 30}, {0, 0});
   preview.SetPicture("picture", "C:\\picture.png", {.upright = true, .trueColors = true});
   EXPECT_EQ(Find<QLabel>(preview, "pic").pixmap().size(), QSize(40, 30));
@@ -118,7 +118,7 @@ TEST_F(FullScreenPreview, APictureThatCannotBeShownLeavesTheScreenEmpty) {
   }
 }
 
-TEST_F(FullScreenPreview, TheCloseButtonIsOutOfSightAndReachedByItsKeys) {
+TEST_F(FullScreenPreview, TheCloseButtonIsInvisibleAndWorksByItsKeys) {
   preview.show();
   EXPECT_FALSE(preview.rect().intersects(Find<QPushButton>(preview, "btnClose").geometry()));
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {

@@ -9,7 +9,7 @@ namespace {
 using fakes::Find;
 using fakes::MainWindowHarness;
 
-/// Buttons that destroy something when pressed.
+/// Buttons that delete something when pressed.
 constexpr const char* kDestroys[] = {"btnImagesShuffle", "btnImagesRemove", "btnImagesRemoveAll"};
 
 /// The first visible control of the page that accepts the focus by Tab.
@@ -21,7 +21,7 @@ QWidget* FirstControl(QWidget& page) {
   return control;
 }
 
-TEST(Focus, NoPageThatGoesLeavesItToAButtonThatDestroys) {
+TEST(Focus, HidingAPageNeverMovesItToAButtonThatDeletes) {
   MainWindowHarness harness;
   harness.Start();
   harness.AddPhotograph("a.jpg");

@@ -1,4 +1,4 @@
-// A project of another system, opened in the window of a user with the usual drives.
+// A project from another system, opened in the window of a user with the usual drives.
 #include "tests/ui/MainWindowHarness.h"
 
 #include <QLineEdit>
@@ -41,7 +41,7 @@ class ForeignProjectInWindow : public testing::Test {
   MainWindowHarness harness;
 };
 
-TEST_F(ForeignProjectInWindow, IsOpenedInItsNewPlaceAndAsksNoMoreOnceItIsSaved) {
+TEST_F(ForeignProjectInWindow, IsOpenedWithItsNewFoldersAndAsksNoMoreOnceItIsSaved) {
   Open([&](QWidget& form) {
     EXPECT_EQ(form.objectName(), "frmMovedFolders");
     Type(Find<QLineEdit>(form, "textNewFolder"), QString::fromStdString((harness.folder.Path() / "new/sea").string()));
@@ -52,15 +52,15 @@ TEST_F(ForeignProjectInWindow, IsOpenedInItsNewPlaceAndAsksNoMoreOnceItIsSaved) 
   EXPECT_TRUE(harness.model->CurrentProject().IsModified);
   EXPECT_TRUE(harness.window->isEnabled());
   harness.Trigger("menuFileSave");
-  harness.Trigger("menuFileOpen");  // a dialog would wait for ever
+  harness.Trigger("menuFileOpen");  // a dialog would wait forever
   EXPECT_EQ(Sources(), std::vector<std::string>{"C:/new/sea/a.jpg"});
 }
 
-TEST_F(ForeignProjectInWindow, StaysAsItIsAfterCancel) {
+TEST_F(ForeignProjectInWindow, IsUnchangedAfterCancel) {
   const std::string before = harness.folder.Read("mine.gpj");
   Open([](QWidget& form) { QTest::keyClick(&form, Qt::Key_Return); });
   EXPECT_TRUE(Sources().empty());
-  EXPECT_EQ(harness.boxes.boxes.size(), 2U) << "as before, its photograph cannot be read";
+  EXPECT_EQ(harness.boxes.boxes.size(), 2U) << "its photograph still cannot be read";
   EXPECT_EQ(harness.folder.Read("mine.gpj"), before);
   EXPECT_TRUE(harness.window->isEnabled());
 }

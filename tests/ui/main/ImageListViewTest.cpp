@@ -56,12 +56,12 @@ TEST_F(DraggingRows, ARowIsDroppedOnAnother) {
   EXPECT_TRUE(harness.project.IsModified);
 }
 
-TEST_F(DraggingRows, BelowAllRowsItBecomesTheLast) {
+TEST_F(DraggingRows, ARowDroppedBelowAllRowsBecomesTheLast) {
   Drag(1, QPoint(20, harness.list->viewport()->height() - 5));
   EXPECT_EQ(harness.Names(), (Names{"a.jpg", "c.jpg", "d.jpg", "b.jpg"}));
 }
 
-TEST_F(DraggingRows, AListThatIsKeptSortedRefuses) {
+TEST_F(DraggingRows, AListThatIsKeptSortedRefusesDrops) {
   harness.operations.SetSortingOrder(1);
   Drag(0, MiddleOf(2));
   EXPECT_EQ(harness.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));

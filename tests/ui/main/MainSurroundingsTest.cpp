@@ -1,4 +1,4 @@
-// What surrounds the main window: the tray, the windows shown at start and end, and what they must not change.
+// The tray icon, the windows shown at start and end, and their effects on the main window.
 #include "tests/ui/MainWindowHarness.h"
 
 #include <QClipboard>
@@ -54,7 +54,7 @@ void ChooseInTray(Qt::Key key) {
   QCoreApplication::processEvents();
 }
 
-TEST_F(AroundTheMainWindow, TheTrayBringsBackAHiddenOrMinimisedWindow) {
+TEST_F(AroundTheMainWindow, TheTrayRestoresAHiddenOrMinimizedWindow) {
   harness.Start();
   harness.window->hide();
   ChooseInTray(Qt::Key_V);
@@ -76,7 +76,7 @@ TEST_F(AroundTheMainWindow, TheTrayHasHelpAboutAndClose) {
   EXPECT_EQ(harness.closed, 1);
 }
 
-TEST_F(AroundTheMainWindow, AboutIsOpenedOnceFromWhereverItIsAsked) {
+TEST_F(AroundTheMainWindow, AboutIsOpenOnlyOnceWhereverItIsOpenedFrom) {
   harness.Start();
   DriveModal([&] { harness.Trigger("menuHelpAbout"); },
              [&](QWidget& about) {
@@ -95,10 +95,10 @@ TEST_F(AroundTheMainWindow, AboutIsOpenedOnceFromWhereverItIsAsked) {
                EXPECT_TRUE(about.isVisible());
              });
   DriveModal([&] { ChooseInTray(Qt::Key_A); },
-             [](QWidget& about) { EXPECT_EQ(about.objectName(), "frmAbout") << "and again when it is closed"; });
+             [](QWidget& about) { EXPECT_EQ(about.objectName(), "frmAbout") << "again after it is closed"; });
 }
 
-TEST_F(AroundTheMainWindow, TheTrayClosesNothingUnderADialog) {
+TEST_F(AroundTheMainWindow, TheTrayCannotCloseTheProgramUnderADialog) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   DriveModal([&] { harness.Trigger("menuActionsCreate"); },
@@ -111,7 +111,7 @@ TEST_F(AroundTheMainWindow, TheTrayClosesNothingUnderADialog) {
   EXPECT_TRUE(harness.window->isVisible());
 }
 
-TEST_F(AroundTheMainWindow, NothingIsChosenInTheTrayBeforeTheWindowIsReady) {
+TEST_F(AroundTheMainWindow, TheTrayDoesNothingBeforeTheWindowIsReady) {
   QTimer watch;
   bool chosen = false;
   QObject::connect(&watch, &QTimer::timeout, [&] {
@@ -128,7 +128,7 @@ TEST_F(AroundTheMainWindow, NothingIsChosenInTheTrayBeforeTheWindowIsReady) {
   EXPECT_EQ(harness.closed, 0);
 }
 
-TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
+TEST_F(AroundTheMainWindow, ASaveKeepsTheFocus) {
   harness.Start();
   auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");
   Type(title, "x");
@@ -137,7 +137,7 @@ TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return title.hasFocus(); }));
 }
 
-TEST_F(AroundTheMainWindow, TheTitleHasTheKeyboardAfterAStartWithAProject) {
+TEST_F(AroundTheMainWindow, TheTitleHasTheFocusAfterAStartWithAProject) {
   harness.Start();
   harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   harness.Trigger("menuFileSave");
@@ -147,7 +147,7 @@ TEST_F(AroundTheMainWindow, TheTitleHasTheKeyboardAfterAStartWithAProject) {
   }
 }
 
-TEST_F(AroundTheMainWindow, LettersInTheDescriptionsWindowReachItsOwnControls) {
+TEST_F(AroundTheMainWindow, KeysInTheDescriptionsWindowReachItsControls) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   Click(*harness.window, "btnImagesDescriptions");
@@ -162,7 +162,7 @@ TEST_F(AroundTheMainWindow, LettersInTheDescriptionsWindowReachItsOwnControls) {
   }
 }
 
-TEST_F(AroundTheMainWindow, TheKeysOfCommandsWorkInTheDescriptionsWindow) {
+TEST_F(AroundTheMainWindow, ShortcutsOfCommandsWorkInTheDescriptionsWindow) {
   harness.Start();
   harness.GoTo(1);
   Click(*harness.window, "btnImagesDescriptions");
@@ -181,7 +181,7 @@ TEST_F(AroundTheMainWindow, TheStatusIsPlainText) {
   EXPECT_EQ(Find<QLabel>(*harness.window, "sbMainText").textFormat(), Qt::PlainText);
 }
 
-TEST_F(AroundTheMainWindow, ATipWithAWordInAngleBracketsIsShownToTheLetter) {
+TEST_F(AroundTheMainWindow, AToolTipWithAWordInAngleBracketsIsPlainText) {
   harness.Start();
   for (const auto& [page, name] : std::vector<std::pair<int, const char*>>{
            {0, "btnGalleryHEAD"}, {2, "btnImageWrapperHEAD"}, {3, "btnThumbnailsPageHEAD"}}) {
@@ -219,7 +219,7 @@ class SmallWindows {
   QTimer watch_;
 };
 
-TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreReportedStepByStep) {
+TEST_F(AroundTheMainWindow, StartAndEndAreReportedStepByStep) {
   SmallWindows windows;
   harness.Start();
   EXPECT_EQ(windows.seen, (std::vector<std::string>{"Please wait while Vantorium is initializing..."}));
@@ -233,7 +233,7 @@ TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreReportedStepByStep) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-/// The texts painted by the info window and the status bar, each once; "greyed " precedes a disabled info line.
+/// The texts painted by the info window and the status bar, each once; "greyed " marks a disabled info line.
 class PaintedTexts : public QObject {
  public:
   PaintedTexts() { qApp->installEventFilter(this); }
@@ -250,7 +250,7 @@ class PaintedTexts : public QObject {
   }
 };
 
-TEST_F(AroundTheMainWindow, AReadingAndAWritingAreReportedAndTheirTextsArePainted) {
+TEST_F(AroundTheMainWindow, ReadingAndWritingAreReportedAndTheTextsArePainted) {
   harness.Start();
   harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   PaintedTexts writing;
@@ -266,7 +266,7 @@ TEST_F(AroundTheMainWindow, AReadingAndAWritingAreReportedAndTheirTextsArePainte
   EXPECT_EQ(clearing.texts, (std::set<std::string>{"Please wait... Clearing Temporary Folder."}));
 }
 
-TEST_F(AroundTheMainWindow, NothingElseBeginsWhileAProjectIsWritten) {
+TEST_F(AroundTheMainWindow, NoOtherCommandStartsWhileAProjectIsWritten) {
   harness.folder.Write("data/help/index.html", "x");
   harness.Start();
   harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
@@ -294,7 +294,7 @@ TEST_F(AroundTheMainWindow, NothingElseBeginsWhileAProjectIsWritten) {
   EXPECT_TRUE(harness.window->isVisible());
 }
 
-TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {
+TEST_F(AroundTheMainWindow, TheSplashScreenCountsToSevenAndCloses) {
   int stages = 0;
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, [&] {
@@ -318,7 +318,7 @@ void TurnWheel(QWidget& control) {
   qApp->notify(&control, &turn);
 }
 
-TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheKeyboard) {
+TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheFocus) {
   harness.Start();
   auto& layout = Find<QComboBox>(*harness.window, "comboGalleryLayoutType");
   Find<QLineEdit>(*harness.window, "textGalleryTitle").setFocus();
@@ -331,7 +331,7 @@ TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheKeyboard) {
   EXPECT_EQ(layout.currentIndex(), 1);
 }
 
-TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrASpinnerWithoutTheKeyboardGoesToWhatIsBehind) {
+TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrSpinnerWithoutTheFocusGoesToItsParent) {
   harness.Start();
   QScrollArea area;
   auto* form = new QWidget;
@@ -352,7 +352,7 @@ TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrASpinnerWithoutTheKeyboardGoes
   EXPECT_EQ(spinner.value(), 0);
 }
 
-TEST_F(AroundTheMainWindow, APastedTitleIsOneLine) {
+TEST_F(AroundTheMainWindow, LineBreaksOfAPastedTitleAreRemoved) {
   harness.Start();
   QGuiApplication::clipboard()->setText("one\r\n");
   auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");

@@ -1,4 +1,4 @@
-// Runs from the main window: their effects on its pointer and on the focus.
+// Runs from the main window: their effects on pointer and focus.
 #include "tests/ui/MainWindowHarness.h"
 #include "ui/dialogs/frmProgress.h"
 
@@ -54,11 +54,11 @@ class RunOfTheMainWindow : public testing::Test {
   MainWindowHarness harness;
 };
 
-TEST_F(RunOfTheMainWindow, HasTheWaitPointerOnTheMainWindowAndOnNoOtherBeforeAConfirmedCancel) {
+TEST_F(RunOfTheMainWindow, HasTheBusyPointerOnlyOnTheMainWindowUntilACancelIsConfirmed) {
   harness.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Create([&](frmProgress& progress) {
     EXPECT_EQ(MainPointer(), Qt::WaitCursor);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "it would lie over all windows";
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "it would apply to all windows";
     EXPECT_FALSE(progress.IsPointerBusy());
     Click(progress, "CancelButton");
     EXPECT_FALSE(progress.IsPointerBusy()) << "the answer was No";
@@ -69,7 +69,7 @@ TEST_F(RunOfTheMainWindow, HasTheWaitPointerOnTheMainWindowAndOnNoOtherBeforeACo
   EXPECT_EQ(MainPointer(), Qt::ArrowCursor);
 }
 
-TEST_F(RunOfTheMainWindow, GivesThePointerBackWithItsSuccess) {
+TEST_F(RunOfTheMainWindow, RestoresThePointerOnSuccess) {
   Create([&](frmProgress&) { EXPECT_EQ(MainPointer(), Qt::WaitCursor); });
   EXPECT_EQ(MainPointer(), Qt::ArrowCursor);
   EXPECT_EQ(harness.window->cursor().shape(), Qt::ArrowCursor);
@@ -78,7 +78,7 @@ TEST_F(RunOfTheMainWindow, GivesThePointerBackWithItsSuccess) {
 /// Runs that end while another window is active.
 class EndOfARun : public RunOfTheMainWindow {
  protected:
-  void ExpectTheKeyboardBehind(const std::function<void(frmProgress&)>& end) {
+  void ExpectFocusAfterRun(const std::function<void(frmProgress&)>& end) {
     QWidget other;
     auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");
     harness.GoTo(0);
@@ -94,16 +94,16 @@ class EndOfARun : public RunOfTheMainWindow {
   }
 };
 
-TEST_F(EndOfARun, InACancelGivesTheKeyboardToTheMainWindow) {
-  ExpectTheKeyboardBehind([](frmProgress& progress) { Click(progress, "CancelButton"); });
+TEST_F(EndOfARun, AfterACancelTheMainWindowHasTheFocus) {
+  ExpectFocusAfterRun([](frmProgress& progress) { Click(progress, "CancelButton"); });
   EXPECT_EQ(harness.TitleOfLastBox(), "Creation cancelled");
 }
 
-TEST_F(EndOfARun, InSuccessGivesTheKeyboardToTheMainWindow) {
-  ExpectTheKeyboardBehind([](frmProgress&) {});
+TEST_F(EndOfARun, AfterSuccessTheMainWindowHasTheFocus) {
+  ExpectFocusAfterRun([](frmProgress&) {});
 }
 
-TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
+TEST_F(EndOfARun, AfterAFailureTheMainWindowHasTheFocus) {
   std::filesystem::remove(harness.folder.Path() / "19.jpg");
   QTimer closer;
   QObject::connect(&closer, &QTimer::timeout, [] {
@@ -113,7 +113,7 @@ TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
     if (progress != nullptr && progress->OffersClose()) Click(*progress, "CancelButton");
   });
   closer.start(5);
-  ExpectTheKeyboardBehind([](frmProgress&) {});
+  ExpectFocusAfterRun([](frmProgress&) {});
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ QString LetterOf(const QAbstractButton& button) {
   return button.shortcut().toString();
 }
 
-TEST(Mnemonics, AreUniqueOnEachPageAndAgainstTheMenus) {
+TEST(Mnemonics, AreUniqueAmongEachPageAndTheMenus) {
   MainWindowHarness harness;
   harness.Start();
   for (const char* name :

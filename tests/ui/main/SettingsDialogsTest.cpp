@@ -44,7 +44,7 @@ TEST_F(DialogsOfPages, CodeOfOneText) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(DialogsOfPages, CodeAroundSomething) {
+TEST_F(DialogsOfPages, HeaderAndFooterCode) {
   const std::string footer = Settings().ImagePageBodyFooter;
   Drive(2, "btnImageWrapperBODY", [](QWidget& editor) {
     Type(Find<QPlainTextEdit>(editor, "textHeader"), "<HR>");
@@ -55,7 +55,7 @@ TEST_F(DialogsOfPages, CodeAroundSomething) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(DialogsOfPages, CodeThatAProjectCannotHoldIsRefused) {
+TEST_F(DialogsOfPages, CodeThatAProjectCannotStoreIsRefused) {
   Drive(0, "btnGalleryHEAD", [this](QWidget& editor) {
     Type(Find<QPlainTextEdit>(editor, "textHTML"), "a]]>b");
     Click(editor, "btnClose");
@@ -125,7 +125,7 @@ TEST_F(DialogsOfPages, Filters) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(DialogsOfPages, WatermarksShareTheQualityOfTheirFilters) {
+TEST_F(DialogsOfPages, WatermarksUseTheQualityOfTheirFilters) {
   Drive(3, "btnThumbnailsWatermark", [](QWidget& watermark) {
     Click(watermark, "checkUseWatermark");
     QTest::keyClick(&Find<QSlider>(watermark, "sliderQuality"), Qt::Key_Left);
@@ -151,7 +151,7 @@ TEST_F(DialogsOfPages, TheQualityOfFiltersIsThatOfTheirWatermark) {
   EXPECT_EQ(Settings().ImageFilters.sliderQuality, 1);
 }
 
-TEST_F(DialogsOfPages, ApplyWithoutAChangeIsAnEditToo) {
+TEST_F(DialogsOfPages, ApplyMarksTheProjectAsModifiedEvenWithoutAChange) {
   const std::tuple<int, const char*, const char*> dialogs[] = {{1, "btnImagesFilters", "btnOK"},
                                                                {1, "btnImagesWatermark", "OKButton"},
                                                                {2, "btnImageWrapperColors", "OKButton"}};
@@ -167,7 +167,7 @@ TEST_F(DialogsOfPages, ApplyWithoutAChangeIsAnEditToo) {
   }
 }
 
-TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
+TEST_F(DialogsOfPages, TheSampleIsTheSelectedImageOrElseTheBundledPicture) {
   const auto plain = [](std::uint8_t red, std::uint8_t blue) {
     return fakes::MakeJpeg({}, [=](int, int) { return std::array<std::uint8_t, 4>{red, 0, blue, 0}; });
   };
@@ -180,14 +180,14 @@ TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
     return std::pair(color.red() / 64, color.blue() / 64);
   };
   harness.folder.Write("program/preview.jpg", plain(255, 0));
-  EXPECT_EQ(middle("btnImagesFilters"), std::pair(3, 0)) << "the one beside the program";
+  EXPECT_EQ(middle("btnImagesFilters"), std::pair(3, 0)) << "the bundled picture";
   harness.AddPhotograph("a.jpg");
   harness.folder.Write("a.jpg", plain(0, 255));
   QTest::keyClick(&Find<QWidget>(*harness.window, "lvImagesList"), Qt::Key_Home);
   EXPECT_EQ(middle("btnImagesFilters"), std::pair(0, 3));
   EXPECT_EQ(middle("btnImagesWatermark"), std::pair(0, 3));
   std::filesystem::remove(harness.folder.Path() / "a.jpg");
-  EXPECT_EQ(middle("btnImagesWatermark"), std::pair(3, 0)) << "silently";
+  EXPECT_EQ(middle("btnImagesWatermark"), std::pair(3, 0)) << "without a message box";
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 

@@ -49,7 +49,7 @@ class SettingsOnPages : public testing::Test {
   const core::GalleryProject& settings = harness.Settings();
 };
 
-TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
+TEST_F(SettingsOnPages, EveryFieldHasAControl) {
   std::set<std::string_view> edited;
   for (const core::ProjectField* field : harness.window->Binder().BoundFields()) {
     EXPECT_TRUE(edited.insert(field->name).second) << field->name << " has two controls";
@@ -90,7 +90,7 @@ TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
   EXPECT_EQ(edited.size(), core::ProjectFields().size());
 }
 
-TEST_F(SettingsOnPages, EveryTextReachesItsField) {
+TEST_F(SettingsOnPages, EveryTextBoxSetsItsField) {
   struct Row {
     Page page;
     const char* control;
@@ -164,7 +164,7 @@ TEST_F(SettingsOnPages, EveryNumberHasASpinner) {
   }
 }
 
-TEST_F(SettingsOnPages, EveryCheckBoxReachesItsField) {
+TEST_F(SettingsOnPages, EveryCheckBoxSetsItsField) {
   struct Row {
     Page page;
     const char* control;
@@ -199,7 +199,7 @@ TEST_F(SettingsOnPages, EveryCheckBoxReachesItsField) {
   }
 }
 
-TEST_F(SettingsOnPages, EveryListReachesItsFieldAndHasItsTexts) {
+TEST_F(SettingsOnPages, EveryListSetsItsFieldAndHasItsTexts) {
   struct Row {
     Page page;
     const char* control;
@@ -252,7 +252,7 @@ TEST_F(SettingsOnPages, TheLayoutHasItsPictureAndItsFrames) {
   EXPECT_FALSE(Usable("btnPageLinksImageIndexLink"));
 }
 
-TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndIsNamedSo) {
+TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndLabelledAsPercent) {
   ChooseNext(Gallery, "comboGalleryLayoutType");
   EXPECT_EQ(Text("lblFrameLayoutFrameSize"), "Frame Size (Pixels)");
   ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
@@ -260,7 +260,7 @@ TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndIsNamedSo) {
   EXPECT_EQ(settings.textGalleryFrameSize, "99");
 }
 
-TEST_F(SettingsOnPages, ASlideShowTurnsWrappersOnAndShowsTheirFrames) {
+TEST_F(SettingsOnPages, ASlideShowTurnsWrapperPagesOnAndShowsTheirFrames) {
   ClickOn(Wrappers, "checkImageWrapperUse");
   EXPECT_FALSE(Shown("frmImageWrapperImageSettings"));
   EXPECT_FALSE(Shown("frmImageWrapperCodeSettings"));
@@ -276,7 +276,7 @@ TEST_F(SettingsOnPages, ASlideShowTurnsWrappersOnAndShowsTheirFrames) {
   EXPECT_TRUE(Shown("frmPageLinksOnImagePages"));
 }
 
-TEST_F(SettingsOnPages, WithoutWrappersThereIsNoSlideShow) {
+TEST_F(SettingsOnPages, WithoutWrapperPagesThereIsNoSlideShow) {
   ClickOn(Gallery, "checkGallerySlideShow");
   ClickOn(Wrappers, "checkImageWrapperUse");
   EXPECT_EQ(settings.checkGallerySlideShow, 0);
@@ -288,7 +288,7 @@ TEST_F(SettingsOnPages, WithoutWrappersThereIsNoSlideShow) {
   EXPECT_FALSE(Shown("frmFrameLayoutSlideShow"));
 }
 
-TEST_F(SettingsOnPages, ASlideShowHasOnlyTheFieldsItUses) {
+TEST_F(SettingsOnPages, ASlideShowShowsOnlyTheFieldsItUses) {
   ClickOn(Gallery, "checkGallerySlideShow");
   for (const char* name : {"checkGallerySlideShowAutoStart", "textGallerySlideShowAutoStartDelay",
                            "udGallerySlideShowAutoStartDelay", "lblSeconds"}) {
@@ -307,14 +307,14 @@ TEST_F(SettingsOnPages, ASlideShowHasOnlyTheFieldsItUses) {
   EXPECT_FALSE(Shown("comboGallerySlideShowStartOverWith"));
 }
 
-TEST_F(SettingsOnPages, KeptSizesHideTheSizeFields) {
+TEST_F(SettingsOnPages, KeepingTheSizeHidesTheSizeFields) {
   harness.GoTo(Wrappers);
   EXPECT_TRUE(Shown("frmImageWrapperImageSettingsSub"));
   ClickOn(Wrappers, "checkImageWrapperImageKeepSize");
   EXPECT_FALSE(Shown("frmImageWrapperImageSettingsSub"));
 }
 
-TEST_F(SettingsOnPages, SizesInPercentAreNamedSo) {
+TEST_F(SettingsOnPages, SizesInPercentAreLabelledAsPercent) {
   ClickOn(Wrappers, "checkImageWrapperImageSizesInPercent");
   EXPECT_EQ(Text("lblImageWrapperImageWidth"), "Width (%)");
   EXPECT_EQ(Text("lblImageWrapperImageHeight"), "Height (%)");
@@ -322,7 +322,7 @@ TEST_F(SettingsOnPages, SizesInPercentAreNamedSo) {
   EXPECT_EQ(Text("lblImageWrapperImageWidth"), "Width (Pixels)");
 }
 
-TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexWhileItsTextsFollowThePlacement) {
+TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexAndItsTextsFollowThePlacement) {
   ClickOn(Captions, "checkCaptionsImagesRegular");
   auto& alignment = Find<QComboBox>(*harness.window, "comboCaptionsImagesRegularAlignment");
   EXPECT_EQ(alignment.currentText(), "align right");
@@ -334,7 +334,7 @@ TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexWhileItsTextsFollowThePlacement)
   EXPECT_EQ(settings.comboCaptionsImagesRegularAlignment, 2);
 }
 
-TEST_F(SettingsOnPages, RowsAndColumnsRecountThePages) {
+TEST_F(SettingsOnPages, RowsAndColumnsUpdateThePageCount) {
   for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) harness.AddPhotograph(name);
   harness.GoTo(Thumbnails);
   EXPECT_EQ(Text("lblThumbnailsPageCount"), "3 Images on 1 Pages");
@@ -355,7 +355,7 @@ TEST_F(SettingsOnPages, ATableColorIsChosenInTheColorDialog) {
   EXPECT_EQ(Find<ColorButton>(*harness.window, "btnThumbnailsTableBGColor").GetColor(), 0x123456U);
 }
 
-TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {
+TEST_F(SettingsOnPages, ABackdropIsChosenInTheFileDialog) {
   struct Row {
     Page page;
     const char* button;
@@ -393,7 +393,7 @@ TEST_F(SettingsOnPages, ATypedNativePathBecomesPathTextWhenTheBoxIsLeft) {
   EXPECT_EQ(settings.textImageWrapperBackdrop, "relative.gif");
 }
 
-TEST_F(SettingsOnPages, LabelsSayWhatANumberMeans) {
+TEST_F(SettingsOnPages, LabelsShowTheUnitsOfNumbers) {
   EXPECT_EQ(Text("lblSeconds"), "Seconds");
   EXPECT_EQ(Text("lblSlideShowDelaySeconds"), "Seconds");
   EXPECT_EQ(Text("lblPageLinksThumbnailLinks"), "Links");
@@ -402,7 +402,7 @@ TEST_F(SettingsOnPages, LabelsSayWhatANumberMeans) {
   EXPECT_EQ(Text("lblThumbnailsTableNoBGColor"), "(no color used)");
 }
 
-TEST_F(SettingsOnPages, ThumbnailSettingsStayWithoutWrappers) {
+TEST_F(SettingsOnPages, ThumbnailSettingsStayVisibleWithoutWrapperPages) {
   ClickOn(Wrappers, "checkImageWrapperUse");
   harness.GoTo(Captions);
   EXPECT_TRUE(Shown("frmCaptionsThumbnails"));
@@ -426,7 +426,7 @@ std::string RuledControls(QWidget& window) {
   return told;
 }
 
-TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
+TEST_F(SettingsOnPages, ANewProjectAppliesEveryRuleWhateverTheOldProjectHad) {
   const auto before = RuledControls(*harness.window);
   for (const char* box :
        {"checkImageWrapperSetColors", "checkImageWrapperImageKeepAspectRatio", "checkImageWrapperImageKeepSize"}) {

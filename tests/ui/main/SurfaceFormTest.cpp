@@ -1,4 +1,4 @@
-// On a system without drive letters a user with the usual drives sees none, anywhere in the window.
+// On a system without drive letters, a user with the usual drives sees none anywhere in the window.
 #include "env/PathText.h"
 #include "tests/ui/MainWindowHarness.h"
 #include "ui/files/frmBrowseForFolder.h"
@@ -27,7 +27,7 @@ void AddItems(QStringList& texts, const QAbstractItemModel& model, const QModelI
   }
 }
 
-/// All that can be read of a window and its controls, hidden ones too.
+/// All texts of a window and its controls, including hidden ones.
 QStringList TextsOf(QWidget& window) {
   QStringList texts;
   QList<QWidget*> controls = window.findChildren<QWidget*>();
@@ -107,7 +107,7 @@ class SurfaceForm : public testing::Test {
   static inline QStringList seen;
 };
 
-TEST_F(SurfaceForm, NoControlOfTheMainWindowShowsALetter) {
+TEST_F(SurfaceForm, NoControlOfTheMainWindowShowsADriveLetter) {
   seen.clear();
   Start();
   Walk(*harness.window);
@@ -118,7 +118,7 @@ TEST_F(SurfaceForm, NoControlOfTheMainWindowShowsALetter) {
   EXPECT_TRUE(seen.contains("/srv/d/page.gif"));
 }
 
-TEST_F(SurfaceForm, NoDialogShowsALetter) {
+TEST_F(SurfaceForm, NoDialogShowsADriveLetter) {
   seen.clear();
   Start();
   WalkOnClick(0, "btnGalleryInfo");
@@ -144,7 +144,7 @@ TEST_F(SurfaceForm, NoDialogShowsALetter) {
   for (const char* path : {"/srv/first off.gif", "/usr/bin/fox"}) EXPECT_TRUE(seen.contains(path)) << path;
 }
 
-TEST_F(SurfaceForm, NoFileOrFolderWindowShowsALetter) {
+TEST_F(SurfaceForm, NoFileOrFolderWindowShowsADriveLetter) {
   seen.clear();
   frmFileBrowser files(harness.paths, harness.boxes, harness.files);
   const auto open = [&] {
@@ -156,7 +156,7 @@ TEST_F(SurfaceForm, NoFileOrFolderWindowShowsALetter) {
   WalkModal([&] { std::ignore = folders.BrowseForFolder("Select Source Folder", "C:\\a\\b"); });
 }
 
-TEST_F(SurfaceForm, NoMessageShowsALetter) {
+TEST_F(SurfaceForm, NoMessageShowsADriveLetter) {
   Start();
   std::filesystem::remove(harness.folder.Path() / "a/b/c/one.jpg");
   EXPECT_FALSE(harness.model->Images().AddFile("C:\\a\\b\\c\\one.jpg"));

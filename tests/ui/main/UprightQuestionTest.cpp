@@ -9,8 +9,8 @@ using fakes::Click;
 
 class UprightQuestionOnThePage : public testing::Test {
  protected:
-  /// Adds a photograph that is stored lying, with a file window that a click opens.
-  void AddLying(const std::string& name, int orientation = 6) {
+  /// Clicks the button that adds files, and chooses a photograph that must be turned.
+  void AddTurned(const std::string& name, int orientation = 6) {
     const auto file = harness.folder.Write("p/" + name, fakes::WithOrientation(fakes::MakeJpeg({}), orientation));
     harness.browser.answer = {
         .result = name, .folder = harness.paths.ToText(file.parent_path()) + "\\", .names = {name}};
@@ -20,29 +20,29 @@ class UprightQuestionOnThePage : public testing::Test {
   fakes::ImagesPageHarness harness;
 };
 
-TEST_F(UprightQuestionOnThePage, WhenPhotographsThatLieAreAddedTheUserIsAskedOnceWhetherToTurnThem) {
+TEST_F(UprightQuestionOnThePage, WhenPhotographsThatMustBeTurnedAreAddedTheUserIsAskedOnce) {
   const auto asked = [this](std::size_t times) {
     return QTest::qWaitFor([&] { return harness.boxes.boxes.size() == times; }, 10000);
   };
   harness.boxes.answers = {env::BoxAnswer::No};
-  AddLying("a.jpg");
+  AddTurned("a.jpg");
   ASSERT_TRUE(asked(1));
   EXPECT_EQ(harness.boxes.boxes[0].title, "Photographs on their Side");
   EXPECT_EQ(harness.project.settings.checkImagesUpright, 0);
-  AddLying("b.jpg");
+  AddTurned("b.jpg");
   QTest::qWait(300);
   EXPECT_EQ(harness.boxes.boxes.size(), 1U);
 
   harness.operations.RemoveAll();
   harness.boxes.boxes.clear();
   harness.page->FollowProject();  // another project
-  AddLying("c.jpg");
+  AddTurned("c.jpg");
   ASSERT_TRUE(asked(1));
   EXPECT_EQ(harness.project.settings.checkImagesUpright, 1);
   EXPECT_TRUE(harness.project.IsModified);
 }
 
-TEST_F(UprightQuestionOnThePage, PhotographsOfAnAddedFolderAreLookedAtToo) {
+TEST_F(UprightQuestionOnThePage, PhotographsOfAnAddedFolderAreExaminedToo) {
   harness.folder.Write("q/a.jpg", fakes::MakeJpeg({}));
   harness.folder.Write("q/b.jpg", fakes::WithOrientation(fakes::MakeJpeg({}), 3));
   harness.folders = {harness.paths.ToText(harness.folder.Path() / "q")};
@@ -51,15 +51,15 @@ TEST_F(UprightQuestionOnThePage, PhotographsOfAnAddedFolderAreLookedAtToo) {
   EXPECT_EQ(harness.project.settings.checkImagesUpright, 1);
 }
 
-TEST_F(UprightQuestionOnThePage, NothingIsAskedAboutPhotographsThatStand) {
-  AddLying("a.jpg", 1);
-  AddLying("b.jpg", 9);
+TEST_F(UprightQuestionOnThePage, NothingIsAskedAboutUprightPhotographs) {
+  AddTurned("a.jpg", 1);
+  AddTurned("b.jpg", 9);
   QTest::qWait(300);
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(UprightQuestionOnThePage, TheQuestionAboutPhotographsThatLieWaitsWhileTheWindowIsBusy) {
-  AddLying("a.jpg");
+TEST_F(UprightQuestionOnThePage, TheQuestionWaitsWhileTheWindowIsBusy) {
+  AddTurned("a.jpg");
   harness.page->setEnabled(false);
   QTest::qWait(300);
   EXPECT_TRUE(harness.boxes.boxes.empty());

@@ -75,7 +75,7 @@ TEST_P(WindowToServer, APublishedGalleryEqualsTheCreatedOne) {
   EXPECT_TRUE(harness.window->isEnabled());
 }
 
-TEST_P(WindowToServer, AFolderIsUploadedWithAllItHolds) {
+TEST_P(WindowToServer, AFolderIsUploadedWithAllItsContents) {
   harness.folder.Write("site/index.htm", "index");
   harness.folder.Write("site/sub/deep/x.txt", "x");
   DriveModal([&] { harness.Trigger("menuActionsCreate"); },
@@ -107,7 +107,7 @@ class WindowToEncryptedServer : public WindowToServer {
                               Click(publish, "checkEncrypted");
                               Click(publish, "OKButton");
                             });
-                 PasswordAndGo(create);
+                 TypePasswordAndStart(create);
                });
   }
   /// Publishes to the server as it is in the list.
@@ -115,10 +115,10 @@ class WindowToEncryptedServer : public WindowToServer {
     DriveModal([&] { harness.Trigger("menuActionsCreate"); },
                [&](QWidget& create) {
                  Click(create, "optionUploadGallery");
-                 PasswordAndGo(create);
+                 TypePasswordAndStart(create);
                });
   }
-  void PasswordAndGo(QWidget& create) {
+  void TypePasswordAndStart(QWidget& create) {
     Type(Find<QLineEdit>(create, "textPublishPassword"), ToQt(server.Password()));
     Click(create, "OKButton");
   }
@@ -149,7 +149,7 @@ class ServerWithPassword : public WindowToServer {};
 INSTANTIATE_TEST_SUITE_P(To, ServerWithPassword, testing::Values(FtpServerKind::Proftpd),
                          [](const auto&) { return "ProFTPD"; });
 
-TEST_P(ServerWithPassword, AWrongPasswordFailsWithALogThatCanBeReadAndAWindowToClose) {
+TEST_P(ServerWithPassword, AWrongPasswordFailsWithAReadableLogAndAWindowToClose) {
   // A failed run's window stays open until its button, now "&Close", is pressed.
   QTimer closer;
   int shown = 0;

@@ -38,7 +38,7 @@ class ImagesPage : public testing::Test {
                });
   }
   /// Adds more images than fit in the visible list.
-  void FillWithMany() {
+  void AddManyImages() {
     for (int i = 0; i < 200; ++i)
       images.Insert(1, {.ImageName = "x",
                         .SourcePath = {},
@@ -54,7 +54,7 @@ class ImagesPage : public testing::Test {
 
 // Display
 
-TEST_F(ImagesPage, TheListHasTheNamesAndTheFiles) {
+TEST_F(ImagesPage, TheListHasNamesAndSources) {
   harness.AddAll({"a.jpg", "ü.jpg"});
   const QAbstractItemModel& model = *harness.list->model();
   ASSERT_EQ(model.rowCount(), 2);
@@ -71,7 +71,7 @@ TEST_F(ImagesPage, TheSortingOrdersAreThoseOfTheField) {
   EXPECT_EQ(combo.currentText(), "unsorted");
 }
 
-TEST_F(ImagesPage, EveryButtonCanBeReachedAndTellsWhatItDoes) {
+TEST_F(ImagesPage, EveryButtonCanBeFocusedAndHasAToolTip) {
   for (const char* name : {"btnImagesAddFiles", "btnImagesAddFolder", "btnImagesRemove", "btnImagesRemoveAll",
                            "btnImagesRename", "btnImagesDescriptions", "btnImagesFilters", "btnImagesWatermark",
                            "btnImagesMoveUp", "btnImagesMoveDown", "btnImagesFind", "btnImagesShuffle"}) {
@@ -82,7 +82,7 @@ TEST_F(ImagesPage, EveryButtonCanBeReachedAndTellsWhatItDoes) {
   }
 }
 
-TEST_F(ImagesPage, AListThatChangesUnnoticedIsDrawnSafely) {
+TEST_F(ImagesPage, AListThatChangesBeforeItIsRefreshedIsPaintedSafely) {
   harness.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   images.Remove(1);
   EXPECT_EQ(harness.ShownText(2), "");
@@ -94,7 +94,7 @@ TEST_F(ImagesPage, AListThatChangesUnnoticedIsDrawnSafely) {
 
 // Selection and current row
 
-TEST_F(ImagesPage, RowsThatTheUserSelectsAreSelectedInTheList) {
+TEST_F(ImagesPage, RowsSelectedByTheUserAreSelectedInTheList) {
   harness.AddAll({"a.jpg", "b.jpg", "c.jpg", "d.jpg"});
   harness.ClickRow(1);
   EXPECT_EQ(harness.Selected(), (Positions{2}));
@@ -121,7 +121,7 @@ TEST_F(ImagesPage, RefreshShowsTheSelectionAndTheCurrentRowOfTheList) {
   EXPECT_FALSE(harness.list->currentIndex().isValid());
 }
 
-TEST_F(ImagesPage, ChangesMadeByTheListAreNotTakenForTheUsers) {
+TEST_F(ImagesPage, ChangesMadeByTheListAreNotTreatedAsTheUsers) {
   harness.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   const QSignalSpy told(harness.list, &ImageListView::CurrentRowChanged);
   harness.MakeCurrent(3);
@@ -133,7 +133,7 @@ TEST_F(ImagesPage, ChangesMadeByTheListAreNotTakenForTheUsers) {
   EXPECT_EQ(told.count(), 0);
 }
 
-TEST_F(ImagesPage, AnotherCurrentRowIsReportedOnce) {
+TEST_F(ImagesPage, ANewCurrentRowIsReportedOnce) {
   harness.AddAll({"a.jpg", "b.jpg", "c.jpg"});
   harness.MakeCurrent(1);
   int told = 0;
@@ -174,7 +174,7 @@ TEST_F(ImagesPage, WithoutACurrentRowThePreviewIsEmpty) {
   EXPECT_EQ(Size(), "");
 }
 
-TEST_F(ImagesPage, SwitchingThePreviewOffDoesNotModifyTheProject) {
+TEST_F(ImagesPage, TurningThePreviewOffDoesNotModifyTheProject) {
   harness.AddAll({"a.jpg"});
   harness.ClickRow(0);
   ASSERT_TRUE(PreviewShows());
@@ -213,7 +213,7 @@ TEST_F(ImagesPage, ADoubleClickAndEnterAskForTheFullScreen) {
 
 // Images that cannot be decoded
 
-TEST_F(ImagesPage, AnImageThatDoesNotDecodeIsAskedAbout) {
+TEST_F(ImagesPage, AnImageThatCannotBeDecodedIsAskedAbout) {
   harness.Add("bad.jpg", "no picture");
   harness.page->RefreshList();
   harness.ClickRow(0);
@@ -227,7 +227,7 @@ TEST_F(ImagesPage, AnImageThatDoesNotDecodeIsAskedAbout) {
   EXPECT_EQ(images.Count(), 1U);
 }
 
-TEST_F(ImagesPage, RetryShowsAFileThatHasBeenMended) {
+TEST_F(ImagesPage, RetryShowsARepairedFile) {
   harness.Add("bad.jpg", "no picture");
   harness.page->RefreshList();
   harness.ClickRow(0);
@@ -238,7 +238,7 @@ TEST_F(ImagesPage, RetryShowsAFileThatHasBeenMended) {
   EXPECT_TRUE(PreviewShows());
 }
 
-TEST_F(ImagesPage, RemoveTakesTheImageAwayAndShowsTheNext) {
+TEST_F(ImagesPage, RemoveRemovesTheImageAndShowsTheNext) {
   harness.Add("bad.jpg", "no picture");
   harness.AddAll({"good.jpg"});
   harness.ClickRow(0);
@@ -273,12 +273,12 @@ TEST_F(ImagesPage, TheButtonAndTheInsertKeyAddFiles) {
   EXPECT_EQ(harness.ShownText(1), "a.jpg_1");
   EXPECT_EQ(harness.preferences.ImageSourceFolder, folder);
   EXPECT_EQ(told, 2);
-  EXPECT_EQ(harness.ShownAsSelected(), (Positions{1})) << "the first of those that came when no row was current";
+  EXPECT_EQ(harness.ShownAsSelected(), (Positions{1})) << "the first added image, since no row was current";
   EXPECT_EQ(harness.list->currentIndex().row(), 0);
   EXPECT_TRUE(PreviewShows());
 }
 
-TEST_F(ImagesPage, FoldersAreAddedUnderAWindowThatTellsHowFarItIs) {
+TEST_F(ImagesPage, FoldersAreAddedWithAProgressWindow) {
   harness.folder.Write("p/b.jpg", fakes::MakeJpeg({}));
   harness.folder.Write("p/a.jpg", fakes::MakeJpeg({}));
   harness.folders = {harness.paths.ToText(harness.folder.Path() / "p")};
@@ -309,7 +309,7 @@ TEST_F(ImagesPage, AddingFoldersCanBeStopped) {
   EXPECT_FALSE(harness.project.IsModified);
 }
 
-TEST_F(ImagesPage, NoFolderNoWalk) {
+TEST_F(ImagesPage, WithoutAFolderThereIsNoWalk) {
   Click(*harness.page, "btnImagesAddFolder");
   EXPECT_EQ(harness.loop.turns, 0);
   EXPECT_EQ(harness.preferences.ImageSourceFolder, "");
@@ -342,7 +342,7 @@ TEST_F(ImagesPage, DeleteRemovesRowAfterRowWithoutSelecting) {
   EXPECT_TRUE(harness.list->selectionModel()->selectedRows().empty());
 }
 
-TEST_F(ImagesPage, AllAreRemovedOnlyAfterAQuestion) {
+TEST_F(ImagesPage, AllImagesAreRemovedOnlyAfterConfirmation) {
   harness.AddAll({"a.jpg", "b.jpg"});
   harness.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Click(*harness.page, "btnImagesRemoveAll");
@@ -367,7 +367,7 @@ TEST_F(ImagesPage, TheSelectedImagesMoveUpAndDown) {
 }
 
 TEST_F(ImagesPage, AMovedImageIsScrolledIntoView) {
-  FillWithMany();
+  AddManyImages();
   harness.page->RefreshList();
   images.Select(150);
   Click(*harness.page, "btnImagesMoveUp");
@@ -413,7 +413,7 @@ TEST_F(ImagesPage, MovingEndsTheSorting) {
 
 // Dialogs
 
-TEST_F(ImagesPage, RenameGivesTheCurrentImageAName) {
+TEST_F(ImagesPage, RenameChangesTheNameOfTheCurrentImage) {
   harness.AddAll({"a.jpg", "b.jpg"});
   harness.MakeCurrent(2);
   DriveModal([&] { Click(*harness.page, "btnImagesRename"); },
@@ -426,18 +426,18 @@ TEST_F(ImagesPage, RenameGivesTheCurrentImageAName) {
   EXPECT_EQ(harness.ShownText(1), "High_Alps");
 }
 
-TEST_F(ImagesPage, RenameIsThereWhileAnImageIsCurrent) {
+TEST_F(ImagesPage, RenameIsEnabledWhileAnImageIsCurrent) {
   const auto& button = Find<QPushButton>(*harness.page, "btnImagesRename");
   EXPECT_FALSE(button.isEnabled());
   harness.AddAll({"a.jpg"});
-  EXPECT_FALSE(button.isEnabled()) << "there is a row, but none is current";
+  EXPECT_FALSE(button.isEnabled()) << "no row is current";
   harness.ClickRow(0);
   EXPECT_TRUE(button.isEnabled());
   QTest::keyClick(harness.list, Qt::Key_Delete);
   EXPECT_FALSE(button.isEnabled());
 }
 
-TEST_F(ImagesPage, RenameCanNameAllImagesOrNone) {
+TEST_F(ImagesPage, RenameCanRenameAllImagesOrNone) {
   harness.AddAll({"a.jpg", "b.jpg"});
   harness.MakeCurrent(1);
   DriveModal([&] { Click(*harness.page, "btnImagesRename"); },
@@ -457,7 +457,7 @@ TEST_F(ImagesPage, RenameCanNameAllImagesOrNone) {
   EXPECT_EQ(harness.Names(), (Names{"x", "x_1"}));
 }
 
-TEST_F(ImagesPage, ACancelledDialogIsNotAnOperation) {
+TEST_F(ImagesPage, ACancelledDialogChangesNothing) {
   harness.AddAll({"a.jpg"});
   harness.MakeCurrent(1);
   const QSignalSpy operations(harness.page.get(), &frmImages::ListChanged);
@@ -477,7 +477,7 @@ TEST_F(ImagesPage, AnEmptyListIsNotRenamedAndNotSearched) {
   EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(ImagesPage, FindMakesTheImageOfThatNameTheCurrentOne) {
+TEST_F(ImagesPage, FindMakesTheImageWithThatNameCurrent) {
   harness.AddAll({"a.jpg", "b_c.jpg"});
   harness.ClickRow(0);
   DriveModal([&] { Click(*harness.page, "btnImagesFind"); },
@@ -488,11 +488,11 @@ TEST_F(ImagesPage, FindMakesTheImageOfThatNameTheCurrentOne) {
              });
   EXPECT_EQ(images.Current(), 2U);
   EXPECT_EQ(harness.list->currentIndex().row(), 1);
-  EXPECT_EQ(harness.ShownAsSelected(), (Positions{2})) << "what was selected before is not";
+  EXPECT_EQ(harness.ShownAsSelected(), (Positions{2})) << "the old selection is cleared";
   EXPECT_TRUE(PreviewShows());
 }
 
-TEST_F(ImagesPage, FindTellsWhatIsNotThereAndKeepsTheText) {
+TEST_F(ImagesPage, FindReportsAMissingNameAndKeepsTheText) {
   harness.AddAll({"a.jpg"});
   DriveModal([&] { Click(*harness.page, "btnImagesFind"); },
              [](QWidget& dialog) {
@@ -509,7 +509,7 @@ TEST_F(ImagesPage, FindTellsWhatIsNotThereAndKeepsTheText) {
   EXPECT_EQ(harness.boxes.boxes.size(), 1U);
 }
 
-TEST_F(ImagesPage, ShuffleKeepsTheImagesAndMakesTheFirstOneCurrent) {
+TEST_F(ImagesPage, ShuffleKeepsTheImagesAndMakesTheFirstCurrent) {
   Names names;
   for (int i = 0; i < 200; ++i) names.push_back(std::to_string(i));
   for (const std::string& name : names)
@@ -538,7 +538,7 @@ TEST_F(ImagesPage, ShuffleKeepsTheImagesAndMakesTheFirstOneCurrent) {
 }
 
 TEST_F(ImagesPage, AShuffleCanBeStopped) {
-  FillWithMany();
+  AddManyImages();
   harness.preferences.checkImagesPreview = 0;
   harness.page->RefreshList();
   harness.loop.onTurn = [&](int) { Click(Find<QDialog>(*harness.page, "frmShuffle"), "OKButton"); };
@@ -546,7 +546,7 @@ TEST_F(ImagesPage, AShuffleCanBeStopped) {
   EXPECT_EQ(harness.loop.turns, 1);
 }
 
-TEST_F(ImagesPage, AShuffleThatIsNotWantedDoesNothing) {
+TEST_F(ImagesPage, AShuffleThatIsNotConfirmedDoesNothing) {
   harness.AddAll({"a.jpg", "b.jpg"});
   harness.boxes.answers = {env::BoxAnswer::No};
   Click(*harness.page, "btnImagesShuffle");

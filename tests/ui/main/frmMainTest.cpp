@@ -102,7 +102,7 @@ TEST_F(MainWindow, HasItsMenus) {
   EXPECT_EQ(bar, (Entries{"&File", "&Actions", "&Options", "&Help"}));
 }
 
-TEST_F(MainWindow, TheLinesOfItsMenusHaveNames) {
+TEST_F(MainWindow, MenuSeparatorsHaveNames) {
   harness.Start();
   const std::pair<const char*, Entries> menus[] = {{"menuFile", {"menuFileSeparator1", "menuFileSeparator2"}},
                                                    {"menuOptions", {"menuOptionsSeparator", "menuOptionsSeparator2"}},
@@ -116,7 +116,7 @@ TEST_F(MainWindow, TheLinesOfItsMenusHaveNames) {
   }
 }
 
-TEST_F(MainWindow, TheEntriesForPhotographsAreSettingsOfTheProject) {
+TEST_F(MainWindow, TheEntriesForPhotographCorrectionsAreSettingsOfTheProject) {
   harness.Start();
   const auto checked = [this](const char* name) { return harness.window->findChild<QAction*>(name)->isChecked(); };
   EXPECT_FALSE(checked("menuOptionsUpright") || checked("menuOptionsTrueColors"));
@@ -151,7 +151,7 @@ TEST_F(MainWindow, ThePreviewFollowsTheEntryForUprightPhotographs) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return preview.Picture().size() == QSize(48, 64); }, 10000));
 }
 
-TEST_F(MainWindow, TheMenuForTextFieldsPutsTagsWhereTheKeyboardIs) {
+TEST_F(MainWindow, TheMenuForTextFieldsInsertsTagsAtTheFocus) {
   harness.Start();
   const auto& menu = Find<QMenu>(*harness.window, "menuPopupText");
   EXPECT_EQ(EntriesOf(menu), Entries{"Insert &Vantorium Tag"});
@@ -167,7 +167,7 @@ TEST_F(MainWindow, TheMenuForTextFieldsPutsTagsWhereTheKeyboardIs) {
   EXPECT_EQ(title.text(), "a <VANTORIUM_IMAGE_COUNT>");
   Find<QTabWidget>(*harness.window, "tsMain").setFocus();
   tags.actions()[4]->trigger();
-  EXPECT_EQ(title.text(), "a <VANTORIUM_IMAGE_COUNT>") << "no text field has the keyboard";
+  EXPECT_EQ(title.text(), "a <VANTORIUM_IMAGE_COUNT>") << "no text field has the focus";
 }
 
 TEST_F(MainWindow, HasItsToolBar) {
@@ -193,7 +193,7 @@ TEST_F(MainWindow, ListsTheBrowsersOfThePreferences) {
   EXPECT_EQ(EntriesOf(Find<QMenu>(*harness.window, "menuActionsView"))[2], "...in One");
 }
 
-TEST_F(MainWindow, PreferencesThatCannotBeReadAreReportedOnceAtTheStart) {
+TEST_F(MainWindow, UnreadablePreferencesAreReportedOnceAtTheStart) {
   harness.Start();
   EXPECT_TRUE(harness.boxes.boxes.empty());
   const auto file = harness.folder.Path() / "program/vantorium.ini";
@@ -275,7 +275,7 @@ TEST_F(MainWindow, AsksBeforeChangesAreLost) {
   EXPECT_TRUE(harness.window->isVisible());
   harness.boxes.answers = {env::BoxAnswer::Yes};
   ChooseFile("");
-  EXPECT_FALSE(harness.window->close()) << "a save that was not done keeps the program open";
+  EXPECT_FALSE(harness.window->close()) << "a cancelled save keeps the program open";
   harness.boxes.answers = {env::BoxAnswer::Yes};
   ChooseFile("T:\\x.gpj");
   EXPECT_TRUE(harness.window->close());
@@ -283,7 +283,7 @@ TEST_F(MainWindow, AsksBeforeChangesAreLost) {
   EXPECT_NE(harness.folder.Read("x.gpj").find("TITLE=\"x\""), std::string::npos);
 }
 
-TEST_F(MainWindow, NoToTheQuestionClosesWithoutSaving) {
+TEST_F(MainWindow, AnsweringNoClosesWithoutSaving) {
   harness.Start();
   ChangeTitle("x");
   harness.boxes.answers = {env::BoxAnswer::No};
@@ -291,7 +291,7 @@ TEST_F(MainWindow, NoToTheQuestionClosesWithoutSaving) {
   EXPECT_TRUE(harness.fileBrowser.requests.empty());
 }
 
-TEST_F(MainWindow, RemembersFoldersAndThePreviewSwitch) {
+TEST_F(MainWindow, RemembersFoldersAndWhetherThePreviewIsOn) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   ChooseFile("T:\\sub\\a.gpj");
@@ -306,7 +306,7 @@ TEST_F(MainWindow, RemembersFoldersAndThePreviewSwitch) {
   EXPECT_EQ(harness.model->CurrentPreferences().GalleryIndexFileName, "index.htm");
 }
 
-TEST_F(MainWindow, ClearsTheTemporaryFolderOnExitWhenItIsToldTo) {
+TEST_F(MainWindow, ClearsTheTemporaryFolderOnExitIfSet) {
   for (const std::int16_t clear : {std::int16_t{0}, std::int16_t{1}}) {
     harness.folder.Write(
         "program/vantorium.ini",
@@ -355,7 +355,7 @@ TEST_F(MainWindow, BrowsersAreEditedAndWritten) {
   EXPECT_EQ(Status(), "");
 }
 
-TEST_F(MainWindow, TheEntryThatAsksForTheBrowsersOutlivesItsMenusRebuild) {
+TEST_F(MainWindow, TheEntryThatOpensTheBrowserListSurvivesTheRebuildOfItsMenu) {
   harness.Start();
   for (const char* name : {"tbMainViewDropDown", "menuActionsView"}) {
     auto& menu = Find<QMenu>(*harness.window, name);
@@ -364,13 +364,13 @@ TEST_F(MainWindow, TheEntryThatAsksForTheBrowsersOutlivesItsMenusRebuild) {
     menu.setActiveAction(entry);
     DriveModal([&] { QTest::keyClick(&menu, Qt::Key_Return); },
                [](QWidget& list) { EXPECT_EQ(list.objectName(), "frmBrowserList"); });
-    EXPECT_NE(entry, nullptr) << name << " is still at work on its key";
+    EXPECT_NE(entry, nullptr) << name << " is still handling its key";
     EXPECT_NE(menu.actions().back(), entry) << name;
     EXPECT_EQ(EntriesOf(menu).back(), "Available Browsers...") << name;
   }
 }
 
-TEST_F(MainWindow, DisablingItKeepsTheFocus) {
+TEST_F(MainWindow, DisablingTheWindowKeepsTheFocus) {
   harness.Start();
   auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");
   for (const char* command : {"menuFileSave", "menuOptionsClearTempFolder"}) {
@@ -415,7 +415,7 @@ TEST_F(MainWindow, AListedBrowserIsStartedWithThePreview) {
   }
 }
 
-TEST_F(MainWindow, AGalleryIsCreatedWhereTheDialogSays) {
+TEST_F(MainWindow, AGalleryIsCreatedInTheChosenPlace) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   DriveModal([&] { harness.Trigger("menuActionsCreate"); },
@@ -438,7 +438,7 @@ TEST_F(MainWindow, ACancelledDialogCreatesNothing) {
   EXPECT_FALSE(std::filesystem::exists(harness.folder.Path() / "gallery"));
 }
 
-TEST_F(MainWindow, HelpIsOpenedFromTheFilesOfTheProgram) {
+TEST_F(MainWindow, HelpIsOpenedFromTheBundledFiles) {
   harness.Start();
   harness.Trigger("menuHelpOnlineHelp");
   EXPECT_EQ(harness.TitleOfLastBox(), "File Error");
@@ -447,7 +447,7 @@ TEST_F(MainWindow, HelpIsOpenedFromTheFilesOfTheProgram) {
   EXPECT_EQ(harness.shell.opened, (Entries{"T:\\data\\help\\index.html"}));
 }
 
-TEST_F(MainWindow, AboutTellsTheVersion) {
+TEST_F(MainWindow, AboutShowsTheVersion) {
   harness.Start();
   QString version;
   DriveModal([&] { harness.Trigger("menuHelpAbout"); },
@@ -455,7 +455,7 @@ TEST_F(MainWindow, AboutTellsTheVersion) {
   EXPECT_EQ(version, "Version 3.0 (Build 1)");
 }
 
-TEST_F(MainWindow, DescriptionsFollowTheListAndComeWithASave) {
+TEST_F(MainWindow, DescriptionsFollowTheListAndAreSaved) {
   harness.Start();
   harness.AddPhotograph("a.jpg");
   harness.AddPhotograph("b.jpg");
@@ -475,7 +475,7 @@ TEST_F(MainWindow, DescriptionsFollowTheListAndComeWithASave) {
   EXPECT_FALSE(tool.isVisible());
 }
 
-TEST_F(MainWindow, PlacementsInTheOpenDescriptionsWindowAreSavedBeforeAnotherProjectComes) {
+TEST_F(MainWindow, PlacementsOfTheOpenDescriptionsWindowAreSavedBeforeAnotherProjectIsOpened) {
   for (const char* leave : {"menuFileNew", "menuFileOpen"}) {
     harness.Start();
     harness.fileBrowser.answer = {"T:\\saved.gpj", "T:\\", {"T:\\saved.gpj"}};
@@ -511,7 +511,7 @@ TEST_F(MainWindow, FitsASmallScreen) {
   EXPECT_EQ(harness.window->size(), before);
 }
 
-TEST_F(MainWindow, EveryControlHasANameForThoseWhoCannotSeeIt) {
+TEST_F(MainWindow, EveryControlHasAnAccessibleName) {
   harness.Start();
   for (const QWidget* control : harness.window->findChildren<QWidget*>()) {
     const bool takesFocus = (control->focusPolicy() & Qt::TabFocus) != 0 && !control->objectName().startsWith("qt_");
