@@ -64,7 +64,7 @@ void CheckXml(const std::string& bytes) {
   const auto text = core::DecodeXml(bytes);
   core::XmlFile file;
   const bool parsed = file.Parse(bytes);
-  fuzz::Require(parsed == (text && core::IsWellFormedXml(*text)), "what is well-formed is parsed, and nothing else");
+  fuzz::Require(parsed == (text && core::IsWellFormedXml(*text)), "exactly the well-formed documents are parsed");
   if (!parsed) return;
   std::size_t nodes = 0;
   for (auto node = file.Root(); node; node = core::NextInDocument(node, file.Root())) ++nodes;
@@ -78,11 +78,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string input = fuzz::InputText(data, size);
   CheckXml(input);
   if (!trip.Read(input)) {
-    fuzz::Require(!trip.boxes.boxes.empty(), "a project that can't be read gives a box");
+    fuzz::Require(!trip.boxes.boxes.empty(), "a project that cannot be read gives a message box");
     std::ignore = core::ProjectFileText(trip.project, trip.events);  // a partly read project may be saved
     return 0;
   }
-  fuzz::Require(trip.boxes.boxes.empty(), "a project that was read gives no box");
+  fuzz::Require(trip.boxes.boxes.empty(), "a project that was read gives no message box");
   LoseWhatIsNotReadBack(trip.project.settings);
   const std::string images = trip.Images();
   const std::string written = trip.Written();
