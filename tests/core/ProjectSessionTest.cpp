@@ -22,7 +22,7 @@ class ProjectSessionTest : public ::testing::Test {
     project.settings.textGalleryTitle = "Changed";
   }
   /// Saves the project to a file of that name.
-  void GiveItAFile(const std::string& name = "mine.gpj") {
+  void SaveToFile(const std::string& name = "mine.gpj") {
     ASSERT_TRUE(session.SaveProjectTo(harness.PathOf(name)));
     harness.calls.clear();
   }
@@ -218,7 +218,7 @@ TEST_F(ProjectSessionTest, AFailedOpenShowsTwoMessageBoxesAndKeepsTheState) {
 }
 
 TEST_F(ProjectSessionTest, ASaveAfterAFailedOpenAsksForANameAndKeepsTheOldFile) {
-  GiveItAFile();
+  SaveToFile();
   const std::string before = harness.folder.Read("mine.gpj");
   harness.dialog.answers = {harness.File("bad.gpj", ProjectFileParts{.imagePage = "<IMAGEPAGE/>"}.Text())};
   session.OpenProject();
@@ -242,7 +242,7 @@ TEST_F(ProjectSessionTest, OnceTheProjectHasAFileAgainASaveGoesThere) {
     EXPECT_TRUE(session.SaveProject()) << how;
     EXPECT_EQ(harness.dialog.requests.size(), asked) << how;
   };
-  GiveItAFile();
+  SaveToFile();
   harness.dialog.answers = {bad, harness.PathOf("saved.gpj")};
   session.OpenProject();
   EXPECT_TRUE(session.SaveProject());
@@ -351,7 +351,7 @@ TEST_F(ProjectSessionTest, ASavedProjectHasTheChosenFile) {
 }
 
 TEST_F(ProjectSessionTest, ATitledProjectIsSavedToItsFile) {
-  GiveItAFile();
+  SaveToFile();
   Modify();
   EXPECT_TRUE(session.SaveProject());
   EXPECT_EQ(harness.calls, Joined(WriteCalls(harness.PathOf("mine.gpj")), {"enabled", "info hidden", "title bar"}));
@@ -373,7 +373,7 @@ TEST_F(ProjectSessionTest, AFileNameWithoutTheExtensionGetsIt) {
 }
 
 TEST_F(ProjectSessionTest, AFailedSaveIsReportedAndTheProjectStaysModified) {
-  GiveItAFile();
+  SaveToFile();
   Modify();
   project.ProjectFolder = Folder() + "no folder\\";
   EXPECT_FALSE(session.SaveProject());
@@ -393,7 +393,7 @@ TEST_F(ProjectSessionTest, SavingRepairsEmptySettings) {
 }
 
 TEST_F(ProjectSessionTest, SaveAsAsksForANameEvenIfTheProjectHasAFile) {
-  GiveItAFile();
+  SaveToFile();
   harness.dialog.answers = {harness.PathOf("copy.gpj")};
   session.SaveProjectAs();
   EXPECT_EQ(harness.dialog.requests.at(0).fileName, "mine.gpj");
@@ -411,7 +411,7 @@ TEST_F(ProjectSessionTest, SaveAsLeavesAnUntitledProjectUntitled) {
 }
 
 TEST_F(ProjectSessionTest, ACancelledSaveAsRestoresTheState) {
-  GiveItAFile();
+  SaveToFile();
   session.SaveProjectAs();
   EXPECT_EQ(States(), "");
   EXPECT_EQ(project.ProjectFileName, "mine.gpj");

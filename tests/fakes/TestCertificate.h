@@ -7,7 +7,7 @@ namespace vantorium::fakes {
 
 /// A self-signed certificate with its key: a new one each time, valid today unless told otherwise.
 struct TestCertificate {
-  struct Wish {
+  struct Properties {
     std::string commonName = "localhost";
     /// Alternative names, in the syntax of OpenSSL's configuration.
     std::string names = "DNS:localhost,IP:127.0.0.1,IP:::1";
@@ -15,8 +15,8 @@ struct TestCertificate {
     int lastDay = 30;   ///< of validity, in days from today
   };
 
-  explicit TestCertificate(const Wish& wish);
-  TestCertificate() : TestCertificate(Wish()) {}
+  explicit TestCertificate(const Properties& properties);
+  TestCertificate() : TestCertificate(Properties()) {}
 
   std::string certificate;  ///< PEM
   std::string key;          ///< PEM

@@ -21,12 +21,12 @@ class Taker {
           has_.notify_all();
           while (!stop.stop_requested()) std::this_thread::sleep_for(1ms);
         }) {}
-  [[nodiscard]] bool HasSoon() const {
+  [[nodiscard]] bool GetsItSoon() const {
     for (int i = 0; i < 50 && !has_; ++i) std::this_thread::sleep_for(1ms);
     return has_;
   }
   void AwaitShare() const { has_.wait(false); }
-  void GiveBack() {
+  void Release() {
     thread_.request_stop();
     thread_.join();
   }
@@ -48,8 +48,8 @@ TEST(CoefficientBudget, AShareThatDoesNotFitWaitsUntilOthersAreReleased) {
   Taker first(budget, 60);
   first.AwaitShare();
   Taker second(budget, 60);
-  EXPECT_FALSE(second.HasSoon());
-  first.GiveBack();
+  EXPECT_FALSE(second.GetsItSoon());
+  first.Release();
   second.AwaitShare();
 }
 
@@ -58,8 +58,8 @@ TEST(CoefficientBudget, AShareLargerThanTheBudgetIsGrantedAlone) {
   Taker small(budget, 1);
   small.AwaitShare();
   Taker large(budget, 1000);
-  EXPECT_FALSE(large.HasSoon());
-  small.GiveBack();
+  EXPECT_FALSE(large.GetsItSoon());
+  small.Release();
   large.AwaitShare();
 }
 
@@ -67,8 +67,8 @@ TEST(CoefficientBudget, AStopRequestEndsTheWait) {
   CoefficientBudget budget(100);
   const auto whole = budget.Take(100, {});
   Taker waiting(budget, 50);
-  EXPECT_FALSE(waiting.HasSoon());
-  waiting.GiveBack();
+  EXPECT_FALSE(waiting.GetsItSoon());
+  waiting.Release();
 }
 
 }  // namespace

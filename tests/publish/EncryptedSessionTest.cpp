@@ -40,7 +40,7 @@ TEST(EncryptedSession, AServerThatDoesNotEncryptFilesGetsNoUserName) {
     EncryptedSession session(Saying(verb, "536 No\r\n"));
     EXPECT_FALSE(session.Connect());
     EXPECT_EQ(session.Problem(), "The server \"127.0.0.1\" offers no encryption for files (PROT P).");
-    EXPECT_FALSE(session.HasSaidASecret());
+    EXPECT_FALSE(session.HasSentCredentials());
   }
 }
 
@@ -48,7 +48,7 @@ TEST(EncryptedSession, AServerThatEndsWhileTheUserDecidesIsReported) {
   EncryptedSession session(On("PBSZ", [](Session& server, const std::string&) { server.HangUp(); }));
   EXPECT_FALSE(session.Connect());
   EXPECT_EQ(session.Problem(), "The server \"127.0.0.1\" has ended the connection.");
-  EXPECT_FALSE(session.HasSaidASecret());
+  EXPECT_FALSE(session.HasSentCredentials());
 }
 
 TEST(EncryptedSession, AReplyThatIsNotTlsIsAFailure) {
@@ -60,7 +60,7 @@ TEST(EncryptedSession, AReplyThatIsNotTlsIsAFailure) {
     server.StaySilent();
   }));
   EXPECT_FALSE(session.Connect());
-  EXPECT_FALSE(session.HasSaidASecret());
+  EXPECT_FALSE(session.HasSentCredentials());
   EXPECT_FALSE(session.client.ftp.IsConnected());
   EXPECT_NE(session.Problem(), "");
 }
@@ -76,7 +76,7 @@ TEST(EncryptedSession, VersionsBefore12AreRefused) {
                               }),
                            shown);
   EXPECT_FALSE(session.Connect());
-  EXPECT_FALSE(session.HasSaidASecret());
+  EXPECT_FALSE(session.HasSentCredentials());
 }
 
 TEST(EncryptedSession, AHandshakeCanBeCancelled) {
@@ -110,11 +110,11 @@ TEST(EncryptedSession, AnUnknownCertificateIsShownAndAskedAboutOnce) {
 }
 
 TEST(EncryptedSession, WithoutAnAcceptedCertificateNoUserNameOrPasswordIsSent) {
-  for (const bool somebodyIsThere : {true, false}) {
+  for (const bool hasPrompt : {true, false}) {
     EncryptedSession session;
     session.client.ftp.Options.fingerprint.clear();
     session.prompt.answer = false;
-    if (!somebodyIsThere) session.client.ftp.Certificates = nullptr;
+    if (!hasPrompt) session.client.ftp.Certificates = nullptr;
     EXPECT_FALSE(session.Connect());
     EXPECT_NE(session.Problem().find("is not trusted: self-signed certificate"), std::string::npos)
         << session.Problem();
@@ -146,12 +146,12 @@ TEST(EncryptedSession, TheUserIsNotAskedIfTheSystemTrustsTheCertificate) {
 }
 
 TEST(EncryptedSession, ACertificateForAnotherHostOrTimeIsNotTrusted) {
-  const std::pair<TestCertificate::Wish, const char*> cases[] = {
+  const std::pair<TestCertificate::Properties, const char*> cases[] = {
       {{.names = "DNS:elsewhere.example"}, "hostname mismatch"},
       {{.firstDay = -9, .lastDay = -2}, "certificate has expired"},
       {{.firstDay = 2, .lastDay = 9}, "certificate is not yet valid"}};
-  for (const auto& [wish, doubt] : cases) {
-    const TestCertificate shown(wish);
+  for (const auto& [properties, doubt] : cases) {
+    const TestCertificate shown(properties);
     const SystemCertificate trusted(shown);
     EncryptedSession session({}, shown);
     session.client.ftp.Options.fingerprint.clear();

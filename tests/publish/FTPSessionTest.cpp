@@ -21,7 +21,7 @@ constexpr FTPTimeLimits kShort = {std::chrono::milliseconds(500), std::chrono::m
 /// A client and a scripted server. The client has a file p.jpg that is larger than all buffers between the two.
 class FTPSession {
  public:
-  explicit FTPSession(ScriptedFtpServer::Script script = {}, FTPTimeLimits limits = NoHurry())
+  explicit FTPSession(ScriptedFtpServer::Script script = {}, FTPTimeLimits limits = LongTimeLimits())
       : server(std::move(script)), client(limits), photograph(std::size_t{16} << 20U, 'p') {
     for (std::size_t at = 0; at < photograph.size(); at += 1000) photograph[at] = static_cast<char>('a' + at % 23);
     client.folder.Write("p.jpg", photograph);
@@ -37,7 +37,7 @@ class FTPSession {
   }
   [[nodiscard]] bool Change() { return client.ftp.FTPChangeDirectory("x"); }
 
-  static constexpr FTPTimeLimits NoHurry() { return {std::chrono::seconds(20), std::chrono::seconds(20)}; }
+  static constexpr FTPTimeLimits LongTimeLimits() { return {std::chrono::seconds(20), std::chrono::seconds(20)}; }
 
   ScriptedFtpServer server;
   NetworkClient client;
@@ -292,7 +292,7 @@ TEST(FTPSessionCancel, WhileAWriteWaits) {
   EXPECT_FALSE(session.Copy("p.jpg"));
   EXPECT_TRUE(session.client.cancel.isRequested);
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_EQ(session.server.Files(), Files{}) << "the part is deleted";
+  EXPECT_EQ(session.server.Files(), Files{}) << "the partial file is deleted";
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
       << session.client.window.log;
 }
@@ -302,7 +302,7 @@ TEST(FTPSessionCancel, BeforeABlock) {
   session.LogIn().client.CancelWhen([&] { return session.client.window.percentages.size() == 3; });
   EXPECT_FALSE(session.Copy("p.jpg"));
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_EQ(session.server.Files(), Files{}) << "the part is deleted";
+  EXPECT_EQ(session.server.Files(), Files{}) << "the partial file is deleted";
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
       << session.client.window.log;
 }

@@ -20,7 +20,7 @@ class CorrectedPhotographsTest : public RunFixture {
   }
 
   /// Adds a photograph with each orientation, "1" to "8".
-  void AddLyingPhotographs() {
+  void AddTurnedPhotographs() {
     const std::string profile = fakes::ProfileOf(fakes::TestProfile::DisplayP3);
     const std::string jpeg = fakes::WithProfile(fakes::MakeJpeg({.width = kWidth, .height = kHeight}), profile);
     for (int orientation = 1; orientation <= 8; ++orientation) {
@@ -45,7 +45,7 @@ class CorrectedPhotographsTest : public RunFixture {
 
 TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveUprightSizes) {
   project.settings.checkImagesTrueColors = 0;
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToCreate());
   for (int orientation = 1; orientation <= 8; ++orientation) {
     const std::string file = std::to_string(orientation) + ".jpg";
@@ -57,7 +57,7 @@ TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveUprightSizes
 }
 
 TEST_F(CorrectedPhotographsTest, TheGalleryIsTheSameForEveryNumberOfJobs) {
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToCreate());
   const auto first = Gallery();
   for (const unsigned jobs : {2U, 5U}) {
@@ -69,7 +69,7 @@ TEST_F(CorrectedPhotographsTest, TheGalleryIsTheSameForEveryNumberOfJobs) {
 }
 
 TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToCreate());
   const auto corrected = Gallery();
   project.settings.checkImagesTrueColors = 0;
@@ -81,7 +81,7 @@ TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
 }
 
 TEST_F(CorrectedPhotographsTest, ACopiedImageIsNotCorrected) {
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   project.settings.checkImageWrapperImagePhysicalResize = 0;
   Run(OrderToCreate());
   for (const char* name : {"1", "6", "8"}) {
@@ -91,7 +91,7 @@ TEST_F(CorrectedPhotographsTest, ACopiedImageIsNotCorrected) {
 }
 
 TEST_F(CorrectedPhotographsTest, APreviewStatesTheUprightSizesOfPhotographs) {
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToPreview());
   const std::string page = folder.Read("temp/thumbpage_1.htm");
   EXPECT_NE(page.find("/photos/1.jpg\" BORDER=\"0\" WIDTH=\"95\" HEIGHT=\"60\""), std::string::npos) << page;

@@ -74,7 +74,7 @@ class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterf
     folder.Write("project/back.gif", std::string(1 + Below(3), static_cast<char>('a' + Below(3))));
     project.settings.textThumbnailsPageBackdrop = Below(3) == 0 ? "" : "back.gif";
   }
-  void TouchTheGallery() {
+  void ChangeOutputFile() {
     const auto files = FilesIn("out");
     if (files.empty()) return;
     const auto file =
@@ -105,7 +105,7 @@ class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterf
         [this] { Toggle(&core::GalleryProject::checkImagesUpright); },
         [this] { Toggle(&core::GalleryProject::checkImagesTrueColors); },
         [this] { Backdrop(); },
-        [this] { TouchTheGallery(); },
+        [this] { ChangeOutputFile(); },
     };
     const std::size_t number = Below(edits.size());
     edits[number]();

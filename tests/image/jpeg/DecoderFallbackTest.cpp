@@ -15,7 +15,7 @@ using namespace std::string_view_literals;
 constexpr int kWidth = 100;
 constexpr int kHeight = 90;
 
-class SurpriseTest : public ::testing::Test {
+class DecoderFallbackTest : public ::testing::Test {
  protected:
   // SequentialDecoder must give up; libjpeg-turbo must find the file good or not, and JPEGDecoder must agree with it.
   void ExpectLibjpegTurbosVerdict(const std::string& jpeg, bool good) {
@@ -34,7 +34,7 @@ class SurpriseTest : public ::testing::Test {
   fakes::TemporaryFolder folder;
 };
 
-TEST_F(SurpriseTest, BytesBeforeTheEndMarkerDoNoHarm) {
+TEST_F(DecoderFallbackTest, BytesBeforeTheEndMarkerDoNoHarm) {
   for (const std::string_view bytes : {"\x11"sv, "more than a few"sv, "\xFF"sv, "\xFF\xFE\x00\x03!"sv}) {
     ExpectLibjpegTurbosVerdict(fakes::WithBytesAt(jpeg, jpeg.size() - 2, bytes), true);
   }
@@ -42,7 +42,7 @@ TEST_F(SurpriseTest, BytesBeforeTheEndMarkerDoNoHarm) {
 
 // Fill bytes FF before a marker are legal, so libjpeg-turbo takes an extra FF before a stuffed one for a fill byte. The
 // segment seems to end there; no row may be made of the zeros beyond its end.
-TEST_F(SurpriseTest, NoRowIsMadeOfMissingData) {
+TEST_F(DecoderFallbackTest, NoRowIsMadeOfMissingData) {
   for (const unsigned interval : {0U, 7U}) {
     const std::string fine = fakes::MakeJpeg(
         {.width = kWidth, .height = kHeight, .horizontal = 1, .vertical = 1, .restartEvery = interval, .quality = 100});
@@ -58,7 +58,7 @@ TEST_F(SurpriseTest, NoRowIsMadeOfMissingData) {
   }
 }
 
-TEST_F(SurpriseTest, LibjpegTurboContinuesAtAnyRow) {
+TEST_F(DecoderFallbackTest, LibjpegTurboContinuesAtAnyRow) {
   for (const int vertical : {1, 2}) {
     std::string high = fakes::MakeJpeg({.width = 20, .height = 900, .vertical = vertical});
     high.insert(high.size() - 2, "more");
@@ -73,7 +73,7 @@ TEST_F(SurpriseTest, LibjpegTurboContinuesAtAnyRow) {
   }
 }
 
-TEST_F(SurpriseTest, TruncatedDataAreDamaged) {
+TEST_F(DecoderFallbackTest, TruncatedDataAreDamaged) {
   const std::size_t data = fakes::PictureDataOf(jpeg);
   for (std::size_t size = data; size + 10 < jpeg.size(); size += 97) {
     ExpectLibjpegTurbosVerdict(jpeg.substr(0, size), false);
@@ -81,7 +81,7 @@ TEST_F(SurpriseTest, TruncatedDataAreDamaged) {
   }
 }
 
-TEST_F(SurpriseTest, AWrongRestartMarkerIsDamage) {
+TEST_F(DecoderFallbackTest, AWrongRestartMarkerIsDamage) {
   const std::size_t restart = withRestarts.find("\xFF\xD2");
   ASSERT_NE(restart, std::string::npos);
   for (const char second : {'\xD3', '\xD9', '\x01', '\xE0'}) {
@@ -94,13 +94,13 @@ TEST_F(SurpriseTest, AWrongRestartMarkerIsDamage) {
   }
 }
 
-TEST_F(SurpriseTest, BytesBeforeARestartMarkerDoNoHarm) {
+TEST_F(DecoderFallbackTest, BytesBeforeARestartMarkerDoNoHarm) {
   ExpectLibjpegTurbosVerdict(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "\xFF"), true);
   ExpectLibjpegTurbosVerdict(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "more"), true);
 }
 
 // Larger quantization steps make coefficients that no encoder writes.
-TEST_F(SurpriseTest, CoefficientsThatNoEncoderWritesAreDecodedLikeLibjpegTurbo) {
+TEST_F(DecoderFallbackTest, CoefficientsThatNoEncoderWritesAreDecodedLikeLibjpegTurbo) {
   std::mt19937 generator(3);
   const auto rough = [&](int, int) {
     std::array<std::uint8_t, 4> pixel = {};
@@ -123,7 +123,7 @@ TEST_F(SurpriseTest, CoefficientsThatNoEncoderWritesAreDecodedLikeLibjpegTurbo) 
 }
 
 // A changed byte may leave a valid file with another picture.
-TEST_F(SurpriseTest, AnyChangedByteHasTheSameOutcome) {
+TEST_F(DecoderFallbackTest, AnyChangedByteHasTheSameOutcome) {
   std::mt19937 generator(4);
   for (const std::string& whole : {jpeg, withRestarts}) {
     for (int i = 0; i < 300; ++i) {
