@@ -54,8 +54,8 @@ TEST(EncryptedSession, AServerThatEndsWhileTheUserDecidesIsReported) {
 TEST(EncryptedSession, AReplyThatIsNotTlsIsAFailure) {
   EncryptedSession session(On("AUTH", [](Session& server, const std::string&) {
     server.Say("234 Go on\r\n");
-    std::this_thread::sleep_for(
-        std::chrono::milliseconds(100));  // or it could arrive with the reply, which is refused too
+    // Without the pause the text could arrive with the reply, which is refused too.
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
     server.Say("200 this is no TLS\r\n");
     server.StaySilent();
   }));
