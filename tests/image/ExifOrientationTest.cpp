@@ -6,7 +6,7 @@
 namespace vantorium::image {
 namespace {
 
-// Offsets in the data that ExifOf makes: "Exif" and two bytes, the TIFF header, the number of entries, entries of 12 bytes.
+// Offsets in the data of ExifOf: "Exif" and two bytes, the TIFF header, the number of entries, entries of 12 bytes.
 constexpr std::size_t kByteOrder = 6;
 constexpr std::size_t kVersion = 8;
 constexpr std::size_t kDirectory = 10;
