@@ -4,7 +4,7 @@
 #include "publish/AsioFTPSocket.h"
 #include "tests/fakes/RecordingImageListDisplay.h"
 #include "tests/fakes/ScriptedFtpServer.h"
-#include "tests/ui/RunDesk.h"
+#include "tests/ui/RunHarness.h"
 #include "ui/files/frmAddFoldersProcess.h"
 
 #include <QApplication>
@@ -54,63 +54,63 @@ class Bench {
   explicit Bench(const fs::path& photographs) : photographs_(fs::absolute(photographs)) {}
 
   void WhilePicturesAreMade(unsigned jobs) {
-    Measure(fmt::format("pictures, {} at a time", jobs), milliseconds(3000), [&](fakes::RunDesk& desk) {
-      AddPhotographs(desk);
-      return desk.Create(nullptr, jobs);
+    Measure(fmt::format("pictures, {} at a time", jobs), milliseconds(3000), [&](fakes::RunHarness& harness) {
+      AddPhotographs(harness);
+      return harness.Create(nullptr, jobs);
     });
   }
   void AgainstServer(const char* what, const Script& script) {
-    Measure(what, milliseconds(1000), [&](fakes::RunDesk& desk) {
+    Measure(what, milliseconds(1000), [&](fakes::RunHarness& harness) {
       fakes::ScriptedFtpServer server(script);
-      desk.folder.Write("site/large.bin", std::string(50'000'000, 'x'));
-      return Upload(desk, server.Port());
+      harness.folder.Write("site/large.bin", std::string(50'000'000, 'x'));
+      return Upload(harness, server.Port());
     });
   }
   void WhileManyFilesAreSent() {
-    Measure("4,000 small files of 200 folders", milliseconds(1000), [&](fakes::RunDesk& desk) {
+    Measure("4,000 small files of 200 folders", milliseconds(1000), [&](fakes::RunHarness& harness) {
       fakes::ScriptedFtpServer server;
-      for (int i = 0; i < 4000; ++i) desk.folder.Write(fmt::format("site/{}/{}.txt", i / 20, i), "x");
-      return Upload(desk, server.Port());
+      for (int i = 0; i < 4000; ++i) harness.folder.Write(fmt::format("site/{}/{}.txt", i / 20, i), "x");
+      return Upload(harness, server.Port());
     });
   }
   void WhileFoldersAreAdded() {
     Longest longest;
-    fakes::RunDesk desk;
-    for (int file = 0; file < 40'000; ++file) desk.folder.Write(fmt::format("many/{}.jpg", file), "x");
+    fakes::RunHarness harness;
+    for (int file = 0; file < 40'000; ++file) harness.folder.Write(fmt::format("many/{}.jpg", file), "x");
     for (int i = 0; i < kRuns; ++i) {
-      desk.project.images.Clear();
+      harness.project.images.Clear();
       fakes::RecordingImageListDisplay display;
-      core::ImageListOperations images(desk.project, desk.files, desk.boxes, display);
+      core::ImageListOperations images(harness.project, harness.files, harness.boxes, display);
       ui::frmAddFoldersProcess progress;
       const auto due = PressLater(progress, "OKButton", milliseconds(120));
-      ui::FolderWalk({desk.project, images, desk.paths, desk.boxes, desk.loop}).Run({"T:\\many"}, progress);
+      ui::FolderWalk({harness.project, images, harness.paths, harness.boxes, harness.loop}).Run({"T:\\many"}, progress);
       if (progress.Cancelled) longest.Add(steady_clock::now() - due);
     }
     longest.Print("adding a folder of 40,000 photographs");
   }
 
  private:
-  using Run = std::function<generation::RunEnd(fakes::RunDesk&)>;
+  using Run = std::function<generation::RunEnd(fakes::RunHarness&)>;
 
-  void AddPhotographs(fakes::RunDesk& desk) const {
-    fs::create_directory_symlink(photographs_, desk.folder.Path() / "photos");
+  void AddPhotographs(fakes::RunHarness& harness) const {
+    fs::create_directory_symlink(photographs_, harness.folder.Path() / "photos");
     for (const auto& file : fs::directory_iterator(photographs_)) {
-      desk.AddImage(file.path().stem().string(), "T:\\photos\\" + file.path().filename().string());
+      harness.AddImage(file.path().stem().string(), "T:\\photos\\" + file.path().filename().string());
     }
   }
-  static generation::RunEnd Upload(fakes::RunDesk& desk, std::uint16_t port) {
-    generation::RunOrder& order = desk.host.order;
+  static generation::RunEnd Upload(fakes::RunHarness& harness, std::uint16_t port) {
+    generation::RunOrder& order = harness.host.order;
     order.Mode = generation::GenerationMode::Upload;
     order.ServerAddress = "127.0.0.1";
     order.Port = port;
     order.UserName = "me";
     order.RemoteFolder = "web/";
     order.OutputFolder = "T:\\site\\";
-    publish::mFTP ftp(std::make_unique<publish::AsioFTPSocket>(desk.loop),
-                      std::make_unique<publish::AsioFTPSocket>(desk.loop), desk.paths, desk.boxes, desk.loop,
-                      desk.cancel);
-    desk.cancel.OnCancel([&ftp] { ftp.FTPCancelData(); });
-    return desk.Create(&ftp);
+    publish::mFTP ftp(std::make_unique<publish::AsioFTPSocket>(harness.loop),
+                      std::make_unique<publish::AsioFTPSocket>(harness.loop), harness.paths, harness.boxes,
+                      harness.loop, harness.cancel);
+    harness.cancel.OnCancel([&ftp] { ftp.FTPCancelData(); });
+    return harness.Create(&ftp);
   }
   /// Presses the button at a random time between 50 ms and `latest` from now. Returns that time.
   steady_clock::time_point PressLater(QWidget& window, const char* button, milliseconds latest) {
@@ -132,14 +132,14 @@ class Bench {
   void Measure(const std::string& what, milliseconds latest, const Run& run) {
     Longest longest;
     for (int i = 0; i < kRuns; ++i) {
-      fakes::RunDesk desk;
+      fakes::RunHarness harness;
       steady_clock::time_point due;
       steady_clock::time_point ended;
-      desk.host.onProgress = [&](ui::frmProgress& progress) {
+      harness.host.onProgress = [&](ui::frmProgress& progress) {
         due = PressLater(progress, "CancelButton", latest);
         CloseWhenItEnded(progress, ended);
       };
-      if (run(desk) == generation::RunEnd::Cancelled) ended = steady_clock::now();
+      if (run(harness) == generation::RunEnd::Cancelled) ended = steady_clock::now();
       if (ended > due) longest.Add(ended - due);
     }
     longest.Print(what);

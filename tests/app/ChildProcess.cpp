@@ -59,7 +59,7 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& e
   ::_exit(127);
 }
 
-/// Closes the stream at its end, which a terminal reports as an error.
+/// Closes the stream at its end. A terminal reports its end as an error.
 void AppendFrom(env::FileDescriptor& stream, std::string& text) {
   char bytes[4096];
   const auto read = ::read(stream.Get(), bytes, sizeof bytes);

@@ -43,12 +43,12 @@ class ChildProcess {
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
 
-  /// Reads until standard error contains a match of the regular expression; throws if it ends without one.
+  /// Reads until standard error matches the regular expression. Throws if it ends without a match.
   void WaitForError(const std::string& expression);
   /// Waits, without reading, until the process stops writing to standard error because the pipe is full.
   void WaitUntilErrorPipeIsFull() const;
   void Send(int signal) const;
-  /// The process ID, also after the process has ended.
+  /// The process ID, even after the process has ended.
   [[nodiscard]] pid_t Number() const { return process_; }
   /// Closes the terminal. Output that has not been read yet is lost.
   void HangUp();

@@ -29,7 +29,7 @@ AssertionResult IsRefused(const Arguments& arguments, const std::string& named =
                             << result.err;
 }
 
-TEST(CommandLine, HelpNamesEveryCommandAndOption) {
+TEST(CommandLine, HelpListsEveryCommandAndOption) {
   const ProcessResult result = Workplace().Run({"--help"});
   ASSERT_TRUE(Succeeded(result));
   EXPECT_EQ(result.err, "");
@@ -40,7 +40,7 @@ TEST(CommandLine, HelpNamesEveryCommandAndOption) {
   }
 }
 
-TEST(CommandLine, HelpOfACommandNamesItsSwitches) {
+TEST(CommandLine, HelpOfACommandListsItsSwitches) {
   const std::pair<const char*, Arguments> commands[] = {
       {"new", {"OUT.gpj", "PATH", "--title", "--recursive", "--force"}},
       {"show", {"PROJECT.gpj"}},
@@ -121,12 +121,12 @@ TEST(CommandLine, AnOptionWithoutItsValueIsNamed) {
   EXPECT_TRUE(IsRefused({"new", "a.gpj", "a.jpg", "--title"}, "--title"));
 }
 
-TEST(CommandLine, AnArgumentTooManyIsNamed) {
+TEST(CommandLine, AnExcessArgumentIsNamed) {
   EXPECT_TRUE(IsRefused({"show", "a.gpj", "b.gpj"}, "b.gpj"));
   EXPECT_TRUE(IsRefused({"create", "a.gpj", "index.htm", "more.htm"}, "more.htm"));
 }
 
-/// A complete command line of publish or upload, except for the option and its value.
+/// A complete command line of publish or upload without this option and its value.
 Arguments Without(const std::string& option, const std::string& command) {
   Arguments arguments = {command, "what"};
   for (const auto& [name, value] : {std::pair{"--server", "example.com"}, std::pair{"--user", "me"},
@@ -148,7 +148,7 @@ TEST(CommandLine, TheOptionsThatNameTheServerAreRequired) {
   }
 }
 
-TEST(CommandLine, APasswordIsNeverAnArgument) {
+TEST(CommandLine, APasswordIsNotAcceptedAsAnArgument) {
   for (const char* command : {"publish", "upload"}) {
     Arguments arguments = Without("", command);
     arguments.insert(arguments.end(), {"--password", "hush"});
@@ -156,7 +156,7 @@ TEST(CommandLine, APasswordIsNeverAnArgument) {
   }
 }
 
-TEST(CommandLine, AnUploadHasNoSwitchesOfAGallery) {
+TEST(CommandLine, UploadRefusesTheSwitchesOfGalleries) {
   for (const char* option : {"--no-images", "--no-thumbnails", "--no-html"}) {
     Arguments arguments = Without("", "upload");
     arguments.emplace_back(option);
@@ -164,7 +164,7 @@ TEST(CommandLine, AnUploadHasNoSwitchesOfAGallery) {
   }
 }
 
-TEST(CommandLine, PortIsTheNumberOfAPort) {
+TEST(CommandLine, PortIsAValidPortNumber) {
   for (const char* port : {"0", "65536", "-1", "ftp", "21x", ""}) {
     Arguments arguments = Without("", "upload");
     arguments.insert(arguments.end(), {"--port", port});
@@ -172,7 +172,7 @@ TEST(CommandLine, PortIsTheNumberOfAPort) {
   }
 }
 
-TEST(CommandLine, AFingerprintIsThatOfAnEncryptedServer) {
+TEST(CommandLine, AFingerprintRequiresEncryption) {
   const std::string good(64, 'a');
   for (const std::string& fingerprint :
        {std::string(), std::string("sha256"), good + "0", good.substr(1), " " + good}) {
@@ -185,7 +185,7 @@ TEST(CommandLine, AFingerprintIsThatOfAnEncryptedServer) {
   EXPECT_TRUE(IsRefused(inClear, "--tls"));
 }
 
-TEST(CommandLine, TheRemotePathOfAGalleryNamesItsIndexFile) {
+TEST(CommandLine, TheRemotePathOfAGalleryEndsInTheIndexFile) {
   for (const char* remote : {"web/", "web\\", "/", ""}) {
     Arguments arguments = Without("--remote", "publish");
     arguments.insert(arguments.end(), {"--remote", remote});
@@ -193,13 +193,13 @@ TEST(CommandLine, TheRemotePathOfAGalleryNamesItsIndexFile) {
   }
 }
 
-TEST(CommandLine, JobsIsANumberFromOneOn) {
+TEST(CommandLine, JobsIsAPositiveNumber) {
   for (const char* number : {"0", "-1", "x", "", "1.5", "1x", "99999999999999999999"}) {
     EXPECT_TRUE(IsRefused({"show", "a.gpj", "--jobs", number}, "--jobs"));
   }
 }
 
-TEST(CommandLine, CreationTimeIsATimeOfTheCalendarToTheLetter) {
+TEST(CommandLine, CreationTimeIsAValidTimeInTheExactFormat) {
   for (const char* time : {"",
                            "yesterday",
                            "2024-01-01",
@@ -225,7 +225,7 @@ TEST(CommandLine, CreationTimeIsATimeOfTheCalendarToTheLetter) {
   }
 }
 
-TEST(CommandLine, OptionsOfEveryCommandMayPrecedeOrFollowIt) {
+TEST(CommandLine, CommonOptionsMayPrecedeOrFollowTheCommand) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const Arguments options = {"--jobs", "2", "--quiet", "--creation-time", "2024-02-29 23:59:59"};

@@ -1,6 +1,6 @@
 #include "image/JPEG.h"
 #include "tests/app/Workplace.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 
 #include <filesystem>
 
@@ -41,7 +41,7 @@ std::pair<std::int32_t, std::int32_t> SizeOf(const std::filesystem::path& file) 
   return size;
 }
 
-TEST_F(CreateCommand, MakesPagesImagesAndThumbnailsWithTheFoldersTheyNeed) {
+TEST_F(CreateCommand, CreatesPagesImagesThumbnailsAndTheirFolders) {
   const ProcessResult result = place.Run({"create", "a.gpj", "deep/er/out/start.html"});
   ASSERT_TRUE(Succeeded(result));
   EXPECT_EQ(result.out, "");
@@ -51,7 +51,7 @@ TEST_F(CreateCommand, MakesPagesImagesAndThumbnailsWithTheFoldersTheyNeed) {
   EXPECT_EQ(ListingOf(place.Path("deep/er/out")), expected);
 }
 
-TEST_F(CreateCommand, OnlyChangesWritesWhatChangedAndNamesWhatIsNotUsedAnyMore) {
+TEST_F(CreateCommand, OnlyChangesWritesChangedFilesAndNamesUnusedOnes) {
   ASSERT_TRUE(Succeeded(Create({"--only-changes"})));
   const auto picture = place.Path("out/Images/a.jpg.jpg");
   const auto time = std::filesystem::last_write_time(place.Path("out/index.htm"));
@@ -83,7 +83,7 @@ TEST_F(CreateCommand, PicturesHaveTheSizesOfTheProject) {
   EXPECT_EQ(SizeOf(place.Path("out/Thumbs/thumb_a.jpg.jpg")), std::pair(60, 60));
 }
 
-TEST_F(CreateCommand, APhotographInTheGallerysOwnImagesFolderIsNotWrittenOver) {
+TEST_F(CreateCommand, APhotographInTheGallerysImagesFolderIsNotOverwritten) {
   place.Photograph("out/Images/own.jpg");
   const std::string photograph = place.Read("out/Images/own.jpg");
   place.Project("own.gpj", {"out/Images/own.jpg"});
@@ -97,7 +97,7 @@ TEST_F(CreateCommand, APhotographInTheGallerysOwnImagesFolderIsNotWrittenOver) {
   EXPECT_EQ(Listing(), "Images/own.jpg\n");
 }
 
-TEST_F(CreateCommand, AnIndexFileWithoutAFolderGoesToTheWorkingFolder) {
+TEST_F(CreateCommand, AnIndexFileWithoutAFolderIsInTheWorkingFolder) {
   ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "index.htm"})));
   EXPECT_TRUE(std::filesystem::exists(place.Path("index.htm")));
   EXPECT_TRUE(std::filesystem::exists(place.Path("Images/a.jpg.jpg")));
@@ -124,7 +124,7 @@ TEST_F(CreateCommand, AllThreeSwitchesLeaveOutEverything) {
   EXPECT_EQ(Listing(), "");
 }
 
-TEST_F(CreateCommand, ExistingFilesAreMadeAgain) {
+TEST_F(CreateCommand, ExistingFilesAreOverwritten) {
   ASSERT_TRUE(Succeeded(Create()));
   const auto before = FilesBelow(place.Path("out"));
   for (const auto& [name, bytes] : before) place.Write("out/" + name, "old");
@@ -146,7 +146,7 @@ TEST_F(CreateCommand, KeepExistingMakesOnlyTheMissingPicturesAndAllPages) {
   EXPECT_EQ(place.Read("out/index.htm"), index);
 }
 
-TEST_F(CreateCommand, FilesOfOthersInTheTargetAreLeftAlone) {
+TEST_F(CreateCommand, OtherFilesInTheTargetFolderAreUnchanged) {
   place.Write("out/notes.txt", "mine");
   place.Write("out/Images/other.jpg", "mine");
   ASSERT_TRUE(Succeeded(Create()));
@@ -176,7 +176,7 @@ TEST_F(CreateCommand, TheCreationTimeIsTheOneGiven) {
   EXPECT_NE(place.Read("before/index.htm"), place.Read("out/index.htm"));
 }
 
-TEST_F(CreateCommand, AProjectWithoutImagesIsRefusedAndNothingIsMade) {
+TEST_F(CreateCommand, AProjectWithoutImagesIsRefusedAndNothingIsCreated) {
   std::filesystem::create_directory(place.Path("empty"));
   ASSERT_TRUE(Succeeded(place.Run({"new", "--force", "a.gpj", "empty"})));
   const ProcessResult result = Create();
@@ -185,7 +185,7 @@ TEST_F(CreateCommand, AProjectWithoutImagesIsRefusedAndNothingIsMade) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
 }
 
-TEST_F(CreateCommand, AnInvalidProjectMakesNothing) {
+TEST_F(CreateCommand, AnInvalidProjectCreatesNothing) {
   place.Write("a.gpj", "no XML");
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
@@ -193,7 +193,7 @@ TEST_F(CreateCommand, AnInvalidProjectMakesNothing) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
 }
 
-TEST_F(CreateCommand, APictureThatCannotBeReadEndsTheRunAndWhatWasMadeStays) {
+TEST_F(CreateCommand, AnUnreadablePictureEndsTheRunAndFinishedFilesStay) {
   place.Write("b.jpg", "no JPEG");
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));
@@ -201,7 +201,7 @@ TEST_F(CreateCommand, APictureThatCannotBeReadEndsTheRunAndWhatWasMadeStays) {
   EXPECT_EQ(Listing(), "Images/a.jpg.jpg\n");
 }
 
-TEST_F(CreateCommand, ATargetFolderThatCannotBeMadeIsAFailureWithItsReason) {
+TEST_F(CreateCommand, ATargetFolderThatCannotBeCreatedIsAFailureWithTheReason) {
   const ProcessResult result = place.Run({"create", "a.gpj", "a.jpg/index.htm"});
   EXPECT_TRUE(EndedWith(1, result));
   const std::string beginning = "Failure: An Error has occurred during Creation of this Gallery:\n\n";
@@ -210,7 +210,7 @@ TEST_F(CreateCommand, ATargetFolderThatCannotBeMadeIsAFailureWithItsReason) {
   EXPECT_EQ(result.err.find('\r'), std::string::npos) << result.err;
 }
 
-TEST_F(CreateCommand, AFolderMeansTheIndexFileInIt) {
+TEST_F(CreateCommand, AFolderStandsForTheIndexFileInIt) {
   std::filesystem::create_directory(place.Path("there"));
   for (const char* folder : {"new/", "there", "there/", "home/..", "C:\\text\\", "C:\\", "C:"}) {
     ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", folder}))) << folder;
@@ -220,7 +220,7 @@ TEST_F(CreateCommand, AFolderMeansTheIndexFileInIt) {
   }
 }
 
-TEST_F(CreateCommand, AnIndexFileThatIsAFolderIsRefusedBeforeAnythingIsMade) {
+TEST_F(CreateCommand, AnIndexFileThatIsAFolderIsRefusedBeforeAnythingIsCreated) {
   std::filesystem::create_directories(place.Path("out/index.htm/index.htm"));
   ASSERT_EQ(::mkfifo(place.Path("out/pipe.htm").c_str(), 0600), 0);
   for (const auto& [index, file] :
@@ -254,7 +254,7 @@ TEST_F(CreateCommand, FilesLeftByAKilledRunAreRemoved) {
   EXPECT_EQ(Listing(), ".vantorium-mine\n" + std::string(kWholeGallery));
 }
 
-TEST_F(CreateCommand, AFileThatIsTooLargeForTheSystemIsAFailureThatLeavesNothing) {
+TEST_F(CreateCommand, AFileTooLargeForTheSystemIsAFailureAndLeavesNothing) {
   ProcessResult result;
   {
     const fakes::FullDisk full(1000);
@@ -266,13 +266,13 @@ TEST_F(CreateCommand, AFileThatIsTooLargeForTheSystemIsAFailureThatLeavesNothing
   EXPECT_EQ(Listing(), "");
 }
 
-TEST_F(CreateCommand, ATargetWithoutAMappedFolderIsAFailure) {
+TEST_F(CreateCommand, ATargetOnAnUnmappedDriveIsAFailure) {
   for (const char* index : {"Q:\\out\\index.htm", "\\\\server\\share\\index.htm"}) {
     EXPECT_TRUE(EndedWith(1, place.Run({"create", "a.gpj", index}))) << index;
   }
 }
 
-TEST_F(CreateCommand, ALineOfAMessageIsItsTitleAndItsText) {
+TEST_F(CreateCommand, AMessageIsALineWithTitleAndText) {
   std::filesystem::remove(place.Path("a.jpg"));
   const ProcessResult result = Create();
   EXPECT_TRUE(EndedWith(1, result));

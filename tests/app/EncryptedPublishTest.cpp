@@ -34,7 +34,7 @@ TEST_P(EncryptedPublish, AGalleryEqualsTheCreatedOneFileByFileInBothModes) {
   EXPECT_EQ(Log().find(server.Password()), std::string::npos);
 }
 
-TEST_P(EncryptedPublish, AnUnknownCertificateIsShownAndIsAFailure) {
+TEST_P(EncryptedPublish, AnUnknownCertificateIsPrintedAndIsAFailure) {
   const ProcessResult result = Publish("web/index.htm", {"--tls"});
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_TRUE(
@@ -54,7 +54,7 @@ TEST_P(EncryptedPublish, ACertificateWithAnotherFingerprintIsAFailure) {
 
 class PlainServer : public ServerPlace {};
 
-TEST_F(PlainServer, IsRefusedWithTlsAndServesPassiveMode) {
+TEST_F(PlainServer, IsRefusedWithTlsAndWorksInPassiveMode) {
   place.Write("site/a.txt", "1");
   const ProcessResult result = Upload("web", {"--tls"});
   EXPECT_TRUE(EndedWith(1, result));

@@ -40,7 +40,7 @@ class Interrupt : public testing::Test {
   Workplace place;
 };
 
-TEST_F(Interrupt, CancelsTheRunWithTheBoxesOfTheCancelButton) {
+TEST_F(Interrupt, CancelsTheRunWithTheMessagesOfTheCancelButton) {
   ChildProcess program(Create({"--verbose"}));
   program.WaitForError(R"(Copying File "many.jpg_9")");
   program.Send(SIGINT);
@@ -49,7 +49,7 @@ TEST_F(Interrupt, CancelsTheRunWithTheBoxesOfTheCancelButton) {
   EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
 }
 
-TEST_F(Interrupt, CancelsWithoutProgressToo) {
+TEST_F(Interrupt, CancelsEvenWithoutProgress) {
   place.SlowProject("a.gpj");
   ChildProcess program(Create({"--quiet"}));
   while (!std::filesystem::exists(place.Path("out/Images/many.jpg.jpg")) && !program.HasEnded()) {
@@ -61,7 +61,7 @@ TEST_F(Interrupt, CancelsWithoutProgressToo) {
   EXPECT_EQ(result.err, kBoxesOfCancel);
 }
 
-TEST_F(Interrupt, LeavesWhatWasMadeAndOnlyWholeFiles) {
+TEST_F(Interrupt, LeavesFinishedFilesAndNoPartialOnes) {
   for (const char* jobs : {"1", "4"}) {
     std::filesystem::remove_all(place.Path("out"));
     ChildProcess program(Create({"--verbose", "--jobs", jobs}));
@@ -74,7 +74,7 @@ TEST_F(Interrupt, LeavesWhatWasMadeAndOnlyWholeFiles) {
   }
 }
 
-TEST_F(Interrupt, LeavesNoPictureAfterTheOneThatWasAnnounced) {
+TEST_F(Interrupt, LeavesNoPictureAfterTheLastAnnouncedOne) {
   ChildProcess program(Create({"--verbose", "--jobs", "4"}));
   program.WaitForError(R"(Copying File "many.jpg_30")");
   program.Send(SIGINT);
@@ -95,7 +95,7 @@ TEST_F(Interrupt, CancelsWhilePagesAreWritten) {
   ExpectWholeFilesOnly(place.Path("out"));
 }
 
-TEST_F(Interrupt, APreviewIsCancelledAndPrintsNoIndexFile) {
+TEST_F(Interrupt, ACancelledPreviewPrintsNoIndexFile) {
   ChildProcess program(place.Options({"preview", "a.gpj", "--verbose"}));
   program.WaitForError(R"(Creating Image Wrapper File for "many.jpg_9")");
   program.Send(SIGINT);
@@ -104,7 +104,7 @@ TEST_F(Interrupt, APreviewIsCancelledAndPrintsNoIndexFile) {
   EXPECT_EQ(result.out, "");
 }
 
-TEST_F(Interrupt, ControlCOnTheTerminalIsTheSame) {
+TEST_F(Interrupt, CtrlCOnTheTerminalDoesTheSame) {
   place.SlowProject("a.gpj");
   StartOptions options = Create();
   options.standardError = StandardError::Terminal;
@@ -118,7 +118,7 @@ TEST_F(Interrupt, ControlCOnTheTerminalIsTheSame) {
       << result.err;
 }
 
-TEST_F(Interrupt, TerminateAndHangUpCancelToo) {
+TEST_F(Interrupt, SIGTERMAndSIGHUPCancelToo) {
   for (const int signal : {SIGTERM, SIGHUP}) {
     ChildProcess program(Create({"--verbose"}));
     program.WaitForError(R"(Copying File "many.jpg_9")");
@@ -128,7 +128,7 @@ TEST_F(Interrupt, TerminateAndHangUpCancelToo) {
   }
 }
 
-TEST_F(Interrupt, ASecondHangUpDoesNotEndTheProgramAtOnce) {
+TEST_F(Interrupt, ASecondSIGHUPDoesNotEndTheProgramAtOnce) {
   ChildProcess program(Create({"--verbose"}));
   program.WaitUntilErrorPipeIsFull();
   program.Send(SIGHUP);
@@ -139,15 +139,15 @@ TEST_F(Interrupt, ASecondHangUpDoesNotEndTheProgramAtOnce) {
   EXPECT_TRUE(result.err.ends_with(kBoxesOfCancel)) << result.err;
 }
 
-// The program is blocked in writing its output and cannot reach its next check of the cancel button.
-TEST_F(Interrupt, ASecondOneEndsTheProgramAtOnce) {
+// The program blocks while it writes its output and cannot reach its next check for a cancel.
+TEST_F(Interrupt, ASecondInterruptEndsTheProgramAtOnce) {
   ChildProcess program(Create({"--verbose"}));
   program.WaitUntilErrorPipeIsFull();
   program.Send(SIGINT);
   std::this_thread::sleep_for(50ms);
-  EXPECT_FALSE(program.HasEnded()) << "the first one is the cancel button only";
+  EXPECT_FALSE(program.HasEnded()) << "the first interrupt only cancels";
   for (int again = 0; again < 1000 && !program.HasEnded(); ++again) {
-    program.Send(SIGINT);  // more than once, because two signals that come too close together count as one
+    program.Send(SIGINT);  // repeatedly, because signals in quick succession may count as one
     std::this_thread::sleep_for(10ms);
   }
   ASSERT_TRUE(program.HasEnded());
@@ -181,7 +181,7 @@ TEST_P(InterruptOfARunToAServer, CancelsThePublishing) {
   EXPECT_NE(Log().find("End of Upload Log"), std::string::npos) << Log();
 }
 
-TEST_P(InterruptOfARunToAServer, CancelsTheUploadOfAFolderWithItsOwnBox) {
+TEST_P(InterruptOfARunToAServer, CancelsTheUploadOfAFolderWithItsMessage) {
   for (int file = 1000; file < 1200; ++file) place.Write("site/sub/" + std::to_string(file), "x");
   ChildProcess program(Options("upload", "site", "web", {"--verbose"}));
   program.WaitForError("Uploading File .*1050");
@@ -196,7 +196,7 @@ TEST_P(InterruptOfARunToAServer, CancelsTheUploadOfAFolderWithItsOwnBox) {
   EXPECT_FALSE(std::filesystem::exists(OnServer("web/sub/1199")));
 }
 
-TEST_P(InterruptOfARunToAServer, LeavesNoPartOfAFileOnTheServer) {
+TEST_P(InterruptOfARunToAServer, LeavesNoPartialFileOnTheServer) {
   std::filesystem::resize_file(place.Write("site/large", ""), 0x7FFFFFFF);
   ChildProcess program(Options("upload", "site", "web"));
   while (!std::filesystem::exists(OnServer("web/large")) && !program.HasEnded()) std::this_thread::sleep_for(1ms);

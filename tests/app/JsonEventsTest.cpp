@@ -21,7 +21,7 @@ std::size_t CountOf(const std::vector<Json>& events, const char* kind) {
       std::count_if(events.begin(), events.end(), [&](const Json& event) { return event.at("event") == kind; }));
 }
 
-TEST(JsonEvents, AreAnObjectALineAndEndWithTheResult) {
+TEST(JsonEvents, AreOneObjectPerLineAndEndWithTheResult) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   const ProcessResult result = place.Run({"create", "a.gpj", "out/index.htm", "--json"});
@@ -51,7 +51,7 @@ TEST(JsonEvents, ChangeNothingElse) {
   EXPECT_EQ(place.Run(withEvents).err, without.err);
 }
 
-TEST(JsonEvents, OfAFailureHaveItsMessage) {
+TEST(JsonEvents, OfAFailureIncludeItsMessage) {
   const Workplace place;
   const ProcessResult result = place.Run({"create", "missing.gpj", "out/index.htm", "--json"});
   EXPECT_TRUE(EndedWith(1, result));
@@ -75,7 +75,7 @@ TEST(JsonEvents, OfAPreviewEndWithItsIndexFileInsteadOfAPlainLine) {
   EXPECT_EQ(events.back().at("index").get<std::string>() + "\n", plain.out);
 }
 
-TEST(JsonEvents, ThatCannotBeWrittenAreAFailureAfterTheWholeRun) {
+TEST(JsonEvents, ThatCannotBeWrittenMakeTheRunAFailureAtItsEnd) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   StartOptions options = place.Options({"create", "a.gpj", "out/index.htm", "--json"});
@@ -84,7 +84,7 @@ TEST(JsonEvents, ThatCannotBeWrittenAreAFailureAfterTheWholeRun) {
   EXPECT_TRUE(std::filesystem::exists(place.Path("out/index.htm")));
 }
 
-TEST(JsonEvents, BelongToRunsOnly) {
+TEST(JsonEvents, AreForRunsOnly) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   for (const auto& arguments : {std::vector<std::string>{"show", "a.gpj", "--json"},

@@ -50,30 +50,31 @@ class KilledPublish : public ServerPlace {
   }
   /// Expects that all files from before the runs are unchanged and nothing is new except the log and the temporary
   /// folder, where every file with its final name is complete.
-  void ExpectAllIsWhole(const std::map<std::string, std::string>& before) const {
+  void ExpectCompleteFiles(const std::map<std::string, std::string>& before) const {
     auto now = FilesBelow(place.Path());
-    for (const auto& [name, bytes] : before) EXPECT_TRUE(now[name] == bytes) << name << " holds\n" << now[name];
+    for (const auto& [name, bytes] : before) EXPECT_TRUE(now[name] == bytes) << name << " contains\n" << now[name];
     for (const auto& [name, bytes] : now) {
       if (name.starts_with(kTemp)) {
-        ExpectIsOfTheGallery(name.substr(kTemp.size()), bytes);
+        ExpectFileOfGallery(name.substr(kTemp.size()), bytes);
       } else {
         EXPECT_TRUE(before.contains(name) || name == "program/ftplog.txt") << name << " is new";
       }
     }
   }
-  void ExpectIsOfTheGallery(const std::string& name, const std::string& bytes) const {
+  void ExpectFileOfGallery(const std::string& name, const std::string& bytes) const {
     if (fs::path(name).filename().string().starts_with(".vantorium-")) return;  // not yet renamed
     const fs::path inPlace = fs::path("out") / name;
-    const fs::path image = fs::path("out/Images") / name;  // kept outside its folder until it is sent
-    ASSERT_TRUE(fs::exists(place.Path(inPlace)) || fs::exists(place.Path(image))) << name << " is not of the gallery";
-    EXPECT_TRUE(place.Read(fs::exists(place.Path(inPlace)) ? inPlace : image) == bytes) << name << " is half written";
+    const fs::path image = fs::path("out/Images") / name;  // in the temporary folder until it is sent
+    ASSERT_TRUE(fs::exists(place.Path(inPlace)) || fs::exists(place.Path(image)))
+        << name << " is not a file of the gallery";
+    EXPECT_TRUE(place.Read(fs::exists(place.Path(inPlace)) ? inPlace : image) == bytes) << name << " is incomplete";
   }
 
   static constexpr std::string_view kTemp = "temp/VANTORIUM_TEMP/";
   static constexpr const char* kTime = "2001-02-03 04:05:06";
 };
 
-TEST_F(KilledPublish, LeavesEveryFileWholeAndTheNextRunEndsWell) {
+TEST_F(KilledPublish, LeavesEveryFileCompleteAndTheNextRunSucceeds) {
   constexpr int kRuns = 20;
   constexpr unsigned kSeed = 20;
   const auto before = FilesBelow(place.Path());
@@ -84,9 +85,9 @@ TEST_F(KilledPublish, LeavesEveryFileWholeAndTheNextRunEndsWell) {
     const double share = (run + std::uniform_real_distribution<>()(random)) / kRuns;
     SCOPED_TRACE(testing::Message() << "killed at " << share << " of a run");
     KillAfter(std::chrono::duration_cast<Clock::duration>(length * share));
-    ExpectAllIsWhole(before);
+    ExpectCompleteFiles(before);
     RunToTheEnd();
-    ExpectAllIsWhole(before);
+    ExpectCompleteFiles(before);
     EXPECT_EQ(ListingOf(place.Path("temp")).find(".vantorium-"), std::string::npos) << ListingOf(place.Path("temp"));
     if (HasFailure()) return;
   }

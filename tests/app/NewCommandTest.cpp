@@ -39,7 +39,7 @@ TEST(NewCommand, ImagesKeepTheOrderOfTheCommandLine) {
   EXPECT_EQ(NamesAfterNew(place, {"c.JFIF", "a.jpg", "b.jpeg"}), (Texts{"c.JFIF", "a.jpg", "b.jpeg"}));
 }
 
-TEST(NewCommand, EachEntryHoldsTheFilesPathAndNoDescriptions) {
+TEST(NewCommand, EachEntryHasThePathOfItsFileAndNoDescriptions) {
   const Workplace place;
   place.Photograph("holiday/a.jpg");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "holiday/a.jpg"})));
@@ -51,7 +51,7 @@ TEST(NewCommand, EachEntryHoldsTheFilesPathAndNoDescriptions) {
   EXPECT_EQ(image.at("SizeKey"), std::string(20 - size.size(), '0') + size);
 }
 
-TEST(NewCommand, CorrectionsOfThePhotographsAreInTheProjectOnlyIfTheyAreAskedFor) {
+TEST(NewCommand, PhotographCorrectionsAreOnOnlyIfRequested) {
   const Workplace place;
   place.Photograph("a.jpg");
   const auto project = [&place](const Texts& switches) {
@@ -68,7 +68,7 @@ TEST(NewCommand, CorrectionsOfThePhotographsAreInTheProjectOnlyIfTheyAreAskedFor
   EXPECT_EQ(project({"--upright", "--true-colors"}).at("checkImagesUpright"), 1);
 }
 
-TEST(NewCommand, CorrectionsAreNoOptionsOfOtherCommands) {
+TEST(NewCommand, OtherCommandsRefuseTheOptionsOfCorrections) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   for (const char* option : {"--upright", "--true-colors"}) {
@@ -77,7 +77,7 @@ TEST(NewCommand, CorrectionsAreNoOptionsOfOtherCommands) {
   }
 }
 
-TEST(NewCommand, AFoldersImagesComeInTheOrderOfTheirNames) {
+TEST(NewCommand, TheImagesOfAFolderAreSortedByName) {
   const Workplace place;
   for (const char* name : {"c.jpg", "a.jpeg", "b.jfif", "D.JPG"})
     place.Photograph("holiday" / std::filesystem::path(name));
@@ -98,13 +98,13 @@ TEST(NewCommand, AHiddenFileIsAnImageLikeAnyOther) {
   EXPECT_EQ(NamesAfterNew(place, {"holiday"}), (Texts{".hidden.jpg", "a.jpg"}));
 }
 
-TEST(NewCommand, SubFoldersAreLeftOut) {
+TEST(NewCommand, SubfoldersAreLeftOut) {
   const Workplace place;
   for (const char* name : {"holiday/a.jpg", "holiday/sea/b.jpg"}) place.Photograph(name);
   EXPECT_EQ(NamesAfterNew(place, {"holiday"}), Texts{"a.jpg"});
 }
 
-TEST(NewCommand, RecursiveAddsSubFoldersAfterTheFoldersOwnImages) {
+TEST(NewCommand, RecursiveAddsSubfoldersAfterTheImagesOfTheFolder) {
   const Workplace place;
   for (const char* name :
        {"holiday/z.jpg", "holiday/b/2.jpg", "holiday/b/deep/3.jpg", "holiday/a/1.jpg", "holiday/c/4.jpg"}) {
@@ -129,7 +129,7 @@ TEST(NewCommand, LinksToFoldersAreNotFollowed) {
   EXPECT_EQ(NamesAfterNew(place, {"--recursive", "holiday"}), Texts{"a.jpg"});
 }
 
-TEST(NewCommand, ALinkToAnImageIsAnImageAndADeadOneIsNot) {
+TEST(NewCommand, ALinkToAnImageIsAnImageAndADanglingLinkIsNot) {
   const Workplace place;
   place.Photograph("elsewhere/b.jpg");
   std::filesystem::create_directory(place.Path("holiday"));
@@ -161,13 +161,13 @@ TEST(NewCommand, TitleIsTheGallerysTitle) {
   }
 }
 
-TEST(NewCommand, WithoutATitleItIsThatOfTheFirstNewProject) {
+TEST(NewCommand, WithoutATitleTheGalleryHasTheDefaultTitle) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   EXPECT_EQ(Shown(place, "a.gpj").at("project").at("textGalleryTitle"), "Gallery1");
 }
 
-TEST(NewCommand, NamesOfAnyLetters) {
+TEST(NewCommand, NamesMayHaveLettersOfAnyScript) {
   const Workplace place;
   const Texts names = {"a & b.jpg", "mit \"Zitat\".jpg", "Übersicht.jpg", "写真.jpg"};
   for (const std::string& name : names) place.Photograph("holiday/" + name);
@@ -192,7 +192,7 @@ TEST(NewCommand, AFileThatIsNotAJPEGIsReportedAndNothingIsWritten) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 
-TEST(NewCommand, AProjectIsReplacedOnlyByForce) {
+TEST(NewCommand, AProjectIsReplacedOnlyWithForce) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const std::string before = place.Read("a.gpj");
@@ -206,7 +206,7 @@ TEST(NewCommand, AProjectIsReplacedOnlyByForce) {
   EXPECT_EQ(Images(place, "a.gpj", "ImageName"), Texts{"b.jpg"});
 }
 
-TEST(NewCommand, AnyOtherFileIsNeverReplaced) {
+TEST(NewCommand, OtherFilesAreNeverReplaced) {
   const Workplace place;
   place.Photograph("a.jpg");
   place.Photograph("b.jpg");
@@ -246,7 +246,7 @@ TEST(NewCommand, AProjectThatCannotBeWrittenIsAFailure) {
   EXPECT_EQ(result.err, "File Error: An error occurred while saving the Gallery Project.\n");
 }
 
-TEST(NewCommand, APathTextKeepsTheDriveThatWasTyped) {
+TEST(NewCommand, APathTextKeepsItsDrive) {
   const Workplace place;
   place.Photograph("home/pictures/a.jpg");
   const std::string typed = "Z:" + env::ReplaceAll(place.Path("home/pictures").string(), "/", "\\");

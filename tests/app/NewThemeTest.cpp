@@ -30,7 +30,7 @@ Json SettingsOf(const Workplace& place, const std::string& project) {
   return settings;
 }
 
-TEST(NewTheme, AThemeThatComesWithTheProgramGivesAllSettingsButTheTitle) {
+TEST(NewTheme, AThemeOfTheProgramSetsAllSettingsExceptTheTitle) {
   const Workplace place;
   place.Photograph("a.jpg");
   for (const std::string& theme : kThemes) {
@@ -43,14 +43,14 @@ TEST(NewTheme, AThemeThatComesWithTheProgramGivesAllSettingsButTheTitle) {
   }
 }
 
-TEST(NewTheme, TheTitleOfTheCommandLineCounts) {
+TEST(NewTheme, TheTitleComesFromTheCommandLine) {
   const Workplace place;
   place.Photograph("a.jpg");
   ASSERT_TRUE(Succeeded(place.Run({"new", "a.gpj", "--theme", "plain", "--title", "Alps", "a.jpg"})));
   EXPECT_EQ(Shown(place, "a.gpj").at("project").at("textGalleryTitle"), "Alps");
 }
 
-TEST(NewTheme, AnyProjectIsATheme) {
+TEST(NewTheme, AnyProjectCanBeATheme) {
   const Workplace place;
   place.Project("their project.gpj", {"their.jpg"});
   place.Replace("their project.gpj", "ROWS=\"5\"", "ROWS=\"9\"");
@@ -106,7 +106,7 @@ TEST(NewTheme, ADamagedOrMissingThemeIsAFailureAndNothingIsWritten) {
   EXPECT_EQ(FilesBelow(place.Path()), before);
 }
 
-TEST(NewTheme, AThemeIsAnInputThatTheOutputMustNotBe) {
+TEST(NewTheme, TheOutputMustNotBeTheTheme) {
   const Workplace place;
   place.Photograph("a.jpg");
   place.Project("theme.gpj", {"b.jpg"});
@@ -117,7 +117,7 @@ TEST(NewTheme, AThemeIsAnInputThatTheOutputMustNotBe) {
   EXPECT_EQ(place.Read("theme.gpj"), before);
 }
 
-/// What the pages of a gallery lead to and show, relative to its folder and without anchors.
+/// The links and images of a gallery's pages, relative to its folder and without anchors.
 std::set<std::string> TargetsIn(const std::string& page) {
   static const std::regex target("(?:HREF|SRC|URL)=\"?([^\"#]+)", std::regex::icase);
   std::set<std::string> targets;
@@ -127,8 +127,8 @@ std::set<std::string> TargetsIn(const std::string& page) {
   return targets;
 }
 
-// Thumbnail pages of two, so that each kind of link leads somewhere.
-TEST(NewTheme, NoGalleryOfAThemeHasADeadLinkOrALonelyFile) {
+// Thumbnail pages with two images each, so that every kind of link has a target.
+TEST(NewTheme, GalleriesOfThemesHaveNoDeadLinksAndNoUnreferencedFiles) {
   const Workplace place;
   for (const char* name : {"a.jpg", "b.jpg", "c.jpg", "d.jpg", "e.jpg"}) place.Photograph("in" / fs::path(name));
   for (const std::string& theme : kThemes) {
@@ -150,7 +150,7 @@ TEST(NewTheme, NoGalleryOfAThemeHasADeadLinkOrALonelyFile) {
   }
 }
 
-TEST(NewTheme, NoTagOfAThemeIsLeftInItsPages) {
+TEST(NewTheme, AllTagsOfThemesAreReplaced) {
   const Workplace place;
   place.Photograph("a.jpg");
   place.Photograph("b.jpg");

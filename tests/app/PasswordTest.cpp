@@ -41,7 +41,7 @@ TEST_F(Password, MayComeFromStandardInput) {
   }
 }
 
-TEST_F(Password, IsNotSeenWhenItIsTyped) {
+TEST_F(Password, IsNotEchoedWhenItIsTyped) {
   StartOptions options = FromStandardInput();
   options.standardError = StandardError::Terminal;
   ChildProcess program(options);
@@ -52,10 +52,10 @@ TEST_F(Password, IsNotSeenWhenItIsTyped) {
   EXPECT_EQ((result.out + result.err).find(server.Password()), std::string::npos) << result.err;
 }
 
-TEST_F(Password, PromptThatCtrlCInterruptsLeavesTheTerminalWithItsEcho) {
+TEST_F(Password, PromptInterruptedByCtrlCRestoresTheEchoOfTheTerminal) {
   StartOptions options = FromStandardInput();
   options.standardError = StandardError::Terminal;
-  // A shell stays on the terminal: the system resets a terminal that its last process leaves.
+  // Keeps a shell on the terminal, because the system resets a terminal when its last process ends.
   const std::vector<std::string> shell = {"/bin/sh", "-c", "trap : INT; \"$@\"; echo $?; stty -a", "sh"};
   options.command.insert(options.command.begin(), shell.begin(), shell.end());
   ChildProcess program(options);
@@ -78,7 +78,7 @@ TEST_F(Password, ThatIsEmptyOrWrongIsRefusedByTheServer) {
   EXPECT_FALSE(fs::exists(OnServer("web")));
 }
 
-TEST_F(Password, IsNeverACommandOfItsOwn) {
+TEST_F(Password, CannotContainAnFTPCommand) {
   for (const std::string_view file : {std::string_view("open\0sesame", 11), std::string_view("a\rDELE b", 8)}) {
     const ProcessResult result = UploadWith(file);
     EXPECT_TRUE(EndedWith(1, result)) << testing::PrintToString(file);
@@ -105,13 +105,13 @@ TEST_F(Password, FileThatCannotBeReadIsAFailureBeforeAnyConnection) {
   }
 }
 
-TEST_F(Password, IsWrittenNowhere) {
+TEST_F(Password, IsWrittenToNoFileAndNoOutput) {
   place.Project("a.gpj", {"a.jpg"});
   for (const std::string& password : {server.Password(), std::string("open barley")}) {
     place.Write("password", password);
     for (const ProcessResult& result : {Upload("web", {"--verbose"}), Publish("web/index.htm", {"--verbose"})}) {
       EXPECT_EQ((result.out + result.err).find(password), std::string::npos) << result.err;
-      EXPECT_NE(Log().find("\r\n331 "), std::string::npos) << "the server has been told one\n" << Log();
+      EXPECT_NE(Log().find("\r\n331 "), std::string::npos) << "the server asked for a password\n" << Log();
     }
     fs::remove(place.Path("password"));
     for (const auto& [name, bytes] : FilesBelow(place.Path())) {

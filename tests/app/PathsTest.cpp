@@ -26,7 +26,7 @@ void UseDrives(const Workplace& place, const std::string& lines) {
   place.Write("program/vantorium.ini", "[DRIVES]\r\n" + lines);
 }
 
-TEST(Paths, ARelativePathBeginsAtTheWorkingFolder) {
+TEST(Paths, ARelativePathIsRelativeToTheWorkingFolder) {
   const Workplace place;
   place.Photograph("sea/a.jpg");
   for (const char* path : {"sea/a.jpg", "./sea/a.jpg", "home/../sea//a.jpg"}) {
@@ -49,7 +49,7 @@ TEST(Paths, APathBelowTheHomeFolderIsOnDriveC) {
   EXPECT_EQ(Sources(place, "a.gpj"), std::vector<std::string>{"C:/sea/a.jpg"});
 }
 
-TEST(Paths, EveryArgumentMayBePathTextOfADrive) {
+TEST(Paths, EveryArgumentMayBePathText) {
   const Workplace place;
   place.Photograph("home/sea/a.jpg");
   place.Photograph("b.jpg");
@@ -60,7 +60,7 @@ TEST(Paths, EveryArgumentMayBePathTextOfADrive) {
   EXPECT_TRUE(std::filesystem::exists(place.Path("home/out/index.htm")));
 }
 
-TEST(Paths, PathTextThatBeginsWithASeparatorIsBelowTheRoot) {
+TEST(Paths, PathTextWithALeadingSeparatorIsBelowTheRoot) {
   const Workplace place;
   const std::string file = WithBackslashes(place.Photograph("a.jpg").string());
   ASSERT_TRUE(Succeeded(place.Run({"new", WithBackslashes(place.Path("a.gpj").string()), file})));
@@ -68,7 +68,7 @@ TEST(Paths, PathTextThatBeginsWithASeparatorIsBelowTheRoot) {
   EXPECT_TRUE(std::filesystem::exists(place.Path("out/Images/a.jpg.jpg")));
 }
 
-TEST(Paths, TheSectionDrivesReplacesTheDrives) {
+TEST(Paths, TheDrivesSectionReplacesTheUsualDrives) {
   const Workplace place;
   place.Photograph("pictures/sea/a.jpg");
   UseDrives(place, "P=\"" + place.Path("pictures").string() + "\"\r\nR=\"/\"\r\n");
@@ -118,7 +118,7 @@ TEST(Paths, APathOfADriveWithoutAFolderDoesNotExist) {
   }
 }
 
-TEST(Paths, PreferencesThatCannotBeReadAreAFailureAndNoOtherPlace) {
+TEST(Paths, UnreadablePreferencesAreAFailure) {
   const Workplace place;
   place.Project("a.gpj", {"home/a.jpg"});
   std::filesystem::create_directory(place.Path("program/vantorium.ini"));
@@ -140,7 +140,7 @@ TEST(Paths, PreferencesThatCannotBeReadAreAFailureAndNoOtherPlace) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("b.gpj")));
 }
 
-/// What `show` prints of each image's place.
+/// The native path that `show` prints for each image.
 std::vector<std::string> NativePaths(const Workplace& place, const std::string& project) {
   std::vector<std::string> paths;
   const ProcessResult result = place.Run({"show", project});
@@ -151,17 +151,17 @@ std::vector<std::string> NativePaths(const Workplace& place, const std::string& 
   return paths;
 }
 
-TEST(Paths, ShowPrintsWhereEachSourceIsOnThisSystem) {
+TEST(Paths, ShowPrintsTheNativePathOfEachSource) {
   const Workplace place;
   place.Project("a.gpj", {"home/a.jpg", "sea/b.jpg"});
   const std::vector paths = {place.Path("home/a.jpg").string(), place.Path("sea/b.jpg").string()};
   EXPECT_EQ(NativePaths(place, "a.gpj"), paths);
   EXPECT_EQ(Sources(place, "a.gpj"), (std::vector{std::string("C:/a.jpg"), place.SourceText("sea/b.jpg")}));
   UseDrives(place, "C=\"" + place.Path("home").string() + "\"\r\nZ=\"/\"\r\n");
-  EXPECT_EQ(NativePaths(place, "a.gpj"), paths) << "the place is the same for who thinks in letters";
+  EXPECT_EQ(NativePaths(place, "a.gpj"), paths) << "the same paths for a user with drives";
 }
 
-TEST(Paths, AMessageShowsAPathAsTheSystemWritesIt) {
+TEST(Paths, MessagesShowNativePaths) {
   const Workplace place;
   const std::string missing = place.Path("home/a.jpg").string();
   for (const std::string& typed :
@@ -172,7 +172,7 @@ TEST(Paths, AMessageShowsAPathAsTheSystemWritesIt) {
   }
 }
 
-TEST(Paths, AMessageShowsAPathOfNoPlaceAsItStands) {
+TEST(Paths, MessagesShowPathsWithoutAPlaceUnchanged) {
   const Workplace place;
   for (const std::string typed : {"Q:\\a.jpg", "\\\\server\\share\\a.jpg", "a.jpg", "sea/a.jpg", "~/a.jpg"}) {
     const ProcessResult result = place.Run({"new", "a.gpj", typed});
@@ -180,7 +180,7 @@ TEST(Paths, AMessageShowsAPathOfNoPlaceAsItStands) {
   }
 }
 
-TEST(Paths, WithASectionDrivesMessagesShowLetters) {
+TEST(Paths, WithADrivesSectionMessagesShowDriveLetters) {
   const Workplace place;
   place.Project("a.gpj", {"home/a.jpg"});
   UseDrives(place, "C=\"" + place.Path("home").string() + "\"\r\nZ=\"/\"\r\n");

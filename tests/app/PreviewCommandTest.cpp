@@ -8,7 +8,7 @@
 namespace vantorium::batch {
 namespace {
 
-TEST(PreviewCommand, PrintsTheIndexFileAndMakesPagesAlone) {
+TEST(PreviewCommand, PrintsTheIndexFileAndMakesOnlyPages) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   const ProcessResult result = place.Run({"preview", "a.gpj"});
@@ -18,7 +18,7 @@ TEST(PreviewCommand, PrintsTheIndexFileAndMakesPagesAlone) {
   EXPECT_EQ(ListingOf(place.Path("temp/VANTORIUM_TEMP")), "a.jpg.htm\nb.jpg.htm\nindex.htm\nthumbpage_1.htm\n");
 }
 
-TEST(PreviewCommand, PagesLinkToTheSourcesAtTheirNativePlaces) {
+TEST(PreviewCommand, PagesLinkToTheNativePathsOfTheSources) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "home/b.jpg"});
   ASSERT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
@@ -41,7 +41,7 @@ TEST(PreviewCommand, AProjectWithoutImagesIsRefused) {
   EXPECT_EQ(result.err, "No Images: You cannot preview a Gallery without Images.\n");
 }
 
-TEST(PreviewCommand, WithoutATemporaryFolderOnTheCommandLineThePreferencesNameIt) {
+TEST(PreviewCommand, TheTemporaryFolderDefaultsToThatOfThePreferences) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   std::filesystem::create_directory(place.Path("elsewhere"));
@@ -65,7 +65,7 @@ StartOptions WithOpener(const Workplace& place, const std::string& script, const
   return options;
 }
 
-TEST(PreviewCommand, OpenGivesTheIndexFileToTheDesktop) {
+TEST(PreviewCommand, OpenPassesTheIndexFileToTheDesktop) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const std::string script = "printf '%s\\n' \"$@\" >'" + place.Path("opened").string() + "'";
@@ -81,7 +81,7 @@ TEST(PreviewCommand, WithoutOpenNothingIsOpened) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("opened")));
 }
 
-TEST(PreviewCommand, ADesktopThatCannotOpenIsAFailureThatNamesWhatWasTried) {
+TEST(PreviewCommand, AFailedOpenIsAFailureThatNamesTheProgramsTried) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const ProcessResult result = ChildProcess(WithOpener(place, "exit 3", {"preview", "a.gpj", "--open"})).Finish();
@@ -90,10 +90,10 @@ TEST(PreviewCommand, ADesktopThatCannotOpenIsAFailureThatNamesWhatWasTried) {
   EXPECT_EQ(result.err, "Error: Error: 75\n\nNothing could open the preview.\nTried \"xdg-open " + index +
                             "\": xdg-open ended with the exit code 3\nTried \"gio open " + index +
                             "\": gio ended with the exit code 3\n");
-  EXPECT_EQ(result.out, index + "\n") << "the preview is made";
+  EXPECT_EQ(result.out, index + "\n") << "the preview was made";
 }
 
-TEST(PreviewCommand, TheSecondOpenerIsEnough) {
+TEST(PreviewCommand, OneWorkingOpenerIsEnough) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const std::string script = "case $0 in *xdg-open) exit 3;; esac";
@@ -102,7 +102,7 @@ TEST(PreviewCommand, TheSecondOpenerIsEnough) {
   EXPECT_EQ(result.err, "");
 }
 
-TEST(PreviewCommand, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
+TEST(PreviewCommand, ATemporaryFolderInUseIsRefused) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const auto folder = place.Path("temp/VANTORIUM_TEMP");
@@ -115,7 +115,7 @@ TEST(PreviewCommand, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
     EXPECT_EQ(result.err, "Directory Error: Another run is using the temporary folder \"" + folder.string() +
                               "\".  Please wait for its end, or choose another location.\n");
     EXPECT_TRUE(std::filesystem::is_empty(folder));
-    EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "out/index.htm"}))) << "a run that needs no such folder";
+    EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "out/index.htm"}))) << "this run needs no temporary folder";
   }
   EXPECT_TRUE(Succeeded(place.Run({"preview", "a.gpj"})));
 }

@@ -36,7 +36,7 @@ TEST_P(PublishCommand, AGalleryEqualsTheCreatedOneFileByFile) {
   EXPECT_EQ(FilesBelow(server.Root()).size(), FilesBelow(place.Path("out")).size());
 }
 
-TEST_P(PublishCommand, ASecondTimeReplacesEverything) {
+TEST_P(PublishCommand, ASecondRunReplacesEverything) {
   ASSERT_TRUE(Succeeded(Publish("web/index.htm"))) << Log();
   for (const auto& [name, bytes] : FilesBelow(OnServer("web"))) place.Write(OnServer("web") / name, "old");
   ASSERT_TRUE(Succeeded(Publish("web/index.htm", kCreationTime))) << Log();
@@ -44,7 +44,7 @@ TEST_P(PublishCommand, ASecondTimeReplacesEverything) {
   EXPECT_TRUE(SameFiles(OnServer("web"), place.Path("out")));
 }
 
-TEST_P(PublishCommand, OnlyChangesSendsOnlyWhatChangedAndRemovesOnlyWhatItSent) {
+TEST_P(PublishCommand, OnlyChangesSendsOnlyChangedFilesAndRemovesOnlyFilesItSent) {
   std::vector<std::string> options = kCreationTime;
   options.insert(options.end(), {"--only-changes", "--remove-unused"});
   ASSERT_TRUE(Succeeded(Publish("web/index.htm", options))) << Log();
@@ -80,25 +80,25 @@ TEST_P(PublishCommand, KeepExistingSendsOnlyTheMissingPicturesAndAllPages) {
   EXPECT_EQ(place.Read(OnServer("web/index.htm")), index);
 }
 
-TEST_P(PublishCommand, ASwitchLeavesOutItsFiles) {
+TEST_P(PublishCommand, EachSwitchLeavesOutItsFiles) {
   ASSERT_TRUE(Succeeded(Publish("web/index.htm", {"--no-html", "--no-thumbnails"})));
   EXPECT_EQ(ListingOf(OnServer("web")), "Images/a.jpg.jpg\nImages/b c.jpg.jpg\nImages/\xC3\xA4.jpg.jpg\n");
 }
 
-TEST_P(PublishCommand, TheRemotePathBeginsAtTheBaseDirectory) {
+TEST_P(PublishCommand, TheRemotePathIsRelativeToTheBaseDirectory) {
   fs::create_directories(OnServer("home/me"));
   ASSERT_TRUE(Succeeded(Publish("web\\start.html", {"--base-directory", "home/me"}))) << Log();
   EXPECT_TRUE(fs::exists(OnServer("home/me/web/start.html")));
   EXPECT_FALSE(fs::exists(OnServer("web")));
 }
 
-TEST_P(PublishCommand, AnIndexFileWithoutAFolderGoesWhereTheSessionBegins) {
+TEST_P(PublishCommand, AnIndexFileWithoutAFolderIsInTheInitialDirectory) {
   ASSERT_TRUE(Succeeded(Publish("start.html")));
   EXPECT_TRUE(fs::exists(OnServer("start.html")));
   EXPECT_TRUE(fs::exists(OnServer("Images/a.jpg.jpg")));
 }
 
-TEST_P(PublishCommand, ABaseDirectoryThatIsNotThereIsAFailure) {
+TEST_P(PublishCommand, AMissingBaseDirectoryIsAFailure) {
   const ProcessResult result = Publish("web/index.htm", {"--base-directory", "nowhere"});
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_EQ(result.err, "FTP Error: Cannot switch to specified base Directory \"nowhere\".\n");
@@ -113,7 +113,7 @@ TEST_P(PublishCommand, AFileInTheWayOfAFolderIsAFailure) {
   EXPECT_EQ(place.Read(OnServer("web")), "mine");
 }
 
-TEST_P(PublishCommand, VerbosePrintsEachStatusTextOnALine) {
+TEST_P(PublishCommand, VerbosePrintsEachStatusTextOnItsLine) {
   const ProcessResult result = Publish("web/index.htm", {"--verbose"});
   ASSERT_TRUE(Succeeded(result));
   const std::string beginning = "Reading Project File \"" + place.Path("a.gpj").string() +
@@ -142,7 +142,7 @@ TEST_F(PublishRefusal, OfAProjectWithoutImages) {
   EXPECT_FALSE(fs::exists(OnServer("web")));
 }
 
-TEST_F(PublishRefusal, OfWhatIsNotAProject) {
+TEST_F(PublishRefusal, OfAFileThatIsNotAProject) {
   place.Write("a.gpj", "no XML");
   for (const char* project : {"a.gpj", "missing.gpj"}) {
     const ProcessResult result = PublishProject(project);
@@ -152,7 +152,7 @@ TEST_F(PublishRefusal, OfWhatIsNotAProject) {
   }
 }
 
-TEST_F(PublishRefusal, OfAPictureThatCannotBeRead) {
+TEST_F(PublishRefusal, OfAnUnreadablePicture) {
   place.Project("a.gpj", {"a.jpg"});
   place.Write("a.jpg", "no JPEG");
   const ProcessResult result = PublishProject("a.gpj");

@@ -9,7 +9,7 @@ namespace {
 
 const char kSavingFailed[] = "File Error: An error occurred while saving the Gallery Project.\n";
 
-TEST(SaveCommand, ASavedProjectIsShownAsTheOldOne) {
+TEST(SaveCommand, ASavedProjectHasTheSettingsOfTheOldOne) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   place.Replace("a.gpj", "TITLE=\"Gallery1\"", "TITLE=\"Ünïcödé &amp; more\"");
@@ -17,7 +17,7 @@ TEST(SaveCommand, ASavedProjectIsShownAsTheOldOne) {
   EXPECT_EQ(place.Run({"show", "a.gpj"}).out, place.Run({"show", "b.gpj"}).out);
 }
 
-TEST(SaveCommand, SavingASavedProjectChangesNoByte) {
+TEST(SaveCommand, SavingASavedProjectGivesTheSameBytes) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   ASSERT_TRUE(Succeeded(place.Run({"save", "a.gpj", "b.gpj"})));
@@ -53,7 +53,7 @@ TEST(SaveCommand, AProjectSavedOverItselfIsAWrongCommandLine) {
   EXPECT_EQ(place.Read("a.gpj"), before);
 }
 
-TEST(SaveCommand, AnotherProjectIsReplaced) {
+TEST(SaveCommand, AnExistingProjectIsReplaced) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   place.Write("b.gpj", "old");
@@ -83,7 +83,7 @@ TEST(SaveCommand, ATargetThatCannotBeWrittenIsAFailure) {
   }
 }
 
-TEST(SaveCommand, NothingIsLeftBesideTheTarget) {
+TEST(SaveCommand, SavingLeavesNoOtherFiles) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   std::filesystem::create_directory(place.Path("out"));

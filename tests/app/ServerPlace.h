@@ -8,7 +8,7 @@ namespace vantorium::batch {
 /// A workplace and a real server on loopback. The file "password" holds the server's password.
 class ServerPlace : public testing::Test {
  protected:
-  /// With a certificate the server demands TLS.
+  /// With a certificate, the server demands TLS.
   explicit ServerPlace(fakes::FtpServerKind kind = fakes::FtpServerKind::Vsftpd,
                        std::optional<fakes::TestCertificate> certificate = std::nullopt)
       : server(kind, std::move(certificate)) {
@@ -42,7 +42,7 @@ class ServerPlace : public testing::Test {
   fakes::FtpServerProcess server;
 };
 
-/// The same for each kind of server.
+/// A ServerPlace for each kind of server.
 class EachServerPlace : public ServerPlace, public testing::WithParamInterface<fakes::FtpServerKind> {
  protected:
   EachServerPlace() : ServerPlace(GetParam()) {}

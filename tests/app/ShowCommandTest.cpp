@@ -8,7 +8,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-/// What `show` printed, which must be one complete JSON object and nothing else.
+/// The output of `show`, which must be a single JSON object.
 Json Shown(const ProcessResult& result) {
   EXPECT_TRUE(Json::accept(result.out)) << result.out;
   return Json::parse(result.out, nullptr, /*allow_exceptions=*/false);
@@ -28,7 +28,7 @@ std::string InvalidProject(const std::string& path, const std::string& reason) {
          "\nFile Error: An error occurred while opening the Gallery Project \"" + path + "\".\n";
 }
 
-// Expects the defaults, except for fields that reading the file changes: a width in the file switches
+// Expects the defaults, except for fields that reading the file changes: a width in the file turns
 // checkThumbnailsImageSetWidth on.
 TEST(ShowCommand, ANewProjectIsShownWithEveryField) {
   const Workplace place;
@@ -38,7 +38,7 @@ TEST(ShowCommand, ANewProjectIsShownWithEveryField) {
   EXPECT_EQ(Json::diff(expected, ShowProject(place, "a.gpj").at("project")), Json::array());
 }
 
-TEST(ShowCommand, TheObjectHoldsProjectImagesAndPageCountAlone) {
+TEST(ShowCommand, TheObjectHasOnlyProjectImagesAndPageCount) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const Json shown = ShowProject(place, "a.gpj");
@@ -66,7 +66,7 @@ TEST(ShowCommand, AnImageIsShownWithAllItsFields) {
   EXPECT_EQ(image.at("ThumbnailDescription"), "thumb");
 }
 
-TEST(ShowCommand, KindsOfValuesAreStringsAndNumbers) {
+TEST(ShowCommand, ValuesAreStringsOrNumbers) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   place.Replace("a.gpj", "TYPE=\"singleframe\"", "TYPE=\"thumbsright\"");
@@ -88,7 +88,7 @@ TEST(ShowCommand, PagesAreCounted) {
   EXPECT_EQ(ShowProject(place, "a.gpj").at("thumbnailPageCount"), 0);
 }
 
-TEST(ShowCommand, AFileThatIsNotAProjectIsReportedAndShownAsANewOne) {
+TEST(ShowCommand, AnInvalidFileIsReportedAndShownAsANewProject) {
   for (const char* bytes : {"", "no XML", "<ANYTHING/>", "<GALLERYPROJECT"}) {
     const Workplace place;
     place.Write("a.gpj", bytes);
@@ -108,7 +108,7 @@ TEST(ShowCommand, AFileThatDoesNotExistIsReported) {
             InvalidProject(place.Path("nowhere.gpj"), "The File does not contain a Gallery Project Description."));
 }
 
-TEST(ShowCommand, WhatWasReadBeforeTheFaultIsShown) {
+TEST(ShowCommand, ValuesReadBeforeAFailureAreShown) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   place.Replace("a.gpj", "TITLE=\"Gallery1\"", "TITLE=\"Half\"");
@@ -122,7 +122,7 @@ TEST(ShowCommand, WhatWasReadBeforeTheFaultIsShown) {
   EXPECT_EQ(shown.at("project").at("textThumbnailImageSettingsSubFolder"), "Small");
 }
 
-TEST(ShowCommand, AnImageThatIsGoneEndsTheReading) {
+TEST(ShowCommand, AMissingImageEndsTheReading) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg", "c.jpg"});
   std::filesystem::remove(place.Path("b.jpg"));

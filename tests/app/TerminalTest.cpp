@@ -27,7 +27,7 @@ TEST(Terminal, WithoutATerminalThereIsNoProgress) {
   EXPECT_EQ(result.out + result.err, "");
 }
 
-TEST(Terminal, VerbosePrintsEachStatusTextOnALine) {
+TEST(Terminal, VerbosePrintsEachStatusTextOnItsLine) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   const ProcessResult result = place.Run({"create", "a.gpj", "out/index.htm", "--verbose"});
@@ -50,7 +50,7 @@ TEST(Terminal, VerbosePrintsEachStatusTextOnALine) {
                             "Creating Image Wrapper File for \"b.jpg\"...\n");
 }
 
-TEST(Terminal, VerboseTellsOfSaving) {
+TEST(Terminal, VerboseReportsSaving) {
   const Workplace place;
   place.Photograph("a.jpg");
   const ProcessResult result = place.Run({"new", "a.gpj", "a.jpg", "--verbose"});
@@ -58,7 +58,7 @@ TEST(Terminal, VerboseTellsOfSaving) {
   EXPECT_EQ(result.err, "Writing Project File \"" + place.Path("a.gpj").string() + "\"...\n");
 }
 
-TEST(Terminal, VerboseTextsAreInTheSameOrderForEveryNumberOfJobs) {
+TEST(Terminal, TheOrderOfVerboseTextsDoesNotDependOnJobs) {
   const Workplace place;
   place.LargeProject("a.gpj", 30);
   const ProcessResult one = place.Run({"create", "a.gpj", "out/index.htm", "--verbose", "--jobs", "1"});
@@ -66,7 +66,7 @@ TEST(Terminal, VerboseTextsAreInTheSameOrderForEveryNumberOfJobs) {
   EXPECT_EQ(one.err, four.err);
 }
 
-TEST(Terminal, QuietPrintsNothingOnATerminalEither) {
+TEST(Terminal, QuietPrintsNoProgressOnATerminal) {
   const Workplace place;
   place.LargeProject("a.gpj", 20);
   const ProcessResult result =
@@ -75,7 +75,7 @@ TEST(Terminal, QuietPrintsNothingOnATerminalEither) {
   EXPECT_EQ(result.out + result.err, "");
 }
 
-TEST(Terminal, QuietKeepsMessages) {
+TEST(Terminal, QuietStillPrintsMessages) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   place.Write("a.jpg", "no JPEG");
@@ -83,7 +83,7 @@ TEST(Terminal, QuietKeepsMessages) {
   EXPECT_EQ(result.err, "File Error: Unable to copy the File \"" + place.Path("a.jpg").string() + "\".\n");
 }
 
-TEST(Terminal, VerboseOnATerminalIsLinesAndNoBar) {
+TEST(Terminal, VerboseOnATerminalPrintsLinesInsteadOfABar) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   const ProcessResult result =
@@ -93,14 +93,14 @@ TEST(Terminal, VerboseOnATerminalIsLinesAndNoBar) {
   EXPECT_EQ(result.err.find('\x1b'), std::string::npos) << result.err;
 }
 
-TEST(Terminal, TheBarShowsShareCountAndText) {
+TEST(Terminal, TheBarShowsPercentageCountAndText) {
   const Workplace place;
   place.SlowProject("a.gpj");
   ChildProcess program(OnTerminal(place, {"create", "a.gpj", "out/index.htm"}));
   program.WaitForError(R"(\r\[=* +\] +[0-9]+% [1-9][0-9]*/1500.*  Copying File "many.jpg)");
 }
 
-TEST(Terminal, TheBarShowsTheTimeLeftOnceItCanBeReckoned) {
+TEST(Terminal, TheBarShowsTheTimeLeftOnceItCanBeEstimated) {
   const Workplace place;
   place.SlowProject("a.gpj");
   ChildProcess program(OnTerminal(place, {"create", "a.gpj", "out/index.htm"}));
@@ -116,7 +116,7 @@ TEST(Terminal, TheBarIsErasedAtTheEnd) {
   EXPECT_EQ(result.err.find('\n'), std::string::npos) << result.err;
 }
 
-TEST(Terminal, TheBarIsErasedInFrontOfAMessage) {
+TEST(Terminal, TheBarIsErasedBeforeAMessage) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   place.Write("a.jpg", "no JPEG");
@@ -126,7 +126,7 @@ TEST(Terminal, TheBarIsErasedInFrontOfAMessage) {
       << result.err;
 }
 
-TEST(Terminal, OnANarrowTerminalTheCountStaysWholeAndTheLineIsCut) {
+TEST(Terminal, OnANarrowTerminalTheLineIsTruncatedAfterTheCount) {
   const Workplace place;
   place.SlowProject("a.gpj");
   StartOptions options = OnTerminal(place, {"create", "a.gpj", "out/index.htm"});
@@ -139,7 +139,7 @@ TEST(Terminal, OnANarrowTerminalTheCountStaysWholeAndTheLineIsCut) {
   EXPECT_EQ(CountOf(result.err, R"(\r[ 0-9][^\r\x1b]{39})"), 0U) << result.err;
 }
 
-TEST(Terminal, ControlCharactersOfANameReachItEscaped) {
+TEST(Terminal, ControlCharactersOfNamesAreEscaped) {
   const Workplace place;
   const std::string name =
       "a\x7F\xC2\x9B"
@@ -156,7 +156,7 @@ TEST(Terminal, ControlCharactersOfANameReachItEscaped) {
   EXPECT_NE(place.Run({"\x1B[2J"}).err.find("\\u001B[2J"), std::string::npos);
 }
 
-TEST(Terminal, LettersOfAllLanguagesStayAsTheyAre) {
+TEST(Terminal, LettersOfAllScriptsAreUnchanged) {
   const Workplace place;
   const std::string name = "Übersicht 写真 🌊.jpg";
   place.Project("a.gpj", {name});
@@ -164,7 +164,7 @@ TEST(Terminal, LettersOfAllLanguagesStayAsTheyAre) {
   EXPECT_NE(result.err.find("Copying File \"" + name + "\"...\n"), std::string::npos) << result.err;
 }
 
-TEST(Terminal, ErrorOutputThatIsLostDecidesNothing) {
+TEST(Terminal, LostErrorOutputDoesNotChangeTheResult) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
   ASSERT_TRUE(Succeeded(place.Run({"create", "a.gpj", "whole/index.htm"})));
@@ -177,7 +177,7 @@ TEST(Terminal, ErrorOutputThatIsLostDecidesNothing) {
   }
 }
 
-TEST(Terminal, OneThatGoesAwayCancelsTheRun) {
+TEST(Terminal, ClosingItCancelsTheRun) {
   const Workplace place;
   place.SlowProject("a.gpj");
   ChildProcess program(OnTerminal(place, {"create", "a.gpj", "out/index.htm"}));
@@ -187,7 +187,7 @@ TEST(Terminal, OneThatGoesAwayCancelsTheRun) {
   EXPECT_EQ(ListingOf(place.Path("out")).find(".vantorium-"), std::string::npos);
 }
 
-TEST(Terminal, ARunThatIsToOutliveItGoesOnWhenItGoesAway) {
+TEST(Terminal, ARunUnderNohupContinuesWhenItIsClosed) {
   const Workplace place;
   place.LargeProject("a.gpj", 60);
   place.Replace("a.gpj", "HEIGHT=\"300\"", "HEIGHT=\"900\"");

@@ -18,7 +18,7 @@ class UploadCommand : public EachServerPlace {
 
 INSTANTIATE_TEST_SUITE_P(To, UploadCommand, kEachServer, NameOfServer);
 
-TEST_P(UploadCommand, AFolderArrivesWithItsTreeByteByByte) {
+TEST_P(UploadCommand, AFolderIsSentWithItsTreeByteByByte) {
   for (const char* remote : {"my web/new", "slash/", "back\\slash\\"}) {
     const ProcessResult result = Upload(remote);
     ASSERT_TRUE(Succeeded(result)) << remote << "\n" << Log();
@@ -37,7 +37,7 @@ TEST_P(UploadCommand, ALinkToAFolderIsNotFollowed) {
   EXPECT_TRUE(fs::exists(OnServer("web/pictures/old")));
 }
 
-TEST_P(UploadCommand, FilesOnTheServerAreReplacedUnlessTheyAreToBeKept) {
+TEST_P(UploadCommand, FilesOnTheServerAreReplacedUnlessKeepExistingIsGiven) {
   place.Write(OnServer("web/index.htm"), "old");
   ASSERT_TRUE(Succeeded(Upload("web", {"--keep-existing"})));
   EXPECT_EQ(place.Read(OnServer("web/index.htm")), "old");
@@ -46,19 +46,19 @@ TEST_P(UploadCommand, FilesOnTheServerAreReplacedUnlessTheyAreToBeKept) {
   EXPECT_TRUE(SameFiles(OnServer("web"), place.Path("site")));
 }
 
-TEST_P(UploadCommand, FilesOfOthersOnTheServerAreLeftAlone) {
+TEST_P(UploadCommand, OtherFilesOnTheServerAreUnchanged) {
   place.Write(OnServer("web/notes.txt"), "mine");
   ASSERT_TRUE(Succeeded(Upload("web")));
   EXPECT_EQ(place.Read(OnServer("web/notes.txt")), "mine");
 }
 
-TEST_P(UploadCommand, TheRemotePathBeginsAtTheBaseDirectory) {
+TEST_P(UploadCommand, TheRemotePathIsRelativeToTheBaseDirectory) {
   fs::create_directories(OnServer("home/me"));
   ASSERT_TRUE(Succeeded(Upload("web", {"--base-directory", "home/me"})));
   EXPECT_TRUE(SameFiles(OnServer("home/me/web"), place.Path("site")));
 }
 
-TEST_P(UploadCommand, VerbosePrintsEachStatusTextOnALine) {
+TEST_P(UploadCommand, VerbosePrintsEachStatusTextOnItsLine) {
   fs::remove_all(place.Path("site/pictures"));
   const ProcessResult result = Upload("web", {"--verbose"});
   ASSERT_TRUE(Succeeded(result));
@@ -76,7 +76,7 @@ TEST_P(UploadCommand, VerbosePrintsEachStatusTextOnALine) {
 }
 
 // A missing folder, a file, a folder on an unmapped drive, and no folder.
-TEST_P(UploadCommand, AFolderThatCannotBeReadIsAFailureBeforeAnyConnection) {
+TEST_P(UploadCommand, AnUnreadableFolderIsAFailureBeforeAnyConnection) {
   for (const char* folder : {"missing", "site/index.htm", "Q:\\site", ""}) {
     const ProcessResult result = ChildProcess(Options("upload", folder, "web")).Finish();
     EXPECT_TRUE(EndedWith(1, result)) << folder;
@@ -85,7 +85,7 @@ TEST_P(UploadCommand, AFolderThatCannotBeReadIsAFailureBeforeAnyConnection) {
   EXPECT_FALSE(fs::exists(OnServer("web")));
 }
 
-TEST_P(UploadCommand, WhatTheServerRefusesIsAFailureThatNamesTheLog) {
+TEST_P(UploadCommand, ARefusalOfTheServerIsAFailureThatNamesTheLog) {
   place.Write(OnServer("web/pictures"), "a file in the way of a folder");
   const ProcessResult result = Upload("web");
   EXPECT_TRUE(EndedWith(1, result));
@@ -94,7 +94,7 @@ TEST_P(UploadCommand, WhatTheServerRefusesIsAFailureThatNamesTheLog) {
   EXPECT_NE(Log().find("\r\n550 "), std::string::npos) << Log();
 }
 
-TEST_P(UploadCommand, AnEmptyFileEndsTheUploadWithItsFailure) {
+TEST_P(UploadCommand, AnEmptyFileEndsTheUploadWithAFailure) {
   place.Write("site/empty/file", "");
   const ProcessResult result = Upload("web");
   EXPECT_TRUE(EndedWith(1, result));

@@ -33,7 +33,7 @@ class UploadLogFile : public testing::Test {
   Workplace place;
 };
 
-TEST_F(UploadLogFile, OfARunToAServerHasAHeaderAndAFooterWithThePresentTime) {
+TEST_F(UploadLogFile, OfARunToAServerHasHeaderAndFooterWithTheCurrentTime) {
   place.Write("program/ftplog.txt", "the run before");
   FailToUpload();
   EXPECT_TRUE(Log().starts_with("\r\nVantorium 3.0 Upload Log (2")) << Log();
@@ -42,18 +42,18 @@ TEST_F(UploadLogFile, OfARunToAServerHasAHeaderAndAFooterWithThePresentTime) {
   EXPECT_EQ(Log().find("hush-hush"), std::string::npos) << Log();
 }
 
-TEST_F(UploadLogFile, AFailedRunWithoutAServerAddsTheTextOfItsLogBoxAndNothingElse) {
+TEST_F(UploadLogFile, AFailedRunWithoutAServerAppendsOnlyTheTextOfItsLogBox) {
   place.Write("program/ftplog.txt", "before\r\n");
   std::ignore = FailToCreate();
   EXPECT_EQ(Log(), "before\r\n\r\n");
 }
 
-TEST_F(UploadLogFile, ARunWithoutAServerSaysNothingOfALogThatHasNoFolder) {
+TEST_F(UploadLogFile, ARunWithoutAServerIgnoresAMissingLogFolder) {
   const ProcessResult result = FailToCreate({"--program-folder", "password/below"});
   EXPECT_EQ(result.err.find("Error writing Log"), std::string::npos) << result.err;
 }
 
-TEST_F(UploadLogFile, ALogThatCannotBeWrittenIsReportedAndTheRunGoesOn) {
+TEST_F(UploadLogFile, ALogThatCannotBeWrittenIsReportedAndTheRunContinues) {
   std::filesystem::create_directory(place.Path("program/ftplog.txt"));
   const ProcessResult result = FailToCreate();
   EXPECT_TRUE(result.err.starts_with("File Error: ")) << result.err;
@@ -75,7 +75,7 @@ class UploadLogOfAServer : public EachServerPlace {};
 
 INSTANTIATE_TEST_SUITE_P(At, UploadLogOfAServer, kEachServer, NameOfServer);
 
-TEST_P(UploadLogOfAServer, HasTheStepsAndTheAnswers) {
+TEST_P(UploadLogOfAServer, HasTheStepsAndTheReplies) {
   place.Write("site/a.txt", "x");
   ASSERT_TRUE(Succeeded(Upload("web")));
   const std::string body = BodyOf(Log());
@@ -85,11 +85,11 @@ TEST_P(UploadLogOfAServer, HasTheStepsAndTheAnswers) {
                                   "\r\nCopying file " + place.Path("site/a.txt").string() + " to web/a.txt\r\n200 ",
                                   std::string("\r\n200 "), std::string("\r\n150 "), std::string("\r\n226 ")}) {
     at = body.find(part, at);
-    ASSERT_NE(at, std::string::npos) << testing::PrintToString(part) << " is missing or not in its place in\n" << body;
+    ASSERT_NE(at, std::string::npos) << testing::PrintToString(part) << " is missing or out of order in\n" << body;
   }
 }
 
-TEST_P(UploadLogOfAServer, LosesNothingAtItsSavepoints) {
+TEST_P(UploadLogOfAServer, LosesNothingAtSavepoints) {
   constexpr int kFiles = 300;
   std::string copied;
   for (int file = 1000; file < 1000 + kFiles; ++file) {
@@ -115,7 +115,7 @@ TEST_P(UploadLogOfAServer, LosesNothingAtItsSavepoints) {
   EXPECT_EQ(savepoints, static_cast<int>(body.size() / 30'000)) << body.size();
 }
 
-TEST_P(UploadLogOfAServer, IsThatOfTheLastRun) {
+TEST_P(UploadLogOfAServer, HasOnlyTheLastRun) {
   place.Write("site/a.txt", "x");
   ASSERT_TRUE(Succeeded(Upload("first")));
   ASSERT_TRUE(Succeeded(Upload("second")));
@@ -123,7 +123,7 @@ TEST_P(UploadLogOfAServer, IsThatOfTheLastRun) {
   EXPECT_EQ(Log().find("Upload Log ("), Log().rfind("Upload Log (", Log().rfind("End of "))) << Log();
 }
 
-TEST_P(UploadLogOfAServer, OfAFailedRunHasItsTextOnceAndAnEmptyLine) {
+TEST_P(UploadLogOfAServer, OfAFailedRunHasTheFailureOnceAndAnEmptyLine) {
   place.Write("site/a.txt", "x");
   place.Write(OnServer("web"), "in the way");
   EXPECT_TRUE(EndedWith(1, Upload("web")));
@@ -132,7 +132,7 @@ TEST_P(UploadLogOfAServer, OfAFailedRunHasItsTextOnceAndAnEmptyLine) {
   EXPECT_TRUE(BodyOf(log).ends_with("\r\n\r\n")) << testing::PrintToString(log);
 }
 
-TEST_P(UploadLogOfAServer, InAProgramFolderThatIsNotThereMakesTheFolder) {
+TEST_P(UploadLogOfAServer, CreatesAMissingProgramFolder) {
   place.Write("site/a.txt", "x");
   ASSERT_TRUE(Succeeded(Upload("web", {"--program-folder", "new/program"})));
   EXPECT_NE(place.Read("new/program/ftplog.txt").find("Copying file "), std::string::npos);

@@ -1,4 +1,4 @@
-// What would go wrong, said before a run begins.
+// Warnings before a run begins.
 #include "tests/app/ServerPlace.h"
 
 #include <filesystem>
@@ -25,17 +25,17 @@ class Warnings : public testing::Test {
   Workplace place;
 };
 
-TEST_F(Warnings, AreSaidAndTheGalleryIsMade) {
+TEST_F(Warnings, ArePrintedAndTheGalleryIsCreated) {
   place.Project("a.gpj", {"a#1.jpg"});
   for (const std::vector<std::string>& more : {std::vector<std::string>{}, {"--quiet"}}) {
     const ProcessResult result = Create(more);
     EXPECT_TRUE(Succeeded(result));
-    EXPECT_EQ(result.err, kDeadLink) << "they are messages, not progress";
+    EXPECT_EQ(result.err, kDeadLink) << "warnings are messages, not progress";
     EXPECT_TRUE(std::filesystem::exists(place.Path("out/a#1.jpg.htm")));
   }
 }
 
-TEST_F(Warnings, WithStrictAllAreSaidAndNothingIsMade) {
+TEST_F(Warnings, WithStrictAllArePrintedAndNothingIsCreated) {
   place.Project("a.gpj", {"a#1.jpg", "b.jpg"});
   place.Replace("a.gpj", "<THUMBNAILPAGE ", "<THUMBNAILPAGE BACKGROUND=\"C:/gone.gif\" ");
   const ProcessResult result = Create({"--strict"});
@@ -46,7 +46,7 @@ TEST_F(Warnings, WithStrictAllAreSaidAndNothingIsMade) {
   EXPECT_FALSE(std::filesystem::exists(place.Path("out")));
 }
 
-TEST_F(Warnings, WithNothingToSayStrictChangesNothing) {
+TEST_F(Warnings, StrictChangesNothingIfThereAreNoWarnings) {
   place.Project("a.gpj", {"a.jpg", "b.jpg"});
   const ProcessResult result = Create({"--strict"});
   EXPECT_TRUE(Succeeded(result));
@@ -54,7 +54,7 @@ TEST_F(Warnings, WithNothingToSayStrictChangesNothing) {
   EXPECT_TRUE(std::filesystem::exists(place.Path("out/a.jpg.htm")));
 }
 
-TEST_F(Warnings, AFileThatIsGoneIsSaidBeforeTheFailureOfTheRun) {
+TEST_F(Warnings, AMissingFileIsReportedBeforeTheRunFails) {
   place.Project("a.gpj", {"a.jpg"});
   place.Replace("a.gpj", "<THUMBNAILPAGE ", "<THUMBNAILPAGE BACKGROUND=\"C:/gone.gif\" ");
   const ProcessResult result = Create();
@@ -64,7 +64,7 @@ TEST_F(Warnings, AFileThatIsGoneIsSaidBeforeTheFailureOfTheRun) {
                         place.Path("home/gone.gif").string()));
 }
 
-TEST_F(Warnings, APhotographThatTheRunWouldReplaceIsSaidOnlyForThatFolder) {
+TEST_F(Warnings, APhotographThatTheRunWouldReplaceIsReportedOnlyForThatFolder) {
   place.Project("a.gpj", {"out/Images/own.jpg"});
   place.Replace("a.gpj", "NAME=\"own.jpg\"", "NAME=\"own\"");
   EXPECT_EQ(Create({"--strict"}).err,
@@ -73,14 +73,14 @@ TEST_F(Warnings, APhotographThatTheRunWouldReplaceIsSaidOnlyForThatFolder) {
   EXPECT_TRUE(Succeeded(place.Run({"create", "a.gpj", "other/index.htm", "--strict"})));
 }
 
-TEST_F(Warnings, APreviewHasNone) {
+TEST_F(Warnings, AreNotPrintedForAPreview) {
   place.Project("a.gpj", {"a#1.jpg"});
   const ProcessResult result = place.Run({"preview", "a.gpj"});
   EXPECT_TRUE(Succeeded(result));
   EXPECT_EQ(result.err, "");
 }
 
-TEST_F(Warnings, StrictIsForRunsThatMakeAGallery) {
+TEST_F(Warnings, StrictIsOnlyForRunsThatCreateAGallery) {
   place.Project("a.gpj", {"a.jpg"});
   for (const std::vector<std::string>& arguments :
        {std::vector<std::string>{"preview", "a.gpj", "--strict"}, {"show", "a.gpj", "--strict"}}) {
@@ -90,7 +90,7 @@ TEST_F(Warnings, StrictIsForRunsThatMakeAGallery) {
 
 using WarningsOfPublish = ServerPlace;
 
-TEST_F(WarningsOfPublish, AreSaidAndTheGalleryIsSent) {
+TEST_F(WarningsOfPublish, ArePrintedAndTheGalleryIsSent) {
   place.Project("a.gpj", {"a#1.jpg"});
   const ProcessResult result = Publish("web/index.htm");
   EXPECT_TRUE(Succeeded(result));
@@ -98,7 +98,7 @@ TEST_F(WarningsOfPublish, AreSaidAndTheGalleryIsSent) {
   EXPECT_TRUE(std::filesystem::exists(OnServer("web/a#1.jpg.htm")));
 }
 
-TEST_F(WarningsOfPublish, WithStrictNothingIsSaidToTheServer) {
+TEST_F(WarningsOfPublish, WithStrictNothingIsSentToTheServer) {
   place.Project("a.gpj", {"a#1.jpg"});
   const ProcessResult result = Publish("web/index.htm", {"--strict"});
   EXPECT_TRUE(EndedWith(1, result));

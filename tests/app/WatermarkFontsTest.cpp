@@ -27,7 +27,7 @@ class WatermarkFonts : public testing::Test {
   Workplace place;
 };
 
-TEST_F(WatermarkFonts, WithoutAnyFontAMarkedImageFailsTheRunWhichSaysWhy) {
+TEST_F(WatermarkFonts, WithoutAnyFontAWatermarkedImageFailsTheRunWithTheReason) {
   Mark("<IMAGES FOLDER=\"Images\">");
   const FontFolder none;
   const ProcessResult result = Create(none);
@@ -37,7 +37,7 @@ TEST_F(WatermarkFonts, WithoutAnyFontAMarkedImageFailsTheRunWhichSaysWhy) {
   EXPECT_EQ(ListingOf(place.Path("out")), "");
 }
 
-TEST_F(WatermarkFonts, WithoutAnyFontAMarkedThumbnailFailsTheRunAfterTheImages) {
+TEST_F(WatermarkFonts, WithoutAnyFontAWatermarkedThumbnailFailsTheRunAfterTheImages) {
   Mark("<THUMBNAILS FOLDER=\"Thumbs\">");
   const FontFolder none;
   const ProcessResult result = Create(none);
@@ -46,7 +46,7 @@ TEST_F(WatermarkFonts, WithoutAnyFontAMarkedThumbnailFailsTheRunAfterTheImages) 
   EXPECT_EQ(ListingOf(place.Path("out")), "Images/a.jpg.jpg\nImages/b.jpg.jpg\n");
 }
 
-TEST_F(WatermarkFonts, AFontFileThatCannotBeReadIsNamed) {
+TEST_F(WatermarkFonts, TheFailureNamesAnUnreadableFontFile) {
   Mark("<IMAGES FOLDER=\"Images\">");
   const FontFolder fonts;
   const auto file = fonts.Add(kSans);

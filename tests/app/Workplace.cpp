@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 namespace vantorium::batch {
 namespace {
 
-/// This process's environment, which holds the sanitizers' options, with the variables that the program reads replaced.
+/// This process's environment, with its sanitizer options, and with the variables that the program reads replaced.
 std::map<std::string, std::string> EnvironmentAt(const fs::path& home) {
   std::map<std::string, std::string> environment;
   for (char** variable = environ; *variable != nullptr; ++variable) {
@@ -99,7 +99,7 @@ void Workplace::Replace(const fs::path& name, std::string_view old, std::string_
   std::string bytes = Read(name);
   const auto at = bytes.find(old);
   ASSERT_NE(at, std::string::npos) << old << " is not in\n" << bytes;
-  ASSERT_EQ(bytes.find(old, at + 1), std::string::npos) << old << " is there twice in\n" << bytes;
+  ASSERT_EQ(bytes.find(old, at + 1), std::string::npos) << old << " occurs twice in\n" << bytes;
   Write(name, bytes.replace(at, old.size(), text));
 }
 
@@ -141,7 +141,7 @@ testing::AssertionResult Succeeded(const ProcessResult& result) {
 
 testing::AssertionResult EndedWith(int exitCode, const ProcessResult& result) {
   if (result.exitCode == exitCode) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "the exit code is " << result.exitCode << " and not " << exitCode
+  return testing::AssertionFailure() << "the exit code is " << result.exitCode << " instead of " << exitCode
                                      << "\nstandard output:\n"
                                      << result.out << "\nstandard error:\n"
                                      << result.err;

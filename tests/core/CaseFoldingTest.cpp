@@ -7,7 +7,7 @@
 namespace vantorium::core {
 namespace {
 
-TEST(CaseFolding, TextsThatDifferInCaseFoldToTheSame) {
+TEST(CaseFolding, TextsThatDifferOnlyInCaseFoldToTheSameText) {
   const std::pair<const char*, const char*> cases[] = {
       {"ABC.jpg", "abc.JPG"},
       {"\u00C4\u00D6\u00DC", "\u00E4\u00F6\u00FC"},
@@ -17,22 +17,22 @@ TEST(CaseFolding, TextsThatDifferInCaseFoldToTheSame) {
   for (const auto& [left, right] : cases) EXPECT_EQ(FoldCase(left), FoldCase(right)) << left;
 }
 
-TEST(CaseFolding, OtherTextsStayApart) {
+TEST(CaseFolding, OtherTextsFoldToDifferentTexts) {
   const std::pair<const char*, const char*> cases[] = {{"a", "b"}, {"a", "\u00E4"}, {"a", "a "}, {"a_1", "a-1"}};
   for (const auto& [left, right] : cases) EXPECT_NE(FoldCase(left), FoldCase(right)) << left;
 }
 
-TEST(CaseFolding, AsciiBecomesLowerCaseAndNothingElse) {
+TEST(CaseFolding, AsciiFoldsToLowercase) {
   EXPECT_EQ(FoldCase("IMG_0001 (Copy).JPG"), "img_0001 (copy).jpg");
   EXPECT_EQ(FoldCase(""), "");
 }
 
-TEST(CaseFolding, BytesThatAreNotUTF8StayAsTheyAre) {
+TEST(CaseFolding, InvalidUTF8IsUnchanged) {
   const std::pair<const char*, const char*> cases[] = {{"\xFFZ", "\xFFz"}, {"Z\xC3", "z\xC3"}, {"Z\x80", "z\x80"}};
   for (const auto& [text, expected] : cases) EXPECT_EQ(FoldCase(text), expected);
 }
 
-TEST(CaseFolding, LettersAndDigitsOfEveryScriptAreKnown) {
+TEST(CaseFolding, LettersAndDigitsOfEveryScriptAreRecognized) {
   for (const char* text : {"a", "Z.", "7", "\u00E9", "\u0416x", "\u0663", "\u6F22", "\U00010400"}) {
     EXPECT_TRUE(BeginsWithLetterOrDigit(text)) << text;
   }

@@ -10,7 +10,7 @@
 namespace vantorium::core {
 namespace {
 
-TEST(Choices, AFlagIsOnAtOneAndOffAtZeroAndNeitherOtherwise) {
+TEST(Choices, AFlagIsOnAtOneOffAtZeroAndOtherwiseNeither) {
   EXPECT_TRUE(IsOn(1));
   EXPECT_FALSE(IsOff(1));
   EXPECT_FALSE(IsOn(0));
@@ -23,7 +23,7 @@ TEST(Choices, AFlagIsOnAtOneAndOffAtZeroAndNeitherOtherwise) {
   EXPECT_EQ(FlagOf(false), 0);
 }
 
-TEST(Choices, NumbersAreIndicesIntoTheTextsOfTheField) {
+TEST(Choices, NumbersAreIndexesOfTheTextsOfTheField) {
   struct Case {
     Choice GalleryProject::*field;
     Choice number;
@@ -58,7 +58,7 @@ TEST(Choices, NumbersAreIndicesIntoTheTextsOfTheField) {
   }
 }
 
-TEST(Choices, PlacementsAreNoneBesideOrAboveOrBelow) {
+TEST(Choices, PlacementsAreNoneBesideAboveOrBelow) {
   for (Choice setting = -1; setting <= 5; ++setting) {
     const Placement placement = DescriptionPlacement(setting);
     EXPECT_EQ(IsBeside(placement), setting == 1 || setting == 2) << setting;
@@ -86,7 +86,7 @@ TEST(Choices, OnlyASingleFrameHasASlideShow) {
   }
 }
 
-TEST(Choices, ASlideShowStartsByItselfOnlyFromAThumbnailPage) {
+TEST(Choices, ASlideShowStartsAutomaticallyOnlyFromAThumbnailPage) {
   GalleryProject project;
   EXPECT_FALSE(StartsByItself(project)) << "a new project begins with the first image";
   project.comboGallerySlideShowBeginWith = NumberOf(SlideShowBegin::FirstThumbnailPage);

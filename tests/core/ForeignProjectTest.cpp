@@ -8,11 +8,11 @@
 namespace vantorium::core {
 namespace {
 
-using fakes::ProjectDesk;
 using fakes::ProjectFileParts;
+using fakes::ProjectHarness;
 
-/// A project of another system, on one with the usual drives: its first photograph is on a drive that is not there.
-class ForeignProject : public ::testing::Test, public ProjectDesk {
+/// A project from another system, opened where the usual drives exist: its first photograph is on a missing drive.
+class ForeignProject : public ::testing::Test, public ProjectHarness {
  protected:
   ForeignProject() {
     paths = env::PathMap({}, folder.Path());
@@ -36,11 +36,11 @@ class ForeignProject : public ::testing::Test, public ProjectDesk {
   }
 };
 
-TEST_F(ForeignProject, IsOpenedWithItsPhotographsWhereTheyAreNow) {
+TEST_F(ForeignProject, IsOpenedWithThePhotographsFromTheirNewFolders) {
   host.movedFolders = {{"D:\\Photos\\", "C:\\new\\"}};
   EXPECT_TRUE(session.LoadProject("C:\\a.gpj"));
   EXPECT_EQ(Sources(), (std::vector<std::string>{"C:/new/a.jpg", "C:/here.jpg"}));
-  EXPECT_EQ(States(), "modified ") << "its file still has the old places";
+  EXPECT_EQ(States(), "modified ") << "the file still has the old paths";
   EXPECT_EQ(Questions(), 1);
   EXPECT_TRUE(session.SaveProject());
   calls.clear();
@@ -49,7 +49,7 @@ TEST_F(ForeignProject, IsOpenedWithItsPhotographsWhereTheyAreNow) {
   EXPECT_EQ(States(), "");
 }
 
-TEST_F(ForeignProject, IsReadAsItIsIfTheUserCancels) {
+TEST_F(ForeignProject, IsReadUnchangedIfTheUserCancels) {
   EXPECT_FALSE(session.LoadProject("C:\\a.gpj"));
   EXPECT_EQ(Questions(), 1);
   EXPECT_EQ(Sources(), std::vector<std::string>{});
@@ -60,13 +60,13 @@ TEST_F(ForeignProject, IsReadAsItIsIfTheUserCancels) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ForeignProject, IsNotChangedByFoldersThatAreNotItsOwn) {
+TEST_F(ForeignProject, IsNotChangedByFoldersThatItDoesNotUse) {
   host.movedFolders = {{"D:\\Pictures\\", "C:\\new\\"}, {"C:\\", "C:\\new\\"}};
   EXPECT_FALSE(session.LoadProject("C:\\a.gpj"));
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ForeignProject, IsNoQuestionForAUserWithDrives) {
+TEST_F(ForeignProject, AsksNothingOfAUserWithDrives) {
   paths = env::PathMap({{'C', folder.Path().string()}});
   EXPECT_FALSE(session.LoadProject("C:\\a.gpj"));
   EXPECT_EQ(Questions(), 0);

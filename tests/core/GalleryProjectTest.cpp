@@ -43,14 +43,14 @@ TEST(GalleryProject, PageCountIsTheQuotientRoundedUp) {
   }
 }
 
-TEST(GalleryProject, NoRowsOrColumnsMakeNoPages) {
+TEST(GalleryProject, WithoutRowsOrColumnsThereAreNoPages) {
   for (const char* none : {"0", "", "abc", "0.05"}) {
     EXPECT_EQ(ThumbnailPageCount(Table(none, "5"), 10), 0) << none;
     EXPECT_EQ(ThumbnailPageCount(Table("5", none), 10), 0) << none;
   }
 }
 
-TEST(GalleryProject, FractionsOfRowsAreRoundedAsAProductHalfToEven) {
+TEST(GalleryProject, TheProductOfRowsAndColumnsIsRoundedHalfToEven) {
   EXPECT_EQ(ThumbnailsPerPage(Table("2.5", "1")), 2);
   EXPECT_EQ(ThumbnailsPerPage(Table("3.5", "1")), 4);
   EXPECT_EQ(ThumbnailsPerPage(Table("2.5", "2")), 5);
@@ -58,7 +58,7 @@ TEST(GalleryProject, FractionsOfRowsAreRoundedAsAProductHalfToEven) {
   EXPECT_EQ(ThumbnailsPerPage(Table(" 3 ", "1e1")), 30);
 }
 
-TEST(GalleryProject, AHugeTableHoldsEveryList) {
+TEST(GalleryProject, AHugeTableIsClampedAndHasRoomForEveryList) {
   EXPECT_EQ(ThumbnailsPerPage(Table("1", "32768")), 32768);
   EXPECT_EQ(ThumbnailPageCount(Table("182", "182"), 33125), 2);
   for (const auto& [rows, columns] : {std::pair{"99999", "99999"}, {"1e300", "1e300"}, {"1e999", "1"}}) {
@@ -67,12 +67,12 @@ TEST(GalleryProject, AHugeTableHoldsEveryList) {
   }
 }
 
-TEST(GalleryProject, NegativeRowsOrColumnsMakeNoPages) {
+TEST(GalleryProject, WithNegativeRowsOrColumnsThereAreNoPages) {
   EXPECT_EQ(ThumbnailPageCount(Table("-1", "5"), 10), 0);
   EXPECT_EQ(ThumbnailPageCount(Table("5", "-1e999"), 10), 0);
 }
 
-TEST(GalleryProject, AColorIsWrittenInCapitalsWithoutSwappingItsBytes) {
+TEST(GalleryProject, AColorIsWrittenInUppercaseHexadecimalWithoutSwappingBytes) {
   const std::pair<Color, const char*> cases[] = {{0x0000FF, "0000FF"},    {0xA00000, "A00000"}, {0, "000000"},
                                                  {0xFFFFFF, "FFFFFF"},    {0x0000ab, "0000AB"}, {0x1234567, "1234567"},
                                                  {0xFFFFFFFF, "FFFFFFFF"}};
@@ -95,7 +95,7 @@ TEST(GalleryProject, ATextThatIsNotAHexadecimalNumberIsAFailure) {
   }
 }
 
-TEST(GalleryProject, EveryColorComesBackFromItsText) {
+TEST(GalleryProject, EveryColorIsReadBackFromItsText) {
   for (Color color = 0; color <= 0xFFFFFF; color += 0x1357) EXPECT_EQ(HexToColor(ColorToHex(color)), color);
 }
 

@@ -28,7 +28,7 @@ std::vector<std::string> SettingsOf(const TargetFields& target) {
   return names;
 }
 
-/// The name without what tells images from thumbnails.
+/// The name without the parts that differ between images and thumbnails.
 std::string CommonName(std::string name) {
   for (const char* const word : {"ImageWrapper", "Thumbnails", "Thumbnail", "Thumb", "Images", "Image", "Page"}) {
     for (auto at = name.find(word); at != std::string::npos; at = name.find(word))
@@ -40,7 +40,7 @@ std::string CommonName(std::string name) {
 TEST(GalleryTargets, PairTheSettingsThatDifferOnlyInTheirTarget) {
   const auto images = SettingsOf(kImages);
   const auto thumbnails = SettingsOf(kThumbnails);
-  ASSERT_EQ(images.size(), thumbnails.size() + 1) << "the link to the index is for images only";
+  ASSERT_EQ(images.size(), thumbnails.size() + 1) << "only images have a link to the index";
   EXPECT_EQ(images.back(), "ImageIndexLink");
   for (std::size_t i = 0; i < thumbnails.size(); ++i) EXPECT_EQ(CommonName(images[i]), CommonName(thumbnails[i]));
 }
@@ -58,10 +58,10 @@ TEST(GalleryTargets, CopiesOfGraphicsHaveDifferentNames) {
     names.insert(link.graphic);
     names.insert(link.disabledGraphic);
   }
-  EXPECT_EQ(names.size(), 3U + 2 * 9) << "the empty one among them";
+  EXPECT_EQ(names.size(), 3U + 2 * 9) << "including the empty name";
 }
 
-TEST(GalleryTargets, LinksAreFoundByKindAndByGoal) {
+TEST(GalleryTargets, LinksAreFoundByKindAndByDestination) {
   const std::map<LinkKind, LinkSettings GalleryProject::*> expected = {
       {LinkKind::FirstImage, &GalleryProject::ImageFirstLink},
       {LinkKind::PreviousImage, &GalleryProject::ImagePreviousLink},

@@ -17,7 +17,7 @@ TEST(ImageFormats, OtherTextsAreNotSupported) {
   }
 }
 
-TEST(ImageFormats, TheFilterNamesAllFormatsThenEach) {
+TEST(ImageFormats, TheFilterListsAllFormatsTogetherThenEach) {
   EXPECT_EQ(ImageFileFilter(),
             "All supported Formats|*.jpg;*.jpeg;*.jfif|JPEG Images (*.jpg, *.jpeg)|*.jpg;*.jpeg|JFIF Images "
             "(*.jfif)|*.jfif");

@@ -1,5 +1,5 @@
 #include "env/RuntimeFailure.h"
-#include "tests/core/ImageListDesk.h"
+#include "tests/core/ImageListFixture.h"
 
 #include <algorithm>
 
@@ -9,9 +9,9 @@ namespace {
 namespace fs = std::filesystem;
 
 using Names = std::vector<std::string>;
-using Move = ImageListDesk;
+using Move = ImageListFixture;
 
-TEST_F(Move, AnEntryKeepsItsTextsAndReadsItsKeysAgain) {
+TEST_F(Move, AnEntryKeepsItsTextsAndReadsItsSortKeysAgain) {
   Fill({"a", "b", "c"});
   images.Select(1);
   WriteFile("a", 77);
@@ -36,7 +36,7 @@ TEST_F(Move, TheCurrentEntryStaysCurrent) {
   EXPECT_EQ(images.Current(), 2U);
 }
 
-TEST_F(Move, AnEntryWhoseFileHasGoneIsNotLost) {
+TEST_F(Move, AnEntryWhoseFileIsMissingIsNotLost) {
   Fill({"a", "b"});
   fs::remove(folder.Path() / "a");
   EXPECT_FALSE(operations.MoveEntry(1, 2));
@@ -59,7 +59,7 @@ struct MoveCase {
   Names up;
 };
 
-TEST_F(Move, SelectedRowsGoOneDownOrUpAndStaySelected) {
+TEST_F(Move, SelectedRowsMoveDownOrUpByOneAndStaySelected) {
   const MoveCase cases[] = {
       {{}, {"a", "b", "c", "d"}, {"a", "b", "c", "d"}},
       {{"b"}, {"a", "c", "b", "d"}, {"b", "a", "c", "d"}},
@@ -99,7 +99,7 @@ TEST_F(Move, EachMovedRowIsScrolledIntoView) {
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(Move, UpOrDownEndsTheKeptOrder) {
+TEST_F(Move, UpOrDownEndsSorting) {
   Fill({"b", "a"});
   operations.SetSortingOrder(1);
   Select({"a"});
@@ -115,7 +115,7 @@ TEST_F(Move, AnEmptyListCanBeMovedUpAndDown) {
   EXPECT_TRUE(images.Empty());
 }
 
-using Drop = ImageListDesk;
+using Drop = ImageListFixture;
 
 TEST_F(Drop, MovesTheDraggedRowToTheTargetAndSelectsIt) {
   Fill({"a", "b", "c"});
@@ -148,7 +148,7 @@ TEST_F(Drop, OfANameThatIsNotInTheListIsIgnored) {
   EXPECT_TRUE(display.calls.empty());
 }
 
-TEST_F(Drop, OfARowWhoseFileHasGoneLeavesTheListAsItWas) {
+TEST_F(Drop, OfARowWhoseFileIsMissingChangesNothing) {
   Fill({"a", "b"});
   fs::remove(folder.Path() / "a");
   operations.Drop("a", 2);

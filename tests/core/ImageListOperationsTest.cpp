@@ -1,5 +1,5 @@
 #include "env/RuntimeFailure.h"
-#include "tests/core/ImageListDesk.h"
+#include "tests/core/ImageListFixture.h"
 
 #include <chrono>
 #include <tuple>
@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using AddImage = ImageListDesk;
+using AddImage = ImageListFixture;
 
 TEST_F(AddImage, FillsEveryColumn) {
   const fs::path file = WriteFile("a.jpg", 1000);
@@ -44,13 +44,13 @@ TEST_F(AddImage, NumbersADuplicateName) {
   EXPECT_EQ(ListNames(), (Names{"a.jpg", "a.jpg_1", "a.jpg_2", "a.jpg_3"}));
 }
 
-TEST_F(AddImage, PutsTheRowAtItsIndex) {
+TEST_F(AddImage, InsertsTheRowAtItsIndex) {
   Fill({"a", "b"});
   EXPECT_TRUE(Add(2, "C:\\a", "x"));
   EXPECT_EQ(ListNames(), (Names{"a", "x", "b"}));
 }
 
-TEST_F(AddImage, PutsTheRowInItsPlaceWhileTheListIsKeptSorted) {
+TEST_F(AddImage, InsertsTheRowInOrderWhileTheListIsKeptSorted) {
   Fill({"b", "d"});
   operations.SetSortingOrder(1);
   EXPECT_TRUE(Add(1, "C:\\b", "c"));
@@ -70,7 +70,7 @@ TEST_F(AddImage, RefusesAnIndexOutsideTheListAndAddsNothing) {
   EXPECT_EQ(ListNames(), Names{"a"});
 }
 
-TEST_F(AddImage, TellsOfAFileThatCannotBeReadAndAddsNothing) {
+TEST_F(AddImage, ReportsAnUnreadableFileAndAddsNothing) {
   Fill({"a"});
   EXPECT_FALSE(Add(1, "C:\\missing.jpg", "x"));
   ExpectFileErrorBox("C:\\missing.jpg");
@@ -79,7 +79,7 @@ TEST_F(AddImage, TellsOfAFileThatCannotBeReadAndAddsNothing) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(AddImage, TellsOfDrivesAndSharesThatDoNotExist) {
+TEST_F(AddImage, ReportsDrivesAndSharesThatDoNotExist) {
   for (const char* path : {"Q:\\a.jpg", "\\\\server\\share\\a.jpg"}) {
     boxes.boxes.clear();
     EXPECT_FALSE(Add(1, path, "x"));
@@ -90,7 +90,9 @@ TEST_F(AddImage, TellsOfDrivesAndSharesThatDoNotExist) {
   ExpectFileErrorBox("Q:/a.jpg");
 }
 
-TEST_F(ImageListDesk, AddFilesAppendsEachUnderItsFileName) {
+using AddFiles = ImageListFixture;
+
+TEST_F(AddFiles, AppendsEachUnderItsFileName) {
   Fill({"a.jpg"});
   WriteFile("sub/a.jpg");
   WriteFile("sub/b.jpg");
@@ -102,7 +104,7 @@ TEST_F(ImageListDesk, AddFilesAppendsEachUnderItsFileName) {
   EXPECT_EQ(display.calls, (Calls{"preview", "counts"}));
 }
 
-TEST_F(ImageListDesk, AddFilesEndsAtTheFirstFileThatCannotBeRead) {
+TEST_F(AddFiles, StopsAtTheFirstUnreadableFile) {
   WriteFile("a.jpg");
   EXPECT_FALSE(operations.AddFiles({"C:\\a.jpg", "C:\\missing.jpg", "C:\\a.jpg"}));
   EXPECT_EQ(ListNames(), Names{"a.jpg"});
@@ -110,18 +112,18 @@ TEST_F(ImageListDesk, AddFilesEndsAtTheFirstFileThatCannotBeRead) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(ImageListDesk, AddFilesWithNoCurrentRowSelectsTheFirstFileAndMakesItCurrent) {
+TEST_F(AddFiles, SelectsTheFirstFileAndMakesItCurrentIfNoRowIsCurrent) {
   for (const char* name : {"b.jpg", "c.jpg", "a.jpg"}) WriteFile(name);
   Fill({"before"});
   EXPECT_TRUE(operations.AddFiles({"C:\\b.jpg", "C:\\c.jpg"}));
   EXPECT_EQ(images.Current(), 2U);
   EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
   EXPECT_TRUE(operations.AddFiles({"C:\\a.jpg"}));
-  EXPECT_EQ(images.Current(), 2U) << "what was current stays so";
+  EXPECT_EQ(images.Current(), 2U) << "the current row stays current";
   EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
 }
 
-TEST_F(ImageListDesk, AddFilesFollowsItsFirstFileThroughAKeptOrder) {
+TEST_F(AddFiles, MakesItsFirstFileCurrentWhereverItIsSorted) {
   for (const char* name : {"b.jpg", "c.jpg", "a.jpg"}) WriteFile(name);
   operations.SetSortingOrder(1);
   EXPECT_TRUE(operations.AddFiles({"C:\\b.jpg", "C:\\a.jpg", "C:\\c.jpg"}));
@@ -130,7 +132,7 @@ TEST_F(ImageListDesk, AddFilesFollowsItsFirstFileThroughAKeptOrder) {
   EXPECT_EQ(SelectedNames(), Names{"b.jpg"});
 }
 
-TEST_F(ImageListDesk, AddFileTellsOfAFileThatCannotBeReadAndSelectsNothing) {
+TEST_F(AddFiles, OneUnreadableFileIsReportedAndNothingIsSelected) {
   Fill({"a"});
   EXPECT_FALSE(operations.AddFile("C:\\missing.jpg"));
   ExpectFileErrorBox("C:\\missing.jpg");
@@ -138,9 +140,9 @@ TEST_F(ImageListDesk, AddFileTellsOfAFileThatCannotBeReadAndSelectsNothing) {
   EXPECT_TRUE(SelectedNames().empty());
 }
 
-TEST_F(ImageListDesk, TheFirstRowIsSelectedWhereNoneIsCurrent) {
+TEST_F(AddFiles, TheFirstRowIsSelectedIfNoneIsCurrent) {
   operations.SelectFirstIfNoneIsCurrent();
-  EXPECT_EQ(images.Current(), 0U) << "there is none";
+  EXPECT_EQ(images.Current(), 0U) << "the list is empty";
   Fill({"a", "b"});
   operations.SelectFirstIfNoneIsCurrent();
   EXPECT_EQ(images.Current(), 1U);
@@ -151,15 +153,15 @@ TEST_F(ImageListDesk, TheFirstRowIsSelectedWhereNoneIsCurrent) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ImageListDesk, AddFilesThatAddsNothingModifiesNothing) {
+TEST_F(AddFiles, AddingNothingDoesNotModifyTheProject) {
   EXPECT_TRUE(operations.AddFiles({}));
   EXPECT_FALSE(operations.AddFiles({"C:\\missing.jpg"}));
   EXPECT_FALSE(project.IsModified);
 }
 
-using Remove = ImageListDesk;
+using Remove = ImageListFixture;
 
-TEST_F(Remove, SelectedRowsGoAndTheRowAtTheFirstOfThemBecomesCurrentAndSelected) {
+TEST_F(Remove, TheRowAtTheFirstRemovedPositionBecomesCurrentAndSelected) {
   Fill({"a", "b", "c", "d", "e"});
   Select({"b", "d"});
   images.SetCurrent(5);
@@ -169,10 +171,10 @@ TEST_F(Remove, SelectedRowsGoAndTheRowAtTheFirstOfThemBecomesCurrentAndSelected)
   EXPECT_EQ(SelectedNames(), Names{"c"});
   EXPECT_TRUE(project.IsModified);
   EXPECT_EQ(display.calls, (Calls{"wait", "reset", "preview", "counts"}));
-  EXPECT_TRUE(boxes.boxes.empty()) << "no question is asked";
+  EXPECT_TRUE(boxes.boxes.empty()) << "nothing is asked";
 }
 
-TEST_F(Remove, SelectedRowsAtTheEndMakeTheRowBeforeCurrentAndSelected) {
+TEST_F(Remove, AfterSelectedRowsAtTheEndTheRowBeforeBecomesCurrentAndSelected) {
   Fill({"a", "b", "c"});
   Select({"b", "c"});
   operations.RemoveSelected();
@@ -181,7 +183,7 @@ TEST_F(Remove, SelectedRowsAtTheEndMakeTheRowBeforeCurrentAndSelected) {
   EXPECT_EQ(SelectedNames(), Names{"a"});
 }
 
-TEST_F(Remove, AllRowsSelectedLeaveNoCurrentRow) {
+TEST_F(Remove, RemovingAllRowsLeavesNoCurrentRow) {
   Fill({"a", "b"});
   Select({"a", "b"});
   images.SetCurrent(1);
@@ -199,7 +201,7 @@ TEST_F(Remove, RowsAreRemovedOneByOneWithoutSelecting) {
   }
 }
 
-TEST_F(Remove, NothingSelectedOnlyRefreshes) {
+TEST_F(Remove, WithoutASelectionOnlyRefreshes) {
   Fill({"a", "b"});
   images.SetCurrent(2);
   operations.RemoveSelected();
@@ -234,7 +236,7 @@ TEST_F(Remove, AllAsksNothingOfAnEmptyList) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(Remove, ACorruptedRowIsFollowedByTheRowAtItsPlace) {
+TEST_F(Remove, AfterACorruptedRowTheNextRowBecomesCurrent) {
   Fill({"a", "b", "c"});
   images.SetCurrent(2);
   images.Select(2);
@@ -246,7 +248,7 @@ TEST_F(Remove, ACorruptedRowIsFollowedByTheRowAtItsPlace) {
   EXPECT_EQ(display.calls, (Calls{"preview", "counts"}));
 }
 
-TEST_F(Remove, ACorruptedLastRowIsFollowedByTheOneBefore) {
+TEST_F(Remove, AfterACorruptedLastRowTheRowBeforeBecomesCurrent) {
   Fill({"a", "b"});
   images.SetCurrent(2);
   operations.RemoveCorrupted();
@@ -254,7 +256,7 @@ TEST_F(Remove, ACorruptedLastRowIsFollowedByTheOneBefore) {
   EXPECT_EQ(SelectedNames(), Names{"a"});
 }
 
-TEST_F(Remove, TheOnlyRowCorruptedLeavesNone) {
+TEST_F(Remove, AfterTheOnlyRowNoRowIsCurrent) {
   Fill({"a"});
   images.SetCurrent(1);
   operations.RemoveCorrupted();
@@ -262,14 +264,14 @@ TEST_F(Remove, TheOnlyRowCorruptedLeavesNone) {
   EXPECT_EQ(images.Current(), 0U);
 }
 
-TEST_F(Remove, WithoutACurrentRowNothingIsCorrupted) {
+TEST_F(Remove, WithoutACurrentRowNoCorruptedRowIsRemoved) {
   Fill({"a"});
   operations.RemoveCorrupted();
   EXPECT_EQ(ListNames(), Names{"a"});
   EXPECT_FALSE(project.IsModified);
 }
 
-using Find = ImageListDesk;
+using Find = ImageListFixture;
 
 TEST_F(Find, AHitIsScrolledIntoViewSelectedAndPreviewed) {
   Fill({"a", "Photo_1", "b"});
@@ -288,10 +290,10 @@ TEST_F(Find, AHitIsTheOnlySelectedRow) {
   operations.FindByName("aqua");
   EXPECT_EQ(SelectedNames(), Names{"Aqua.jpg"});
   operations.RemoveSelected();
-  EXPECT_EQ(ListNames(), (Names{"a.jpg", "b.jpg"})) << "only what was looked for goes";
+  EXPECT_EQ(ListNames(), (Names{"a.jpg", "b.jpg"})) << "only the row that was found is removed";
 }
 
-TEST_F(Find, NoHitIsSaid) {
+TEST_F(Find, WithoutAHitSaysSo) {
   Fill({"photo1", "a"});
   Select({"a"});
   operations.FindByName("photo");
@@ -302,7 +304,7 @@ TEST_F(Find, NoHitIsSaid) {
   EXPECT_TRUE(display.calls.empty());
 }
 
-TEST_F(Find, AnEmptyTextOrListFindsNothingAndSaysNothing) {
+TEST_F(Find, AnEmptyTextOrListFindsNothingSilently) {
   operations.FindByName("a");
   Fill({"a"});
   operations.FindByName("");
@@ -310,9 +312,9 @@ TEST_F(Find, AnEmptyTextOrListFindsNothingAndSaysNothing) {
   EXPECT_TRUE(display.calls.empty());
 }
 
-using Rename = ImageListDesk;
+using Rename = ImageListFixture;
 
-TEST_F(Rename, GivesTheCurrentRowTheBase) {
+TEST_F(Rename, GivesTheCurrentRowTheNewName) {
   Fill({"a", "b", "c"});
   images.SetCurrent(2);
   images.Select(3);
@@ -328,7 +330,7 @@ TEST_F(Rename, NumbersAllRowsInListOrder) {
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(Rename, ACancelledDialogAndAnEmptyBaseChangeNothing) {
+TEST_F(Rename, ACancelledDialogOrAnEmptyNameChangesNothing) {
   Fill({"a", "b"});
   images.SetCurrent(1);
   for (const char* base : {"?&null&?", ""}) {

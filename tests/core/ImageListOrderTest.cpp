@@ -1,5 +1,5 @@
 #include "env/RuntimeFailure.h"
-#include "tests/core/ImageListDesk.h"
+#include "tests/core/ImageListFixture.h"
 #include "tests/fakes/ScriptedShuffle.h"
 
 #include <utility>
@@ -7,9 +7,9 @@
 namespace vantorium::core {
 namespace {
 
-using Sorting = ImageListDesk;
+using Sorting = ImageListFixture;
 
-TEST_F(Sorting, AsksBeforeAnOrderOfTheUsersOwnIsLost) {
+TEST_F(Sorting, AsksBeforeTheUsersOwnOrderIsLost) {
   Fill({"b", "a"});
   operations.SetSortingOrder(1);
   ExpectOneBox(env::BoxKind::Question, env::BoxButtons::YesNo, "Change Sorting Order",
@@ -29,7 +29,7 @@ TEST_F(Sorting, NoLeavesTheOrderAndTheListUnsorted) {
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(Sorting, AsksNothingOfAnEmptyOrASortedListNorForUnsorted) {
+TEST_F(Sorting, AsksNothingIfTheListIsEmptyOrSortedOrTheChoiceIsUnsorted) {
   operations.SetSortingOrder(1);
   Fill({"b", "a"});
   operations.SetSortingOrder(2);
@@ -39,7 +39,7 @@ TEST_F(Sorting, AsksNothingOfAnEmptyOrASortedListNorForUnsorted) {
   EXPECT_EQ(ListNames(), (Names{"b", "a"}));
 }
 
-TEST_F(Sorting, UnsortedDoesNotBringAnEarlierOrderBack) {
+TEST_F(Sorting, UnsortedDoesNotRestoreAnEarlierOrder) {
   Fill({"b", "a", "c"});
   operations.SetSortingOrder(1);
   operations.SetSortingOrder(0);
@@ -91,9 +91,9 @@ TEST_F(Sorting, StopSortingLeavesTheProjectUnmodified) {
   EXPECT_FALSE(project.IsModified);
 }
 
-using ShuffleOperation = ImageListDesk;
+using ShuffleOperation = ImageListFixture;
 
-TEST_F(ShuffleOperation, AsksNothingOfFewerThanTwoRows) {
+TEST_F(ShuffleOperation, AsksNothingWithFewerThanTwoRows) {
   fakes::ScriptedShuffle script({0.0});
   operations.Shuffle(script.Tools());
   Fill({"a"});
@@ -103,7 +103,7 @@ TEST_F(ShuffleOperation, AsksNothingOfFewerThanTwoRows) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ShuffleOperation, AsksAndShufflesAndSelectsTheFirstRow) {
+TEST_F(ShuffleOperation, AsksThenShufflesAndSelectsTheFirstRow) {
   Fill({"a", "b", "c"});
   Select({"b"});
   images.SetCurrent(3);
@@ -129,7 +129,7 @@ TEST_F(ShuffleOperation, ChangesNothingOnNo) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ShuffleOperation, EndsTheKeptOrder) {
+TEST_F(ShuffleOperation, EndsSorting) {
   Fill({"a", "b", "c"});
   operations.SetSortingOrder(1);
   fakes::ScriptedShuffle script({0.0, 0.99, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0});
@@ -148,7 +148,7 @@ TEST_F(ShuffleOperation, StopSkipsOnlyTheDeselection) {
   operations.Shuffle(script.Tools());
   EXPECT_EQ(script.percents.size(), 249U);
   EXPECT_TRUE(images.IsSelected(images.PositionOf("7").value()));
-  EXPECT_TRUE(images.IsSelected(1)) << "the row that becomes current";
+  EXPECT_TRUE(images.IsSelected(1)) << "the current row";
   EXPECT_EQ(SelectedNames().size(), 2U);
   EXPECT_EQ(images.Current(), 1U);
   EXPECT_EQ(script.calls, (Calls{"open", "seed", "close"}));

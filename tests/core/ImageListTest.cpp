@@ -92,7 +92,7 @@ TEST(ImageList, ADuplicateNameGetsTheLowestFreeNumber) {
   EXPECT_EQ(NamesOf(ListOf({"a", "a", "A", "a"})), (Names{"a", "a_1", "A", "a_2"}));
 }
 
-TEST(ImageList, ANameIsFreeAgainAfterItsRowWent) {
+TEST(ImageList, ANameIsFreeAgainAfterItsRowIsRemoved) {
   ImageList list = ListOf({"a", "a", "a"});
   list.Remove(2);
   list.Insert(3, Named("a"));
@@ -126,7 +126,7 @@ TEST(ImageList, PositionsOutsideTheListAreRefusedAndChangeNothing) {
   EXPECT_FALSE(list.PositionOf("x")) << "a refused row must not take its name";
 }
 
-TEST(ImageList, AMovedRowTakesAllItHasAlong) {
+TEST(ImageList, AMovedRowKeepsAllItsFields) {
   struct Case {
     std::size_t from;
     std::size_t to;
@@ -151,7 +151,7 @@ TEST(ImageList, AMovedRowTakesAllItHasAlong) {
   }
 }
 
-TEST(ImageList, TheCurrentRowStaysCurrentWhenOthersComeAndGo) {
+TEST(ImageList, TheCurrentRowStaysCurrentWhenOthersAreAddedAndRemoved) {
   ImageList list = ListOf({"a", "b", "c"});
   EXPECT_EQ(CurrentName(list), "none");
   list.SetCurrent(2);
@@ -170,7 +170,7 @@ TEST(ImageList, TheCurrentRowStaysCurrentWhenOthersComeAndGo) {
   EXPECT_EQ(list.Current(), 0U);
 }
 
-TEST(ImageList, RemoveSelectedTakesExactlyTheSelectedRows) {
+TEST(ImageList, RemoveSelectedRemovesExactlyTheSelectedRows) {
   ImageList list = ListOf({"a", "b", "c", "d", "e"});
   list.SetCurrent(5);
   EXPECT_EQ(list.RemoveSelected(), 0U);
@@ -186,7 +186,7 @@ TEST(ImageList, RemoveSelectedTakesExactlyTheSelectedRows) {
   EXPECT_EQ(list.Current(), 0U);
 }
 
-TEST(ImageList, SelectionIsARowsOwn) {
+TEST(ImageList, EachRowIsSelectedByItself) {
   ImageList list = ListOf({"a", "b", "c"});
   list.Select(1);
   list.Select(3);
@@ -198,7 +198,7 @@ TEST(ImageList, SelectionIsARowsOwn) {
   EXPECT_EQ(SelectedNames(list), Names{});
 }
 
-TEST(ImageList, DescriptionsAreSetInTheirOwnRows) {
+TEST(ImageList, ADescriptionIsSetOnlyInItsRow) {
   ImageList list = ListOf({"a", "b"});
   list.SetImageDescription(2, "image");
   list.SetThumbnailDescription(2, "thumbnail");
@@ -243,7 +243,7 @@ TEST(ImageList, EachColumnSorts) {
   }
 }
 
-TEST(ImageList, NewRowsAreSortedInAfterTheirEquals) {
+TEST(ImageList, NewRowsAreSortedAfterEqualOnes) {
   ImageList list = ListOf({"b", "d"});
   list.KeepSorted(kByName);
   EXPECT_TRUE(list.IsKeptSorted());
@@ -256,14 +256,14 @@ TEST(ImageList, NewRowsAreSortedInAfterTheirEquals) {
   EXPECT_EQ(NamesOf(list), (Names{"e", "d", "D", "b", "B", "a"}));
 }
 
-TEST(ImageList, ANumberedNameSortsByTheNameItGot) {
+TEST(ImageList, ADuplicateNameIsSortedByItsNumberedName) {
   ImageList list = ListOf({"a", "a!", "b"});
   list.KeepSorted(kByName);
   EXPECT_EQ(list.Insert(1, Named("a")), 3U);
   EXPECT_EQ(NamesOf(list), (Names{"a", "a!", "a_1", "b"}));
 }
 
-TEST(ImageList, WithoutSortingTheOrderStaysAndRowsGoWhereTheyArePut) {
+TEST(ImageList, WithoutSortingRowsStayWhereTheyAreInserted) {
   ImageList list = ListOf({"c", "a", "b"});
   list.KeepSorted(kByName);
   list.StopSorting();
@@ -273,7 +273,7 @@ TEST(ImageList, WithoutSortingTheOrderStaysAndRowsGoWhereTheyArePut) {
   EXPECT_EQ(NamesOf(list), (Names{"z", "a", "b", "c"}));
 }
 
-TEST(ImageList, AKeptOrderOutlivesClear) {
+TEST(ImageList, TheSortingOrderSurvivesClear) {
   ImageList list = ListOf({"a"});
   list.KeepSorted(kByName);
   list.Clear();
@@ -303,7 +303,7 @@ TEST(ImageList, RenamingKeepsNamesUnique) {
   EXPECT_FALSE(list.PositionOf("a_2"));
 }
 
-TEST(ImageList, ARowsOwnNameDoesNotCountAsTaken) {
+TEST(ImageList, ARowMayKeepItsOwnName) {
   ImageList list = ListOf({"a", "a"});
   EXPECT_EQ(list.Rename(1, "a"), 1U);
   EXPECT_EQ(NamesOf(list), (Names{"a", "a_1"}));
@@ -311,7 +311,7 @@ TEST(ImageList, ARowsOwnNameDoesNotCountAsTaken) {
   EXPECT_EQ(NamesOf(list), (Names{"a", "a_1"}));
 }
 
-TEST(ImageList, ARenamedRowFallsIntoAnOrderByNameOnly) {
+TEST(ImageList, RenamingARowMovesItOnlyInAnOrderByName) {
   ImageList list = ListOf({"a", "b", "c"});
   list.SetCurrent(1);
   list.Select(1);
@@ -324,7 +324,7 @@ TEST(ImageList, ARenamedRowFallsIntoAnOrderByNameOnly) {
   EXPECT_EQ(NamesOf(list), (Names{"d", "b", "c"}));
   EXPECT_EQ(list.Rename(2, "z"), 2U);
   list.KeepSorted({SortColumn::SizeKey, SortDirection::Ascending});
-  EXPECT_EQ(list.Rename(1, "x"), 1U) << "among equals too";
+  EXPECT_EQ(list.Rename(1, "x"), 1U) << "even among equal rows";
   EXPECT_EQ(NamesOf(list), (Names{"x", "z", "c"}));
 }
 
@@ -355,7 +355,7 @@ TEST(ImageList, PositionOfComparesExactly) {
   EXPECT_FALSE(list.PositionOf(""));
 }
 
-TEST(ImageList, FindWordTakesTheFirstNameThatBeginsWithItInAnyCase) {
+TEST(ImageList, FindWordFindsTheFirstNameThatBeginsWithItInAnyCase) {
   const ImageList list = ListOf({"photo_10", "Photo_1", "PHOTO_1.jpg", "Stra\u00DFe.jpg", "\u00C9T\u00C9", "Aquarium",
                                  "aqua.jpg", "Aqua", "sea\xFF", "5\u20AC"});
   struct Case {
@@ -369,14 +369,14 @@ TEST(ImageList, FindWordTakesTheFirstNameThatBeginsWithItInAnyCase) {
   }
 }
 
-TEST(ImageList, FindWordLeavesOutNamesInWhichALetterOrADigitOfAnyScriptGoesOn) {
+TEST(ImageList, FindWordSkipsNamesThatGoOnWithALetterOrDigitOfAnyScript) {
   const ImageList list = ListOf({"photo1", "seaside", "sea\u00E9", "sea\u0436", "sea\u0663", "a sea", "se"});
   for (const char* missing : {"photo", "sea", "s", "hoto1", "photo1.", "photo1 ", "", "\xFF"}) {
     EXPECT_FALSE(list.FindWord(missing)) << missing;
   }
 }
 
-TEST(ImageList, AHundredThousandRowsSortAndTakeOneName) {
+TEST(ImageList, AHundredThousandRowsOfOneNameAreNumberedAndSorted) {
   ImageList list;
   for (int i = 0; i < 100'000; ++i) list.Insert(list.Count() + 1, Named("same"));
   EXPECT_EQ(list.Entry(100'000).ImageName, "same_99999");

@@ -5,7 +5,7 @@
 namespace vantorium::core {
 namespace {
 
-/// The groups as "folder (number of paths)".
+/// The groups, each as "folder (number of paths)".
 std::vector<std::string> Folders(const std::vector<std::string>& sources) {
   std::vector<std::string> texts;
   for (const SourceFolder& folder : FoldersOf(sources)) {
@@ -33,7 +33,7 @@ TEST(MovedFolders, PathsInTheRootOfADriveAreAGroup) {
   EXPECT_EQ(Folders({"D:a.jpg"}), Texts{"D: (1)"});
 }
 
-TEST(MovedFolders, AShareIsLikeADrive) {
+TEST(MovedFolders, AShareIsTreatedLikeADrive) {
   EXPECT_EQ(Folders({"\\\\server\\share\\a.jpg", "//server/share/b.jpg"}), Texts{"\\\\server\\share\\ (2)"});
   EXPECT_EQ(Folders({"\\\\server\\share\\x\\1\\a.jpg", "\\\\SERVER\\share\\x\\2\\a.jpg"}),
             Texts{"\\\\server\\share\\x\\ (2)"});
@@ -45,11 +45,11 @@ TEST(MovedFolders, APathFollowsItsFolder) {
       {"D:\\Photos\\", "C:\\Pictures\\"}, {"D:\\Photos\\1\\", "Z:\\srv\\"}, {"\\\\server\\share\\", "C:\\share\\"}};
   EXPECT_EQ(Moved("D:\\Photos\\a.jpg", folders), "C:/Pictures/a.jpg");
   EXPECT_EQ(Moved("d:/PHOTOS/sub/a.jpg", folders), "C:/Pictures/sub/a.jpg");
-  EXPECT_EQ(Moved("D:\\Photos\\1\\a.jpg", folders), "Z:/srv/a.jpg") << "the deepest folder counts";
+  EXPECT_EQ(Moved("D:\\Photos\\1\\a.jpg", folders), "Z:/srv/a.jpg") << "the deepest folder wins";
   EXPECT_EQ(Moved("//server/share/a.jpg", folders), "C:/share/a.jpg");
 }
 
-TEST(MovedFolders, APathInNoneOfTheFoldersStays) {
+TEST(MovedFolders, APathInNoneOfTheFoldersIsUnchanged) {
   const MovedFolder folders[] = {{"D:\\Photos\\", "C:\\Pictures\\"}};
   for (const char* path : {"D:\\Photos2\\a.jpg", "D:\\a.jpg", "E:\\Photos\\a.jpg", "D:\\Photos", "", "Photos\\a.jpg"}) {
     EXPECT_EQ(Moved(path, folders), path);

@@ -28,7 +28,7 @@ class ProjectEditorTest : public testing::Test {
   }
 };
 
-TEST_F(ProjectEditorTest, EveryFieldStoresWhatItIsGivenAndMarksTheProject) {
+TEST_F(ProjectEditorTest, EveryFieldStoresItsValueAndMarksTheProjectAsModified) {
   for (const ProjectField& field : ProjectFields()) {
     SCOPED_TRACE(field.name);
     modified = false;
@@ -52,7 +52,7 @@ TEST_F(ProjectEditorTest, EveryFieldStoresWhatItIsGivenAndMarksTheProject) {
   }
 }
 
-TEST_F(ProjectEditorTest, RecordsAreStoredWhole) {
+TEST_F(ProjectEditorTest, RecordsAreStoredAsAWhole) {
   editor.Set(&GalleryProject::ImageIndexLink, LinkSettings{"label", "graphic", "disabled"});
   EXPECT_EQ(project.ImageIndexLink.textLinkLabel, "label");
   EXPECT_EQ(project.ImageIndexLink.textLinkGraphic, "graphic");
@@ -68,12 +68,12 @@ TEST_F(ProjectEditorTest, RecordsAreStoredWhole) {
   EXPECT_TRUE(modified);
 }
 
-TEST_F(ProjectEditorTest, AnEditToTheSameValueMarksTheProjectToo) {
+TEST_F(ProjectEditorTest, AnEditToTheSameValueAlsoMarksTheProjectAsModified) {
   editor.Set(&GalleryProject::textGalleryFrameSize, project.textGalleryFrameSize);
   EXPECT_TRUE(modified);
 }
 
-TEST_F(ProjectEditorTest, ANumberBelowItsBoundBecomesTheBound) {
+TEST_F(ProjectEditorTest, ANumberBelowItsMinimumBecomesTheMinimum) {
   using Field = std::string GalleryProject::*;
   const Field fromOne[] = {&GalleryProject::textGalleryFrameSize, &GalleryProject::textImageWrapperImageWidth,
                            &GalleryProject::textImageWrapperImageHeight, &GalleryProject::textThumbnailsImageWidth,
@@ -96,7 +96,7 @@ TEST_F(ProjectEditorTest, ANumberBelowItsBoundBecomesTheBound) {
   }
 }
 
-TEST_F(ProjectEditorTest, ANumberBeyondWhatItsFieldHoldsBecomesTheMostThatItHolds) {
+TEST_F(ProjectEditorTest, ANumberThatItsFieldCannotHoldBecomesTheLargestThatItCan) {
   using Field = std::string GalleryProject::*;
   const Field toFiveDigits[] = {&GalleryProject::textGalleryFrameSize,
                                 &GalleryProject::textThumbnailsTableRows,
@@ -113,14 +113,14 @@ TEST_F(ProjectEditorTest, ANumberBeyondWhatItsFieldHoldsBecomesTheMostThatItHold
   }
 }
 
-TEST_F(ProjectEditorTest, TheSizesOfPicturesHaveNoUpperBound) {
+TEST_F(ProjectEditorTest, PictureSizesHaveNoMaximum) {
   for (const auto field : {&GalleryProject::textImageWrapperImageWidth, &GalleryProject::textThumbnailsImageHeight}) {
     editor.Set(field, "999999");
     EXPECT_EQ(project.*field, "999999") << FieldOf(field).name;
   }
 }
 
-TEST_F(ProjectEditorTest, TheDelaysHaveAnUpperBoundOnly) {
+TEST_F(ProjectEditorTest, DelaysHaveOnlyAMaximum) {
   const std::pair<const char*, const char*> cases[] = {
       {"-5", "-5"},   {"0", "0"}, {"999999", "999999"}, {"1000000", "999999"}, {"1e99", "999999"},
       {"abc", "abc"}, {"", ""}};
@@ -132,7 +132,7 @@ TEST_F(ProjectEditorTest, TheDelaysHaveAnUpperBoundOnly) {
   }
 }
 
-TEST_F(ProjectEditorTest, AnEmptyNumberStaysEmptyUntilTheRepair) {
+TEST_F(ProjectEditorTest, AnEmptyNumberStaysEmptyUntilItIsNormalized) {
   for (const ProjectField& field : ProjectFields()) {
     if (field.kind != FieldKind::Digits) continue;
     const auto member = std::get<std::string GalleryProject::*>(field.member);
@@ -142,7 +142,7 @@ TEST_F(ProjectEditorTest, AnEmptyNumberStaysEmptyUntilTheRepair) {
   EXPECT_EQ(project.ThumbnailFrameSize, 200) << "an empty size is not stored";
 }
 
-TEST_F(ProjectEditorTest, DirectLinksThatAreNotANumberAreEmptied) {
+TEST_F(ProjectEditorTest, DirectLinksThatAreNotANumberBecomeEmpty) {
   for (const char* typed : {"abc", "1x", "-", " ", "all"}) {
     editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, "3");
     editor.Set(&GalleryProject::textPageLinksThumbnailMaxDirectLinks, typed);
@@ -150,7 +150,7 @@ TEST_F(ProjectEditorTest, DirectLinksThatAreNotANumberAreEmptied) {
   }
 }
 
-TEST_F(ProjectEditorTest, AFrameSizeInPercentEndsAt99) {
+TEST_F(ProjectEditorTest, AFrameSizeInPercentIsAtMost99) {
   editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, Flag{1});
   const std::pair<const char*, const char*> cases[] = {{"150", "99"}, {"100", "99"}, {"99.5", "99"},    {"99", "99"},
                                                        {"30", "30"},  {"0", "1"},    {"99999999", "99"}};
@@ -167,12 +167,12 @@ TEST_F(ProjectEditorTest, AFrameSizeInPixelsMayExceed99) {
   EXPECT_EQ(project.ThumbnailFrameSize, 150);
 }
 
-TEST_F(ProjectEditorTest, TurningPercentOnClampsTheSizeThatIsThere) {
+TEST_F(ProjectEditorTest, TurningPercentOnClampsTheSize) {
   editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, Flag{1});
   EXPECT_EQ(project.textGalleryFrameSize, "99");
   EXPECT_EQ(project.ThumbnailFrameSize, 99);
   editor.Set(&GalleryProject::checkGalleryFrameSizeInPercent, Flag{0});
-  EXPECT_EQ(project.textGalleryFrameSize, "99") << "the old size is gone";
+  EXPECT_EQ(project.textGalleryFrameSize, "99") << "the old size is not restored";
 }
 
 TEST_F(ProjectEditorTest, TurningPercentOnLeavesAnEmptySizeAlone) {
@@ -185,7 +185,7 @@ TEST_F(ProjectEditorTest, TurningPercentOnLeavesAnEmptySizeAlone) {
 TEST_F(ProjectEditorTest, TheSizingPriorityDecidesWhichFrameGetsTheSize) {
   editor.Set(&GalleryProject::comboGalleryFrameSizingPriority, Choice{1});
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
-  EXPECT_EQ(project.ImageFrameSize, 0) << "the priority alone stores nothing";
+  EXPECT_EQ(project.ImageFrameSize, 0) << "changing the priority stores nothing";
   editor.Set(&GalleryProject::textGalleryFrameSize, "300");
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
   EXPECT_EQ(project.ImageFrameSize, 300);
@@ -194,7 +194,7 @@ TEST_F(ProjectEditorTest, TheSizingPriorityDecidesWhichFrameGetsTheSize) {
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
 }
 
-TEST_F(ProjectEditorTest, AFrameSizeThatIsNotANumberIsAFailureAndALargeOneIsNot) {
+TEST_F(ProjectEditorTest, OnlyAFrameSizeThatIsNotANumberIsAFailure) {
   EXPECT_EQ(FailureOfFrameSize("abc"), static_cast<std::int32_t>(env::FailureKind::TypeMismatch));
   EXPECT_EQ(project.ThumbnailFrameSize, 200);
   const std::pair<const char*, std::int32_t> cases[] = {{"32768", 32768}, {"99999", 99999}, {"1e300", 99999}};
@@ -204,7 +204,7 @@ TEST_F(ProjectEditorTest, AFrameSizeThatIsNotANumberIsAFailureAndALargeOneIsNot)
   }
 }
 
-TEST_F(ProjectEditorTest, ASlideshowHasWrapperPages) {
+TEST_F(ProjectEditorTest, ASlideShowRequiresWrapperPages) {
   editor.Set(&GalleryProject::checkImageWrapperUse, Flag{0});
   editor.Set(&GalleryProject::checkGallerySlideShow, Flag{1});
   EXPECT_EQ(project.checkImageWrapperUse, 1);
@@ -212,16 +212,16 @@ TEST_F(ProjectEditorTest, ASlideshowHasWrapperPages) {
   EXPECT_EQ(project.checkGallerySlideShow, 0);
 }
 
-TEST_F(ProjectEditorTest, TheSlideshowRuleHoldsInOneDirectionEach) {
+TEST_F(ProjectEditorTest, WrapperPagesDoNotRequireASlideShow) {
   editor.Set(&GalleryProject::checkGallerySlideShow, Flag{1});
   editor.Set(&GalleryProject::checkGallerySlideShow, Flag{0});
-  EXPECT_EQ(project.checkImageWrapperUse, 1) << "no slideshow may well have wrapper pages";
+  EXPECT_EQ(project.checkImageWrapperUse, 1) << "wrapper pages stay without a slide show";
   editor.Set(&GalleryProject::checkImageWrapperUse, Flag{0});
   editor.Set(&GalleryProject::checkImageWrapperUse, Flag{1});
-  EXPECT_EQ(project.checkGallerySlideShow, 0) << "wrapper pages make no slideshow";
+  EXPECT_EQ(project.checkGallerySlideShow, 0) << "wrapper pages do not turn the slide show on";
   editor.Set(&GalleryProject::checkImageWrapperUse, Flag{0});
   editor.Set(&GalleryProject::checkGallerySlideShow, Flag{0});
-  EXPECT_EQ(project.checkImageWrapperUse, 0) << "no slideshow asks for no wrapper pages";
+  EXPECT_EQ(project.checkImageWrapperUse, 0) << "without a slide show wrapper pages stay off";
 }
 
 TEST_F(ProjectEditorTest, TheImageFrameNameFollowsTheLayout) {
@@ -252,7 +252,7 @@ TEST_F(ProjectEditorTest, TheImageFrameNameFollowsTheLayout) {
   }
 }
 
-TEST_F(ProjectEditorTest, RowsMayBeZeroByHand) {
+TEST_F(ProjectEditorTest, RowsMayBeSetToZero) {
   editor.Set(&GalleryProject::textThumbnailsTableRows, "0");
   EXPECT_EQ(project.textThumbnailsTableRows, "0");
   EXPECT_EQ(ThumbnailPageCount(project, 100), 0);
@@ -260,7 +260,7 @@ TEST_F(ProjectEditorTest, RowsMayBeZeroByHand) {
 
 class NormalizeForOutputTest : public ProjectEditorTest {};
 
-TEST_F(NormalizeForOutputTest, LeavesANewProjectAsItIs) {
+TEST_F(NormalizeForOutputTest, LeavesANewProjectUnchanged) {
   NormalizeForOutput(project, modified);
   EXPECT_FALSE(modified);
   const GalleryProject fresh;
@@ -271,7 +271,7 @@ TEST_F(NormalizeForOutputTest, LeavesANewProjectAsItIs) {
   }
 }
 
-TEST_F(NormalizeForOutputTest, RepairsEachEmptyFieldByItself) {
+TEST_F(NormalizeForOutputTest, RepairsEachEmptyFieldOnItsOwn) {
   const std::pair<std::string GalleryProject::*, const char*> rows[] = {
       {&GalleryProject::textThumbnailsImageWidth, "1"},
       {&GalleryProject::textThumbnailsImageHeight, "1"},
@@ -329,7 +329,7 @@ TEST_F(NormalizeForOutputTest, LeavesEveryOtherTextEmpty) {
   }
 }
 
-TEST_F(NormalizeForOutputTest, KeepsTheTwoFrameNamesApart) {
+TEST_F(NormalizeForOutputTest, MakesTheTwoFrameNamesDifferent) {
   struct Case {
     const char* thumbnail;
     const char* image;
@@ -351,7 +351,7 @@ TEST_F(NormalizeForOutputTest, KeepsTheTwoFrameNamesApart) {
   }
 }
 
-TEST_F(NormalizeForOutputTest, GivesNextAndPreviousTheirNormalImageAsDisabledOneWithoutAMark) {
+TEST_F(NormalizeForOutputTest, GivesNextAndPreviousTheirGraphicAsDisabledGraphicWithoutMarkingTheProject) {
   using Link = LinkSettings GalleryProject::*;
   const Link filled[] = {&GalleryProject::ImageNextLink, &GalleryProject::ImagePreviousLink,
                          &GalleryProject::ThumbnailNextLink, &GalleryProject::ThumbnailPreviousLink};
@@ -368,7 +368,7 @@ TEST_F(NormalizeForOutputTest, GivesNextAndPreviousTheirNormalImageAsDisabledOne
   for (const Link link : filled) EXPECT_EQ((project.*link).textLinkGraphicDisabled, "off.gif") << FieldOf(link).name;
 }
 
-TEST_F(NormalizeForOutputTest, NeverClearsTheMark) {
+TEST_F(NormalizeForOutputTest, NeverClearsTheModifiedMark) {
   modified = true;
   NormalizeForOutput(project, modified);
   EXPECT_TRUE(modified);

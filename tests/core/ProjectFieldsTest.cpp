@@ -33,7 +33,7 @@ std::ptrdiff_t OffsetOf(const Record& record, const Member& member) {
       member);
 }
 
-/// Rising offsets also mean that no member has two rows.
+/// Rising offsets also prove that no member has two rows.
 template <typename Fields, typename Record>
 void ExpectRisingOffsets(const Fields& fields, const Record& record) {
   std::ptrdiff_t last = -1;
@@ -216,7 +216,7 @@ const std::vector<std::pair<std::string, std::string>>& NewProjectValues() {
   return values;
 }
 
-/// Sets a value that no new project has.
+/// Sets a value that differs from that of a new project.
 struct Changed {
   void operator()(std::string& text) const { text += "#changed"; }
   void operator()(std::int16_t& number) const { number = 77; }
@@ -247,7 +247,7 @@ TEST(ProjectFields, NamesAreUnique) {
   for (const ProjectField& field : ProjectFields()) EXPECT_TRUE(names.insert(field.name).second) << field.name;
 }
 
-TEST(ProjectFields, ANewProjectHasTheValuesOfTheTables) {
+TEST(ProjectFields, ANewProjectHasTheDefaultsOfTheTable) {
   GalleryProject project;
   ResetToDefaults(project, "Gallery7");
   ASSERT_EQ(NewProjectValues().size(), ProjectFields().size());
@@ -272,7 +272,7 @@ TEST(ProjectFields, OnlyAdditionalSettingsThatAreOffAreHidden) {
   EXPECT_EQ(hidden(), std::vector<std::string>{"checkImagesTrueColors"});
 }
 
-TEST(ProjectFields, ResetBringsBackEveryFieldButTheOneThatKeepsItsValue) {
+TEST(ProjectFields, ResetRestoresTheDefaultsOfAllFieldsExceptTheOneThatIsKept) {
   GalleryProject project;
   for (const ProjectField& field : ProjectFields()) {
     std::visit([&](auto member) { Changed()(project.*member); }, field.member);
@@ -292,7 +292,7 @@ TEST(ProjectFields, TheDefaultOfATextIsItsValueInANewProject) {
   EXPECT_EQ(DefaultOf(&GalleryProject::textGalleryTitle), "");
 }
 
-TEST(ProjectFields, DigitsHaveTheRangesOfTheirSpinnersAndTheirBounds) {
+TEST(ProjectFields, DigitsHaveSpinnerRangesAndBounds) {
   const std::map<std::string_view, DigitsRange> expected = {
       {"textGalleryFrameSize", {1, 99999, 1, 99999}},
       {"textGallerySlideShowAutoStartDelay", {0, 999999, std::nullopt, 999999}},
@@ -369,7 +369,7 @@ TEST(ProjectFields, ChoicesHaveTheirValueLists) {
   EXPECT_EQ(found, expected.size());
 }
 
-TEST(ProjectFields, DefaultsOfChoicesLieInTheirLists) {
+TEST(ProjectFields, DefaultsOfChoicesAreInTheirValueLists) {
   const GalleryProject project;
   for (const ProjectField& field : ProjectFields()) {
     if (field.kind != FieldKind::Choice) continue;

@@ -14,20 +14,20 @@ const char kFilter[] = "Vantorium 3.0 Project Files (*.gpj)|*.gpj";
 
 class ProjectSessionTest : public ::testing::Test {
  protected:
-  void SetUp() override { session.NewProject(), desk.calls.clear(); }
+  void SetUp() override { session.NewProject(), harness.calls.clear(); }
 
   /// Marks the project as changed, as a user's edit does.
   void Modify() {
     project.IsModified = true;
     project.settings.textGalleryTitle = "Changed";
   }
-  /// Gives the project a file.
-  void GiveItAFile(const std::string& name = "mine.gpj") {
-    ASSERT_TRUE(session.SaveProjectTo(desk.PathOf(name)));
-    desk.calls.clear();
+  /// Saves the project to a file of that name.
+  void SaveToFile(const std::string& name = "mine.gpj") {
+    ASSERT_TRUE(session.SaveProjectTo(harness.PathOf(name)));
+    harness.calls.clear();
   }
   std::string ValidFile(const std::string& name = "other.gpj") const {
-    return desk.File(name, ProjectFileParts{}.Text());
+    return harness.File(name, ProjectFileParts{}.Text());
   }
   [[nodiscard]] std::string States() const {
     return std::string(project.IsModified ? "modified " : "") + (project.IsPristine ? "pristine " : "") +
@@ -41,11 +41,11 @@ class ProjectSessionTest : public ::testing::Test {
             "status ",
             "pointer"};
   }
-  [[nodiscard]] std::string Folder() const { return desk.paths.ToText(desk.folder.Path()) + "\\"; }
+  [[nodiscard]] std::string Folder() const { return harness.paths.ToText(harness.folder.Path()) + "\\"; }
 
-  ProjectDesk desk;
-  Project& project = desk.project;
-  ProjectSession& session = desk.session;
+  ProjectHarness harness;
+  Project& project = harness.project;
+  ProjectSession& session = harness.session;
 };
 
 Calls Joined(Calls calls, const Calls& more) {
@@ -61,23 +61,23 @@ TEST_F(ProjectSessionTest, TheFirstNewProjectIsGallery1) {
   EXPECT_EQ(States(), "pristine untitled");
 }
 
-TEST_F(ProjectSessionTest, ANewProjectOnAPristineOneDoesNothing) {
+TEST_F(ProjectSessionTest, NewDoesNothingToAPristineProject) {
   session.NewProject();
-  EXPECT_EQ(desk.calls, Calls{});
+  EXPECT_EQ(harness.calls, Calls{});
   EXPECT_EQ(project.ProjectFileName, "Gallery1");
 }
 
 TEST_F(ProjectSessionTest, ANewProjectResetsEverythingInOrder) {
   project.IsPristine = false;
   project.settings.ImageHeader = "old";
-  desk.AddImage("a.jpg");
-  desk.images.SetSortingOrder(1);
-  desk.boxes.boxes.clear();
-  desk.calls.clear();
+  harness.AddImage("a.jpg");
+  harness.images.SetSortingOrder(1);
+  harness.boxes.boxes.clear();
+  harness.calls.clear();
   project.IsModified = false;
   session.NewProject();
-  EXPECT_EQ(desk.calls, (Calls{"preview", "counts", "page count", "title bar", "descriptions hidden", "first tab",
-                               "title field", "custom colors"}));
+  EXPECT_EQ(harness.calls, (Calls{"preview", "counts", "page count", "title bar", "descriptions hidden", "first tab",
+                                  "title field", "custom colors"}));
   EXPECT_EQ(project.settings.ImageHeader, "");
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
   EXPECT_EQ(project.ProjectFileName, "Gallery2");
@@ -89,27 +89,27 @@ TEST_F(ProjectSessionTest, ANewProjectResetsEverythingInOrder) {
 
 TEST_F(ProjectSessionTest, AModifiedProjectIsAskedAbout) {
   Modify();
-  desk.boxes.answers = {env::BoxAnswer::Cancel};
+  harness.boxes.answers = {env::BoxAnswer::Cancel};
   session.NewProject();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Question);
-  EXPECT_EQ(desk.boxes.boxes[0].buttons, env::BoxButtons::YesNoCancel);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Project modified");
-  EXPECT_EQ(desk.boxes.boxes[0].text, kQuestion);
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].kind, env::BoxKind::Question);
+  EXPECT_EQ(harness.boxes.boxes[0].buttons, env::BoxButtons::YesNoCancel);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Project modified");
+  EXPECT_EQ(harness.boxes.boxes[0].text, kQuestion);
 }
 
 TEST_F(ProjectSessionTest, CancelKeepsTheProjectWhichIsNoLongerPristine) {
   Modify();
-  desk.boxes.answers = {env::BoxAnswer::Cancel};
+  harness.boxes.answers = {env::BoxAnswer::Cancel};
   session.NewProject();
   EXPECT_EQ(project.settings.textGalleryTitle, "Changed");
   EXPECT_EQ(States(), "modified untitled");
-  EXPECT_EQ(desk.calls, Calls{"box Project modified"});
+  EXPECT_EQ(harness.calls, Calls{"box Project modified"});
 }
 
-TEST_F(ProjectSessionTest, NoDropsTheChanges) {
+TEST_F(ProjectSessionTest, NoDiscardsTheChanges) {
   Modify();
-  desk.boxes.answers = {env::BoxAnswer::No};
+  harness.boxes.answers = {env::BoxAnswer::No};
   session.NewProject();
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
   EXPECT_EQ(States(), "pristine untitled");
@@ -117,18 +117,18 @@ TEST_F(ProjectSessionTest, NoDropsTheChanges) {
 
 TEST_F(ProjectSessionTest, YesSavesFirst) {
   Modify();
-  desk.boxes.answers = {env::BoxAnswer::Yes};
-  desk.dialog.answers = {desk.PathOf("saved.gpj")};
+  harness.boxes.answers = {env::BoxAnswer::Yes};
+  harness.dialog.answers = {harness.PathOf("saved.gpj")};
   session.NewProject();
-  EXPECT_NE(desk.folder.Read("saved.gpj").find("TITLE=\"Changed\""), std::string::npos);
+  EXPECT_NE(harness.folder.Read("saved.gpj").find("TITLE=\"Changed\""), std::string::npos);
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery2");
 }
 
 TEST_F(ProjectSessionTest, ASaveThatFailsOrIsCancelledStopsNew) {
-  for (const std::string& chosen : {std::string(), desk.PathOf("no folder/a.gpj")}) {
+  for (const std::string& chosen : {std::string(), harness.PathOf("no folder/a.gpj")}) {
     Modify();
-    desk.boxes.answers = {env::BoxAnswer::Yes};
-    desk.dialog.answers = {chosen};
+    harness.boxes.answers = {env::BoxAnswer::Yes};
+    harness.dialog.answers = {chosen};
     session.NewProject();
     EXPECT_EQ(project.settings.textGalleryTitle, "Changed") << chosen;
     EXPECT_EQ(States(), "modified untitled") << chosen;
@@ -137,11 +137,11 @@ TEST_F(ProjectSessionTest, ASaveThatFailsOrIsCancelledStopsNew) {
 
 TEST_F(ProjectSessionTest, LeavingAProjectAsksOnlyAboutAModifiedOne) {
   EXPECT_TRUE(session.MayLeaveProject());
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
   const std::pair<env::BoxAnswer, bool> cases[] = {{env::BoxAnswer::Cancel, false}, {env::BoxAnswer::No, true}};
   for (const auto& [answer, may] : cases) {
     Modify();
-    desk.boxes.answers = {answer};
+    harness.boxes.answers = {answer};
     EXPECT_EQ(session.MayLeaveProject(), may);
     EXPECT_FALSE(project.IsPristine);
   }
@@ -150,8 +150,8 @@ TEST_F(ProjectSessionTest, LeavingAProjectAsksOnlyAboutAModifiedOne) {
 TEST_F(ProjectSessionTest, OpenAsksForAFileOfItsKind) {
   project.LastProjectFolder = "C:\\projects\\";
   session.OpenProject();
-  ASSERT_EQ(desk.dialog.requests.size(), 1U);
-  const ProjectFileDialog::Request& request = desk.dialog.requests[0];
+  ASSERT_EQ(harness.dialog.requests.size(), 1U);
+  const ProjectFileDialog::Request& request = harness.dialog.requests[0];
   EXPECT_EQ(request.purpose, ProjectFileDialog::Purpose::Open);
   EXPECT_EQ(request.title, "Open Gallery Project");
   EXPECT_EQ(request.filter, kFilter);
@@ -161,22 +161,23 @@ TEST_F(ProjectSessionTest, OpenAsksForAFileOfItsKind) {
 }
 
 TEST_F(ProjectSessionTest, OpenWithoutAFileChangesNothing) {
-  desk.AddImage("a.jpg");
+  harness.AddImage("a.jpg");
   session.OpenProject();
-  EXPECT_EQ(desk.calls, Calls{"dialog Open Gallery Project"});
+  EXPECT_EQ(harness.calls, Calls{"dialog Open Gallery Project"});
   EXPECT_EQ(project.images.Count(), 1U);
   EXPECT_EQ(States(), "pristine untitled");
 }
 
-TEST_F(ProjectSessionTest, OpenReadsTheFileInItsOrder) {
+TEST_F(ProjectSessionTest, OpenReportsEachStepInOrder) {
   const std::string path = ValidFile();
-  desk.AddImage("old.jpg");
+  harness.AddImage("old.jpg");
   project.images.KeepSorted({SortColumn::ImageName, SortDirection::Ascending});
-  desk.dialog.answers = {path};
+  harness.dialog.answers = {path};
   session.OpenProject();
-  EXPECT_EQ(desk.calls, (Calls{"dialog Open Gallery Project", "info Please wait... Reading Project File.", "disabled",
-                               "status Reading Project File \"" + path + "\"...", "wait pointer", "status ", "pointer",
-                               "enabled", "info hidden", "title bar", "page count", "counts", "preview"}));
+  EXPECT_EQ(harness.calls,
+            (Calls{"dialog Open Gallery Project", "info Please wait... Reading Project File.", "disabled",
+                   "status Reading Project File \"" + path + "\"...", "wait pointer", "status ", "pointer", "enabled",
+                   "info hidden", "title bar", "page count", "counts", "preview"}));
   EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
   EXPECT_EQ(project.ProjectFolder, Folder());
   EXPECT_EQ(project.ProjectFileName, "other.gpj");
@@ -188,11 +189,11 @@ TEST_F(ProjectSessionTest, OpenReadsTheFileInItsOrder) {
 }
 
 TEST_F(ProjectSessionTest, TheFirstImageOfAnOpenedProjectIsCurrentAndSelected) {
-  desk.AddImage("a.jpg");
-  desk.AddImage("b.jpg");
-  const std::string path = desk.PathOf("two.gpj");
+  harness.AddImage("a.jpg");
+  harness.AddImage("b.jpg");
+  const std::string path = harness.PathOf("two.gpj");
   ASSERT_TRUE(session.SaveProjectTo(path));
-  desk.dialog.answers = {path};
+  harness.dialog.answers = {path};
   session.OpenProject();
   ASSERT_EQ(project.images.Count(), 2U);
   EXPECT_EQ(project.images.Current(), 1U);
@@ -201,148 +202,148 @@ TEST_F(ProjectSessionTest, TheFirstImageOfAnOpenedProjectIsCurrentAndSelected) {
   EXPECT_EQ(States(), "");
 }
 
-TEST_F(ProjectSessionTest, AFailedOpenSaysSoTwiceAndKeepsTheStates) {
-  const std::string path = desk.File("bad.gpj", "<GALLERYPROJECT/>");
-  desk.dialog.answers = {path};
+TEST_F(ProjectSessionTest, AFailedOpenShowsTwoMessageBoxesAndKeepsTheState) {
+  const std::string path = harness.File("bad.gpj", "<GALLERYPROJECT/>");
+  harness.dialog.answers = {path};
   session.OpenProject();
-  EXPECT_EQ(desk.calls,
+  EXPECT_EQ(harness.calls,
             (Calls{"dialog Open Gallery Project", "info Please wait... Reading Project File.", "disabled",
                    "status Reading Project File \"" + path + "\"...", "wait pointer", "box Invalid Project File",
                    "status ", "pointer", "box File Error", "enabled", "info hidden"}));
-  EXPECT_EQ(desk.boxes.boxes[1].kind, env::BoxKind::Exclamation);
-  EXPECT_EQ(desk.boxes.boxes[1].text, "An error occurred while opening the Gallery Project \"" + path + "\".");
+  EXPECT_EQ(harness.boxes.boxes[1].kind, env::BoxKind::Exclamation);
+  EXPECT_EQ(harness.boxes.boxes[1].text, "An error occurred while opening the Gallery Project \"" + path + "\".");
   EXPECT_EQ(project.ProjectFileName, "Gallery1");
   EXPECT_EQ(project.LastProjectFolder, "");
   EXPECT_EQ(States(), "pristine untitled");
 }
 
 TEST_F(ProjectSessionTest, ASaveAfterAFailedOpenAsksForANameAndKeepsTheOldFile) {
-  GiveItAFile();
-  const std::string before = desk.folder.Read("mine.gpj");
-  desk.dialog.answers = {desk.File("bad.gpj", ProjectFileParts{.imagePage = "<IMAGEPAGE/>"}.Text())};
+  SaveToFile();
+  const std::string before = harness.folder.Read("mine.gpj");
+  harness.dialog.answers = {harness.File("bad.gpj", ProjectFileParts{.imagePage = "<IMAGEPAGE/>"}.Text())};
   session.OpenProject();
   EXPECT_EQ(project.ProjectFileName, "mine.gpj");
-  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays") << "what was read so far";
+  EXPECT_EQ(project.settings.textGalleryTitle, "Holidays") << "values read before the failure";
   EXPECT_EQ(States(), "");
   for (int save = 0; save < 2; ++save) {
-    EXPECT_FALSE(session.SaveProject()) << "nothing was chosen";
-    EXPECT_EQ(desk.dialog.requests.back().title, "Save Gallery Project As");
-    EXPECT_EQ(desk.dialog.requests.back().fileName, "mine.gpj");
+    EXPECT_FALSE(session.SaveProject()) << "no file was chosen";
+    EXPECT_EQ(harness.dialog.requests.back().title, "Save Gallery Project As");
+    EXPECT_EQ(harness.dialog.requests.back().fileName, "mine.gpj");
   }
   session.SaveProjectAs();
-  EXPECT_FALSE(session.SaveProject()) << "a cancelled Save As changes nothing about it";
-  EXPECT_EQ(desk.folder.Read("mine.gpj"), before);
+  EXPECT_FALSE(session.SaveProject()) << "even after a cancelled Save As";
+  EXPECT_EQ(harness.folder.Read("mine.gpj"), before);
 }
 
-TEST_F(ProjectSessionTest, ASaveGoesToItsFileAgainOnceTheProjectHasOne) {
-  const std::string bad = desk.File("bad.gpj", "<GALLERYPROJECT/>");
+TEST_F(ProjectSessionTest, OnceTheProjectHasAFileAgainASaveGoesThere) {
+  const std::string bad = harness.File("bad.gpj", "<GALLERYPROJECT/>");
   const auto expectNoQuestion = [this](const char* how) {
-    const std::size_t asked = desk.dialog.requests.size();
+    const std::size_t asked = harness.dialog.requests.size();
     EXPECT_TRUE(session.SaveProject()) << how;
-    EXPECT_EQ(desk.dialog.requests.size(), asked) << how;
+    EXPECT_EQ(harness.dialog.requests.size(), asked) << how;
   };
-  GiveItAFile();
-  desk.dialog.answers = {bad, desk.PathOf("saved.gpj")};
+  SaveToFile();
+  harness.dialog.answers = {bad, harness.PathOf("saved.gpj")};
   session.OpenProject();
   EXPECT_TRUE(session.SaveProject());
   EXPECT_EQ(project.ProjectFileName, "saved.gpj");
   expectNoQuestion("saved under a name");
 
-  desk.dialog.answers = {bad, ValidFile()};
+  harness.dialog.answers = {bad, ValidFile()};
   session.OpenProject();
   session.OpenProject();
   expectNoQuestion("another one was opened");
 
-  desk.dialog.answers = {bad, desk.PathOf("as.gpj")};
+  harness.dialog.answers = {bad, harness.PathOf("as.gpj")};
   session.OpenProject();
   session.SaveProjectAs();
   expectNoQuestion("saved by Save As");
 
   EXPECT_FALSE(session.LoadProject(bad));
-  EXPECT_TRUE(session.SaveProjectTo(desk.PathOf("to.gpj")));
+  EXPECT_TRUE(session.SaveProjectTo(harness.PathOf("to.gpj")));
   expectNoQuestion("saved to a path");
 }
 
 TEST_F(ProjectSessionTest, OpenAsksAboutAModifiedProject) {
   Modify();
-  desk.boxes.answers = {env::BoxAnswer::Cancel};
+  harness.boxes.answers = {env::BoxAnswer::Cancel};
   session.OpenProject();
-  EXPECT_EQ(desk.calls, Calls{"box Project modified"});
-  desk.calls.clear();
-  desk.boxes.answers = {env::BoxAnswer::No};
+  EXPECT_EQ(harness.calls, Calls{"box Project modified"});
+  harness.calls.clear();
+  harness.boxes.answers = {env::BoxAnswer::No};
   session.OpenProject();
-  EXPECT_EQ(desk.calls, (Calls{"box Project modified", "dialog Open Gallery Project"}));
+  EXPECT_EQ(harness.calls, (Calls{"box Project modified", "dialog Open Gallery Project"}));
   EXPECT_EQ(States(), "modified untitled");
 }
 
-TEST_F(ProjectSessionTest, OpenGoesOnWhenTheSaveFails) {
+TEST_F(ProjectSessionTest, OpenContinuesWhenTheSaveFails) {
   Modify();
-  desk.boxes.answers = {env::BoxAnswer::Yes};
-  desk.dialog.answers = {"", ValidFile()};
+  harness.boxes.answers = {env::BoxAnswer::Yes};
+  harness.dialog.answers = {"", ValidFile()};
   session.OpenProject();
-  EXPECT_EQ(desk.dialog.requests.size(), 2U);
+  EXPECT_EQ(harness.dialog.requests.size(), 2U);
   EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
 }
 
-TEST_F(ProjectSessionTest, TheCommandLineIsAPathInQuotes) {
+TEST_F(ProjectSessionTest, TheCommandLineIsAQuotedPath) {
   const std::string path = ValidFile();
-  desk.AddImage("a.jpg");
+  harness.AddImage("a.jpg");
   session.OpenProjectFromCommandLine('"' + path + '"');
-  EXPECT_EQ(desk.calls, (Calls{"disabled", "status Reading Project File \"" + path + "\"...", "wait pointer", "status ",
-                               "pointer", "enabled", "title bar", "page count", "counts", "preview"}));
+  EXPECT_EQ(harness.calls, (Calls{"disabled", "status Reading Project File \"" + path + "\"...", "wait pointer",
+                                  "status ", "pointer", "enabled", "title bar", "page count", "counts", "preview"}));
   EXPECT_EQ(project.ProjectFileName, "other.gpj");
   EXPECT_EQ(States(), "");
   EXPECT_EQ(project.images.Count(), 1U);
 }
 
-TEST_F(ProjectSessionTest, TheCommandLineLosesItsQuotesBeforeItsPathIsMadeWhole) {
+TEST_F(ProjectSessionTest, TheCommandLineIsUnquotedBeforeItsPathIsMadeAbsolute) {
   ValidFile("my own.gpj");
-  const std::string native = (desk.folder.Path() / "my own.gpj").string();
+  const std::string native = (harness.folder.Path() / "my own.gpj").string();
   const std::string relative =
       std::filesystem::path(native).lexically_relative(std::filesystem::current_path()).string();
-  for (const std::string& path : {native, relative, desk.PathOf("my own.gpj")}) {
-    desk.boxes.boxes.clear();
+  for (const std::string& path : {native, relative, harness.PathOf("my own.gpj")}) {
+    harness.boxes.boxes.clear();
     project.ProjectFileName.clear();
     session.OpenProjectFromCommandLine('"' + path + '"');
-    EXPECT_TRUE(desk.boxes.boxes.empty()) << path;
-    EXPECT_EQ(project.ProjectFolder + project.ProjectFileName, desk.PathOf("my own.gpj")) << path;
+    EXPECT_TRUE(harness.boxes.boxes.empty()) << path;
+    EXPECT_EQ(project.ProjectFolder + project.ProjectFileName, harness.PathOf("my own.gpj")) << path;
   }
 }
 
 TEST_F(ProjectSessionTest, AnEmptyCommandLineDoesNothing) {
   for (const char* line : {"", "\"\"", "\""}) session.OpenProjectFromCommandLine(line);
-  EXPECT_EQ(desk.calls, Calls{});
+  EXPECT_EQ(harness.calls, Calls{});
 }
 
-TEST_F(ProjectSessionTest, ACommandLineThatIsNotAProjectIsReported) {
-  session.OpenProjectFromCommandLine(desk.PathOf("missing.gpj"));
-  ASSERT_EQ(desk.boxes.boxes.size(), 2U);
-  EXPECT_EQ(desk.boxes.boxes[1].title, "File Error");
-  EXPECT_EQ(desk.calls.back(), "enabled");
+TEST_F(ProjectSessionTest, ACommandLineThatNamesNoProjectIsReported) {
+  session.OpenProjectFromCommandLine(harness.PathOf("missing.gpj"));
+  ASSERT_EQ(harness.boxes.boxes.size(), 2U);
+  EXPECT_EQ(harness.boxes.boxes[1].title, "File Error");
+  EXPECT_EQ(harness.calls.back(), "enabled");
 }
 
 TEST_F(ProjectSessionTest, SavingAnUntitledProjectAsksForItsName) {
   project.LastProjectFolder = "C:\\projects\\";
   EXPECT_FALSE(session.SaveProject());
-  ASSERT_EQ(desk.dialog.requests.size(), 1U);
-  const ProjectFileDialog::Request& request = desk.dialog.requests[0];
+  ASSERT_EQ(harness.dialog.requests.size(), 1U);
+  const ProjectFileDialog::Request& request = harness.dialog.requests[0];
   EXPECT_EQ(request.purpose, ProjectFileDialog::Purpose::Save);
   EXPECT_EQ(request.title, "Save Gallery Project As");
   EXPECT_EQ(request.filter, kFilter);
   EXPECT_EQ(request.defaultExtension, "gpj");
   EXPECT_EQ(request.folder, "C:\\projects\\");
   EXPECT_EQ(request.fileName, "Gallery1");
-  EXPECT_EQ(desk.calls, Calls{"dialog Save Gallery Project As"});
+  EXPECT_EQ(harness.calls, Calls{"dialog Save Gallery Project As"});
   EXPECT_EQ(States(), "pristine untitled");
 }
 
 TEST_F(ProjectSessionTest, ASavedProjectHasTheChosenFile) {
   Modify();
-  const std::string path = desk.PathOf("chosen.gpj");
-  desk.dialog.answers = {path};
+  const std::string path = harness.PathOf("chosen.gpj");
+  harness.dialog.answers = {path};
   EXPECT_TRUE(session.SaveProject());
-  EXPECT_EQ(desk.calls, Joined(Joined({"dialog Save Gallery Project As"}, WriteCalls(path)),
-                               {"enabled", "info hidden", "title bar"}));
+  EXPECT_EQ(harness.calls, Joined(Joined({"dialog Save Gallery Project As"}, WriteCalls(path)),
+                                  {"enabled", "info hidden", "title bar"}));
   EXPECT_EQ(project.ProjectFileName, "chosen.gpj");
   EXPECT_EQ(project.ProjectFolder, Folder());
   EXPECT_EQ(project.LastProjectFolder, Folder());
@@ -350,11 +351,11 @@ TEST_F(ProjectSessionTest, ASavedProjectHasTheChosenFile) {
 }
 
 TEST_F(ProjectSessionTest, ATitledProjectIsSavedToItsFile) {
-  GiveItAFile();
+  SaveToFile();
   Modify();
   EXPECT_TRUE(session.SaveProject());
-  EXPECT_EQ(desk.calls, Joined(WriteCalls(desk.PathOf("mine.gpj")), {"enabled", "info hidden", "title bar"}));
-  EXPECT_NE(desk.folder.Read("mine.gpj").find("Changed"), std::string::npos);
+  EXPECT_EQ(harness.calls, Joined(WriteCalls(harness.PathOf("mine.gpj")), {"enabled", "info hidden", "title bar"}));
+  EXPECT_NE(harness.folder.Read("mine.gpj").find("Changed"), std::string::npos);
   EXPECT_EQ(States(), "");
 }
 
@@ -367,50 +368,50 @@ TEST_F(ProjectSessionTest, AFileNameWithoutTheExtensionGetsIt) {
     project.ProjectFileName = name;
     EXPECT_TRUE(session.SaveProject()) << name;
     EXPECT_EQ(project.ProjectFileName, saved);
-    EXPECT_TRUE(std::filesystem::exists(desk.folder.Path() / saved)) << saved;
+    EXPECT_TRUE(std::filesystem::exists(harness.folder.Path() / saved)) << saved;
   }
 }
 
-TEST_F(ProjectSessionTest, AFailedSaveSaysSoAndTheProjectStaysModified) {
-  GiveItAFile();
+TEST_F(ProjectSessionTest, AFailedSaveIsReportedAndTheProjectStaysModified) {
+  SaveToFile();
   Modify();
   project.ProjectFolder = Folder() + "no folder\\";
   EXPECT_FALSE(session.SaveProject());
-  const std::string path = desk.PathOf("no folder/mine.gpj");
-  EXPECT_EQ(desk.calls, Joined(WriteCalls(path), {"box File Error", "enabled", "info hidden"}));
-  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Exclamation);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "An error occurred while saving the Gallery Project.");
+  const std::string path = harness.PathOf("no folder/mine.gpj");
+  EXPECT_EQ(harness.calls, Joined(WriteCalls(path), {"box File Error", "enabled", "info hidden"}));
+  EXPECT_EQ(harness.boxes.boxes[0].kind, env::BoxKind::Exclamation);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "An error occurred while saving the Gallery Project.");
   EXPECT_EQ(States(), "modified ");
 }
 
 TEST_F(ProjectSessionTest, SavingRepairsEmptySettings) {
   project.settings.textThumbnailsTableColumns = "";
-  desk.dialog.answers = {""};
+  harness.dialog.answers = {""};
   EXPECT_FALSE(session.SaveProject());
   EXPECT_EQ(project.settings.textThumbnailsTableColumns, "1");
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(ProjectSessionTest, SaveAsAsksForANameAlsoWithAFile) {
-  GiveItAFile();
-  desk.dialog.answers = {desk.PathOf("copy.gpj")};
+TEST_F(ProjectSessionTest, SaveAsAsksForANameEvenIfTheProjectHasAFile) {
+  SaveToFile();
+  harness.dialog.answers = {harness.PathOf("copy.gpj")};
   session.SaveProjectAs();
-  EXPECT_EQ(desk.dialog.requests.at(0).fileName, "mine.gpj");
+  EXPECT_EQ(harness.dialog.requests.at(0).fileName, "mine.gpj");
   EXPECT_EQ(project.ProjectFileName, "copy.gpj");
   EXPECT_EQ(States(), "");
 }
 
 TEST_F(ProjectSessionTest, SaveAsLeavesAnUntitledProjectUntitled) {
-  desk.dialog.answers = {desk.PathOf("copy.gpj")};
+  harness.dialog.answers = {harness.PathOf("copy.gpj")};
   session.SaveProjectAs();
   EXPECT_EQ(States(), "untitled");
   EXPECT_EQ(project.ProjectFileName, "copy.gpj");
   EXPECT_FALSE(session.SaveProject());
-  EXPECT_EQ(desk.dialog.requests.size(), 2U);
+  EXPECT_EQ(harness.dialog.requests.size(), 2U);
 }
 
-TEST_F(ProjectSessionTest, ACancelledSaveAsPutsTheStateBack) {
-  GiveItAFile();
+TEST_F(ProjectSessionTest, ACancelledSaveAsRestoresTheState) {
+  SaveToFile();
   session.SaveProjectAs();
   EXPECT_EQ(States(), "");
   EXPECT_EQ(project.ProjectFileName, "mine.gpj");
@@ -420,23 +421,23 @@ TEST_F(ProjectSessionTest, AProjectIsLoadedAndSavedWithoutAWindow) {
   EXPECT_TRUE(session.LoadProject(ValidFile()));
   EXPECT_EQ(project.settings.textGalleryTitle, "Holidays");
   EXPECT_EQ(States(), "");
-  EXPECT_TRUE(session.SaveProjectTo(desk.PathOf("out.gpj")));
+  EXPECT_TRUE(session.SaveProjectTo(harness.PathOf("out.gpj")));
   EXPECT_EQ(project.ProjectFileName, "out.gpj");
-  EXPECT_TRUE(session.LoadProject(desk.PathOf("out.gpj")));
-  EXPECT_FALSE(session.LoadProject(desk.PathOf("missing.gpj")));
-  EXPECT_EQ(desk.boxes.boxes.size(), 2U);
-  EXPECT_FALSE(session.SaveProjectTo(desk.PathOf("no folder/out.gpj")));
-  EXPECT_EQ(desk.boxes.boxes.size(), 3U);
+  EXPECT_TRUE(session.LoadProject(harness.PathOf("out.gpj")));
+  EXPECT_FALSE(session.LoadProject(harness.PathOf("missing.gpj")));
+  EXPECT_EQ(harness.boxes.boxes.size(), 2U);
+  EXPECT_FALSE(session.SaveProjectTo(harness.PathOf("no folder/out.gpj")));
+  EXPECT_EQ(harness.boxes.boxes.size(), 3U);
 }
 
 TEST_F(ProjectSessionTest, AProjectWithoutATitleHasTheNameOfTheNewProject) {
-  EXPECT_TRUE(session.LoadProject(desk.File("a.gpj", ProjectFileParts{.gallery = ""}.Text())));
+  EXPECT_TRUE(session.LoadProject(harness.File("a.gpj", ProjectFileParts{.gallery = ""}.Text())));
   EXPECT_EQ(project.settings.textGalleryTitle, "Gallery1");
 }
 
-TEST_F(ProjectSessionTest, TheFolderOfAProjectLeadsBackToItsFile) {
-  const std::string native = (desk.folder.Path() / "mine.gpj").string();  // begins with a separator
-  desk.folder.Write("mine.gpj", ProjectFileParts{}.Text());
+TEST_F(ProjectSessionTest, TheFolderOfAProjectLocatesItsFile) {
+  const std::string native = (harness.folder.Path() / "mine.gpj").string();  // begins with a separator
+  harness.folder.Write("mine.gpj", ProjectFileParts{}.Text());
   ASSERT_TRUE(session.LoadProject(native));
-  EXPECT_TRUE(desk.files.PathExists(project.ProjectFolder + project.ProjectFileName)) << project.ProjectFolder;
+  EXPECT_TRUE(harness.files.PathExists(project.ProjectFolder + project.ProjectFileName)) << project.ProjectFolder;
 }

@@ -20,7 +20,7 @@ std::vector<double> FirstNumbers(const SettableClock& clock) {
   return numbers;
 }
 
-TEST(RandomNumbers, LieFromZeroUpToBelowOneAndSpread) {
+TEST(RandomNumbers, AreSpreadFromZeroToBelowOne) {
   const auto numbers = FirstNumbers({});
   double sum = 0;
   for (const double number : numbers) {

@@ -30,7 +30,7 @@ Names NamesOf(const ImageList& list) {
   return names;
 }
 
-TEST(Shuffle, DrawsTheRowFirstThenItsPlace) {
+TEST(Shuffle, DrawsARowThenItsNewPosition) {
   ImageList list = ListOfLetters(3);
   fakes::ScriptedShuffle script({0.0, 0.99, 0.0, 0.0, 0.5, 0.5, 0.34, 0.0, 0.0, 0.0, 0.0, 0.0});
   EXPECT_TRUE(ShuffleRows(list, script.Tools()));
@@ -57,14 +57,14 @@ TEST(Shuffle, RowsKeepNamesAndTexts) {
   EXPECT_EQ(names, (Names{"a", "b", "c", "d", "e"}));
 }
 
-TEST(Shuffle, TheBarShowsTheShareOfTwiceTheRows) {
+TEST(Shuffle, TheProgressBarShowsTheShareOfTwiceAsManyRoundsAsRows) {
   ImageList list = ListOfLetters(2);
   fakes::ScriptedShuffle script({0.0});
   EXPECT_TRUE(ShuffleRows(list, script.Tools()));
   EXPECT_EQ(script.percents, (std::vector<double>{25, 50, 75, 100}));
 }
 
-TEST(Shuffle, EachRoundFromTheTwoHundredFiftiethOnYields) {
+TEST(Shuffle, TheEventLoopHasATurnInEachRoundFromTheTwoHundredFiftiethOn) {
   struct Case {
     std::size_t rows;
     int turns;
@@ -79,7 +79,7 @@ TEST(Shuffle, EachRoundFromTheTwoHundredFiftiethOnYields) {
   }
 }
 
-TEST(Shuffle, StopEndsItBeforeTheRoundsMove) {
+TEST(Shuffle, StopEndsItBeforeTheMoveOfTheRound) {
   ImageList list = ListOfLetters(200);
   fakes::ScriptedShuffle script({0.0, 0.999});
   script.stopInTurn = 3;

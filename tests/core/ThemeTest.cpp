@@ -10,11 +10,11 @@ namespace vantorium::core {
 namespace {
 
 namespace fs = std::filesystem;
-using fakes::ProjectDesk;
 using fakes::ProjectFileParts;
+using fakes::ProjectHarness;
 using fakes::SettingTexts;
 
-class Theme : public ::testing::Test, public ProjectDesk {
+class Theme : public ::testing::Test, public ProjectHarness {
  protected:
   std::optional<GalleryProject> Read(const std::string& path) { return ReadTheme(path, paths, boxes, events); }
   [[nodiscard]] std::vector<std::string> Messages() const {
@@ -24,7 +24,7 @@ class Theme : public ::testing::Test, public ProjectDesk {
   }
 };
 
-/// A project in which every setting that a project file holds is another than in a new one.
+/// A project in which every setting that a project file holds differs from that of a new project.
 const ProjectFileParts kOther = {
     .gallery = R"(TITLE="Theirs")",
     .layout = R"(<LAYOUT TYPE="thumbsleft" IMAGEFRAMENAME="big" THUMBFRAMENAME="small" FRAMESIZE="30%"/>)",
@@ -36,7 +36,7 @@ const ProjectFileParts kOther = {
     .thumbnailPage = R"(<HEAD>code</HEAD><ARRANGEMENT ROWS="7" COLS="8"/><PAGELINKS/>)",
     .imagePage = ""};
 
-TEST_F(Theme, AllSettingsOfTheThemeAreTakenOverExceptTheTitle) {
+TEST_F(Theme, AllItsSettingsAreAppliedExceptTheTitle) {
   const auto theme = Read(File("theme.gpj", kOther.Text()));
   ASSERT_TRUE(theme);
   project.settings.textGalleryTitle = "Mine";
@@ -49,7 +49,7 @@ TEST_F(Theme, AllSettingsOfTheThemeAreTakenOverExceptTheTitle) {
   EXPECT_EQ(project.settings.checkImageWrapperUse, 0);
 }
 
-TEST_F(Theme, ImagesTheirTextsAndTheirOrderStay) {
+TEST_F(Theme, ImagesWithTextsAndOrderStay) {
   const auto theme = Read(File("theme.gpj", kOther.Text()));
   ASSERT_TRUE(theme);
   AddImage("mine.jpg", "my description", "my thumbnail");
@@ -86,16 +86,16 @@ TEST_F(Theme, TheRulesBetweenSettingsHoldAfterwards) {
   project.settings.comboGalleryLayoutType = 2;
   ApplyTheme(project.settings, *theme);
   EXPECT_EQ(project.settings.checkGallerySlideShow, 1);
-  EXPECT_EQ(project.settings.checkImageWrapperUse, 1) << "a slideshow always has wrapper pages";
+  EXPECT_EQ(project.settings.checkImageWrapperUse, 1) << "a slide show requires wrapper pages";
   EXPECT_EQ(project.settings.comboImageFrameName, "_self") << "the single frame shows its own pages";
 }
 
-TEST_F(Theme, ItsImagesAreNeverLookedFor) {
+TEST_F(Theme, ItsImagesAreNotRead) {
   EXPECT_TRUE(Read(File("theme.gpj", kOther.Text())));
   EXPECT_EQ(Messages(), std::vector<std::string>());
 }
 
-TEST_F(Theme, AFileThatIsNotAWholeProjectIsRefusedWithTheReason) {
+TEST_F(Theme, AnIncompleteOrInvalidFileIsRefusedWithTheReason) {
   ProjectFileParts noLayout;
   noLayout.layout = "";
   ProjectFileParts noNumber;
@@ -117,7 +117,7 @@ TEST_F(Theme, AFileThatIsNotAWholeProjectIsRefusedWithTheReason) {
   }
 }
 
-TEST_F(Theme, AMissingFileOrAFolderIsRefused) {
+TEST_F(Theme, AMissingFileAndAFolderAreRefused) {
   fs::create_directory(folder.Path() / "folder.gpj");
   for (const std::string& path :
        {PathOf("missing.gpj"), PathOf("folder.gpj"), std::string("Q:\\nowhere.gpj"), std::string()}) {
@@ -146,7 +146,7 @@ class ShippedThemes : public Theme {
   std::vector<ThemeFile> themes = FindThemes(env::BundledFiles({fakes::SourceFolder() / "data"}));
 };
 
-TEST_F(ShippedThemes, AreTheFiveThatTheHelpTellsOfEachWithAPicture) {
+TEST_F(ShippedThemes, AreTheFiveOfTheHelpEachWithAPicture) {
   std::vector<std::string> names;
   for (const ThemeFile& theme : themes) {
     names.push_back(theme.name);
@@ -155,7 +155,7 @@ TEST_F(ShippedThemes, AreTheFiveThatTheHelpTellsOfEachWithAPicture) {
   EXPECT_EQ(names, (std::vector<std::string>{"contact", "film", "plain", "portfolio", "slideshow"}));
 }
 
-TEST_F(ShippedThemes, AreReadWithoutAMessageAndSavedAsTheyAre) {
+TEST_F(ShippedThemes, AreReadWithoutAMessageAndSavedUnchanged) {
   for (const ThemeFile& theme : themes) {
     images.StopSorting();
     project.images.Clear();
@@ -169,7 +169,7 @@ TEST_F(ShippedThemes, AreReadWithoutAMessageAndSavedAsTheyAre) {
   }
 }
 
-TEST_F(ShippedThemes, KeepTheShapeOfPhotographsAndDescribeThemToThoseWhoCannotSeeThem) {
+TEST_F(ShippedThemes, KeepTheAspectRatioOfPhotographsAndHavePopupCaptions) {
   for (const ThemeFile& theme : themes) {
     const auto settings = Read(paths.ToText(theme.project));
     ASSERT_TRUE(settings) << theme.name;
@@ -180,7 +180,7 @@ TEST_F(ShippedThemes, KeepTheShapeOfPhotographsAndDescribeThemToThoseWhoCannotSe
   }
 }
 
-TEST_F(ShippedThemes, NameNoFileAndNoAddressOutsideTheGallery) {
+TEST_F(ShippedThemes, ReferToNothingOutsideTheGallery) {
   for (const ThemeFile& theme : themes) {
     const std::string text = fakes::TemporaryFolder::ReadFile(theme.project);
     for (const char* foreign : {"file://", "http:", "https:", "//cdn", "@import", "url(", "<SCRIPT", "<script"}) {

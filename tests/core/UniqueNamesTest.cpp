@@ -21,7 +21,7 @@ TEST(UniqueNames, ATakenNameGetsTheLowestFreeNumber) {
   for (const char* expected : {"a.jpg", "a.jpg_1", "a.jpg_2", "a.jpg_3"}) EXPECT_EQ(names.Take("a.jpg"), expected);
 }
 
-TEST(UniqueNames, NumbersThatWereTakenByNameAreSkipped) {
+TEST(UniqueNames, NumberedNamesThatAreAlreadyTakenAreSkipped) {
   UniqueNames names;
   for (const char* name : {"a_2", "a", "a_1"}) EXPECT_EQ(names.Take(name), name);
   EXPECT_EQ(names.Take("a"), "a_3");
@@ -46,7 +46,7 @@ TEST(UniqueNames, AReleasedNumberIsTheLowestFreeAgain) {
   EXPECT_EQ(names.Take("a"), "a_6");
 }
 
-TEST(UniqueNames, AReleasedNumberCanBeTakenByName) {
+TEST(UniqueNames, AReleasedNumberedNameCanBeTaken) {
   UniqueNames names;
   for (int i = 0; i < 4; ++i) names.Take("a");
   names.Release("a_1");
@@ -54,7 +54,7 @@ TEST(UniqueNames, AReleasedNumberCanBeTakenByName) {
   EXPECT_EQ(names.Take("a"), "a_4");
 }
 
-TEST(UniqueNames, AReleasedBaseIsFreeWhileItsNumbersStay) {
+TEST(UniqueNames, AReleasedNameIsFreeWhileItsNumberedNamesStayTaken) {
   UniqueNames names;
   for (int i = 0; i < 3; ++i) names.Take("a");
   names.Release("a");
@@ -62,7 +62,7 @@ TEST(UniqueNames, AReleasedBaseIsFreeWhileItsNumbersStay) {
   EXPECT_EQ(names.Take("a"), "a_3");
 }
 
-TEST(UniqueNames, AllNumbersReleasedBeginAtOneAgain) {
+TEST(UniqueNames, NumbersBeginAtOneAgainWhenAllAreReleased) {
   UniqueNames names;
   for (int i = 0; i < 5; ++i) names.Take("a");
   for (const char* name : {"a_3", "a_1", "a_4", "a_2"}) names.Release(name);
@@ -70,7 +70,7 @@ TEST(UniqueNames, AllNumbersReleasedBeginAtOneAgain) {
   EXPECT_EQ(names.Take("a"), "a_2");
 }
 
-TEST(UniqueNames, ANumberedNameIsABaseOfItsOwn) {
+TEST(UniqueNames, ANumberedNameCanBeNumberedAgain) {
   UniqueNames names;
   for (int i = 0; i < 2; ++i) names.Take("a");
   EXPECT_EQ(names.Take("a_1"), "a_1_1");
@@ -79,7 +79,7 @@ TEST(UniqueNames, ANumberedNameIsABaseOfItsOwn) {
   EXPECT_EQ(names.Take("a_1"), "a_1_2");
 }
 
-TEST(UniqueNames, TextsThatNoNumberingGivesAreOrdinaryNames) {
+TEST(UniqueNames, NamesThatOnlyLookNumberedAreOrdinaryNames) {
   UniqueNames names;
   for (int i = 0; i < 5; ++i) names.Take("a");
   const char* const kNames[] = {"a_", "a_0", "a_01", "a_x", "a_-1", "a_1x", "a_ 1", "a_99999999999999999999999", "_1"};
@@ -107,7 +107,7 @@ TEST(UniqueNames, ClearFreesEverything) {
 }
 
 // A search from 1 for each name would take hours here.
-TEST(UniqueNames, AHundredThousandEqualNamesTakeNoQuadraticTime) {
+TEST(UniqueNames, AHundredThousandEqualNamesDoNotTakeQuadraticTime) {
   constexpr int kCount = 100'000;
   UniqueNames names;
   for (int i = 0; i < kCount; ++i) names.Take("same.jpg");
@@ -120,7 +120,7 @@ TEST(UniqueNames, AHundredThousandEqualNamesTakeNoQuadraticTime) {
 }
 
 /// Compares with a plain implementation over a long sequence of takes and releases.
-TEST(UniqueNames, AgreesWithTheSearchFromOneOnMixedOperations) {
+TEST(UniqueNames, AgreesWithALinearSearchOnMixedOperations) {
   UniqueNames names;
   std::vector<std::string> taken;
   const auto isTaken = [&](const std::string& name) { return std::ranges::count(taken, name) > 0; };

@@ -6,7 +6,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(BundledFiles, TheFirstFolderThatHasTheFileCounts) {
+TEST(BundledFiles, TheFirstFolderThatHasTheFileIsUsed) {
   const fakes::TemporaryFolder folder;
   folder.Write("own/preview.jpg", "own");
   folder.Write("installed/preview.jpg", "installed");
@@ -23,7 +23,7 @@ TEST(BundledFiles, AFileInNoFolderIsNotFound) {
   EXPECT_EQ(BundledFiles({folder.Path()}).Find(""), std::nullopt);
 }
 
-TEST(BundledFiles, AFolderOrALinkToNothingIsPassedOver) {
+TEST(BundledFiles, FoldersAndDanglingLinksAreSkipped) {
   const fakes::TemporaryFolder folder;
   fs::create_directories(folder.Path() / "a/preview.jpg");
   fs::create_directories(folder.Path() / "b");
@@ -33,7 +33,7 @@ TEST(BundledFiles, AFolderOrALinkToNothingIsPassedOver) {
   EXPECT_EQ(files.Find("preview.jpg"), folder.Path() / "c/preview.jpg");
 }
 
-TEST(BundledFiles, AllOfASubfolderComeInTheOrderOfTheirNamesFromTheFirstFolderThatHasThem) {
+TEST(BundledFiles, AllFilesOfASubfolderAreSortedByNameEachFromTheFirstFolderThatHasIt) {
   const fakes::TemporaryFolder folder;
   folder.Write("own/themes/b.gpj", "own");
   folder.Write("installed/themes/b.gpj", "installed");
@@ -45,7 +45,7 @@ TEST(BundledFiles, AllOfASubfolderComeInTheOrderOfTheirNamesFromTheFirstFolderTh
                                    folder.Path() / "installed/themes/c.gpj"}));
 }
 
-TEST(BundledFiles, OtherFilesAndFoldersAndLinksToNothingAreNotAmongThem) {
+TEST(BundledFiles, OtherFilesFoldersAndDanglingLinksAreLeftOut) {
   const fakes::TemporaryFolder folder;
   for (const char* name : {"themes/a.png", "themes/b.gpj.bak", "themes/.gpj", "c.gpj", "themes/deep/d.gpj"}) {
     folder.Write(name, "x");
@@ -56,7 +56,7 @@ TEST(BundledFiles, OtherFilesAndFoldersAndLinksToNothingAreNotAmongThem) {
   EXPECT_EQ(BundledFiles({}).FindAll("themes", ".gpj"), std::vector<fs::path>());
 }
 
-TEST(BundledFiles, TheFoldersAreTheProgramsAndTheInstallations) {
+TEST(BundledFiles, TheProgramFolderComesBeforeTheInstallation) {
   const ProcessEnvironment around = {"/usr/bin/vantorium", "/home/me", ""};
   EXPECT_EQ(BundledFolders("/home/me/.config/vantorium", around),
             (std::vector<fs::path>{"/home/me/.config/vantorium", "/usr/share/vantorium"}));
@@ -64,7 +64,7 @@ TEST(BundledFiles, TheFoldersAreTheProgramsAndTheInstallations) {
             (std::vector<fs::path>{"/p", "/build/dev/share/vantorium"}));
 }
 
-TEST(BundledFiles, WithoutAnExecutableOnlyTheProgramsFolderIsLookedThrough) {
+TEST(BundledFiles, WithoutAnExecutableOnlyTheProgramFolderIsSearched) {
   EXPECT_EQ(BundledFolders("/p", {"", "/home/me", ""}), (std::vector<fs::path>{"/p"}));
 }
 

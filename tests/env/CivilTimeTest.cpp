@@ -12,7 +12,7 @@ static std::ostream& operator<<(std::ostream& stream, const CivilTime& time) {
 
 namespace {
 
-TEST(CivilTime, AFileTimeIsCutToTheSecondOfItsCalendarDay) {
+TEST(CivilTime, AFileTimeIsTruncatedToSeconds) {
   const std::pair<std::int64_t, CivilTime> cases[] = {{0, {1601, 1, 1, 0, 0, 0}},
                                                       {9'999'999, {1601, 1, 1, 0, 0, 0}},
                                                       {10'000'000, {1601, 1, 1, 0, 0, 1}},
@@ -23,12 +23,12 @@ TEST(CivilTime, AFileTimeIsCutToTheSecondOfItsCalendarDay) {
   for (const auto& [ticks, civil] : cases) EXPECT_EQ(ToCivilTime({ticks}), civil) << ticks;
 }
 
-TEST(CivilTime, TheFurthestTimesHaveACalendarDay) {
+TEST(CivilTime, TheLimitsOfFileTimesHaveACalendarDay) {
   EXPECT_EQ(ToCivilTime({std::numeric_limits<std::int64_t>::max()}).year, 30828);
   EXPECT_EQ(ToCivilTime({std::numeric_limits<std::int64_t>::min()}).year, -27627);
 }
 
-TEST(CivilTime, ATimeOfTheSystemCountsFrom1970) {
+TEST(CivilTime, UnixTimeCountsFrom1970) {
   EXPECT_EQ(FileTimeOfUnixTime(0, 0).ticks, 116'444'736'000'000'000);
   EXPECT_EQ(FileTimeOfUnixTime(0, 199).ticks, 116'444'736'000'000'001);
   EXPECT_EQ(FileTimeOfUnixTime(-1, 999'999'999).ticks, 116'444'735'999'999'999);
@@ -36,7 +36,7 @@ TEST(CivilTime, ATimeOfTheSystemCountsFrom1970) {
   EXPECT_EQ(ToCivilTime(FileTimeOfUnixTime(1'000'000'000, 5)), (CivilTime{2001, 9, 9, 1, 46, 40}));
 }
 
-TEST(CivilTime, ATimeOfTheSystemBeyondAllFileTimesIsCut) {
+TEST(CivilTime, UnixTimesBeyondAllFileTimesAreClamped) {
   const auto latest = FileTimeOfUnixTime(std::numeric_limits<std::int64_t>::max(), 999'999'999);
   const auto earliest = FileTimeOfUnixTime(std::numeric_limits<std::int64_t>::min(), 0);
   EXPECT_GT(ToCivilTime(latest).year, 29'000);

@@ -20,7 +20,7 @@ TEST(DriveTable, AKeyOfAnotherSectionIsNotADrive) {
   EXPECT_EQ(DrivesOf("C=\"/last line\""), Drives());
 }
 
-TEST(DriveTable, TheFirstFolderOfALetterCounts) {
+TEST(DriveTable, TheFirstFolderOfALetterIsUsed) {
   EXPECT_EQ(DrivesOf("[DRIVES]\nC=\"/one\"\nc=\"/two\"\n[DRIVES]\nC=\"/three\"\nD=\"/four\"\n"),
             (Drives{{'C', "/one"}, {'D', "/four"}}));
 }
@@ -33,7 +33,7 @@ TEST(DriveTable, KeysThatAreNotLettersAndRelativeFoldersAreIgnored) {
   EXPECT_EQ(DrivesOf(""), Drives());
 }
 
-TEST(DriveTable, AFolderWithANulIsPassedOver) {
+TEST(DriveTable, AFolderWithANulIsIgnored) {
   EXPECT_EQ(DrivesOf("[DRIVES]\nC=\"/a" + std::string(1, 0) + "/b\"\nD=\"/c\"\n"), (Drives{{'D', "/c"}}));
 }
 
@@ -41,19 +41,19 @@ std::string FolderOfC(const PathMap& paths) {
   return paths.ToNative("C:\\a").value_or("none").string();
 }
 
-TEST(DriveTable, AFileNamesTheDrives) {
+TEST(DriveTable, DrivesAreReadFromAFile) {
   const fakes::TemporaryFolder folder;
   const auto file = folder.Write("vantorium.ini", "[DRIVES]\nC=\"/srv\"\n");
   EXPECT_EQ(FolderOfC(ReadPathMap(file, "/home/me")), "/srv/a");
 }
 
-TEST(DriveTable, WithoutAFileOrItsSectionTheDrivesAreTheUsualOnes) {
+TEST(DriveTable, WithoutAFileOrItsSectionTheUsualDrivesAreUsed) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(FolderOfC(ReadPathMap(folder.Path() / "none", "/home/me")), "/home/me/a");
   EXPECT_EQ(FolderOfC(ReadPathMap(folder.Write("vantorium.ini", "[FOLDERS]\n"), "/home/me")), "/home/me/a");
 }
 
-TEST(DriveTable, AFileThatIsThereAndCannotBeReadGivesNoLetterAFolder) {
+TEST(DriveTable, AnUnreadableFileGivesNoDrives) {
   const fakes::TemporaryFolder folder;
   const PathMap paths = ReadPathMap(folder.Path(), "/home/me");
   for (const char* path : {"C:\\a", "Z:\\a", "C:", "Z:"}) EXPECT_EQ(paths.ToNative(path), std::nullopt) << path;

@@ -1,7 +1,7 @@
 #include "env/FileCopy.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <sys/stat.h>
@@ -17,7 +17,7 @@ fs::file_time_type AYearAgo() {
   return fs::file_time_type::clock::now() - std::chrono::hours(24 * 365);
 }
 
-TEST(FileCopy, TheCopyHasBytesPermissionsAndWriteTime) {
+TEST(FileCopy, TheCopyHasTheBytesPermissionsAndWriteTimeOfTheSource) {
   const fakes::TemporaryFolder folder;
   for (const std::size_t size : {std::size_t{0}, std::size_t{1}, std::size_t{200'000}}) {
     const auto source = folder.Write("a.jpg", std::string(size, 'x'));
@@ -50,7 +50,7 @@ TEST(FileCopy, AnExistingTargetIsReplacedOnlyWhenAsked) {
   EXPECT_EQ(folder.Read("c.jpg"), "new");
 }
 
-TEST(FileCopy, ALinkToNothingIsAnExistingTarget) {
+TEST(FileCopy, ADanglingLinkIsAnExistingTarget) {
   const fakes::TemporaryFolder folder;
   const auto source = folder.Write("a.jpg", "new");
   const auto target = folder.Path() / "b.jpg";
@@ -59,7 +59,7 @@ TEST(FileCopy, ALinkToNothingIsAnExistingTarget) {
   EXPECT_TRUE(fs::is_symlink(target));
 }
 
-TEST(FileCopy, AFileCopiedOntoItselfStays) {
+TEST(FileCopy, AFileCopiedOntoItselfIsUnchanged) {
   const fakes::TemporaryFolder folder;
   const auto source = folder.Write("a.jpg", "kept");
   fs::create_hard_link(source, folder.Path() / "hard.jpg");
@@ -102,7 +102,7 @@ TEST(FileCopy, OnlyARegularFileIsReplacedByACopy) {
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-TEST(FileCopy, AFullDiskLeavesTheOldTarget) {
+TEST(FileCopy, OnAFullDiskTheOldTargetStays) {
   const fakes::TemporaryFolder folder;
   const auto source = folder.Write("a.jpg", std::string(5000, 'x'));
   const auto target = folder.Write("b.jpg", "old");

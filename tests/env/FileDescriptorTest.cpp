@@ -20,7 +20,7 @@ TEST(FileDescriptor, AllBytesAreWritten) {
   EXPECT_TRUE(folder.Read("a") == bytes);
 }
 
-TEST(FileDescriptor, BytesThatTheSystemDoesNotAcceptAreAFailureWithItsReason) {
+TEST(FileDescriptor, AFailedWriteReportsTheSystemsReason) {
   const FileDescriptor full(::open("/dev/full", O_WRONLY));
   EXPECT_FALSE(WriteAll(full.Get(), "x"));
   EXPECT_EQ(errno, ENOSPC);

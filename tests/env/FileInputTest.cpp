@@ -9,7 +9,7 @@ namespace {
 
 using fakes::FailureOf;
 
-TEST(FileInput, TheBytesComeAsTheyAre) {
+TEST(FileInput, BytesAreReadUnchanged) {
   const fakes::TemporaryFolder folder;
   std::string bytes(50'000, 'x');
   bytes.append("a\0b\r\n\xFF", 6);
@@ -23,7 +23,7 @@ TEST(FileInput, AMissingFileIsNotFound) {
   EXPECT_EQ(FailureOf([] { std::ignore = ReadFileWhole("", 9); }), FailureKind::FileNotFound);
 }
 
-TEST(FileInput, APathThatIsNotAReadableFileIsAFailure) {
+TEST(FileInput, OnlyReadableRegularFilesAreRead) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -33,7 +33,7 @@ TEST(FileInput, APathThatIsNotAReadableFileIsAFailure) {
   }
 }
 
-TEST(FileInput, AFileBeyondTheLimitIsAFailure) {
+TEST(FileInput, AFileLargerThanTheLimitIsAFailure) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(ReadFileWhole(folder.Write("a", "1234"), 4), "1234");
   EXPECT_EQ(FailureOf([&] { std::ignore = ReadFileWhole(folder.Write("a", "12345"), 4); }), FailureKind::FileAccess);

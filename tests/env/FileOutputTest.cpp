@@ -1,8 +1,8 @@
 #include "env/FileDescriptor.h"
 #include "env/FileOutput.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <sys/socket.h>
@@ -27,7 +27,7 @@ TEST(FileOutput, TheTargetHoldsTheBytes) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.htm"});
 }
 
-TEST(FileOutput, ATargetInTheWorkingFolderNeedsNoFolder) {
+TEST(FileOutput, ATargetWithoutAFolderIsInTheWorkingFolder) {
   const fakes::TemporaryFolder folder;
   const auto before = fs::current_path();
   fs::current_path(folder.Path());
@@ -36,7 +36,7 @@ TEST(FileOutput, ATargetInTheWorkingFolderNeedsNoFolder) {
   EXPECT_EQ(folder.Read("a.htm"), "x");
 }
 
-TEST(FileOutput, AFullDiskLeavesTheOldFileAndNothingElse) {
+TEST(FileOutput, OnAFullDiskTheOldFileStaysAndNothingElse) {
   const fakes::TemporaryFolder folder;
   const auto target = folder.Write("a.htm", "old");
   {
@@ -50,7 +50,7 @@ TEST(FileOutput, AFullDiskLeavesTheOldFileAndNothingElse) {
   EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"a.htm", "fits"}));
 }
 
-TEST(FileOutput, AReadOnlyFileIsNotReplacedNotEvenByRoot) {
+TEST(FileOutput, AReadOnlyFileIsNotReplacedEvenByRoot) {
   const fakes::TemporaryFolder folder;
   const auto target = folder.Write("a.htm", "old");
   fs::permissions(target, fs::perms(0444));
@@ -92,7 +92,7 @@ TEST(FileOutput, AMissingOrLockedFolderIsAFailureThatNamesTheTarget) {
   EXPECT_EQ(FailureOf([&] { WriteFileWhole(folder.Path() / "locked/a.htm", "x"); }), FailureKind::FileAccess);
 }
 
-TEST(FileOutput, ALinkIsReplacedAndNotWhatItPointsTo) {
+TEST(FileOutput, ALinkIsReplacedNotItsTarget) {
   const fakes::TemporaryFolder folder;
   fs::create_symlink(folder.Write("other", "kept"), folder.Path() / "a.htm");
   WriteFileWhole(folder.Path() / "a.htm", "new");

@@ -4,7 +4,7 @@
 namespace vantorium::env {
 namespace {
 
-TEST(INIText, ALineEndsAtCrLfOrEitherOfThem) {
+TEST(INIText, ALineEndsAtCrLfCrOrLf) {
   std::string_view rest = "a\r\nb\nc\r\rd";
   std::vector<std::string> lines;
   while (!rest.empty()) {
@@ -14,7 +14,7 @@ TEST(INIText, ALineEndsAtCrLfOrEitherOfThem) {
   EXPECT_EQ(lines, (std::vector<std::string>{"a|\r\n", "b|\n", "c|\r", "|\r", "d|"}));
 }
 
-TEST(INIText, ASectionNeedsALineOfItsOwn) {
+TEST(INIText, ASectionNameIsALineByItself) {
   for (const char* line : {"[FOLDERS]", "[folders]", "  [Folders]  "}) {
     EXPECT_TRUE(IsSectionLine(line, "Folders")) << line;
     EXPECT_TRUE(IsSectionLine(line)) << line;
@@ -57,9 +57,9 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(Quirks, INIReading,
                          testing::Values(Reading{kTwoSections, "A", "y", "2"},  // found in a later section
                                          Reading{kTwoSections, "C", "x", "3"},  // no such section: reads the last line
-                                         Reading{kTwoSections, "C", "y", std::nullopt},     // but no other line
-                                         Reading{"x=1", "A", "x", "1"},                     //
-                                         Reading{"x=1\n", "A", "x", "1"},                   // a line end begins no line
+                                         Reading{kTwoSections, "C", "y", std::nullopt},  // but no other line
+                                         Reading{"x=1", "A", "x", "1"},                  //
+                                         Reading{"x=1\n", "A", "x", "1"},  // a final line end begins no new line
                                          Reading{"x=1\n\n", "A", "x", std::nullopt},        // the last line is empty
                                          Reading{"x=1\n[A]", "A", "x", std::nullopt},       // no line after the section
                                          Reading{"x=1\n[A]\ny=2", "A", "x", std::nullopt},  //

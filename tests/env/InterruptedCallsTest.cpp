@@ -12,16 +12,16 @@
 #include <gtest/gtest.h>
 #include <sys/types.h>
 
-// The linker sends the calls of the program to these functions (see CMakeLists.txt), so that each system call can be
-// interrupted by a signal, or take nothing, at a chosen moment.
+// The linker redirects the program's system calls to these functions (see CMakeLists.txt), so that a test can let them
+// fail as if interrupted by a signal, or let a write accept no bytes.
 
 namespace {
 
 bool interrupting = false;
-bool takingNothing = false;
+bool acceptingNothing = false;
 int interruptions = 0;
 
-/// While calls are interrupted, every second call is.
+/// Lets every second call fail with EINTR while `interrupting` is set.
 bool IsInterrupted() {
   static bool last = false;
   last = interrupting && !last;
@@ -48,7 +48,7 @@ ssize_t __wrap_pread(int file, void* bytes, std::size_t size, off_t place) {
   return IsInterrupted() ? -1 : __real_pread(file, bytes, size, place);
 }
 ssize_t __wrap_write(int file, const void* bytes, std::size_t size) {
-  if (takingNothing) return 0;
+  if (acceptingNothing) return 0;
   return IsInterrupted() ? -1 : __real_write(file, bytes, size < 1000 ? size : 1000);
 }
 ssize_t __wrap_sendfile(int target, int source, off_t* place, std::size_t size) {
@@ -74,7 +74,7 @@ class InterruptedCalls : public testing::Test {
   }
   ~InterruptedCalls() override {
     interrupting = false;
-    takingNothing = false;
+    acceptingNothing = false;
   }
   [[nodiscard]] std::string Read(const char* name) const {
     interrupting = false;
@@ -126,9 +126,9 @@ TEST_F(InterruptedCalls, AreRepeatedWhileAPhotographIsRead) {
   EXPECT_GT(interruptions, 0);
 }
 
-TEST_F(InterruptedCalls, WithoutEndAreNotMadeOfAWriteThatTakesNothing) {
+TEST_F(InterruptedCalls, AreNotRepeatedForeverWhenAWriteAcceptsNothing) {
   const FileDescriptor target(::open((folder.Path() / "target").c_str(), O_WRONLY | O_CREAT, 0600));
-  takingNothing = true;
+  acceptingNothing = true;
   EXPECT_FALSE(WriteAll(target.Get(), "x"));
   EXPECT_EQ(errno, EIO);
   EXPECT_TRUE(WriteAll(target.Get(), ""));

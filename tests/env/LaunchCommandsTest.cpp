@@ -46,7 +46,7 @@ class LaunchCommandsTest : public testing::Test {
   StartFailed note = [this](const RuntimeFailure& failure) { failures.push_back(failure.Description()); };
 };
 
-TEST_F(LaunchCommandsTest, TheDefaultIsTheDesktopsOpenerThenThatOfGLib) {
+TEST_F(LaunchCommandsTest, TheDefaultBrowserIsStartedByXdgOpenThenByGio) {
   const LaunchAttempts attempts = DefaultOpener(kFile, paths);
   EXPECT_EQ(attempts[0].words, (Words{"xdg-open", kNativeFile}));
   EXPECT_EQ(attempts[1].words, (Words{"gio", "open", kNativeFile}));
@@ -70,7 +70,7 @@ TEST_F(LaunchCommandsTest, ALocationMayBePathTextANativePathOrAName) {
   }
 }
 
-TEST_F(LaunchCommandsTest, OnlyProgramsThatStartAnotherAreWatched) {
+TEST_F(LaunchCommandsTest, OnlyProgramsThatStartOtherProgramsAreWatched) {
   for (const ShellCommand& command : DefaultOpener(kFile, paths)) EXPECT_GT(command.watched.count(), 0);
   const LaunchAttempts attempts = ListedBrowser("b", kFile, paths);
   EXPECT_EQ(attempts[0].watched.count(), 0);
@@ -101,7 +101,7 @@ TEST_F(LaunchCommandsTest, TheSecondAttemptIsMadeOnlyWhenTheFirstFailed) {
   EXPECT_TRUE(failures.empty());
 }
 
-TEST_F(LaunchCommandsTest, AFailureThatIsFoundLaterIsFollowedByTheSecondAttemptThen) {
+TEST_F(LaunchCommandsTest, TheSecondAttemptFollowsAlsoAFailureThatIsReportedLater) {
   const LaunchAttempts attempts = DefaultOpener(kFile, paths);
   FailingShell both(2);
   both.failsLater = true;

@@ -1,7 +1,7 @@
 #include "env/NeighbourFile.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <fcntl.h>
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 using fakes::FailureOf;
 using fakes::NamesIn;
 
-TEST(NeighbourFile, TheTargetAppearsOnlyWithItsName) {
+TEST(NeighbourFile, TheTargetAppearsOnlyWhenTheFileIsRenamed) {
   const fakes::TemporaryFolder folder;
   const auto target = folder.Path() / "a.jpg";
   NeighbourFile file(target);
@@ -23,14 +23,14 @@ TEST(NeighbourFile, TheTargetAppearsOnlyWithItsName) {
   file.Write("");
   file.Write("two");
   EXPECT_FALSE(fs::exists(target));
-  EXPECT_EQ(NamesIn(folder.Path()).size(), 1U) << "the neighbour lies in the same folder";
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 1U) << "the neighbour is in the same folder";
   file.Sync();
   file.TakeTargetName();
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
   EXPECT_EQ(folder.Read("a.jpg"), "one two");
 }
 
-TEST(NeighbourFile, WithoutTheNameItVanishes) {
+TEST(NeighbourFile, AFileThatIsNotRenamedIsRemoved) {
   const fakes::TemporaryFolder folder;
   folder.Write("a.jpg", "old");
   { NeighbourFile(folder.Path() / "a.jpg").Write("new"); }
@@ -38,7 +38,7 @@ TEST(NeighbourFile, WithoutTheNameItVanishes) {
   EXPECT_EQ(folder.Read("a.jpg"), "old");
 }
 
-TEST(NeighbourFile, TwoOfOneTargetDoNotMeet) {
+TEST(NeighbourFile, TwoWritersOfOneTargetDoNotInterfere) {
   const fakes::TemporaryFolder folder;
   NeighbourFile first(folder.Path() / "a.jpg");
   NeighbourFile second(folder.Path() / "a.jpg");
@@ -50,7 +50,7 @@ TEST(NeighbourFile, TwoOfOneTargetDoNotMeet) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
 }
 
-TEST(NeighbourFile, AFileOfAKilledProcessWithTheSameIDDoesNotMatter) {
+TEST(NeighbourFile, AFileLeftByAKilledProcessWithTheSameIDDoesNoHarm) {
   const fakes::TemporaryFolder folder;
   std::string left;
   {
@@ -65,10 +65,10 @@ TEST(NeighbourFile, AFileOfAKilledProcessWithTheSameIDDoesNotMatter) {
   file.Write("new");
   file.TakeTargetName();
   EXPECT_EQ(folder.Read("a.jpg"), "new");
-  EXPECT_EQ(NamesIn(folder.Path()).size(), 4U) << "they are not ours to remove";
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 4U) << "another process's files stay";
 }
 
-TEST(NeighbourFile, AFullDeviceIsAFailureOfWriting) {
+TEST(NeighbourFile, AFullDeviceIsAWriteFailure) {
   const fakes::TemporaryFolder folder;
   const fakes::FullDisk full(3);
   NeighbourFile file(folder.Path() / "a.jpg");
@@ -89,7 +89,7 @@ TEST(NeighbourFile, ATargetThatBecameReadOnlyIsNotReplaced) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
 }
 
-TEST(NeighbourFile, AProcessKilledWhileWritingCostsNoOldFile) {
+TEST(NeighbourFile, AProcessKilledWhileWritingLeavesTheOldFile) {
   const fakes::TemporaryFolder folder;
   const auto target = folder.Write("a.jpg", "old");
   const pid_t child = ::fork();
@@ -141,7 +141,7 @@ TEST(NeighbourFile, OnlyFilesOfEndedProcessesAreRemoved) {
   RemoveAbandonedNeighbours(folder.Path() / "none");
 }
 
-TEST(NeighbourFile, AFileThatAppearsAsAPipeIsNotReplaced) {
+TEST(NeighbourFile, ATargetThatBecameAPipeIsNotReplaced) {
   const fakes::TemporaryFolder folder;
   const auto target = folder.Path() / "a.jpg";
   {
@@ -154,7 +154,7 @@ TEST(NeighbourFile, AFileThatAppearsAsAPipeIsNotReplaced) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.jpg"});
 }
 
-TEST(NeighbourFile, TheFailureNamesFileAndReason) {
+TEST(NeighbourFile, TheFailureNamesTheFileAndTheReason) {
   try {
     ThrowFileAccess("/a/b.jpg", ENOSPC);
   } catch (const RuntimeFailure& failure) {

@@ -15,7 +15,7 @@ TEST(Numbers, TiesAreRoundedToTheEvenNumber) {
   for (const auto& [value, expected] : cases) EXPECT_EQ(RoundHalfEven(value), expected) << value;
 }
 
-TEST(Numbers, AnIntegerHoldsItsWholeRangeAndNothingBeyond) {
+TEST(Numbers, NumbersBeyondTheRangeOfAnIntegerOverflow) {
   EXPECT_EQ(ToInt16(32767.4), 32767);
   EXPECT_EQ(ToInt16(-32768.5), -32768);
   EXPECT_EQ(ToInt32(2147483647.4), 2147483647);
@@ -37,7 +37,7 @@ TEST(Numbers, ADivisionByZeroIsAFailure) {
   }
 }
 
-TEST(Numbers, ANumberIsTheWholeTextWithoutTheBlanksAroundIt) {
+TEST(Numbers, OnlyBlanksMaySurroundANumber) {
   const std::pair<const char*, double> cases[] = {{"0", 0},          {"007", 7},
                                                   {" 12 ", 12},      {"\t-3\r\n", -3},
                                                   {"+4", 4},         {"2.5", 2.5},
@@ -57,7 +57,7 @@ TEST(Numbers, ATextThatIsNotANumberGivesNone) {
   EXPECT_EQ(ParseNumber(std::string_view("5\0", 2)), std::nullopt);
 }
 
-TEST(Numbers, ANumberBeyondADoubleIsTheLargestOfItsSignOrZero) {
+TEST(Numbers, ANumberBeyondTheRangeOfDoubleIsClampedToTheLargestOrZero) {
   constexpr double kLargest = std::numeric_limits<double>::max();
   const std::string zeros(400, '0');
   const std::pair<std::string, double> cases[] = {
@@ -80,7 +80,7 @@ TEST(Numbers, AParsedIntegerIsRounded) {
   EXPECT_EQ(ParseInt32("1e3"), 1000);
 }
 
-TEST(Numbers, AnIntegerThatCannotBeParsedSaysWhy) {
+TEST(Numbers, AnIntegerThatCannotBeParsedReportsTheReason) {
   for (const char* text : {"", "x", "1x"}) {
     EXPECT_EQ(FailureOf([&] { std::ignore = ParseInt16(text); }), FailureKind::TypeMismatch) << text;
     EXPECT_EQ(FailureOf([&] { std::ignore = ParseInt32(text); }), FailureKind::TypeMismatch) << text;
@@ -92,13 +92,13 @@ TEST(Numbers, AnIntegerThatCannotBeParsedSaysWhy) {
   EXPECT_EQ(FailureOf([] { std::ignore = ParseInt16("32768"); }), FailureKind::Overflow);
 }
 
-TEST(Numbers, MulDivRoundedGivesPixelsOfPoints) {
+TEST(Numbers, MulDivRoundedConvertsPointsToPixels) {
   struct Case {
     std::int32_t a, b, c, result;
   };
   constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
   const Case cases[] = {{36, 96, 72, 48},      {8, 96, 72, 11},  // 10.67
-                        {1, 1, 2, 0},                            // ties go to the even number
+                        {1, 1, 2, 0},                            // ties round to the even number
                         {3, 1, 2, 2},          {5, 1, 2, 2},
                         {-1, 1, 2, 0},         {-3, 1, 2, -2},
                         {5, -1, 2, -2},        {7, 1, -2, -4},

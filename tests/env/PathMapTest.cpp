@@ -7,7 +7,7 @@ namespace {
 const std::map<char, std::string> kDrives = {
     {'C', "/home/me"}, {'D', "/home/me/photos/"}, {'E', "/home/me/photos"}, {'Z', "/"}};
 
-TEST(PathMap, ADriveLetterMeansItsFolder) {
+TEST(PathMap, ADriveLetterIsReplacedByItsFolder) {
   const PathMap map(kDrives);
   const std::pair<const char*, const char*> cases[] = {{"C:\\photos\\a.jpg", "/home/me/photos/a.jpg"},
                                                        {"c:\\a.jpg", "/home/me/a.jpg"},
@@ -22,7 +22,7 @@ TEST(PathMap, ADriveLetterMeansItsFolder) {
   for (const auto& [text, native] : cases) EXPECT_EQ(map.ToNative(text), std::filesystem::path(native)) << text;
 }
 
-TEST(PathMap, OneLeadingSeparatorMeansTheRootAndNoneTheWorkingFolder) {
+TEST(PathMap, OneLeadingSeparatorIsTheRootAndNoneTheWorkingFolder) {
   const PathMap map(kDrives);
   EXPECT_EQ(map.ToNative("\\etc\\fonts"), std::filesystem::path("/etc/fonts"));
   EXPECT_EQ(map.ToNative("/etc/fonts"), std::filesystem::path("/etc/fonts"));
@@ -31,7 +31,7 @@ TEST(PathMap, OneLeadingSeparatorMeansTheRootAndNoneTheWorkingFolder) {
   EXPECT_EQ(map.ToNative("1:\\a"), std::filesystem::path("1:/a"));
 }
 
-TEST(PathMap, APathOnNoKnownDriveHasNoNativePath) {
+TEST(PathMap, APathOnAnUnknownDriveHasNoNativePath) {
   const PathMap map({{'C', "/home/me"}});
   for (const char* text :
        {"D:\\a", "z:", "\\\\server\\share\\a", "//server/share", "\\/server", "\\\\", "\\\\?\\C:\\a"}) {
@@ -40,7 +40,7 @@ TEST(PathMap, APathOnNoKnownDriveHasNoNativePath) {
   EXPECT_EQ(map.ToNative(std::string_view("C:\\a\0b", 6)), std::nullopt);
 }
 
-TEST(PathMap, WithoutATableThereAreTheHomeFolderAndTheRoot) {
+TEST(PathMap, WithoutATableTheDrivesAreTheHomeFolderAndTheRoot) {
   const PathMap map({}, "/home/me");
   EXPECT_EQ(map.ToNative("C:\\a"), std::filesystem::path("/home/me/a"));
   EXPECT_EQ(map.ToNative("Z:\\a"), std::filesystem::path("/a"));
@@ -67,7 +67,7 @@ TEST(PathMap, ANativePathOnNoDriveIsBelowTheRoot) {
   EXPECT_EQ(map.ToText("/home"), "\\home");
 }
 
-TEST(PathMap, APathComesBackFromItsText) {
+TEST(PathMap, ConvertingAPathToTextAndBackGivesTheSamePath) {
   const PathMap maps[] = {PathMap(kDrives), PathMap({}, "/home/me"), PathMap({{'X', "/srv"}})};
   for (const PathMap& map : maps) {
     for (const char* native : {"/", "/srv", "/srv/a b/c.jpg", "/home/me/photos/a.jpg", "/home/me/x/\xC3\xA4", "/h"}) {
@@ -78,7 +78,7 @@ TEST(PathMap, APathComesBackFromItsText) {
   }
 }
 
-TEST(PathMap, PathTextThatAUserTypedStaysAndANativePathIsMapped) {
+TEST(PathMap, TypedPathTextIsKeptAndTypedNativePathsAreConverted) {
   const PathMap map(kDrives);
   EXPECT_EQ(map.ToTextFromUser("C:\\photos"), "C:\\photos");
   EXPECT_EQ(map.ToTextFromUser("q:/photos"), "q:\\photos");
@@ -89,7 +89,7 @@ TEST(PathMap, PathTextThatAUserTypedStaysAndANativePathIsMapped) {
   EXPECT_EQ(map.ToTextFromUser("a/b.jpg"), here + (here.ends_with('\\') ? "" : "\\") + "a\\b.jpg");
 }
 
-TEST(PathMap, AnEmptyTextOfAUserStaysEmpty) {
+TEST(PathMap, AnEmptyTypedTextStaysEmpty) {
   EXPECT_EQ(PathMap(kDrives).ToTextFromUser(""), "");
 }
 
@@ -111,7 +111,7 @@ TEST(PathMap, TheSurfaceFormOfAPlaceIsItsNativePath) {
   for (const auto& [text, native] : cases) EXPECT_EQ(map.Surface(text), native) << text;
 }
 
-TEST(PathMap, TheSurfaceFormOfATextThatIsNoPlaceIsTheText) {
+TEST(PathMap, ATextThatIsNotAPlaceIsItsOwnSurfaceForm) {
   const PathMap map({}, "/home/me");
   for (const char* text : {"", "D:\\Photos\\a.jpg", "q:", "\\\\server\\share\\a.jpg", "\\/server", "a.jpg",
                            "photos\\a.jpg", "photos/a.jpg", "/home/me/a.jpg", "/usr/bin/view --as \"a\\b\"", "~/a.jpg",
@@ -123,7 +123,7 @@ TEST(PathMap, TheSurfaceFormOfATextThatIsNoPlaceIsTheText) {
   EXPECT_EQ(PathMap::WithoutDrives().Surface("C:\\a.jpg"), "C:\\a.jpg");
 }
 
-TEST(PathMap, ForWhoHasDrivesTheSurfaceFormIsTheText) {
+TEST(PathMap, ForUsersWithDrivesTheSurfaceFormIsThePathText) {
   const PathMap map(kDrives, "/home/me");
   EXPECT_TRUE(map.ShowsLetters());
   EXPECT_FALSE(PathMap({}, "/home/me").ShowsLetters());
@@ -144,7 +144,7 @@ TEST(PathMap, ASurfaceFormLeadsBackToItsPlace) {
   }
 }
 
-TEST(PathMap, InASettingATildeIsTheHomeFolder) {
+TEST(PathMap, ATildeInASettingIsTheHomeFolder) {
   const PathMap map({}, "/home/me");
   EXPECT_EQ(map.ToTextIfNative("~/gallery"), "C:\\gallery");
   EXPECT_EQ(map.ToTextIfNative("~"), "C:\\");
@@ -154,7 +154,7 @@ TEST(PathMap, InASettingATildeIsTheHomeFolder) {
   EXPECT_EQ(PathMap::WithoutDrives().ToTextIfNative("~/gallery"), "~/gallery");
 }
 
-TEST(PathMap, AWorkingFolderThatIsGoneLeavesTheTextOfAUser) {
+TEST(PathMap, WithoutAWorkingFolderTypedTextIsKept) {
   const auto before = std::filesystem::current_path();
   const fakes::TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() / "gone");

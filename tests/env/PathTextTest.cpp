@@ -27,20 +27,20 @@ INSTANTIATE_TEST_SUITE_P(PathText, PathParts,
                                          Parts{"\\\\name", "\\", "name"}, Parts{"\\", "", ""},
                                          Parts{"a\\b/c", "a\\b\\", "c"}));
 
-TEST(PathText, TheExtensionBeginsAtTheLastDotWhereverItStands) {
+TEST(PathText, TheExtensionBeginsAtTheLastDotEvenInAFolder) {
   const std::pair<const char*, const char*> cases[] = {
       {"a.jpg", ".jpg"}, {"a.b.JPG", ".JPG"}, {"C:\\a.b\\c", ".b\\c"},    {"a", ""},
       {"", ""},          {"a.", "."},         {".htaccess", ".htaccess"}, {"a./b", "./b"}};
   for (const auto& [path, extension] : cases) EXPECT_EQ(GetFileExtension(path), extension) << path;
 }
 
-TEST(PathText, SeparatorsAreTurnedRound) {
+TEST(PathText, SlashesAndBackslashesAreConverted) {
   EXPECT_EQ(WithSlashes("a\\b/c\\\\"), "a/b/c//");
   EXPECT_EQ(WithBackslashes("a\\b/c//"), "a\\b\\c\\\\");
   EXPECT_EQ(WithSlashes(""), "");
 }
 
-TEST(PathText, AnExtensionIsAppendedUnlessThePathEndsInItInAnyCase) {
+TEST(PathText, AnExtensionIsAppendedUnlessThePathHasItInAnyCase) {
   const std::pair<const char*, const char*> cases[] = {
       {"a", "a.gpj"},     {"a.gpj", "a.gpj"},       {"a.GPJ", "a.GPJ"},
       {"gpj", "gpj.gpj"}, {".gpj", ".gpj"},         {"24.12", "24.12.gpj"},
@@ -49,7 +49,7 @@ TEST(PathText, AnExtensionIsAppendedUnlessThePathEndsInItInAnyCase) {
   for (const auto& [path, expected] : cases) EXPECT_EQ(WithExtension(path, ".gpj"), expected) << path;
 }
 
-TEST(PathText, ABackslashIsAppendedOnce) {
+TEST(PathText, ABackslashIsAppendedUnlessThereIsOne) {
   EXPECT_EQ(WithTrailingBackslash("C:\\a"), "C:\\a\\");
   EXPECT_EQ(WithTrailingBackslash("C:\\a\\"), "C:\\a\\");
   EXPECT_EQ(WithTrailingBackslash("C:\\a/"), "C:\\a/\\");

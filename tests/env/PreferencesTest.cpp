@@ -66,7 +66,7 @@ TEST_F(PreferencesTest, WithoutAFileEveryValueHasItsDefault) {
   EXPECT_EQ(preferences, Defaults());
 }
 
-TEST_F(PreferencesTest, AFileThatIsNoneOrHoldsNonsenseGivesTheDefaults) {
+TEST_F(PreferencesTest, AnUnreadableOrInvalidFileGivesTheDefaults) {
   for (const std::string& text : {std::string(), std::string("\0\xFF\n=", 4), std::string("[FOLDERS]"),
                                   std::string(100'000, '\n'), std::string("[FOLDERS]\n[SETTINGS]\n[BROWSERS]\n")}) {
     EXPECT_EQ(ReadText(text), Defaults());
@@ -81,7 +81,7 @@ TEST_F(PreferencesTest, AllValuesAreReadBack) {
   EXPECT_EQ(Read(), Everything());
 }
 
-TEST_F(PreferencesTest, TheValuesAreWrittenInTheirOrder) {
+TEST_F(PreferencesTest, ValuesAreWrittenInAFixedOrder) {
   WritePreferences(Everything(), file);
   EXPECT_EQ(folder.Read("vantorium.ini"),
             "[FOLDERS]\r\n"
@@ -105,7 +105,7 @@ TEST_F(PreferencesTest, WritingLeavesBrowsersDrivesAndCommentsAlone) {
   EXPECT_TRUE(folder.Read("vantorium.ini").starts_with(own + "[FOLDERS]\n"));
 }
 
-TEST_F(PreferencesTest, EmptyTextsBecomeTheDefaultsAtTheNextStart) {
+TEST_F(PreferencesTest, EmptyTextsBecomeDefaultsAtTheNextStart) {
   Preferences preferences = Everything();
   preferences.CreateFolder.clear();
   preferences.GalleryIndexFileName.clear();
@@ -119,7 +119,7 @@ TEST_F(PreferencesTest, EmptyTextsBecomeTheDefaultsAtTheNextStart) {
   EXPECT_EQ(read.ProjectFolder, "");
 }
 
-TEST_F(PreferencesTest, TheTemporaryFolderIsMadeOnlyInTheProgramsFolder) {
+TEST_F(PreferencesTest, TheTemporaryFolderIsCreatedOnlyInTheProgramFolder) {
   std::ignore = ReadText("[FOLDERS]\nTempFolderLocation=\"C:\\temp\"\n");
   EXPECT_EQ(fakes::NamesIn(folder.Path()), std::vector<std::string>{"vantorium.ini"});
   std::ignore = ReadText("[FOLDERS]\nTempFolderLocation=\"\"\n");
@@ -128,8 +128,8 @@ TEST_F(PreferencesTest, TheTemporaryFolderIsMadeOnlyInTheProgramsFolder) {
 
 TEST_F(PreferencesTest, ASwitchThatCannotBeReadIsOn) {
   for (const char* bad : {"\"\"", "\"x\"", "\"70000\"", "\"99999999999\""}) {
-    const Preferences read = ReadText(std::string("[FOLDERS]\nTempFolderAutoClear=") + bad +
-                                            "\n[SETTINGS]\nImagesPreview=" + bad + "\n");
+    const Preferences read =
+        ReadText(std::string("[FOLDERS]\nTempFolderAutoClear=") + bad + "\n[SETTINGS]\nImagesPreview=" + bad + "\n");
     EXPECT_EQ(read.TempFolderAutoClear, 1) << bad;
     EXPECT_EQ(read.checkImagesPreview, 1) << bad;
   }
@@ -152,7 +152,7 @@ std::string BrowserSection(const std::string& count, int entries) {
   return text;
 }
 
-TEST_F(PreferencesTest, TheCountGovernsTheBrowsersAndEndsAtEight) {
+TEST_F(PreferencesTest, TheCountLimitsTheBrowsersToAtMostEight) {
   const std::pair<const char*, std::size_t> cases[] = {{"0", 0},     {"1", 1},  {"8", 8},      {"9", 8}, {"12", 8},
                                                        {"32767", 8}, {"-1", 0}, {"-32768", 0}, {"x", 0}, {"", 0}};
   for (const auto& [count, expected] : cases) {
@@ -165,7 +165,7 @@ TEST_F(PreferencesTest, TheCountGovernsTheBrowsersAndEndsAtEight) {
   }
 }
 
-TEST_F(PreferencesTest, ABrowserWithoutALineHasNoNameAndNoPlace) {
+TEST_F(PreferencesTest, ABrowserWithoutLinesHasAnEmptyNameAndLocation) {
   const auto browsers = ReadText("[BROWSERS]\nCount=2\nLocation1=\"C:\\a.exe\"\n").Browsers;
   EXPECT_EQ(browsers, (std::vector<Browser>{{"", "C:\\a.exe"}, {"", ""}}));
 }
@@ -187,7 +187,7 @@ TEST_F(PreferencesTest, AtMostEightBrowsersAreWritten) {
   EXPECT_TRUE(Read().Browsers.empty());
 }
 
-TEST_F(PreferencesTest, AValueThatCannotBeWrittenIsPassedOver) {
+TEST_F(PreferencesTest, AValueThatCannotBeWrittenIsSkipped) {
   Preferences preferences = Everything();
   preferences.ProjectFolder = "two\nlines";
   preferences.CreateFolder = "a\rb";
@@ -206,7 +206,7 @@ TEST_F(PreferencesTest, AReadOnlyFileFailsForTheBrowsersAndIsIgnoredAtExit) {
   EXPECT_EQ(folder.Read("vantorium.ini"), "[FOLDERS]\n");
 }
 
-TEST_F(PreferencesTest, TheFilesFolderIsMadeAtExit) {
+TEST_F(PreferencesTest, TheFoldersOfTheFileAreCreatedAtExit) {
   const auto below = folder.Path() / "a/b/vantorium.ini";
   WritePreferences(Everything(), below);
   EXPECT_EQ(ReadPreferences(below, "C:\\program", files), Everything());

@@ -1,6 +1,6 @@
 #include "env/ProgramFolder.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 namespace vantorium::env {
@@ -11,14 +11,14 @@ using fakes::EnvironmentVariable;
 
 const ProcessEnvironment kInstalled = {"/usr/bin/vantorium-of-no-machine", "/home/me", ""};
 
-TEST(ProgramFolder, AGivenFolderIsTaken) {
+TEST(ProgramFolder, AGivenFolderIsUsed) {
   EXPECT_EQ(FindProgramFolder("/srv/v", kInstalled), "/srv/v");
   EXPECT_EQ(FindProgramFolder("/srv/./x/../v/", kInstalled), "/srv/v");
   EXPECT_EQ(FindProgramFolder("/", kInstalled), "/");
   EXPECT_EQ(FindProgramFolder("v", kInstalled), (fs::current_path() / "v").lexically_normal());
 }
 
-TEST(ProgramFolder, APreferencesFileBesideTheExecutableMakesItPortable) {
+TEST(ProgramFolder, APreferencesFileBesideTheExecutableMakesTheProgramPortable) {
   const fakes::TemporaryFolder folder;
   const ProcessEnvironment around = {folder.Path() / "vantorium", "/home/me", "/etc/xdg"};
   EXPECT_EQ(FindProgramFolder({}, around), "/etc/xdg/vantorium");
@@ -33,19 +33,19 @@ TEST(ProgramFolder, AFolderOfThatNameIsNotAPreferencesFile) {
   EXPECT_EQ(FindProgramFolder({}, {folder.Path() / "vantorium", "/home/me", ""}), "/home/me/.config/vantorium");
 }
 
-TEST(ProgramFolder, ElseItIsInTheUsersFolderForConfigurations) {
+TEST(ProgramFolder, OtherwiseItIsInTheUsersConfigurationFolder) {
   EXPECT_EQ(FindProgramFolder({}, kInstalled), "/home/me/.config/vantorium");
   EXPECT_EQ(FindProgramFolder({}, {"", "/home/me", "/x/"}), "/x/vantorium");
   EXPECT_EQ(FindProgramFolder({}, {"", "/home/me/", ""}), "/home/me/.config/vantorium");
 }
 
-TEST(ProgramFolder, ARelativeXdgFolderIsInvalidAndPassedOver) {
+TEST(ProgramFolder, ARelativeXdgFolderIsIgnored) {
   for (const char* relative : {".", "config", "../x", "~/.config"}) {
     EXPECT_EQ(FindProgramFolder({}, {"", "/home/me", relative}), "/home/me/.config/vantorium") << relative;
   }
 }
 
-TEST(CacheFolder, IsInTheUsersFolderForCaches) {
+TEST(CacheFolder, IsInTheUsersCacheFolder) {
   EXPECT_EQ(FindCacheFolder({"", "/home/me", "/x", ""}), "/home/me/.cache/vantorium");
   EXPECT_EQ(FindCacheFolder({"", "/home/me", "/x", "/c/"}), "/c/vantorium");
   for (const char* relative : {".", "cache", "../x", "~/.cache"}) {
@@ -53,14 +53,14 @@ TEST(CacheFolder, IsInTheUsersFolderForCaches) {
   }
 }
 
-TEST(ProgramFolder, NothingIsMade) {
+TEST(ProgramFolder, NothingIsCreated) {
   const fakes::TemporaryFolder folder;
   std::ignore = FindProgramFolder({}, {"", folder.Path().string(), (folder.Path() / "xdg").string()});
   std::ignore = FindProgramFolder({}, {"", folder.Path().string(), ""});
   EXPECT_TRUE(fakes::NamesIn(folder.Path()).empty());
 }
 
-TEST(ProgramFolder, TheProcessKnowsItsSurroundings) {
+TEST(ProgramFolder, TheEnvironmentOfTheProcessIsRead) {
   const EnvironmentVariable home("HOME", "/home/me");
   const EnvironmentVariable xdg("XDG_CONFIG_HOME", "/x");
   const EnvironmentVariable cache("XDG_CACHE_HOME", "/c");
@@ -72,7 +72,7 @@ TEST(ProgramFolder, TheProcessKnowsItsSurroundings) {
   EXPECT_EQ(around.xdgCacheHome, "/c");
 }
 
-TEST(ProgramFolder, WithoutHomeTheUserDataBaseNamesIt) {
+TEST(ProgramFolder, WithoutHOMETheUserDatabaseNamesTheHomeFolder) {
   const EnvironmentVariable home("HOME", nullptr);
   const EnvironmentVariable xdg("XDG_CONFIG_HOME", nullptr);
   const ProcessEnvironment around = EnvironmentOfProcess();
@@ -80,7 +80,7 @@ TEST(ProgramFolder, WithoutHomeTheUserDataBaseNamesIt) {
   EXPECT_EQ(around.xdgConfigHome, "");
 }
 
-TEST(ProgramFolder, TheFilesLieInItAndItsTextEndsInNoBackslash) {
+TEST(ProgramFolder, ItHasTheFilesAndItsPathTextEndsWithoutABackslash) {
   EXPECT_EQ(GetINIFileName("/srv/v"), "/srv/v/vantorium.ini");
   const PathMap paths({{'C', "/home/me"}, {'Z', "/"}});
   EXPECT_EQ(GetAppPath("/home/me/.config/vantorium", paths), "C:\\.config\\vantorium");

@@ -1,6 +1,6 @@
 #include "env/RegionalFormats.h"
 #include "env/RuntimeFailure.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -24,7 +24,7 @@ struct Expected {
 
 class RegionalFormatsOf : public testing::TestWithParam<Expected> {};
 
-TEST_P(RegionalFormatsOf, TheLocaleWritesItsDatesAndTimes) {
+TEST_P(RegionalFormatsOf, DatesAndTimesFollowTheLocale) {
   const Expected& expected = GetParam();
   const RegionalFormats formats(expected.locale);
   EXPECT_EQ(formats.Format(kAfternoon, RegionalFormat::ShortDate), expected.shortDate) << expected.locale;
@@ -45,13 +45,13 @@ INSTANTIATE_TEST_SUITE_P(
                     Expected{"C.UTF-8", "7/9/03", "Wednesday, July 9, 2003", "3:04 PM", "3:04:05 PM"},
                     Expected{"POSIX", "7/9/03", "Wednesday, July 9, 2003", "3:04 PM", "3:04:05 PM"}));
 
-TEST(RegionalFormats, NoTimeZoneMovesTheTime) {
+TEST(RegionalFormats, TheTimeZoneDoesNotShiftTheTime) {
   const EnvironmentVariable zone("TZ", "Pacific/Auckland");
   EXPECT_EQ(RegionalFormats("de_DE").Format({2003, 7, 9, 0, 0, 0}, RegionalFormat::ShortDate), "09.07.03");
   EXPECT_EQ(RegionalFormats("de_DE").Format({2003, 7, 9, 23, 59, 59}, RegionalFormat::LongTime), "23:59:59");
 }
 
-TEST(RegionalFormats, AnEmptyNameIsTheSystemsLocaleOfTimes) {
+TEST(RegionalFormats, AnEmptyNameIsTheSystemsLocaleForTimes) {
   struct Case {
     const char* all;
     const char* time;
@@ -70,7 +70,7 @@ TEST(RegionalFormats, AnEmptyNameIsTheSystemsLocaleOfTimes) {
   }
 }
 
-TEST(RegionalFormats, AnUnknownLocaleStillWritesSomething) {
+TEST(RegionalFormats, AnUnknownLocaleStillFormatsDates) {
   for (const char* locale : {"xx_YY", "nonsense", "@@@", "de_DE.", "\xFF\xFE", "_"}) {
     const RegionalFormats formats(locale);
     EXPECT_FALSE(formats.Format(kAfternoon, RegionalFormat::LongDate).empty()) << locale;
@@ -78,8 +78,8 @@ TEST(RegionalFormats, AnUnknownLocaleStillWritesSomething) {
   }
 }
 
-/// To be run in a separate process: makes ICU run out of memory, prints the failure's description to standard error and
-/// exits with 1.
+/// For a separate process: makes ICU run out of memory, prints the failure's description to standard error and exits
+/// with 1.
 [[noreturn]] void MakeFormatsWithoutMemory() {
   UErrorCode status = U_ZERO_ERROR;
   u_setMemoryFunctions(
@@ -94,13 +94,13 @@ TEST(RegionalFormats, AnUnknownLocaleStillWritesSomething) {
   std::_Exit(0);
 }
 
-TEST(RegionalFormatsDeathTest, FormatsThatCannotBeLoadedAreAFailureThatSaysSo) {
+TEST(RegionalFormatsDeathTest, FormatsThatCannotBeLoadedAreAFailureWithADescription) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(MakeFormatsWithoutMemory(), testing::ExitedWithCode(1),
               "The formats of dates and times cannot be loaded.");
 }
 
-TEST(RegionalFormats, TheFirstAndTheFurthestDayHaveAText) {
+TEST(RegionalFormats, TheFirstAndTheLastDayCanBeFormatted) {
   const RegionalFormats formats("de_DE");
   EXPECT_EQ(formats.Format({1601, 1, 1, 0, 0, 0}, RegionalFormat::LongDate), "Montag, 1. Januar 1601");
   EXPECT_NE(formats.Format({30828, 9, 14, 2, 48, 5}, RegionalFormat::LongDate).find("30828"), std::string::npos);

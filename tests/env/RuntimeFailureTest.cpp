@@ -27,7 +27,7 @@ TEST(RuntimeFailure, EachKindHasItsNumberAndDescription) {
   }
 }
 
-TEST(RuntimeFailure, ADescriptionOfItsOwnReplacesTheKinds) {
+TEST(RuntimeFailure, AGivenDescriptionReplacesTheDescriptionOfTheKind) {
   const RuntimeFailure failure(FailureKind::FileAccess, "disk full");
   EXPECT_EQ(failure.Number(), 75);
   EXPECT_EQ(failure.Description(), "disk full");

@@ -29,14 +29,14 @@ std::string DescriptionOf(const ShellCommand& command) {
   }
 }
 
-TEST(StartProcess, AProgramGetsItsArgumentsAsTheyAre) {
+TEST(StartProcess, AProgramGetsItsArgumentsUnchanged) {
   const fakes::TemporaryFolder folder;
   const std::string out = (folder.Path() / "out").string();
   StartProcess({{"sh", "-c", "printf '%s|' \"$@\" >\"$0\"", out, "a b", "", "\"c\" $d", "*"}, kLong});
   EXPECT_EQ(folder.Read("out"), "a b||\"c\" $d|*|");
 }
 
-TEST(StartProcess, AProgramThatIsNotThereOrIsNoneFailsAtOnce) {
+TEST(StartProcess, AMissingOrInvalidProgramFailsAtOnce) {
   const fakes::TemporaryFolder folder;
   const std::string text = folder.Write("text", "x").string();
   EXPECT_EQ(FailureOf([] { StartProcess({{"no-such-program-here", "x"}}); }), FailureKind::FileNotFound);
@@ -48,7 +48,7 @@ TEST(StartProcess, AProgramThatIsNotThereOrIsNoneFailsAtOnce) {
   EXPECT_EQ(DescriptionOf({{"no-such-program-here"}}), "no-such-program-here: No such file or directory");
 }
 
-TEST(StartProcess, AProgramThatEndsWithoutSuccessWhileItIsWatchedCouldNotBeStarted) {
+TEST(StartProcess, AWatchedProgramThatEndsUnsuccessfullyCouldNotBeStarted) {
   EXPECT_EQ(DescriptionOf(Script("exit 3")), "/bin/sh ended with the exit code 3");
   EXPECT_EQ(FailureOf([] { StartProcess(Script("exit 127")); }), FailureKind::FileNotFound);
   EXPECT_EQ(FailureOf([] { StartProcess(Script("exit 126")); }), FailureKind::FileAccess);
@@ -56,11 +56,11 @@ TEST(StartProcess, AProgramThatEndsWithoutSuccessWhileItIsWatchedCouldNotBeStart
   EXPECT_EQ(FailureOf([] { StartProcess(Script("exit 0")); }), std::nullopt);
 }
 
-TEST(StartProcess, AProgramThatIsNotWatchedMayEndAsItLikes) {
+TEST(StartProcess, AnUnwatchedProgramMayEndUnsuccessfully) {
   EXPECT_EQ(FailureOf([] { StartProcess(Script("exit 3", milliseconds(0))); }), std::nullopt);
 }
 
-TEST(StartProcess, AProgramThatGoesOnIsLeftToItself) {
+TEST(StartProcess, AProgramThatKeepsRunningIsLeftAlone) {
   const fakes::TemporaryFolder folder;
   const std::string go = (folder.Path() / "go").string();
   const std::string done = (folder.Path() / "done").string();
@@ -72,7 +72,7 @@ TEST(StartProcess, AProgramThatGoesOnIsLeftToItself) {
   EXPECT_TRUE(std::filesystem::exists(done));
 }
 
-TEST(StartedProcess, IsWatchedWithoutWaitingUntilItEnds) {
+TEST(StartedProcess, IsWatchedWithoutBlockingUntilItEnds) {
   const fakes::TemporaryFolder folder;
   const std::string go = (folder.Path() / "go").string();
   for (const char* code : {"0", "3"}) {
@@ -90,12 +90,12 @@ TEST(StartedProcess, IsWatchedWithoutWaitingUntilItEnds) {
   }
 }
 
-TEST(StartedProcess, IsNoLongerWatchedAfterItsTime) {
+TEST(StartedProcess, IsNoLongerWatchedAfterTheTimeLimit) {
   const StartedProcess process({{"/bin/sh", "-c", "exit 3"}, milliseconds(0)});
   EXPECT_FALSE(process.IsWatched());
 }
 
-TEST(StartProcess, ItsStreamsAreEmptyAndItsSessionIsItsOwn) {
+TEST(StartProcess, AProgramHasEmptyStreamsAndItsOwnSession) {
   const fakes::TemporaryFolder folder;
   const std::string out = (folder.Path() / "out").string();
   const std::string script =
@@ -112,7 +112,7 @@ TEST(StartProcess, ItsStreamsAreEmptyAndItsSessionIsItsOwn) {
   EXPECT_EQ(session, process) << facts.str();
 }
 
-TEST(StartProcess, SignalsThatThisProcessIgnoresOrHoldsBackReachIt) {
+TEST(StartProcess, SignalsThatThisProcessIgnoresOrBlocksReachTheProgram) {
   const auto old = std::signal(SIGPIPE, SIG_IGN);
   sigset_t held;
   sigset_t before;

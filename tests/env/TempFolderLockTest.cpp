@@ -31,7 +31,7 @@ class TempFolderLockTest : public testing::Test {
   mFileFunctions files{paths, formats};
 };
 
-TEST_F(TempFolderLockTest, OneAtATimeHasTheFolder) {
+TEST_F(TempFolderLockTest, OnlyOneOwnerAtATimeHasTheFolder) {
   {
     const TempFolderLock first(place);
     EXPECT_FALSE(first.IsTakenElsewhere());
@@ -45,7 +45,7 @@ TEST_F(TempFolderLockTest, TheLockLeavesNoFile) {
   EXPECT_TRUE(fs::is_empty(place));
 }
 
-TEST_F(TempFolderLockTest, AKilledProcessGivesTheFolderBack) {
+TEST_F(TempFolderLockTest, AKilledProcessReleasesTheFolder) {
   int ready[2] = {};
   ASSERT_EQ(::pipe(ready), 0);
   const pid_t child = ::fork();
@@ -65,12 +65,12 @@ TEST_F(TempFolderLockTest, AKilledProcessGivesTheFolderBack) {
   ::close(ready[1]);
 }
 
-TEST_F(TempFolderLockTest, AFolderThatIsNotThereIsTakenByNobody) {
+TEST_F(TempFolderLockTest, AMissingFolderCannotBeLocked) {
   EXPECT_FALSE(TempFolderLock(folder.Path() / "none").IsTakenElsewhere());
   EXPECT_FALSE(TempFolderLock({}).IsTakenElsewhere());
 }
 
-TEST_F(TempFolderLockTest, TheFolderOfARunIsNotCleared) {
+TEST_F(TempFolderLockTest, ALockedFolderIsNotCleared) {
   folder.Write("VANTORIUM_TEMP/Images/a.jpg", "half");
   {
     const TempFolderLock run(place);
@@ -95,7 +95,7 @@ TEST_F(TempFolderLockTest, AFolderThatIsALinkIsRefused) {
             "The temporary folder is not used, as \"" + place.string() + "\" is a symbolic link.");
 }
 
-TEST_F(TempFolderLockTest, ALinkInTheFolderIsRefusedWhereverItLeads) {
+TEST_F(TempFolderLockTest, AnyLinkInTheFolderIsRefused) {
   folder.Write("stranger/a.jpg", "kept");
   for (const char* link : {"Thumbs", "Images/deep/link"}) {
     for (const char* target : {"stranger", "stranger/a.jpg", "nowhere"}) {
@@ -125,7 +125,7 @@ TEST_F(TempFolderLockTest, AFolderOfAnotherOwnerIsRefused) {
   }
 }
 
-TEST_F(TempFolderLockTest, OthersLoseTheRightToWrite) {
+TEST_F(TempFolderLockTest, OtherUsersLoseTheRightToWrite) {
   fs::create_directory(place / "Images");
   fs::permissions(place, fs::perms(0777));
   fs::permissions(place / "Images", fs::perms(0775));

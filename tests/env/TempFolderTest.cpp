@@ -1,7 +1,7 @@
 #include "env/TempFolder.h"
 #include "tests/fakes/CountingEventLoop.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <fcntl.h>
@@ -28,7 +28,7 @@ class TempFolderTest : public testing::Test {
   mFileFunctions files{paths, formats};
 };
 
-TEST_F(TempFolderTest, TheFolderGoesWithAllItHolds) {
+TEST_F(TempFolderTest, TheFolderIsDeletedWithItsContents) {
   folder.Write("x/VANTORIUM_TEMP/a.htm", "x");
   folder.Write("x/VANTORIUM_TEMP/images/deep/.hidden", "x");
   folder.Write("x/kept", "x");
@@ -46,14 +46,14 @@ TEST_F(TempFolderTest, OneTrailingBackslashMakesNoDifference) {
   }
 }
 
-TEST_F(TempFolderTest, AFolderWithinPassesTheGuard) {
+TEST_F(TempFolderTest, ASubfolderMayBeDeleted) {
   folder.Write("VANTORIUM_TEMP/sub/a", "x");
   folder.Write("VANTORIUM_TEMP/b", "x");
   EXPECT_TRUE(Delete("C:\\VANTORIUM_TEMP\\sub"));
   EXPECT_EQ(NamesIn(Native("VANTORIUM_TEMP")), std::vector<std::string>{"b"});
 }
 
-TEST_F(TempFolderTest, EveryOtherFolderIsLeftAlone) {
+TEST_F(TempFolderTest, NoOtherFolderIsDeleted) {
   for (const char* name : {"data", "vantorium_temp", "VANTORIUM_TEMP2", "XVANTORIUM_TEMP", "VANTORIUM_TEMP"}) {
     folder.Write(std::string(name) + "/a", "x");
   }
@@ -77,7 +77,7 @@ TEST_F(TempFolderTest, EveryOtherFolderIsLeftAlone) {
   EXPECT_EQ(loop.turns, 0);
 }
 
-TEST_F(TempFolderTest, AFolderThatIsNotThereIsNotDeleted) {
+TEST_F(TempFolderTest, AMissingFolderIsNotDeleted) {
   EXPECT_FALSE(Delete("C:\\VANTORIUM_TEMP"));
   EXPECT_FALSE(Delete("C:\\none\\VANTORIUM_TEMP"));
   fs::create_directory(Native("VANTORIUM_TEMP"));
@@ -91,13 +91,13 @@ TEST_F(TempFolderTest, AFileOfThatNameIsNotAFolder) {
   EXPECT_EQ(folder.Read("VANTORIUM_TEMP"), "x");
 }
 
-TEST_F(TempFolderTest, AReadOnlyFileGoesToo) {
+TEST_F(TempFolderTest, AReadOnlyFileIsDeletedToo) {
   folder.Write("VANTORIUM_TEMP/a", "x");
   fs::permissions(Native("VANTORIUM_TEMP/a"), fs::perms(0400));
   EXPECT_TRUE(Delete("C:\\VANTORIUM_TEMP"));
 }
 
-TEST_F(TempFolderTest, ALinkWithinIsRemovedAndNotWhatItPointsTo) {
+TEST_F(TempFolderTest, ALinkInTheFolderIsRemovedNotItsTarget) {
   folder.Write("data/a", "kept");
   folder.Write("VANTORIUM_TEMP/sub/x", "x");
   fs::create_directory_symlink(Native("data"), Native("VANTORIUM_TEMP/link"));
@@ -109,7 +109,7 @@ TEST_F(TempFolderTest, ALinkWithinIsRemovedAndNotWhatItPointsTo) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"data"});
 }
 
-TEST_F(TempFolderTest, ALinkOfThatNameIsRemovedItself) {
+TEST_F(TempFolderTest, ALinkOfThatNameIsRemovedNotItsTarget) {
   folder.Write("data/sub/a", "kept");
   fs::create_directory_symlink(Native("data"), Native("VANTORIUM_TEMP"));
   EXPECT_FALSE(Delete("C:\\VANTORIUM_TEMP\\sub")) << "the path leads through the link";
@@ -118,14 +118,14 @@ TEST_F(TempFolderTest, ALinkOfThatNameIsRemovedItself) {
   EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"data"});
 }
 
-TEST_F(TempFolderTest, ALinkAboveTheFolderIsTheUsersChoice) {
+TEST_F(TempFolderTest, LinksAboveTheFolderAreFollowed) {
   folder.Write("data/VANTORIUM_TEMP/a", "x");
   fs::create_directory_symlink(Native("data"), Native("link"));
   EXPECT_TRUE(Delete("C:\\link\\VANTORIUM_TEMP"));
   EXPECT_TRUE(NamesIn(Native("data")).empty());
 }
 
-TEST_F(TempFolderTest, AFolderExchangedForALinkMeanwhileLeadsNowhere) {
+TEST_F(TempFolderTest, AFolderReplacedByALinkDuringTheDeletionIsNotFollowed) {
   folder.Write("data/a", "kept");
   fs::create_directories(Native("VANTORIUM_TEMP/sub"));
   loop.onTurn = [&](int) {
@@ -136,21 +136,21 @@ TEST_F(TempFolderTest, AFolderExchangedForALinkMeanwhileLeadsNowhere) {
   EXPECT_EQ(folder.Read("data/a"), "kept");
 }
 
-TEST_F(TempFolderTest, AFileThatCannotBeDeletedEndsTheWork) {
+TEST_F(TempFolderTest, AFileThatCannotBeDeletedEndsTheDeletion) {
   folder.Write("VANTORIUM_TEMP/a", "x");
   const fakes::LockedFolder locked(Native("VANTORIUM_TEMP"));
   EXPECT_FALSE(Delete("C:\\VANTORIUM_TEMP"));
   EXPECT_EQ(folder.Read("VANTORIUM_TEMP/a"), "x");
 }
 
-TEST_F(TempFolderTest, AFolderThatCannotBeDeletedEndsTheWork) {
+TEST_F(TempFolderTest, AFolderThatCannotBeDeletedEndsTheDeletion) {
   folder.Write("VANTORIUM_TEMP/sub/a", "x");
   const fakes::LockedFolder locked(Native("VANTORIUM_TEMP/sub"));
   EXPECT_FALSE(Delete("C:\\VANTORIUM_TEMP"));
   EXPECT_EQ(folder.Read("VANTORIUM_TEMP/sub/a"), "x");
 }
 
-TEST_F(TempFolderTest, TheLoopHasATurnAfter201Files) {
+TEST_F(TempFolderTest, TheEventLoopHasATurnAfter201Files) {
   const std::pair<int, int> cases[] = {{0, 0}, {200, 0}, {201, 1}, {401, 1}, {402, 2}};
   for (const auto& [count, turns] : cases) {
     fs::create_directory(Native("VANTORIUM_TEMP"));
@@ -161,7 +161,7 @@ TEST_F(TempFolderTest, TheLoopHasATurnAfter201Files) {
   }
 }
 
-TEST_F(TempFolderTest, TheLoopHasATurnBeforeEachFolderWithinWhichCountsItsOwnFiles) {
+TEST_F(TempFolderTest, TheEventLoopHasATurnBeforeEachSubfolderWhichCountsItsOwnFiles) {
   fs::create_directories(Native("VANTORIUM_TEMP/a/b"));
   fs::create_directories(Native("VANTORIUM_TEMP/c"));
   WriteFiles("VANTORIUM_TEMP", 150);
@@ -170,7 +170,7 @@ TEST_F(TempFolderTest, TheLoopHasATurnBeforeEachFolderWithinWhichCountsItsOwnFil
   EXPECT_EQ(loop.turns, 3);
 }
 
-TEST_F(TempFolderTest, ATreeOfGreatDepthIsDeletedOrRefused) {
+TEST_F(TempFolderTest, AVeryDeepTreeIsDeletedOrRefused) {
   auto below = folder.Path() / "VANTORIUM_TEMP";
   for (int depth = 0; depth < 300; ++depth) below /= "d";
   fs::create_directories(below);
@@ -193,7 +193,7 @@ TEST_F(TempFolderTest, ADriveIsALocation) {
   EXPECT_TRUE(NamesIn(Native("VANTORIUM_TEMP")).empty());
 }
 
-TEST_F(TempFolderTest, ClearingMakesAFolderThatWasMissing) {
+TEST_F(TempFolderTest, ClearingCreatesAMissingFolder) {
   EXPECT_FALSE(ClearTempFolder("C:\\temp", files, loop));
   EXPECT_TRUE(fs::is_directory(Native("temp/VANTORIUM_TEMP")));
 }
@@ -219,7 +219,7 @@ TEST_F(TempFolderTest, ClearingReplacesALinkByAFolder) {
   EXPECT_EQ(folder.Read("data/a"), "kept");
 }
 
-TEST_F(TempFolderTest, ClearingThatStopsLeavesTheFolder) {
+TEST_F(TempFolderTest, ClearingThatFailsLeavesTheFolder) {
   folder.Write("temp/VANTORIUM_TEMP/a", "x");
   const fakes::LockedFolder locked(Native("temp/VANTORIUM_TEMP"));
   EXPECT_FALSE(ClearTempFolder("C:\\temp", files, loop));

@@ -10,7 +10,7 @@ TEST(Text, OnlyAsciiLettersChangeTheirCase) {
   EXPECT_EQ(AsciiLower(std::string_view("A\0B", 3)), std::string("a\0b", 3));
 }
 
-TEST(Text, AsciiLettersAreComparedWithoutCase) {
+TEST(Text, ComparisonsIgnoreTheCaseOfAsciiLetters) {
   EXPECT_TRUE(EqualsIgnoringCase("", ""));
   EXPECT_TRUE(EqualsIgnoringCase("Key", "kEY"));
   EXPECT_FALSE(EqualsIgnoringCase("Key", "Key "));
@@ -20,7 +20,7 @@ TEST(Text, AsciiLettersAreComparedWithoutCase) {
   EXPECT_FALSE(EqualsIgnoringCase("\xC3\x84", "\xC3\xA4"));
 }
 
-TEST(Text, AFindOverlooksTheCase) {
+TEST(Text, FindIgnoresCase) {
   struct Case {
     std::string_view text, part;
     std::size_t start, at;
@@ -36,7 +36,7 @@ TEST(Text, AFindOverlooksTheCase) {
   }
 }
 
-TEST(Text, ATextOfFixedSizeEndsAtItsFirstNulAndIsTrimmed) {
+TEST(Text, AFixedSizeTextEndsAtTheFirstNulAndIsTrimmed) {
   const std::pair<std::string_view, std::string_view> cases[] = {{{"  a b  \0 c\0\0", 12}, "a b"},
                                                                  {{"\0a", 2}, ""},
                                                                  {{"   \0", 4}, ""},
@@ -58,7 +58,7 @@ TEST(Text, AReplacementIsNotSearchedAgain) {
   EXPECT_EQ(ReplaceAllIgnoringCase("abc", "", "x"), "abc");
 }
 
-TEST(Text, LineFeedsBecomeCrLfAndALoneReturnStays) {
+TEST(Text, LineFeedsBecomeCrLfAndLoneCarriageReturnsStay) {
   const std::pair<const char*, const char*> cases[] = {{"", ""},
                                                        {"a", "a"},
                                                        {"\n", "\r\n"},
@@ -71,7 +71,7 @@ TEST(Text, LineFeedsBecomeCrLfAndALoneReturnStays) {
   for (const auto& [text, expected] : cases) EXPECT_EQ(WithCrLf(text), expected) << testing::PrintToString(text);
 }
 
-TEST(Text, AFilePrefixIsDroppedOnceAndInAnyCase) {
+TEST(Text, AFilePrefixIsRemovedOnceInAnyCase) {
   EXPECT_EQ(WithoutFilePrefix("file:///home/a.jpg"), "/home/a.jpg");
   EXPECT_EQ(WithoutFilePrefix("FiLe://C:\\a.jpg"), "C:\\a.jpg");
   EXPECT_EQ(WithoutFilePrefix("file://file://x"), "file://x");

@@ -3,7 +3,7 @@
 namespace vantorium::env {
 namespace {
 
-TEST(Wildcards, ANameMatches) {
+TEST(Wildcards, MatchingNames) {
   const std::pair<const char*, const char*> cases[] = {{"", ""},
                                                        {"", "*"},
                                                        {"a", "a"},
@@ -28,14 +28,14 @@ TEST(Wildcards, ANameMatches) {
   for (const auto& [name, pattern] : cases) EXPECT_TRUE(MatchesWildcards(name, pattern)) << name << " | " << pattern;
 }
 
-TEST(Wildcards, ANameDoesNotMatch) {
+TEST(Wildcards, NamesThatDoNotMatch) {
   const std::pair<const char*, const char*> cases[] = {
       {"", "a"},   {"", "?"},           {"a", ""},      {"a", "b"},   {"a", "A"},         {"ab", "?"}, {"ab", "a"},
       {"a", "ab"}, {"a.jpeg", "*.jpg"}, {"abd", "a*c"}, {"1", "[1]"}, {"\xC3\xA4", "??"}, {"a", "*??"}};
   for (const auto& [name, pattern] : cases) EXPECT_FALSE(MatchesWildcards(name, pattern)) << name << " | " << pattern;
 }
 
-TEST(Wildcards, ManyStarsTakeNoTimeOfTheirOwn) {
+TEST(Wildcards, ManyStarsDoNotTakeExponentialTime) {
   std::string pattern;
   for (int n = 0; n < 100; ++n) pattern += "a*";
   EXPECT_FALSE(MatchesWildcards(std::string(2000, 'a'), pattern + "b"));

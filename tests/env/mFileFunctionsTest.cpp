@@ -14,7 +14,7 @@ using fakes::FailureOf;
 
 constexpr std::uint64_t kTB = std::uint64_t{1} << 40;
 
-TEST(FileSizeText, ASizeIsCutToTheLargestUnitBelow1024) {
+TEST(FileSizeText, ASizeIsTruncatedToTheUnitThatLeavesItBelow1024) {
   const std::pair<std::uint64_t, const char*> cases[] = {{0, "0 Bytes"},
                                                          {1, "1 Bytes"},
                                                          {1023, "1023 Bytes"},
@@ -51,7 +51,7 @@ class mFileFunctionsTest : public testing::Test {
   mFileFunctions files{paths, formats};
 };
 
-TEST_F(mFileFunctionsTest, TheSizeOfAFileIsItsText) {
+TEST_F(mFileFunctionsTest, TheSizeOfAFileIsFormatted) {
   folder.Write("a.jpg", std::string(2047, 'x'));
   EXPECT_EQ(files.GetFileSizeText("C:\\a.jpg"), "1KB");
   EXPECT_EQ(files.GetFileSizeText("C:\\a.jpg", true), "00000000000000002047");
@@ -59,14 +59,14 @@ TEST_F(mFileFunctionsTest, TheSizeOfAFileIsItsText) {
   EXPECT_EQ(files.GetFileSizeText("c:/sub/empty"), "0 Bytes");
 }
 
-TEST_F(mFileFunctionsTest, TheSizeOfAVeryLargeFileIsItsText) {
+TEST_F(mFileFunctionsTest, TheSizeOfAVeryLargeFileIsFormatted) {
   folder.Write("large", "");
   fs::resize_file(folder.Path() / "large", std::uintmax_t{5} << 30);
   EXPECT_EQ(files.GetFileSizeText("C:\\large"), "5GB");
   EXPECT_EQ(files.GetFileSizeText("C:\\large", true), "00000000005368709120");
 }
 
-TEST_F(mFileFunctionsTest, AFileThatIsNotThereHasNoSize) {
+TEST_F(mFileFunctionsTest, AMissingFileHasNoSize) {
   fs::create_directory(folder.Path() / "sub");
   for (const char* path : {"C:\\none", "C:\\sub", "D:\\a", "\\\\server\\share\\a", ""}) {
     EXPECT_EQ(FailureOf([&] { std::ignore = files.GetFileSizeText(path); }), FailureKind::FileNotFound) << path;
@@ -74,7 +74,7 @@ TEST_F(mFileFunctionsTest, AFileThatIsNotThereHasNoSize) {
   }
 }
 
-TEST_F(mFileFunctionsTest, AFileThatIsNotThereHasNoTime) {
+TEST_F(mFileFunctionsTest, AMissingFileHasNoTime) {
   for (const char* path : {"C:\\none", "D:\\a", "\\\\server\\share\\a", ""}) {
     EXPECT_EQ(FailureOf([&] { std::ignore = files.GetFileWriteTime(path); }), FailureKind::FileTimeNotFound) << path;
     EXPECT_EQ(FailureOf([&] { std::ignore = files.GetFileDateTimeText(path, true); }), FailureKind::FileTimeNotFound);
@@ -98,7 +98,7 @@ TEST_F(mFileFunctionsTest, TheTimeOfAFileIsUtc) {
   for (int kind = 0; kind < 4; ++kind) EXPECT_EQ(files.GetFileDateTimeText("C:\\a.jpg", false, kind), texts[kind]);
 }
 
-TEST_F(mFileFunctionsTest, AnUnknownKindAndAnImpossibleTimeHaveNoText) {
+TEST_F(mFileFunctionsTest, AnUnknownKindOrAnInvalidTimeHasNoText) {
   for (const int kind : {-1, 4, 1000}) EXPECT_EQ(files.FormatFileTime({0}, kind), "") << kind;
   EXPECT_EQ(files.FormatFileTime({-1}, 0), "");
   EXPECT_EQ(files.FormatFileTime({0}, 0), "01.01.01");
@@ -123,7 +123,7 @@ TEST_F(mFileFunctionsTest, AFileAndAFolderExist) {
   EXPECT_FALSE(files.PathExists("C:\\" + std::string(5000, 'x')));
 }
 
-TEST_F(mFileFunctionsTest, FileExistsTakesWildcardsInTheLastPart) {
+TEST_F(mFileFunctionsTest, FileExistsAcceptsWildcardsInTheLastPart) {
   folder.Write("sub/a[1].jpg", "x");
   for (const char* pattern :
        {"C:\\sub\\a[1].jpg", "C:\\sub\\*.jpg", "C:\\sub\\a[1]*", "C:\\sub\\?[1].jpg", "C:\\su?", "C:\\sub\\*"}) {
@@ -135,7 +135,7 @@ TEST_F(mFileFunctionsTest, FileExistsTakesWildcardsInTheLastPart) {
   }
 }
 
-TEST_F(mFileFunctionsTest, FileExistsTakesStarDotStarForEverything) {
+TEST_F(mFileFunctionsTest, FileExistsMatchesEverythingWithStarDotStar) {
   folder.Write("sub/noextension", "x");
   fs::create_directory(folder.Path() / "empty");
   EXPECT_TRUE(files.FileExists("C:\\sub\\*.*"));
@@ -152,7 +152,7 @@ TEST_F(mFileFunctionsTest, FileExistsFindsNothingAfterATrailingSeparator) {
   EXPECT_FALSE(files.FileExists("C:\\"));
 }
 
-TEST_F(mFileFunctionsTest, ACopyTellsWhetherItWorked) {
+TEST_F(mFileFunctionsTest, CopyLocalFileReturnsWhetherItSucceeded) {
   folder.Write("a.jpg", "new");
   folder.Write("b.jpg", "old");
   EXPECT_FALSE(files.CopyLocalFile("C:\\a.jpg", "C:\\b.jpg", false));
@@ -166,7 +166,7 @@ TEST_F(mFileFunctionsTest, ACopyTellsWhetherItWorked) {
   }
 }
 
-TEST_F(mFileFunctionsTest, AFileTakesTheTimesOfAnother) {
+TEST_F(mFileFunctionsTest, TheTimesOfAFileAreCopiedToAnother) {
   folder.Write("a.jpg", "x");
   folder.Write("b.jpg", "x");
   SetWriteTime("a.jpg", 1'000'000'000, 500);
@@ -177,14 +177,14 @@ TEST_F(mFileFunctionsTest, AFileTakesTheTimesOfAnother) {
   EXPECT_FALSE(files.CopyFileTimes("C:\\a.jpg", "D:\\b.jpg"));
 }
 
-TEST_F(mFileFunctionsTest, MakePathMakesTheWholeChain) {
+TEST_F(mFileFunctionsTest, MakePathCreatesTheWholeChain) {
   for (const char* path : {"C:\\a\\b\\c", "C:\\d\\e\\", "C:f", "C:/g/h", "C:\\a\\b\\c", "c:\\\xC3\xA4\\b c"}) {
     EXPECT_TRUE(files.MakePath(path)) << path;
     EXPECT_TRUE(fs::is_directory(*paths.ToNative(path))) << path;
   }
 }
 
-TEST_F(mFileFunctionsTest, MakePathSucceedsEvenWhereNothingCanBeMade) {
+TEST_F(mFileFunctionsTest, MakePathSucceedsEvenIfNothingCanBeCreated) {
   folder.Write("file", "x");
   for (const char* path : {"D:\\a\\b", "\\\\server\\share\\a\\b", "\\\\server", "C:\\file\\a", "", "C:", ":", "\\"}) {
     EXPECT_TRUE(files.MakePath(path)) << path;
@@ -193,12 +193,12 @@ TEST_F(mFileFunctionsTest, MakePathSucceedsEvenWhereNothingCanBeMade) {
   EXPECT_EQ(fakes::NamesIn(folder.Path()), std::vector<std::string>{"file"});
 }
 
-TEST_F(mFileFunctionsTest, MakePathFailsOnATextThatHoldsNoPath) {
+TEST_F(mFileFunctionsTest, MakePathFailsIfTheTextIsNotAPath) {
   EXPECT_FALSE(files.MakePath(std::string_view("C:\\a\0b", 6)));
   EXPECT_TRUE(fakes::NamesIn(folder.Path()).empty());
 }
 
-TEST_F(mFileFunctionsTest, DeletionTakesFilesAndLinksOnly) {
+TEST_F(mFileFunctionsTest, OnlyFilesAndLinksAreDeleted) {
   folder.Write("sub/a.jpg", "x");
   fs::permissions(folder.Path() / "sub/a.jpg", fs::perms(0444));
   fs::create_symlink(folder.Path() / "sub", folder.Path() / "link");

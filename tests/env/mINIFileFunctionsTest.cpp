@@ -1,7 +1,7 @@
 #include "env/mINIFileFunctions.h"
 #include "tests/fakes/FailureOf.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
-#include "tests/fakes/Hindrances.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 namespace vantorium::env {
@@ -27,7 +27,7 @@ class mINIFileFunctionsTest : public testing::Test {
   fs::path file = folder.Path() / "vantorium.ini";
 };
 
-TEST_F(mINIFileFunctionsTest, AMissingKeyIsTheProgramsOwnFailureAndAMissingFileTheSystems) {
+TEST_F(mINIFileFunctionsTest, AMissingKeyIsAPreferencesFailureAndAMissingFileIsNotFound) {
   EXPECT_EQ(FailureOfReading("x"), FailureKind::FileNotFound);
   folder.Write("vantorium.ini", "[A]\r\ny=1\r\n");
   EXPECT_EQ(FailureOfReading("x"), FailureKind::Preferences);
@@ -40,7 +40,7 @@ TEST_F(mINIFileFunctionsTest, AnEmptyValueIsNotAnInteger) {
   EXPECT_EQ(FailureOfReadingInteger("x"), FailureKind::Preferences);
 }
 
-TEST_F(mINIFileFunctionsTest, AnIntegerIsConverted) {
+TEST_F(mINIFileFunctionsTest, AnIntegerIsConvertedAndRounded) {
   folder.Write("vantorium.ini", "[A]\na=\"12\"\nb=-3\nc=\" 2.5 \"\nd=\nf=\"x\"\ne=\"2147483648\"\n");
   EXPECT_EQ(ReadINIInteger("A", "a", file), 12);
   EXPECT_EQ(ReadINIInteger("A", "b", file), -3);
@@ -86,7 +86,7 @@ TEST_F(mINIFileFunctionsTest, AFailedWriteLeavesTheFile) {
   EXPECT_EQ(fakes::NamesIn(folder.Path()), std::vector<std::string>{"vantorium.ini"});
 }
 
-TEST_F(mINIFileFunctionsTest, ALinkStaysAndTheFileBehindItIsWritten) {
+TEST_F(mINIFileFunctionsTest, ALinkStaysAndItsTargetIsWritten) {
   folder.Write("kept/real.ini", "[A]\r\nx=\"1\"\r\n");
   fs::create_symlink("kept/real.ini", file);
   WriteINIString("A", "x", "2", file);
@@ -106,7 +106,7 @@ TEST_F(mINIFileFunctionsTest, AFileThatCannotBeReadIsNotReplaced) {
   EXPECT_EQ(FailureOfReading("x"), FailureKind::FileAccess);
 }
 
-TEST_F(mINIFileFunctionsTest, AMissingFolderIsAFailureAndIsNotMade) {
+TEST_F(mINIFileFunctionsTest, AMissingFolderIsAFailureAndIsNotCreated) {
   const auto below = folder.Path() / "none" / "vantorium.ini";
   EXPECT_EQ(FailureOf([&] { WriteINIString("A", "x", "1", below); }), FailureKind::Preferences);
   EXPECT_FALSE(fs::exists(below.parent_path()));

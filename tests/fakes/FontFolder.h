@@ -1,15 +1,16 @@
 #pragma once
 
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 
 namespace vantorium::fakes {
 
-/// While it exists, FONTCONFIG_FILE leads to a configuration that has only the fonts that the test adds.
+/// While it exists, FONTCONFIG_FILE names a configuration that has only the fonts that the test adds.
 class FontFolder {
  public:
   /// `rules` are further elements of the Fontconfig configuration.
@@ -30,9 +31,12 @@ class FontFolder {
     throw std::runtime_error("no font file " + file);
   }
 
-  /// Overwrites a font that Fontconfig already knows, so that it can no longer be opened.
+  /// Overwrites a font that Fontconfig already knows, so that it can no longer be opened. Throws std::runtime_error if
+  /// the file is missing or cannot be written.
   void Break(const std::string& file) const {
-    std::fstream(FileOf(file), std::ios::in | std::ios::out | std::ios::binary) << std::string(100'000, '?');
+    std::fstream font(FileOf(file), std::ios::in | std::ios::out | std::ios::binary);
+    font << std::string(100'000, '?') << std::flush;
+    if (!font) throw std::runtime_error("cannot overwrite the font file " + FileOf(file).string());
   }
 
   [[nodiscard]] std::filesystem::path FileOf(const std::string& file) const { return folder_.Path() / "fonts" / file; }

@@ -53,7 +53,7 @@ std::string GreetingOf(std::uint16_t port) {
   return greeting;
 }
 
-/// Executes the program in its own process group, to be killed when the test dies. Its output goes to a file.
+/// Executes the program in its own process group, which is killed when the test dies. Its output goes to a file.
 [[noreturn]] void Become(const FtpServerCommand& command, const fs::path& output) {
   ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);

@@ -46,7 +46,7 @@ seccomp_sandbox=NO
 xferlog_enable=NO
 )";
 
-/// "HIGH": the default leaves out what goes with keys of elliptic curves.
+/// ssl_ciphers: the default has no ciphers for keys of elliptic curves.
 constexpr const char* kVsftpdEncryption = R"(ssl_enable=YES
 allow_anon_ssl=YES
 force_anon_logins_ssl=YES
@@ -84,7 +84,7 @@ Group {group}
 </IfModule>
 )";
 
-/// Without TLSOptions the server demands the session of the control connection.
+/// Without TLSOptions, data connections must resume the TLS session of the control connection.
 constexpr const char* kProftpdEncryption = R"(ModulePath {modules}
 LoadModule mod_tls.c
 TLSEngine on
@@ -102,12 +102,12 @@ fs::path FirstOf(const std::vector<fs::path>& candidates) {
   throw std::runtime_error(candidates.front().string() + " is missing: run packaging/install-dependencies tests");
 }
 
-/// A file of a package that is unpacked, or else installed.
+/// A file of a package: unpacked in build/test-servers, or else installed.
 fs::path FileOf(const std::string& package, const std::string& path) {
   return FirstOf({SourceFolder() / "build/test-servers" / package / path.substr(1), path});
 }
 
-/// Only the owner may read it: servers refuse other secrets.
+/// Writes a file that only its owner may read; servers refuse secrets that others can read.
 std::string WriteSecret(const fs::path& file, const std::string& text) {
   std::ofstream(file, std::ios::binary) << text;
   fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
@@ -129,7 +129,7 @@ FtpServerCommand VsftpdCommand(const FtpServerSettings& settings) {
   return {.words = {FileOf("vsftpd", "/usr/sbin/vsftpd").string(), file}, .environment = {}, .user = "anonymous"};
 }
 
-/// The user's line of a file of users; the server's own fields follow.
+/// The user's line in a password file, without the fields that only some servers have.
 std::string UserLine(const FtpServerSettings& settings, const std::string& user, const std::string& ids) {
   return fmt::format("{}:{}:{}::{}:", user, kPasswordHash, ids, (settings.folder / "root").string());
 }
@@ -158,15 +158,15 @@ FtpServerCommand ProftpdCommand(const FtpServerSettings& settings) {
           .user = user};
 }
 
-/// Reads its users from a database, which its own program makes. The user's numbers mean nothing (see NoRoot.cpp), but
-/// 0 is refused.
+/// Pure-FTPd reads its users from a database, which pure-pw makes. The user's IDs mean nothing (see NoRoot.cpp), but 0
+/// is refused.
 FtpServerCommand PureftpdCommand(const FtpServerSettings& settings) {
   const std::string user = "uploader";
   const auto users = WriteSecret(settings.folder / "users", UserLine(settings, user, "1000:1000") + ":::::::::::\n");
   const auto database = (settings.folder / "users.pdb").string();
   fs::remove(database);
   const std::string make = FileOf("pure-ftpd", "/usr/bin/pure-pw").string() + " mkdb " + database + " -f " + users;
-  if (std::system(make.c_str()) != 0) throw std::runtime_error("pure-pw makes no database of users");
+  if (std::system(make.c_str()) != 0) throw std::runtime_error("pure-pw could not make the database of users");
   const auto greeting = (settings.folder / "greeting").string();
   std::ofstream(greeting) << settings.name << "\n";
   fs::permissions(greeting, fs::perms::others_read | fs::perms::group_read,

@@ -12,12 +12,13 @@ namespace vantorium::fakes {
 
 enum class FtpServerKind { Vsftpd, Proftpd, Pureftpd };
 
-/// What a server of the tests is to be like.
+/// How a test server is set up.
 struct FtpServerSettings {
   std::string name;              ///< its greeting contains this
-  std::filesystem::path folder;  ///< for its own files; contains the folder "root" for those of the clients
+  std::filesystem::path folder;  ///< has the server's own files, and the folder "root" with the clients' files
   std::uint16_t port = 0;        ///< on loopback
-  /// With it the server demands TLS, and for data connections (except Pure-FTPd) the session of the control connection.
+                           /// If set, the server demands TLS, and (except Pure-FTPd) that data connections resume the
+                           /// control connection's session.
   std::optional<TestCertificate> certificate;
 };
 
@@ -34,7 +35,7 @@ struct FtpServerCommand {
 /// The password of every user.
 inline const std::string kFtpPassword = "open sesame";
 
-/// For the names of tests.
+/// The server's name in test names.
 [[nodiscard]] std::string NameOf(FtpServerKind kind);
 
 }  // namespace vantorium::fakes

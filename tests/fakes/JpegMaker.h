@@ -12,7 +12,7 @@ namespace vantorium::fakes {
 
 enum class JpegColors { Grey, YCbCr, RGB, CMYK, YCCK };
 
-/// How to make a JPEG file.
+/// The properties of a JPEG file to be made.
 struct JpegRecipe {
   int width = 37;
   int height = 29;
@@ -25,7 +25,7 @@ struct JpegRecipe {
   unsigned restartEvery = 0;  ///< number of MCUs between restart markers; 0: no markers
   int quality = 90;
   bool adobeMarker = true;  ///< whether a file has the Adobe marker; four inks without it are CMYK
-  bool optimised = false;   ///< whether the file has Huffman codes of its own
+  bool optimised = false;   ///< whether the Huffman codes are computed for this file
   bool wideSteps = false;   ///< whether quantization steps may exceed 255
 };
 std::ostream& operator<<(std::ostream& stream, const JpegRecipe& recipe);

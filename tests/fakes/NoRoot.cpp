@@ -1,5 +1,5 @@
-// Preloaded into a server that insists on root rights to change its user. It stays the test's user instead, whoever
-// that is, and is confined nowhere.
+// Preloaded into a server that demands root rights to change its user and root folder. The server keeps running as the
+// test's user and changes neither.
 #include <grp.h>
 #include <unistd.h>
 

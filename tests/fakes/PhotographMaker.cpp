@@ -9,16 +9,16 @@
 namespace vantorium::fakes {
 namespace {
 
-std::string Number(unsigned value, std::size_t size, bool greatestFirst) {
+std::string Number(unsigned value, std::size_t size, bool bigEndian) {
   std::string bytes;
   for (std::size_t i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8U * i & 255U);
-  if (greatestFirst) std::reverse(bytes.begin(), bytes.end());
+  if (bigEndian) std::reverse(bytes.begin(), bytes.end());
   return bytes;
 }
 
-std::string Entry(unsigned tag, unsigned value, bool greatestFirst) {
-  return Number(tag, 2, greatestFirst) + Number(3, 2, greatestFirst) + Number(1, 4, greatestFirst) +
-         Number(value, 2, greatestFirst) + Number(0, 2, greatestFirst);
+std::string Entry(unsigned tag, unsigned value, bool bigEndian) {
+  return Number(tag, 2, bigEndian) + Number(3, 2, bigEndian) + Number(1, 4, bigEndian) + Number(value, 2, bigEndian) +
+         Number(0, 2, bigEndian);
 }
 
 constexpr cmsCIExyY kDaylight = {0.3127, 0.3290, 1};
@@ -69,15 +69,14 @@ std::string WithSegments(std::string jpeg, std::string_view segments) {
   return WithBytesAt(std::move(jpeg), 2, segments);
 }
 
-std::string ExifOf(int orientation, bool greatestFirst) {
+std::string ExifOf(int orientation, bool bigEndian) {
   constexpr unsigned kImageWidth = 0x0100;
   constexpr unsigned kOrientation = 0x0112;
   constexpr unsigned kResolutionUnit = 0x0128;
   const auto value = static_cast<unsigned>(orientation);
-  return std::string("Exif\0\0", 6) + (greatestFirst ? "MM" : "II") + Number(42, 2, greatestFirst) +
-         Number(8, 4, greatestFirst) + Number(3, 2, greatestFirst) + Entry(kImageWidth, 7, greatestFirst) +
-         Entry(kOrientation, value, greatestFirst) + Entry(kResolutionUnit, 2, greatestFirst) +
-         Number(0, 4, greatestFirst);
+  return std::string("Exif\0\0", 6) + (bigEndian ? "MM" : "II") + Number(42, 2, bigEndian) + Number(8, 4, bigEndian) +
+         Number(3, 2, bigEndian) + Entry(kImageWidth, 7, bigEndian) + Entry(kOrientation, value, bigEndian) +
+         Entry(kResolutionUnit, 2, bigEndian) + Number(0, 4, bigEndian);
 }
 
 std::string WithOrientation(std::string jpeg, int orientation) {
@@ -122,29 +121,6 @@ std::array<std::uint8_t, 3> InProfile(std::string_view profile, std::array<std::
   cmsCloseProfile(to);
   cmsCloseProfile(from);
   return result;
-}
-
-JpegPixels StoredLying(const JpegPixels& upright, int orientation, int width, int height) {
-  const int right = width - 1;
-  const int bottom = height - 1;
-  switch (orientation) {
-    case 2:
-      return [=](int x, int y) { return upright(right - x, y); };
-    case 3:
-      return [=](int x, int y) { return upright(right - x, bottom - y); };
-    case 4:
-      return [=](int x, int y) { return upright(x, bottom - y); };
-    case 5:
-      return [=](int x, int y) { return upright(y, x); };
-    case 6:
-      return [=](int x, int y) { return upright(right - y, x); };
-    case 7:
-      return [=](int x, int y) { return upright(right - y, bottom - x); };
-    case 8:
-      return [=](int x, int y) { return upright(y, bottom - x); };
-    default:
-      return upright;
-  }
 }
 
 }  // namespace vantorium::fakes

@@ -14,9 +14,9 @@ namespace vantorium::fakes {
 /// The file with segments at its beginning, where cameras write them.
 [[nodiscard]] std::string WithSegments(std::string jpeg, std::string_view segments);
 
-/// The contents of an Exif segment with some other tags and the orientation, least byte first or greatest byte first.
-[[nodiscard]] std::string ExifOf(int orientation, bool greatestFirst = false);
-/// The file, saying that its picture must be turned.
+/// The contents of an Exif segment with the orientation and some other tags, little-endian or big-endian.
+[[nodiscard]] std::string ExifOf(int orientation, bool bigEndian = false);
+/// The file with an Exif segment that has this orientation.
 [[nodiscard]] std::string WithOrientation(std::string jpeg, int orientation);
 
 enum class TestProfile { SRGB, DisplayP3, AdobeRGB, GrayGamma };
@@ -24,15 +24,11 @@ inline constexpr TestProfile kColorProfiles[] = {TestProfile::SRGB, TestProfile:
 /// The bytes of an ICC profile: of sRGB, with the primaries of Display P3 or Adobe RGB (1998), or gray with a gamma of
 /// 1.2.
 [[nodiscard]] std::string ProfileOf(TestProfile profile);
-/// The profile as APP2 segments of at most `most` bytes of it each.
+/// The profile as APP2 segments, each with at most `most` bytes of it.
 [[nodiscard]] std::string ProfileSegments(std::string_view profile, std::size_t most = 60000);
 [[nodiscard]] std::string WithProfile(std::string jpeg, std::string_view profile);
 
-/// A pixel in sRGB, brought to a profile's colors: red, green, blue.
+/// An sRGB pixel, converted to a profile's colors: red, green, blue.
 [[nodiscard]] std::array<std::uint8_t, 3> InProfile(std::string_view profile, std::array<std::uint8_t, 3> sRGB);
-
-/// The pixels of a picture that is stored lying, so that `upright` is seen once it is turned. `width` and `height` are
-/// those of the upright picture.
-[[nodiscard]] JpegPixels StoredLying(const JpegPixels& upright, int orientation, int width, int height);
 
 }  // namespace vantorium::fakes

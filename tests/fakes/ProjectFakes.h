@@ -40,7 +40,7 @@ class RecordingSessionHost : public core::ProjectSessionHost {
   void FocusTitleField() override { calls_.emplace_back("title field"); }
   void RebuildCustomColors() override { calls_.emplace_back("custom colors"); }
 
-  std::vector<core::MovedFolder> movedFolders;  ///< none: the paths stay
+  std::vector<core::MovedFolder> movedFolders;  ///< empty: the paths stay
 
  private:
   Calls& calls_;
@@ -83,7 +83,7 @@ class RecordedBoxes : public RecordingMessageBox {
 };
 
 /// A project, its session and a folder for its files.
-struct ProjectDesk {
+struct ProjectHarness {
   TemporaryFolder folder;
   Calls calls;
   RecordedBoxes boxes{calls};

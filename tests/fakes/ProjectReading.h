@@ -26,31 +26,34 @@ struct ProjectFileParts {
 class ProjectReading {
  public:
   bool Read(const std::string& text) {
-    path = desk.File("project.gpj", text);
+    path = harness.File("project.gpj", text);
     return ReadPath();
   }
   bool Read(const ProjectFileParts& parts) { return Read(parts.Text()); }
   /// Reads the file at `path`.
   bool ReadPath() {
-    desk.project.images.Clear();
-    desk.boxes.boxes.clear();
-    desk.calls.clear();
-    core::ProjectFileReader reader(desk.project, desk.images, desk.paths, desk.boxes, desk.host, desk.events);
+    harness.project.images.Clear();
+    harness.boxes.boxes.clear();
+    harness.calls.clear();
+    core::ProjectFileReader reader(harness.project, harness.images, harness.paths, harness.boxes, harness.host,
+                                   harness.events);
     return reader.ReadProjectFile(path);
   }
   /// The reason in the only message box.
   [[nodiscard]] std::string Reason() const {
-    if (desk.boxes.boxes.size() != 1 || desk.boxes.boxes[0].title != "Invalid Project File") return "no such box";
-    const std::string& text = desk.boxes.boxes[0].text;
+    if (harness.boxes.boxes.size() != 1 || harness.boxes.boxes[0].title != "Invalid Project File")
+      return "no such message box";
+    const std::string& text = harness.boxes.boxes[0].text;
     return text.substr(text.find("Reason: ") + 8);
   }
   /// Title and text of the only message box.
   [[nodiscard]] std::string Box() const {
-    return desk.boxes.boxes.size() == 1 ? desk.boxes.boxes[0].title + ": " + desk.boxes.boxes[0].text : "not one box";
+    return harness.boxes.boxes.size() == 1 ? harness.boxes.boxes[0].title + ": " + harness.boxes.boxes[0].text
+                                           : "no single message box";
   }
-  [[nodiscard]] const core::GalleryProject& Settings() const { return desk.project.settings; }
+  [[nodiscard]] const core::GalleryProject& Settings() const { return harness.project.settings; }
 
-  ProjectDesk desk;
+  ProjectHarness harness;
   std::string path;
 };
 

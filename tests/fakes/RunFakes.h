@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/generation/RunHost.h"
-#include "env/EventLoop.h"
 #include "env/RuntimeFailure.h"
 #include "env/Shell.h"
+#include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/FixedClock.h"
 
 #include <functional>
@@ -13,24 +13,13 @@
 
 namespace vantorium::fakes {
 
-/// What happened during a run, in order, across all its ports.
+/// The calls of all ports of a run, in order.
 using Journal = std::vector<std::string>;
 
-/// Counts its turns and calls `onTurn` in each.
-class ScriptedLoop : public env::EventLoop {
+/// Adds its calls to the run's journal. Can be told to fail.
+class JournalingShell : public env::Shell {
  public:
-  void Turn() override {
-    ++turns;
-    if (onTurn) onTurn(turns);
-  }
-
-  int turns = 0;
-  std::function<void(int)> onTurn;
-};
-
-class RecordingShell : public env::Shell {
- public:
-  explicit RecordingShell(Journal& journal) : journal_(journal) {}
+  explicit JournalingShell(Journal& journal) : journal_(journal) {}
 
   void Beep(env::BeepKind kind) override {
     journal_.emplace_back(kind == env::BeepKind::Information ? "beep information" : "beep warning");

@@ -66,8 +66,8 @@ class RecordingSampleBox : public ui::SampleBox {
 };
 
 /// A folder with sample pictures and a temporary folder.
-struct SampleDesk {
-  SampleDesk() { std::filesystem::create_directories(TempFile().parent_path()); }
+struct SampleHarness {
+  SampleHarness() { std::filesystem::create_directories(TempFile().parent_path()); }
 
   /// Writes a JPEG file of one color and returns its path text.
   std::string Jpeg(const std::string& name, std::uint32_t color, std::int32_t width = 64, std::int32_t height = 48,

@@ -17,8 +17,8 @@
 namespace vantorium::fakes {
 
 /// An FTP server in a thread of the test, on a free loopback port, that can do what real servers do only sometimes. It
-/// keeps files in memory and serves one session at a time. Every wait ends after 20 seconds, the server's own also when
-/// the object is destroyed.
+/// keeps files in memory and serves one session at a time. Every wait ends after 20 seconds; the server's own waits
+/// also end when the object is destroyed.
 class ScriptedFtpServer {
  public:
   class Session;
@@ -27,11 +27,11 @@ class ScriptedFtpServer {
   struct Script {
     /// Called instead of sending the greeting.
     std::function<void(Session&)> greet;
-    /// Called instead of the usual answer, by verb.
+    /// Handlers that replace the usual answer, by verb.
     std::map<std::string, Handler> on;
-    /// What the server shows to clients that ask for TLS; without it they are refused.
+    /// For clients that ask for TLS; without a certificate they are refused.
     std::optional<TestCertificate> certificate = std::nullopt;
-    /// Of the server: "127.0.0.1" or "::1".
+    /// The server's address: "127.0.0.1" or "::1".
     std::string address = "127.0.0.1";
   };
 
@@ -42,11 +42,12 @@ class ScriptedFtpServer {
   ScriptedFtpServer& operator=(const ScriptedFtpServer&) = delete;
 
   [[nodiscard]] std::uint16_t Port() const { return port_; }
-  /// The received lines, and the stored files.
+  /// The received lines.
   [[nodiscard]] std::vector<std::string> Commands() const;
+  /// The bytes of the stored files, by name.
   [[nodiscard]] std::map<std::string, std::string> Files() const;
   void PutFile(const std::string& name, const std::string& bytes);
-  /// How many data connections took up the TLS session of a control connection.
+  /// How many data connections resumed the TLS session of a control connection.
   [[nodiscard]] int ResumedSessions() const { return resumedSessions_; }
   /// Whether a command that begins with `command` has been received.
   [[nodiscard]] bool HasHeard(std::string_view command) const;
@@ -101,11 +102,10 @@ class ScriptedFtpServer::Session {
   bool EncryptData() { return !encrypts_ || EncryptData(*server_.tls_); }
   /// Reads at most `most` bytes into the file. Returns true at the end of the stream.
   bool Receive(const std::string& name, std::size_t most = static_cast<std::size_t>(-1));
-  /// Ends the data connection as one should.
+  /// Ends the data connection properly, with TLS's close_notify if it is encrypted.
   void CloseData();
-  /// Ends it without a word of TLS.
+  /// Closes the data connection without close_notify.
   void DropData() { data_.reset(); }
-  /// Resets the data connection.
   void ResetData();
 
  private:

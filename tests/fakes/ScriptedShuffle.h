@@ -7,7 +7,7 @@
 
 namespace vantorium::fakes {
 
-/// All tools of a shuffle in one object: repeats the scripted numbers, records the progress bar and the turns, and
+/// The ports of a shuffle in one object: repeats the scripted numbers, records the progress bar and the turns, and
 /// presses Stop in turn `stopInTurn`.
 class ScriptedShuffle : private core::ShuffleProgress, private env::EventLoop, private core::RandomNumbers {
  public:

@@ -9,7 +9,7 @@
 
 namespace vantorium::fakes {
 
-/// What all TLS connections of a server share: its certificate, and the sessions that clients may take up again.
+/// What all TLS connections of a server share: its certificate, and the sessions that clients may resume.
 class TlsServer {
  public:
   explicit TlsServer(const TestCertificate& certificate);
@@ -17,7 +17,7 @@ class TlsServer {
   TlsServer(const TlsServer&) = delete;
   TlsServer& operator=(const TlsServer&) = delete;
 
-  /// Speaks TLS 1.1 at most, which no client should accept.
+  /// Offers TLS 1.1 at most, which no client should accept.
   void SpeakOldVersionsOnly();
 
  private:
@@ -26,7 +26,7 @@ class TlsServer {
   std::unique_ptr<Settings> settings_;
 };
 
-/// A server's end of a connection, in clear or encrypted. Calls block for at most 20 seconds. Writing to a client that
+/// A server's end of a connection, encrypted or not. Calls block for at most 20 seconds. Writing to a client that
 /// is gone raises SIGPIPE, which the thread has to block.
 class ServerChannel {
  public:
@@ -38,18 +38,18 @@ class ServerChannel {
   [[nodiscard]] int Descriptor() const { return socket_.Get(); }
   /// Returns true when the client has ended its handshake.
   [[nodiscard]] bool StartTls(const TlsServer& server);
-  /// Whether the client took up an earlier session.
+  /// Whether the client resumed an earlier session.
   [[nodiscard]] bool IsResumed() const;
 
   void Send(std::string_view text);
-  /// Returns what is there, of at most `most` bytes; empty at the end and on failure.
+  /// Returns what has arrived, at most `most` bytes. Empty at the end and on failure.
   [[nodiscard]] std::string Receive(std::size_t most);
   /// Whether decrypted bytes wait for Receive.
   [[nodiscard]] bool HasReceived() const;
-  /// After Receive returned nothing: whether the client said that it ends.
+  /// After Receive returned nothing: whether the client ended the stream properly.
   [[nodiscard]] bool IsAtEnd() const { return isAtEnd_; }
 
-  /// Says that this side ends (close_notify); does nothing in clear.
+  /// Sends close_notify. Does nothing if the connection is not encrypted.
   void SayEnd();
   /// Makes the destructor reset the connection.
   void ResetOnClose();

@@ -9,7 +9,7 @@
 
 namespace vantorium::fakes {
 
-/// The name of a socket of either family.
+/// The address of an IPv4 or IPv6 socket.
 struct SocketName {
   explicit SocketName(const std::string& address, std::uint16_t port) {
     if (address.find(':') == std::string::npos) {

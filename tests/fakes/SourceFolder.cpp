@@ -2,8 +2,8 @@
 
 namespace vantorium::fakes {
 
-// The macro is defined for this file only, so that a checkout in another folder finds all other objects in the compiler
-// cache.
+// The macro is defined for this file only, so that the compiler cache serves all other files of a checkout in another
+// folder.
 std::filesystem::path SourceFolder() {
   return VANTORIUM_SOURCE_DIR;
 }

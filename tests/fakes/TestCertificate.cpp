@@ -44,31 +44,31 @@ void SetNumber(X509* certificate) {
   Require(ASN1_INTEGER_set_uint64(X509_get_serialNumber(certificate), number >> 1U) == 1);
 }
 
-Certificate Make(EVP_PKEY* key, const TestCertificate::Wish& wish) {
+Certificate Make(EVP_PKEY* key, const TestCertificate::Properties& properties) {
   constexpr long kDay = 24L * 60 * 60;
   Certificate made(X509_new(), X509_free);
   X509* certificate = made.get();
   X509_set_version(certificate, X509_VERSION_3);
   SetNumber(certificate);
-  X509_gmtime_adj(X509_getm_notBefore(certificate), wish.firstDay * kDay);
-  X509_gmtime_adj(X509_getm_notAfter(certificate), wish.lastDay * kDay);
+  X509_gmtime_adj(X509_getm_notBefore(certificate), properties.firstDay * kDay);
+  X509_gmtime_adj(X509_getm_notAfter(certificate), properties.lastDay * kDay);
   X509_NAME* name = X509_get_subject_name(certificate);
-  X509_NAME_add_entry_by_txt(name, "CN", MBSTRING_UTF8, reinterpret_cast<const unsigned char*>(wish.commonName.c_str()),
-                             -1, -1, 0);
+  X509_NAME_add_entry_by_txt(name, "CN", MBSTRING_UTF8,
+                             reinterpret_cast<const unsigned char*>(properties.commonName.c_str()), -1, -1, 0);
   X509_set_issuer_name(certificate, name);
   X509_set_pubkey(certificate, key);
   Add(certificate, NID_basic_constraints, "critical,CA:TRUE");
-  Add(certificate, NID_subject_alt_name, wish.names);
+  Add(certificate, NID_subject_alt_name, properties.names);
   Require(X509_sign(certificate, key, EVP_sha256()) > 0);
   return made;
 }
 
 }  // namespace
 
-TestCertificate::TestCertificate(const Wish& wish) {
+TestCertificate::TestCertificate(const Properties& properties) {
   const Key pair(EVP_EC_gen("P-256"), EVP_PKEY_free);
   Require(pair != nullptr);
-  const Certificate made = Make(pair.get(), wish);
+  const Certificate made = Make(pair.get(), properties);
   const Memory certificateText(BIO_new(BIO_s_mem()), BIO_free);
   const Memory keyText(BIO_new(BIO_s_mem()), BIO_free);
   Require(PEM_write_bio_X509(certificateText.get(), made.get()) == 1);

@@ -5,22 +5,22 @@
 
 namespace vantorium::fakes {
 
-/// A certificate that signs itself, with its key: new for each test, and valid around the present day.
+/// A self-signed certificate with its key: a new one each time, valid today unless told otherwise.
 struct TestCertificate {
-  struct Wish {
+  struct Properties {
     std::string commonName = "localhost";
-    /// As OpenSSL's configuration writes them.
+    /// Alternative names, in the syntax of OpenSSL's configuration.
     std::string names = "DNS:localhost,IP:127.0.0.1,IP:::1";
-    int firstDay = -1;  ///< of its validity, counted from today
-    int lastDay = 30;
+    int firstDay = -1;  ///< of validity, in days from today
+    int lastDay = 30;   ///< of validity, in days from today
   };
 
-  explicit TestCertificate(const Wish& wish);
-  TestCertificate() : TestCertificate(Wish()) {}
+  explicit TestCertificate(const Properties& properties);
+  TestCertificate() : TestCertificate(Properties()) {}
 
   std::string certificate;  ///< PEM
   std::string key;          ///< PEM
-  std::string fingerprint;  ///< SHA-256, in capitals with colons
+  std::string fingerprint;  ///< SHA-256, in uppercase hexadecimal with colons
 };
 
 }  // namespace vantorium::fakes

@@ -11,7 +11,7 @@
 
 namespace vantorium::fakes {
 
-/// Records the calls. Every call succeeds except for the paths `refused` and `broken`.
+/// Records the calls. All succeed, except those for the paths `refused` and `broken`.
 class RecordingUploads : public publish::FTPUploads {
  public:
   [[nodiscard]] bool FTPCreateDirectoryPath(const std::string& path) override { return Answer("make " + path, path); }

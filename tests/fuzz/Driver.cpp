@@ -24,9 +24,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// An input that takes longer is considered to hang. The limit allows for a busy machine.
+// An input that takes longer counts as a hang. The limit allows for a busy machine.
 constexpr unsigned kMostSeconds = 60;
-// Limits the whole process, including a sanitizer's own memory.
+// For the whole process, including the memory of a sanitizer.
 constexpr long kMostKilobytes = 1L << 20;
 
 struct Options {

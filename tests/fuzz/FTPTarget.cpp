@@ -53,14 +53,14 @@ void CheckReply(const std::string& text) {
   }
 }
 
-/// Both kinds of replies that name a port: what is found does not depend on what stands around it.
+/// Both kinds of replies that name a port: the port that is found does not depend on the text around it.
 void CheckPorts(const std::string& text) {
   const auto epsv = publish::PortOfEpsvReply(text);
   const auto pasv = publish::PortOfPasvReply(text);
   fuzz::Require(epsv.value_or(1) > 0 && pasv.value_or(1) > 0, "there is no port 0");
   fuzz::Require(!epsv || publish::PortOfEpsvReply(text + "(|||1|)") == epsv, "the first port of EPSV counts");
   fuzz::Require(!pasv || publish::PortOfPasvReply("text " + text + " text") == pasv,
-                "text around six numbers does not matter");
+                "the text around six numbers does not matter");
 }
 
 class Client {
@@ -104,7 +104,7 @@ class Client {
     std::ignore = ftp_.FTPChangeDirectory(script_.remotePath);
     std::ignore = ftp_.FTPCreateDirectoryPath(script_.remotePath);
     const bool stored = ftp_.FTPCopyFile(local, script_.remotePath, !script_.Has('o'));
-    fuzz::Require(!stored || data_.blocks.empty() || SentBytes() == kFileBytes, "what is stored was sent in whole");
+    fuzz::Require(!stored || data_.blocks.empty() || SentBytes() == kFileBytes, "a stored file was sent completely");
     fuzz::Require(!ftp_.FTPGetFileSize(script_.remotePath).empty(), "a size is never empty");
   }
 
@@ -124,7 +124,7 @@ class Client {
     const bool saysPassword =
         std::ranges::any_of(journal_, [](const std::string& call) { return call.starts_with("cmd write PASS"); });
     fuzz::Require(!saysPassword || !script_.Has('e') || ftp_.EncryptionProblem().empty(),
-                  "a session that cannot be encrypted says no password");
+                  "a session that cannot be encrypted sends no password");
     fuzz::Require(HasSaid(kPassword) || window_.log.find(kPassword) == std::string::npos, "passwords are not logged");
   }
 

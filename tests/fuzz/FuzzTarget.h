@@ -14,9 +14,9 @@ namespace vantorium::fuzz {
 /// The maximum size of an input in bytes. Longer inputs take more time but test nothing more.
 inline constexpr std::size_t kMostInputBytes = std::size_t{16} << 10U;
 
-/// Prints the rule and aborts the process unless `holds`.
+/// Unless `holds`, prints the rule and aborts the process.
 void Require(bool holds, std::string_view rule);
-/// The same unless the texts are equal, and prints both.
+/// Unless the texts are equal, prints the rule and both texts and aborts the process.
 void RequireEqual(std::string_view left, std::string_view right, std::string_view rule);
 
 /// The bytes as text, cut at kMostInputBytes.

@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kSection = "FOLDERS";
 constexpr std::string_view kKey = "ProjectFolder";
 
-/// A folder with nothing but a preferences file.
+/// A folder that has only a preferences file.
 struct Place {
   fakes::TemporaryFolder folder;
   std::filesystem::path file = folder.Path() / "preferences";
@@ -47,38 +47,40 @@ std::vector<std::string> LinesLost(std::string_view before, std::string_view aft
 
 void CheckWriting(const std::string& text, const std::string& value) {
   const std::string written = env::WithINIString(text, kSection, kKey, value);
-  fuzz::RequireEqual(env::FindINIString(written, kSection, kKey).value_or("(nothing)"), value, "a value comes back");
+  fuzz::RequireEqual(env::FindINIString(written, kSection, kKey).value_or("(nothing)"), value, "a value is read back");
   fuzz::RequireEqual(env::WithINIString(written, kSection, kKey, value), written, "writing it again changes nothing");
   const auto lost = LinesLost(text, written);
   fuzz::Require(lost.size() <= 1, "at most one line is changed");
-  fuzz::Require(lost.empty() || env::FindIgnoringCase(lost[0], kKey) != std::string::npos, "and that is the key's");
+  fuzz::Require(lost.empty() || env::FindIgnoringCase(lost[0], kKey) != std::string::npos,
+                "the changed line is that of the key");
 }
 
 void CheckInteger(const Place& place) {
   try {
     const std::int32_t number = env::ReadINIInteger("SETTINGS", "ImagesPreview", place.file);
     env::WriteINIString("SETTINGS", "ImagesPreview", std::to_string(number), place.file);
-    fuzz::Require(env::ReadINIInteger("SETTINGS", "ImagesPreview", place.file) == number, "a number comes back");
+    fuzz::Require(env::ReadINIInteger("SETTINGS", "ImagesPreview", place.file) == number, "a number is read back");
   } catch (const env::RuntimeFailure&) {
   }
 }
 
-/// `writable`: no value contains a NUL. Such a value is not written and may then be missing.
+/// `writable`: whether no value contains a NUL. A value with one is not written and may be missing afterwards.
 void CheckPreferences(const Place& place, bool writable) {
   env::Preferences preferences = place.Read();
-  fuzz::Require(preferences.Browsers.size() <= env::kMostBrowsers, "there are no more browsers than may be");
-  fuzz::Require(!preferences.CreateFolder.empty() && !preferences.GalleryIndexFileName.empty(), "defaults stand in");
+  fuzz::Require(preferences.Browsers.size() <= env::kMostBrowsers, "the number of browsers is limited");
+  fuzz::Require(!preferences.CreateFolder.empty() && !preferences.GalleryIndexFileName.empty(),
+                "empty values get their defaults");
   env::WritePreferences(preferences, place.file);
   const env::Preferences again = place.Read();
-  preferences.Browsers = again.Browsers;  // not written here, but their keys may be found in any section
-  fuzz::Require(again == preferences || !writable, "preferences come back");
+  preferences.Browsers = again.Browsers;  // not written, but their keys may be found in any section
+  fuzz::Require(again == preferences || !writable, "preferences are read back");
 }
 
 void CheckBrowsers(const Place& place) {
   const std::vector<env::Browser> browsers = place.Read().Browsers;
   try {
     env::WriteBrowsers(browsers, place.file);
-    fuzz::Require(place.Read().Browsers == browsers, "browsers come back");
+    fuzz::Require(place.Read().Browsers == browsers, "browsers are read back");
   } catch (const env::RuntimeFailure&) {  // a text that cannot be a value
   }
 }

@@ -24,15 +24,15 @@ std::string MadeOfTheWhole(const image::cDIBSection& whole, const image::Picture
                            recipe.filters.sliderQuality);
 }
 
-/// Compares the output with one made from the whole picture. A low output skips most of the file's rows, a higher one
-/// some.
+/// Compares the output with one made from the whole picture. An output of few rows skips most of the file's rows, one
+/// of more rows skips some.
 void CheckPicture(const std::filesystem::path& file, const image::cDIBSection& whole,
                   const image::PictureRecipe& recipe) {
   std::stop_source stop;
   image::CoefficientBudget budget{std::uint64_t{1} << 30U};
   const image::PictureFiles files = image::MakePictures(file, {recipe, {}}, {stop.get_token(), budget});
-  fuzz::Require(files.decoded, "what can be read in whole can be read in part");
-  fuzz::Require(files.image.Bytes() == MadeOfTheWhole(whole, recipe), "rows left out do not show");
+  fuzz::Require(files.decoded, "a file that can be read completely can be read in part");
+  fuzz::Require(files.image.Bytes() == MadeOfTheWhole(whole, recipe), "skipped rows do not change the output");
 }
 
 bool ReadsReduced(const std::filesystem::path& file, int divisor) {
@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::int32_t width = 0;
   std::int32_t height = 0;
   const bool hasSize = image::ReadJPEGSize(file, width, height);
-  fuzz::Require(hasSize ? width >= 1 && height >= 1 : width == 0 && height == 0, "a size is a size, or left alone");
+  fuzz::Require(hasSize ? width >= 1 && height >= 1 : width == 0 && height == 0, "a size is valid, or is not changed");
   if (std::int64_t{width} * height > kMostPixels) return 0;
 
   image::cDIBSection whole;
@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::Require(!loaded || hasSize, "a picture has a size");
   fuzz::Require(!loaded || (whole.width() == width && whole.height() == height), "the size is that of the header");
   for (const int divisor : {2, 4, 8}) {
-    fuzz::Require(ReadsReduced(file, divisor) == loaded, "a picture can be read in every size or in none");
+    fuzz::Require(ReadsReduced(file, divisor) == loaded, "a picture can be read in all reduced sizes or in none");
   }
   if (!loaded) return 0;
   for (const std::int32_t rows : {2, 7, whole.height() / 3 + 1}) CheckPicture(file, whole, Sized(5, rows));

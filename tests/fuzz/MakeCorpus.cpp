@@ -75,7 +75,7 @@ void WriteNotedPhotographs(const fs::path& folder) {
 }
 
 /// A project that uses every part of the format.
-Project FullProject() {
+core::Project FullProject() {
   core::Project project;
   core::GalleryProject& settings = project.settings;
   settings.textGalleryTitle = "Holidays & \xC3\xA4";

@@ -17,7 +17,7 @@ void CheckText(const std::string& path) {
   fuzz::RequireEqual(env::GetFilePath(path) + env::GetFileName(path), prepared, "folder and name are the whole path");
   fuzz::Require(env::GetFileName(path).find('\\') == std::string::npos, "a name has no separator");
   fuzz::Require(path.ends_with(env::GetFileExtension(path)), "an extension is the end of its path");
-  fuzz::RequireEqual(env::WithSlashes(backslashes), env::WithSlashes(path), "separators are turned, and nothing else");
+  fuzz::RequireEqual(env::WithSlashes(backslashes), env::WithSlashes(path), "only separators are converted");
   fuzz::Require(env::WithTrailingBackslash(path).ends_with('\\'), "a folder ends in a backslash");
 }
 
@@ -47,7 +47,7 @@ void CheckMap(const env::PathMap& map, const std::string& path) {
     if (HasItsOwnText(*native)) {
       const auto again = map.ToNative(map.ToText(*native));
       fuzz::Require(again.has_value(), "the text of a native path is a path");
-      fuzz::RequireEqual(NormalForm(*again), NormalForm(*native), "and leads back");
+      fuzz::RequireEqual(NormalForm(*again), NormalForm(*native), "the text of a native path leads back to it");
     }
   }
   std::ignore = map.ToTextFromUser(path);

@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   recipe.size = image::PictureSize{5, upright.height() / 3 + 1};
   image::CoefficientBudget budget{std::uint64_t{1} << 30U};
   const image::PictureFiles files = image::MakePictures(file, {recipe, {}, kAll}, {{}, budget});
-  fuzz::Require(files.decoded, "what can be read in whole can be turned in part");
-  fuzz::Require(files.image.Bytes() == MadeOfTheWhole(upright, notes, recipe), "a part is turned as the whole");
+  fuzz::Require(files.decoded, "a photograph that can be read completely can be turned in part");
+  fuzz::Require(files.image.Bytes() == MadeOfTheWhole(upright, notes, recipe), "a part is turned like the whole");
   return 0;
 }

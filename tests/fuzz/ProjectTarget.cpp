@@ -13,9 +13,9 @@ using namespace vantorium;
 namespace {
 
 /// A session with a drive P:, which holds the two photographs of the corpus.
-class Desk : public fakes::ProjectDesk {
+class ProjectRoundTrip : public fakes::ProjectHarness {
  public:
-  Desk() {
+  ProjectRoundTrip() {
     paths = env::PathMap({{'P', folder.Path().string()}});
     folder.Write("a.jpg", "bytes");
     folder.Write("b.jpg", "more bytes");
@@ -31,7 +31,7 @@ class Desk : public fakes::ProjectDesk {
   /// The text of the project file with all line ends as LF: writing may change them.
   [[nodiscard]] std::string Written() { return OneLineEnd(core::ProjectFileText(project, events)); }
 
-  /// The images in the form that the file keeps: paths with slashes, and one kind of line end in texts.
+  /// The images as the file keeps them: paths with slashes, and one kind of line end in texts.
   [[nodiscard]] std::string Images() const {
     std::string text;
     for (std::size_t position = 1; position <= project.images.Count(); ++position) {
@@ -43,13 +43,13 @@ class Desk : public fakes::ProjectDesk {
   }
 
  private:
-  /// Character references can put a CR anywhere. Written in a CDATA section, it is a line end like any other.
+  /// A character reference can put a CR anywhere. Once written in a CDATA section, it is a line end like any other.
   static std::string OneLineEnd(const std::string& text) {
     return env::ReplaceAll(env::ReplaceAll(text, env::kCrLf, "\n"), "\r", "\n");
   }
 };
 
-/// Resets the settings that the writer puts where the reader does not look, see docs/project-file.md.
+/// Resets the settings that are written but not read back, see docs/project-file.md.
 void LoseWhatIsNotReadBack(core::GalleryProject& settings) {
   constexpr core::Choice kAbove = 2;
   constexpr core::Choice kBelow = 3;
@@ -64,7 +64,7 @@ void CheckXml(const std::string& bytes) {
   const auto text = core::DecodeXml(bytes);
   core::XmlFile file;
   const bool parsed = file.Parse(bytes);
-  fuzz::Require(parsed == (text && core::IsWellFormedXml(*text)), "what is well-formed is parsed, and nothing else");
+  fuzz::Require(parsed == (text && core::IsWellFormedXml(*text)), "exactly the well-formed documents are parsed");
   if (!parsed) return;
   std::size_t nodes = 0;
   for (auto node = file.Root(); node; node = core::NextInDocument(node, file.Root())) ++nodes;
@@ -74,21 +74,21 @@ void CheckXml(const std::string& bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static Desk desk;
+  static ProjectRoundTrip trip;
   const std::string input = fuzz::InputText(data, size);
   CheckXml(input);
-  if (!desk.Read(input)) {
-    fuzz::Require(!desk.boxes.boxes.empty(), "a project that can't be read gives a box");
-    std::ignore = core::ProjectFileText(desk.project, desk.events);  // a partly read project may be saved
+  if (!trip.Read(input)) {
+    fuzz::Require(!trip.boxes.boxes.empty(), "a project that cannot be read gives a message box");
+    std::ignore = core::ProjectFileText(trip.project, trip.events);  // a partly read project may be saved
     return 0;
   }
-  fuzz::Require(desk.boxes.boxes.empty(), "a project that was read gives no box");
-  LoseWhatIsNotReadBack(desk.project.settings);
-  const std::string images = desk.Images();
-  const std::string written = desk.Written();
-  fuzz::Require(desk.Read(core::ProjectFileText(desk.project, desk.events)),
-                "what was read can be written and read again");
-  fuzz::RequireEqual(desk.Images(), images, "the images come back");
-  fuzz::RequireEqual(desk.Written(), written, "the same project gives the same file");
+  fuzz::Require(trip.boxes.boxes.empty(), "a project that was read gives no message box");
+  LoseWhatIsNotReadBack(trip.project.settings);
+  const std::string images = trip.Images();
+  const std::string written = trip.Written();
+  fuzz::Require(trip.Read(core::ProjectFileText(trip.project, trip.events)),
+                "a project that was read can be written and read again");
+  fuzz::RequireEqual(trip.Images(), images, "the images are read back");
+  fuzz::RequireEqual(trip.Written(), written, "the same project gives the same file");
   return 0;
 }

@@ -44,9 +44,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   publish::ServerList again(file, boxes);
   again.Open();
   CheckSelection(again);
-  fuzz::Require(boxes.boxes.empty(), "what was written is read without a word");
+  fuzz::Require(boxes.boxes.empty(), "a written list is read without a message box");
   const bool isDefault = list.Profiles().empty() && again.Profiles().size() == 1;
-  fuzz::Require(isDefault || Comparable(again) == Comparable(list), "the servers come back");
-  fuzz::Require(isDefault || again.Selected() == list.Selected(), "so does the selected one");
+  fuzz::Require(isDefault || Comparable(again) == Comparable(list), "the servers are read back");
+  fuzz::Require(isDefault || again.Selected() == list.Selected(), "the selected server is read back");
   return 0;
 }

@@ -31,8 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto wanted = fakes::SomePixels(width, height, number);
     const auto expected = fakes::ReadByLibrary(file, wanted);
     const auto alone = fakes::ReadAlone(file, wanted);
-    fuzz::Require(!alone || alone == expected, "what is decoded without the library is what it decodes");
-    fuzz::Require(fakes::ReadAsWanted(file, wanted) == expected, "the library has the last word");
+    fuzz::Require(!alone || alone == expected, "SequentialDecoder equals libjpeg-turbo");
+    fuzz::Require(fakes::ReadAsWanted(file, wanted) == expected, "JPEGDecoder equals libjpeg-turbo");
   }
   return 0;
 }

@@ -21,23 +21,23 @@ class Page(HTMLParser):
         line = self.getpos()[0]
         anchor = attributes.get("id")
         if anchor and anchor in self.anchors:
-            self.wrong.append((line, f'anchor "{anchor}" stands there twice'))
+            self.wrong.append((line, f'anchor "{anchor}" occurs twice'))
         self.anchors.add(anchor)
         for name in ("href", "src"):
             if name in attributes:
                 self.links.append((line, attributes[name]))
         if tag == "img" and not attributes.get("alt"):
-            self.wrong.append((line, "image without a text for those who do not see it"))
+            self.wrong.append((line, "image without alternative text"))
 
 
 def wrong_link(link, page, pages, folder):
-    """The problem with a link of `page`, or None. A link out of the help is a problem."""
+    """The problem with a link of `page`, or None. A link to a place outside the help is a problem."""
     parts = urlsplit(link)
     if parts.scheme or parts.netloc:
-        return f'"{link}" leads out of the help'
+        return f'"{link}" is outside the help'
     target = (page.parent / unquote(parts.path)).resolve() if parts.path else page
     if not target.is_relative_to(folder) or not target.is_file():
-        return f'"{link}" is not there'
+        return f'"{link}" does not exist'
     if parts.fragment and (target not in pages or parts.fragment not in pages[target].anchors):
         return f'"{link}" has no such anchor'
     return None

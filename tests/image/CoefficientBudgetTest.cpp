@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Takes a share in its own thread and reports when it has the share.
+/// Takes a share in its own thread, and tells whether it has it yet.
 class Taker {
  public:
   Taker(CoefficientBudget& budget, std::uint64_t bytes)
@@ -21,12 +21,12 @@ class Taker {
           has_.notify_all();
           while (!stop.stop_requested()) std::this_thread::sleep_for(1ms);
         }) {}
-  [[nodiscard]] bool HasSoon() const {
+  [[nodiscard]] bool GetsItSoon() const {
     for (int i = 0; i < 50 && !has_; ++i) std::this_thread::sleep_for(1ms);
     return has_;
   }
   void AwaitShare() const { has_.wait(false); }
-  void GiveBack() {
+  void Release() {
     thread_.request_stop();
     thread_.join();
   }
@@ -36,39 +36,39 @@ class Taker {
   std::jthread thread_;
 };
 
-TEST(CoefficientBudget, SharesThatFitAreGivenAtOnce) {
+TEST(CoefficientBudget, SharesThatFitAreGrantedAtOnce) {
   CoefficientBudget budget(100);
   const auto first = budget.Take(60, {});
   const auto second = budget.Take(40, {});
   const auto nothing = budget.Take(0, {});
 }
 
-TEST(CoefficientBudget, AShareThatDoesNotFitWaitsForOthersToEnd) {
+TEST(CoefficientBudget, AShareThatDoesNotFitWaitsUntilOthersAreReleased) {
   CoefficientBudget budget(100);
   Taker first(budget, 60);
   first.AwaitShare();
   Taker second(budget, 60);
-  EXPECT_FALSE(second.HasSoon());
-  first.GiveBack();
+  EXPECT_FALSE(second.GetsItSoon());
+  first.Release();
   second.AwaitShare();
 }
 
-TEST(CoefficientBudget, AShareBeyondTheWholeIsGivenWhenItIsAlone) {
+TEST(CoefficientBudget, AShareLargerThanTheBudgetIsGrantedAlone) {
   CoefficientBudget budget(100);
   Taker small(budget, 1);
   small.AwaitShare();
   Taker large(budget, 1000);
-  EXPECT_FALSE(large.HasSoon());
-  small.GiveBack();
+  EXPECT_FALSE(large.GetsItSoon());
+  small.Release();
   large.AwaitShare();
 }
 
-TEST(CoefficientBudget, AStopEndsTheWaiting) {
+TEST(CoefficientBudget, AStopRequestEndsTheWait) {
   CoefficientBudget budget(100);
   const auto whole = budget.Take(100, {});
   Taker waiting(budget, 50);
-  EXPECT_FALSE(waiting.HasSoon());
-  waiting.GiveBack();
+  EXPECT_FALSE(waiting.GetsItSoon());
+  waiting.Release();
 }
 
 }  // namespace

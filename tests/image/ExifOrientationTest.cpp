@@ -6,7 +6,7 @@
 namespace vantorium::image {
 namespace {
 
-// Places in what ExifOf makes: "Exif" and two bytes, the TIFF header, the number of entries, entries of 12 bytes.
+// Offsets in the data of ExifOf: "Exif" and two bytes, the TIFF header, the number of entries, entries of 12 bytes.
 constexpr std::size_t kByteOrder = 6;
 constexpr std::size_t kVersion = 8;
 constexpr std::size_t kDirectory = 10;
@@ -15,21 +15,21 @@ constexpr std::size_t kSecondEntry = kEntries + 2 + 12;
 constexpr std::size_t kType = kSecondEntry + 2;
 constexpr std::size_t kCount = kSecondEntry + 4;
 
-TEST(ExifOrientation, EachOfTheEightIsReadInBothByteOrders) {
-  for (const bool greatestFirst : {false, true}) {
+TEST(ExifOrientation, EachOrientationIsReadInBothByteOrders) {
+  for (const bool bigEndian : {false, true}) {
     for (int value = 1; value <= 8; ++value) {
-      EXPECT_EQ(OrientationInExif(fakes::ExifOf(value, greatestFirst)), static_cast<Orientation>(value));
+      EXPECT_EQ(OrientationInExif(fakes::ExifOf(value, bigEndian)), static_cast<Orientation>(value));
     }
   }
 }
 
-TEST(ExifOrientation, AnyOtherNumberSaysNothing) {
+TEST(ExifOrientation, AnyOtherNumberIsIgnored) {
   for (const int value : {0, 9, 10, 255, 256, 0x0600, 65535}) {
     EXPECT_FALSE(OrientationInExif(fakes::ExifOf(value))) << value;
   }
 }
 
-TEST(ExifOrientation, DataThatAreCutOffBeforeTheValueSayNothing) {
+TEST(ExifOrientation, DataThatAreCutOffBeforeTheValueAreIgnored) {
   const std::string exif = fakes::ExifOf(6);
   const std::size_t needed = kSecondEntry + 10;
   for (std::size_t size = 0; size <= exif.size(); ++size) {
@@ -37,7 +37,7 @@ TEST(ExifOrientation, DataThatAreCutOffBeforeTheValueSayNothing) {
   }
 }
 
-TEST(ExifOrientation, DataThatAreWrongAnywhereBeforeTheTagSayNothing) {
+TEST(ExifOrientation, DataWithAnyWrongByteBeforeTheTagAreIgnored) {
   const std::string exif = fakes::ExifOf(6);
   for (const std::size_t place :
        {std::size_t{0}, std::size_t{4}, kByteOrder, kByteOrder + 1, kVersion, kVersion + 1, kDirectory, kDirectory + 1,
@@ -48,7 +48,7 @@ TEST(ExifOrientation, DataThatAreWrongAnywhereBeforeTheTagSayNothing) {
   }
 }
 
-TEST(ExifOrientation, ADirectoryThatClaimsMoreEntriesThanThereAreIsReadUpToTheEnd) {
+TEST(ExifOrientation, ADirectoryThatClaimsTooManyEntriesIsReadToTheEndOfTheData) {
   std::string exif = fakes::ExifOf(8);
   exif[kEntries] = exif[kEntries + 1] = '\xFF';
   EXPECT_EQ(OrientationInExif(exif), Orientation::TurnLeft);
@@ -56,7 +56,7 @@ TEST(ExifOrientation, ADirectoryThatClaimsMoreEntriesThanThereAreIsReadUpToTheEn
   EXPECT_FALSE(OrientationInExif(exif));
 }
 
-TEST(ExifOrientation, TheFillByteAfterTheNameMayBeAnything) {
+TEST(ExifOrientation, TheFillByteAfterTheNameMayHaveAnyValue) {
   std::string exif = fakes::ExifOf(3);
   exif[5] = '\xFF';
   EXPECT_EQ(OrientationInExif(exif), Orientation::TurnAround);

@@ -15,11 +15,11 @@ RGB Lightened(RGB color, std::int32_t amount) {
   return PixelAt(dib, 1, 1);
 }
 
-TEST(Lighten, TwiceTheLightOfMiddleGreyIsWhite) {
+TEST(Lighten, DoublingTheLightnessOfMiddleGreyGivesWhite) {
   EXPECT_EQ(Lightened({128, 128, 128}, 100), (RGB{255, 255, 255}));
 }
 
-TEST(Lighten, MinusHundredIsBlack) {
+TEST(Lighten, MinusHundredGivesBlack) {
   cDIBSection dib = fakes::Random(50, 20, 1);
   Lighten(dib, -100);
   EXPECT_EQ(fakes::Difference(dib, fakes::Plain(50, 20, {0, 0, 0})), "");
@@ -30,7 +30,7 @@ TEST(Lighten, HueIsKept) {
   EXPECT_EQ(Lightened({100, 50, 0}, -50), (RGB{50, 25, 0}));
 }
 
-TEST(Lighten, EveryColorIsAsTheLiteralFilterHasIt) {
+TEST(Lighten, EveryColorEqualsTheLiteralFilter) {
   cDIBSection fast = fakes::EveryColor();
   cDIBSection literal = fakes::EveryColor();
   Lighten(fast, 25);
@@ -54,7 +54,7 @@ cDIBSection TellingColors() {
   return dib;
 }
 
-TEST(Lighten, TellingColorsAtEveryAmountAreAsTheLiteralFilterHasThem) {
+TEST(Lighten, EdgeCaseColorsAtEveryAmountEqualTheLiteralFilter) {
   const cDIBSection colors = TellingColors();
   for (std::int32_t amount = -100; amount <= 100; ++amount) {
     cDIBSection fast = fakes::CopyOf(colors);
@@ -65,7 +65,7 @@ TEST(Lighten, TellingColorsAtEveryAmountAreAsTheLiteralFilterHasThem) {
   }
 }
 
-TEST(Lighten, BeyondTheRangeWhiteStaysWhiteAndLessThanBlackIsAFailure) {
+TEST(Lighten, BeyondTheRangeWhiteStaysWhiteAndDarkerThanBlackIsAFailure) {
   EXPECT_EQ(Lightened({200, 200, 200}, 500), (RGB{255, 255, 255}));
   cDIBSection dib = fakes::Plain(2, 2, {200, 200, 200});
   EXPECT_EQ(fakes::FailureOf([&] { Lighten(dib, -200); }), env::FailureKind::Overflow);

@@ -44,7 +44,7 @@ double Correlation(const std::vector<int>& a, const std::vector<int>& b, std::si
   return ab / std::sqrt(aa * bb);
 }
 
-TEST(AddNoise, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
+TEST(AddNoise, EveryByteAtEveryAmountEqualsTheLiteralFilter) {
   const cDIBSection source = fakes::Random(300, 20, 4);
   for (std::int32_t amount = 0; amount <= 100; ++amount) {
     for (const bool random : {false, true}) {
@@ -60,7 +60,7 @@ TEST(AddNoise, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
 }
 
 // A tie between two bytes occurs about once in 100,000 bytes.
-TEST(AddNoise, TiesAreRoundedAsTheLiteralFilterRoundsThem) {
+TEST(AddNoise, TiesAreRoundedLikeTheLiteralFilter) {
   cDIBSection fast = fakes::EveryColor();
   cDIBSection literal = fakes::EveryColor();
   NoiseStream one(1, 1);
@@ -70,7 +70,7 @@ TEST(AddNoise, TiesAreRoundedAsTheLiteralFilterRoundsThem) {
   EXPECT_EQ(fakes::Difference(fast, literal), "");
 }
 
-TEST(AddNoise, OffsetsFillTheSpreadEvenlyAndIndependently) {
+TEST(AddNoise, OffsetsAreUniformAndIndependent) {
   const cDIBSection dib = Noisy(fakes::Plain(500, 400, {128, 128, 128}), 100, false);
   std::vector<int> channels[3];
   for (int channel = 0; channel < 3; ++channel) {
@@ -103,7 +103,7 @@ TEST(AddNoise, WhiteAndBlackAreClamped) {
   EXPECT_LE(lightest, 64);
 }
 
-TEST(AddNoise, RandomNoiseLeavesTheAmountInHundredthsOfThePixelsAlone) {
+TEST(AddNoise, RandomNoiseLeavesThatPercentageOfThePixelsUnchanged) {
   for (const std::int32_t amount : {20, 50, 90}) {
     const cDIBSection dib = Noisy(fakes::Plain(400, 300, {128, 128, 128}), amount, true);
     int untreated = 0;
@@ -120,7 +120,7 @@ TEST(AddNoise, RandomNoiseOfHundredAndUniformNoiseOfZeroChangeNothing) {
   EXPECT_EQ(fakes::Difference(Noisy(fakes::CopyOf(source), 0, false), source), "");
 }
 
-TEST(AddNoise, EachPassAndEachPictureHasNumbersOfItsOwn) {
+TEST(AddNoise, EachPassAndEachPictureHasItsOwnNumbers) {
   NoiseStream stream(1, 7);
   cDIBSection first = fakes::Plain(50, 50, {128, 128, 128});
   cDIBSection second = fakes::CopyOf(first);

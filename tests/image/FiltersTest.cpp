@@ -23,14 +23,14 @@ RGB Grey(RGB color) {
   return Filtered(color, [](cDIBSection& dib) { GrayScale(dib); });
 }
 
-TEST(GrayScale, PureColorsHaveTheirWeights) {
+TEST(GrayScale, PureColorsAreWeighted) {
   EXPECT_EQ(Grey({255, 255, 255}), (RGB{255, 255, 255}));
   EXPECT_EQ(Grey({255, 0, 0}), (RGB{57, 57, 57}));
   EXPECT_EQ(Grey({0, 255, 0}), (RGB{180, 180, 180}));
   EXPECT_EQ(Grey({0, 0, 255}), (RGB{18, 18, 18}));
 }
 
-TEST(GrayScale, TiesGoToTheEvenByte) {
+TEST(GrayScale, TiesRoundToTheEvenByte) {
   int ties = 0;
   for (int r = 0; r < 256; ++r) {
     for (int g = 0; g < 256; ++g) {
@@ -45,7 +45,7 @@ TEST(GrayScale, TiesGoToTheEvenByte) {
   EXPECT_GT(ties, 20);
 }
 
-TEST(GrayScale, TwiceIsOnce) {
+TEST(GrayScale, ASecondPassChangesNothing) {
   cDIBSection once = fakes::Random(101, 50, 1);
   GrayScale(once);
   cDIBSection twice = fakes::CopyOf(once);
@@ -53,7 +53,7 @@ TEST(GrayScale, TwiceIsOnce) {
   EXPECT_EQ(fakes::Difference(twice, once), "");
 }
 
-TEST(GrayScale, EveryColorIsAsTheLiteralFilterHasIt) {
+TEST(GrayScale, EveryColorEqualsTheLiteralFilter) {
   cDIBSection fast = fakes::EveryColor();
   cDIBSection literal = fakes::EveryColor();
   GrayScale(fast);
@@ -61,19 +61,19 @@ TEST(GrayScale, EveryColorIsAsTheLiteralFilterHasIt) {
   EXPECT_EQ(fakes::Difference(fast, literal), "");
 }
 
-TEST(Fade, Amount255LeavesEveryByteAsItIs) {
+TEST(Fade, Amount255ChangesNothing) {
   cDIBSection dib = fakes::Random(77, 20, 2);
   const cDIBSection before = fakes::CopyOf(dib);
   Fade(dib, 255);
   EXPECT_EQ(fakes::Difference(dib, before), "");
 }
 
-TEST(Fade, QuotientsAreCut) {
+TEST(Fade, QuotientsAreTruncated) {
   EXPECT_EQ(Filtered({255, 1, 128}, [](cDIBSection& dib) { Fade(dib, 128); }), (RGB{128, 0, 64}));
   EXPECT_EQ(Filtered({255, 1, 128}, [](cDIBSection& dib) { Fade(dib, 0); }), (RGB{0, 0, 0}));
 }
 
-TEST(Fade, EveryByteAtEveryAmountIsAsTheLiteralFilterHasIt) {
+TEST(Fade, EveryByteAtEveryAmountEqualsTheLiteralFilter) {
   cDIBSection bytes = fakes::Plain(86, 1, {});
   for (int i = 0; i < 256; ++i) bytes.Row(0)[i] = static_cast<std::uint8_t>(i);
   for (int amount = 0; amount <= 255; ++amount) {
@@ -94,7 +94,7 @@ TEST(Fade, AByteThatDoesNotFitIsAFailure) {
   }
 }
 
-TEST(Filters, AllSizesAreAsTheLiteralFiltersHaveThemAndThePaddingStays) {
+TEST(Filters, AllSizesEqualTheLiteralFiltersAndThePaddingStays) {
   struct Pair {
     const char* name;
     std::function<void(cDIBSection&)> fast;

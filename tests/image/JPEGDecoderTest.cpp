@@ -39,7 +39,7 @@ Rows AllRows(const std::filesystem::path& path) {
   return rows;
 }
 
-// Reads some rows and skips the others, by single rows or by many. Always reads the last row, as all production code
+// Reads some rows and skips the others, singly or many at a time. Always reads the last row, as all production code
 // does. Returns the rows that differ from `wanted`.
 std::vector<std::int32_t> WrongRows(const std::filesystem::path& path, const Rows& wanted, unsigned seed) {
   std::mt19937 generator(seed);
@@ -57,7 +57,7 @@ std::vector<std::int32_t> WrongRows(const std::filesystem::path& path, const Row
   return wrong;
 }
 
-TEST(JPEGDecoder, RowsAfterSkippedOnesAreTheSameAsIfAllWereRead) {
+TEST(JPEGDecoder, RowsAfterSkippedRowsAreTheSameAsWithoutSkipping) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     SCOPED_TRACE(testing::Message() << recipe);
     const Sample sample(recipe);
@@ -69,7 +69,7 @@ TEST(JPEGDecoder, RowsAfterSkippedOnesAreTheSameAsIfAllWereRead) {
   }
 }
 
-TEST(JPEGDecoder, WantedRowsOfAllKindsOfFilesComeOutAsIfAllWereRead) {
+TEST(JPEGDecoder, WantedRowsOfAllKindsOfFilesAreTheSameAsWithoutSkipping) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     const Sample sample(recipe);
     for (const unsigned number : {0U, 3U}) {
@@ -81,7 +81,7 @@ TEST(JPEGDecoder, WantedRowsOfAllKindsOfFilesComeOutAsIfAllWereRead) {
   }
 }
 
-TEST(JPEGDecoder, ARowThatWasNotWantedComesOutAllTheSame) {
+TEST(JPEGDecoder, ARowThatWasNotWantedCanStillBeRead) {
   const Sample sample({});
   const Rows rows = AllRows(sample.path);
   JPEGDecoder decoder;
@@ -111,7 +111,7 @@ TEST(JPEGDecoder, OnlyFilesInSeveralScansHoldCoefficients) {
   }
 }
 
-TEST(JPEGDecoder, AStopEndsTheDecoding) {
+TEST(JPEGDecoder, AStopRequestEndsTheDecoding) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     const Sample sample(recipe);
     for (const bool isWanted : {false, true}) {
@@ -149,7 +149,7 @@ TEST(JPEGDecoder, FinishingBeforeTheLastRowIsAFailure) {
   }
 }
 
-TEST(JPEGDecoder, AGivenUpFileStaysGivenUp) {
+TEST(JPEGDecoder, AFileThatFailedKeepsFailing) {
   const fakes::TemporaryFolder folder;
   const std::string jpeg = fakes::MakeJpeg({.width = 100, .height = 100});
   JPEGDecoder decoder;
@@ -171,7 +171,7 @@ TEST(JPEGDecoder, AnotherFileCanBeOpenedAfterABadOne) {
   EXPECT_TRUE(decoder.Start());
 }
 
-TEST(JPEGDecoder, DamageAmongSkippedRowsIsNoticed) {
+TEST(JPEGDecoder, DamageInSkippedRowsIsDetected) {
   const fakes::TemporaryFolder folder;
   std::string jpeg = fakes::MakeJpeg({.width = 200, .height = 200, .restartEvery = 4});
   jpeg.erase(fakes::PictureDataOf(jpeg) + 100, 400);

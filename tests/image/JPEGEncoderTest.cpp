@@ -26,7 +26,7 @@ TEST(JPEGEncoder, FilesAreBaselineWithChromaHalvedInBothDirections) {
 }
 
 // Compares with libjpeg-turbo's own encoding at its defaults.
-TEST(JPEGEncoder, TheBytesAreThoseOfTheLibrarysDefaultsAtEachQuality) {
+TEST(JPEGEncoder, TheBytesEqualThoseOfLibjpegTurbosDefaultsAtEachQuality) {
   for (const int quality : {1, 24, 25, 50, 85, 99, 100}) {
     const cDIBSection dib = fakes::Random(35, 22, static_cast<unsigned>(quality));
     const auto pixels = [&dib](int x, int y) {
@@ -39,7 +39,7 @@ TEST(JPEGEncoder, TheBytesAreThoseOfTheLibrarysDefaultsAtEachQuality) {
   }
 }
 
-TEST(JPEGEncoder, LargeFilesComeOutWhole) {
+TEST(JPEGEncoder, LargeFilesAreComplete) {
   const std::string jpeg = EncodeJPEG(fakes::Random(600, 500, 3), 100);
   EXPECT_GT(jpeg.size(), 200000U);
   EXPECT_EQ(jpeg.substr(jpeg.size() - 2), "\xFF\xD9");
@@ -60,7 +60,7 @@ TEST(JPEGEncoder, FinishingBeforeTheLastRowIsAFailure) {
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = encoder.Finish(); }), env::FailureKind::JPEGLibrary);
 }
 
-TEST(JPEGEncoder, SizesThatNoFileCanHaveAreAFailure) {
+TEST(JPEGEncoder, SizesThatJPEGCannotStoreAreAFailure) {
   constexpr std::pair<std::int32_t, std::int32_t> kSizes[] = {{0, 4}, {4, 0}, {-1, 4}, {65501, 4}, {4, 70000}};
   for (const auto& [width, height] : kSizes) {
     EXPECT_EQ(fakes::FailureOf([&, &w = width, &h = height] { JPEGEncoder(w, h, 85); }), env::FailureKind::JPEGLibrary)

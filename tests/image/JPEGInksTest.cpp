@@ -6,7 +6,7 @@
 namespace vantorium::image {
 namespace {
 
-TEST(JPEGInks, EachInkLeavesItsShareOfTheLightAndBlackItsOwn) {
+TEST(JPEGInks, TheLightIsTheProductOfWhatInkAndBlackLeave) {
   for (unsigned ink = 0; ink < 256; ++ink) {
     for (unsigned black = 0; black < 256; ++black) {
       const auto light = static_cast<std::uint8_t>(std::lround((255 - ink) * (255 - black) / 255.0));
@@ -20,7 +20,7 @@ TEST(JPEGInks, EachInkLeavesItsShareOfTheLightAndBlackItsOwn) {
   }
 }
 
-TEST(JPEGInks, LightIsTheInkTurnedRound) {
+TEST(JPEGInks, InvertedInksAreLight) {
   const std::array<std::uint8_t, 8> inks = {10, 20, 30, 40, 250, 0, 128, 7};
   std::array<std::uint8_t, 8> light = inks;
   for (auto& byte : light) byte = static_cast<std::uint8_t>(255 - byte);

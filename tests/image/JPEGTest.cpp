@@ -49,7 +49,7 @@ class JPEG : public testing::Test {
   cDIBSection dib_;
 };
 
-TEST_F(JPEG, EveryKindOfFileLoadsAsTheLibraryDecodesIt) {
+TEST_F(JPEG, EveryKindOfFileIsLoadedAsLibjpegTurboDecodesIt) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     const std::string jpeg = MakeJpeg(recipe);
     ASSERT_TRUE(Loads(jpeg)) << recipe;
@@ -70,14 +70,14 @@ TEST_F(JPEG, TheSizeIsReadFromEveryKindOfFile) {
   }
 }
 
-TEST_F(JPEG, TheBottomRowOfThePictureComesFirst) {
+TEST_F(JPEG, TheBottomRowIsFirstInMemory) {
   const auto pixels = [](int, int y) { return std::array<std::uint8_t, 4>{std::uint8_t(y < 8 ? 250 : 10), 0, 0, 0}; };
   ASSERT_TRUE(Loads(MakeJpeg({.width = 8, .height = 16, .colors = JpegColors::Grey, .quality = 100}, pixels)));
   EXPECT_NEAR(PixelAt(dib_, 0, 0).r, 10, 2);
   EXPECT_NEAR(PixelAt(dib_, 0, 15).r, 250, 2);
 }
 
-TEST_F(JPEG, AGreyFileLoadsAsThreeEqualBytesAndIsSavedInColor) {
+TEST_F(JPEG, AGreyFileIsLoadedAsThreeEqualBytesAndSavedInColor) {
   ASSERT_TRUE(Loads(MakeJpeg({.colors = JpegColors::Grey})));
   for (std::int32_t x = 0; x < dib_.width(); ++x) {
     const RGB pixel = PixelAt(dib_, x, 3);
@@ -88,7 +88,7 @@ TEST_F(JPEG, AGreyFileLoadsAsThreeEqualBytesAndIsSavedInColor) {
 }
 
 // Cyan absorbs red, magenta green, yellow blue, and black all three.
-TEST_F(JPEG, InksBecomeTheLightThatTheyLeave) {
+TEST_F(JPEG, InksAreConvertedToTheLightThatTheyLeave) {
   struct Case {
     std::array<std::uint8_t, 4> inks;
     RGB light;
@@ -136,8 +136,8 @@ TEST_F(JPEG, AFileWhoseDataAreCutOffAnywhereIsNotLoaded) {
   }
 }
 
-// With bytes to spare, the decoder makes all rows before it looks for the mark.
-TEST_F(JPEG, AnArithmeticFileWithoutItsEndMarkIsNotLoaded) {
+// With spare bytes, the decoder outputs all rows before it looks for the marker.
+TEST_F(JPEG, AnArithmeticFileWithoutItsEndMarkerIsNotLoaded) {
   for (int width = 1; width <= 40; ++width) {
     const std::string jpeg = MakeJpeg({.width = width, .arithmetic = true});
     const std::size_t end = jpeg.size() - kEndMark;
@@ -148,11 +148,11 @@ TEST_F(JPEG, AnArithmeticFileWithoutItsEndMarkIsNotLoaded) {
   }
 }
 
-TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkIsLoaded) {
+TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkerIsLoaded) {
   auto kinds = fakes::EveryKindOfJpeg();
   kinds.push_back({.scanPerChannel = true});
   for (const auto& recipe : kinds) {
-    if (recipe.arithmetic) continue;  // without the end mark such data are never known to be complete
+    if (recipe.arithmetic) continue;  // without the end marker nothing shows that such data are complete
     const std::string jpeg = MakeJpeg(recipe);
     ASSERT_TRUE(Loads(jpeg)) << recipe;
     const cDIBSection whole = std::move(dib_);
@@ -164,7 +164,7 @@ TEST_F(JPEG, AFileThatLacksOnlyItsEndMarkIsLoaded) {
 }
 
 // Such a file has all rows of the picture, but none of them completely.
-TEST_F(JPEG, AFileThatEndsBetweenTwoOfItsScansIsNotLoaded) {
+TEST_F(JPEG, AFileThatEndsBetweenTwoScansIsNotLoaded) {
   for (const bool progressive : {false, true}) {
     const std::string jpeg = MakeJpeg({.progressive = progressive, .scanPerChannel = !progressive});
     std::size_t scans = 0;
@@ -172,7 +172,7 @@ TEST_F(JPEG, AFileThatEndsBetweenTwoOfItsScansIsNotLoaded) {
       ++scans;
       const std::size_t tables = jpeg.rfind("\xFF\xC4", scan);
       for (const std::size_t end : {scan, tables}) {
-        EXPECT_FALSE(Loads(jpeg.substr(0, end))) << "in front of scan " << scans << (progressive ? " progressive" : "");
+        EXPECT_FALSE(Loads(jpeg.substr(0, end))) << "before scan " << scans << (progressive ? " progressive" : "");
       }
     }
     EXPECT_GE(scans, 3U);
@@ -194,14 +194,14 @@ TEST_F(JPEG, DamagedDataAreNotLoaded) {
   }
 }
 
-TEST_F(JPEG, AMissingIntervalBetweenRestartMarkersIsDamage) {
+TEST_F(JPEG, AMissingRestartIntervalIsDamage) {
   const std::string jpeg = MakeJpeg({.width = 200, .height = 150, .restartEvery = 5});
   const std::size_t second = jpeg.find("\xFF\xD1");
   const std::size_t third = jpeg.find("\xFF\xD2");
   EXPECT_FALSE(Loads(std::string(jpeg).erase(second, third - second)));
 }
 
-TEST_F(JPEG, HarmlessOdditiesAreLoaded) {
+TEST_F(JPEG, FilesWithHarmlessOdditiesAreLoaded) {
   const std::string jpeg = MakeJpeg({});
   ASSERT_TRUE(Loads(jpeg));
   const cDIBSection plain = std::move(dib_);
@@ -222,7 +222,7 @@ TEST_F(JPEG, HarmlessOdditiesAreLoaded) {
   }
 }
 
-TEST_F(JPEG, AnUnreadableJPEGFileIsRefusedAndNothingChanges) {
+TEST_F(JPEG, AnUnreadableFileIsRefusedAndThePictureStays) {
   std::filesystem::create_directory(folder_.Path() / "folder");
   ASSERT_EQ(::mkfifo((folder_.Path() / "pipe").c_str(), 0600), 0);
   folder_.Write("empty", "");
@@ -246,7 +246,7 @@ TEST_F(JPEG, AnUnreadableJPEGFileIsRefusedAndNothingChanges) {
   }
 }
 
-TEST_F(JPEG, AClaimOfMorePixelsThanTheFileCanHoldTakesNoMemory) {
+TEST_F(JPEG, AHeaderWithMorePixelsThanTheFileCanHoldAllocatesNoMemory) {
   for (const bool progressive : {false, true}) {
     for (const bool arithmetic : {false, true}) {
       for (const auto colors : {JpegColors::Grey, JpegColors::YCbCr, JpegColors::YCCK}) {
@@ -266,7 +266,7 @@ TEST_F(JPEG, AClaimOfMorePixelsThanTheFileCanHoldTakesNoMemory) {
   }
 }
 
-TEST_F(JPEG, TheFlattestPicturesAreBelieved) {
+TEST_F(JPEG, TheMostCompressiblePicturesAreLoaded) {
   const auto black = [](int, int) { return std::array<std::uint8_t, 4>{}; };
   for (const bool progressive : {false, true}) {
     for (const bool arithmetic : {false, true}) {
@@ -280,7 +280,7 @@ TEST_F(JPEG, TheFlattestPicturesAreBelieved) {
 }
 
 // Repeating the first scan is valid, because it only repeats its data.
-TEST_F(JPEG, ThousandsOfScansAreNotSatThrough) {
+TEST_F(JPEG, FilesWithThousandsOfScansAreRefused) {
   const std::string jpeg = MakeJpeg({.colors = JpegColors::Grey, .progressive = true});
   const std::size_t first = jpeg.find("\xFF\xDA");
   const std::size_t tables = jpeg.find("\xFF\xC4", first);
@@ -306,14 +306,14 @@ TEST_F(JPEG, ASavedPictureIsLoadedAgain) {
   EXPECT_NEAR(PixelAt(dib_, 6, 3).b, 50, 2);
 }
 
-TEST_F(JPEG, ThePictureJustLoadedMayBeSavedToItsFile) {
+TEST_F(JPEG, ALoadedPictureCanBeSavedToItsFile) {
   const auto path = folder_.Write("picture.jpg", MakeJpeg({}));
   ASSERT_TRUE(LoadJPEGImage(dib_, path));
   SaveJPEGImage(dib_, path, 40);
   EXPECT_EQ(fakes::TemporaryFolder::ReadFile(path), EncodeJPEG(dib_, 40));
 }
 
-TEST_F(JPEG, AFileThatCannotBeWrittenFailsWithLibjpegsNumber) {
+TEST_F(JPEG, AFileThatCannotBeWrittenFailsWithTheErrorNumberOfLibjpeg) {
   const auto readOnly = folder_.Write("old.jpg", "old");
   std::filesystem::permissions(readOnly, std::filesystem::perms::owner_read);
   std::filesystem::create_directory(folder_.Path() / "folder");
@@ -330,7 +330,7 @@ TEST_F(JPEG, AFileThatCannotBeWrittenFailsWithLibjpegsNumber) {
   EXPECT_EQ(folder_.Read("old.jpg"), "old");
 }
 
-TEST_F(JPEG, APictureThatCannotBeEncodedFailsWithLibjpegsNumber) {
+TEST_F(JPEG, APictureThatCannotBeEncodedFailsWithTheErrorNumberOfLibjpeg) {
   EXPECT_EQ(fakes::FailureOf([] { std::ignore = EncodeJPEG(cDIBSection(), 85); }), env::FailureKind::JPEGLibrary);
   cDIBSection cleared = fakes::Plain(4, 4, {});
   cleared.ClearUp();

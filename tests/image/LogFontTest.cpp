@@ -5,7 +5,7 @@
 namespace vantorium::image {
 namespace {
 
-TEST(LogFont, TheHeightIsTheEmOfThePointsOnThatScreen) {
+TEST(LogFont, TheHeightIsTheEmInPixelsOfTheScreen) {
   struct Case {
     std::int16_t points;
     std::int32_t pixelsPerInch;
@@ -15,11 +15,11 @@ TEST(LogFont, TheHeightIsTheEmOfThePointsOnThatScreen) {
                         Case{-36, 96, 48}, Case{32767, 96, -43689}, Case{3, 12, 0}, Case{3, 36, -2}, Case{5, 36, -2}}) {
     const WatermarkSettings settings{.FontSize = c.points};
     EXPECT_EQ(MakeWatermarkFont(settings, c.pixelsPerInch).lfHeight, c.height)
-        << c.points << " points, " << c.pixelsPerInch << " pixels an inch";
+        << c.points << " points, " << c.pixelsPerInch << " pixels per inch";
   }
 }
 
-TEST(LogFont, SwitchesAreZeroOrOne) {
+TEST(LogFont, FlagsAreZeroOrOne) {
   const LogFont plain = MakeWatermarkFont({}, 96);
   EXPECT_EQ(plain.lfItalic + plain.lfUnderline + plain.lfStrikeOut, 0);
   const WatermarkSettings settings{.FontItalic = true, .FontUnderline = true, .FontStrikeout = true};
@@ -42,7 +42,7 @@ TEST(LogFont, FieldsWithoutASettingAreZero) {
   EXPECT_EQ(font.lfQuality, 0);
 }
 
-TEST(LogFont, TheFaceNameIsCutAfter31Characters) {
+TEST(LogFont, TheFaceNameIsTruncatedTo31Characters) {
   EXPECT_EQ(MakeWatermarkFont({}, 96).lfFaceName, "Arial");
   EXPECT_EQ(MakeWatermarkFont({.FontName = ""}, 96).lfFaceName, "");
   EXPECT_EQ(MakeWatermarkFont({.FontName = std::string(40, 'x')}, 96).lfFaceName, std::string(31, 'x'));

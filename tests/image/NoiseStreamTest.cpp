@@ -5,7 +5,7 @@
 namespace vantorium::image {
 namespace {
 
-TEST(NoiseStream, NumbersAreSinglesBelowOne) {
+TEST(NoiseStream, NumbersAreSinglePrecisionBelowOne) {
   const NoiseRow row = NoiseStream(1, 2).Row(3);
   double sum = 0;
   for (std::uint32_t i = 0; i < 100000; ++i) {
@@ -26,7 +26,7 @@ TEST(NoiseStream, EqualSeedsPicturesAndPlacesGiveEqualNumbers) {
   EXPECT_EQ(one.Row(7).Bits(8), other.Row(7).Bits(8));
 }
 
-TEST(NoiseStream, AStreamThatBeginsWithALaterRowHasTheNumbersOfThatRow) {
+TEST(NoiseStream, AStreamCanBeginAtAnyRow) {
   NoiseStream whole(5, 6);
   NoiseStream part(5, 6, 70);
   whole.NextPass();
@@ -36,7 +36,7 @@ TEST(NoiseStream, AStreamThatBeginsWithALaterRowHasTheNumbersOfThatRow) {
   EXPECT_NE(part.Row(0).Bits(8), whole.Row(0).Bits(8));
 }
 
-TEST(NoiseStream, SeedPicturePassRowAndPlaceAllCount) {
+TEST(NoiseStream, SeedPicturePassRowAndPlaceAllChangeTheNumbers) {
   std::set<std::uint32_t> numbers;
   int asked = 0;
   for (std::uint64_t seed = 0; seed < 4; ++seed) {
@@ -56,7 +56,7 @@ TEST(NoiseStream, SeedPicturePassRowAndPlaceAllCount) {
   EXPECT_GT(numbers.size(), 766U);  // two of 768 random 24-bit numbers may be equal by chance
 }
 
-TEST(NoiseStream, EachBitOfAPlaceTurnsEachBitOfItsNumberOverHalfOfTheTime) {
+TEST(NoiseStream, EachBitOfAPlaceFlipsEachBitOfItsNumberHalfOfTheTime) {
   constexpr std::uint32_t kPlaces = 4000;
   const NoiseRow row = NoiseStream(9, 9).Row(0);
   for (unsigned in = 0; in < 20; ++in) {

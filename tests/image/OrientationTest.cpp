@@ -7,7 +7,7 @@
 namespace vantorium::image {
 namespace {
 
-TEST(TurnUpright, AWholePictureIsTurnedAsPixelByPixel) {
+TEST(TurnUpright, AWholePictureIsTurnedLikeItsSinglePixels) {
   for (const auto& [width, height] : {std::pair{1, 1}, {1, 9}, {9, 1}, {4, 4}, {7, 5}, {20, 33}}) {
     for (int value = 1; value <= 8; ++value) {
       const auto orientation = static_cast<Orientation>(value);
@@ -25,14 +25,14 @@ TEST(TurnUpright, AWholePictureIsTurnedAsPixelByPixel) {
   }
 }
 
-TEST(TurnUpright, APictureStoredWithItsTopAtTheRightIsTurnedLeftToAreUpright) {
+TEST(TurnUpright, APictureStoredWithItsTopAtTheRightIsTurnedLeft) {
   cDIBSection picture = fakes::Plain(3, 2, {0, 0, 0});
-  picture.Row(1)[0] = 255;  // blue at the top left of what is stored
+  picture.Row(1)[0] = 255;  // blue at the top left of the stored picture
   ASSERT_TRUE(TurnUpright(picture, Orientation::TurnLeft));
   EXPECT_EQ(fakes::PixelAt(picture, 0, 0), (fakes::RGB{0, 0, 255}));
 }
 
-TEST(Turn, FromTheFifthOnTheSidesChangePlaces) {
+TEST(Turn, TheLastFourOrientationsSwapWidthAndHeight) {
   for (int value = 1; value <= 8; ++value) {
     const PictureSize upright = Turn(static_cast<Orientation>(value)).SizeOf({4, 3});
     EXPECT_EQ(upright, value < 5 ? (PictureSize{4, 3}) : (PictureSize{3, 4})) << value;

@@ -81,7 +81,7 @@ TEST_F(PangoTextRasterTest, AFontThatDoesNotExistIsSubstituted) {
   }
 }
 
-TEST_F(PangoTextRasterTest, TheHeightIsThatOfTheEm) {
+TEST_F(PangoTextRasterTest, ANegativeHeightIsThatOfTheEm) {
   // Capital letters of this font have a height of 1409 / 2048 em.
   for (const std::int32_t em : {20, 48, 100, 400, 512, 513, 3000}) {
     const TextMask letter = raster.Draw(FontOf(-em), "H", {}, 3000, 3000);
@@ -142,7 +142,7 @@ TEST_F(PangoTextRasterTest, TextOutsideThePictureIsClipped) {
   EXPECT_TRUE(PixelsOf(raster.Draw(FontOf(-48), "SAMPLE", {}, -1, 40000)).empty());
 }
 
-TEST_F(PangoTextRasterTest, ATurnedLineIsAnchoredAtTheMiddleOfItsLowerEdge) {
+TEST_F(PangoTextRasterTest, ATurnedLineIsAnchoredAtTheMiddleOfItsBottom) {
   const LogFont font = FontOf(-48, 700);
   const std::int32_t x = kWidth / 2;
   const std::int32_t y = kHeight / 2;
@@ -174,7 +174,7 @@ TEST_F(PangoTextRasterTest, SeveralLinesAreNeverTurned) {
   EXPECT_EQ(PixelsOf(DrawLines(turned, "SAMPLE")), PixelsOf(DrawLines(FontOf(-48), "SAMPLE")));
 }
 
-TEST_F(PangoTextRasterTest, EachFurtherTurnedLineIsALineHeightStraightBelow) {
+TEST_F(PangoTextRasterTest, EachTurnedLineIsOneLineHeightStraightBelowTheLast) {
   LogFont font = FontOf(-30, 700);
   const std::int32_t lineHeight = 33;
   ASSERT_EQ(raster.Measure(font, "x", TextForm::Turned).height, lineHeight);
@@ -201,7 +201,7 @@ TEST_F(PangoTextRasterTest, ATurnedTextIsMeasuredByItsFirstLine) {
   EXPECT_EQ(raster.Measure(font, "", TextForm::Turned), TextExtent());
 }
 
-TEST_F(PangoTextRasterTest, BoldHasMoreInkAndItalicLeans) {
+TEST_F(PangoTextRasterTest, BoldHasMorePixelsAndItalicLeans) {
   const TextMask normal = DrawLines(FontOf(-96), "HHH");
   const TextMask bold = DrawLines(FontOf(-96, 700), "HHH");
   EXPECT_GT(PixelsOf(bold).size(), PixelsOf(normal).size() * 5 / 4);
@@ -212,7 +212,7 @@ TEST_F(PangoTextRasterTest, BoldHasMoreInkAndItalicLeans) {
   EXPECT_EQ(PixelsOf(DrawLines(FontOf(-96, 0), "HHH")), PixelsOf(normal));
 }
 
-TEST_F(PangoTextRasterTest, StrokesRunUnderAndThroughTheWholeLineWithItsBlanks) {
+TEST_F(PangoTextRasterTest, UnderlineAndStrikeoutIncludeBlanks) {
   LogFont font = FontOf(-48);
   const auto width = static_cast<std::size_t>(raster.Measure(font, "H H ", TextForm::Lines).width);
   const auto fullRows = [&](const LogFont& f) {
@@ -268,7 +268,7 @@ TEST_F(PangoTextRasterTest, AnEmptyTextDrawsNothing) {
   }
 }
 
-TEST_F(PangoTextRasterTest, HugeLettersKeepTheirMeasures) {
+TEST_F(PangoTextRasterTest, HugeLettersAreMeasuredAndPlacedExactly) {
   for (const std::int32_t em : {1025, 5000, 43689, 65535, 1000000}) {
     EXPECT_EQ(raster.Measure(FontOf(-em), "H", TextForm::Turned).height,
               std::lround(em * 1854.0 / 2048) + std::lround(em * 434.0 / 2048))
@@ -290,7 +290,7 @@ TEST_F(PangoTextRasterTest, HugeLettersOfEveryScriptAreDrawn) {
   }
 }
 
-TEST_F(PangoTextRasterTest, LongTextsKeepTheirMeasures) {
+TEST_F(PangoTextRasterTest, LongTextsAreMeasuredAndPlacedExactly) {
   const std::string text(100000, 'H');
   EXPECT_EQ(raster.Measure(FontOf(-48), text, TextForm::Lines).width, 100000 * 35);
   const std::int64_t wide = raster.Measure(FontOf(-43689), "H", TextForm::Turned).width;
@@ -299,7 +299,7 @@ TEST_F(PangoTextRasterTest, LongTextsKeepTheirMeasures) {
   EXPECT_EQ(PixelsOf(DrawLine(FontOf(-48), text, 36)), PixelsOf(DrawLine(FontOf(-48), std::string(100, 'H'), 36)));
 }
 
-TEST_F(PangoTextRasterTest, ThreadsShareIt) {
+TEST_F(PangoTextRasterTest, OneRasterCanBeUsedByManyThreads) {
   const Pixels wanted = PixelsOf(DrawLine(FontOf(-30), "SAMPLE \u0628\u0628", 36));
   std::vector<int> wrong(4);
   {

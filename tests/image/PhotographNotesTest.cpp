@@ -26,7 +26,7 @@ class PhotographNotesTest : public ::testing::Test {
   std::string jpeg = fakes::MakeJpeg({});
 };
 
-TEST_F(PhotographNotesTest, WhatIsAskedForIsReadAndNothingElse) {
+TEST_F(PhotographNotesTest, OnlyRequestedNotesAreRead) {
   const std::string profile = fakes::ProfileOf(fakes::TestProfile::AdobeRGB);
   const std::string photograph = fakes::WithOrientation(fakes::WithProfile(jpeg, profile), 6);
   const auto all = Read(photograph);
@@ -38,13 +38,13 @@ TEST_F(PhotographNotesTest, WhatIsAskedForIsReadAndNothingElse) {
   EXPECT_EQ(Read(photograph, {}).orientation, Orientation::AsStored);
 }
 
-TEST_F(PhotographNotesTest, AFileWithoutNotesIsAsItIsStored) {
+TEST_F(PhotographNotesTest, AFileWithoutNotesHasTheDefaults) {
   const auto notes = Read(jpeg);
   EXPECT_EQ(notes.orientation, Orientation::AsStored);
   EXPECT_TRUE(notes.profile.empty());
 }
 
-TEST_F(PhotographNotesTest, TheFirstExifSegmentThatSaysAnOrientationCounts) {
+TEST_F(PhotographNotesTest, TheFirstExifSegmentWithAnOrientationIsUsed) {
   const std::string other = JpegSegment(kAPP1, "http://ns.adobe.com/xap/1.0/");
   const std::string garbage = JpegSegment(kAPP1, ExifOf(6).substr(0, 20));
   const std::string six = JpegSegment(kAPP1, ExifOf(6));
@@ -61,17 +61,17 @@ TEST_F(PhotographNotesTest, BytesThatBelongToNoSegmentAreSkipped) {
   const std::string six = JpegSegment(kAPP1, ExifOf(6));
   EXPECT_EQ(OrientationWith("stray bytes" + six), 6);
   EXPECT_EQ(OrientationWith("\xFF\xFF\xFF" + six), 6);
-  EXPECT_EQ(OrientationWith("\xFF\x01" + six), 6) << "a marker that stands alone";
+  EXPECT_EQ(OrientationWith("\xFF\x01" + six), 6) << "a marker without a segment";
   EXPECT_EQ(OrientationWith(std::string("\xFF\xEE\0\0", 4) + six), 6) << "a length of 0";
   EXPECT_EQ(OrientationWith(std::string("\xFF\0", 2) + six), 6) << "a stuffed zero";
 }
 
-TEST_F(PhotographNotesTest, NotesAfterThePictureAreNotItsOwn) {
+TEST_F(PhotographNotesTest, NotesAfterThePictureAreIgnored) {
   EXPECT_EQ(Read(jpeg + JpegSegment(kAPP1, ExifOf(6))).orientation, Orientation::AsStored);
   EXPECT_EQ(OrientationWith("\xFF\xD9" + JpegSegment(kAPP1, ExifOf(6))), 1) << "after the end of another picture";
 }
 
-TEST_F(PhotographNotesTest, AFileThatEndsInTheMiddleOfANoteIsReadToItsEndAndSaysNothing) {
+TEST_F(PhotographNotesTest, AFileThatEndsInTheMiddleOfANoteHasNoNotes) {
   const std::string photograph = fakes::WithOrientation(fakes::WithProfile(jpeg, std::string(500, 'p')), 6);
   const std::size_t exifEnd = 2 + JpegSegment(kAPP1, ExifOf(6)).size();
   for (std::size_t size = 0; size < exifEnd + 200; ++size) {
@@ -81,7 +81,7 @@ TEST_F(PhotographNotesTest, AFileThatEndsInTheMiddleOfANoteIsReadToItsEndAndSays
   }
 }
 
-TEST_F(PhotographNotesTest, WhatIsNotAJpegFileHasNoNotes) {
+TEST_F(PhotographNotesTest, AFileThatIsNotAJpegHasNoNotes) {
   const std::string six = JpegSegment(kAPP1, ExifOf(6));
   for (const std::string& bytes : {std::string(), std::string("\xFF"), six, "text" + jpeg, std::string(500, '\xFF')}) {
     EXPECT_EQ(Read(bytes).orientation, Orientation::AsStored);

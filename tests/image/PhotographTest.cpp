@@ -25,7 +25,7 @@ class PhotographTest : public ::testing::Test {
   std::string jpeg = fakes::MakeJpeg({.width = 31, .height = 12});
 };
 
-TEST_F(PhotographTest, TheSizeIsThatOfTheTurnedPhotographOnlyIfItIsToAreUpright) {
+TEST_F(PhotographTest, WidthAndHeightAreSwappedOnlyIfThePhotographIsToBeTurned) {
   for (int value = 1; value <= 8; ++value) {
     const std::string photograph = fakes::WithOrientation(jpeg, value);
     EXPECT_EQ(SizeOf(photograph, false), std::pair(31, 12)) << value;
@@ -33,7 +33,7 @@ TEST_F(PhotographTest, TheSizeIsThatOfTheTurnedPhotographOnlyIfItIsToAreUpright)
   }
 }
 
-TEST_F(PhotographTest, WhatIsNotAPhotographHasNoSize) {
+TEST_F(PhotographTest, AFileThatIsNotAPhotographHasNoSize) {
   EXPECT_EQ(SizeOf("text", true), std::pair(-1, -1));
   EXPECT_EQ(SizeOf("", true), std::pair(-1, -1));
 }

@@ -6,7 +6,7 @@
 #include "image/literal/WatermarkLiteral.h"
 #include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/FailureOf.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/image/PictureFixtures.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ std::shared_ptr<const WatermarkPainter> PainterOf(std::int16_t placement, const 
   return std::make_shared<const WatermarkPainter>(settings, 96, raster);
 }
 
-/// The output at the source's own size, made row by row.
+/// The output at the source's size, made row by row.
 std::string MakeOf(const cDIBSection& source, const PictureRecipe& recipe) {
   PictureOutput output(recipe, {source.width(), source.height()});
   for (std::int32_t row = output.NextSourceRow(); row >= 0; row = output.NextSourceRow()) {
@@ -37,7 +37,7 @@ void DrawMark(cDIBSection& picture, std::int16_t placement, const TextRaster& ra
   image::literal::DrawWatermarkTextLiteral(picture, font, "MARK", placement, 0x20C0FF, 65, raster);
 }
 
-TEST(PictureOutput, TheWatermarkIsDrawnRowByRowAsOnTheWholePicture) {
+TEST(PictureOutput, AWatermarkDrawnRowByRowEqualsOneDrawnOnTheWholePicture) {
   const PangoTextRaster raster;
   const cDIBSection source = fakes::Random(kWidth, kHeight, 3);
   for (std::int16_t placement = 0; placement <= 10; ++placement) {
@@ -49,7 +49,7 @@ TEST(PictureOutput, TheWatermarkIsDrawnRowByRowAsOnTheWholePicture) {
   }
 }
 
-TEST(PictureOutput, TheFiltersDoNotTouchTheWatermark) {
+TEST(PictureOutput, FiltersDoNotChangeTheWatermark) {
   const PangoTextRaster raster;
   const cDIBSection source = fakes::Random(kWidth, kHeight, 4);
   PictureRecipe recipe;
@@ -62,7 +62,7 @@ TEST(PictureOutput, TheFiltersDoNotTouchTheWatermark) {
   EXPECT_EQ(MakeOf(source, recipe), EncodeJPEG(wanted, 85));
 }
 
-TEST(PictureOutput, APictureThatCannotHaveItsWatermarkFails) {
+TEST(PictureOutput, APictureWhoseWatermarkCannotBeDrawnFails) {
   const fakes::BoxTextRaster tooWide(40000, 10);
   PictureRecipe recipe;
   recipe.watermark = PainterOf(4, tooWide);
@@ -74,7 +74,7 @@ TEST(PictureOutput, APictureThatCannotHaveItsWatermarkFails) {
   EXPECT_EQ(fakes::FailureOf([&] { const PictureOutput output(recipe, {kWidth, kHeight}); }), std::nullopt);
 }
 
-TEST(PictureOutput, APictureWiderThanAWatermarkCanCountFailsOnlyWithOne) {
+TEST(PictureOutput, APictureTooWideForAWatermarkFailsOnlyWithOne) {
   const fakes::BoxTextRaster raster(4, 2);
   PictureRecipe recipe;
   recipe.size = PictureSize{32768, 2};
@@ -86,7 +86,7 @@ TEST(PictureOutput, APictureWiderThanAWatermarkCanCountFailsOnlyWithOne) {
             env::FailureKind::Overflow);
 }
 
-TEST(PictureOutput, ASideThatNoFileCanHaveIsRefusedInTheEncodersWordsWithoutMemoryForIt) {
+TEST(PictureOutput, ASizeThatJPEGCannotStoreFailsWithTheEncodersMessageBeforeMemoryIsAllocated) {
   const auto refusal = [](const PictureRecipe& recipe) -> std::string {
     try {
       const PictureOutput output(recipe, {kWidth, kHeight});
@@ -107,7 +107,7 @@ TEST(PictureOutput, ASideThatNoFileCanHaveIsRefusedInTheEncodersWordsWithoutMemo
   }
 }
 
-TEST(PictureOutput, TheLargestPictureTakesMemoryForAFewRowsWithFiltersToo) {
+TEST(PictureOutput, TheLargestPictureNeedsMemoryForAFewRowsEvenWithFilters) {
   PictureRecipe recipe = {.size = PictureSize{65500, 65500}};
   recipe.filters.checkBrightness = recipe.filters.checkNoise = recipe.filters.checkGrayscale = 1;
   const std::vector<std::uint8_t> row(3 * 4, 77);

@@ -54,7 +54,7 @@ PictureRecipe Filtered(PictureRecipe recipe) {
   return recipe;
 }
 
-TEST_F(PictureTest, BothOutputsEqualThePlainRoutinesOnTheWholePictureForEveryKindOfFile) {
+TEST_F(PictureTest, BothOutputsOfEveryKindOfFileEqualTheLiteralRoutines) {
   for (const auto& kind : fakes::EveryKindOfJpeg()) {
     const std::string jpeg = fakes::MakeJpeg(kind);
     for (const auto& image :
@@ -70,7 +70,7 @@ TEST_F(PictureTest, BothOutputsEqualThePlainRoutinesOnTheWholePictureForEveryKin
   }
 }
 
-TEST_F(PictureTest, OneOutputAloneIsTheSameAsBesideTheOther) {
+TEST_F(PictureTest, AnOutputDoesNotDependOnTheOther) {
   const std::string jpeg = fakes::MakeJpeg({.width = 90, .height = 61});
   const auto both = Make(jpeg, {Sized(20, 30), Sized(7, 8)});
   EXPECT_EQ(Make(jpeg, {Sized(20, 30), {}}).image.Bytes(), both.image.Bytes());
@@ -78,7 +78,7 @@ TEST_F(PictureTest, OneOutputAloneIsTheSameAsBesideTheOther) {
   EXPECT_TRUE(Make(jpeg, {{}, Sized(7, 8)}).image.Bytes().empty());
 }
 
-TEST_F(PictureTest, SkippedRowsDoNotShowInWhatIsMadeOfTheOthers) {
+TEST_F(PictureTest, SkippingRowsDoesNotChangeTheOutput) {
   for (int height : {16, 17, 31, 64, 65, 200}) {
     const std::string jpeg = fakes::MakeJpeg({.width = 48, .height = height});
     for (std::int32_t rows : {1, 2, 3, 5, 8, 13}) {
@@ -90,7 +90,7 @@ TEST_F(PictureTest, SkippedRowsDoNotShowInWhatIsMadeOfTheOthers) {
   }
 }
 
-TEST_F(PictureTest, APictureOfOneRowOrColumnIsMadeOfWhatIsThere) {
+TEST_F(PictureTest, APictureOfOneRowOrColumnCanBeEnlarged) {
   for (const auto& [width, height] : {std::pair{1, 1}, {1, 50}, {50, 1}, {2, 2}}) {
     const std::string jpeg = fakes::MakeJpeg({.width = width, .height = height});
     const auto files = Make(jpeg, {Sized(5, 6), Sized(1, 1)});
@@ -100,14 +100,14 @@ TEST_F(PictureTest, APictureOfOneRowOrColumnIsMadeOfWhatIsThere) {
   }
 }
 
-TEST_F(PictureTest, AFileThatEndsEarlyIsNotDecodedWhereverItEnds) {
+TEST_F(PictureTest, ATruncatedFileIsNotDecoded) {
   const std::string jpeg = fakes::MakeJpeg({.width = 64, .height = 64});
   for (std::size_t size = fakes::PictureDataOf(jpeg); size + 2 < jpeg.size(); size += 50) {
     EXPECT_FALSE(Make(jpeg.substr(0, size), {Sized(5, 5), Sized(2, 2)}).decoded) << size << " of " << jpeg.size();
   }
 }
 
-TEST_F(PictureTest, AFileThatLacksOnlyItsEndMarkMakesTheSamePictures) {
+TEST_F(PictureTest, AFileThatLacksOnlyItsEndMarkerMakesTheSamePictures) {
   for (const bool progressive : {false, true}) {
     const std::string jpeg = fakes::MakeJpeg({.width = 64, .height = 64, .progressive = progressive});
     const auto whole = Make(jpeg, {Sized(5, 5), Sized(2, 2)});
@@ -126,26 +126,26 @@ TEST_F(PictureTest, AFileThatIsNotAPictureIsNotDecoded) {
   EXPECT_FALSE(MakePictures(folder.Path(), {Sized(5, 5), {}}, {{}, budget}).decoded);
 }
 
-TEST_F(PictureTest, ASizeWithoutPixelsFailsOnlyItsOwnOutput) {
+TEST_F(PictureTest, AnOutputWithoutPixelsFailsAlone) {
   const auto files = Make(fakes::MakeJpeg({}), {Sized(10, 0), Sized(4, 4)});
   ASSERT_TRUE(files.decoded);
   EXPECT_THROW(std::ignore = files.image.Bytes(), env::RuntimeFailure);
   EXPECT_EQ(files.thumbnail.Bytes(), Plainly(Sized(4, 4)));
 }
 
-TEST_F(PictureTest, ADamagedFileIsNotDecodedEvenWhenNoOutputCanBeMade) {
+TEST_F(PictureTest, ADamagedFileIsNotDecodedEvenIfNoOutputCanBeMade) {
   const std::string jpeg = fakes::MakeJpeg({.width = 64, .height = 64});
   EXPECT_FALSE(Make(jpeg.substr(0, jpeg.size() / 2), {Sized(0, 5), Sized(5, -1)}).decoded);
 }
 
-TEST_F(PictureTest, AStopEndsItWithNothingDecoded) {
+TEST_F(PictureTest, AStopRequestEndsItWithNothingDecoded) {
   stop.request_stop();
   for (const bool progressive : {false, true}) {
     EXPECT_FALSE(Make(fakes::MakeJpeg({.progressive = progressive}), {Sized(5, 5), {}}).decoded);
   }
 }
 
-TEST_F(PictureTest, NoiseDiffersBetweenPicturesAndIsTheSameForOne) {
+TEST_F(PictureTest, NoiseDiffersBetweenPicturesAndIsTheSameForOnePicture) {
   const std::string jpeg = fakes::MakeJpeg({});
   auto first = Filtered(Sized(20, 20));
   auto second = first;
@@ -154,7 +154,7 @@ TEST_F(PictureTest, NoiseDiffersBetweenPicturesAndIsTheSameForOne) {
   EXPECT_NE(Make(jpeg, {first, {}}).image.Bytes(), Make(jpeg, {second, {}}).image.Bytes());
 }
 
-TEST_F(PictureTest, APictureInSeveralScansWaitsForItsShareOfTheMemory) {
+TEST_F(PictureTest, APictureInSeveralScansWaitsForItsShareOfMemory) {
   CoefficientBudget small(1);
   const auto file = folder.Write("p.jpg", fakes::MakeJpeg({.width = 200, .height = 200, .progressive = true}));
   std::vector<std::jthread> threads;

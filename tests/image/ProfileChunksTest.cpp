@@ -17,7 +17,7 @@ std::string ProfileOf(const std::vector<std::string>& segments) {
   return chunks.Profile();
 }
 
-TEST(ProfileChunks, ChunksAreJoinedByTheirNumbersInWhateverOrderTheyCome) {
+TEST(ProfileChunks, ChunksAreJoinedByTheirNumbersInAnyOrder) {
   EXPECT_EQ(ProfileOf({Chunk(1, 1, "all")}), "all");
   EXPECT_EQ(ProfileOf({Chunk(3, 3, "c"), Chunk(1, 3, "a"), Chunk(2, 3, "b")}), "abc");
 }
@@ -26,13 +26,13 @@ TEST(ProfileChunks, OtherSegmentsBetweenThemAreIgnored) {
   EXPECT_EQ(ProfileOf({"MPF", Chunk(1, 2, "a"), "", "ICC_PROFILE", Chunk(2, 2, "b")}), "ab");
 }
 
-TEST(ProfileChunks, AsManyAsThereCanBe) {
+TEST(ProfileChunks, TheMaximumNumberOfChunksIsJoined) {
   std::vector<std::string> segments;
   for (int number = 1; number <= 255; ++number) segments.push_back(Chunk(number, 255, "x"));
   EXPECT_EQ(ProfileOf(segments), std::string(255, 'x'));
 }
 
-TEST(ProfileChunks, ThereIsNoProfileIfAnyChunkIsMissingTwiceEmptyOrContradictsAnother) {
+TEST(ProfileChunks, ThereIsNoProfileIfAnyChunkIsMissingRepeatedEmptyOrContradictory) {
   EXPECT_EQ(ProfileOf({}), "");
   EXPECT_EQ(ProfileOf({Chunk(1, 2, "a")}), "") << "missing";
   EXPECT_EQ(ProfileOf({Chunk(1, 2, "a"), Chunk(1, 2, "a")}), "") << "twice";

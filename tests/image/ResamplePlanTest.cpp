@@ -5,7 +5,7 @@
 namespace vantorium::image {
 namespace {
 
-TEST(ResamplePlan, ARowWithoutWeightIsNotAskedFor) {
+TEST(ResamplePlan, ARowWithoutWeightIsNotWanted) {
   const ResamplePlan plan({10, 11}, {5, 5});
   const auto first = plan.RowsOf(0);
   EXPECT_EQ(first.lower, 0);
@@ -15,7 +15,7 @@ TEST(ResamplePlan, ARowWithoutWeightIsNotAskedFor) {
   EXPECT_EQ(second.upper, 2);
 }
 
-TEST(ResamplePlan, EqualSizesAskForEachRowOnce) {
+TEST(ResamplePlan, WithEqualSizesEachRowIsWantedOnce) {
   const ResamplePlan plan({10, 11}, {10, 11});
   for (std::int32_t y = 0; y < 11; ++y) {
     EXPECT_EQ(plan.RowsOf(y).lower, y);
@@ -23,7 +23,7 @@ TEST(ResamplePlan, EqualSizesAskForEachRowOnce) {
   }
 }
 
-TEST(ResamplePlan, RowsLieInTheSourceAndAscend) {
+TEST(ResamplePlan, RowsAreInsideTheSourceAndAscend) {
   for (const std::int32_t height : {1, 2, 3, 7, 100, 4000}) {
     for (const std::int32_t newHeight : {1, 2, 3, 60, 300, 7000}) {
       const ResamplePlan plan({5, height}, {4, newHeight});
@@ -39,7 +39,7 @@ TEST(ResamplePlan, RowsLieInTheSourceAndAscend) {
   }
 }
 
-TEST(ResamplePlan, RowsThatAreAskedForAreMarkedAndNoOthers) {
+TEST(ResamplePlan, ExactlyTheWantedRowsAreMarked) {
   for (const std::int32_t newHeight : {1, 3, 40, 77, 200}) {
     const ResamplePlan plan({5, 77}, {newHeight == 77 ? 5 : 4, newHeight});
     std::vector<std::uint8_t> asked(77);

@@ -30,7 +30,7 @@ void ExpectLiteral(const cDIBSection& source, std::int32_t width, std::int32_t h
       << source.width() << " x " << source.height() << " to " << width << " x " << height;
 }
 
-TEST(Resample, EveryPairOfSmallSizesIsAsTheLiteralRoutineHasIt) {
+TEST(Resample, EveryPairOfSmallSizesEqualsTheLiteralRoutine) {
   for (std::int32_t width = 1; width <= 9; ++width) {
     for (std::int32_t height = 1; height <= 9; ++height) {
       const cDIBSection source = fakes::Random(width, height, static_cast<unsigned>(width * 10 + height));
@@ -41,7 +41,7 @@ TEST(Resample, EveryPairOfSmallSizesIsAsTheLiteralRoutineHasIt) {
   }
 }
 
-TEST(Resample, RandomSizesAreAsTheLiteralRoutineHasThem) {
+TEST(Resample, RandomSizesEqualTheLiteralRoutine) {
   std::mt19937 generator(7);
   const auto side = [&generator] { return static_cast<std::int32_t>(1 + generator() % (1 + generator() % 400)); };
   for (unsigned round = 0; round < 120; ++round) {
@@ -49,7 +49,7 @@ TEST(Resample, RandomSizesAreAsTheLiteralRoutineHasThem) {
   }
 }
 
-TEST(Resample, StrongChangesAreAsTheLiteralRoutineHasThem) {
+TEST(Resample, LargeFactorsEqualTheLiteralRoutine) {
   ExpectLiteral(fakes::Random(3001, 101, 1), 61, 40);
   ExpectLiteral(fakes::Random(3, 2, 2), 2500, 200);
   ExpectLiteral(fakes::Random(2, 3, 3), 17, 3000);
@@ -64,7 +64,7 @@ TEST(Resample, MillionsOfColumnsStayWithinTheSource) {
   ExpectLiteral(fakes::Random(2, 1, 1), 17000000, 1);
 }
 
-TEST(Resample, TheOwnSizeIsAnExactCopy) {
+TEST(Resample, TheSameSizeIsAnExactCopy) {
   for (const auto& [width, height] : {std::pair{1, 1}, {5, 3}, {200, 131}}) {
     const cDIBSection source = fakes::Random(width, height, 9);
     const auto copy = Resample(source, height, width);
@@ -89,7 +89,7 @@ TEST(Resample, HalfOfAHundredNeverReachesTheLastColumnAndRow) {
   EXPECT_NE(PixelDifference(*before, *Resample(source, 50, 50)), "");
 }
 
-TEST(Resample, TheBottomRowOfTheResultIsMadeOfTheBottomRowOfTheSource) {
+TEST(Resample, TheBottomRowComesFromTheBottomRowOfTheSource) {
   cDIBSection source = fakes::Plain(10, 10, {9, 9, 9});
   for (std::int32_t i = 0; i < 30; ++i) source.Row(0)[i] = 200;
   const auto result = Resample(source, 4, 4);
@@ -98,7 +98,7 @@ TEST(Resample, TheBottomRowOfTheResultIsMadeOfTheBottomRowOfTheSource) {
   EXPECT_EQ(PixelAt(*result, 3, 1), (fakes::RGB{9, 9, 9}));
 }
 
-TEST(Resample, OnePixelSidesRepeatTheirOneColumnOrRow) {
+TEST(Resample, ASingleColumnOrRowIsRepeated) {
   const cDIBSection wide = fakes::Random(1, 30, 3);
   const auto wider = Resample(wide, 30, 7);
   const cDIBSection flat = fakes::Random(30, 1, 3);
@@ -110,8 +110,8 @@ TEST(Resample, OnePixelSidesRepeatTheirOneColumnOrRow) {
   }
 }
 
-// Column 1 of 2 new ones lies at half a pixel: the mean of 0 and 1 is a tie and is rounded to 0, that of 1 and 2 to 2.
-TEST(Resample, TiesGoToTheEvenByte) {
+// Column 1 of 2 new ones is at half a pixel: the mean of 0 and 1 is a tie and is rounded to 0, that of 1 and 2 to 2.
+TEST(Resample, TiesRoundToTheEvenByte) {
   for (int low = 0; low < 255; ++low) {
     cDIBSection source = fakes::Plain(2, 1, {low, low, low});
     for (int channel = 3; channel < 6; ++channel) source.Row(0)[channel] = static_cast<std::uint8_t>(low + 1);
@@ -121,7 +121,7 @@ TEST(Resample, TiesGoToTheEvenByte) {
   }
 }
 
-TEST(Resample, APictureThatCannotBeCreatedIsNull) {
+TEST(Resample, APictureThatCannotBeAllocatedIsNull) {
   const cDIBSection source = fakes::Plain(4, 4, {});
   constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
   constexpr std::pair<std::int32_t, std::int32_t> kSizes[] = {{0, 4}, {4, 0}, {-4, 4}, {4, -4}, {kMost, kMost}};

@@ -15,7 +15,7 @@ std::array<int, 3> Converted(const SRGBTransform& transform, std::array<std::uin
   return {bgr[2], bgr[1], bgr[0]};
 }
 
-TEST(SRGBTransform, ColorsOfAWiderSpaceComeOutAsTheyAreInSRGB) {
+TEST(SRGBTransform, ColorsOfAWiderSpaceAreConvertedToSRGB) {
   constexpr std::array<std::uint8_t, 3> kColors[] = {{0, 0, 0},     {255, 255, 255}, {200, 60, 40},
                                                      {30, 120, 50}, {90, 100, 210},  {128, 128, 128}};
   for (const TestProfile space : {TestProfile::DisplayP3, TestProfile::AdobeRGB}) {
@@ -29,13 +29,13 @@ TEST(SRGBTransform, ColorsOfAWiderSpaceComeOutAsTheyAreInSRGB) {
   }
 }
 
-TEST(SRGBTransform, ColorsThatSRGBLacksBecomeItsStrongest) {
+TEST(SRGBTransform, ColorsOutsideSRGBAreClipped) {
   const auto transform = SRGBTransform::For(ProfileOf(TestProfile::DisplayP3), 3);
   ASSERT_TRUE(transform);
   EXPECT_EQ(Converted(*transform, {255, 0, 0}), (std::array<int, 3>{255, 0, 0}));
 }
 
-TEST(SRGBTransform, APictureInSRGBIsLeftAsItIs) {
+TEST(SRGBTransform, APictureInSRGBIsUnchanged) {
   EXPECT_FALSE(SRGBTransform::For(ProfileOf(TestProfile::SRGB), 3));
 }
 
@@ -50,13 +50,13 @@ TEST(SRGBTransform, GraysOfAnotherGammaAreConverted) {
   EXPECT_EQ(Converted(*transform, {255, 255, 255}), (std::array<int, 3>{255, 255, 255}));
 }
 
-TEST(SRGBTransform, AProfileForOtherChannelsLeavesThePictureAsItIs) {
+TEST(SRGBTransform, AProfileForOtherChannelsIsIgnored) {
   EXPECT_FALSE(SRGBTransform::For(ProfileOf(TestProfile::AdobeRGB), 1));
   EXPECT_FALSE(SRGBTransform::For(ProfileOf(TestProfile::GrayGamma), 3));
   for (const int channels : {-1, 0, 2, 4}) EXPECT_FALSE(SRGBTransform::For(ProfileOf(TestProfile::AdobeRGB), channels));
 }
 
-TEST(SRGBTransform, NoProfileAndADamagedOneLeaveThePictureAsItIs) {
+TEST(SRGBTransform, AnAbsentOrDamagedProfileIsIgnored) {
   const std::string profile = ProfileOf(TestProfile::AdobeRGB);
   EXPECT_FALSE(SRGBTransform::For("", 3));
   EXPECT_FALSE(SRGBTransform::For("no profile at all", 3));
@@ -69,7 +69,7 @@ TEST(SRGBTransform, NoProfileAndADamagedOneLeaveThePictureAsItIs) {
   EXPECT_FALSE(SRGBTransform::For(noSignature, 3));
   std::string link = profile;
   link.replace(12, 4, "link");
-  EXPECT_FALSE(SRGBTransform::For(link, 3)) << "a profile that describes no pictures";
+  EXPECT_FALSE(SRGBTransform::For(link, 3)) << "a device link profile";
 }
 
 }  // namespace

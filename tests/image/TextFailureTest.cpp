@@ -23,7 +23,7 @@ using fakes::FontFolder;
 constexpr char kSans[] = "LiberationSans-Regular.ttf";
 constexpr char kArabic[] = "DejaVuSans.ttf";  // Liberation Sans has no Arabic letters
 
-/// A failure's description and number; empty and 0 if there is no failure.
+/// A failure's description and number; "" and 0 if there is no failure.
 using Failure = std::pair<std::string, int>;
 
 template <typename Work>
@@ -66,7 +66,7 @@ TEST(TextFailure, OneFontIsEnough) {
   EXPECT_EQ(FailureToDraw("text \u0628"), Failure());
 }
 
-TEST(TextFailure, AFontFileThatCannotBeReadIsNamed) {
+TEST(TextFailure, TheFailureNamesAnUnreadableFontFile) {
   const FontFolder fonts;
   const auto file = fonts.Add(kSans);
   EXPECT_EQ(PangoTextRaster().FaceNames(), std::vector<std::string>{"Liberation Sans"});
@@ -75,7 +75,7 @@ TEST(TextFailure, AFontFileThatCannotBeReadIsNamed) {
   EXPECT_EQ(FailureToDraw("text", TextForm::Turned), UnreadableFile(file));
 }
 
-TEST(TextFailure, TheFileOfAFallbackFontIsNamedToo) {
+TEST(TextFailure, TheFailureAlsoNamesTheFileOfAFallbackFont) {
   const FontFolder fonts;
   fonts.Add(kSans);
   const auto file = fonts.Add(kArabic);
@@ -102,7 +102,7 @@ TEST(TextFailure, WithoutAThreadDrawingFailsWithAMessage) {
   EXPECT_EQ(FailureToDraw("text"), Failure());
 }
 
-TEST(TextFailure, AWatermarkThatCannotBeDrawnLeavesThePictureAsItWas) {
+TEST(TextFailure, AWatermarkThatCannotBeDrawnLeavesThePictureUnchanged) {
   const FontFolder fonts;
   const PangoTextRaster raster;
   const WatermarkSettings settings = {.checkUseWatermark = 1, .textWatermark = "text"};
@@ -129,7 +129,7 @@ std::vector<std::string> FoundFor(PangoFontMap* map, const std::string& name) {
   return names;
 }
 
-TEST(FaceNames, EveryNameGetsAFontOfThatNameAndIsListedOnce) {
+TEST(FaceNames, EveryNameHasAFontOfThatNameAndIsListedOnce) {
   const FontMapHandle map = MakeFontMap();
   const auto names = FaceNamesOf(map.get());
   EXPECT_NE(std::find(names.begin(), names.end(), "Liberation Sans"), names.end());
@@ -144,7 +144,7 @@ std::string NamedToo(const std::string& name) {
   return "<match target=\"scan\"><edit name=\"family\" mode=\"append\"><string>" + name + "</string></edit></match>";
 }
 
-TEST(FaceNames, ANameThatALogFontCannotAskForIsNotListed) {
+TEST(FaceNames, ANameTooLongForALogFontIsNotListed) {
   const FontFolder fonts(NamedToo("A Name of Thirty-One Characters") + NamedToo("A Name of Thirty-Two Characters!") +
                          NamedToo("Sans, of a Kind") + NamedToo("LIBERATION SANS") + NamedToo("\u00C9l\u00E9gante"));
   fonts.Add(kSans);
@@ -153,7 +153,7 @@ TEST(FaceNames, ANameThatALogFontCannotAskForIsNotListed) {
             (std::vector<std::string>{"A Name of Thirty-One Characters", "Liberation Sans", "\u00C9l\u00E9gante"}));
 }
 
-TEST(FaceNames, AFontOfAFormatThatPangoLeavesOutIsNotListed) {
+TEST(FaceNames, AFontInAFormatThatPangoIgnoresIsNotListed) {
   const FontFolder fonts("<match target=\"scan\"><edit name=\"fontformat\"><string>Type 1</string></edit></match>");
   fonts.Add(kSans);
   EXPECT_EQ(PangoTextRaster().FaceNames(), std::vector<std::string>());

@@ -19,17 +19,17 @@ TEST(TextLines, EachKindOfBreakEndsALine) {
   }
 }
 
-TEST(TextLines, ABreakAtTheEndBeginsNoLine) {
+TEST(TextLines, ABreakAtTheEndBeginsNoNewLine) {
   EXPECT_EQ(LinesOfText("a\r\n"), Lines({"a"}));
   EXPECT_EQ(LinesOfText("a\r\n\r\n"), Lines({"a", ""}));
   EXPECT_EQ(LinesOfText("\n"), Lines({""}));
 }
 
-TEST(TextLines, AnEmptyTextHasNone) {
+TEST(TextLines, AnEmptyTextHasNoLines) {
   EXPECT_EQ(LinesOfText(""), Lines());
 }
 
-TEST(TextLines, ControlCharactersAreBlanks) {
+TEST(TextLines, ControlCharactersBecomeBlanks) {
   EXPECT_EQ(LinesOfText("a\tb\x01"
                         "c\x7F"
                         "d"),

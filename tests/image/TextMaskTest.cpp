@@ -21,7 +21,7 @@ TEST(TextMask, CoversNothingAtFirst) {
   EXPECT_EQ(PixelsOf(TextMask(), 0), std::vector<std::int32_t>());
 }
 
-TEST(TextMask, PixelsComeFromTheLeftToTheRight) {
+TEST(TextMask, PixelsAreVisitedFromLeftToRight) {
   TextMask mask(10, 20, 70, 3);
   const std::vector<std::int32_t> wanted = {10, 11, 41, 73, 74, 79};
   for (std::int32_t x : {79, 10, 74, 11, 73, 41}) mask.Cover(x, 21);
@@ -31,7 +31,7 @@ TEST(TextMask, PixelsComeFromTheLeftToTheRight) {
   for (std::int32_t x : {-1, 9, 12, 72, 80, 1000}) EXPECT_FALSE(mask.Covers(x, 21)) << x;
 }
 
-TEST(TextMask, ASideOfZeroHasNoRectangle) {
+TEST(TextMask, ARectangleWithASideOfZeroIsEmpty) {
   for (const auto& mask : {TextMask(5, 5, 0, 3), TextMask(5, 5, 3, 0), TextMask(5, 5, -3, -3)}) {
     EXPECT_EQ(mask.width(), 0);
     EXPECT_EQ(mask.height(), 0);

@@ -63,7 +63,7 @@ TEST(TransparentCopy, APictureWithoutPixelsIsRefused) {
   EXPECT_EQ(Difference(target, picture), "");
 }
 
-TEST(TransparentCopy, OnlyAPixelThatIsTheKeyInAllThreeBytesIsSkipped) {
+TEST(TransparentCopy, OnlyPixelsThatEqualTheKeyInAllThreeBytesAreSkipped) {
   const RGB key = {10, 20, 30};
   for (const RGB source : {RGB{10, 20, 30}, RGB{11, 20, 30}, RGB{10, 21, 30}, RGB{10, 20, 31}, RGB{30, 20, 10}}) {
     cDIBSection target = Plain(40, 2, {0, 0, 0});
@@ -85,7 +85,7 @@ TEST(TransparentCopy, Alpha65OfWhiteOnBlackIs166) {
   EXPECT_EQ(PixelAt(target, 32, 0), (RGB{166, 166, 166}));
 }
 
-TEST(TransparentCopy, TiesGoToTheEvenByte) {
+TEST(TransparentCopy, TiesRoundToTheEvenByte) {
   cDIBSection target = Plain(1, 1, {1, 2, 3});
   ASSERT_TRUE(TransparentCopy(Plain(1, 1, {2, 3, 4}), target, kWhite, 50));
   EXPECT_EQ(PixelAt(target, 0, 0), (RGB{2, 2, 4}));
@@ -132,7 +132,7 @@ TEST(TransparentCopy, EqualsTheLiteralVersionForEveryPairOfBytes) {
   }
 }
 
-TEST(TransparentCopy, EqualsTheLiteralVersionAtEverySizeAndLeavesThePaddingAlone) {
+TEST(TransparentCopy, EqualsTheLiteralVersionAtEverySizeAndKeepsThePadding) {
   unsigned seed = 0;
   for (std::int32_t width = 1; width <= 70; ++width) {
     for (const std::uint8_t alpha : {std::uint8_t{1}, std::uint8_t{50}, std::uint8_t{65}, std::uint8_t{99},

@@ -1,4 +1,4 @@
-// Pictures of photographs that are turned and converted, against the plain routines on the whole photograph.
+// Compares pictures of photographs that are turned and converted with the literal routines on the whole photograph.
 #include "image/Filters.h"
 #include "image/JPEG.h"
 #include "image/PangoTextRaster.h"
@@ -7,7 +7,7 @@
 #include "image/literal/ResampleLiteral.h"
 #include "image/literal/TurnLiteral.h"
 #include "image/literal/WatermarkLiteral.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/PhotographMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 
@@ -39,7 +39,7 @@ class UprightRowsTest : public ::testing::Test {
     return recipe;
   }
 
-  /// The expected output: the whole photograph decoded, turned, resized, converted, filtered and marked.
+  /// The expected output: the whole photograph decoded, turned, resized, converted, filtered and watermarked.
   [[nodiscard]] std::string Plainly(const PictureRecipe& recipe, int orientation, const std::string& profile = {},
                                     int channels = 3) const {
     cDIBSection stored;
@@ -84,12 +84,12 @@ PictureRecipe Filtered(PictureRecipe recipe) {
   return recipe;
 }
 
-/// A photograph in some colors with a profile that need not be theirs.
+/// A photograph in some colors, with a profile that may be for other channels.
 std::string Profiled(JpegColors colors, const std::string& profile) {
   return fakes::WithProfile(fakes::MakeJpeg({.colors = colors}), profile);
 }
 
-TEST_F(UprightRowsTest, PicturesInEachOrientationAndProfileEqualThoseOfTheWholePhotograph) {
+TEST_F(UprightRowsTest, PicturesInEachOrientationAndProfileEqualTheLiteralRoutines) {
   const std::string plain = fakes::MakeJpeg({.width = 90, .height = 61});
   for (const TestProfile space : fakes::kColorProfiles) {
     const std::string profile = fakes::ProfileOf(space);
@@ -121,14 +121,14 @@ TEST_F(UprightRowsTest, EveryKindOfFileIsTurnedByEachOrientation) {
   }
 }
 
-TEST_F(UprightRowsTest, WithoutCorrectionsTheNotesOfTheFileCountForNothing) {
+TEST_F(UprightRowsTest, WithoutCorrectionsTheNotesOfTheFileAreIgnored) {
   const std::string plain = fakes::MakeJpeg({});
   const std::string noted =
       fakes::WithOrientation(fakes::WithProfile(plain, fakes::ProfileOf(TestProfile::AdobeRGB)), 6);
   EXPECT_EQ(Make(noted, {Sized(20, 30), {}}).image.Bytes(), Make(plain, {Sized(20, 30), {}}).image.Bytes());
 }
 
-TEST_F(UprightRowsTest, EachCorrectionIsMadeWithoutTheOther) {
+TEST_F(UprightRowsTest, EachCorrectionWorksWithoutTheOther) {
   const std::string profile = fakes::ProfileOf(TestProfile::AdobeRGB);
   const std::string jpeg = fakes::WithOrientation(fakes::WithProfile(fakes::MakeJpeg({}), profile), 6);
   const auto turned = Make(jpeg, {kImage, {}, kUpright});
@@ -137,7 +137,7 @@ TEST_F(UprightRowsTest, EachCorrectionIsMadeWithoutTheOther) {
   EXPECT_EQ(colored.image.Bytes(), Plainly(kImage, 1, profile));
 }
 
-TEST_F(UprightRowsTest, GrayPhotographsFollowGrayProfilesAndColorsThoseOfColors) {
+TEST_F(UprightRowsTest, GrayPhotographsUseGrayProfilesAndColorPhotographsUseColorProfiles) {
   const std::string gray = fakes::ProfileOf(TestProfile::GrayGamma);
   const std::string color = fakes::ProfileOf(TestProfile::AdobeRGB);
   const std::string ofGray = Make(Profiled(JpegColors::Grey, gray), {kImage, {}, kAll}).image.Bytes();
@@ -148,7 +148,7 @@ TEST_F(UprightRowsTest, GrayPhotographsFollowGrayProfilesAndColorsThoseOfColors)
   EXPECT_NE(ofColors, Plainly(kImage, 1));
 }
 
-TEST_F(UprightRowsTest, AProfileThatIsDamagedOrOfOtherChannelsLeavesTheColorsAsTheyAre) {
+TEST_F(UprightRowsTest, ADamagedProfileOrOneForOtherChannelsIsIgnored) {
   const std::string gray = fakes::ProfileOf(TestProfile::GrayGamma);
   const std::string color = fakes::ProfileOf(TestProfile::AdobeRGB);
   for (const std::string& jpeg : {Profiled(JpegColors::YCbCr, color.substr(0, 200)), Profiled(JpegColors::Grey, color),
@@ -158,7 +158,7 @@ TEST_F(UprightRowsTest, AProfileThatIsDamagedOrOfOtherChannelsLeavesTheColorsAsT
   }
 }
 
-TEST_F(UprightRowsTest, AFileThatEndsEarlyIsNotDecodedInAnyOrientation) {
+TEST_F(UprightRowsTest, ATruncatedFileIsNotDecodedInAnyOrientation) {
   for (int orientation = 1; orientation <= 8; ++orientation) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = 64, .height = 64}), orientation);
     for (std::size_t size = fakes::PictureDataOf(jpeg); size + 2 < jpeg.size(); size += 20) {
@@ -167,8 +167,8 @@ TEST_F(UprightRowsTest, AFileThatEndsEarlyIsNotDecodedInAnyOrientation) {
   }
 }
 
-TEST_F(UprightRowsTest, APhotographThatClaimsMorePixelsThanAreEverHeldIsRefusedWithoutMemory) {
-  // Headers of many pixels, before as many bytes as such files need at least.
+TEST_F(UprightRowsTest, APhotographWithTooManyPixelsIsRefusedBeforeMemoryIsAllocated) {
+  // Headers with many pixels, followed by the fewest bytes that such files can have.
   const std::string small = fakes::MakeJpeg({.width = 8, .height = 8, .colors = JpegColors::Grey});
   const std::string zeros(std::size_t{8} << 20U, '\0');
   const std::string large = fakes::WithOrientation(fakes::ClaimingSize(small, 20000, 20000) + zeros, 6);
@@ -176,7 +176,7 @@ TEST_F(UprightRowsTest, APhotographThatClaimsMorePixelsThanAreEverHeldIsRefusedW
   EXPECT_FALSE(Make(large, {PictureRecipe(), {}, kUpright}).decoded);
 }
 
-TEST_F(UprightRowsTest, ASizeWithoutPixelsFailsOnlyItsOwnOutput) {
+TEST_F(UprightRowsTest, AnOutputWithoutPixelsFailsAlone) {
   const auto files =
       Make(fakes::WithOrientation(fakes::MakeJpeg({}), 6), {Sized(10, 0), Sized(4, 4), {.upright = true}});
   ASSERT_TRUE(files.decoded);
@@ -184,7 +184,7 @@ TEST_F(UprightRowsTest, ASizeWithoutPixelsFailsOnlyItsOwnOutput) {
   EXPECT_EQ(files.thumbnail.Bytes(), Plainly(Sized(4, 4), 6));
 }
 
-TEST_F(UprightRowsTest, AStopEndsItWithNothingDecoded) {
+TEST_F(UprightRowsTest, AStopRequestEndsItWithNothingDecoded) {
   stop.request_stop();
   for (const int orientation : {2, 3, 6}) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({}), orientation);
@@ -192,7 +192,7 @@ TEST_F(UprightRowsTest, AStopEndsItWithNothingDecoded) {
   }
 }
 
-TEST_F(UprightRowsTest, PhotographsThatAreHeldWaitForTheirShareOfTheMemory) {
+TEST_F(UprightRowsTest, PhotographsHeldInMemoryWaitForTheirShareOfMemory) {
   CoefficientBudget small(1);
   const auto file = folder.Write("p.jpg", fakes::WithOrientation(fakes::MakeJpeg({.width = 200, .height = 200}), 6));
   std::vector<std::jthread> threads;

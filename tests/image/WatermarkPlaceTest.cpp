@@ -40,14 +40,14 @@ TEST(WatermarkPlace, StraightTextsTouchTheEdgesOrAreCentered) {
   }
 }
 
-TEST(WatermarkPlace, OneThatDoesNotExistIsTheTopLeft) {
+TEST(WatermarkPlace, AnUnknownPlacementIsTheTopLeft) {
   const BoxTextRaster raster(200, 53);
   for (const std::int16_t placement : {std::int16_t{-1}, std::int16_t{11}, std::int16_t{32767}, std::int16_t{-32768}}) {
     EXPECT_EQ(Place(placement, 640, 480, raster), (TextPlace{TextForm::Lines, 0, 0})) << placement;
   }
 }
 
-TEST(WatermarkPlace, HalvesAreTakenApartAndTiesGoToEven) {
+TEST(WatermarkPlace, HalvesAreRoundedSeparatelyWithTiesToEven) {
   struct Case {
     std::int32_t side, text, position;
   };
@@ -58,14 +58,14 @@ TEST(WatermarkPlace, HalvesAreTakenApartAndTiesGoToEven) {
   }
 }
 
-TEST(WatermarkPlace, ATextLargerThanThePictureBeginsOutsideOfIt) {
+TEST(WatermarkPlace, ATextLargerThanThePictureBeginsOutsideIt) {
   const BoxTextRaster raster(300, 90);
   EXPECT_EQ(Place(0, 100, 50, raster), (TextPlace{TextForm::Lines, 0, 0}));
   EXPECT_EQ(Place(4, 100, 50, raster), (TextPlace{TextForm::Lines, -100, -20}));
   EXPECT_EQ(Place(8, 100, 50, raster), (TextPlace{TextForm::Lines, -200, -40}));
 }
 
-TEST(WatermarkPlace, TheDiagonalsAngleIsCutToWholeDegrees) {
+TEST(WatermarkPlace, TheAngleOfADiagonalIsTruncatedToWholeDegrees) {
   struct Case {
     std::int32_t width, height, tenths;
   };
@@ -76,14 +76,14 @@ TEST(WatermarkPlace, TheDiagonalsAngleIsCutToWholeDegrees) {
   }
 }
 
-TEST(WatermarkPlace, ADiagonalLineIsCentredOnTheMiddleOfThePicture) {
-  // Of 640 x 480 the sine is 0.6 and the cosine 0.8.
+TEST(WatermarkPlace, ADiagonalLineIsCenteredInThePicture) {
+  // For 640 x 480 the sine is 0.6 and the cosine 0.8.
   EXPECT_EQ(Place(9, 640, 480, BoxTextRaster(9999, 53)), (TextPlace{TextForm::Turned, 304, 261}));
   EXPECT_EQ(Place(10, 640, 480, BoxTextRaster(9999, 53)), (TextPlace{TextForm::Turned, 336, 261}));
   EXPECT_EQ(Place(10, 641, 481, BoxTextRaster(9999, 1)), (TextPlace{TextForm::Turned, 321, 241}));
 }
 
-TEST(WatermarkPlace, TheFontIsSetForTheDrawing) {
+TEST(WatermarkPlace, TheFontGetsTheAngleOfTheText) {
   LogFont font{.lfEscapement = 77, .lfOrientation = 77};
   const BoxTextRaster raster(200, 53);
   std::ignore = PlaceWatermark(font, "text", 4, 640, 480, raster);

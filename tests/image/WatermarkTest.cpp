@@ -65,13 +65,13 @@ TEST(Watermark, OnePercentLeavesThePictureAlmostUnchanged) {
   EXPECT_EQ(PixelAt(DrawBox(Plain(20, 10, {100, 100, 100}), 0, 0xFFFFFF, 1).picture, 0, 9), (RGB{102, 102, 102}));
 }
 
-TEST(Watermark, AHundredPercentAndMorePaintsTheTextSolid) {
+TEST(Watermark, AtAHundredPercentAndMoreTheTextIsOpaque) {
   for (const std::uint8_t alpha : {std::uint8_t{100}, std::uint8_t{255}}) {
     EXPECT_EQ(PixelAt(DrawBox(Plain(20, 10, {9, 9, 9}), 0, 0x0380FF, alpha).picture, 0, 9), (RGB{255, 128, 3}));
   }
 }
 
-TEST(Watermark, NoPercentChangesNothing) {
+TEST(Watermark, ZeroPercentChangesNothing) {
   const cDIBSection before = Random(20, 10, 1);
   EXPECT_EQ(Difference(DrawBox(before, 4, 0xFFFFFF, 0).picture, before), "");
 }
@@ -83,7 +83,7 @@ TEST(Watermark, ABlackTextDarkensOnlyUnderIt) {
   EXPECT_EQ(PixelsUnlike(picture, gray), 8);
 }
 
-TEST(Watermark, TheFontIsLeftAsItWasDrawn) {
+TEST(Watermark, TheFontKeepsTheAngleOfTheText) {
   const LogFont font = DrawBox(Plain(20, 20, kBlack), 9, 0xFFFFFF, 65).font;
   EXPECT_EQ(font.lfQuality, 3);
   EXPECT_EQ(font.lfEscapement, -450);
@@ -153,7 +153,7 @@ TEST_F(WatermarkOfText, AnEmptyTextChangesNothing) {
   }
 }
 
-TEST_F(WatermarkOfText, ATextWiderThanThePictureIsCutAtBothSides) {
+TEST_F(WatermarkOfText, ATextWiderThanThePictureIsClippedAtBothSides) {
   cDIBSection picture = Plain(40, 20, kBlack);
   LogFont font = FontOf("Arial", -20);
   DrawWatermarkText(picture, font, "HHHHHHHH", 1, 0xFFFFFF, 100, raster);
@@ -174,7 +174,7 @@ class WatermarkPainting : public ::testing::Test {
   }
 };
 
-TEST_F(WatermarkPainting, EqualsTheTextDrawnBySettings) {
+TEST_F(WatermarkPainting, EqualsTheTextDrawnFromSettings) {
   const PangoTextRaster raster;
   for (std::int16_t placement = 0; placement <= 10; ++placement) {
     WatermarkSettings settings = Settings(placement);
@@ -189,7 +189,7 @@ TEST_F(WatermarkPainting, EqualsTheTextDrawnBySettings) {
   }
 }
 
-TEST_F(WatermarkPainting, RowByRowIsTheSame) {
+TEST_F(WatermarkPainting, RowByRowGivesTheSamePicture) {
   const PangoTextRaster raster;
   const WatermarkPainter painter(Settings(10), 96, raster);
   cDIBSection rows = Random(120, 90, 7);
@@ -211,7 +211,7 @@ TEST_F(WatermarkPainting, PicturesOfOneSizeShareTheirMask) {
   EXPECT_EQ(raster.drawn, 2);
 }
 
-TEST_F(WatermarkPainting, OnlyTheLastSizesAreKept) {
+TEST_F(WatermarkPainting, OnlyTheMasksOfTheLastSizesAreKept) {
   const BoxTextRaster raster(4, 2);
   const WatermarkPainter painter(Settings(10), 96, raster);
   const std::weak_ptr<const TextMask> first = painter.MaskFor(20, 10);
@@ -221,7 +221,7 @@ TEST_F(WatermarkPainting, OnlyTheLastSizesAreKept) {
   EXPECT_FALSE(last.expired());
 }
 
-TEST_F(WatermarkPainting, APercentageBeyondAByteOverflowsWhenItIsDrawn) {
+TEST_F(WatermarkPainting, APercentageThatDoesNotFitAByteOverflowsWhenItIsDrawn) {
   const BoxTextRaster raster(4, 2);
   for (const std::int16_t alpha : {std::int16_t{-1}, std::int16_t{256}, std::int16_t{32767}}) {
     WatermarkSettings settings = Settings(10);
@@ -233,7 +233,7 @@ TEST_F(WatermarkPainting, APercentageBeyondAByteOverflowsWhenItIsDrawn) {
   }
 }
 
-TEST_F(WatermarkPainting, EveryPictureThatCannotHaveItFails) {
+TEST_F(WatermarkPainting, EveryPictureWhoseWatermarkCannotBeDrawnFails) {
   const BoxTextRaster raster(40000, 2);
   const WatermarkPainter painter(Settings(4), 96, raster);
   for (int i = 0; i < 2; ++i) {
@@ -241,7 +241,7 @@ TEST_F(WatermarkPainting, EveryPictureThatCannotHaveItFails) {
   }
 }
 
-TEST_F(WatermarkPainting, ManyThreadsDrawTheSame) {
+TEST_F(WatermarkPainting, ManyThreadsDrawTheSamePicture) {
   const PangoTextRaster raster;
   const WatermarkPainter images(Settings(10), 96, raster);
   const WatermarkPainter thumbnails(Settings(4), 96, raster);

@@ -3,7 +3,7 @@
 #include <limits>
 #include <utility>
 
-// Sizes beyond any memory make the allocator return null; with the address sanitizer only under this option.
+// Lets the allocator return null for sizes beyond all memory; the address sanitizer does so only with this option.
 extern "C" const char* __asan_default_options() {
   return "allocator_may_return_null=1";
 }
@@ -28,7 +28,7 @@ TEST(cDIBSection, RowsBeginAtMultiplesOfFourBytes) {
   }
 }
 
-TEST(cDIBSection, TheWidthAfterClearUpIsTheOldOne) {
+TEST(cDIBSection, ClearUpKeepsTheWidth) {
   cDIBSection dib;
   ASSERT_TRUE(dib.Create(7, 5));
   dib.ClearUp();
@@ -49,7 +49,7 @@ TEST(cDIBSection, ARefusedSizeLeavesTheObjectEmpty) {
   }
 }
 
-TEST(cDIBSection, ASecondCreateThrowsTheOldImageAway) {
+TEST(cDIBSection, ASecondCreateDiscardsTheOldPicture) {
   cDIBSection dib;
   ASSERT_TRUE(dib.Create(3, 3));
   ASSERT_TRUE(dib.Create(5, 2));

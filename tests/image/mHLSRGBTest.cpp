@@ -18,7 +18,7 @@ HLS ToHLS(fakes::RGB color) {
   return hls;
 }
 
-TEST(mHLSRGB, MaximumAndMinimumLookAtAllThree) {
+TEST(mHLSRGB, MaximumAndMinimumCompareAllThreeChannels) {
   for (const auto& v : {std::array{1.F, 2.F, 3.F}, {3.F, 1.F, 2.F}, {2.F, 3.F, 1.F}, {3.F, 3.F, 1.F}}) {
     EXPECT_EQ(Maximum(v[0], v[1], v[2]), 3.F);
     EXPECT_EQ(Minimum(v[0], v[1], v[2]), 1.F);
@@ -41,12 +41,12 @@ TEST(mHLSRGB, GreyHasNeitherHueNorSaturation) {
   }
 }
 
-TEST(mHLSRGB, SaturationIsMeasuredAgainstBlackBelowHalfLightAndAgainstWhiteAbove) {
+TEST(mHLSRGB, SaturationIsRelativeToBlackBelowHalfLightnessAndToWhiteAbove) {
   EXPECT_FLOAT_EQ(ToHLS({100, 50, 50}).S, 50.F / 150.F);
   EXPECT_FLOAT_EQ(ToHLS({250, 200, 200}).S, 50.F / 60.F);
 }
 
-TEST(mHLSRGB, TheWayThereAndBackIsOffByOneAtMost) {
+TEST(mHLSRGB, ConvertingThereAndBackIsOffByOneAtMost) {
   for (int r = 0; r < 256; r += 5) {
     for (int g = 0; g < 256; g += 3) {
       for (int b = 0; b < 256; b += 7) {
@@ -71,7 +71,7 @@ TEST(mHLSRGB, EachSixthOfTheCircleHasItsOrderOfChannels) {
   }
 }
 
-TEST(mHLSRGB, ALightnessBeyondAllIntegersIsAFailure) {
+TEST(mHLSRGB, ALightnessBeyondTheRangeOfIntegersIsAFailure) {
   std::int32_t rgb[3] = {};
   EXPECT_EQ(fakes::FailureOf([&] { HLSToRGB(0, 0, 1e30F, rgb[0], rgb[1], rgb[2]); }), env::FailureKind::Overflow);
 }

@@ -56,7 +56,7 @@ class AsioFTPSocketTest : public testing::Test {
   fakes::ScriptedFTPSocket control{"cmd", journal};
 };
 
-TEST_F(AsioFTPSocketTest, ConnectsByNumberAndByName) {
+TEST_F(AsioFTPSocketTest, ConnectsByAddressAndByName) {
   for (const char* host : {"127.0.0.1", "localhost"}) {
     FTPSocketSettings settings;
     settings.host = host;
@@ -100,7 +100,7 @@ struct FullListener {
   LoopbackPeer second{listener.Port(), "127.0.0.1", SOCK_NONBLOCK};
 };
 
-TEST_F(AsioFTPSocketTest, ConnectEndsWithItsTimeLimit) {
+TEST_F(AsioFTPSocketTest, ConnectEndsAtItsTimeLimit) {
   const FullListener full;
   ConfigureFor(full.listener.Port(), Milliseconds(100));
   EXPECT_NE(socket.Connect(), 0);
@@ -117,7 +117,7 @@ TEST_F(AsioFTPSocketTest, ConnectCanBeCancelled) {
   EXPECT_FALSE(socket.IsBlocking());
 }
 
-TEST_F(AsioFTPSocketTest, ReadGivesWhatIsThereUpToAMost) {
+TEST_F(AsioFTPSocketTest, ReadReturnsWhatHasArrivedUpToALimit) {
   const auto peer = Connected();
   EXPECT_FALSE(socket.HasNews());
   peer.Say("220 Hello");
@@ -126,7 +126,7 @@ TEST_F(AsioFTPSocketTest, ReadGivesWhatIsThereUpToAMost) {
   EXPECT_EQ(socket.Read(512), "ello");
 }
 
-TEST_F(AsioFTPSocketTest, ReadGivesNothingAtTheEndOfTheStream) {
+TEST_F(AsioFTPSocketTest, ReadReturnsNothingAtTheEndOfTheStream) {
   auto peer = Connected();
   peer.Close();
   EXPECT_EQ(socket.Read(512), "");
@@ -136,7 +136,7 @@ TEST_F(AsioFTPSocketTest, ReadGivesNothingAtTheEndOfTheStream) {
   EXPECT_EQ(socket.Read(512), "");
 }
 
-TEST_F(AsioFTPSocketTest, ReadEndsWithItsTimeLimit) {
+TEST_F(AsioFTPSocketTest, ReadEndsAtItsTimeLimit) {
   const auto peer = Connected(Milliseconds(100));
   EXPECT_EQ(socket.Read(512), "");
   EXPECT_GT(loop.turns, 0);
@@ -165,7 +165,7 @@ TEST_F(AsioFTPSocketTest, ACancelWithoutABlockingCallDoesNothing) {
   EXPECT_EQ(socket.Read(512), "x");
 }
 
-TEST_F(AsioFTPSocketTest, WritesAndTellsTheCount) {
+TEST_F(AsioFTPSocketTest, WriteReturnsTheNumberOfBytes) {
   auto peer = Connected();
   EXPECT_EQ(socket.Write("USER me\r\n"), 9);
   EXPECT_EQ(socket.WriteBytes(std::string("\0\1\2", 3)), 3U);
@@ -175,7 +175,7 @@ TEST_F(AsioFTPSocketTest, WritesAndTellsTheCount) {
   EXPECT_FALSE(wasReset);
 }
 
-TEST_F(AsioFTPSocketTest, AWriteToAPeerThatIsGoneFailsAndKillsNobody) {
+TEST_F(AsioFTPSocketTest, AWriteToAPeerThatHasGoneFailsWithoutASignal) {
   std::signal(SIGPIPE, SIG_DFL);
   auto peer = Connected();
   peer.Reset();
@@ -189,13 +189,13 @@ TEST_F(AsioFTPSocketTest, AWriteToAPeerThatIsGoneFailsAndKillsNobody) {
 
 constexpr std::size_t kMoreThanFits = std::size_t{64} << 20U;
 
-TEST_F(AsioFTPSocketTest, AWriteWaitsForItsPeerAndEndsWithItsTimeLimit) {
+TEST_F(AsioFTPSocketTest, AWriteWaitsForItsPeerAndEndsAtItsTimeLimit) {
   const auto peer = Connected(Milliseconds(100));
   EXPECT_EQ(socket.Write(std::string(kMoreThanFits, 'x')), -1);
   EXPECT_GT(loop.turns, 0);
 }
 
-TEST_F(AsioFTPSocketTest, ACancelledWriteComesBackShortAndAResetDropsIt) {
+TEST_F(AsioFTPSocketTest, ACancelledWriteIsShortAndAResetDropsTheConnection) {
   const auto peer = Connected();
   CancelInTurn(4);
   const std::string bytes(kMoreThanFits, 'x');
@@ -208,7 +208,7 @@ TEST_F(AsioFTPSocketTest, ACancelledWriteComesBackShortAndAResetDropsIt) {
   EXPECT_TRUE(wasReset);
 }
 
-TEST_F(AsioFTPSocketTest, EachListenerHasAPortOfItsOwn) {
+TEST_F(AsioFTPSocketTest, EachListenerHasItsOwnPort) {
   ConfigureFor(0);
   EXPECT_EQ(socket.Listen(), 0);
   const LoopbackPeer first(ListeningPort(), "127.0.0.1");
@@ -216,11 +216,11 @@ TEST_F(AsioFTPSocketTest, EachListenerHasAPortOfItsOwn) {
   EXPECT_TRUE(socket.IsConnected());
   first.Say("x");
   EXPECT_EQ(socket.Read(1), "x");
-  EXPECT_EQ(socket.Listen(), 0) << "an old connection is in nobody's way";
+  EXPECT_EQ(socket.Listen(), 0) << "an old connection does not matter";
   EXPECT_FALSE(socket.IsConnected());
 }
 
-TEST_F(AsioFTPSocketTest, AnAddressOfAnotherMachineCannotBeListenedOn) {
+TEST_F(AsioFTPSocketTest, ListeningOnAnotherMachinesAddressFails) {
   FTPSocketSettings settings;
   for (const char* address : {"192.0.2.1", "nonsense", "2001:db8::1"}) {
     settings.listenAddress = address;
@@ -229,7 +229,7 @@ TEST_F(AsioFTPSocketTest, AnAddressOfAnotherMachineCannotBeListenedOn) {
   }
 }
 
-TEST_F(AsioFTPSocketTest, TakesAConnectionFromTheOneAddressOnly) {
+TEST_F(AsioFTPSocketTest, AcceptsAConnectionFromOneAddressOnly) {
   FTPSocketSettings settings;
   settings.portAddress = "127.0.0.1";
   settings.acceptFrom = "127.0.0.1";
@@ -247,7 +247,7 @@ TEST_F(AsioFTPSocketTest, TakesAConnectionFromTheOneAddressOnly) {
   EXPECT_EQ(stranger.ReadAll(wasReset), "");
 }
 
-TEST_F(AsioFTPSocketTest, AcceptWaitsWithoutALimitUntilItIsCancelled) {
+TEST_F(AsioFTPSocketTest, AcceptWaitsWithoutATimeLimitUntilItIsCancelled) {
   ConfigureFor(0, Milliseconds(0));
   ASSERT_EQ(socket.Listen(), 0);
   CancelInTurn(5);
@@ -255,7 +255,7 @@ TEST_F(AsioFTPSocketTest, AcceptWaitsWithoutALimitUntilItIsCancelled) {
   EXPECT_EQ(loop.turns, 5);
 }
 
-TEST_F(AsioFTPSocketTest, AServerThatSpeaksFirstWillNotConnectAnyMore) {
+TEST_F(AsioFTPSocketTest, AcceptFailsOnceTheServerHasReplied) {
   ConfigureFor(0, Milliseconds(0));
   ASSERT_EQ(socket.Listen(), 0);
   loop.onTurn = [this](int turn) {
@@ -264,7 +264,7 @@ TEST_F(AsioFTPSocketTest, AServerThatSpeaksFirstWillNotConnectAnyMore) {
   EXPECT_EQ(AcceptFailure(), env::FailureKind::FileAccess);
 }
 
-TEST_F(AsioFTPSocketTest, AConnectionThatCameBeforeTheNewsIsTaken) {
+TEST_F(AsioFTPSocketTest, AConnectionThatCameBeforeTheReplyIsAccepted) {
   ConfigureFor(0, Milliseconds(0));
   ASSERT_EQ(socket.Listen(), 0);
   const LoopbackPeer server(ListeningPort(), "127.0.0.1");

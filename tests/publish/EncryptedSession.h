@@ -9,7 +9,8 @@ namespace vantorium::publish {
 
 inline constexpr std::size_t kLargerThanAllBuffers = std::size_t{16} << 20U;
 
-/// An encrypting client and a scripted server whose certificate is accepted by its fingerprint, unless changed.
+/// An encrypting client and a scripted server. By default the client accepts the server's certificate by its
+/// fingerprint.
 class EncryptedSession {
  public:
   explicit EncryptedSession(fakes::ScriptedFtpServer::Script script = {},
@@ -32,7 +33,7 @@ class EncryptedSession {
     return client.ftp.FTPCopyFile("C:\\" + name, "t.jpg", true);
   }
   [[nodiscard]] const std::string& Problem() const { return client.ftp.EncryptionProblem(); }
-  [[nodiscard]] bool HasSaidASecret() const { return server.HasHeard("USER") || server.HasHeard("PASS"); }
+  [[nodiscard]] bool HasSentCredentials() const { return server.HasHeard("USER") || server.HasHeard("PASS"); }
 
   fakes::ScriptedFtpServer server;
   NetworkClient client;

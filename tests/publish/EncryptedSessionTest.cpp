@@ -1,4 +1,4 @@
-// Encrypted sessions with a scripted server: what goes out before the certificate is accepted.
+// Encrypted sessions with a scripted server: what the client sends before it accepts the certificate.
 #include "tests/publish/EncryptedSession.h"
 
 namespace vantorium::publish {
@@ -19,12 +19,12 @@ TEST(EncryptedSession, BothConnectionsAreEncryptedBeforeTheUsersNameIsSent) {
     EXPECT_TRUE(session.Copy()) << session.client.window.log;
     EXPECT_TRUE(session.Copy("large.jpg")) << session.client.window.log;
     EXPECT_EQ(session.server.Files().at("t.jpg"), std::string(kLargerThanAllBuffers, 'x'));
-    EXPECT_EQ(session.server.ResumedSessions(), 2) << "the session of the control connection is taken up";
+    EXPECT_EQ(session.server.ResumedSessions(), 2) << "the control connection's session is resumed";
     EXPECT_TRUE(session.client.boxes.boxes.empty());
   }
 }
 
-TEST(EncryptedSession, AServerThatRefusesToEncryptLearnsNothing) {
+TEST(EncryptedSession, AServerThatRefusesEncryptionGetsNoUserName) {
   for (const char* reply :
        {"500 What\r\n", "530 Please log in\r\n", "502 No\r\n", "334 Go on\r\n", "234 Go\r\n230 In\r\n"}) {
     EncryptedSession session(Saying("AUTH", reply));
@@ -35,31 +35,32 @@ TEST(EncryptedSession, AServerThatRefusesToEncryptLearnsNothing) {
   }
 }
 
-TEST(EncryptedSession, AServerThatDoesNotProtectFilesLearnsNothing) {
+TEST(EncryptedSession, AServerThatDoesNotEncryptFilesGetsNoUserName) {
   for (const char* verb : {"PBSZ", "PROT"}) {
     EncryptedSession session(Saying(verb, "536 No\r\n"));
     EXPECT_FALSE(session.Connect());
     EXPECT_EQ(session.Problem(), "The server \"127.0.0.1\" offers no encryption for files (PROT P).");
-    EXPECT_FALSE(session.HasSaidASecret());
+    EXPECT_FALSE(session.HasSentCredentials());
   }
 }
 
-TEST(EncryptedSession, AServerThatEndsWhileTheUserReadsSaysSo) {
+TEST(EncryptedSession, AServerThatEndsWhileTheUserDecidesIsReported) {
   EncryptedSession session(On("PBSZ", [](Session& server, const std::string&) { server.HangUp(); }));
   EXPECT_FALSE(session.Connect());
   EXPECT_EQ(session.Problem(), "The server \"127.0.0.1\" has ended the connection.");
-  EXPECT_FALSE(session.HasSaidASecret());
+  EXPECT_FALSE(session.HasSentCredentials());
 }
 
-TEST(EncryptedSession, WhatIsNotATlsIsAFailure) {
+TEST(EncryptedSession, AReplyThatIsNotTlsIsAFailure) {
   EncryptedSession session(On("AUTH", [](Session& server, const std::string&) {
     server.Say("234 Go on\r\n");
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));  // or it may be part of the reply, and is refused so
+    // Without the pause the text could arrive with the reply, which is refused too.
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
     server.Say("200 this is no TLS\r\n");
     server.StaySilent();
   }));
   EXPECT_FALSE(session.Connect());
-  EXPECT_FALSE(session.HasSaidASecret());
+  EXPECT_FALSE(session.HasSentCredentials());
   EXPECT_FALSE(session.client.ftp.IsConnected());
   EXPECT_NE(session.Problem(), "");
 }
@@ -75,7 +76,7 @@ TEST(EncryptedSession, VersionsBefore12AreRefused) {
                               }),
                            shown);
   EXPECT_FALSE(session.Connect());
-  EXPECT_FALSE(session.HasSaidASecret());
+  EXPECT_FALSE(session.HasSentCredentials());
 }
 
 TEST(EncryptedSession, AHandshakeCanBeCancelled) {
@@ -108,12 +109,12 @@ TEST(EncryptedSession, AnUnknownCertificateIsShownAndAskedAboutOnce) {
   EXPECT_EQ(shown.doubt, "self-signed certificate");
 }
 
-TEST(EncryptedSession, ACertificateThatTheUserOrNobodyAcceptsGetsNoSecret) {
-  for (const bool somebodyIsThere : {true, false}) {
+TEST(EncryptedSession, WithoutAnAcceptedCertificateNoUserNameOrPasswordIsSent) {
+  for (const bool hasPrompt : {true, false}) {
     EncryptedSession session;
     session.client.ftp.Options.fingerprint.clear();
     session.prompt.answer = false;
-    if (!somebodyIsThere) session.client.ftp.Certificates = nullptr;
+    if (!hasPrompt) session.client.ftp.Certificates = nullptr;
     EXPECT_FALSE(session.Connect());
     EXPECT_NE(session.Problem().find("is not trusted: self-signed certificate"), std::string::npos)
         << session.Problem();
@@ -121,19 +122,19 @@ TEST(EncryptedSession, ACertificateThatTheUserOrNobodyAcceptsGetsNoSecret) {
   }
 }
 
-TEST(EncryptedSession, AChangedCertificateIsRefusedEvenIfTheSystemVouchesForIt) {
+TEST(EncryptedSession, AChangedCertificateIsRefusedEvenIfTheSystemTrustsIt) {
   const TestCertificate changed;
   const SystemCertificate trusted(changed);
   EncryptedSession session({}, changed);
   session.client.ftp.Options.fingerprint = TestCertificate().fingerprint;
   EXPECT_FALSE(session.Connect());
   EXPECT_NE(session.Problem().find("has changed"), std::string::npos) << session.Problem();
-  EXPECT_NE(session.Problem().find(changed.fingerprint), std::string::npos) << "the new one is shown";
+  EXPECT_NE(session.Problem().find(changed.fingerprint), std::string::npos) << "the new fingerprint is shown";
   EXPECT_TRUE(session.prompt.hosts.empty());
   EXPECT_EQ(session.server.Commands(), Texts{"AUTH TLS"});
 }
 
-TEST(EncryptedSession, NobodyIsAskedIfTheSystemVouchesForTheHost) {
+TEST(EncryptedSession, TheUserIsNotAskedIfTheSystemTrustsTheCertificate) {
   const TestCertificate shown;
   const SystemCertificate trusted(shown);
   for (const char* host : {"127.0.0.1", "localhost"}) {
@@ -144,13 +145,13 @@ TEST(EncryptedSession, NobodyIsAskedIfTheSystemVouchesForTheHost) {
   }
 }
 
-TEST(EncryptedSession, ACertificateOfAnotherHostOrTimeIsInDoubt) {
-  const std::pair<TestCertificate::Wish, const char*> cases[] = {
+TEST(EncryptedSession, ACertificateForAnotherHostOrTimeIsNotTrusted) {
+  const std::pair<TestCertificate::Properties, const char*> cases[] = {
       {{.names = "DNS:elsewhere.example"}, "hostname mismatch"},
       {{.firstDay = -9, .lastDay = -2}, "certificate has expired"},
       {{.firstDay = 2, .lastDay = 9}, "certificate is not yet valid"}};
-  for (const auto& [wish, doubt] : cases) {
-    const TestCertificate shown(wish);
+  for (const auto& [properties, doubt] : cases) {
+    const TestCertificate shown(properties);
     const SystemCertificate trusted(shown);
     EncryptedSession session({}, shown);
     session.client.ftp.Options.fingerprint.clear();

@@ -1,4 +1,4 @@
-// Encrypted transfers with a scripted server: how files go out, and how their connections end.
+// Encrypted transfers with a scripted server: how files are sent, and how their connections end.
 #include "tests/publish/EncryptedSession.h"
 
 namespace vantorium::publish {
@@ -35,7 +35,7 @@ TEST(EncryptedTransfer, ADataConnectionThatIsNotEncryptedGetsNoFile) {
       << session.client.window.log;
 }
 
-TEST(EncryptedTransfer, ADataConnectionThatEndsInMidFileIsAFailureWhateverTheServerSays) {
+TEST(EncryptedTransfer, ADataConnectionThatEndsInMidFileIsAFailureWhateverTheServerReplies) {
   for (const char* name : {"small.jpg", "large.jpg"}) {
     EncryptedSession session(On("STOR", [&](Session& server, const std::string& target) {
       server.Say("150 Send\r\n");
@@ -74,7 +74,7 @@ TEST(EncryptedTransfer, AFileThatTheServerDoesNotConfirmIsAFailure) {
   }
 }
 
-TEST(EncryptedTransfer, AServerMayAnswerTheEndOfAFileByJustClosing) {
+TEST(EncryptedTransfer, AServerMayCloseTheDataConnectionWithoutCloseNotify) {
   EncryptedSession session(On("STOR", [](Session& server, const std::string& target) {
     server.Say("125 Send\r\n");
     if (!server.OpenData() || !server.EncryptData()) return;
@@ -86,7 +86,7 @@ TEST(EncryptedTransfer, AServerMayAnswerTheEndOfAFileByJustClosing) {
   EXPECT_EQ(session.server.Files(), (Files{{"t.jpg", "12345"}}));
 }
 
-TEST(EncryptedTransfer, ACancelledFileIsNotAWholeOneForTheServer) {
+TEST(EncryptedTransfer, ACancelledFileDoesNotLookCompleteToTheServer) {
   std::atomic<bool> endedLikeAWholeFile = true;
   EncryptedSession session(On("STOR", [&](Session& server, const std::string& target) {
     server.Say("150 Send\r\n");
@@ -103,7 +103,7 @@ TEST(EncryptedTransfer, ACancelledFileIsNotAWholeOneForTheServer) {
   EXPECT_FALSE(endedLikeAWholeFile);
 }
 
-TEST(EncryptedTransfer, ActiveModeReachesIPv6HostsWithEprt) {
+TEST(EncryptedTransfer, ActiveModeUsesEprtForIPv6Hosts) {
   ScriptedFtpServer::Script script;
   script.address = "::1";
   EncryptedSession session(script);

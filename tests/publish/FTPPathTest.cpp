@@ -18,14 +18,14 @@ constexpr Case kCases[] = {
     {"//a/b", "/a/", "b"},
 };
 
-TEST(FTPPath, FolderAndNameHaveForwardSlashes) {
+TEST(FTPPath, FolderAndNameAreJoinedWithForwardSlashes) {
   for (const auto& [path, folder, name] : kCases) {
     EXPECT_EQ(FTPGetFilePath(path), folder) << path;
     EXPECT_EQ(FTPGetFileName(path), name) << path;
   }
 }
 
-TEST(FTPPath, APathRelativeToTheSessionHasNoSlashInFront) {
+TEST(FTPPath, APathRelativeToTheSessionHasNoLeadingSlash) {
   for (const auto& [path, relative] : std::vector<std::pair<const char*, const char*>>{
            {"a/b.htm", "a/b.htm"}, {"/a/b/", "a/b/"}, {"//a//b", "a//b"}, {"\\a\\b", "a/b"}, {"/", ""}, {"", ""}}) {
     EXPECT_EQ(RelativeToSession(path), relative) << path;

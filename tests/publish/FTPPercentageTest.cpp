@@ -17,7 +17,7 @@ TEST(FTPPercentage, IsRoundedWithHalvesToEven) {
   EXPECT_EQ(FTPPercentage(3, 3), 100);
 }
 
-TEST(FTPPercentage, IsNotComputedWhereTheProductOverflows) {
+TEST(FTPPercentage, IsNotComputedIfTheProductOverflows) {
   EXPECT_EQ(FTPPercentage(21474836, 42949672), 50);
   EXPECT_EQ(FTPPercentage(21474837, 42949672), std::nullopt);
   EXPECT_EQ(FTPPercentage(0x7FFFFFFF, 0x7FFFFFFF), std::nullopt);

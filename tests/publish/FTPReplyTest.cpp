@@ -27,7 +27,7 @@ constexpr Case kCases[] = {
     {"220-one\r\n220 \r\n", true, 220, "one "},
     {"200\tTab\r\n", true, 200, "Tab"},
     {"000 Nothing\r\n", true, 0, "Nothing"},
-    // A second reply after the first is taken too.
+    // A second reply after the first becomes part of it.
     {"150 Go\r\n226 Done\r\n", true, 226, "Go Done"},
     {"220 Ready\r\n220-more", true, 220, "Ready"},
     {"", false, 0, ""},
@@ -43,7 +43,7 @@ constexpr Case kCases[] = {
     {"1.2 x\r\n", false, 0, "1.2 x"},
 };
 
-TEST(FTPReply, LinesAreJoinedByBlanksAndTheLastNumberIsTheCode) {
+TEST(FTPReply, LinesAreJoinedByBlanksAndTheLastCodeCounts) {
   for (const Case& each : kCases) {
     FTPReply reply;
     reply.Take(each.reply);
@@ -66,7 +66,7 @@ TEST(FTPReply, MayBeSplitAtAnyByte) {
   }
 }
 
-TEST(FTPReply, MayComeByteByByte) {
+TEST(FTPReply, MayArriveByteByByte) {
   FTPReply reply;
   for (const char letter : std::string("220-a\r\r\nb\r\n220 c\r\n")) {
     EXPECT_FALSE(reply.IsComplete());
@@ -83,7 +83,7 @@ TEST(FTPReply, ALineOfThreeDigitsIsAnInvalidArgument) {
   }
 }
 
-TEST(FTPReply, IsTooLongBeyondItsLimit) {
+TEST(FTPReply, IsTooLongBeyondTheLimit) {
   FTPReply line;
   line.Take(std::string(FTPReply::kMostCharacters, 'x'));
   EXPECT_FALSE(line.IsTooLong());

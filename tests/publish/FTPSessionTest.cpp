@@ -1,4 +1,4 @@
-// Complete sessions with a misbehaving server: what the user is told, and what remains on the server.
+// Sessions with a misbehaving server: what the user is told, and which files stay on the server.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/ScriptedFtpServer.h"
@@ -21,7 +21,7 @@ constexpr FTPTimeLimits kShort = {std::chrono::milliseconds(500), std::chrono::m
 /// A client and a scripted server. The client has a file p.jpg that is larger than all buffers between the two.
 class FTPSession {
  public:
-  explicit FTPSession(ScriptedFtpServer::Script script = {}, FTPTimeLimits limits = NoHurry())
+  explicit FTPSession(ScriptedFtpServer::Script script = {}, FTPTimeLimits limits = LongTimeLimits())
       : server(std::move(script)), client(limits), photograph(std::size_t{16} << 20U, 'p') {
     for (std::size_t at = 0; at < photograph.size(); at += 1000) photograph[at] = static_cast<char>('a' + at % 23);
     client.folder.Write("p.jpg", photograph);
@@ -37,7 +37,7 @@ class FTPSession {
   }
   [[nodiscard]] bool Change() { return client.ftp.FTPChangeDirectory("x"); }
 
-  static constexpr FTPTimeLimits NoHurry() { return {std::chrono::seconds(20), std::chrono::seconds(20)}; }
+  static constexpr FTPTimeLimits LongTimeLimits() { return {std::chrono::seconds(20), std::chrono::seconds(20)}; }
 
   ScriptedFtpServer server;
   NetworkClient client;
@@ -63,7 +63,7 @@ TEST(FTPSession, StoresFilesOneAfterTheOther) {
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
 }
 
-TEST(FTPSession, ThePasswordReachesTheServerOnly) {
+TEST(FTPSession, ThePasswordIsSentButNotLogged) {
   FTPSession session(On("PASS", [](Session& server, const std::string&) { server.Say("530 No\r\n"); }));
   EXPECT_TRUE(session.client.ftp.FTPConnect("127.0.0.1", session.server.Port()));
   EXPECT_FALSE(session.client.ftp.FTPLogin("me", "open sesame"));
@@ -72,7 +72,7 @@ TEST(FTPSession, ThePasswordReachesTheServerOnly) {
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
 }
 
-TEST(FTPSession, RepliesMayComeByteByByte) {
+TEST(FTPSession, RepliesMayArriveByteByByte) {
   ScriptedFtpServer::Script script;
   script.greet = [](Session& server) { server.SayByteByByte("220-Welcome\r\n here\r\n220 Ready\r\n"); };
   script.on["CWD"] = [](Session& server, const std::string&) { server.SayByteByByte("250-a\r\n250 b\r\n"); };
@@ -94,14 +94,14 @@ TEST(FTPSession, AServerThatAnswers125IsRefused) {
   EXPECT_TRUE(session.server.WaitToHear("DELE t.jpg"));
 }
 
-TEST(FTPSession, AServerThatLeavesWith421EndsTheSession) {
+TEST(FTPSession, AServerThatReplies421EndsTheSession) {
   FTPSession session(On("STOR", [](Session& server, const std::string&) {
     server.Say("421 Shutting down\r\n");
     server.HangUp();
   }));
   EXPECT_FALSE(session.LogIn().Copy());
   EXPECT_FALSE(session.client.ftp.IsConnected());
-  EXPECT_EQ(session.client.BoxTexts(), kNothing) << "the caller reports its file";
+  EXPECT_EQ(session.client.BoxTexts(), kNothing) << "the caller reports the file";
   EXPECT_FALSE(session.Change());
   EXPECT_EQ(session.client.BoxTexts(), kTerminated);
   EXPECT_EQ(session.server.Files(), Files{});
@@ -117,12 +117,12 @@ TEST(FTPSession, AFullServerRefusesTheConnection) {
   EXPECT_EQ(session.client.window.log, "421 Too many users\r\n");
 }
 
-TEST(FTPSession, ARefusedPortIsARefusedFile) {
+TEST(FTPSession, ARefusedPortFailsTheFile) {
   FTPSession session(On("PORT", [](Session& server, const std::string&) { server.Say("500 Illegal PORT\r\n"); }));
   EXPECT_FALSE(session.LogIn().Copy());
   EXPECT_EQ(session.server.Files(), Files{});
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_TRUE(session.Change()) << "the session goes on";
+  EXPECT_TRUE(session.Change()) << "the session continues";
 }
 
 TEST(FTPSession, ADataConnectionThatTheServerCannotOpenFailsTheFile) {
@@ -152,7 +152,7 @@ TEST(FTPSession, AResetInMidFileLeavesNothingOnTheServer) {
   EXPECT_EQ(session.server.Files(), Files{});
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"));
-  EXPECT_TRUE(session.Change()) << "the session goes on";
+  EXPECT_TRUE(session.Change()) << "the session continues";
 }
 
 TEST(FTPSession, AServerThatStopsReadingEarlyLeavesNothingOnTheServer) {
@@ -162,31 +162,31 @@ TEST(FTPSession, AServerThatStopsReadingEarlyLeavesNothingOnTheServer) {
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
 }
 
-TEST(FTPSession, AControlConnectionLostInMidFileShowsWithTheNextCommand) {
+TEST(FTPSession, AControlConnectionLostInMidFileIsNoticedAtTheNextCommand) {
   FTPSession session(On("STOR", [](Session& server, const std::string& name) {
     server.Say("150 Send\r\n");
     if (!server.OpenData()) return;
     server.HangUp();
     std::ignore = server.Receive(name);
   }));
-  EXPECT_TRUE(session.LogIn().Copy("p.jpg")) << "the bytes are out";
+  EXPECT_TRUE(session.LogIn().Copy("p.jpg")) << "all bytes were sent";
   EXPECT_FALSE(session.client.ftp.IsConnected());
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
   EXPECT_FALSE(session.Change());
   EXPECT_EQ(session.client.BoxTexts(), kTerminated);
 }
 
-TEST(FTPSession, BothConnectionsLostInMidFileLeaveAPartAndTellTheUser) {
+TEST(FTPSession, BothConnectionsLostInMidFileLeaveAPartAndAreReported) {
   FTPSession session(On("STOR", StoreAPart([](Session& server) {
                           server.HangUp();
                           server.ResetData();
                         })));
   EXPECT_FALSE(session.LogIn().Copy("p.jpg"));
-  EXPECT_EQ(session.client.BoxTexts(), kTerminated) << "the deletion finds the connection closed";
+  EXPECT_EQ(session.client.BoxTexts(), kTerminated) << "the connection is closed before the deletion";
   EXPECT_EQ(session.server.Files(), (Files{{"t.jpg", session.photograph.substr(0, 10000)}}));
 }
 
-TEST(FTPSession, AServerThatNeverSpeaksIsGivenUp) {
+TEST(FTPSession, AServerThatNeverRepliesTimesOut) {
   ScriptedFtpServer::Script script;
   script.greet = [](Session& server) { server.StaySilent(); };
   FTPSession session(script, kShort);
@@ -195,7 +195,7 @@ TEST(FTPSession, AServerThatNeverSpeaksIsGivenUp) {
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
 }
 
-TEST(FTPSession, AServerThatFallsSilentIsGivenUp) {
+TEST(FTPSession, AServerThatStopsReplyingTimesOut) {
   FTPSession session(On("CWD", [](Session& server, const std::string&) { server.StaySilent(); }), kShort);
   EXPECT_FALSE(session.LogIn().Change());
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
@@ -203,7 +203,7 @@ TEST(FTPSession, AServerThatFallsSilentIsGivenUp) {
   EXPECT_EQ(session.client.BoxTexts(), kTerminated);
 }
 
-TEST(FTPSession, AFileWithoutClosingReplyIsStoredAllTheSame) {
+TEST(FTPSession, AFileWithoutAClosingReplyCountsAsStored) {
   FTPSession session(On("STOR",
                         [](Session& server, const std::string& name) {
                           server.Say("150 Send\r\n");
@@ -216,7 +216,7 @@ TEST(FTPSession, AFileWithoutClosingReplyIsStoredAllTheSame) {
   EXPECT_FALSE(session.client.ftp.IsConnected());
 }
 
-TEST(FTPSession, AReplyWithoutEndIsGivenUp) {
+TEST(FTPSession, AReplyWithoutEndClosesTheConnection) {
   FTPSession session(
       On("CWD", [](Session& server, const std::string&) { server.Say(std::string(std::size_t{4} << 20U, 'x')); }));
   EXPECT_FALSE(session.LogIn().Change());
@@ -242,7 +242,7 @@ TEST(FTPSession, AnEmptyFileFailsAndTheNextOneIsStored) {
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = session.Copy("empty.jpg", "e.jpg"); }),
             env::FailureKind::DivisionByZero);
   EXPECT_TRUE(session.server.WaitToHear("STOR e.jpg"));
-  // The next command is sent before the reply to the empty file arrives, and takes that reply for its own.
+  // The next command is sent before the reply to the empty file arrives, and reads that reply as its own.
   std::ignore = session.Copy();
   session.client.ftp.Disconnect();
   EXPECT_TRUE(session.LogIn().Copy());
@@ -251,7 +251,7 @@ TEST(FTPSession, AnEmptyFileFailsAndTheNextOneIsStored) {
 
 // Cancels in each call that can block.
 
-TEST(FTPSessionCancel, InTheWaitForTheGreeting) {
+TEST(FTPSessionCancel, WhileWaitingForTheGreeting) {
   ScriptedFtpServer::Script script;
   script.greet = [](Session& server) { server.StaySilent(); };
   FTPSession session(script);
@@ -261,16 +261,16 @@ TEST(FTPSessionCancel, InTheWaitForTheGreeting) {
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
 }
 
-TEST(FTPSessionCancel, InTheWaitForAReply) {
+TEST(FTPSessionCancel, WhileWaitingForAReply) {
   FTPSession session(On("STOR", [](Session& server, const std::string&) { server.StaySilent(); }));
   session.LogIn().client.CancelWhen([&] { return session.server.HasHeard("STOR"); });
   EXPECT_FALSE(session.Copy());
   EXPECT_FALSE(session.client.ftp.IsConnected());
-  EXPECT_EQ(session.client.BoxTexts(), kNothing) << "the user knows";
+  EXPECT_EQ(session.client.BoxTexts(), kNothing) << "the user cancelled";
   EXPECT_EQ(session.server.Files(), Files{});
 }
 
-TEST(FTPSessionCancel, InTheWaitForTheDataConnection) {
+TEST(FTPSessionCancel, WhileWaitingForTheDataConnection) {
   FTPSession session(On("STOR", [](Session& server, const std::string&) { server.Say("150 Send\r\n"); }));
   session.LogIn().client.CancelWhen([&] { return session.client.window.log.ends_with("150 Send\r\n"); });
   EXPECT_FALSE(session.Copy());
@@ -279,7 +279,7 @@ TEST(FTPSessionCancel, InTheWaitForTheDataConnection) {
   EXPECT_TRUE(session.client.ftp.IsConnected());
 }
 
-TEST(FTPSessionCancel, InAWriteThatWaits) {
+TEST(FTPSessionCancel, WhileAWriteWaits) {
   FTPSession session(On("STOR", [](Session& server, const std::string& name) {
     server.Say("150 Send\r\n");
     if (!server.OpenData()) return;
@@ -292,7 +292,7 @@ TEST(FTPSessionCancel, InAWriteThatWaits) {
   EXPECT_FALSE(session.Copy("p.jpg"));
   EXPECT_TRUE(session.client.cancel.isRequested);
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_EQ(session.server.Files(), Files{}) << "what has arrived is deleted";
+  EXPECT_EQ(session.server.Files(), Files{}) << "the partial file is deleted";
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
       << session.client.window.log;
 }
@@ -302,12 +302,12 @@ TEST(FTPSessionCancel, BeforeABlock) {
   session.LogIn().client.CancelWhen([&] { return session.client.window.percentages.size() == 3; });
   EXPECT_FALSE(session.Copy("p.jpg"));
   EXPECT_EQ(session.client.BoxTexts(), kNothing);
-  EXPECT_EQ(session.server.Files(), Files{}) << "what has arrived is deleted";
+  EXPECT_EQ(session.server.Files(), Files{}) << "the partial file is deleted";
   EXPECT_TRUE(session.client.window.log.ends_with("426 Broken\r\nDeleting file t.jpg\r\n250 Gone\r\n"))
       << session.client.window.log;
 }
 
-TEST(FTPSessionCancel, AServerThatIsSilentAfterwardsIsGivenUpSoon) {
+TEST(FTPSessionCancel, AServerThatDoesNotReplyAfterwardsTimesOutSoon) {
   FTPSession session(On("STOR",
                         [](Session& server, const std::string&) {
                           server.Say("150 Send\r\n");
@@ -321,7 +321,7 @@ TEST(FTPSessionCancel, AServerThatIsSilentAfterwardsIsGivenUpSoon) {
   EXPECT_TRUE(session.client.window.log.ends_with("150 Send\r\nDeleting file t.jpg\r\n")) << session.client.window.log;
 }
 
-TEST(FTPSessionCancel, AServerThatIsTooSlowForTheUserStillDeletesWhatHasArrived) {
+TEST(FTPSessionCancel, AServerThatRepliesTooLateStillDeletesThePart) {
   FTPSession session(On("STOR",
                         [](Session& server, const std::string& name) {
                           server.Say("150 Send\r\n");

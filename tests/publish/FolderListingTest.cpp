@@ -25,8 +25,8 @@ class AListing : public testing::Test {
   }
 
   fakes::TemporaryFolder folder;
-  int asked = 0;  ///< number of questions whether to continue
-  int noAt = 0;   ///< number of the question that is answered with no; 0: none
+  int asked = 0;  ///< how often the listing asked whether to continue
+  int noAt = 0;   ///< the question that is answered with no; 0: none
 };
 
 TEST_F(AListing, IsInTheOrderOfTheNames) {
@@ -39,7 +39,7 @@ TEST_F(AListing, IsInTheOrderOfTheNames) {
   EXPECT_EQ(names, ".hidden 10 9 B a ab b \xC3\xA4 ");
 }
 
-TEST_F(AListing, TellsFoldersFromFiles) {
+TEST_F(AListing, DistinguishesFoldersFromFiles) {
   folder.Write("file", "");
   fs::create_directory(folder.Path() / "folder");
   EXPECT_EQ(List().entries, (Entries{{"file", EntryKind::File}, {"folder", EntryKind::Folder}}));
@@ -62,7 +62,7 @@ TEST_F(AListing, OnlyFilesAndFoldersAreListed) {
   EXPECT_TRUE(listing.complete);
 }
 
-TEST_F(AListing, UnfinishedFilesOfARunAreLeftOut) {
+TEST_F(AListing, UnfinishedFilesAreLeftOut) {
   folder.Write(".vantorium-1234567-0", "half");
   folder.Write(".vantorium-1-17", "half");
   folder.Write(".vantorium-mine", "x");
@@ -76,7 +76,7 @@ TEST_F(AListing, OfAnEmptyFolderIsCompleteAndEmpty) {
   EXPECT_EQ(listing.entries, Entries());
 }
 
-TEST_F(AListing, AsksAtItsStartAndAfterEachEntryWhetherToGoOn) {
+TEST_F(AListing, AsksAtItsStartAndAfterEachEntryWhetherToContinue) {
   EXPECT_TRUE(List().complete);
   EXPECT_EQ(asked, 1);
   for (const char* name : {"a", "b", "c"}) folder.Write(name, "x");
@@ -90,7 +90,7 @@ TEST_F(AListing, AsksAtItsStartAndAfterEachEntryWhetherToGoOn) {
   }
 }
 
-TEST_F(AListing, OfAFileDoesNotStart) {
+TEST_F(AListing, OfAFileFails) {
   for (const fs::path& path : {folder.Write("file", "x"), folder.Path() / "missing", fs::path()}) {
     const FolderListing listing = List(path);
     EXPECT_EQ(asked, 0) << path;

@@ -5,7 +5,7 @@
 namespace vantorium::publish {
 namespace {
 
-TEST(HostLookup, FindsAddressesOfIPv4Only) {
+TEST(HostLookup, FindsOnlyIPv4AddressesByDefault) {
   EXPECT_EQ(LookUpHost("127.0.0.1").get(), std::vector<std::string>{"127.0.0.1"});
   EXPECT_EQ(LookUpHost("localhost").get().at(0), "127.0.0.1");
   EXPECT_TRUE(LookUpHost("::1").get().empty());
@@ -18,12 +18,12 @@ TEST(HostLookup, AnInvalidHostNameHasNoAddress) {
   EXPECT_TRUE(LookUpHost(std::string("localhost\0x", 11)).get().empty());
 }
 
-TEST(HostLookup, NobodyHasToWait) {
+TEST(HostLookup, AnUnusedResultDoesNotDisturbTheNextLookup) {
   { const auto unused = LookUpHost("127.0.0.1"); }
-  SUCCEED();
+  EXPECT_EQ(LookUpHost("127.0.0.1").get(), std::vector<std::string>{"127.0.0.1"});
 }
 
-TEST(HostLookup, IPv6AddressesAreFoundOnDemandOnly) {
+TEST(HostLookup, IPv6AddressesAreFoundOnRequestOnly) {
   EXPECT_EQ(LookUpHost("::1", HostFamily::Any).get(), std::vector<std::string>{"::1"});
   EXPECT_TRUE(LookUpHost("::1", HostFamily::IPv4).get().empty());
   EXPECT_TRUE(LookUpHost("::g", HostFamily::Any).get().empty());

@@ -14,7 +14,7 @@ std::optional<env::FailureKind> LengthFailure(const std::optional<std::filesyste
   return FailureOf([&] { std::ignore = LengthOfFile(file); });
 }
 
-TEST(LocalFile, TellsTheLengthOfRegularFilesOnly) {
+TEST(LocalFile, OnlyRegularFilesHaveALength) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(LengthOfFile(folder.Write("five", "12345")), 5);
   EXPECT_EQ(LengthOfFile(folder.Write("none", "")), 0);
@@ -57,7 +57,7 @@ TEST(LocalFile, ReadsLargeFilesToTheLastByte) {
   EXPECT_TRUE(read == bytes);
 }
 
-TEST(LocalFile, APipeStopsNothing) {
+TEST(LocalFile, APipeDoesNotBlock) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);

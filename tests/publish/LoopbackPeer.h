@@ -41,7 +41,7 @@ class LoopbackPeer {
   }
 
   void Say(std::string_view text) const { ::send(socket_.Get(), text.data(), text.size(), MSG_NOSIGNAL); }
-  /// Reads until the connection ends. `wasReset` is set to whether it was reset.
+  /// Reads until the connection ends. Sets `wasReset` to whether it was reset.
   [[nodiscard]] std::string ReadAll(bool& wasReset) const {
     std::string bytes;
     std::array<char, 65536> block = {};

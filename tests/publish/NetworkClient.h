@@ -18,7 +18,7 @@ struct NetworkClient {
     ftp.FTPProgress = &window;
   }
 
-  /// Whether the current turn of the event loop takes place while a block is being written.
+  /// Whether the current turn of the event loop is one of a blocking write.
   [[nodiscard]] bool IsInsideAWrite() const { return data.IsConnected() && data.IsBlocking(); }
 
   /// Confirms a cancel in the first turn of the event loop in which `isTime` returns true.

@@ -7,7 +7,7 @@ namespace {
 
 using Cases = std::vector<std::pair<std::string_view, std::optional<std::uint16_t>>>;
 
-TEST(PassiveReply, ThePortOfEpsvIsAfterThreeEqualDelimiters) {
+TEST(PassiveReply, ThePortOfEpsvFollowsThreeEqualDelimiters) {
   const Cases cases = {{"Entering Extended Passive Mode (|||6446|)", 6446},
                        {"(|||1|)", 1},
                        {"(|||65535|) and more", 65535},
@@ -33,7 +33,7 @@ TEST(PassiveReply, ThePortOfEpsvIsAfterThreeEqualDelimiters) {
   for (const auto& [text, port] : cases) EXPECT_EQ(PortOfEpsvReply(text), port) << text;
 }
 
-TEST(PassiveReply, ThePortOfPasvIsMadeOfTheLastTwoOfSixNumbers) {
+TEST(PassiveReply, ThePortOfPasvIsInTheLastTwoOfSixNumbers) {
   const Cases cases = {{"Entering Passive Mode (127,0,0,1,1,2).", 258},
                        {"127,0,0,1,1,2", 258},
                        {"=127,0,0,1,255,255", 65535},

@@ -40,7 +40,7 @@ std::string Comma(std::uint16_t port) {
   return std::to_string(port / 256) + "," + std::to_string(port % 256);
 }
 
-TEST(PassiveSession, AsksForAPortForEachFileAndOffersNone) {
+TEST(PassiveSession, RequestsAPortForEachFileAndSendsNone) {
   PassiveSession session;
   EXPECT_TRUE(session.Copy());
   EXPECT_TRUE(session.Copy());
@@ -52,7 +52,7 @@ TEST(PassiveSession, AsksForAPortForEachFileAndOffersNone) {
   EXPECT_TRUE(session.client.boxes.boxes.empty());
 }
 
-TEST(PassiveSession, AServerWithoutEpsvIsAskedForItOnlyOnce) {
+TEST(PassiveSession, AServerWithoutEpsvGetsThatCommandOnlyOnce) {
   for (const char* refusal : {"500 What", "502 Not implemented", "522 Use PASV", "200 Ok"}) {
     ScriptedFtpServer::Script script;
     script.on["EPSV"] = Saying(refusal);
@@ -64,7 +64,7 @@ TEST(PassiveSession, AServerWithoutEpsvIsAskedForItOnlyOnce) {
   }
 }
 
-TEST(PassiveSession, AnAddressOtherThanTheServersIsNotFollowed) {
+TEST(PassiveSession, AnAddressInThePasvReplyIsIgnored) {
   for (const char* host : {"10,9,8,7", "127,0,0,2", "0,0,0,0", "192,0,2,1"}) {
     ScriptedFtpServer::Script script;
     script.on["EPSV"] = Saying("500 What");
@@ -77,7 +77,7 @@ TEST(PassiveSession, AnAddressOtherThanTheServersIsNotFollowed) {
   }
 }
 
-TEST(PassiveSession, AReplyWithoutAPortIsARefusedFile) {
+TEST(PassiveSession, AReplyWithoutAPortFailsTheFile) {
   const std::pair<const char*, const char*> replies[] = {{"229 Entering", "227 Entering (127,0,0,1,1,1)"},
                                                          {"229 (|||0|)", ""},
                                                          {"229 (|||65536|)", ""},
@@ -94,11 +94,11 @@ TEST(PassiveSession, AReplyWithoutAPortIsARefusedFile) {
     PassiveSession session(script);
     EXPECT_FALSE(session.Copy()) << epsv << pasv;
     EXPECT_FALSE(session.server.HasHeard("STOR")) << epsv << pasv;
-    EXPECT_TRUE(session.client.ftp.FTPChangeDirectory("x")) << "the session goes on";
+    EXPECT_TRUE(session.client.ftp.FTPChangeDirectory("x")) << "the session continues";
   }
 }
 
-TEST(PassiveSession, AServerThatDoesNotListenIsARefusedFile) {
+TEST(PassiveSession, AServerThatDoesNotListenFailsTheFile) {
   ScriptedFtpServer::Script script;
   script.on["EPSV"] = Saying("229 (|||1|)");
   PassiveSession session(script);
@@ -106,7 +106,7 @@ TEST(PassiveSession, AServerThatDoesNotListenIsARefusedFile) {
   EXPECT_FALSE(session.server.HasHeard("STOR"));
 }
 
-TEST(PassiveSession, BothReplies125And150OpenATransferAndNoOther) {
+TEST(PassiveSession, OnlyReplies125And150OpenATransfer) {
   for (const int code : {125, 150, 151, 200, 226, 425, 550}) {
     ScriptedFtpServer::Script script;
     script.on["STOR"] = [code](Session& session, const std::string& name) {
@@ -135,20 +135,20 @@ TEST(PassiveSession, AServerThatResetsTheTransferFailsTheFile) {
   EXPECT_TRUE(session.server.WaitToHear("DELE t.jpg"));
 }
 
-TEST(PassiveSession, IPv6HostsAreReachedWithEpsvOnly) {
+TEST(PassiveSession, IPv6HostsRequireEpsv) {
   ScriptedFtpServer::Script script;
   script.address = "::1";
   ScriptedFtpServer server(script);
   NetworkClient client;
   client.folder.Write("small.jpg", "12345");
-  EXPECT_FALSE(client.ftp.FTPConnect("::1", server.Port())) << "as long as everything is off";
+  EXPECT_FALSE(client.ftp.FTPConnect("::1", server.Port())) << "without the option";
   client.ftp.Options.passive = true;
   ASSERT_TRUE(client.ftp.FTPConnect("::1", server.Port()));
   EXPECT_TRUE(client.ftp.FTPCopyFile("C:\\small.jpg", "t.jpg", true)) << client.window.log;
   EXPECT_EQ(server.Files(), (Files{{"t.jpg", "12345"}}));
 }
 
-TEST(PassiveSession, AnIPv6HostWithoutEpsvIsNotAskedForPasv) {
+TEST(PassiveSession, PasvIsNotSentToAnIPv6Host) {
   ScriptedFtpServer::Script script;
   script.address = "::1";
   script.on["EPSV"] = Saying("500 What");

@@ -37,7 +37,7 @@ class ProgressModelTest : public testing::Test {
   std::unique_ptr<DrawnProgress> window = std::make_unique<DrawnProgress>(log);
 };
 
-TEST_F(ProgressModelTest, ComesUpAsTheWindowOfARunUnderWay) {
+TEST_F(ProgressModelTest, BeginsAsTheWindowOfARunningRun) {
   window->SetFileProgress(50);
   window->OfferClose();
   window->CloseRequested = true;
@@ -49,7 +49,7 @@ TEST_F(ProgressModelTest, ComesUpAsTheWindowOfARunUnderWay) {
   EXPECT_FALSE(HasFile()) << "an unlogged run writes no header";
 }
 
-TEST_F(ProgressModelTest, KeepsWhatItIsReported) {
+TEST_F(ProgressModelTest, KeepsWhatIsReported) {
   window->SetCaption("Uploading Folder");
   window->SetText1("one");
   window->SetText2("two");
@@ -84,7 +84,7 @@ TEST_F(ProgressModelTest, DrawsEachChange) {
                                         LogBox, LogBoxEnd}));
 }
 
-TEST_F(ProgressModelTest, TheBarOfTheFileAppearsWithItsFirstValue) {
+TEST_F(ProgressModelTest, TheFileProgressBarAppearsWithItsFirstValue) {
   window->Show();
   EXPECT_FALSE(window->IsFileProgressVisible());
   window->SetFileProgress(0);
@@ -94,7 +94,7 @@ TEST_F(ProgressModelTest, TheBarOfTheFileAppearsWithItsFirstValue) {
   EXPECT_EQ(window->FileProgress(), 100);
 }
 
-TEST_F(ProgressModelTest, TheLogBoxReplacesItsTextOrAppendsToItWithoutALineBreak) {
+TEST_F(ProgressModelTest, TheLogBoxReplacesOrAppendsTextWithoutALineBreak) {
   window->SetText3("a", true);
   window->SetText3("b", true);
   EXPECT_EQ(window->LogBoxText(), "ab");
@@ -104,7 +104,7 @@ TEST_F(ProgressModelTest, TheLogBoxReplacesItsTextOrAppendsToItWithoutALineBreak
   EXPECT_EQ(window->LogBoxText(), "");
 }
 
-TEST_F(ProgressModelTest, AtExactly30000CharactersTheNextAppendTakesASavepoint) {
+TEST_F(ProgressModelTest, FromExactly30000CharactersTheNextAppendSavesTheLogBox) {
   window->LogToFile = true;
   window->Show();
   const std::string almost(29999, 'x');
@@ -119,10 +119,10 @@ TEST_F(ProgressModelTest, AtExactly30000CharactersTheNextAppendTakesASavepoint) 
   EXPECT_EQ(window->drawn.at(window->drawn.size() - 2), ProgressPart::LogBox);
 }
 
-TEST_F(ProgressModelTest, CharactersAreCountedAndNotBytes) {
+TEST_F(ProgressModelTest, CharactersAreCountedNotBytes) {
   struct Case {
     std::string character;
-    std::size_t ofThem;  ///< how many of them count as 30000 characters
+    std::size_t ofThem;  ///< how many of these count as 30000 characters
   };
   const Case cases[] = {
       {"a", 30000},        {"\xC3\xA4", 30000},     {"\xE2\x82\xAC", 30000}, {"\xF0\x9F\x98\x80", 30000},
@@ -149,7 +149,7 @@ TEST_F(ProgressModelTest, ReplacingTheTextOfAFullLogBoxDoesNotSaveIt) {
   EXPECT_EQ(Chunks(), "");
 }
 
-TEST_F(ProgressModelTest, TheLogBoxOfAnUnloggedRunJustLosesItsOldText) {
+TEST_F(ProgressModelTest, TheLogBoxOfAnUnloggedRunDropsItsOldText) {
   window->Show();
   window->SetText3(std::string(30000, 'x'), true);
   window->SetText3("new", true);
@@ -157,7 +157,7 @@ TEST_F(ProgressModelTest, TheLogBoxOfAnUnloggedRunJustLosesItsOldText) {
   EXPECT_FALSE(HasFile());
 }
 
-TEST_F(ProgressModelTest, ALoggedRunLeavesHeaderSavepointsLastChunkAndFooter) {
+TEST_F(ProgressModelTest, ALogHasHeaderSavepointsLastChunkAndFooter) {
   window->LogToFile = true;
   window->Show();
   const std::string first(30000, '1');
@@ -197,7 +197,7 @@ TEST_F(ProgressModelTest, AFailedRunThatIsNotLoggedAppendsItsTextToTheLog) {
   EXPECT_EQ(File(), "before\r\ntext\r\n");
 }
 
-TEST_F(ProgressModelTest, ARunThatIsNotLoggedMakesNoProgramFolder) {
+TEST_F(ProgressModelTest, ARunThatIsNotLoggedCreatesNoProgramFolder) {
   const auto folder = program.Path() / "program";
   UploadLog elsewhere(folder, clock, boxes);
   {
@@ -216,7 +216,7 @@ TEST_F(ProgressModelTest, ARunThatIsNotLoggedMakesNoProgramFolder) {
   }
 }
 
-TEST_F(ProgressModelTest, ALogThatCannotBeWrittenShowsABoxForEachAttemptAndTheRunGoesOn) {
+TEST_F(ProgressModelTest, EachFailedWriteOfTheLogShowsAMessageBoxAndTheRunContinues) {
   std::filesystem::create_directory(program.Path() / "ftplog.txt");
   window->LogToFile = true;
   window->Show();
@@ -229,7 +229,7 @@ TEST_F(ProgressModelTest, ALogThatCannotBeWrittenShowsABoxForEachAttemptAndTheRu
   EXPECT_EQ(boxes.boxes.size(), 4U) << "the last text and the footer";
 }
 
-TEST_F(ProgressModelTest, OffersToCloseUntilTheNextRun) {
+TEST_F(ProgressModelTest, OffersCloseUntilTheNextRun) {
   window->Show();
   window->OfferClose();
   EXPECT_TRUE(window->OffersClose());

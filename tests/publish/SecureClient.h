@@ -7,7 +7,7 @@
 
 namespace vantorium::publish {
 
-/// Answers every question about a certificate alike, and records them.
+/// Gives the same answer to every question about a certificate, and records the questions.
 class ScriptedCertificatePrompt : public CertificatePrompt {
  public:
   [[nodiscard]] bool Accepts(const std::string& host, const ServerCertificate& certificate) override {
@@ -21,7 +21,7 @@ class ScriptedCertificatePrompt : public CertificatePrompt {
   std::vector<ServerCertificate> certificates;
 };
 
-/// Makes one certificate the only one that the system trusts, while this exists.
+/// While it exists, the system trusts only this certificate.
 class SystemCertificate {
  public:
   explicit SystemCertificate(const fakes::TestCertificate& trusted) {

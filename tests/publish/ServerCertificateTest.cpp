@@ -18,17 +18,16 @@ std::string Digits(const std::string& separator, bool small = false) {
 
 TEST(NormalizedFingerprint, CaseAndColonsDoNotMatter) {
   const std::string normal = Digits(":");
-  for (const std::string& text :
-       {Digits(":"), Digits(""), Digits(":", true), Digits("", true)}) {
+  for (const std::string& text : {Digits(":"), Digits(""), Digits(":", true), Digits("", true)}) {
     EXPECT_EQ(NormalizedFingerprint(text), normal) << text;
   }
 }
 
-TEST(NormalizedFingerprint, AnythingElseIsNone) {
+TEST(NormalizedFingerprint, AnythingElseIsNotAFingerprint) {
   const std::string whole = Digits("");
-  for (const std::string& text : {std::string(), std::string("SHA256"), whole.substr(1), whole + "0", whole + ":",
-                                  ":" + whole, Digits("::"), Digits(" "), Digits("-"),
-                                  "G" + whole.substr(1), "0:" + whole.substr(1), whole.substr(0, 40)}) {
+  for (const std::string& text :
+       {std::string(), std::string("SHA256"), whole.substr(1), whole + "0", whole + ":", ":" + whole, Digits("::"),
+        Digits(" "), Digits("-"), "G" + whole.substr(1), "0:" + whole.substr(1), whole.substr(0, 40)}) {
     EXPECT_EQ(NormalizedFingerprint(text), std::nullopt) << text;
   }
 }
@@ -41,7 +40,7 @@ TEST(DescriptionOf, ACertificateShowsNamesDatesAndFingerprint) {
             "SHA-256 fingerprint: AB:CD");
 }
 
-TEST(DescriptionOf, ManyNamesAreCutShort) {
+TEST(DescriptionOf, ALongListOfNamesIsAbbreviated) {
   ServerCertificate certificate;
   certificate.names.assign(1000, "x");
   EXPECT_NE(DescriptionOf(certificate).find("Names: x, x, x, x, x, x, x, x, ...\r"), std::string::npos);

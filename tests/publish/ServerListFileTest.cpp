@@ -3,7 +3,7 @@
 #include "env/mINIFileFunctions.h"
 #include "publish/ServerListFile.h"
 #include "tests/fakes/FailureOf.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -25,11 +25,11 @@ class ServerListFile : public testing::Test {
   fakes::TemporaryFolder program;
 };
 
-TEST_F(ServerListFile, IsInTheProgramsFolder) {
+TEST_F(ServerListFile, IsInTheProgramFolder) {
   EXPECT_EQ(ServerListFileName("/home/me/program"), "/home/me/program/vantorium.pub");
 }
 
-TEST_F(ServerListFile, HoldsItsLinesInTheirOrder) {
+TEST_F(ServerListFile, HasItsLinesInAFixedOrder) {
   WriteServerList({kFirst, kSecond}, 1, File());
   EXPECT_EQ(Text(),
             "[PUBLISH]\r\n"
@@ -49,12 +49,12 @@ TEST_F(ServerListFile, HoldsItsLinesInTheirOrder) {
             "JumpTo2=\"\"\r\n");
 }
 
-TEST_F(ServerListFile, OfAnEmptyListHoldsTwoZeros) {
+TEST_F(ServerListFile, HasTwoZerosForAnEmptyList) {
   WriteServerList({}, std::nullopt, File());
   EXPECT_EQ(Text(), "[PUBLISH]\r\nServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n");
 }
 
-TEST_F(ServerListFile, TakesThePlaceOfTheOldOneWithAllThatWasInIt) {
+TEST_F(ServerListFile, ReplacesTheOldFileCompletely) {
   program.Write("vantorium.pub", "[OTHER]\r\nKey=\"1\"\r\n" + std::string(1000, 'x'));
   WriteServerList({}, std::nullopt, File());
   EXPECT_EQ(Text(), "[PUBLISH]\r\nServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n");
@@ -69,7 +69,7 @@ TEST_F(ServerListFile, IsWrittenThroughALink) {
   EXPECT_EQ(program.Read("kept/servers"), "[PUBLISH]\r\nServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n");
 }
 
-TEST_F(ServerListFile, GetsItsFolderWhenThatIsMissing) {
+TEST_F(ServerListFile, ItsFolderIsCreatedIfMissing) {
   WriteServerList({kFirst}, 0, program.Path() / "not/yet/vantorium.pub");
   EXPECT_EQ(ServerListValues(program.Path() / "not/yet/vantorium.pub").Text("ServerName1"), "Home");
 }
@@ -90,7 +90,7 @@ TEST_F(ServerListFile, ALineBreakOrANulInAnyTextIsRefusedAndTheOldFileStays) {
   EXPECT_TRUE(FitsServerListFile(kFirst));
 }
 
-TEST_F(ServerListFile, AFullDiskCostsNotTheOldFile) {
+TEST_F(ServerListFile, OnAFullDiskTheOldFileStays) {
   program.Write("vantorium.pub", "old");
   const fakes::FullDisk full(20);
   EXPECT_EQ(FailureOf([&] { WriteServerList({kFirst}, 0, File()); }), env::FailureKind::FileAccess);
@@ -98,7 +98,7 @@ TEST_F(ServerListFile, AFullDiskCostsNotTheOldFile) {
   EXPECT_EQ(std::distance(fs::directory_iterator(program.Path()), fs::directory_iterator()), 1);
 }
 
-TEST_F(ServerListFile, AFileThatItsOwnerMayNotWriteIsNotReplaced) {
+TEST_F(ServerListFile, AReadOnlyFileIsNotReplaced) {
   program.Write("vantorium.pub", "old");
   for (const auto rights : {0444, 0000}) {
     fs::permissions(File(), static_cast<fs::perms>(rights));
@@ -108,14 +108,14 @@ TEST_F(ServerListFile, AFileThatItsOwnerMayNotWriteIsNotReplaced) {
   }
 }
 
-TEST_F(ServerListFile, AQuotationMarkWithinAValueComesBack) {
+TEST_F(ServerListFile, AQuotationMarkInAValueIsReadBack) {
   ServerProfile profile = kFirst;
   profile.ServerName = R"(the "big" one)";
   WriteServerList({profile}, 0, File());
   EXPECT_EQ(ServerListValues(File()).Text("ServerName1"), profile.ServerName);
 }
 
-TEST_F(ServerListFile, AMissingValueOrFileIsTheProgramsOwnFailure) {
+TEST_F(ServerListFile, AMissingValueOrFileIsAPreferencesFailure) {
   const auto missing = [&] {
     const ServerListValues values(File());
     EXPECT_EQ(FailureOf([&] { std::ignore = values.Text("ServerName1"); }), env::FailureKind::Preferences);
@@ -150,9 +150,9 @@ TEST_F(ServerListFile, ANumberIsADecimalOf32Bits) {
   }
 }
 
-/// Covers every case of the reader: sections, keys that occur twice, in capitals or in later sections, open quotation
-/// marks.
-TEST_F(ServerListFile, IsReadAsEveryPreferenceLikeFile) {
+/// Covers every case of the reader: sections, keys that occur twice, in other case or in later sections, and unclosed
+/// quotation marks.
+TEST_F(ServerListFile, IsReadLikeAPreferencesFile) {
   const std::vector<std::string> lines = {"[PUBLISH]", " [publish] ", "[OTHER]", "A=\"1\"", "a=2", "A =3", " A=4",
                                           "B=\"open",  "B=\"",        "b",       "",        "=5",  "B==6", "ServerA=7"};
   unsigned state = 1;
@@ -188,7 +188,7 @@ ServerProfile SecureProfile() {
   return profile;
 }
 
-TEST_F(ServerListFile, HoldsOptionsOnlyOfTheServersThatUseThem) {
+TEST_F(ServerListFile, HasOptionsOnlyForServersThatUseThem) {
   WriteServerList({SecureProfile(), kSecond}, 0, File());
   const std::string text = Text();
   const std::string lines = "JumpTo1=\"www\"\r\nPassive1=\"1\"\r\nEncrypted1=\"1\"\r\nFingerprint1=\"" +
@@ -197,7 +197,7 @@ TEST_F(ServerListFile, HoldsOptionsOnlyOfTheServersThatUseThem) {
   for (const char* key : {"Passive2", "Encrypted2", "Fingerprint2"}) EXPECT_EQ(text.find(key), std::string::npos);
 }
 
-TEST_F(ServerListFile, OptionsThatMakeNoSenseAreOff) {
+TEST_F(ServerListFile, InvalidOptionsAreOff) {
   const std::string good = SecureProfile().Fingerprint;
   const std::pair<std::string, ServerProfile> cases[] = {
       {"", {}},

@@ -57,7 +57,7 @@ class ServerListTest : public testing::Test {
   ServerList list{File(), boxes};
 };
 
-TEST_F(ServerListTest, ComesBackFromTheFileAsItWasWritten) {
+TEST_F(ServerListTest, IsReadBackAsItWasWritten) {
   WriteThree(1);
   const std::string text = Text();
   list.Open();
@@ -79,7 +79,7 @@ TEST_F(ServerListTest, OpeningReadsTheFileAgain) {
   EXPECT_EQ(list.Profiles(), (std::vector{kOne, kTwo, kThree}));
 }
 
-TEST_F(ServerListTest, AListOfZeroBecomesTheDefaultProfileAndIsWrittenAtOnce) {
+TEST_F(ServerListTest, AnEmptyListGetsTheDefaultProfileWhichIsWrittenAtOnce) {
   WriteServerList({}, std::nullopt, File());
   list.Open();
   EXPECT_EQ(list.Profiles(), std::vector{kDefault});
@@ -92,7 +92,7 @@ TEST_F(ServerListTest, AListOfZeroBecomesTheDefaultProfileAndIsWrittenAtOnce) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(ServerListTest, APreferredServerOutsideTheListIsTheFirst) {
+TEST_F(ServerListTest, APreferredServerOutsideTheListMeansTheFirst) {
   for (const char* preferred : {"0", "-1", "4", "7", "2147483647"}) {
     WriteThree(2);
     Replace("PreferredServer=\"3\"", std::string("PreferredServer=\"") + preferred + "\"");
@@ -102,7 +102,7 @@ TEST_F(ServerListTest, APreferredServerOutsideTheListIsTheFirst) {
   }
 }
 
-TEST_F(ServerListTest, NoFileIsAListOfZeroAndTheNextOpeningGivesTheDefault) {
+TEST_F(ServerListTest, WithoutAFileTheListIsEmptyAndTheNextOpeningGivesTheDefault) {
   list.Open();
   ExpectReadFailure(kNoPreference);
   EXPECT_TRUE(list.Profiles().empty());
@@ -148,11 +148,11 @@ TEST_F(ServerListTest, ServersReadBeforeAFailureAreWrittenAndReadAgain) {
     ServerList again(File(), boxes);
     again.Open();
     EXPECT_EQ(again.Profiles(), read == 0 ? std::vector{kDefault} : rest);
-    EXPECT_EQ(boxes.boxes.size(), 1U) << "the file is consistent now";
+    EXPECT_EQ(boxes.boxes.size(), 1U) << "the rewritten file is consistent";
   }
 }
 
-TEST_F(ServerListTest, AValueThatIsMissingIsTakenFromALaterSection) {
+TEST_F(ServerListTest, AMissingValueIsReadFromALaterSection) {
   WriteThree(0);
   Replace("JumpTo3=\"x/y\"", "[LATER]\r\nJumpTo3=\"later\"");
   list.Open();
@@ -166,7 +166,7 @@ TEST_F(ServerListTest, TwoProfilesOfOneNameInAFileAreBothShown) {
   EXPECT_EQ(Names(), "One One ");
 }
 
-TEST_F(ServerListTest, AFileThatCannotBeWrittenIsAFailureOfItsOwn) {
+TEST_F(ServerListTest, AFileThatCannotBeWrittenIsReported) {
   std::filesystem::create_directory(File());
   list.Open();
   ASSERT_EQ(boxes.boxes.size(), 2U);
@@ -202,7 +202,7 @@ TEST_F(ServerListTest, AnIndexTextIsSplitAtItsLastSeparator) {
   }
 }
 
-TEST_F(ServerListTest, AnAddedProfileIsTheLastAndSelectedAndTheRestStaysAsGiven) {
+TEST_F(ServerListTest, AnAddedProfileIsTheLastAndIsSelected) {
   WriteThree(0);
   list.Open();
   list.AddServerProfile({.ServerName = " N ", .ServerURL = "ftp://h\\", .UserName = "u", .TimeOut = 9, .JumpTo = "\\j"},
@@ -211,7 +211,7 @@ TEST_F(ServerListTest, AnAddedProfileIsTheLastAndSelectedAndTheRestStaysAsGiven)
   EXPECT_EQ(*list.SelectedProfile(), (ServerProfile{" N ", "ftp://h\\", "u", "", "f", 9, "\\j"}));
 }
 
-TEST_F(ServerListTest, AProfileThatTheFileCannotHoldIsNotAdded) {
+TEST_F(ServerListTest, AProfileThatTheFileCannotStoreIsNotAdded) {
   list.AddServerProfile(kOne, "a");
   list.AddServerProfile({.ServerName = "two\nlines"}, "a");
   list.AddServerProfile({.ServerName = "x"}, "a\rb/c");
@@ -234,7 +234,7 @@ TEST_F(ServerListTest, ANewServerIsAddedEmptyAndWrittenAtOnce) {
   EXPECT_EQ(again.Selected(), 3U);
 }
 
-TEST_F(ServerListTest, ANewServerNeedsANameOfItsOwnToTheLetter) {
+TEST_F(ServerListTest, ANewServerNeedsANameThatDiffersFromAllOthers) {
   WriteThree(0);
   list.Open();
   const std::string text = Text();
@@ -248,7 +248,7 @@ TEST_F(ServerListTest, ANewServerNeedsANameOfItsOwnToTheLetter) {
   EXPECT_TRUE(list.AddNewServer("Two "));
 }
 
-TEST_F(ServerListTest, DeletingSelectsTheOneThatTakesThePlaceElseTheLast) {
+TEST_F(ServerListTest, DeletingSelectsTheNextServerOrElseTheLast) {
   WriteThree(1);
   list.Open();
   const std::string text = Text();
@@ -259,13 +259,13 @@ TEST_F(ServerListTest, DeletingSelectsTheOneThatTakesThePlaceElseTheLast) {
   EXPECT_EQ(list.SelectedProfile()->ServerName, "One");
   list.DeleteServer();
   EXPECT_EQ(list.SelectedProfile(), nullptr);
-  EXPECT_EQ(Text(), text) << "the file follows with saving";
+  EXPECT_EQ(Text(), text) << "only saving changes the file";
   list.DeleteServer();
   EXPECT_TRUE(list.SaveServerList());
   EXPECT_EQ(Text(), "[PUBLISH]\r\nServerCount=\"0\"\r\nPreferredServer=\"0\"\r\n");
 }
 
-TEST_F(ServerListTest, SelectingAPlaceOutsideTheListIsAFailure) {
+TEST_F(ServerListTest, SelectingBeyondTheListIsAFailure) {
   WriteThree(1);
   list.Open();
   list.Select(2);
@@ -274,7 +274,7 @@ TEST_F(ServerListTest, SelectingAPlaceOutsideTheListIsAFailure) {
   EXPECT_EQ(list.Selected(), 2U);
 }
 
-TEST_F(ServerListTest, AnEditOfTheSelectedProfileReachesTheFileWithTheStoredTimeOut) {
+TEST_F(ServerListTest, AnEditOfTheSelectedProfileIsWrittenWithTheStoredTimeOut) {
   WriteThree(0);
   list.Open();
   list.SelectedProfile()->UserName = "you";
@@ -317,31 +317,31 @@ TEST_F(ServerListTest, SettingsAreCleanedUp) {
   }
 }
 
-TEST_F(ServerListTest, AnEmptyIndexFileGetsTheUsualName) {
+TEST_F(ServerListTest, AnEmptyIndexFileGetsTheDefaultName) {
   ServerProfile profile;
   EXPECT_TRUE(ValidateSettings(profile, false, boxes));
   EXPECT_EQ(profile.IndexFile, "index.htm");
 }
 
-TEST_F(ServerListTest, AnIndexFileWithAPathIsRefusedWhereTheUserSeesItAndElseTheUsualName) {
+TEST_F(ServerListTest, AnIndexFileWithAPathIsRefusedInTheDialogAndElseGetsTheDefaultName) {
   ServerProfile profile = {.ServerURL = "//h", .IndexFile = "a/b.htm"};
   EXPECT_FALSE(ValidateSettings(profile, false, boxes));
   EXPECT_EQ(boxes.boxes.size(), 1U);
   ExpectBox(0, env::BoxKind::Critical, "Invalid Index File Name",
             "The Gallery Index File Name may not contain any path specifications.");
   EXPECT_EQ(profile.IndexFile, "a/b.htm");
-  EXPECT_EQ(profile.ServerURL, "/h") << "what comes before is cleaned up";
+  EXPECT_EQ(profile.ServerURL, "/h") << "earlier fields are cleaned up";
   EXPECT_TRUE(ValidateSettings(profile, true, boxes));
   EXPECT_EQ(profile.IndexFile, "index.htm");
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(ServerListTest, AnonymousIsMeantInEveryCase) {
+TEST_F(ServerListTest, AnonymousIsRecognizedInAnyCase) {
   for (const char* name : {"anonymous", "Anonymous", "ANONYMOUS"}) EXPECT_TRUE(IsAnonymous({.UserName = name})) << name;
   for (const char* name : {"", "anonymous ", "me"}) EXPECT_FALSE(IsAnonymous({.UserName = name})) << name;
 }
 
-TEST_F(ServerListTest, AnAcceptedCertificateIsRememberedForTheEncryptedServersOfItsHost) {
+TEST_F(ServerListTest, AnAcceptedCertificateIsRememberedForEncryptedServersOfItsHost) {
   std::string fingerprint = "0F";
   for (int byte = 1; byte < 32; ++byte) fingerprint += ":0F";
   ServerProfile encrypted = kOne;

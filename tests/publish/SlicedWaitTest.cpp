@@ -15,14 +15,14 @@ bool SleepThrough(Milliseconds slice) {
   return false;
 }
 
-TEST(SlicedWait, AWaitThatIsOverAtOnceNeedsNoTurn) {
+TEST(SlicedWait, AWaitThatEndsAtOnceNeedsNoTurn) {
   fakes::CountingEventLoop loop;
   const bool abandoned = false;
   EXPECT_TRUE(SlicedWait(loop, Milliseconds(1000), abandoned).Until([](Milliseconds) { return true; }));
   EXPECT_EQ(loop.turns, 0);
 }
 
-TEST(SlicedWait, GivesATurnBetweenTwoSlices) {
+TEST(SlicedWait, TheEventLoopHasATurnBetweenTwoSlices) {
   fakes::CountingEventLoop loop;
   const bool abandoned = false;
   int slices = 0;
@@ -30,7 +30,7 @@ TEST(SlicedWait, GivesATurnBetweenTwoSlices) {
   EXPECT_EQ(loop.turns, 3);
 }
 
-TEST(SlicedWait, EndsWithItsTimeLimit) {
+TEST(SlicedWait, EndsAtItsTimeLimit) {
   fakes::CountingEventLoop loop;
   const bool abandoned = false;
   EXPECT_FALSE(SlicedWait(loop, Milliseconds(50), abandoned).Until(SleepThrough));

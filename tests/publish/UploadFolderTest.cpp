@@ -1,6 +1,6 @@
 #include "publish/UploadFolder.h"
 #include "tests/fakes/CountingEventLoop.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"
@@ -59,7 +59,7 @@ class UploadFolderTest : public testing::Test {
   FolderUpload upload{{server, paths, boxes, loop, cancel, progress, window}};
 };
 
-TEST_F(UploadFolderTest, TheContentsLandInTheRemotePathWithTheSameTreeBelow) {
+TEST_F(UploadFolderTest, TheContentsAreSentToTheRemotePathWithTheSameTree) {
   for (const char* name : {"b.htm", "a.htm", "sub/c.jpg", "sub/deep/d.jpg"}) Write(name);
   EXPECT_TRUE(Send());
   EXPECT_EQ(server.calls, (Lines{
@@ -74,14 +74,14 @@ TEST_F(UploadFolderTest, TheContentsLandInTheRemotePathWithTheSameTreeBelow) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadFolderTest, AFolderComesInItsPlaceAmongTheNames) {
+TEST_F(UploadFolderTest, FoldersAreSortedAmongFilesByName) {
   for (const char* name : {"z", "m/file", "a"}) Write(name);
   EXPECT_TRUE(Send());
   EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a to web/a", "make web/m",
                                  "copy C:\\site\\m\\file to web/m/file", "copy C:\\site\\z to web/z"}));
 }
 
-TEST_F(UploadFolderTest, EachStepIsShownInTheWindowAndInTheStatusBar) {
+TEST_F(UploadFolderTest, EachStepIsShownInWindowAndStatusBar) {
   Write("sub/a.htm");
   EXPECT_TRUE(Send());
   const Lines expected = {"Creating Directory \"web\"...", "Creating Directory \"web/sub\"...",
@@ -90,14 +90,14 @@ TEST_F(UploadFolderTest, EachStepIsShownInTheWindowAndInTheStatusBar) {
   EXPECT_EQ(window.texts, expected);
 }
 
-TEST_F(UploadFolderTest, TheOverwriteFlagGoesWithEachFile) {
+TEST_F(UploadFolderTest, TheOverwriteFlagIsPassedWithEachFile) {
   Write("sub/a.htm");
   EXPECT_TRUE(Send("C:\\site", "web", /*overwrite=*/false));
   EXPECT_EQ(server.calls,
             (Lines{"make web", "make web/sub", "copy C:\\site\\sub\\a.htm to web/sub/a.htm unless there"}));
 }
 
-TEST_F(UploadFolderTest, OneSeparatorAtTheEndOfEachPathIsDropped) {
+TEST_F(UploadFolderTest, OneTrailingSeparatorOfEachPathIsDropped) {
   Write("a");
   struct Case {
     const char* local;
@@ -149,14 +149,14 @@ TEST_F(UploadFolderTest, CountingSendsAndShowsNothing) {
   EXPECT_TRUE(record.values.empty());
 }
 
-TEST_F(UploadFolderTest, AFolderCountsForItselfAndForItsParent) {
+TEST_F(UploadFolderTest, ASubfolderCountsAsAnEntryAndAsAFolder) {
   for (const char* name : {"a", "b", "sub/c", "sub/d"}) Write(name);
   EXPECT_EQ(Count(), 7);
   EXPECT_TRUE(Send());
   EXPECT_EQ(record.values, (std::vector<std::int32_t>{1, 2, 3, 4, 5, 6, 7}));
 }
 
-TEST_F(UploadFolderTest, EachCountBeginsAgain) {
+TEST_F(UploadFolderTest, EachCountStartsFromZero) {
   Write("a");
   EXPECT_EQ(Count(), 2);
   EXPECT_EQ(Count(), 2);
@@ -178,14 +178,14 @@ TEST_F(UploadFolderTest, BothPassesAgreeOnEveryTree) {
   }
 }
 
-TEST_F(UploadFolderTest, AnEmptyFolderStillCreatesItsDirectoryAndCountsOne) {
+TEST_F(UploadFolderTest, AnEmptyFolderCreatesItsDirectoryAndCountsOnce) {
   EXPECT_EQ(Count(), 1);
   EXPECT_TRUE(Send());
   EXPECT_EQ(server.calls, Lines{"make web"});
   EXPECT_EQ(Progress(), 1);
 }
 
-TEST_F(UploadFolderTest, BothPassesGiveTheLoopATurnForEachEntryAndForEachFolder) {
+TEST_F(UploadFolderTest, InBothPassesTheEventLoopHasATurnForEachEntryAndFolder) {
   for (const char* name : {"a", "b", "sub/c"}) Write(name);
   MakeFolder("empty");
   constexpr int kEntries = 5;
@@ -197,7 +197,7 @@ TEST_F(UploadFolderTest, BothPassesGiveTheLoopATurnForEachEntryAndForEachFolder)
   EXPECT_EQ(loop.turns, kEntries + kFolders);
 }
 
-TEST_F(UploadFolderTest, ACancelInAnyTurnOfTheCountEndsItThenWithItsBox) {
+TEST_F(UploadFolderTest, ACancelInAnyTurnOfTheCountEndsItWithAMessageBox) {
   for (const char* name : {"a", "b", "sub/c"}) Write(name);
   EXPECT_EQ(Count(), 6);
   const int turns = loop.turns;
@@ -208,7 +208,7 @@ TEST_F(UploadFolderTest, ACancelInAnyTurnOfTheCountEndsItThenWithItsBox) {
     loop.onTurn = [this, at](int turn) { cancel.cancelled = turn == at; };
     FolderUpload another({server, paths, boxes, loop, cancel, progress, window});
     EXPECT_LE(another.CountSteps("C:\\site"), 6) << "turn " << at;
-    EXPECT_EQ(loop.turns, at) << "nothing is read behind it";
+    EXPECT_EQ(loop.turns, at) << "nothing is read after the cancel";
     ExpectCancelReportedOnce();
   }
 }
@@ -222,7 +222,7 @@ TEST_F(UploadFolderTest, ALinkToAFileIsSentAsTheFileAndALinkToAFolderIsNotFollow
   EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a to web/a", "copy C:\\site\\link to web/link"}));
 }
 
-TEST_F(UploadFolderTest, EachLinkToAFolderIsNamedInTheLogAndAtTheEnd) {
+TEST_F(UploadFolderTest, EachLinkToAFolderIsNamedInTheLogAndInAMessageBoxAtTheEnd) {
   MakeFolder("sub/real");
   fs::create_directory_symlink("..", drive.Path() / "site/sub/up");
   fs::create_directory_symlink("/", drive.Path() / "site/all");
@@ -240,7 +240,7 @@ TEST_F(UploadFolderTest, EachLinkToAFolderIsNamedInTheLogAndAtTheEnd) {
                "C:\\site\\two\\nlines");
 }
 
-TEST_F(UploadFolderTest, ManyLinksToFoldersAreCountedInTheBox) {
+TEST_F(UploadFolderTest, ManyLinksToFoldersAreCountedInTheMessageBox) {
   for (int i = 10; i < 23; ++i) fs::create_directory_symlink("/", drive.Path() / "site" / std::to_string(i));
   EXPECT_TRUE(Send());
   upload.TellLeftOut();
@@ -248,7 +248,7 @@ TEST_F(UploadFolderTest, ManyLinksToFoldersAreCountedInTheBox) {
   EXPECT_TRUE(boxes.boxes[0].text.ends_with("\rC:\\site\\19\r\r3 more are named in the Log.")) << boxes.boxes[0].text;
 }
 
-TEST_F(UploadFolderTest, WithoutLinksToFoldersThereIsNothingToTell) {
+TEST_F(UploadFolderTest, WithoutLinksToFoldersThereIsNoMessageBox) {
   Write("sub/a");
   EXPECT_TRUE(Send());
   upload.TellLeftOut();
@@ -270,11 +270,11 @@ TEST_F(UploadFolderTest, AFileThatFailsInASubfolderEndsTheWholeUpload) {
   server.refused = "web/sub/a";
   EXPECT_FALSE(Send());
   EXPECT_EQ(server.calls, (Lines{"make web", "make web/sub", "copy C:\\site\\sub\\a to web/sub/a"}));
-  EXPECT_EQ(Progress(), 4) << "the failed file is a step too";
+  EXPECT_EQ(Progress(), 4) << "the failed file is counted";
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsSilentlyAfterItsRemoteDirectory) {
+TEST_F(UploadFolderTest, AnUnreadableFolderEndsSilentlyAfterItsRemoteDirectoryIsMade) {
   drive.Write("file", "x");
   for (const char* local : {"C:\\missing", "C:\\file", "Q:\\site", "\\\\server\\share"}) {
     server.calls.clear();
@@ -286,7 +286,7 @@ TEST_F(UploadFolderTest, AFolderThatCannotBeReadEndsSilentlyAfterItsRemoteDirect
   EXPECT_EQ(loop.turns, 0);
 }
 
-TEST_F(UploadFolderTest, ASubfolderWithoutRightsEndsTheWholeUploadInSilence) {
+TEST_F(UploadFolderTest, AnUnreadableSubfolderEndsTheWholeUploadSilently) {
   for (const char* name : {"a/file", "secret/file", "z/file"}) Write(name);
   const fs::path secret = drive.Path() / "site/secret";
   fs::permissions(secret, fs::perms::none);
@@ -299,13 +299,13 @@ TEST_F(UploadFolderTest, ASubfolderWithoutRightsEndsTheWholeUploadInSilence) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadFolderTest, NoFolderAtAllIsNotTheRootFolder) {
+TEST_F(UploadFolderTest, AnEmptyPathIsNotTheRootFolder) {
   EXPECT_FALSE(Send(""));
   EXPECT_EQ(Count(""), 0);
   EXPECT_EQ(server.calls, Lines());
 }
 
-TEST_F(UploadFolderTest, AFailureAtRunTimeIsShownOnceAndEndsTheWholeUpload) {
+TEST_F(UploadFolderTest, ARuntimeFailureIsShownOnceAndEndsTheWholeUpload) {
   for (const char* name : {"deep/sub/a", "deep/sub/b", "z"}) Write(name);
   server.broken = "web/deep/sub/a";
   EXPECT_FALSE(Send());
@@ -314,13 +314,13 @@ TEST_F(UploadFolderTest, AFailureAtRunTimeIsShownOnceAndEndsTheWholeUpload) {
   EXPECT_EQ(server.calls.back(), "copy C:\\site\\deep\\sub\\a to web/deep/sub/a");
 }
 
-TEST_F(UploadFolderTest, AFailureInMakingTheDirectoryIsShownToo) {
+TEST_F(UploadFolderTest, ARuntimeFailureWhileADirectoryIsMadeIsShownToo) {
   server.broken = "web";
   EXPECT_FALSE(Send());
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(UploadFolderTest, ANameThatIsAPathToOthersIsRefused) {
+TEST_F(UploadFolderTest, ANameThatIsAPathOnOtherSystemsIsRefused) {
   for (const char* name : {"a\\b", "..\\..\\etc"}) {
     const auto file = drive.Write(std::string("site/") + name, "x");
     boxes.boxes.clear();
@@ -354,7 +354,7 @@ TEST_F(UploadFolderTest, ANameWithALineBreakIsRefusedAndShownOnOneLine) {
   }
 }
 
-TEST_F(UploadFolderTest, ACancelIsNoticedBeforeEachEntry) {
+TEST_F(UploadFolderTest, ACancelIsPolledBeforeEachEntry) {
   for (const char* name : {"a", "b", "c"}) Write(name);
   server.onCall = [this] { cancel.cancelled = server.calls.back() == "copy C:\\site\\b to web/b"; };
   EXPECT_FALSE(Send());
@@ -370,7 +370,7 @@ TEST_F(UploadFolderTest, ACancelDeepInTheTreeIsReportedOnce) {
   ExpectCancelReportedOnce();
 }
 
-TEST_F(UploadFolderTest, EveryPollMayBeTheCancelAndEndsTheUploadWithOneBox) {
+TEST_F(UploadFolderTest, ACancelAtAnyPollEndsTheUploadWithOneMessageBox) {
   for (const char* name : {"a", "s/b", "s/t/c", "z"}) Write(name);
   EXPECT_TRUE(Send());
   const int polls = cancel.polls;
@@ -394,13 +394,13 @@ TEST_F(UploadFolderTest, ACancelAfterTheLastFileOfASubfolderIsNoticed) {
   ExpectCancelReportedOnce();
 }
 
-TEST_F(UploadFolderTest, ACancelWhileAnEmptyFolderIsMadeIsNoticed) {
+TEST_F(UploadFolderTest, ACancelWhileAnEmptyDirectoryIsMadeIsNoticed) {
   server.onCall = [this] { cancel.cancelled = true; };
   EXPECT_FALSE(Send());
   ExpectCancelReportedOnce();
 }
 
-TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfTheTopFolderIsReported) {
+TEST_F(UploadFolderTest, ACancelDuringAFileOfTheTopFolderIsReported) {
   for (const char* name : {"a", "b"}) Write(name);
   server.refused = "web/a";
   server.onCall = [this] { cancel.cancelled = server.calls.size() == 2; };
@@ -408,7 +408,7 @@ TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfTheTopFolderIsReported) {
   ExpectCancelReportedOnce();
 }
 
-TEST_F(UploadFolderTest, ACancelThatBreaksTheMakingOfTheDirectoryIsReported) {
+TEST_F(UploadFolderTest, ACancelWhileADirectoryIsMadeIsReported) {
   server.refused = "web";
   server.onCall = [this] { cancel.cancelled = true; };
   EXPECT_FALSE(Send());
@@ -422,7 +422,7 @@ TEST_F(UploadFolderTest, ACancelDuringTheLastFileIsReported) {
   ExpectCancelReportedOnce();
 }
 
-TEST_F(UploadFolderTest, ACancelThatBreaksAFileOfASubfolderIsReported) {
+TEST_F(UploadFolderTest, ACancelDuringAFileOfASubfolderIsReported) {
   Write("sub/a");
   server.refused = "web/sub/a";
   server.onCall = [this] { cancel.cancelled = server.calls.size() == 3; };

@@ -1,5 +1,5 @@
 #include "publish/UploadLog.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/RecordingMessageBox.h"
 #include "tests/fakes/RunFakes.h"
 #include "tests/fakes/TemporaryFolder.h"
@@ -35,13 +35,13 @@ class UploadLogTest : public testing::Test {
   UploadLog log{program.Path(), clock, boxes};
 };
 
-TEST_F(UploadLogTest, TheHeaderTakesThePlaceOfTheLastLog) {
+TEST_F(UploadLogTest, TheHeaderReplacesTheLastLog) {
   program.Write("ftplog.txt", std::string(1000, 'x'));
   log.WriteLogHeader();
   EXPECT_EQ(Text(), kHeader);
 }
 
-TEST_F(UploadLogTest, IsTheHeaderTheChunksInTheirOrderAndTheFooter) {
+TEST_F(UploadLogTest, HasTheHeaderTheChunksInOrderAndTheFooter) {
   log.WriteLogHeader();
   log.WriteLog("220 Ready\r\n");
   log.WriteLog("");
@@ -50,7 +50,7 @@ TEST_F(UploadLogTest, IsTheHeaderTheChunksInTheirOrderAndTheFooter) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadLogTest, TheTimesAreThoseOfWriting) {
+TEST_F(UploadLogTest, HeaderAndFooterHaveTheTimeOfWriting) {
   clock.now = {2026, 12, 31, 23, 59, 59};
   log.WriteLogHeader();
   clock.now = {987, 1, 2, 3, 4, 5};
@@ -65,13 +65,13 @@ TEST_F(UploadLogTest, TextIsAppendedToTheFile) {
   EXPECT_EQ(Text(), "oldnew\r\n");
 }
 
-TEST_F(UploadLogTest, TextIsWrittenAsItIs) {
+TEST_F(UploadLogTest, TextIsWrittenUnchanged) {
   const std::string text("a\rb\nc\0\xE4", 7);
   log.WriteLog(text);
   EXPECT_EQ(Text(), text + "\r\n");
 }
 
-TEST_F(UploadLogTest, TheHeaderMakesTheFolder) {
+TEST_F(UploadLogTest, TheHeaderCreatesTheFolder) {
   UploadLog deep(program.Path() / "not/yet", clock, boxes);
   EXPECT_FALSE(deep.HasFolder());
   deep.WriteLogHeader();
@@ -80,12 +80,12 @@ TEST_F(UploadLogTest, TheHeaderMakesTheFolder) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UploadLogTest, AFileInThePlaceOfTheFolderIsAFailure) {
+TEST_F(UploadLogTest, AFileInsteadOfTheFolderIsAFailure) {
   program.Write("file", "x");
   EXPECT_FALSE(UploadLog(program.Path() / "file", clock, boxes).HasFolder());
 }
 
-TEST_F(UploadLogTest, EachAttemptThatFailsShowsItsBoxAndTheFooterIsTwo) {
+TEST_F(UploadLogTest, EachFailedWriteShowsAMessageBoxAndTheFooterIsTwoWrites) {
   fs::create_directory(File());
   log.WriteLogHeader();
   ExpectBoxes(1, File().string() + ": Is a directory");
@@ -95,7 +95,7 @@ TEST_F(UploadLogTest, EachAttemptThatFailsShowsItsBoxAndTheFooterIsTwo) {
   ExpectBoxes(4, File().string() + ": Is a directory");
 }
 
-TEST_F(UploadLogTest, AFolderThatCannotBeMadeIsAFailureOfTheHeader) {
+TEST_F(UploadLogTest, AFolderThatCannotBeCreatedIsAFailureOfTheHeader) {
   program.Write("file", "x");
   UploadLog below(program.Path() / "file", clock, boxes);
   below.WriteLogHeader();
@@ -108,19 +108,19 @@ TEST_F(UploadLogTest, AFullDiskIsAFailure) {
   ExpectBoxes(1, File().string() + ": No space left on device");
 }
 
-TEST_F(UploadLogTest, APipeOfThatNameDoesNotStopTheProgram) {
+TEST_F(UploadLogTest, APipeOfThatNameDoesNotBlock) {
   ASSERT_EQ(::mkfifo(File().c_str(), 0600), 0);
   log.WriteLog("text");
   ExpectBoxes(1, File().string() + ": No such device or address");
 }
 
-TEST_F(UploadLogTest, AFolderWithoutRightsIsAFailure) {
+TEST_F(UploadLogTest, AReadOnlyFolderIsAFailure) {
   const fakes::LockedFolder locked(program.Path());
   log.WriteLogHeader();
   ExpectBoxes(1, File().string() + ": Permission denied");
 }
 
-TEST_F(UploadLogTest, WorksAgainWhenTheHindranceIsGone) {
+TEST_F(UploadLogTest, WorksAgainAfterAFailure) {
   fs::create_directory(File());
   log.WriteLog("lost");
   fs::remove(File());

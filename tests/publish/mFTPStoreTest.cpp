@@ -1,7 +1,7 @@
 // Storing files, with scripted sockets.
 #include "env/RuntimeFailure.h"
 #include "tests/fakes/FailureOf.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 #include "tests/publish/ScriptedClient.h"
 
 #include <filesystem>
@@ -24,7 +24,7 @@ class mFTPStoreTest : public ScriptedClient {
   }
 };
 
-TEST_F(mFTPStoreTest, OpensAFreshListenerAndRepeatsTheTypeForEachFile) {
+TEST_F(mFTPStoreTest, OpensANewListenerAndRepeatsTheTypeForEachFile) {
   const Journal once = {"data listen",          "cmd write PORT 10.1.2.3:port\r\n",
                         "cmd write TYPE I\r\n", "cmd write STOR a.jpg\r\n",
                         "data accept",          "data close"};
@@ -61,14 +61,14 @@ TEST_F(mFTPStoreTest, SendsBlocksOf4096BytesAndShowsAPercentageBeforeEach) {
   EXPECT_EQ(loop.turns, 3);
 }
 
-TEST_F(mFTPStoreTest, AFileOfWholeBlocksHasNoEmptyOneAtItsEnd) {
+TEST_F(mFTPStoreTest, AFileOfWholeBlocksHasNoEmptyLastBlock) {
   folder.Write("b.jpg", std::string(8192, 'x'));
   Replies(kGoodReplies);
   EXPECT_TRUE(Store("C:\\b.jpg"));
   EXPECT_EQ(data.blocks.size(), 2U);
 }
 
-TEST_F(mFTPStoreTest, ThePercentageOfALargeFileStopsUntilTheEnd) {
+TEST_F(mFTPStoreTest, ThePercentageOfALargeFileStopsWhereItWouldOverflow) {
   constexpr std::size_t kLength = std::size_t{32} << 20U;
   std::filesystem::resize_file(folder.Path() / "a.jpg", kLength);
   std::size_t sent = 0;
@@ -85,7 +85,7 @@ TEST_F(mFTPStoreTest, ThePercentageOfALargeFileStopsUntilTheEnd) {
   EXPECT_EQ(window.percentages.size(), 2 + 21474836 / 4096 + 1U);
 }
 
-TEST_F(mFTPStoreTest, AnEmptyFileFailsByItsPercentageWithTheConnectionLeftOpen) {
+TEST_F(mFTPStoreTest, AnEmptyFileFailsByItsPercentageAndTheConnectionStaysOpen) {
   folder.Write("empty.jpg", "");
   for (const bool copies : {false, true}) {
     journal.clear();
@@ -113,13 +113,13 @@ TEST_F(mFTPStoreTest, AMissingLocalFileIsShownAndOpensNothing) {
   EXPECT_EQ(journal, Journal{});
 }
 
-TEST_F(mFTPStoreTest, AFileTooLargeForItsLengthIsShown) {
+TEST_F(mFTPStoreTest, AFileWhoseLengthNeedsMoreThan31BitsIsShown) {
   std::filesystem::resize_file(folder.Path() / "a.jpg", 0x80000000);
   EXPECT_FALSE(Store());
   EXPECT_EQ(BoxTexts(), std::vector<std::string>{"Overflow"});
 }
 
-TEST_F(mFTPStoreTest, ALocalFileThatGoesMeanwhileIsShownAndClosesTheDataSocket) {
+TEST_F(mFTPStoreTest, ALocalFileThatIsRemovedMeanwhileIsShownAndClosesTheDataSocket) {
   // The two-piece reply gives the event loop a turn after the file's length is read and before the file is opened.
   Replies({"550 None\r\n", "200 Port\r\n", "200 Type\r\n", "150-Send\r\n", "150 now\r\n"});
   loop.onTurn = [&](int) { std::filesystem::remove(folder.Path() / "a.jpg"); };
@@ -128,7 +128,7 @@ TEST_F(mFTPStoreTest, ALocalFileThatGoesMeanwhileIsShownAndClosesTheDataSocket) 
   EXPECT_EQ(journal.back(), "data close");
 }
 
-TEST_F(mFTPStoreTest, ALocalFileThatMayNotBeReadIsShownAndClosesTheDataSocket) {
+TEST_F(mFTPStoreTest, AnUnreadableLocalFileIsShownAndClosesTheDataSocket) {
   std::filesystem::permissions(folder.Path() / "a.jpg", std::filesystem::perms::none);
   const fakes::LockedFolder locked(folder.Path());
   Replies(kGoodReplies);
@@ -138,7 +138,7 @@ TEST_F(mFTPStoreTest, ALocalFileThatMayNotBeReadIsShownAndClosesTheDataSocket) {
   EXPECT_EQ(journal.back(), "data close");
 }
 
-TEST_F(mFTPStoreTest, ALocalFileThatGetsShorterBreaksTheTransfer) {
+TEST_F(mFTPStoreTest, ALocalFileThatShrinksAbortsTheTransfer) {
   folder.Write("b.jpg", std::string(200'000, 'x'));  // more than the client reads ahead
   data.onWriteBytes = [&](std::size_t size) {
     std::filesystem::resize_file(folder.Path() / "b.jpg", 5000);
@@ -147,23 +147,23 @@ TEST_F(mFTPStoreTest, ALocalFileThatGetsShorterBreaksTheTransfer) {
   Replies(kGoodReplies);
   EXPECT_FALSE(Store("C:\\b.jpg"));
   EXPECT_EQ(journal.back(), "data reset");
-  EXPECT_TRUE(cmd.reads.empty()) << "the closing reply is read all the same";
+  EXPECT_TRUE(cmd.reads.empty()) << "the closing reply is still read";
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPStoreTest, AFileThatIsThereIsSparedWithoutOverwrite) {
+TEST_F(mFTPStoreTest, AnExistingFileStaysWithoutOverwrite) {
   Replies({"350 There\r\n", "250 Renamed\r\n"});
   EXPECT_TRUE(Store("C:\\a.jpg", false));
   EXPECT_EQ(journal, (Journal{"cmd write RNFR a.jpg\r\n", "cmd write RNTO a.jpg\r\n"}));
 }
 
-TEST_F(mFTPStoreTest, AListenerThatFailsAsksTheServerForNothing) {
+TEST_F(mFTPStoreTest, WithoutAListenerNothingIsSent) {
   data.listenResult = 98;
   EXPECT_FALSE(Store());
   EXPECT_EQ(journal, (Journal{"data listen", "data close"}));
 }
 
-TEST_F(mFTPStoreTest, OnlyTheRightRepliesOpenTheDataConnection) {
+TEST_F(mFTPStoreTest, OnlyTheExpectedRepliesOpenTheDataConnection) {
   const std::deque<std::string> refusals[] = {
       {"500 Port\r\n"},
       {"250 Port\r\n"},
@@ -184,14 +184,14 @@ TEST_F(mFTPStoreTest, OnlyTheRightRepliesOpenTheDataConnection) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPStoreTest, AConnectionThatNeverComesClosesTheDataSocket) {
+TEST_F(mFTPStoreTest, WithoutADataConnectionTheDataSocketIsClosed) {
   data.acceptFails = true;
   Replies(kGoodReplies);
   EXPECT_FALSE(Store());
   EXPECT_EQ(journal.back(), "data close");
 }
 
-TEST_F(mFTPStoreTest, AShortWriteBreaksTheTransfer) {
+TEST_F(mFTPStoreTest, AShortWriteAbortsTheTransfer) {
   folder.Write("b.jpg", std::string(10000, 'x'));
   data.onWriteBytes = [this](std::size_t size) { return data.blocks.size() == 2 ? size - 1 : size; };
   Replies(kGoodReplies);
@@ -202,7 +202,7 @@ TEST_F(mFTPStoreTest, AShortWriteBreaksTheTransfer) {
   EXPECT_EQ(window.log, "200 Port\r\n200 Type\r\n150 Send\r\n226 Stored\r\n");
 }
 
-TEST_F(mFTPStoreTest, ACancelBeforeABlockBreaksTheTransferAndNobodyIsReported) {
+TEST_F(mFTPStoreTest, ACancelBeforeABlockAbortsTheTransferWithoutAMessageBox) {
   folder.Write("b.jpg", std::string(10000, 'x'));
   loop.onTurn = [this](int turn) { cancel.isRequested = turn >= 2; };
   Replies(kGoodReplies);
@@ -212,7 +212,7 @@ TEST_F(mFTPStoreTest, ACancelBeforeABlockBreaksTheTransferAndNobodyIsReported) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPStoreTest, OnceTheBytesAreOutTheClosingReplyDoesNotMatter) {
+TEST_F(mFTPStoreTest, OnceAllBytesAreSentTheClosingReplyDoesNotMatter) {
   for (const char* closing : {"452 Disk full\r\n", "426 Broken\r\n", "500 What\r\n"}) {
     Replies({"200 Port\r\n", "200 Type\r\n", "150 Send\r\n", closing});
     EXPECT_TRUE(Store()) << closing;
@@ -222,21 +222,21 @@ TEST_F(mFTPStoreTest, OnceTheBytesAreOutTheClosingReplyDoesNotMatter) {
   EXPECT_FALSE(ftp.IsConnected());
 }
 
-TEST_F(mFTPStoreTest, ACopyTurnsBackslashesAndSaysSo) {
+TEST_F(mFTPStoreTest, ACopyConvertsBackslashesAndIsLogged) {
   Replies(kGoodReplies);
   EXPECT_TRUE(ftp.FTPCopyFile("C:\\a.jpg", "images\\a.jpg", true));
   EXPECT_EQ(journal.at(3), "cmd write STOR images/a.jpg\r\n");
   EXPECT_TRUE(window.log.starts_with("Copying file C:\\a.jpg to images\\a.jpg\r\n")) << window.log;
 }
 
-TEST_F(mFTPStoreTest, ACopyThatFailsDeletesWhatIsOnTheServer) {
+TEST_F(mFTPStoreTest, AFailedCopyDeletesTheFileOnTheServer) {
   Replies({"200 Port\r\n", "200 Type\r\n", "553 Denied\r\n", "550 None\r\n"});
   EXPECT_FALSE(ftp.FTPCopyFile("C:\\a.jpg", "images\\a.jpg", true));
   EXPECT_EQ(journal.back(), "cmd write DELE images/a.jpg\r\n");
   EXPECT_TRUE(window.log.ends_with("Deleting file images/a.jpg\r\n550 None\r\n")) << window.log;
 }
 
-TEST_F(mFTPStoreTest, ARemotePathOfTwoLinesIsNeverSent) {
+TEST_F(mFTPStoreTest, ARemotePathWithALineBreakIsNeverSent) {
   Replies({"200 Port\r\n", "200 Type\r\n"});
   EXPECT_FALSE(ftp.FTPCopyFile("C:\\a.jpg", "a\r\nDELE b", true));
   EXPECT_EQ(journal,

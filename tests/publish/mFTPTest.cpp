@@ -10,7 +10,7 @@ namespace {
 
 using mFTPTest = ScriptedClient;
 
-TEST_F(mFTPTest, ConnectsWithTheTrimmedHostAndWantsTheGreeting220) {
+TEST_F(mFTPTest, ConnectsToTheTrimmedHostAndExpectsGreeting220) {
   cmd.isConnected = false;
   Replies({"220 Hello\r\n"});
   EXPECT_TRUE(ftp.FTPConnect("  ftp.example.org ", 2121));
@@ -31,7 +31,7 @@ TEST_F(mFTPTest, AnEmptyHostConnectsNowhere) {
   EXPECT_EQ(journal, Journal{});
 }
 
-TEST_F(mFTPTest, AConnectionThatFailsIsLeftToTheCallerToReport) {
+TEST_F(mFTPTest, AFailedConnectionIsReportedByTheCaller) {
   cmd.connectResult = 1;
   EXPECT_FALSE(ftp.FTPConnect("host"));
   EXPECT_TRUE(boxes.boxes.empty());
@@ -46,20 +46,20 @@ TEST_F(mFTPTest, AnyOtherGreetingClosesTheConnection) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPTest, LogsInWithBothNamesTrimmed) {
+TEST_F(mFTPTest, LogsInWithTrimmedUserAndPassword) {
   Replies({"331 Password\r\n", "230 In\r\n"});
   EXPECT_TRUE(ftp.FTPLogin("  me ", " open sesame  "));
   EXPECT_EQ(journal, (Journal{"cmd write USER me\r\n", "cmd write PASS open sesame\r\n"}));
-  EXPECT_EQ(window.log, "331 Password\r\n230 In\r\n") << "commands, and so the password, are never logged";
+  EXPECT_EQ(window.log, "331 Password\r\n230 In\r\n") << "commands, and thus the password, are never logged";
 }
 
-TEST_F(mFTPTest, AServerThatWantsNoPasswordGetsNone) {
+TEST_F(mFTPTest, APasswordIsSentOnlyOnRequest) {
   Replies({"230 In\r\n"});
   EXPECT_TRUE(ftp.FTPLogin("me", "secret"));
   EXPECT_EQ(journal, Journal{"cmd write USER me\r\n"});
 }
 
-TEST_F(mFTPTest, AnyOtherAnswerRefusesTheLoginAndClosesNothing) {
+TEST_F(mFTPTest, AnyOtherReplyFailsTheLoginAndTheConnectionStaysOpen) {
   for (const auto& replies : {std::deque<std::string>{"530 No\r\n"},
                               {"331 Password\r\n", "530 No\r\n"},
                               {"331 P\r\n", "202 Superfluous\r\n"}}) {
@@ -69,17 +69,17 @@ TEST_F(mFTPTest, AnyOtherAnswerRefusesTheLoginAndClosesNothing) {
   }
 }
 
-TEST_F(mFTPTest, FoldersAreEnteredAndMadeOn250Only) {
+TEST_F(mFTPTest, EnteringAndMakingFoldersSucceedsOnlyWith250) {
   Replies({"250 There\r\n", "200 There\r\n", "250 Made\r\n", "257 Made\r\n"});
   EXPECT_TRUE(ftp.FTPChangeDirectory("a b"));
   EXPECT_FALSE(ftp.FTPChangeDirectory("c"));
   EXPECT_TRUE(ftp.FTPMakeDirectory("d"));
-  EXPECT_FALSE(ftp.FTPMakeDirectory("e")) << "the standard's own answer does not count";
+  EXPECT_FALSE(ftp.FTPMakeDirectory("e")) << "the standard's 257 does not count";
   EXPECT_EQ(journal, (Journal{"cmd write CWD a b\r\n", "cmd write CWD c\r\n", "data close", "cmd write MKD d\r\n",
                               "cmd write MKD e\r\n", "data close"}));
 }
 
-TEST_F(mFTPTest, AChainOfFoldersIsMadeLevelByLevelAndLeftAgain) {
+TEST_F(mFTPTest, AChainOfFoldersIsMadeLevelByLevelAndThenLeft) {
   for (const char* path : {"a/b", "/a/b/", "a\\b", "\\a\\b"}) {
     journal.clear();
     Replies({"250 M\r\n", "250 C\r\n", "250 M\r\n", "250 C\r\n", "250 U\r\n", "250 U\r\n"});
@@ -117,7 +117,7 @@ TEST_F(mFTPTest, ALevelThatCannotBeLeftFailsTheChain) {
   EXPECT_FALSE(ftp.FTPCreateDirectoryPath("a/b"));
 }
 
-TEST_F(mFTPTest, AFileIsThereWhenItCouldBeRenamed) {
+TEST_F(mFTPTest, AFileExistsIfItCanBeRenamed) {
   Replies({"350 Go on\r\n", "550 Not now\r\n"});
   EXPECT_TRUE(ftp.FTPFileExists("a.jpg"));
   Replies({"550 None\r\n"});
@@ -126,7 +126,7 @@ TEST_F(mFTPTest, AFileIsThereWhenItCouldBeRenamed) {
   EXPECT_EQ(window.log, "");
 }
 
-TEST_F(mFTPTest, AFileIsDeletedOn250) {
+TEST_F(mFTPTest, DeletingAFileSucceedsOnlyWith250) {
   Replies({"250 Gone\r\n", "200 Gone\r\n"});
   EXPECT_TRUE(ftp.FTPDeleteFile("a.jpg"));
   EXPECT_FALSE(ftp.FTPDeleteFile("a.jpg"));
@@ -150,7 +150,7 @@ TEST_F(mFTPTest, TheReplyCompletesTheLogLineOfASize) {
   EXPECT_EQ(window.log, "Reading file size for a.jpg ... 213 2047\r\n");
 }
 
-TEST_F(mFTPTest, ASizeThatTheServerKeepsToItselfIsZero) {
+TEST_F(mFTPTest, ASizeThatTheServerDoesNotReportIsZero) {
   Replies({"550 SIZE not allowed in ASCII mode\r\n"});
   EXPECT_EQ(ftp.FTPGetFileSize("a.jpg"), "0KB");
   EXPECT_EQ(journal, (Journal{"cmd write SIZE a.jpg\r\n", "data close"}));
@@ -159,7 +159,7 @@ TEST_F(mFTPTest, ASizeThatTheServerKeepsToItselfIsZero) {
   EXPECT_EQ(journal, Journal{});
 }
 
-TEST_F(mFTPTest, TheStoredSizeIsThatOfABinaryTransferWhichIsAgreedOnOnce) {
+TEST_F(mFTPTest, TheStoredSizeIsQueriedInBinaryTypeWhichIsSetOnce) {
   Replies({"200 Binary\r\n", "213 5000000000\r\n", "550 none\r\n"});
   EXPECT_EQ(ftp.FTPStoredSize("a.jpg"), 5'000'000'000U);
   EXPECT_EQ(ftp.FTPStoredSize("b.jpg"), std::nullopt);
@@ -181,32 +181,32 @@ TEST_F(mFTPTest, ASizeThatIsNotANumberIsAFailure) {
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPGetFileSize("a"); }), env::FailureKind::Overflow);
 }
 
-TEST_F(mFTPTest, ACommandThatCannotBeWrittenMeansThatTheConnectionIsGone) {
+TEST_F(mFTPTest, ACommandThatCannotBeWrittenReportsALostConnection) {
   cmd.writeResults = {-1};
   EXPECT_FALSE(ftp.FTPChangeDirectory("a"));
   EXPECT_EQ(journal, (Journal{"cmd write CWD a\r\n", "cmd close", "data close"}));
   EXPECT_EQ(BoxTexts(), std::vector<std::string>{"Connection with the server has been terminated"});
 }
 
-TEST_F(mFTPTest, ACancelledRunHearsNothingOfAConnectionThatIsGone) {
+TEST_F(mFTPTest, AfterACancelALostConnectionIsNotReported) {
   cmd.writeResults = {-1};
   cancel.isRequested = true;
   EXPECT_FALSE(ftp.FTPChangeDirectory("a"));
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPTest, ACommandThatIsWrittenInPartFailsWithoutAWord) {
+TEST_F(mFTPTest, APartlyWrittenCommandFailsWithoutAMessageBox) {
   cmd.writeResults = {3};
   EXPECT_FALSE(ftp.FTPChangeDirectory("a"));
   EXPECT_EQ(journal, (Journal{"cmd write CWD a\r\n", "data close"}));
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPTest, AReplyThatBreaksOffClosesTheConnectionWithoutAWord) {
+TEST_F(mFTPTest, ATruncatedReplyClosesTheConnectionWithoutAMessageBox) {
   Replies({"250-The", "re\r\n"});
   EXPECT_FALSE(ftp.FTPChangeDirectory("a"));
   EXPECT_EQ(journal, (Journal{"cmd write CWD a\r\n", "cmd close", "data close"}));
-  EXPECT_EQ(window.log, "250-There\r\n") << "logged as it came";
+  EXPECT_EQ(window.log, "250-There\r\n") << "logged as received";
   EXPECT_EQ(loop.turns, 2) << "one after each read without the end";
 }
 
@@ -216,7 +216,7 @@ TEST_F(mFTPTest, ReadsRepliesInPiecesOf512Characters) {
   EXPECT_EQ(loop.turns, 1);
 }
 
-TEST_F(mFTPTest, AReplyWithoutEndIsABrokenConnection) {
+TEST_F(mFTPTest, AReplyWithoutEndIsALostConnection) {
   Replies({std::string(std::size_t{2} << 20U, 'x')});
   EXPECT_FALSE(ftp.FTPChangeDirectory("a"));
   EXPECT_FALSE(ftp.IsConnected());
@@ -228,7 +228,7 @@ TEST_F(mFTPTest, AReplyOfThreeDigitsIsAnInvalidArgument) {
   EXPECT_EQ(fakes::FailureOf([&] { std::ignore = ftp.FTPChangeDirectory("a"); }), env::FailureKind::InvalidArgument);
 }
 
-TEST_F(mFTPTest, ACommandOfMoreThanOneLineIsNeverSent) {
+TEST_F(mFTPTest, ACommandWithALineBreakIsNeverSent) {
   for (const std::string bad : {"a\r\nDELE b", "a\nb", "a\rb", "a\n"}) {
     EXPECT_FALSE(ftp.FTPChangeDirectory(bad)) << bad;
     EXPECT_FALSE(ftp.FTPLogin(bad, "secret")) << bad;
@@ -243,7 +243,7 @@ TEST_F(mFTPTest, ACommandOfMoreThanOneLineIsNeverSent) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(mFTPTest, ACancelAbortsTheCallThatBlocks) {
+TEST_F(mFTPTest, ACancelAbortsTheBlockingCall) {
   ftp.FTPCancelData();
   EXPECT_EQ(journal, Journal{});
   data.isBlocking = true;
@@ -253,7 +253,7 @@ TEST_F(mFTPTest, ACancelAbortsTheCallThatBlocks) {
   cmd.isBlocking = true;
   ftp.FTPCancelData();
   EXPECT_EQ(journal, (Journal{"data cancel", "cmd cancel"}));
-  EXPECT_EQ(cmd.settings.timeLimit, std::chrono::milliseconds(30)) << "nobody waits a minute after a cancel";
+  EXPECT_EQ(cmd.settings.timeLimit, std::chrono::milliseconds(30)) << "the time limit is short after a cancel";
 }
 
 TEST_F(mFTPTest, WorksWithoutAWindow) {

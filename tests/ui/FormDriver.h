@@ -9,7 +9,7 @@
 
 namespace vantorium::fakes {
 
-/// The descendant of `form` with that class and object name. Throws std::runtime_error with the name if there is none.
+/// The descendant of `form` with this class and object name. Throws std::runtime_error with the name if there is none.
 template <typename Control>
 Control& Find(QWidget& form, const char* name) {
   auto* control = form.findChild<Control*>(name);
@@ -24,9 +24,9 @@ void Click(QWidget& form, const char* name);
 /// Clears a text control with the keyboard and types `text`.
 void Type(QWidget& control, const QString& text);
 
-/// Runs `open`, which shows a modal dialog, and `drive` on that dialog once it is shown. `drive` has to close the
-/// dialog; if it does not, the dialog is closed as by its title bar, so that no test hangs. Throws std::runtime_error
-/// if no dialog is shown or `drive` fails.
+/// Runs `open`, which shows a modal dialog, and `drive` on that dialog once it is shown. `drive` must close the dialog;
+/// otherwise the dialog is closed as by its title bar, so that no test hangs. Throws std::runtime_error if no dialog is
+/// shown or `drive` fails.
 void DriveModal(const std::function<void()>& open, const std::function<void(QWidget&)>& drive);
 
 }  // namespace vantorium::fakes

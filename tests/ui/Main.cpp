@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-// Runs the tests of forms, without a screen.
+// Runs the tests of forms on Qt's offscreen platform.
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);

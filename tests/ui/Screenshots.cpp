@@ -1,10 +1,10 @@
 #include "image/PangoTextRaster.h"
 // Writes a picture of every window and page for the documents. Usage: vantorium-screenshots FOLDER
 //
-// Shows the program's real windows with a small project. All its photographs are copies of the sample picture.
+// Shows the program's windows with a small project. Its photographs are copies of the sample picture.
 #include "core/generation/RunHost.h"
 #include "tests/fakes/SourceFolder.h"
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 #include "ui/Resources.h"
 #include "ui/dialogs/frmAbout.h"
 #include "ui/dialogs/frmFont.h"
@@ -39,17 +39,17 @@ class Photographer {
  public:
   explicit Photographer(std::filesystem::path folder) : folder_(std::move(folder)) {
     std::filesystem::create_directories(folder_);
-    desk_.folder.Write("data/preview.jpg",
-                       fakes::TemporaryFolder::ReadFile(fakes::SourceFolder() / "data/preview.jpg"));
-    std::filesystem::copy(fakes::SourceFolder() / "data/themes", desk_.folder.Path() / "data/themes");
-    desk_.folder.Write("program/vantorium.ini",
-                       "[BROWSERS]\r\nCount=\"2\"\r\nName1=\"Chromium\"\r\nLocation1=\"Z:\\usr\\bin\\chromium\"\r\n"
-                       "Name2=\"Text Browser\"\r\nLocation2=\"Z:\\usr\\bin\\links\"\r\n");
-    desk_.folder.Write("program/vantorium.pub",
-                       "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"My Web Space\"\r\n"
-                       "ServerURL1=\"ftp.example.org\"\r\nUserName1=\"anna\"\r\nIndexFile1=\"gallery/index.htm\"\r\n"
-                       "TimeOut1=\"0\"\r\nJumpTo1=\"web\"\r\n");
-    desk_.Start();
+    harness_.folder.Write("data/preview.jpg",
+                          fakes::TemporaryFolder::ReadFile(fakes::SourceFolder() / "data/preview.jpg"));
+    std::filesystem::copy(fakes::SourceFolder() / "data/themes", harness_.folder.Path() / "data/themes");
+    harness_.folder.Write("program/vantorium.ini",
+                          "[BROWSERS]\r\nCount=\"2\"\r\nName1=\"Chromium\"\r\nLocation1=\"Z:\\usr\\bin\\chromium\"\r\n"
+                          "Name2=\"Text Browser\"\r\nLocation2=\"Z:\\usr\\bin\\links\"\r\n");
+    harness_.folder.Write("program/vantorium.pub",
+                          "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"My Web Space\"\r\n"
+                          "ServerURL1=\"ftp.example.org\"\r\nUserName1=\"anna\"\r\nIndexFile1=\"gallery/index.htm\"\r\n"
+                          "TimeOut1=\"0\"\r\nJumpTo1=\"web\"\r\n");
+    harness_.Start();
     AddPhotographs();
   }
 
@@ -65,12 +65,12 @@ class Photographer {
   void AddPhotographs() {
     for (const char* name : {"Lake", "Portrait", "Balloons", "Harbour", "Evening", "Morning"}) {
       const std::string file = std::string(name) + ".jpg";
-      desk_.folder.Write(file, desk_.folder.Read("data/preview.jpg"));
-      desk_.fileBrowser.answer = {"T:\\" + file, "T:\\", {file}};
-      desk_.GoTo(1);
-      Click(*desk_.window, "btnImagesAddFiles");
+      harness_.folder.Write(file, harness_.folder.Read("data/preview.jpg"));
+      harness_.fileBrowser.answer = {"T:\\" + file, "T:\\", {file}};
+      harness_.GoTo(1);
+      Click(*harness_.window, "btnImagesAddFiles");
     }
-    auto& list = Find<QWidget>(*desk_.window, "lvImagesList");
+    auto& list = Find<QWidget>(*harness_.window, "lvImagesList");
     list.setFocus();
     QTest::keyClick(&list, Qt::Key_Home);
     QTest::qWait(300);  // for the preview
@@ -85,17 +85,17 @@ class Photographer {
 
   void TakePages() {
     const char* const names[] = {"gallery", "images", "image-wrappers", "thumbnails", "captions", "page-links"};
-    desk_.GoTo(0);
-    Click(*desk_.window, "checkGallerySlideShow");
+    harness_.GoTo(0);
+    Click(*harness_.window, "checkGallerySlideShow");
     for (int tab = 0; tab < 6; ++tab) {
-      desk_.GoTo(tab);
-      Take(*desk_.window, std::string("main-") + names[tab]);
+      harness_.GoTo(tab);
+      Take(*harness_.window, std::string("main-") + names[tab]);
     }
-    desk_.GoTo(0);
-    auto& layout = Find<QComboBox>(*desk_.window, "comboGalleryLayoutType");
+    harness_.GoTo(0);
+    auto& layout = Find<QComboBox>(*harness_.window, "comboGalleryLayoutType");
     layout.setFocus();
     QTest::keyClick(&layout, Qt::Key_Down);
-    Take(*desk_.window, "main-gallery-frames");
+    Take(*harness_.window, "main-gallery-frames");
     QTest::keyClick(&layout, Qt::Key_Up);
   }
 
@@ -108,8 +108,8 @@ class Photographer {
     });
   }
   void TakeOnClick(int tab, const char* button) {
-    desk_.GoTo(tab);
-    TakeModal([&] { Click(*desk_.window, button); });
+    harness_.GoTo(tab);
+    TakeModal([&] { Click(*harness_.window, button); });
   }
 
   void TakeDialogs() {
@@ -120,31 +120,31 @@ class Photographer {
     TakeOnClick(1, "btnImagesWatermark");
     TakeOnClick(1, "btnImagesRename");
     TakeOnClick(1, "btnImagesFind");
-    desk_.GoTo(2);
-    Click(*desk_.window, "checkImageWrapperSetColors");
+    harness_.GoTo(2);
+    Click(*harness_.window, "checkImageWrapperSetColors");
     TakeOnClick(2, "btnImageWrapperBODY");
     TakeOnClick(2, "btnImageWrapperColors");
     TakeOnClick(5, "btnPageLinksImageFirstLink");
-    TakeModal([&] { desk_.Trigger("menuActionsCreate"); });
-    TakeModal([&] { desk_.Trigger("menuActionsCreate"); },
+    TakeModal([&] { harness_.Trigger("menuActionsCreate"); });
+    TakeModal([&] { harness_.Trigger("menuActionsCreate"); },
               [&](QWidget& create) {
                 Click(create, "optionUploadGallery");
                 TakeModal([&] { Click(create, "btnBrowsePublishDestination"); },
                           [&](QWidget& publish) { TakeModal([&] { Click(publish, "btnNew"); }); });
               });
-    TakeModal([&] { desk_.Trigger("menuOptionsAvailableBrowsers"); },
+    TakeModal([&] { harness_.Trigger("menuOptionsAvailableBrowsers"); },
               [&](QWidget& list) { TakeModal([&] { Click(list, "btnAddBrowser"); }); });
-    TakeModal([&] { desk_.Trigger("menuOptionsSetTempFolderLocation"); });
-    TakeModal([&] { desk_.Trigger("menuOptionsApplyTheme"); });
-    TakeModal([&] { desk_.Trigger("menuHelpAbout"); });
-    desk_.GoTo(1);
-    Click(*desk_.window, "btnImagesDescriptions");
-    auto& descriptions = Find<QWidget>(*desk_.window, "frmImageDescriptions");
+    TakeModal([&] { harness_.Trigger("menuOptionsSetTempFolderLocation"); });
+    TakeModal([&] { harness_.Trigger("menuOptionsApplyTheme"); });
+    TakeModal([&] { harness_.Trigger("menuHelpAbout"); });
+    harness_.GoTo(1);
+    Click(*harness_.window, "btnImagesDescriptions");
+    auto& descriptions = Find<QWidget>(*harness_.window, "frmImageDescriptions");
     Take(descriptions, "frmImageDescriptions");
     descriptions.close();
-    TakeModal([&] { Click(*desk_.window, "btnImagesAddFolder"); });
+    TakeModal([&] { Click(*harness_.window, "btnImagesAddFolder"); });
 
-    frmFileBrowser files(desk_.paths, desk_.boxes, desk_.files);
+    frmFileBrowser files(harness_.paths, harness_.boxes, harness_.files);
     TakeModal(
         [&] {
           std::ignore = files.DisplayFileDialog({.title = "Select Link Graphic",
@@ -159,16 +159,16 @@ class Photographer {
           QTest::keyClick(&view, Qt::Key_End);
           QTest::qWait(400);
         });
-    QtFolderBrowser folders(desk_.paths);
+    QtFolderBrowser folders(harness_.paths);
     TakeModal([&] { std::ignore = folders.BrowseForFolder("Select Source Folder", "T:\\data"); });
-    frmInvalidImage invalid(desk_.shell, nullptr);
+    frmInvalidImage invalid(harness_.shell, nullptr);
     TakeModal([&] { std::ignore = invalid.ShowDialog("Lake.jpg"); });
   }
 
   void TakeRunWindows() {
-    publish::UploadLog log(desk_.folder.Path() / "program", desk_.clock, desk_.boxes);
-    generation::CancelCheck cancel(desk_.boxes);
-    frmProgress progress(log, cancel, desk_.shell, "T:\\program", nullptr);
+    publish::UploadLog log(harness_.folder.Path() / "program", harness_.clock, harness_.boxes);
+    generation::CancelCheck cancel(harness_.boxes);
+    frmProgress progress(log, cancel, harness_.shell, "T:\\program", nullptr);
     progress.SetMax(100);
     progress.Show();
     progress.SetCaption("Publishing Gallery");
@@ -199,7 +199,7 @@ class Photographer {
         watermark, image::PangoTextRaster().FaceNames(), [](std::uint32_t&) { return false; }, nullptr);
     font.show();
     Take(font, "frmFont");
-    frmPreview preview(desk_.paths);
+    frmPreview preview(harness_.paths);
     preview.SetPicture("Lake.jpg", "T:\\Lake.jpg");
     preview.resize(480, 320);
     Take(preview, "frmPreview");
@@ -217,22 +217,22 @@ class Photographer {
     Take(info, "frmInfo");
   }
 
-  /// Spoils some images, so it must be the last one.
+  /// Damages some images, so it must come last.
   void TakeRunWarnings() {
-    core::Project& project = desk_.model->CurrentProject();
+    core::Project& project = harness_.model->CurrentProject();
     project.images.Rename(1, "Lake#2.jpg");
     project.images.Rename(4, "portrait.jpg");
-    std::filesystem::remove(desk_.folder.Path() / "Morning.jpg");
+    std::filesystem::remove(harness_.folder.Path() / "Morning.jpg");
     generation::RunOrder order;
     generation::SetIndexFile(order, "T:\\gallery\\index.htm");
-    generation::RunForecast forecast(project, order, desk_.model->Ports());
-    RunWarningsModel model(forecast, project, desk_.model->Images());
+    generation::RunForecast forecast(project, order, harness_.model->Ports());
+    RunWarningsModel model(forecast, project, harness_.model->Images());
     frmRunWarnings warnings(model);
     TakeModal([&] { warnings.exec(); });
   }
 
   std::filesystem::path folder_;
-  fakes::MainDesk desk_;
+  fakes::MainWindowHarness harness_;
 };
 
 }  // namespace

@@ -5,7 +5,7 @@
 using namespace vantorium;
 using namespace vantorium::core;
 
-TEST(ProjectFileNames, AnIndexOutsideTheListHasNoWord) {
+TEST(ProjectFileNames, AnIndexBeyondTheListHasNoWord) {
   EXPECT_EQ(WordOf(kStartOverWords, 2), "stop");
   EXPECT_EQ(WordOf(kStartOverWords, 3), "");
   EXPECT_EQ(WordOf(kStartOverWords, -1), "");

@@ -36,13 +36,13 @@ TEST_F(ProjectFileReaderFiltersTest, EachFilterSetsItsSwitchAndItsValues) {
   EXPECT_EQ(Watermark().checkUseWatermark, 0);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, AQualityAloneSetsNoSwitch) {
+TEST_F(ProjectFileReaderFiltersTest, AQualityAloneTurnsNoFilterOn) {
   ASSERT_TRUE(ReadFilters("<FILTER TYPE='quality' VALUE='44'/>"));
   EXPECT_FALSE(Filters().AnyFilter());
   EXPECT_EQ(Filters().sliderQuality, 44);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, AbsentValuesAreThoseOfANewProject) {
+TEST_F(ProjectFileReaderFiltersTest, AbsentValuesGetTheDefaults) {
   ASSERT_TRUE(ReadFilters("<FILTER TYPE='noise'/><FILTER TYPE='brightness'/><FILTER TYPE='fade'/>"));
   EXPECT_EQ(Filters().sliderNoise, 50);
   EXPECT_EQ(Filters().checkNoiseRandom, 0);
@@ -51,7 +51,7 @@ TEST_F(ProjectFileReaderFiltersTest, AbsentValuesAreThoseOfANewProject) {
   EXPECT_EQ(Filters().sliderQuality, 85);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, UnknownFiltersAreSkippedAndNestedOnesRead) {
+TEST_F(ProjectFileReaderFiltersTest, UnknownFiltersAreSkippedAndTheirChildrenAreRead) {
   ASSERT_TRUE(
       ReadFilters("<FILTER/><FILTER TYPE=''/><FILTER TYPE='blur' VALUE='x'/><MORE><FILTER TYPE='fade'/></MORE>"));
   EXPECT_EQ(Filters().checkFade, 1);
@@ -75,13 +75,13 @@ TEST_F(ProjectFileReaderFiltersTest, TheWatermarkIsReadWithItsFont) {
   EXPECT_EQ(Watermark().Color, 0x0000FFU);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, StrikeoutIsReadIntoItsOwnField) {
+TEST_F(ProjectFileReaderFiltersTest, StrikeoutIsReadIntoItsField) {
   ASSERT_TRUE(ReadFilters("<FILTER TYPE='watermark'><FONT STRIKEOUT='1'/></FILTER>"));
   EXPECT_TRUE(Watermark().FontStrikeout);
   EXPECT_FALSE(Watermark().FontUnderline);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, AbsentAndUnknownWatermarkValuesAreThoseOfANewProject) {
+TEST_F(ProjectFileReaderFiltersTest, AbsentAndUnknownWatermarkValuesGetTheDefaults) {
   ASSERT_TRUE(ReadFilters("<FILTER TYPE='WATERMARK' AUTOPOSITION='somewhere'/>"));
   EXPECT_EQ(Watermark().textWatermark, "SAMPLE");
   EXPECT_EQ(Watermark().sliderAlpha, 65);
@@ -90,12 +90,12 @@ TEST_F(ProjectFileReaderFiltersTest, AbsentAndUnknownWatermarkValuesAreThoseOfAN
   EXPECT_EQ(Watermark().Color, 0xFFFFFFU);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, AnEmptyCaptionIsOne) {
+TEST_F(ProjectFileReaderFiltersTest, AnEmptyCaptionIsAValue) {
   ASSERT_TRUE(ReadFilters("<FILTER TYPE='watermark' CAPTION=''/>"));
   EXPECT_EQ(Watermark().textWatermark, "");
 }
 
-TEST_F(ProjectFileReaderFiltersTest, ThumbnailFiltersAreTheirOwn) {
+TEST_F(ProjectFileReaderFiltersTest, ThumbnailsHaveSeparateFilters) {
   ASSERT_TRUE(Read(ProjectFileParts{.lists = "<THUMBNAILS><MODIFY><FILTER TYPE='fade' VALUE='1'/><FILTER "
                                              "TYPE='watermark' CAPTION='t'/></MODIFY></THUMBNAILS>"}));
   EXPECT_EQ(Settings().ThumbnailFilters.checkFade, 1);
@@ -105,7 +105,7 @@ TEST_F(ProjectFileReaderFiltersTest, ThumbnailFiltersAreTheirOwn) {
   EXPECT_EQ(Watermark().checkUseWatermark, 0);
 }
 
-TEST_F(ProjectFileReaderFiltersTest, AValueThatIsNotANumberFailsAndKeepsWhatWasReadBefore) {
+TEST_F(ProjectFileReaderFiltersTest, AValueThatIsNotANumberFailsAndEarlierValuesStay) {
   const std::pair<std::string, std::string> cases[] = {
       {"<FILTER TYPE='noise' RANDOM='x'/>", "Type mismatch"},
       {"<FILTER TYPE='brightness' VALUE='bright'/>", "Type mismatch"},

@@ -20,26 +20,26 @@ class ProjectFileReaderImagesTest : public ::testing::Test, public ProjectReadin
   }
   /// An IMAGE element with an existing file.
   std::string Image(const std::string& index, const std::string& name, const std::string& children = "") {
-    return "<IMAGE INDEX='" + index + "' NAME='" + name + "' SOURCE='file://" + desk.File("photo.jpg") + "'>" +
+    return "<IMAGE INDEX='" + index + "' NAME='" + name + "' SOURCE='file://" + harness.File("photo.jpg") + "'>" +
            children + "</IMAGE>";
   }
   [[nodiscard]] std::string Names() const {
     std::string names;
-    for (std::size_t position = 1; position <= desk.project.images.Count(); ++position) {
-      names += (position > 1 ? " " : "") + desk.project.images.Entry(position).ImageName;
+    for (std::size_t position = 1; position <= harness.project.images.Count(); ++position) {
+      names += (position > 1 ? " " : "") + harness.project.images.Entry(position).ImageName;
     }
     return names;
   }
-  [[nodiscard]] const ImageEntry& Entry(std::size_t position) const { return desk.project.images.Entry(position); }
+  [[nodiscard]] const ImageEntry& Entry(std::size_t position) const { return harness.project.images.Entry(position); }
 };
 
 }  // namespace
 
-TEST_F(ProjectFileReaderImagesTest, AnImageComesWithItsPathKeysAndDescription) {
-  ASSERT_TRUE(ReadImages("<IMAGE INDEX='1' NAME='n' SOURCE='FILE://" + desk.File("five.jpg", "12345") +
+TEST_F(ProjectFileReaderImagesTest, AnImageIsReadWithItsPathSortKeysAndDescription) {
+  ASSERT_TRUE(ReadImages("<IMAGE INDEX='1' NAME='n' SOURCE='FILE://" + harness.File("five.jpg", "12345") +
                          "'><DESCRIPTION><![CDATA[a\r\nb]]></DESCRIPTION></IMAGE>"));
   EXPECT_EQ(Entry(1).ImageName, "n");
-  EXPECT_EQ(Entry(1).SourcePath, desk.PathOf("five.jpg"));
+  EXPECT_EQ(Entry(1).SourcePath, harness.PathOf("five.jpg"));
   EXPECT_EQ(Entry(1).SizeKey, "00000000000000000005");
   EXPECT_EQ(Entry(1).DateKey.size(), 17U);
   EXPECT_EQ(Entry(1).ImageDescription, "a\r\nb");
@@ -47,19 +47,19 @@ TEST_F(ProjectFileReaderImagesTest, AnImageComesWithItsPathKeysAndDescription) {
 }
 
 TEST_F(ProjectFileReaderImagesTest, SlashesOfASourceStay) {
-  desk.File("a.jpg");
-  std::string source = desk.PathOf("a.jpg");
+  harness.File("a.jpg");
+  std::string source = harness.PathOf("a.jpg");
   std::ranges::replace(source, '\\', '/');
   ASSERT_TRUE(ReadImages("<IMAGE INDEX='1' NAME='a' SOURCE='" + source + "'/>"));
   EXPECT_EQ(Entry(1).SourcePath, source);
 }
 
-TEST_F(ProjectFileReaderImagesTest, ImagesGoToTheirIndexInTheOrderOfTheFile) {
+TEST_F(ProjectFileReaderImagesTest, ImagesAreInsertedAtTheirIndexesInFileOrder) {
   ASSERT_TRUE(ReadImages(Image("1", "a") + Image("1", "b") + Image("2", "c")));
   EXPECT_EQ(Names(), "b c a");
 }
 
-TEST_F(ProjectFileReaderImagesTest, OneNameForAllIsNumbered) {
+TEST_F(ProjectFileReaderImagesTest, DuplicateNamesAreNumbered) {
   ASSERT_TRUE(ReadImages(Image("1", "a") + Image("2", "a") + Image("3", "a")));
   EXPECT_EQ(Names(), "a a_1 a_2");
 }
@@ -70,9 +70,9 @@ TEST_F(ProjectFileReaderImagesTest, ImagesInsideOtherElementsAreReadToo) {
 }
 
 TEST_F(ProjectFileReaderImagesTest, AnAbsentNameIsEmpty) {
-  ASSERT_TRUE(ReadImages("<IMAGE INDEX='1' SOURCE='" + desk.File("a.jpg") + "'/>"));
+  ASSERT_TRUE(ReadImages("<IMAGE INDEX='1' SOURCE='" + harness.File("a.jpg") + "'/>"));
   EXPECT_EQ(Names(), "");
-  EXPECT_EQ(desk.project.images.Count(), 1U);
+  EXPECT_EQ(harness.project.images.Count(), 1U);
 }
 
 TEST_F(ProjectFileReaderImagesTest, AnIndexThatIsNotAPositionFails) {
@@ -84,23 +84,23 @@ TEST_F(ProjectFileReaderImagesTest, AnIndexThatIsNotAPositionFails) {
     EXPECT_EQ(Box(), "Vantorium: " + failure) << index;
     EXPECT_EQ(Names(), "a") << index;
   }
-  EXPECT_FALSE(ReadImages("<IMAGE NAME='a' SOURCE='" + desk.File("a.jpg") + "'/>"));
+  EXPECT_FALSE(ReadImages("<IMAGE NAME='a' SOURCE='" + harness.File("a.jpg") + "'/>"));
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, ASourceThatCannotBeReadEndsTheLoadWithItsBox) {
-  for (const std::string& source : {desk.PathOf("gone.jpg"), std::string("Q:\\a.jpg"), std::string()}) {
+TEST_F(ProjectFileReaderImagesTest, AnUnreadableSourceEndsTheLoadWithAMessageBox) {
+  for (const std::string& source : {harness.PathOf("gone.jpg"), std::string("Q:\\a.jpg"), std::string()}) {
     EXPECT_FALSE(
         ReadImages(Image("1", "a") + "<IMAGE INDEX='2' NAME='b' SOURCE='file://" + source + "'/>" + Image("3", "c")));
     EXPECT_EQ(Box(), "File Error: An Error occurred trying to read the image file \"" + source +
                          "\":\r\rFile not found\r\rLoading Process cancelled.");
     EXPECT_EQ(Names(), "a");
-    EXPECT_EQ(desk.calls.back(), "pointer");
-    EXPECT_EQ(desk.calls[desk.calls.size() - 2], "status ");
+    EXPECT_EQ(harness.calls.back(), "pointer");
+    EXPECT_EQ(harness.calls[harness.calls.size() - 2], "status ");
   }
 }
 
-TEST_F(ProjectFileReaderImagesTest, AnAbsentFolderIsTheOneOfEachList) {
+TEST_F(ProjectFileReaderImagesTest, AnAbsentFolderGetsTheDefaultOfItsList) {
   ASSERT_TRUE(ReadLists("<IMAGES/><THUMBNAILS/>"));
   EXPECT_EQ(Settings().textImageSettingsSubFolder, "Images");
   EXPECT_EQ(Settings().textThumbnailImageSettingsSubFolder, "1");
@@ -125,7 +125,7 @@ TEST_F(ProjectFileReaderImagesTest, CaptionsAreReadByTheirType) {
   EXPECT_EQ(Settings().checkCaptionsThumbnailsPopup, 0);
 }
 
-TEST_F(ProjectFileReaderImagesTest, ThumbnailCaptionsAreTheirOwn) {
+TEST_F(ProjectFileReaderImagesTest, ThumbnailsHaveSeparateCaptions) {
   ASSERT_TRUE(
       ReadThumbnails("<CAPTION TYPE='regular' PLACE='right' ALIGN='bottom'>a</CAPTION>"
                      "<CAPTION TYPE='popup'>b</CAPTION>"));
@@ -137,7 +137,7 @@ TEST_F(ProjectFileReaderImagesTest, ThumbnailCaptionsAreTheirOwn) {
   EXPECT_EQ(Settings().checkCaptionsImagesRegular, 0);
 }
 
-TEST_F(ProjectFileReaderImagesTest, CaptionPlacesAboveAndBelowAreNotKnown) {
+TEST_F(ProjectFileReaderImagesTest, CaptionPlacesAboveAndBelowAreUnknown) {
   const std::pair<std::string, int> cases[] = {{"left", 0},  {"Right", 1}, {"top", 2}, {"BOTTOM", 3},
                                                {"above", 3}, {"below", 3}, {"", 3},    {"x", 3}};
   for (const auto& [place, index] : cases) {
@@ -147,7 +147,7 @@ TEST_F(ProjectFileReaderImagesTest, CaptionPlacesAboveAndBelowAreNotKnown) {
   }
 }
 
-TEST_F(ProjectFileReaderImagesTest, AlignmentsOfBothDirectionsAreOneList) {
+TEST_F(ProjectFileReaderImagesTest, HorizontalAndVerticalAlignmentsShareTheirNumbers) {
   const std::pair<std::string, int> cases[] = {{"top", 0},   {"LEFT", 0}, {"Center", 1}, {"bottom", 2},
                                                {"right", 2}, {"", 2},     {"middle", 2}};
   for (const auto& [align, index] : cases) {
@@ -211,7 +211,7 @@ TEST_F(ProjectFileReaderImagesTest, TheImageSizeIsRead) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, CorrectionsOfThePhotographsAreOnOnlyIfTheyAreTheNumberOne) {
+TEST_F(ProjectFileReaderImagesTest, PhotographCorrectionsAreOnOnlyForTheNumberOne) {
   ASSERT_TRUE(ReadLists("<IMAGES UPRIGHT='1' TRUECOLORS='1'/>"));
   EXPECT_EQ(Settings().checkImagesUpright, 1);
   EXPECT_EQ(Settings().checkImagesTrueColors, 1);
@@ -235,7 +235,7 @@ TEST_F(ProjectFileReaderImagesTest, AnAbsentThumbnailSizeChangesNothing) {
   EXPECT_EQ(Settings().textThumbnailsImageHeight, "60");
 }
 
-TEST_F(ProjectFileReaderImagesTest, ThumbnailsDescribeTheImagesOfTheirIndex) {
+TEST_F(ProjectFileReaderImagesTest, ThumbnailDescriptionsGoToTheImagesWithTheirIndex) {
   ASSERT_TRUE(
       ReadThumbnails("<THUMBNAIL INDEX='2'><DESCRIPTION>old</DESCRIPTION></THUMBNAIL>"
                      "<THUMBNAIL><DESCRIPTION>nobody</DESCRIPTION></THUMBNAIL>"
@@ -245,7 +245,7 @@ TEST_F(ProjectFileReaderImagesTest, ThumbnailsDescribeTheImagesOfTheirIndex) {
   EXPECT_EQ(Entry(2).ThumbnailDescription, "");
 }
 
-TEST_F(ProjectFileReaderImagesTest, AThumbnailOfNoImageFailsAndTheImagesStay) {
+TEST_F(ProjectFileReaderImagesTest, AThumbnailWithoutAnImageFailsAndTheImagesStay) {
   for (const char* index : {"0", "3", "-1", "100000"}) {
     EXPECT_FALSE(ReadThumbnails("<THUMBNAIL INDEX='" + std::string(index) + "'/>")) << index;
     EXPECT_EQ(Reason(), "Invalid Thumbnail Description Index.") << index;
@@ -255,14 +255,14 @@ TEST_F(ProjectFileReaderImagesTest, AThumbnailOfNoImageFailsAndTheImagesStay) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderImagesTest, TheEventLoopGetsATurnEvery100ImagesAndThumbnails) {
+TEST_F(ProjectFileReaderImagesTest, TheEventLoopHasATurnEvery100ImagesAndThumbnails) {
   std::string images, thumbnails;
   for (int count = 0; count < 350; ++count) images += Image("1", "a");
   for (int count = 0; count < 250; ++count) thumbnails += "<THUMBNAIL INDEX='1'/>";
   const auto turnsOf = [&](const std::string& lists) {
-    desk.events.turns = 0;
+    harness.events.turns = 0;
     EXPECT_TRUE(ReadLists(lists));
-    return desk.events.turns;
+    return harness.events.turns;
   };
   const int few = turnsOf("<IMAGES>" + Image("1", "a") + "</IMAGES><THUMBNAILS><THUMBNAIL INDEX='1'/></THUMBNAILS>");
   EXPECT_EQ(turnsOf("<IMAGES>" + images + "</IMAGES>"), few + 3);

@@ -36,7 +36,7 @@ TEST_F(ProjectFileReaderLayoutTest, TheTypeIsReadInAnyCase) {
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, AbsentFrameNamesOfASingleFrameAreItsOwn) {
+TEST_F(ProjectFileReaderLayoutTest, AbsentFrameNamesOfASingleFrameGetItsDefaults) {
   ASSERT_TRUE(ReadLayout("TYPE='SingleFrame'"));
   EXPECT_EQ(Settings().comboImageFrameName, "_self");
   EXPECT_EQ(Settings().textThumbnailFrameName, "thumb_frame");
@@ -45,7 +45,7 @@ TEST_F(ProjectFileReaderLayoutTest, AbsentFrameNamesOfASingleFrameAreItsOwn) {
   EXPECT_EQ(Settings().textThumbnailFrameName, "thumb_frame_2");
 }
 
-TEST_F(ProjectFileReaderLayoutTest, AbsentFrameNamesOfTwoFramesStayThoseOfTheLayout) {
+TEST_F(ProjectFileReaderLayoutTest, AbsentFrameNamesOfTwoFramesGetTheDefaultsOfTheLayout) {
   for (const char* type : {"thumbsleft", "thumbsbottom"}) {
     ASSERT_TRUE(ReadLayout("TYPE='" + std::string(type) + "'"));
     EXPECT_EQ(Settings().comboImageFrameName, "image_frame");
@@ -53,19 +53,19 @@ TEST_F(ProjectFileReaderLayoutTest, AbsentFrameNamesOfTwoFramesStayThoseOfTheLay
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, AnUnknownTypeLeavesTheNamesOfANewProject) {
+TEST_F(ProjectFileReaderLayoutTest, AnUnknownTypeLeavesTheDefaultFrameNames) {
   ASSERT_TRUE(ReadLayout("TYPE='x'"));
   EXPECT_EQ(Settings().comboImageFrameName, "_self");
   EXPECT_EQ(Settings().textThumbnailFrameName, "thumb_frame");
 }
 
-TEST_F(ProjectFileReaderLayoutTest, FrameNamesAreTakenUnchangedEvenWhenEmpty) {
+TEST_F(ProjectFileReaderLayoutTest, FrameNamesAreReadUnchangedEvenIfEmpty) {
   ASSERT_TRUE(ReadLayout("TYPE='thumbsleft' IMAGEFRAMENAME='_top' THUMBFRAMENAME=''"));
   EXPECT_EQ(Settings().comboImageFrameName, "_top");
   EXPECT_EQ(Settings().textThumbnailFrameName, "");
 }
 
-TEST_F(ProjectFileReaderLayoutTest, ASingleFrameAfterTwoFramesHasItsNameAgain) {
+TEST_F(ProjectFileReaderLayoutTest, ASingleFrameReadAfterTwoFramesHasItsDefaultName) {
   ASSERT_TRUE(ReadLayout("TYPE='thumbsleft' IMAGEFRAMENAME='mine'"));
   ASSERT_TRUE(ReadLayout("TYPE='singleframe'"));
   EXPECT_EQ(Settings().comboImageFrameName, "_self");
@@ -88,7 +88,7 @@ TEST_F(ProjectFileReaderLayoutTest, TheFrameSizeIsInPixelsOrPercentAndWithinItsB
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, AnAbsentFrameSizeStaysThatOfANewProject) {
+TEST_F(ProjectFileReaderLayoutTest, AnAbsentFrameSizeGetsTheDefault) {
   ASSERT_TRUE(ReadLayout("TYPE='singleframe'"));
   EXPECT_EQ(Settings().textGalleryFrameSize, "200");
   EXPECT_EQ(Settings().checkGalleryFrameSizeInPercent, 0);
@@ -101,7 +101,7 @@ TEST_F(ProjectFileReaderLayoutTest, AFrameSizeThatIsNotANumberFails) {
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, ALargeFrameSizeIsReadAndOneBeyondItsFieldBecomesTheBound) {
+TEST_F(ProjectFileReaderLayoutTest, AFrameSizeBeyondTheMaximumBecomesTheMaximum) {
   const std::pair<std::string, std::int32_t> cases[] = {
       {"32768", 32768}, {"99999", 99999}, {"100000", 99999}, {"1e300", 99999}, {"32768%", 99}};
   for (const auto& [size, stored] : cases) {
@@ -111,7 +111,7 @@ TEST_F(ProjectFileReaderLayoutTest, ALargeFrameSizeIsReadAndOneBeyondItsFieldBec
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, SwitchesAreOnForTheNumberOneOnly) {
+TEST_F(ProjectFileReaderLayoutTest, FlagsAreOnOnlyForTheNumberOne) {
   const std::pair<std::string, int> cases[] = {{"1", 1}, {"1.0", 1}, {" 1 ", 1}, {"0", 0},
                                                {"2", 0}, {"-1", 0},  {"yes", 0}, {"", 0}};
   for (const auto& [value, expected] : cases) {
@@ -159,7 +159,7 @@ TEST_F(ProjectFileReaderLayoutTest, ADelayThatIsNotANumberFails) {
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
 }
 
-TEST_F(ProjectFileReaderLayoutTest, ALongDelayIsReadAndOneBeyondItsFieldBecomesTheBound) {
+TEST_F(ProjectFileReaderLayoutTest, ADelayBeyondTheMaximumBecomesTheMaximum) {
   const std::pair<std::string, std::string> cases[] = {
       {"32768", "32768"}, {"999999", "999999"}, {"1000000", "999999"}, {"1e300", "999999"}, {"-5", "-5"}};
   for (const auto& [delay, read] : cases) {
@@ -169,7 +169,7 @@ TEST_F(ProjectFileReaderLayoutTest, ALongDelayIsReadAndOneBeyondItsFieldBecomesT
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, ASlideShowOfTwoFramesIsNotRead) {
+TEST_F(ProjectFileReaderLayoutTest, ASlideShowInTwoFramesIsIgnored) {
   for (const char* type : {"thumbsleft", "unknown"}) {
     ASSERT_TRUE(ReadLayout("TYPE='" + std::string(type) + "'", "<SLIDESHOW DELAY='no number'/>")) << type;
     EXPECT_EQ(Settings().checkGallerySlideShow, 0) << type;
@@ -177,7 +177,7 @@ TEST_F(ProjectFileReaderLayoutTest, ASlideShowOfTwoFramesIsNotRead) {
   }
 }
 
-TEST_F(ProjectFileReaderLayoutTest, ASlideShowWithoutWrapperPagesIsNone) {
+TEST_F(ProjectFileReaderLayoutTest, ASlideShowWithoutWrapperPagesIsIgnored) {
   ASSERT_TRUE(ReadLayout("TYPE='singleframe'", "<SLIDESHOW/>"));
   EXPECT_EQ(Settings().checkImageWrapperUse, 0);
   EXPECT_EQ(Settings().checkGallerySlideShow, 0);

@@ -39,7 +39,7 @@ TEST_F(ProjectFileReaderLinksTest, PlaceIsAWordOrAListOfWords) {
                         {"PLACE='x,bottom,y'", 2, 2},
                         {"PLACE='bottom,'", 2, 2},
                         {"", 0, 0},
-                        // A value that names neither place keeps the place of a new project.
+                        // A value that names neither place leaves the default.
                         {"PLACE=''", 1, 2},
                         {"PLACE='left'", 1, 2},
                         {"PLACE='stop'", 1, 2},
@@ -91,7 +91,7 @@ TEST_F(ProjectFileReaderLinksTest, EachLinkOfAThumbnailPageIsRead) {
   EXPECT_EQ(Text(Settings().ThumbnailNextLink), "d|/a/7.gif|8.gif");
 }
 
-TEST_F(ProjectFileReaderLinksTest, AbsentLinksOfAThumbnailPageAreEmptyButTheLabelOfNext) {
+TEST_F(ProjectFileReaderLinksTest, AbsentLinksOfAThumbnailPageAreEmptyExceptTheLabelOfNext) {
   ASSERT_TRUE(ReadThumbnailLinks(""));
   EXPECT_EQ(Text(Settings().ThumbnailFirstLink), "||");
   EXPECT_EQ(Text(Settings().ThumbnailLastLink), "||");
@@ -117,7 +117,7 @@ TEST_F(ProjectFileReaderLinksTest, EachLinkOfAWrapperPageIsRead) {
   EXPECT_EQ(Text(Settings().ImageIndexLink), "e|9|");
 }
 
-TEST_F(ProjectFileReaderLinksTest, AnAbsentNextOfAWrapperPageEmptiesFirstAndStays) {
+TEST_F(ProjectFileReaderLinksTest, AnAbsentNextOfAWrapperPageClearsFirstAndIsUnchanged) {
   ASSERT_TRUE(ReadImageLinks("", "<FIRST CAPTION='a' IMAGE='1' FIRSTIMAGE='2'/>"));
   EXPECT_EQ(Text(Settings().ImageFirstLink), "||");
   EXPECT_EQ(Text(Settings().ImageNextLink), "NEXT||");
@@ -125,7 +125,7 @@ TEST_F(ProjectFileReaderLinksTest, AnAbsentNextOfAWrapperPageEmptiesFirstAndStay
   EXPECT_EQ(Text(Settings().ImageIndexLink), "||");
 }
 
-TEST_F(ProjectFileReaderLinksTest, LinksOfWrapperPagesAreThoseOfANewProjectWithoutThem) {
+TEST_F(ProjectFileReaderLinksTest, WithoutWrapperPagesTheirLinksHaveTheDefaults) {
   ASSERT_TRUE(Read(ProjectFileParts{}));
   EXPECT_EQ(Text(Settings().ImageFirstLink), "FIRST||");
   EXPECT_EQ(Text(Settings().ImageIndexLink), "INDEX||");

@@ -59,7 +59,7 @@ TEST_F(ProjectFileReaderPagesTest, OneColorTurnsTheColorsOn) {
   }
 }
 
-TEST_F(ProjectFileReaderPagesTest, AColorOfTwoDigitsIsItsRed) {
+TEST_F(ProjectFileReaderPagesTest, AColorOfTwoDigitsIsRed) {
   ASSERT_TRUE(Read(ProjectFileParts{.thumbnailPageAttributes = "BGCOLOR='FF'"}));
   EXPECT_EQ(Settings().ThumbnailPageBgColor, 0x0000FFU);
 }
@@ -87,7 +87,7 @@ TEST_F(ProjectFileReaderPagesTest, TheArrangementIsRead) {
   EXPECT_EQ(Settings().checkThumbnailsTableUseBGColor, 1);
 }
 
-TEST_F(ProjectFileReaderPagesTest, AnEmptyArrangementIsThatOfANewProject) {
+TEST_F(ProjectFileReaderPagesTest, AnEmptyArrangementHasTheDefaults) {
   ASSERT_TRUE(ReadArrangement("BACKGROUND='written.gif' ALIGN='middle'"));
   EXPECT_EQ(Settings().textThumbnailsTableRows, "5");
   EXPECT_EQ(Settings().textThumbnailsTableCellSpacing, "2");
@@ -96,7 +96,7 @@ TEST_F(ProjectFileReaderPagesTest, AnEmptyArrangementIsThatOfANewProject) {
   EXPECT_EQ(Settings().checkThumbnailsTableUseBGColor, 0);
 }
 
-TEST_F(ProjectFileReaderPagesTest, NumbersOfTheArrangementBelowTheirBoundBecomeIt) {
+TEST_F(ProjectFileReaderPagesTest, ArrangementNumbersBelowTheMinimumBecomeTheMinimum) {
   ASSERT_TRUE(ReadArrangement("ROWS='0' COLS='-2' BORDER='-1' CELLSPACING='-0.4'"));
   EXPECT_EQ(Settings().textThumbnailsTableRows, "0");
   EXPECT_EQ(Settings().textThumbnailsTableColumns, "0");
@@ -104,14 +104,14 @@ TEST_F(ProjectFileReaderPagesTest, NumbersOfTheArrangementBelowTheirBoundBecomeI
   EXPECT_EQ(Settings().textThumbnailsTableCellSpacing, "0");
 }
 
-TEST_F(ProjectFileReaderPagesTest, NumbersOfTheArrangementThatAreNoneFail) {
+TEST_F(ProjectFileReaderPagesTest, ArrangementValuesThatAreNotNumbersFail) {
   for (const char* name : {"ROWS", "COLS", "BORDER", "CELLSPACING", "CELLPADDING"}) {
     EXPECT_FALSE(ReadArrangement(name + std::string("='x5'"))) << name;
     EXPECT_EQ(Box(), "Vantorium: Type mismatch") << name;
   }
 }
 
-TEST_F(ProjectFileReaderPagesTest, LargeNumbersOfTheArrangementAreReadAndThoseBeyondTheirFieldsBecomeTheBound) {
+TEST_F(ProjectFileReaderPagesTest, ArrangementNumbersBeyondTheMaximumBecomeTheMaximum) {
   const std::pair<std::string, std::string> cases[] = {{"32768", "32768"}, {"99999", "99999"}, {"100000", "99999"},
                                                        {"9e18", "99999"},  {"1e300", "99999"}, {"-32769", "0"},
                                                        {"-1e300", "0"}};
@@ -127,7 +127,7 @@ TEST_F(ProjectFileReaderPagesTest, LargeNumbersOfTheArrangementAreReadAndThoseBe
   }
 }
 
-TEST_F(ProjectFileReaderPagesTest, TheImagePageTurnsWrapperPagesOn) {
+TEST_F(ProjectFileReaderPagesTest, AnImagePageTurnsWrapperPagesOn) {
   ASSERT_TRUE(ReadImagePage("USE='0' PREFIX='not read'"));
   EXPECT_EQ(Settings().checkImageWrapperUse, 1);
   ASSERT_TRUE(Read(ProjectFileParts{}));

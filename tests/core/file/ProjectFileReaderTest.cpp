@@ -17,19 +17,19 @@ class ProjectFileReaderTest : public ::testing::Test, public ProjectReading {};
 
 }  // namespace
 
-TEST_F(ProjectFileReaderTest, ASmallFileReadsWithoutABox) {
+TEST_F(ProjectFileReaderTest, ASmallFileIsReadWithoutAMessageBox) {
   ASSERT_TRUE(Read(ProjectFileParts{}));
   EXPECT_EQ(Settings().textGalleryTitle, "Holidays");
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(ProjectFileReaderTest, ReadingShowsTheFileAndTheWaitPointerAndTakesThemAwayAgain) {
+TEST_F(ProjectFileReaderTest, ReadingShowsTheFileAndTheBusyPointerAndRemovesBoth) {
   ASSERT_TRUE(Read(ProjectFileParts{}));
-  EXPECT_EQ(desk.calls,
+  EXPECT_EQ(harness.calls,
             (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "status ", "pointer"}));
 }
 
-TEST_F(ProjectFileReaderTest, AFileThatIsNotXmlHasNoProject) {
+TEST_F(ProjectFileReaderTest, AFileThatIsNotXmlIsNotAProject) {
   for (const std::string& text :
        {""s, "   "s, "this is no XML"s, "{}"s, "\0\1\2\3"s, "<a><b></a>"s, "<GALLERYPROJECT>"s,
         ProjectFileParts{}.Text() + "x", ProjectFileParts{}.Text() + "<a/>", ProjectFileParts{}.Text().substr(0, 100),
@@ -49,11 +49,11 @@ TEST_F(ProjectFileReaderTest, AnotherDocumentElementIsNotAProject) {
   }
 }
 
-TEST_F(ProjectFileReaderTest, AFileThatCannotBeReadHasNoProject) {
-  const std::string pipe = (desk.folder.Path() / "pipe").string();
+TEST_F(ProjectFileReaderTest, AnUnreadableFileIsNotAProject) {
+  const std::string pipe = (harness.folder.Path() / "pipe").string();
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
   for (const std::string& name :
-       {desk.PathOf("missing.gpj"), desk.paths.ToText(desk.folder.Path()), desk.PathOf("pipe"),
+       {harness.PathOf("missing.gpj"), harness.paths.ToText(harness.folder.Path()), harness.PathOf("pipe"),
         "Q:\\no such drive\\a.gpj"s, "\\\\server\\share\\a.gpj"s, ""s, "/dev/zero"s}) {
     path = name;
     EXPECT_FALSE(ReadPath()) << name;
@@ -61,7 +61,7 @@ TEST_F(ProjectFileReaderTest, AFileThatCannotBeReadHasNoProject) {
   }
 }
 
-TEST_F(ProjectFileReaderTest, HostileFilesHaveNoProject) {
+TEST_F(ProjectFileReaderTest, HostileFilesAreNotProjects) {
   std::string deep;
   for (int depth = 0; depth < 1'000'000; ++depth) deep += "<a>";
   EXPECT_FALSE(Read(deep));
@@ -70,7 +70,7 @@ TEST_F(ProjectFileReaderTest, HostileFilesHaveNoProject) {
   EXPECT_EQ(Reason(), kNoProject);
 }
 
-TEST_F(ProjectFileReaderTest, OtherEncodingsAreReadByTheirMarkOrDeclaration) {
+TEST_F(ProjectFileReaderTest, OtherEncodingsAreRecognizedByByteOrderMarkOrDeclaration) {
   const std::string text = ProjectFileParts{}.Text();
   std::string wide = "\xFF\xFE";
   for (const char byte : text) wide += {byte, '\0'};
@@ -83,17 +83,17 @@ TEST_F(ProjectFileReaderTest, OtherEncodingsAreReadByTheirMarkOrDeclaration) {
   EXPECT_FALSE(Read(wide.substr(0, wide.size() - 1)));
 }
 
-TEST_F(ProjectFileReaderTest, AProjectNeedsAGallery) {
+TEST_F(ProjectFileReaderTest, AProjectRequiresAGallery) {
   EXPECT_FALSE(Read("<GALLERYPROJECT/>"));
   EXPECT_EQ(Box(), "Invalid Project File: \"" + path +
                        "\" could not be loaded in whole because it is not a valid Vantorium 3.0 Project File.\r\r"
                        "Reason: The File does not contain a Gallery Description.");
-  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Critical);
+  EXPECT_EQ(harness.boxes.boxes[0].kind, env::BoxKind::Critical);
   EXPECT_FALSE(Read("<GALLERYPROJECT><a><GALLERY/></a></GALLERYPROJECT>"));
   EXPECT_EQ(Reason(), "The File does not contain a Gallery Description.");
 }
 
-TEST_F(ProjectFileReaderTest, EachRequiredElementHasItsReason) {
+TEST_F(ProjectFileReaderTest, EachMissingElementHasItsReason) {
   const std::pair<ProjectFileParts, std::string> cases[] = {
       {{.layout = ""}, "No Gallery Layout has been specified."},
       {{.layout = "<LAYOUT/>"}, "No Gallery Layout has been specified."},
@@ -111,50 +111,50 @@ TEST_F(ProjectFileReaderTest, EachRequiredElementHasItsReason) {
   EXPECT_EQ(Reason(), "No Thumbnail Page Format specified.");
 }
 
-TEST_F(ProjectFileReaderTest, AnInvalidFileTakesTheStatusTextAndTheWaitPointerAway) {
+TEST_F(ProjectFileReaderTest, AfterAnInvalidFileStatusTextAndBusyPointerAreRemoved) {
   EXPECT_FALSE(Read("<GALLERYPROJECT/>"));
-  EXPECT_EQ(desk.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer",
-                               "box Invalid Project File", "status ", "pointer"}));
+  EXPECT_EQ(harness.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer",
+                                  "box Invalid Project File", "status ", "pointer"}));
 }
 
-TEST_F(ProjectFileReaderTest, AnUnreadableNumberShowsItsFailureAndLeavesTheStatusTextAndTheWaitPointer) {
+TEST_F(ProjectFileReaderTest, AfterAnInvalidNumberStatusTextAndBusyPointerStay) {
   EXPECT_FALSE(Read(ProjectFileParts{.thumbnailPage = "<ARRANGEMENT ROWS='many'/><PAGELINKS/>"}));
   EXPECT_EQ(Box(), "Vantorium: Type mismatch");
-  EXPECT_EQ(desk.boxes.boxes[0].kind, env::BoxKind::Plain);
-  EXPECT_EQ(desk.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "box Vantorium"}));
+  EXPECT_EQ(harness.boxes.boxes[0].kind, env::BoxKind::Plain);
+  EXPECT_EQ(harness.calls, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer", "box Vantorium"}));
   EXPECT_FALSE(Read(ProjectFileParts{.lists = "<IMAGES><MODIFY><SIZE KEEPASPECTRATIO='32768'/></MODIFY></IMAGES>"}));
   EXPECT_EQ(Box(), "Vantorium: Overflow");
 }
 
-TEST_F(ProjectFileReaderTest, TheEventLoopGetsATurnAfterTheStatusTextAndBeforeTheSettingsAreTouched) {
-  desk.project.settings.ImageHeader = "old";
+TEST_F(ProjectFileReaderTest, TheEventLoopHasATurnAfterTheStatusTextAndBeforeSettingsChange) {
+  harness.project.settings.ImageHeader = "old";
   Calls callsThen;
-  desk.events.onTurn = [&](int turn) {
+  harness.events.onTurn = [&](int turn) {
     if (turn != 1) return;
-    callsThen = desk.calls;
+    callsThen = harness.calls;
     EXPECT_EQ(Settings().ImageHeader, "old");
   };
   ASSERT_TRUE(Read(ProjectFileParts{}));
   EXPECT_EQ(callsThen, (Calls{"status Reading Project File \"" + path + "\"...", "wait pointer"}));
 }
 
-TEST_F(ProjectFileReaderTest, AReadingBeginsWithTheSettingsOfANewProject) {
-  desk.project.UntitledCounter = 7;
-  desk.project.settings.ImageHeader = "old";
-  desk.project.settings.checkImageWrapperImageSizesInPercent = 1;
+TEST_F(ProjectFileReaderTest, ReadingBeginsWithDefaultSettings) {
+  harness.project.UntitledCounter = 7;
+  harness.project.settings.ImageHeader = "old";
+  harness.project.settings.checkImageWrapperImageSizesInPercent = 1;
   ASSERT_TRUE(Read(ProjectFileParts{.gallery = ""}));
   EXPECT_EQ(Settings().textGalleryTitle, "Gallery7");
   EXPECT_EQ(Settings().ImageHeader, "");
   EXPECT_EQ(Settings().checkImageWrapperImageSizesInPercent, 1);
 }
 
-TEST_F(ProjectFileReaderTest, AnEmptyTitleIsATitle) {
+TEST_F(ProjectFileReaderTest, AnEmptyTitleIsAValue) {
   ASSERT_TRUE(Read(ProjectFileParts{.gallery = "TITLE=''"}));
   EXPECT_EQ(Settings().textGalleryTitle, "");
 }
 
-TEST_F(ProjectFileReaderTest, AReadingLeavesTheStatesOfTheProject) {
-  Project& project = desk.project;
+TEST_F(ProjectFileReaderTest, ReadingLeavesTheStateOfTheProject) {
+  Project& project = harness.project;
   project.ProjectFileName = "old.gpj";
   for (const bool state : {false, true}) {
     for (const std::string& text : {ProjectFileParts{}.Text(), std::string("<GALLERYPROJECT/>")}) {
@@ -169,16 +169,16 @@ TEST_F(ProjectFileReaderTest, AReadingLeavesTheStatesOfTheProject) {
 }
 
 TEST_F(ProjectFileReaderTest, ValuesReadBeforeAFailureStay) {
-  desk.File("a.jpg");
+  harness.File("a.jpg");
   EXPECT_FALSE(Read(ProjectFileParts{
-      .lists = "<HEAD>head</HEAD><IMAGES><IMAGE INDEX='1' NAME='a' SOURCE='" + desk.PathOf("a.jpg") + "'/></IMAGES>",
+      .lists = "<HEAD>head</HEAD><IMAGES><IMAGE INDEX='1' NAME='a' SOURCE='" + harness.PathOf("a.jpg") + "'/></IMAGES>",
       .thumbnailPage = ""}));
   EXPECT_EQ(Settings().textGalleryTitle, "Holidays");
   EXPECT_EQ(Settings().GalleryHeadCode, "head");
-  EXPECT_EQ(desk.project.images.Count(), 1U);
+  EXPECT_EQ(harness.project.images.Count(), 1U);
 }
 
-TEST_F(ProjectFileReaderTest, TextsOfTheGalleryComeWithCrLfAndAreEmptyWhenAbsent) {
+TEST_F(ProjectFileReaderTest, TextsOfTheGalleryHaveCrLfAndAreEmptyIfAbsent) {
   ASSERT_TRUE(
       Read(ProjectFileParts{.lists = "<HEAD><![CDATA[a\r\nb]]></HEAD><INFO>c\nd<b>e</b></INFO><HEAD>another</HEAD>"}));
   EXPECT_EQ(Settings().GalleryHeadCode, "a\r\nb");
@@ -188,7 +188,7 @@ TEST_F(ProjectFileReaderTest, TextsOfTheGalleryComeWithCrLfAndAreEmptyWhenAbsent
   EXPECT_EQ(Settings().GalleryInfoText, "");
 }
 
-TEST_F(ProjectFileReaderTest, VersionAndUnknownElementsAreNotLookedAt) {
+TEST_F(ProjectFileReaderTest, VersionAndUnknownElementsAreIgnored) {
   std::string text = ProjectFileParts{.lists = "<UNKNOWN TYPE='x'><HEAD>no</HEAD></UNKNOWN>"}.Text();
   text.insert(text.find('>'), " VERSION='99'");
   ASSERT_TRUE(Read(text));

@@ -5,7 +5,7 @@
 using namespace vantorium;
 using namespace vantorium::core;
 
-TEST(ProjectFileReaderValues, EachLineFeedOfATextBecomesCrLf) {
+TEST(ProjectFileReaderValues, EachLineFeedInATextBecomesCrLf) {
   XmlFile file;
   ASSERT_TRUE(file.Parse("<a><b>1\r\n2\n\n3</b></a>"));
   EXPECT_EQ(MultilineText(file.Root().child("b")), "1\r\n2\r\n\r\n3");
@@ -26,7 +26,7 @@ TEST(ProjectFileReaderValues, AnAbsentAttributeLeavesTheSettingAndAnEmptyOneIsAV
   EXPECT_EQ(project.textImageSettingsSubFolder, "absent");
 }
 
-TEST(ProjectFileReaderValues, OnlyTheNumberOneIsOne) {
+TEST(ProjectFileReaderValues, OnlyTheNumberOneIsOn) {
   for (const char* text : {"1", "01", "1.0", " 1", "+1", "1e0"}) EXPECT_TRUE(IsNumberOne(text)) << text;
   for (const char* text : {"", "0", "2", "-1", "1x", "one", "1.5"}) EXPECT_FALSE(IsNumberOne(text)) << text;
 }

@@ -64,13 +64,13 @@ class ProjectFileRoundTrip : public ::testing::Test, public ProjectReading {
   /// Changes all fields of a project, applies `edit`, then writes and reads it. Returns the names of the settings that
   /// were lost, and adds to `survived` those that were changed and read back.
   Names Lost(const std::function<void(GalleryProject&)>& edit) {
-    GalleryProject& project = desk.project.settings;
+    GalleryProject& project = harness.project.settings;
     project = {};
     const auto untouched = SettingTexts(project);
     for (const ProjectField& field : ProjectFields()) Change(project, field);
     edit(project);
     const auto written = SettingTexts(project);
-    EXPECT_TRUE(Read(ProjectFileText(desk.project, desk.events))) << Box();
+    EXPECT_TRUE(Read(ProjectFileText(harness.project, harness.events))) << Box();
     const auto read = SettingTexts(Settings());
     Names lost;
     for (const auto& [name, value] : written) {
@@ -109,12 +109,12 @@ void SingleFrameSlideShow(GalleryProject& project) {
   project.checkImageWrapperImageKeepSize = 0;
   project.checkThumbnailsImageKeepAspectRatio = 1;
   project.checkImageWrapperImageSetWidth = 1;
-  // The strikeout is read back as the underline; both are changed.
+  // Strikeout is read back as underline, so both change.
 }
 
 }  // namespace
 
-TEST_F(ProjectFileRoundTrip, EverySettingThatTheFormatHoldsComesBack) {
+TEST_F(ProjectFileRoundTrip, EverySettingOfTheFormatIsReadBack) {
   EXPECT_EQ(Lost(SingleFrameSlideShow), With({"textThumbnailsImageHeight"}));
   EXPECT_EQ(
       Lost([](GalleryProject& project) {
@@ -137,71 +137,71 @@ TEST_F(ProjectFileRoundTrip, EverySettingThatTheFormatHoldsComesBack) {
   EXPECT_EQ(neverBack, kNeverSaved);
 }
 
-TEST_F(ProjectFileRoundTrip, ACaptionAboveComesBackBelow) {
-  GalleryProject& project = desk.project.settings;
+TEST_F(ProjectFileRoundTrip, ACaptionAboveIsReadBackAsBelow) {
+  GalleryProject& project = harness.project.settings;
   project.checkCaptionsImagesRegular = project.checkCaptionsThumbnailsRegular = 1;
   project.comboCaptionsImagesRegularPlacement = project.comboCaptionsThumbnailsRegularPlacement = 2;
   project.comboCaptionsImagesRegularAlignment = 0;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(project.comboCaptionsImagesRegularPlacement, 3);
   EXPECT_EQ(project.comboCaptionsThumbnailsRegularPlacement, 3);
   EXPECT_EQ(project.comboCaptionsImagesRegularAlignment, 0);
 }
 
-TEST_F(ProjectFileRoundTrip, StrikeoutComesBackAsTheUnderline) {
-  image::WatermarkSettings& watermark = desk.project.settings.ImageWatermark;
+TEST_F(ProjectFileRoundTrip, StrikeoutIsReadBackAsUnderline) {
+  image::WatermarkSettings& watermark = harness.project.settings.ImageWatermark;
   watermark.checkUseWatermark = 1;
   for (const bool underline : {false, true}) {
     watermark.FontUnderline = underline;
     watermark.FontStrikeout = !underline;
-    ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+    ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
     EXPECT_EQ(watermark.FontUnderline, underline);
     EXPECT_EQ(watermark.FontStrikeout, underline);
   }
 }
 
-TEST_F(ProjectFileRoundTrip, AWatermarkOfTheThumbnailsAloneIsLostAndOneOfTheImagesAloneIsGained) {
-  GalleryProject& project = desk.project.settings;
+TEST_F(ProjectFileRoundTrip, AThumbnailWatermarkAloneIsLostAndAnImageWatermarkIsCopiedToThumbnails) {
+  GalleryProject& project = harness.project.settings;
   project.ThumbnailWatermark.checkUseWatermark = 1;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(project.ThumbnailWatermark.checkUseWatermark, 0);
   project.ImageWatermark.checkUseWatermark = 1;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(project.ImageWatermark.checkUseWatermark, 1);
   EXPECT_EQ(project.ThumbnailWatermark.checkUseWatermark, 1);
 }
 
 TEST_F(ProjectFileRoundTrip, AQualityAloneIsLost) {
-  GalleryProject& project = desk.project.settings;
+  GalleryProject& project = harness.project.settings;
   project.ImageFilters.sliderQuality = 10;
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(project.ImageFilters.sliderQuality, 85);
 }
 
 TEST_F(ProjectFileRoundTrip, TheTableBackdropIsLost) {
-  GalleryProject& project = desk.project.settings;
+  GalleryProject& project = harness.project.settings;
   project.textThumbnailsTableBackdrop = "b.gif";
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(project.textThumbnailsTableBackdrop, "");
 }
 
-TEST_F(ProjectFileRoundTrip, WithoutWrapperPagesTheirLinksRevert) {
-  GalleryProject& project = desk.project.settings;
+TEST_F(ProjectFileRoundTrip, WithoutWrapperPagesTheirLinksGetTheDefaults) {
+  GalleryProject& project = harness.project.settings;
   project.checkImageWrapperUse = 0;
   project.ImageNextLink.textLinkLabel = "mine";
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(project.checkImageWrapperUse, 0);
   EXPECT_EQ(project.ImageNextLink.textLinkLabel, "NEXT");
 }
 
-TEST_F(ProjectFileRoundTrip, TheImagesComeBackInTheirOrder) {
-  desk.AddImage("b.jpg", "first\r\n\"line\"", "");
-  desk.AddImage("a & <c>.jpg", "", "thumb");
-  desk.AddImage("\xC3\xA4 \xF0\x9F\x98\x80.jpg", "]]>", "]]>");
+TEST_F(ProjectFileRoundTrip, ImagesAreReadBackInOrder) {
+  harness.AddImage("b.jpg", "first\r\n\"line\"", "");
+  harness.AddImage("a & <c>.jpg", "", "thumb");
+  harness.AddImage("\xC3\xA4 \xF0\x9F\x98\x80.jpg", "]]>", "]]>");
   const auto texts = [this] {
     std::vector<std::string> rows;
-    for (std::size_t position = 1; position <= desk.project.images.Count(); ++position) {
-      const ImageEntry& entry = desk.project.images.Entry(position);
+    for (std::size_t position = 1; position <= harness.project.images.Count(); ++position) {
+      const ImageEntry& entry = harness.project.images.Entry(position);
       std::string source = entry.SourcePath;
       std::ranges::replace(source, '/', '\\');  // the file has slashes
       rows.push_back(entry.ImageName + "|" + source + "|" + entry.ImageDescription + "|" + entry.ThumbnailDescription);
@@ -209,24 +209,24 @@ TEST_F(ProjectFileRoundTrip, TheImagesComeBackInTheirOrder) {
     return rows;
   };
   const auto before = texts();
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events)));
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events)));
   EXPECT_EQ(texts(), before);
 }
 
-TEST_F(ProjectFileRoundTrip, AListLongerThan16BitsCountComesBack) {
-  const std::string source = desk.File("photo.jpg");
+TEST_F(ProjectFileRoundTrip, AListOfMoreThan65535ImagesIsReadBack) {
+  const std::string source = harness.File("photo.jpg");
   constexpr std::size_t kImages = 40'000;
   for (std::size_t position = 1; position <= kImages; ++position) {
-    desk.project.images.Insert(position, {"photo", source, "", "", "", "t"});
+    harness.project.images.Insert(position, {"photo", source, "", "", "", "t"});
   }
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events))) << Box();
-  ASSERT_EQ(desk.project.images.Count(), kImages);
-  EXPECT_EQ(desk.project.images.Entry(kImages).ImageName, "photo_39999");
-  EXPECT_EQ(desk.project.images.Entry(kImages).ThumbnailDescription, "t");
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events))) << Box();
+  ASSERT_EQ(harness.project.images.Count(), kImages);
+  EXPECT_EQ(harness.project.images.Entry(kImages).ImageName, "photo_39999");
+  EXPECT_EQ(harness.project.images.Entry(kImages).ThumbnailDescription, "t");
 }
 
 TEST_F(ProjectFileRoundTrip, TheLargestValueOfEachFieldIsReadBack) {
-  GalleryProject& project = desk.project.settings;
+  GalleryProject& project = harness.project.settings;
   project.checkGallerySlideShow = project.checkGallerySlideShowAutoStart = 1;
   project.comboGallerySlideShowBeginWith = 0;
   project.checkPageLinksThumbnailDirectLinks = 1;
@@ -235,7 +235,7 @@ TEST_F(ProjectFileRoundTrip, TheLargestValueOfEachFieldIsReadBack) {
     if (!isBounded(field)) continue;
     project.*std::get<Digits GalleryProject::*>(field.member) = std::to_string(*field.range->upperBound);
   }
-  ASSERT_TRUE(Read(ProjectFileText(desk.project, desk.events))) << Box();
+  ASSERT_TRUE(Read(ProjectFileText(harness.project, harness.events))) << Box();
   for (const ProjectField& field : ProjectFields()) {
     if (!isBounded(field)) continue;
     EXPECT_EQ(project.*std::get<Digits GalleryProject::*>(field.member), std::to_string(*field.range->upperBound))

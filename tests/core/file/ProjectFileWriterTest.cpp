@@ -13,13 +13,13 @@ namespace {
 
 class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
  public:
-  GalleryProject& Edit() { return desk.project.settings; }
-  [[nodiscard]] std::string Text() { return ProjectFileText(desk.project, desk.events); }
+  GalleryProject& Edit() { return harness.project.settings; }
+  [[nodiscard]] std::string Text() { return ProjectFileText(harness.project, harness.events); }
   bool Write(const std::string& target) {
-    desk.calls.clear();
-    return ProjectFileWriter(desk.project, desk.paths, desk.host, desk.events).WriteProjectFile(target);
+    harness.calls.clear();
+    return ProjectFileWriter(harness.project, harness.paths, harness.host, harness.events).WriteProjectFile(target);
   }
-  /// Compares one element a line, so that a failure shows the element that differs.
+  /// Compares line by line, one element on each, so that a failure shows the element that differs.
   void ExpectText(const std::string& expected) {
     EXPECT_EQ(env::ReplaceAll(Text(), "><", ">\n<"), env::ReplaceAll(expected, "><", ">\n<"));
   }
@@ -32,8 +32,8 @@ class ProjectFileWriterTest : public ::testing::Test, public ProjectReading {
 };
 
 /// Fills in every optional element of the file.
-void FillIn(ProjectDesk& desk) {
-  GalleryProject& project = desk.project.settings;
+void FillIn(ProjectHarness& harness) {
+  GalleryProject& project = harness.project.settings;
   project.textGalleryTitle = "A \"title\" & <more>";
   project.GalleryHeadCode = "<META>\r\n";
   project.GalleryInfoText = "info";
@@ -76,13 +76,13 @@ void FillIn(ProjectDesk& desk) {
   project.comboPageLinksThumbnailLinkPlacement = 3;
   project.ThumbnailFirstLink = {"F", "C:\\f.gif", "g.gif"};
   project.ImageIndexLink = {"I", "i.gif", "never written"};
-  desk.project.images.Insert(1, {"a.jpg", "C:\\photos\\a.jpg", "", "", "described", ""});
-  desk.project.images.Insert(2, {"b.jpg", "Z:/b.jpg", "", "", "", "a thumbnail"});
+  harness.project.images.Insert(1, {"a.jpg", "C:\\photos\\a.jpg", "", "", "described", ""});
+  harness.project.images.Insert(2, {"b.jpg", "Z:/b.jpg", "", "", "", "a thumbnail"});
 }
 
 }  // namespace
 
-TEST_F(ProjectFileWriterTest, ANewProjectIsWrittenInItsOrder) {
+TEST_F(ProjectFileWriterTest, ElementsOfANewProjectAreWrittenInOrder) {
   Edit().textGalleryTitle = "Gallery1";
   ExpectText(
       "<GALLERYPROJECT VERSION=\"3.0\"><META NAME=\"GENERATOR\" CONTENT=\"Vantorium Image Gallery Creator 3.0\"/>"
@@ -113,8 +113,8 @@ TEST_F(ProjectFileWriterTest, ANewProjectIsWrittenInItsOrder) {
       "</IMAGEPAGE></GALLERY></GALLERYPROJECT>");
 }
 
-TEST_F(ProjectFileWriterTest, AProjectWithEveryPartIsWrittenInItsOrder) {
-  FillIn(desk);
+TEST_F(ProjectFileWriterTest, ElementsOfAFullProjectAreWrittenInOrder) {
+  FillIn(harness);
   ExpectText(
       "<GALLERYPROJECT VERSION=\"3.0\"><META NAME=\"GENERATOR\" CONTENT=\"Vantorium Image Gallery Creator 3.0\"/>"
       "<GALLERY TITLE=\"A &quot;title&quot; &amp; &lt;more>\"><HEAD><![CDATA[<META>\r\n]]></HEAD>"
@@ -189,13 +189,13 @@ TEST_F(ProjectFileWriterTest, EachLayoutHasItsWord) {
   }
 }
 
-TEST_F(ProjectFileWriterTest, APercentFrameSizeEndsInItsSign) {
+TEST_F(ProjectFileWriterTest, AFrameSizeInPercentEndsInAPercentSign) {
   Edit().checkGalleryFrameSizeInPercent = 1;
   Edit().textGalleryFrameSize = "30";
   EXPECT_NE(Tag("LAYOUT").find("FRAMESIZE=\"30%\""), std::string::npos);
 }
 
-TEST_F(ProjectFileWriterTest, TheImageSizeIsWrittenUnlessItIsKept) {
+TEST_F(ProjectFileWriterTest, TheImageSizeIsWrittenUnlessImagesKeepTheirSize) {
   const auto size = [this](Flag keepAspectRatio, Flag setWidth) {
     Edit().checkImageWrapperImageKeepAspectRatio = keepAspectRatio;
     Edit().checkImageWrapperImageSetWidth = setWidth;
@@ -210,7 +210,7 @@ TEST_F(ProjectFileWriterTest, TheImageSizeIsWrittenUnlessItIsKept) {
   EXPECT_NE(Text().find("<MODIFY/></IMAGES>"), std::string::npos);
 }
 
-TEST_F(ProjectFileWriterTest, CorrectionsOfThePhotographsAreWrittenOnlyIfTheyAreOn) {
+TEST_F(ProjectFileWriterTest, PhotographCorrectionsAreWrittenOnlyIfTheyAreOn) {
   EXPECT_EQ(Tag("IMAGES"), "<IMAGES FOLDER=\"Images\">");
   Edit().checkImagesTrueColors = 1;
   EXPECT_EQ(Tag("IMAGES"), "<IMAGES FOLDER=\"Images\" TRUECOLORS=\"1\">");
@@ -228,7 +228,7 @@ TEST_F(ProjectFileWriterTest, AQualityIsWrittenOnlyWithAnotherFilter) {
   EXPECT_EQ(Text().find("VALUE=\"10\""), std::string::npos);
 }
 
-TEST_F(ProjectFileWriterTest, TheWatermarkOfTheImagesDecidesAboutBoth) {
+TEST_F(ProjectFileWriterTest, TheWatermarkOfTheImagesDecidesForBoth) {
   Edit().ThumbnailWatermark.checkUseWatermark = 1;
   EXPECT_EQ(Text().find("watermark"), std::string::npos);
   Edit().ThumbnailWatermark.checkUseWatermark = 0;
@@ -239,13 +239,13 @@ TEST_F(ProjectFileWriterTest, TheWatermarkOfTheImagesDecidesAboutBoth) {
   EXPECT_EQ(Text().find("TYPE=\"quality\""), Text().rfind("TYPE=\"quality\""));
 }
 
-TEST_F(ProjectFileWriterTest, AWatermarkPlaceBeyondTheListHasNoAttribute) {
+TEST_F(ProjectFileWriterTest, AnUnknownWatermarkPlaceHasNoAttribute) {
   Edit().ImageWatermark.checkUseWatermark = 1;
   Edit().ImageWatermark.comboTextPlacement = 11;
   EXPECT_EQ(Tag("FILTER"), "<FILTER TYPE=\"watermark\" CAPTION=\"SAMPLE\" ALPHA=\"65\">");
 }
 
-TEST_F(ProjectFileWriterTest, CaptionsAreAlignedByTheirPlace) {
+TEST_F(ProjectFileWriterTest, TheAlignmentOfCaptionsDependsOnTheirPlace) {
   Edit().checkCaptionsImagesRegular = 1;
   const std::string words[4][2] = {{"left", "top"}, {"right", "top"}, {"above", "left"}, {"below", "left"}};
   for (Choice place = 0; place < 4; ++place) {
@@ -256,7 +256,7 @@ TEST_F(ProjectFileWriterTest, CaptionsAreAlignedByTheirPlace) {
   }
 }
 
-TEST_F(ProjectFileWriterTest, DescriptionsAreAlignedByTheirPlace) {
+TEST_F(ProjectFileWriterTest, TheAlignmentOfDescriptionsDependsOnTheirPlace) {
   const std::string attributes[5] = {"", " PLACE=\"left\" ALIGN=\"bottom\"", " PLACE=\"right\" ALIGN=\"bottom\"",
                                      " PLACE=\"top\" ALIGN=\"right\"", " PLACE=\"bottom\" ALIGN=\"right\""};
   for (Choice place = 0; place < 5; ++place) {
@@ -266,7 +266,7 @@ TEST_F(ProjectFileWriterTest, DescriptionsAreAlignedByTheirPlace) {
   }
 }
 
-TEST_F(ProjectFileWriterTest, DirectLinksAreAllForAnyZero) {
+TEST_F(ProjectFileWriterTest, AnyZeroOfDirectLinksIsWrittenAsAll) {
   Edit().checkPageLinksThumbnailDirectLinks = 1;
   const std::pair<std::string, std::string> cases[] = {
       {"0", "all"}, {"00", "all"}, {"0.0", "all"}, {"7", "7"}, {"", ""}};
@@ -276,7 +276,7 @@ TEST_F(ProjectFileWriterTest, DirectLinksAreAllForAnyZero) {
   }
 }
 
-TEST_F(ProjectFileWriterTest, LinksWithoutAPlaceHaveNoPlace) {
+TEST_F(ProjectFileWriterTest, LinksWithoutAPlaceHaveNoPlaceAttribute) {
   Edit().comboPageLinksThumbnailLinkPlacement = 0;
   EXPECT_EQ(Tag("PAGELINKS"), "<PAGELINKS>");
 }
@@ -286,19 +286,19 @@ TEST_F(ProjectFileWriterTest, WithoutWrapperPagesThereIsNoImagePage) {
   EXPECT_EQ(Tag("IMAGEPAGE"), "none");
 }
 
-TEST_F(ProjectFileWriterTest, LineBreaksOfAttributesAreWrittenAsReferences) {
+TEST_F(ProjectFileWriterTest, LineBreaksInAttributesAreWrittenAsReferences) {
   Edit().textGalleryTitle = "a\r\nb\tc";
   EXPECT_EQ(Tag("GALLERY "), "<GALLERY TITLE=\"a&#13;&#10;b&#09;c\">");
 }
 
-TEST_F(ProjectFileWriterTest, ATextThatClosesItsSectionIsReadBackWhole) {
+TEST_F(ProjectFileWriterTest, ATextWithTheEndOfACDATASectionIsReadBackWhole) {
   for (const std::string& text : {std::string("]]>"), std::string("a]]>b]]>"), std::string("]]]]>>"),
                                   std::string("<![CDATA[x]]>"), std::string("]]"), std::string("&lt;]]&gt;")}) {
-    desk.project.images.Clear();
-    desk.AddImage("a.jpg", text, text);
+    harness.project.images.Clear();
+    harness.AddImage("a.jpg", text, text);
     ASSERT_TRUE(Read(Text())) << text;
-    EXPECT_EQ(desk.project.images.Entry(1).ImageDescription, text);
-    EXPECT_EQ(desk.project.images.Entry(1).ThumbnailDescription, text);
+    EXPECT_EQ(harness.project.images.Entry(1).ImageDescription, text);
+    EXPECT_EQ(harness.project.images.Entry(1).ThumbnailDescription, text);
   }
 }
 
@@ -313,11 +313,11 @@ TEST_F(ProjectFileWriterTest, CharactersThatXmlForbidsAreReplacedAndTheFileCanBe
 }
 
 TEST_F(ProjectFileWriterTest, AnImagePathThatXmlCannotHoldIsNotWritten) {
-  const std::string target = desk.File("a.gpj", "old");
-  desk.project.images.Insert(1, {"a", "C:\\caf\xE9.jpg", "", "", "", ""});
+  const std::string target = harness.File("a.gpj", "old");
+  harness.project.images.Insert(1, {"a", "C:\\caf\xE9.jpg", "", "", "", ""});
   EXPECT_THROW(std::ignore = Text(), env::RuntimeFailure);
   EXPECT_FALSE(Write(target));
-  EXPECT_EQ(desk.folder.Read("a.gpj"), "old");
+  EXPECT_EQ(harness.folder.Read("a.gpj"), "old");
 }
 
 TEST_F(ProjectFileWriterTest, ValuesThatTheReaderRefusesAreNotWritten) {
@@ -325,58 +325,58 @@ TEST_F(ProjectFileWriterTest, ValuesThatTheReaderRefusesAreNotWritten) {
   EXPECT_THROW(std::ignore = Text(), env::RuntimeFailure);
 }
 
-TEST_F(ProjectFileWriterTest, WritingShowsTheFileAndTheWaitPointerAndTakesThemAwayAgain) {
-  const std::string target = desk.PathOf("a.gpj");
+TEST_F(ProjectFileWriterTest, WritingShowsTheFileAndTheBusyPointerAndRemovesBoth) {
+  const std::string target = harness.PathOf("a.gpj");
   ASSERT_TRUE(Write(target));
-  EXPECT_EQ(desk.calls,
+  EXPECT_EQ(harness.calls,
             (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer", "status ", "pointer"}));
-  EXPECT_EQ(desk.folder.Read("a.gpj"), Text());
+  EXPECT_EQ(harness.folder.Read("a.gpj"), Text());
 }
 
-TEST_F(ProjectFileWriterTest, AFileThatCannotBeWrittenGivesFalseWithoutABox) {
-  for (const std::string& target : {desk.PathOf("no folder/a.gpj"), desk.paths.ToText(desk.folder.Path()),
+TEST_F(ProjectFileWriterTest, AFailedWriteReturnsFalseWithoutAMessageBox) {
+  for (const std::string& target : {harness.PathOf("no folder/a.gpj"), harness.paths.ToText(harness.folder.Path()),
                                     std::string("Q:\\a.gpj"), std::string()}) {
     EXPECT_FALSE(Write(target)) << target;
-    EXPECT_EQ(desk.calls,
+    EXPECT_EQ(harness.calls,
               (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer", "status ", "pointer"}));
   }
 }
 
-TEST_F(ProjectFileWriterTest, AFileBehindALinkIsReplacedAndTheLinkStays) {
-  desk.folder.Write("real/a.gpj", "old");
-  std::filesystem::create_symlink("real/a.gpj", desk.folder.Path() / "link.gpj");
-  std::filesystem::create_symlink("real/new.gpj", desk.folder.Path() / "dangling.gpj");
-  ASSERT_TRUE(Write(desk.PathOf("link.gpj")));
-  EXPECT_TRUE(std::filesystem::is_symlink(desk.folder.Path() / "link.gpj"));
-  EXPECT_EQ(desk.folder.Read("real/a.gpj"), Text());
-  ASSERT_TRUE(Write(desk.PathOf("dangling.gpj")));
-  EXPECT_EQ(desk.folder.Read("real/new.gpj"), Text());
+TEST_F(ProjectFileWriterTest, TheTargetOfALinkIsReplacedAndTheLinkStays) {
+  harness.folder.Write("real/a.gpj", "old");
+  std::filesystem::create_symlink("real/a.gpj", harness.folder.Path() / "link.gpj");
+  std::filesystem::create_symlink("real/new.gpj", harness.folder.Path() / "dangling.gpj");
+  ASSERT_TRUE(Write(harness.PathOf("link.gpj")));
+  EXPECT_TRUE(std::filesystem::is_symlink(harness.folder.Path() / "link.gpj"));
+  EXPECT_EQ(harness.folder.Read("real/a.gpj"), Text());
+  ASSERT_TRUE(Write(harness.PathOf("dangling.gpj")));
+  EXPECT_EQ(harness.folder.Read("real/new.gpj"), Text());
 }
 
-TEST_F(ProjectFileWriterTest, ALinkToItselfIsNotFollowedForEver) {
-  std::filesystem::create_symlink("loop.gpj", desk.folder.Path() / "loop.gpj");
-  std::ignore = Write(desk.PathOf("loop.gpj"));
+TEST_F(ProjectFileWriterTest, ALinkToItselfIsNotFollowedForever) {
+  std::filesystem::create_symlink("loop.gpj", harness.folder.Path() / "loop.gpj");
+  std::ignore = Write(harness.PathOf("loop.gpj"));
   SUCCEED();
 }
 
-TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnAfterTheStatusText) {
+TEST_F(ProjectFileWriterTest, TheEventLoopHasATurnAfterTheStatusText) {
   Calls callsThen;
-  desk.events.onTurn = [&](int turn) {
-    if (turn == 1) callsThen = desk.calls;
+  harness.events.onTurn = [&](int turn) {
+    if (turn == 1) callsThen = harness.calls;
   };
-  const std::string target = desk.PathOf("out.gpj");
+  const std::string target = harness.PathOf("out.gpj");
   ASSERT_TRUE(Write(target));
   EXPECT_EQ(callsThen, (Calls{"status Writing Project File \"" + target + "\"...", "wait pointer"}));
 }
 
-TEST_F(ProjectFileWriterTest, TheEventLoopGetsATurnEvery100ImagesAndAsTheTextGrows) {
+TEST_F(ProjectFileWriterTest, TheEventLoopHasATurnEvery100ImagesAndAsTheTextGrows) {
   const auto turnsWith = [&](std::size_t images, const std::string& description) {
-    while (desk.project.images.Count() < images) desk.AddImage("a.jpg", description);
-    desk.events.turns = 0;
+    while (harness.project.images.Count() < images) harness.AddImage("a.jpg", description);
+    harness.events.turns = 0;
     std::ignore = Text();
-    return desk.events.turns;
+    return harness.events.turns;
   };
   const int few = turnsWith(1, "");
-  EXPECT_EQ(turnsWith(350, ""), few + 2 * 3) << "for the images and for their thumbnails";
+  EXPECT_EQ(turnsWith(350, ""), few + 2 * 3) << "for images and for thumbnails";
   EXPECT_GT(turnsWith(1'050, std::string(5'000, 'a')), few + 2 * 10);
 }

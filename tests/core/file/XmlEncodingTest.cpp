@@ -6,7 +6,7 @@ using namespace vantorium;
 using namespace vantorium::core;
 using namespace std::string_literals;
 
-TEST(XmlEncoding, TheMarkOrElseTheDeclarationNamesTheEncoding) {
+TEST(XmlEncoding, TheByteOrderMarkOrElseTheDeclarationNamesTheEncoding) {
   const std::pair<std::string, std::string> cases[] = {
       {"<a>\xC3\xA4</a>", "<a>\xC3\xA4</a>"},
       {"\xEF\xBB\xBF<a/>", "<a/>"},
@@ -21,7 +21,7 @@ TEST(XmlEncoding, TheMarkOrElseTheDeclarationNamesTheEncoding) {
   for (const auto& [bytes, text] : cases) EXPECT_EQ(DecodeXml(bytes), text) << bytes;
 }
 
-TEST(XmlEncoding, BytesThatAreNotInTheirEncodingGiveNothing) {
+TEST(XmlEncoding, BytesThatAreInvalidInTheirEncodingAreRefused) {
   for (const std::string& bytes : {"<?xml encoding='no-such-code'?><a/>"s, "\xFF\xFE<\0a"s, "\xFF\xFE\0\xD8"s,
                                    "\xFE\xFF\xDC\0\0<"s, "<?xml encoding='US-ASCII'?>\xE4"s}) {
     EXPECT_EQ(DecodeXml(bytes), std::nullopt) << bytes;

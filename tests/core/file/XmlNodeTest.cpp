@@ -37,7 +37,7 @@ TEST(XmlNode, LineBreaksInAttributesSurviveOnlyAsReferences) {
   EXPECT_EQ(AttributeOf(file.Root(), "c"), "1 2 3 4");
 }
 
-TEST(XmlNode, TheTextOfAnElementIsAllTextInItInOrder) {
+TEST(XmlNode, TheTextOfAnElementIsAllTextInsideItInOrder) {
   XmlFile file;
   ASSERT_TRUE(file.Parse("<a> 1<![CDATA[2\r\n]]><!-- no --><b>3<c>4</c></b><?no no?><d/> \n</a>"));
   EXPECT_EQ(TextOf(file.Root()), " 12\n34 \n");
@@ -45,7 +45,7 @@ TEST(XmlNode, TheTextOfAnElementIsAllTextInItInOrder) {
   EXPECT_EQ(TextOf(pugi::xml_node()), "");
 }
 
-TEST(XmlNode, DescendantsComeInDocumentOrderAndFromBelowTheElementOnly) {
+TEST(XmlNode, DescendantsAreVisitedInDocumentOrderAndOnlyBelowTheElement) {
   XmlFile file;
   ASSERT_TRUE(
       file.Parse("<x id='0'><x id='1'><x id='2'/><y><x id='3'/></y></x><X id='no'/>text<y/><x id='4'>x</x></x>"));

@@ -18,7 +18,7 @@ std::string Repeated(const std::string& text, std::size_t times) {
 
 }  // namespace
 
-TEST(XmlSyntax, SoundDocumentsPass) {
+TEST(XmlSyntax, WellFormedDocumentsAreAccepted) {
   for (const char* text : {"<a/>",
                            "<a></a>",
                            "<a ></a >",
@@ -44,7 +44,7 @@ TEST(XmlSyntax, SoundDocumentsPass) {
   }
 }
 
-TEST(XmlSyntax, AMalformedDocumentIsRefused) {
+TEST(XmlSyntax, MalformedDocumentsAreRefused) {
   for (const std::string& text : {""s,
                                   "   "s,
                                   "text"s,
@@ -107,14 +107,14 @@ TEST(XmlSyntax, AMalformedDocumentIsRefused) {
   }
 }
 
-TEST(XmlSyntax, DeclarationsOfEntitiesAreRefused) {
+TEST(XmlSyntax, EntityDeclarationsAreRefused) {
   EXPECT_FALSE(IsWellFormedXml("<!DOCTYPE a [<!ENTITY b \"c\">]><a>&b;</a>"));
   EXPECT_FALSE(IsWellFormedXml("<!DOCTYPE a [<!ENTITY b SYSTEM \"file:///etc/passwd\">]><a/>"));
   EXPECT_FALSE(IsWellFormedXml("<!DOCTYPE a [<!ENTITY b '&c;&c;'><!ENTITY c '&b;'>]><a>&b;</a>"));
   EXPECT_FALSE(IsWellFormedXml("<!DOCTYPE a SYSTEM 'x'[]><a/>"));
 }
 
-TEST(XmlSyntax, ADocumentBeyondALimitIsRefused) {
+TEST(XmlSyntax, DocumentsBeyondALimitAreRefused) {
   const XmlLimits limits = {.depth = 3, .pieces = 10, .attributeBytes = 4};
   EXPECT_TRUE(IsWellFormedXml("<a><b><c><d/></c></b></a>", limits));
   EXPECT_FALSE(IsWellFormedXml("<a><b><c><d></d></c></b></a>", limits));
@@ -124,7 +124,7 @@ TEST(XmlSyntax, ADocumentBeyondALimitIsRefused) {
   EXPECT_FALSE(IsWellFormedXml("<a b='12345'/>", limits));
 }
 
-TEST(XmlSyntax, AMillionElementsInsideEachOtherAreRefused) {
+TEST(XmlSyntax, AMillionNestedElementsAreRefused) {
   EXPECT_FALSE(IsWellFormedXml(Repeated("<a>", 1'000'000) + Repeated("</a>", 1'000'000)));
   EXPECT_FALSE(IsWellFormedXml(Repeated("<a>", 1'000'000)));
 }

@@ -5,7 +5,7 @@
 using namespace vantorium;
 using namespace vantorium::core;
 
-TEST(XmlText, CharactersOfXmlAreKeptAsTheyAre) {
+TEST(XmlText, CharactersThatXmlAllowsAreUnchanged) {
   for (const char* text : {"", "plain", "tab\tline\r\nend", "<&>\"'", "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80",
                            "\xEF\xBF\xBD", "\xED\x9F\xBF", "\xEE\x80\x80", "\xF4\x8F\xBF\xBF"}) {
     EXPECT_TRUE(IsXmlText(text)) << text;

@@ -8,7 +8,7 @@ class AuxiliaryFilesTest : public RunFixture {
  protected:
   AuxiliaryFilesTest() { AddPhotograph("a"); }
 
-  /// Runs without pages. Returns the auxiliary files in the images folder.
+  /// Runs without pages, and returns the auxiliary files in the images folder.
   std::set<std::string> Copied() {
     RunOrder order = OrderToCreate();
     order.CreateHTML = false;
@@ -28,7 +28,7 @@ TEST_F(AuxiliaryFilesTest, WithoutGraphicsNothingIsCopied) {
   EXPECT_EQ(end, RunEnd::Success);
 }
 
-TEST_F(AuxiliaryFilesTest, EachSettingGoesToItsFixedNameWithTheSourcesExtension) {
+TEST_F(AuxiliaryFilesTest, EachGraphicIsCopiedToItsFixedNameWithTheExtensionOfTheSource) {
   folder.Write("project/g.GIF", "graphic");
   auto& s = project.settings;
   s.textThumbnailsTableBackdrop = s.textThumbnailsPageBackdrop = s.textImageWrapperBackdrop = "g.GIF";
@@ -61,7 +61,7 @@ TEST_F(AuxiliaryFilesTest, AGraphicWithAFolderIsUsedUnchanged) {
   EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "there");
 }
 
-TEST_F(AuxiliaryFilesTest, AProjectFolderWithoutABackslashGetsOne) {
+TEST_F(AuxiliaryFilesTest, AProjectFolderMayLackItsTrailingBackslash) {
   folder.Write("project/g.gif", "GIF");
   project.ProjectFolder = "T:\\project";
   project.settings.textThumbnailsPageBackdrop = "g.gif";
@@ -74,7 +74,7 @@ struct MissingCase {
   const char* text;
 };
 
-TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunInTheSpellingOfItsKind) {
+TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunWithTheMessageOfItsKind) {
   for (const MissingCase& c :
        {MissingCase{&core::GalleryProject::textImageWrapperBackdrop, nullptr,
                     "Unable to copy the File \"T:\\none.gif\"."},
@@ -93,7 +93,7 @@ TEST_F(AuxiliaryFilesTest, AMissingGraphicEndsTheRunInTheSpellingOfItsKind) {
   }
 }
 
-TEST_F(AuxiliaryFilesTest, WithoutWrapperPagesTheImageLinksHaveNoGraphics) {
+TEST_F(AuxiliaryFilesTest, WithoutWrapperPagesGraphicsOfImageLinksAreNotCopied) {
   folder.Write("project/g.gif", "GIF");
   project.settings.checkImageWrapperUse = 0;
   for (auto link : {&core::GalleryProject::ImageFirstLink, &core::GalleryProject::ImagePreviousLink,
@@ -108,19 +108,19 @@ TEST_F(AuxiliaryFilesTest, WithoutWrapperPagesTheImageLinksHaveNoGraphics) {
   EXPECT_EQ(end, RunEnd::Success);
 }
 
-TEST_F(AuxiliaryFilesTest, TheIndexLinkHasNoGraphicForAnEnd) {
+TEST_F(AuxiliaryFilesTest, TheIndexLinkHasNoDisabledGraphic) {
   folder.Write("project/g.gif", "GIF");
   project.settings.ImageIndexLink.textLinkGraphicDisabled = "g.gif";
   EXPECT_EQ(Copied(), Names{});
 }
 
-TEST_F(AuxiliaryFilesTest, BothPageBackdropsAreCopiedEvenWhenTheyAreTheSame) {
+TEST_F(AuxiliaryFilesTest, BothPageBackdropsAreCopiedEvenIfTheyAreTheSame) {
   folder.Write("project/g.gif", "GIF");
   project.settings.textThumbnailsPageBackdrop = project.settings.textImageWrapperBackdrop = "g.gif";
   EXPECT_EQ(Copied(), (Names{"_backdrop_thumbpage.gif", "_backdrop_imagepage.gif"}));
 }
 
-TEST_F(AuxiliaryFilesTest, TheyAreCopiedWithoutOverwriteToo) {
+TEST_F(AuxiliaryFilesTest, GraphicsAreReplacedEvenWithoutOverwrite) {
   folder.Write("project/g.gif", "new");
   folder.Write("out/Images/_backdrop_thumbpage.gif", "old");
   project.settings.textThumbnailsPageBackdrop = "g.gif";

@@ -14,12 +14,12 @@ class CancelCheckTest : public ::testing::Test {
   CancelCheck cancel{boxes};
 };
 
-TEST_F(CancelCheckTest, WithoutThePressedButtonNothingIsAsked) {
+TEST_F(CancelCheckTest, UnlessTheButtonWasPressedNothingIsAsked) {
   EXPECT_FALSE(cancel.CheckForCancel(progress));
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(CancelCheckTest, YesRequestsTheCancelAndSaysSoInTheLog) {
+TEST_F(CancelCheckTest, YesRequestsTheCancelAndLogsIt) {
   record.cancelled = true;
   EXPECT_TRUE(cancel.CheckForCancel(progress));
   EXPECT_TRUE(cancel.CancelRequested());
@@ -30,7 +30,7 @@ TEST_F(CancelCheckTest, YesRequestsTheCancelAndSaysSoInTheLog) {
   EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo);
 }
 
-TEST_F(CancelCheckTest, NoTakesThePressBack) {
+TEST_F(CancelCheckTest, NoResetsTheButton) {
   record.cancelled = true;
   boxes.answers = {env::BoxAnswer::No};
   EXPECT_FALSE(cancel.CheckForCancel(progress));
@@ -38,14 +38,14 @@ TEST_F(CancelCheckTest, NoTakesThePressBack) {
   EXPECT_FALSE(cancel.CancelRequested());
 }
 
-TEST_F(CancelCheckTest, ARequestIsAskedAboutOnce) {
+TEST_F(CancelCheckTest, ACancelIsConfirmedOnce) {
   record.cancelled = true;
   std::ignore = cancel.CheckForCancel(progress);
   EXPECT_TRUE(cancel.CheckForCancel(progress));
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(CancelCheckTest, AfterARequestOnlyTheWindowsFlagCounts) {
+TEST_F(CancelCheckTest, AfterARequestTheAnswerIsTheFlagOfTheWindow) {
   record.cancelled = true;
   std::ignore = cancel.CheckForCancel(progress);
   record.cancelled = false;

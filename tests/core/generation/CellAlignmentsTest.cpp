@@ -61,7 +61,7 @@ TEST(CellAlignments, OfCaptionsAboveAndBelow) {
   }
 }
 
-TEST(CellAlignments, OfCaptionsBesideAPictureAreTheSameForBothCells) {
+TEST(CellAlignments, OfCaptionsBesideAPictureAreEqualForBothCells) {
   const std::string valigns[] = {"TOP", "CENTER", "BOTTOM"};
   for (core::Choice alignment = 0; alignment < 3; ++alignment) {
     for (core::Choice placement = 0; placement < 2; ++placement) {
@@ -75,7 +75,7 @@ TEST(CellAlignments, OfCaptionsBesideAPictureAreTheSameForBothCells) {
   }
 }
 
-TEST(CellAlignments, OfImageDescriptionsNameTheVerticalFirst) {
+TEST(CellAlignments, OfImageDescriptionsListTheVerticalOnesFirst) {
   const std::string beside[] = {R"(VALIGN="TOP" ALIGN="LEFT")", R"(VALIGN="CENTER" ALIGN="LEFT")",
                                 R"(VALIGN="BOTTOM" ALIGN="LEFT")"};
   const std::string above[] = {R"(VALIGN="BOTTOM" ALIGN="LEFT")", R"(VALIGN="BOTTOM" ALIGN="CENTER")",
@@ -90,7 +90,7 @@ TEST(CellAlignments, OfImageDescriptionsNameTheVerticalFirst) {
   }
 }
 
-TEST(CellAlignments, AreEmptyOutsideTheTables) {
+TEST(CellAlignments, AreEmptyForUnknownNumbers) {
   for (const core::Choice outside : std::initializer_list<core::Choice>{-32768, -1, 3, 32767}) {
     EXPECT_EQ(ThumbnailDescriptionCells(outside, core::Placement::Left).text, "") << outside;
     EXPECT_EQ(ImageDescriptionCell(outside, core::Placement::Left), "") << outside;

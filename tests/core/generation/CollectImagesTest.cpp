@@ -70,7 +70,7 @@ TEST_F(CollectImagesTest, SizesFollowTheSettings) {
   }
 }
 
-TEST_F(CollectImagesTest, ASourceThatCannotBeReadHasNoSizeAndNeitherHasItsThumbnailsComputedSide) {
+TEST_F(CollectImagesTest, AnUnreadableSourceGivesNoSizeAndNoComputedSide) {
   AddEntry("gone", "T:\\photos\\gone.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
   project.settings.checkThumbnailsImageKeepAspectRatio = 1;
@@ -80,14 +80,14 @@ TEST_F(CollectImagesTest, ASourceThatCannotBeReadHasNoSizeAndNeitherHasItsThumbn
   EXPECT_EQ(run.Info(1).FileTime, env::FileTime{});
 }
 
-TEST_F(CollectImagesTest, WithBothSizesGivenTheFileIsNotNeeded) {
+TEST_F(CollectImagesTest, WithBothSizesGivenTheFileIsNotRead) {
   AddEntry("gone", "T:\\photos\\gone.jpg");
   project.settings.checkImageWrapperImageKeepAspectRatio = 0;
   Collect();
   EXPECT_EQ(SizesOf(1), (Sizes{400, 300, 60, 60}));
 }
 
-TEST_F(CollectImagesTest, SizesAreThoseOfTheUprightPhotographIfTheProjectTurnsThem) {
+TEST_F(CollectImagesTest, IfTheProjectTurnsPhotographsTheirUprightSizesCount) {
   AddEntry("lying", "T:\\photos\\lying.jpg");
   auto& settings = project.settings;
   settings.checkThumbnailsImageKeepAspectRatio = 1;
@@ -104,7 +104,7 @@ TEST_F(CollectImagesTest, SizesAreThoseOfTheUprightPhotographIfTheProjectTurnsTh
   EXPECT_EQ(sizes(3, 1, 1), (Sizes{80, 20, 240, 60}));
 }
 
-TEST_F(CollectImagesTest, TheMaximaAreOverAllImages) {
+TEST_F(CollectImagesTest, MaximaCoverAllImages) {
   AddPhotograph("wide", 50, 10);
   AddPhotograph("high", 10, 50);
   project.settings.checkImageWrapperImageKeepSize = 1;
@@ -116,7 +116,7 @@ TEST_F(CollectImagesTest, TheMaximaAreOverAllImages) {
   EXPECT_EQ(run.MaxThumbHeight, 60);
 }
 
-TEST_F(CollectImagesTest, NamesTimesAndCountsAreTaken) {
+TEST_F(CollectImagesTest, NamesTimesAndCountsAreCollected) {
   AddPhotograph("a");
   for (int i = 0; i < 25; ++i) AddEntry("b" + std::to_string(i), "T:\\photos\\a.JPG");
   Collect();

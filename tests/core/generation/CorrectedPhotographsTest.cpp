@@ -1,4 +1,4 @@
-// Whole runs with photographs that are turned upright and converted to sRGB.
+// Runs with photographs that are turned upright and converted to sRGB.
 #include "image/Photograph.h"
 #include "image/Resample.h"
 #include "image/ResamplePlan.h"
@@ -19,8 +19,8 @@ class CorrectedPhotographsTest : public RunFixture {
     project.settings.checkThumbnailsImageKeepAspectRatio = 1;
   }
 
-  /// Adds a photograph of each orientation, "1" to "8".
-  void AddLyingPhotographs() {
+  /// Adds a photograph with each orientation, "1" to "8".
+  void AddTurnedPhotographs() {
     const std::string profile = fakes::ProfileOf(fakes::TestProfile::DisplayP3);
     const std::string jpeg = fakes::WithProfile(fakes::MakeJpeg({.width = kWidth, .height = kHeight}), profile);
     for (int orientation = 1; orientation <= 8; ++orientation) {
@@ -43,9 +43,9 @@ class CorrectedPhotographsTest : public RunFixture {
   }
 };
 
-TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveTheirUprightSize) {
+TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveUprightSizes) {
   project.settings.checkImagesTrueColors = 0;
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToCreate());
   for (int orientation = 1; orientation <= 8; ++orientation) {
     const std::string file = std::to_string(orientation) + ".jpg";
@@ -57,7 +57,7 @@ TEST_F(CorrectedPhotographsTest, ImagesAndThumbnailsAreTurnedAndHaveTheirUpright
 }
 
 TEST_F(CorrectedPhotographsTest, TheGalleryIsTheSameForEveryNumberOfJobs) {
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToCreate());
   const auto first = Gallery();
   for (const unsigned jobs : {2U, 5U}) {
@@ -69,7 +69,7 @@ TEST_F(CorrectedPhotographsTest, TheGalleryIsTheSameForEveryNumberOfJobs) {
 }
 
 TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
-  AddLyingPhotographs();
+  AddTurnedPhotographs();
   Run(OrderToCreate());
   const auto corrected = Gallery();
   project.settings.checkImagesTrueColors = 0;
@@ -80,8 +80,8 @@ TEST_F(CorrectedPhotographsTest, ColorsAreConvertedInImagesAndThumbnails) {
   }
 }
 
-TEST_F(CorrectedPhotographsTest, AnImageThatIsOnlyCopiedStaysACopy) {
-  AddLyingPhotographs();
+TEST_F(CorrectedPhotographsTest, ACopiedImageIsNotCorrected) {
+  AddTurnedPhotographs();
   project.settings.checkImageWrapperImagePhysicalResize = 0;
   Run(OrderToCreate());
   for (const char* name : {"1", "6", "8"}) {
@@ -90,15 +90,15 @@ TEST_F(CorrectedPhotographsTest, AnImageThatIsOnlyCopiedStaysACopy) {
   }
 }
 
-TEST_F(CorrectedPhotographsTest, APreviewAsksTheBrowserForUprightSizesOfThePhotographs) {
-  AddLyingPhotographs();
+TEST_F(CorrectedPhotographsTest, APreviewStatesTheUprightSizesOfPhotographs) {
+  AddTurnedPhotographs();
   Run(OrderToPreview());
   const std::string page = folder.Read("temp/thumbpage_1.htm");
   EXPECT_NE(page.find("/photos/1.jpg\" BORDER=\"0\" WIDTH=\"95\" HEIGHT=\"60\""), std::string::npos) << page;
   EXPECT_NE(page.find("/photos/6.jpg\" BORDER=\"0\" WIDTH=\"38\" HEIGHT=\"60\""), std::string::npos);
 }
 
-TEST_F(CorrectedPhotographsTest, WithoutTheSettingsTheNotesOfAPhotographChangeNoFile) {
+TEST_F(CorrectedPhotographsTest, WithoutTheSettingsTheNotesOfPhotographsAreIgnored) {
   project.settings.checkImagesUpright = project.settings.checkImagesTrueColors = 0;
   const std::string jpeg = fakes::MakeJpeg({.width = kWidth, .height = kHeight});
   AddEntry("a", "T:\\photos\\a.jpg");

@@ -44,7 +44,7 @@ TEST_F(CreateGalleryTest, ACancelledDialogDoesNothing) {
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "place"));
 }
 
-TEST_F(CreateGalleryTest, TheChosenFileIsFolderAndNameOfTheGallery) {
+TEST_F(CreateGalleryTest, TheChosenFileGivesFolderAndIndexFileOfTheGallery) {
   AddPhotograph("a");
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   EXPECT_EQ(FilesIn("web").count("start.htm"), 1U);
@@ -53,14 +53,14 @@ TEST_F(CreateGalleryTest, TheChosenFileIsFolderAndNameOfTheGallery) {
   EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "place/VANTORIUM_TEMP"));
 }
 
-TEST_F(CreateGalleryTest, ThePathBelowTheRootKeepsItsFirstSeparator) {
+TEST_F(CreateGalleryTest, APathBelowTheRootKeepsItsLeadingSeparator) {
   AddPhotograph("a");
   SetIndexFile(*host.order, env::WithBackslashes((folder.Path() / "web/start.htm").string()));
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   EXPECT_EQ(FilesIn("web").count("start.htm"), 1U);
 }
 
-TEST_F(CreateGalleryTest, AnOrderIsCarriedOutWithoutTheDialog) {
+TEST_F(CreateGalleryTest, AnOrderIsExecutedWithoutTheDialog) {
   AddPhotograph("a");
   RunOrder order;
   SetIndexFile(order, "T:\\given\\page.htm");
@@ -78,7 +78,7 @@ TEST_F(CreateGalleryTest, TheSwitchesOfTheDialogReachTheRun) {
   EXPECT_EQ(FilesIn("web"), (std::set<std::string>{"start.htm", "thumbpage_1.htm", "a.htm"}));
 }
 
-TEST_F(CreateGalleryTest, AWarnedUserGetsTheGalleryOrNothing) {
+TEST_F(CreateGalleryTest, AfterWarningsTheUserDecidesWhetherTheRunStarts) {
   AddPhotograph("a#1");
   host.startsAnyway = false;
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
@@ -87,15 +87,15 @@ TEST_F(CreateGalleryTest, AWarnedUserGetsTheGalleryOrNothing) {
   host.startsAnyway = true;
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   EXPECT_EQ(FilesIn("web").count("a#1.htm"), 1U);
-  EXPECT_EQ(host.warnings.size(), 2U) << "one for each run";
+  EXPECT_EQ(host.warnings.size(), 2U) << "one warning for each run";
 }
 
-TEST_F(CreateGalleryTest, WithNothingToSayTheUserIsNotAsked) {
+TEST_F(CreateGalleryTest, WithoutWarningsTheUserIsNotAsked) {
   AddPhotograph("a");
   host.startsAnyway = false;
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
   AddPhotograph("b#");
-  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success) << "a preview is not warned of";
+  EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success) << "a preview has no warnings";
   EXPECT_TRUE(host.warnings.empty());
 }
 
@@ -108,7 +108,7 @@ TEST_F(CreateGalleryTest, AnEmptyListIsRefusedBeforeARun) {
   EXPECT_TRUE(FilesIn("web").empty());
 }
 
-TEST_F(CreateGalleryTest, APreviewOfAnEmptyListIsRefusedBeforeAnyFolderIsMade) {
+TEST_F(CreateGalleryTest, APreviewOfAnEmptyListIsRefusedBeforeAnyFolderIsCreated) {
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::NotStarted);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].text, "You cannot preview a Gallery without Images.");
@@ -130,7 +130,7 @@ TEST_F(CreateGalleryTest, APreviewOpensInTheListedBrowserOfItsIndex) {
   EXPECT_EQ(Started(), (fakes::Journal{"start " + folder.Path().string() + "/two " + PreviewIndex()}));
 }
 
-TEST_F(CreateGalleryTest, AnOpenerThatDoesNotStartIsFollowedByTheOther) {
+TEST_F(CreateGalleryTest, IfAnOpenerDoesNotStartTheOtherIsTried) {
   AddPhotograph("a");
   shell.startsThatFail = 1;
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
@@ -148,7 +148,7 @@ TEST_F(CreateGalleryTest, AListedBrowserThatDoesNotStartIsTriedAsACommandLine) {
   EXPECT_TRUE(boxes.boxes.empty()) << boxes.boxes[0].text;
 }
 
-TEST_F(CreateGalleryTest, WhenBothAttemptsFailedTheSecondFailureIsReported) {
+TEST_F(CreateGalleryTest, IfBothAttemptsFailTheSecondFailureIsReported) {
   AddPhotograph("a");
   shell.startsThatFail = 2;
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
@@ -156,7 +156,7 @@ TEST_F(CreateGalleryTest, WhenBothAttemptsFailedTheSecondFailureIsReported) {
   ExpectErrorBox("Error: 75\r\r\"gio\" failed");
 }
 
-TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailureIsReported) {
+TEST_F(CreateGalleryTest, IfBothAttemptsWithAListedBrowserFailTheSecondFailureIsReported) {
   AddPhotograph("a");
   preferences.Browsers = {{"One", "one"}};
   shell.startsThatFail = 2;
@@ -164,7 +164,7 @@ TEST_F(CreateGalleryTest, WhenBothAttemptsAtAListedBrowserFailedTheSecondFailure
   ExpectErrorBox("Error: 75\r\r\"/bin/sh\" failed");
 }
 
-TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerWhoseFailureIsReportedWhenItIsFound) {
+TEST_F(CreateGalleryTest, TheRunDoesNotWaitForAnOpenerAndReportsItsFailureLater) {
   AddPhotograph("a");
   shell.startsThatFail = 2;
   shell.failsLater = true;
@@ -213,7 +213,7 @@ TEST_F(CreateGalleryTest, AFailedPreviewIsNotOpened) {
   EXPECT_TRUE(Started().empty());
 }
 
-TEST_F(CreateGalleryTest, ARunThatWasReachedEndsWithABeepTheTrayIconAndAnEmptyStatus) {
+TEST_F(CreateGalleryTest, EveryRunEndsWithABeepTheTrayIconAndAnEmptyStatus) {
   AddPhotograph("a");
   Create(GenerationMode::Create);
   EXPECT_EQ(journal, (fakes::Journal{"asked", "tray off", "busy", "window off", "progress shown", "window on", "idle",
@@ -221,7 +221,7 @@ TEST_F(CreateGalleryTest, ARunThatWasReachedEndsWithABeepTheTrayIconAndAnEmptySt
   EXPECT_EQ(host.statuses.back(), "");
 }
 
-TEST_F(CreateGalleryTest, EmptySettingsAreRepairedFirst) {
+TEST_F(CreateGalleryTest, EmptySettingsAreRepairedBeforeTheRun) {
   AddPhotograph("a");
   project.settings.textThumbnailsTableColumns = "";
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success);
@@ -229,7 +229,7 @@ TEST_F(CreateGalleryTest, EmptySettingsAreRepairedFirst) {
   EXPECT_TRUE(project.IsModified);
 }
 
-TEST_F(CreateGalleryTest, AnEmptyPlaceOfTheTemporaryFolderBecomesTheProgramsFolder) {
+TEST_F(CreateGalleryTest, AnEmptyTempFolderLocationBecomesTheProgramFolder) {
   AddPhotograph("a");
   preferences.TempFolderLocation = "";
   Create(GenerationMode::Preview);
@@ -237,7 +237,7 @@ TEST_F(CreateGalleryTest, AnEmptyPlaceOfTheTemporaryFolderBecomesTheProgramsFold
   EXPECT_EQ(FilesIn("program/VANTORIUM_TEMP").count("index.htm"), 1U);
 }
 
-TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
+TEST_F(CreateGalleryTest, ATemporaryFolderInUseIsRefused) {
   AddPhotograph("a");
   const auto place = folder.Path() / "place/VANTORIUM_TEMP";
   std::filesystem::create_directories(place);
@@ -254,12 +254,12 @@ TEST_F(CreateGalleryTest, ATemporaryFolderThatAnotherRunUsesIsLeftToIt) {
     }
     EXPECT_TRUE(std::filesystem::is_empty(place));
     host.order->Mode = GenerationMode::Create;
-    EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success) << "it makes nothing there";
+    EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Success) << "this run needs no temporary folder";
   }
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
 }
 
-TEST_F(CreateGalleryTest, ARunGivesTheTemporaryFolderBackAtItsEnd) {
+TEST_F(CreateGalleryTest, ARunReleasesTheTemporaryFolderAtItsEnd) {
   AddPhotograph("a");
   EXPECT_EQ(Create(GenerationMode::Preview), RunEnd::Success);
   EXPECT_FALSE(env::TempFolderLock(folder.Path() / "place/VANTORIUM_TEMP").IsTakenElsewhere());
@@ -276,7 +276,7 @@ TEST_F(CreateGalleryTest, ALinkInTheTemporaryFolderIsRefused) {
   EXPECT_TRUE(std::filesystem::is_empty(folder.Path() / "stranger"));
 }
 
-TEST_F(CreateGalleryTest, ACancelOfAnEarlierRunIsForgotten) {
+TEST_F(CreateGalleryTest, ACancelDoesNotAffectTheNextRun) {
   AddPhotograph("a");
   CancelInTurn(2);
   EXPECT_EQ(Create(GenerationMode::Create), RunEnd::Cancelled);
@@ -290,7 +290,7 @@ TEST_F(CreateGalleryTest, AnEmptyListIsNotPublished) {
   GenerationMode mode = GenerationMode::Create;
   GalleryCreator creator(project, preferences, "T:\\program", environment);
   EXPECT_EQ(creator.CreateGallery(mode, 0), RunEnd::NotStarted);
-  EXPECT_EQ(mode, GenerationMode::Publish) << "the mode is written back";
+  EXPECT_EQ(mode, GenerationMode::Publish) << "the mode is returned";
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].text, "You cannot upload a Gallery without Images.");
 }

@@ -28,16 +28,16 @@ TEST_F(DirectLinks, ZeroListsEveryPage) {
   EXPECT_EQ(Short("0", 3, 3), "[1] [2] 3");
 }
 
-TEST_F(DirectLinks, OnePageIsItsNumber) {
+TEST_F(DirectLinks, OneLinkIsThePageItself) {
   for (const core::Digits most : {"0", "1", "2", "5"}) EXPECT_EQ(Short(most, 1, 1), "1") << most;
 }
 
-TEST_F(DirectLinks, AnEvenNumberHasOneMoreLinkAfterThePage) {
+TEST_F(DirectLinks, AnEvenNumberOfLinksHasOneMoreAfterThePage) {
   EXPECT_EQ(Short("4", 5, 20), "~3 [4] 5 [6] [7] ~8");
   EXPECT_EQ(Short("2", 5, 20), "~4 5 [6] ~7");
 }
 
-TEST_F(DirectLinks, AnOddNumberIsCenteredOnThePage) {
+TEST_F(DirectLinks, AnOddNumberOfLinksIsCenteredOnThePage) {
   EXPECT_EQ(Short("5", 10, 20), "~7 [8] [9] 10 [11] [12] ~13");
   EXPECT_EQ(Short("1", 5, 20), "~4 5 ~6");
 }
@@ -53,7 +53,7 @@ TEST_F(DirectLinks, AtTheEndTheRangeGrowsToTheLeft) {
   EXPECT_EQ(Short("4", 19, 20), "~16 [17] [18] 19 [20]");
 }
 
-TEST_F(DirectLinks, ANumberAboveThePagesListsThemAll) {
+TEST_F(DirectLinks, ANumberAboveThePageCountListsAllPages) {
   EXPECT_EQ(Short("9", 2, 3), "[1] 2 [3]");
   EXPECT_EQ(Short("2147483647", 2, 3), "[1] 2 [3]");
   EXPECT_EQ(Short("3", 2, 3), "[1] 2 [3]");
@@ -72,7 +72,7 @@ TEST_F(DirectLinks, LinksUseTheProjectsNames) {
   EXPECT_EQ(generation::BuildDirectLinks(run, 2), R"(<A HREF="p1.html">...</A> 2 <A HREF="p3.html">...</A>)");
 }
 
-TEST_F(DirectLinks, TheCheckBoxIsNotLookedAt) {
+TEST_F(DirectLinks, TheCheckBoxIsIgnored) {
   project.checkPageLinksThumbnailDirectLinks = 0;
   EXPECT_EQ(Short("0", 1, 2), "1 [2]");
 }

@@ -19,7 +19,7 @@ TEST_F(GenerateGalleryTest, ACreateRunWritesPagesImagesAndThumbnails) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(GenerateGalleryTest, ThePhasesAnnounceThemselvesInTheirOrder) {
+TEST_F(GenerateGalleryTest, PhasesAreAnnouncedInOrder) {
   AddPhotograph("a");
   AddPhotograph("b");
   folder.Write("project/back.gif", "GIF");
@@ -46,7 +46,7 @@ TEST_F(GenerateGalleryTest, ThePhasesAnnounceThemselvesInTheirOrder) {
   EXPECT_EQ(host.progress.texts2, inWindow);
 }
 
-TEST_F(GenerateGalleryTest, TheWindowIsSetUpBeforeTheFirstPhaseAndGivenUpAtTheEnd) {
+TEST_F(GenerateGalleryTest, TheWindowIsSetUpBeforeTheFirstPhaseAndUnloadedAtTheEnd) {
   AddPhotograph("a");
   Run(OrderToCreate());
   EXPECT_EQ(journal,
@@ -82,7 +82,7 @@ struct MaximumCase {
   std::int32_t stepsPerImage;
 };
 
-TEST_F(GenerateGalleryTest, TheMaximumCountsAStepForEachThingDoneToAnImageAndOneForLooking) {
+TEST_F(GenerateGalleryTest, TheMaximumCountsTheStepsOfEachImageAndOneForItsCollection) {
   AddPhotograph("a");
   AddPhotograph("b");
   for (const MaximumCase& c : {MaximumCase{GenerationMode::Create, true, true, true, 1, 5},
@@ -105,7 +105,7 @@ TEST_F(GenerateGalleryTest, TheMaximumCountsAStepForEachThingDoneToAnImageAndOne
   }
 }
 
-TEST_F(GenerateGalleryTest, TheBarNeverRunsPastItsMaximumAndArrivesByItself) {
+TEST_F(GenerateGalleryTest, TheBarReachesItsMaximumStepByStepAndNeverExceedsIt) {
   for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
   project.settings.textThumbnailsTableRows = "1";
   project.settings.textThumbnailsTableColumns = "2";
@@ -113,10 +113,10 @@ TEST_F(GenerateGalleryTest, TheBarNeverRunsPastItsMaximumAndArrivesByItself) {
   const auto& values = host.progress.values;
   ASSERT_GE(values.size(), 2U);
   EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
-  EXPECT_EQ(values[values.size() - 2], host.progress.maximum) << "the last page brings the bar to its end";
+  EXPECT_EQ(values[values.size() - 2], host.progress.maximum) << "the last page completes the bar";
 }
 
-TEST_F(GenerateGalleryTest, TheCollectionShowsItsCountEveryHundredImages) {
+TEST_F(GenerateGalleryTest, TheCollectionShowsTheCountEveryHundredImages) {
   for (int i = 0; i < 250; ++i) AddEntry("i" + std::to_string(i), "T:\\photos\\none.jpg");
   project.settings.checkImageWrapperUse = 0;
   Run(OrderToPreview());
@@ -129,7 +129,7 @@ TEST_F(GenerateGalleryTest, TheCollectionShowsItsCountEveryHundredImages) {
                    "Collecting Image Information (200 out of 250)...", "Collecting Image Information (complete)..."}));
 }
 
-TEST_F(GenerateGalleryTest, WithoutPagesNothingRunsAfterTheLinkGraphics) {
+TEST_F(GenerateGalleryTest, WithoutPagesLinkGraphicsAreTheLastPhase) {
   AddPhotograph("a");
   RunOrder order = OrderToCreate();
   order.CreateHTML = false;
@@ -138,14 +138,14 @@ TEST_F(GenerateGalleryTest, WithoutPagesNothingRunsAfterTheLinkGraphics) {
   EXPECT_EQ(host.statuses.back(), "Copying Page Link Image Files...");
 }
 
-TEST_F(GenerateGalleryTest, WithoutWrappersNoWrapperPageIsWritten) {
+TEST_F(GenerateGalleryTest, WithoutWrapperPagesNoneIsWritten) {
   AddPhotograph("a");
   project.settings.checkImageWrapperUse = 0;
   Run(OrderToCreate());
   EXPECT_EQ(FilesIn("out").count("a.htm"), 0U);
 }
 
-TEST_F(GenerateGalleryTest, APreviewWritesPagesThatPointAtTheSourceFiles) {
+TEST_F(GenerateGalleryTest, APreviewWritesPagesThatLinkToTheSources) {
   AddPhotograph("a");
   EXPECT_EQ(Run(OrderToPreview()), RunEnd::Success);
   EXPECT_EQ(FilesIn("temp"), (Names{"index.htm", "thumbpage_1.htm", "a.htm"}));
@@ -153,7 +153,7 @@ TEST_F(GenerateGalleryTest, APreviewWritesPagesThatPointAtTheSourceFiles) {
   EXPECT_NE(folder.Read("temp/a.htm").find("<IMG SRC=\"" + address + "\""), std::string::npos);
 }
 
-TEST_F(GenerateGalleryTest, APreviewKeepsItsBackdropsInImagesWhateverTheProjectSays) {
+TEST_F(GenerateGalleryTest, APreviewKeepsBackdropsInImagesWhateverTheSettings) {
   AddPhotograph("a");
   folder.Write("project/back.gif", "GIF");
   project.settings.textImageSettingsSubFolder = "Pictures";
@@ -162,7 +162,7 @@ TEST_F(GenerateGalleryTest, APreviewKeepsItsBackdropsInImagesWhateverTheProjectS
   EXPECT_EQ(FilesIn("temp").count("images/_backdrop_thumbpage.gif"), 1U);
 }
 
-TEST_F(GenerateGalleryTest, SizesInPercentAreForcedOff) {
+TEST_F(GenerateGalleryTest, SizesInPercentAreTurnedOff) {
   AddPhotograph("a");
   project.settings.checkImageWrapperImageSizesInPercent = 1;
   Run(OrderToCreate());
@@ -171,14 +171,14 @@ TEST_F(GenerateGalleryTest, SizesInPercentAreForcedOff) {
   EXPECT_NE(folder.Read("out/a.htm").find(" HEIGHT=\"300\""), std::string::npos);
 }
 
-TEST_F(GenerateGalleryTest, TheCreationTimeIsTheClocks) {
+TEST_F(GenerateGalleryTest, TheCreationTimeIsThatOfTheClock) {
   AddPhotograph("a");
   project.settings.GalleryHeadCode = "<VANTORIUM_GALLERY_CREATIONDATE_SHORT>";
   Run(OrderToCreate());
   EXPECT_NE(folder.Read("out/index.htm").find("3/4/26"), std::string::npos) << folder.Read("out/index.htm");
 }
 
-TEST_F(GenerateGalleryTest, AnImagesSubfolderOfSeveralLevelsIsMadeAndLinked) {
+TEST_F(GenerateGalleryTest, AnImagesSubfolderWithSeveralLevelsIsCreatedAndLinked) {
   AddPhotograph("a");
   project.settings.textImageSettingsSubFolder = "Images\\Big";
   Run(OrderToCreate());
@@ -194,7 +194,7 @@ TEST_F(GenerateGalleryTest, WithoutAnImagesSubfolderTheFilesAreInTheOutputFolder
   EXPECT_NE(folder.Read("out/a.htm").find("<IMG SRC=\"/a.jpg\""), std::string::npos);
 }
 
-TEST_F(GenerateGalleryTest, AnEmptyPagePrefixNamesThePagesByNumberAlone) {
+TEST_F(GenerateGalleryTest, WithAnEmptyPrefixPagesAreNamedByNumberAlone) {
   AddPhotograph("a");
   project.settings.textThumbnailPageSettingsFilePrefix = "";
   Run(OrderToCreate());
@@ -203,7 +203,7 @@ TEST_F(GenerateGalleryTest, AnEmptyPagePrefixNamesThePagesByNumberAlone) {
 
 // The three ways a run ends
 
-TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
+TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyCompleteFiles) {
   for (const char* name : {"a", "b"}) AddPhotograph(name);
   Run(OrderToCreate());
   const int turns = loop.turns;
@@ -232,7 +232,7 @@ TEST_F(GenerateGalleryTest, ACancelInAnyTurnEndsTheRunAndLeavesOnlyWholeFiles) {
   }
 }
 
-TEST_F(GenerateGalleryTest, ACancelThatIsTakenBackLetsTheRunGoOn) {
+TEST_F(GenerateGalleryTest, ACancelThatIsNotConfirmedLetsTheRunContinue) {
   AddPhotograph("a");
   boxes.answers = {env::BoxAnswer::No};
   CancelInTurn(3);
@@ -262,7 +262,7 @@ TEST_F(GenerateGalleryTest, AFailureKeepsTheWindowUntilTheUserClosesIt) {
   EXPECT_EQ(boxes.boxes[0].text, "Unable to copy the File \"T:\\photos\\gone.jpg\".");
 }
 
-TEST_F(GenerateGalleryTest, TheLogOfAFailedRunIsWrittenAndTheBoxEmptied) {
+TEST_F(GenerateGalleryTest, TheLogOfAFailedRunIsWrittenAndTheLogBoxEmptied) {
   AddEntry("gone", "T:\\photos\\gone.jpg");
   loop.onTurn = [this](int turn) {
     if (turn == 2) host.openWindow->SetText3("said before the end", true);
@@ -284,7 +284,7 @@ TEST_F(GenerateGalleryTest, AnUnexpectedFailureIsReportedWithItsDescriptionAndNu
             "An Error has occurred during Creation of this Gallery:\r\rDivision by zero\r\rError #11");
 }
 
-TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsReportedWithTheReason) {
+TEST_F(GenerateGalleryTest, AFolderOnAMissingDriveIsReportedWithTheReason) {
   AddPhotograph("a");
   RunOrder order = OrderToCreate();
   order.OutputFolder = "Q:\\";
@@ -294,7 +294,7 @@ TEST_F(GenerateGalleryTest, AFolderOnADriveThatIsNotThereIsReportedWithTheReason
             "An Error has occurred during Creation of this Gallery:\r\rQ:\\Images\\a.jpg: No such device\r\rError #75");
 }
 
-TEST_F(GenerateGalleryTest, WhatWasWrittenBeforeAFailureStays) {
+TEST_F(GenerateGalleryTest, FilesWrittenBeforeAFailureStay) {
   AddPhotograph("a");
   AddEntry("gone", "T:\\photos\\gone.jpg");
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
@@ -303,7 +303,7 @@ TEST_F(GenerateGalleryTest, WhatWasWrittenBeforeAFailureStays) {
 
 // Names that would lead outside the gallery
 
-TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsLikeAFileThatCannotBeWritten) {
+TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsLikeAnUnwritableFile) {
   for (const char* name : {"..\\evil", "../evil", "sub/evil", "sub\\evil", "C:evil", "/evil"}) {
     project.images.Clear();
     boxes.boxes.clear();
@@ -318,7 +318,7 @@ TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsLikeAFileThatCannot
   EXPECT_EQ(FilesIn("."), (Names{"photos/x.jpg"}));
 }
 
-TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsForItsThumbnailAndItsPageToo) {
+TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderAlsoFailsForThumbnailAndPage) {
   folder.Write("photos/x.jpg", PlainJpeg(8, 8));
   AddEntry("../evil", "T:\\photos\\x.jpg");
   RunOrder order = OrderToCreate();
@@ -335,7 +335,7 @@ TEST_F(GenerateGalleryTest, AListTextThatLeavesTheFolderFailsForItsThumbnailAndI
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "evil.htm"));
 }
 
-TEST_F(GenerateGalleryTest, ASubfolderThatLeavesTheGalleryIsNotMade) {
+TEST_F(GenerateGalleryTest, ASubfolderThatLeavesTheGalleryIsNotCreated) {
   AddPhotograph("a");
   for (const char* subfolder : {"..\\Images", "a/../../Images", "C:\\Images"}) {
     project.settings.textImageSettingsSubFolder = subfolder;

@@ -23,10 +23,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// All pages that a run makes for a gallery, by file name.
+/// All pages of a gallery, by file name.
 using Pages = std::map<std::string, std::string>;
 
-/// A project with default settings, 3 images and 2 images on a page, then changed by `set`.
+/// A project with default settings, 3 images and 2 images per page, changed by `set`.
 struct Gallery {
   std::string name;
   std::function<void(core::GalleryProject&)> set;
@@ -155,7 +155,7 @@ void AddTexts(std::vector<Gallery>& galleries) {
                          project.ThumbnailHeader = EveryTag();
                          project.ImageHeader = EveryTag();
                        }});
-  galleries.push_back({"letters_beyond_ascii", [](core::GalleryProject& project) {
+  galleries.push_back({"non_ascii_letters", [](core::GalleryProject& project) {
                          project.textGalleryTitle = "Z\xC3\xBCrich";
                          project.ImageHeader = "\xE2\x82\xAC";
                        }});
@@ -170,7 +170,7 @@ void AddSlideShows(std::vector<Gallery>& galleries) {
     galleries.push_back({"slide_show_after_image_" + std::to_string(afterImage),
                          [=](core::GalleryProject& project) { SetSlideShow(project, 0, afterImage, 1); }});
   }
-  galleries.push_back({"slide_show_by_hand", [](core::GalleryProject& project) {
+  galleries.push_back({"slide_show_without_auto_start", [](core::GalleryProject& project) {
                          SetSlideShow(project, 0, 0, 1);
                          project.checkGallerySlideShowAutoStart = 0;
                        }});
@@ -183,7 +183,7 @@ void AddSlideShows(std::vector<Gallery>& galleries) {
 void AddLinks(std::vector<Gallery>& galleries) {
   galleries.push_back({"links_with_graphics", [](core::GalleryProject& project) { SetGraphics(project, true); }, 5});
   galleries.push_back(
-      {"links_of_graphics_alone", [](core::GalleryProject& project) { SetGraphics(project, false); }, 5});
+      {"links_with_graphics_only", [](core::GalleryProject& project) { SetGraphics(project, false); }, 5});
   galleries.push_back({"direct_links",
                        [](core::GalleryProject& project) {
                          project.checkPageLinksThumbnailDirectLinks = 1;
@@ -211,7 +211,7 @@ void AddLooks(std::vector<Gallery>& galleries) {
                          project.comboThumbnailsTableAlignment = 0;
                          project.checkImageWrapperImageKeepAspectRatio = 0;
                        }});
-  galleries.push_back({"names_of_its_own", [](core::GalleryProject& project) {
+  galleries.push_back({"custom_names", [](core::GalleryProject& project) {
                          project.textThumbnailImageSettingsFilePrefix = "";
                          project.textThumbnailPageSettingsFilePrefix = "";
                          project.comboThumbnailPageSettingsFileExtension = ".shtml";
@@ -245,7 +245,7 @@ fs::path GoldenFolder() {
   return fakes::SourceFolder() / "tests" / "golden";
 }
 
-/// With VANTORIUM_REMAKE_GOLDEN=1 the golden files are rewritten instead of compared: review every difference.
+/// With VANTORIUM_REMAKE_GOLDEN=1, rewrites the golden files instead of comparing: review every difference.
 bool RemakesGolden() {
   const char* value = std::getenv("VANTORIUM_REMAKE_GOLDEN");
   return value != nullptr && std::string_view(value) == "1";
@@ -299,7 +299,7 @@ class GoldenGallery : public PageTest, public ::testing::WithParamInterface<Gall
   }
 };
 
-TEST_P(GoldenGallery, ComesOutByteForByte) {
+TEST_P(GoldenGallery, EqualsTheGoldenFiles) {
   const Pages built = Build();
   const fs::path folder = GoldenFolder() / GetParam().name;
   if (RemakesGolden()) WritePages(folder, built);
@@ -314,7 +314,7 @@ TEST_P(GoldenGallery, ComesOutByteForByte) {
 INSTANTIATE_TEST_SUITE_P(All, GoldenGallery, ::testing::ValuesIn(Galleries()),
                          [](const auto& info) { return info.param.name; });
 
-TEST(GoldenGalleries, NoFolderIsLeftOver) {
+TEST(GoldenGalleries, EveryFolderBelongsToAGallery) {
   std::set<std::string> names;
   for (const Gallery& gallery : Galleries()) names.insert(gallery.name);
   for (const auto& entry : fs::directory_iterator(GoldenFolder())) {

@@ -19,7 +19,7 @@ class IndexPage : public PageTest {
   std::string Frameset() const { return LineOf("<FRAMESET"); }
 };
 
-TEST_F(IndexPage, OfASingleFrameIsAFramesetWithOneFrame) {
+TEST_F(IndexPage, WithASingleFrameIsAFramesetWithOneFrame) {
   EXPECT_EQ(generation::BuildIndexPage(run),
             Lines({"<HTML>", "", "<HEAD>", "<TITLE>Holidays</TITLE>",
                    R"(<META NAME="GENERATOR" CONTENT="Vantorium Image Gallery Creator 3.0">)",
@@ -29,13 +29,13 @@ TEST_F(IndexPage, OfASingleFrameIsAFramesetWithOneFrame) {
                    "</HTML>"}));
 }
 
-TEST_F(IndexPage, AFrameIsAsWideAsItsFieldHolds) {
+TEST_F(IndexPage, AFrameMayBeAsWideAsItsFieldAllows) {
   project.comboGalleryLayoutType = 1;
   project.ThumbnailFrameSize = 99999;
   EXPECT_EQ(Frameset(), R"(<FRAMESET COLS="99999,*" BORDER="0" >)");
 }
 
-TEST_F(IndexPage, OfTwoFramesHasThemInOrder) {
+TEST_F(IndexPage, WithTwoFramesHasThemInOrder) {
   project.comboGalleryLayoutType = 1;
   EXPECT_EQ(
       generation::BuildIndexPage(run),
@@ -61,7 +61,7 @@ const LayoutCase kLayouts[] = {
     {4, R"(ROWS="*,150")", R"(ROWS="80,*")", true},
 };
 
-TEST_F(IndexPage, LayoutAndPriorityDecideOrderAndSizes) {
+TEST_F(IndexPage, LayoutAndPrioritySetOrderAndSizes) {
   project.ThumbnailFrameSize = 150;
   project.ImageFrameSize = 80;
   for (const LayoutCase& each : kLayouts) {
@@ -76,7 +76,7 @@ TEST_F(IndexPage, LayoutAndPriorityDecideOrderAndSizes) {
   }
 }
 
-TEST_F(IndexPage, SizesInPercentBearTheSign) {
+TEST_F(IndexPage, SizesInPercentHaveAPercentSign) {
   project.comboGalleryLayoutType = 2;
   project.comboGalleryFrameSizingPriority = 1;
   project.ImageFrameSize = 80;
@@ -84,7 +84,7 @@ TEST_F(IndexPage, SizesInPercentBearTheSign) {
   EXPECT_EQ(Frameset(), R"(<FRAMESET COLS="80%,*" BORDER="0" >)");
 }
 
-TEST_F(IndexPage, BordersAndResizingLeaveTheirBlanks) {
+TEST_F(IndexPage, OmittedAttributesLeaveTheirBlanks) {
   project.comboGalleryLayoutType = 1;
   const std::string start = R"(<FRAME NAME="image_frame" SRC="img1.htm" )";
   project.checkGalleryFramesDisplayBorders = 1;
@@ -96,7 +96,7 @@ TEST_F(IndexPage, BordersAndResizingLeaveTheirBlanks) {
   EXPECT_EQ(LineOf(start), start + R"( FRAMEBORDER="0" >)");
 }
 
-TEST_F(IndexPage, TheImageFrameBeginsWithTheFirstImage) {
+TEST_F(IndexPage, TheImageFrameShowsTheFirstImage) {
   project.comboGalleryLayoutType = 1;
   const std::string start = R"(<FRAME NAME="image_frame" SRC=")";
   EXPECT_TRUE(LineOf(start).starts_with(start + "img1.htm\""));
@@ -122,7 +122,7 @@ TEST_F(IndexPage, ASlideShowMayBeginWithTheFirstImageEvenWithoutWrapperPages) {
   EXPECT_TRUE(LineOf(start).starts_with(start + "thumbpage_1.htm\""));
 }
 
-TEST_F(IndexPage, ASlideShowDoesNotTouchTwoFrames) {
+TEST_F(IndexPage, ASlideShowDoesNotChangeTwoFrames) {
   project.comboGalleryLayoutType = 3;
   const std::string without = generation::BuildIndexPage(run);
   project.checkGallerySlideShow = 1;
@@ -130,7 +130,7 @@ TEST_F(IndexPage, ASlideShowDoesNotTouchTwoFrames) {
   EXPECT_EQ(generation::BuildIndexPage(run), without);
 }
 
-TEST_F(IndexPage, HeadCodeIsExpandedWithoutImageAndPage) {
+TEST_F(IndexPage, HeadCodeIsExpandedWithoutImageOrPage) {
   project.GalleryHeadCode =
       "<VANTORIUM_GALLERY_TITLE> <VANTORIUM_IMAGE_COUNT> <VANTORIUM_IMAGE_INDEX> <VANTORIUM_THUMBPAGE_INDEX> "
       "<VANTORIUM_IMAGE_DESCRIPTION>";
@@ -139,12 +139,12 @@ TEST_F(IndexPage, HeadCodeIsExpandedWithoutImageAndPage) {
                        "<VANTORIUM_IMAGE_DESCRIPTION>\r\n"));
 }
 
-TEST_F(IndexPage, TextsAreNeitherEscapedNorExpandedInTheTitle) {
+TEST_F(IndexPage, TheTitleIsNeitherEscapedNorExpanded) {
   project.textGalleryTitle = "A & B <VANTORIUM_IMAGE_COUNT> {}";
   EXPECT_EQ(LineOf("<TITLE>"), "<TITLE>A & B <VANTORIUM_IMAGE_COUNT> {}</TITLE>");
 }
 
-TEST_F(IndexPage, WithoutImagesTheFirstOneIsAFailureOnlyWhereItIsNamed) {
+TEST_F(IndexPage, WithoutImagesOnlyAReferenceToTheFirstIsAFailure) {
   images.Clear();
   EXPECT_NO_THROW((void)generation::BuildIndexPage(run));
   project.comboGalleryLayoutType = 1;

@@ -28,23 +28,23 @@ TEST_F(LinkBars, TheThumbnailBarHasFourTextLinks) {
                 "&nbsp;" + A("thumbpage_3.htm") + "NEXT</A>" + "&nbsp;" + A("thumbpage_3.htm") + "LAST</A>");
 }
 
-TEST_F(LinkBars, AtTheFirstPageTheTextsStayWithoutTheirAnchors) {
+TEST_F(LinkBars, OnTheFirstPageFirstAndPreviousHaveNoAnchors) {
   EXPECT_EQ(generation::BuildThumbnailPageBar(run, 1), "FIRST</A>&nbsp;BACK</A>&nbsp;&nbsp;" + A("thumbpage_2.htm") +
                                                            "NEXT</A>&nbsp;" + A("thumbpage_3.htm") + "LAST</A>");
 }
 
-TEST_F(LinkBars, AtTheLastPageTheTextsStayWithoutTheirAnchors) {
+TEST_F(LinkBars, OnTheLastPageNextAndLastHaveNoAnchors) {
   EXPECT_EQ(generation::BuildThumbnailPageBar(run, 3), A("thumbpage_1.htm") + "FIRST</A>&nbsp;" + A("thumbpage_2.htm") +
                                                            "BACK</A>&nbsp;&nbsp;NEXT</A>&nbsp;LAST</A>");
 }
 
-TEST_F(LinkBars, DirectLinksAreInTheMiddleWhenTheyAreWanted) {
+TEST_F(LinkBars, DirectLinksAreInTheMiddleIfTurnedOn) {
   EXPECT_FALSE(Contains(generation::BuildThumbnailPageBar(run, 1), "(direct)"));
   project.checkPageLinksThumbnailDirectLinks = 1;
   EXPECT_TRUE(Contains(generation::BuildThumbnailPageBar(run, 1), "BACK</A>&nbsp;(direct)&nbsp;<A"));
 }
 
-TEST_F(LinkBars, OnePageAndOneImageHaveNoBar) {
+TEST_F(LinkBars, ASinglePageOrImageHasNoBar) {
   run.ThumbnailPageCount = 1;
   run.ImageCount = 1;
   project.checkPageLinksThumbnailDirectLinks = 1;
@@ -52,7 +52,7 @@ TEST_F(LinkBars, OnePageAndOneImageHaveNoBar) {
   EXPECT_EQ(generation::BuildImagePageBar(run, 1), "");
 }
 
-TEST_F(LinkBars, GraphicsPrecedeTheTextOnTheLeftAndFollowItOnTheRight) {
+TEST_F(LinkBars, GraphicsAreBeforeTheTextOnTheLeftAndAfterItOnTheRight) {
   project.ThumbnailFirstLink = {"F", "a.gif", "a0.gif"};
   project.ThumbnailPreviousLink = {"P", "a.png", "a0.png"};
   project.ThumbnailNextLink = {"N", "a.jpg", "a0.jpg"};
@@ -68,7 +68,7 @@ TEST_F(LinkBars, GraphicsPrecedeTheTextOnTheLeftAndFollowItOnTheRight) {
       "</A>&nbsp;P</A>&nbsp;"));
 }
 
-TEST_F(LinkBars, AGraphicWithoutALabelIsAlone) {
+TEST_F(LinkBars, AGraphicMayHaveNoLabel) {
   project.ThumbnailFirstLink = {"", "a.gif", ""};
   project.ThumbnailPreviousLink = {"", "a.gif", ""};
   project.ThumbnailNextLink = {"", "a.gif", ""};
@@ -80,7 +80,7 @@ TEST_F(LinkBars, AGraphicWithoutALabelIsAlone) {
                                                            A("thumbpage_3.htm") + G("_thumblink_last.gif") + "</A>");
 }
 
-TEST_F(LinkBars, ALinkWithNeitherFormLeavesAnEmptyAnchor) {
+TEST_F(LinkBars, ALinkWithoutLabelAndGraphicIsAnEmptyAnchor) {
   project.ThumbnailFirstLink = {};
   project.ThumbnailLastLink = {};
   const std::string bar = generation::BuildThumbnailPageBar(run, 2);
@@ -94,13 +94,13 @@ TEST_F(LinkBars, TheImageBarHasTheIndexInTheMiddle) {
                 "INDEX</A>" + "&nbsp;" + A("img3.htm") + "NEXT</A>" + "&nbsp;" + A("img3.htm") + "LAST</A>");
 }
 
-TEST_F(LinkBars, TheImageBarAtItsEndsKeepsTheTexts) {
+TEST_F(LinkBars, TheImageBarKeepsItsTextsAtBothEnds) {
   EXPECT_TRUE(
       generation::BuildImagePageBar(run, 1).starts_with("FIRST</A>&nbsp;BACK</A>&nbsp;" + A("thumbpage_1.htm#img1")));
   EXPECT_TRUE(generation::BuildImagePageBar(run, 3).ends_with("INDEX</A>&nbsp;NEXT</A>&nbsp;LAST</A>"));
 }
 
-TEST_F(LinkBars, LayoutsWithTwoFramesHaveNoIndex) {
+TEST_F(LinkBars, LayoutsWithTwoFramesHaveNoIndexLink) {
   for (core::Choice layout = 1; layout <= 4; ++layout) {
     project.comboGalleryLayoutType = layout;
     EXPECT_EQ(generation::BuildImagePageBar(run, 2), A("img1.htm") + "FIRST</A>&nbsp;" + A("img1.htm") +
@@ -120,7 +120,7 @@ TEST_F(LinkBars, TheGraphicOfTheIndexIsOnEitherSideOfItsText) {
   EXPECT_TRUE(Contains(generation::BuildImagePageBar(run, 2), "BACK</A>&nbsp;" + graphic + "&nbsp;&nbsp;<A"));
 }
 
-TEST_F(LinkBars, TheTextOfANextImageWithAGraphicDependsOnTheLabelOfPrevious) {
+TEST_F(LinkBars, TheTextOfNextWithAGraphicDependsOnTheLabelOfPrevious) {
   const std::string graphic = A("img3.htm") + G("_imagelink_next.gif") + "</A>";
   const std::string last = "&nbsp;" + A("img3.htm") + "LAST</A>";
   project.ImageNextLink = {"NEXT", "n.gif", ""};
@@ -134,7 +134,7 @@ TEST_F(LinkBars, TheTextOfANextImageWithAGraphicDependsOnTheLabelOfPrevious) {
   EXPECT_TRUE(generation::BuildImagePageBar(run, 2).ends_with("INDEX</A>&nbsp;" + graphic + last));
 }
 
-TEST_F(LinkBars, TheLastImageAndTheThumbnailBarLookAtTheirOwnLabels) {
+TEST_F(LinkBars, LastAndTheThumbnailBarUseTheirOwnLabels) {
   project.ImagePreviousLink.textLinkLabel = "";
   project.ImageLastLink = {"LAST", "l.gif", ""};
   EXPECT_TRUE(generation::BuildImagePageBar(run, 2).ends_with("&nbsp;" + A("img3.htm") + "LAST</A>&nbsp;" +

@@ -18,7 +18,7 @@ TEST(LinkHazards, OrdinaryNamesWorkEverywhere) {
   }
 }
 
-TEST(LinkHazards, CharactersThatEndALinkOrAreCodesFailEverywhere) {
+TEST(LinkHazards, CharactersThatEndOrEncodeALinkFailEverywhere) {
   const std::pair<const char*, const char*> cases[] = {
       {"a\"b.jpg", "a quotation mark ends a link"},
       {"a#1.jpg", "in a link, what follows \"#\" is a place in a page"},
@@ -37,7 +37,7 @@ TEST(LinkHazards, CharactersThatEndALinkOrAreCodesFailEverywhere) {
   }
 }
 
-TEST(LinkHazards, WhatReadsLikeACharacterReferenceFails) {
+TEST(LinkHazards, CharacterReferencesFail) {
   for (const char* name : {"a&copy.jpg", "&lt", "a&amp;b.jpg", "x&Aacute-y", "&frac12.jpg", "&&yuml.", "a&b&gt b"}) {
     for (const LinkStart start : kEverywhere) {
       EXPECT_NE(WhyLinkFails(name, start).find("stands for another character"), std::string::npos) << name;
@@ -47,21 +47,21 @@ TEST(LinkHazards, WhatReadsLikeACharacterReferenceFails) {
   EXPECT_EQ(WhyLinkFails("a&zcaron;.jpg", LinkStart::Folder), "in a page, \"&zcaron;\" stands for another character");
 }
 
-TEST(LinkHazards, AnAmpersandThatBeginsNoCharacterReferenceWorks) {
+TEST(LinkHazards, AnAmpersandWithoutACharacterReferenceWorks) {
   for (const char* name : {"R&D.jpg", "Tom & Jerry.jpg", "a&", "&", "&;", "a&copy=b", "a&copyright.jpg", "a&copy1.jpg",
                            "&AMPS.jpg", "&Lt.jpg", "&zcaron.jpg"}) {
     for (const LinkStart start : kEverywhere) EXPECT_EQ(WhyLinkFails(name, start), "") << name;
   }
 }
 
-TEST(LinkHazards, ABlankAtTheBeginningFailsWhereTheNameBeginsTheLink) {
+TEST(LinkHazards, ALeadingBlankFailsIfTheNameBeginsTheLink) {
   for (const char* name : {" a.htm", "\x1F.htm"}) {
     EXPECT_EQ(WhyLinkFails(name, LinkStart::Folder), "") << name;
     EXPECT_EQ(WhyLinkFails(name, LinkStart::Name), "a blank at its beginning is left out of a link") << name;
   }
 }
 
-TEST(LinkHazards, WhatReadsLikeAProtocolFailsWhereTheNameBeginsTheLink) {
+TEST(LinkHazards, ALeadingProtocolFailsIfTheNameBeginsTheLink) {
   for (const char* name : {"Evening:1.htm", "a+b-c.d:", "x1:y"}) {
     EXPECT_EQ(WhyLinkFails(name, LinkStart::Folder), "") << name;
     EXPECT_EQ(WhyLinkFails(name, LinkStart::Name), "in a link, what precedes \":\" is a protocol") << name;
@@ -71,7 +71,7 @@ TEST(LinkHazards, WhatReadsLikeAProtocolFailsWhereTheNameBeginsTheLink) {
   }
 }
 
-TEST(LinkHazards, AnApostropheFailsOnlyAtTheBeginningOfARefresh) {
+TEST(LinkHazards, AnApostropheFailsOnlyAtTheStartOfARefresh) {
   EXPECT_EQ(WhyLinkFails("'a.htm", LinkStart::Folder), "");
   EXPECT_EQ(WhyLinkFails("'a.htm", LinkStart::Name), "");
   EXPECT_EQ(WhyLinkFails("'a.htm", LinkStart::NameInRefresh), "an apostrophe at its beginning ends a link");

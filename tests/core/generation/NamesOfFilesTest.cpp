@@ -5,7 +5,7 @@
 namespace vantorium::generation {
 namespace {
 
-TEST(NamesOfFiles, FilesOfDifferentNamesOrFoldersShareNothing) {
+TEST(NamesOfFiles, FilesWithDifferentNamesOrFoldersAreNotShared) {
   NamesOfFiles files;
   EXPECT_EQ(files.Add("", "a.jpg").other, std::nullopt);
   EXPECT_EQ(files.Add("", "b.jpg").other, std::nullopt);
@@ -14,7 +14,7 @@ TEST(NamesOfFiles, FilesOfDifferentNamesOrFoldersShareNothing) {
   EXPECT_EQ(files.Add("../", "a.jpg").other, std::nullopt);
 }
 
-TEST(NamesOfFiles, TheSameNameAndOneOfOtherCaseAreShared) {
+TEST(NamesOfFiles, EqualNamesAreSharedEvenIfTheirCaseDiffers) {
   NamesOfFiles files;
   EXPECT_EQ(files.Add("Images/", "\xC3\x84pfel.jpg").own, "Images/\xC3\x84pfel.jpg");
   EXPECT_EQ(files.Add("Images/", "\xC3\x84pfel.jpg").other, "Images/\xC3\x84pfel.jpg");

@@ -19,7 +19,7 @@ class OddPhotographsTest : public RunFixture {
   void Add(const std::string& name, const JpegRecipe& recipe) { Add(name, fakes::MakeJpeg(recipe)); }
 };
 
-/// One of each odd kind that decodes.
+/// One of each odd kind that can be decoded.
 const std::pair<const char*, JpegRecipe> kOddButGood[] = {
     {"grey", {.colors = JpegColors::Grey}},       {"inks", {.colors = JpegColors::CMYK}},
     {"adobe_inks", {.colors = JpegColors::YCCK}}, {"scans", {.width = 300, .height = 200, .progressive = true}},
@@ -28,7 +28,7 @@ const std::pair<const char*, JpegRecipe> kOddButGood[] = {
     {"plain", {.horizontal = 1, .vertical = 1}},
 };
 
-TEST_F(OddPhotographsTest, OddFilesThatAreWholeBecomePicturesOfTheSizeAskedFor) {
+TEST_F(OddPhotographsTest, CompleteOddFilesBecomePicturesOfTheRequestedSize) {
   for (const auto& [name, recipe] : kOddButGood) Add(name, recipe);
   project.settings.checkImageWrapperImageKeepAspectRatio = 0;
   project.settings.textImageWrapperImageWidth = "30";
@@ -45,7 +45,7 @@ TEST_F(OddPhotographsTest, OddFilesThatAreWholeBecomePicturesOfTheSizeAskedFor) 
   }
 }
 
-TEST_F(OddPhotographsTest, AFileThatIsNotWholeEndsTheRunAtItsTurn) {
+TEST_F(OddPhotographsTest, AnIncompleteFileEndsTheRunAtItsTurn) {
   const std::string whole = fakes::MakeJpeg({.width = 64, .height = 64});
   const std::pair<const char*, std::string> bad[] = {{"truncated", whole.substr(0, whole.size() / 2)},
                                                      {"empty", ""},
@@ -67,7 +67,7 @@ TEST_F(OddPhotographsTest, AFileThatIsNotWholeEndsTheRunAtItsTurn) {
   }
 }
 
-TEST_F(OddPhotographsTest, ACancelWhileManyAreUnderWayLeavesWholeFilesOnly) {
+TEST_F(OddPhotographsTest, ACancelWhileManyAreInProgressLeavesOnlyCompleteFiles) {
   for (int i = 0; i < 40; ++i) Add("p" + std::to_string(i), {.width = 400, .height = 300, .progressive = i % 2 == 0});
   CancelInTurn(60);
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Cancelled);

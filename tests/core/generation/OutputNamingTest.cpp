@@ -6,7 +6,7 @@ namespace {
 
 using OutputNaming = PageTest;
 
-TEST_F(OutputNaming, AFileNameIsTheListTextWithTheSourcesExtension) {
+TEST_F(OutputNaming, AFileNameIsTheListTextWithTheExtensionOfTheSource) {
   EXPECT_EQ(generation::BuildFileName("Sunset", "C:\\Photos\\IMG_1.JPG"), "Sunset.JPG");
   EXPECT_EQ(generation::BuildFileName("a.b", "C:\\Photos\\x.y.jpeg"), "a.b.jpeg");
   EXPECT_EQ(generation::BuildFileName("Sunset", "C:\\Photos\\IMG_1"), "Sunset");
@@ -20,13 +20,13 @@ TEST_F(OutputNaming, PagesAreNumberedWithoutPadding) {
   EXPECT_EQ(generation::ThumbnailPageName(project, 2), "2.htm");
 }
 
-TEST_F(OutputNaming, WrapperPagesAndThumbnailsBearTheNameOfTheirImage) {
+TEST_F(OutputNaming, WrapperPagesAndThumbnailsAreNamedAfterTheirImage) {
   AddImage("Sunset");
   EXPECT_EQ(generation::WrapperPageName(project, "Sunset"), "Sunset.htm");
   EXPECT_EQ(generation::ThumbnailFileName(project, run.Info(1)), "thumb_Sunset.JPG");
 }
 
-TEST_F(OutputNaming, AFolderInAddressesHasSlashesAndOneAtItsEnd) {
+TEST_F(OutputNaming, AFolderInAnAddressHasSlashesAndATrailingOne) {
   EXPECT_EQ(generation::UrlFolder("Images"), "Images/");
   EXPECT_EQ(generation::UrlFolder("Images\\Big"), "Images/Big/");
   EXPECT_EQ(generation::UrlFolder("Images\\"), "Images/");
@@ -34,7 +34,7 @@ TEST_F(OutputNaming, AFolderInAddressesHasSlashesAndOneAtItsEnd) {
   EXPECT_EQ(generation::UrlFolder(""), "/");
 }
 
-TEST_F(OutputNaming, AnImageIsFoundInItsFolderAndInAPreviewAtItsSource) {
+TEST_F(OutputNaming, AnImageIsInItsFolderAndInAPreviewAtItsSource) {
   AddImage("Sunset");
   Prepare();
   EXPECT_EQ(generation::ImageUrl(run, 1), "Images/Sunset.JPG");
@@ -46,7 +46,7 @@ TEST_F(OutputNaming, AnImageIsFoundInItsFolderAndInAPreviewAtItsSource) {
   EXPECT_EQ(generation::ImageTarget(run, 1), "file:///home/anna/Photos/Sunset.JPG");
 }
 
-TEST_F(OutputNaming, ASourceThatNoDriveHoldsKeepsItsTextWithSlashes) {
+TEST_F(OutputNaming, ASourceOnAnUnmappedDriveKeepsItsTextWithSlashes) {
   AddImage("Sunset");
   run.RunInfo[0].Path = "Q:\\a b\\x.jpg";
   EXPECT_EQ(generation::SourceUrl(run, 1), "file://Q:/a b/x.jpg");

@@ -13,7 +13,7 @@
 
 namespace vantorium::tests {
 
-/// Joins lines of a page, each ended by CR LF.
+/// Joins the lines of a page, each ended by CR LF.
 inline std::string Lines(std::initializer_list<std::string_view> lines) {
   std::string text;
   for (const std::string_view line : lines) text.append(line).append("\r\n");

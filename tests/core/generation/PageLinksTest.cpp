@@ -21,7 +21,7 @@ class PageLinks : public PageTest {
   }
 };
 
-TEST_F(PageLinks, AnchorsOfImagesLeadToWrapperPages) {
+TEST_F(PageLinks, AnchorsOfImagesLinkToWrapperPages) {
   EXPECT_EQ(Anchor(0, 3, 4), R"(<A HREF="img1.htm">)");
   EXPECT_EQ(Anchor(1, 3, 4), R"(<A HREF="img2.htm">)");
   EXPECT_EQ(Anchor(2, 3, 4), R"(<A HREF="img4.htm">)");
@@ -30,7 +30,7 @@ TEST_F(PageLinks, AnchorsOfImagesLeadToWrapperPages) {
   EXPECT_EQ(Anchor(0, 3, 4), R"(<A HREF="img1.htm">)");
 }
 
-TEST_F(PageLinks, AnchorsOfPagesLeadToThumbnailPages) {
+TEST_F(PageLinks, AnchorsOfPagesLinkToThumbnailPages) {
   EXPECT_EQ(Anchor(5, 3, 9), R"(<A HREF="thumbpage_1.htm">)");
   EXPECT_EQ(Anchor(6, 3, 9), R"(<A HREF="thumbpage_2.htm">)");
   EXPECT_EQ(Anchor(7, 3, 9), R"(<A HREF="thumbpage_4.htm">)");
@@ -46,7 +46,7 @@ TEST_F(PageLinks, AnchorsUseTheProjectsNames) {
   EXPECT_EQ(Anchor(4, 3, 4), R"(<A HREF="2.shtml#img3">)");
 }
 
-TEST_F(PageLinks, AnchorsAreEmptyAtTheirEndOnly) {
+TEST_F(PageLinks, AnchorsAreEmptyOnlyAtTheirEnd) {
   for (const int kind : {0, 1, 5, 6}) {
     EXPECT_EQ(Anchor(kind, 1, 4), "") << kind;
     EXPECT_NE(Anchor(kind, 4, 4), "") << kind;
@@ -65,7 +65,7 @@ TEST_F(PageLinks, WithATotalOfOneOnlyTheIndexHasAnAnchor) {
   EXPECT_EQ(Anchor(4, 1, 1), R"(<A HREF="thumbpage_1.htm#img1">)");
 }
 
-TEST_F(PageLinks, TheIndexLeadsToTheImagesPlaceAtEitherEnd) {
+TEST_F(PageLinks, TheIndexLinksToThePlaceOfTheImageOnItsPage) {
   EXPECT_EQ(Anchor(4, 1, 4), R"(<A HREF="thumbpage_1.htm#img1">)");
   EXPECT_EQ(Anchor(4, 2, 4), R"(<A HREF="thumbpage_1.htm#img2">)");
   EXPECT_EQ(Anchor(4, 4, 4), R"(<A HREF="thumbpage_2.htm#img4">)");
@@ -100,7 +100,7 @@ const GraphicCase kGraphicCases[] = {
      "_thumblink_last_last.end"},
 };
 
-TEST_F(PageLinks, GraphicsOfEachKindHaveTheirNamesAndTheExtensionOfTheirFile) {
+TEST_F(PageLinks, GraphicsOfEachKindHaveTheirNameAndTheExtensionOfTheirFile) {
   const auto tag = [](const std::string& name) {
     return R"(<IMG SRC="Images/)" + name + R"(" BORDER="0" ALIGN="MIDDLE">)";
   };
@@ -120,7 +120,7 @@ TEST_F(PageLinks, AnEmptyDisabledGraphicGivesANameWithoutExtension) {
   EXPECT_EQ(Graphic(0, 1, 4), R"(<IMG SRC="Images/_imagelink_first_first" BORDER="0" ALIGN="MIDDLE">)");
 }
 
-TEST_F(PageLinks, GraphicsLieInTheProjectsFolderInAPreviewToo) {
+TEST_F(PageLinks, GraphicsAreInTheFolderOfTheSettingEvenInAPreview) {
   Prepare(generation::GenerationMode::Preview);
   project.textImageSettingsSubFolder = "Pics\\Big";
   EXPECT_EQ(Graphic(1, 2, 4), R"(<IMG SRC="Pics/Big/_imagelink_previous" BORDER="0" ALIGN="MIDDLE">)");
@@ -130,7 +130,7 @@ TEST_F(PageLinks, GraphicsLieInTheProjectsFolderInAPreviewToo) {
   EXPECT_EQ(Graphic(1, 2, 4), R"(<IMG SRC="/_imagelink_previous" BORDER="0" ALIGN="MIDDLE">)");
 }
 
-TEST_F(PageLinks, AnImagesPageIsItsNumberDividedByThePageSize) {
+TEST_F(PageLinks, ThePageOfAnImageIsItsNumberDividedByThePageSize) {
   SetGrid("5", "5");
   EXPECT_EQ(generation::ThumbnailPageOfImage(project, 1), 1);
   EXPECT_EQ(generation::ThumbnailPageOfImage(project, 25), 1);

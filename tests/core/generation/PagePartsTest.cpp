@@ -6,7 +6,7 @@ namespace {
 
 using PageParts = PageTest;
 
-TEST_F(PageParts, AColorIsRedGreenBlueInSixDigits) {
+TEST_F(PageParts, AColorIsWrittenAsRedGreenBlueInSixDigits) {
   EXPECT_EQ(generation::ColorToHtml(0x000000), "000000");
   EXPECT_EQ(generation::ColorToHtml(0xFFFFFF), "FFFFFF");
   EXPECT_EQ(generation::ColorToHtml(0xA00000), "0000A0");
@@ -15,7 +15,7 @@ TEST_F(PageParts, AColorIsRedGreenBlueInSixDigits) {
   EXPECT_EQ(generation::ColorToHtml(0xFF123456), "563412");
 }
 
-TEST_F(PageParts, ABackdropIsItsCopyInTheImagesFolder) {
+TEST_F(PageParts, ABackdropRefersToItsCopyInTheImagesFolder) {
   const auto attribute = [&](const std::string& path,
                              generation::GenerationMode mode = generation::GenerationMode::Create) {
     project.textImageWrapperBackdrop = path;
@@ -28,7 +28,7 @@ TEST_F(PageParts, ABackdropIsItsCopyInTheImagesFolder) {
   EXPECT_EQ(attribute("a.png", generation::GenerationMode::Preview), R"( BACKGROUND="images/_backdrop_imagepage.png")");
 }
 
-TEST_F(PageParts, ABodyWithColorsHasFiveOfThemWithoutHashes) {
+TEST_F(PageParts, ABodyWithColorsHasFiveWithoutHashes) {
   for (const core::PageColorFields& fields : {core::kThumbnails.colors, core::kImages.colors}) {
     core::GalleryProject settings;
     settings.*fields.use = 1;
@@ -44,7 +44,7 @@ TEST_F(PageParts, ABodyWithColorsHasFiveOfThemWithoutHashes) {
   }
 }
 
-TEST_F(PageParts, ABodyWithoutColorsKeepsItsBlank) {
+TEST_F(PageParts, ABodyWithoutColorsKeepsTheBlank) {
   for (const core::PageColorFields& fields : {core::kThumbnails.colors, core::kImages.colors}) {
     const core::GalleryProject settings;
     EXPECT_EQ(generation::BodyTag(settings, fields, ""), "<BODY >");
@@ -52,7 +52,7 @@ TEST_F(PageParts, ABodyWithoutColorsKeepsItsBlank) {
   }
 }
 
-TEST_F(PageParts, ARefreshNamesDelayAndTarget) {
+TEST_F(PageParts, ARefreshHasDelayAndTarget) {
   EXPECT_EQ(generation::RefreshTag("5", "a b.htm"), R"(<META HTTP-EQUIV="REFRESH" CONTENT="5; URL=a b.htm">)");
 }
 

@@ -13,7 +13,7 @@ TEST(PageText, EveryLineEndsInCrLf) {
   EXPECT_EQ(page.Take(), "a\r\n\r\nb1\r\n");
 }
 
-TEST(PageText, TextsOfTheUserAreNotFormatStrings) {
+TEST(PageText, UserTextsAreNotFormatStrings) {
   PageText page;
   page.Line("{0} {");
   page.Format("{}", "{}");
@@ -23,7 +23,7 @@ TEST(PageText, TextsOfTheUserAreNotFormatStrings) {
             "<!-- BEGIN USER DEFINED HEAD CODE -->\r\n{x}\r\n<!-- END USER DEFINED HEAD CODE -->\r\n");
 }
 
-TEST(PageText, UserCodeIsWrittenBetweenItsCommentsAndOnlyTheseAreIndented) {
+TEST(PageText, UserCodeIsWrittenUnindentedBetweenIndentedComments) {
   PageText page;
   page.UserCode("IMAGE FOOTER", "", "  ");
   EXPECT_EQ(page.Take(),

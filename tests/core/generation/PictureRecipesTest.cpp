@@ -41,7 +41,7 @@ TEST_F(PictureRecipesTest, WithoutAWatermarkThereIsNoPainter) {
   EXPECT_EQ(ThumbnailRecipe(run, 1).watermark, nullptr);
 }
 
-TEST_F(PictureRecipesTest, EachTargetHasOnePainterForTheWholeRun) {
+TEST_F(PictureRecipesTest, EachTargetHasOnePainterForARun) {
   project.settings.ImageWatermark.checkUseWatermark = 1;
   project.settings.ThumbnailWatermark.checkUseWatermark = 1;
   RunState run = StateOfRun();
@@ -59,7 +59,7 @@ TEST_F(PictureRecipesTest, AnImageWithAWatermarkIsNotCopied) {
   EXPECT_LT(Brightest("Thumbs/thumb_a.jpg"), 140);
 }
 
-TEST_F(PictureRecipesTest, AThumbnailHasAWatermarkOfItsOwn) {
+TEST_F(PictureRecipesTest, ThumbnailsHaveTheirOwnWatermark) {
   project.settings.ThumbnailWatermark.checkUseWatermark = 1;
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_LT(Brightest("Images/a.jpg"), 140);
@@ -75,7 +75,7 @@ TEST_F(PictureRecipesTest, AWatermarkTooLargeForItsCoordinatesEndsTheRun) {
   EXPECT_NE(boxes.boxes.front().text.find("Error #6"), std::string::npos) << boxes.boxes.front().text;
 }
 
-TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt) {
+TEST_F(PictureRecipesTest, AnInvalidWatermarkPercentageEndsRunsThatDrawIt) {
   const image::WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = 300};
   RunOrder order = OrderToCreate();
   order.CreateThumbnails = false;
@@ -83,7 +83,7 @@ TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt)
   EXPECT_EQ(Run(order), RunEnd::Failure);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_NE(boxes.boxes[0].text.find("Overflow\r\rError #6"), std::string::npos) << boxes.boxes[0].text;
-  EXPECT_EQ(host.statuses.back(), "") << "ended";
+  EXPECT_EQ(host.statuses.back(), "") << "the run has ended";
 
   project.settings.ImageWatermark = {};
   project.settings.ThumbnailWatermark = bad;
@@ -91,7 +91,7 @@ TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeEndsTheRunsThatDrawIt)
   EXPECT_EQ(FilesIn("out"), std::set<std::string>{"Images/a.jpg"});
 }
 
-TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeIsNothingToRunsThatDoNotDrawIt) {
+TEST_F(PictureRecipesTest, AnInvalidWatermarkPercentageIsIgnoredByRunsThatDoNotDrawIt) {
   const image::WatermarkSettings bad = {.checkUseWatermark = 1, .sliderAlpha = -1};
   project.settings.ImageWatermark = bad;
   RunOrder order = OrderToCreate();
@@ -108,11 +108,11 @@ TEST_F(PictureRecipesTest, AWatermarksPercentageOutOfRangeIsNothingToRunsThatDoN
   folder.Write("out/Thumbs/thumb_a.jpg", "old");
   order.CreateThumbnails = true;
   order.Overwrite = false;
-  EXPECT_EQ(Run(order), RunEnd::Success) << "the thumbnail is there";
+  EXPECT_EQ(Run(order), RunEnd::Success) << "the thumbnail exists";
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(PictureRecipesTest, TheTextGrowsWithThePixelsOfAnInch) {
+TEST_F(PictureRecipesTest, TheTextScalesWithThePixelsPerInch) {
   class FineScreen : public env::Screen {
    public:
     [[nodiscard]] std::int32_t PixelsPerInch() const override { return 192; }

@@ -20,7 +20,7 @@ class PictureWorkshopTest : public ::testing::Test {
     source = folder.Write("source.jpg", image::EncodeJPEG(picture, 80));
   }
 
-  /// Task n makes a picture n pixels wide. Numbers in `without` have no task.
+  /// Task n makes a picture that is n pixels wide. Numbers in `without` have no task.
   [[nodiscard]] std::optional<PictureTask> Plan(std::int32_t number) {
     planned.push_back(number);
     if (without.count(number) > 0) return std::nullopt;
@@ -43,7 +43,7 @@ class PictureWorkshopTest : public ::testing::Test {
   PictureWorkshop::Waiting wait = [] { return true; };
 };
 
-TEST_F(PictureWorkshopTest, EachNumberGetsTheResultOfItsTaskForAnyNumberOfWorkers) {
+TEST_F(PictureWorkshopTest, EachNumberGetsTheResultOfItsTaskWithAnyNumberOfWorkers) {
   for (unsigned jobs : {1U, 2U, 4U}) {
     PictureWorkshop workshop(jobs, 20, plan);
     for (std::int32_t number = 1; number <= 20; ++number) {
@@ -54,7 +54,7 @@ TEST_F(PictureWorkshopTest, EachNumberGetsTheResultOfItsTaskForAnyNumberOfWorker
   }
 }
 
-TEST_F(PictureWorkshopTest, OnlyABoundedNumberIsPlannedAhead) {
+TEST_F(PictureWorkshopTest, OnlyABoundedNumberOfTasksIsPlannedAhead) {
   PictureWorkshop workshop(2, 100, plan);
   std::ignore = workshop.Take(1, wait);
   EXPECT_EQ(planned, (std::vector<std::int32_t>{1, 2, 3, 4}));
@@ -71,7 +71,7 @@ TEST_F(PictureWorkshopTest, ANumberWithoutATaskGivesNothing) {
   EXPECT_TRUE(workshop.Take(4, wait));
 }
 
-TEST_F(PictureWorkshopTest, NumbersMayBeLeftOut) {
+TEST_F(PictureWorkshopTest, NumbersMayBeSkipped) {
   PictureWorkshop workshop(2, 30, plan);
   std::ignore = workshop.Take(2, wait);
   const auto made = workshop.Take(25, wait);
@@ -80,7 +80,7 @@ TEST_F(PictureWorkshopTest, NumbersMayBeLeftOut) {
   EXPECT_EQ(std::count(planned.begin(), planned.end(), 15), 0);
 }
 
-TEST_F(PictureWorkshopTest, TheStampIsThatOfTheSource) {
+TEST_F(PictureWorkshopTest, TheResultHasTheStampOfTheSource) {
   PictureWorkshop workshop(1, 1, plan);
   EXPECT_EQ(workshop.Take(1, wait)->source, StampOf(source));
 }
@@ -94,12 +94,12 @@ TEST_F(PictureWorkshopTest, AMissingSourceIsNotDecodedAndHasNoStamp) {
   EXPECT_FALSE(made->source);
 }
 
-TEST_F(PictureWorkshopTest, WorkThatIsNotTakenIsStoppedAtTheEnd) {
+TEST_F(PictureWorkshopTest, UnusedTasksAreStoppedAtTheEnd) {
   PictureWorkshop workshop(1, 1000, plan);
   std::ignore = workshop.Take(1, wait);
 }
 
-TEST_F(PictureWorkshopTest, WithFewerThreadsThanAskedForThoseThatAreThereDoTheWork) {
+TEST_F(PictureWorkshopTest, FewerThreadsThanRequestedDoTheWork) {
   for (int threads : {0, 1, 2}) {
     const fakes::ThreadLimit limit(threads);
     PictureWorkshop workshop(4, 9, plan);
@@ -111,14 +111,14 @@ TEST_F(PictureWorkshopTest, WithFewerThreadsThanAskedForThoseThatAreThereDoTheWo
   }
 }
 
-TEST_F(PictureWorkshopTest, WithoutAThreadNothingIsMadeAhead) {
+TEST_F(PictureWorkshopTest, WithoutThreadsNothingIsMadeAhead) {
   const fakes::ThreadLimit limit(0);
   PictureWorkshop workshop(2, 9, plan);
   std::ignore = workshop.Take(1, wait);
   EXPECT_EQ(planned, std::vector<std::int32_t>{1});
 }
 
-TEST_F(PictureWorkshopTest, ATaskCanBeDoneAtOnce) {
+TEST_F(PictureWorkshopTest, ATaskCanBeDoneImmediately) {
   PictureWorkshop workshop(1, 1, plan);
   EXPECT_EQ(WidthOf(workshop.Make(*Plan(9))), 9);
 }

@@ -38,7 +38,7 @@ TEST_F(ProducePicturesTest, AnImageThatKeepsItsSizeIsCopiedByteForByte) {
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), folder.Read("photos/a.jpg"));
 }
 
-TEST_F(ProducePicturesTest, WithoutPhysicalResizeTheFileIsCopiedAndThePageAsksForTheSize) {
+TEST_F(ProducePicturesTest, WithoutPhysicalResizeTheFileIsCopiedAndThePageStatesTheSize) {
   AddPhotograph("a");
   project.settings.checkImageWrapperImagePhysicalResize = 0;
   Run(OrderToCreate());
@@ -46,14 +46,14 @@ TEST_F(ProducePicturesTest, WithoutPhysicalResizeTheFileIsCopiedAndThePageAsksFo
   EXPECT_NE(folder.Read("out/a.htm").find("HEIGHT=\"300\""), std::string::npos);
 }
 
-TEST_F(ProducePicturesTest, AResizedImageHasTheGivenHeightAndTheSourcesShape) {
+TEST_F(ProducePicturesTest, AResizedImageHasTheGivenHeightAndTheAspectRatioOfTheSource) {
   AddPhotograph("a", 40, 30);
   project.settings.textImageWrapperImageHeight = "15";
   Run(OrderToCreate());
   EXPECT_EQ(SizeOf("out/Images/a.jpg"), Size(20, 15));
 }
 
-TEST_F(ProducePicturesTest, AThumbnailFollowsTheShapeOfTheResizedImageAndComesFromTheSource) {
+TEST_F(ProducePicturesTest, AThumbnailHasTheAspectRatioOfTheResizedImageAndIsMadeFromTheSource) {
   AddPhotograph("a", 40, 30);
   auto& settings = project.settings;
   settings.checkImageWrapperImageKeepAspectRatio = 0;
@@ -66,7 +66,7 @@ TEST_F(ProducePicturesTest, AThumbnailFollowsTheShapeOfTheResizedImageAndComesFr
   EXPECT_EQ(SizeOf("out/Thumbs/thumb_a.jpg"), Size(8, 16));
 }
 
-TEST_F(ProducePicturesTest, AnImageCarriesTheTimesOfItsSourceAndAThumbnailDoesNot) {
+TEST_F(ProducePicturesTest, ImagesGetTheTimesOfTheirSourcesAndThumbnailsDoNot) {
   AddPhotograph("copied");
   SetWriteTime("photos/copied.jpg", 1'000'000'000);
   project.settings.checkImageWrapperImageKeepSize = 1;
@@ -79,7 +79,7 @@ TEST_F(ProducePicturesTest, AnImageCarriesTheTimesOfItsSourceAndAThumbnailDoesNo
   EXPECT_NE(WriteTime("out/Thumbs/thumb_copied.jpg"), 1'000'000'000);
 }
 
-TEST_F(ProducePicturesTest, WithoutOverwriteWhatExistsIsNotTouchedButItsSizeIsKnown) {
+TEST_F(ProducePicturesTest, WithoutOverwriteExistingFilesStayAndTheirSizesAreRead) {
   AddPhotograph("a");
   folder.Write("out/Images/a.jpg", std::string(2048, 'o'));
   folder.Write("out/Thumbs/thumb_a.jpg", "old");
@@ -92,7 +92,7 @@ TEST_F(ProducePicturesTest, WithoutOverwriteWhatExistsIsNotTouchedButItsSizeIsKn
   EXPECT_NE(folder.Read("out/a.htm").find("\r\n2KB\r\n"), std::string::npos);
 }
 
-TEST_F(ProducePicturesTest, WithoutOverwriteWhatIsMissingIsMade) {
+TEST_F(ProducePicturesTest, WithoutOverwriteMissingFilesAreMade) {
   AddPhotograph("a");
   RunOrder order = OrderToCreate();
   order.Overwrite = false;
@@ -108,7 +108,7 @@ TEST_F(ProducePicturesTest, WithOverwriteAnOldFileIsReplaced) {
   EXPECT_NE(folder.Read("out/Images/a.jpg"), "old");
 }
 
-TEST_F(ProducePicturesTest, ARunWithoutImagesReadsTheSizesOfThoseThatAreThere) {
+TEST_F(ProducePicturesTest, ARunWithoutImagesReadsTheSizesOfExistingOnes) {
   AddPhotograph("here");
   AddPhotograph("missing");
   folder.Write("out/Images/here.jpg", std::string(3000, 'x'));
@@ -130,7 +130,7 @@ TEST_F(ProducePicturesTest, TheSizeOfACopiedImageIsThatOfItsSource) {
   EXPECT_NE(folder.Read("out/a.htm").find("\r\n" + env::FileSizeText(size) + "\r\n"), std::string::npos);
 }
 
-TEST_F(ProducePicturesTest, AnImageThatDoesNotDecodeEndsTheRunWithItsMessage) {
+TEST_F(ProducePicturesTest, AnImageThatCannotBeDecodedEndsTheRunWithItsMessage) {
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepAspectRatio = 0;
@@ -139,7 +139,7 @@ TEST_F(ProducePicturesTest, AnImageThatDoesNotDecodeEndsTheRunWithItsMessage) {
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to copy the File \"T:\\photos\\text.jpg\".");
 }
 
-TEST_F(ProducePicturesTest, AFileThatIsNotAPictureIsStillCopiedWhenNothingIsChanged) {
+TEST_F(ProducePicturesTest, AFileThatIsNotAPictureIsStillCopied) {
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
@@ -149,7 +149,7 @@ TEST_F(ProducePicturesTest, AFileThatIsNotAPictureIsStillCopiedWhenNothingIsChan
   EXPECT_EQ(folder.Read("out/Images/text.jpg"), "this is no picture");
 }
 
-TEST_F(ProducePicturesTest, AThumbnailThatDoesNotDecodeEndsTheRunWithItsMessage) {
+TEST_F(ProducePicturesTest, AThumbnailThatCannotBeDecodedEndsTheRunWithItsMessage) {
   folder.Write("photos/text.jpg", "this is no picture");
   AddEntry("text", "T:\\photos\\text.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
@@ -158,7 +158,7 @@ TEST_F(ProducePicturesTest, AThumbnailThatDoesNotDecodeEndsTheRunWithItsMessage)
   EXPECT_EQ(boxes.boxes.at(0).text, "Unable to load JPG Image \"T:\\photos\\text.jpg\".");
 }
 
-TEST_F(ProducePicturesTest, AReadOnlyImageIsNotReplacedAndItsSaveFails) {
+TEST_F(ProducePicturesTest, AReadOnlyImageIsNotReplacedAndSavingFails) {
   AddPhotograph("a");
   const auto old = folder.Write("out/Images/a.jpg", "old");
   std::filesystem::permissions(old, std::filesystem::perms::owner_read);
@@ -169,7 +169,7 @@ TEST_F(ProducePicturesTest, AReadOnlyImageIsNotReplacedAndItsSaveFails) {
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), "old");
 }
 
-TEST_F(ProducePicturesTest, ASizeWithoutPixelsFailsAndSaysWhich) {
+TEST_F(ProducePicturesTest, ASizeWithoutPixelsFailsWithAMessageThatNamesIt) {
   AddPhotograph("flat", 90, 1);
   project.settings.checkImageWrapperImageSetWidth = 1;
   project.settings.textImageWrapperImageWidth = "10";
@@ -196,7 +196,7 @@ TEST_F(ProducePicturesTest, TheFilesAreTheSameForEveryNumberOfJobs) {
   }
 }
 
-TEST_F(ProducePicturesTest, ASourceThatVanishesAfterItsImageFailsItsThumbnail) {
+TEST_F(ProducePicturesTest, ASourceRemovedAfterItsImageFailsItsThumbnail) {
   AddPhotograph("a");
   AddPhotograph("b");
   loop.onTurn = [this](int) {
@@ -209,7 +209,7 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesAfterItsImageFailsItsThumbnail) {
   EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg", "Images/b.jpg", "Thumbs/thumb_a.jpg"}));
 }
 
-TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsImageFailsThereAndNotAhead) {
+TEST_F(ProducePicturesTest, ASourceRemovedBeforeItsImageFailsAtItsTurn) {
   for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
   loop.onTurn = [this](int) {
     if (IsShown("Copying File \"b\"...")) std::filesystem::remove(folder.Path() / "photos/b.jpg");
@@ -219,7 +219,7 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsImageFailsThereAndNotAhe
   EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg"}));
 }
 
-TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsPlainCopyIsNamed) {
+TEST_F(ProducePicturesTest, ASourceRemovedBeforeItsCopyIsNamed) {
   for (const char* name : {"a", "b"}) AddPhotograph(name);
   project.settings.checkImageWrapperImageKeepSize = 1;
   loop.onTurn = [this](int) {
@@ -232,7 +232,7 @@ TEST_F(ProducePicturesTest, ASourceThatVanishesBeforeItsPlainCopyIsNamed) {
   EXPECT_EQ(FilesIn("out"), (std::set<std::string>{"Images/a.jpg"}));
 }
 
-TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
+TEST_F(ProducePicturesTest, AThumbnailIsMadeFromTheSourceAsItIsAtItsTurn) {
   AddPhotograph("a", 40, 30);
   loop.onTurn = [this](int) {
     if (IsShown("Creating Thumbnail for File \"a\"...")) {
@@ -245,7 +245,7 @@ TEST_F(ProducePicturesTest, AThumbnailIsMadeOfTheSourceAsItIsAtItsTurn) {
   EXPECT_GE(*thumbnail.Row(0), 245);
 }
 
-TEST_F(ProducePicturesTest, AnImageThatIsThereByItsTurnIsKeptThoughItWasMadeAhead) {
+TEST_F(ProducePicturesTest, AnImageThatExistsAtItsTurnIsKeptEvenIfOneWasMadeAhead) {
   AddPhotograph("a");
   RunOrder order = OrderToCreate();
   order.Overwrite = false;

@@ -93,7 +93,7 @@ TEST_F(ProtectSourcesTest, AThumbnailDoesNotReplaceASource) {
                 "Unable to create Thumbnail for \"T:\\photos\\a.jpg\"." + Replacing("T:\\out\\Thumbs\\thumb_a.jpg"));
 }
 
-TEST_F(ProtectSourcesTest, ABackdropOrLinkGraphicReplacesNoSourceAndIsReplacedByNone) {
+TEST_F(ProtectSourcesTest, GraphicsNeitherReplaceSourcesNorAreReplacedByImages) {
   AddPhotograph("a");
   folder.Write("out/Images/_backdrop_thumbpage.gif", "GIF");
   folder.Write("project/back.gif", "new");
@@ -126,7 +126,7 @@ TEST_F(ProtectSourcesTest, APageReplacesNeitherTheProjectNorAPhotograph) {
   ExpectRefusal(order, PageTextOf("T:\\out\\index.htm"));
 }
 
-TEST_F(ProtectSourcesTest, FilesThatTheRunDoesNotWriteDoNotRefuseIt) {
+TEST_F(ProtectSourcesTest, OnlyFilesThatTheRunWritesAreChecked) {
   folder.Write("out/Images/a.jpg", PlainJpeg(40, 30));
   AddEntry("a", kOwnImage);
   const std::string photograph = folder.Read("out/Images/a.jpg");
@@ -146,7 +146,7 @@ TEST_F(ProtectSourcesTest, FilesThatTheRunDoesNotWriteDoNotRefuseIt) {
   ExpectSuccess(order);
 }
 
-TEST_F(ProtectSourcesTest, ACopyOntoItselfChangesNothingAndGoesThrough) {
+TEST_F(ProtectSourcesTest, ACopyOntoItselfIsAllowedAndChangesNothing) {
   folder.Write("out/Images/a.jpg", PlainJpeg(40, 30));
   folder.Write("out/Images/_backdrop_thumbpage.gif", "GIF");
   AddEntry("a", kOwnImage);
@@ -158,7 +158,7 @@ TEST_F(ProtectSourcesTest, ACopyOntoItselfChangesNothingAndGoesThrough) {
   EXPECT_EQ(folder.Read("out/Images/_backdrop_thumbpage.gif"), "GIF");
 }
 
-TEST_F(ProtectSourcesTest, ASecondRunIntoTheSameFolderReplacesWhatTheFirstOneMade) {
+TEST_F(ProtectSourcesTest, ASecondRunIntoTheSameFolderReplacesTheFilesOfTheFirst) {
   AddPhotograph("a");
   folder.Write("project/gallery.gpj", "the project");
   project.ProjectFileName = "gallery.gpj";
@@ -177,7 +177,7 @@ TEST_F(ProtectSourcesTest, AFileNamedLikeAnUntitledProjectIsNotTheProject) {
   ExpectSuccess(OrderToCreate());
 }
 
-TEST_F(ProtectSourcesTest, ALongListIsLookedThroughWithTurnsAndCanBeCancelled) {
+TEST_F(ProtectSourcesTest, ALongCheckGivesTheEventLoopTurnsAndCanBeCancelled) {
   folder.Write("photos/a.jpg", PlainJpeg(8, 8));
   for (int i = 0; i < 2500; ++i) AddEntry("i" + std::to_string(i), "T:\\photos\\a.jpg");
   int turns = 0;

@@ -10,7 +10,7 @@
 
 namespace vantorium::generation {
 
-/// Runs to a server. Drive T: is that of the fixture; the temporary folder is T:\temp.
+/// Runs to a server. The temporary folder is T:\temp.
 class PublishFixture : public RunFixture {
  protected:
   PublishFixture() {

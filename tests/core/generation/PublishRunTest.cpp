@@ -43,14 +43,14 @@ TEST_F(PublishRunTest, APublishedGalleryEqualsTheCreatedOneFileByFile) {
   }
 }
 
-TEST_F(PublishRunTest, PagesAndThumbnailsAreDeletedHereAfterSendingAndImagesStay) {
+TEST_F(PublishRunTest, PagesAndThumbnailsAreDeletedLocallyAfterSendingAndImagesStay) {
   AddPhotograph("a");
   ScriptedFtpServer server;
   Run(PublishTo(server));
   EXPECT_EQ(FilesIn("temp"), std::set<std::string>{"a.jpg"});
 }
 
-TEST_F(PublishRunTest, TheRunLogsAndTellsItsStepsToTheServer) {
+TEST_F(PublishRunTest, TheRunLogsEachStepAndSendsItsCommands) {
   AddPhotograph("a");
   ScriptedFtpServer server;
   RunOrder order = PublishTo(server);
@@ -61,11 +61,11 @@ TEST_F(PublishRunTest, TheRunLogsAndTellsItsStepsToTheServer) {
   const Texts firstTexts(host.progress.texts2.begin(), host.progress.texts2.begin() + 4);
   EXPECT_EQ(firstTexts, (Texts{"", "Connecting...", "Logging in...", "Switching to Base Directory..."}));
   EXPECT_EQ(host.progress.log.find("secret"), std::string::npos);
-  EXPECT_FALSE(ftp.IsConnected()) << "closed at the end";
+  EXPECT_FALSE(ftp.IsConnected()) << "the connection is closed at the end";
   EXPECT_EQ(ftp.FTPProgress, nullptr);
 }
 
-TEST_F(PublishRunTest, WithoutOverwriteWhatTheServerHasIsNotSentAgainAndItsSizeIsRead) {
+TEST_F(PublishRunTest, WithoutOverwriteFilesOnTheServerAreNotSentAndTheirSizesAreRead) {
   AddPhotograph("a");
   ScriptedFtpServer server;
   server.PutFile("web/Images/a.jpg", std::string(3000, 'x'));
@@ -79,7 +79,7 @@ TEST_F(PublishRunTest, WithoutOverwriteWhatTheServerHasIsNotSentAgainAndItsSizeI
   EXPECT_NE(server.Files().at("web/a.htm").find("\r\n2KB\r\n"), std::string::npos);
 }
 
-TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedForEachFileOnceAtItsTurnForEveryNumberOfJobs) {
+TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedOnceForEachFileAtItsTurnWithAnyNumberOfJobs) {
   for (const char* name : {"a", "b", "c", "d", "e", "f"}) AddPhotograph(name);
   Texts firstDialogue;
   for (unsigned jobs : {1U, 2U, 5U}) {
@@ -87,7 +87,7 @@ TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedForEachFileOnceAtItsTurnF
     for (const char* name : {"web/Images/a.jpg", "web/Images/d.jpg", "web/Thumbs/thumb_e.jpg"}) {
       server.PutFile(name, "old");
     }
-    // How many questions had been asked when each file was first announced.
+    // The number of questions before each file was first announced.
     std::map<std::string, std::size_t> questions;
     loop.onTurn = [&](int) {
       const std::string status = host.statuses.empty() ? "" : host.statuses.back();
@@ -111,7 +111,7 @@ TEST_F(PublishRunTest, WithoutOverwriteTheServerIsAskedForEachFileOnceAtItsTurnF
   }
 }
 
-TEST_F(PublishRunTest, ASourceThatIsGoneBeforeItsPlainCopyIsNamed) {
+TEST_F(PublishRunTest, ASourceRemovedBeforeItsCopyIsNamed) {
   AddEntry("gone", "T:\\photos\\gone.jpg");
   project.settings.checkImageWrapperImageKeepSize = 1;
   ScriptedFtpServer server;
@@ -133,7 +133,7 @@ TEST_F(PublishRunTest, ATemporaryCopyDoesNotReplaceASource) {
   EXPECT_TRUE(NamesOn(server).empty());
 
   project.settings.checkImageWrapperImageKeepSize = 1;
-  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << "sent as it is";
+  EXPECT_EQ(Run(PublishTo(server)), RunEnd::Success) << "sent without a copy";
   EXPECT_EQ(folder.Read("temp/a.jpg"), photograph);
 }
 
@@ -162,7 +162,7 @@ TEST_F(PublishRunTest, EachRefusalOfTheServerEndsTheRunWithItsMessage) {
   }
 }
 
-TEST_F(PublishRunTest, AGreetingThatIsNoneEndsTheRun) {
+TEST_F(PublishRunTest, AnInvalidGreetingEndsTheRun) {
   AddPhotograph("a");
   Script script;
   script.greet = [](Session& session) { session.Say("421 full\r\n"); };
@@ -178,7 +178,7 @@ TEST_F(PublishRunTest, AFolderThatCannotBeEnteredEndsTheRun) {
   EXPECT_EQ(LastBox(), "FTP Directory Error: Unable to create Images Subfolder.");
 }
 
-TEST_F(PublishRunTest, AThumbnailsFolderThatCannotBeEnteredEndsTheRunBeforeAnythingIsSent) {
+TEST_F(PublishRunTest, AThumbnailFolderThatCannotBeEnteredEndsTheRunBeforeAnythingIsSent) {
   AddPhotograph("a");
   Script script;
   script.on["CWD"] = [](Session& session, const std::string& argument) {
@@ -190,7 +190,7 @@ TEST_F(PublishRunTest, AThumbnailsFolderThatCannotBeEnteredEndsTheRunBeforeAnyth
   EXPECT_FALSE(server.HasHeard("STOR"));
 }
 
-TEST_F(PublishRunTest, OnlyARunThatSendsFilesShowsTheirProgress) {
+TEST_F(PublishRunTest, OnlyRunsThatSendFilesShowTheirProgress) {
   AddPhotograph("a");
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
   EXPECT_EQ(Run(OrderToPreview()), RunEnd::Success);
@@ -200,7 +200,7 @@ TEST_F(PublishRunTest, OnlyARunThatSendsFilesShowsTheirProgress) {
   EXPECT_FALSE(host.progress.filePercentages.empty());
 }
 
-TEST_F(PublishRunTest, EachStageNamesWhatCouldNotBeSent) {
+TEST_F(PublishRunTest, EachPhaseNamesTheFileThatCouldNotBeSent) {
   AddPhotograph("a");
   for (const auto& [refused, box] : {
            std::pair{"web/Thumbs/thumb_a.jpg", "FTP File Error: Unable to create Thumbnail for \"T:\\photos\\a.jpg\"."},
@@ -232,7 +232,7 @@ TEST_F(PublishRunTest, AListTextThatLeavesTheFolderIsNotSent) {
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "evil.jpg"));
 }
 
-TEST_F(PublishRunTest, ACancelDuringATransferEndsInTheCancelAndNotInAMessageAboutIt) {
+TEST_F(PublishRunTest, ACancelDuringATransferIsNotReportedAsAFailure) {
   AddPhotograph("a", 400, 300);
   Script script;
   script.on["STOR"] = [](Session& session, const std::string&) {
@@ -265,7 +265,7 @@ TEST_F(PublishRunTest, AnUploadSendsTheFolderWithItsTreeAndFillsTheBar) {
   EXPECT_EQ(server.Files(), expected);
   EXPECT_EQ(host.progress.caption, "Uploading Folder");
   EXPECT_EQ(host.progress.maximum, 5);
-  EXPECT_EQ(*(host.progress.values.end() - 2), 5) << "the passes agree";
+  EXPECT_EQ(*(host.progress.values.end() - 2), 5) << "both passes count the same steps";
 }
 
 TEST_F(PublishRunTest, AnUploadWithoutARemoteFolderStaysBelowTheBaseDirectory) {
@@ -300,7 +300,7 @@ TEST_F(PublishRunTest, AGalleryWithoutARemoteFolderStaysBelowTheBaseDirectory) {
   }
 }
 
-TEST_F(PublishRunTest, AnUploadTellsAtItsEndWhichFoldersItLeftOut) {
+TEST_F(PublishRunTest, AnUploadReportsAtItsEndTheFoldersItSkipped) {
   folder.Write("folder/a.txt", "1");
   std::filesystem::create_directory_symlink("/", folder.Path() / "folder/all");
   ScriptedFtpServer server;
@@ -309,7 +309,7 @@ TEST_F(PublishRunTest, AnUploadTellsAtItsEndWhichFoldersItLeftOut) {
   EXPECT_EQ(NamesOn(server), std::set<std::string>{"web/a.txt"});
 }
 
-TEST_F(PublishRunTest, ACancelWhileAFolderIsCountedIsObeyedThen) {
+TEST_F(PublishRunTest, ACancelDuringTheCountEndsTheCount) {
   for (int i = 0; i < 50; ++i) folder.Write("folder/f" + std::to_string(i), "x");
   ScriptedFtpServer server;
   int turns = 0;
@@ -330,7 +330,7 @@ TEST_F(PublishRunTest, AnUploadCollectsNothingAndNeedsNoImages) {
   for (const auto& text : host.statuses) EXPECT_FALSE(text.starts_with("Collecting")) << text;
 }
 
-TEST_F(PublishRunTest, AnUploadOfAFolderThatIsNotThereFailsInSilence) {
+TEST_F(PublishRunTest, AnUploadOfAMissingFolderFailsSilently) {
   ScriptedFtpServer server;
   EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
   EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
@@ -338,14 +338,14 @@ TEST_F(PublishRunTest, AnUploadOfAFolderThatIsNotThereFailsInSilence) {
   EXPECT_FALSE(server.HasHeard("STOR"));
 }
 
-TEST_F(PublishRunTest, AFileThatTheServerRefusesEndsTheUploadInFailure) {
+TEST_F(PublishRunTest, AFileThatTheServerRefusesFailsTheUpload) {
   folder.Write("folder/a.txt", "1");
   ScriptedFtpServer server(Answering("STOR", "553 no\r\n"));
   EXPECT_EQ(Run(UploadTo(server)), RunEnd::Failure);
   EXPECT_TRUE(NamesOn(server).empty());
 }
 
-TEST_F(PublishRunTest, ACancelOfAnUploadHasItsOwnBoxAndEndsInFailure) {
+TEST_F(PublishRunTest, ACancelledUploadHasItsMessageBoxAndEndsAsAFailure) {
   for (int i = 0; i < 20; ++i) folder.Write("folder/f" + std::to_string(i), "x");
   ScriptedFtpServer server;
   loop.onTurn = [&, pressed = false](int) mutable {
@@ -358,7 +358,7 @@ TEST_F(PublishRunTest, ACancelOfAnUploadHasItsOwnBoxAndEndsInFailure) {
   EXPECT_LT(NamesOn(server).size(), 20U);
 }
 
-TEST_F(PublishRunTest, WhyTheSessionIsNotEncryptedIsTheMessageOfTheRun) {
+TEST_F(PublishRunTest, TheRunReportsWhyTheSessionIsNotEncrypted) {
   AddPhotograph("a");
   ScriptedFtpServer server;
   ftp.Options.encrypted = true;

@@ -91,9 +91,9 @@ class RunFixture : public ::testing::Test {
   fakes::Journal journal;
   fakes::RecordingRunHost host{journal};
   fakes::RecordingMessageBox boxes;
-  fakes::ScriptedLoop loop;
+  fakes::CountingEventLoop loop;
   fakes::FixedClock clock;
-  fakes::RecordingShell shell{journal};
+  fakes::JournalingShell shell{journal};
   CancelCheck cancel{boxes};
   env::Screen screen;
   image::PangoTextRaster texts;

@@ -27,10 +27,10 @@ TEST_F(RunForecastTest, AnOrdinaryGalleryHasNoFindings) {
   project.settings.ImageNextLink.textLinkGraphic = "back.gif";
   EXPECT_EQ(LinesToCreate(), Lines{});
   ASSERT_EQ(Run(OrderToCreate()), RunEnd::Success);
-  EXPECT_EQ(LinesToCreate(), Lines{}) << "nor when it is made again";
+  EXPECT_EQ(LinesToCreate(), Lines{}) << "the same for a second run";
 }
 
-TEST_F(RunForecastTest, ANameThatMakesDeadLinksIsFoundOnce) {
+TEST_F(RunForecastTest, ANameThatMakesDeadLinksIsReportedOnce) {
   AddPhotograph("a");
   AddPhotograph("b#1");
   UseWrapperPages(true);
@@ -47,14 +47,14 @@ TEST_F(RunForecastTest, ANameThatMakesDeadLinksIsFoundOnce) {
   EXPECT_TRUE(findings[0].IsAboutName());
 }
 
-TEST_F(RunForecastTest, AnExtensionMakesDeadLinksToo) {
+TEST_F(RunForecastTest, AnExtensionCanMakeDeadLinksToo) {
   folder.Write("photos/a.jp%67", "x");
   AddEntry("a", "T:\\photos\\a.jp%67");
   EXPECT_EQ(LinesToCreate(), Lines{"Image 1, \"a\": Links to \"a.jp%67\" would not work: in a link, \"%\" begins a "
                                    "coded character."});
 }
 
-TEST_F(RunForecastTest, ANameThatNoFileCanHaveIsFound) {
+TEST_F(RunForecastTest, ANameThatNoFileCanHaveIsReported) {
   folder.Write("photos/a.jpg", PlainJpeg(8, 8));
   for (const char* name : {"a/b", "a\\b"}) AddEntry(name, "T:\\photos\\a.jpg");
   const Lines lines = LinesToCreate();
@@ -62,7 +62,7 @@ TEST_F(RunForecastTest, ANameThatNoFileCanHaveIsFound) {
   EXPECT_EQ(lines[0], "Image 1, \"a/b\": Links to \"a/b.htm\" would not work: no file can have it.");
 }
 
-TEST_F(RunForecastTest, BlanksAndColonsAtTheBeginningMatterForPagesOnly) {
+TEST_F(RunForecastTest, LeadingBlanksAndColonsMatterOnlyForPages) {
   AddPhotograph(" a");
   AddPhotograph("Evening:1");
   UseWrapperPages(true);
@@ -71,7 +71,7 @@ TEST_F(RunForecastTest, BlanksAndColonsAtTheBeginningMatterForPagesOnly) {
   EXPECT_EQ(LinesToCreate(), Lines{});
 }
 
-TEST_F(RunForecastTest, AnApostropheAtTheBeginningMattersInASlideShow) {
+TEST_F(RunForecastTest, ALeadingApostropheMattersInASlideShow) {
   AddPhotograph("'a");
   UseWrapperPages(true);
   EXPECT_EQ(LinesToCreate(), Lines{});
@@ -104,7 +104,7 @@ TEST_F(RunForecastTest, DeadLinksFromSettingsBelongToNoImage) {
   for (const Finding& finding : findings) EXPECT_FALSE(finding.IsAboutName());
 }
 
-TEST_F(RunForecastTest, NamesThatDifferOnlyInCaseAreFoundAtTheLaterImage) {
+TEST_F(RunForecastTest, NamesThatDifferOnlyInCaseAreReportedForTheLaterImage) {
   AddPhotograph("Lake");
   AddPhotograph("hill");
   AddPhotograph("LAKE");
@@ -116,7 +116,7 @@ TEST_F(RunForecastTest, NamesThatDifferOnlyInCaseAreFoundAtTheLaterImage) {
             "matter.");
 }
 
-TEST_F(RunForecastTest, ANameOfAPageOrOfAGraphicIsShared) {
+TEST_F(RunForecastTest, NamesOfPagesAndGraphicsAreShared) {
   folder.Write("project/back.jpg", "x");
   project.settings.textThumbnailsPageBackdrop = "back.jpg";
   UseWrapperPages(true);
@@ -130,10 +130,10 @@ TEST_F(RunForecastTest, ANameOfAPageOrOfAGraphicIsShared) {
                    "Image 3, \"_BACKDROP_thumbpage\": \"Images/_backdrop_thumbpage.jpg\" and "
                    "\"Images/_BACKDROP_thumbpage.jpg\" are the same file where upper and lower case do not matter."}));
   UseWrapperPages(false);
-  EXPECT_EQ(LinesToCreate().size(), 1U) << "images are in a folder of their own";
+  EXPECT_EQ(LinesToCreate().size(), 1U) << "images have their own folder";
 }
 
-TEST_F(RunForecastTest, AThumbnailInTheFolderOfItsImageIsSharedWithoutAPrefix) {
+TEST_F(RunForecastTest, WithoutAPrefixAThumbnailSharesTheNameOfAnImageInItsFolder) {
   AddPhotograph("a");
   project.settings.textThumbnailImageSettingsSubFolder = "images";
   EXPECT_EQ(LinesToCreate(), Lines{});
@@ -141,7 +141,7 @@ TEST_F(RunForecastTest, AThumbnailInTheFolderOfItsImageIsSharedWithoutAPrefix) {
   EXPECT_EQ(LinesToCreate().size(), 1U);
   RunOrder order = OrderToCreate();
   order.CreateThumbnails = false;
-  EXPECT_EQ(LinesFor(order), Lines{}) << "only what this run makes";
+  EXPECT_EQ(LinesFor(order), Lines{}) << "only files of this run count";
 }
 
 TEST_F(RunForecastTest, AnIndexFileNamedLikeAThumbnailPageBelongsToNoImage) {
@@ -153,7 +153,7 @@ TEST_F(RunForecastTest, AnIndexFileNamedLikeAThumbnailPageBelongsToNoImage) {
   EXPECT_EQ(findings[0].image, 0U);
 }
 
-TEST_F(RunForecastTest, SourcesThatAreNoReadableFilesAreFound) {
+TEST_F(RunForecastTest, UnreadableSourcesAreReported) {
   AddPhotograph("a");
   AddEntry("gone", "T:\\photos\\gone.jpg");
   AddEntry("elsewhere", "D:\\photos\\a.jpg");
@@ -171,11 +171,11 @@ TEST_F(RunForecastTest, SourcesThatAreNoReadableFilesAreFound) {
                                     "Image 5, \"link\": The file \"T:\\photos\\link.jpg\" cannot be read."}));
   for (const Finding& finding : Find(OrderToCreate())) {
     EXPECT_EQ(finding.kind, FindingKind::MissingSource);
-    EXPECT_FALSE(finding.IsAboutName()) << "another name does not bring it back";
+    EXPECT_FALSE(finding.IsAboutName()) << "another name does not help";
   }
 }
 
-TEST_F(RunForecastTest, ASourceThatTheRunWouldReplaceIsFound) {
+TEST_F(RunForecastTest, ASourceThatTheRunWouldReplaceIsReported) {
   folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
   AddEntry("a", "T:\\out\\Images\\a.jpg");
   const Findings findings = Find(OrderToCreate());
@@ -183,10 +183,10 @@ TEST_F(RunForecastTest, ASourceThatTheRunWouldReplaceIsFound) {
   EXPECT_EQ(findings[0].kind, FindingKind::OverwrittenSource);
   EXPECT_EQ(LineOf(findings[0]),
             "Image 1, \"a\": The gallery would replace \"T:\\out\\Images\\a.jpg\", which it is made from.");
-  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << "as the run itself says";
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure) << "the run fails, as forecast";
 }
 
-TEST_F(RunForecastTest, ASourceThatStaysAsItIsIsNotFound) {
+TEST_F(RunForecastTest, ASourceThatTheRunDoesNotChangeIsNotReported) {
   folder.Write("out/Images/a.jpg", PlainJpeg(64, 64));
   AddEntry("a", "T:\\out\\Images\\a.jpg");
   RunOrder order = OrderToCreate();
@@ -198,10 +198,10 @@ TEST_F(RunForecastTest, ASourceThatStaysAsItIsIsNotFound) {
   project.settings.checkImageWrapperImageKeepSize = 1;
   EXPECT_EQ(LinesToCreate(), Lines{}) << "a copy onto itself";
   project.settings.ImageWatermark.checkUseWatermark = 1;
-  EXPECT_EQ(LinesToCreate().size(), 1U) << "the same with a watermark is no copy";
+  EXPECT_EQ(LinesToCreate().size(), 1U) << "with a watermark it is not a copy";
 }
 
-TEST_F(RunForecastTest, AProjectThatAPageWouldReplaceIsFound) {
+TEST_F(RunForecastTest, AProjectThatAPageWouldReplaceIsReported) {
   AddPhotograph("a");
   project.ProjectFolder = "T:\\out";
   project.ProjectFileName = "index.htm";
@@ -220,7 +220,7 @@ TEST_F(RunForecastTest, AnImageHasOneFindingOfEachKind) {
   for (std::size_t i = 2; i < 5; ++i) EXPECT_EQ(findings[i].image, 2U);
 }
 
-TEST_F(RunForecastTest, OnlyRunsThatMakeAGalleryToKeepHaveFindings) {
+TEST_F(RunForecastTest, OnlyCreateAndPublishHaveFindings) {
   AddEntry("a#", "T:\\gone.jpg");
   for (const GenerationMode mode : {GenerationMode::Create, GenerationMode::Publish}) {
     EXPECT_EQ(Find(OrderFor(mode, "T:\\temp\\")).size(), 2U);
@@ -245,7 +245,7 @@ TEST_F(RunForecastTest, AForecastIsRenewedAfterAChange) {
   EXPECT_TRUE(forecast.Found().empty());
 }
 
-TEST_F(RunForecastTest, TenThousandImagesAreLookedAtAndNothingIsWritten) {
+TEST_F(RunForecastTest, TenThousandImagesAreCheckedWithoutWriting) {
   constexpr std::size_t kImages = 10'000;
   folder.Write("photos/a.jpg", PlainJpeg(8, 8));
   for (std::size_t i = 1; i <= kImages; ++i) {

@@ -31,7 +31,7 @@ TEST(RunOrder, AFolderOnTheServerEndsInASlashUnlessItIsEmpty) {
   }
 }
 
-TEST(RunOrder, TheIndexFileOnTheServerMayHaveFoldersOfItsOwn) {
+TEST(RunOrder, TheIndexFileOnTheServerMayHaveFolders) {
   struct Case {
     const char* folder;
     const char* file;

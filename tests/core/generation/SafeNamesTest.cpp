@@ -13,20 +13,20 @@ TEST(SafeNames, AnOrdinaryNameIsPlain) {
   }
 }
 
-TEST(SafeNames, ANameWithASeparatorADriveOrDotsAloneIsNotPlain) {
+TEST(SafeNames, ANameWithASeparatorOrADriveOrOnlyDotsIsNotPlain) {
   for (const auto name :
        {""sv, "."sv, ".."sv, "a/b"sv, "a\\b"sv, "/a"sv, "\\a"sv, "C:a"sv, "z:"sv, "..\\a"sv, "a\0b"sv}) {
     EXPECT_FALSE(IsPlainFileName(name)) << name;
   }
 }
 
-TEST(SafeNames, AFolderBelowDoesNotLeave) {
+TEST(SafeNames, ASubfolderDoesNotLeaveTheGallery) {
   for (const auto path : {"Images/"sv, "Images\\Big"sv, "/"sv, ""sv, "a..b/c"sv, "./a"sv}) {
     EXPECT_FALSE(LeavesFolder(path)) << path;
   }
 }
 
-TEST(SafeNames, DotsAndDrivesLeave) {
+TEST(SafeNames, DotsAndDrivesLeaveTheGallery) {
   for (const auto path : {".."sv, "../"sv, "a/../../b"sv, "a\\..\\b"sv, "C:\\x"sv, "c:x"sv, "a\0"sv}) {
     EXPECT_TRUE(LeavesFolder(path)) << path;
   }

@@ -7,7 +7,7 @@ namespace {
 
 class SlideShow : public PageTest {
  protected:
-  /// Three images, two on a page.
+  /// Three images, two per page.
   SlideShow() {
     AddImages(3);
     SetGrid("1", "2");
@@ -30,7 +30,7 @@ TEST_F(SlideShow, StartsFromThumbnailPagesWithTheFirstImage) {
   EXPECT_EQ(Start(), "img1.htm");
 }
 
-TEST_F(SlideShow, DoesNotStartUnlessAllItsSettingsAreThere) {
+TEST_F(SlideShow, StartsOnlyWithAllItsSettings) {
   project.checkGallerySlideShowAutoStart = 0;
   EXPECT_EQ(Start(), "(none)");
   project.checkGallerySlideShowAutoStart = 1;
@@ -61,7 +61,7 @@ TEST_F(SlideShow, AfterTheLastImageStartsOver) {
   EXPECT_EQ(After(3), "(none)");
 }
 
-TEST_F(SlideShow, BackToTheThumbnailsDoesNotAskHowToStartOver) {
+TEST_F(SlideShow, GoingBackToTheThumbnailsIgnoresHowToStartOver) {
   for (const core::Choice startOver : std::initializer_list<core::Choice>{0, 1, 2}) {
     project.comboGallerySlideShowStartOverWith = startOver;
     project.comboGallerySlideShowActionAfterImage = 1;
@@ -79,7 +79,7 @@ TEST_F(SlideShow, OfOneImageGoesBackToIt) {
   EXPECT_EQ(After(1), "img1.htm");
 }
 
-TEST_F(SlideShow, NeedsItsSwitchAndTheSingleFrame) {
+TEST_F(SlideShow, RequiresItsSettingAndASingleFrame) {
   project.checkGallerySlideShow = 0;
   EXPECT_EQ(After(1), "(none)");
   project.checkGallerySlideShow = 1;
@@ -92,7 +92,7 @@ TEST_F(SlideShow, NeedsItsSwitchAndTheSingleFrame) {
   }
 }
 
-TEST_F(SlideShow, BackToThePageOfAnImageFailsWithoutCells) {
+TEST_F(SlideShow, GoingBackToThePageOfAnImageFailsWithoutCells) {
   SetGrid("0", "0");
   EXPECT_NO_THROW((void)After(1));
   project.comboGallerySlideShowActionAfterImage = 1;

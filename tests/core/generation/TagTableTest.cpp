@@ -60,7 +60,7 @@ constexpr Spelling kSpellings[] = {
     {kPage, "<VANTORIUM_PAGELINK_LASTTHUMBPAGE_GRAPHIC>"},
 };
 
-TEST(TagTable, HoldsEveryTagInTheOrderOfReplacement) {
+TEST(TagTable, HasEveryTagInTheOrderOfReplacement) {
   const auto rows = TagRows();
   ASSERT_EQ(rows.size(), 43U);
   ASSERT_EQ(rows.size(), std::size(kSpellings));
@@ -71,7 +71,7 @@ TEST(TagTable, HoldsEveryTagInTheOrderOfReplacement) {
   }
 }
 
-TEST(TagTable, HoldsTheFourTagsOfDescriptions) {
+TEST(TagTable, HasTheFourTagsOfDescriptions) {
   const auto rows = DescriptionTagRows();
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].tag, "<VANTORIUM_IMAGE_DESCRIPTION>");

@@ -31,7 +31,7 @@ class TemplateTags : public PageTest {
   }
 };
 
-TEST_F(TemplateTags, ATextWithoutTagsStaysAsItIs) {
+TEST_F(TemplateTags, ATextWithoutTagsIsUnchanged) {
   for (const std::string text :
        {"", "plain", "<B>bold</B>", "a_b_c", "_", "<VANTORIUM", "<VANTORIUM_", "<VANTORIUM_>", "VANTORIUM_IMAGE_INDEX>",
         "<VANTORIUM_IMAGE_INDEX", "< VANTORIUM_IMAGE_INDEX>", "<VANTORIUM_IMAGE_INDEX >", "<VANTORIUM_NO_SUCH_TAG>",
@@ -74,7 +74,7 @@ TEST_F(TemplateTags, DatesOfTheFileAreUtcInTheRegionalFormats) {
   EXPECT_EQ(Value("IMAGE_FILEDATE_SHORT"), "01.03.20");
 }
 
-TEST_F(TemplateTags, DatesOfTheCreationAreTheRunsOwn) {
+TEST_F(TemplateTags, CreationDatesAreThoseOfTheRun) {
   const env::CivilTime made = run.GalleryCreationTime;
   EXPECT_EQ(Value("GALLERY_CREATIONDATE_SHORT"), formats.Format(made, env::RegionalFormat::ShortDate));
   EXPECT_EQ(Value("GALLERY_CREATIONDATE_LONG"), formats.Format(made, env::RegionalFormat::LongDate));
@@ -83,7 +83,7 @@ TEST_F(TemplateTags, DatesOfTheCreationAreTheRunsOwn) {
   EXPECT_EQ(Value("GALLERY_CREATIONTIME_LONG"), "13:05:09");
 }
 
-TEST_F(TemplateTags, TextLinksAreTheAnchorTheLabelAndTheEnd) {
+TEST_F(TemplateTags, TextLinksAreAnchorLabelAndEndTag) {
   EXPECT_EQ(Value("PAGELINK_FIRSTIMAGE_TEXT"), R"(<A HREF="first_one.htm">FIRST</A>)");
   EXPECT_EQ(Value("PAGELINK_PREVIMAGE_TEXT"), R"(<A HREF="first_one.htm">BACK</A>)");
   EXPECT_EQ(Value("PAGELINK_NEXTIMAGE_TEXT"), R"(<A HREF="last.htm">NEXT</A>)");
@@ -116,7 +116,7 @@ const LinkTag kLinkTags[] = {
     {"LASTTHUMBPAGE", &core::GalleryProject::ThumbnailLastLink, R"(<A HREF="thumbpage_3.htm">)", "_thumblink_last"},
 };
 
-TEST_F(TemplateTags, GraphicLinksAreTheAnchorTheImageAndTheEnd) {
+TEST_F(TemplateTags, GraphicLinksAreAnchorImageAndEndTag) {
   for (const LinkTag& tag : kLinkTags) {
     (project.*tag.link).textLinkGraphic = "C:\\buttons\\b.gif";
     EXPECT_EQ(Value("PAGELINK_" + tag.name + "_GRAPHIC"),
@@ -124,7 +124,7 @@ TEST_F(TemplateTags, GraphicLinksAreTheAnchorTheImageAndTheEnd) {
   }
 }
 
-TEST_F(TemplateTags, ALinkWithoutTheFormIsReplacedByNothing) {
+TEST_F(TemplateTags, ALinkWithoutTextOrGraphicIsRemoved) {
   for (const LinkTag& tag : kLinkTags) {
     EXPECT_EQ(Value("PAGELINK_" + tag.name + "_GRAPHIC"), "") << tag.name;
     if (tag.name == "NEXTIMAGE") continue;  // has its own rule
@@ -144,13 +144,13 @@ TEST_F(TemplateTags, TheTextFormOfNextWithoutALabelRemovesTheGraphicFormInstead)
   EXPECT_NE(Value("PAGELINK_NEXTIMAGE_GRAPHIC"), "");
 }
 
-TEST_F(TemplateTags, TheGraphicFormOfNextThatComesUpInTheRemovalIsReplacedByItsOwnRow) {
+TEST_F(TemplateTags, AGraphicTagOfNextThatTheRemovalCreatesIsReplacedByItsRow) {
   project.ImageNextLink = {"", "next.gif", ""};
   EXPECT_EQ(Expand("<VANTORIUM_PAGELINK_NEXT<VANTORIUM_PAGELINK_NEXTIMAGE_GRAPHIC>IMAGE_GRAPHIC>"),
             R"(<A HREF="last.htm"><IMG SRC="Images/_imagelink_next.gif" BORDER="0" ALIGN="MIDDLE"></A>)");
 }
 
-TEST_F(TemplateTags, AtTheEndsTheAnchorIsEmptyAndItsEndStays) {
+TEST_F(TemplateTags, AtTheEndsTheAnchorIsEmptyAndItsEndTagStays) {
   EXPECT_EQ(Value("PAGELINK_PREVIMAGE_TEXT", 1), "BACK</A>");
   EXPECT_EQ(Value("PAGELINK_FIRSTIMAGE_TEXT", 1), "FIRST</A>");
   EXPECT_EQ(Value("PAGELINK_NEXTIMAGE_TEXT", 3), "NEXT</A>");
@@ -171,7 +171,7 @@ TEST_F(TemplateTags, InAGalleryOfOneImageOnlyTheIndexKeepsItsAnchor) {
   EXPECT_EQ(Value("PAGELINK_INDEX_GRAPHIC", 1), R"(<A HREF="thumbpage_1.htm#first_one"></A>)");
 }
 
-TEST_F(TemplateTags, TagsWhoseIndexIsMissingStay) {
+TEST_F(TemplateTags, TagsWithoutTheirIndexStay) {
   for (const generation::TagRow& row : generation::TagRows()) {
     const std::string tag(row.tag);
     if (row.needs == generation::TagNeeds::Image) {
@@ -184,7 +184,7 @@ TEST_F(TemplateTags, TagsWhoseIndexIsMissingStay) {
   }
 }
 
-TEST_F(TemplateTags, EveryTagWithItsIndexIsReplacedEverywhereInAnyCase) {
+TEST_F(TemplateTags, EveryTagWithItsIndexIsReplacedInAnyCaseWhereverItOccurs) {
   for (core::LinkSettings core::GalleryProject::*link :
        {&core::GalleryProject::ImageNextLink, &core::GalleryProject::ImageIndexLink}) {
     (project.*link).textLinkGraphic = "x.gif";
@@ -203,19 +203,19 @@ TEST_F(TemplateTags, OnlyAsciiLettersAreFolded) {
   EXPECT_EQ(Expand("<VANTORIUM_\xC4\xB1MAGE_INDEX>"), "<VANTORIUM_\xC4\xB1MAGE_INDEX>");
 }
 
-TEST_F(TemplateTags, ATagInAValueIsReplacedWhenItsRowComesLater) {
+TEST_F(TemplateTags, ATagInAValueIsReplacedIfItsRowFollows) {
   project.textGalleryTitle = "<VANTORIUM_GALLERY_CREATIONTIME_LONG>, <VANTORIUM_IMAGE_COUNT>, <VANTORIUM_IMAGE_INDEX>";
   EXPECT_EQ(Value("GALLERY_TITLE"), "13:05:09, <VANTORIUM_IMAGE_COUNT>, <VANTORIUM_IMAGE_INDEX>");
   project.ImageFirstLink.textLinkLabel = "<VANTORIUM_PAGELINK_LASTIMAGE_TEXT>";
   EXPECT_EQ(Value("PAGELINK_FIRSTIMAGE_TEXT"), R"(<A HREF="first_one.htm"><A HREF="last.htm">LAST</A></A>)");
 }
 
-TEST_F(TemplateTags, AValueIsNotSearchedAgainByItsOwnRow) {
+TEST_F(TemplateTags, AValueIsNotSearchedAgainForItsTag) {
   project.textGalleryTitle = "[<VANTORIUM_GALLERY_TITLE>]";
   EXPECT_EQ(Value("GALLERY_TITLE"), "[<VANTORIUM_GALLERY_TITLE>]");
 }
 
-TEST_F(TemplateTags, ATagThatAValueMakesWithTheTextAroundItIsReplacedByALaterRow) {
+TEST_F(TemplateTags, ATagFormedByAValueAndItsSurroundingsIsReplacedByALaterRow) {
   project.textGalleryTitle = "PAGELINK_INDEX";
   EXPECT_EQ(Expand("<VANTORIUM_<VANTORIUM_GALLERY_TITLE>_TEXT>"),
             R"(<A HREF="thumbpage_2.htm#old_stone_bridge">INDEX</A>)");
@@ -223,7 +223,7 @@ TEST_F(TemplateTags, ATagThatAValueMakesWithTheTextAroundItIsReplacedByALaterRow
   EXPECT_EQ(Expand("<VANTORIUM_<VANTORIUM_GALLERY_TITLE>_INDEX>"), "<VANTORIUM_IMAGE_INDEX>");
 }
 
-TEST_F(TemplateTags, ValuesAreMadeOnlyForTagsThatOccur) {
+TEST_F(TemplateTags, ValuesAreComputedOnlyForTagsThatOccur) {
   SetGrid("0", "0");
   EXPECT_EQ(Value("IMAGE_INDEX"), "2");
   for (const std::string name : {"PAGELINK_INDEX_TEXT", "PAGELINK_INDEX_GRAPHIC"}) {
@@ -243,7 +243,7 @@ TEST_F(TemplateTags, ManyOpenTagsDoNotTakeLong) {
   EXPECT_EQ(Expand(text), text);
 }
 
-TEST_F(TemplateTags, DescriptionTagsGiveTheDescriptionAloneAndWithItsFrame) {
+TEST_F(TemplateTags, DescriptionTagsGiveTheDescriptionWithAndWithoutHeaderAndFooter) {
   project.textHeader = "[<VANTORIUM_IMAGE_INDEX>:";
   project.textFooter = "]";
   project.textThumbHeader = "(";
@@ -255,24 +255,24 @@ TEST_F(TemplateTags, DescriptionTagsGiveTheDescriptionAloneAndWithItsFrame) {
   EXPECT_EQ(ExpandAll("<vantorium_thumb_description>/<Vantorium_Image_Description>"), "thumb text 2/image text 2");
 }
 
-TEST_F(TemplateTags, DescriptionTagsAreOnlyForTheSecondStep) {
+TEST_F(TemplateTags, DescriptionTagsAreReplacedOnlyInTheSecondStep) {
   EXPECT_EQ(Expand("<VANTORIUM_IMAGE_DESCRIPTION>"), "<VANTORIUM_IMAGE_DESCRIPTION>");
   EXPECT_EQ(generation::ExpandDescriptionTags(run, "<VANTORIUM_IMAGE_INDEX>", 2, 2), "<VANTORIUM_IMAGE_INDEX>");
 }
 
-TEST_F(TemplateTags, ADescriptionIsExpandedWithTheIndicesOfItsPlace) {
+TEST_F(TemplateTags, ADescriptionIsExpandedWithImageAndPageOfItsPlace) {
   images.SetImageDescription(2, "no. <VANTORIUM_IMAGE_INDEX> page <VANTORIUM_THUMBPAGE_INDEX>");
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", 2, 2), "no. 2 page 2");
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", 2, generation::kNoIndex),
             "no. 2 page <VANTORIUM_THUMBPAGE_INDEX>");
 }
 
-TEST_F(TemplateTags, ADescriptionThatHoldsItsOwnTagLeavesIt) {
+TEST_F(TemplateTags, ADescriptionKeepsItsOwnTag) {
   images.SetImageDescription(2, "a <VANTORIUM_IMAGE_DESCRIPTION> b");
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>"), "a <VANTORIUM_IMAGE_DESCRIPTION> b");
 }
 
-TEST_F(TemplateTags, ADescriptionThatHoldsALaterDescriptionTagHasItReplaced) {
+TEST_F(TemplateTags, ALaterDescriptionTagInADescriptionIsReplaced) {
   images.SetImageDescription(2, "see <VANTORIUM_THUMB_DESCRIPTION>");
   images.SetThumbnailDescription(2, "not <VANTORIUM_IMAGE_DESCRIPTION>");
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>"), "see not <VANTORIUM_IMAGE_DESCRIPTION>");
@@ -281,11 +281,11 @@ TEST_F(TemplateTags, ADescriptionThatHoldsALaterDescriptionTagHasItReplaced) {
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>"), "h<VANTORIUM_IMAGE_DESCRIPTION_FULL>");
 }
 
-TEST_F(TemplateTags, WithoutAnImageDescriptionTagsStay) {
+TEST_F(TemplateTags, DescriptionTagsStayWithoutAnImage) {
   EXPECT_EQ(ExpandAll("<VANTORIUM_IMAGE_DESCRIPTION>", generation::kNoIndex, 1), "<VANTORIUM_IMAGE_DESCRIPTION>");
 }
 
-TEST_F(TemplateTags, ATextThatWouldGrowBeyondAllBoundsIsOutOfMemory) {
+TEST_F(TemplateTags, ATextThatWouldGrowWithoutLimitIsOutOfMemory) {
   const auto many = [](std::string_view tag) {
     std::string tags;
     for (int i = 0; i < 100; ++i) tags += tag;

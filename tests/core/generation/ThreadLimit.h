@@ -2,7 +2,7 @@
 
 namespace vantorium::fakes {
 
-/// While it lives, the test can create `threads` more threads; then pthread_create fails with EAGAIN.
+/// While it exists, the test can create `threads` more threads; then pthread_create fails with EAGAIN.
 class ThreadLimit {
  public:
   explicit ThreadLimit(int threads);

@@ -72,7 +72,7 @@ TEST_F(ThumbnailCell, ADescriptionIsPlacedAsSet) {
                            R"(</TD></TR><TR><TD ALIGN="CENTER" VALIGN="TOP" HEIGHT="100%">D)" + kEnd);
 }
 
-TEST_F(ThumbnailCell, ADescriptionHasItsHeaderAndFooterAndKnowsNoPage) {
+TEST_F(ThumbnailCell, ADescriptionHasItsHeaderAndFooterAndNoPageTags) {
   SetDescription(3, 0);
   images.SetThumbnailDescription(1, "<VANTORIUM_IMAGE_INDEX><VANTORIUM_THUMBPAGE_INDEX><VANTORIUM_IMAGE_DESCRIPTION>");
   project.textThumbHeader = "[<VANTORIUM_IMAGE_DESCRIPTION>";
@@ -112,13 +112,13 @@ TEST_F(ThumbnailCell, OnlyCaptionsBesideTheThumbnailGetBlanks) {
   }
 }
 
-TEST_F(ThumbnailCell, ACaptionKnowsImageAndPageAndDescriptions) {
+TEST_F(ThumbnailCell, ACaptionMayHaveTagsOfImagePageAndDescriptions) {
   SetCaption(3, 0);
   project.ThumbnailRegularCaption = "<VANTORIUM_IMAGE_INDEX>/<VANTORIUM_THUMBPAGE_INDEX>/<VANTORIUM_THUMB_DESCRIPTION>";
   EXPECT_TRUE(Contains(Content(), ">1/1/D</TD>")) << Content();
 }
 
-TEST_F(ThumbnailCell, WithACaptionADescriptionRightOrBelowShowsTheCaptionAgain) {
+TEST_F(ThumbnailCell, WithACaptionADescriptionRightOrBelowRepeatsTheCaption) {
   SetCaption(3, 2);
   const std::string inner = kNarrow + R"(<TR><TD ALIGN="RIGHT" VALIGN="BOTTOM">)" + kThumbnail +
                             R"(</TD></TR><TR><TD ALIGN="RIGHT" VALIGN="TOP" HEIGHT="100%">C)" + kEnd;
@@ -132,7 +132,7 @@ TEST_F(ThumbnailCell, WithACaptionADescriptionRightOrBelowShowsTheCaptionAgain) 
   EXPECT_TRUE(Content().ends_with(R"(<TD ALIGN="LEFT" VALIGN="TOP" HEIGHT="100%">C&nbsp;)" + kEnd)) << Content();
 }
 
-TEST_F(ThumbnailCell, WithACaptionADescriptionLeftOrAboveStaysItself) {
+TEST_F(ThumbnailCell, WithACaptionADescriptionLeftOrAboveIsUnchanged) {
   SetCaption(0, 1);
   const std::string inner =
       kNarrow +

@@ -17,7 +17,7 @@ class ThumbnailPage : public PageTest {
   }
 };
 
-TEST_F(ThumbnailPage, OfOneImageIsExpectedLineByLine) {
+TEST_F(ThumbnailPage, OfOneImageHasTheseLines) {
   AddImages(1);
   Prepare();
   EXPECT_EQ(Page(), Lines({"<HTML>",
@@ -75,7 +75,7 @@ TEST_F(ThumbnailPage, TwentySixImagesLeaveOneCellForTheSecondPage) {
   EXPECT_EQ(LineStartingWith(second, "<A NAME="), R"(<A NAME="img26">)");
 }
 
-TEST_F(ThumbnailPage, ARowEndsWhereTheImagesEndAndNoEmptyRowFollows) {
+TEST_F(ThumbnailPage, ARowEndsAfterTheLastImageAndNoEmptyRowFollows) {
   AddImages(4);
   SetGrid("3", "2");
   Prepare();
@@ -91,7 +91,7 @@ struct GridCase {
   std::int32_t images;
 };
 
-TEST_F(ThumbnailPage, SaysHowManyImagesAreOnAPage) {
+TEST_F(ThumbnailPage, HasAsManyImagesAsTheGridHasCells) {
   AddImages(7);
   for (const GridCase& each :
        {GridCase{"2", "2", 1, 4}, GridCase{"2", "2", 5, 3}, GridCase{"2", "2", 7, 1}, GridCase{"2", "2", 8, 0},
@@ -108,7 +108,7 @@ TEST_F(ThumbnailPage, SaysHowManyImagesAreOnAPage) {
   }
 }
 
-TEST_F(ThumbnailPage, AGridThatNoPageCanHoldIsAnOverflow) {
+TEST_F(ThumbnailPage, AGridTooLargeForAPageIsAnOverflow) {
   AddImages(1);
   run.ImageCount = 1;
   SetGrid("1e10", "0.000001");
@@ -132,7 +132,7 @@ TEST_F(ThumbnailPage, ColorsAndBackdropAreAttributesOfTheBody) {
             R"( BACKGROUND="Images/_backdrop_thumbpage.gif">)");
 }
 
-TEST_F(ThumbnailPage, TheTableHasItsNumbersAsTypedAndAHashBeforeItsColor) {
+TEST_F(ThumbnailPage, TheTableHasItsNumbersAsTypedAndAHashBeforeTheColor) {
   AddImages(1);
   Prepare();
   project.textThumbnailsTableBorder = "01";
@@ -150,7 +150,7 @@ TEST_F(ThumbnailPage, TheTableHasItsNumbersAsTypedAndAHashBeforeItsColor) {
                   .starts_with(R"(<TABLE  BACKGROUND="Images/_backdrop_thumbtable.png" BORDER=01 )"));
 }
 
-TEST_F(ThumbnailPage, AlignmentOfTheTableIsThatOfItsDivAndFitToPageIsWide) {
+TEST_F(ThumbnailPage, TheTableIsAlignedByItsDivAndFitToPageIsFullWidth) {
   AddImages(1);
   Prepare();
   const std::string names[] = {"CENTER", "LEFT", "CENTER", "RIGHT"};
@@ -177,7 +177,7 @@ TEST_F(ThumbnailPage, BarsAreAboveAndBelowTheTable) {
   }
 }
 
-TEST_F(ThumbnailPage, OnePageHasNoBarAtAll) {
+TEST_F(ThumbnailPage, ASinglePageHasNoBar) {
   AddImages(1);
   Prepare();
   const std::string page = Page();
@@ -201,7 +201,7 @@ TEST_F(ThumbnailPage, TheSlideShowRefreshIsOnEveryPage) {
   EXPECT_TRUE(Contains(Page(), "3.0\">\r\n" + refresh));
 }
 
-TEST_F(ThumbnailPage, TemplatesOfThePageKnowThePageButNoImage) {
+TEST_F(ThumbnailPage, TemplatesOfThePageHaveTheTagsOfThePageOnly) {
   AddImages(2);
   SetGrid("1", "1");
   Prepare();
@@ -215,7 +215,7 @@ TEST_F(ThumbnailPage, TemplatesOfThePageKnowThePageButNoImage) {
   }
 }
 
-TEST_F(ThumbnailPage, TemplatesOfACellKnowImageAndPageAndDescriptions) {
+TEST_F(ThumbnailPage, TemplatesOfACellHaveTheTagsOfImagePageAndDescriptions) {
   AddImage("a", "", "thumb text");
   Prepare();
   const std::string all = "<VANTORIUM_THUMBPAGE_INDEX>/<VANTORIUM_IMAGE_INDEX>/<VANTORIUM_THUMB_DESCRIPTION>";
@@ -225,7 +225,7 @@ TEST_F(ThumbnailPage, TemplatesOfACellKnowImageAndPageAndDescriptions) {
   EXPECT_EQ(LineStartingWith(Page(), "footer"), "footer 1/1/thumb text");
 }
 
-TEST_F(ThumbnailPage, TheTagOfDirectLinksShowsTheRunsText) {
+TEST_F(ThumbnailPage, TheTagOfDirectLinksGivesTheTextOfTheRun) {
   AddImages(1);
   Prepare();
   run.DirectLinksText = "(direct)";

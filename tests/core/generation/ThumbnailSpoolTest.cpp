@@ -6,7 +6,7 @@
 namespace vantorium::generation {
 namespace {
 
-TEST(ThumbnailSpool, GivesBackWhatWasPutInAnyOrder) {
+TEST(ThumbnailSpool, ReturnsWhatWasPutInAnyOrder) {
   const fakes::TemporaryFolder folder;
   ThumbnailSpool spool(folder.Path());
   const auto first = spool.Put("first");
@@ -25,12 +25,12 @@ TEST(ThumbnailSpool, LeavesNothingInItsFolder) {
   EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
 }
 
-TEST(ThumbnailSpool, WithoutAFolderItKeepsNothing) {
+TEST(ThumbnailSpool, KeepsNothingWithoutAFolder) {
   ThumbnailSpool spool("/nowhere/at/all");
   EXPECT_FALSE(spool.Put("bytes"));
 }
 
-TEST(ThumbnailSpool, APlaceBeyondTheEndGivesNothing) {
+TEST(ThumbnailSpool, APlaceBeyondTheEndIsEmpty) {
   const fakes::TemporaryFolder folder;
   const ThumbnailSpool spool(folder.Path());
   EXPECT_FALSE(spool.Get({.offset = 100, .size = 5}));

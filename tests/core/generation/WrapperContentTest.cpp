@@ -31,18 +31,18 @@ class WrapperContentLine : public PageTest {
   }
 };
 
-TEST_F(WrapperContentLine, OfAnImageAloneKeepsTheBlanksOfWhatIsEmpty) {
+TEST_F(WrapperContentLine, OfAnImageAloneKeepsTheBlanksOfOmittedAttributes) {
   EXPECT_EQ(Content(), kImage);
   run.mode = generation::GenerationMode::Publish;
   EXPECT_EQ(Content(), kImage);
 }
 
-TEST_F(WrapperContentLine, InAPreviewTheSourceIsShown) {
+TEST_F(WrapperContentLine, OfAPreviewShowsTheSource) {
   Prepare(generation::GenerationMode::Preview);
   EXPECT_EQ(Content(), R"(<IMG SRC="file:///home/anna/Photos/x.JPG" BORDER="0"  >)");
 }
 
-TEST_F(WrapperContentLine, StatesTheSizeAsItWasTyped) {
+TEST_F(WrapperContentLine, StatesTheSizeAsTyped) {
   project.checkImageWrapperImageKeepSize = 0;
   project.textImageWrapperImageWidth = "0640";
   project.textImageWrapperImageHeight = "480";
@@ -103,7 +103,7 @@ TEST_F(WrapperContentLine, ADescriptionHasItsHeaderAndFooter) {
   EXPECT_TRUE(Contains(Content(), ">[thumb text:1<VANTORIUM_THUMB_DESCRIPTION>:1]</TD>")) << Content();
 }
 
-TEST_F(WrapperContentLine, SettingsOutsideTheirListsShowTheImageAlone) {
+TEST_F(WrapperContentLine, WithUnknownPlacementsShowsTheImageAlone) {
   SetCaption(9, 0);
   SetDescription(9, 0);
   EXPECT_EQ(Content(), kImage);

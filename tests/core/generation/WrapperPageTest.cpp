@@ -15,7 +15,7 @@ class WrapperPage : public PageTest {
   std::string Page(std::int32_t image = 1) const { return generation::BuildWrapperPage(run, image); }
 };
 
-TEST_F(WrapperPage, OfTheOnlyImageIsExpectedLineByLine) {
+TEST_F(WrapperPage, OfTheOnlyImageHasTheseLines) {
   AddImage("x");
   Prepare();
   EXPECT_EQ(Page(), Lines({"<HTML>",
@@ -72,7 +72,7 @@ TEST_F(WrapperPage, BarsAreAboveAndBelowTheImageWithALineBreak) {
   }
 }
 
-TEST_F(WrapperPage, TheLinesOfTheBarAreThereEvenWithOneImage) {
+TEST_F(WrapperPage, HasTheLinesOfTheBarEvenWithOneImage) {
   AddImages(1);
   Prepare();
   project.comboPageLinksImageLinkPlacement = 3;
@@ -107,7 +107,7 @@ TEST_F(WrapperPage, ColorsAreThoseOfImagePages) {
             R"(<BODY BGCOLOR="010203" TEXT="040506" LINK="070809" VLINK="0A0B0C" ALINK="0D0E0F">)");
 }
 
-TEST_F(WrapperPage, ABackdropThatThumbnailPagesHaveTooIsTakenFromThere) {
+TEST_F(WrapperPage, ABackdropSharedWithThumbnailPagesRefersToTheirCopy) {
   AddImages(1);
   Prepare();
   project.textImageWrapperBackdrop = "C:\\pics\\sand.gif";
@@ -120,7 +120,7 @@ TEST_F(WrapperPage, ABackdropThatThumbnailPagesHaveTooIsTakenFromThere) {
   EXPECT_EQ(LineStartingWith(Page(), "<BODY"), "<BODY >");
 }
 
-TEST_F(WrapperPage, TemplatesKnowTheImageButNoPage) {
+TEST_F(WrapperPage, TemplatesHaveTheTagsOfTheImageOnly) {
   AddImages(1);
   AddImage("b", "image text");
   Prepare();
@@ -134,7 +134,7 @@ TEST_F(WrapperPage, TemplatesKnowTheImageButNoPage) {
   }
 }
 
-TEST_F(WrapperPage, TheHeadCodeTakesNoDescriptions) {
+TEST_F(WrapperPage, TheHeadCodeHasNoDescriptionTags) {
   AddImage("b", "image text");
   Prepare();
   project.ImagePageHeadCode = "head <VANTORIUM_IMAGE_INDEX>/<VANTORIUM_IMAGE_DESCRIPTION>";

@@ -22,7 +22,7 @@ JHUFF_TBL SomeTable() {
   return TableOf({1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0}, {0x00, 0x01, 0x23, 0xF0, 0x0A});
 }
 
-// The bytes of bits given as text, and padding for reads beyond the end.
+// The bytes of bits given as text, padded for reads beyond the end.
 std::vector<std::uint8_t> BytesOf(const std::string& bits) {
   std::vector<std::uint8_t> bytes(bits.size() / 8 + 64);
   for (std::size_t i = 0; i < bits.size(); ++i) {
@@ -48,7 +48,7 @@ std::string Times(int count, const std::string& text) {
   return all;
 }
 
-TEST(HuffmanTables, ASymbolComesWithItsValue) {
+TEST(HuffmanTables, ASymbolIsDecodedWithItsValue) {
   HuffmanCode code;
   ASSERT_TRUE(code.Set(SomeTable()));
   const ValueTable table(code);
@@ -70,7 +70,7 @@ TEST(HuffmanTables, ASymbolComesWithItsValue) {
   EXPECT_EQ(read("1111111"), (std::array{0, static_cast<int>(kBadCode), 0}));
 }
 
-TEST(HuffmanTables, ABlockIsPassedUpToItsEnd) {
+TEST(HuffmanTables, ABlockIsSkippedToItsEnd) {
   EXPECT_EQ(Skipped(SomeTable(), "0111"), std::pair(kEndOfBlock, std::ptrdiff_t{1}));
   EXPECT_EQ(Skipped(SomeTable(), Times(5, "101") + "0"), std::pair(kEndOfBlock + 5, std::ptrdiff_t{16}));
   EXPECT_EQ(Skipped(SomeTable(),
@@ -79,7 +79,7 @@ TEST(HuffmanTables, ABlockIsPassedUpToItsEnd) {
             std::pair(kEndOfBlock + 1, std::ptrdiff_t{26}));
 }
 
-TEST(HuffmanTables, ARunWithoutAValueEndsTheBlockUnlessItIsOfSixteenZeros) {
+TEST(HuffmanTables, ARunWithoutAValueEndsTheBlockUnlessItIsSixteenZeros) {
   for (const int symbol : {0x00, 0x10, 0x70, 0xE0}) {
     const JHUFF_TBL table = TableOf({1, 1}, {symbol, 0xF0});
     EXPECT_EQ(Skipped(table, "011"), std::pair(kEndOfBlock, std::ptrdiff_t{1})) << symbol;
@@ -94,7 +94,7 @@ TEST(HuffmanTables, ABlockWithoutEndOfBlockStopsAtItsLastCoefficient) {
   }
 }
 
-TEST(HuffmanTables, ABlockThatRunsOverOrHasABadCodeDoesNotEndWell) {
+TEST(HuffmanTables, ABlockWithTooManyCoefficientsOrABadCodeFails) {
   EXPECT_FALSE(EndsWell(Skipped(SomeTable(), Times(4, "1110")).first));
   EXPECT_FALSE(EndsWell(Skipped(SomeTable(), Times(62, "101") + "110000").first));
   EXPECT_FALSE(EndsWell(Skipped(SomeTable(), "1111111").first));
@@ -109,7 +109,7 @@ TEST(HuffmanTables, CodesThatDoNotFitAreRefused) {
   EXPECT_FALSE(code.Set(TableOf({0, 5}, {1, 2, 3, 4, 5})));
 }
 
-TEST(HuffmanTables, ATableTellsOfItsLargestSymbol) {
+TEST(HuffmanTables, ATableReportsItsLargestSymbol) {
   HuffmanCode code;
   ASSERT_TRUE(code.Set(TableOf({1, 1}, {3, 15})));
   EXPECT_FALSE(code.HasSymbolsAbove(15));

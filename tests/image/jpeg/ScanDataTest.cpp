@@ -26,7 +26,7 @@ std::string Known(const ScanData& data) {
   return {data.Begin(), data.End()};
 }
 
-TEST_F(ScanDataTest, StuffedZerosAreGoneAndTheSegmentEndsAtItsMarker) {
+TEST_F(ScanDataTest, StuffedZerosAreRemovedAndTheSegmentEndsAtItsMarker) {
   const ScanData data = Open(std::string("xxab\xFF\0c\xFF\0\xFF\xD9more", 15), 2);
   EXPECT_TRUE(data.IsWhole());
   EXPECT_EQ(data.Marker(), 0xD9);
@@ -54,7 +54,7 @@ TEST_F(ScanDataTest, SegmentsFollowOneAnother) {
   EXPECT_EQ(data.Marker(), 0xD9);
 }
 
-TEST_F(ScanDataTest, AFileThatEndsHasNoMarkerThere) {
+TEST_F(ScanDataTest, TheEndOfTheFileIsNotAMarker) {
   for (const std::string& bytes : {std::string("abc"), std::string("abc\xFF"), std::string()}) {
     const ScanData data = Open(bytes);
     EXPECT_TRUE(data.IsWhole());
@@ -64,7 +64,7 @@ TEST_F(ScanDataTest, AFileThatEndsHasNoMarkerThere) {
 }
 
 // There are bytes FF at the ends of the pieces in which the file is read.
-TEST_F(ScanDataTest, LongDataComeInPiecesWithoutALoss) {
+TEST_F(ScanDataTest, LongDataAreReadInPiecesWithoutLoss) {
   std::string stuffed;
   std::string plain;
   for (int i = 0; plain.size() < 300000; ++i) {

@@ -45,7 +45,7 @@ class SequentialDecoderTest : public ::testing::Test {
 };
 
 // Another version of libjpeg-turbo may decode differently, so no size is left out.
-TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysInEverySizeAndSampling) {
+TEST_F(SequentialDecoderTest, WantedPixelsEqualLibjpegTurbosInEverySizeAndSampling) {
   constexpr int kMostSide = 40;
   unsigned number = 0;
   for (JpegRecipe recipe : UsualKinds()) {
@@ -58,7 +58,7 @@ TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysInEverySizeAndSampling) 
 }
 
 // Rows of blocks meet below row 15, also those of halved chroma. The bottom row is always wanted.
-TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysForEveryChoiceOfRowsWhereBlocksMeet) {
+TEST_F(SequentialDecoderTest, WantedPixelsEqualLibjpegTurbosForEveryChoiceOfRowsWhereBlocksMeet) {
   constexpr int kHeight = 21;
   constexpr std::size_t kFirst = 11;
   constexpr std::size_t kChoices = 9;
@@ -78,7 +78,7 @@ TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysForEveryChoiceOfRowsWher
   }
 }
 
-TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysInEveryQuality) {
+TEST_F(SequentialDecoderTest, WantedPixelsEqualLibjpegTurbosInEveryQuality) {
   for (JpegRecipe recipe : UsualKinds()) {
     for (recipe.quality = 1; recipe.quality <= 100; ++recipe.quality) {
       for (const bool ownCodes : {false, true}) {
@@ -89,7 +89,7 @@ TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysInEveryQuality) {
   }
 }
 
-TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysWithRestartMarkers) {
+TEST_F(SequentialDecoderTest, WantedPixelsEqualLibjpegTurbosWithRestartMarkers) {
   for (JpegRecipe recipe : UsualKinds()) {
     recipe.width = 70;
     recipe.height = 200;
@@ -101,7 +101,7 @@ TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysWithRestartMarkers) {
 }
 
 // The pictures have all colors. The segments between restart markers are longer than a piece read from the file.
-TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysInLargeAndRoughPictures) {
+TEST_F(SequentialDecoderTest, WantedPixelsEqualLibjpegTurbosInLargeAndRoughPictures) {
   std::mt19937 generator(5);
   const auto soft = [&](int x, int y) {
     const auto channel = [&](int value) {
@@ -121,7 +121,7 @@ TEST_F(SequentialDecoderTest, WantedPixelsAreTheLibrarysInLargeAndRoughPictures)
   }
 }
 
-TEST_F(SequentialDecoderTest, OtherKindsOfFilesAreLeftToTheLibrary) {
+TEST_F(SequentialDecoderTest, OtherKindsOfFilesAreLeftToLibjpegTurbo) {
   for (const auto& recipe : fakes::EveryKindOfJpeg()) {
     const bool usualColors = recipe.colors == JpegColors::Grey || recipe.colors == JpegColors::YCbCr;
     const bool usualSampling = recipe.horizontal <= 2 && recipe.vertical <= recipe.horizontal;
@@ -131,7 +131,7 @@ TEST_F(SequentialDecoderTest, OtherKindsOfFilesAreLeftToTheLibrary) {
   }
 }
 
-TEST_F(SequentialDecoderTest, HalfHeightAndNarrowChromaAreLeftToTheLibraryInEverySize) {
+TEST_F(SequentialDecoderTest, HalfHeightAndNarrowChromaAreLeftToLibjpegTurboInEverySize) {
   for (const bool narrow : {false, true}) {
     JpegRecipe recipe = {.horizontal = narrow ? 2 : 1, .vertical = 2};
     for (recipe.height = 1; recipe.height <= 40; ++recipe.height) {
@@ -140,7 +140,7 @@ TEST_F(SequentialDecoderTest, HalfHeightAndNarrowChromaAreLeftToTheLibraryInEver
   }
 }
 
-TEST_F(SequentialDecoderTest, StepsOfSixteenBitsAreLeftToTheLibrary) {
+TEST_F(SequentialDecoderTest, QuantizationStepsOfSixteenBitsAreLeftToLibjpegTurbo) {
   for (JpegRecipe recipe : UsualKinds()) {
     recipe.quality = 2;
     recipe.wideSteps = true;

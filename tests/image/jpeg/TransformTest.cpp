@@ -25,7 +25,7 @@ Block RandomBlock(std::mt19937& generator, int count, int sum) {
   return block;
 }
 
-TEST(Transform, TheProcessorsRoutineEqualsThePlainOneUpToTheLargestSum) {
+TEST(Transform, TheSIMDRoutineEqualsThePlainOneUpToTheLargestSum) {
   std::mt19937 generator(1);
   for (const int sum : {8, 100, 1000, kTameSum, 4000, kMostSum}) {
     for (const int count : {1, 2, 5, 20, 64}) {
@@ -53,7 +53,7 @@ TEST(Transform, BlocksUpToTheTameSumAreTame) {
   }
 }
 
-TEST(Transform, SamplesFarOffTheirRangeAreNotTame) {
+TEST(Transform, SamplesFarOutsideTheirRangeAreNotTame) {
   for (const int sign : {1, -1}) {
     Block block = {};
     block.values[kPlaceInBlock[0]] = static_cast<std::int16_t>(sign * 4300);
@@ -87,7 +87,7 @@ TEST(Transform, TheFirstCoefficientIsEightTimesTheMeanOfTheSamples) {
   for (std::size_t i = 0; i < samples.size(); ++i) EXPECT_EQ(samples[i], i % kStride < 8 ? 178 : 0) << i;
 }
 
-TEST(Transform, EveryPlaceInABlockIsThatOfOneCoefficient) {
+TEST(Transform, EachCoefficientHasItsPlaceInTheBlock) {
   for (auto places : {kPlaceInBlock, kRowMajorPlace}) {
     std::sort(places.begin(), places.end());
     std::array<std::uint8_t, 64> all = {};

@@ -23,7 +23,7 @@ class MemoryFile {
   env::FileDescriptor descriptor_;
 };
 
-/// The wanted rows of a picture by their number; the bytes of unwanted pixels are 0.
+/// The wanted rows of a picture by row number; the bytes of unwanted pixels are 0.
 using WantedRows = std::map<std::size_t, std::vector<std::uint8_t>>;
 
 /// Marks random pixels, always including the bottom row. `number` 0 marks all, higher ones mark fewer.
@@ -35,7 +35,7 @@ using WantedRows = std::map<std::size_t, std::vector<std::uint8_t>>;
 /// The rows as JPEGDecoder reads them after Want.
 [[nodiscard]] std::optional<WantedRows> ReadAsWanted(const std::filesystem::path& file,
                                                      const image::WantedPixels& wanted);
-/// The rows as SequentialDecoder alone reads them. Empty if it does not take the file or gives up.
+/// The rows as SequentialDecoder alone reads them. Empty if it refuses the file or gives up.
 [[nodiscard]] std::optional<WantedRows> ReadAlone(const std::filesystem::path& file, const image::WantedPixels& wanted);
 
 }  // namespace vantorium::fakes

@@ -1,4 +1,4 @@
-#include "tests/fakes/RecordingDesktop.h"
+#include "tests/fakes/RecordingShell.h"
 #include "tests/ui/FormDriver.h"
 #include "ui/dialogs/frmFind.h"
 #include "ui/dialogs/frmInvalidImage.h"
@@ -23,7 +23,7 @@ using fakes::DriveModal;
 using fakes::Find;
 using fakes::Type;
 
-TEST(frmFind, HasItsTextsAndLooksForATextOnly) {
+TEST(frmFind, HasItsTextsAndCannotSearchForAnEmptyText) {
   FindModel model;
   frmFind dialog(model);
   dialog.show();
@@ -41,7 +41,7 @@ TEST(frmFind, HasItsTextsAndLooksForATextOnly) {
   EXPECT_FALSE(Find<QPushButton>(dialog, "OKButton").isEnabled());
 }
 
-TEST(frmFind, BlanksThatAreTypedOrPastedBecomeUnderscores) {
+TEST(frmFind, TypedAndPastedBlanksBecomeUnderscores) {
   FindModel model;
   frmFind dialog(model);
   dialog.show();
@@ -58,7 +58,7 @@ TEST(frmFind, BlanksThatAreTypedOrPastedBecomeUnderscores) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(frmFind, ALineThatIsPastedLosesItsEnd) {
+TEST(frmFind, APastedLineLosesItsEnd) {
   FindModel model;
   frmFind dialog(model);
   dialog.show();
@@ -72,7 +72,7 @@ TEST(frmFind, ALineThatIsPastedLosesItsEnd) {
   EXPECT_EQ(model.Title(), "amy_photo.jpgb");
 }
 
-TEST(frmFind, OpensWithTheLastTextSelectedAndEscapeGivesNone) {
+TEST(frmFind, OpensWithTheLastTextSelectedAndEscapeReturnsNothing) {
   FindModel model;
   model.SetTitle("last");
   model.Accept();
@@ -88,7 +88,7 @@ TEST(frmFind, OpensWithTheLastTextSelectedAndEscapeGivesNone) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(frmRename, HasItsTextsAndAcceptsATextOnly) {
+TEST(frmRename, HasItsTextsAndCannotAcceptAnEmptyText) {
   RenameModel model;
   frmRename dialog(model);
   dialog.show();
@@ -106,7 +106,7 @@ TEST(frmRename, HasItsTextsAndAcceptsATextOnly) {
   EXPECT_EQ(model.Scope(), core::RenameScope::AllImages);
 }
 
-TEST(frmRename, CancelAndEscapeChangeNoName) {
+TEST(frmRename, CancelAndEscapeChangeNothing) {
   for (const bool escape : {true, false}) {
     RenameModel model;
     frmRename dialog(model);
@@ -119,7 +119,7 @@ TEST(frmRename, CancelAndEscapeChangeNoName) {
 }
 
 TEST(frmInvalidImage, EachAnswerHasItsNumber) {
-  fakes::RecordingDesktop shell;
+  fakes::RecordingShell shell;
   frmInvalidImage dialog(shell);
   EXPECT_EQ(dialog.windowTitle(), "Corrupted Image");
   EXPECT_EQ(Find<QLabel>(dialog, "lblInfo").text(), "The following Image appears to be corrupted:");
@@ -139,14 +139,14 @@ TEST(frmInvalidImage, EachAnswerHasItsNumber) {
   EXPECT_EQ(shell.beeps, std::vector<env::BeepKind>(3, env::BeepKind::Warning));
 }
 
-TEST(frmInvalidImage, HasAnIconThatWarns) {
-  fakes::RecordingDesktop shell;
+TEST(frmInvalidImage, HasAWarningIcon) {
+  fakes::RecordingShell shell;
   frmInvalidImage question(shell, nullptr);
   EXPECT_FALSE(Find<QLabel>(question, "lblIcon").pixmap().isNull());
 }
 
-TEST(frmInvalidImage, ALongNameMakesItNoWider) {
-  fakes::RecordingDesktop shell;
+TEST(frmInvalidImage, ALongNameDoesNotWidenIt) {
+  fakes::RecordingShell shell;
   frmInvalidImage question(shell);
   int width = 0;
   for (const std::string& name : {std::string("a.jpg"), std::string(255, 'W'), std::string(255, '_')}) {
@@ -161,7 +161,7 @@ TEST(frmInvalidImage, ALongNameMakesItNoWider) {
 }
 
 TEST(frmInvalidImage, EscapeAndEnterIgnore) {
-  fakes::RecordingDesktop shell;
+  fakes::RecordingShell shell;
   frmInvalidImage dialog(shell);
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
     InvalidImageAnswer answer = InvalidImageAnswer::Remove;
@@ -179,12 +179,12 @@ TEST(frmAddFoldersProcess, ShowsTheFolderAndTheCount) {
   EXPECT_EQ(Find<QPushButton>(dialog, "OKButton").text(), "&Stop");
   EXPECT_TRUE(Find<QLabel>(dialog, "lblFolder").text().startsWith("Processing: C:\\photos\\xxx"));
   EXPECT_EQ(Find<QLabel>(dialog, "lblCount").text(), "12 Image(s)");
-  EXPECT_LT(dialog.width(), 600) << "a long folder does not make the window longer";
+  EXPECT_LT(dialog.width(), 600) << "a long folder does not widen the window";
   dialog.Close();
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(frmAddFoldersProcess, StopEscapeAndTheTitleBarCancelUntilItIsOpenedAgain) {
+TEST(frmAddFoldersProcess, StopEscapeAndTheTitleBarCancelOneWalk) {
   for (const int how : {0, 1, 2}) {
     frmAddFoldersProcess dialog;
     dialog.Open();
@@ -193,13 +193,13 @@ TEST(frmAddFoldersProcess, StopEscapeAndTheTitleBarCancelUntilItIsOpenedAgain) {
     if (how == 1) QTest::keyClick(&dialog, Qt::Key_Escape);
     if (how == 2) dialog.close();
     EXPECT_TRUE(dialog.Cancelled) << how;
-    EXPECT_TRUE(dialog.isVisible()) << "until the walk closes it";
+    EXPECT_TRUE(dialog.isVisible()) << "the walk closes it";
     dialog.Open();
     EXPECT_FALSE(dialog.Cancelled);
   }
 }
 
-TEST(frmShuffle, ShowsHowFarItIsAndCanBeStopped) {
+TEST(frmShuffle, ShowsItsProgressAndCanBeStopped) {
   frmShuffle dialog;
   dialog.Open();
   EXPECT_TRUE(dialog.isVisible() && dialog.isModal());
@@ -218,14 +218,14 @@ TEST(frmShuffle, ShowsHowFarItIsAndCanBeStopped) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(frmShuffle, EscapeAndTheTitleBarStopItUntilItIsOpenedAgain) {
+TEST(frmShuffle, EscapeAndTheTitleBarStopOneShuffle) {
   frmShuffle dialog;
   for (const bool escape : {true, false}) {
     dialog.Open();
     EXPECT_FALSE(dialog.StopRequested());
     escape ? QTest::keyClick(&dialog, Qt::Key_Escape) : static_cast<void>(dialog.close());
     EXPECT_TRUE(dialog.StopRequested()) << escape;
-    EXPECT_TRUE(dialog.isVisible()) << "until the shuffle closes it";
+    EXPECT_TRUE(dialog.isVisible()) << "the shuffle closes it";
   }
 }
 

@@ -32,7 +32,7 @@ void Drive(const std::function<void(QWidget&)>& drive) {
   DriveModal([] { frmAbout({3, 0, 17}).exec(); }, drive);
 }
 
-TEST(AboutForm, TellsTheVersion) {
+TEST(AboutForm, ShowsTheVersion) {
   Drive([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "About Vantorium");
     EXPECT_EQ(Find<QLabel>(form, "lblVersion").text(), "Version 3.0 (Build 17)");
@@ -51,7 +51,7 @@ TEST(AboutForm, OKAndEscapeCloseIt) {
   });
 }
 
-TEST(AboutForm, SaysWhatTheProgramIs) {
+TEST(AboutForm, DescribesTheProgram) {
   Drive([&](QWidget& form) {
     EXPECT_EQ(Find<QLabel>(form, "lblProduct").text(), "Vantorium");
     EXPECT_EQ(Find<QLabel>(form, "lblPurpose").text(), "Web galleries of your photographs");
@@ -68,7 +68,7 @@ TEST(AboutForm, AClickOnTheAddressOpensIt) {
   EXPECT_EQ(addresses.opened, QList<QUrl>{QUrl("https://vantorium.example/")});
 }
 
-TEST(AboutForm, TheAddressIsOpenedWithTheKeyboardToo) {
+TEST(AboutForm, TheAddressCanBeOpenedWithTheKeyboard) {
   Addresses addresses;
   Drive([&](QWidget& form) {
     auto& label = Find<QLabel>(form, "Label4");

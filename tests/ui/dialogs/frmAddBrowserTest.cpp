@@ -19,7 +19,7 @@ using fakes::Type;
 
 class AddBrowserForm : public testing::Test {
  protected:
-  /// The entry's texts after the dialog, separated by "|" and preceded by "cancelled " if it was cancelled.
+  /// The texts of the entry after the dialog, separated by "|" and after "cancelled " if the dialog was cancelled.
   std::string Edit(const env::Browser& texts, const std::function<void(QWidget&)>& drive) {
     BrowserEntry entry("Add Browser", texts);
     entry.ComeUp();
@@ -32,7 +32,7 @@ class AddBrowserForm : public testing::Test {
   fakes::ScriptedFileBrowser files;
 };
 
-TEST_F(AddBrowserForm, OKNeedsBothTexts) {
+TEST_F(AddBrowserForm, OKRequiresBothTexts) {
   Edit({}, [](QWidget& form) {
     auto& ok = Find<QPushButton>(form, "OKButton");
     EXPECT_FALSE(ok.isEnabled());
@@ -45,7 +45,7 @@ TEST_F(AddBrowserForm, OKNeedsBothTexts) {
   });
 }
 
-TEST_F(AddBrowserForm, EnterTakesTheTextsAndEscapeCancels) {
+TEST_F(AddBrowserForm, EnterAcceptsTheTextsAndEscapeCancels) {
   const auto type = [](QWidget& form) {
     Type(Find<QLineEdit>(form, "browserName"), "Fox");
     Type(Find<QLineEdit>(form, "browserLocation"), "fox --new-window");
@@ -83,12 +83,12 @@ TEST_F(AddBrowserForm, ANativePathBecomesPathTextWhenItsBoxIsLeft) {
             "a|C:\\fox");
 }
 
-TEST_F(AddBrowserForm, BrowseTakesAnExecutableAndEnablesOK) {
+TEST_F(AddBrowserForm, BrowseChoosesAnExecutableAndEnablesOK) {
   files.answer.result = "Z:\\usr\\bin\\fox";
   Edit({}, [](QWidget& form) {
     Click(form, "btnBrowse");
     EXPECT_EQ(Find<QLineEdit>(form, "browserLocation").text(), "Z:\\usr\\bin\\fox");
-    EXPECT_TRUE(Find<QPushButton>(form, "OKButton").isEnabled()) << "whatever the name is";
+    EXPECT_TRUE(Find<QPushButton>(form, "OKButton").isEnabled()) << "with any name";
     EXPECT_TRUE(Find<QPushButton>(form, "OKButton").hasFocus());
   });
   ASSERT_EQ(files.requests.size(), 1U);
@@ -107,7 +107,7 @@ TEST_F(AddBrowserForm, ACancelledBrowseChangesNothing) {
   });
 }
 
-TEST_F(AddBrowserForm, ACommandLineStaysAsItIsTyped) {
+TEST_F(AddBrowserForm, ACommandLineStaysAsTyped) {
   EXPECT_EQ(Edit({"a", ""},
                  [](QWidget& form) {
                    Type(Find<QLineEdit>(form, "browserLocation"), "/usr/bin/fox --new-window");
@@ -116,7 +116,7 @@ TEST_F(AddBrowserForm, ACommandLineStaysAsItIsTyped) {
             "a|/usr/bin/fox --new-window");
 }
 
-TEST_F(AddBrowserForm, ATextThatIsPastedWithLineBreaksIsOneLine) {
+TEST_F(AddBrowserForm, LineBreaksOfAPastedTextAreRemoved) {
   EXPECT_EQ(Edit({},
                  [](QWidget& form) {
                    QApplication::clipboard()->setText("Fire\r\nfox\n");
@@ -128,11 +128,11 @@ TEST_F(AddBrowserForm, ATextThatIsPastedWithLineBreaksIsOneLine) {
             "Firefox|C:\\fox");
 }
 
-TEST_F(AddBrowserForm, WithoutDrivesALocationIsShownAsTheSystemWritesIt) {
+TEST_F(AddBrowserForm, WithoutDrivesALocationIsShownAsANativePath) {
   paths = env::PathMap({}, "/home/me");
   const auto accept = [](QWidget& form) { Click(form, "OKButton"); };
   for (const char* location : {"Z:\\usr\\bin\\fox", "Z:\\home\\me\\fox", "fox --new", "D:\\fox.exe"}) {
-    EXPECT_EQ(Edit({"a", location}, accept), std::string("a|") + location) << "only looked at";
+    EXPECT_EQ(Edit({"a", location}, accept), std::string("a|") + location) << "not edited";
   }
   const auto type = [](const char* typed, const char* shown) {
     return [=](QWidget& form) {

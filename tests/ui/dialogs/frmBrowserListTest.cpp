@@ -27,7 +27,7 @@ class BrowserListForm : public testing::Test {
     DriveModal([&] { frmBrowserList(list, paths, nullptr).exec(); }, drive);
   }
 
-  /// The shown entries, each in brackets, the selected ones with a star.
+  /// The shown entries, each in brackets; selected ones have a star.
   static std::string Shown(QWidget& form) {
     auto& view = Find<QTreeWidget>(form, "lvBrowsers");
     std::string shown;
@@ -61,7 +61,7 @@ TEST_F(BrowserListForm, ShowsNamesAndLocationsInTwoColumns) {
   });
 }
 
-TEST_F(BrowserListForm, AddAsksForABrowserAndPutsItOnTop) {
+TEST_F(BrowserListForm, AddAsksForABrowserAndAddsItOnTop) {
   Drive([](QWidget& form) {
     DriveModal([&] { Click(form, "btnAddBrowser"); },
                [&](QWidget& entry) {
@@ -78,7 +78,7 @@ TEST_F(BrowserListForm, AddAsksForABrowserAndPutsItOnTop) {
   EXPECT_EQ(list.Entries().size(), 3U) << "Escape closes the list and keeps what was done";
 }
 
-TEST_F(BrowserListForm, ADuplicateNameIsAskedForAgainWithTheSameTexts) {
+TEST_F(BrowserListForm, ForADuplicateNameTheDialogOpensAgainWithTheSameTexts) {
   Drive([this](QWidget& form) {
     QTimer secondTime;
     secondTime.setInterval(5);
@@ -106,7 +106,7 @@ TEST_F(BrowserListForm, ADuplicateNameIsAskedForAgainWithTheSameTexts) {
                "A Browser with this Name already exists in the Browser List. Please rename it.");
 }
 
-TEST_F(BrowserListForm, EditNeedsASelection) {
+TEST_F(BrowserListForm, EditRequiresASelection) {
   Drive([](QWidget& form) { Click(form, "btnEditBrowser"); });
   ExpectOneBox(boxes, "No Browser selected", "Please select one of the Browsers in the List first.");
 }
@@ -127,7 +127,7 @@ TEST_F(BrowserListForm, EditChangesTheLocationOfTheSelectedEntry) {
   });
 }
 
-TEST_F(BrowserListForm, ADoubleClickEditsAndAnotherNameIsANewEntry) {
+TEST_F(BrowserListForm, ADoubleClickEditsAndAnotherNameMakesANewEntry) {
   Drive([](QWidget& form) {
     auto& view = Find<QTreeWidget>(form, "lvBrowsers");
     ClickEntry(form, 0);
@@ -143,7 +143,7 @@ TEST_F(BrowserListForm, ADoubleClickEditsAndAnotherNameIsANewEntry) {
   });
 }
 
-TEST_F(BrowserListForm, RemoveSelectsTheNextEntryByTheKeyboardToo) {
+TEST_F(BrowserListForm, RemoveSelectsTheNextEntryAlsoWithTheKeyboard) {
   Drive([](QWidget& form) {
     auto& view = Find<QTreeWidget>(form, "lvBrowsers");
     view.setFocus();
@@ -175,7 +175,7 @@ TEST_F(BrowserListForm, TheArrowKeysSelectTheOnlyRow) {
   }
 }
 
-TEST_F(BrowserListForm, AnArrowKeySelectsTheRowThatItLeadsTo) {
+TEST_F(BrowserListForm, AnArrowKeySelectsTheRowThatItMovesTo) {
   Drive([](QWidget& form) {
     auto& view = Find<QTreeWidget>(form, "lvBrowsers");
     view.setFocus();
@@ -188,7 +188,7 @@ TEST_F(BrowserListForm, AnArrowKeySelectsTheRowThatItLeadsTo) {
   });
 }
 
-TEST_F(BrowserListForm, TheTipsHaveWhatTheColumnsCut) {
+TEST_F(BrowserListForm, ToolTipsHaveTheFullTextsOfTheColumns) {
   BrowserList long_({{"<i>" + std::string(90, 'n'), "Z:\\bin\\a"}}, dialog, boxes);
   DriveModal([&] { frmBrowserList(long_, paths).exec(); },
              [](QWidget& form) {

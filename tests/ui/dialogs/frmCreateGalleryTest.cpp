@@ -1,4 +1,4 @@
-#include "tests/ui/PublishDesk.h"
+#include "tests/ui/CreateGalleryHarness.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -45,12 +45,12 @@ class CreateForm : public testing::Test {
   }
   static QLineEdit::EchoMode Echo(QWidget& form, const char* name) { return Find<QLineEdit>(form, name).echoMode(); }
 
-  fakes::PublishDesk desk;
-  frmCreateGallery form{desk.Parts(), nullptr};
+  fakes::CreateGalleryHarness harness;
+  frmCreateGallery form{harness.Parts(), nullptr};
 };
 
-TEST_F(CreateForm, ComesUpForALocalGalleryWithEverythingChecked) {
-  desk.preferences.CreateFolder = "D:\\web";
+TEST_F(CreateForm, OpensForALocalGalleryWithEverythingChecked) {
+  harness.preferences.CreateFolder = "D:\\web";
   const auto order = Ask([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Create Gallery");
     EXPECT_TRUE(Find<QRadioButton>(form, "optionCreateGallery").isChecked());
@@ -97,7 +97,7 @@ TEST_F(CreateForm, TheCaptionOfTheChosenOptionIsHighlighted) {
   });
 }
 
-TEST_F(CreateForm, OnlyChangesIsOffAndRemovingNeedsIt) {
+TEST_F(CreateForm, OnlyChangesIsOffAndRemovingRequiresIt) {
   auto order = Ask([](QWidget& form) {
     for (const char* name : {"checkOnlyChanges", "checkRemoveUnused"}) {
       EXPECT_FALSE(Find<QCheckBox>(form, name).isChecked()) << name;
@@ -122,7 +122,7 @@ TEST_F(CreateForm, OnlyChangesIsOffAndRemovingNeedsIt) {
   EXPECT_FALSE(order->OnlyChanges || order->RemoveUnused);
 }
 
-TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
+TEST_F(CreateForm, OverwriteRequiresImagesOrThumbnails) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "checkOverwrite");
     Click(form, "checkCreateImages");
@@ -140,7 +140,7 @@ TEST_F(CreateForm, OverwritingNeedsImagesOrThumbnails) {
   EXPECT_FALSE(order->Overwrite);
 }
 
-TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
+TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndCompletedWhenItsBoxIsLeft) {
   const auto order = Ask([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textCreateFilePath");
     Type(box, "D:/web");
@@ -158,7 +158,7 @@ TEST_F(CreateForm, AFilePathIsTypedWithEitherSlashAndFinishedWhenItsBoxIsLeft) {
   EXPECT_EQ(order->OutputFolder + order->IndexFileName, "E:\\index.htm");
 }
 
-TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
+TEST_F(CreateForm, LineEndsAreNotPasted) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     for (const auto& [name, text] : std::vector<std::pair<const char*, const char*>>{
@@ -175,8 +175,8 @@ TEST_F(CreateForm, TheEndOfALineIsNotPasted) {
   EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
 }
 
-TEST_F(CreateForm, TheFileIsBrowsedFor) {
-  desk.fileBrowser.answer.result = "F:\\new\\page.html";
+TEST_F(CreateForm, TheFileCanBeBrowsedFor) {
+  harness.fileBrowser.answer.result = "F:\\new\\page.html";
   const auto order = Ask([](QWidget& form) {
     Click(form, "btnBrowseCreateFilePath");
     EXPECT_EQ(Text(form, "textCreateFilePath"), "F:\\new\\page.html");
@@ -184,10 +184,10 @@ TEST_F(CreateForm, TheFileIsBrowsedFor) {
   });
   ASSERT_TRUE(order);
   EXPECT_EQ(order->OutputFolder + order->IndexFileName, "F:\\new\\page.html");
-  EXPECT_EQ(desk.fileBrowser.requests.size(), 1U);
+  EXPECT_EQ(harness.fileBrowser.requests.size(), 1U);
 }
 
-TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
+TEST_F(CreateForm, AGalleryIsPublishedOnTheChosenServer) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     EXPECT_EQ(Text(form, "textPublishDestination"), "one.example.org/a/b/start.htm");
@@ -217,8 +217,8 @@ TEST_F(CreateForm, AGalleryIsPublishedOnTheServerThatWasChosen) {
   EXPECT_EQ(order->Port, 21);
 }
 
-TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
-  desk.folderBrowser.answers = {"D:\\photos"};
+TEST_F(CreateForm, AFolderIsUploadedToTheChosenServer) {
+  harness.folderBrowser.answers = {"D:\\photos"};
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     EXPECT_EQ(Text(form, "textUploadDestination"), "one.example.org/a/b/");
@@ -243,10 +243,10 @@ TEST_F(CreateForm, AFolderIsUploadedToTheServerThatWasChosen) {
   EXPECT_EQ(order->ServerAddress, "two.example.org");
   EXPECT_EQ(order->Password, "me@home");
   EXPECT_EQ(order->OutputFolder, "D:\\photos\\");
-  EXPECT_NE(desk.ServerText().find("PreferredServer=\"2\""), std::string::npos);
+  EXPECT_NE(harness.ServerText().find("PreferredServer=\"2\""), std::string::npos);
 }
 
-TEST_F(CreateForm, ThePasswordOfAServerThatIsOpenToEveryoneIsSeen) {
+TEST_F(CreateForm, ThePasswordOfAnAnonymousUserIsVisible) {
   Ask([](QWidget& form) {
     EXPECT_EQ(Echo(form, "textPublishPassword"), QLineEdit::Password);
     EXPECT_EQ(Echo(form, "textUploadPassword"), QLineEdit::Password);
@@ -262,7 +262,7 @@ TEST_F(CreateForm, ThePasswordOfAServerThatIsOpenToEveryoneIsSeen) {
   });
 }
 
-TEST_F(CreateForm, ACancelledChoiceOfAServerChangesNothingButThePassword) {
+TEST_F(CreateForm, ACancelledChoiceOfAServerClearsOnlyThePassword) {
   Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     Type(Find<QLineEdit>(form, "textPublishPassword"), "secret");
@@ -276,7 +276,7 @@ TEST_F(CreateForm, ACancelledChoiceOfAServerChangesNothingButThePassword) {
   });
 }
 
-TEST_F(CreateForm, ADestinationEditedByHandEmptiesThePasswords) {
+TEST_F(CreateForm, ATypedDestinationClearsThePasswords) {
   Ask([](QWidget& form) {
     for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
              {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
@@ -290,7 +290,7 @@ TEST_F(CreateForm, ADestinationEditedByHandEmptiesThePasswords) {
   });
 }
 
-TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
+TEST_F(CreateForm, ARunUsesTheTypedDestination) {
   const auto askWith = [this](const char* option, const char* field, const char* destination) {
     return Ask([=](QWidget& form) {
       Click(form, option);
@@ -308,13 +308,13 @@ TEST_F(CreateForm, ARunGoesWhereItsDestinationWasTypedTo) {
   ASSERT_TRUE(upload);
   EXPECT_EQ(upload->ServerAddress, "new.example.org");
   EXPECT_EQ(upload->RemoteFolder, "web/");
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocus) {
+TEST_F(CreateForm, AnInvalidDestinationKeepsTheDialogOpenAndGetsTheFocus) {
   for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
            {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
-    desk.boxes.boxes.clear();
+    harness.boxes.boxes.clear();
     const auto order = Ask([&](QWidget& form) {
       Click(form, option);
       Type(Find<QLineEdit>(form, "textUploadSourceFolder"), "D:\\photos");
@@ -325,13 +325,13 @@ TEST_F(CreateForm, ADestinationThatCannotBeReadKeepsTheDialogOpenAndTakesTheFocu
       EXPECT_TRUE(GetsFocus(form, destination)) << option;
       Click(form, "CancelButton");
     });
-    ASSERT_EQ(desk.boxes.boxes.size(), 1U) << option;
-    EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Destination");
+    ASSERT_EQ(harness.boxes.boxes.size(), 1U) << option;
+    EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Destination");
     EXPECT_FALSE(order);
   }
 }
 
-TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
+TEST_F(CreateForm, AFolderWithoutADriveKeepsTheDialogOpenAndGetsTheFocus) {
   const auto order = Ask([](QWidget& form) {
     Click(form, "optionUploadFolder");
     auto& box = Find<QLineEdit>(form, "textUploadSourceFolder");
@@ -343,25 +343,25 @@ TEST_F(CreateForm, AFolderOnNoDriveKeepsTheDialogOpenAndTakesTheFocus) {
     Type(box, "/home/me/photos");
     QTest::keyClick(&box, Qt::Key_Return);
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Path");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Path");
   ASSERT_TRUE(order);
   EXPECT_EQ(order->OutputFolder, "C:\\photos\\");
 }
 
-TEST_F(CreateForm, AGalleryOfNothingKeepsTheDialogOpen) {
+TEST_F(CreateForm, AGalleryWithNothingCheckedKeepsTheDialogOpen) {
   const auto order = Ask([](QWidget& form) {
     Uncheck(form, {"checkCreateImages", "checkCreateThumbnails", "checkCreateHTMLFiles"});
     Click(form, "OKButton");
     EXPECT_TRUE(form.isVisible());
     Click(form, "CancelButton");
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Cannot create Gallery");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Cannot create Gallery");
   EXPECT_FALSE(order);
 }
 
-TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
+TEST_F(CreateForm, ChoicesAreKeptForTheNextOpeningButNotThePassword) {
   const auto first = Ask([](QWidget& form) {
     Click(form, "optionUploadGallery");
     Click(form, "checkCreateImages");
@@ -370,7 +370,7 @@ TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
   });
   ASSERT_TRUE(first);
   EXPECT_EQ(first->Mode, generation::GenerationMode::Publish);
-  desk.preferences.CreateFolder = "D:\\later\\";
+  harness.preferences.CreateFolder = "D:\\later\\";
   EXPECT_FALSE(Ask([](QWidget& form) {
     EXPECT_TRUE(Find<QRadioButton>(form, "optionUploadGallery").isChecked());
     EXPECT_FALSE(Find<QCheckBox>(form, "checkCreateImages").isChecked());
@@ -380,7 +380,7 @@ TEST_F(CreateForm, TheChoiceStaysFromOneOpeningToTheNextButNotThePassword) {
   }));
 }
 
-TEST_F(CreateForm, EveryMnemonicIsItsOwn) {
+TEST_F(CreateForm, MnemonicsAreUnique) {
   QString taken;
   for (const auto* label : form.findChildren<QLabel*>()) taken += label->text() + ' ';
   for (const auto* button : form.findChildren<QAbstractButton*>()) taken += button->text() + ' ';

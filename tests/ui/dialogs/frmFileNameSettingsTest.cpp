@@ -25,7 +25,7 @@ class FileNameEditing : public testing::Test {
   FieldBinder binder{editor, boxes};
 };
 
-TEST_F(FileNameEditing, ShowsTheNamesAndExtensionsWithoutTheirPoint) {
+TEST_F(FileNameEditing, ShowsNamesAndExtensionsWithoutTheirDot) {
   project.comboThumbnailPageSettingsFileExtension = ".php";
   Drive([](QWidget& form) {
     EXPECT_EQ(form.objectName(), "frmFileNameSettings");
@@ -50,7 +50,7 @@ TEST_F(FileNameEditing, ShowsTheNamesAndExtensionsWithoutTheirPoint) {
   EXPECT_EQ(project.comboThumbnailPageSettingsFileExtension, ".php");
 }
 
-TEST_F(FileNameEditing, CloseStoresAllSix) {
+TEST_F(FileNameEditing, CloseStoresAllSixNames) {
   Drive([](QWidget& form) {
     Type(Find<QWidget>(form, "textImageSettingsSubFolder"), "Images\\Big");
     Type(Find<QWidget>(form, "textThumbnailImageSettingsSubFolder"), "");
@@ -69,7 +69,7 @@ TEST_F(FileNameEditing, CloseStoresAllSix) {
   EXPECT_EQ(project.comboImageWrapperSettingsFileExtension, ".html");
 }
 
-TEST_F(FileNameEditing, AChangeMarksTheProjectAtOnceAndIsStoredOnClosing) {
+TEST_F(FileNameEditing, AChangeMarksTheProjectAsModifiedAtOnceAndIsStoredOnClosing) {
   Drive([this](QWidget& form) {
     EXPECT_FALSE(modified);
     QTest::keyClicks(&Find<QWidget>(form, "textImageSettingsSubFolder"), "2");
@@ -79,7 +79,7 @@ TEST_F(FileNameEditing, AChangeMarksTheProjectAtOnceAndIsStoredOnClosing) {
   EXPECT_EQ(project.textImageSettingsSubFolder, "Images2");
 }
 
-TEST_F(FileNameEditing, NoWayLeadsOutWithoutStoring) {
+TEST_F(FileNameEditing, EveryWayOfClosingStoresTheNames) {
   Drive([](QWidget& form) {
     Type(Find<QWidget>(form, "textThumbnailPageSettingsFilePrefix"), "escaped");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
@@ -93,7 +93,7 @@ TEST_F(FileNameEditing, NoWayLeadsOutWithoutStoring) {
   EXPECT_EQ(project.textThumbnailPageSettingsFilePrefix, "closed");
 }
 
-TEST_F(FileNameEditing, TypedTextIsNotCompleted) {
+TEST_F(FileNameEditing, TypedTextIsNotAutocompleted) {
   Drive([](QWidget& form) {
     Type(Find<QWidget>(form, "comboImageWrapperSettingsFileExtension"), "HT");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -102,7 +102,7 @@ TEST_F(FileNameEditing, TypedTextIsNotCompleted) {
   EXPECT_EQ(project.comboImageWrapperSettingsFileExtension, ".HT");
 }
 
-TEST_F(FileNameEditing, TheTabKeyGoesThroughTheForm) {
+TEST_F(FileNameEditing, TheTabKeyVisitsTheControlsInOrder) {
   Drive([](QWidget&) {
     for (const char* name :
          {"textImageSettingsSubFolder", "comboImageWrapperSettingsFileExtension", "textThumbnailImageSettingsSubFolder",

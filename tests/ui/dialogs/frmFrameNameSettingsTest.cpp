@@ -62,14 +62,14 @@ TEST_F(FrameNameEditing, EachChangeIsStoredAtOnce) {
   EXPECT_EQ(project.comboImageFrameName, "");
 }
 
-TEST_F(FrameNameEditing, TheArrowKeysGoOnFromTheNameInTheList) {
+TEST_F(FrameNameEditing, TheArrowKeysContinueFromTheNameInTheList) {
   Drive([this](QWidget& form) {
     QTest::keyClick(&Find<QComboBox>(form, "comboImageFrameName"), Qt::Key_Down);
     EXPECT_EQ(project.comboImageFrameName, "_top");
   });
 }
 
-TEST_F(FrameNameEditing, TheTabKeyGoesThroughTheForm) {
+TEST_F(FrameNameEditing, TheTabKeyVisitsTheControlsInOrder) {
   Drive([](QWidget&) {
     for (const char* name : {"textThumbnailFrameName", "comboImageFrameName", "btnClose"}) {
       EXPECT_EQ(QApplication::focusWidget()->objectName(), name);

@@ -38,7 +38,7 @@ TEST_F(CodeEditing, OpensWithTheTextAndTheFocusOnIt) {
   });
 }
 
-TEST_F(CodeEditing, GivesBackWhatWasTypedWithCrLf) {
+TEST_F(CodeEditing, ReturnsTheTypedTextWithCrLf) {
   const std::string edited = Edit("old", [](QWidget& form) {
     Type(Find<QPlainTextEdit>(form, "textHTML"), "<b>");
     QTest::keyClick(&Find<QPlainTextEdit>(form, "textHTML"), Qt::Key_Return);
@@ -49,14 +49,14 @@ TEST_F(CodeEditing, GivesBackWhatWasTypedWithCrLf) {
   EXPECT_EQ(edited, "<b>\r\nmore\r\n");
 }
 
-TEST_F(CodeEditing, AnUntouchedTextComesBackToTheByte) {
+TEST_F(CodeEditing, AnUneditedTextIsReturnedByteByByte) {
   for (const char* text : {"", "a\u2028b\u2029c", "\uFDD0", "a\nb", "a\r\nb\r\n", "a\rb", "Zürich 山 \U0001F5FB",
                            "no\u00A0break", "tab\there", "<a href=\"&amp;\">"}) {
     EXPECT_EQ(Edit(text, [](QWidget& form) { Click(form, "btnClose"); }), text);
   }
 }
 
-TEST_F(CodeEditing, AnEditKeepsBlanksThatDoNotBreak) {
+TEST_F(CodeEditing, AnEditKeepsNonBreakingSpaces) {
   const std::string edited = Edit("no\u00A0break", [](QWidget& form) {
     QTest::keyClick(&Find<QPlainTextEdit>(form, "textHTML"), Qt::Key_End);
     QTest::keyClicks(&Find<QPlainTextEdit>(form, "textHTML"), "!");
@@ -82,7 +82,7 @@ TEST_F(CodeEditing, CloseRefusesTheEndOfASectionAndSelectsIt) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(CodeEditing, TheTitleBarLetsTheTextOutUnchecked) {
+TEST_F(CodeEditing, TheTitleBarReturnsTheTextUnchecked) {
   EXPECT_EQ(Edit("x",
                  [](QWidget& form) {
                    Type(Find<QPlainTextEdit>(form, "textHTML"), "]]>");
@@ -93,7 +93,7 @@ TEST_F(CodeEditing, TheTitleBarLetsTheTextOutUnchecked) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(CodeEditing, EscapeDoesAsTheButtonDoes) {
+TEST_F(CodeEditing, EscapeDoesTheSameAsTheButton) {
   const std::string edited = Edit("x", [this](QWidget& form) {
     auto& box = Find<QPlainTextEdit>(form, "textHTML");
     Type(box, "y]]>z");
@@ -110,7 +110,7 @@ TEST_F(CodeEditing, EscapeDoesAsTheButtonDoes) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(CodeEditing, TheMenuPutsATagIntoTheText) {
+TEST_F(CodeEditing, TheMenuInsertsATagIntoTheText) {
   const std::string edited = Edit("old", [](QWidget& form) {
     EXPECT_NE(form.findChild<QObject*>("ucPopupMenu"), nullptr);
     QWidget& inside = *Find<QPlainTextEdit>(form, "textHTML").viewport();
@@ -122,7 +122,7 @@ TEST_F(CodeEditing, TheMenuPutsATagIntoTheText) {
   EXPECT_EQ(edited, "<VANTORIUM_GALLERY_TITLE>old");
 }
 
-TEST_F(CodeEditing, TheKeyboardAloneIsEnough) {
+TEST_F(CodeEditing, TheDialogCanBeUsedWithTheKeyboardAlone) {
   const std::string edited = Edit("", [](QWidget& form) {
     QTest::keyClicks(QApplication::focusWidget(), "typed");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

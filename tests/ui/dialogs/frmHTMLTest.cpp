@@ -42,7 +42,7 @@ TEST_F(HeaderAndFooterEditing, OpensWithBothTextsAndTheFocusOnTheHeader) {
   });
 }
 
-TEST_F(HeaderAndFooterEditing, GivesBackBothTexts) {
+TEST_F(HeaderAndFooterEditing, ReturnsBothTexts) {
   const HeaderAndFooter edited = Edit({"a\nb", "c"}, [](QWidget& form) {
     Type(Find<QPlainTextEdit>(form, "textFooter"), "x]y>z");
     Click(form, "btnClose");
@@ -51,7 +51,7 @@ TEST_F(HeaderAndFooterEditing, GivesBackBothTexts) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(HeaderAndFooterEditing, AFooterThatBeginsWithTheForbiddenCharactersKeepsTheDialog) {
+TEST_F(HeaderAndFooterEditing, AFooterThatBeginsWithTheForbiddenCharactersKeepsTheDialogOpen) {
   Edit({"a", "]]>b"}, [this](QWidget& form) {
     Click(form, "btnClose");
     EXPECT_TRUE(form.isVisible());
@@ -63,7 +63,7 @@ TEST_F(HeaderAndFooterEditing, AFooterThatBeginsWithTheForbiddenCharactersKeepsT
   });
 }
 
-TEST_F(HeaderAndFooterEditing, TheFooterIsTestedWhenTheHeaderIsMended) {
+TEST_F(HeaderAndFooterEditing, TheFooterIsCheckedOnceTheHeaderIsCorrected) {
   Edit({"a]]>", "]]>"}, [this](QWidget& form) {
     auto& header = Find<QPlainTextEdit>(form, "textHeader");
     auto& footer = Find<QPlainTextEdit>(form, "textFooter");
@@ -83,7 +83,7 @@ TEST_F(HeaderAndFooterEditing, TheFooterIsTestedWhenTheHeaderIsMended) {
   });
 }
 
-TEST_F(HeaderAndFooterEditing, TheTitleBarLetsTheTextsOutUnchecked) {
+TEST_F(HeaderAndFooterEditing, TheTitleBarReturnsTheTextsUnchecked) {
   const HeaderAndFooter edited = Edit({"]]>", "]]>"}, [](QWidget& form) {
     form.close();
     EXPECT_FALSE(form.isVisible());
@@ -92,7 +92,7 @@ TEST_F(HeaderAndFooterEditing, TheTitleBarLetsTheTextsOutUnchecked) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(HeaderAndFooterEditing, EscapeDoesAsTheButtonDoes) {
+TEST_F(HeaderAndFooterEditing, EscapeDoesTheSameAsTheButton) {
   const HeaderAndFooter edited = Edit({"a", "b]]>"}, [this](QWidget& form) {
     auto& footer = Find<QPlainTextEdit>(form, "textFooter");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
@@ -108,7 +108,7 @@ TEST_F(HeaderAndFooterEditing, EscapeDoesAsTheButtonDoes) {
   EXPECT_EQ(boxes.boxes.size(), 1U);
 }
 
-TEST_F(HeaderAndFooterEditing, BothTextsShareTheRoomOfTheWindow) {
+TEST_F(HeaderAndFooterEditing, BothTextsShareTheSpaceOfTheWindow) {
   Edit({}, [](QWidget& form) {
     const auto& header = Find<QPlainTextEdit>(form, "textHeader");
     const auto& footer = Find<QPlainTextEdit>(form, "textFooter");
@@ -123,7 +123,7 @@ TEST_F(HeaderAndFooterEditing, BothTextsShareTheRoomOfTheWindow) {
   });
 }
 
-TEST_F(HeaderAndFooterEditing, TheMenuPutsATagIntoTheBoxThatWasClicked) {
+TEST_F(HeaderAndFooterEditing, TheMenuInsertsATagIntoTheClickedBox) {
   const HeaderAndFooter edited = Edit({}, [](QWidget& form) {
     EXPECT_NE(form.findChild<QObject*>("ucPopupMenu"), nullptr);
     const std::pair<const char*, const char*> tags[] = {{"textHeader", "mnuEditTagsGallery4"},
@@ -139,7 +139,7 @@ TEST_F(HeaderAndFooterEditing, TheMenuPutsATagIntoTheBoxThatWasClicked) {
   EXPECT_EQ(edited, (HeaderAndFooter{"<VANTORIUM_GALLERY_TITLE>", "<VANTORIUM_IMAGE_COUNT>"}));
 }
 
-TEST_F(HeaderAndFooterEditing, TheTabKeyGoesThroughTheForm) {
+TEST_F(HeaderAndFooterEditing, TheTabKeyVisitsTheControlsInOrder) {
   Edit({}, [](QWidget&) {
     for (const char* name : {"textHeader", "textFooter", "btnClose"}) {
       EXPECT_EQ(QApplication::focusWidget()->objectName(), name);

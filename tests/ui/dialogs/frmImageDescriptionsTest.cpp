@@ -72,7 +72,7 @@ TEST_F(DescriptionsWindow, IsBesideTheMainWindow) {
 }
 
 // Moves and resizes the window as a window manager does, which Qt distinguishes from changes by the program.
-TEST_F(DescriptionsWindow, ComesBackWhereItsUserLeftIt) {
+TEST_F(DescriptionsWindow, ReopensWhereTheUserLeftIt) {
   const QRect left(31, 47, form.width() + 60, form.height() + 20);
   form.windowHandle()->setGeometry(left);
   ASSERT_TRUE(QTest::qWaitFor([&] { return form.geometry() == left; }));
@@ -85,7 +85,7 @@ TEST_F(DescriptionsWindow, ComesBackWhereItsUserLeftIt) {
   }
 }
 
-TEST_F(DescriptionsWindow, SaysWhatItsControlsAreFor) {
+TEST_F(DescriptionsWindow, HasLabelsAndToolTips) {
   const auto tip = [this](const char* name) { return Find<QWidget>(form, name).toolTip().toStdString(); };
   EXPECT_EQ(Find<QGroupBox>(form, "Frame2").title(), "Global Settings for all Image Descriptions");
   EXPECT_EQ(Find<QGroupBox>(form, "Frame1").title(), "Global Settings for all Thumbnail Descriptions");
@@ -119,7 +119,7 @@ TEST_F(DescriptionsWindow, ShowsTheCurrentImageAndTheProject) {
   EXPECT_EQ(Box("textThumbFooter").toPlainText(), "</b>");
 }
 
-TEST_F(DescriptionsWindow, FollowsTheListWithoutAChange) {
+TEST_F(DescriptionsWindow, FollowsTheListWithoutModifyingTheProject) {
   GoTo(2);
   EXPECT_EQ(Find<QGroupBox>(form, "frmImageDescription").title(), "Image Description: Rock && Roll");
   EXPECT_EQ(Box("textDescription").toPlainText(), "a rock\nand a roll");
@@ -134,7 +134,7 @@ TEST_F(DescriptionsWindow, FollowsTheListWithoutAChange) {
   EXPECT_EQ(project.images.Entry(1).ImageDescription, "the Alps");
 }
 
-TEST_F(DescriptionsWindow, TypedTextReachesTheCurrentImage) {
+TEST_F(DescriptionsWindow, TypedTextIsStoredForTheCurrentImage) {
   int edits = 0;
   QObject::connect(&binder, &FieldBinder::Edited, [&edits] { ++edits; });
   GoTo(2);
@@ -150,7 +150,7 @@ TEST_F(DescriptionsWindow, TypedTextReachesTheCurrentImage) {
   EXPECT_EQ(project.images.Entry(1).ImageDescription, "the Alps");
 }
 
-TEST_F(DescriptionsWindow, TypingWithNoImageChangesNothing) {
+TEST_F(DescriptionsWindow, TypingWithoutAnImageChangesNothing) {
   GoTo(0);
   Type(Box("textDescription"), "lost");
   ShowThumbnails();
@@ -170,7 +170,7 @@ TEST_F(DescriptionsWindow, UndoNeverReachesIntoAnotherImage) {
   EXPECT_FALSE(Box("textDescription").document()->isUndoAvailable());
 }
 
-TEST_F(DescriptionsWindow, FollowingToTheSameRowLeavesCursorAndUndoAlone) {
+TEST_F(DescriptionsWindow, FollowingToTheSameRowKeepsCursorAndUndo) {
   QTest::keyClick(&Box("textDescription"), Qt::Key_End);
   QTest::keyClicks(&Box("textDescription"), "!");
   form.FollowSelection();
@@ -197,14 +197,14 @@ TEST_F(DescriptionsWindow, MovingInTheListKeepsTheUndoOfHeadersAndFooters) {
   EXPECT_EQ(project.settings.textHeader, "<p>");
 }
 
-TEST_F(DescriptionsWindow, AnotherProjectTakesTheUndoOfHeadersAndFootersAway) {
+TEST_F(DescriptionsWindow, AnotherProjectClearsTheUndoOfHeadersAndFooters) {
   Type(Box("textHeader"), "same");
   project.ProjectFileName = "D:\\Other.gpj";
   form.FollowSelection();
   EXPECT_FALSE(Box("textHeader").document()->isUndoAvailable());
 }
 
-TEST_F(DescriptionsWindow, HeadersAndFootersReachTheProject) {
+TEST_F(DescriptionsWindow, HeadersAndFootersAreStoredInTheProject) {
   Type(Box("textHeader"), "h");
   EXPECT_TRUE(project.IsModified);
   Type(Box("textFooter"), "f");
@@ -217,7 +217,7 @@ TEST_F(DescriptionsWindow, HeadersAndFootersReachTheProject) {
   EXPECT_EQ(project.settings.textThumbFooter, "tf");
 }
 
-TEST_F(DescriptionsWindow, TheListsHoldPlacementsAndTheirAlignments) {
+TEST_F(DescriptionsWindow, TheListsHavePlacementsAndTheirAlignments) {
   const QStringList placements = {"no automatic placement", "place left to image", "place right to image",
                                   "place above image", "place below image"};
   EXPECT_EQ(Items("comboImageDescriptionPlacement"), placements);
@@ -250,7 +250,7 @@ TEST_F(DescriptionsWindow, PlacementsAreStoredByTheCloseButton) {
   EXPECT_EQ(project.settings.comboThumbnailDescriptionAlignment, 2);
 }
 
-TEST_F(DescriptionsWindow, TheTitleBarAndEscapeLoseNothing) {
+TEST_F(DescriptionsWindow, TheTitleBarAndEscapeStoreThePlacementsToo) {
   Choose("comboImageDescriptionPlacement", 2);
   form.close();
   EXPECT_EQ(project.settings.comboImageDescriptionPlacement, 2);
@@ -273,7 +273,7 @@ TEST_F(DescriptionsWindow, StoresItsPlacementsBeforeASaveOnRequest) {
   EXPECT_TRUE(form.isVisible());
 }
 
-TEST_F(DescriptionsWindow, AnotherOpeningTakesTheProjectsPlacementsAgain) {
+TEST_F(DescriptionsWindow, EachOpeningReadsThePlacementsOfTheProject) {
   Click(form, "btnClose");
   project.settings.comboImageDescriptionPlacement = 1;
   project.settings.comboImageDescriptionAlignment = 2;
@@ -283,7 +283,7 @@ TEST_F(DescriptionsWindow, AnotherOpeningTakesTheProjectsPlacementsAgain) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(DescriptionsWindow, HidingItForANewProjectStoresNothingInThat) {
+TEST_F(DescriptionsWindow, HidingItForANewProjectStoresNothingInTheNewProject) {
   Choose("comboImageDescriptionPlacement", 3);
   project.settings.comboImageDescriptionPlacement = 0;
   form.hide();
@@ -293,7 +293,7 @@ TEST_F(DescriptionsWindow, HidingItForANewProjectStoresNothingInThat) {
   EXPECT_EQ(List("comboImageDescriptionPlacement").currentIndex(), 0);
 }
 
-TEST_F(DescriptionsWindow, ALoadedProjectBringsItsPlacementsAndTexts) {
+TEST_F(DescriptionsWindow, PlacementsAndTextsOfALoadedProjectAreShown) {
   Choose("comboImageDescriptionPlacement", 3);
   Type(Box("textFooter"), "old");
   project.ProjectFileName = "D:\\Other.gpj";
@@ -309,7 +309,7 @@ TEST_F(DescriptionsWindow, ALoadedProjectBringsItsPlacementsAndTexts) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(DescriptionsWindow, TheTabEnablesItsFrameAlone) {
+TEST_F(DescriptionsWindow, ATabEnablesOnlyItsFrame) {
   auto& tabs = Find<QTabWidget>(form, "tabDescription");
   EXPECT_EQ(tabs.tabText(0), "images");
   EXPECT_EQ(tabs.tabText(1), "thumbnails");
@@ -325,7 +325,7 @@ TEST_F(DescriptionsWindow, TheTabEnablesItsFrameAlone) {
   EXPECT_EQ(tabs.currentIndex(), 1);
 }
 
-TEST_F(DescriptionsWindow, AClickOnTheOtherTabGivesTheFocusToItsDescription) {
+TEST_F(DescriptionsWindow, AClickOnTheOtherTabFocusesItsDescription) {
   auto& tabs = Find<QTabWidget>(form, "tabDescription");
   for (const auto& [tab, box] : {std::pair(1, "textThumbDescription"), std::pair(0, "textDescription")}) {
     QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(tab).center());
@@ -333,10 +333,10 @@ TEST_F(DescriptionsWindow, AClickOnTheOtherTabGivesTheFocusToItsDescription) {
     QTest::keyClicks(form.focusWidget(), " y\r");
     EXPECT_NE(Box(box).toPlainText().indexOf(" y"), -1);
   }
-  EXPECT_TRUE(boxes.boxes.empty()) << "nothing was typed into a button";
+  EXPECT_TRUE(boxes.boxes.empty()) << "no key reached a button";
 }
 
-TEST_F(DescriptionsWindow, ATabKeptByTheKeyboardKeepsTheFocus) {
+TEST_F(DescriptionsWindow, ATabChosenWithTheKeyboardKeepsTheFocus) {
   QTabBar* bar = Find<QTabWidget>(form, "tabDescription").tabBar();
   bar->setFocus();
   QTest::keyClick(bar, Qt::Key_Right);
@@ -369,7 +369,7 @@ TEST_F(DescriptionsWindow, ClearAllOfAnEmptyListAsksNothing) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(DescriptionsWindow, TheEditorOfHeaderAndFooterWritesWhatDiffers) {
+TEST_F(DescriptionsWindow, TheEditorOfHeaderAndFooterStoresOnlyChangedTexts) {
   const auto editor = [](QWidget& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmHTML");
     EXPECT_EQ(dialog.windowTitle(), "Image Descriptions Header and Footer");
@@ -422,7 +422,7 @@ TEST_F(DescriptionsWindow, ALongNameDoesNotWidenIt) {
   EXPECT_EQ(form.minimumSizeHint().width(), before.width());
 }
 
-TEST_F(DescriptionsWindow, ALongNameIsCutWithAnEllipsisAndTheTipHasItAll) {
+TEST_F(DescriptionsWindow, ALongNameIsElidedAndTheToolTipHasItInFull) {
   auto& frame = Find<ElidedGroupBox>(form, "frmImageDescription");
   EXPECT_EQ(frame.ShownTitle(), "Image Description: Alps");
   project.images.Rename(1, "A & " + std::string(300, 'w'));
@@ -436,7 +436,7 @@ TEST_F(DescriptionsWindow, ALongNameIsCutWithAnEllipsisAndTheTipHasItAll) {
   EXPECT_EQ(QToolTip::text(), "Image Description: A & " + QString(300, 'w'));
 }
 
-TEST_F(DescriptionsWindow, TheTabKeyGoesThroughTheForm) {
+TEST_F(DescriptionsWindow, TheTabKeyVisitsTheControlsInOrder) {
   Choose("comboImageDescriptionPlacement", 1);
   for (const char* name :
        {"comboImageDescriptionPlacement", "comboImageDescriptionAlignment", "textHeader", "textFooter",

@@ -18,13 +18,13 @@ class ImageFiltersForm : public testing::Test {
   /// Opens the dialog for `filters`, runs `drive` on it and returns the dialog's answer.
   bool Edit(const std::function<void(QWidget&)>& drive) {
     bool answer = false;
-    DriveModal([&] { answer = EditImageFilters("Filters for Images", filters, sources, desk.Ports(), nullptr); },
+    DriveModal([&] { answer = EditImageFilters("Filters for Images", filters, sources, harness.Ports(), nullptr); },
                drive);
     return answer;
   }
 
-  fakes::SampleDesk desk;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, desk.TempFolderLocation()};
+  fakes::SampleHarness harness;
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, harness.TempFolderLocation()};
   image::ImageFilterSettings filters;
 };
 
@@ -106,7 +106,7 @@ TEST_F(ImageFiltersForm, HasTheLimitsAndStepsOfItsSliders) {
   });
 }
 
-TEST_F(ImageFiltersForm, AppliesWhatWasSetWithKeysAndMouse) {
+TEST_F(ImageFiltersForm, AppliesValuesSetWithKeysAndMouse) {
   const bool applied = Edit([](QWidget& form) {
     for (const char* box : {"checkGrayscale", "checkBrightness", "checkFade", "checkNoise", "checkNoiseRandom"}) {
       Click(form, box);
@@ -145,7 +145,7 @@ TEST_F(ImageFiltersForm, ThePreviewButtonShowsTheSampleAgain) {
   });
 }
 
-TEST_F(ImageFiltersForm, ASliderThatIsDraggedChangesTheSettingsAndThePictureOnlyWithTheButton) {
+TEST_F(ImageFiltersForm, ADraggedSliderChangesTheSettingsAndOnlyTheButtonUpdatesThePicture) {
   Edit([](QWidget& form) {
     const auto& model = dynamic_cast<frmImageFilters&>(form).Model();
     const QImage before = Find<UnscaledPicture>(form, "pbPreview").Shown();
@@ -178,7 +178,7 @@ TEST_F(ImageFiltersForm, EnterAppliesAndEscapeCancels) {
   EXPECT_EQ(filters.checkGrayscale, 1);
 }
 
-TEST_F(ImageFiltersForm, CancelLeavesTheSettingsAlone) {
+TEST_F(ImageFiltersForm, CancelLeavesTheSettingsUnchanged) {
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Edit([byButton](QWidget& form) {
       QTest::keyClick(&Find<QSlider>(form, "sliderQuality"), Qt::Key_Home);
@@ -194,11 +194,11 @@ TEST_F(ImageFiltersForm, CancelLeavesTheSettingsAlone) {
   }
 }
 
-TEST_F(ImageFiltersForm, WithoutASampleItClosesAtOnceWithTheBox) {
-  sources = {"", {desk.Missing()}, desk.TempFolderLocation()};
-  EXPECT_FALSE(EditImageFilters("Filters for Images", filters, sources, desk.Ports(), nullptr));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
+TEST_F(ImageFiltersForm, WithoutASampleItClosesAtOnceWithAMessageBox) {
+  sources = {"", {harness.Missing()}, harness.TempFolderLocation()};
+  EXPECT_FALSE(EditImageFilters("Filters for Images", filters, sources, harness.Ports(), nullptr));
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
 }
 
 }  // namespace

@@ -66,23 +66,23 @@ TEST_F(LinksForm, WithoutALabelTheSecondGraphicIsHidden) {
       "");
 }
 
-TEST_F(LinksForm, TheOnlyGraphicOfALinkCanBeTakenAway) {
+TEST_F(LinksForm, TheOnlyGraphicOfALinkCanBeRemoved) {
   const auto type = [this](const core::LinkSettings& link, const char* text) {
     return Edit(
         link,
         [text](QWidget& form) {
           Type(Find<QWidget>(form, "textLinkGraphic"), text);
-          EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphicDisabled").text(), "") << "what is hidden is not filled";
+          EXPECT_EQ(Find<QLineEdit>(form, "textLinkGraphicDisabled").text(), "") << "a hidden box is not filled";
           Click(form, "OKButton");
         },
         "");
   };
   EXPECT_EQ(type({"INDEX", "", ""}, "C:\\a.gif"), "INDEX|C:\\a.gif|");
   EXPECT_EQ(type({"INDEX", "C:\\a.gif", ""}, ""), "INDEX||");
-  EXPECT_EQ(type({"INDEX", "C:\\a.gif", "C:\\a.gif"}, ""), "INDEX||C:\\a.gif") << "left by an older project";
+  EXPECT_EQ(type({"INDEX", "C:\\a.gif", "C:\\a.gif"}, ""), "INDEX||C:\\a.gif") << "kept from an older project";
 }
 
-TEST_F(LinksForm, TheSecondGraphicHasALetter) {
+TEST_F(LinksForm, TheSecondGraphicHasAMnemonic) {
   Edit({}, [](QWidget& form) {
     QTest::keyClick(&form, Qt::Key_O, Qt::AltModifier);
     EXPECT_TRUE(Find<QWidget>(form, "textLinkGraphicDisabled").hasFocus());
@@ -91,7 +91,7 @@ TEST_F(LinksForm, TheSecondGraphicHasALetter) {
   });
 }
 
-TEST_F(LinksForm, WithoutTextsOfItsCallerItHasItsOwn) {
+TEST_F(LinksForm, HasDefaultTextsIfTheCallerGivesNone) {
   LinksModel model({}, paths, folder, [] {});
   frmLinks form("", "", model, browser, nullptr);
   EXPECT_EQ(form.windowTitle(), "Link");
@@ -112,7 +112,7 @@ TEST_F(LinksForm, PastedTextBecomesOneLine) {
             "NETüRXT|C:\\next.gif|C:\\b.gif");
 }
 
-TEST_F(LinksForm, TheLabelIsEdited) {
+TEST_F(LinksForm, TheLabelCanBeEdited) {
   EXPECT_EQ(Edit({"NEXT", "", ""}, [](QWidget& form) { Type(Find<QLineEdit>(form, "textLinkLabel"), "Weiter >"); }),
             "Weiter >||");
   EXPECT_GT(edits, 0);
@@ -130,7 +130,7 @@ TEST_F(LinksForm, OneGraphicFollowsTheOtherWhileItIsTyped) {
       Find<QLineEdit>(form, "textLinkLabel").setFocus();
       box.setFocus();
       QTest::keyClicks(&box, "xt");
-      EXPECT_EQ(Find<QLineEdit>(form, following).text(), "C:\\ne") << "the box was left";
+      EXPECT_EQ(Find<QLineEdit>(form, following).text(), "C:\\ne") << "after the box is left";
       Click(form, "OKButton");
     });
     EXPECT_EQ(result, first ? "|C:\\next|C:\\ne" : "|C:\\ne|C:\\next");
@@ -147,7 +147,7 @@ TEST_F(LinksForm, ANativePathBecomesPathTextWhenItsBoxIsLeft) {
   });
 }
 
-TEST_F(LinksForm, TwoGraphicsAreBrowsedForOneAfterTheOther) {
+TEST_F(LinksForm, TwoGraphicsCanBeBrowsedForOneAfterTheOther) {
   browser.answer.result = "C:\\new\\a.gif";
   const std::string result = Edit({}, [this](QWidget& form) {
     Click(form, "btnLinkGraphicBrowse");
@@ -162,7 +162,7 @@ TEST_F(LinksForm, TwoGraphicsAreBrowsedForOneAfterTheOther) {
   EXPECT_EQ(browser.requests.at(0).initialFolder, "C:\\graphics\\");
 }
 
-TEST_F(LinksForm, HoweverItIsClosedAMissingGraphicTakesTheOther) {
+TEST_F(LinksForm, EveryWayOfClosingCopiesTheOtherGraphicToAMissingOne) {
   const core::LinkSettings link = {"NEXT", "", "C:\\b.gif"};
   const std::string expected = "NEXT|C:\\b.gif|C:\\b.gif";
   EXPECT_EQ(Edit(link, [](QWidget& form) { Click(form, "OKButton"); }), expected);

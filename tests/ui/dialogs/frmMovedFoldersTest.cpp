@@ -28,7 +28,7 @@ class MovedFoldersForm : public testing::Test {
     DriveModal([&] { result = form.exec(); }, drive);
     return result;
   }
-  /// The rows, their columns separated by "|".
+  /// The rows, with columns separated by "|".
   static std::vector<std::string> Rows(QWidget& form) {
     std::vector<std::string> rows;
     auto& view = Find<QTreeWidget>(form, "lvFolders");
@@ -48,7 +48,7 @@ class MovedFoldersForm : public testing::Test {
   MovedFolders model{{"D:/Photos/a.jpg", "E:/x/b.jpg"}, files};
 };
 
-TEST_F(MovedFoldersForm, ComesUpWithTheOldFoldersAndCancelAsDefault) {
+TEST_F(MovedFoldersForm, OpensWithTheOldFoldersAndCancelAsDefault) {
   const int result = Ask([](QWidget& form) {
     EXPECT_EQ(Rows(form), (std::vector<std::string>{"D:\\Photos\\||0 of 1", "E:\\x\\||0 of 1"}));
     EXPECT_TRUE(Find<QLineEdit>(form, "textNewFolder").hasFocus());
@@ -59,7 +59,7 @@ TEST_F(MovedFoldersForm, ComesUpWithTheOldFoldersAndCancelAsDefault) {
   EXPECT_EQ(result, QDialog::Rejected);
 }
 
-TEST_F(MovedFoldersForm, ATypedFolderIsCountedAtOnceAndTakenByOK) {
+TEST_F(MovedFoldersForm, ImagesOfATypedFolderAreCountedAtOnceAndOKAcceptsIt) {
   const int result = Ask([this](QWidget& form) {
     Type(Find<QLineEdit>(form, "textNewFolder"), QString::fromStdString(New()));
     EXPECT_EQ(Rows(form), (std::vector<std::string>{"D:\\Photos\\|" + New() + "|1 of 1", "E:\\x\\||0 of 1"}));
@@ -70,7 +70,7 @@ TEST_F(MovedFoldersForm, ATypedFolderIsCountedAtOnceAndTakenByOK) {
   EXPECT_EQ(model.Moved()[0].to, "C:\\new\\");
 }
 
-TEST_F(MovedFoldersForm, ABrowsedFolderIsShownAsTheSystemWritesIt) {
+TEST_F(MovedFoldersForm, ABrowsedFolderIsShownAsANativePath) {
   browser.answers = {"C:\\new"};
   std::ignore = Ask([this](QWidget& form) {
     Click(form, "btnBrowse");
@@ -80,7 +80,7 @@ TEST_F(MovedFoldersForm, ABrowsedFolderIsShownAsTheSystemWritesIt) {
   });
 }
 
-TEST_F(MovedFoldersForm, TheBoxIsForTheChosenRow) {
+TEST_F(MovedFoldersForm, TheBoxBelongsToTheChosenRow) {
   std::ignore = Ask([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textNewFolder");
     auto& view = Find<QTreeWidget>(form, "lvFolders");

@@ -50,7 +50,7 @@ class ProgressForm : public testing::Test {
   Control& In(const char* name) {
     return Find<Control>(*form, name);
   }
-  /// Gives the window time to draw until `condition` holds. Returns false if it never does.
+  /// Runs the event loop until `condition` holds. Returns false if it never does.
   [[nodiscard]] bool Shows(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 2000); }
   [[nodiscard]] std::string Log() { return FromQt(In<QPlainTextEdit>("infoText").toPlainText()); }
 
@@ -58,14 +58,14 @@ class ProgressForm : public testing::Test {
   fakes::FixedClock clock;
   BusyMessageBox boxes;
   fakes::Journal journal;
-  fakes::RecordingShell shell{journal};
+  fakes::JournalingShell shell{journal};
   generation::CancelCheck cancel{boxes};
   publish::UploadLog log{program.Path(), clock, boxes};
   QWidget owner;
   std::unique_ptr<frmProgress> form;
 };
 
-TEST_F(ProgressForm, ComesUpEnabledOverADisabledOwnerAndDoesNotBlock) {
+TEST_F(ProgressForm, IsEnabledAboveADisabledOwnerAndDoesNotBlock) {
   EXPECT_TRUE(form->isVisible());
   EXPECT_TRUE(form->isEnabled());
   EXPECT_TRUE(In<QPushButton>("CancelButton").isEnabled());
@@ -76,7 +76,7 @@ TEST_F(ProgressForm, ComesUpEnabledOverADisabledOwnerAndDoesNotBlock) {
   EXPECT_TRUE(In<QPlainTextEdit>("infoText").isReadOnly());
 }
 
-TEST_F(ProgressForm, ShowsWhatTheRunTellsIt) {
+TEST_F(ProgressForm, ShowsWhatTheRunReports) {
   form->SetCaption("Publishing Gallery");
   form->SetText1("Please wait...");
   form->SetText2("Copying File \"a\"...");
@@ -90,7 +90,7 @@ TEST_F(ProgressForm, ShowsWhatTheRunTellsIt) {
   EXPECT_EQ(In<QProgressBar>("pbProgress").value(), 7);
 }
 
-TEST_F(ProgressForm, TheBarOfTheFileAppearsWithItsFirstValueAndMovesNothing) {
+TEST_F(ProgressForm, TheFileProgressBarAppearsWithItsFirstValueAndMovesNothing) {
   const QRect logBefore = In<QPlainTextEdit>("infoText").geometry();
   form->SetFileProgress(0);
   EXPECT_TRUE(Shows([this] { return In<QProgressBar>("pbFile").isVisible(); }));
@@ -101,7 +101,7 @@ TEST_F(ProgressForm, TheBarOfTheFileAppearsWithItsFirstValueAndMovesNothing) {
   EXPECT_TRUE(Shows([this] { return In<QProgressBar>("pbFile").value() == 64; }));
 }
 
-TEST_F(ProgressForm, TheBarCountsBeyond16BitsAndDoesNotMoveWithoutSteps) {
+TEST_F(ProgressForm, TheBarCountsBeyond16BitsAndIsNotIndeterminateWithoutSteps) {
   auto& bar = In<QProgressBar>("pbProgress");
   form->SetMax(400000);
   form->SetProgress(399999);
@@ -109,10 +109,10 @@ TEST_F(ProgressForm, TheBarCountsBeyond16BitsAndDoesNotMoveWithoutSteps) {
   form->SetMax(0);
   form->SetProgress(0);
   EXPECT_TRUE(Shows([&] { return bar.value() == 0; }));
-  EXPECT_GT(bar.maximum(), 0) << "a bar without a maximum would run back and forth";
+  EXPECT_GT(bar.maximum(), 0) << "a bar with maximum 0 would be indeterminate";
 }
 
-TEST_F(ProgressForm, TheLastOfManyChangesIsDrawn) {
+TEST_F(ProgressForm, TheLastOfManyChangesIsPainted) {
   form->SetMax(100000);
   for (int step = 1; step <= 100000; ++step) {
     form->SetProgress(step);
@@ -132,7 +132,7 @@ TEST_F(ProgressForm, ALongTextDoesNotWidenTheWindow) {
   EXPECT_LE(form->minimumSizeHint().width(), before.width());
 }
 
-TEST_F(ProgressForm, TheLogGrowsAtItsEndWithItsLineBreaksWhole) {
+TEST_F(ProgressForm, TheLogGrowsAtItsEndAndKeepsItsLineBreaks) {
   for (const char* part : {"220 ready\r", "\n331 who\r\n", "", "gr\xC3\xBC\xC3\x9F\x65\r\n", "\xFF\r\n"}) {
     form->SetText3(part, true);
     QTest::qWait(40);
@@ -158,7 +158,7 @@ TEST_F(ProgressForm, AFullLogIsCleared) {
   EXPECT_TRUE(Shows([this] { return Log() == "y"; })) << Log().size();
 }
 
-TEST_F(ProgressForm, ThePointerIsBusyOnDemand) {
+TEST_F(ProgressForm, ThePointerIsBusyOnRequest) {
   form->ShowBusyPointer(true);
   EXPECT_TRUE(Shows([this] { return form->cursor().shape() == Qt::WaitCursor; }));
   form->ShowBusyPointer(false);
@@ -205,7 +205,7 @@ TEST_F(ProgressForm, AConfirmedCancelIsLoggedAndNotAskedAgain) {
   EXPECT_TRUE(form->isVisible());
 }
 
-TEST_F(ProgressForm, NothingAsksAgainWhileTheQuestionIsUp) {
+TEST_F(ProgressForm, NothingAsksAgainWhileTheQuestionIsOpen) {
   boxes.answers = {env::BoxAnswer::No};
   boxes.whileShown = [this] {
     Click(*form, "CancelButton");
@@ -232,7 +232,7 @@ TEST_F(ProgressForm, AMessageBoxOverTheDisabledMainWindowCanBeAnswered) {
 
 // End of a failed run
 
-TEST_F(ProgressForm, AFailedRunIsClosedByEveryWay) {
+TEST_F(ProgressForm, AFailedRunCanBeClosedInEveryWay) {
   for (const auto& close : std::vector<std::function<void()>>{
            [this] { Click(*form, "CancelButton"); }, [this] { QTest::keyClick(form.get(), Qt::Key_Escape); },
            [this] { QTest::keyClick(form.get(), Qt::Key_Return); }, [this] { form->close(); }}) {
@@ -241,7 +241,7 @@ TEST_F(ProgressForm, AFailedRunIsClosedByEveryWay) {
     form->CloseRequested = false;
     close();
     EXPECT_TRUE(form->CloseRequested);
-    EXPECT_TRUE(form->isVisible()) << "the run ends it";
+    EXPECT_TRUE(form->isVisible()) << "the run closes it";
     EXPECT_TRUE(boxes.boxes.empty());
   }
 }
@@ -254,7 +254,7 @@ TEST_F(ProgressForm, AFailedRunShowsItsLog) {
   EXPECT_EQ(journal, fakes::Journal{"open C:\\program/ftplog.txt"});
 }
 
-TEST_F(ProgressForm, WaitingForTheUserSleepsUntilThereIsSomethingToHandle) {
+TEST_F(ProgressForm, WaitingForTheUserSleepsUntilAnEventArrives) {
   form->OfferClose();
   QTest::qWait(50);
   QtEventLoop loop;

@@ -1,4 +1,4 @@
-#include "tests/ui/PublishDesk.h"
+#include "tests/ui/CreateGalleryHarness.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -24,7 +24,7 @@ class PublishForm : public testing::Test {
  protected:
   /// Drives the dialog. Returns true if it was closed with OK.
   bool Drive(const std::function<void(QWidget&)>& drive, bool hideIndexFile = false) {
-    frmPublish form(desk.ServerFile(), desk.boxes, nullptr);
+    frmPublish form(harness.ServerFile(), harness.boxes, nullptr);
     form.SetHideIndexFile(hideIndexFile);
     QObject::connect(&form, &frmPublish::Left, [this] { ++left; });
     DriveModal([&] { form.exec(); }, drive);
@@ -42,13 +42,13 @@ class PublishForm : public testing::Test {
                });
   }
 
-  fakes::PublishDesk desk;
+  fakes::CreateGalleryHarness harness;
   int left = 0;
   int timeout = 0;
 };
 
 TEST_F(PublishForm, ShowsThePreferredServer) {
-  desk.WriteServers(0);
+  harness.WriteServers(0);
   Drive([](QWidget& form) {
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "One");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 2);
@@ -75,7 +75,7 @@ TEST_F(PublishForm, TheIndexFileIsHiddenForAFolder) {
   }
 }
 
-TEST_F(PublishForm, AServerIsChosenWithTheKeyboardAndBecomesThePreferredOne) {
+TEST_F(PublishForm, AServerChosenWithTheKeyboardBecomesThePreferredOne) {
   EXPECT_TRUE(Drive([](QWidget& form) {
     auto& combo = Find<QComboBox>(form, "comboServers");
     combo.setFocus();
@@ -84,11 +84,11 @@ TEST_F(PublishForm, AServerIsChosenWithTheKeyboardAndBecomesThePreferredOne) {
     EXPECT_EQ(Text(form, "textUserName"), "anonymous");
     QTest::keyClick(&form, Qt::Key_Return);
   }));
-  EXPECT_NE(desk.ServerText().find("PreferredServer=\"2\""), std::string::npos) << desk.ServerText();
+  EXPECT_NE(harness.ServerText().find("PreferredServer=\"2\""), std::string::npos) << harness.ServerText();
   EXPECT_GE(left, 1);
 }
 
-TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
+TEST_F(PublishForm, TypedFieldsAreConvertedAndWritten) {
   EXPECT_TRUE(Drive([this](QWidget& form) {
     Type(Find<QLineEdit>(form, "textServerURL"), "host\\a");
     Type(Find<QLineEdit>(form, "textUserName"), "domain\\some body");
@@ -98,7 +98,7 @@ TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
     Type(Find<QLineEdit>(form, "textTimeout"), "30s");
     Click(form, "OKButton");
   }));
-  const std::string text = desk.ServerText();
+  const std::string text = harness.ServerText();
   for (const char* line : {"ServerURL1=\"host/a\"", "UserName1=\"domain\\some body\"", "JumpTo1=\"web/my site\"",
                            "IndexFile1=\"my_gallery/one/my_start.htm\"", "TimeOut1=\"15\""}) {
     EXPECT_NE(text.find(line), std::string::npos) << line << " in " << text;
@@ -106,7 +106,7 @@ TEST_F(PublishForm, TheFieldsAreTypedInTheirOwnWaysAndWritten) {
   EXPECT_EQ(timeout, 30);
 }
 
-TEST_F(PublishForm, TheEndOfALineIsNotPasted) {
+TEST_F(PublishForm, LineEndsAreNotPasted) {
   EXPECT_TRUE(Drive([](QWidget& form) {
     QApplication::clipboard()->setText("pasted\r\n");
     for (const char* name :
@@ -124,12 +124,12 @@ TEST_F(PublishForm, TheEndOfALineIsNotPasted) {
     Type(Find<QLineEdit>(form, "textServerURL"), "h");
     Click(form, "OKButton");
   }));
-  EXPECT_TRUE(desk.boxes.boxes.empty());
-  EXPECT_NE(desk.ServerText().find("ServerURL1=\"pasted\"\r\n"), std::string::npos) << desk.ServerText();
-  EXPECT_NE(desk.ServerText().find("ServerName3=\"pasted\"\r\n"), std::string::npos) << desk.ServerText();
+  EXPECT_TRUE(harness.boxes.boxes.empty());
+  EXPECT_NE(harness.ServerText().find("ServerURL1=\"pasted\"\r\n"), std::string::npos) << harness.ServerText();
+  EXPECT_NE(harness.ServerText().find("ServerName3=\"pasted\"\r\n"), std::string::npos) << harness.ServerText();
 }
 
-TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
+TEST_F(PublishForm, AKeyReplacesTheSelection) {
   Drive([](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textGalleryIndexPath");
     box.setSelection(0, 1);
@@ -140,7 +140,7 @@ TEST_F(PublishForm, AKeyReplacesWhatIsSelected) {
   });
 }
 
-TEST_F(PublishForm, OkNeedsAHost) {
+TEST_F(PublishForm, OKRequiresAHost) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textServerURL"), "");
     EXPECT_FALSE(IsEnabled(form, "OKButton"));
@@ -151,7 +151,7 @@ TEST_F(PublishForm, OkNeedsAHost) {
   }));
 }
 
-TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndTakesTheFocus) {
+TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndGetsTheFocus) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textGalleryIndexFile"), "a/b.htm");
     Type(Find<QLineEdit>(form, "textServerURL"), "ftp://host/");
@@ -160,11 +160,11 @@ TEST_F(PublishForm, AnIndexFileWithAPathKeepsTheDialogOpenAndTakesTheFocus) {
     EXPECT_TRUE(GetsFocus(form, "textGalleryIndexFile"));
     EXPECT_EQ(Text(form, "textServerURL"), "host/");
   }));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Index File Name");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Index File Name");
 }
 
-TEST_F(PublishForm, ANewServerIsNamedInItsOwnDialog) {
+TEST_F(PublishForm, ANewServerIsNamedInADialog) {
   EXPECT_TRUE(Drive([this](QWidget& form) {
     AddNew(form, "Three");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "Three");
@@ -172,30 +172,30 @@ TEST_F(PublishForm, ANewServerIsNamedInItsOwnDialog) {
     EXPECT_TRUE(GetsFocus(form, "textServerURL"));
     EXPECT_FALSE(IsEnabled(form, "OKButton"));
     EXPECT_FALSE(IsEnabled(form, "CancelButton"));
-    EXPECT_NE(desk.ServerText().find("ServerName3=\"Three\""), std::string::npos);
+    EXPECT_NE(harness.ServerText().find("ServerName3=\"Three\""), std::string::npos);
     QTest::keyClicks(&Find<QLineEdit>(form, "textServerURL"), "three.example.org");
     Click(form, "OKButton");
   }));
-  EXPECT_NE(desk.ServerText().find("ServerURL3=\"three.example.org\""), std::string::npos) << desk.ServerText();
+  EXPECT_NE(harness.ServerText().find("ServerURL3=\"three.example.org\""), std::string::npos) << harness.ServerText();
 }
 
 TEST_F(PublishForm, ALongNameDoesNotWidenTheDialog) {
-  publish::ServerProfile profile = desk.kOne;
+  publish::ServerProfile profile = harness.kOne;
   int width = 0;
   Drive([&](QWidget& form) { width = form.width(); });
   profile.ServerName = std::string(1000, 'x');
-  publish::WriteServerList({profile}, 0, desk.ServerFile());
+  publish::WriteServerList({profile}, 0, harness.ServerFile());
   Drive([&](QWidget& form) { EXPECT_EQ(form.width(), width); });
 }
 
-TEST_F(PublishForm, ANameThatIsTakenAddsNothing) {
+TEST_F(PublishForm, ADuplicateNameAddsNothing) {
   Drive([](QWidget& form) {
     AddNew(form, "Two");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").count(), 2);
     EXPECT_TRUE(IsEnabled(form, "CancelButton"));
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Name Exists");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Name Exists");
 }
 
 TEST_F(PublishForm, ANewServerCanBeCancelled) {
@@ -218,7 +218,7 @@ TEST_F(PublishForm, ANewServerCanBeCancelled) {
   });
 }
 
-TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatStillCloses) {
+TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatCanBeClosed) {
   EXPECT_FALSE(Drive([](QWidget& form) {
     Click(form, "btnDelete");
     EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "Two");
@@ -234,11 +234,11 @@ TEST_F(PublishForm, DeletingEveryServerLeavesAnEmptyDialogThatStillCloses) {
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
   }));
-  EXPECT_NE(desk.ServerText().find("ServerCount=\"2\""), std::string::npos);
+  EXPECT_NE(harness.ServerText().find("ServerCount=\"2\""), std::string::npos);
 }
 
-TEST_F(PublishForm, CancelLeavesTheFileAndShowsTheServerOfTheOpening) {
-  const std::string before = desk.ServerText();
+TEST_F(PublishForm, CancelKeepsTheFileAndShowsTheInitialServerAgain) {
+  const std::string before = harness.ServerText();
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Drive([byButton](QWidget& form) {
       Type(Find<QLineEdit>(form, "textUserName"), "x");
@@ -246,19 +246,19 @@ TEST_F(PublishForm, CancelLeavesTheFileAndShowsTheServerOfTheOpening) {
       byButton ? Click(form, "CancelButton") : QTest::keyClick(&form, Qt::Key_Escape);
       EXPECT_EQ(Find<QComboBox>(form, "comboServers").currentText(), "One");
     }));
-    EXPECT_EQ(desk.ServerText(), before);
+    EXPECT_EQ(harness.ServerText(), before);
   }
 }
 
 TEST_F(PublishForm, AMissingFileIsReportedAndGivesAnEmptyDialog) {
-  std::filesystem::remove(desk.ServerFile());
+  std::filesystem::remove(harness.ServerFile());
   Drive([](QWidget& form) { EXPECT_FALSE(IsEnabled(form, "textServerURL")); });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "File Error");
 }
 
-TEST_F(PublishForm, TheSwitchesAreAtTheEndAndAreKept) {
-  desk.WriteServers(0);
+TEST_F(PublishForm, TheSwitchesAreLastAndAreStored) {
+  harness.WriteServers(0);
   EXPECT_TRUE(Drive([](QWidget& form) {
     auto& passive = Find<QCheckBox>(form, "checkPassive");
     auto& encrypted = Find<QCheckBox>(form, "checkEncrypted");
@@ -273,21 +273,21 @@ TEST_F(PublishForm, TheSwitchesAreAtTheEndAndAreKept) {
     for (QCheckBox* box : {&passive, &encrypted}) {
       QTest::keyClick(box, Qt::Key_Space);
       EXPECT_TRUE(box->isChecked());
-      EXPECT_NE(box->text().indexOf('&'), -1) << "a key of its own";
+      EXPECT_NE(box->text().indexOf('&'), -1) << "a mnemonic";
     }
     Click(form, "OKButton");
   }));
-  EXPECT_NE(desk.ServerText().find("JumpTo1=\"www\"\r\nPassive1=\"1\"\r\nEncrypted1=\"1\"\r\nServerName2"),
+  EXPECT_NE(harness.ServerText().find("JumpTo1=\"www\"\r\nPassive1=\"1\"\r\nEncrypted1=\"1\"\r\nServerName2"),
             std::string::npos)
-      << desk.ServerText();
+      << harness.ServerText();
 }
 
 TEST_F(PublishForm, AnAcceptedCertificateCanBeForgotten) {
-  publish::ServerProfile profile = desk.kOne;
+  publish::ServerProfile profile = harness.kOne;
   profile.Encrypted = true;
   profile.Fingerprint = "0F";
   for (int byte = 1; byte < 32; ++byte) profile.Fingerprint += ":0F";
-  publish::WriteServerList({profile}, 0, desk.ServerFile());
+  publish::WriteServerList({profile}, 0, harness.ServerFile());
   EXPECT_TRUE(Drive([](QWidget& form) {
     EXPECT_TRUE(Find<QCheckBox>(form, "checkEncrypted").isChecked());
     EXPECT_TRUE(IsEnabled(form, "btnForgetCertificate"));
@@ -296,7 +296,7 @@ TEST_F(PublishForm, AnAcceptedCertificateCanBeForgotten) {
     EXPECT_TRUE(GetsFocus(form, "checkEncrypted"));
     Click(form, "OKButton");
   }));
-  EXPECT_EQ(desk.ServerText().find("Fingerprint"), std::string::npos) << desk.ServerText();
+  EXPECT_EQ(harness.ServerText().find("Fingerprint"), std::string::npos) << harness.ServerText();
 }
 
 }  // namespace

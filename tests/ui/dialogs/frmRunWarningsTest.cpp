@@ -1,4 +1,4 @@
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 #include "ui/dialogs/frmRunWarnings.h"
 #include "ui/model/dialogs/RunWarningsModel.h"
 
@@ -20,17 +20,17 @@ using fakes::Type;
 class RunWarningsForm : public testing::Test {
  protected:
   RunWarningsForm() {
-    desk.Start();
-    for (const char* name : {"a#.jpg", "b.jpg", "gone.jpg"}) desk.AddPhotograph(name);
-    std::filesystem::remove(desk.folder.Path() / "gone.jpg");
+    harness.Start();
+    for (const char* name : {"a#.jpg", "b.jpg", "gone.jpg"}) harness.AddPhotograph(name);
+    std::filesystem::remove(harness.folder.Path() / "gone.jpg");
     generation::SetIndexFile(order, "T:\\out\\index.htm");
   }
 
-  /// Shows the form alone. Returns whether it was accepted.
+  /// Shows only the form. Returns whether it was accepted.
   bool Open(const std::function<void(QWidget&)>& drive) {
-    generation::RunForecast forecast(desk.model->CurrentProject(), order, desk.model->Ports());
-    RunWarningsModel model(forecast, desk.model->CurrentProject(), desk.model->Images());
-    frmRunWarnings form(model, desk.window.get());
+    generation::RunForecast forecast(harness.model->CurrentProject(), order, harness.model->Ports());
+    RunWarningsModel model(forecast, harness.model->CurrentProject(), harness.model->Images());
+    frmRunWarnings form(model, harness.window.get());
     DriveModal([&] { form.exec(); }, drive);
     return form.result() == QDialog::Accepted;
   }
@@ -41,7 +41,7 @@ class RunWarningsForm : public testing::Test {
                  Click(dialog, "OKButton");
                });
   }
-  /// Creates the gallery from the main window. Returns whether warnings came up, which `button` then closed.
+  /// Creates the gallery from the main window. Returns whether the warnings were shown, which `button` then closed.
   bool CreateAndClick(const char* button) {
     bool warned = false;
     QTimer watch;
@@ -52,23 +52,23 @@ class RunWarningsForm : public testing::Test {
       Click(*form, button);
     });
     watch.start(5);
-    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+    DriveModal([&] { harness.Trigger("menuActionsCreate"); },
                [](QWidget& dialog) {
                  Type(Find<QLineEdit>(dialog, "textCreateFilePath"), "T:\\out\\index.htm");
                  Click(dialog, "OKButton");
                });
     return warned;
   }
-  [[nodiscard]] bool Exists(const char* name) const { return std::filesystem::exists(desk.folder.Path() / name); }
+  [[nodiscard]] bool Exists(const char* name) const { return std::filesystem::exists(harness.folder.Path() / name); }
   [[nodiscard]] const std::string& Name(std::size_t position) const {
-    return desk.model->CurrentProject().images.Entry(position).ImageName;
+    return harness.model->CurrentProject().images.Entry(position).ImageName;
   }
 
-  fakes::MainDesk desk;
+  fakes::MainWindowHarness harness;
   generation::RunOrder order;
 };
 
-TEST_F(RunWarningsForm, ListsEachWarningWithTheFirstChosenAndCancelAsTheDefault) {
+TEST_F(RunWarningsForm, ListsTheWarningsWithTheFirstChosenAndCancelAsDefault) {
   Open([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Before This Gallery Is Made");
     auto& list = Find<QListWidget>(form, "listWarnings");
@@ -83,7 +83,7 @@ TEST_F(RunWarningsForm, ListsEachWarningWithTheFirstChosenAndCancelAsTheDefault)
   });
 }
 
-TEST_F(RunWarningsForm, RenameIsForWarningsThatANameCanMend) {
+TEST_F(RunWarningsForm, RenameIsEnabledForWarningsThatANameCanResolve) {
   Open([](QWidget& form) {
     auto& list = Find<QListWidget>(form, "listWarnings");
     EXPECT_TRUE(Find<QPushButton>(form, "RenameButton").isEnabled());
@@ -94,12 +94,12 @@ TEST_F(RunWarningsForm, RenameIsForWarningsThatANameCanMend) {
   });
 }
 
-TEST_F(RunWarningsForm, ANewNameTakesAWarningAway) {
+TEST_F(RunWarningsForm, ANewNameResolvesAWarning) {
   Open([](QWidget& form) {
     Rename(form, "a");
     EXPECT_EQ(Find<QListWidget>(form, "listWarnings").count(), 1);
     EXPECT_FALSE(Find<QPushButton>(form, "RenameButton").isEnabled());
-    EXPECT_TRUE(Find<QPushButton>(form, "CancelButton").isDefault()) << "one is left";
+    EXPECT_TRUE(Find<QPushButton>(form, "CancelButton").isDefault()) << "one warning is left";
   });
   EXPECT_EQ(Name(1), "a");
 }
@@ -112,8 +112,8 @@ TEST_F(RunWarningsForm, ACancelledRenamingKeepsTheWarning) {
   EXPECT_EQ(Name(1), "a#.jpg");
 }
 
-TEST_F(RunWarningsForm, WithoutWarningsLeftReturnCreates) {
-  desk.folder.Write("gone.jpg", desk.folder.Read("b.jpg"));
+TEST_F(RunWarningsForm, WithoutWarningsLeftReturnCreatesTheGallery) {
+  harness.folder.Write("gone.jpg", harness.folder.Read("b.jpg"));
   EXPECT_TRUE(Open([](QWidget& form) {
     Rename(form, "a");
     EXPECT_EQ(Find<QListWidget>(form, "listWarnings").count(), 0);
@@ -129,18 +129,18 @@ TEST_F(RunWarningsForm, ReturnAndEscapeCancel) {
   EXPECT_TRUE(Open([](QWidget& form) { Click(form, "CreateButton"); }));
 }
 
-TEST_F(RunWarningsForm, CancelMakesNothingAndCreateAnywayMakesTheGallery) {
-  desk.folder.Write("gone.jpg", desk.folder.Read("b.jpg"));
+TEST_F(RunWarningsForm, CancelCreatesNothingAndCreateAnywayCreatesTheGallery) {
+  harness.folder.Write("gone.jpg", harness.folder.Read("b.jpg"));
   EXPECT_TRUE(CreateAndClick("CancelButton"));
   EXPECT_FALSE(Exists("out"));
   EXPECT_TRUE(CreateAndClick("CreateButton"));
   EXPECT_TRUE(Exists("out/a#.jpg.htm"));
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(RunWarningsForm, DoesNotComeUpWhereThereIsNothingToSay) {
-  desk.folder.Write("gone.jpg", desk.folder.Read("b.jpg"));
-  desk.model->CurrentProject().images.Rename(1, "a");
+TEST_F(RunWarningsForm, IsNotShownWithoutWarnings) {
+  harness.folder.Write("gone.jpg", harness.folder.Read("b.jpg"));
+  harness.model->CurrentProject().images.Rename(1, "a");
   EXPECT_FALSE(CreateAndClick("CancelButton"));
   EXPECT_TRUE(Exists("out/index.htm"));
 }

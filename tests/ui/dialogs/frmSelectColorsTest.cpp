@@ -36,7 +36,7 @@ class SelectColorsForm : public testing::Test {
     return answer;
   }
 
-  /// Returns the buttons' colors. Expects that the sample page shows the same.
+  /// The colors of the buttons. Expects that the sample page shows the same.
   static core::PageColors Shown(QWidget& form) {
     core::PageColors shown;
     for (const Pair& pair : kPairs) {
@@ -74,7 +74,7 @@ TEST_F(SelectColorsForm, ShowsItsColorsWithTheFocusOnApply) {
   });
 }
 
-TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColor) {
+TEST_F(SelectColorsForm, AButtonAndItsPlaceOnTheSamplePageChooseTheSameColor) {
   for (const Pair& pair : kPairs) {
     for (const char* control : {pair.button, pair.element}) {
       const core::PageColors before = colors;
@@ -97,7 +97,7 @@ TEST_F(SelectColorsForm, AButtonAndItsPlaceOnThePageChooseTheSameColor) {
   }
 }
 
-TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColors) {
+TEST_F(SelectColorsForm, ANewBackgroundKeepsTheTextColorsOfTheLabels) {
   dialogs.colors = {0x123456};
   Edit([this](QWidget& form) {
     Click(form, "btnBGColor");
@@ -110,13 +110,13 @@ TEST_F(SelectColorsForm, AnotherBackgroundLeavesTheLabelsTheirTextColors) {
   });
 }
 
-TEST_F(SelectColorsForm, AClickOnALabelIsNotOneOnThePage) {
+TEST_F(SelectColorsForm, AClickOnALabelIsNotAClickOnThePage) {
   dialogs.colors = {std::nullopt};
   Edit([](QWidget& form) { Click(form, "lblLink"); });
   EXPECT_EQ(dialogs.colorsShown.size(), 1U);
 }
 
-TEST_F(SelectColorsForm, APressThatIsLetGoElsewhereOpensNothing) {
+TEST_F(SelectColorsForm, APressReleasedElsewhereOpensNothing) {
   Edit([](QWidget& form) {
     for (const Pair& pair : kPairs) {
       auto& element = Find<QWidget>(form, pair.element);
@@ -127,7 +127,7 @@ TEST_F(SelectColorsForm, APressThatIsLetGoElsewhereOpensNothing) {
   EXPECT_TRUE(dialogs.colorsShown.empty());
 }
 
-TEST_F(SelectColorsForm, TheOtherPagesColorsAreCopied) {
+TEST_F(SelectColorsForm, TheColorsOfTheOtherPageCanBeCopied) {
   EXPECT_TRUE(Edit([this](QWidget& form) {
     EXPECT_EQ(Find<QPushButton>(form, "btnUseOtherColors").text(), "Copy Image Wrapper Colors");
     Click(form, "btnUseOtherColors");
@@ -159,7 +159,7 @@ TEST_F(SelectColorsForm, EnterApplies) {
   EXPECT_TRUE(Edit([](QWidget& form) { QTest::keyClick(&form, Qt::Key_Return); }));
 }
 
-TEST_F(SelectColorsForm, WithoutATitleItHasItsOwn) {
+TEST_F(SelectColorsForm, HasADefaultTitle) {
   Edit([](QWidget& form) { EXPECT_EQ(form.windowTitle(), "Color Settings"); }, "");
 }
 

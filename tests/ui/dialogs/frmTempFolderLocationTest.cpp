@@ -40,7 +40,7 @@ class TempFolderLocationForm : public testing::Test {
   env::Preferences preferences;
 };
 
-TEST_F(TempFolderLocationForm, ComesUpWithTheLocationSelected) {
+TEST_F(TempFolderLocationForm, OpensWithTheLocationSelected) {
   EXPECT_TRUE(Edit([](QWidget& form) {
     EXPECT_EQ(form.windowTitle(), "Location of Temporary Folder");
     auto& text = Find<QLineEdit>(form, "textTempFolderLocation");
@@ -62,7 +62,7 @@ TEST_F(TempFolderLocationForm, ComesUpWithTheLocationSelected) {
   EXPECT_EQ(preferences.TempFolderAutoClear, 1);
 }
 
-TEST_F(TempFolderLocationForm, UseThisPathMakesTheFolderAndKeepsBothValues) {
+TEST_F(TempFolderLocationForm, UseThisPathCreatesTheFolderAndStoresBothValues) {
   EXPECT_TRUE(Edit([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textTempFolderLocation"), "C:\\other\\");
     Click(form, "checkAutoClear");
@@ -73,7 +73,7 @@ TEST_F(TempFolderLocationForm, UseThisPathMakesTheFolderAndKeepsBothValues) {
   EXPECT_TRUE(std::filesystem::is_directory(disk.Path() / "other/VANTORIUM_TEMP"));
 }
 
-TEST_F(TempFolderLocationForm, APathThatIsNoneKeepsTheDialogAndTheText) {
+TEST_F(TempFolderLocationForm, AnInvalidPathKeepsTheDialogOpenAndTheText) {
   EXPECT_FALSE(Edit([](QWidget& form) {
     auto& text = Find<QLineEdit>(form, "textTempFolderLocation");
     Type(text, "temp");
@@ -87,7 +87,7 @@ TEST_F(TempFolderLocationForm, APathThatIsNoneKeepsTheDialogAndTheText) {
   EXPECT_EQ(preferences.TempFolderLocation, "C:\\temp");
 }
 
-TEST_F(TempFolderLocationForm, EscapeAndTheTitleBarKeepTheLocationThatWas) {
+TEST_F(TempFolderLocationForm, EscapeAndTheTitleBarKeepTheOldLocation) {
   for (const bool escape : {true, false}) {
     EXPECT_FALSE(Edit([&](QWidget& form) {
       Type(Find<QLineEdit>(form, "textTempFolderLocation"), "temp");
@@ -114,7 +114,7 @@ TEST_F(TempFolderLocationForm, AnEmptyLocationBecomesTheProgramFolder) {
   EXPECT_EQ(preferences.TempFolderLocation, "C:\\program");
 }
 
-TEST_F(TempFolderLocationForm, BrowseAndResetFillTheControls) {
+TEST_F(TempFolderLocationForm, BrowseAndResetSetTheControls) {
   folders.answers = {"C:\\chosen"};
   preferences.TempFolderAutoClear = 0;
   Edit([](QWidget& form) {
@@ -133,7 +133,7 @@ TEST_F(TempFolderLocationForm, BrowseAndResetFillTheControls) {
   EXPECT_EQ(preferences.TempFolderAutoClear, 1);
 }
 
-TEST_F(TempFolderLocationForm, APathThatIsPastedWithItsLineEndLosesThat) {
+TEST_F(TempFolderLocationForm, APastedPathLosesItsLineEnd) {
   EXPECT_TRUE(Edit([](QWidget& form) {
     QApplication::clipboard()->setText("C:\\pasted\r\n");
     Find<QLineEdit>(form, "textTempFolderLocation").paste();

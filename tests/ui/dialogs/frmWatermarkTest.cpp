@@ -28,7 +28,7 @@ class WatermarkForm : public testing::Test {
     bool answer = false;
     DriveModal(
         [&] {
-          answer = EditWatermark("Image Watermarks", watermark, quality, sources, desk.Ports(),
+          answer = EditWatermark("Image Watermarks", watermark, quality, sources, harness.Ports(),
                                  {dialogs, texts, screen}, nullptr);
         },
         drive);
@@ -37,11 +37,11 @@ class WatermarkForm : public testing::Test {
 
   static QImage Sample(QWidget& form) { return Find<UnscaledPicture>(form, "pbPreview").Shown(); }
 
-  fakes::SampleDesk desk;
+  fakes::SampleHarness harness;
   fakes::ScriptedCommonDialogs dialogs;
   image::PangoTextRaster texts;
   env::Screen screen;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, desk.TempFolderLocation()};
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 300, 200), {}, harness.TempFolderLocation()};
   image::WatermarkSettings watermark{.checkUseWatermark = 1, .textWatermark = "SAMPLE"};
   std::int16_t quality = 85;
 };
@@ -88,7 +88,7 @@ TEST_F(WatermarkForm, HasItsTextsAndToolTips) {
   });
 }
 
-TEST_F(WatermarkForm, AFontOfAnyNameIsReportedAsItIsAndMakesTheDialogNoWider) {
+TEST_F(WatermarkForm, AnyFontNameIsShownAsPlainTextAndDoesNotWidenTheDialog) {
   dialogs.fonts = {env::FontDescription{.Name = "<B>" + std::string(300, 'W'), .Size = 20}};
   Edit([](QWidget& form) {
     const int width = form.width();
@@ -113,7 +113,7 @@ TEST_F(WatermarkForm, HasTheLimitsAndStepsOfItsSliders) {
   });
 }
 
-TEST_F(WatermarkForm, AppliesWhatWasSetWithKeysAndMouse) {
+TEST_F(WatermarkForm, AppliesValuesSetWithKeysAndMouse) {
   dialogs.fonts = {env::FontDescription{.Name = "Serif", .Size = 20, .Weight = 400, .Italic = true, .Color = 0x0000FF}};
   const bool applied = Edit([](QWidget& form) {
     auto& text = Find<QPlainTextEdit>(form, "textWatermark");
@@ -144,7 +144,7 @@ TEST_F(WatermarkForm, AppliesWhatWasSetWithKeysAndMouse) {
   EXPECT_EQ(quality, 84);
 }
 
-TEST_F(WatermarkForm, AnEditLeavesTheRestOfTheTextAsItWas) {
+TEST_F(WatermarkForm, AnEditKeepsTheRestOfTheText) {
   watermark.textWatermark = "\u00A9\u00A02026 \U0001F5FB\r\n\r\n]]> ";
   const std::string before = watermark.textWatermark;
   EXPECT_TRUE(Edit([](QWidget& form) {
@@ -174,7 +174,7 @@ TEST_F(WatermarkForm, TheSampleFollowsItsControlsAtOnce) {
   });
 }
 
-TEST_F(WatermarkForm, TheSampleFollowsTheTextWhenItIsLeft) {
+TEST_F(WatermarkForm, TheSampleFollowsTheTextWhenTheBoxIsLeft) {
   Edit([](QWidget& form) {
     const QImage before = Sample(form);
     auto& text = Find<QPlainTextEdit>(form, "textWatermark");
@@ -187,7 +187,7 @@ TEST_F(WatermarkForm, TheSampleFollowsTheTextWhenItIsLeft) {
   });
 }
 
-TEST_F(WatermarkForm, WhileASliderIsDraggedOnlyItsNumberFollows) {
+TEST_F(WatermarkForm, WhileASliderIsDraggedOnlyItsNumberChanges) {
   Edit([](QWidget& form) {
     const QImage before = Sample(form);
     auto& slider = Find<QSlider>(form, "sliderAlpha");
@@ -201,7 +201,7 @@ TEST_F(WatermarkForm, WhileASliderIsDraggedOnlyItsNumberFollows) {
   });
 }
 
-TEST_F(WatermarkForm, CancelLeavesTheSettingsAlone) {
+TEST_F(WatermarkForm, CancelLeavesTheSettingsUnchanged) {
   dialogs.fonts = {env::FontDescription{.Name = "Serif"}, env::FontDescription{.Name = "Serif"}};
   for (const bool byButton : {true, false}) {
     EXPECT_FALSE(Edit([byButton](QWidget& form) {
@@ -222,22 +222,22 @@ TEST_F(WatermarkForm, CancelLeavesTheSettingsAlone) {
   }
 }
 
-TEST_F(WatermarkForm, WithoutASampleItClosesAtOnceWithTheBox) {
-  sources = {"", {desk.Missing()}, desk.TempFolderLocation()};
-  EXPECT_FALSE(
-      EditWatermark("Image Watermarks", watermark, quality, sources, desk.Ports(), {dialogs, texts, screen}, nullptr));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
+TEST_F(WatermarkForm, WithoutASampleItClosesAtOnceWithAMessageBox) {
+  sources = {"", {harness.Missing()}, harness.TempFolderLocation()};
+  EXPECT_FALSE(EditWatermark("Image Watermarks", watermark, quality, sources, harness.Ports(), {dialogs, texts, screen},
+                             nullptr));
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image.");
 }
 
-TEST_F(WatermarkForm, ATemporaryFolderThatIsBlockedClosesItWithTheBox) {
+TEST_F(WatermarkForm, ATemporaryFolderThatCannotBeCreatedClosesItWithAMessageBox) {
   EXPECT_FALSE(Edit([this](QWidget& form) {
-    desk.BlockTempFolder();
+    harness.BlockTempFolder();
     Type(Find<QPlainTextEdit>(form, "textWatermark"), "other");
     Click(form, "OKButton");
   }));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Unable to load default Preview Image");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Unable to load default Preview Image");
   EXPECT_EQ(watermark.textWatermark, "SAMPLE");
 }
 

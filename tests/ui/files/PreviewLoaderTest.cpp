@@ -27,14 +27,14 @@ class Loading : public testing::Test {
   std::vector<QSize> sizes;
 };
 
-TEST_F(Loading, APictureComesReducedForItsPlace) {
+TEST_F(Loading, APictureIsReducedToTheSizeOfThePreview) {
   loader->Load(File(800, 400), box);
   EXPECT_TRUE(sizes.empty()) << "not from within Load";
   Wait();
   EXPECT_EQ(sizes, (std::vector<QSize>{{100, 50}}));
 }
 
-TEST_F(Loading, OnlyTheLatestOneIsReported) {
+TEST_F(Loading, OnlyTheLatestPictureIsReported) {
   const auto large = File(3000, 2000);
   const auto small = File(40, 30);
   for (int i = 0; i < 20; ++i) loader->Load(large, box);
@@ -43,19 +43,19 @@ TEST_F(Loading, OnlyTheLatestOneIsReported) {
   EXPECT_EQ(sizes, (std::vector<QSize>{{40, 30}}));
 }
 
-TEST_F(Loading, AnUndecodableFileIsANullImage) {
+TEST_F(Loading, AnUndecodableFileGivesANullImage) {
   loader->Load(folder.Write("text.jpg", "no picture"), box);
   Wait();
   EXPECT_EQ(sizes, (std::vector<QSize>{{0, 0}}));
 }
 
-TEST_F(Loading, NoFileComesAsANullImage) {
+TEST_F(Loading, AnEmptyPathGivesANullImage) {
   loader->Load(std::nullopt, box);
   Wait();
   EXPECT_EQ(sizes, (std::vector<QSize>{{0, 0}}));
 }
 
-TEST_F(Loading, ACancelledPictureIsNotTold) {
+TEST_F(Loading, ACancelledPictureIsNotReported) {
   loader->Load(File(40, 30), box);
   QThread::msleep(50);  // now decoded, and queued in the event loop
   loader->Cancel();
@@ -63,7 +63,7 @@ TEST_F(Loading, ACancelledPictureIsNotTold) {
   EXPECT_TRUE(sizes.empty());
 }
 
-TEST_F(Loading, ItCanBeDestroyedInTheMiddle) {
+TEST_F(Loading, CanBeDestroyedWhileItLoads) {
   loader->Load(File(3000, 2000), box);
   loader.reset();
   QTest::qWait(20);

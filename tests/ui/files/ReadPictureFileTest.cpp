@@ -16,13 +16,13 @@ constexpr std::array<unsigned char, 47> kGif = {0x47, 0x49, 0x46, 0x38, 0x39, 0x
                                                 0x06, 0x00, 0x04, 0x00, 0x00, 0x02, 0x0E, 0x04, 0x08, 0x10, 0x20, 0x40,
                                                 0x80, 0x00, 0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x50, 0x00, 0x3B};
 
-/// Bytes that come one after the other. Qt cannot look ahead in them for the size of a GIF picture.
+/// A sequential device. Qt cannot look ahead in it for the size of a GIF picture.
 class Stream : public QBuffer {
  public:
   [[nodiscard]] bool isSequential() const override { return true; }
 };
 
-/// The middle of the GIF picture of a stream, cut at `length` bytes.
+/// The middle of the GIF picture in a stream that is cut off after `length` bytes.
 QImage MiddleOfStream(qsizetype length, QSize atMost) {
   Stream stream;
   stream.setData(QByteArray(reinterpret_cast<const char*>(kGif.data()), length));
@@ -32,7 +32,7 @@ QImage MiddleOfStream(qsizetype length, QSize atMost) {
   return ReadMiddle(reader, atMost);
 }
 
-TEST(ReadPictureFile, ThePictureOfAFormatThatTellsNoSizeIsCutToItsMiddle) {
+TEST(ReadPictureFile, APictureOfUnknownSizeIsCroppedToItsMiddle) {
   EXPECT_EQ(MiddleOfStream(kGif.size(), {2, 3}).size(), QSize(2, 3));
   EXPECT_EQ(MiddleOfStream(kGif.size(), {2, 3}).pixelColor(0, 0), QColor(Qt::red));
   EXPECT_EQ(MiddleOfStream(kGif.size(), {100, 3}).size(), QSize(6, 3));
@@ -59,7 +59,7 @@ TEST(ReadPictureFile, TheMiddleIsThatOfThePicture) {
   }
 }
 
-TEST(ReadPictureFile, WhatIsNotAPictureIsNull) {
+TEST(ReadPictureFile, AFileThatIsNotAPictureGivesNull) {
   const fakes::TemporaryFolder folder;
   for (const auto& file : {folder.Path(), folder.Path() / "missing", folder.Write("a.png", "no picture")}) {
     EXPECT_TRUE(ReadPictureFile(file).isNull()) << file;

@@ -1,4 +1,4 @@
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/FolderTree.h"
 #include "ui/files/frmBrowseForFolder.h"
 
@@ -17,8 +17,8 @@ using fakes::RowOf;
 class FolderDialog : public testing::Test {
  protected:
   FolderDialog() {
-    desk.disk.Write("photos/2005/June/x", "");
-    desk.disk.Write(".cache/temp/x", "");
+    harness.disk.Write("photos/2005/June/x", "");
+    harness.disk.Write(".cache/temp/x", "");
   }
 
   void Browse(const std::string& initialFolder, const std::function<void(QWidget&)>& drive) {
@@ -27,12 +27,12 @@ class FolderDialog : public testing::Test {
 
   static FolderTree& Tree(QWidget& dialog) { return Find<FolderTree>(dialog, "ftvFolders"); }
 
-  fakes::BrowserDesk desk;
-  QtFolderBrowser browser{desk.paths};
+  fakes::FileBrowserHarness harness;
+  QtFolderBrowser browser{harness.paths};
   std::optional<std::string> chosen;
 };
 
-TEST_F(FolderDialog, BeginsAtTheFolderOfTheCaller) {
+TEST_F(FolderDialog, BeginsInTheFolderOfTheCaller) {
   Browse("C:\\photos\\2005", [](QWidget& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmBrowseForFolder");
     EXPECT_EQ(dialog.windowTitle(), "Select Source Folder");
@@ -53,7 +53,7 @@ TEST_F(FolderDialog, AFolderIsChosenWithTheMouse) {
   EXPECT_EQ(chosen, "C:\\photos\\sub");
 }
 
-TEST_F(FolderDialog, AndWithTheKeyboard) {
+TEST_F(FolderDialog, AFolderIsChosenWithTheKeyboard) {
   Browse("C:\\photos", [](QWidget& dialog) {
     QTest::keyClick(&Tree(dialog), Qt::Key_Down);
     QTest::keyClick(&Tree(dialog), Qt::Key_Right);
@@ -72,8 +72,8 @@ TEST_F(FolderDialog, CancelChoosesNothing) {
   EXPECT_EQ(chosen, std::nullopt);
 }
 
-TEST_F(FolderDialog, KeepsWhetherItWasCancelled) {
-  frmBrowseForFolder form(desk.paths);
+TEST_F(FolderDialog, RemembersWhetherItWasCancelled) {
+  frmBrowseForFolder form(harness.paths);
   EXPECT_FALSE(form.Cancelled);
   DriveModal([&] { form.exec(); }, [](QWidget& dialog) { Click(dialog, "CancelButton"); });
   EXPECT_TRUE(form.Cancelled);
@@ -90,7 +90,7 @@ struct Begin {
   std::string selected;
 };
 
-TEST_F(FolderDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
+TEST_F(FolderDialog, ForAMissingFolderTheNearestParentIsOpened) {
   const std::vector<Begin> cases = {
       {"C:\\photos\\1999\\May", "C:\\photos"},
       {"C:\\photos\\2005\\", "C:\\photos\\2005"},
@@ -107,13 +107,13 @@ TEST_F(FolderDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
 }
 
 TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
-  const env::PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', desk.disk.Path().string()}, {'Z', "/"}}};
+  const env::PathMap paths{{{'C', QDir::homePath().toStdString()}, {'D', harness.disk.Path().string()}, {'Z', "/"}}};
   frmBrowseForFolder form(paths);
   form.SetSelectedPath("D:\\photos");
   const FolderTree& tree = Tree(form);
   ASSERT_EQ(tree.topLevelItemCount(), 3);
   EXPECT_EQ(tree.topLevelItem(0)->text(0), "Home (C:)");
-  EXPECT_EQ(tree.topLevelItem(1)->text(0).toStdString(), desk.disk.Path().filename().string() + " (D:)");
+  EXPECT_EQ(tree.topLevelItem(1)->text(0).toStdString(), harness.disk.Path().filename().string() + " (D:)");
   EXPECT_EQ(tree.topLevelItem(2)->text(0), "File System (Z:)");
   const QTreeWidgetItem& drive = *tree.topLevelItem(1);
   ASSERT_EQ(drive.childCount(), 1);
@@ -123,8 +123,8 @@ TEST_F(FolderDialog, ShowsDrivesByNameAndNoFilesOrHiddenFolders) {
   EXPECT_EQ(drive.child(0)->child(1)->text(0), "sub");
 }
 
-TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
-  frmBrowseForFolder form(desk.paths);
+TEST_F(FolderDialog, AFolderWithoutSubfoldersCannotBeExpanded) {
+  frmBrowseForFolder form(harness.paths);
   form.SetSelectedPath("C:\\photos\\sub");
   EXPECT_EQ(Tree(form).currentItem()->childIndicatorPolicy(), QTreeWidgetItem::DontShowIndicatorWhenChildless);
   EXPECT_EQ(Tree(form).currentItem()->childCount(), 0);
@@ -133,12 +133,12 @@ TEST_F(FolderDialog, AFolderThatTurnsOutToHaveNoneCannotBeOpened) {
 TEST_F(FolderDialog, WithoutDrivesItShowsHomeAndTheFileSystem) {
   const env::PathMap paths({}, QDir::homePath().toStdString());
   frmBrowseForFolder form(paths);
-  form.SetSelectedPath(paths.ToText(desk.disk.Path() / "photos"));
+  form.SetSelectedPath(paths.ToText(harness.disk.Path() / "photos"));
   const FolderTree& tree = Tree(form);
   ASSERT_EQ(tree.topLevelItemCount(), 2);
   EXPECT_EQ(tree.topLevelItem(0)->text(0), "Home");
   EXPECT_EQ(tree.topLevelItem(1)->text(0), "File System");
-  EXPECT_EQ(form.SelectedPath(), paths.ToText(desk.disk.Path() / "photos"));
+  EXPECT_EQ(form.SelectedPath(), paths.ToText(harness.disk.Path() / "photos"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/FolderTree.h"
 #include "ui/files/frmBrowseForImageFolders.h"
 
@@ -18,8 +18,8 @@ using fakes::RowOf;
 
 using Paths = std::vector<std::string>;
 
-struct TripsDesk : fakes::BrowserDesk {
-  TripsDesk() {
+struct TripsHarness : fakes::FileBrowserHarness {
+  TripsHarness() {
     for (const char* name : {"trips/2004/x", "trips/2005/June/x", "trips/2005/July/x"}) disk.Write(name, "");
   }
 };
@@ -43,11 +43,11 @@ class ImageFoldersDialog : public testing::Test {
     return RowOf(Tree(dialog), name).data(Qt::CheckStateRole).toInt() == Qt::Checked;
   }
 
-  TripsDesk desk;
-  frmBrowseForImageFolders form{desk.paths, "C:\\trips"};
+  TripsHarness harness;
+  frmBrowseForImageFolders form{harness.paths, "C:\\trips"};
 };
 
-TEST_F(ImageFoldersDialog, SaysWhatItIsFor) {
+TEST_F(ImageFoldersDialog, HasItsTexts) {
   EXPECT_EQ(form.windowTitle(), "Add Folder to Gallery");
   EXPECT_EQ(Find<QLabel>(form, "lblInfo").text(), "Please select the Folder you wish to add to the Gallery:");
   EXPECT_EQ(Find<QLabel>(form, "lblnote").text(),
@@ -62,13 +62,13 @@ TEST_F(ImageFoldersDialog, SaysWhatItIsFor) {
   EXPECT_EQ(Find<QPushButton>(form, "btnCancel").toolTip(), "Cancel this Dialog");
 }
 
-TEST_F(ImageFoldersDialog, WithNothingCheckedTheSelectedFolderCounts) {
+TEST_F(ImageFoldersDialog, WithNothingCheckedTheSelectedFolderIsReturned) {
   Show([](QWidget& dialog) { Click(dialog, "btnOK"); });
   EXPECT_FALSE(form.Cancelled);
   EXPECT_EQ(form.Folders(), Paths{"C:\\trips"});
 }
 
-TEST_F(ImageFoldersDialog, WithRecursionAllBelowTheSelectedFolderCountsToo) {
+TEST_F(ImageFoldersDialog, WithRecursionAllSubfoldersOfTheSelectedFolderAreReturnedToo) {
   Show([](QWidget& dialog) {
     Click(dialog, "checkRecursive");
     Click(dialog, "btnOK");
@@ -77,7 +77,7 @@ TEST_F(ImageFoldersDialog, WithRecursionAllBelowTheSelectedFolderCountsToo) {
                                    "C:\\trips\\2005\\June"}));
 }
 
-TEST_F(ImageFoldersDialog, CheckedFoldersCountAndTheSelectedOneDoesNot) {
+TEST_F(ImageFoldersDialog, CheckedFoldersAreReturnedInsteadOfTheSelectedOne) {
   Show([](QWidget& dialog) {
     Check(dialog, "2005");
     Check(dialog, "2004");
@@ -87,7 +87,7 @@ TEST_F(ImageFoldersDialog, CheckedFoldersCountAndTheSelectedOneDoesNot) {
   EXPECT_EQ(form.Folders(), (Paths{"C:\\trips\\2004", "C:\\trips\\2005"}));
 }
 
-TEST_F(ImageFoldersDialog, ACheckBoxIsClickedWithTheMouse) {
+TEST_F(ImageFoldersDialog, ACheckBoxCanBeClickedWithTheMouse) {
   Show([](QWidget& dialog) {
     const QModelIndex row = RowOf(Tree(dialog), "2004");
     Tree(dialog).scrollTo(row);
@@ -103,7 +103,7 @@ TEST_F(ImageFoldersDialog, ACheckBoxIsClickedWithTheMouse) {
   EXPECT_EQ(form.Folders(), Paths{"C:\\trips\\2004"});
 }
 
-TEST_F(ImageFoldersDialog, WithRecursionFoldersThatAreOpenedLaterAreCheckedToo) {
+TEST_F(ImageFoldersDialog, WithRecursionFoldersExpandedLaterAreCheckedToo) {
   Show([](QWidget& dialog) {
     Click(dialog, "checkRecursive");
     Check(dialog, "trips");
@@ -131,7 +131,7 @@ TEST_F(ImageFoldersDialog, WithoutRecursionOnlyTheFolderItselfChanges) {
             (Paths{"C:\\trips\\2004", "C:\\trips\\2005", "C:\\trips\\2005\\July", "C:\\trips\\2005\\June"}));
 }
 
-TEST_F(ImageFoldersDialog, CancelGivesNoFolders) {
+TEST_F(ImageFoldersDialog, CancelReturnsNoFolders) {
   Show([](QWidget& dialog) {
     Check(dialog, "2004");
     Click(dialog, "btnCancel");
@@ -142,8 +142,8 @@ TEST_F(ImageFoldersDialog, CancelGivesNoFolders) {
   EXPECT_TRUE(form.Cancelled);
 }
 
-TEST_F(ImageFoldersDialog, ALookUpOfManyFoldersCanBeCancelled) {
-  for (int i = 0; i < 200; ++i) desk.disk.Write("trips/many/" + std::to_string(i) + "/x", "");
+TEST_F(ImageFoldersDialog, ASearchOfManyFoldersCanBeCancelled) {
+  for (int i = 0; i < 200; ++i) harness.disk.Write("trips/many/" + std::to_string(i) + "/x", "");
   Show([](QWidget& dialog) {
     Click(dialog, "checkRecursive");
     QMetaObject::invokeMethod(

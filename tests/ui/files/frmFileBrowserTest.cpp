@@ -1,5 +1,5 @@
 #include "core/ImageFormats.h"
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/frmFileBrowser.h"
 #include "ui/widgets/StretchedPicture.h"
 
@@ -62,17 +62,17 @@ class FileDialog : public testing::Test {
   }
 
   static bool HasPicture(QWidget& dialog) { return !Find<StretchedPicture>(dialog, "pbPreview").Picture().isNull(); }
-  static bool PictureComes(QWidget& dialog) {
+  static bool ShowsAPicture(QWidget& dialog) {
     return QTest::qWaitFor([&] { return HasPicture(dialog); });
   }
   static std::string SizeText(QWidget& dialog) { return Find<QLabel>(dialog, "lblSize").text().toStdString(); }
 
-  fakes::BrowserDesk desk;
-  frmFileBrowser browser{desk.paths, desk.boxes, desk.files};
+  fakes::FileBrowserHarness harness;
+  frmFileBrowser browser{harness.paths, harness.boxes, harness.files};
   FileDialogResult result;
 };
 
-TEST_F(FileDialog, HasItsNameItsTitleAndTheTextsOfItsButtons) {
+TEST_F(FileDialog, HasItsNameTitleAndButtonTexts) {
   Show(Images(), [](QWidget& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmFileBrowser");
     EXPECT_EQ(dialog.windowTitle(), "Add Images");
@@ -96,7 +96,7 @@ TEST_F(FileDialog, AFileIsChosenWithTheMouse) {
   EXPECT_EQ(result.names, Names{"C:\\photos\\a.jpg"});
 }
 
-TEST_F(FileDialog, ADoubleClickChoosesToo) {
+TEST_F(FileDialog, ADoubleClickChoosesAFile) {
   Show(Images(), [](QWidget& dialog) {
     const QModelIndex row = RowOf(List(dialog), "c.jfif");
     ClickRow(List(dialog), row);
@@ -106,7 +106,7 @@ TEST_F(FileDialog, ADoubleClickChoosesToo) {
   EXPECT_EQ(result.names, Names{"c.jfif"});
 }
 
-TEST_F(FileDialog, CancelGivesNothing) {
+TEST_F(FileDialog, CancelChoosesNothing) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
     Click(Cancel(dialog));
@@ -136,18 +136,18 @@ TEST_F(FileDialog, WithoutMultiSelectASecondFileReplacesTheFirst) {
   });
 }
 
-TEST_F(FileDialog, TheSelectedPhotographIsShownWithItsSize) {
+TEST_F(FileDialog, TheSelectedPhotographIsPreviewedWithItsSize) {
   Show(Images(), [](QWidget& dialog) {
     EXPECT_TRUE(Find<QCheckBox>(dialog, "checkPreview").isChecked());
     EXPECT_EQ(Find<QWidget>(dialog, "extendedArea").width(), Find<QWidget>(dialog, "pbPreview").width() + 20);
     EXPECT_EQ(SizeText(dialog), "");
     ClickFile(dialog, "b.JPG");
-    EXPECT_TRUE(PictureComes(dialog));
+    EXPECT_TRUE(ShowsAPicture(dialog));
     EXPECT_TRUE(SizeText(dialog).starts_with("(64x48, ")) << SizeText(dialog);
   });
 }
 
-TEST_F(FileDialog, OtherPicturesAreShownByLoadingThem) {
+TEST_F(FileDialog, OtherPicturesArePreviewedToo) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -158,7 +158,7 @@ TEST_F(FileDialog, OtherPicturesAreShownByLoadingThem) {
   });
 }
 
-TEST_F(FileDialog, ThePictureIsStretchedOverAllOfItsBox) {
+TEST_F(FileDialog, ThePictureIsStretchedToItsBox) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -171,7 +171,7 @@ TEST_F(FileDialog, ThePictureIsStretchedOverAllOfItsBox) {
   });
 }
 
-TEST_F(FileDialog, AFileThatIsNotAPictureShowsNothing) {
+TEST_F(FileDialog, AFileThatIsNotAPictureHasNoPreview) {
   FileDialogRequest request = Images(false);
   request.filter = "All Files (*.*)|*.*";
   Show(request, [](QWidget& dialog) {
@@ -185,9 +185,9 @@ TEST_F(FileDialog, AFileThatIsNotAPictureShowsNothing) {
   });
 }
 
-TEST_F(FileDialog, APhotographThatBreaksOffShowsNothing) {
+TEST_F(FileDialog, ATruncatedPhotographHasNoPreview) {
   const std::string whole = fakes::MakeJpeg({.width = 64, .height = 64});
-  desk.disk.Write("photos/cut.jpg", whole.substr(0, whole.size() / 2));
+  harness.disk.Write("photos/cut.jpg", whole.substr(0, whole.size() / 2));
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "cut.jpg");
     EXPECT_TRUE(QTest::qWaitFor([&] { return SizeText(dialog).empty(); }));
@@ -195,25 +195,25 @@ TEST_F(FileDialog, APhotographThatBreaksOffShowsNothing) {
   });
 }
 
-TEST_F(FileDialog, WithoutTheCheckBoxNothingIsShown) {
+TEST_F(FileDialog, WithoutTheCheckBoxNothingIsPreviewed) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
-    ASSERT_TRUE(PictureComes(dialog));
+    ASSERT_TRUE(ShowsAPicture(dialog));
     Click(dialog, "checkPreview");
     EXPECT_FALSE(HasPicture(dialog));
     EXPECT_EQ(SizeText(dialog), "");
     ClickFile(dialog, "b.JPG");
     EXPECT_EQ(SizeText(dialog), "");
     Click(dialog, "checkPreview");
-    EXPECT_TRUE(PictureComes(dialog));
+    EXPECT_TRUE(ShowsAPicture(dialog));
     EXPECT_TRUE(SizeText(dialog).starts_with("(64x48, ")) << SizeText(dialog);
   });
 }
 
-TEST_F(FileDialog, AClickOnThePictureShowsItOnTheWholeScreen) {
+TEST_F(FileDialog, AClickOnThePictureShowsItFullScreen) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
-    ASSERT_TRUE(PictureComes(dialog));
+    ASSERT_TRUE(ShowsAPicture(dialog));
     const std::string size = SizeText(dialog);
     const auto check = [&](QWidget& preview) {
       EXPECT_EQ(preview.objectName(), "frmPreview");
@@ -224,7 +224,7 @@ TEST_F(FileDialog, AClickOnThePictureShowsItOnTheWholeScreen) {
   });
 }
 
-TEST_F(FileDialog, AClickWithNoFileInHandShowsNothing) {
+TEST_F(FileDialog, AClickWithoutASelectedFileShowsNothing) {
   Show(Images(), [](QWidget& dialog) {
     const auto opensAWindow = [&dialog] {
       bool opened = false;
@@ -245,7 +245,7 @@ TEST_F(FileDialog, AClickWithNoFileInHandShowsNothing) {
   });
 }
 
-TEST_F(FileDialog, WithoutPreviewThereIsNoRoomForOne) {
+TEST_F(FileDialog, WithoutPreviewThereIsNoSpaceForOne) {
   Show({.title = "Open", .initialFolder = "C:\\photos"}, [](QWidget& dialog) {
     EXPECT_FALSE(Find<QWidget>(dialog, "pbPreview").isVisible());
     EXPECT_FALSE(Find<QWidget>(dialog, "lblSize").isVisible());
@@ -276,10 +276,10 @@ TEST_F(FileDialog, FiltersShowTheirDescriptionsAndMatchInAnyCase) {
   });
 }
 
-TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndOneOf1022IsNot) {
+TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndATextOf1022IsNot) {
   const std::string base = "photos/long/";
-  for (const char first : {'a', 'b', 'c', 'd'}) desk.disk.Write(base + first + std::string(248, 'x') + ".jpg", "");
-  desk.disk.Write(base + 'e' + std::string(247, 'x') + ".jpg", "");
+  for (const char first : {'a', 'b', 'c', 'd'}) harness.disk.Write(base + first + std::string(248, 'x') + ".jpg", "");
+  harness.disk.Write(base + 'e' + std::string(247, 'x') + ".jpg", "");
   FileDialogRequest request = Images();
   request.initialFolder = "C:\\photos\\long";
   Show(request, [&](QWidget& dialog) {
@@ -288,19 +288,19 @@ TEST_F(FileDialog, ATextOf1023CharactersIsReportedAndOneOf1022IsNot) {
     };
     for (const char first : {'a', 'b', 'c'}) click(first, 248);
     EXPECT_TRUE(Ok(dialog).isEnabled());
-    EXPECT_TRUE(desk.boxes.boxes.empty());
+    EXPECT_TRUE(harness.boxes.boxes.empty());
     click('d', 248);
     EXPECT_EQ(NameBox(dialog).text().size(), 1023);
     EXPECT_FALSE(Ok(dialog).isEnabled());
-    EXPECT_EQ(desk.boxes.boxes.size(), 1U);
+    EXPECT_EQ(harness.boxes.boxes.size(), 1U);
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
     click('e', 247);
-    EXPECT_EQ(desk.boxes.boxes.size(), 2U);
+    EXPECT_EQ(harness.boxes.boxes.size(), 2U);
     click('d', 248);
     EXPECT_EQ(NameBox(dialog).text().size(), 1022);
     EXPECT_TRUE(Ok(dialog).isEnabled());
-    EXPECT_EQ(desk.boxes.boxes.size(), 2U);
+    EXPECT_EQ(harness.boxes.boxes.size(), 2U);
     Click(Ok(dialog));
   });
   EXPECT_EQ(result.names.size(), 4U);
@@ -318,7 +318,7 @@ TEST_F(FileDialog, PathTextCanBeTyped) {
 
 TEST_F(FileDialog, ANativePathBecomesPathTextWhenTheBoxIsLeft) {
   Show(Images(), [&](QWidget& dialog) {
-    Type(NameBox(dialog), desk.Native("photos/sub/d.jpg"));
+    Type(NameBox(dialog), harness.Native("photos/sub/d.jpg"));
     if (QWidget* const completions = QApplication::activePopupWidget()) completions->close();
     QTest::keyClick(&NameBox(dialog), Qt::Key_Tab);
     EXPECT_EQ(NameBox(dialog).text(), "C:\\photos\\sub\\d.jpg");
@@ -327,16 +327,16 @@ TEST_F(FileDialog, ANativePathBecomesPathTextWhenTheBoxIsLeft) {
   EXPECT_EQ(result.folder, "C:\\photos\\sub\\");
 }
 
-TEST_F(FileDialog, ANativePathIsTakenAtOnce) {
+TEST_F(FileDialog, ANativePathIsAcceptedAtOnce) {
   Show(Images(), [&](QWidget& dialog) {
-    Type(NameBox(dialog), desk.Native("photos/sub/d.jpg"));
+    Type(NameBox(dialog), harness.Native("photos/sub/d.jpg"));
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
   });
   EXPECT_EQ(result.folder, "C:\\photos\\sub\\");
   EXPECT_EQ(result.names, Names{"d.jpg"});
 }
 
-TEST_F(FileDialog, ATypedFolderIsEntered) {
+TEST_F(FileDialog, ATypedFolderIsOpened) {
   Show(Images(false), [](QWidget& dialog) {
     Type(NameBox(dialog), "C:\\photos\\sub");
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
@@ -352,8 +352,8 @@ int WidthNeeded(const QAbstractItemView& list, int column) {
   return list.sizeHintForColumn(column);
 }
 
-TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
-  desk.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
+TEST_F(FileDialog, TheColumnsFitEachOpenedFolder) {
+  harness.disk.Write("photos/sub/large.jpg", std::string(123456, 'x'));
   Show(Images(), [](QWidget& dialog) {
     auto& details = Find<QTreeView>(dialog, "treeView");
     const auto fits = [&] {
@@ -376,14 +376,14 @@ TEST_F(FileDialog, TheColumnsFitEachFolderThatIsEntered) {
   });
 }
 
-TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
+TEST_F(FileDialog, WidthsSetByTheUserStayWhileTheFolderIsShown) {
   Show(Images(), [&](QWidget& dialog) {
     auto& details = Find<QTreeView>(dialog, "treeView");
     EXPECT_TRUE(RowOf(details, "a.jpg").isValid());
     EXPECT_TRUE(QTest::qWaitFor([&] { return details.columnWidth(1) >= WidthNeeded(details, 1); }));
     QApplication::processEvents();
     details.setColumnWidth(1, 33);
-    desk.disk.Write("photos/new.jpg", fakes::MakeJpeg({}));
+    harness.disk.Write("photos/new.jpg", fakes::MakeJpeg({}));
     EXPECT_TRUE(RowOf(details, "new.jpg").isValid());
     QApplication::processEvents();
     EXPECT_EQ(details.columnWidth(1), 33);
@@ -391,20 +391,20 @@ TEST_F(FileDialog, WidthsOfTheUsersOwnStayWhileTheFolderIsShown) {
   });
 }
 
-TEST_F(FileDialog, CompletionsCloseWhenAFolderIsEntered) {
+TEST_F(FileDialog, CompletionsCloseWhenAFolderIsOpened) {
   Show(Images(), [&](QWidget& dialog) {
     const QWidget& completions = *NameBox(dialog).completer()->popup();
     EXPECT_TRUE(RowOf(List(dialog), "sub").isValid());
     Type(NameBox(dialog), "s");
     EXPECT_TRUE(QTest::qWaitFor([&] { return completions.isVisible(); }));
-    dynamic_cast<QFileDialog&>(dialog).setDirectory(desk.Native("photos/sub"));
+    dynamic_cast<QFileDialog&>(dialog).setDirectory(harness.Native("photos/sub"));
     EXPECT_TRUE(RowOf(List(dialog), "d.jpg").isValid());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !completions.isVisible(); }));
     Click(Cancel(dialog));
   });
 }
 
-TEST_F(FileDialog, TheFolderIsShownAsPathTextWithThoseAboveIt) {
+TEST_F(FileDialog, TheFolderAndItsParentsAreListedAsPathText) {
   Show(Images(), [](QWidget& dialog) {
     auto& folder = Find<QComboBox>(dialog, "comboFolder");
     EXPECT_EQ(folder.currentText(), "C:\\photos");
@@ -416,13 +416,13 @@ TEST_F(FileDialog, TheFolderIsShownAsPathTextWithThoseAboveIt) {
   });
 }
 
-TEST_F(FileDialog, AMissingFolderGivesWayToTheNearestAboveIt) {
+TEST_F(FileDialog, ForAMissingFolderTheNearestParentIsOpened) {
   FileDialogRequest request = Images();
   request.initialFolder = "C:\\photos\\1999\\May";
   Show(request, [](QWidget& dialog) { EXPECT_EQ(Find<QComboBox>(dialog, "comboFolder").currentText(), "C:\\photos"); });
 }
 
-TEST_F(FileDialog, WithoutAFolderItBeginsWhereItWasLeft) {
+TEST_F(FileDialog, WithoutAFolderItBeginsInTheLastOne) {
   Show(Images(), [](QWidget& dialog) {
     ClickFile(dialog, "a.jpg");
     Click(Ok(dialog));
@@ -431,21 +431,21 @@ TEST_F(FileDialog, WithoutAFolderItBeginsWhereItWasLeft) {
        [](QWidget& dialog) { EXPECT_EQ(Find<QComboBox>(dialog, "comboFolder").currentText(), "C:\\photos"); });
 }
 
-TEST_F(FileDialog, AFileThatIsNotThereIsReportedAndTheDialogStays) {
+TEST_F(FileDialog, AMissingFileIsReportedAndTheDialogStaysOpen) {
   Show(Images(), [](QWidget& dialog) {
     Type(NameBox(dialog), "none.jpg");
     QTest::keyClick(&NameBox(dialog), Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(NameBox(dialog).text(), "none.jpg");
   });
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_TRUE(desk.boxes.boxes[0].text.starts_with("none.jpg\r\nFile not found.")) << desk.boxes.boxes[0].text;
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_TRUE(harness.boxes.boxes[0].text.starts_with("none.jpg\r\nFile not found.")) << harness.boxes.boxes[0].text;
   EXPECT_EQ(result.result, "");
 }
 
-TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
-  desk.disk.Write("my.gpj", "old");
-  desk.boxes.answers = {env::BoxAnswer::No};
+TEST_F(FileDialog, SavingProposesANameAndAsksBeforeAFileIsReplaced) {
+  harness.disk.Write("my.gpj", "old");
+  harness.boxes.answers = {env::BoxAnswer::No};
   const FileDialogRequest request{.open = false,
                                   .title = "Save Gallery Project As",
                                   .initialFolder = "C:\\",
@@ -460,8 +460,8 @@ TEST_F(FileDialog, SavingProposesANameAndAsksBeforeItReplacesAFile) {
     Click(Ok(dialog));
   });
   EXPECT_EQ(result.result, "C:\\my.gpj");
-  ASSERT_EQ(desk.boxes.boxes.size(), 2U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "my.gpj already exists.\r\nDo you want to replace it?");
+  ASSERT_EQ(harness.boxes.boxes.size(), 2U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "my.gpj already exists.\r\nDo you want to replace it?");
 }
 
 }  // namespace

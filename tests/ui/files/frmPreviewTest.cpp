@@ -1,5 +1,5 @@
 #include "tests/fakes/PhotographMaker.h"
-#include "tests/ui/BrowserDesk.h"
+#include "tests/ui/FileBrowserHarness.h"
 #include "ui/files/frmPreview.h"
 
 #include <QLabel>
@@ -20,7 +20,7 @@ class FullScreenPreview : public testing::Test {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(Qt::blue);
     picture.setPixelColor(red, Qt::red);
-    picture.save(desk.Native("picture.png"));
+    picture.save(harness.Native("picture.png"));
     preview.SetPicture("picture", "C:\\picture.png");
   }
 
@@ -40,8 +40,8 @@ class FullScreenPreview : public testing::Test {
                });
   }
 
-  fakes::BrowserDesk desk;
-  frmPreview preview{desk.paths};
+  fakes::FileBrowserHarness harness;
+  frmPreview preview{harness.paths};
 };
 
 TEST_F(FullScreenPreview, CoversTheScreen) {
@@ -57,7 +57,7 @@ TEST_F(FullScreenPreview, ItsTitleHasTheDescription) {
   EXPECT_FALSE(Find<QLabel>(preview, "pic").isVisible());
 }
 
-TEST_F(FullScreenPreview, ASmallPictureIsInTheMiddleAtItsNaturalSize) {
+TEST_F(FullScreenPreview, ASmallPictureIsCenteredAtItsNaturalSize) {
   Draw({40, 30}, {0, 0});
   const QImage drawn = Drawn();
   const QPoint corner(Pixels().width() / 2 - 20, Pixels().height() / 2 - 15);
@@ -68,7 +68,7 @@ TEST_F(FullScreenPreview, ASmallPictureIsInTheMiddleAtItsNaturalSize) {
   EXPECT_NE(drawn.pixelColor(corner - QPoint(1, 0)), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, AnOversizedPictureIsCutAtAllSides) {
+TEST_F(FullScreenPreview, AnOversizedPictureIsCroppedAtAllSides) {
   const QSize screen = Pixels();
   Draw(screen + QSize(200, 100), {100, 50});
   const QImage drawn = Drawn();
@@ -77,7 +77,7 @@ TEST_F(FullScreenPreview, AnOversizedPictureIsCutAtAllSides) {
   EXPECT_EQ(drawn.pixelColor(screen.width() - 1, screen.height() - 1), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCutAtTwoSides) {
+TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCroppedAtTwoSides) {
   const QSize screen = Pixels();
   Draw({screen.width() + 200, 20}, {100, 0});
   const QImage drawn = Drawn();
@@ -85,11 +85,11 @@ TEST_F(FullScreenPreview, APictureWiderThanTheScreenIsCutAtTwoSides) {
   EXPECT_NE(drawn.pixelColor(0, screen.height() / 2 - 11), QColor(Qt::blue));
 }
 
-TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToAreUprightAndItsMiddleIsShown) {
+TEST_F(FullScreenPreview, APhotographIsTurnedOnRequestAndItsMiddleIsShown) {
   const auto& pic = Find<QLabel>(preview, "pic");
   const auto write = [this](int width, int height) {
     const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = width, .height = height}), 6);
-    std::ofstream(desk.Native("lying.jpg").toStdString(), std::ios::binary) << jpeg;
+    std::ofstream(harness.Native("lying.jpg").toStdString(), std::ios::binary) << jpeg;
   };
   write(60, 20);
   preview.SetPicture("lying", "C:\\lying.jpg", {.upright = true});
@@ -102,7 +102,7 @@ TEST_F(FullScreenPreview, APhotographIsTurnedIfItIsToAreUprightAndItsMiddleIsSho
   EXPECT_LT(pic.pixmap().height(), 9000);
 }
 
-TEST_F(FullScreenPreview, WhatIsNotAPhotographIsShownAsItIs) {
+TEST_F(FullScreenPreview, APictureThatIsNotAPhotographIsShownAsStored) {
   Draw({40, 30}, {0, 0});
   preview.SetPicture("picture", "C:\\picture.png", {.upright = true, .trueColors = true});
   EXPECT_EQ(Find<QLabel>(preview, "pic").pixmap().size(), QSize(40, 30));
@@ -118,7 +118,7 @@ TEST_F(FullScreenPreview, APictureThatCannotBeShownLeavesTheScreenEmpty) {
   }
 }
 
-TEST_F(FullScreenPreview, TheCloseButtonIsOutOfSightAndReachedByItsKeys) {
+TEST_F(FullScreenPreview, TheCloseButtonIsInvisibleAndWorksByItsKeys) {
   preview.show();
   EXPECT_FALSE(preview.rect().intersects(Find<QPushButton>(preview, "btnClose").geometry()));
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {

@@ -1,6 +1,6 @@
 #include "tests/fakes/JpegMaker.h"
 #include "tests/ui/FormDriver.h"
-#include "tests/ui/RunDesk.h"
+#include "tests/ui/RunHarness.h"
 
 #include <QPushButton>
 #include <QTimer>
@@ -10,8 +10,8 @@
 namespace vantorium::ui {
 namespace {
 
-/// Real runs with photographs.
-class RunInItsWindow : public testing::Test, protected fakes::RunDesk {
+/// Runs with photographs and a real progress window.
+class RunInItsWindow : public testing::Test, protected fakes::RunHarness {
  protected:
   RunInItsWindow() {
     const std::string photograph = fakes::MakeJpeg({.width = 320, .height = 240});
@@ -38,7 +38,7 @@ class RunInItsWindow : public testing::Test, protected fakes::RunDesk {
   QTimer watch;
 };
 
-TEST_F(RunInItsWindow, GoesThroughToItsEndAndGivesTheMainWindowBack) {
+TEST_F(RunInItsWindow, EndsAndEnablesTheMainWindowAgain) {
   bool wasDisabled = false;
   Watch([&](frmProgress& window) {
     wasDisabled = !host.window.isEnabled() && window.isEnabled();
@@ -51,7 +51,7 @@ TEST_F(RunInItsWindow, GoesThroughToItsEndAndGivesTheMainWindowBack) {
   EXPECT_TRUE(IsWritten("index.htm"));
 }
 
-TEST_F(RunInItsWindow, IsCancelledThroughTheButtonInMidRun) {
+TEST_F(RunInItsWindow, CanBeCancelledByTheButtonInMidRun) {
   boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   std::int32_t refusedAt = 0;
   std::int32_t confirmedAt = 0;
@@ -66,13 +66,13 @@ TEST_F(RunInItsWindow, IsCancelledThroughTheButtonInMidRun) {
   EXPECT_EQ(boxes.boxes[0].title, "Cancel Request");
   EXPECT_EQ(boxes.boxes[1].title, "Cancel Request");
   EXPECT_EQ(boxes.boxes[2].title, "Creation cancelled");
-  EXPECT_GE(confirmedAt, refusedAt) << "the run went on behind the No";
+  EXPECT_GE(confirmedAt, refusedAt) << "after No the run continued";
   EXPECT_TRUE(host.window.isEnabled());
   EXPECT_TRUE(host.progress.isNull());
   EXPECT_FALSE(IsWritten("index.htm"));
 }
 
-TEST_F(RunInItsWindow, AFailureStaysUntilItIsClosed) {
+TEST_F(RunInItsWindow, StaysOpenAfterAFailureUntilItIsClosed) {
   std::filesystem::remove(folder.Path() / "photos/3.jpg");
   Watch([&](frmProgress& window) {
     if (!window.OffersClose()) return false;

@@ -1,5 +1,5 @@
 // Which control gets the focus when the focused control is hidden.
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 
 #include <QTabBar>
 
@@ -7,9 +7,9 @@ namespace vantorium::ui {
 namespace {
 
 using fakes::Find;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 
-/// Buttons that destroy something when pressed.
+/// Buttons that delete something when pressed.
 constexpr const char* kDestroys[] = {"btnImagesShuffle", "btnImagesRemove", "btnImagesRemoveAll"};
 
 /// The first visible control of the page that accepts the focus by Tab.
@@ -21,19 +21,20 @@ QWidget* FirstControl(QWidget& page) {
   return control;
 }
 
-TEST(Focus, NoPageThatGoesLeavesItToAButtonThatDestroys) {
-  MainDesk desk;
-  desk.Start();
-  desk.AddPhotograph("a.jpg");
-  auto& pages = Find<QTabWidget>(*desk.window, "tsMain");
+TEST(Focus, HidingAPageNeverMovesItToAButtonThatDeletes) {
+  MainWindowHarness harness;
+  harness.Start();
+  harness.AddPhotograph("a.jpg");
+  auto& pages = Find<QTabWidget>(*harness.window, "tsMain");
   for (int from = 0; from < pages.count(); ++from) {
     for (int to = 0; to < pages.count(); ++to) {
       pages.setCurrentIndex(from);
       FirstControl(*pages.currentWidget())->setFocus();
       QTest::mouseClick(pages.tabBar(), Qt::LeftButton, {}, pages.tabBar()->tabRect(to).center());
       ASSERT_EQ(pages.currentIndex(), to);
-      const QWidget* focus = desk.window->focusWidget();
-      for (const char* button : kDestroys) EXPECT_NE(focus, &Find<QWidget>(*desk.window, button)) << from << "-" << to;
+      const QWidget* focus = harness.window->focusWidget();
+      for (const char* button : kDestroys)
+        EXPECT_NE(focus, &Find<QWidget>(*harness.window, button)) << from << "-" << to;
     }
   }
 }

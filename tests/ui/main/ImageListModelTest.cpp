@@ -28,7 +28,7 @@ class ListModel : public testing::Test {
   QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-TEST_F(ListModel, GrowsAndShrinksByRefreshOnly) {
+TEST_F(ListModel, GrowsAndShrinksOnlyByRefresh) {
   Add(images, "b");
   Add(images, "c");
   EXPECT_EQ(model.rowCount(), 1);
@@ -40,28 +40,28 @@ TEST_F(ListModel, GrowsAndShrinksByRefreshOnly) {
   EXPECT_EQ(model.rowCount(), 0);
 }
 
-TEST_F(ListModel, RowsThatAreGoneHaveNoText) {
+TEST_F(ListModel, RemovedRowsHaveNoText) {
   images.Clear();
   EXPECT_FALSE(model.index(0, 0).data().isValid());
 }
 
-TEST_F(ListModel, TextsAreThoseOfTheMoment) {
+TEST_F(ListModel, TextsAreAlwaysCurrent) {
   images.Rename(1, "z");
   EXPECT_EQ(model.index(0, 0).data().toString(), "z");
   EXPECT_EQ(model.index(0, 1).data().toString(), "C:\\a");
 }
 
-TEST_F(ListModel, WithoutDrivesASourceIsShownAsTheSystemWritesIt) {
+TEST_F(ListModel, WithoutDrivesASourceIsShownAsANativePath) {
   const env::PathMap usual({}, "/home/me");
   images.Insert(2, {"b", "D:\\b", "", "", "", ""});
   const ImageListModel shown(images, usual);
   for (const int role : {Qt::DisplayRole, Qt::ToolTipRole}) {
     EXPECT_EQ(shown.index(0, 1).data(role).toString(), "/home/me/a");
-    EXPECT_EQ(shown.index(1, 1).data(role).toString(), "D:\\b") << "it has no place here";
+    EXPECT_EQ(shown.index(1, 1).data(role).toString(), "D:\\b") << "it has no place on this system";
   }
 }
 
-TEST_F(ListModel, RefreshTellsThatTextsMayBeOthers) {
+TEST_F(ListModel, RefreshReportsThatTextsMayHaveChanged) {
   const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
   const QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
   model.Refresh();
@@ -69,7 +69,7 @@ TEST_F(ListModel, RefreshTellsThatTextsMayBeOthers) {
   EXPECT_EQ(reset.count(), 0);
 }
 
-TEST_F(ListModel, RowsCanBeDraggedAndDroppedOn) {
+TEST_F(ListModel, RowsCanBeDraggedAndAcceptDrops) {
   const Qt::ItemFlags flags = model.index(0, 0).flags();
   EXPECT_TRUE(flags & Qt::ItemIsDragEnabled);
   EXPECT_TRUE(flags & Qt::ItemIsDropEnabled);

@@ -1,4 +1,4 @@
-#include "tests/ui/ImagesDesk.h"
+#include "tests/ui/ImagesPageHarness.h"
 #include "ui/main/ImageListView.h"
 
 #include <QMimeData>
@@ -12,26 +12,26 @@ using Names = std::vector<std::string>;
 
 class DraggingRows : public testing::Test {
  protected:
-  DraggingRows() { desk.AddAll({"a.jpg", "b.jpg", "c.jpg", "d.jpg"}); }
+  DraggingRows() { harness.AddAll({"a.jpg", "b.jpg", "c.jpg", "d.jpg"}); }
 
   [[nodiscard]] QPoint MiddleOf(int row) const {
-    return desk.list->visualRect(desk.list->model()->index(row, 0)).center();
+    return harness.list->visualRect(harness.list->model()->index(row, 0)).center();
   }
 
   void MoveWithButtonDown(QPoint to) const {
-    QWidget* viewport = desk.list->viewport();
+    QWidget* viewport = harness.list->viewport();
     QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
     QApplication::sendEvent(viewport, &move);
   }
 
   // A drag runs its own event loop, so a timer moves and releases the mouse.
   void Drag(int row, QPoint to) const {
-    QWidget* viewport = desk.list->viewport();
+    QWidget* viewport = harness.list->viewport();
     QTimer mouse;
     int step = 0;
     QObject::connect(&mouse, &QTimer::timeout, [&] {
-      QWindow* window = desk.page->window()->windowHandle();
-      const QPoint at = viewport->mapTo(desk.page->window(), to);
+      QWindow* window = harness.page->window()->windowHandle();
+      const QPoint at = viewport->mapTo(harness.page->window(), to);
       if (step++ < 2) {
         QTest::mouseMove(window, at);
       } else {
@@ -45,37 +45,37 @@ class DraggingRows : public testing::Test {
     QTest::qWait(150);
   }
 
-  fakes::ImagesDesk desk;
+  fakes::ImagesPageHarness harness;
 };
 
 TEST_F(DraggingRows, ARowIsDroppedOnAnother) {
   Drag(0, MiddleOf(2));
-  EXPECT_EQ(desk.Names(), (Names{"b.jpg", "c.jpg", "a.jpg", "d.jpg"}));
-  EXPECT_EQ(desk.project.images.Current(), 3U);
-  EXPECT_EQ(desk.list->currentIndex().row(), 2);
-  EXPECT_TRUE(desk.project.IsModified);
+  EXPECT_EQ(harness.Names(), (Names{"b.jpg", "c.jpg", "a.jpg", "d.jpg"}));
+  EXPECT_EQ(harness.project.images.Current(), 3U);
+  EXPECT_EQ(harness.list->currentIndex().row(), 2);
+  EXPECT_TRUE(harness.project.IsModified);
 }
 
-TEST_F(DraggingRows, BelowAllRowsItBecomesTheLast) {
-  Drag(1, QPoint(20, desk.list->viewport()->height() - 5));
-  EXPECT_EQ(desk.Names(), (Names{"a.jpg", "c.jpg", "d.jpg", "b.jpg"}));
+TEST_F(DraggingRows, ARowDroppedBelowAllRowsBecomesTheLast) {
+  Drag(1, QPoint(20, harness.list->viewport()->height() - 5));
+  EXPECT_EQ(harness.Names(), (Names{"a.jpg", "c.jpg", "d.jpg", "b.jpg"}));
 }
 
-TEST_F(DraggingRows, AListThatIsKeptSortedRefuses) {
-  desk.operations.SetSortingOrder(1);
+TEST_F(DraggingRows, AListThatIsKeptSortedRefusesDrops) {
+  harness.operations.SetSortingOrder(1);
   Drag(0, MiddleOf(2));
-  EXPECT_EQ(desk.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));
-  ASSERT_FALSE(desk.boxes.boxes.empty());
-  EXPECT_EQ(desk.boxes.boxes.back().title, "Item cannot be moved");
+  EXPECT_EQ(harness.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));
+  ASSERT_FALSE(harness.boxes.boxes.empty());
+  EXPECT_EQ(harness.boxes.boxes.back().title, "Item cannot be moved");
 }
 
 TEST_F(DraggingRows, DropsFromElsewhereAreIgnored) {
   QMimeData foreign;
   foreign.setText("a.jpg");
   QDropEvent drop(MiddleOf(2), Qt::MoveAction | Qt::CopyAction, &foreign, Qt::LeftButton, {});
-  QApplication::sendEvent(desk.list->viewport(), &drop);
+  QApplication::sendEvent(harness.list->viewport(), &drop);
   EXPECT_FALSE(drop.isAccepted());
-  EXPECT_EQ(desk.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));
+  EXPECT_EQ(harness.Names(), (Names{"a.jpg", "b.jpg", "c.jpg", "d.jpg"}));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// What surrounds the main window: the tray, the windows shown at start and end, and what they must not change.
-#include "tests/ui/MainDesk.h"
+// The tray icon, the windows shown at start and end, and their effects on the main window.
+#include "tests/ui/MainWindowHarness.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -25,14 +25,14 @@ namespace {
 using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 using fakes::Type;
 
 class AroundTheMainWindow : public testing::Test {
  protected:
-  [[nodiscard]] const core::Project& Now() const { return desk.model->CurrentProject(); }
+  [[nodiscard]] const core::Project& Now() const { return harness.model->CurrentProject(); }
 
-  MainDesk desk;
+  MainWindowHarness harness;
 };
 
 // The tray
@@ -54,31 +54,31 @@ void ChooseInTray(Qt::Key key) {
   QCoreApplication::processEvents();
 }
 
-TEST_F(AroundTheMainWindow, TheTrayBringsBackAHiddenOrMinimisedWindow) {
-  desk.Start();
-  desk.window->hide();
+TEST_F(AroundTheMainWindow, TheTrayRestoresAHiddenOrMinimizedWindow) {
+  harness.Start();
+  harness.window->hide();
   ChooseInTray(Qt::Key_V);
-  EXPECT_TRUE(desk.window->isVisible());
-  desk.window->showMinimized();
+  EXPECT_TRUE(harness.window->isVisible());
+  harness.window->showMinimized();
   ChooseInTray(Qt::Key_V);
-  EXPECT_FALSE(desk.window->isMinimized());
+  EXPECT_FALSE(harness.window->isMinimized());
 }
 
 TEST_F(AroundTheMainWindow, TheTrayHasHelpAboutAndClose) {
-  desk.folder.Write("data/help/index.html", "x");
-  desk.Start();
+  harness.folder.Write("data/help/index.html", "x");
+  harness.Start();
   ChooseInTray(Qt::Key_H);
-  EXPECT_EQ(desk.shell.opened, (std::vector<std::string>{"T:\\data\\help\\index.html"}));
+  EXPECT_EQ(harness.shell.opened, (std::vector<std::string>{"T:\\data\\help\\index.html"}));
   QString about;
   DriveModal([&] { ChooseInTray(Qt::Key_A); }, [&](QWidget& dialog) { about = dialog.windowTitle(); });
   EXPECT_EQ(about, "About Vantorium");
   ChooseInTray(Qt::Key_C);
-  EXPECT_EQ(desk.closed, 1);
+  EXPECT_EQ(harness.closed, 1);
 }
 
-TEST_F(AroundTheMainWindow, AboutIsOpenedOnceFromWhereverItIsAsked) {
-  desk.Start();
-  DriveModal([&] { desk.Trigger("menuHelpAbout"); },
+TEST_F(AroundTheMainWindow, AboutIsOpenOnlyOnceWhereverItIsOpenedFrom) {
+  harness.Start();
+  DriveModal([&] { harness.Trigger("menuHelpAbout"); },
              [&](QWidget& about) {
                bool another = false;
                QTimer watch;
@@ -90,28 +90,28 @@ TEST_F(AroundTheMainWindow, AboutIsOpenedOnceFromWhereverItIsAsked) {
                });
                watch.start(1);
                ChooseInTray(Qt::Key_A);
-               desk.Trigger("menuHelpAbout");
+               harness.Trigger("menuHelpAbout");
                EXPECT_FALSE(another);
                EXPECT_TRUE(about.isVisible());
              });
   DriveModal([&] { ChooseInTray(Qt::Key_A); },
-             [](QWidget& about) { EXPECT_EQ(about.objectName(), "frmAbout") << "and again when it is closed"; });
+             [](QWidget& about) { EXPECT_EQ(about.objectName(), "frmAbout") << "again after it is closed"; });
 }
 
-TEST_F(AroundTheMainWindow, TheTrayClosesNothingUnderADialog) {
-  desk.Start();
-  desk.AddPhotograph("a.jpg");
-  DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+TEST_F(AroundTheMainWindow, TheTrayCannotCloseTheProgramUnderADialog) {
+  harness.Start();
+  harness.AddPhotograph("a.jpg");
+  DriveModal([&] { harness.Trigger("menuActionsCreate"); },
              [&](QWidget& dialog) {
                ChooseInTray(Qt::Key_C);
                EXPECT_TRUE(dialog.isVisible());
                Click(dialog, "CancelButton");
              });
-  EXPECT_EQ(desk.closed, 0);
-  EXPECT_TRUE(desk.window->isVisible());
+  EXPECT_EQ(harness.closed, 0);
+  EXPECT_TRUE(harness.window->isVisible());
 }
 
-TEST_F(AroundTheMainWindow, NothingIsChosenInTheTrayBeforeTheWindowIsReady) {
+TEST_F(AroundTheMainWindow, TheTrayDoesNothingBeforeTheWindowIsReady) {
   QTimer watch;
   bool chosen = false;
   QObject::connect(&watch, &QTimer::timeout, [&] {
@@ -122,36 +122,36 @@ TEST_F(AroundTheMainWindow, NothingIsChosenInTheTrayBeforeTheWindowIsReady) {
     chosen = true;
   });
   watch.start(0);
-  desk.Start();
+  harness.Start();
   EXPECT_TRUE(chosen);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  EXPECT_EQ(desk.closed, 0);
+  EXPECT_EQ(harness.closed, 0);
 }
 
-TEST_F(AroundTheMainWindow, ASaveLeavesTheKeyboardWhereItWas) {
-  desk.Start();
-  auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+TEST_F(AroundTheMainWindow, ASaveKeepsTheFocus) {
+  harness.Start();
+  auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");
   Type(title, "x");
-  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
-  desk.Trigger("menuFileSave");
+  harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  harness.Trigger("menuFileSave");
   EXPECT_TRUE(QTest::qWaitFor([&] { return title.hasFocus(); }));
 }
 
-TEST_F(AroundTheMainWindow, TheTitleHasTheKeyboardAfterAStartWithAProject) {
-  desk.Start();
-  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
-  desk.Trigger("menuFileSave");
+TEST_F(AroundTheMainWindow, TheTitleHasTheFocusAfterAStartWithAProject) {
+  harness.Start();
+  harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  harness.Trigger("menuFileSave");
   for (const char* file : {"T:\\x.gpj", "T:\\missing.gpj"}) {
-    desk.Start(file);
-    EXPECT_TRUE(Find<QLineEdit>(*desk.window, "textGalleryTitle").hasFocus()) << file;
+    harness.Start(file);
+    EXPECT_TRUE(Find<QLineEdit>(*harness.window, "textGalleryTitle").hasFocus()) << file;
   }
 }
 
-TEST_F(AroundTheMainWindow, LettersInTheDescriptionsWindowReachItsOwnControls) {
-  desk.Start();
-  desk.AddPhotograph("a.jpg");
-  Click(*desk.window, "btnImagesDescriptions");
-  auto& descriptions = Find<QWidget>(*desk.window, "frmImageDescriptions");
+TEST_F(AroundTheMainWindow, KeysInTheDescriptionsWindowReachItsControls) {
+  harness.Start();
+  harness.AddPhotograph("a.jpg");
+  Click(*harness.window, "btnImagesDescriptions");
+  auto& descriptions = Find<QWidget>(*harness.window, "frmImageDescriptions");
   ASSERT_TRUE(QTest::qWaitForWindowActive(&descriptions));
   for (const auto& [letter, control] : std::vector<std::pair<Qt::Key, const char*>>{
            {Qt::Key_P, "comboImageDescriptionPlacement"}, {Qt::Key_H, "textHeader"}, {Qt::Key_F, "textFooter"}}) {
@@ -162,31 +162,31 @@ TEST_F(AroundTheMainWindow, LettersInTheDescriptionsWindowReachItsOwnControls) {
   }
 }
 
-TEST_F(AroundTheMainWindow, TheKeysOfCommandsWorkInTheDescriptionsWindow) {
-  desk.Start();
-  desk.GoTo(1);
-  Click(*desk.window, "btnImagesDescriptions");
-  auto& descriptions = Find<QWidget>(*desk.window, "frmImageDescriptions");
+TEST_F(AroundTheMainWindow, ShortcutsOfCommandsWorkInTheDescriptionsWindow) {
+  harness.Start();
+  harness.GoTo(1);
+  Click(*harness.window, "btnImagesDescriptions");
+  auto& descriptions = Find<QWidget>(*harness.window, "frmImageDescriptions");
   ASSERT_TRUE(QTest::qWaitForWindowActive(&descriptions));
-  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+  harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   auto& header = Find<QWidget>(descriptions, "textHeader");
   header.setFocus();
   QTest::keyClick(&header, Qt::Key_S, Qt::ControlModifier);
-  EXPECT_EQ(desk.Title(), "Vantorium 3.0 - [x.gpj]");
+  EXPECT_EQ(harness.Title(), "Vantorium 3.0 - [x.gpj]");
   EXPECT_EQ(descriptions.focusWidget(), &header);
 }
 
 TEST_F(AroundTheMainWindow, TheStatusIsPlainText) {
-  desk.Start();
-  EXPECT_EQ(Find<QLabel>(*desk.window, "sbMainText").textFormat(), Qt::PlainText);
+  harness.Start();
+  EXPECT_EQ(Find<QLabel>(*harness.window, "sbMainText").textFormat(), Qt::PlainText);
 }
 
-TEST_F(AroundTheMainWindow, ATipWithAWordInAngleBracketsIsShownToTheLetter) {
-  desk.Start();
+TEST_F(AroundTheMainWindow, AToolTipWithAWordInAngleBracketsIsPlainText) {
+  harness.Start();
   for (const auto& [page, name] : std::vector<std::pair<int, const char*>>{
            {0, "btnGalleryHEAD"}, {2, "btnImageWrapperHEAD"}, {3, "btnThumbnailsPageHEAD"}}) {
-    desk.GoTo(page);
-    auto& button = Find<QWidget>(*desk.window, name);
+    harness.GoTo(page);
+    auto& button = Find<QWidget>(*harness.window, name);
     EXPECT_EQ(button.toolTip(), "Custom Code to be placed in the <HEAD> Section") << name;
     QHelpEvent help(QEvent::ToolTip, button.rect().center(), button.mapToGlobal(button.rect().center()));
     QApplication::sendEvent(&button, &help);
@@ -219,21 +219,21 @@ class SmallWindows {
   QTimer watch_;
 };
 
-TEST_F(AroundTheMainWindow, ItsStartAndItsEndAreReportedStepByStep) {
+TEST_F(AroundTheMainWindow, StartAndEndAreReportedStepByStep) {
   SmallWindows windows;
-  desk.Start();
+  harness.Start();
   EXPECT_EQ(windows.seen, (std::vector<std::string>{"Please wait while Vantorium is initializing..."}));
   windows.seen.clear();
-  desk.Trigger("menuOptionsClearTempFolder");
+  harness.Trigger("menuOptionsClearTempFolder");
   EXPECT_EQ(windows.seen, (std::vector<std::string>{"Please wait... Clearing Temporary Folder."}));
   windows.seen.clear();
-  desk.window->close();
+  harness.window->close();
   EXPECT_EQ(windows.seen, (std::vector<std::string>{"Saving Preferences", "Clearing Project",
                                                     "Clearing Temporary Folder", "Cleanup"}));
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-/// The texts painted by the info window and the status bar, each once; "greyed " precedes a disabled info line.
+/// The texts painted by the info window and the status bar, each once; "greyed " marks a disabled info line.
 class PaintedTexts : public QObject {
  public:
   PaintedTexts() { qApp->installEventFilter(this); }
@@ -250,26 +250,26 @@ class PaintedTexts : public QObject {
   }
 };
 
-TEST_F(AroundTheMainWindow, AReadingAndAWritingAreReportedAndTheirTextsArePainted) {
-  desk.Start();
-  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+TEST_F(AroundTheMainWindow, ReadingAndWritingAreReportedAndTheTextsArePainted) {
+  harness.Start();
+  harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   PaintedTexts writing;
-  desk.Trigger("menuFileSave");
+  harness.Trigger("menuFileSave");
   EXPECT_EQ(writing.texts,
             (std::set<std::string>{"Please wait... Writing Project File.", "Writing Project File \"T:\\x.gpj\"..."}));
   PaintedTexts reading;
-  desk.Trigger("menuFileOpen");
+  harness.Trigger("menuFileOpen");
   EXPECT_EQ(reading.texts,
             (std::set<std::string>{"Please wait... Reading Project File.", "Reading Project File \"T:\\x.gpj\"..."}));
   PaintedTexts clearing;
-  desk.Trigger("menuOptionsClearTempFolder");
+  harness.Trigger("menuOptionsClearTempFolder");
   EXPECT_EQ(clearing.texts, (std::set<std::string>{"Please wait... Clearing Temporary Folder."}));
 }
 
-TEST_F(AroundTheMainWindow, NothingElseBeginsWhileAProjectIsWritten) {
-  desk.folder.Write("data/help/index.html", "x");
-  desk.Start();
-  desk.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
+TEST_F(AroundTheMainWindow, NoOtherCommandStartsWhileAProjectIsWritten) {
+  harness.folder.Write("data/help/index.html", "x");
+  harness.Start();
+  harness.fileBrowser.answer = {"T:\\x.gpj", "", {"T:\\x.gpj"}};
   bool tried = false;
   int dialogs = 0;
   QTimer watch;
@@ -279,22 +279,22 @@ TEST_F(AroundTheMainWindow, NothingElseBeginsWhileAProjectIsWritten) {
   });
   watch.start(10);
   QTimer::singleShot(0, [&] {
-    EXPECT_FALSE(desk.window->isEnabled());
+    EXPECT_FALSE(harness.window->isEnabled());
     tried = true;
-    desk.window->close();
+    harness.window->close();
     for (const Qt::Key key : {Qt::Key_H, Qt::Key_A, Qt::Key_C}) ChooseInTray(key);
   });
-  desk.Trigger("menuFileSave");
+  harness.Trigger("menuFileSave");
   QCoreApplication::processEvents();
   EXPECT_TRUE(tried);
   EXPECT_EQ(dialogs, 0);
-  EXPECT_EQ(desk.Title(), "Vantorium 3.0 - [x.gpj]");
-  EXPECT_TRUE(desk.shell.opened.empty());
-  EXPECT_EQ(desk.closed, 0);
-  EXPECT_TRUE(desk.window->isVisible());
+  EXPECT_EQ(harness.Title(), "Vantorium 3.0 - [x.gpj]");
+  EXPECT_TRUE(harness.shell.opened.empty());
+  EXPECT_EQ(harness.closed, 0);
+  EXPECT_TRUE(harness.window->isVisible());
 }
 
-TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {
+TEST_F(AroundTheMainWindow, TheSplashScreenCountsToSevenAndCloses) {
   int stages = 0;
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, [&] {
@@ -303,7 +303,7 @@ TEST_F(AroundTheMainWindow, TheSplashCountsToSevenAndGoes) {
     }
   });
   watch.start(0);
-  desk.Start();
+  harness.Start();
   EXPECT_EQ(stages, 7);
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_NE(window->objectName(), "frmSplash");
 }
@@ -318,10 +318,10 @@ void TurnWheel(QWidget& control) {
   qApp->notify(&control, &turn);
 }
 
-TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheKeyboard) {
-  desk.Start();
-  auto& layout = Find<QComboBox>(*desk.window, "comboGalleryLayoutType");
-  Find<QLineEdit>(*desk.window, "textGalleryTitle").setFocus();
+TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheFocus) {
+  harness.Start();
+  auto& layout = Find<QComboBox>(*harness.window, "comboGalleryLayoutType");
+  Find<QLineEdit>(*harness.window, "textGalleryTitle").setFocus();
   TurnWheel(layout);
   EXPECT_EQ(layout.currentIndex(), 0);
   EXPECT_FALSE(layout.hasFocus());
@@ -331,8 +331,8 @@ TEST_F(AroundTheMainWindow, TheWheelChangesAListBoxOnlyWhileItHasTheKeyboard) {
   EXPECT_EQ(layout.currentIndex(), 1);
 }
 
-TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrASpinnerWithoutTheKeyboardGoesToWhatIsBehind) {
-  desk.Start();
+TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrSpinnerWithoutTheFocusGoesToItsParent) {
+  harness.Start();
   QScrollArea area;
   auto* form = new QWidget;
   form->setFixedSize(100, 1000);
@@ -352,10 +352,10 @@ TEST_F(AroundTheMainWindow, TheWheelOverAListBoxOrASpinnerWithoutTheKeyboardGoes
   EXPECT_EQ(spinner.value(), 0);
 }
 
-TEST_F(AroundTheMainWindow, APastedTitleIsOneLine) {
-  desk.Start();
+TEST_F(AroundTheMainWindow, LineBreaksOfAPastedTitleAreRemoved) {
+  harness.Start();
   QGuiApplication::clipboard()->setText("one\r\n");
-  auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
+  auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");
   title.selectAll();
   title.paste();
   EXPECT_EQ(Now().settings.textGalleryTitle, "one");

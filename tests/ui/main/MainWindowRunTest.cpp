@@ -1,5 +1,5 @@
-// Runs from the main window: their effects on its pointer and on the focus.
-#include "tests/ui/MainDesk.h"
+// Runs from the main window: their effects on pointer and focus.
+#include "tests/ui/MainWindowHarness.h"
 #include "ui/dialogs/frmProgress.h"
 
 #include <QLineEdit>
@@ -12,7 +12,7 @@ namespace {
 using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 using fakes::Type;
 
 frmProgress* VisibleProgress() {
@@ -26,8 +26,8 @@ frmProgress* VisibleProgress() {
 class RunOfTheMainWindow : public testing::Test {
  protected:
   RunOfTheMainWindow() {
-    desk.Start();
-    for (int i = 0; i < 20; ++i) desk.AddPhotograph(std::to_string(i) + ".jpg");
+    harness.Start();
+    for (int i = 0; i < 20; ++i) harness.AddPhotograph(std::to_string(i) + ".jpg");
   }
 
   /// Creates a gallery and calls `look` once during the run.
@@ -41,7 +41,7 @@ class RunOfTheMainWindow : public testing::Test {
       look(*progress);
     });
     watch.start(0);
-    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+    DriveModal([&] { harness.Trigger("menuActionsCreate"); },
                [](QWidget& dialog) {
                  Type(Find<QLineEdit>(dialog, "textCreateFilePath"), "T:\\out\\index.htm");
                  Click(dialog, "OKButton");
@@ -49,39 +49,39 @@ class RunOfTheMainWindow : public testing::Test {
     EXPECT_TRUE(looked);
     EXPECT_EQ(VisibleProgress(), nullptr);
   }
-  [[nodiscard]] Qt::CursorShape MainPointer() const { return desk.window->windowHandle()->cursor().shape(); }
+  [[nodiscard]] Qt::CursorShape MainPointer() const { return harness.window->windowHandle()->cursor().shape(); }
 
-  MainDesk desk;
+  MainWindowHarness harness;
 };
 
-TEST_F(RunOfTheMainWindow, HasTheWaitPointerOnTheMainWindowAndOnNoOtherBeforeAConfirmedCancel) {
-  desk.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
+TEST_F(RunOfTheMainWindow, HasTheBusyPointerOnlyOnTheMainWindowUntilACancelIsConfirmed) {
+  harness.boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   Create([&](frmProgress& progress) {
     EXPECT_EQ(MainPointer(), Qt::WaitCursor);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "it would lie over all windows";
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "it would apply to all windows";
     EXPECT_FALSE(progress.IsPointerBusy());
     Click(progress, "CancelButton");
     EXPECT_FALSE(progress.IsPointerBusy()) << "the answer was No";
     Click(progress, "CancelButton");
     EXPECT_TRUE(progress.IsPointerBusy());
   });
-  EXPECT_EQ(desk.TitleOfLastBox(), "Creation cancelled");
+  EXPECT_EQ(harness.TitleOfLastBox(), "Creation cancelled");
   EXPECT_EQ(MainPointer(), Qt::ArrowCursor);
 }
 
-TEST_F(RunOfTheMainWindow, GivesThePointerBackWithItsSuccess) {
+TEST_F(RunOfTheMainWindow, RestoresThePointerOnSuccess) {
   Create([&](frmProgress&) { EXPECT_EQ(MainPointer(), Qt::WaitCursor); });
   EXPECT_EQ(MainPointer(), Qt::ArrowCursor);
-  EXPECT_EQ(desk.window->cursor().shape(), Qt::ArrowCursor);
+  EXPECT_EQ(harness.window->cursor().shape(), Qt::ArrowCursor);
 }
 
 /// Runs that end while another window is active.
 class EndOfARun : public RunOfTheMainWindow {
  protected:
-  void ExpectTheKeyboardBehind(const std::function<void(frmProgress&)>& end) {
+  void ExpectFocusAfterRun(const std::function<void(frmProgress&)>& end) {
     QWidget other;
-    auto& title = Find<QLineEdit>(*desk.window, "textGalleryTitle");
-    desk.GoTo(0);
+    auto& title = Find<QLineEdit>(*harness.window, "textGalleryTitle");
+    harness.GoTo(0);
     title.setFocus();
     Create([&](frmProgress& progress) {
       other.show();
@@ -89,22 +89,22 @@ class EndOfARun : public RunOfTheMainWindow {
       ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
       end(progress);
     });
-    EXPECT_TRUE(QTest::qWaitForWindowActive(desk.window.get()));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(harness.window.get()));
     EXPECT_EQ(QApplication::focusWidget(), &title);
   }
 };
 
-TEST_F(EndOfARun, InACancelGivesTheKeyboardToTheMainWindow) {
-  ExpectTheKeyboardBehind([](frmProgress& progress) { Click(progress, "CancelButton"); });
-  EXPECT_EQ(desk.TitleOfLastBox(), "Creation cancelled");
+TEST_F(EndOfARun, AfterACancelTheMainWindowHasTheFocus) {
+  ExpectFocusAfterRun([](frmProgress& progress) { Click(progress, "CancelButton"); });
+  EXPECT_EQ(harness.TitleOfLastBox(), "Creation cancelled");
 }
 
-TEST_F(EndOfARun, InSuccessGivesTheKeyboardToTheMainWindow) {
-  ExpectTheKeyboardBehind([](frmProgress&) {});
+TEST_F(EndOfARun, AfterSuccessTheMainWindowHasTheFocus) {
+  ExpectFocusAfterRun([](frmProgress&) {});
 }
 
-TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
-  std::filesystem::remove(desk.folder.Path() / "19.jpg");
+TEST_F(EndOfARun, AfterAFailureTheMainWindowHasTheFocus) {
+  std::filesystem::remove(harness.folder.Path() / "19.jpg");
   QTimer closer;
   QObject::connect(&closer, &QTimer::timeout, [] {
     QWidget* warnings = QApplication::activeModalWidget();
@@ -113,7 +113,7 @@ TEST_F(EndOfARun, InFailureGivesTheKeyboardToTheMainWindow) {
     if (progress != nullptr && progress->OffersClose()) Click(*progress, "CancelButton");
   });
   closer.start(5);
-  ExpectTheKeyboardBehind([](frmProgress&) {});
+  ExpectFocusAfterRun([](frmProgress&) {});
 }
 
 }  // namespace

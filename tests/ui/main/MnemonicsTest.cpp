@@ -1,5 +1,5 @@
 // Mnemonics of the main window's controls.
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -9,7 +9,7 @@
 namespace vantorium::ui {
 namespace {
 
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 
 QString LetterOf(const QString& text) {
   return QKeySequence::mnemonic(text).toString();
@@ -20,22 +20,22 @@ QString LetterOf(const QAbstractButton& button) {
   return button.shortcut().toString();
 }
 
-TEST(Mnemonics, AreUniqueOnEachPageAndAgainstTheMenus) {
-  MainDesk desk;
-  desk.Start();
+TEST(Mnemonics, AreUniqueAmongEachPageAndTheMenus) {
+  MainWindowHarness harness;
+  harness.Start();
   for (const char* name :
        {"frmGallery", "frmImages", "frmImageWrapper", "frmThumbnails", "frmCaptions", "frmPageLinks"}) {
     std::map<QString, QString> taken;
-    for (const QAction* menu : desk.window->menuBar()->actions()) taken[LetterOf(menu->text())] = menu->text();
+    for (const QAction* menu : harness.window->menuBar()->actions()) taken[LetterOf(menu->text())] = menu->text();
     const auto take = [&](const QString& letter, const QString& text, const QWidget& control) {
       // Skips controls of this frame: it is never shown together with the frame for a single layout.
-      const QWidget* frames =
-          fakes::Find<QWidget>(*desk.window, "frmFrameLayoutMultipleFrames").findChild<QWidget*>(control.objectName());
+      const QWidget* frames = fakes::Find<QWidget>(*harness.window, "frmFrameLayoutMultipleFrames")
+                                  .findChild<QWidget*>(control.objectName());
       if (letter.isEmpty() || frames != nullptr) return;
       EXPECT_EQ(taken.count(letter), 0U) << name << ": " << FromQt(text) << " and " << FromQt(taken[letter]);
       taken[letter] = text;
     };
-    QWidget& page = fakes::Find<QWidget>(*desk.window, name);
+    QWidget& page = fakes::Find<QWidget>(*harness.window, name);
     for (const auto* button : page.findChildren<QAbstractButton*>()) take(LetterOf(*button), button->text(), *button);
     for (const auto* label : page.findChildren<QLabel*>()) {
       if (label->buddy() != nullptr) take(LetterOf(label->text()), label->text(), *label);

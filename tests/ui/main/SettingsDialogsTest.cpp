@@ -1,5 +1,5 @@
 // Changes applied in dialogs of the settings pages reach the project; cancelled ones do not.
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 #include "ui/widgets/UnscaledPicture.h"
 
 #include <QCheckBox>
@@ -13,21 +13,21 @@ namespace {
 using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 using fakes::Type;
 
 class DialogsOfPages : public testing::Test {
  protected:
-  void SetUp() override { desk.Start(); }
+  void SetUp() override { harness.Start(); }
 
   void Drive(int page, const char* button, const std::function<void(QWidget&)>& drive) {
-    desk.GoTo(page);
-    DriveModal([&] { Click(*desk.window, button); }, drive);
+    harness.GoTo(page);
+    DriveModal([&] { Click(*harness.window, button); }, drive);
   }
-  [[nodiscard]] const core::GalleryProject& Settings() const { return desk.Settings(); }
-  [[nodiscard]] bool Modified() const { return desk.model->CurrentProject().IsModified; }
+  [[nodiscard]] const core::GalleryProject& Settings() const { return harness.Settings(); }
+  [[nodiscard]] bool Modified() const { return harness.model->CurrentProject().IsModified; }
 
-  MainDesk desk;
+  MainWindowHarness harness;
 };
 
 TEST_F(DialogsOfPages, CodeOfOneText) {
@@ -44,7 +44,7 @@ TEST_F(DialogsOfPages, CodeOfOneText) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(DialogsOfPages, CodeAroundSomething) {
+TEST_F(DialogsOfPages, HeaderAndFooterCode) {
   const std::string footer = Settings().ImagePageBodyFooter;
   Drive(2, "btnImageWrapperBODY", [](QWidget& editor) {
     Type(Find<QPlainTextEdit>(editor, "textHeader"), "<HR>");
@@ -55,11 +55,11 @@ TEST_F(DialogsOfPages, CodeAroundSomething) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(DialogsOfPages, CodeThatAProjectCannotHoldIsRefused) {
+TEST_F(DialogsOfPages, CodeThatAProjectCannotStoreIsRefused) {
   Drive(0, "btnGalleryHEAD", [this](QWidget& editor) {
     Type(Find<QPlainTextEdit>(editor, "textHTML"), "a]]>b");
     Click(editor, "btnClose");
-    EXPECT_EQ(desk.TitleOfLastBox(), "Invalid Characters found");
+    EXPECT_EQ(harness.TitleOfLastBox(), "Invalid Characters found");
     EXPECT_TRUE(editor.isVisible());
     Type(Find<QPlainTextEdit>(editor, "textHTML"), "ab");
     Click(editor, "btnClose");
@@ -68,22 +68,22 @@ TEST_F(DialogsOfPages, CodeThatAProjectCannotHoldIsRefused) {
 }
 
 TEST_F(DialogsOfPages, ColorsOfAPage) {
-  desk.GoTo(2);
-  Click(*desk.window, "checkImageWrapperSetColors");
-  desk.dialogs.colors = {0x112233};
+  harness.GoTo(2);
+  Click(*harness.window, "checkImageWrapperSetColors");
+  harness.dialogs.colors = {0x112233};
   Drive(2, "btnImageWrapperColors", [](QWidget& colors) {
     Click(colors, "btnBGColor");
     Click(colors, "CancelButton");
   });
   EXPECT_EQ(Settings().ImagePageBgColor, 0xFFFFFFU);
-  desk.dialogs.colors = {0x112233};
+  harness.dialogs.colors = {0x112233};
   Drive(2, "btnImageWrapperColors", [](QWidget& colors) {
     Click(colors, "btnBGColor");
     Click(colors, "OKButton");
   });
   EXPECT_EQ(Settings().ImagePageBgColor, 0x112233U);
-  desk.GoTo(3);
-  Click(*desk.window, "checkThumbnailsPageSetColors");
+  harness.GoTo(3);
+  Click(*harness.window, "checkThumbnailsPageSetColors");
   Drive(3, "btnThumbnailsPageColors", [](QWidget& colors) {
     Click(colors, "btnUseOtherColors");
     Click(colors, "OKButton");
@@ -125,7 +125,7 @@ TEST_F(DialogsOfPages, Filters) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(DialogsOfPages, WatermarksShareTheQualityOfTheirFilters) {
+TEST_F(DialogsOfPages, WatermarksUseTheQualityOfTheirFilters) {
   Drive(3, "btnThumbnailsWatermark", [](QWidget& watermark) {
     Click(watermark, "checkUseWatermark");
     QTest::keyClick(&Find<QSlider>(watermark, "sliderQuality"), Qt::Key_Left);
@@ -151,23 +151,23 @@ TEST_F(DialogsOfPages, TheQualityOfFiltersIsThatOfTheirWatermark) {
   EXPECT_EQ(Settings().ImageFilters.sliderQuality, 1);
 }
 
-TEST_F(DialogsOfPages, ApplyWithoutAChangeIsAnEditToo) {
+TEST_F(DialogsOfPages, ApplyMarksTheProjectAsModifiedEvenWithoutAChange) {
   const std::tuple<int, const char*, const char*> dialogs[] = {{1, "btnImagesFilters", "btnOK"},
                                                                {1, "btnImagesWatermark", "OKButton"},
                                                                {2, "btnImageWrapperColors", "OKButton"}};
   for (const auto& [page, button, apply] : dialogs) {
-    desk.Start();
-    desk.GoTo(2);
-    Click(*desk.window, "checkImageWrapperSetColors");
-    desk.fileBrowser.answer = {"T:\\a.gpj", "T:\\", {"T:\\a.gpj"}};
-    desk.Trigger("menuFileSave");
+    harness.Start();
+    harness.GoTo(2);
+    Click(*harness.window, "checkImageWrapperSetColors");
+    harness.fileBrowser.answer = {"T:\\a.gpj", "T:\\", {"T:\\a.gpj"}};
+    harness.Trigger("menuFileSave");
     EXPECT_FALSE(Modified());
     Drive(page, button, [apply = apply](QWidget& dialog) { Click(dialog, apply); });
     EXPECT_TRUE(Modified()) << button;
   }
 }
 
-TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
+TEST_F(DialogsOfPages, TheSampleIsTheSelectedImageOrElseTheBundledPicture) {
   const auto plain = [](std::uint8_t red, std::uint8_t blue) {
     return fakes::MakeJpeg({}, [=](int, int) { return std::array<std::uint8_t, 4>{red, 0, blue, 0}; });
   };
@@ -179,16 +179,16 @@ TEST_F(DialogsOfPages, TheSelectedImageIsTheSampleAndWithoutOneTheProgramsOwn) {
     });
     return std::pair(color.red() / 64, color.blue() / 64);
   };
-  desk.folder.Write("program/preview.jpg", plain(255, 0));
-  EXPECT_EQ(middle("btnImagesFilters"), std::pair(3, 0)) << "the one beside the program";
-  desk.AddPhotograph("a.jpg");
-  desk.folder.Write("a.jpg", plain(0, 255));
-  QTest::keyClick(&Find<QWidget>(*desk.window, "lvImagesList"), Qt::Key_Home);
+  harness.folder.Write("program/preview.jpg", plain(255, 0));
+  EXPECT_EQ(middle("btnImagesFilters"), std::pair(3, 0)) << "the bundled picture";
+  harness.AddPhotograph("a.jpg");
+  harness.folder.Write("a.jpg", plain(0, 255));
+  QTest::keyClick(&Find<QWidget>(*harness.window, "lvImagesList"), Qt::Key_Home);
   EXPECT_EQ(middle("btnImagesFilters"), std::pair(0, 3));
   EXPECT_EQ(middle("btnImagesWatermark"), std::pair(0, 3));
-  std::filesystem::remove(desk.folder.Path() / "a.jpg");
-  EXPECT_EQ(middle("btnImagesWatermark"), std::pair(3, 0)) << "silently";
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  std::filesystem::remove(harness.folder.Path() / "a.jpg");
+  EXPECT_EQ(middle("btnImagesWatermark"), std::pair(3, 0)) << "without a message box";
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
 TEST_F(DialogsOfPages, FileNamesAndFrameNames) {
@@ -206,13 +206,13 @@ TEST_F(DialogsOfPages, FileNamesAndFrameNames) {
 }
 
 TEST_F(DialogsOfPages, AnImageFillsTheScreen) {
-  desk.AddPhotograph("a.jpg");
+  harness.AddPhotograph("a.jpg");
   QString title;
-  desk.GoTo(1);
-  auto& list = Find<QWidget>(*desk.window, "lvImagesList");
+  harness.GoTo(1);
+  auto& list = Find<QWidget>(*harness.window, "lvImagesList");
   list.setFocus();
   QTest::keyClick(&list, Qt::Key_Home);
-  DriveModal([&] { QTest::mouseDClick(&Find<QWidget>(*desk.window, "pbImagesPreview"), Qt::LeftButton); },
+  DriveModal([&] { QTest::mouseDClick(&Find<QWidget>(*harness.window, "pbImagesPreview"), Qt::LeftButton); },
              [&](QWidget& preview) { title = preview.windowTitle(); });
   EXPECT_EQ(title, "Full Screen Preview: a.jpg");
 }

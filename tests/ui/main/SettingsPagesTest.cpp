@@ -1,6 +1,6 @@
 // The six settings pages: each control with its field, and how settings show, hide, enable and disable controls.
 #include "core/ProjectFields.h"
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 #include "ui/model/main/ControlRules.h"
 #include "ui/model/main/SettingsButtons.h"
 #include "ui/widgets/ColorButton.h"
@@ -18,25 +18,25 @@ namespace {
 using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 using fakes::Type;
 
 enum Page { Gallery, Images, Wrappers, Thumbnails, Captions, PageLinks };
 
-struct StartedDesk : MainDesk {
-  StartedDesk() { Start(); }
+struct StartedMainWindow : MainWindowHarness {
+  StartedMainWindow() { Start(); }
 };
 
 class SettingsOnPages : public testing::Test {
  protected:
   template <typename Control>
   [[nodiscard]] Control& On(Page page, const char* name) {
-    desk.GoTo(page);
-    return Find<Control>(*desk.window, name);
+    harness.GoTo(page);
+    return Find<Control>(*harness.window, name);
   }
-  [[nodiscard]] bool Shown(const char* name) { return Find<QWidget>(*desk.window, name).isVisible(); }
-  [[nodiscard]] bool Usable(const char* name) { return Find<QWidget>(*desk.window, name).isEnabled(); }
-  [[nodiscard]] QString Text(const char* name) { return Find<QLabel>(*desk.window, name).text(); }
+  [[nodiscard]] bool Shown(const char* name) { return Find<QWidget>(*harness.window, name).isVisible(); }
+  [[nodiscard]] bool Usable(const char* name) { return Find<QWidget>(*harness.window, name).isEnabled(); }
+  [[nodiscard]] QString Text(const char* name) { return Find<QLabel>(*harness.window, name).text(); }
   void ClickOn(Page page, const char* name) { Click(On<QWidget>(page, name)); }
   /// Chooses the next entry with the arrow key.
   void ChooseNext(Page page, const char* name) {
@@ -45,13 +45,13 @@ class SettingsOnPages : public testing::Test {
     QTest::keyClick(&list, Qt::Key_Down);
   }
 
-  StartedDesk desk;
-  const core::GalleryProject& settings = desk.Settings();
+  StartedMainWindow harness;
+  const core::GalleryProject& settings = harness.Settings();
 };
 
-TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
+TEST_F(SettingsOnPages, EveryFieldHasAControl) {
   std::set<std::string_view> edited;
-  for (const core::ProjectField* field : desk.window->Binder().BoundFields()) {
+  for (const core::ProjectField* field : harness.window->Binder().BoundFields()) {
     EXPECT_TRUE(edited.insert(field->name).second) << field->name << " has two controls";
   }
   const auto add = [&edited](auto member) {
@@ -90,7 +90,7 @@ TEST_F(SettingsOnPages, EveryFieldIsEditedSomewhere) {
   EXPECT_EQ(edited.size(), core::ProjectFields().size());
 }
 
-TEST_F(SettingsOnPages, EveryTextReachesItsField) {
+TEST_F(SettingsOnPages, EveryTextBoxSetsItsField) {
   struct Row {
     Page page;
     const char* control;
@@ -116,7 +116,7 @@ TEST_F(SettingsOnPages, EveryTextReachesItsField) {
   for (const Row& row : rows) {
     Type(On<QLineEdit>(row.page, row.control), "17");
     EXPECT_EQ(settings.*row.field, "17") << row.control;
-    EXPECT_TRUE(desk.model->CurrentProject().IsModified) << row.control;
+    EXPECT_TRUE(harness.model->CurrentProject().IsModified) << row.control;
   }
 }
 
@@ -156,15 +156,15 @@ TEST_F(SettingsOnPages, EveryNumberHasASpinner) {
        &core::GalleryProject::textPageLinksThumbnailMaxDirectLinks},
   };
   for (const Row& row : rows) {
-    desk.GoTo(row.page);
+    harness.GoTo(row.page);
     const int before = std::stoi(settings.*row.field);
-    Click(*Find<QWidget>(*desk.window, row.spinner).findChildren<QToolButton*>().at(0));
+    Click(*Find<QWidget>(*harness.window, row.spinner).findChildren<QToolButton*>().at(0));
     EXPECT_EQ(settings.*row.field, std::to_string(before + 1)) << row.spinner;
-    EXPECT_EQ(Find<QLineEdit>(*desk.window, row.text).text(), QString::number(before + 1)) << row.text;
+    EXPECT_EQ(Find<QLineEdit>(*harness.window, row.text).text(), QString::number(before + 1)) << row.text;
   }
 }
 
-TEST_F(SettingsOnPages, EveryCheckBoxReachesItsField) {
+TEST_F(SettingsOnPages, EveryCheckBoxSetsItsField) {
   struct Row {
     Page page;
     const char* control;
@@ -199,7 +199,7 @@ TEST_F(SettingsOnPages, EveryCheckBoxReachesItsField) {
   }
 }
 
-TEST_F(SettingsOnPages, EveryListReachesItsFieldAndHasItsTexts) {
+TEST_F(SettingsOnPages, EveryListSetsItsFieldAndHasItsTexts) {
   struct Row {
     Page page;
     const char* control;
@@ -252,7 +252,7 @@ TEST_F(SettingsOnPages, TheLayoutHasItsPictureAndItsFrames) {
   EXPECT_FALSE(Usable("btnPageLinksImageIndexLink"));
 }
 
-TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndIsNamedSo) {
+TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndLabelledAsPercent) {
   ChooseNext(Gallery, "comboGalleryLayoutType");
   EXPECT_EQ(Text("lblFrameLayoutFrameSize"), "Frame Size (Pixels)");
   ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
@@ -260,41 +260,41 @@ TEST_F(SettingsOnPages, AFrameSizeInPercentIsAtMost99AndIsNamedSo) {
   EXPECT_EQ(settings.textGalleryFrameSize, "99");
 }
 
-TEST_F(SettingsOnPages, ASlideShowTurnsWrappersOnAndShowsTheirFrames) {
+TEST_F(SettingsOnPages, ASlideShowTurnsWrapperPagesOnAndShowsTheirFrames) {
   ClickOn(Wrappers, "checkImageWrapperUse");
   EXPECT_FALSE(Shown("frmImageWrapperImageSettings"));
   EXPECT_FALSE(Shown("frmImageWrapperCodeSettings"));
   ClickOn(Gallery, "checkGallerySlideShow");
   EXPECT_TRUE(Shown("frmFrameLayoutSlideShow"));
-  desk.GoTo(Wrappers);
-  EXPECT_TRUE(Find<QCheckBox>(*desk.window, "checkImageWrapperUse").isChecked());
+  harness.GoTo(Wrappers);
+  EXPECT_TRUE(Find<QCheckBox>(*harness.window, "checkImageWrapperUse").isChecked());
   EXPECT_TRUE(Shown("frmImageWrapperImageSettings"));
   EXPECT_TRUE(Shown("frmImageWrapperCodeSettings"));
-  desk.GoTo(Captions);
+  harness.GoTo(Captions);
   EXPECT_TRUE(Shown("frmCaptionsImages"));
-  desk.GoTo(PageLinks);
+  harness.GoTo(PageLinks);
   EXPECT_TRUE(Shown("frmPageLinksOnImagePages"));
 }
 
-TEST_F(SettingsOnPages, WithoutWrappersThereIsNoSlideShow) {
+TEST_F(SettingsOnPages, WithoutWrapperPagesThereIsNoSlideShow) {
   ClickOn(Gallery, "checkGallerySlideShow");
   ClickOn(Wrappers, "checkImageWrapperUse");
   EXPECT_EQ(settings.checkGallerySlideShow, 0);
-  desk.GoTo(Captions);
+  harness.GoTo(Captions);
   EXPECT_FALSE(Shown("frmCaptionsImages"));
-  desk.GoTo(PageLinks);
+  harness.GoTo(PageLinks);
   EXPECT_FALSE(Shown("frmPageLinksOnImagePages"));
-  desk.GoTo(Gallery);
+  harness.GoTo(Gallery);
   EXPECT_FALSE(Shown("frmFrameLayoutSlideShow"));
 }
 
-TEST_F(SettingsOnPages, ASlideShowHasOnlyTheFieldsItUses) {
+TEST_F(SettingsOnPages, ASlideShowShowsOnlyTheFieldsItUses) {
   ClickOn(Gallery, "checkGallerySlideShow");
   for (const char* name : {"checkGallerySlideShowAutoStart", "textGallerySlideShowAutoStartDelay",
                            "udGallerySlideShowAutoStartDelay", "lblSeconds"}) {
     EXPECT_FALSE(Shown(name)) << name;
   }
-  auto& begin = Find<QComboBox>(*desk.window, "comboGallerySlideShowBeginWith");
+  auto& begin = Find<QComboBox>(*harness.window, "comboGallerySlideShowBeginWith");
   begin.setFocus();
   QTest::keyClick(&begin, Qt::Key_Up);
   EXPECT_TRUE(Shown("checkGallerySlideShowAutoStart"));
@@ -307,14 +307,14 @@ TEST_F(SettingsOnPages, ASlideShowHasOnlyTheFieldsItUses) {
   EXPECT_FALSE(Shown("comboGallerySlideShowStartOverWith"));
 }
 
-TEST_F(SettingsOnPages, KeptSizesHideTheSizeFields) {
-  desk.GoTo(Wrappers);
+TEST_F(SettingsOnPages, KeepingTheSizeHidesTheSizeFields) {
+  harness.GoTo(Wrappers);
   EXPECT_TRUE(Shown("frmImageWrapperImageSettingsSub"));
   ClickOn(Wrappers, "checkImageWrapperImageKeepSize");
   EXPECT_FALSE(Shown("frmImageWrapperImageSettingsSub"));
 }
 
-TEST_F(SettingsOnPages, SizesInPercentAreNamedSo) {
+TEST_F(SettingsOnPages, SizesInPercentAreLabelledAsPercent) {
   ClickOn(Wrappers, "checkImageWrapperImageSizesInPercent");
   EXPECT_EQ(Text("lblImageWrapperImageWidth"), "Width (%)");
   EXPECT_EQ(Text("lblImageWrapperImageHeight"), "Height (%)");
@@ -322,11 +322,11 @@ TEST_F(SettingsOnPages, SizesInPercentAreNamedSo) {
   EXPECT_EQ(Text("lblImageWrapperImageWidth"), "Width (Pixels)");
 }
 
-TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexWhileItsTextsFollowThePlacement) {
+TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexAndItsTextsFollowThePlacement) {
   ClickOn(Captions, "checkCaptionsImagesRegular");
-  auto& alignment = Find<QComboBox>(*desk.window, "comboCaptionsImagesRegularAlignment");
+  auto& alignment = Find<QComboBox>(*harness.window, "comboCaptionsImagesRegularAlignment");
   EXPECT_EQ(alignment.currentText(), "align right");
-  auto& placement = Find<QComboBox>(*desk.window, "comboCaptionsImagesRegularPlacement");
+  auto& placement = Find<QComboBox>(*harness.window, "comboCaptionsImagesRegularPlacement");
   placement.setFocus();
   QTest::keyClick(&placement, Qt::Key_Home);
   EXPECT_EQ(settings.comboCaptionsImagesRegularPlacement, 0);
@@ -334,28 +334,28 @@ TEST_F(SettingsOnPages, AnAlignmentKeepsItsIndexWhileItsTextsFollowThePlacement)
   EXPECT_EQ(settings.comboCaptionsImagesRegularAlignment, 2);
 }
 
-TEST_F(SettingsOnPages, RowsAndColumnsRecountThePages) {
-  for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) desk.AddPhotograph(name);
-  desk.GoTo(Thumbnails);
+TEST_F(SettingsOnPages, RowsAndColumnsUpdateThePageCount) {
+  for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) harness.AddPhotograph(name);
+  harness.GoTo(Thumbnails);
   EXPECT_EQ(Text("lblThumbnailsPageCount"), "3 Images on 1 Pages");
-  Type(Find<QLineEdit>(*desk.window, "textThumbnailsTableRows"), "1");
-  Type(Find<QLineEdit>(*desk.window, "textThumbnailsTableColumns"), "2");
+  Type(Find<QLineEdit>(*harness.window, "textThumbnailsTableRows"), "1");
+  Type(Find<QLineEdit>(*harness.window, "textThumbnailsTableColumns"), "2");
   EXPECT_EQ(Text("lblThumbnailsPageCount"), "3 Images on 2 Pages");
 }
 
 TEST_F(SettingsOnPages, ATableColorIsChosenInTheColorDialog) {
-  desk.GoTo(Thumbnails);
+  harness.GoTo(Thumbnails);
   EXPECT_FALSE(Shown("btnThumbnailsTableBGColor"));
   ClickOn(Thumbnails, "checkThumbnailsTableUseBGColor");
-  desk.dialogs.colors = {std::nullopt, 0x123456};
+  harness.dialogs.colors = {std::nullopt, 0x123456};
   ClickOn(Thumbnails, "btnThumbnailsTableBGColor");
   EXPECT_EQ(settings.btnThumbnailsTableBGColor, 0U);
   ClickOn(Thumbnails, "btnThumbnailsTableBGColor");
   EXPECT_EQ(settings.btnThumbnailsTableBGColor, 0x123456U);
-  EXPECT_EQ(Find<ColorButton>(*desk.window, "btnThumbnailsTableBGColor").GetColor(), 0x123456U);
+  EXPECT_EQ(Find<ColorButton>(*harness.window, "btnThumbnailsTableBGColor").GetColor(), 0x123456U);
 }
 
-TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {
+TEST_F(SettingsOnPages, ABackdropIsChosenInTheFileDialog) {
   struct Row {
     Page page;
     const char* button;
@@ -371,13 +371,13 @@ TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {
        &core::GalleryProject::textThumbnailsTableBackdrop},
   };
   for (const Row& row : rows) {
-    desk.fileBrowser.answer = {"T:\\a.gif", "T:\\", {"T:\\a.gif"}};
+    harness.fileBrowser.answer = {"T:\\a.gif", "T:\\", {"T:\\a.gif"}};
     ClickOn(row.page, row.button);
     EXPECT_EQ(settings.*row.field, "T:\\a.gif") << row.button;
-    EXPECT_EQ(desk.fileBrowser.requests.back().title, row.title);
-    EXPECT_EQ(desk.fileBrowser.requests.back().filter, "All Files (*.*)|*.*");
-    EXPECT_TRUE(desk.fileBrowser.requests.back().preview);
-    desk.fileBrowser.answer = {};
+    EXPECT_EQ(harness.fileBrowser.requests.back().title, row.title);
+    EXPECT_EQ(harness.fileBrowser.requests.back().filter, "All Files (*.*)|*.*");
+    EXPECT_TRUE(harness.fileBrowser.requests.back().preview);
+    harness.fileBrowser.answer = {};
     ClickOn(row.page, row.button);
     EXPECT_EQ(settings.*row.field, "T:\\a.gif") << "cancelled " << row.button;
   }
@@ -385,7 +385,7 @@ TEST_F(SettingsOnPages, ABackdropComesFromTheFileDialog) {
 
 TEST_F(SettingsOnPages, ATypedNativePathBecomesPathTextWhenTheBoxIsLeft) {
   auto& box = On<QLineEdit>(Wrappers, "textImageWrapperBackdrop");
-  Type(box, ToQt((desk.folder.Path() / "a.gif").string()));
+  Type(box, ToQt((harness.folder.Path() / "a.gif").string()));
   QTest::keyClick(&box, Qt::Key_Tab);
   EXPECT_EQ(settings.textImageWrapperBackdrop, "T:\\a.gif");
   Type(box, "relative.gif");
@@ -393,20 +393,20 @@ TEST_F(SettingsOnPages, ATypedNativePathBecomesPathTextWhenTheBoxIsLeft) {
   EXPECT_EQ(settings.textImageWrapperBackdrop, "relative.gif");
 }
 
-TEST_F(SettingsOnPages, LabelsSayWhatANumberMeans) {
+TEST_F(SettingsOnPages, LabelsShowTheUnitsOfNumbers) {
   EXPECT_EQ(Text("lblSeconds"), "Seconds");
   EXPECT_EQ(Text("lblSlideShowDelaySeconds"), "Seconds");
   EXPECT_EQ(Text("lblPageLinksThumbnailLinks"), "Links");
-  desk.GoTo(Thumbnails);
+  harness.GoTo(Thumbnails);
   EXPECT_TRUE(Shown("lblThumbnailsTableNoBGColor"));
   EXPECT_EQ(Text("lblThumbnailsTableNoBGColor"), "(no color used)");
 }
 
-TEST_F(SettingsOnPages, ThumbnailSettingsStayWithoutWrappers) {
+TEST_F(SettingsOnPages, ThumbnailSettingsStayVisibleWithoutWrapperPages) {
   ClickOn(Wrappers, "checkImageWrapperUse");
-  desk.GoTo(Captions);
+  harness.GoTo(Captions);
   EXPECT_TRUE(Shown("frmCaptionsThumbnails"));
-  desk.GoTo(PageLinks);
+  harness.GoTo(PageLinks);
   EXPECT_TRUE(Shown("frmPageLinksOnThumbnailPages"));
 }
 
@@ -426,8 +426,8 @@ std::string RuledControls(QWidget& window) {
   return told;
 }
 
-TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
-  const auto before = RuledControls(*desk.window);
+TEST_F(SettingsOnPages, ANewProjectAppliesEveryRuleWhateverTheOldProjectHad) {
+  const auto before = RuledControls(*harness.window);
   for (const char* box :
        {"checkImageWrapperSetColors", "checkImageWrapperImageKeepAspectRatio", "checkImageWrapperImageKeepSize"}) {
     ClickOn(Wrappers, box);
@@ -442,11 +442,11 @@ TEST_F(SettingsOnPages, ANewProjectPassesEachRuleWhateverTheOldOneHad) {
   ClickOn(Wrappers, "checkImageWrapperUse");
   ChooseNext(Gallery, "comboGalleryLayoutType");
   ClickOn(Gallery, "checkGalleryFrameSizeInPercent");
-  EXPECT_NE(RuledControls(*desk.window), before);
-  desk.boxes.answers = {env::BoxAnswer::No};
-  desk.Trigger("menuFileNew");
-  EXPECT_EQ(RuledControls(*desk.window), before);
-  EXPECT_FALSE(desk.model->CurrentProject().IsModified);
+  EXPECT_NE(RuledControls(*harness.window), before);
+  harness.boxes.answers = {env::BoxAnswer::No};
+  harness.Trigger("menuFileNew");
+  EXPECT_EQ(RuledControls(*harness.window), before);
+  EXPECT_FALSE(harness.model->CurrentProject().IsModified);
 }
 
 // Each button opens a dialog with the given title.
@@ -495,14 +495,14 @@ TEST_F(SettingsOnPages, EachButtonOpensItsDialog) {
       {PageLinks, "btnPageLinksThumbnailNextLink", "\"Next Thumbnail Page\" Link"},
   };
   for (const Row& row : rows) {
-    desk.GoTo(row.page);
+    harness.GoTo(row.page);
     QString title;
-    DriveModal([&] { Click(*desk.window, row.button); }, [&](QWidget& dialog) { title = dialog.windowTitle(); });
+    DriveModal([&] { Click(*harness.window, row.button); }, [&](QWidget& dialog) { title = dialog.windowTitle(); });
     EXPECT_EQ(title, row.title) << row.button;
   }
   ChooseNext(Gallery, "comboGalleryLayoutType");
   QString title;
-  DriveModal([&] { Click(*desk.window, "btnGalleryMultiFrameNames"); },
+  DriveModal([&] { Click(*harness.window, "btnGalleryMultiFrameNames"); },
              [&](QWidget& dialog) { title = dialog.windowTitle(); });
   EXPECT_EQ(title, "Frame Name Settings");
 }

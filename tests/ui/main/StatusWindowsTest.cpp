@@ -30,7 +30,7 @@ TEST(SplashForm, CountsSevenStages) {
   EXPECT_EQ(bar.value(), 7);
 }
 
-TEST(ShutdownForm, TellsTheStepsAndIsNotClosedByTheUser) {
+TEST(ShutdownForm, ShowsTheStepsAndCannotBeClosedByTheUser) {
   frmShutdown shutdown;
   shutdown.show();
   auto& message = Find<QLabel>(shutdown, "lblMessage");
@@ -59,7 +59,7 @@ TEST(InfoForm, HasTheBusyPointerWhileItIsShown) {
   }
 }
 
-TEST(InfoForm, LeavesTheKeyboardWithTheWindowThatHadIt) {
+TEST(InfoForm, DoesNotTakeTheFocus) {
   QWidget other;
   other.show();
   other.activateWindow();
@@ -74,7 +74,7 @@ TEST(InfoForm, LeavesTheKeyboardWithTheWindowThatHadIt) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
 }
 
-TEST(InfoForm, GivesThePointerBackWhenItGoesWhileShown) {
+TEST(InfoForm, RestoresThePointerIfItIsDestroyedWhileShown) {
   {
     frmInfo info;
     info.show();

@@ -1,6 +1,6 @@
-// On a system without drive letters a user with the usual drives sees none, anywhere in the window.
+// On a system without drive letters, a user with the usual drives sees none anywhere in the window.
 #include "env/PathText.h"
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 #include "ui/files/frmBrowseForFolder.h"
 #include "ui/files/frmFileBrowser.h"
 
@@ -15,7 +15,7 @@ namespace {
 using fakes::Click;
 using fakes::DriveModal;
 using fakes::Find;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 
 void AddItems(QStringList& texts, const QAbstractItemModel& model, const QModelIndex& parent = {}) {
   for (int row = 0; row < model.rowCount(parent); ++row) {
@@ -27,7 +27,7 @@ void AddItems(QStringList& texts, const QAbstractItemModel& model, const QModelI
   }
 }
 
-/// All that can be read of a window and its controls, hidden ones too.
+/// All texts of a window and its controls, including hidden ones.
 QStringList TextsOf(QWidget& window) {
   QStringList texts;
   QList<QWidget*> controls = window.findChildren<QWidget*>();
@@ -53,20 +53,20 @@ class SurfaceForm : public testing::Test {
  protected:
   /// A user whose project and preferences name files deep in the home folder and elsewhere.
   SurfaceForm() {
-    desk.UseUsualDrives();
+    harness.UseUsualDrives();
     for (const char* name : {"a/b/c/one.jpg", "a/b/c/two.jpg"}) {
-      desk.folder.Write(name, fakes::MakeJpeg({.width = 64, .height = 48}));
+      harness.folder.Write(name, fakes::MakeJpeg({.width = 64, .height = 48}));
     }
     elsewhere.Write("d/e/three.jpg", fakes::MakeJpeg({.width = 64, .height = 48}));
   }
 
   void Start() {
-    desk.Start();
-    core::Project& project = desk.model->CurrentProject();
+    harness.Start();
+    core::Project& project = harness.model->CurrentProject();
     for (const std::string& path : {std::string("C:\\a\\b\\c\\one.jpg"),
-                                    "Z:" + env::WithBackslashes((desk.folder.Path() / "a/b/c/two.jpg").string()),
-                                    desk.paths.ToText(elsewhere.Path() / "d/e/three.jpg")}) {
-      ASSERT_TRUE(desk.model->Images().AddFile(path));
+                                    "Z:" + env::WithBackslashes((harness.folder.Path() / "a/b/c/two.jpg").string()),
+                                    harness.paths.ToText(elsewhere.Path() / "d/e/three.jpg")}) {
+      ASSERT_TRUE(harness.model->Images().AddFile(path));
     }
     project.images.Select(1);
     project.images.SetCurrent(1);
@@ -75,12 +75,12 @@ class SurfaceForm : public testing::Test {
     settings.textThumbnailsPageBackdrop = "Z:\\srv\\d\\page.gif";
     settings.textImageWrapperBackdrop = "C:\\a\\b\\wrapper.gif";
     settings.ImageFirstLink = {"FIRST", "C:\\a\\first.gif", "Z:\\srv\\first off.gif"};
-    env::Preferences& preferences = desk.model->CurrentPreferences();
+    env::Preferences& preferences = harness.model->CurrentPreferences();
     preferences.CreateFolder = "C:\\a\\gallery\\";
     preferences.TempFolderLocation = "C:\\a\\temp";
     preferences.Browsers = {{"Fox", "Z:\\usr\\bin\\fox"}};
-    desk.window->ShowSettings();
-    desk.window->ShowImages();
+    harness.window->ShowSettings();
+    harness.window->ShowImages();
   }
 
   static void Walk(QWidget& window) {
@@ -95,22 +95,22 @@ class SurfaceForm : public testing::Test {
     });
   }
   void WalkOnClick(int tab, const char* button) {
-    desk.GoTo(tab);
-    WalkModal([&] { Click(*desk.window, button); });
+    harness.GoTo(tab);
+    WalkModal([&] { Click(*harness.window, button); });
   }
   [[nodiscard]] QString Home(const char* name) const {
-    return QString::fromStdString((desk.folder.Path() / name).string());
+    return QString::fromStdString((harness.folder.Path() / name).string());
   }
 
   fakes::TemporaryFolder elsewhere;
-  MainDesk desk;
+  MainWindowHarness harness;
   static inline QStringList seen;
 };
 
-TEST_F(SurfaceForm, NoControlOfTheMainWindowShowsALetter) {
+TEST_F(SurfaceForm, NoControlOfTheMainWindowShowsADriveLetter) {
   seen.clear();
   Start();
-  Walk(*desk.window);
+  Walk(*harness.window);
   for (const char* path : {"a/b/c/one.jpg", "a/b/c/two.jpg", "a/b/table.gif", "a/b/wrapper.gif"}) {
     EXPECT_TRUE(seen.contains(Home(path))) << path;
   }
@@ -118,7 +118,7 @@ TEST_F(SurfaceForm, NoControlOfTheMainWindowShowsALetter) {
   EXPECT_TRUE(seen.contains("/srv/d/page.gif"));
 }
 
-TEST_F(SurfaceForm, NoDialogShowsALetter) {
+TEST_F(SurfaceForm, NoDialogShowsADriveLetter) {
   seen.clear();
   Start();
   WalkOnClick(0, "btnGalleryInfo");
@@ -129,45 +129,45 @@ TEST_F(SurfaceForm, NoDialogShowsALetter) {
   WalkOnClick(1, "btnImagesFind");
   WalkOnClick(1, "btnImagesAddFolder");
   WalkOnClick(5, "btnPageLinksImageFirstLink");
-  WalkModal([&] { desk.Trigger("menuActionsCreate"); });
-  WalkModal([&] { desk.Trigger("menuOptionsAvailableBrowsers"); },
+  WalkModal([&] { harness.Trigger("menuActionsCreate"); });
+  WalkModal([&] { harness.Trigger("menuOptionsAvailableBrowsers"); },
             [&](QWidget& list) {
               auto& view = Find<QAbstractItemView>(list, "lvBrowsers");
               view.setCurrentIndex(view.model()->index(0, 0));
               WalkModal([&] { Click(list, "btnEditBrowser"); });
             });
-  WalkModal([&] { desk.Trigger("menuOptionsSetTempFolderLocation"); });
-  WalkModal([&] { desk.Trigger("menuHelpAbout"); });
+  WalkModal([&] { harness.Trigger("menuOptionsSetTempFolderLocation"); });
+  WalkModal([&] { harness.Trigger("menuHelpAbout"); });
   for (const char* path : {"a/gallery/index.htm", "a/first.gif", "a/temp"}) {
     EXPECT_TRUE(seen.contains(Home(path))) << path;
   }
   for (const char* path : {"/srv/first off.gif", "/usr/bin/fox"}) EXPECT_TRUE(seen.contains(path)) << path;
 }
 
-TEST_F(SurfaceForm, NoFileOrFolderWindowShowsALetter) {
+TEST_F(SurfaceForm, NoFileOrFolderWindowShowsADriveLetter) {
   seen.clear();
-  frmFileBrowser files(desk.paths, desk.boxes, desk.files);
+  frmFileBrowser files(harness.paths, harness.boxes, harness.files);
   const auto open = [&] {
     std::ignore = files.DisplayFileDialog({.title = "Open", .initialFolder = "C:\\a\\b\\c", .fileName = "one.jpg"});
   };
   WalkModal(open);
   EXPECT_TRUE(seen.contains(Home("a/b/c")));
-  QtFolderBrowser folders(desk.paths);
+  QtFolderBrowser folders(harness.paths);
   WalkModal([&] { std::ignore = folders.BrowseForFolder("Select Source Folder", "C:\\a\\b"); });
 }
 
-TEST_F(SurfaceForm, NoMessageShowsALetter) {
+TEST_F(SurfaceForm, NoMessageShowsADriveLetter) {
   Start();
-  std::filesystem::remove(desk.folder.Path() / "a/b/c/one.jpg");
-  EXPECT_FALSE(desk.model->Images().AddFile("C:\\a\\b\\c\\one.jpg"));
-  desk.folder.Write("a/broken.gpj", "no XML");
-  desk.fileBrowser.answer = {"C:\\a\\broken.gpj", "C:\\a\\", {"C:\\a\\broken.gpj"}};
-  desk.model->CurrentProject().IsModified = false;
-  desk.Trigger("menuFileOpen");
-  ASSERT_EQ(desk.boxes.boxes.size(), 3U);
-  for (const auto& box : desk.boxes.boxes) {
+  std::filesystem::remove(harness.folder.Path() / "a/b/c/one.jpg");
+  EXPECT_FALSE(harness.model->Images().AddFile("C:\\a\\b\\c\\one.jpg"));
+  harness.folder.Write("a/broken.gpj", "no XML");
+  harness.fileBrowser.answer = {"C:\\a\\broken.gpj", "C:\\a\\", {"C:\\a\\broken.gpj"}};
+  harness.model->CurrentProject().IsModified = false;
+  harness.Trigger("menuFileOpen");
+  ASSERT_EQ(harness.boxes.boxes.size(), 3U);
+  for (const auto& box : harness.boxes.boxes) {
     ExpectNoLetter(QString::fromStdString(box.text), "message");
-    EXPECT_NE(box.text.find(desk.folder.Path().string()), std::string::npos) << box.text;
+    EXPECT_NE(box.text.find(harness.folder.Path().string()), std::string::npos) << box.text;
   }
 }
 

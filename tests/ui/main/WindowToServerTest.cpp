@@ -1,7 +1,7 @@
 // End to end: galleries and folders sent from the main window to real servers on loopback.
 #include "tests/fakes/FilesBelow.h"
 #include "tests/fakes/FtpServerProcess.h"
-#include "tests/ui/MainDesk.h"
+#include "tests/ui/MainWindowHarness.h"
 
 #include <QLineEdit>
 #include <QTimer>
@@ -14,7 +14,7 @@ using fakes::DriveModal;
 using fakes::FilesBelow;
 using fakes::Find;
 using fakes::FtpServerKind;
-using fakes::MainDesk;
+using fakes::MainWindowHarness;
 using fakes::Type;
 
 class WindowToServer : public testing::TestWithParam<FtpServerKind> {
@@ -22,14 +22,14 @@ class WindowToServer : public testing::TestWithParam<FtpServerKind> {
   explicit WindowToServer(std::optional<fakes::TestCertificate> certificate = std::nullopt)
       : server(GetParam(), std::move(certificate)) {}
   void SetUp() override {
-    desk.ftpPort = server.Port();
-    desk.folder.Write("program/vantorium.pub",
-                      "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"Mine\"\r\n"
-                      "ServerURL1=\"elsewhere\"\r\nUserName1=\"nobody\"\r\nIndexFile1=\"web/start.htm\"\r\n"
-                      "TimeOut1=\"0\"\r\nJumpTo1=\"\"\r\n");
-    desk.Start();
-    desk.AddPhotograph("a.jpg");
-    desk.AddPhotograph("b.jpg");
+    harness.ftpPort = server.Port();
+    harness.folder.Write("program/vantorium.pub",
+                         "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerName1=\"Mine\"\r\n"
+                         "ServerURL1=\"elsewhere\"\r\nUserName1=\"nobody\"\r\nIndexFile1=\"web/start.htm\"\r\n"
+                         "TimeOut1=\"0\"\r\nJumpTo1=\"\"\r\n");
+    harness.Start();
+    harness.AddPhotograph("a.jpg");
+    harness.AddPhotograph("b.jpg");
   }
 
   /// Presses `button` of the create dialog and edits the listed server in the dialog that it opens.
@@ -42,7 +42,7 @@ class WindowToServer : public testing::TestWithParam<FtpServerKind> {
                });
   }
   void Publish(const std::string& password) {
-    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+    DriveModal([&] { harness.Trigger("menuActionsCreate"); },
                [&](QWidget& create) {
                  Click(create, "optionUploadGallery");
                  ChooseServer(create, "btnBrowsePublishDestination");
@@ -50,10 +50,10 @@ class WindowToServer : public testing::TestWithParam<FtpServerKind> {
                  Click(create, "OKButton");
                });
   }
-  [[nodiscard]] std::string Log() const { return desk.folder.Read("program/ftplog.txt"); }
+  [[nodiscard]] std::string Log() const { return harness.folder.Read("program/ftplog.txt"); }
 
   fakes::FtpServerProcess server;
-  MainDesk desk;
+  MainWindowHarness harness;
 };
 
 INSTANTIATE_TEST_SUITE_P(To, WindowToServer, testing::Values(FtpServerKind::Vsftpd, FtpServerKind::Proftpd),
@@ -61,24 +61,24 @@ INSTANTIATE_TEST_SUITE_P(To, WindowToServer, testing::Values(FtpServerKind::Vsft
 
 TEST_P(WindowToServer, APublishedGalleryEqualsTheCreatedOne) {
   Publish(server.Password());
-  EXPECT_TRUE(desk.boxes.boxes.empty()) << desk.TitleOfLastBox() << Log();
-  DriveModal([&] { desk.Trigger("tbMainCreate"); },
+  EXPECT_TRUE(harness.boxes.boxes.empty()) << harness.TitleOfLastBox() << Log();
+  DriveModal([&] { harness.Trigger("tbMainCreate"); },
              [&](QWidget& create) {
                Click(create, "optionCreateGallery");
                Type(Find<QLineEdit>(create, "textCreateFilePath"), "T:\\out\\start.htm");
                Click(create, "OKButton");
              });
-  const auto created = FilesBelow(desk.folder.Path() / "out");
+  const auto created = FilesBelow(harness.folder.Path() / "out");
   EXPECT_GE(created.size(), 8U);
   EXPECT_EQ(FilesBelow(server.Root() / "web"), created);
   EXPECT_EQ(Log().find(server.Password()), std::string::npos);
-  EXPECT_TRUE(desk.window->isEnabled());
+  EXPECT_TRUE(harness.window->isEnabled());
 }
 
-TEST_P(WindowToServer, AFolderIsUploadedWithAllItHolds) {
-  desk.folder.Write("site/index.htm", "index");
-  desk.folder.Write("site/sub/deep/x.txt", "x");
-  DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+TEST_P(WindowToServer, AFolderIsUploadedWithAllItsContents) {
+  harness.folder.Write("site/index.htm", "index");
+  harness.folder.Write("site/sub/deep/x.txt", "x");
+  DriveModal([&] { harness.Trigger("menuActionsCreate"); },
              [&](QWidget& create) {
                Click(create, "optionUploadFolder");
                ChooseServer(create, "btnBrowseUploadDestination");
@@ -86,7 +86,7 @@ TEST_P(WindowToServer, AFolderIsUploadedWithAllItHolds) {
                Type(Find<QLineEdit>(create, "textUploadPassword"), ToQt(server.Password()));
                Click(create, "OKButton");
              });
-  EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(desk.folder.Path() / "site")) << Log();
+  EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(harness.folder.Path() / "site")) << Log();
 }
 
 /// The window and a server that demands TLS.
@@ -96,7 +96,7 @@ class WindowToEncryptedServer : public WindowToServer {
 
   /// Publishes with both switches on.
   void PublishSecurely() {
-    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+    DriveModal([&] { harness.Trigger("menuActionsCreate"); },
                [&](QWidget& create) {
                  Click(create, "optionUploadGallery");
                  DriveModal([&] { Click(create, "btnBrowsePublishDestination"); },
@@ -107,22 +107,22 @@ class WindowToEncryptedServer : public WindowToServer {
                               Click(publish, "checkEncrypted");
                               Click(publish, "OKButton");
                             });
-                 PasswordAndGo(create);
+                 TypePasswordAndStart(create);
                });
   }
   /// Publishes to the server as it is in the list.
   void PublishAgain() {
-    DriveModal([&] { desk.Trigger("menuActionsCreate"); },
+    DriveModal([&] { harness.Trigger("menuActionsCreate"); },
                [&](QWidget& create) {
                  Click(create, "optionUploadGallery");
-                 PasswordAndGo(create);
+                 TypePasswordAndStart(create);
                });
   }
-  void PasswordAndGo(QWidget& create) {
+  void TypePasswordAndStart(QWidget& create) {
     Type(Find<QLineEdit>(create, "textPublishPassword"), ToQt(server.Password()));
     Click(create, "OKButton");
   }
-  [[nodiscard]] std::string ServerFile() const { return desk.folder.Read("program/vantorium.pub"); }
+  [[nodiscard]] std::string ServerFile() const { return harness.folder.Read("program/vantorium.pub"); }
 };
 INSTANTIATE_TEST_SUITE_P(To, WindowToEncryptedServer,
                          testing::Values(FtpServerKind::Vsftpd, FtpServerKind::Proftpd, FtpServerKind::Pureftpd),
@@ -130,18 +130,18 @@ INSTANTIATE_TEST_SUITE_P(To, WindowToEncryptedServer,
 
 TEST_P(WindowToEncryptedServer, AGalleryEqualsTheCreatedOneAndTheCertificateIsAskedAboutOnce) {
   PublishSecurely();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U) << desk.TitleOfLastBox() << Log();
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Unknown Certificate");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U) << harness.TitleOfLastBox() << Log();
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Unknown Certificate");
   EXPECT_NE(ServerFile().find("Fingerprint1="), std::string::npos) << ServerFile();
   PublishAgain();
-  EXPECT_EQ(desk.boxes.boxes.size(), 1U) << desk.TitleOfLastBox() << Log();
-  DriveModal([&] { desk.Trigger("tbMainCreate"); },
+  EXPECT_EQ(harness.boxes.boxes.size(), 1U) << harness.TitleOfLastBox() << Log();
+  DriveModal([&] { harness.Trigger("tbMainCreate"); },
              [&](QWidget& create) {
                Click(create, "optionCreateGallery");
                Type(Find<QLineEdit>(create, "textCreateFilePath"), "T:\\out\\start.htm");
                Click(create, "OKButton");
              });
-  EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(desk.folder.Path() / "out"));
+  EXPECT_EQ(FilesBelow(server.Root() / "web"), FilesBelow(harness.folder.Path() / "out"));
 }
 
 /// Uses ProFTPD only, because vsftpd is configured to accept every password.
@@ -149,7 +149,7 @@ class ServerWithPassword : public WindowToServer {};
 INSTANTIATE_TEST_SUITE_P(To, ServerWithPassword, testing::Values(FtpServerKind::Proftpd),
                          [](const auto&) { return "ProFTPD"; });
 
-TEST_P(ServerWithPassword, AWrongPasswordFailsWithALogThatCanBeReadAndAWindowToClose) {
+TEST_P(ServerWithPassword, AWrongPasswordFailsWithAReadableLogAndAWindowToClose) {
   // A failed run's window stays open until its button, now "&Close", is pressed.
   QTimer closer;
   int shown = 0;
@@ -167,11 +167,11 @@ TEST_P(ServerWithPassword, AWrongPasswordFailsWithALogThatCanBeReadAndAWindowToC
   closer.start(20);
   Publish("wrong");
   EXPECT_EQ(shown, 1);
-  EXPECT_EQ(desk.shell.opened, (std::vector<std::string>{"T:\\program/ftplog.txt"}));
+  EXPECT_EQ(harness.shell.opened, (std::vector<std::string>{"T:\\program/ftplog.txt"}));
   EXPECT_NE(Log().find("530"), std::string::npos) << Log();
   EXPECT_EQ(Log().find("wrong"), std::string::npos);
   EXPECT_TRUE(FilesBelow(server.Root()).empty());
-  EXPECT_TRUE(desk.window->isEnabled());
+  EXPECT_TRUE(harness.window->isEnabled());
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ TEST_F(SysTrayForm, ShowsTheMenuWithTheDefaultInBold) {
   EXPECT_EQ(tray.findChild<QSystemTrayIcon*>("trayIcon")->toolTip(), "Vantorium 3.0");
 }
 
-TEST_F(SysTrayForm, AnEntryTellsItsIndexAndKey) {
+TEST_F(SysTrayForm, AnEntryReportsItsIndexAndKey) {
   tray.ShowMenu();
   ASSERT_TRUE(popup->isVisible());
   QTest::keyClick(popup, Qt::Key_C);
@@ -86,7 +86,7 @@ TEST_F(SysTrayForm, AnEntryTellsItsIndexAndKey) {
   EXPECT_EQ(Sent(), "click 2 help; ");
 }
 
-TEST_F(SysTrayForm, TheMenuIsShownOnceOnly) {
+TEST_F(SysTrayForm, TheMenuIsOpenOnlyOnce) {
   tray.ShowMenu();
   const QPoint at = popup->pos();
   tray.ShowMenu();
@@ -113,9 +113,9 @@ TEST_F(SysTrayForm, TwoTriggersAreADoubleClickAndActOnce) {
   Activate(QSystemTrayIcon::Trigger);
   EXPECT_EQ(Sent(), "click 0 vantorium; button 1; double; ");
   Activate(QSystemTrayIcon::DoubleClick);
-  EXPECT_EQ(Sent(), "") << "it was taken for one already";
+  EXPECT_EQ(Sent(), "") << "both triggers were one double click";
   Activate(QSystemTrayIcon::Trigger);
-  EXPECT_EQ(Sent(), "button 1; ") << "the first of the next";
+  EXPECT_EQ(Sent(), "button 1; ") << "the first click of the next";
 }
 
 TEST_F(SysTrayForm, AReportedDoubleClickIsNotAFirstTrigger) {
@@ -125,7 +125,7 @@ TEST_F(SysTrayForm, AReportedDoubleClickIsNotAFirstTrigger) {
   EXPECT_EQ(Sent(), "click 0 vantorium; button 1; button 1; double; ");
 }
 
-TEST_F(SysTrayForm, TwoTriggersThatAreFarApartAreTwoClicks) {
+TEST_F(SysTrayForm, TwoTriggersFarApartAreTwoClicks) {
   const int interval = QApplication::doubleClickInterval();
   QApplication::setDoubleClickInterval(0);
   Activate(QSystemTrayIcon::Trigger);
@@ -148,7 +148,7 @@ TEST(SysTray, ATrayThatStartsAfterTheProgramGetsTheIcon) {
   EXPECT_FALSE(watch->isActive());
 }
 
-TEST(SysTray, ATrayThatIsThereIsNotWatchedFor) {
+TEST(SysTray, AnExistingTrayIsNotWatchedFor) {
   const frmSysTray tray(VantoriumSysTrayMenu(), QIcon(":/vantorium/vantorium.svg"), [] { return true; });
   EXPECT_TRUE(tray.findChild<QSystemTrayIcon*>("trayIcon")->isVisible());
   EXPECT_EQ(tray.findChild<QTimer*>("trayWatch"), nullptr);
@@ -174,7 +174,7 @@ TEST_F(SysTrayForm, WhileItIsDisabledNothingIsReported) {
   EXPECT_EQ(Sent(), "click 5 close; ");
 }
 
-TEST_F(SysTrayForm, EntriesAreAddedAndDisabled) {
+TEST_F(SysTrayForm, EntriesCanBeAddedAndDisabled) {
   EXPECT_EQ(tray.AddMenuItem("&More", "more", true), 6);
   EXPECT_EQ(popup->defaultAction(), &Entry("mnuSysTray6"));
   tray.EnableMenuItem(6, false);

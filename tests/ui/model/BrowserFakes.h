@@ -21,8 +21,8 @@ inline std::ostream& operator<<(std::ostream& stream, const Browser& browser) {
 
 namespace vantorium::fakes {
 
-/// A user of frmAddBrowser: performs the next action of the script each time the dialog is shown, and cancels after the
-/// script's end.
+/// A user of frmAddBrowser: performs the next action of the script each time the dialog is shown. Cancels after the end
+/// of the script.
 class ScriptedEntryDialog : public ui::BrowserEntryDialog {
  public:
   void Show(ui::BrowserEntry& entry) override {

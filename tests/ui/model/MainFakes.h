@@ -1,16 +1,10 @@
 #pragma once
 
-#include "tests/fakes/BoxTextRaster.h"
 #include "tests/fakes/CountingEventLoop.h"
-#include "tests/fakes/FixedClock.h"
 #include "tests/fakes/JpegMaker.h"
 #include "tests/fakes/ProjectFakes.h"
 #include "tests/fakes/RunFakes.h"
-#include "tests/fakes/ScriptedCommonDialogs.h"
-#include "tests/fakes/ScriptedFileBrowser.h"
-#include "tests/fakes/ScriptedFolderBrowser.h"
-#include "tests/fakes/TemporaryFolder.h"
-#include "ui/model/main/MainModel.h"
+#include "tests/ui/model/DesktopFakes.h"
 
 #include <functional>
 #include <string>
@@ -83,7 +77,7 @@ class RecordingHelperWindows : public ui::HelperWindows {
 
   std::function<void()> onPlacings;
   bool takesTheme = false;
-  std::vector<core::MovedFolder> movedFolders;  ///< none: the user cancels the dialog
+  std::vector<core::MovedFolder> movedFolders;  ///< empty: the user cancels the dialog
   bool runsAnyway = true;
   std::optional<generation::RunOrder> order;  ///< nullopt: the user cancels the dialog
   ProgressRecord progress;
@@ -92,10 +86,9 @@ class RecordingHelperWindows : public ui::HelperWindows {
   Calls& calls_;
 };
 
-/// A MainModel with everything around it, and a temporary folder, drive T:. The program's folder is T:\program; its
-/// bundled files are in T:\data.
-struct MainModelDesk {
-  MainModelDesk() {
+/// A MainModel whose ports record their calls.
+struct MainModelHarness : DesktopFakes {
+  MainModelHarness() {
     loop.onTurn = [this](int) { calls.emplace_back("turn"); };
     model.Attach(view, windows);
   }
@@ -119,29 +112,11 @@ struct MainModelDesk {
     return std::find(calls.begin(), calls.end(), call) != calls.end();
   }
 
-  TemporaryFolder folder;
   Calls calls;
-  env::PathMap paths{{{'T', folder.Path().string()}}};
-  env::RegionalFormats formats;
-  env::mFileFunctions files{paths, formats};
   RecordedBoxes boxes{calls};
   CountingEventLoop loop;
-  RecordingShell shell{calls};
-  FixedClock clock;
-  env::Screen screen;
-  BoxTextRaster texts{20, 10};
-  ScriptedCommonDialogs dialogs;
-  ScriptedFileBrowser fileBrowser;
-  ScriptedFolderBrowser folderBrowser;
-  env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
-  ui::MainModel model{{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 1},
-                       dialogs,
-                       fileBrowser,
-                       folderBrowser,
-                       folder.Path() / "program",
-                       bundled,
-                       {3, 0, 1},
-                       2121}};
+  JournalingShell shell{calls};
+  ui::MainModel model{Ports(boxes, loop, shell, 1, 2121)};
   RecordingMainView view{calls};
   RecordingHelperWindows windows{calls};
 };

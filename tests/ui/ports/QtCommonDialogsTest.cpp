@@ -37,7 +37,7 @@ class SystemDialogs : public testing::Test {
   env::FontDescription font{.Name = "Liberation Sans", .Size = 36, .Weight = 700, .Color = 0xFFFFFF};
 };
 
-TEST_F(SystemDialogs, AColorIsChosenFromTheOneThatIsGiven) {
+TEST_F(SystemDialogs, TheColorDialogBeginsWithTheGivenColorAndReturnsTheChosenOne) {
   std::uint32_t color = 0x302010;
   env::CustomColors custom = {};
   custom[3] = 0x0000FF;
@@ -72,7 +72,7 @@ TEST_F(SystemDialogs, ACancelledColorDialogChangesNothing) {
   EXPECT_EQ(custom, env::CustomColors{});
 }
 
-TEST_F(SystemDialogs, TheFontDialogBeginsWithItsFont) {
+TEST_F(SystemDialogs, TheFontDialogBeginsWithTheGivenFont) {
   font.Underline = true;
   font.Italic = true;
   const env::FontDescription before = font;
@@ -89,7 +89,7 @@ TEST_F(SystemDialogs, TheFontDialogBeginsWithItsFont) {
   EXPECT_EQ(font, before);
 }
 
-TEST_F(SystemDialogs, EverythingOfAFontIsChosenWithKeysAndMouse) {
+TEST_F(SystemDialogs, EveryFontPropertyCanBeChosenWithKeysAndMouse) {
   EXPECT_TRUE(FontDialog([](QWidget& dialog) {
     Type(Find<QLineEdit>(dialog, "textFontName"), "Liberation Serif");
     Type(Find<QSpinBox>(dialog, "spinFontSize"), "20");
@@ -115,7 +115,7 @@ TEST_F(SystemDialogs, EverythingOfAFontIsChosenWithKeysAndMouse) {
                                         .Color = 0x0000FF}));
 }
 
-TEST_F(SystemDialogs, TheFontsAreThoseThatTextsAreDrawnWithEachOnce) {
+TEST_F(SystemDialogs, TheFontsAreThoseOfPangoEachOnce) {
   std::vector<std::string> listed;
   FontDialog([&](QWidget& dialog) {
     const auto& list = Find<QListWidget>(dialog, "listFontNames");
@@ -126,7 +126,7 @@ TEST_F(SystemDialogs, TheFontsAreThoseThatTextsAreDrawnWithEachOnce) {
   EXPECT_EQ(listed, texts.FaceNames());
 }
 
-TEST_F(SystemDialogs, TheListOfFontsAndTheNameFollowEachOther) {
+TEST_F(SystemDialogs, TheFontListAndTheFontNameFollowEachOther) {
   EXPECT_TRUE(FontDialog([](QWidget& dialog) {
     auto& name = Find<QLineEdit>(dialog, "textFontName");
     auto& list = Find<QListWidget>(dialog, "listFontNames");
@@ -143,7 +143,7 @@ TEST_F(SystemDialogs, TheListOfFontsAndTheNameFollowEachOther) {
   EXPECT_NE(font.Name, "Liberation Sans");
 }
 
-TEST_F(SystemDialogs, AFaceThatTheMachineLacksIsKept) {
+TEST_F(SystemDialogs, AFaceThatIsNotInstalledIsKept) {
   font.Name = "No Such Face";
   EXPECT_TRUE(FontDialog([](QWidget& dialog) {
     EXPECT_EQ(Find<QListWidget>(dialog, "listFontNames").currentItem(), nullptr);
@@ -154,7 +154,7 @@ TEST_F(SystemDialogs, AFaceThatTheMachineLacksIsKept) {
   EXPECT_EQ(font.Size, 12);
 }
 
-TEST_F(SystemDialogs, AFaceThatIsPastedLosesItsLineEnd) {
+TEST_F(SystemDialogs, APastedFaceLosesItsLineEnd) {
   EXPECT_TRUE(FontDialog([](QWidget& dialog) {
     QApplication::clipboard()->setText("Liberation Serif\r\n");
     Find<QLineEdit>(dialog, "textFontName").paste();

@@ -13,9 +13,9 @@ namespace {
 
 using fakes::DriveModal;
 
-/// The windows during a run, while another program is active: a disabled main window and the run's window before it.
-struct RunInTheBack {
-  RunInTheBack() {
+/// The windows during a run, while another program is active: a disabled main window and the run's window above it.
+struct RunInBackground {
+  RunInBackground() {
     mainWindow.setEnabled(false);
     progress.setEnabled(true);
     for (QWidget* window : std::initializer_list<QWidget*>{&mainWindow, &progress}) {
@@ -39,7 +39,7 @@ const QWidget* OwnerOfABox() {
   return owner;
 }
 
-TEST(QtMessageBox, AListIsBehindAButton) {
+TEST(QtMessageBox, AListIsShownByAButton) {
   QtMessageBox boxes;
   DriveModal([&] { boxes.ShowList("Unused Files", "These are <b>unused</b>.", "a.htm\rb.htm"); },
              [](QWidget& box) {
@@ -53,13 +53,13 @@ TEST(QtMessageBox, AListIsBehindAButton) {
 }
 
 TEST(QtMessageBox, BelongsToTheWindowOfTheRunWhileTheUserIsInAnotherProgram) {
-  RunInTheBack run;
+  RunInBackground run;
   ASSERT_EQ(QApplication::activeWindow(), nullptr);
   EXPECT_EQ(OwnerOfABox(), &run.progress);
 }
 
 TEST(QtMessageBox, BelongsToADialogThatWaitsForTheUser) {
-  RunInTheBack run;
+  RunInBackground run;
   QDialog dialog(&run.progress);
   dialog.setAttribute(Qt::WA_ShowWithoutActivating);
   dialog.setModal(true);
@@ -79,7 +79,7 @@ env::BoxAnswer AnswerTo(env::BoxButtons buttons, Qt::Key key) {
   return AnswerTo(buttons, [key](QWidget& box) { QTest::keyClick(&box, key); });
 }
 
-TEST(QtMessageBox, ReturnAndEscapeAgreeToNothingThatCannotBeTakenBack) {
+TEST(QtMessageBox, ReturnAndEscapeDoNotConfirmWhatCannotBeUndone) {
   EXPECT_EQ(AnswerTo(env::BoxButtons::YesNo, Qt::Key_Return), env::BoxAnswer::No);
   EXPECT_EQ(AnswerTo(env::BoxButtons::YesNo, Qt::Key_Escape), env::BoxAnswer::No);
   const auto pressYes = [](QWidget& box) { fakes::Click(*static_cast<QMessageBox&>(box).button(QMessageBox::Yes)); };

@@ -24,7 +24,7 @@ class QtShellTest : public testing::Test {
     const std::string script = "until test -e \"$0\"; do sleep 0.01; done; exit " + std::to_string(code);
     return {{"/bin/sh", "-c", script, (folder.Path() / name).string()}, watched};
   }
-  void LetGoOn(const std::string& name) const { folder.Write(name, ""); }
+  void Release(const std::string& name) const { folder.Write(name, ""); }
   static bool WaitUntil(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, static_cast<int>(kLong.count()));
   }
@@ -36,54 +36,54 @@ class QtShellTest : public testing::Test {
   env::StartFailed note = [this](const env::RuntimeFailure& failure) { failures.push_back(failure.Description()); };
 };
 
-TEST_F(QtShellTest, AProgramIsWatchedFromTheEventLoopWhileTheWindowGoesOn) {
+TEST_F(QtShellTest, AProgramIsWatchedFromTheEventLoopWithoutBlocking) {
   shell.Start(WaitingFor("go", 3), note);
   EXPECT_EQ(failures, Texts()) << "the program has not ended";
-  LetGoOn("go");
+  Release("go");
   EXPECT_TRUE(WaitUntil([this] { return !failures.empty(); }));
   EXPECT_EQ(failures, Texts{"/bin/sh ended with the exit code 3"});
 }
 
-TEST_F(QtShellTest, AProgramThatIsNotThereFailsAtOnce) {
+TEST_F(QtShellTest, AMissingProgramFailsAtOnce) {
   shell.Start({{"no-such-program-here"}, kLong}, note);
   EXPECT_EQ(failures, Texts{"no-such-program-here: No such file or directory"});
 }
 
-TEST_F(QtShellTest, TheSecondAttemptIsMadeWhenTheFirstHasFailedAndItsFailureIsReportedOnce) {
+TEST_F(QtShellTest, TheSecondAttemptFollowsAFailedFirstAndItsFailureIsReportedOnce) {
   env::Launch({WaitingFor("first", 3), WaitingFor("second", 4)}, shell, note);
-  LetGoOn("first");
-  EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200)) << "the second attempt goes on";
-  LetGoOn("second");
+  Release("first");
+  EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200)) << "the second attempt is still running";
+  Release("second");
   EXPECT_TRUE(WaitUntil([this] { return !failures.empty(); }));
   EXPECT_FALSE(QTest::qWaitFor([this] { return failures.size() > 1; }, 200));
   EXPECT_EQ(failures, Texts{"/bin/sh ended with the exit code 4"});
 }
 
-TEST_F(QtShellTest, AProgramThatEndsWellOrGoesOnOrIsNotWatchedHasNotFailed) {
+TEST_F(QtShellTest, SuccessfulRunningAndUnwatchedProgramsHaveNotFailed) {
   shell.Start({{"/bin/sh", "-c", "exit 0"}, kLong}, note);
   shell.Start({{"/bin/sh", "-c", "exit 3"}, milliseconds(0)}, note);
   shell.Start(WaitingFor("late", 3, milliseconds(50)), note);
   QTest::qWait(300);
-  LetGoOn("late");
+  Release("late");
   QTest::qWait(200);
   EXPECT_EQ(failures, Texts());
 }
 
-TEST_F(QtShellTest, AMessageAboutTheFailureIsNotShownTwiceWhileItsEventLoopRuns) {
+TEST_F(QtShellTest, AFailureIsReportedOnceEvenWhileItsMessageBoxIsOpen) {
   shell.Start(WaitingFor("go", 3), [this](const env::RuntimeFailure& failure) {
     note(failure);
     QTest::qWait(200);
   });
-  LetGoOn("go");
+  Release("go");
   EXPECT_TRUE(WaitUntil([this] { return !failures.empty(); }));
   EXPECT_EQ(failures.size(), 1U);
 }
 
-TEST_F(QtShellTest, NothingIsReportedAfterTheEndOfTheDesktop) {
+TEST_F(QtShellTest, NothingIsReportedAfterTheShellIsDestroyed) {
   auto desktop = std::make_unique<QtShell>(paths);
   desktop->Start(WaitingFor("go", 3), note);
   desktop.reset();
-  LetGoOn("go");
+  Release("go");
   EXPECT_FALSE(QTest::qWaitFor([this] { return !failures.empty(); }, 200));
 }
 

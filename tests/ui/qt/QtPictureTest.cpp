@@ -87,24 +87,24 @@ TEST(QtPicture, AnImageIsACopy) {
   EXPECT_EQ(Places(image), "00 10 20\n01 11 21\n");
 }
 
-TEST(QtPicture, PaintingWithTheDefaultsCopiesTheWholeImage) {
+TEST(QtPicture, PaintingWithDefaultsCopiesTheWholePicture) {
   EXPECT_EQ(Painted({}), "00 10 20 --\n01 11 21 --\n-- -- -- --\n");
 }
 
-TEST(QtPicture, PaintingWithAWidthOrHeightOfNothingCopiesNothing) {
+TEST(QtPicture, PaintingWithAWidthOrHeightOfZeroCopiesNothing) {
   const std::string nothing = "-- -- -- --\n-- -- -- --\n-- -- -- --\n";
   EXPECT_EQ(Painted({.width = 0}), nothing);
   EXPECT_EQ(Painted({.height = 0}), nothing);
   EXPECT_EQ(Painted({.width = 0, .height = 0}), nothing);
 }
 
-TEST(QtPicture, PaintingPutsAnAreaOfThePictureOnAnotherPlace) {
+TEST(QtPicture, PaintingCopiesAnAreaOfThePictureToAnotherPlace) {
   EXPECT_EQ(Painted({.x = 1, .y = 1, .width = 2, .height = 1}, 1, 1), "-- -- -- --\n-- 11 21 --\n-- -- -- --\n");
   EXPECT_EQ(Painted({.x = 2, .y = 2}), "-- -- -- --\n-- -- -- --\n-- -- 00 10\n");
   EXPECT_EQ(Painted({.x = -1, .y = -1}), "11 21 -- --\n-- -- -- --\n-- -- -- --\n");
 }
 
-TEST(QtPicture, PaintingLeavesOutWhatIsOutsideOfThePicture) {
+TEST(QtPicture, PaintingIsClippedToThePicture) {
   EXPECT_EQ(Painted({}, 2, 1), "21 -- -- --\n-- -- -- --\n-- -- -- --\n");
   EXPECT_EQ(Painted({}, -1, -1), "-- -- -- --\n-- 00 10 --\n-- -- -- --\n");
   EXPECT_EQ(Painted({.width = 9, .height = 9}), "00 10 20 --\n01 11 21 --\n-- -- -- --\n");
@@ -116,7 +116,7 @@ TEST(QtPicture, PaintingLeavesOutWhatIsOutsideOfThePicture) {
   EXPECT_EQ(Painted({}, 3, 0), nothing);
 }
 
-TEST(QtPicture, APictureWithoutPixelsPaintsAndTakesNothing) {
+TEST(QtPicture, APictureWithoutPixelsPaintsAndLoadsNothing) {
   image::cDIBSection picture = Numbered();
   picture.ClearUp();
   EXPECT_EQ(picture.width(), 3);
@@ -135,10 +135,10 @@ TEST(QtPicture, LoadingCopiesAnAreaIntoTheTopLeftCorner) {
   EXPECT_EQ(Loaded(source, {}), "00 10 20\n01 11 21\n");
   EXPECT_EQ(Loaded(source, {.x = 2, .y = 2}), "22 32 42\n23 33 43\n");
   EXPECT_EQ(Loaded(source, {.x = 1, .y = 1, .width = 2, .height = 1}), "11 21 --\n-- -- --\n");
-  EXPECT_EQ(Loaded(source, {.width = 5, .height = 4}), "00 10 20\n01 11 21\n") << "cut to the picture";
+  EXPECT_EQ(Loaded(source, {.width = 5, .height = 4}), "00 10 20\n01 11 21\n") << "clipped to the picture";
 }
 
-TEST(QtPicture, LoadingLeavesOutWhatIsOutsideOfTheSource) {
+TEST(QtPicture, LoadingIsClippedToTheSource) {
   EXPECT_EQ(Loaded(NumberedImage(2, 1), {}), "00 10 --\n-- -- --\n");
   EXPECT_EQ(Loaded(NumberedImage(), {.x = -1, .y = -1}), "-- -- --\n-- 00 10\n");
   EXPECT_EQ(Loaded(NumberedImage(), {.x = 3}), "-- -- --\n-- -- --\n");
@@ -146,20 +146,20 @@ TEST(QtPicture, LoadingLeavesOutWhatIsOutsideOfTheSource) {
   EXPECT_EQ(Loaded(NumberedImage(), {.width = kMost, .height = kMost}), "00 10 20\n01 11 21\n");
 }
 
-TEST(QtPicture, LoadingWithAWidthOrHeightOfNothingCopiesNothing) {
+TEST(QtPicture, LoadingWithAWidthOrHeightOfZeroCopiesNothing) {
   EXPECT_EQ(Loaded(NumberedImage(), {.width = 0}), "-- -- --\n-- -- --\n");
   EXPECT_EQ(Loaded(NumberedImage(), {.height = 0}), "-- -- --\n-- -- --\n");
   EXPECT_EQ(Loaded(NumberedImage(), {.width = 0, .height = 0}), "-- -- --\n-- -- --\n");
 }
 
-TEST(QtPicture, LoadingLeavesThePaddingAlone) {
+TEST(QtPicture, LoadingDoesNotChangeThePadding) {
   image::cDIBSection picture = Numbered(3, 2);
   for (int y = 0; y < 2; ++y) std::fill_n(picture.Row(y) + 9, 3, std::uint8_t{77});
   LoadPictureBlt(picture, NumberedImage(9, 9));
   for (int y = 0; y < 2; ++y) EXPECT_EQ(std::string(picture.Row(y) + 9, picture.Row(y) + 12), "MMM") << y;
 }
 
-TEST(QtPicture, AnImageOfAnyFormatMakesAPicture) {
+TEST(QtPicture, AnImageInAnyFormatMakesAPicture) {
   for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888,
                                       QImage::Format_BGR888, QImage::Format_RGBA64}) {
     image::cDIBSection picture;
@@ -168,7 +168,7 @@ TEST(QtPicture, AnImageOfAnyFormatMakesAPicture) {
   }
 }
 
-TEST(QtPicture, AnImageOfAFineScreenKeepsItsPixels) {
+TEST(QtPicture, AnImageWithAPixelRatioKeepsItsPixels) {
   QImage fine = NumberedImage();
   fine.setDevicePixelRatio(2);
   image::cDIBSection picture;
@@ -186,7 +186,7 @@ TEST(QtPicture, TransparentPixelsBecomeWhite) {
   EXPECT_EQ(ImageOf(picture).pixel(1, 0), 0xFF000000);
 }
 
-TEST(QtPicture, ASizeThatCannotBeMadeLeavesThePictureEmpty) {
+TEST(QtPicture, ASizeThatCannotBeAllocatedLeavesThePictureEmpty) {
   image::cDIBSection picture = Numbered();
   EXPECT_FALSE(CreateFromPicture(picture, QImage()));
   EXPECT_EQ(picture.DIBSectionBitsPtr(), nullptr);
@@ -202,12 +202,12 @@ TEST(QtPicture, TheClipboardGetsACopy) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST(QtPicture, TheClipboardTakesNoEmptyPicture) {
+TEST(QtPicture, TheClipboardRefusesAnEmptyPicture) {
   fakes::RecordingMessageBox boxes;
   EXPECT_FALSE(CopyToClipboard({}, false, boxes));
 }
 
-TEST(QtPicture, TheClipboardHasTheBitmapFormOnly) {
+TEST(QtPicture, TheClipboardHasOnlyTheBitmapFormat) {
   fakes::RecordingMessageBox boxes;
   QApplication::clipboard()->setText("before");
   EXPECT_FALSE(CopyToClipboard(Numbered(), true, boxes));

@@ -75,7 +75,7 @@ TEST_F(FieldBinding, RefreshShowsTheProjectAndIsNotAnEdit) {
   EXPECT_EQ(edits, 0);
 }
 
-TEST_F(FieldBinding, TypedTextReachesTheField) {
+TEST_F(FieldBinding, TypedTextIsStoredInTheField) {
   Type(title, "Ferien");
   EXPECT_EQ(project.textGalleryTitle, "Ferien");
   EXPECT_TRUE(modified);
@@ -91,7 +91,7 @@ TEST_F(FieldBinding, AnEditRunsTheRulesOfOtherFields) {
   EXPECT_FALSE(slideShow.isChecked());
 }
 
-TEST_F(FieldBinding, ANumberBelowItsBoundBecomesTheBound) {
+TEST_F(FieldBinding, ANumberBelowItsMinimumBecomesTheMinimum) {
   Type(frameSize, "0");
   EXPECT_EQ(frameSize.text(), "1");
 }
@@ -107,7 +107,7 @@ TEST_F(FieldBinding, LettersCannotBeTypedIntoANumber) {
   EXPECT_EQ(frameSize.text(), "34");
 }
 
-TEST_F(FieldBinding, APastedNumberComesWithoutItsBlanksAndLineEnds) {
+TEST_F(FieldBinding, APastedNumberLosesItsBlanksAndLineEnds) {
   for (const char* pasted : {" 13 ", "13\r\n", "\t13", "13"}) {
     Paste(frameSize, pasted);
     EXPECT_EQ(frameSize.text(), "13") << pasted;
@@ -116,7 +116,7 @@ TEST_F(FieldBinding, APastedNumberComesWithoutItsBlanksAndLineEnds) {
   }
 }
 
-TEST_F(FieldBinding, APastedNumberBelowItsBoundBecomesTheBound) {
+TEST_F(FieldBinding, APastedNumberBelowItsMinimumBecomesTheMinimum) {
   Paste(frameSize, "-5");
   EXPECT_EQ(project.textGalleryFrameSize, "1");
   Paste(rows, " -5\n");
@@ -124,7 +124,7 @@ TEST_F(FieldBinding, APastedNumberBelowItsBoundBecomesTheBound) {
   EXPECT_EQ(project.textThumbnailsTableRows, "0");
 }
 
-TEST_F(FieldBinding, ATextThatIsNotANumberEmptiesTheDirectLinksAndNoOtherField) {
+TEST_F(FieldBinding, ATextThatIsNotANumberClearsOnlyTheDirectLinks) {
   Paste(directLinks, "12");
   Paste(directLinks, "7x");
   EXPECT_EQ(directLinks.text(), "");
@@ -137,7 +137,7 @@ TEST_F(FieldBinding, ATextThatIsNotANumberEmptiesTheDirectLinksAndNoOtherField) 
     EXPECT_EQ(delay.text(), "5") << pasted;
   }
   Paste(delay, "-5");
-  EXPECT_EQ(project.textGallerySlideShowDelay, "5") << "it has no bound";
+  EXPECT_EQ(project.textGallerySlideShowDelay, "5") << "it has no minimum";
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
@@ -156,7 +156,7 @@ TEST_F(FieldBinding, AKeyThatIsNotADigitDoesNothing) {
   EXPECT_FALSE(modified);
 }
 
-TEST_F(FieldBinding, ALargeNumberIsTakenAndOneBeyondTheFieldBecomesItsBoundWithoutABox) {
+TEST_F(FieldBinding, ANumberBeyondTheMaximumBecomesTheMaximumWithoutAMessageBox) {
   Type(frameSize, "32768");
   EXPECT_EQ(frameSize.text(), "32768");
   EXPECT_EQ(project.ThumbnailFrameSize, 32768);
@@ -175,7 +175,7 @@ TEST_F(FieldBinding, TheSpinnerStepsWithinItsRange) {
   EXPECT_EQ(project.textGalleryFrameSize, "1");
 }
 
-TEST_F(FieldBinding, AListIsChosenFromWithTheKeyboard) {
+TEST_F(FieldBinding, AListEntryIsChosenWithTheKeyboard) {
   layout.setFocus();
   QTest::keyClick(&layout, Qt::Key_Down);
   EXPECT_EQ(project.comboGalleryLayoutType, 1);
@@ -200,7 +200,7 @@ class PathBinding : public FieldBinding {
   QLineEdit box;
 };
 
-TEST_F(PathBinding, ShowsThePathAsTheSystemWritesItAndLeavesItAlone) {
+TEST_F(PathBinding, ShowsTheNativePathWithoutChangingTheField) {
   EXPECT_EQ(box.text(), "/home/me/a.gif");
   for (const char* path : {"C:\\a.gif", "Z:\\home\\me\\a.gif", "D:\\a.gif", "a.gif", ""}) {
     project.textThumbnailsPageBackdrop = path;
@@ -213,7 +213,7 @@ TEST_F(PathBinding, ShowsThePathAsTheSystemWritesItAndLeavesItAlone) {
   EXPECT_FALSE(modified);
 }
 
-TEST_F(PathBinding, TakesBothFormsAndKeepsThemWhileTheyAreTyped) {
+TEST_F(PathBinding, AcceptsBothFormsAndKeepsThemWhileTheyAreTyped) {
   for (const char* typed : {"C:\\b.gif", "/home/me/b.gif", "~/b.gif"}) {
     Type(box, typed);
     EXPECT_EQ(box.text(), typed);
@@ -223,7 +223,7 @@ TEST_F(PathBinding, TakesBothFormsAndKeepsThemWhileTheyAreTyped) {
   }
 }
 
-TEST_F(PathBinding, ATextThatIsNoPlaceStaysAsItIsTyped) {
+TEST_F(PathBinding, ATextThatIsNotAPlaceStaysAsTyped) {
   for (const char* typed : {"D:\\b.gif", "b.gif", "sub/b.gif", "\\\\server\\b.gif", "~b.gif", "1:\\b.gif"}) {
     Type(box, typed);
     Leave();

@@ -28,7 +28,7 @@ class OnAScreen {
   }
   ~OnAScreen() { control_.setParent(nullptr); }
 
-  /// The number of pixels of that color from the control's middle outward: to the left, right, top and bottom.
+  /// The numbers of pixels of that color from the middle of the control to its left, right, top and bottom.
   [[nodiscard]] std::vector<int> LinesOf(QColor color) const {
     const QRectF place(QPointF(7, 5) * scale_, QSizeF(control_.size()) * scale_);
     const QPoint middle = place.center().toPoint();
@@ -57,7 +57,7 @@ QColor LineColor() {
   return frame.grab().toImage().pixelColor(25, 49);
 }
 
-TEST(PixelFrames, AListBoxKeepsItsFourLinesAtEveryScaleAndSize) {
+TEST(PixelFrames, AListBoxHasItsFourLinesAtEveryScaleAndSize) {
   for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
     for (const int height : {60, 61, 62, 63}) {
       QListView list;
@@ -76,7 +76,7 @@ QColor TabLineColor() {
   return tabs.grab().toImage().pixelColor(0, 60);
 }
 
-TEST(PixelFrames, ThePageOfATabKeepsItsLinesAtEveryScaleAndSize) {
+TEST(PixelFrames, ThePageOfATabHasItsLinesAtEveryScaleAndSize) {
   for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
     for (const int height : {100, 101, 102, 103}) {
       QTabWidget tabs;
@@ -87,7 +87,7 @@ TEST(PixelFrames, ThePageOfATabKeepsItsLinesAtEveryScaleAndSize) {
   }
 }
 
-TEST(PixelFrames, APreviewKeepsItsFourLinesAroundAPictureThatFillsItsInside) {
+TEST(PixelFrames, APreviewHasItsFourLinesAroundAPictureThatFillsIt) {
   QImage red(8, 6, QImage::Format_RGB32);
   red.fill(Qt::red);
   for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {

@@ -9,7 +9,7 @@
 namespace vantorium::ui {
 namespace {
 
-/// A box with a text and the cursor after it.
+/// A box with a text, and the cursor at its end.
 class TextBoxTest : public testing::Test {
  protected:
   TextBoxTest() {
@@ -37,7 +37,7 @@ TEST_F(TextBoxTest, AnEmptyClipboardPastesNothing) {
   EXPECT_EQ(box.toPlainText(), "one ");
 }
 
-TEST_F(TextBoxTest, APastedTextComesInAtTheCursorAndIsOneStepOfUndo) {
+TEST_F(TextBoxTest, APastedTextIsInsertedAtTheCursorAsOneUndoStep) {
   Paste(Clip("two\r\nthree"));
   EXPECT_EQ(box.toPlainText(), "one two\nthree");
   box.undo();
@@ -61,7 +61,7 @@ TEST_F(TextBoxTest, TextTypedBeforeAndAfterAPasteIsUndoneSeparately) {
   }
 }
 
-TEST_F(TextBoxTest, APasteOverASelectionIsOneStep) {
+TEST_F(TextBoxTest, APasteOverASelectionIsOneUndoStep) {
   box.selectAll();
   Paste(Clip("two"));
   EXPECT_EQ(box.toPlainText(), "two");
@@ -69,7 +69,7 @@ TEST_F(TextBoxTest, APasteOverASelectionIsOneStep) {
   EXPECT_EQ(box.toPlainText(), "one ");
 }
 
-TEST_F(TextBoxTest, MarkedUpTextIsPastedToTheLetter) {
+TEST_F(TextBoxTest, MarkupIsPastedAsPlainText) {
   auto clip = std::make_unique<QMimeData>();
   clip->setData("text/markdown", "**two**\n\n- three");
   clip->setHtml("<b>two</b>");
@@ -85,7 +85,7 @@ TEST_F(TextBoxTest, APictureInTheClipboardPastesNothing) {
   EXPECT_EQ(box.toPlainText(), "one ");
 }
 
-TEST_F(TextBoxTest, ABoxThatIsOnlyReadTakesNothing) {
+TEST_F(TextBoxTest, AReadOnlyBoxPastesNothing) {
   box.setReadOnly(true);
   Paste(Clip("two"));
   EXPECT_EQ(box.toPlainText(), "one ");

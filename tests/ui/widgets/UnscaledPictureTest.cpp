@@ -8,14 +8,14 @@
 namespace vantorium::ui {
 namespace {
 
-TEST(UnscaledPicture, HasThePixelsOfItsInsideOnItsScreen) {
+TEST(UnscaledPicture, HasThePixelSizeOfItsContentsOnItsScreen) {
   UnscaledPicture box;
   box.resize(box.sizeHint());
   const double ratio = box.devicePixelRatioF();
   EXPECT_EQ(box.SizeInPixels(), (image::PictureSize{static_cast<int>(440 * ratio), static_cast<int>(330 * ratio)}));
 }
 
-TEST(UnscaledPicture, ShowsAPicturePixelForPixelInItsCorner) {
+TEST(UnscaledPicture, ShowsAPicturePixelByPixelInItsCorner) {
   UnscaledPicture box;
   box.resize(box.sizeHint());
   box.Show(fakes::PlainPicture(30, 20, 0x0000FF));
@@ -27,14 +27,14 @@ TEST(UnscaledPicture, ShowsAPicturePixelForPixelInItsCorner) {
   EXPECT_EQ(seen.pixel(frame + 5, frame + 5), qRgb(255, 0, 0));
 }
 
-TEST(UnscaledPicture, ClearsItself) {
+TEST(UnscaledPicture, CanBeCleared) {
   UnscaledPicture box;
   box.Show(fakes::PlainPicture(3, 2, 0x0000FF));
   box.Clear();
   EXPECT_TRUE(box.Shown().isNull());
 }
 
-TEST(ColorButton, ShowsAndTellsItsColor) {
+TEST(ColorButton, ShowsAndNamesItsColor) {
   ColorButton button;
   button.resize(button.sizeHint());
   button.SetColor(0x302010);

@@ -47,7 +47,7 @@ class MenuOfATextBox : public testing::Test {
   ucPopupMenu& menu = *new ucPopupMenu(form);
 };
 
-TEST_F(MenuOfATextBox, HasTheEditEntriesInOrderAndThenTheTags) {
+TEST_F(MenuOfATextBox, HasTheEditEntriesInOrderFollowedByTheTags) {
   EXPECT_EQ(menu.objectName(), "ucPopupMenu");
   const char* captions[] = {
       "&Undo", "", "Cu&t", "&Copy", "&Paste", "C&lear", "", "Select &All", "Insert Vantorium Tag"};
@@ -81,7 +81,7 @@ TEST_F(MenuOfATextBox, HasAnEntryForEachTag) {
   }
 }
 
-TEST_F(MenuOfATextBox, ATagReplacesTheSelectionAndOneUndoBringsItBack) {
+TEST_F(MenuOfATextBox, ATagReplacesTheSelectionAndOneUndoRestoresIt) {
   Select(4, 7);
   Choose("mnuEditTagsImage8");
   EXPECT_EQ(box.toPlainText().toStdString(), "one <VANTORIUM_IMAGE_INDEX> three");
@@ -110,7 +110,7 @@ TEST_F(MenuOfATextBox, UndoGoesBackStepByStep) {
   EXPECT_EQ(box.toPlainText(), typed);
 }
 
-TEST_F(MenuOfATextBox, AClearIsAStepOfItsOwnBetweenTwoDeletions) {
+TEST_F(MenuOfATextBox, AClearBetweenTwoDeletionsIsOneUndoStep) {
   box.moveCursor(QTextCursor::End);
   QTest::keyClick(&box, Qt::Key_Backspace);
   Select(8, 12);
@@ -123,7 +123,7 @@ TEST_F(MenuOfATextBox, AClearIsAStepOfItsOwnBetweenTwoDeletions) {
   }
 }
 
-TEST_F(MenuOfATextBox, CutCopyPasteClearAndSelectAllDoAsTheySay) {
+TEST_F(MenuOfATextBox, CutCopyPasteClearAndSelectAllWork) {
   Select(0, 4);
   Choose("mnuEdit2");
   EXPECT_EQ(box.toPlainText().toStdString(), "two three");
@@ -160,7 +160,7 @@ TEST_F(MenuOfATextBox, EntriesAreEnabledWhenTheMenuOpens) {
   Top().close();
 }
 
-TEST_F(MenuOfATextBox, ComesInPlaceOfTheBoxsOwnForMouseAndKeyboard) {
+TEST_F(MenuOfATextBox, ReplacesTheMenuOfTheBoxForMouseAndKeyboard) {
   for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
     QWidget* receiver = reason == QContextMenuEvent::Mouse ? other.viewport() : &other;
     QContextMenuEvent event(reason, QPoint(4, 4), receiver->mapToGlobal(QPoint(4, 4)));
@@ -169,7 +169,7 @@ TEST_F(MenuOfATextBox, ComesInPlaceOfTheBoxsOwnForMouseAndKeyboard) {
     Find<QAction>(form, "mnuEditTagsGallery0").trigger();
     Top().close();
     EXPECT_TRUE(other.hasFocus());
-    EXPECT_EQ(other.toPlainText(), "<VANTORIUM_GALLERY_CREATIONDATE_LONG>") << "the box that was clicked";
+    EXPECT_EQ(other.toPlainText(), "<VANTORIUM_GALLERY_CREATIONDATE_LONG>") << "the clicked box";
     other.clear();
   }
   EXPECT_EQ(box.toPlainText().toStdString(), "one two three");

@@ -9,7 +9,7 @@
 
 namespace vantorium::generation {
 
-/// Runs with OnlyChanges. The records are in T:\cache, which begins without one.
+/// Runs with OnlyChanges. The records are in T:\cache. At first there is none.
 class ChangesFixture : public RunFixture {
  protected:
   ChangesFixture() { environment.cacheFolder = folder.Path() / "cache"; }
@@ -42,7 +42,7 @@ class ChangesFixture : public RunFixture {
     }
     return written;
   }
-  /// Compares the gallery with one that a full run makes in a new folder.
+  /// Expects that the gallery equals one that a full run makes in a new folder.
   void ExpectLikeAFullRun(const std::string& why = {}) {
     static int count = 0;
     const std::string name = "full" + std::to_string(++count);

@@ -51,14 +51,14 @@ TEST_F(ChangesTest, AChangedCaptionWritesOnlyItsPages) {
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, AFilterOfTheImagesMakesOnlyTheImagesAgain) {
+TEST_F(ChangesTest, AnImageFilterMakesOnlyTheImagesAgain) {
   Run(OnlyChanges());
   project.settings.ImageFilters.checkGrayscale = 1;
   EXPECT_EQ(Written(OnlyChanges()), (Names{"Images/a.jpg", "Images/b.jpg", "Images/c.jpg"}));
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, AnotherOrderMakesPicturesAgainOnlyIfTheyHaveNoise) {
+TEST_F(ChangesTest, ANewOrderMakesPicturesAgainOnlyIfTheyHaveNoise) {
   project.settings.ImageFilters.checkNoise = 1;
   Run(OnlyChanges());
   const core::ImageEntry first = project.images.Entry(1);
@@ -70,7 +70,7 @@ TEST_F(ChangesTest, AnotherOrderMakesPicturesAgainOnlyIfTheyHaveNoise) {
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, AWatermarkInAnotherFontIsAnotherPicture) {
+TEST_F(ChangesTest, AWatermarkInAnotherFontMakesThePictureAgain) {
   project.settings.ImageWatermark.checkUseWatermark = 1;
   project.settings.ImageWatermark.textWatermark = "mine";
   Run(OnlyChanges());
@@ -80,7 +80,7 @@ TEST_F(ChangesTest, AWatermarkInAnotherFontIsAnotherPicture) {
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, ASourceThatWasReplacedIsNoticedEvenIfSizeAndWriteTimeAreTheSame) {
+TEST_F(ChangesTest, AReplacedSourceIsNoticedEvenWithTheSameSizeAndWriteTime) {
   Run(OnlyChanges());
   const auto source = folder.Path() / "photos/b.jpg";
   const timespec time = WriteTime(source);
@@ -94,7 +94,7 @@ TEST_F(ChangesTest, ASourceThatWasReplacedIsNoticedEvenIfSizeAndWriteTimeAreTheS
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, WhatIsGoneOrChangedAtTheTargetIsMadeAgain) {
+TEST_F(ChangesTest, FilesThatAreMissingOrChangedInTheTargetAreMadeAgain) {
   Run(OnlyChanges());
   const auto out = folder.Path() / "out";
   std::filesystem::remove(out / "Images/a.jpg");
@@ -109,7 +109,7 @@ TEST_F(ChangesTest, WhatIsGoneOrChangedAtTheTargetIsMadeAgain) {
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, PagesStateTheSameFileSizes) {
+TEST_F(ChangesTest, PagesStateTheFileSizesOfKeptFiles) {
   for (const std::int16_t keepSize : {core::kOff, core::kOn}) {
     project.settings.checkImageWrapperImageKeepSize = keepSize;
     project.settings.ImageHeader = "<VANTORIUM_IMAGE_FILESIZE>";
@@ -119,7 +119,7 @@ TEST_F(ChangesTest, PagesStateTheSameFileSizes) {
   }
 }
 
-TEST_F(ChangesTest, WithoutItNoRecordIsReadOrWritten) {
+TEST_F(ChangesTest, WithoutOnlyChangesNoRecordIsReadOrWritten) {
   Run(OrderToCreate());
   EXPECT_TRUE(Records().empty());
   Run(OnlyChanges());
@@ -129,7 +129,7 @@ TEST_F(ChangesTest, WithoutItNoRecordIsReadOrWritten) {
   EXPECT_EQ(StampOf(Records().front()), record);
 }
 
-TEST_F(ChangesTest, ARecordIsNotBelievedWronglyAfterARunWithoutIt) {
+TEST_F(ChangesTest, AFullRunInvalidatesTheRecord) {
   Run(OnlyChanges());
   project.settings.ImageFilters.checkGrayscale = 1;
   Run(OrderToCreate());
@@ -138,7 +138,7 @@ TEST_F(ChangesTest, ARecordIsNotBelievedWronglyAfterARunWithoutIt) {
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, ADamagedRecordCostsTimeOnly) {
+TEST_F(ChangesTest, WithADamagedRecordAllIsMadeAgain) {
   Run(OnlyChanges());
   for (const std::string& damaged : {std::string(), std::string(100000, '\0'), std::string("end \n")}) {
     std::ofstream(Records().front(), std::ios::binary) << damaged;
@@ -148,7 +148,7 @@ TEST_F(ChangesTest, ADamagedRecordCostsTimeOnly) {
   EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
 }
 
-TEST_F(ChangesTest, ACacheFolderThatCannotBeMadeCostsTimeOnly) {
+TEST_F(ChangesTest, WithoutACacheFolderAllIsMadeAgain) {
   folder.Write("file", "");
   environment.cacheFolder = folder.Path() / "file/cache";
   Run(OnlyChanges());
@@ -156,7 +156,7 @@ TEST_F(ChangesTest, ACacheFolderThatCannotBeMadeCostsTimeOnly) {
   EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
 }
 
-TEST_F(ChangesTest, EachFolderHasItsOwnRecordWhicheverPathLeadsThere) {
+TEST_F(ChangesTest, EachFolderHasOneRecordWhicheverPathLeadsThere) {
   Run(OnlyChanges());
   Run(OnlyChanges("T:\\other\\"));
   EXPECT_EQ(Records().size(), 2U);
@@ -166,7 +166,7 @@ TEST_F(ChangesTest, EachFolderHasItsOwnRecordWhicheverPathLeadsThere) {
   EXPECT_EQ(Records().size(), 2U);
 }
 
-TEST_F(ChangesTest, AFailedRunKeepsWhatItMade) {
+TEST_F(ChangesTest, AFailedRunRecordsTheFilesItMade) {
   folder.Write("photos/c.jpg", "no photograph");
   EXPECT_EQ(Run(OnlyChanges()), RunEnd::Failure);
   folder.Write("photos/c.jpg", PlainJpeg(40, 30));
@@ -175,14 +175,14 @@ TEST_F(ChangesTest, AFailedRunKeepsWhatItMade) {
   ExpectLikeAFullRun();
 }
 
-TEST_F(ChangesTest, ASourceThatIsGoneFailsAsInAFullRun) {
+TEST_F(ChangesTest, AMissingSourceFailsAsInAFullRun) {
   Run(OnlyChanges());
   std::filesystem::remove(folder.Path() / "photos/b.jpg");
   EXPECT_EQ(Run(OnlyChanges()), RunEnd::Failure);
   EXPECT_EQ(LastBox(), "File Error: Unable to copy the File \"T:\\photos\\b.jpg\".");
 }
 
-TEST_F(ChangesTest, WithoutOverwriteExistingPicturesStayWhateverTheRecordSays) {
+TEST_F(ChangesTest, WithoutOverwriteExistingPicturesStayWhateverTheRecord) {
   Run(OnlyChanges());
   folder.Write("out/Images/a.jpg", "mine");
   std::filesystem::remove(folder.Path() / "out/Images/b.jpg");
@@ -192,7 +192,7 @@ TEST_F(ChangesTest, WithoutOverwriteExistingPicturesStayWhateverTheRecordSays) {
   EXPECT_EQ(folder.Read("out/Images/a.jpg"), "mine");
 }
 
-TEST_F(ChangesTest, EveryNumberOfJobsMakesTheSame) {
+TEST_F(ChangesTest, TheResultDoesNotDependOnTheNumberOfJobs) {
   for (unsigned jobs : {1U, 3U}) {
     environment.jobs = jobs;
     folder.Write("photos/b.jpg", PlainJpeg(40, 30, static_cast<std::uint8_t>(jobs)));

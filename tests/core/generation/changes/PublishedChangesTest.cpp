@@ -29,7 +29,7 @@ class PublishedChangesTest : public PublishFixture {
     order.OnlyChanges = order.RemoveUnused = true;
     return order;
   }
-  /// Runs, and returns what was sent.
+  /// Runs, and returns the files that were sent.
   Names Sent(const ScriptedFtpServer& server, const RunOrder& order) {
     const std::size_t before = server.Commands().size();
     EXPECT_EQ(Run(order), RunEnd::Success) << LastBox();
@@ -40,7 +40,7 @@ class PublishedChangesTest : public PublishFixture {
     }
     return sent;
   }
-  /// Compares what the server has with what a full run sends to another one.
+  /// Expects that the server has the files that a full run sends to another server.
   void ExpectLikeAFullRun(const ScriptedFtpServer& server) {
     ScriptedFtpServer other;
     EXPECT_EQ(Run(PublishTo(other)), RunEnd::Success) << LastBox();
@@ -63,7 +63,7 @@ class PublishedChangesTest : public PublishFixture {
   }
 };
 
-TEST_F(PublishedChangesTest, ASecondRunSendsNothingAndAsksForTheSizeOfEachFile) {
+TEST_F(PublishedChangesTest, ASecondRunSendsNothingAndQueriesTheSizeOfEachFile) {
   ScriptedFtpServer server;
   EXPECT_EQ(Sent(server, OnlyChanges(PublishTo(server))).size(), 9U);
   EXPECT_EQ(Sent(server, OnlyChanges(PublishTo(server))), Names());
@@ -80,7 +80,7 @@ TEST_F(PublishedChangesTest, AChangedDescriptionSendsItsPage) {
   ExpectLikeAFullRun(server);
 }
 
-TEST_F(PublishedChangesTest, AnotherSizeOnTheServerOrNoneSendsTheFile) {
+TEST_F(PublishedChangesTest, AMissingOrDifferentSizeOnTheServerSendsTheFile) {
   ScriptedFtpServer server;
   Run(OnlyChanges(PublishTo(server)));
   for (const char* name :
@@ -95,7 +95,7 @@ TEST_F(PublishedChangesTest, AnotherSizeOnTheServerOrNoneSendsTheFile) {
   EXPECT_EQ(Sent(emptied, OnlyChanges(PublishTo(emptied))).size(), 9U);
 }
 
-TEST_F(PublishedChangesTest, ASizeThatIsNoNumberSendsTheFile) {
+TEST_F(PublishedChangesTest, ASizeThatIsNotANumberSendsTheFile) {
   for (const char* reply : {"213 many\r\n", "213 \r\n", "213 -1\r\n", "213 99999999999999999999999\r\n", "200 7\r\n"}) {
     ScriptedFtpServer server(Answering("SIZE", reply));
     Run(OnlyChanges(PublishTo(server)));
@@ -133,7 +133,7 @@ TEST_F(PublishedChangesTest, AFileThatTheServerDidNotConfirmIsSentAgain) {
   EXPECT_EQ(Sent(server, OnlyChanges(PublishTo(server))), Names());
 }
 
-TEST_F(PublishedChangesTest, ARunWithoutItForgetsWhatTheServerHad) {
+TEST_F(PublishedChangesTest, ARunWithoutOnlyChangesRemovesTheRecord) {
   ScriptedFtpServer server;
   Describe("one");
   Run(OnlyChanges(PublishTo(server)));
@@ -145,7 +145,7 @@ TEST_F(PublishedChangesTest, ARunWithoutItForgetsWhatTheServerHad) {
   ExpectLikeAFullRun(server);
 }
 
-TEST_F(PublishedChangesTest, WhileARunSendsThereIsNoRecordThatAKilledProgramWouldLeave) {
+TEST_F(PublishedChangesTest, WhileARunSendsThereIsNoRecord) {
   ScriptedFtpServer server;
   Run(OnlyChanges(PublishTo(server)));
   EXPECT_TRUE(HasRecord());
@@ -159,7 +159,7 @@ TEST_F(PublishedChangesTest, WhileARunSendsThereIsNoRecordThatAKilledProgramWoul
   EXPECT_TRUE(HasRecord());
 }
 
-TEST_F(PublishedChangesTest, AFailedRunKeepsWhatTheServerHas) {
+TEST_F(PublishedChangesTest, AFailedRunRecordsTheFilesItSent) {
   ScriptedFtpServer server;
   folder.Write("photos/b.jpg", "none");
   EXPECT_EQ(Run(OnlyChanges(PublishTo(server))), RunEnd::Failure);
@@ -194,7 +194,7 @@ TEST_F(PublishedChangesTest, EachFolderOfEachUserOnEachServerHasItsOwnRecord) {
   EXPECT_EQ(Sent(server, OnlyChanges(PublishTo(server))), Names());
 }
 
-TEST_F(PublishedChangesTest, UnusedFilesOfEarlierRunsAreListedAndRemovedOnlyIfTheOrderSaysSo) {
+TEST_F(PublishedChangesTest, UnusedFilesOfEarlierRunsAreListedAndRemovedOnlyOnRequest) {
   ScriptedFtpServer server;
   server.PutFile("web/mine.htm", "mine");
   Run(OnlyChanges(PublishTo(server)));
@@ -224,7 +224,7 @@ TEST_F(PublishedChangesTest, AnUnusedFileWithAnotherSizeOrANameInAnotherCaseStay
   EXPECT_FALSE(server.HasHeard("DELE web/b.htm"));
 }
 
-TEST_F(PublishedChangesTest, AFolderIsSentOnceAndThenOnlyWhatChanged) {
+TEST_F(PublishedChangesTest, AfterTheFirstUploadOfAFolderOnlyChangesAreSent) {
   ScriptedFtpServer server;
   EXPECT_EQ(Sent(server, OnlyChanges(UploadTo(server))).size(), 3U);
   EXPECT_EQ(Sent(server, OnlyChanges(UploadTo(server))), Names());
@@ -238,7 +238,7 @@ TEST_F(PublishedChangesTest, AFolderIsSentOnceAndThenOnlyWhatChanged) {
   }
 }
 
-TEST_F(PublishedChangesTest, OfAFolderOnlyFilesThatWereSentAreRemoved) {
+TEST_F(PublishedChangesTest, AnUploadRemovesOnlyFilesThatItSent) {
   ScriptedFtpServer server;
   server.PutFile("web/mine.txt", "mine");
   Run(OnlyChanges(UploadTo(server)));

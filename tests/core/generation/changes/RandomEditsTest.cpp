@@ -6,7 +6,7 @@
 namespace vantorium::generation {
 namespace {
 
-/// Edits a project as a user may, by chance.
+/// Makes random edits that a user could make.
 class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterface<unsigned> {
  protected:
   [[nodiscard]] std::size_t Below(std::size_t end) { return random_() % end; }
@@ -74,7 +74,7 @@ class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterf
     folder.Write("project/back.gif", std::string(1 + Below(3), static_cast<char>('a' + Below(3))));
     project.settings.textThumbnailsPageBackdrop = Below(3) == 0 ? "" : "back.gif";
   }
-  void TouchTheGallery() {
+  void ChangeOutputFile() {
     const auto files = FilesIn("out");
     if (files.empty()) return;
     const auto file =
@@ -105,7 +105,7 @@ class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterf
         [this] { Toggle(&core::GalleryProject::checkImagesUpright); },
         [this] { Toggle(&core::GalleryProject::checkImagesTrueColors); },
         [this] { Backdrop(); },
-        [this] { TouchTheGallery(); },
+        [this] { ChangeOutputFile(); },
     };
     const std::size_t number = Below(edits.size());
     edits[number]();
@@ -121,7 +121,7 @@ class RandomEditsTest : public ChangesFixture, public ::testing::WithParamInterf
   int images_ = 0;
 };
 
-TEST_P(RandomEditsTest, AfterEachEditTheGalleryIsThatOfAFullRun) {
+TEST_P(RandomEditsTest, AfterEachEditTheGalleryEqualsThatOfAFullRun) {
   constexpr int kEdits = 25;
   for (int i = 0; i < 3; ++i) Add();
   std::string edits = "Seed " + std::to_string(GetParam()) + ", edits";

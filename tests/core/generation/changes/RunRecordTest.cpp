@@ -17,12 +17,12 @@ MadeFiles SomeFiles() {
           {"\xFFno text", {3, std::nullopt, "", ""}}};
 }
 
-TEST(RunRecordTest, WhatIsWrittenIsRead) {
+TEST(RunRecordTest, ARecordIsReadBackAsItWasWritten) {
   EXPECT_EQ(ReadRunRecord(RunRecordText(SomeFiles(), kSubject), kSubject), SomeFiles());
   EXPECT_EQ(ReadRunRecord(RunRecordText({}, kSubject), kSubject), MadeFiles());
 }
 
-TEST(RunRecordTest, ItsTextIsOneLineForEachFile) {
+TEST(RunRecordTest, HasOneLineForEachFile) {
   const std::string lines =
       "vantorium record 1\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n"
       "7 1:2:7:4:5 - abc a.htm\n";
@@ -30,7 +30,7 @@ TEST(RunRecordTest, ItsTextIsOneLineForEachFile) {
   EXPECT_EQ(RunRecordText(files, kSubject), lines + "end " + env::DigestOf(lines) + "\n");
 }
 
-TEST(RunRecordTest, ADamagedByteAnywhereMakesItWorthless) {
+TEST(RunRecordTest, ADamagedByteAnywhereInvalidatesTheRecord) {
   const std::string whole = RunRecordText(SomeFiles(), kSubject);
   for (std::size_t at = 0; at < whole.size(); ++at) {
     std::string damaged = whole;
@@ -39,7 +39,7 @@ TEST(RunRecordTest, ADamagedByteAnywhereMakesItWorthless) {
   }
 }
 
-TEST(RunRecordTest, APartOfItIsWorthless) {
+TEST(RunRecordTest, APartOfARecordIsInvalid) {
   const std::string whole = RunRecordText(SomeFiles(), kSubject);
   for (std::size_t size = 0; size < whole.size(); ++size) {
     EXPECT_TRUE(ReadRunRecord(whole.substr(0, size), kSubject).empty()) << size << " bytes";
@@ -49,12 +49,12 @@ TEST(RunRecordTest, APartOfItIsWorthless) {
   EXPECT_TRUE(ReadRunRecord(whole + "\n", kSubject).empty());
 }
 
-/// Lines with the right digest at their end.
+/// Lines followed by their correct digest.
 std::string Ended(const std::string& lines) {
   return lines + "end " + env::DigestOf(lines) + "\n";
 }
 
-TEST(RunRecordTest, OtherTextsAreWorthless) {
+TEST(RunRecordTest, OtherTextsAreInvalid) {
   const std::string heading = "vantorium record 1\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n";
   ASSERT_EQ(ReadRunRecord(Ended(heading + "7 - - - a.htm\n"), kSubject).size(), 1U);
   for (const std::string& lines :
@@ -70,12 +70,12 @@ TEST(RunRecordTest, OtherTextsAreWorthless) {
   }
 }
 
-TEST(RunRecordTest, ARecordOfAnotherTargetIsWorthless) {
+TEST(RunRecordTest, ARecordOfAnotherTargetIsInvalid) {
   const std::string text = RunRecordText(SomeFiles(), {"folder\n/elsewhere", kSubject.program});
   EXPECT_TRUE(ReadRunRecord(text, kSubject).empty());
 }
 
-TEST(RunRecordTest, OfAnotherProgramOnlySizesAndStampsAreKnown) {
+TEST(RunRecordTest, FromAnotherVersionOnlySizesAndStampsAreUsed) {
   const std::string text = RunRecordText(SomeFiles(), {kSubject.target, "vantorium 2.9\nbeta"});
   const MadeFiles read = ReadRunRecord(text, kSubject);
   ASSERT_EQ(read.size(), SomeFiles().size());

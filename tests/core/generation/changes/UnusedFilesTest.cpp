@@ -16,7 +16,7 @@ class UnusedFilesTest : public ChangesFixture {
   }
 };
 
-TEST_F(UnusedFilesTest, FilesOfEarlierRunsThatNothingUsesAreListedAtTheEndOfEachRun) {
+TEST_F(UnusedFilesTest, UnusedFilesOfEarlierRunsAreListedAtTheEndOfEachRun) {
   Run(OnlyChanges());
   Rename(2, "new");
   for (int i = 0; i < 2; ++i) {
@@ -29,7 +29,7 @@ TEST_F(UnusedFilesTest, FilesOfEarlierRunsThatNothingUsesAreListedAtTheEndOfEach
   ExpectLikeAFullRun();
 }
 
-TEST_F(UnusedFilesTest, UnusedFilesAreRemovedIfTheOrderSaysSo) {
+TEST_F(UnusedFilesTest, UnusedFilesAreRemovedOnRequest) {
   Run(OnlyChanges());
   Rename(2, "new");
   Run(OnlyChanges());
@@ -44,7 +44,7 @@ TEST_F(UnusedFilesTest, UnusedFilesAreRemovedIfTheOrderSaysSo) {
   EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
 }
 
-TEST_F(UnusedFilesTest, AFileThatNoRunMadeOrThatChangedSinceIsNeverRemovedOrNamed) {
+TEST_F(UnusedFilesTest, FilesOfOthersAndChangedFilesAreNeitherRemovedNorListed) {
   Run(OnlyChanges());
   folder.Write("out/mine.htm", "mine");
   folder.Write("out/Images/mine.jpg", "mine");
@@ -59,7 +59,7 @@ TEST_F(UnusedFilesTest, AFileThatNoRunMadeOrThatChangedSinceIsNeverRemovedOrName
   EXPECT_FALSE(left.contains("Images/b.jpg"));
 }
 
-TEST_F(UnusedFilesTest, FilesThatThisRunWasToldNotToMakeAreInUse) {
+TEST_F(UnusedFilesTest, FilesThatThisRunIsToldNotToMakeAreInUse) {
   Run(OnlyChanges());
   RunOrder order = RemovingUnused();
   order.CreateImages = order.CreateThumbnails = order.CreateHTML = false;
@@ -70,7 +70,7 @@ TEST_F(UnusedFilesTest, FilesThatThisRunWasToldNotToMakeAreInUse) {
   EXPECT_EQ(Written(OnlyChanges()), std::vector<std::string>());
 }
 
-TEST_F(UnusedFilesTest, APhotographCopiedOntoItselfIsNotAFileOfTheRun) {
+TEST_F(UnusedFilesTest, APhotographCopiedOntoItselfDoesNotBelongToTheRun) {
   project.settings.checkImageWrapperImageKeepSize = 1;
   project.settings.textImageSettingsSubFolder = "pictures";
   folder.Write("out/pictures/own.jpg", PlainJpeg(40, 30));
@@ -82,7 +82,7 @@ TEST_F(UnusedFilesTest, APhotographCopiedOntoItselfIsNotAFileOfTheRun) {
   EXPECT_FALSE(FilesIn("out").contains("own.htm"));
 }
 
-TEST_F(UnusedFilesTest, AFileOfTheRunThatBecameAPhotographOfTheProjectStays) {
+TEST_F(UnusedFilesTest, AFileOfARunThatBecameAPhotographOfTheProjectStays) {
   Run(OnlyChanges());
   core::ImageEntry entry = project.images.Entry(2);
   entry.ImageName = "new";
@@ -94,7 +94,7 @@ TEST_F(UnusedFilesTest, AFileOfTheRunThatBecameAPhotographOfTheProjectStays) {
   EXPECT_FALSE(FilesIn("out").contains("b.htm"));
 }
 
-TEST_F(UnusedFilesTest, AFolderWrittenInAnotherWayHasTheSameFiles) {
+TEST_F(UnusedFilesTest, AnotherSpellingOfTheFolderHasTheSameFiles) {
   Run(OnlyChanges());
   const auto before = FilesIn("out");
   for (const char* setting : {".\\Images", "Images\\\\", "x\\..\\Images", "Images/"}) {
@@ -129,7 +129,7 @@ TEST_F(UnusedFilesTest, ACancelStopsTheRemoval) {
   cancel.Clear();
   host.progress.cancelled = false;
   EXPECT_EQ(Run(RemovingUnused()), RunEnd::Success);
-  EXPECT_FALSE(FilesIn("out").contains("Images/b.jpg")) << "still known";
+  EXPECT_FALSE(FilesIn("out").contains("Images/b.jpg")) << "the record still has it";
 }
 
 }  // namespace

@@ -4,14 +4,14 @@
 namespace vantorium::ui {
 namespace {
 
-TEST(BrowserEntry, OKIsEnabledWhenItComesUpOnlyWithBothTexts) {
+TEST(BrowserEntry, OKIsEnabledAtFirstOnlyWithBothTexts) {
   for (const auto& [name, location, enabled] : {std::tuple{"", "", false},
                                                 {"name", "", false},
                                                 {"", "C:\\b", false},
                                                 {"name", "C:\\b", true},
                                                 {" ", " ", true}}) {
     BrowserEntry entry("Edit Browser", {name, location});
-    EXPECT_FALSE(entry.IsOKEnabled()) << "not before it comes up";
+    EXPECT_FALSE(entry.IsOKEnabled()) << "not before it is shown";
     entry.ComeUp();
     EXPECT_EQ(entry.IsOKEnabled(), enabled) << name << " at " << location;
     EXPECT_EQ(entry.Title(), "Edit Browser");
@@ -19,7 +19,7 @@ TEST(BrowserEntry, OKIsEnabledWhenItComesUpOnlyWithBothTexts) {
   }
 }
 
-TEST(BrowserEntry, EachChangeDecidesAgain) {
+TEST(BrowserEntry, EachChangeUpdatesOK) {
   BrowserEntry entry("Add Browser", {});
   entry.ComeUp();
   entry.ChangeName("a");
@@ -42,17 +42,17 @@ TEST(BrowserEntry, AChosenExecutableEnablesOKForAnyName) {
   EXPECT_EQ(entry.Texts(), (env::Browser{"", "C:\\b"}));
   EXPECT_TRUE(entry.IsOKEnabled());
   entry.ChangeName("");
-  EXPECT_FALSE(entry.IsOKEnabled()) << "until the next change";
+  EXPECT_FALSE(entry.IsOKEnabled()) << "after the next change the rule applies again";
 }
 
-TEST(BrowserEntry, NoChosenExecutableLeavesTheLocation) {
+TEST(BrowserEntry, ACancelledChoiceKeepsTheLocation) {
   BrowserEntry entry("Edit Browser", {"a", "b"});
   entry.ComeUp();
   entry.TakeExecutable("");
   EXPECT_EQ(entry.Texts(), (env::Browser{"a", "b"}));
 }
 
-TEST(BrowserEntry, ANativePathBecomesPathTextAndACommandLineStays) {
+TEST(BrowserEntry, ANativePathBecomesPathTextAndACommandLineIsUnchanged) {
   const fakes::TemporaryFolder disk;
   const env::PathMap paths{{{'C', disk.Path().string()}}};
   const std::string folder = disk.Write("bin dir/fox", "").parent_path().string();
@@ -83,7 +83,7 @@ TEST(BrowserEntry, OnlyAnEnabledOKConfirms) {
   EXPECT_TRUE(entry.Cancelled());
 }
 
-TEST(BrowserEntry, EachTimeItComesUpItIsNotConfirmedYet) {
+TEST(BrowserEntry, EachTimeItIsShownItIsUnconfirmed) {
   BrowserEntry entry("Add Browser", {"a", "b"});
   entry.ComeUp();
   entry.PressOK();

@@ -28,7 +28,7 @@ TEST_F(BrowserListTest, OpeningReversesTheOrder) {
   EXPECT_TRUE(ListOf({}).Entries().empty());
 }
 
-TEST_F(BrowserListTest, TwoOfOneNameInAFileAreBothShown) {
+TEST_F(BrowserListTest, BothBrowsersOfOneNameInAFileAreShown) {
   EXPECT_EQ(ListOf({{"a", "1"}, {"a", "2"}, {"", ""}}).Entries(), (Browsers{{"", ""}, {"a", "2"}, {"a", "1"}}));
 }
 
@@ -41,7 +41,7 @@ TEST_F(BrowserListTest, AnAddedBrowserIsOnTop) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(BrowserListTest, TheBoxesOfTheEntryAreEmptyEachTime) {
+TEST_F(BrowserListTest, TheEntryDialogIsEmptyEachTime) {
   BrowserList list = ListOf({});
   dialog.Types("a", "1");
   list.PressAdd();
@@ -64,7 +64,7 @@ TEST_F(BrowserListTest, WithEightEntriesAddRefusesBeforeTheDialogOpens) {
   EXPECT_EQ(list.Entries().size(), 8U);
 }
 
-TEST_F(BrowserListTest, WithSevenEntriesThereIsRoomForOne) {
+TEST_F(BrowserListTest, WithSevenEntriesOneMoreCanBeAdded) {
   BrowserList list = ListOf(Numbered(7));
   dialog.Types("x", "y");
   list.PressAdd();
@@ -72,7 +72,7 @@ TEST_F(BrowserListTest, WithSevenEntriesThereIsRoomForOne) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(BrowserListTest, ANameThatTheListHasIsAskedForAgainWithTheSameTexts) {
+TEST_F(BrowserListTest, ForADuplicateNameTheDialogOpensAgainWithTheSameTexts) {
   BrowserList list = ListOf({{"a", "1"}});
   dialog.Types("a", "2");
   dialog.script.emplace_back([](BrowserEntry& entry) {
@@ -85,7 +85,7 @@ TEST_F(BrowserListTest, ANameThatTheListHasIsAskedForAgainWithTheSameTexts) {
   EXPECT_EQ(list.Entries(), (Browsers{{"b", "2"}, {"a", "1"}}));
 }
 
-TEST_F(BrowserListTest, TheNameIsRefusedAsOftenAsItIsGivenUntilACancel) {
+TEST_F(BrowserListTest, ADuplicateNameIsRefusedEachTimeUntilTheUserCancels) {
   BrowserList list = ListOf({{"a", "1"}});
   for (int i = 0; i < 3; ++i) dialog.Types("a", "2");
   dialog.Cancels();
@@ -95,7 +95,7 @@ TEST_F(BrowserListTest, TheNameIsRefusedAsOftenAsItIsGivenUntilACancel) {
   EXPECT_EQ(list.Entries(), (Browsers{{"a", "1"}}));
 }
 
-TEST_F(BrowserListTest, ANameOfAnotherCaseIsAnotherName) {
+TEST_F(BrowserListTest, NamesThatDifferInCaseAreDifferent) {
   BrowserList list = ListOf({{"a", "1"}});
   dialog.Types("A", "2");
   list.PressAdd();
@@ -111,14 +111,14 @@ TEST_F(BrowserListTest, TheSelectionStaysWithItsEntry) {
   EXPECT_EQ(list.Entries()[2].Name, "a");
 }
 
-TEST_F(BrowserListTest, EditingNeedsASelection) {
+TEST_F(BrowserListTest, EditingRequiresASelection) {
   BrowserList list = ListOf({{"a", "1"}});
   list.PressEdit();
   EXPECT_TRUE(dialog.shown.empty());
   ExpectOneBox(boxes, "No Browser selected", "Please select one of the Browsers in the List first.");
 }
 
-TEST_F(BrowserListTest, WithItsNameUnchangedOnlyTheLocationIsUpdated) {
+TEST_F(BrowserListTest, WithTheSameNameOnlyTheLocationIsUpdated) {
   BrowserList list = ListOf({{"a", "1"}, {"b", "2"}}, 1);
   dialog.Types("a", "9");
   list.PressEdit();
@@ -127,12 +127,12 @@ TEST_F(BrowserListTest, WithItsNameUnchangedOnlyTheLocationIsUpdated) {
   EXPECT_EQ(list.Selected(), 1U);
 }
 
-TEST_F(BrowserListTest, AChangedNameIsANewEntryOnTopAndTheOldOneStays) {
+TEST_F(BrowserListTest, AChangedNameMakesANewEntryOnTopAndTheOldOneStays) {
   BrowserList list = ListOf({{"a", "1"}, {"b", "2"}}, 1);
   dialog.Types("c", "9");
   list.PressEdit();
   EXPECT_EQ(list.Entries(), (Browsers{{"c", "9"}, {"b", "2"}, {"a", "1"}}));
-  EXPECT_EQ(list.Selected(), 2U) << "the old one";
+  EXPECT_EQ(list.Selected(), 2U) << "the old entry";
 }
 
 TEST_F(BrowserListTest, ACancelledEditChangesNothing) {
@@ -145,7 +145,7 @@ TEST_F(BrowserListTest, ACancelledEditChangesNothing) {
   EXPECT_EQ(list.Entries(), (Browsers{{"a", "1"}}));
 }
 
-TEST_F(BrowserListTest, AnEditToTheNameOfAnotherIsAskedForAgain) {
+TEST_F(BrowserListTest, ForTheNameOfAnotherEntryTheDialogOpensAgain) {
   BrowserList list = ListOf({{"a", "1"}, {"b", "2"}}, 1);
   dialog.Types("b", "9");
   dialog.Cancels();
@@ -155,7 +155,7 @@ TEST_F(BrowserListTest, AnEditToTheNameOfAnotherIsAskedForAgain) {
   EXPECT_EQ(list.Entries(), (Browsers{{"b", "2"}, {"a", "1"}}));
 }
 
-TEST_F(BrowserListTest, TheOldNameMayBeTakenBackAfterARefusal) {
+TEST_F(BrowserListTest, AfterARefusalTheOldNameIsAccepted) {
   BrowserList list = ListOf({{"a", "1"}, {"b", "2"}}, 1);
   dialog.Types("b", "9");
   dialog.Types("a", "9");
@@ -164,17 +164,17 @@ TEST_F(BrowserListTest, TheOldNameMayBeTakenBackAfterARefusal) {
   EXPECT_EQ(list.Entries(), (Browsers{{"b", "2"}, {"a", "9"}}));
 }
 
-TEST_F(BrowserListTest, AnEditIsNotHeldUpByTheLimit) {
+TEST_F(BrowserListTest, TheLimitDoesNotApplyToEdits) {
   BrowserList list = ListOf(Numbered(8), 0);
   dialog.Types("x", "y");
   list.PressEdit();
   EXPECT_TRUE(boxes.boxes.empty());
   EXPECT_EQ(list.Entries().size(), 9U);
   list.PressAdd();
-  EXPECT_EQ(boxes.boxes.size(), 1U) << "beyond the limit too";
+  EXPECT_EQ(boxes.boxes.size(), 1U) << "even beyond the limit";
 }
 
-TEST_F(BrowserListTest, RemovingSelectsTheEntryThatTakesThePlace) {
+TEST_F(BrowserListTest, RemovingSelectsTheNextEntry) {
   BrowserList list = ListOf(Numbered(3), 1);
   list.PressRemove();
   EXPECT_EQ(list.Entries(), (Browsers{{"3", "C:\\3"}, {"1", "C:\\1"}}));
@@ -195,14 +195,14 @@ TEST_F(BrowserListTest, RemovingTheOnlyEntryLeavesNoSelection) {
   EXPECT_EQ(list.Selected(), std::nullopt);
 }
 
-TEST_F(BrowserListTest, RemovingWithoutASelectionDoesNothingAndTellsNothing) {
+TEST_F(BrowserListTest, RemovingWithoutASelectionDoesNothingSilently) {
   BrowserList list = ListOf(Numbered(2));
   list.PressRemove();
   EXPECT_EQ(list.Entries().size(), 2U);
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(BrowserListTest, AnEntryThatIsNotThereCannotBeSelected) {
+TEST_F(BrowserListTest, AnEntryBeyondTheListCannotBeSelected) {
   BrowserList list = ListOf(Numbered(2), 1);
   for (const std::size_t index : {std::size_t{2}, std::size_t{100}, ~std::size_t{0}}) {
     EXPECT_EQ(fakes::FailureOf([&] { list.Select(index); }), env::FailureKind::IndexOutOfBounds) << index;

@@ -8,7 +8,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-TEST(CodeEditor, CodeThatAFileCanHoldIsAccepted) {
+TEST(CodeEditor, CodeThatAFileCanStoreIsAccepted) {
   for (const char* text : {"", "]", ">", "]]", "]] >", "] ]>", "]>]", "a[0]>b]", "<b>Zürich</b>\r\n]]\r\n>"}) {
     fakes::RecordingMessageBox boxes;
     EXPECT_FALSE(FindRefusedCode(Texts{text, text}, boxes)) << text;
@@ -29,7 +29,7 @@ TEST(CodeEditor, TheEndOfASectionIsRefusedAnywhere) {
   }
 }
 
-TEST(CodeEditor, ARefusalIsReportedInACriticalBox) {
+TEST(CodeEditor, ARefusalIsReportedInACriticalMessageBox) {
   fakes::RecordingMessageBox boxes;
   ASSERT_TRUE(FindRefusedCode(Texts{"]]>"}, boxes));
   ASSERT_EQ(boxes.boxes.size(), 1U);
@@ -39,7 +39,7 @@ TEST(CodeEditor, ARefusalIsReportedInACriticalBox) {
   EXPECT_EQ(boxes.boxes[0].text, "Custom code may not contain the string \"]]>\". Please edit your code accordingly.");
 }
 
-TEST(CodeEditor, TheSecondTextIsLookedAtWhenTheFirstPasses) {
+TEST(CodeEditor, TheSecondTextIsCheckedIfTheFirstIsAccepted) {
   fakes::RecordingMessageBox boxes;
   EXPECT_EQ(FindRefusedCode(Texts{"a]]>", "]]>"}, boxes)->text, 0U);
   EXPECT_EQ(boxes.boxes.size(), 1U);

@@ -16,11 +16,11 @@ const publish::ServerProfile kTwo = {"Two", "two.example.org", "Anonymous", "", 
 class CreateGalleryModelTest : public testing::Test {
  protected:
   [[nodiscard]] std::filesystem::path File() const { return publish::ServerListFileName(program.Path()); }
-  void ComeUpWith(const std::vector<publish::ServerProfile>& profiles, std::optional<std::size_t> selected = 0) {
+  void OpenWith(const std::vector<publish::ServerProfile>& profiles, std::optional<std::size_t> selected = 0) {
     publish::WriteServerList(profiles, selected, File());
     model.ComeUp();
   }
-  void ComeUpWithIndex(const std::string& indexFile) {
+  void OpenWithIndex(const std::string& indexFile) {
     program.Write("vantorium.pub",
                   "[PUBLISH]\r\nServerCount=\"1\"\r\nPreferredServer=\"1\"\r\nServerURL1=\"host\"\r\n"
                   "UserName1=\"me\"\r\nIndexFile1=\"" +
@@ -32,7 +32,7 @@ class CreateGalleryModelTest : public testing::Test {
     model.LeaveFilePath();
     return model.FilePath();
   }
-  /// What the dialog orders for `option`, closed by its button.
+  /// The order for `option` after the dialog is closed by its button.
   generation::RunOrder Applied(generation::GenerationMode option) {
     model.Choose(option);
     EXPECT_EQ(model.Apply(), ApplyResult::Done);
@@ -84,7 +84,7 @@ TEST(NormalizeFolderPath, AFolderOnADriveEndsInABackslash) {
   }
 }
 
-TEST(NormalizeFolderPath, AFolderOnNoDriveIsRefused) {
+TEST(NormalizeFolderPath, AFolderWithoutADriveIsRefused) {
   const std::vector<std::pair<std::string, std::string>> cases = {{"photos", "photos\\"},
                                                                   {"photos\\", "photos\\"},
                                                                   {"", "\\"},
@@ -102,7 +102,7 @@ TEST(NormalizeFolderPath, AFolderOnNoDriveIsRefused) {
   }
 }
 
-TEST(PathKey, ASlashIsTypedAsABackslashUnlessThePathIsNative) {
+TEST(PathKey, ATypedSlashBecomesABackslashUnlessThePathIsNative) {
   EXPECT_EQ(PathKey("C:", "/"), "\\");
   EXPECT_EQ(PathKey("C:\\web", "/"), "\\");
   EXPECT_EQ(PathKey("", "/"), "/");
@@ -114,7 +114,7 @@ TEST(PathKey, ASlashIsTypedAsABackslashUnlessThePathIsNative) {
 
 // Opening
 
-TEST_F(CreateGalleryModelTest, ComesUpWithTheLastTarget) {
+TEST_F(CreateGalleryModelTest, OpensWithTheLastTarget) {
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"", "start.htm"}, {"D:\\web", "D:\\web\\start.htm"}, {"D:\\web\\", "D:\\web\\start.htm"}};
   preferences.GalleryIndexFileName = "start.htm";
@@ -125,7 +125,7 @@ TEST_F(CreateGalleryModelTest, ComesUpWithTheLastTarget) {
   }
 }
 
-TEST_F(CreateGalleryModelTest, TheSourceFolderIsThatOfTheLastTarget) {
+TEST_F(CreateGalleryModelTest, TheSourceFolderIsTheFolderOfTheLastTarget) {
   preferences.CreateFolder = "D:\\web\\one\\";
   model.ComeUp();
   EXPECT_EQ(model.SourceFolder(), "D:\\web\\one\\");
@@ -135,7 +135,7 @@ TEST_F(CreateGalleryModelTest, TheSourceFolderIsThatOfTheLastTarget) {
 }
 
 TEST_F(CreateGalleryModelTest, WithoutServersTheDestinationsAreEmpty) {
-  ComeUpWith({kOne});
+  OpenWith({kOne});
   ASSERT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
   const std::string head = "[PUBLISH]\r\n";
   for (const std::string& text :
@@ -154,8 +154,8 @@ TEST_F(CreateGalleryModelTest, WithoutServersTheDestinationsAreEmpty) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(CreateGalleryModelTest, ComesUpWithThePreferredServer) {
-  ComeUpWith({kTwo, kOne}, 1);
+TEST_F(CreateGalleryModelTest, OpensWithThePreferredServer) {
+  OpenWith({kTwo, kOne}, 1);
   EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
   EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b/");
   const generation::RunOrder order = Applied(generation::GenerationMode::Publish);
@@ -167,7 +167,7 @@ TEST_F(CreateGalleryModelTest, ComesUpWithThePreferredServer) {
   EXPECT_EQ(order.Port, 21);
 }
 
-TEST_F(CreateGalleryModelTest, APreferenceOutsideTheListIsTheFirstServer) {
+TEST_F(CreateGalleryModelTest, APreferenceOutsideTheListMeansTheFirstServer) {
   for (const char* preferred : {"0", "-3", "3"}) {
     publish::WriteServerList({kOne, kTwo}, 0, File());
     std::string text = program.Read("vantorium.pub");
@@ -178,7 +178,7 @@ TEST_F(CreateGalleryModelTest, APreferenceOutsideTheListIsTheFirstServer) {
   }
 }
 
-TEST_F(CreateGalleryModelTest, TheIndexFileIsSplitAtItsLastSlashOfEitherKind) {
+TEST_F(CreateGalleryModelTest, TheIndexFileIsSplitAtItsLastSlashOrBackslash) {
   const std::vector<std::array<std::string, 3>> cases = {
       {"index.htm", "host/index.htm", "host/"},
       {"/index.htm", "host/index.htm", "host/"},
@@ -188,22 +188,22 @@ TEST_F(CreateGalleryModelTest, TheIndexFileIsSplitAtItsLastSlashOfEitherKind) {
       {"gallery/", "host/gallery/", "host/gallery/"},
       {"", "host/", "host/"}};
   for (const auto& [index, publish, upload] : cases) {
-    ComeUpWithIndex(index);
+    OpenWithIndex(index);
     EXPECT_EQ(model.PublishDestination(), publish) << index;
     EXPECT_EQ(model.UploadDestination(), upload) << index;
   }
 }
 
-TEST_F(CreateGalleryModelTest, ThePasswordIsHiddenUnlessTheServerIsOpenToEveryone) {
+TEST_F(CreateGalleryModelTest, ThePasswordIsHiddenUnlessTheUserIsAnonymous) {
   EXPECT_TRUE(model.IsPasswordHidden());
-  ComeUpWith({kOne, kTwo}, 1);
+  OpenWith({kOne, kTwo}, 1);
   EXPECT_FALSE(model.IsPasswordHidden());
-  ComeUpWith({kOne, kTwo}, 0);
+  OpenWith({kOne, kTwo}, 0);
   EXPECT_TRUE(model.IsPasswordHidden());
 }
 
-TEST_F(CreateGalleryModelTest, ComesUpWithoutThePasswordButWithTheOptionAndTheSwitches) {
-  ComeUpWith({kOne});
+TEST_F(CreateGalleryModelTest, OpensWithTheLastOptionAndSwitchesButWithoutThePassword) {
+  OpenWith({kOne});
   EXPECT_EQ(model.Chosen(), generation::GenerationMode::Create);
   EXPECT_TRUE(model.IsChecked(&generation::RunOrder::CreateImages) &&
               model.IsChecked(&generation::RunOrder::CreateThumbnails) &&
@@ -234,7 +234,7 @@ TEST_F(CreateGalleryModelTest, AnUploadOfAFolderProducesNothing) {
   EXPECT_FALSE(model.CanOverwrite());
 }
 
-TEST_F(CreateGalleryModelTest, OverwritingIsAboutImagesAndThumbnails) {
+TEST_F(CreateGalleryModelTest, OverwriteAppliesToImagesAndThumbnails) {
   for (const bool images : {true, false}) {
     for (const bool thumbnails : {true, false}) {
       model.Check(&generation::RunOrder::CreateImages, images);
@@ -265,7 +265,7 @@ TEST_F(CreateGalleryModelTest, ATypedFolderBecomesItsIndexFile) {
   EXPECT_EQ(LeftFilePath("page.html"), "D:\\web\\index.htm");
 }
 
-TEST_F(CreateGalleryModelTest, TheFileIsBrowsedForFromTheLastTarget) {
+TEST_F(CreateGalleryModelTest, BrowsingForTheFileBeginsAtTheLastTarget) {
   preferences.CreateFolder = "D:\\web\\";
   preferences.GalleryIndexFileName = "start.htm";
   model.ComeUp();
@@ -287,7 +287,7 @@ TEST_F(CreateGalleryModelTest, TheFileIsBrowsedForFromTheLastTarget) {
 
 // The folder to be uploaded
 
-TEST_F(CreateGalleryModelTest, TheSourceFolderIsBrowsedForFromItsPresentPlace) {
+TEST_F(CreateGalleryModelTest, BrowsingForTheSourceFolderBeginsAtTheCurrentFolder) {
   fakes::ScriptedFolderBrowser browser;
   model.EditSourceFolder("D:\\web\\gallery");
   EXPECT_FALSE(model.BrowseSourceFolder(browser));
@@ -304,13 +304,13 @@ TEST_F(CreateGalleryModelTest, ANativeSourceFolderBecomesPathText) {
   EXPECT_EQ(model.SourceFolder(), "C:\\photos");
   model.EditSourceFolder("photos");
   model.LeaveSourceFolder();
-  EXPECT_EQ(model.SourceFolder(), "photos") << "which Apply refuses";
+  EXPECT_EQ(model.SourceFolder(), "photos") << "Apply refuses it";
 }
 
 // Servers and their password
 
-TEST_F(CreateGalleryModelTest, AChosenServerIsTakenOver) {
-  ComeUpWith({kTwo});
+TEST_F(CreateGalleryModelTest, AChosenServerIsApplied) {
+  OpenWith({kTwo});
   model.TakeServer(kOne);
   EXPECT_EQ(model.PublishDestination(), "one.example.org/a/b/start.htm");
   EXPECT_EQ(model.UploadDestination(), "one.example.org/a/b");
@@ -326,8 +326,8 @@ TEST_F(CreateGalleryModelTest, AChosenServerIsTakenOver) {
   EXPECT_EQ(order.BaseDirectory, "");
 }
 
-TEST_F(CreateGalleryModelTest, ThePasswordGoesWithItsDestination) {
-  ComeUpWith({kOne});
+TEST_F(CreateGalleryModelTest, AChangeOfTheDestinationClearsThePassword) {
+  OpenWith({kOne});
   const std::vector<std::pair<std::string, std::function<void()>>> changes = {
       {"another server", [this] { model.TakeServer(kTwo); }},
       {"the dialog of the servers was left", [this] { model.LeaveServers(kOne); }},
@@ -347,7 +347,7 @@ struct TypedCase {
   const char* file;
 };
 
-TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
+TEST_F(CreateGalleryModelTest, AGalleryIsSentToTheTypedDestination) {
   for (const auto& [typed, host, path, file] :
        {TypedCase{"other.example.org/web/new/page.html", "other.example.org", "web/new/", "page.html"},
         TypedCase{"other.example.org/page.html", "other.example.org", "", "page.html"},
@@ -355,7 +355,7 @@ TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
         TypedCase{"other.example.org/", "other.example.org", "", "index.htm"},
         TypedCase{"other.example.org//web\\page.html", "other.example.org", "web/", "page.html"},
         TypedCase{"one.example.org/a/b/other.htm", "one.example.org", "a/b/", "other.htm"}}) {
-    ComeUpWith({kOne});
+    OpenWith({kOne});
     model.EditPublishDestination(typed);
     const generation::RunOrder order = Applied(generation::GenerationMode::Publish);
     EXPECT_EQ(order.ServerAddress, host) << typed;
@@ -366,12 +366,12 @@ TEST_F(CreateGalleryModelTest, AGalleryGoesWhereItsDestinationWasTypedTo) {
   }
 }
 
-TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
+TEST_F(CreateGalleryModelTest, AFolderIsSentToTheTypedDestination) {
   for (const auto& [typed, host, path, file] :
        {TypedCase{"other.example.org/web/new", "other.example.org", "web/new/", ""},
         TypedCase{"other.example.org/web/", "other.example.org", "web/", ""},
         TypedCase{"other.example.org/", "other.example.org", "", ""}}) {
-    ComeUpWith({kOne});
+    OpenWith({kOne});
     model.EditSourceFolder("D:\\photos");
     model.EditUploadDestination(typed);
     const generation::RunOrder order = Applied(generation::GenerationMode::Upload);
@@ -382,8 +382,8 @@ TEST_F(CreateGalleryModelTest, AFolderGoesWhereItsDestinationWasTypedTo) {
   }
 }
 
-TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlone) {
-  ComeUpWith({kOne});
+TEST_F(CreateGalleryModelTest, ATypedDestinationIsForOneRunAndDoesNotChangeTheServers) {
+  OpenWith({kOne});
   const std::string servers = program.Read("vantorium.pub");
   model.Choose(generation::GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
@@ -396,9 +396,9 @@ TEST_F(CreateGalleryModelTest, ATypedDestinationIsOfOneRunAndLeavesTheServersAlo
   EXPECT_EQ(model.Order().value().RemoteIndexFileName, "start.htm");
 }
 
-TEST_F(CreateGalleryModelTest, AnUntouchedDestinationIsTheServersOwn) {
+TEST_F(CreateGalleryModelTest, AnUnchangedDestinationIsThatOfTheServer) {
   for (const char* index : {"a//b//start.htm", "", "start.htm", "a/b/"}) {
-    ComeUpWithIndex(index);
+    OpenWithIndex(index);
     const generation::RunOrder before = Applied(generation::GenerationMode::Publish);
     for (const generation::GenerationMode option :
          {generation::GenerationMode::Publish, generation::GenerationMode::Upload}) {
@@ -420,8 +420,8 @@ TEST_F(CreateGalleryModelTest, AnUntouchedDestinationIsTheServersOwn) {
   }
 }
 
-TEST_F(CreateGalleryModelTest, AServerChosenAfterATypedChangeReplacesIt) {
-  ComeUpWith({kOne});
+TEST_F(CreateGalleryModelTest, AServerChosenLaterReplacesATypedDestination) {
+  OpenWith({kOne});
   model.Choose(generation::GenerationMode::Publish);
   model.EditPublishDestination("other.example.org/x.htm");
   model.TakeServer(kTwo);
@@ -430,10 +430,10 @@ TEST_F(CreateGalleryModelTest, AServerChosenAfterATypedChangeReplacesIt) {
   EXPECT_EQ(model.Order().value().RemoteIndexFileName, "index.htm");
 }
 
-TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsReportedBeforeTheRun) {
+TEST_F(CreateGalleryModelTest, AnInvalidDestinationIsReportedBeforeTheRun) {
   for (const char* typed :
        {"", "x", "gallery.htm", "/gallery/index.htm", "http://host/a", "host:2121/a", "me@host/a"}) {
-    ComeUpWith({kOne});
+    OpenWith({kOne});
     boxes.boxes.clear();
     model.Choose(generation::GenerationMode::Publish);
     model.EditPublishDestination(typed);
@@ -452,8 +452,8 @@ TEST_F(CreateGalleryModelTest, ADestinationThatCannotBeReadIsReportedBeforeTheRu
   }
 }
 
-TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
-  ComeUpWith({kOne});
+TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsChecked) {
+  OpenWith({kOne});
   model.EditPublishDestination("x");
   EXPECT_EQ(model.Apply(), ApplyResult::Done) << "a local gallery";
   model.Choose(generation::GenerationMode::Upload);
@@ -463,7 +463,7 @@ TEST_F(CreateGalleryModelTest, OnlyTheDestinationOfTheChosenOptionIsLookedAt) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(CreateGalleryModelTest, LeavingTheServersHidesThePasswordAsTheirUserNeedsIt) {
+TEST_F(CreateGalleryModelTest, ClosingTheServersHidesThePasswordUnlessTheUserIsAnonymous) {
   model.LeaveServers(kTwo);
   EXPECT_FALSE(model.IsPasswordHidden());
   model.LeaveServers(kOne);
@@ -472,7 +472,7 @@ TEST_F(CreateGalleryModelTest, LeavingTheServersHidesThePasswordAsTheirUserNeeds
 
 // Apply
 
-TEST_F(CreateGalleryModelTest, AGalleryOfNothingIsRefused) {
+TEST_F(CreateGalleryModelTest, AGalleryWithNothingCheckedIsRefused) {
   for (const generation::GenerationMode option :
        {generation::GenerationMode::Create, generation::GenerationMode::Publish}) {
     boxes.boxes.clear();
@@ -491,7 +491,7 @@ TEST_F(CreateGalleryModelTest, AGalleryOfNothingIsRefused) {
   }
 }
 
-TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
+TEST_F(CreateGalleryModelTest, AFolderIsUploadedEvenWithNothingChecked) {
   model.Choose(generation::GenerationMode::Upload);
   for (const auto box : {&generation::RunOrder::CreateImages, &generation::RunOrder::CreateThumbnails,
                          &generation::RunOrder::CreateHTML}) {
@@ -504,7 +504,7 @@ TEST_F(CreateGalleryModelTest, AFolderIsUploadedWithNothingChecked) {
   EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
 }
 
-TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
+TEST_F(CreateGalleryModelTest, AFolderWithoutADriveIsNotUploaded) {
   model.Choose(generation::GenerationMode::Upload);
   model.EditSourceFolder("photos");
   EXPECT_EQ(model.Apply(), ApplyResult::NoSourceFolder);
@@ -513,13 +513,13 @@ TEST_F(CreateGalleryModelTest, AFolderOnNoDriveIsNotUploaded) {
   EXPECT_EQ(model.Order(), std::nullopt);
 }
 
-TEST_F(CreateGalleryModelTest, AFolderIsNotLookedAtForAGallery) {
+TEST_F(CreateGalleryModelTest, TheSourceFolderIsNotCheckedForAGallery) {
   model.EditSourceFolder("photos");
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.SourceFolder(), "photos");
 }
 
-TEST_F(CreateGalleryModelTest, APathIsFinishedWhenTheKeyboardAppliesFromItsBox) {
+TEST_F(CreateGalleryModelTest, APathIsCompletedWhenReturnAppliesFromItsBox) {
   model.EditFilePath("D:");
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_EQ(model.Order().value().OutputFolder, "D:\\");
@@ -530,7 +530,7 @@ TEST_F(CreateGalleryModelTest, APathIsFinishedWhenTheKeyboardAppliesFromItsBox) 
   EXPECT_EQ(model.Order().value().OutputFolder, "C:\\photos\\");
 }
 
-TEST_F(CreateGalleryModelTest, CancelStartsNoRun) {
+TEST_F(CreateGalleryModelTest, CancelDoesNotStartARun) {
   EXPECT_EQ(model.Apply(), ApplyResult::Done);
   EXPECT_FALSE(model.Cancelled);
   model.Cancel();
@@ -538,12 +538,12 @@ TEST_F(CreateGalleryModelTest, CancelStartsNoRun) {
   EXPECT_EQ(model.Order(), std::nullopt);
 }
 
-TEST_F(CreateGalleryModelTest, TheOptionsOfTheServerGoWithItAndItsCertificateIsOfItsHostOnly) {
+TEST_F(CreateGalleryModelTest, TheOptionsOfTheServerApplyAndItsCertificateIsForItsHostOnly) {
   publish::ServerProfile profile = kOne;
   profile.Passive = profile.Encrypted = true;
   profile.Fingerprint = "0F";
   for (int byte = 1; byte < 32; ++byte) profile.Fingerprint += ":0F";
-  ComeUpWith({profile});
+  OpenWith({profile});
   model.Choose(generation::GenerationMode::Publish);
   const auto options = [this] {
     EXPECT_EQ(model.Apply(), ApplyResult::Done);
@@ -583,7 +583,7 @@ TEST_F(CreateGalleryModelTest, ANativePathOfTheIndexFileIsCompletedLikePathText)
   for (const auto& [typed, shown] : cases) EXPECT_EQ(paths.Surface(LeftFilePath(typed)), shown) << typed;
 }
 
-TEST_F(CreateGalleryModelTest, ANativeSourceFolderIsAnAbsolutePath) {
+TEST_F(CreateGalleryModelTest, ANativeSourceFolderMustBeAbsolute) {
   paths = env::PathMap({}, "/home/me");
   model.Choose(generation::GenerationMode::Upload);
   for (const auto& [typed, shown] :

@@ -43,7 +43,7 @@ TEST_F(DescriptionsOfAProject, AreThoseOfTheCurrentImage) {
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(DescriptionsOfAProject, AnEditReachesTheCurrentImageAlone) {
+TEST_F(DescriptionsOfAProject, AnEditChangesOnlyTheCurrentImage) {
   project.images.SetCurrent(2);
   descriptions.SetText(images, "a river");
   EXPECT_TRUE(project.IsModified);
@@ -81,7 +81,7 @@ TEST_F(DescriptionsOfAProject, ClearingAllAsksAndClearsOneKind) {
             "This will delete the Descriptions for ALL Thumbnails in the Gallery.  Are you sure you wish to continue?");
 }
 
-TEST_F(DescriptionsOfAProject, ClearingAllTakesNoForAnAnswer) {
+TEST_F(DescriptionsOfAProject, ClearingAllStopsAtNo) {
   boxes.answers = {env::BoxAnswer::No};
   EXPECT_FALSE(descriptions.MayClearAll(images));
 }
@@ -114,10 +114,10 @@ TEST_F(DescriptionsOfAProject, AnAlignmentKeepsItsIndexWhenThePlacementChanges) 
   EXPECT_EQ(Alignments(images)[2], "align right");
 }
 
-TEST_F(DescriptionsOfAProject, APlacementMarksTheProjectAtOnceAndIsStoredLater) {
+TEST_F(DescriptionsOfAProject, APlacementMarksTheProjectAsModifiedAtOnceAndIsStoredLater) {
   descriptions.TakePlacings();
   descriptions.ChoosePlacement(thumbnails, 0);
-  EXPECT_FALSE(project.IsModified) << "the same again";
+  EXPECT_FALSE(project.IsModified) << "the same placement";
   descriptions.ChoosePlacement(thumbnails, 4);
   descriptions.ChooseAlignment(thumbnails, 1);
   EXPECT_TRUE(project.IsModified);
@@ -130,20 +130,20 @@ TEST_F(DescriptionsOfAProject, APlacementMarksTheProjectAtOnceAndIsStoredLater) 
   EXPECT_FALSE(descriptions.HasUnstoredPlacings());
 }
 
-TEST_F(DescriptionsOfAProject, PlacementsAreTakenOnceEachTimeTheWindowAppears) {
+TEST_F(DescriptionsOfAProject, PlacementsAreReadOnceEachTimeTheWindowIsShown) {
   project.settings.comboImageDescriptionPlacement = 2;
   descriptions.TakePlacings();
   EXPECT_EQ(descriptions.Shown(images).placement, 2);
   descriptions.ChoosePlacement(images, 3);
   descriptions.TakePlacings();
-  EXPECT_EQ(descriptions.Shown(images).placement, 3) << "following the list keeps what was chosen";
+  EXPECT_EQ(descriptions.Shown(images).placement, 3) << "following the list keeps the choice";
   descriptions.Disappear();
-  EXPECT_FALSE(descriptions.HasUnstoredPlacings()) << "a window that is not there has nothing to store";
+  EXPECT_FALSE(descriptions.HasUnstoredPlacings()) << "a hidden window has nothing to store";
   descriptions.TakePlacings();
   EXPECT_EQ(descriptions.Shown(images).placement, 2);
 }
 
-TEST_F(DescriptionsOfAProject, PlacementsAreTakenAgainFromAnotherProject) {
+TEST_F(DescriptionsOfAProject, PlacementsAreReadAgainFromAnotherProject) {
   descriptions.TakePlacings();
   descriptions.ChoosePlacement(images, 3);
   project.settings.comboImageDescriptionAlignment = 2;

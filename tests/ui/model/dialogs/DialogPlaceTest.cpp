@@ -22,7 +22,7 @@ struct Nearest {
   std::string folder;  ///< relative to the disk's folder
 };
 
-TEST_F(Places, AFolderThatIsMissingGivesWayToTheNearestAboveIt) {
+TEST_F(Places, ForAMissingFolderTheNearestParentIsOpened) {
   const std::vector<Nearest> cases = {
       {"C:\\photos\\2005", "photos/2005"},        {"C:\\photos\\2005\\", "photos/2005"},
       {"C:/photos/2005/", "photos/2005"},         {"C:\\photos\\1999\\May", "photos"},
@@ -35,19 +35,19 @@ TEST_F(Places, AFolderThatIsMissingGivesWayToTheNearestAboveIt) {
   }
 }
 
-TEST_F(Places, APathThatIsNotOfThisSystemOpensTheHomeFolder) {
+TEST_F(Places, APathWithoutAPlaceOpensTheHomeFolder) {
   for (const char* text : {"", "X:\\photos", "\\\\server\\share\\photos"}) {
     EXPECT_EQ(NearestFolder(paths, text, home), home) << text;
   }
 }
 
-TEST_F(Places, TheDialogBeginsInItsInitialFolderWithTheNameProposed) {
+TEST_F(Places, TheDialogOpensInItsInitialFolderWithTheProposedName) {
   const DialogPlace place = PlaceOf({.initialFolder = "C:\\photos", .fileName = "a.gpj"}, paths, home);
   EXPECT_EQ(place.folder, disk.Path() / "photos");
   EXPECT_EQ(place.fileName, "a.gpj");
 }
 
-TEST_F(Places, AFolderInTheNameTakesPrecedenceWhereItExists) {
+TEST_F(Places, AFolderInTheNameTakesPrecedenceIfItExists) {
   DialogPlace place = PlaceOf({.initialFolder = "C:\\home", .fileName = "C:\\photos\\2005\\a.jpg"}, paths, home);
   EXPECT_EQ(place.folder, disk.Path() / "photos/2005");
   EXPECT_EQ(place.fileName, "a.jpg");
@@ -56,7 +56,7 @@ TEST_F(Places, AFolderInTheNameTakesPrecedenceWhereItExists) {
   EXPECT_EQ(place.fileName, "a.jpg");
 }
 
-TEST_F(Places, DrivesAreThoseWhoseFoldersExist) {
+TEST_F(Places, OnlyDrivesWhoseFoldersExistAreListed) {
   const std::vector<Drive> drives = DriveFolders(paths);
   ASSERT_EQ(drives.size(), 2U);
   EXPECT_EQ(drives[0].letter, 'C');

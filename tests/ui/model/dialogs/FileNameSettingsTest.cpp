@@ -26,7 +26,7 @@ class NameSettings : public testing::Test {
   core::ProjectEditor editor{project, modified};
 };
 
-TEST_F(NameSettings, AreSixOfFilesAndTwoOfFrames) {
+TEST_F(NameSettings, AreSixForFilesAndTwoForFrames) {
   EXPECT_EQ(FileNameFields().size(), 6U);
   EXPECT_EQ(FrameNameFields().size(), 2U);
   int extensions = 0;
@@ -41,7 +41,7 @@ TEST_F(NameSettings, ListsOfferExtensionsAndBrowserTargets) {
   EXPECT_EQ(targets, (std::vector<std::string_view>{"_blank", "_parent", "_self", "_top"}));
 }
 
-TEST_F(NameSettings, ATypedBlankIsAnUnderscoreAndInAnExtensionAPointToo) {
+TEST_F(NameSettings, TypedBlanksBecomeUnderscoresAndInExtensionsDotsDoToo) {
   EXPECT_EQ(NameKey(folder, " "), "_");
   EXPECT_EQ(NameKey(folder, "."), ".");
   EXPECT_EQ(NameKey(frame, " "), "_");
@@ -51,7 +51,7 @@ TEST_F(NameSettings, ATypedBlankIsAnUnderscoreAndInAnExtensionAPointToo) {
   for (const char* key : {"a", "Ü", "_", "\\", "/", "", "\b", "<"}) EXPECT_EQ(NameKey(extension, key), key);
 }
 
-TEST_F(NameSettings, AnExtensionIsShownWithoutItsPoint) {
+TEST_F(NameSettings, AnExtensionIsShownWithoutItsDot) {
   struct Case {
     const char* stored;
     const char* shown;
@@ -64,7 +64,7 @@ TEST_F(NameSettings, AnExtensionIsShownWithoutItsPoint) {
   EXPECT_EQ(ShownName(folder, project), ".hidden");
 }
 
-TEST_F(NameSettings, AnExtensionIsStoredWithAPoint) {
+TEST_F(NameSettings, AnExtensionIsStoredWithADot) {
   StoreName(extension, "shtml", editor);
   EXPECT_EQ(project.comboImageWrapperSettingsFileExtension, ".shtml");
   EXPECT_TRUE(modified);
@@ -78,14 +78,14 @@ TEST_F(NameSettings, StoringTheSameNamesIsNotAChange) {
   EXPECT_FALSE(modified);
 }
 
-TEST_F(NameSettings, EveryNameIsStoredAsItIs) {
+TEST_F(NameSettings, EveryNameIsStoredUnchanged) {
   for (const char* text : {"", "Images\\Big", "a b", "?*"}) {
     StoreName(folder, text, editor);
     EXPECT_EQ(project.textImageSettingsSubFolder, text);
   }
 }
 
-TEST_F(NameSettings, AnEditMarksTheProjectAndStoresNothingYet) {
+TEST_F(NameSettings, AnEditMarksTheProjectAsModifiedAndStoresNothingYet) {
   MarkEdited(folder, editor);
   EXPECT_TRUE(modified);
   EXPECT_EQ(project.textImageSettingsSubFolder, "Images");

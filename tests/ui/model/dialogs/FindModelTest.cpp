@@ -3,7 +3,7 @@
 namespace vantorium::ui {
 namespace {
 
-TEST(FindModel, OnlyATextCanBeLookedFor) {
+TEST(FindModel, AnEmptyTextCannotBeSearchedFor) {
   FindModel model;
   EXPECT_FALSE(model.CanFind());
   model.SetTitle("a");
@@ -18,7 +18,7 @@ TEST(FindModel, ABlankBecomesAnUnderscore) {
   EXPECT_EQ(model.Title(), "_my_photo__1.jpg_");
 }
 
-TEST(FindModel, LineEndsAndOtherControlCharactersAreLeftOut) {
+TEST(FindModel, ControlCharactersAreRemoved) {
   FindModel model;
   model.SetTitle("a\tb\r\nc\x7F ü\n");
   EXPECT_EQ(model.Title(), "abc_ü");
@@ -26,7 +26,7 @@ TEST(FindModel, LineEndsAndOtherControlCharactersAreLeftOut) {
   EXPECT_EQ(model.Title(), "");
 }
 
-TEST(FindModel, AcceptGivesTheTextAndCancelNothing) {
+TEST(FindModel, AcceptReturnsTheTextAndCancelNothing) {
   FindModel model;
   model.SetTitle("a b");
   model.Accept();
@@ -35,7 +35,7 @@ TEST(FindModel, AcceptGivesTheTextAndCancelNothing) {
   EXPECT_EQ(model.Result, "");
 }
 
-TEST(FindModel, TheNextTimeTheTextIsStillThereButNoResult) {
+TEST(FindModel, TheTextIsKeptForTheNextSearchButNotTheResult) {
   FindModel model;
   model.SetTitle("a.jpg");
   model.Accept();

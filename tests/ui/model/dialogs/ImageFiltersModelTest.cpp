@@ -13,31 +13,31 @@ using Settings = image::ImageFilterSettings;
 class ImageFiltersDialog : public testing::Test {
  protected:
   std::unique_ptr<ImageFiltersModel> Opened(const Settings& settings = {}) {
-    auto model = std::make_unique<ImageFiltersModel>(settings, sources, desk.Ports(), box);
+    auto model = std::make_unique<ImageFiltersModel>(settings, sources, harness.Ports(), box);
     model->Open();
     return model;
   }
 
   /// Whether a preview compresses the source again.
   bool PreviewCompresses(ImageFiltersModel& model) const {
-    std::filesystem::remove(desk.TempFile());
+    std::filesystem::remove(harness.TempFile());
     model.Preview();
-    return std::filesystem::exists(desk.TempFile());
+    return std::filesystem::exists(harness.TempFile());
   }
 
   /// The expected source after compression to a JPEG file and resizing.
   std::unique_ptr<image::cDIBSection> CompressedAndResized(int quality) {
     image::cDIBSection source;
-    EXPECT_TRUE(image::LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
-    const auto file = desk.folder.Path() / "expected.jpg";
+    EXPECT_TRUE(image::LoadJPEGImage(source, *harness.paths.ToNative(sources.selectedFile)));
+    const auto file = harness.folder.Path() / "expected.jpg";
     image::SaveJPEGImage(source, file, quality);
     EXPECT_TRUE(image::LoadJPEGImage(source, file));
     return image::Resample(source, box.size.height, box.size.width);
   }
 
-  fakes::SampleDesk desk;
+  fakes::SampleHarness harness;
   fakes::RecordingSampleBox box;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, desk.TempFolderLocation()};
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, harness.TempFolderLocation()};
 };
 
 TEST_F(ImageFiltersDialog, OpensWithItsSampleStretchedToTheBox) {
@@ -48,7 +48,7 @@ TEST_F(ImageFiltersDialog, OpensWithItsSampleStretchedToTheBox) {
   EXPECT_TRUE(model->Cancelled());
 }
 
-TEST_F(ImageFiltersDialog, TheSampleShowsQualityThenSizeThenNoiseFadeBrightnessAndGrey) {
+TEST_F(ImageFiltersDialog, TheSampleHasQualitySizeNoiseFadeBrightnessAndGreyAppliedInThisOrder) {
   Opened({.checkGrayscale = 1,
           .checkBrightness = 1,
           .sliderBrightness = 40,
@@ -67,7 +67,7 @@ TEST_F(ImageFiltersDialog, TheSampleShowsQualityThenSizeThenNoiseFadeBrightnessA
   EXPECT_EQ(box.painted.at(0), fakes::BytesOf(*expected));
 }
 
-TEST_F(ImageFiltersDialog, EachFilterIsShownOnlyWhenItIsOn) {
+TEST_F(ImageFiltersDialog, EachFilterIsAppliedOnlyIfItIsOn) {
   const std::string plain = fakes::BytesOf(*CompressedAndResized(85));
   for (const auto filter :
        {&Settings::checkGrayscale, &Settings::checkBrightness, &Settings::checkFade, &Settings::checkNoise}) {
@@ -77,10 +77,10 @@ TEST_F(ImageFiltersDialog, EachFilterIsShownOnlyWhenItIsOn) {
     EXPECT_NE(box.painted.back(), plain);
   }
   Opened({.checkNoiseRandom = 1});
-  EXPECT_EQ(box.painted.back(), plain) << "random noise without noise";
+  EXPECT_EQ(box.painted.back(), plain) << "random noise without noise does nothing";
 }
 
-TEST_F(ImageFiltersDialog, ASettingIsSeenWithTheButtonOnly) {
+TEST_F(ImageFiltersDialog, ASettingIsShownOnlyAfterPreview) {
   const auto model = Opened();
   model->Set(&Settings::checkGrayscale, 1);
   EXPECT_EQ(box.painted.size(), 1U);
@@ -102,7 +102,7 @@ TEST_F(ImageFiltersDialog, EachControlMarksTheSettingsAsChanged) {
   }
 }
 
-TEST_F(ImageFiltersDialog, WithoutAChangeEveryOtherPreviewCompresses) {
+TEST_F(ImageFiltersDialog, WithoutAChangeEverySecondPreviewCompresses) {
   const auto model = Opened();
   EXPECT_FALSE(PreviewCompresses(*model));
   EXPECT_TRUE(PreviewCompresses(*model));
@@ -110,7 +110,7 @@ TEST_F(ImageFiltersDialog, WithoutAChangeEveryOtherPreviewCompresses) {
   EXPECT_EQ(box.painted.front(), box.painted.back());
 }
 
-TEST_F(ImageFiltersDialog, ApplySwitchesOffWhatWouldDoNothing) {
+TEST_F(ImageFiltersDialog, ApplyTurnsOffFiltersThatDoNothing) {
   struct Case {
     std::int16_t Settings::*slider;
     std::int16_t Settings::*check;
@@ -141,21 +141,21 @@ TEST_F(ImageFiltersDialog, CancelHidesTheDialog) {
   EXPECT_TRUE(box.calls.ends_with("hide "));
 }
 
-TEST_F(ImageFiltersDialog, ATemporaryFolderThatCannotBeMadeClosesItWithThePathOfTheFile) {
-  desk.BlockTempFolder();
+TEST_F(ImageFiltersDialog, ATemporaryFolderThatCannotBeCreatedClosesItWithThePathOfTheFile) {
+  harness.BlockTempFolder();
   const auto model = Opened();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
-                                          desk.TempFolderLocation() +
-                                          "\\VANTORIUM_TEMP\\preview_temp.jpg\".  Please check the Temporary Folder "
-                                          "Location.");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
+                                             harness.TempFolderLocation() +
+                                             "\\VANTORIUM_TEMP\\preview_temp.jpg\".  Please check the Temporary Folder "
+                                             "Location.");
   EXPECT_TRUE(model->Cancelled());
   EXPECT_TRUE(box.painted.empty());
   EXPECT_TRUE(box.calls.ends_with("hide "));
 }
 
-TEST_F(ImageFiltersDialog, ItsButtonsDoNothingBeforeTheSampleIsThere) {
-  ImageFiltersModel model({}, sources, desk.Ports(), box);
+TEST_F(ImageFiltersDialog, ItsButtonsDoNothingBeforeTheSampleIsLoaded) {
+  ImageFiltersModel model({}, sources, harness.Ports(), box);
   model.Preview();
   model.Apply();
   EXPECT_EQ(box.calls, "");
@@ -172,15 +172,15 @@ TEST_F(ImageFiltersDialog, ItsButtonsDoNothingOnceItIsClosed) {
   EXPECT_TRUE(model->Cancelled());
 }
 
-TEST_F(ImageFiltersDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
+TEST_F(ImageFiltersDialog, ValuesBeyondTheSlidersAreClamped) {
   const ImageFiltersModel low({.sliderBrightness = -101, .sliderFade = -1, .sliderNoise = -1, .sliderQuality = 0},
-                              sources, desk.Ports(), box);
+                              sources, harness.Ports(), box);
   EXPECT_EQ(low.Settings().sliderBrightness, -100);
   EXPECT_EQ(low.Settings().sliderFade, 0);
   EXPECT_EQ(low.Settings().sliderNoise, 0);
   EXPECT_EQ(low.Settings().sliderQuality, 1);
   const ImageFiltersModel high({.sliderBrightness = 101, .sliderFade = 256, .sliderNoise = 101, .sliderQuality = 32767},
-                               sources, desk.Ports(), box);
+                               sources, harness.Ports(), box);
   EXPECT_EQ(high.Settings().sliderBrightness, 100);
   EXPECT_EQ(high.Settings().sliderFade, 255);
   EXPECT_EQ(high.Settings().sliderNoise, 100);

@@ -32,7 +32,7 @@ TEST_F(LinkDialog, OpeningIsNotAnEdit) {
   EXPECT_EQ(Graphics(model), "C:\\a.gif|");
 }
 
-TEST_F(LinkDialog, WithoutASecondGraphicTheFirstIsNeitherMirroredNorPutBack) {
+TEST_F(LinkDialog, WithoutASecondGraphicTheFirstIsNeitherCopiedNorRestored) {
   LinksModel model(
       {"INDEX", "", ""}, paths, folder, [this] { ++edits; }, false);
   model.EditGraphic(kFirst, "C:\\a.gif");
@@ -46,10 +46,10 @@ TEST_F(LinkDialog, WithoutASecondGraphicTheFirstIsNeitherMirroredNorPutBack) {
       {"INDEX", "C:\\a.gif", "C:\\old.gif"}, paths, folder, [] {}, false);
   filled.EditGraphic(kFirst, "");
   filled.Close();
-  EXPECT_EQ(Graphics(filled), "|C:\\old.gif") << "a graphic that was there unseen fills nothing either";
+  EXPECT_EQ(Graphics(filled), "|C:\\old.gif") << "a hidden graphic is not copied either";
 }
 
-TEST_F(LinkDialog, AnEditOfTheLabelCounts) {
+TEST_F(LinkDialog, AnEditOfTheLabelIsAnEdit) {
   LinksModel model = Model({"NEXT", "", ""});
   model.EditLabel("NEXT");
   EXPECT_EQ(edits, 0);
@@ -58,7 +58,7 @@ TEST_F(LinkDialog, AnEditOfTheLabelCounts) {
   EXPECT_EQ(model.Link().textLinkLabel, "");
 }
 
-TEST_F(LinkDialog, TheOtherGraphicFollowsLetterByLetterWhileItIsTheOnlyOne) {
+TEST_F(LinkDialog, AnEmptySecondGraphicFollowsTheFirstLetterByLetter) {
   for (const auto& [box, other] : {std::pair(kFirst, kSecond), std::pair(kSecond, kFirst)}) {
     LinksModel model = Model({});
     for (const char* text : {"C", "C:", "C:\\", "C:\\a", "C:\\", "C:\\b"}) {
@@ -82,7 +82,7 @@ TEST_F(LinkDialog, TwoGraphicsDoNotFollowEachOther) {
   model.EditGraphic(kFirst, "");
   EXPECT_EQ(Graphics(model), "|b");
   model.EditGraphic(kFirst, "x");
-  EXPECT_EQ(Graphics(model), "x|b") << "the other one is not empty";
+  EXPECT_EQ(Graphics(model), "x|b") << "the other graphic is not empty";
 }
 
 TEST_F(LinkDialog, AnEmptiedBoxFollowsTheOther) {
@@ -92,7 +92,7 @@ TEST_F(LinkDialog, AnEmptiedBoxFollowsTheOther) {
   model.EditGraphic(kSecond, "bc");
   EXPECT_EQ(Graphics(model), "bc|bc");
   model.EditGraphic(kSecond, "");
-  EXPECT_EQ(Graphics(model), "|") << "it follows to nothing";
+  EXPECT_EQ(Graphics(model), "|") << "it follows even to an empty text";
 }
 
 TEST_F(LinkDialog, ATypedNativePathBecomesPathTextWhenTheBoxIsLeft) {
@@ -103,7 +103,7 @@ TEST_F(LinkDialog, ATypedNativePathBecomesPathTextWhenTheBoxIsLeft) {
   EXPECT_EQ(Graphics(model), "C:\\next.gif|C:\\next.gif");
 }
 
-TEST_F(LinkDialog, APathThatWasNotTypedStaysAsItIs) {
+TEST_F(LinkDialog, APathThatWasNotTypedIsUnchanged) {
   LinksModel model = Model({"", "graphics/next.gif", "/b.gif"});
   model.LeaveGraphic(kFirst);
   model.LeaveGraphic(kSecond);
@@ -112,7 +112,7 @@ TEST_F(LinkDialog, APathThatWasNotTypedStaysAsItIs) {
   EXPECT_EQ(edits, 0);
 }
 
-TEST_F(LinkDialog, BrowsingHasAPreviewAndBeginsAtTheLastFolderAndTheTextOfTheBox) {
+TEST_F(LinkDialog, BrowsingHasAPreviewAndBeginsAtTheLastFolderWithTheTextOfTheBox) {
   LinksModel model = Model({"", "C:\\old.gif", "C:\\dim.gif"});
   browser.answer.result = "C:\\new\\next.gif";
   model.Browse(kFirst, browser);
@@ -136,14 +136,14 @@ TEST_F(LinkDialog, BrowsingHasAPreviewAndBeginsAtTheLastFolderAndTheTextOfTheBox
   EXPECT_EQ(folder, "Z:\\");
 }
 
-TEST_F(LinkDialog, AGraphicThatIsBrowsedForIsFollowedToo) {
+TEST_F(LinkDialog, TheOtherGraphicFollowsABrowsedOneToo) {
   LinksModel model = Model({});
   browser.answer.result = "C:\\a.gif";
   model.Browse(kSecond, browser);
   EXPECT_EQ(Graphics(model), "C:\\a.gif|C:\\a.gif");
 }
 
-TEST_F(LinkDialog, CloseGivesAMissingGraphicTheOther) {
+TEST_F(LinkDialog, CloseCopiesTheOtherGraphicToAMissingOne) {
   struct Case {
     core::LinkSettings link;
     const char* expected;
@@ -159,24 +159,24 @@ TEST_F(LinkDialog, CloseGivesAMissingGraphicTheOther) {
   }
 }
 
-TEST_F(LinkDialog, CloseFinishesWhatIsBeingTyped) {
+TEST_F(LinkDialog, CloseCompletesThePathBeingTyped) {
   LinksModel model = Model({"", "", "C:\\dim.gif"});
   model.EditGraphic(kFirst, "/home/me/n.gif");
   model.Close();
   EXPECT_EQ(Graphics(model), "C:\\n.gif|C:\\dim.gif");
 }
 
-TEST_F(LinkDialog, WithoutDrivesAGraphicIsShownAsTheSystemWritesIt) {
+TEST_F(LinkDialog, WithoutDrivesAGraphicIsShownAsANativePath) {
   paths = env::PathMap({}, "/home/me");
   LinksModel model = Model({"NEXT", "C:\\a.gif", "D:\\b.gif"});
   EXPECT_EQ(model.Shown(kFirst), "/home/me/a.gif");
-  EXPECT_EQ(model.Shown(kSecond), "D:\\b.gif") << "it has no place here";
+  EXPECT_EQ(model.Shown(kSecond), "D:\\b.gif") << "it has no place on this system";
   model.LeaveGraphic(kFirst);
   EXPECT_EQ(model.Link().textLinkGraphic, "C:\\a.gif");
   EXPECT_EQ(edits, 0);
   for (const char* typed : {"C:\\c.gif", "/home/me/c.gif", "~/c.gif"}) {
     model.EditGraphic(kFirst, typed);
-    EXPECT_EQ(model.Shown(kFirst), typed) << "a text stays as it is while it is typed";
+    EXPECT_EQ(model.Shown(kFirst), typed) << "a text is unchanged while it is typed";
     model.LeaveGraphic(kFirst);
     EXPECT_EQ(model.Shown(kFirst), "/home/me/c.gif") << typed;
     EXPECT_EQ(model.Link().textLinkGraphic, "C:\\c.gif") << typed;

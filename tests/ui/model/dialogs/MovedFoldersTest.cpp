@@ -7,7 +7,7 @@
 namespace vantorium::ui {
 namespace {
 
-/// The user's home is drive C:. Two of the three photographs of D:\Photos are in its folder "new".
+/// The user's home is drive C:. Its folder "new" has two of the three photographs of D:\Photos.
 class MovedFoldersTest : public testing::Test {
  protected:
   MovedFoldersTest() {
@@ -53,7 +53,7 @@ TEST_F(MovedFoldersTest, CountsTheImagesInTheNewFolder) {
   EXPECT_EQ(Result(), "D:\\Photos\\ -> C:\\new\\sub\\..\\\n");
 }
 
-TEST_F(MovedFoldersTest, AFolderWithoutTheImagesIsNotTaken) {
+TEST_F(MovedFoldersTest, AFolderWithoutTheImagesIsNotUsed) {
   for (const std::string& typed : {std::string(), std::string("/"), Native(""), Native("new/sub"), Native("new/a.jpg"),
                                    std::string("D:\\Photos"), std::string("\\\\server\\share"), std::string("new")}) {
     model.EditNewFolder(typed);
@@ -62,7 +62,7 @@ TEST_F(MovedFoldersTest, AFolderWithoutTheImagesIsNotTaken) {
   }
 }
 
-TEST_F(MovedFoldersTest, EachOldFolderHasANewOneOfItsOwn) {
+TEST_F(MovedFoldersTest, EachOldFolderHasItsOwnNewFolder) {
   home.Write("other/d.jpg", "");
   model.EditNewFolder(Native("new"));
   model.Choose(1);
@@ -81,7 +81,7 @@ TEST_F(MovedFoldersTest, AFolderCanBeBrowsedFor) {
   EXPECT_EQ(Result(), "D:\\Photos\\ -> C:\\new\\\n") << "cancelled";
 }
 
-TEST_F(MovedFoldersTest, ShowsAFolderAsTheSystemWritesIt) {
+TEST_F(MovedFoldersTest, FoldersAreShownAsNativePaths) {
   EXPECT_EQ(model.Shown("C:\\new\\"), Native("new/"));
   EXPECT_EQ(model.Shown("D:\\Photos\\"), "D:\\Photos\\");
   EXPECT_EQ(model.Shown(""), "");

@@ -5,7 +5,7 @@
 namespace vantorium::ui {
 namespace {
 
-TEST(NewWebServerModel, BeginsWithANameThatCanBeConfirmed) {
+TEST(NewWebServerModel, TheInitialNameCanBeConfirmed) {
   const NewWebServerModel model;
   EXPECT_EQ(model.Text(), "Server");
   EXPECT_TRUE(model.CanAccept());
@@ -21,7 +21,7 @@ TEST(NewWebServerModel, AnEmptyNameCannotBeConfirmed) {
   EXPECT_TRUE(model.CanAccept());
 }
 
-TEST(NewWebServerModel, ANameCountsOnceItIsConfirmed) {
+TEST(NewWebServerModel, OnlyAConfirmedNameIsUsed) {
   NewWebServerModel model;
   model.SetText("Mine");
   EXPECT_EQ(model.GetServerName(), "");

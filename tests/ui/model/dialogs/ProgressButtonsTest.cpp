@@ -46,9 +46,9 @@ TEST_F(ProgressButtonsTest, AfterAFailureTheSameButtonClosesTheWindow) {
   EXPECT_EQ(cancel.polls, 0);
 }
 
-TEST_F(ProgressButtonsTest, ShowLogOpensTheLogAndAFailureOfTheDesktopIsNotLookedAt) {
+TEST_F(ProgressButtonsTest, ShowLogOpensTheLogAndIgnoresAFailure) {
   fakes::Journal journal;
-  fakes::RecordingShell shell(journal);
+  fakes::JournalingShell shell(journal);
   PressShowLog(shell, "C:\\program");
   shell.fails = true;
   PressShowLog(shell, "C:\\program");

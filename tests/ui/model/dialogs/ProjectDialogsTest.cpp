@@ -41,7 +41,7 @@ TEST_F(ProjectDialog, AProjectIsOpenedThroughTheFileDialog) {
   EXPECT_EQ(request.fileName, "");
 }
 
-TEST_F(ProjectDialog, AProjectIsSavedUnderTheNameProposed) {
+TEST_F(ProjectDialog, AProjectIsSavedUnderTheProposedName) {
   EXPECT_EQ(dialog.Choose({.purpose = core::ProjectFileDialog::Purpose::Save,
                            .title = "Save Gallery Project As",
                            .filter = "Projects|*.gpj",

@@ -12,7 +12,7 @@ namespace {
 const publish::ServerProfile kOne = {"One", "one.example.org", "me", "a/b", "start.htm", 15, "www"};
 const publish::ServerProfile kTwo = {"Two", "two.example.org", "anonymous", "", "index.htm", 0, ""};
 
-TEST(ServerKey, HostsAndPathsAreTypedWithSlashesAndTheGallerysWithoutBlanks) {
+TEST(ServerKey, TypedBackslashesBecomeSlashesAndBlanksInGalleryPathsAreReplaced) {
   const std::vector<std::tuple<ServerField, std::string, std::string>> cases = {
       {&publish::ServerProfile::ServerURL, "/", " "},
       {&publish::ServerProfile::JumpTo, "/", " "},
@@ -55,7 +55,7 @@ TEST_F(PublishModelTest, OpensWithThePreferredServer) {
   EXPECT_EQ(model->textTimeout, "0");
 }
 
-TEST_F(PublishModelTest, WithoutAFileTheFirstOpeningIsEmptyAndTheNextHasTheDefault) {
+TEST_F(PublishModelTest, WithoutAFileTheListIsEmptyAndTheNextOpeningHasTheDefault) {
   Open();
   EXPECT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].title, "File Error");
@@ -71,7 +71,7 @@ TEST_F(PublishModelTest, WithoutAFileTheFirstOpeningIsEmptyAndTheNextHasTheDefau
   EXPECT_EQ(model->Shown().IndexPath, "gallery");
 }
 
-TEST_F(PublishModelTest, OkNeedsAHost) {
+TEST_F(PublishModelTest, OKRequiresAHost) {
   Open({kOne});
   model->Edit(&publish::ServerProfile::ServerURL, "");
   EXPECT_FALSE(model->CanAccept());
@@ -79,7 +79,7 @@ TEST_F(PublishModelTest, OkNeedsAHost) {
   EXPECT_TRUE(model->CanAccept());
 }
 
-TEST_F(PublishModelTest, EditsGoIntoTheSelectedServerAndStayThere) {
+TEST_F(PublishModelTest, EditsChangeTheSelectedServer) {
   Open({kOne, kTwo});
   model->Edit(&publish::ServerProfile::UserName, "somebody");
   model->Select(1);
@@ -88,7 +88,7 @@ TEST_F(PublishModelTest, EditsGoIntoTheSelectedServerAndStayThere) {
   EXPECT_EQ(model->Shown().UserName, "somebody");
 }
 
-TEST_F(PublishModelTest, TheTimeOutIsNeverShownAndNeverKept) {
+TEST_F(PublishModelTest, TheTimeOutIsNeitherShownNorKept) {
   Open({kOne, kTwo});
   EXPECT_EQ(model->textTimeout, "0");
   for (const auto& change :
@@ -102,7 +102,7 @@ TEST_F(PublishModelTest, TheTimeOutIsNeverShownAndNeverKept) {
   EXPECT_EQ(model->Profiles()[1].TimeOut, 0);
 }
 
-TEST_F(PublishModelTest, TheTimeOutIsTheNumberThatItsTextBeginsWith) {
+TEST_F(PublishModelTest, TheTimeOutIsTheNumberAtTheStartOfItsText) {
   Open({kOne});
   const std::vector<std::pair<std::string, int>> cases = {{"0", 0},   {"30", 30},  {"12 seconds", 12}, {" 7x", 7},
                                                           {"-5", -5}, {"2.5s", 2}, {"x30", 0},         {"", 0}};
@@ -114,17 +114,17 @@ TEST_F(PublishModelTest, TheTimeOutIsTheNumberThatItsTextBeginsWith) {
   EXPECT_EQ(fakes::FailureOf([this] { std::ignore = model->GetTimeout(); }), env::FailureKind::Overflow);
 }
 
-TEST_F(PublishModelTest, ANewServerIsWrittenAtOnceAndEndsTheCancel) {
+TEST_F(PublishModelTest, ANewServerIsWrittenAtOnceAndCannotBeCancelled) {
   Open({kOne});
   EXPECT_TRUE(model->AddNewServer("Three"));
   EXPECT_EQ(model->Shown(), (publish::ServerProfile{"Three", "", "", "gallery", "index.htm", 0, ""}));
   EXPECT_FALSE(model->CanCancel());
   EXPECT_TRUE(model->CanDelete());
-  EXPECT_FALSE(model->CanAccept()) << "its host is missing";
+  EXPECT_FALSE(model->CanAccept()) << "the host is missing";
   EXPECT_NE(Text().find("ServerName2=\"Three\""), std::string::npos) << Text();
 }
 
-TEST_F(PublishModelTest, ANameThatIsTakenIsRefused) {
+TEST_F(PublishModelTest, ADuplicateNameIsRefused) {
   Open({kOne});
   EXPECT_FALSE(model->AddNewServer("One"));
   ASSERT_EQ(boxes.boxes.size(), 1U);
@@ -132,10 +132,10 @@ TEST_F(PublishModelTest, ANameThatIsTakenIsRefused) {
   EXPECT_EQ(boxes.boxes[0].text, "A Server with this name has already been defined.  Please use a different name.");
   EXPECT_TRUE(model->CanCancel());
   EXPECT_EQ(model->Profiles().size(), 1U);
-  EXPECT_TRUE(model->AddNewServer("one")) << "another case is another name";
+  EXPECT_TRUE(model->AddNewServer("one")) << "names that differ in case are different";
 }
 
-TEST_F(PublishModelTest, ADeletedServerGivesItsPlaceToTheNextAndTheFileFollowsWithOk) {
+TEST_F(PublishModelTest, DeletingAServerSelectsTheNextAndOKWritesTheFile) {
   Open({kOne, kTwo});
   const std::string before = Text();
   model->DeleteServer();
@@ -150,7 +150,7 @@ TEST_F(PublishModelTest, ADeletedServerGivesItsPlaceToTheNextAndTheFileFollowsWi
   EXPECT_FALSE(model->CanAccept());
 }
 
-TEST_F(PublishModelTest, OkCleansUpAndWritesTheList) {
+TEST_F(PublishModelTest, OKCleansUpAndWritesTheList) {
   Open({kOne, kTwo});
   model->Select(1);
   model->Edit(&publish::ServerProfile::ServerURL, "ftp://host/");
@@ -163,7 +163,7 @@ TEST_F(PublishModelTest, OkCleansUpAndWritesTheList) {
   EXPECT_NE(Text().find("IndexFile2=\"a/b/index.htm\""), std::string::npos) << Text();
 }
 
-TEST_F(PublishModelTest, AnIndexFileWithAPathIsRefusedWhereItCanBeSeen) {
+TEST_F(PublishModelTest, AVisibleIndexFileWithAPathIsRefused) {
   Open({kOne});
   model->Edit(&publish::ServerProfile::IndexFile, "a/start.htm");
   EXPECT_FALSE(model->Accept());
@@ -175,7 +175,7 @@ TEST_F(PublishModelTest, AnIndexFileWithAPathIsRefusedWhereItCanBeSeen) {
   EXPECT_EQ(model->Shown().IndexFile, "index.htm");
 }
 
-TEST_F(PublishModelTest, AFileThatCannotBeWrittenIsReportedAndTheServerStillServes) {
+TEST_F(PublishModelTest, AFileThatCannotBeWrittenIsReportedAndTheServerIsStillUsed) {
   Open({kOne});
   std::filesystem::remove(File());
   std::filesystem::create_directories(File() / "in the way");
@@ -185,7 +185,7 @@ TEST_F(PublishModelTest, AFileThatCannotBeWrittenIsReportedAndTheServerStillServ
   EXPECT_EQ(boxes.boxes[0].title, "File Error");
 }
 
-TEST_F(PublishModelTest, CancelGoesBackToTheServerOfTheOpening) {
+TEST_F(PublishModelTest, CancelSelectsTheInitialServerAgain) {
   Open({kOne, kTwo}, 1);
   const std::string before = Text();
   model->Select(0);
@@ -196,14 +196,14 @@ TEST_F(PublishModelTest, CancelGoesBackToTheServerOfTheOpening) {
   EXPECT_EQ(Text(), before);
 }
 
-TEST_F(PublishModelTest, CancelWithoutThatServerLeavesTheSelection) {
+TEST_F(PublishModelTest, CancelKeepsTheSelectionIfTheInitialServerIsGone) {
   Open({kOne, kTwo});
   model->DeleteServer();
   model->Cancel();
   EXPECT_EQ(model->Shown(), kTwo);
 }
 
-TEST_F(PublishModelTest, TheSwitchesGoIntoTheSelectedProfile) {
+TEST_F(PublishModelTest, TheSwitchesChangeTheSelectedProfile) {
   Open({kOne, kTwo}, 1);
   model->Check(&publish::ServerProfile::Passive, true);
   model->Check(&publish::ServerProfile::Encrypted, true);
@@ -223,7 +223,7 @@ TEST_F(PublishModelTest, AnEmptyListHasNoSwitches) {
   EXPECT_FALSE(model->CanForgetCertificate());
 }
 
-TEST_F(PublishModelTest, ACertificateIsForgottenOnDemandAndWithItsHost) {
+TEST_F(PublishModelTest, ACertificateIsForgottenOnRequestAndWhenTheHostChanges) {
   publish::ServerProfile profile = kOne;
   profile.Encrypted = true;
   profile.Fingerprint = "0F";

@@ -3,7 +3,7 @@
 namespace vantorium::ui {
 namespace {
 
-TEST(RenameModel, OnlyATextCanBeAccepted) {
+TEST(RenameModel, AnEmptyTextCannotBeAccepted) {
   RenameModel model;
   EXPECT_FALSE(model.CanAccept());
   model.SetNameBase("Alps");
@@ -16,7 +16,7 @@ TEST(RenameModel, ABlankBecomesAnUnderscore) {
   EXPECT_EQ(model.NameBase(), "the_high_Alps");
 }
 
-TEST(RenameModel, LineEndsAndOtherControlCharactersAreLeftOut) {
+TEST(RenameModel, ControlCharactersAreRemoved) {
   RenameModel model;
   model.SetNameBase("a\tb\r\nc\x7F ü\n");
   EXPECT_EQ(model.NameBase(), "abc_ü");
@@ -24,13 +24,13 @@ TEST(RenameModel, LineEndsAndOtherControlCharactersAreLeftOut) {
   EXPECT_EQ(model.NameBase(), "");
 }
 
-TEST(RenameModel, WithoutAnAnswerNoNameChanges) {
+TEST(RenameModel, UntilItIsAcceptedNoNameChanges) {
   RenameModel model;
   model.SetNameBase("Alps");
   EXPECT_EQ(model.GetNameBase(), "?&null&?");
 }
 
-TEST(RenameModel, AcceptGivesTheTextAndCancelNone) {
+TEST(RenameModel, AcceptReturnsTheTextAndCancelNothing) {
   RenameModel model;
   model.SetNameBase("Alps");
   model.Accept();
@@ -39,7 +39,7 @@ TEST(RenameModel, AcceptGivesTheTextAndCancelNone) {
   EXPECT_EQ(model.GetNameBase(), core::kNoNameBase);
 }
 
-TEST(RenameModel, TheCheckBoxChoosesTheImages) {
+TEST(RenameModel, TheCheckBoxChoosesWhichImagesAreRenamed) {
   RenameModel model;
   EXPECT_EQ(model.Scope(), core::RenameScope::CurrentImage);
   model.RenameAll = true;

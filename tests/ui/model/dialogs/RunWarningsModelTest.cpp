@@ -9,14 +9,14 @@ namespace {
 class RunWarningsModelTest : public testing::Test {
  protected:
   RunWarningsModelTest() {
-    desk.Start();
-    for (const char* name : {"a#.jpg", "b.jpg", "c?.jpg"}) desk.AddPhotograph(name);
+    harness.Start();
+    for (const char* name : {"a#.jpg", "b.jpg", "c?.jpg"}) harness.AddPhotograph(name);
     generation::SetIndexFile(order, "T:\\out\\index.htm");
     forecast.Renew();
     Now().IsModified = false;
   }
 
-  [[nodiscard]] core::Project& Now() { return desk.model.CurrentProject(); }
+  [[nodiscard]] core::Project& Now() { return harness.model.CurrentProject(); }
   [[nodiscard]] const std::string& Name(std::size_t position) { return Now().images.Entry(position).ImageName; }
   /// Answers the rename dialog for the chosen finding.
   void Rename(const std::string& name, bool all = false) {
@@ -27,10 +27,10 @@ class RunWarningsModelTest : public testing::Test {
     model.Rename(answer);
   }
 
-  fakes::MainModelDesk desk;
+  fakes::MainModelHarness harness;
   generation::RunOrder order;
-  generation::RunForecast forecast{desk.model.CurrentProject(), order, desk.model.Ports()};
-  RunWarningsModel model{forecast, desk.model.CurrentProject(), desk.model.Images()};
+  generation::RunForecast forecast{harness.model.CurrentProject(), order, harness.model.Ports()};
+  RunWarningsModel model{forecast, harness.model.CurrentProject(), harness.model.Images()};
 };
 
 TEST_F(RunWarningsModelTest, EachLineNamesTheImageAndTheFirstIsChosen) {
@@ -41,7 +41,7 @@ TEST_F(RunWarningsModelTest, EachLineNamesTheImageAndTheFirstIsChosen) {
             "the name.");
 }
 
-TEST_F(RunWarningsModelTest, ANewNameMakesItsImageCurrentAndEndsItsWarning) {
+TEST_F(RunWarningsModelTest, ANewNameMakesItsImageCurrentAndResolvesItsWarning) {
   model.Choose(1);
   ASSERT_TRUE(model.CanRename());
   EXPECT_EQ(model.NameToChange().NameBase(), "c?.jpg");
@@ -53,17 +53,17 @@ TEST_F(RunWarningsModelTest, ANewNameMakesItsImageCurrentAndEndsItsWarning) {
   EXPECT_TRUE(Now().IsModified);
   ASSERT_EQ(model.Found().size(), 1U);
   EXPECT_EQ(model.Found()[0].name, "a#.jpg");
-  EXPECT_EQ(model.Chosen(), 0U) << "the last one that is left";
+  EXPECT_EQ(model.Chosen(), 0U) << "the only one left";
 }
 
-TEST_F(RunWarningsModelTest, AfterTheLastNewNameNothingIsLeftToRename) {
+TEST_F(RunWarningsModelTest, AfterTheLastNewNameThereIsNothingToRename) {
   Rename("a");
   Rename("c");
   EXPECT_TRUE(model.Found().empty());
   EXPECT_FALSE(model.CanRename());
 }
 
-TEST_F(RunWarningsModelTest, ANameThatIsNoBetterIsWarnedOfAgain) {
+TEST_F(RunWarningsModelTest, ANewNameWithTheSameProblemIsReportedAgain) {
   Rename("B.jpg");
   ASSERT_EQ(model.Found().size(), 2U);
   EXPECT_EQ(model.Found()[0].kind, generation::FindingKind::SharedName);
@@ -87,9 +87,9 @@ TEST_F(RunWarningsModelTest, ACancelledNameChangesNothing) {
   EXPECT_FALSE(Now().IsModified);
 }
 
-TEST_F(RunWarningsModelTest, WhatNoNameCanMendOffersNoRenaming) {
-  std::filesystem::remove(desk.folder.Path() / "b.jpg");
-  desk.model.Editor().Set(&core::GalleryProject::textThumbnailPageSettingsFilePrefix, "p#");
+TEST_F(RunWarningsModelTest, WarningsThatANewNameCannotResolveOfferNoRenaming) {
+  std::filesystem::remove(harness.folder.Path() / "b.jpg");
+  harness.model.Editor().Set(&core::GalleryProject::textThumbnailPageSettingsFilePrefix, "p#");
   forecast.Renew();
   ASSERT_EQ(model.Found().size(), 4U);
   const bool expected[] = {false, true, false, true};

@@ -9,7 +9,7 @@ namespace {
 constexpr core::PageColors kOwn = {1, 2, 3, 4, 5};
 constexpr core::PageColors kOthers = {11, 12, 13, 14, 15};
 
-TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhatCanBeCopied) {
+TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhichColorsCanBeCopied) {
   for (const char* title : {"Select Thumbnail Page Colors", "Thumbnail", "MyThumbnails"}) {
     EXPECT_EQ(SelectColorsModel(title, kOwn, kOthers).UseOtherColorsCaption(), "Copy Image Wrapper Colors") << title;
   }
@@ -18,7 +18,7 @@ TEST(SelectColorsModel, TheWordThumbnailInTheTitleDecidesWhatCanBeCopied) {
   }
 }
 
-TEST(SelectColorsModel, AChosenColorReplacesItsOwnOnly) {
+TEST(SelectColorsModel, AChosenColorReplacesOnlyItsColor) {
   fakes::ScriptedCommonDialogs dialogs;
   ColorDialog dialog(dialogs);
   for (const auto which : {&core::PageColors::background, &core::PageColors::text, &core::PageColors::link,
@@ -47,7 +47,7 @@ class CustomColorUser : public fakes::ScriptedCommonDialogs {
   std::vector<env::CustomColors> shown;
 };
 
-TEST(ColorDialogs, TheUsersOwnColorsAreThereTheNextTime) {
+TEST(ColorDialogs, CustomColorsAreKeptForTheNextTime) {
   CustomColorUser user;
   ColorDialog dialog(user);
   const env::CustomColors first = {0x111111};
@@ -61,7 +61,7 @@ TEST(ColorDialogs, TheUsersOwnColorsAreThereTheNextTime) {
   EXPECT_EQ(user.shown.at(1), second);
 }
 
-TEST(SelectColorsModel, TheOthersAreCopiedIntoTheDialogOnly) {
+TEST(SelectColorsModel, CopyingTheOtherColorsChangesOnlyTheDialog) {
   SelectColorsModel model("", kOwn, kOthers);
   model.UseOtherColors();
   EXPECT_EQ(model.Colors(), kOthers);

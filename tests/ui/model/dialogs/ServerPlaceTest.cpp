@@ -28,7 +28,7 @@ TEST(ServerPlace, IsSplitAtTheFirstSlash) {
   for (const auto& [typed, place] : cases) EXPECT_EQ(ReadServerPlace(typed), place) << typed;
 }
 
-TEST(ServerPlace, MayBeTypedWithBackslashesDoubleSlashesAndTheSchemeOfItsServer) {
+TEST(ServerPlace, MayHaveBackslashesDoubleSlashesAndAScheme) {
   const ServerPlace place = {"host", "a/b/index.htm"};
   for (const char* typed : {"host\\a\\b\\index.htm", "host//a///b/index.htm", "ftp://host/a/b/index.htm",
                             "FTP://host/a/b/index.htm", "ftp:\\\\host\\a/b/index.htm"}) {
@@ -36,14 +36,14 @@ TEST(ServerPlace, MayBeTypedWithBackslashesDoubleSlashesAndTheSchemeOfItsServer)
   }
 }
 
-TEST(ServerPlace, IsNothingWithoutAHostAndASlash) {
+TEST(ServerPlace, IsInvalidWithoutAHostAndASlash) {
   for (const char* typed : {"", " ", "/", "//", "/gallery/index.htm", "\\gallery", "host", "gallery.htm", "ftp://",
                             "ftp:///a", "ftp://host", "../index.htm", "./a", "-host/a", ".host/a"}) {
     EXPECT_EQ(ReadServerPlace(typed), std::nullopt) << typed;
   }
 }
 
-TEST(ServerPlace, IsNothingWithAnythingElseThanAHostInFront) {
+TEST(ServerPlace, IsInvalidIfItDoesNotBeginWithAHost) {
   for (const char* typed : {"http://host/a", "sftp://host/a", "me@host/a", "me:secret@host/a", "host:2121/a",
                             "C:\\web\\index.htm", "C:/web/index.htm", "my host/a", " host/a", "host?/a", "[host]/a",
                             "[]/a", "[::1/a", "::1]/a", "[::1]:21/a", "::g/a"}) {
@@ -51,7 +51,7 @@ TEST(ServerPlace, IsNothingWithAnythingElseThanAHostInFront) {
   }
 }
 
-TEST(ServerPlace, IsNothingWithAControlCharacter) {
+TEST(ServerPlace, IsInvalidWithAControlCharacter) {
   for (const std::string& typed : {std::string("host/a\r\nDELE b"), std::string("host/a\n"), std::string("host/a\tb"),
                                    std::string("ho\rst/a"), std::string("host/a\0b", 8), std::string("host/a\x7F")}) {
     EXPECT_EQ(ReadServerPlace(typed), std::nullopt) << typed;

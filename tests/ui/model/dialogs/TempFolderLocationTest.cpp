@@ -33,18 +33,18 @@ class TempFolderLocationTest : public testing::Test {
   env::Preferences preferences;
 };
 
-TEST_F(TempFolderLocationTest, BeginsWithThePreferences) {
+TEST_F(TempFolderLocationTest, BeginsWithTheValuesOfThePreferences) {
   const TempFolderLocation dialog(preferences, "C:\\program", files, boxes);
   EXPECT_EQ(dialog.textTempFolderLocation, "C:\\temp");
   EXPECT_EQ(dialog.checkAutoClear, 0);
 }
 
-TEST_F(TempFolderLocationTest, AnEmptyLocationIsTheProgramFolder) {
+TEST_F(TempFolderLocationTest, AnEmptyLocationMeansTheProgramFolder) {
   preferences.TempFolderLocation.clear();
   EXPECT_EQ(TempFolderLocation(preferences, "C:\\program", files, boxes).textTempFolderLocation, "C:\\program");
 }
 
-TEST_F(TempFolderLocationTest, AbsolutePathsAreCleanedUpAndTaken) {
+TEST_F(TempFolderLocationTest, AbsolutePathsAreCleanedUpAndAccepted) {
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"C:\\", "C:"},
       {"C:", "C:"},
@@ -65,7 +65,7 @@ TEST_F(TempFolderLocationTest, AbsolutePathsAreCleanedUpAndTaken) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(TempFolderLocationTest, OtherPathsAreReportedAndTheDialogStays) {
+TEST_F(TempFolderLocationTest, OtherPathsAreReportedAndTheDialogStaysOpen) {
   for (const std::string typed : {"temp", "C:tmp", "temp\\new", "\\temp", "", "\\", "\\\\", "file://x", "C:/temp"}) {
     boxes.boxes.clear();
     EXPECT_FALSE(Dialog(typed).Accept()) << typed;
@@ -76,14 +76,14 @@ TEST_F(TempFolderLocationTest, OtherPathsAreReportedAndTheDialogStays) {
   }
 }
 
-TEST_F(TempFolderLocationTest, AcceptMakesTheFolder) {
+TEST_F(TempFolderLocationTest, AcceptCreatesTheFolder) {
   EXPECT_TRUE(Dialog("C:\\deep\\down\\").Accept());
   EXPECT_TRUE(std::filesystem::is_directory(disk.Path() / "deep/down/VANTORIUM_TEMP"));
   EXPECT_TRUE(Dialog("C:\\").Accept());
   EXPECT_TRUE(std::filesystem::is_directory(disk.Path() / "VANTORIUM_TEMP"));
 }
 
-TEST_F(TempFolderLocationTest, ATextThatHoldsNoPathCannotBeCreated) {
+TEST_F(TempFolderLocationTest, ATextThatIsNotAPathCannotBeCreated) {
   EXPECT_FALSE(Dialog(std::string("C:\\te\0mp", 8)).Accept());
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Critical);
@@ -91,7 +91,7 @@ TEST_F(TempFolderLocationTest, ATextThatHoldsNoPathCannotBeCreated) {
   EXPECT_EQ(boxes.boxes[0].text, kNotMade);
 }
 
-TEST_F(TempFolderLocationTest, AFolderThatIsChosenGoesIntoTheBox) {
+TEST_F(TempFolderLocationTest, AChosenFolderIsShownInTheBox) {
   TempFolderLocation dialog = Dialog("C:\\old");
   folders.answers = {"C:\\chosen", std::nullopt};
   dialog.Browse(folders);
@@ -102,7 +102,7 @@ TEST_F(TempFolderLocationTest, AFolderThatIsChosenGoesIntoTheBox) {
                                                      "Location of Temporary Folder: C:\\chosen"}));
 }
 
-TEST_F(TempFolderLocationTest, ResetIsTheProgramFolderClearedOnExit) {
+TEST_F(TempFolderLocationTest, ResetSetsTheProgramFolderAndClearOnExit) {
   TempFolderLocation dialog = Dialog("nonsense");
   dialog.Reset();
   EXPECT_EQ(dialog.textTempFolderLocation, "C:\\program");
@@ -128,7 +128,7 @@ TEST_F(TempFolderLocationTest, ANativePathBecomesPathText) {
   EXPECT_EQ(dialog.textTempFolderLocation, "temp");
 }
 
-TEST_F(TempFolderLocationTest, WithoutDrivesANativePathIsTakenAndShownAsTyped) {
+TEST_F(TempFolderLocationTest, WithoutDrivesANativePathIsAcceptedAndShownAsTyped) {
   paths = env::PathMap({}, disk.Path());
   const std::string home = disk.Path().string();
   for (const auto& [typed, stored, shown] :

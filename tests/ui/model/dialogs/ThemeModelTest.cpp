@@ -9,7 +9,7 @@ namespace {
 using fakes::ProjectFileParts;
 using fakes::SettingTexts;
 
-class ApplyingATheme : public testing::Test, public fakes::ProjectDesk {
+class ApplyingATheme : public testing::Test, public fakes::ProjectHarness {
  protected:
   ApplyingATheme() {
     WriteTheme("film", "3");
@@ -32,7 +32,7 @@ class ApplyingATheme : public testing::Test, public fakes::ProjectDesk {
   std::map<std::string, std::string> before;
 };
 
-TEST_F(ApplyingATheme, TheFirstThemeIsChosenAndNamesBeginWithACapital) {
+TEST_F(ApplyingATheme, TheFirstThemeIsChosenAndNamesAreCapitalized) {
   const ThemeModel model = Model();
   ASSERT_EQ(model.Themes().size(), 2U);
   EXPECT_EQ(model.Chosen(), 0U);
@@ -40,7 +40,7 @@ TEST_F(ApplyingATheme, TheFirstThemeIsChosenAndNamesBeginWithACapital) {
   EXPECT_EQ(model.Caption(1), "Plain");
 }
 
-TEST_F(ApplyingATheme, NamesThatBeginOtherwiseStayAsTheyAre) {
+TEST_F(ApplyingATheme, NamesThatDoNotBeginWithALowercaseLetterAreUnchanged) {
   for (const char* name : {"Mine", "7th", "äpfel", " x"}) {
     ThemeModel model({{name, folder.Path(), std::nullopt}}, project, paths, boxes, events);
     EXPECT_EQ(model.Caption(0), name);
@@ -71,14 +71,14 @@ TEST_F(ApplyingATheme, TitleAndImagesStay) {
   EXPECT_EQ(project.images.Entry(1).ThumbnailDescription, "another");
 }
 
-TEST_F(ApplyingATheme, NoLeavesTheProjectAsItWas) {
+TEST_F(ApplyingATheme, NoLeavesTheProjectUnchanged) {
   boxes.answers = {env::BoxAnswer::No};
   EXPECT_FALSE(Model().Accept());
   EXPECT_EQ(SettingTexts(project.settings), before);
   EXPECT_FALSE(project.IsModified);
 }
 
-TEST_F(ApplyingATheme, AThemeThatCannotBeReadIsSaidAndNothingIsAskedOrChanged) {
+TEST_F(ApplyingATheme, AnUnreadableThemeIsReportedAndNothingIsAskedOrChanged) {
   for (const char* damaged : {"", "no project", "<GALLERYPROJECT><GALLERY/></GALLERYPROJECT>"}) {
     boxes.boxes.clear();
     folder.Write("themes/film.gpj", damaged);
@@ -91,7 +91,7 @@ TEST_F(ApplyingATheme, AThemeThatCannotBeReadIsSaidAndNothingIsAskedOrChanged) {
   }
 }
 
-TEST_F(ApplyingATheme, AThemeThatIsGoneMeanwhileIsSaid) {
+TEST_F(ApplyingATheme, AThemeThatWasRemovedMeanwhileIsReported) {
   ThemeModel model = Model();
   std::filesystem::remove(folder.Path() / "themes/film.gpj");
   EXPECT_FALSE(model.Accept());

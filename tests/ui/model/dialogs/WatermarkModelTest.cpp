@@ -33,7 +33,7 @@ class FontRecordingRaster : public fakes::BoxTextRaster {
 class WatermarkDialog : public testing::Test {
  protected:
   std::unique_ptr<WatermarkModel> Opened(const image::WatermarkSettings& settings, std::int16_t quality = 85) {
-    auto model = std::make_unique<WatermarkModel>(settings, quality, sources, desk.Ports(),
+    auto model = std::make_unique<WatermarkModel>(settings, quality, sources, harness.Ports(),
                                                   WatermarkPorts{dialogs, texts, screen}, box);
     model->Open();
     return model;
@@ -41,25 +41,25 @@ class WatermarkDialog : public testing::Test {
 
   std::string Expected(const image::WatermarkSettings& settings, int quality) {
     image::cDIBSection source;
-    EXPECT_TRUE(image::LoadJPEGImage(source, *desk.paths.ToNative(sources.selectedFile)));
+    EXPECT_TRUE(image::LoadJPEGImage(source, *harness.paths.ToNative(sources.selectedFile)));
     const auto picture = image::Resample(source, box.size.height, box.size.width);
     image::LogFont font = image::MakeWatermarkFont(settings, 96);
     if (settings.checkUseWatermark == 1) {
       image::DrawWatermarkText(*picture, font, settings.textWatermark, settings.comboTextPlacement, settings.Color,
                                static_cast<std::uint8_t>(settings.sliderAlpha), texts);
     }
-    const auto file = desk.folder.Path() / "expected.jpg";
+    const auto file = harness.folder.Path() / "expected.jpg";
     image::SaveJPEGImage(*picture, file, quality);
     EXPECT_TRUE(image::LoadJPEGImage(*picture, file));
     return fakes::BytesOf(*picture);
   }
 
-  fakes::SampleDesk desk;
+  fakes::SampleHarness harness;
   fakes::RecordingSampleBox box;
   fakes::ScriptedCommonDialogs dialogs;
   FontRecordingRaster texts{20, 10};
   env::Screen screen;
-  SampleSources sources{desk.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, desk.TempFolderLocation()};
+  SampleSources sources{harness.Jpeg("ramp.jpg", 0x204060, 64, 48, 2), {}, harness.TempFolderLocation()};
   const image::WatermarkSettings on{.checkUseWatermark = 1, .textWatermark = "SAMPLE", .comboTextPlacement = 4};
 };
 
@@ -70,7 +70,7 @@ TEST(TextPlacements, AreElevenInTheOrderOfTheirNumbers) {
                                            "Top Left to Bottom Right", "Bottom Left to Top Right"}));
 }
 
-TEST_F(WatermarkDialog, TheSampleIsResizedThenMarkedThenCompressed) {
+TEST_F(WatermarkDialog, TheSampleIsResizedThenWatermarkedThenCompressed) {
   Opened(on, 9);
   EXPECT_EQ(box.calls, "clear paint ");
   EXPECT_EQ(box.painted.at(0), Expected(on, 9));
@@ -87,7 +87,7 @@ TEST_F(WatermarkDialog, WithoutAWatermarkTheSampleStillShowsTheQuality) {
   EXPECT_EQ(texts.drawn, 0);
 }
 
-TEST_F(WatermarkDialog, EachControlShowsTheSampleAgain) {
+TEST_F(WatermarkDialog, EachControlUpdatesTheSample) {
   const auto model = Opened(on);
   image::WatermarkSettings settings = on;
   model->SetAlpha(90);
@@ -105,13 +105,13 @@ TEST_F(WatermarkDialog, EachControlShowsTheSampleAgain) {
   EXPECT_EQ(box.painted.size(), 6U);
 }
 
-TEST_F(WatermarkDialog, ThePlacementThatIsSetAlreadyShowsNothing) {
+TEST_F(WatermarkDialog, TheCurrentPlacementDoesNotUpdateTheSample) {
   const auto model = Opened(on);
   model->SetPlacement(4);
   EXPECT_EQ(box.painted.size(), 1U);
 }
 
-TEST_F(WatermarkDialog, AnEditOfTheTextIsShownWhenItIsLeft) {
+TEST_F(WatermarkDialog, AnEditOfTheTextUpdatesTheSampleWhenTheBoxIsLeft) {
   const auto model = Opened(on);
   model->LeaveText();
   EXPECT_EQ(box.painted.size(), 1U) << "nothing was edited";
@@ -126,7 +126,7 @@ TEST_F(WatermarkDialog, AnEditOfTheTextIsShownWhenItIsLeft) {
   EXPECT_EQ(box.painted.size(), 2U);
 }
 
-TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndReachesTheSettingsWithApply) {
+TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndStoredByApply) {
   const auto model = Opened(on);
   const env::FontDescription chosen{.Name = "Serif",
                                     .Size = 20,
@@ -155,7 +155,7 @@ TEST_F(WatermarkDialog, TheFontIsShownAtOnceAndReachesTheSettingsWithApply) {
   EXPECT_EQ(model->Settings().Color, 0x0000FFU);
 }
 
-TEST_F(WatermarkDialog, ACancelledFontDialogShowsNothing) {
+TEST_F(WatermarkDialog, ACancelledFontDialogDoesNotUpdateTheSample) {
   const auto model = Opened(on);
   dialogs.fonts = {std::nullopt};
   model->BrowseFont();
@@ -163,7 +163,7 @@ TEST_F(WatermarkDialog, ACancelledFontDialogShowsNothing) {
   EXPECT_EQ(model->WorkingFont().Name, "Arial");
 }
 
-TEST_F(WatermarkDialog, AFontBeyondSixteenBitsIsTakenAtTheirEnd) {
+TEST_F(WatermarkDialog, AFontSizeBeyondSixteenBitsIsClamped) {
   const auto model = Opened(on);
   dialogs.fonts = {env::FontDescription{.Name = "Arial", .Size = 40000, .Weight = -40000}};
   model->BrowseFont();
@@ -172,7 +172,7 @@ TEST_F(WatermarkDialog, AFontBeyondSixteenBitsIsTakenAtTheirEnd) {
   EXPECT_EQ(model->Settings().FontWeight, std::numeric_limits<std::int16_t>::min());
 }
 
-TEST_F(WatermarkDialog, OnAFineScreenTheTextGrowsWithThePixels) {
+TEST_F(WatermarkDialog, TheTextScalesWithTheResolutionOfTheScreen) {
   Opened(on);
   EXPECT_EQ(texts.last.lfHeight, -48);
   box.ratio = 1.5;
@@ -180,7 +180,7 @@ TEST_F(WatermarkDialog, OnAFineScreenTheTextGrowsWithThePixels) {
   EXPECT_EQ(texts.last.lfHeight, -72);
 }
 
-TEST_F(WatermarkDialog, ApplyGivesWhatTheControlsShow) {
+TEST_F(WatermarkDialog, ApplyReturnsTheValuesOfTheControls) {
   const auto model = Opened(on, 50);
   model->EditText("two\r\nlines");
   model->SetPlacement(10);
@@ -206,14 +206,14 @@ TEST_F(WatermarkDialog, CancelHidesTheDialog) {
   EXPECT_EQ(box.calls, "clear paint hide ");
 }
 
-TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeMadeClosesItWithItsPath) {
+TEST_F(WatermarkDialog, ATemporaryFolderThatCannotBeCreatedClosesItWithThePathOfTheFolder) {
   const auto model = Opened(on);
-  desk.BlockTempFolder();
+  harness.BlockTempFolder();
   model->SetAlpha(3);
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
-                                          desk.TempFolderLocation() +
-                                          "\".  Please check the Temporary Folder Location.");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Vantorium was unable to load the default Preview Image in \"" +
+                                             harness.TempFolderLocation() +
+                                             "\".  Please check the Temporary Folder Location.");
   EXPECT_TRUE(model->Cancelled());
   EXPECT_EQ(box.calls, "clear paint hide ");
 }
@@ -231,43 +231,43 @@ class FailingRaster : public fakes::BoxTextRaster {
 
 TEST_F(WatermarkDialog, AWatermarkThatCannotBeDrawnIsReportedAndTheSampleShownWithoutIt) {
   const FailingRaster failing;
-  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, failing, screen}, box);
+  WatermarkModel model(on, 85, sources, harness.Ports(), {dialogs, failing, screen}, box);
   model.Open();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Watermark");
-  EXPECT_EQ(desk.boxes.boxes[0].text, "no font");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Watermark");
+  EXPECT_EQ(harness.boxes.boxes[0].text, "no font");
   image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
 
-TEST_F(WatermarkDialog, AFontDialogThatFailsIsReportedAndTheFontKept) {
+TEST_F(WatermarkDialog, AFailureOfTheFontDialogIsReportedAndTheFontStays) {
   class Failing : public fakes::ScriptedCommonDialogs {
    public:
     [[nodiscard]] bool ShowFontDialog(env::FontDescription& /*font*/) override {
       throw env::RuntimeFailure(env::FailureKind::OutOfMemory, "no fonts");
     }
   } failing;
-  WatermarkModel model(on, 85, sources, desk.Ports(), {failing, texts, screen}, box);
+  WatermarkModel model(on, 85, sources, harness.Ports(), {failing, texts, screen}, box);
   model.Open();
   model.BrowseFont();
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].text, "no fonts");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].text, "no fonts");
   EXPECT_EQ(model.WorkingFont().Name, "Arial");
 }
 
 TEST_F(WatermarkDialog, ATextThatCannotBePlacedIsReportedAndTheSampleShownWithoutIt) {
   texts.extent = {40000, 10};
   const auto model = Opened(on);
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "Invalid Value");
-  EXPECT_EQ(desk.boxes.boxes[0].text, "Overflow");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "Invalid Value");
+  EXPECT_EQ(harness.boxes.boxes[0].text, "Overflow");
   image::WatermarkSettings off = on;
   off.checkUseWatermark = 0;
   EXPECT_EQ(box.painted.at(0), Expected(off, 85));
 }
 
-TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
+TEST_F(WatermarkDialog, ValuesBeyondTheSlidersAreClamped) {
   image::WatermarkSettings wild = on;
   wild.sliderAlpha = 0;
   EXPECT_EQ(Opened(wild, 0)->Settings().sliderAlpha, 1);
@@ -277,7 +277,7 @@ TEST_F(WatermarkDialog, ValuesBeyondTheSlidersArePutAtTheirEnds) {
   EXPECT_EQ(Opened(wild, 101)->Quality(), 100);
 }
 
-TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
+TEST_F(WatermarkDialog, AnUnknownPlacementIsKeptUntilAnotherIsChosen) {
   image::WatermarkSettings wild = on;
   wild.comboTextPlacement = 77;
   const auto model = Opened(wild);
@@ -285,8 +285,8 @@ TEST_F(WatermarkDialog, APlacementThatIsInNoListIsKeptUntilAnotherIsChosen) {
   EXPECT_EQ(model->Settings().comboTextPlacement, 77);
 }
 
-TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
-  WatermarkModel model(on, 85, sources, desk.Ports(), {dialogs, texts, screen}, box);
+TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsLoaded) {
+  WatermarkModel model(on, 85, sources, harness.Ports(), {dialogs, texts, screen}, box);
   model.SetAlpha(5);
   model.LeaveText();
   model.Preview();
@@ -295,7 +295,7 @@ TEST_F(WatermarkDialog, ItsControlsDoNothingBeforeTheSampleIsThere) {
   EXPECT_TRUE(model.Cancelled());
 }
 
-TEST_F(WatermarkDialog, TheFontIsReportedInWords) {
+TEST_F(WatermarkDialog, TheFontIsDescribedInWords) {
   const auto model = Opened(on);
   EXPECT_EQ(model->FontSummary(), "Arial, 36 points, bold");
   dialogs.fonts = {env::FontDescription{

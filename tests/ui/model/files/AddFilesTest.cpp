@@ -8,21 +8,21 @@ namespace {
 
 class AddingFiles : public testing::Test {
  protected:
-  void Run() { AddFiles({.browser = browser, .preferences = preferences, .images = desk.images}).Run(); }
+  void Run() { AddFiles({.browser = browser, .preferences = preferences, .images = harness.images}).Run(); }
   [[nodiscard]] std::vector<std::string> Names() const {
     std::vector<std::string> names;
-    for (std::size_t i = 1; i <= desk.project.images.Count(); ++i) {
-      names.push_back(desk.project.images.Entry(i).ImageName);
+    for (std::size_t i = 1; i <= harness.project.images.Count(); ++i) {
+      names.push_back(harness.project.images.Entry(i).ImageName);
     }
     return names;
   }
 
-  fakes::ProjectDesk desk;
+  fakes::ProjectHarness harness;
   fakes::ScriptedFileBrowser browser;
   env::Preferences preferences;
 };
 
-TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
+TEST_F(AddingFiles, TheDialogOpensInTheFolderOfTheLastImages) {
   preferences.ImageSourceFolder = "C:\\photos\\";
   Run();
   ASSERT_EQ(browser.requests.size(), 1U);
@@ -33,24 +33,24 @@ TEST_F(AddingFiles, TheDialogOpensWhereImagesWereLastPicked) {
   EXPECT_TRUE(request.open && request.multiSelect && request.preview);
 }
 
-TEST_F(AddingFiles, EachChosenFileComesAtTheEndUnderItsName) {
-  desk.AddImage("first.jpg");
-  desk.File("b.jpg");
-  desk.File("a.jpg");
-  browser.answer = {.result = "\"b.jpg\" \"a.jpg\"", .folder = desk.PathOf(""), .names = {"b.jpg", "a.jpg"}};
+TEST_F(AddingFiles, ChosenFilesAreAppendedUnderTheirNames) {
+  harness.AddImage("first.jpg");
+  harness.File("b.jpg");
+  harness.File("a.jpg");
+  browser.answer = {.result = "\"b.jpg\" \"a.jpg\"", .folder = harness.PathOf(""), .names = {"b.jpg", "a.jpg"}};
   Run();
   EXPECT_EQ(Names(), (std::vector<std::string>{"first.jpg", "b.jpg", "a.jpg"}));
-  EXPECT_EQ(desk.project.images.Entry(3).SourcePath, desk.PathOf("a.jpg"));
-  EXPECT_TRUE(desk.project.IsModified);
-  EXPECT_EQ(preferences.ImageSourceFolder, desk.PathOf(""));
+  EXPECT_EQ(harness.project.images.Entry(3).SourcePath, harness.PathOf("a.jpg"));
+  EXPECT_TRUE(harness.project.IsModified);
+  EXPECT_EQ(preferences.ImageSourceFolder, harness.PathOf(""));
 }
 
-TEST_F(AddingFiles, AWholePathInTheNameBoxIsTakenAsItIs) {
-  const std::string path = desk.File("else/where.jpg");
+TEST_F(AddingFiles, AFullPathInTheNameBoxIsUsedUnchanged) {
+  const std::string path = harness.File("else/where.jpg");
   browser.answer = {.result = path, .folder = "C:\\photos\\", .names = {path}};
   Run();
   ASSERT_EQ(Names(), (std::vector<std::string>{"where.jpg"}));
-  EXPECT_EQ(desk.project.images.Entry(1).SourcePath, path);
+  EXPECT_EQ(harness.project.images.Entry(1).SourcePath, path);
 }
 
 TEST_F(AddingFiles, ACancelChangesNothing) {
@@ -59,18 +59,18 @@ TEST_F(AddingFiles, ACancelChangesNothing) {
   Run();
   EXPECT_TRUE(Names().empty());
   EXPECT_EQ(preferences.ImageSourceFolder, "C:\\photos\\");
-  EXPECT_FALSE(desk.project.IsModified);
-  EXPECT_TRUE(desk.boxes.boxes.empty());
+  EXPECT_FALSE(harness.project.IsModified);
+  EXPECT_TRUE(harness.boxes.boxes.empty());
 }
 
-TEST_F(AddingFiles, AFileThatCannotBeReadIsReportedAndEndsIt) {
-  desk.File("a.jpg");
-  desk.File("c.jpg");
-  browser.answer = {.result = "x", .folder = desk.PathOf(""), .names = {"a.jpg", "gone.jpg", "c.jpg"}};
+TEST_F(AddingFiles, AnUnreadableFileIsReportedAndEndsTheOperation) {
+  harness.File("a.jpg");
+  harness.File("c.jpg");
+  browser.answer = {.result = "x", .folder = harness.PathOf(""), .names = {"a.jpg", "gone.jpg", "c.jpg"}};
   Run();
   EXPECT_EQ(Names(), (std::vector<std::string>{"a.jpg"}));
-  ASSERT_EQ(desk.boxes.boxes.size(), 1U);
-  EXPECT_EQ(desk.boxes.boxes[0].title, "File Error");
+  ASSERT_EQ(harness.boxes.boxes.size(), 1U);
+  EXPECT_EQ(harness.boxes.boxes[0].title, "File Error");
 }
 
 }  // namespace

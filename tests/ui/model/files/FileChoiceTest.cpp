@@ -28,7 +28,7 @@ class Choosing : public testing::Test {
   fakes::RecordingMessageBox boxes;
 };
 
-TEST_F(Choosing, AFileIsFoundByWhatIsTyped) {
+TEST_F(Choosing, AFileIsFoundByTheTypedText) {
   for (const std::string& text :
        {std::string("a.jpg"), std::string(" a.jpg "), std::string("\"a.jpg\""), std::string("C:\\photos\\a.jpg"),
         std::string("C:/photos/a.jpg"), std::string("..\\photos\\a.jpg"), (disk.Path() / "photos/a.jpg").string()}) {
@@ -41,7 +41,7 @@ TEST_F(Choosing, AFileIsFoundByWhatIsTyped) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(Choosing, NothingComesOfAnEmptyBox) {
+TEST_F(Choosing, AnEmptyBoxChoosesNothing) {
   for (const char* text : {"", "  ", "\"\""}) {
     EXPECT_EQ(OpenOne().Ok("C:\\photos", text), Step::Stay) << text;
     EXPECT_EQ(Save().Ok("C:\\photos", text), Step::Stay) << text;
@@ -60,7 +60,7 @@ TEST_F(Choosing, AFileToOpenMustExist) {
   EXPECT_EQ(choice.Result().result, "");
 }
 
-TEST_F(Choosing, ANameThatAProjectCannotHoldIsReported) {
+TEST_F(Choosing, ANameThatAProjectCannotStoreIsReported) {
   disk.Write("photos/bell\a.jpg", "");
   EXPECT_EQ(OpenOne().Ok("C:\\photos", "bell\a.jpg"), Step::Stay);
   EXPECT_EQ(OpenSeveral().Ok("C:\\photos", "\"a.jpg\" \"bell\a.jpg\""), Step::Stay);
@@ -76,7 +76,7 @@ TEST_F(Choosing, ADriveWithoutAFolderIsReported) {
   EXPECT_EQ(boxes.boxes[0].text, "X:\\a.jpg\r\nPath does not exist.\r\nPlease check the path and try again.");
 }
 
-TEST_F(Choosing, TheNameOfAFolderLeadsIntoIt) {
+TEST_F(Choosing, TheNameOfAFolderOpensIt) {
   for (const std::string& text : {std::string(".."), std::string("C:\\"), disk.Path().string()}) {
     FileChoice choice = OpenOne();
     ASSERT_EQ(choice.Ok("C:\\photos", text), Step::EnterFolder) << text;
@@ -87,7 +87,7 @@ TEST_F(Choosing, TheNameOfAFolderLeadsIntoIt) {
   EXPECT_EQ(choice.Folder(), "C:\\photos\\");
 }
 
-TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItEndsInIt) {
+TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItHasIt) {
   FileChoice choice = Save();
   ASSERT_EQ(choice.Ok("C:\\", "new"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\new.gpj");
@@ -100,7 +100,7 @@ TEST_F(Choosing, ANameToSaveGetsTheDefaultExtensionUnlessItEndsInIt) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(Choosing, ANameToOpenGetsItOnlyIfThereIsNoSuchFile) {
+TEST_F(Choosing, ANameToOpenGetsTheExtensionOnlyIfThereIsNoSuchFile) {
   FileChoice choice = Choice({.defaultExtension = "gpj"});
   ASSERT_EQ(choice.Ok("C:\\", "my"), Step::Accept);
   EXPECT_EQ(choice.Result().result, "C:\\my.gpj");
@@ -108,7 +108,7 @@ TEST_F(Choosing, ANameToOpenGetsItOnlyIfThereIsNoSuchFile) {
   EXPECT_EQ(choice.Result().result, "C:\\photos\\README");
 }
 
-TEST_F(Choosing, AFileIsReplacedOnlyAfterAQuestion) {
+TEST_F(Choosing, AFileIsReplacedOnlyAfterConfirmation) {
   boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   FileChoice choice = Save();
   EXPECT_EQ(choice.Ok("C:\\", "my"), Step::Stay);
@@ -120,7 +120,7 @@ TEST_F(Choosing, AFileIsReplacedOnlyAfterAQuestion) {
   EXPECT_EQ(boxes.boxes[0].text, "my.gpj already exists.\r\nDo you want to replace it?");
 }
 
-TEST_F(Choosing, OfSeveralFilesTheResultIsTheTextOfTheBox) {
+TEST_F(Choosing, ForSeveralFilesTheResultIsTheTextOfTheBox) {
   FileChoice choice = OpenSeveral();
   ASSERT_EQ(choice.Ok("C:\\photos", "\"a.jpg\" \"b c.jpg\""), Step::Accept);
   EXPECT_EQ(choice.Result().result, "\"a.jpg\" \"b c.jpg\"");
@@ -128,7 +128,7 @@ TEST_F(Choosing, OfSeveralFilesTheResultIsTheTextOfTheBox) {
   EXPECT_EQ(choice.Result().names, (Names{"a.jpg", "b c.jpg"}));
 }
 
-TEST_F(Choosing, TypedPathsOfSeveralFilesSayTheirFolder) {
+TEST_F(Choosing, TypedPathsOfSeveralFilesGiveTheirFolder) {
   FileChoice choice = OpenSeveral();
   ASSERT_EQ(choice.Ok("C:\\other", "\"C:\\photos\\a.jpg\" \"..\\photos\\b c.jpg\""), Step::Accept);
   EXPECT_EQ(choice.Result().result, "\"a.jpg\" \"b c.jpg\"");
@@ -136,7 +136,7 @@ TEST_F(Choosing, TypedPathsOfSeveralFilesSayTheirFolder) {
   EXPECT_EQ(choice.Result().names, (Names{"a.jpg", "b c.jpg"}));
 }
 
-TEST_F(Choosing, SeveralFilesLieInOneFolder) {
+TEST_F(Choosing, SeveralFilesMustBeInOneFolder) {
   EXPECT_EQ(OpenSeveral().Ok("C:\\photos", "\"a.jpg\" \"C:\\other\\d.jpg\""), Step::Stay);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].text, "The files have to be in one folder.");
@@ -148,13 +148,13 @@ TEST_F(Choosing, EachOfSeveralFilesMustExist) {
   EXPECT_TRUE(boxes.boxes[0].text.starts_with("x.jpg\r\n"));
 }
 
-TEST_F(Choosing, AFolderAmongSeveralFilesIsNone) {
+TEST_F(Choosing, AFolderAmongSeveralFilesIsNotAFile) {
   EXPECT_EQ(OpenSeveral().Ok("C:\\", "\"my.gpj\" \"photos\""), Step::Stay);
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_TRUE(boxes.boxes[0].text.starts_with("photos\r\n"));
 }
 
-TEST_F(Choosing, ATypedNameWithoutAnExtensionIsNotTakenForTheFileBrowsedBefore) {
+TEST_F(Choosing, ATypedNameWithoutAnExtensionIsNotTheFileSelectedBefore) {
   FileChoice choice = OpenSeveral();
   choice.Browsed("C:\\photos\\a.jpg");
   ASSERT_EQ(choice.Ok("C:\\photos", "README"), Step::Accept);
@@ -171,7 +171,7 @@ TEST_F(Choosing, ANativePathBecomesPathText) {
   }
 }
 
-TEST_F(Choosing, WithoutDrivesAPathIsShownAsTheSystemWritesIt) {
+TEST_F(Choosing, WithoutDrivesPathsAreShownAsNativePaths) {
   const env::PathMap usual({}, disk.Path());
   const env::mFileFunctions usualFiles{usual, formats};
   FileChoice choice({.title = "Open"}, usualFiles, boxes);

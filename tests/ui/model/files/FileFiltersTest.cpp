@@ -6,7 +6,7 @@ namespace {
 
 using Patterns = std::vector<std::string>;
 
-TEST(FileFilters, TheFilterOfImagesHasThreeLines) {
+TEST(FileFilters, TheFilterOfImagesHasThreeEntries) {
   const std::vector<FileFilter> filters = ParseFileFilters(core::ImageFileFilter());
   ASSERT_EQ(filters.size(), 3U);
   EXPECT_EQ(filters[0].description, "All supported Formats");
@@ -22,7 +22,7 @@ struct Pattern {
   Patterns patterns;
 };
 
-TEST(FileFilters, PatternsBecomeThoseOfThisSystem) {
+TEST(FileFilters, PatternsAreConvertedToThoseOfQt) {
   const std::vector<Pattern> cases = {
       {"All Files (*.*)|*.*", {"*"}},
       {"Executables (*.exe)|*.exe", {"*"}},
@@ -39,7 +39,7 @@ TEST(FileFilters, PatternsBecomeThoseOfThisSystem) {
   }
 }
 
-TEST(FileFilters, AnEmptyTextHasNone) {
+TEST(FileFilters, AnEmptyTextHasNoFilters) {
   EXPECT_TRUE(ParseFileFilters("").empty());
 }
 

@@ -13,7 +13,7 @@ TEST(FileNameBox, TheFlagsFollowTheKindOfDialog) {
   EXPECT_EQ(FileDialogFlags({.open = false, .multiSelect = true}), 0x280206U);
 }
 
-TEST(FileNameBox, TheButtonSaysWhatBecomesOfTheFiles) {
+TEST(FileNameBox, TheButtonIsNamedAfterTheKindOfDialog) {
   EXPECT_EQ(AcceptButtonText({.open = true, .multiSelect = true, .preview = true}), "Add Images");
   EXPECT_EQ(AcceptButtonText({.open = true, .preview = true}), "Use Image");
   EXPECT_EQ(AcceptButtonText({.open = true}), "Open");
@@ -26,7 +26,7 @@ struct Cut {
   Names names;
 };
 
-TEST(FileNameBox, TheTextIsCutAtItsQuotes) {
+TEST(FileNameBox, TheTextIsSplitAtItsQuotes) {
   const std::vector<Cut> cases = {
       {"", {}},
       {"a.jpg", {"a.jpg"}},
@@ -44,19 +44,19 @@ TEST(FileNameBox, TheTextIsCutAtItsQuotes) {
   for (const Cut& row : cases) EXPECT_EQ(CutFileNames(row.text), row.names) << row.text;
 }
 
-TEST(FileNameBox, ASingleNameWithoutAnExtensionIsThatOfTheFileLastBrowsed) {
+TEST(FileNameBox, ASingleNameWithoutAnExtensionIsThatOfTheFileLastSelected) {
   EXPECT_EQ(ChosenFileNames("DSC1", "C:\\photos\\DSC1.jpg"), Names{"DSC1.jpg"});
   EXPECT_EQ(ChosenFileNames("\"DSC1\"", "C:\\photos\\DSC1.jpg"), Names{"DSC1.jpg"});
 }
 
-TEST(FileNameBox, OtherNamesStay) {
+TEST(FileNameBox, OtherNamesAreUnchanged) {
   EXPECT_EQ(ChosenFileNames("a.jpg", "C:\\photos\\b.jpg"), Names{"a.jpg"});
   EXPECT_EQ(ChosenFileNames("\"DSC1\" \"DSC2\"", "C:\\photos\\DSC2.jpg"), (Names{"DSC1", "DSC2"}));
   EXPECT_EQ(ChosenFileNames("DSC1", ""), Names{"DSC1"});
   EXPECT_EQ(ChosenFileNames("", "C:\\photos\\b.jpg"), Names{});
 }
 
-TEST(FileNameBox, NamesAreJoinedAsTheyAreCut) {
+TEST(FileNameBox, JoinedNamesAreSplitIntoTheSameNames) {
   EXPECT_EQ(JoinFileNames({"a b.jpg"}), "a b.jpg");
   EXPECT_EQ(JoinFileNames({"a b.jpg", "c.jpg"}), "\"a b.jpg\" \"c.jpg\"");
   EXPECT_EQ(JoinFileNames({}), "");
@@ -80,13 +80,13 @@ TEST_F(NameLimit, ATextOf1023CharactersIsTooLong) {
             "dialog a second time.");
 }
 
-TEST_F(NameLimit, OneOf1022CharactersIsNot) {
+TEST_F(NameLimit, ATextOf1022CharactersIsNotTooLong) {
   limit.SelectionChanged(1022);
   EXPECT_TRUE(limit.AllowsOk());
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(NameLimit, GoingDownTo1022AllowsOkAgain) {
+TEST_F(NameLimit, ShorteningTheTextTo1022CharactersEnablesOK) {
   limit.SelectionChanged(2000);
   limit.SelectionChanged(1022);
   EXPECT_TRUE(limit.AllowsOk());

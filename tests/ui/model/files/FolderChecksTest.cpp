@@ -7,10 +7,10 @@
 namespace vantorium::ui {
 namespace {
 
-/// Folders in memory, given by their paths. Counts the calls of In.
-class DrawnFolders : public Folders {
+/// Folders in memory, listed by their paths. Counts the calls of In.
+class FakeFolders : public Folders {
  public:
-  explicit DrawnFolders(const std::vector<std::string>& paths) {
+  explicit FakeFolders(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) Add(path);
   }
 
@@ -54,7 +54,7 @@ class Checking : public testing::Test {
     return paths;
   }
 
-  DrawnFolders folders{{"/p/2004/May", "/p/2005/June/Day 1", "/p/2005/July", "/q"}};
+  FakeFolders folders{{"/p/2004/May", "/p/2005/June/Day 1", "/p/2005/July", "/q"}};
   FolderChecks checks{folders};
   fakes::CountingEventLoop loop;
 };
@@ -65,7 +65,7 @@ TEST_F(Checking, NothingIsCheckedAtFirst) {
   EXPECT_EQ(Chosen(), Paths{});
 }
 
-TEST_F(Checking, AFolderIsCheckedByItself) {
+TEST_F(Checking, AFolderIsCheckedAlone) {
   checks.Check("/p/2005", true, false);
   EXPECT_TRUE(checks.AnyChecked());
   EXPECT_TRUE(checks.IsChecked("/p/2005"));
@@ -75,7 +75,7 @@ TEST_F(Checking, AFolderIsCheckedByItself) {
   EXPECT_EQ(folders.looks, 0);
 }
 
-TEST_F(Checking, WithRecursionAllBelowItIsCheckedToo) {
+TEST_F(Checking, WithRecursionAllSubfoldersAreCheckedToo) {
   checks.Check("/p/2005", true, true);
   EXPECT_TRUE(checks.IsChecked("/p/2005/June/Day 1"));
   EXPECT_FALSE(checks.IsChecked("/p/2004"));
@@ -83,7 +83,7 @@ TEST_F(Checking, WithRecursionAllBelowItIsCheckedToo) {
   EXPECT_EQ(Chosen(), (Paths{"/p/2005", "/p/2005/July", "/p/2005/June", "/p/2005/June/Day 1"}));
 }
 
-TEST_F(Checking, AFolderComesBeforeThoseInItAndTheseAreSortedByName) {
+TEST_F(Checking, AFolderIsListedBeforeItsSubfoldersWhichAreSortedByName) {
   checks.Check("/q", true, false);
   checks.Check("/p/2005/June", true, false);
   checks.Check("/p/2004", true, false);
@@ -92,7 +92,7 @@ TEST_F(Checking, AFolderComesBeforeThoseInItAndTheseAreSortedByName) {
   EXPECT_EQ(Chosen(), (Paths{"/p", "/p/2004", "/p/2005/july", "/p/2005/June", "/q"}));
 }
 
-TEST_F(Checking, AFolderBelowAMarkCanBeLeftOut) {
+TEST_F(Checking, ASubfolderOfACheckedFolderCanBeUnchecked) {
   checks.Check("/p", true, true);
   checks.Check("/p/2005", false, false);
   EXPECT_FALSE(checks.IsChecked("/p/2005"));
@@ -100,7 +100,7 @@ TEST_F(Checking, AFolderBelowAMarkCanBeLeftOut) {
   EXPECT_EQ(Chosen(), (Paths{"/p", "/p/2004", "/p/2004/May", "/p/2005/July", "/p/2005/June", "/p/2005/June/Day 1"}));
 }
 
-TEST_F(Checking, AndSoCanAllBelowIt) {
+TEST_F(Checking, AllSubfoldersOfACheckedFolderCanBeUnchecked) {
   checks.Check("/p", true, true);
   checks.Check("/p/2005", false, true);
   EXPECT_FALSE(checks.IsChecked("/p/2005/June"));
@@ -108,7 +108,7 @@ TEST_F(Checking, AndSoCanAllBelowIt) {
   EXPECT_EQ(Chosen(), (Paths{"/p", "/p/2004", "/p/2004/May", "/p/2005/July"}));
 }
 
-TEST_F(Checking, UncheckingWithRecursionTakesEverythingBack) {
+TEST_F(Checking, UncheckingWithRecursionUnchecksEverything) {
   checks.Check("/p/2005/June", true, false);
   checks.Check("/p/2004", true, true);
   checks.Check("/p", false, true);
@@ -122,7 +122,7 @@ TEST_F(Checking, TheRootCanBeChecked) {
   EXPECT_EQ(Chosen(), Paths{"/"});
 }
 
-TEST_F(Checking, ALinkIsOnlyCheckedByItself) {
+TEST_F(Checking, ALinkIsCheckedOnlyByItself) {
   folders.AddLink("/p/2005/all");
   folders.Add("/p/2005/all/inside");
   checks.Check("/p", true, true);
@@ -135,7 +135,7 @@ TEST_F(Checking, ALinkIsOnlyCheckedByItself) {
   EXPECT_EQ(std::count(chosen.begin(), chosen.end(), "/p/2005/all/inside"), 1);
 }
 
-TEST_F(Checking, ACircleOfLinksEnds) {
+TEST_F(Checking, ACycleOfLinksEnds) {
   folders.AddLink("/p/2005/back");
   folders.AddLink("/p/2005/back/2005");
   folders.AddLink("/p/2005/back/2005/back");
@@ -143,7 +143,7 @@ TEST_F(Checking, ACircleOfLinksEnds) {
   EXPECT_EQ(Chosen(), Paths{"/p/2005/back"});
 }
 
-TEST_F(Checking, AHiddenFolderIsOnlyCheckedByItself) {
+TEST_F(Checking, AHiddenFolderIsCheckedOnlyByItself) {
   folders.Add("/p/.trash/old");
   checks.Check("/p", true, true);
   EXPECT_FALSE(checks.IsChecked("/p/.trash"));
@@ -153,7 +153,7 @@ TEST_F(Checking, AHiddenFolderIsOnlyCheckedByItself) {
   EXPECT_EQ(std::count(chosen.begin(), chosen.end(), "/p/.trash/old"), 1);
 }
 
-TEST_F(Checking, ALongWalkGivesTheEventLoopItsTurnsAndCanBeStopped) {
+TEST_F(Checking, ALongWalkGivesTheEventLoopTurnsAndCanBeStopped) {
   for (int i = 0; i < 1000; ++i) folders.Add("/q/" + std::to_string(i));
   checks.Check("/q", true, true);
   EXPECT_EQ(Chosen().size(), 1001U);

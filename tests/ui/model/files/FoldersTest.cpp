@@ -16,13 +16,13 @@ TEST(LocalFolders, AreSortedByNameInAnyCase) {
   EXPECT_EQ(NamesIn(disk.Path()), (std::vector<std::string>{"A", "a", "b", "C", "Ärger", "ärger"}));
 }
 
-TEST(LocalFolders, HiddenOnesAreLeftOut) {
+TEST(LocalFolders, HiddenFoldersAreLeftOut) {
   const fakes::TemporaryFolder disk;
   for (const char* name : {".cache/x", "seen/x", "..odd/x"}) disk.Write(name, "");
   EXPECT_EQ(NamesIn(disk.Path()), std::vector<std::string>{"seen"});
 }
 
-TEST(LocalFolders, LinksToFoldersAreShownAsSuch) {
+TEST(LocalFolders, LinksToFoldersAreMarkedAsLinks) {
   const fakes::TemporaryFolder disk;
   disk.Write("real/file", "");
   std::filesystem::create_directory_symlink("real", disk.Path() / "linked");
@@ -34,7 +34,7 @@ TEST(LocalFolders, LinksToFoldersAreShownAsSuch) {
   EXPECT_FALSE(LocalFolders().IsLink(disk.Path() / "missing"));
 }
 
-TEST(LocalFolders, AreNoneInAFile) {
+TEST(LocalFolders, AFileHasNone) {
   const fakes::TemporaryFolder disk;
   EXPECT_TRUE(NamesIn(disk.Path() / "missing").empty());
   EXPECT_TRUE(NamesIn(disk.Write("file", "")).empty());

@@ -5,7 +5,7 @@
 namespace vantorium::ui {
 namespace {
 
-TEST(ImageSizeLabel, HasTheSizesOfThePictureAndOfItsFile) {
+TEST(ImageSizeLabel, HasTheSizesOfThePictureAndTheFile) {
   const fakes::TemporaryFolder folder;
   std::string jpeg = fakes::MakeJpeg({.width = 40, .height = 30});
   jpeg.resize(95 * 1024);  // bytes after the picture count for the file's size only
@@ -20,7 +20,7 @@ TEST(ImageSizeLabel, HasTheSizeOfTheUprightPhotographIfItIsTurned) {
   EXPECT_TRUE(ImageSizeLabel(file, true).starts_with("(30x40, "));
 }
 
-TEST(ImageSizeLabel, IsEmptyForWhatCannotBeRead) {
+TEST(ImageSizeLabel, IsEmptyForAnUnreadableFile) {
   const fakes::TemporaryFolder folder;
   EXPECT_EQ(ImageSizeLabel(std::nullopt), "");
   EXPECT_EQ(ImageSizeLabel(folder.Path() / "gone.jpg"), "");

@@ -15,7 +15,7 @@ struct DivisorCase {
   int divisor;
 };
 
-TEST(ReducedPicture, TheDivisorLeavesThePixelsThatAreShown) {
+TEST(ReducedPicture, TheDivisorKeepsAsManyPixelsAsAreShown) {
   for (const DivisorCase& c : std::vector<DivisorCase>{{{800, 600}, {800, 600}, 1},
                                                        {{1, 1}, {800, 600}, 1},
                                                        {{1599, 1199}, {800, 600}, 1},
@@ -30,7 +30,7 @@ TEST(ReducedPicture, TheDivisorLeavesThePixelsThatAreShown) {
   }
 }
 
-TEST(ReducedPicture, WithRoomForAllItEqualsTheDecodedFile) {
+TEST(ReducedPicture, WithEnoughRoomItEqualsTheDecodedFile) {
   const fakes::TemporaryFolder folder;
   const auto file = folder.Write("a.jpg", MakeJpeg({}));
   image::cDIBSection whole;
@@ -55,7 +55,7 @@ int AverageOf(const image::cDIBSection& whole, int x, int y, int side, int chann
   return sum / (side * side);
 }
 
-TEST(ReducedPicture, EveryKindOfFileLooksAsItDoesInFull) {
+TEST(ReducedPicture, EveryKindOfFileIsCloseToTheAveragedFullPicture) {
   const fakes::TemporaryFolder folder;
   for (JpegRecipe recipe : fakes::EveryKindOfJpeg()) {
     recipe.width = 64;
@@ -88,7 +88,7 @@ TEST(ReducedPicture, SidesAreRoundedUp) {
   EXPECT_EQ(dib.height(), 8);
 }
 
-TEST(ReducedPicture, AFileThatDoesNotDecodeWhollyIsNothing) {
+TEST(ReducedPicture, AFileThatCannotBeDecodedCompletelyGivesNothing) {
   const fakes::TemporaryFolder folder;
   image::cDIBSection dib;
   const image::PictureSize box = {.width = 10, .height = 10};
@@ -102,7 +102,7 @@ TEST(ReducedPicture, AFileThatDoesNotDecodeWhollyIsNothing) {
   EXPECT_TRUE(LoadReducedPicture(dib, folder.Write("good.jpg", jpeg), box));
 }
 
-TEST(ReducedPicture, AStopEndsIt) {
+TEST(ReducedPicture, AStopRequestEndsIt) {
   const fakes::TemporaryFolder folder;
   image::cDIBSection dib;
   std::stop_source stop;
@@ -111,7 +111,7 @@ TEST(ReducedPicture, AStopEndsIt) {
       LoadReducedPicture(dib, folder.Write("a.jpg", MakeJpeg({})), {.width = 10, .height = 10}, stop.get_token()));
 }
 
-TEST(ReducedPicture, APhotographIsTurnedAndReducedByItsUprightSize) {
+TEST(ReducedPicture, APhotographIsTurnedAndReducedToFitItsUprightSize) {
   const fakes::TemporaryFolder folder;
   const auto file = folder.Write("a.jpg", fakes::WithOrientation(MakeJpeg({.width = 160, .height = 80}), 6));
   image::cDIBSection dib;
@@ -123,7 +123,7 @@ TEST(ReducedPicture, APhotographIsTurnedAndReducedByItsUprightSize) {
   EXPECT_EQ(dib.height(), 20);
 }
 
-TEST(ReducedPicture, ItsColorsAreConvertedIfTheyAreToBeTrue) {
+TEST(ReducedPicture, ColorsAreConvertedOnRequest) {
   const fakes::TemporaryFolder folder;
   const std::string profile = fakes::ProfileOf(fakes::TestProfile::AdobeRGB);
   const auto red = fakes::InProfile(profile, {200, 60, 40});

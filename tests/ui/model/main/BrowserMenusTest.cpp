@@ -16,7 +16,7 @@ std::vector<env::Browser> Browsers(int count) {
   return browsers;
 }
 
-/// The entries, each as a line "position text key".
+/// The entries, one per line: "position text key".
 std::string Lines(const std::vector<BrowserMenuEntry>& entries) {
   std::string lines;
   for (std::size_t i = 0; i < entries.size(); ++i) {
@@ -26,7 +26,7 @@ std::string Lines(const std::vector<BrowserMenuEntry>& entries) {
   return lines;
 }
 
-TEST(BrowserMenus, AnEmptyListLeavesTheDefaultBrowserASeparatorAndTheDialog) {
+TEST(BrowserMenus, AnEmptyListHasTheDefaultBrowserASeparatorAndTheDialog) {
   const BrowserMenus menus = RebuildBrowserMenus({});
   EXPECT_EQ(Lines(menus.DropDown),
             "1 ...in Default Browser default\n"
@@ -47,7 +47,7 @@ TEST(BrowserMenus, EachBrowserHasAnEntryBetweenTwoSeparatorsAndOneInTheMenu) {
   EXPECT_EQ(menus.ViewBrowser, (std::vector<std::string>{"...in One", "...in Two & more"}));
 }
 
-TEST(BrowserMenus, ABrowserOfAnyNameIsNotASeparator) {
+TEST(BrowserMenus, ABrowserWithAnyNameIsNotASeparator) {
   for (const char* name : {"", "-", "default", "available"}) {
     const BrowserMenus menus = RebuildBrowserMenus({{name, "C:\\1"}});
     EXPECT_EQ(menus.DropDown.at(2), (BrowserMenuEntry{std::string("...in ") + name, "browser1"})) << name;
@@ -55,7 +55,7 @@ TEST(BrowserMenus, ABrowserOfAnyNameIsNotASeparator) {
   }
 }
 
-TEST(BrowserMenus, EveryCountOfBrowsersHasItsPositions) {
+TEST(BrowserMenus, PositionsAreRightForEveryCountOfBrowsers) {
   for (int count = 1; count <= 8; ++count) {
     const BrowserMenus menus = RebuildBrowserMenus(Browsers(count));
     const auto size = static_cast<std::size_t>(count);
@@ -66,7 +66,7 @@ TEST(BrowserMenus, EveryCountOfBrowsersHasItsPositions) {
   }
 }
 
-TEST(BrowserMenus, AClickOnEachEntryMeansItsBrowser) {
+TEST(BrowserMenus, AClickOnAnEntryChoosesItsBrowser) {
   using Kind = BrowserClick::Kind;
   const BrowserMenus menus = RebuildBrowserMenus(Browsers(8));
   const auto click = [&](int position) {
@@ -78,14 +78,14 @@ TEST(BrowserMenus, AClickOnEachEntryMeansItsBrowser) {
   EXPECT_EQ(click(12), (BrowserClick{Kind::List, 0}));
 }
 
-TEST(BrowserMenus, TheKeyDecidesBeforeThePosition) {
+TEST(BrowserMenus, TheKeyTakesPrecedenceOverThePosition) {
   using Kind = BrowserClick::Kind;
   EXPECT_EQ(DropDownClick(6, "default", 5), (BrowserClick{Kind::View, 0}));
   EXPECT_EQ(DropDownClick(6, "available", 3), (BrowserClick{Kind::List, 0}));
   EXPECT_EQ(DropDownClick(6, "browser1", 4), (BrowserClick{Kind::View, 2}));
 }
 
-TEST(BrowserMenus, AnotherButtonsListMeansNothing) {
+TEST(BrowserMenus, TheListOfAnotherButtonIsIgnored) {
   for (const int button : {0, 1, 5, 7, -6}) {
     for (const char* key : {"default", "available", "browser1"}) {
       EXPECT_EQ(DropDownClick(button, key, 1), BrowserClick{}) << button << " " << key;

@@ -56,7 +56,7 @@ TEST_F(BrowserTableTest, EveryOpeningReversesTheStoredOrder) {
   EXPECT_EQ(browsers, (Browsers{{"a", "1"}, {"b", "2"}}));
 }
 
-TEST_F(BrowserTableTest, TheUsersStepsAreUndoneFromTheTop) {
+TEST_F(BrowserTableTest, EditsApplyToTheListAsItIsShown) {
   Browsers browsers = {{"a", "1"}, {"b", "2"}};
   dialog.Types("c", "3");
   host.user = [](BrowserList& list) {
@@ -69,7 +69,7 @@ TEST_F(BrowserTableTest, TheUsersStepsAreUndoneFromTheTop) {
   EXPECT_EQ(host.journal.at(1), "menus of 2");
 }
 
-TEST_F(BrowserTableTest, AnEmptiedListHasACountOfZeroAndLeavesTheOldEntriesUnread) {
+TEST_F(BrowserTableTest, AnEmptyListHasACountOfZeroAndOldEntriesAreNotRead) {
   folder.Write("vantorium.ini", "; mine\n[BROWSERS]\nCount=\"1\"\nName1=\"a\"\nLocation1=\"1\"\n");
   Browsers browsers = {{"a", "1"}};
   host.user = [](BrowserList& list) {
@@ -81,7 +81,7 @@ TEST_F(BrowserTableTest, AnEmptiedListHasACountOfZeroAndLeavesTheOldEntriesUnrea
   EXPECT_EQ(folder.Read("vantorium.ini"), "; mine\n[BROWSERS]\nCount=\"0\"\nName1=\"a\"\nLocation1=\"1\"\n");
 }
 
-TEST_F(BrowserTableTest, ANinthBrowserOfAnEditHoldsUntilTheProgramEnds) {
+TEST_F(BrowserTableTest, ANinthBrowserOfAnEditIsKeptUntilTheProgramEnds) {
   Browsers browsers = Numbered(8);
   dialog.Types("x", "y");
   host.user = [](BrowserList& list) {
@@ -94,14 +94,14 @@ TEST_F(BrowserTableTest, ANinthBrowserOfAnEditHoldsUntilTheProgramEnds) {
   EXPECT_EQ(env::ReadINIInteger("BROWSERS", "Count", file), 8);
 }
 
-TEST_F(BrowserTableTest, TheFilesFolderIsMadeWhenItIsMissing) {
+TEST_F(BrowserTableTest, TheFolderOfTheFileIsCreatedIfMissing) {
   file = folder.Path() / "a/b/vantorium.ini";
   Browsers browsers = {{"a", "1"}};
   EXPECT_TRUE(Edit(browsers));
   EXPECT_EQ(env::ReadINIString("BROWSERS", "Name1", file), "a");
 }
 
-TEST_F(BrowserTableTest, AFileThatCannotBeWrittenLeavesTheListAndTheStatusEmpty) {
+TEST_F(BrowserTableTest, AFailedWriteKeepsTheListAndClearsTheStatus) {
   file = folder.Write("file", "x") / "vantorium.ini";
   Browsers browsers = {{"a", "1"}, {"b", "2"}};
   EXPECT_FALSE(Edit(browsers));

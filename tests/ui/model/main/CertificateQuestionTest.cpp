@@ -30,11 +30,11 @@ class CertificateQuestionTest : public testing::Test {
                                             .doubt = "self-signed certificate"};
 };
 
-TEST_F(CertificateQuestionTest, ShowsTheCertificateAndRemembersTheYes) {
+TEST_F(CertificateQuestionTest, ShowsTheCertificateAndRemembersAYes) {
   EXPECT_TRUE(question.Accepts("one.example.org", certificate));
   ASSERT_EQ(boxes.boxes.size(), 1U);
   EXPECT_EQ(boxes.boxes[0].kind, env::BoxKind::Question);
-  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo) << "where Return and Escape mean No";
+  EXPECT_EQ(boxes.boxes[0].buttons, env::BoxButtons::YesNo) << "Return and Escape mean No";
   for (const std::string& part :
        {std::string("one.example.org"), certificate.subject, certificate.issuer, certificate.validFrom,
         certificate.validUntil, certificate.fingerprint, certificate.doubt}) {

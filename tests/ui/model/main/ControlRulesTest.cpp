@@ -29,7 +29,7 @@ std::string SizeControls(const std::string& page, const core::GalleryProject& pr
   return shown;
 }
 
-TEST(ControlRules, NameEachControlOnceAProperty) {
+TEST(ControlRules, NameEachControlOncePerProperty) {
   std::set<std::pair<std::string_view, ControlProperty>> seen;
   for (const ControlRule& rule : ControlRules()) {
     EXPECT_TRUE(seen.insert({rule.control, rule.property}).second) << rule.control;
@@ -48,7 +48,7 @@ TEST(ControlRules, WithoutAnAspectRatioBothSizesAreShownAndSetWidthIsHidden) {
   }
 }
 
-TEST(ControlRules, WithAnAspectRatioOneSizeIsShown) {
+TEST(ControlRules, WithAnAspectRatioOnlyOneSizeIsShown) {
   for (const core::Flag setWidth : {core::Flag{0}, core::Flag{1}}) {
     core::GalleryProject project;
     project.checkImageWrapperImageKeepAspectRatio = 1;
@@ -72,7 +72,7 @@ TEST(ControlRules, OnlyTheSingleFrameHasASlideShowAndAnIndexLink) {
   }
 }
 
-TEST(ControlRules, TheSlideShowShowsWhatItsChoicesUse) {
+TEST(ControlRules, TheSlideShowShowsOnlySettingsThatItsChoicesUse) {
   core::GalleryProject project;
   EXPECT_FALSE(Holds("frmFrameLayoutSlideShow", project));
   project.checkGallerySlideShow = 1;
@@ -92,7 +92,7 @@ TEST(ControlRules, TheSlideShowShowsWhatItsChoicesUse) {
   }
 }
 
-TEST(ControlRules, WithoutWrappersTheirFramesAreHidden) {
+TEST(ControlRules, WithoutWrapperPagesTheirFramesAreHidden) {
   core::GalleryProject project;
   for (const char* frame : {"frmImageWrapperCodeSettings", "frmImageWrapperImageSettings", "frmPageLinksOnImagePages",
                             "frmCaptionsImages"}) {
@@ -103,7 +103,7 @@ TEST(ControlRules, WithoutWrappersTheirFramesAreHidden) {
   }
 }
 
-TEST(ControlRules, ASwitchEnablesWhatItIsAbout) {
+TEST(ControlRules, ACheckBoxEnablesItsControls) {
   struct Case {
     core::Flag core::GalleryProject::*flag;
     const char* control;
@@ -131,7 +131,7 @@ TEST(ControlRules, ASwitchEnablesWhatItIsAbout) {
   }
 }
 
-TEST(ControlRules, KeptImageSizesHideTheSizeSettings) {
+TEST(ControlRules, KeepingTheImageSizeHidesTheSizeSettings) {
   core::GalleryProject project;
   EXPECT_TRUE(Holds("frmImageWrapperImageSettingsSub", project));
   project.checkImageWrapperImageKeepSize = 1;

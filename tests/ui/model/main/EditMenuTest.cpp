@@ -7,7 +7,7 @@
 namespace vantorium::ui {
 namespace {
 
-/// The letter of each enabled entry and a dot for each disabled one, without separators.
+/// A letter for each enabled entry and a dot for each disabled one, without separators.
 std::string Enabled(const TextBoxState& state) {
   std::string letters;
   for (const EditMenuEntry& entry : EditMenuEntries()) {
@@ -28,7 +28,7 @@ TEST(EditMenu, HasItsEntriesInOrder) {
             (std::vector<std::string_view>{"&Undo", "", "Cu&t", "&Copy", "&Paste", "C&lear", "", "Select &All"}));
 }
 
-TEST(EditMenu, EntriesAreEnabledByTheBoxAndTheClipboard) {
+TEST(EditMenu, EntriesAreEnabledDependingOnTheBoxAndTheClipboard) {
   struct Case {
     TextBoxState state;
     const char* enabled;

@@ -20,13 +20,13 @@ class MainHostTest : public testing::Test {
   MainHost host{project, colors, 2121};
 };
 
-TEST_F(MainHostTest, TheTitleBarNamesTheProjectsFile) {
+TEST_F(MainHostTest, TheTitleBarNamesTheProjectFile) {
   project.ProjectFileName = "a [b].gpj";
   host.RefreshTitleBar();
   EXPECT_EQ(calls, (Calls{"title Vantorium 3.0 - [a [b].gpj]"}));
 }
 
-TEST_F(MainHostTest, TheNumberOfImagesComesWithThatOfTheirPages) {
+TEST_F(MainHostTest, TheNumberOfImagesIsShownWithTheNumberOfPages) {
   project.settings.textThumbnailsTableRows = "1";
   project.settings.textThumbnailsTableColumns = "2";
   for (int i = 0; i < 3; ++i) project.images.Insert(1, {});
@@ -37,14 +37,14 @@ TEST_F(MainHostTest, TheNumberOfImagesComesWithThatOfTheirPages) {
   EXPECT_EQ(calls, (Calls{"pages: 3 Images on 2 Pages"}));
 }
 
-TEST_F(MainHostTest, ThePointerAndTheStatusReachTheWindow) {
+TEST_F(MainHostTest, PointerAndStatusAreForwardedToTheWindow) {
   host.ShowBusyPointer(true);
   host.ShowBusyPointer(false);
   host.SetStatusText("a");
   EXPECT_EQ(calls, (Calls{"busy", "idle", "status a"}));
 }
 
-TEST_F(MainHostTest, ARunUsesThePortForServersThatTheProgramWasGiven) {
+TEST_F(MainHostTest, ARunUsesTheFTPPortOfTheProgram) {
   windows.order.emplace().ServerAddress = "host";
   const auto order = host.AskWhatToCreate();
   ASSERT_TRUE(order);

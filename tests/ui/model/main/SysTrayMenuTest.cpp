@@ -42,7 +42,7 @@ TEST(SysTrayMenu, EntriesAreCountedFromZero) {
   EXPECT_FALSE(menu.Items()[0].IsSeparator());
 }
 
-TEST(SysTrayMenu, TheLastEntryThatAsksForItIsTheDefault) {
+TEST(SysTrayMenu, TheLastEntryAddedAsDefaultIsTheDefault) {
   SysTrayMenu menu;
   menu.AddMenuItem("a", "1", true);
   menu.AddMenuItem("b", "2", true);
@@ -50,7 +50,7 @@ TEST(SysTrayMenu, TheLastEntryThatAsksForItIsTheDefault) {
   EXPECT_EQ(Told(menu), "[a=1][*b=2][c=3]");
 }
 
-TEST(SysTrayMenu, TheDefaultCanBeSetAndTakenAway) {
+TEST(SysTrayMenu, TheDefaultCanBeSetAndRemoved) {
   SysTrayMenu menu = MenuOf(3);
   menu.SetDefaultMenuIndex(2);
   EXPECT_EQ(menu.DefaultMenuIndex(), 2);
@@ -61,7 +61,7 @@ TEST(SysTrayMenu, TheDefaultCanBeSetAndTakenAway) {
   }
 }
 
-TEST(SysTrayMenu, EntriesAreDisabledAndEnabled) {
+TEST(SysTrayMenu, EntriesCanBeDisabledAndEnabled) {
   SysTrayMenu menu = MenuOf(3);
   menu.EnableMenuItem(1, false);
   EXPECT_EQ(Told(menu), "[0=key0][1=key1!][2=key2]");
@@ -90,18 +90,18 @@ TEST(SysTrayMenu, EntriesAfterARemovedOneMoveUp) {
   EXPECT_EQ(menu.AddMenuItem("new", "new"), 2);
 }
 
-TEST(SysTrayMenu, BeingDisabledStaysWithThePlace) {
+TEST(SysTrayMenu, TheDisabledStateStaysWithTheIndex) {
   SysTrayMenu menu = MenuOf(4);
   menu.EnableMenuItem(1, false);
   menu.RemoveMenuItem(1);
   EXPECT_EQ(Told(menu), "[0=key0][2=key2!][3=key3]");
 }
 
-TEST(SysTrayMenu, TheFirstEntryStaysWithoutACaption) {
+TEST(SysTrayMenu, TheFirstEntryRemainsWithoutACaption) {
   SysTrayMenu menu = MenuOf(2);
   menu.RemoveMenuItem(0);
   EXPECT_EQ(Told(menu), "[=key0][1=key1]");
-  EXPECT_EQ(menu.AddMenuItem("2", "key2"), 2) << "it is not free again";
+  EXPECT_EQ(menu.AddMenuItem("2", "key2"), 2) << "the index is not reused";
 }
 
 TEST(SysTrayMenu, RemovingTheDefaultLeavesNone) {
@@ -113,7 +113,7 @@ TEST(SysTrayMenu, RemovingTheDefaultLeavesNone) {
   }
 }
 
-TEST(SysTrayMenu, AnotherDefaultKeepsItsNumberWhileThereIsSuchAnEntry) {
+TEST(SysTrayMenu, TheDefaultKeepsItsIndexWhileSuchAnEntryExists) {
   SysTrayMenu menu = MenuOf(4);
   menu.SetDefaultMenuIndex(2);
   menu.RemoveMenuItem(1);
@@ -129,7 +129,7 @@ std::string TipOf(const std::string& text) {
   return menu.ToolTip();
 }
 
-TEST(SysTrayMenu, TheTipIsCutAt63Characters) {
+TEST(SysTrayMenu, TheTipIsTruncatedTo63Characters) {
   EXPECT_EQ(TipOf(""), "");
   EXPECT_EQ(TipOf("Vantorium 3.0"), "Vantorium 3.0");
   for (const std::size_t length : {63U, 64U, 1000U}) {
@@ -137,7 +137,7 @@ TEST(SysTrayMenu, TheTipIsCutAt63Characters) {
   }
   std::string text(62, 'x');
   text.append("ÄÖ");
-  EXPECT_EQ(TipOf(text), text.substr(0, 64)) << "a character of two bytes is one";
+  EXPECT_EQ(TipOf(text), text.substr(0, 64)) << "a character of two bytes counts as one";
 }
 
 TEST(SysTrayMenu, TheTipEndsAtTheFirstNul) {
@@ -146,7 +146,7 @@ TEST(SysTrayMenu, TheTipEndsAtTheFirstNul) {
   EXPECT_EQ(TipOf("\0two"s), "");
 }
 
-TEST(SysTrayMenu, TheProgramHasItsWindowHelpAboutAndClose) {
+TEST(SysTrayMenu, TheMenuOfTheProgramHasWindowHelpAboutAndClose) {
   const SysTrayMenu menu = VantoriumSysTrayMenu();
   EXPECT_EQ(Told(menu), "[*&Vantorium=vantorium][-=][&Help=help][&About...=about][-=][&Close=close]");
   EXPECT_EQ(menu.ToolTip(), "Vantorium 3.0");

@@ -15,7 +15,7 @@ std::set<std::string_view> KnownTags() {
   return tags;
 }
 
-TEST(TagMenu, HoldsEveryTagThatPagesReplaceOnceAndNoOther) {
+TEST(TagMenu, HasEveryTagOfPagesOnceAndNoOther) {
   std::set<std::string_view> offered;
   for (const TagMenu& menu : TagMenus()) {
     for (const TagMenuEntry& entry : menu.entries) {
@@ -28,12 +28,12 @@ TEST(TagMenu, HoldsEveryTagThatPagesReplaceOnceAndNoOther) {
   EXPECT_EQ(offered, KnownTags());
 }
 
-TEST(TagMenu, TheShortListForTextFieldsHasTagsThatPagesReplace) {
+TEST(TagMenu, TheShortListForTextFieldsHasOnlyTagsOfPages) {
   ASSERT_EQ(PopupTextTags().size(), 5U);
   for (const TagMenuEntry& entry : PopupTextTags()) EXPECT_TRUE(KnownTags().contains(entry.tag)) << entry.caption;
 }
 
-TEST(TagMenu, HasFourMenusOfTheirSizes) {
+TEST(TagMenu, HasFourMenus) {
   struct Case {
     const char* name;
     const char* caption;

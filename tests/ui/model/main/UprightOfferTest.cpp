@@ -18,7 +18,7 @@ class UprightOfferTest : public testing::Test {
     entry.SourcePath = drive + name;
     project.images.Insert(position == 0 ? project.images.Count() + 1 : position, entry);
   }
-  /// The names of the added photographs to look at, then "|" and those of the earlier ones; "none" if nothing is.
+  /// The names of the added photographs to examine, then "|" and those of the earlier ones; "none" if there are none.
   [[nodiscard]] std::string Looked() const {
     const auto search = offer.AfterAdding();
     if (!search) return "none";
@@ -36,22 +36,22 @@ class UprightOfferTest : public testing::Test {
   UprightOffer offer{project, paths};
 };
 
-TEST_F(UprightOfferTest, WhatWasAddedIsLookedAtWhereverItIsInTheList) {
+TEST_F(UprightOfferTest, AddedPhotographsAreExaminedWhereverTheyAreInTheList) {
   Add("a.jpg");
   offer.BeforeAdding();
   EXPECT_EQ(Looked(), "none");
   Add("b.jpg", 1);
   Add("a.jpg");
-  EXPECT_EQ(Looked(), "b.jpg a.jpg | a.jpg") << "the same file once more";
+  EXPECT_EQ(Looked(), "b.jpg a.jpg | a.jpg") << "the same file again";
 }
 
-TEST_F(UprightOfferTest, APathThatNamesNoPlaceIsNotLookedAt) {
+TEST_F(UprightOfferTest, APathWithoutAPlaceIsNotExamined) {
   offer.BeforeAdding();
   Add("x.jpg", 1, "Q:\\");
   EXPECT_EQ(Looked(), "none");
 }
 
-TEST_F(UprightOfferTest, TheUserIsAskedOnceForAProject) {
+TEST_F(UprightOfferTest, TheUserIsAskedOncePerProject) {
   boxes.answers = {env::BoxAnswer::No, env::BoxAnswer::Yes};
   EXPECT_FALSE(offer.Ask(boxes));
   EXPECT_FALSE(offer.Ask(boxes));
@@ -69,7 +69,7 @@ TEST_F(UprightOfferTest, TheUserIsAskedOnceForAProject) {
   EXPECT_TRUE(offer.Ask(boxes));
 }
 
-TEST_F(UprightOfferTest, NothingIsAskedIfThePhotographsAreTurnedAlready) {
+TEST_F(UprightOfferTest, NothingIsAskedIfTheProjectAlreadyTurnsPhotographs) {
   project.settings.checkImagesUpright = 1;
   offer.BeforeAdding();
   Add("a.jpg");
@@ -78,7 +78,7 @@ TEST_F(UprightOfferTest, NothingIsAskedIfThePhotographsAreTurnedAlready) {
   EXPECT_TRUE(boxes.boxes.empty());
 }
 
-TEST_F(UprightOfferTest, PhotographsThatLieAreFoundTheFirstTimeTheyAreAdded) {
+TEST_F(UprightOfferTest, TurnedPhotographsAreFoundTheFirstTimeTheyAreAdded) {
   const std::string jpeg = fakes::MakeJpeg({});
   const auto upright = folder.Write("upright.jpg", jpeg);
   const auto said = folder.Write("said.jpg", fakes::WithOrientation(jpeg, 1));
@@ -87,12 +87,12 @@ TEST_F(UprightOfferTest, PhotographsThatLieAreFoundTheFirstTimeTheyAreAdded) {
   const auto missing = folder.Path() / "missing.jpg";
   EXPECT_TRUE(FindsFirstLying({{upright, text, missing, lying}, {}}, {}));
   EXPECT_TRUE(FindsFirstLying({{lying}, {upright, said, missing}}, {}));
-  EXPECT_FALSE(FindsFirstLying({{lying}, {upright, lying}}, {})) << "there was one before";
+  EXPECT_FALSE(FindsFirstLying({{lying}, {upright, lying}}, {})) << "the project had one before";
   EXPECT_FALSE(FindsFirstLying({{upright, said, text, missing}, {}}, {}));
   EXPECT_FALSE(FindsFirstLying({{}, {}}, {}));
 }
 
-TEST_F(UprightOfferTest, OnlyTheHeaderOfAFileIsNeeded) {
+TEST_F(UprightOfferTest, OnlyTheHeaderOfAFileIsRead) {
   const std::string jpeg = fakes::WithOrientation(fakes::MakeJpeg({.width = 200, .height = 200}), 3);
   EXPECT_TRUE(FindsFirstLying({{folder.Write("cut.jpg", jpeg.substr(0, fakes::PictureDataOf(jpeg)))}, {}}, {}));
 }

@@ -3,8 +3,8 @@
 #include "env/SystemClock.h"
 #include "tests/fakes/CountingEventLoop.h"
 #include "tests/fakes/JpegMaker.h"
-#include "tests/fakes/RecordingDesktop.h"
 #include "tests/fakes/RecordingMessageBox.h"
+#include "tests/fakes/RecordingShell.h"
 #include "tests/fakes/ScriptedFileBrowser.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/ui/FormDriver.h"
@@ -17,10 +17,10 @@
 
 namespace vantorium::fakes {
 
-/// The image list's page with everything that it uses, and a folder for its images.
-class ImagesDesk : public core::ImageListDisplay {
+/// The page of the image list with its ports, and a folder for its images.
+class ImagesPageHarness : public core::ImageListDisplay {
  public:
-  ImagesDesk() {
+  ImagesPageHarness() {
     page = std::make_unique<ui::frmImages>(ui::frmImages::Parts{.project = project,
                                                                 .images = operations,
                                                                 .binder = binder,
@@ -95,7 +95,7 @@ class ImagesDesk : public core::ImageListDisplay {
   core::Project project;
   RecordingMessageBox boxes;
   CountingEventLoop loop;
-  RecordingDesktop shell;
+  RecordingShell shell;
   env::SystemClock clock;
   env::PathMap paths{{{'C', "/"}, {'Z', "/"}}};
   env::RegionalFormats formats;

@@ -13,8 +13,8 @@
 
 namespace vantorium::core {
 
-/// A project whose images are files on drive C:, which is a temporary folder.
-class ImageListDesk : public testing::Test {
+/// A project and its image list. Drive C: is a temporary folder.
+class ImageListFixture : public testing::Test {
  protected:
   using Calls = std::vector<std::string>;
   using Names = std::vector<std::string>;
@@ -23,7 +23,7 @@ class ImageListDesk : public testing::Test {
     return folder.Write(name, std::string(size, 'x'));
   }
 
-  /// Adds an image with its own file for each name.
+  /// Writes a file for each name and adds it as an image.
   void Fill(const Names& names) {
     for (const std::string& name : names) {
       WriteFile(name);

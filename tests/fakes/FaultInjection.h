@@ -12,7 +12,7 @@
 
 namespace vantorium::fakes {
 
-/// While it lives, no file can grow beyond `bytes`, as on a full disk.
+/// While it exists, no file can grow beyond `bytes`, as on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) : oldAction_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -32,7 +32,7 @@ class FullDisk {
   void (*oldAction_)(int);
 };
 
-/// While it lives, the process can allocate at most `bytes` more of address space.
+/// While it exists, the process can allocate at most `bytes` more address space.
 class MemoryLimit {
  public:
   explicit MemoryLimit(std::uint64_t bytes) {
@@ -50,7 +50,7 @@ class MemoryLimit {
   rlimit old_ = {};
 };
 
-/// While it lives, nothing can be created or removed in `folder`. Tests that run as root give up root's rights
+/// While it exists, nothing can be created or removed in `folder`. Tests that run as root give up root's rights
 /// meanwhile.
 class LockedFolder {
  public:
@@ -79,7 +79,7 @@ class LockedFolder {
   bool isRoot_ = false;
 };
 
-/// While it lives, sets an environment variable, or removes it if `value` is null.
+/// While it exists, sets an environment variable, or removes it if `value` is null.
 class EnvironmentVariable {
  public:
   EnvironmentVariable(const char* name, const char* value) : name_(name) {

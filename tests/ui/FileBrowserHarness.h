@@ -12,10 +12,10 @@
 
 namespace vantorium::fakes {
 
-/// A disk, drive C:, with some photographs for the dialogs that choose files and folders.
-class BrowserDesk {
+/// Drive C: with some photographs, for tests of the dialogs that choose files and folders.
+class FileBrowserHarness {
  public:
-  BrowserDesk() {
+  FileBrowserHarness() {
     // Qt saves the state of its file dialog in the settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, Native("settings"));
     disk.Write("photos/a.jpg", MakeJpeg({.width = 40, .height = 30}));

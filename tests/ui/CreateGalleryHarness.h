@@ -11,15 +11,16 @@
 
 namespace vantorium::fakes {
 
-/// Whether a control has its window's focus. Without a screen no window becomes active after a dialog ends.
+/// Whether a control has its window's focus. QWidget::hasFocus would not do: without a screen, no window becomes active
+/// after a dialog ends.
 inline bool GetsFocus(QWidget& form, const char* name) {
   return form.focusWidget() == &Find<QWidget>(form, name);
 }
 
-/// A program folder with a server list, and everything that the dialogs before a run use.
-class PublishDesk {
+/// A program folder with a server list, and the ports of frmCreateGallery and frmPublish.
+class CreateGalleryHarness {
  public:
-  PublishDesk() { WriteServers(0); }
+  CreateGalleryHarness() { WriteServers(0); }
 
   void WriteServers(std::size_t selected) const { publish::WriteServerList({kOne, kTwo}, selected, ServerFile()); }
   [[nodiscard]] std::filesystem::path ServerFile() const { return publish::ServerListFileName(program.Path()); }

@@ -7,8 +7,8 @@
 
 namespace vantorium::fakes {
 
-/// Records the calls.
-class RecordingDesktop : public env::Shell {
+/// Records the calls; starts and opens nothing.
+class RecordingShell : public env::Shell {
  public:
   void Beep(env::BeepKind kind) override { beeps.push_back(kind); }
   void OpenFile(const std::string& path) override { opened.push_back(path); }

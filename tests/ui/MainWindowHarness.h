@@ -1,17 +1,11 @@
 #pragma once
 
-#include "tests/fakes/BoxTextRaster.h"
-#include "tests/fakes/FixedClock.h"
 #include "tests/fakes/JpegMaker.h"
-#include "tests/fakes/RecordingDesktop.h"
 #include "tests/fakes/RecordingMessageBox.h"
-#include "tests/fakes/ScriptedCommonDialogs.h"
-#include "tests/fakes/ScriptedFileBrowser.h"
-#include "tests/fakes/ScriptedFolderBrowser.h"
-#include "tests/fakes/TemporaryFolder.h"
+#include "tests/fakes/RecordingShell.h"
 #include "tests/ui/FormDriver.h"
+#include "tests/ui/model/DesktopFakes.h"
 #include "ui/main/frmMain.h"
-#include "ui/model/main/MainModel.h"
 #include "ui/ports/QtEventLoop.h"
 #include "ui/qt/QtText.h"
 
@@ -21,24 +15,15 @@
 
 namespace vantorium::fakes {
 
-/// The main window with a temporary folder, drive T:, and with scripted answers. The program's folder is T:\program;
-/// its bundled files are in T:\data.
-class MainDesk {
+/// The main window with scripted answers.
+class MainWindowHarness : public DesktopFakes {
  public:
-  MainDesk() { folder.Write("data/preview.jpg", MakeJpeg({})); }
+  MainWindowHarness() { folder.Write("data/preview.jpg", MakeJpeg({})); }
 
   /// Creates the window and starts it as the program does.
   void Start(const std::string& commandLine = {}) {
     window.reset();
-    model = std::make_unique<ui::MainModel>(
-        ui::DesktopPorts{{paths, formats, files, boxes, loop, shell, clock, screen, texts, 2},
-                         dialogs,
-                         fileBrowser,
-                         folderBrowser,
-                         folder.Path() / "program",
-                         bundled,
-                         {3, 0, 1},
-                         ftpPort});
+    model = std::make_unique<ui::MainModel>(Ports(boxes, loop, shell, 2, ftpPort));
     window = std::make_unique<ui::frmMain>(*model);
     QObject::connect(window.get(), &ui::frmMain::Closed, [this] { ++closed; });
     window->Start(commandLine);
@@ -66,20 +51,9 @@ class MainDesk {
   [[nodiscard]] std::string Title() const { return ui::FromQt(window->windowTitle()); }
   [[nodiscard]] std::string TitleOfLastBox() const { return boxes.boxes.empty() ? "" : boxes.boxes.back().title; }
 
-  TemporaryFolder folder;
-  env::PathMap paths{{{'T', folder.Path().string()}}};
-  env::RegionalFormats formats;
-  env::mFileFunctions files{paths, formats};
   RecordingMessageBox boxes;
   ui::QtEventLoop loop;
-  RecordingDesktop shell;
-  FixedClock clock;
-  env::Screen screen;
-  BoxTextRaster texts{20, 10};
-  ScriptedCommonDialogs dialogs;
-  ScriptedFileBrowser fileBrowser;
-  ScriptedFolderBrowser folderBrowser;
-  env::BundledFiles bundled{{folder.Path() / "program", folder.Path() / "data"}};
+  RecordingShell shell;
   std::unique_ptr<ui::MainModel> model;
   std::unique_ptr<ui::frmMain> window;
   std::uint16_t ftpPort = 21;

@@ -1,16 +1,16 @@
 #include "core/generation/GenerateGallery.h"
 #include "tests/core/generation/RunFixture.h"
 #include "tests/core/generation/ThreadLimit.h"
-#include "tests/fakes/Hindrances.h"
+#include "tests/fakes/FaultInjection.h"
 
 #include <system_error>
 
 namespace vantorium::generation {
 namespace {
 
-using RunHindrancesTest = RunFixture;
+using RunFailuresTest = RunFixture;
 
-TEST_F(RunHindrancesTest, AnyExceptionEndsARunInFailureWithItsBox) {
+TEST_F(RunFailuresTest, AnyExceptionEndsTheRunAsAFailureWithAMessageBox) {
   AddPhotograph("a");
   const std::string start = "An Error has occurred during Creation of this Gallery:\r\r";
   const std::pair<std::function<void()>, std::string> cases[] = {
@@ -36,7 +36,7 @@ TEST_F(RunHindrancesTest, AnyExceptionEndsARunInFailureWithItsBox) {
   }
 }
 
-TEST_F(RunHindrancesTest, ARunThatGetsNoThreadMakesItsPicturesOnItsOwn) {
+TEST_F(RunFailuresTest, WithoutThreadsARunMakesItsPicturesItself) {
   for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
   Run(OrderToCreate());
   std::filesystem::rename(folder.Path() / "out", folder.Path() / "first");
@@ -48,7 +48,7 @@ TEST_F(RunHindrancesTest, ARunThatGetsNoThreadMakesItsPicturesOnItsOwn) {
   for (const auto& name : FilesIn("first")) EXPECT_EQ(folder.Read("out/" + name), folder.Read("first/" + name)) << name;
 }
 
-TEST_F(RunHindrancesTest, ASideThatNoJpegFileCanHaveIsRefusedWithoutMemoryForIt) {
+TEST_F(RunFailuresTest, ASizeThatJPEGCannotStoreIsRefusedBeforeMemoryIsAllocated) {
   AddPhotograph("a", 40, 40);
   project.settings.checkThumbnailsImageKeepAspectRatio = 0;
   const std::string refusal = "Failed to save to JPG Maximum supported image dimension is 65500 pixels";

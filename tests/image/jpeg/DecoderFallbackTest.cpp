@@ -15,10 +15,10 @@ using namespace std::string_view_literals;
 constexpr int kWidth = 100;
 constexpr int kHeight = 90;
 
-class SurpriseTest : public ::testing::Test {
+class DecoderFallbackTest : public ::testing::Test {
  protected:
   // SequentialDecoder must give up; libjpeg-turbo must find the file good or not, and JPEGDecoder must agree with it.
-  void ExpectTheLibrarysWord(const std::string& jpeg, bool good) {
+  void ExpectLibjpegTurbosVerdict(const std::string& jpeg, bool good) {
     const auto file = folder.Write("picture.jpg", jpeg);
     for (const unsigned number : {0U, 3U, 30U}) {
       const auto wanted = fakes::SomePixels(kWidth, kHeight, number);
@@ -34,15 +34,15 @@ class SurpriseTest : public ::testing::Test {
   fakes::TemporaryFolder folder;
 };
 
-TEST_F(SurpriseTest, BytesBeforeTheEndMarkDoNoHarm) {
+TEST_F(DecoderFallbackTest, BytesBeforeTheEndMarkerDoNoHarm) {
   for (const std::string_view bytes : {"\x11"sv, "more than a few"sv, "\xFF"sv, "\xFF\xFE\x00\x03!"sv}) {
-    ExpectTheLibrarysWord(fakes::WithBytesAt(jpeg, jpeg.size() - 2, bytes), true);
+    ExpectLibjpegTurbosVerdict(fakes::WithBytesAt(jpeg, jpeg.size() - 2, bytes), true);
   }
 }
 
 // Fill bytes FF before a marker are legal, so libjpeg-turbo takes an extra FF before a stuffed one for a fill byte. The
 // segment seems to end there; no row may be made of the zeros beyond its end.
-TEST_F(SurpriseTest, RowsAreNotGivenOutOfDataThatAreNotThere) {
+TEST_F(DecoderFallbackTest, NoRowIsMadeOfMissingData) {
   for (const unsigned interval : {0U, 7U}) {
     const std::string fine = fakes::MakeJpeg(
         {.width = kWidth, .height = kHeight, .horizontal = 1, .vertical = 1, .restartEvery = interval, .quality = 100});
@@ -58,7 +58,7 @@ TEST_F(SurpriseTest, RowsAreNotGivenOutOfDataThatAreNotThere) {
   }
 }
 
-TEST_F(SurpriseTest, TheLibraryGoesOnAtTheRowWhereverThatIs) {
+TEST_F(DecoderFallbackTest, LibjpegTurboContinuesAtAnyRow) {
   for (const int vertical : {1, 2}) {
     std::string high = fakes::MakeJpeg({.width = 20, .height = 900, .vertical = vertical});
     high.insert(high.size() - 2, "more");
@@ -73,15 +73,15 @@ TEST_F(SurpriseTest, TheLibraryGoesOnAtTheRowWhereverThatIs) {
   }
 }
 
-TEST_F(SurpriseTest, DataThatEndEarlyAreDamaged) {
+TEST_F(DecoderFallbackTest, TruncatedDataAreDamaged) {
   const std::size_t data = fakes::PictureDataOf(jpeg);
   for (std::size_t size = data; size + 10 < jpeg.size(); size += 97) {
-    ExpectTheLibrarysWord(jpeg.substr(0, size), false);
-    ExpectTheLibrarysWord(jpeg.substr(0, size) + "\xFF\xD9", false);
+    ExpectLibjpegTurbosVerdict(jpeg.substr(0, size), false);
+    ExpectLibjpegTurbosVerdict(jpeg.substr(0, size) + "\xFF\xD9", false);
   }
 }
 
-TEST_F(SurpriseTest, AWrongRestartMarkerIsDamage) {
+TEST_F(DecoderFallbackTest, AWrongRestartMarkerIsDamage) {
   const std::size_t restart = withRestarts.find("\xFF\xD2");
   ASSERT_NE(restart, std::string::npos);
   for (const char second : {'\xD3', '\xD9', '\x01', '\xE0'}) {
@@ -94,13 +94,13 @@ TEST_F(SurpriseTest, AWrongRestartMarkerIsDamage) {
   }
 }
 
-TEST_F(SurpriseTest, BytesBeforeARestartMarkerDoNoHarm) {
-  ExpectTheLibrarysWord(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "\xFF"), true);
-  ExpectTheLibrarysWord(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "more"), true);
+TEST_F(DecoderFallbackTest, BytesBeforeARestartMarkerDoNoHarm) {
+  ExpectLibjpegTurbosVerdict(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "\xFF"), true);
+  ExpectLibjpegTurbosVerdict(fakes::WithBytesAt(withRestarts, withRestarts.find("\xFF\xD2"), "more"), true);
 }
 
 // Larger quantization steps make coefficients that no encoder writes.
-TEST_F(SurpriseTest, CoefficientsBeyondEveryPictureComeOutAsTheLibrarys) {
+TEST_F(DecoderFallbackTest, CoefficientsThatNoEncoderWritesAreDecodedLikeLibjpegTurbo) {
   std::mt19937 generator(3);
   const auto rough = [&](int, int) {
     std::array<std::uint8_t, 4> pixel = {};
@@ -123,7 +123,7 @@ TEST_F(SurpriseTest, CoefficientsBeyondEveryPictureComeOutAsTheLibrarys) {
 }
 
 // A changed byte may leave a valid file with another picture.
-TEST_F(SurpriseTest, AnyChangedByteHasTheSameOutcome) {
+TEST_F(DecoderFallbackTest, AnyChangedByteHasTheSameOutcome) {
   std::mt19937 generator(4);
   for (const std::string& whole : {jpeg, withRestarts}) {
     for (int i = 0; i < 300; ++i) {

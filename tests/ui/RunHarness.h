@@ -14,7 +14,7 @@
 
 namespace vantorium::fakes {
 
-/// Stands in for a run's main window and creates real progress windows.
+/// A RunHost with a plain main window and real progress windows.
 class RunWindow : public generation::RunHost {
  public:
   using MakeProgress = std::function<std::unique_ptr<ui::frmProgress>(QWidget* owner)>;
@@ -41,10 +41,10 @@ class RunWindow : public generation::RunHost {
   MakeProgress makeProgress_;
 };
 
-/// Everything that real runs with a real progress window need. The folder is drive T:; the gallery goes to T:\out.
-class RunDesk {
+/// Runs with a real progress window. A temporary folder is drive T:; the gallery goes to T:\out.
+class RunHarness {
  public:
-  RunDesk() {
+  RunHarness() {
     project.settings.checkImageWrapperUse = 1;
     preferences.TempFolderLocation = "T:\\temp";
     generation::SetIndexFile(host.order, "T:\\out\\index.htm");
@@ -72,7 +72,7 @@ class RunDesk {
   env::Preferences preferences;
   RecordingMessageBox boxes;
   Journal journal;
-  RecordingShell shell{journal};
+  JournalingShell shell{journal};
   FixedClock clock;
   ui::QtEventLoop loop;
   env::Screen screen;
