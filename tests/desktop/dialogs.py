@@ -3,13 +3,13 @@ that the user chose."""
 
 import os
 
-from desk import expect, expect_within, wait_for_file
+from harness import expect, expect_within, wait_for_file
 
 
-def run(desk):
-    screen = desk.screen
-    desk.make_project("p.gpj", "a.jpg", "b.jpg")
-    with desk.project("p.gpj"):
+def run(harness):
+    screen = harness.screen
+    harness.make_project("p.gpj", "a.jpg", "b.jpg")
+    with harness.project("p.gpj"):
         screen.press("ctrl+Tab")
         choose_filter(screen)
         write_watermark(screen)
@@ -19,11 +19,11 @@ def run(desk):
         screen.press("ctrl+Tab", "ctrl+Tab", "ctrl+Tab")
         name_link(screen)
         screen.press("ctrl+s")
-        list_browser(desk)
+        list_browser(harness)
         move_temporary_folder(screen)
-        view_in_listed_browser(desk)
-        clear_temporary_folder(desk)
-    check_project(desk)
+        view_in_listed_browser(harness)
+        clear_temporary_folder(harness)
+    check_project(harness)
 
 
 def choose_filter(screen):
@@ -89,9 +89,9 @@ def name_link(screen):
     screen.wait_for_window("p.gpj")
 
 
-def list_browser(desk):
-    screen = desk.screen
-    desk.make_opener("reader", "read")
+def list_browser(harness):
+    screen = harness.screen
+    harness.make_opener("reader", "read")
     screen.press("alt+o", "a")
     screen.wait_for_window("Available Browsers")
     screen.press("alt+a")
@@ -104,7 +104,7 @@ def list_browser(desk):
     screen.press("Return")
     screen.wait_for_no_window("Available Browsers")
     screen.wait_for_window("p.gpj")
-    expect_within('Location1="C:\\bin\\reader"', desk.text("config", "vantorium", "vantorium.ini"), "preferences")
+    expect_within('Location1="C:\\bin\\reader"', harness.text("config", "vantorium", "vantorium.ini"), "preferences")
 
 
 def move_temporary_folder(screen):
@@ -116,25 +116,26 @@ def move_temporary_folder(screen):
     screen.wait_for_window("p.gpj")
 
 
-def view_in_listed_browser(desk):
+def view_in_listed_browser(harness):
     """The menu's first entry is the default browser; the second is the one in the list."""
-    desk.screen.press("alt+a", "v", "Down", "Return")
-    wait_for_file(desk.path("read"))
-    index = desk.path("elsewhere", "VANTORIUM_TEMP", "index.htm")
-    expect_within(index, desk.text("read"), "what the browser was to show")
+    harness.screen.press("alt+a", "v", "Down", "Return")
+    wait_for_file(harness.path("read"))
+    index = harness.path("elsewhere", "VANTORIUM_TEMP", "index.htm")
+    expect_within(index, harness.text("read"), "what the browser was to show")
     expect(True, os.path.exists(index), "preview in the temporary folder")
-    desk.screen.wait_for_window("p.gpj")
+    harness.screen.wait_for_window("p.gpj")
 
 
-def clear_temporary_folder(desk):
-    desk.screen.press("alt+o", "c")
-    desk.screen.wait_for_no_window("Clearing")
-    desk.screen.wait_for_window("p.gpj")
-    expect(False, os.path.exists(desk.path("elsewhere", "VANTORIUM_TEMP", "index.htm")), "preview behind the clearing")
+def clear_temporary_folder(harness):
+    harness.screen.press("alt+o", "c")
+    harness.screen.wait_for_no_window("Clearing")
+    harness.screen.wait_for_window("p.gpj")
+    preview = harness.path("elsewhere", "VANTORIUM_TEMP", "index.htm")
+    expect(False, os.path.exists(preview), "preview after the clearing")
 
 
-def check_project(desk):
-    shown = desk.show("p.gpj")
+def check_project(harness):
+    shown = harness.show("p.gpj")
     project = shown["project"]
     expect(1, project["ImageFilters"]["checkGrayscale"], "grey pictures")
     expect(0, project["ImageFilters"]["checkBrightness"], "a filter that was cancelled")

@@ -7,7 +7,7 @@ import argparse
 import importlib
 import tempfile
 
-from desk import Desk
+from harness import Harness
 from screen import Screen
 
 
@@ -21,7 +21,7 @@ def main():
     options = arguments.parse_args()
     journey = importlib.import_module(options.journey)
     with tempfile.TemporaryDirectory() as folder, Screen() as screen:
-        journey.run(Desk(folder, screen, options))
+        journey.run(Harness(folder, screen, options))
 
 
 if __name__ == "__main__":

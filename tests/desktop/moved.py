@@ -4,57 +4,57 @@ photographs there, and the list shows their paths as this system writes them."""
 
 import os
 
-from desk import expect
+from harness import expect
 
 QUESTION = "Where are these Folders now"
 MANY = 40  # photographs; more than the list can show
 
 
-def run(desk):
-    make_moved_project(desk)
-    moved = desk.read("p.gpj")
-    with desk.window(desk.path("p.gpj")):
-        desk.screen.wait_for_window(QUESTION)
-        desk.screen.press("Return")  # the answer is Cancel unless chosen otherwise
-        desk.screen.wait_for_no_window(QUESTION)
+def run(harness):
+    make_moved_project(harness)
+    moved = harness.read("p.gpj")
+    with harness.window(harness.path("p.gpj")):
+        harness.screen.wait_for_window(QUESTION)
+        harness.screen.press("Return")  # the answer is Cancel unless chosen otherwise
+        harness.screen.wait_for_no_window(QUESTION)
         # One box is about the first photograph, which is missing, and one about the project.
-        desk.screen.press_until("Gallery1", "File Error", "Return")
-        desk.leave()  # nothing is asked about saving
-    expect(moved, desk.read("p.gpj"), "project after Cancel")
+        harness.screen.press_until("Gallery1", "File Error", "Return")
+        harness.leave()  # nothing is asked about saving
+    expect(moved, harness.read("p.gpj"), "project after Cancel")
 
-    with desk.window(desk.path("p.gpj")):
-        say_where_folders_are(desk)
-        desk.screen.wait_for_window("p.gpj")
-        desk.leave()
-        desk.screen.wait_for_window("Project modified")
-        desk.screen.press("alt+y")
-    expect(desk.read("here.gpj"), desk.read("p.gpj"), "project after its folders were found")
+    with harness.window(harness.path("p.gpj")):
+        say_where_folders_are(harness)
+        harness.screen.wait_for_window("p.gpj")
+        harness.leave()
+        harness.screen.wait_for_window("Project modified")
+        harness.screen.press("alt+y")
+    expect(harness.read("here.gpj"), harness.read("p.gpj"), "project after its folders were found")
 
-    with desk.project("p.gpj"):  # now nothing is asked
-        name_gallery_like_first_path(desk.screen)
-    expect(desk.path("summer", "00.jpg"), desk.show("p.gpj")["project"]["textGalleryTitle"], "path in the list")
+    with harness.project("p.gpj"):  # now nothing is asked
+        name_gallery_like_first_path(harness.screen)
+    expect(harness.path("summer", "00.jpg"), harness.show("p.gpj")["project"]["textGalleryTitle"], "path in the list")
 
 
-def make_moved_project(desk):
+def make_moved_project(harness):
     """Makes a project of two folders, and the same one with these on a drive and on a share of another system."""
     for folder, count in (("summer", MANY), ("winter", 1)):
-        os.makedirs(desk.path(folder))
+        os.makedirs(harness.path(folder))
         for number in range(count):
-            os.link(desk.path("a.jpg"), desk.path(folder, f"{number:02}.jpg"))
-    desk.make_project("here.gpj", "summer", "winter")
-    project = desk.read("here.gpj")
+            os.link(harness.path("a.jpg"), harness.path(folder, f"{number:02}.jpg"))
+    harness.make_project("here.gpj", "summer", "winter")
+    project = harness.read("here.gpj")
     for here, there in ((b"C:/summer/", b"D:/Photos/Summer/"), (b"C:/winter/", b"//server/photos/winter/")):
         expect(True, here in project, f"{here} in the project")
         project = project.replace(here, there)
-    with open(desk.path("p.gpj"), "wb") as file:
+    with open(harness.path("p.gpj"), "wb") as file:
         file.write(project)
 
 
-def say_where_folders_are(desk):
+def say_where_folders_are(harness):
     """Types the new folder of the first row, then that of the second one, and goes on to OK."""
-    screen = desk.screen
+    screen = harness.screen
     screen.wait_for_window(QUESTION)
-    screen.type(desk.path("summer"))
+    screen.type(harness.path("summer"))
     screen.press("shift+Tab", "Down", "Tab")
     screen.type("C:\\winter")
     screen.press("Tab", "Tab", "space")

@@ -1,6 +1,6 @@
 """Publishing in the window, as several journeys do it."""
 
-from desk import wait_for_file
+from harness import wait_for_file
 
 
 def choose_server(screen):
@@ -43,8 +43,8 @@ def wait_for_end(screen, title, file):
     screen.wait_for_window("p.gpj")
 
 
-def upload_log(desk):
-    return desk.text("config", "vantorium", "ftplog.txt")
+def upload_log(harness):
+    return harness.text("config", "vantorium", "ftplog.txt")
 
 
 def see_failure(screen):

@@ -4,29 +4,29 @@ read. Files made before that are whole, and the window still works."""
 import os
 import socket
 
-from desk import expect, expect_within, files_below, wait_for_file
+from harness import expect, expect_within, files_below, wait_for_file
 from publishing import choose_server, see_failure, start_with_password, upload_log
 
 
-def run(desk):
-    cancel_creation(desk)
-    write_server_list(desk)
-    cancel_before_silent_server(desk)
-    fail_with_wrong_password(desk)
+def run(harness):
+    cancel_creation(harness)
+    write_server_list(harness)
+    cancel_before_silent_server(harness)
+    fail_with_wrong_password(harness)
 
 
-def cancel_creation(desk):
+def cancel_creation(harness):
     """Cancels the creation of so many and so large pictures that it takes longer than the key presses."""
-    os.makedirs(desk.path("many"))
+    os.makedirs(harness.path("many"))
     for number in range(300):
-        os.link(desk.path("a.jpg"), desk.path("many", f"{number:03}.jpg"))
-    desk.make_project("many.gpj", "many")
-    with open(desk.path("many.gpj"), "r+b") as file:
+        os.link(harness.path("a.jpg"), harness.path("many", f"{number:03}.jpg"))
+    harness.make_project("many.gpj", "many")
+    with open(harness.path("many.gpj"), "r+b") as file:
         larger = file.read().replace(b'HEIGHT="300"', b'HEIGHT="3000"')
         file.seek(0)
         file.write(larger)
-    screen = desk.screen
-    with desk.project("many.gpj"):
+    screen = harness.screen
+    with harness.project("many.gpj"):
         screen.press("ctrl+g")
         screen.wait_for_window("Create Gallery")
         screen.press("Return")
@@ -37,15 +37,15 @@ def cancel_creation(desk):
         screen.press("Escape")  # and this means No
         screen.wait_for_no_window("Cancel Request")
         screen.wait_for_window("Creating Gallery")
-        wait_for_file(desk.path("gallery", "Images", "005.jpg.jpg"))
+        wait_for_file(harness.path("gallery", "Images", "005.jpg.jpg"))
         confirm_cancel(screen, "Creating Gallery")
         screen.wait_for_window("Creation cancelled")
         screen.press("Return")
         screen.wait_for_no_window("Creating Gallery")
-    made = files_below(desk.path("gallery"))
+    made = files_below(harness.path("gallery"))
     expect(False, "index.htm" in made, "index behind a cancelled run")
     for name in made:
-        picture = desk.read("gallery", name)
+        picture = harness.read("gallery", name)
         expect(True, name.endswith(".jpg") and picture.endswith(b"\xff\xd9"), f"{name} is a whole picture")
 
 
@@ -57,10 +57,10 @@ def confirm_cancel(screen, title):
     screen.wait_for_no_window("Cancel Request")
 
 
-def write_server_list(desk):
+def write_server_list(harness):
     """Writes the list with the server that the program then reads."""
-    desk.make_project("p.gpj", "a.jpg", "b.jpg")
-    with open(desk.path("config", "vantorium", "vantorium.pub"), "w", newline="\r\n") as file:
+    harness.make_project("p.gpj", "a.jpg", "b.jpg")
+    with open(harness.path("config", "vantorium", "vantorium.pub"), "w", newline="\r\n") as file:
         file.write('[PUBLISH]\nServerCount="1"\nPreferredServer="1"\nServerName1="Mine"\nServerURL1="127.0.0.1"\n'
                    'UserName1="me"\nIndexFile1="web/index.htm"\nTimeOut1="0"\nJumpTo1=""\n')
 
@@ -72,11 +72,11 @@ def publish(screen, password, user="me"):
     start_with_password(screen, password)
 
 
-def cancel_before_silent_server(desk):
+def cancel_before_silent_server(harness):
     """The server accepts the connection and never sends anything."""
-    screen = desk.screen
+    screen = harness.screen
     with socket.create_server(("127.0.0.1", 0)) as server:
-        with desk.project("p.gpj", ftp_port=server.getsockname()[1]):
+        with harness.project("p.gpj", ftp_port=server.getsockname()[1]):
             publish(screen, "secret")
             confirm_cancel(screen, "Publishing Gallery")
             screen.wait_for_window("Creation cancelled")
@@ -84,18 +84,18 @@ def cancel_before_silent_server(desk):
             screen.wait_for_no_window("Publishing Gallery")
 
 
-def fail_with_wrong_password(desk):
-    screen = desk.screen
-    with desk.ftp_server("proftpd") as server:
-        with desk.project("p.gpj", ftp_port=server["port"]):
+def fail_with_wrong_password(harness):
+    screen = harness.screen
+    with harness.ftp_server("proftpd") as server:
+        with harness.project("p.gpj", ftp_port=server["port"]):
             publish(screen, "wrong", server["user"])
             see_failure(screen)
             screen.press("alt+s")
-            wait_for_file(desk.path("opened"))
+            wait_for_file(harness.path("opened"))
             screen.press("Escape")
             screen.wait_for_no_window("Publishing Gallery")
         expect([], files_below(server["root"]), "files on the server")
-    expect_within("vantorium/ftplog.txt", desk.text("opened"), "what was opened")
-    log = upload_log(desk)
+    expect_within("vantorium/ftplog.txt", harness.text("opened"), "what was opened")
+    log = upload_log(harness)
     expect_within("530", log, "log")
     expect(False, "wrong" in log, "password in the log")

@@ -3,19 +3,19 @@ the same files as after the batch program has sent them."""
 
 import os
 
-from desk import expect, expect_equal_folders, expect_within, files_below
+from harness import expect, expect_equal_folders, expect_within, files_below
 from publishing import add_first_server, start_with_password, upload_log, wait_for_end
 
 
-def run(desk):
-    desk.make_project("p.gpj", "a.jpg", "b.jpg")
-    with desk.ftp_server("vsftpd") as server:
-        with desk.project("p.gpj", ftp_port=server["port"]):
-            publish(desk.screen, server)
-            upload(desk.screen, server)
-        check_log(desk, server)
-        check_published(desk, server)
-        check_uploaded(desk, server)
+def run(harness):
+    harness.make_project("p.gpj", "a.jpg", "b.jpg")
+    with harness.ftp_server("vsftpd") as server:
+        with harness.project("p.gpj", ftp_port=server["port"]):
+            publish(harness.screen, server)
+            upload(harness.screen, server)
+        check_log(harness, server)
+        check_published(harness, server)
+        check_uploaded(harness, server)
 
 
 def publish(screen, server):
@@ -37,26 +37,26 @@ def upload(screen, server):
     wait_for_end(screen, "Uploading Folder", os.path.join(server["root"], "site", "gio"))
 
 
-def check_log(desk, server):
-    log = upload_log(desk)
+def check_log(harness, server):
+    log = upload_log(harness)
     expect_within("End of Upload Log", log, "log")
     expect(False, server["password"] in log, "password in the log")
 
 
-def to_server(desk, server, command, what, remote):
-    with open(desk.path("password"), "w") as file:
+def to_server(harness, server, command, what, remote):
+    with open(harness.path("password"), "w") as file:
         file.write(server["password"])
-    desk.batch(command, desk.path(what), "--server", "127.0.0.1", "--port", str(server["port"]), "--user",
-               server["user"], "--password-file", desk.path("password"), "--remote", remote)
+    harness.batch(command, harness.path(what), "--server", "127.0.0.1", "--port", str(server["port"]), "--user",
+               server["user"], "--password-file", harness.path("password"), "--remote", remote)
 
 
-def check_published(desk, server):
-    to_server(desk, server, "publish", "p.gpj", "twin/index.htm")
+def check_published(harness, server):
+    to_server(harness, server, "publish", "p.gpj", "twin/index.htm")
     expect(8, len(files_below(os.path.join(server["root"], "twin"))), "files of the gallery")
     expect_equal_folders(os.path.join(server["root"], "twin"), os.path.join(server["root"], "web"))
 
 
-def check_uploaded(desk, server):
-    expect_equal_folders(desk.path("bin"), os.path.join(server["root"], "site"))
-    to_server(desk, server, "upload", "bin", "twinsite")
+def check_uploaded(harness, server):
+    expect_equal_folders(harness.path("bin"), os.path.join(server["root"], "site"))
+    to_server(harness, server, "upload", "bin", "twinsite")
     expect_equal_folders(os.path.join(server["root"], "twinsite"), os.path.join(server["root"], "site"))

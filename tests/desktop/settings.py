@@ -1,22 +1,22 @@
 """A project is made, saved, opened again, previewed and created into a folder; the result equals what the batch program
 makes from the same project."""
 
-from desk import expect, expect_equal_folders, expect_within, wait_for_file
+from harness import expect, expect_equal_folders, expect_within, wait_for_file
 
 
-def run(desk):
-    make_project(desk)
-    check_project(desk)
-    preview_and_create(desk)
-    desk.batch("create", desk.path("ferien.gpj"), desk.path("twin", "index.htm"))
-    expect_equal_folders(desk.path("twin"), desk.path("out"))
-    expect_within("VANTORIUM_TEMP/index.htm", desk.text("opened"), "what the preview opened")
+def run(harness):
+    make_project(harness)
+    check_project(harness)
+    preview_and_create(harness)
+    harness.batch("create", harness.path("ferien.gpj"), harness.path("twin", "index.htm"))
+    expect_equal_folders(harness.path("twin"), harness.path("out"))
+    expect_within("VANTORIUM_TEMP/index.htm", harness.text("opened"), "what the preview opened")
 
 
-def make_project(desk):
+def make_project(harness):
     """Makes a new project with two photographs and a change on each page, saves it and closes the window."""
-    screen = desk.screen
-    with desk.window():
+    screen = harness.screen
+    with harness.window():
         screen.wait_for_window("Gallery1")
         screen.write("alt+t", "Ferien")
         screen.press("alt+s")  # a slideshow
@@ -39,11 +39,11 @@ def make_project(desk):
         screen.type("C:\\ferien")
         screen.press("Return")
         screen.wait_for_window("ferien.gpj")
-        desk.leave()
+        harness.leave()
 
 
-def check_project(desk):
-    shown = desk.show("ferien.gpj")
+def check_project(harness):
+    shown = harness.show("ferien.gpj")
     project = shown["project"]
     for field, value in {"textGalleryTitle": "Ferien", "checkGallerySlideShow": 1, "textThumbnailsTableRows": "2",
                          "textThumbnailsTableColumns": "1", "checkCaptionsImagesRegular": 1,
@@ -51,15 +51,15 @@ def check_project(desk):
         expect(value, project[field], field)
     expect(["a.jpg", "b.jpg"], [image["ImageName"] for image in shown["images"]], "images")
     expect(1, shown["thumbnailPageCount"], "pages")
-    desk.batch("save", desk.path("ferien.gpj"), desk.path("again.gpj"))
-    expect(desk.read("again.gpj"), desk.read("ferien.gpj"), "the project written by the batch program")
+    harness.batch("save", harness.path("ferien.gpj"), harness.path("again.gpj"))
+    expect(harness.read("again.gpj"), harness.read("ferien.gpj"), "the project written by the batch program")
 
 
-def preview_and_create(desk):
+def preview_and_create(harness):
     """Opens the project from the command line, previews it, creates its gallery and closes the window."""
-    screen = desk.screen
-    with desk.project("ferien.gpj"):
+    screen = harness.screen
+    with harness.project("ferien.gpj"):
         screen.press("ctrl+i")
-        wait_for_file(desk.path("opened"))
+        wait_for_file(harness.path("opened"))
         screen.wait_for_window("ferien.gpj")
-        desk.create("out")
+        harness.create("out")

@@ -1,13 +1,13 @@
 """A theme is applied to a project; the result equals a project that the batch program begins with that theme."""
 
-from desk import expect
+from harness import expect
 
 
-def run(desk):
-    screen = desk.screen
-    desk.make_project("p.gpj", "a.jpg", "b.jpg")
-    desk.batch("new", desk.path("film.gpj"), "--theme", "film", desk.path("a.jpg"), desk.path("b.jpg"))
-    with desk.project("p.gpj"):
+def run(harness):
+    screen = harness.screen
+    harness.make_project("p.gpj", "a.jpg", "b.jpg")
+    harness.batch("new", harness.path("film.gpj"), "--theme", "film", harness.path("a.jpg"), harness.path("b.jpg"))
+    with harness.project("p.gpj"):
         screen.press("alt+o", "l")
         screen.wait_for_window("Apply Theme")
         screen.press("Right", "Return")
@@ -21,4 +21,4 @@ def run(desk):
         screen.wait_for_no_window("Apply Theme")
         screen.wait_for_window("p.gpj")
         screen.press("ctrl+s")
-    expect(desk.read("film.gpj"), desk.read("p.gpj"), "the project with the theme")
+    expect(harness.read("film.gpj"), harness.read("p.gpj"), "the project with the theme")

@@ -113,7 +113,7 @@ TEST(Numbers, MulDivRoundedConvertsPointsToPixels) {
 TEST(Numbers, MulDivRoundedBeyondTheRangeIsAnOverflow) {
   constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
   for (const auto& [a, b, c] : {std::tuple{kLeast, kLeast, 1}, {kLeast, -1, 1}, {kLeast, 1, -1}, {70000, 70000, 2}}) {
-    EXPECT_EQ(FailureOf([&] { std::ignore = MulDivRounded(a, b, c); }), FailureKind::Overflow)
+    EXPECT_EQ(FailureOf([a = a, b = b, c = c] { std::ignore = MulDivRounded(a, b, c); }), FailureKind::Overflow)
         << a << " * " << b << " / " << c;
   }
 }

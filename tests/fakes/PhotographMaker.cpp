@@ -123,4 +123,27 @@ std::array<std::uint8_t, 3> InProfile(std::string_view profile, std::array<std::
   return result;
 }
 
+JpegPixels StoredLying(const JpegPixels& upright, int orientation, int width, int height) {
+  const int right = width - 1;
+  const int bottom = height - 1;
+  switch (orientation) {
+    case 2:
+      return [=](int x, int y) { return upright(right - x, y); };
+    case 3:
+      return [=](int x, int y) { return upright(right - x, bottom - y); };
+    case 4:
+      return [=](int x, int y) { return upright(x, bottom - y); };
+    case 5:
+      return [=](int x, int y) { return upright(y, x); };
+    case 6:
+      return [=](int x, int y) { return upright(right - y, x); };
+    case 7:
+      return [=](int x, int y) { return upright(right - y, bottom - x); };
+    case 8:
+      return [=](int x, int y) { return upright(y, bottom - x); };
+    default:
+      return upright;
+  }
+}
+
 }  // namespace vantorium::fakes

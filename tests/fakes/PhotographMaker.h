@@ -31,4 +31,8 @@ inline constexpr TestProfile kColorProfiles[] = {TestProfile::SRGB, TestProfile:
 /// An sRGB pixel, converted to a profile's colors: red, green, blue.
 [[nodiscard]] std::array<std::uint8_t, 3> InProfile(std::string_view profile, std::array<std::uint8_t, 3> sRGB);
 
+/// Returns the pixels of a picture as they are stored so that `upright` is seen once the picture is turned. `width` and
+/// `height` are those of the upright picture.
+[[nodiscard]] JpegPixels StoredLying(const JpegPixels& upright, int orientation, int width, int height);
+
 }  // namespace vantorium::fakes

@@ -5,7 +5,6 @@
 #include "env/PathText.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include <fmt/format.h>
 
@@ -88,10 +87,9 @@ bool FolderWalk::GoesOn() {
 void FolderWalk::TellProblems() {
   if (problems_.empty()) return;
   std::string text;
-  for (const std::string& problem : problems_ | std::views::take(kMostProblemsTold)) text += problem + "\r";
-  if (problems_.size() > kMostProblemsTold) {
-    text += fmt::format("There are {} more of these.\r", problems_.size() - kMostProblemsTold);
-  }
+  const std::size_t told = std::min(problems_.size(), kMostProblemsTold);
+  for (std::size_t i = 0; i < told; ++i) text += problems_[i] + "\r";
+  if (told < problems_.size()) text += fmt::format("There are {} more of these.\r", problems_.size() - told);
   text.pop_back();
   parts_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "Add Folder to Gallery", text);
 }

@@ -11,7 +11,7 @@ import time
 PHOTOGRAPH = os.path.join(os.path.dirname(__file__), "..", "..", "data", "preview.jpg")
 
 
-class Desk:
+class Harness:
     """A home folder with two photographs; it is drive C: of the programs."""
 
     def __init__(self, folder, screen, programs):
