@@ -20,7 +20,7 @@ TEST_F(RunFailuresTest, AnyExceptionEndsTheRunAsAFailureWithAMessageBox) {
       {[] { throw std::bad_alloc(); }, "Out of memory\r\rError #7"},
       {[] { throw 5; }, "Internal error\r\rError #51"}};
   for (const auto& [fail, text] : cases) {
-    loop.onTurn = [&, failed = false](int) mutable {
+    loop.onTurn = [&, &fail = fail, failed = false](int) mutable {
       if (!failed && !host.statuses.empty() && host.statuses.back().starts_with("Copying File")) {
         failed = true;
         fail();

@@ -129,7 +129,7 @@ TEST(frmInvalidImage, EachAnswerHasItsNumber) {
     EXPECT_EQ(Find<QPushButton>(dialog, button).text(), text);
     int answer = 0;
     DriveModal([&] { answer = static_cast<int>(dialog.ShowDialog("<b>a & b</b>")); },
-               [&](QWidget& shown) {
+               [&, &button = button](QWidget& shown) {
                  EXPECT_EQ(Find<QLabel>(shown, "lblImageName").text(), "<b>a & b</b>");
                  EXPECT_EQ(Find<QLabel>(shown, "lblImageName").textFormat(), Qt::PlainText);
                  Click(shown, button);

@@ -315,7 +315,7 @@ TEST_F(CreateForm, AnInvalidDestinationKeepsTheDialogOpenAndGetsTheFocus) {
   for (const auto& [option, destination] : std::vector<std::pair<const char*, const char*>>{
            {"optionUploadGallery", "textPublishDestination"}, {"optionUploadFolder", "textUploadDestination"}}) {
     harness.boxes.boxes.clear();
-    const auto order = Ask([&](QWidget& form) {
+    const auto order = Ask([&, &option = option, &destination = destination](QWidget& form) {
       Click(form, option);
       Type(Find<QLineEdit>(form, "textUploadSourceFolder"), "D:\\photos");
       Type(Find<QLineEdit>(form, destination), "gallery.htm");
