@@ -164,7 +164,8 @@ void AddCommands(CLI::App& app, BatchOptions& options) {
   AddProject(publish, options);
   AddServer(publish, options, "FOLDER/INDEX-FILE");
   publish.get_option("--remote")->check([](const std::string& path) {
-    const bool namesFile = !path.empty() && path.back() != '/' && path.back() != '\\';
+    const std::string name = path.substr(path.find_last_of("/\\") + 1);  // npos + 1 is 0
+    const bool namesFile = !name.empty() && name != "." && name != "..";
     return namesFile ? std::string() : std::string("it names no index file");
   });
   AddRunSwitches(publish, options);
