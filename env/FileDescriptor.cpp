@@ -2,6 +2,7 @@
 
 #include <cerrno>
 
+#include <poll.h>
 #include <unistd.h>
 
 namespace vantorium::env {
@@ -12,7 +13,15 @@ bool FileDescriptor::Close() {
   return descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR;
 }
 
-bool WriteAll(int descriptor, std::string_view bytes) {
+namespace {
+
+/// Returns false, with the reason in errno, if the stream cannot be waited for.
+bool WaitUntilReady(int stream) {
+  pollfd entry = {.fd = stream, .events = POLLOUT, .revents = 0};
+  return ::poll(&entry, 1, -1) >= 0 || errno == EINTR;
+}
+
+bool Write(int descriptor, std::string_view bytes, bool waits) {
   while (!bytes.empty()) {
     const auto written = ::write(descriptor, bytes.data(), bytes.size());
     if (written > 0) {
@@ -20,11 +29,23 @@ bool WriteAll(int descriptor, std::string_view bytes) {
     } else if (written == 0) {
       errno = EIO;  // a device that accepts nothing would be retried forever
       return false;
+    } else if (errno == EAGAIN && waits) {
+      if (!WaitUntilReady(descriptor)) return false;
     } else if (errno != EINTR) {
       return false;
     }
   }
   return true;
+}
+
+}  // namespace
+
+bool WriteAll(int descriptor, std::string_view bytes) {
+  return Write(descriptor, bytes, /*waits=*/false);
+}
+
+bool WriteAllToStream(int stream, std::string_view bytes) {
+  return Write(stream, bytes, /*waits=*/true);
 }
 
 }  // namespace vantorium::env

@@ -26,5 +26,7 @@ class FileDescriptor {
 /// Writes all of `bytes` to an open file. Returns false, with the reason in errno, if the system does not accept them
 /// all.
 [[nodiscard]] bool WriteAll(int descriptor, std::string_view bytes);
+/// The same for a standard stream, which another program may have made non-blocking: waits until it accepts more.
+[[nodiscard]] bool WriteAllToStream(int stream, std::string_view bytes);
 
 }  // namespace vantorium::env

@@ -36,6 +36,16 @@ std::optional<struct stat> FileToReplace(const std::filesystem::path& target) {
   return old;
 }
 
+/// Returns why no file can be created at `target`, given the reason of the system. A folder that is missing because the
+/// folder above it cannot be written to is a matter of that one.
+int ReasonForTarget(const std::filesystem::path& target, int reason) {
+  if (reason != ENOENT) return reason;
+  std::error_code ignored;
+  std::filesystem::path above = std::filesystem::absolute(target, ignored).parent_path();
+  while (above.has_relative_path() && !std::filesystem::exists(above, ignored)) above = above.parent_path();
+  return ::faccessat(AT_FDCWD, above.c_str(), W_OK, AT_EACCESS) == 0 ? reason : errno;
+}
+
 /// Copies owner, group and permissions as far as the system allows: only root can give files to others, and some file
 /// systems have no owners.
 void TakeOwnership(int file, const struct stat& old) {
@@ -69,7 +79,7 @@ void ThrowFileAccess(const std::filesystem::path& path, int reason) {
 }
 
 NeighbourFile::NeighbourFile(const std::filesystem::path& target) : target_(target), file_(CreateNeighbour()) {
-  if (!file_.IsOpen()) ThrowFileAccess(target);
+  if (!file_.IsOpen()) ThrowFileAccess(target, ReasonForTarget(target, errno));
 }
 
 /// The name may exist already: a killed process leaves its neighbour behind, and process IDs are reused.

@@ -13,8 +13,10 @@ namespace {
 std::optional<EntryKind> KindOf(const fs::directory_entry& entry) {
   std::error_code error;
   if (entry.is_regular_file(error)) return EntryKind::File;
-  if (!entry.is_directory(error)) return std::nullopt;
-  return entry.is_symlink(error) ? EntryKind::LinkedFolder : EntryKind::Folder;
+  const bool isLink = entry.is_symlink(error);
+  if (entry.is_directory(error)) return isLink ? EntryKind::LinkedFolder : EntryKind::Folder;
+  if (isLink && !entry.exists(error)) return EntryKind::BrokenLink;
+  return std::nullopt;
 }
 
 }  // namespace

@@ -30,6 +30,10 @@ void RefuseName(const std::string& name) {
   if (name.find_first_of("\r\n") != std::string::npos) refuse("line break");
 }
 
+bool IsLeftOut(EntryKind kind) {
+  return kind == EntryKind::LinkedFolder || kind == EntryKind::BrokenLink;
+}
+
 }  // namespace
 
 /// The folder that the upload has reached, here and on the server.
@@ -48,12 +52,14 @@ struct FolderUpload::Place {
 
 std::int32_t FolderUpload::CountSteps(const std::string& localFolder) {
   std::int32_t steps = 0;
+  isSending_ = false;
   if (!localFolder.empty()) std::ignore = Count(localFolder, steps);
   return steps;
 }
 
 bool FolderUpload::UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite) {
   if (localFolder.empty()) return false;
+  isSending_ = true;
   return Send({WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(RelativeToSession(remotePath), '/'), overwrite});
 }
 
@@ -63,7 +69,7 @@ bool FolderUpload::Count(const std::string& folder, std::int32_t& steps) {
   return Trapped([&] {
     ++steps;
     return VisitEntries(local, [&](const FolderEntry& entry) {
-      if (entry.kind == EntryKind::LinkedFolder) return true;
+      if (IsLeftOut(entry.kind)) return true;
       ++steps;
       return entry.kind != EntryKind::Folder || Count(local + "\\" + entry.name, steps);
     });
@@ -95,6 +101,10 @@ bool FolderUpload::VisitEntries(const std::string& localFolder, const Visit& vis
   for (const FolderEntry& entry : listing.entries) {
     if (Cancelled() || !visit(entry)) return false;
   }
+  if (!listing.complete && isSending_ && !cancelReported_) {
+    environment_.progress.SetText3("The folder \"" + environment_.paths.Surface(localFolder) + "\" cannot be read\r\n",
+                                   true);
+  }
   return listing.complete;
 }
 
@@ -106,8 +116,8 @@ bool FolderUpload::MakeDirectory(const Place& place) {
 }
 
 bool FolderUpload::SendEntry(const Place& place, const FolderEntry& entry) {
-  if (entry.kind == EntryKind::LinkedFolder) {
-    LeaveOut(environment_.paths.Surface(place.LocalPath("")) + OnOneLine(entry.name));
+  if (IsLeftOut(entry.kind)) {
+    LeaveOut(environment_.paths.Surface(place.LocalPath("")) + OnOneLine(entry.name), entry.kind);
     return true;
   }
   RefuseName(entry.name);
@@ -126,20 +136,24 @@ bool FolderUpload::SendFile(const Place& place, const std::string& name) {
   return sent;
 }
 
-void FolderUpload::LeaveOut(const std::string& path) {
-  leftOut_.push_back(path);
+void FolderUpload::LeaveOut(const std::string& path, EntryKind kind) {
+  (kind == EntryKind::BrokenLink ? brokenLinks_ : linkedFolders_).push_back(path);
   environment_.progress.SetText3("Leaving out symbolic link " + path + "\r\n", true);
 }
 
 void FolderUpload::TellLeftOut() const {
-  if (leftOut_.empty()) return;
+  TellLeftOut(linkedFolders_, "Folders left out", "These Folders are symbolic Links and were not uploaded:\r");
+  TellLeftOut(brokenLinks_, "Links left out", "These symbolic Links are broken and were not uploaded:\r");
+}
+
+void FolderUpload::TellLeftOut(const std::vector<std::string>& links, const char* title, std::string text) const {
+  if (links.empty()) return;
   constexpr std::size_t kMostInBox = 10;
-  std::string text = "These Folders are symbolic Links and were not uploaded:\r";
-  const std::size_t named = std::min(leftOut_.size(), kMostInBox);
-  for (std::size_t i = 0; i < named; ++i) text += "\r" + leftOut_[i];
-  const std::size_t more = leftOut_.size() - named;
+  const std::size_t named = std::min(links.size(), kMostInBox);
+  for (std::size_t i = 0; i < named; ++i) text += "\r" + links[i];
+  const std::size_t more = links.size() - named;
   if (more > 0) text += "\r\r" + std::to_string(more) + " more are named in the Log.";
-  environment_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, "Folders left out", text);
+  environment_.boxes.Show(env::BoxKind::Exclamation, env::BoxButtons::Ok, title, text);
 }
 
 /// Large folders and slow disks take time; meanwhile the window stays responsive and a cancel is obeyed.

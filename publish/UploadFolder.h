@@ -39,12 +39,12 @@ class FolderUpload {
   /// Sends the contents of `localFolder` (path text) to `remotePath`, which is created first and is relative to the
   /// session's current directory, with or without leading slashes. Folders and files are sent in the order of their
   /// names, each folder with everything in it. The first failure ends the whole upload. Returns false on a failure,
-  /// which is shown here only if it is a RuntimeFailure (a folder that cannot be read is not), and on a cancel, which
-  /// is always shown.
+  /// which is shown here only if it is a RuntimeFailure (a folder that cannot be read is only logged), and on a cancel,
+  /// which is always shown.
   [[nodiscard]] bool UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite);
 
-  /// Tells the user which folders were left out because they are symbolic links: these may lead out of the folder being
-  /// sent, or back into it.
+  /// Tells the user which symbolic links were left out: those to folders, which may lead out of the folder being sent,
+  /// or back into it, and those that are broken.
   void TellLeftOut() const;
 
  private:
@@ -58,7 +58,8 @@ class FolderUpload {
   [[nodiscard]] bool SendEntry(const Place& place, const FolderEntry& entry);
   [[nodiscard]] bool SendSubfolder(const Place& place, const std::string& name);
   [[nodiscard]] bool SendFile(const Place& place, const std::string& name);
-  void LeaveOut(const std::string& path);
+  void LeaveOut(const std::string& path, EntryKind kind);
+  void TellLeftOut(const std::vector<std::string>& links, const char* title, std::string text) const;
 
   [[nodiscard]] bool Trapped(const std::function<bool()>& pass);
   [[nodiscard]] bool VisitEntries(const std::string& localFolder, const Visit& visit);
@@ -69,8 +70,10 @@ class FolderUpload {
   void Step();
 
   UploadEnvironment environment_;
+  bool isSending_ = false;  ///< not only counting
   bool cancelReported_ = false;
-  std::vector<std::string> leftOut_;  ///< folders that are symbolic links
+  std::vector<std::string> linkedFolders_;
+  std::vector<std::string> brokenLinks_;
 };
 
 }  // namespace vantorium::publish

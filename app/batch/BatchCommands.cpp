@@ -122,7 +122,7 @@ ExitCode BatchProgram::New() {
   std::vector<std::string> inputs = options_.paths;
   if (!theme->empty()) inputs.push_back(*theme);
   if (OutputIsAmong(inputs)) return ExitCode::WrongUsage;
-  if (Refuse(RefusalOfNewProject(PathText(options_.output), options_.force, paths_))) return ExitCode::Failure;
+  if (Refuse(RefusalOfProject(PathText(options_.output), options_.force, paths_))) return ExitCode::Failure;
   std::vector<std::string> found;
   for (const std::string& path : options_.paths) {
     const FoundImages images = FindImages(path, options_.recursive, paths_);
@@ -152,7 +152,9 @@ ExitCode BatchProgram::Show() {
 
 ExitCode BatchProgram::Save() {
   if (OutputIsAmong({options_.project})) return ExitCode::WrongUsage;
-  return Load() ? SaveTo(options_.output) : ExitCode::Failure;
+  if (!Load() || Refuse(RefusalOfProject(PathText(options_.output), /*replace=*/true, paths_)))
+    return ExitCode::Failure;
+  return SaveTo(options_.output);
 }
 
 ExitCode BatchProgram::SaveTo(const std::string& typed) {

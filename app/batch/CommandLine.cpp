@@ -128,8 +128,8 @@ std::string RefuseEmpty(const std::string& text) {
 }
 
 std::string RefuseFolder(const std::string& path) {
-  const bool namesFile = !path.empty() && path.back() != '/' && path.back() != '\\';
-  return namesFile ? "" : "it names no index file";
+  const std::string name = path.substr(path.find_last_of("/\\") + 1);  // npos + 1 is 0
+  return name.empty() || name == "." || name == ".." ? "it names no index file" : "";
 }
 
 void AddNew(CLI::App& app, BatchOptions& options) {

@@ -59,6 +59,10 @@ FoundImages FilesOfFolder(const fs::path& native, const std::string& folder, boo
       found.paths.push_back(onBestDrive ? paths.ToText(native / image)
                                         : env::WithTrailingBackslash(folder) + env::WithBackslashes(image.string()));
       found.problem = ProblemOf(found.paths.back(), paths);
+      if (image.string().find('\\') != std::string::npos) {
+        found.problem = "\"" + core::ToXmlText((native / image).string()) +
+                        "\" has a backslash in its name and cannot stand in a project.";
+      }
       if (!found.problem.empty()) break;
     }
   } catch (const fs::filesystem_error& failure) {
@@ -78,6 +82,7 @@ FoundImages FindImages(const std::string& typed, bool recursive, const env::Path
   if (fs::is_directory(status)) return FilesOfFolder(*native, path, recursive, paths);
   if (!IsImage(*native))
     return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
+  if (!fs::is_regular_file(status)) return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no file."};
   return {{path}, ProblemOf(path, paths)};
 }
 

@@ -1,5 +1,6 @@
 #include "app/batch/OutputNames.h"
 
+#include "core/ImageFormats.h"
 #include "core/file/XmlNode.h"
 #include "core/file/XmlSyntax.h"
 #include "env/FileInput.h"
@@ -41,11 +42,11 @@ bool IsSameFile(const std::string& one, const std::string& other, const env::Pat
   return first && second && fs::equivalent(*first, *second, error);
 }
 
-std::string RefusalOfNewProject(const std::string& file, bool force, const env::PathMap& paths) {
+std::string RefusalOfProject(const std::string& file, bool replace, const env::PathMap& paths) {
   if (!fs::exists(StatusOf(file, paths))) return {};
   const std::string exists = Quoted(file, paths) + " exists";
   if (!IsProject(paths.ToNative(file).value_or(""))) return exists + " and is no project, so it is not replaced.";
-  return force ? "" : exists + ".  It is replaced only with --force.";
+  return replace ? "" : exists + ".  It is replaced only with --force.";
 }
 
 std::string IndexFileOf(const std::string& path, const env::PathMap& paths) {
@@ -55,8 +56,11 @@ std::string IndexFileOf(const std::string& path, const env::PathMap& paths) {
 
 std::string RefusalOfIndexFile(const std::string& path, const env::PathMap& paths) {
   const fs::file_status status = StatusOf(path, paths);
-  if (!fs::exists(status) || fs::is_regular_file(status)) return {};
-  return Quoted(path, paths) + " cannot be the index file, as it is there and is no file.";
+  if (!fs::exists(status)) return {};
+  const std::string cannot = Quoted(path, paths) + " cannot be the index file, as it is there and is ";
+  if (!fs::is_regular_file(status)) return cannot + "no file.";
+  if (core::IsSupportedImageExtension(env::GetFileExtension(path))) return cannot + "named like a photograph.";
+  return IsProject(paths.ToNative(path).value_or("")) ? cannot + "a project." : "";
 }
 
 }  // namespace vantorium::batch

@@ -9,9 +9,9 @@ namespace vantorium::batch {
 /// Whether two paths (path text) lead to the same existing file, however they are written.
 [[nodiscard]] bool IsSameFile(const std::string& one, const std::string& other, const env::PathMap& paths);
 
-/// Returns a sentence why `new` does not write to `file` (path text); empty if it does. An existing file stays, unless
-/// it is a project and `force` is given.
-[[nodiscard]] std::string RefusalOfNewProject(const std::string& file, bool force, const env::PathMap& paths);
+/// Returns a sentence why no project is written to `file` (path text); empty if one is. An existing file stays, unless
+/// it is a project and `replace` is true.
+[[nodiscard]] std::string RefusalOfProject(const std::string& file, bool replace, const env::PathMap& paths);
 
 /// Returns the index file that a path (path text) means: for a folder, or a text that ends in a separator, the
 /// index.htm in it.

@@ -37,7 +37,7 @@ std::string CutTo(const std::string& text, std::size_t columns) {
 
 /// Failures are ignored.
 void Say(std::string_view text) {
-  std::ignore = env::WriteAll(STDERR_FILENO, text);
+  std::ignore = env::WriteAllToStream(STDERR_FILENO, text);
 }
 
 std::string OneLine(std::string_view text) {
@@ -82,7 +82,7 @@ void SayInOneLine(std::string_view text) {
 
 bool PrintResult(std::string_view text) {
   const bool onTerminal = ::isatty(STDOUT_FILENO) == 1;
-  if (env::WriteAll(STDOUT_FILENO, onTerminal ? Harmless(text) : std::string(text))) return true;
+  if (env::WriteAllToStream(STDOUT_FILENO, onTerminal ? Harmless(text) : std::string(text))) return true;
   SayInOneLine(std::string("The output cannot be written: ") + std::strerror(errno));
   return false;
 }

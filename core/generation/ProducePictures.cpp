@@ -46,6 +46,7 @@ class PictureProduction {
   [[nodiscard]] PictureTask Task(Number number, image::PictureRequest request) const;
   [[nodiscard]] std::optional<image::PictureFiles> Take(PictureWorkshop& workshop, Number number,
                                                         const PictureTask& task);
+  [[nodiscard]] const std::string& BytesOf(const image::PictureFile& file, Number number) const;
   [[nodiscard]] std::optional<std::string> EarlyBytes(Number number) const;
   void KeepThumbnail(Number number, const MadePictures& made);
 
@@ -141,7 +142,7 @@ PhaseResult PictureProduction::MakeImage(PictureWorkshop& workshop, Number numbe
   const auto files = Take(workshop, number, Task(number, {recipe, {}}));
   if (!files) return RunEnd::Cancelled;
   if (!files->decoded) return ImageNotLoaded(number);
-  return context_.Settle(context_.target.StoreImage(image, files->image.Bytes()));
+  return context_.Settle(context_.target.StoreImage(image, BytesOf(files->image, number)));
 }
 
 std::optional<PictureTask> PictureProduction::PlanImage(Number number) {
@@ -181,7 +182,7 @@ PhaseResult PictureProduction::MakeThumbnail(PictureWorkshop& workshop, Number n
   const auto files = Take(workshop, number, Task(number, {{}, ThumbnailRecipe(run_, number)}));
   if (!files) return RunEnd::Cancelled;
   if (!files->decoded) return NotLoaded("Unable to load JPG Image \"" + run_.Shown(image.Path) + "\".");
-  return context_.Settle(context_.target.StoreThumbnail(image, files->thumbnail.Bytes()));
+  return context_.Settle(context_.target.StoreThumbnail(image, BytesOf(files->thumbnail, number)));
 }
 
 std::optional<PictureTask> PictureProduction::PlanThumbnail(Number number) {
@@ -225,6 +226,17 @@ std::optional<image::PictureFiles> PictureProduction::Take(PictureWorkshop& work
   if (!made || made->source != StampOf(task.source)) made = workshop.Make(task);
   KeepThumbnail(number, *made);
   return std::move(made->files);
+}
+
+/// A picture of a size that no file can have fails with the name of its source, from which the size follows.
+const std::string& PictureProduction::BytesOf(const image::PictureFile& file, Number number) const {
+  try {
+    return file.Bytes();
+  } catch (const env::RuntimeFailure& failure) {
+    const auto kind = static_cast<env::FailureKind>(failure.Number());
+    if (kind != env::FailureKind::InvalidArgument && kind != env::FailureKind::JPEGLibrary) throw;
+    throw env::RuntimeFailure(kind, run_.Shown(run_.Info(number).Path) + ": " + failure.Description());
+  }
 }
 
 }  // namespace

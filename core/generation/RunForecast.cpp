@@ -20,7 +20,13 @@ bool IsReadableFile(const std::filesystem::path& file) {
   return std::filesystem::is_regular_file(file, ignored) && ::access(file.c_str(), R_OK) == 0;
 }
 
+std::string WhyLengthFails(const std::string& name) {
+  constexpr std::size_t kLongestName = 255;  // in bytes, of all common file systems
+  return name.size() > kLongestName ? "no file can have such a long name" : "";
+}
+
 std::string WhyNameFails(const std::string& name, LinkStart start) {
+  if (std::string reason = WhyLengthFails(name); !reason.empty()) return reason;
   return IsPlainFileName(name) ? WhyLinkFails(name, start) : "no file can have it";
 }
 
@@ -101,9 +107,11 @@ class Forecaster {
       AddDeadLink(image, page, WhyNameFails(page, StartOfPages()));
       LookAtName(image, "", page);
     }
+    const std::string thumbnail = ThumbnailFileName(run_.project, info);
     if (order_.CreateHTML) AddDeadLink(image, info.FileName, WhyNameFails(info.FileName, LinkStart::Folder));
+    if (order_.CreateHTML) AddDeadLink(image, thumbnail, WhyLengthFails(thumbnail));
     if (order_.CreateImages) LookAtName(image, run_.ImageUrlPrefix, info.FileName);
-    if (order_.CreateThumbnails) LookAtName(image, run_.ThumbUrlPrefix, ThumbnailFileName(run_.project, info));
+    if (order_.CreateThumbnails) LookAtName(image, run_.ThumbUrlPrefix, thumbnail);
     LookAtSource(image, info.Path);
     LookAtOutputs(image, OutputsOfImage({run_, order_, MayAskAhead() ? &local_ : nullptr}, image));
   }

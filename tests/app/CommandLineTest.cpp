@@ -186,7 +186,7 @@ TEST(CommandLine, AFingerprintRequiresEncryption) {
 }
 
 TEST(CommandLine, TheRemotePathOfAGalleryEndsInTheIndexFile) {
-  for (const char* remote : {"web/", "web\\", "/", ""}) {
+  for (const char* remote : {"web/", "web\\", "/", "", "web/..", ".", "web\\."}) {
     Arguments arguments = Without("--remote", "publish");
     arguments.insert(arguments.end(), {"--remote", remote});
     EXPECT_TRUE(IsRefused(arguments, "--remote"));

@@ -283,5 +283,20 @@ TEST_F(CreateCommand, AMessageIsALineWithTitleAndText) {
                             place.Path("a.gpj").string() + "\".\n");
 }
 
+TEST_F(CreateCommand, AnotherProjectOrAPhotographIsNeverTakenAsTheIndexFile) {
+  place.Project("b.gpj", {"b.jpg"});
+  place.Photograph("out/c.JPG");
+  std::filesystem::create_symlink("../b.gpj", place.Path("out/link.htm"));
+  const auto before = FilesBelow(place.Path());
+  for (const auto& [index, what] : {std::pair{"b.gpj", "a project"}, std::pair{"out/link.htm", "a project"},
+                                    std::pair{"out/c.JPG", "named like a photograph"}}) {
+    const ProcessResult result = place.Run({"create", "a.gpj", index});
+    EXPECT_TRUE(EndedWith(1, result)) << index;
+    EXPECT_EQ(result.err, "File Error: \"" + place.Path(index).string() +
+                              "\" cannot be the index file, as it is there and is " + what + ".\n");
+  }
+  EXPECT_EQ(FilesBelow(place.Path()), before);
+}
+
 }  // namespace
 }  // namespace vantorium::batch

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include <nlohmann/json.hpp>
+#include <sys/stat.h>
 
 namespace vantorium::batch {
 namespace {
@@ -262,6 +263,26 @@ TEST(NewCommand, ANameThatIsNotUTF8IsReportedAndNothingIsWritten) {
   EXPECT_TRUE(EndedWith(1, result));
   EXPECT_NE(result.err.find("bad\xEF\xBF\xBDname.jpg\" has a name that is no UTF-8 text"), std::string::npos)
       << result.err;
+  EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
+}
+
+TEST(NewCommand, ANameWithABackslashIsReportedAndNoOtherFileIsTaken) {
+  const Workplace place;
+  place.Photograph("holiday/sea\\a.jpg");
+  place.Photograph("holiday/sea/a.jpg");
+  const ProcessResult result = place.Run({"new", "a.gpj", "holiday"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: \"" + place.Path("holiday/sea\\a.jpg").string() +
+                            "\" has a backslash in its name and cannot stand in a project.\n");
+  EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
+}
+
+TEST(NewCommand, APipeNamedLikeAPhotographIsReportedAndNothingIsWritten) {
+  const Workplace place;
+  ASSERT_EQ(::mkfifo(place.Path("pipe.jpg").c_str(), 0600), 0);
+  const ProcessResult result = place.Run({"new", "a.gpj", "pipe.jpg"});
+  EXPECT_TRUE(EndedWith(1, result));
+  EXPECT_EQ(result.err, "File Error: \"pipe.jpg\" is no file.\n");
   EXPECT_FALSE(std::filesystem::exists(place.Path("a.gpj")));
 }
 

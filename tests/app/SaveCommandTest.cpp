@@ -56,7 +56,7 @@ TEST(SaveCommand, AProjectSavedOverItselfIsAWrongCommandLine) {
 TEST(SaveCommand, AnExistingProjectIsReplaced) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
-  place.Write("b.gpj", "old");
+  place.Project("b.gpj", {"b.jpg"});
   ASSERT_TRUE(Succeeded(place.Run({"save", "a.gpj", "b.gpj"})));
   EXPECT_EQ(place.Read("b.gpj"), place.Read("a.gpj"));
 }
@@ -75,8 +75,7 @@ TEST(SaveCommand, AnInvalidProjectIsNotSaved) {
 TEST(SaveCommand, ATargetThatCannotBeWrittenIsAFailure) {
   const Workplace place;
   place.Project("a.gpj", {"a.jpg"});
-  std::filesystem::create_directory(place.Path("folder.gpj"));
-  for (const char* target : {"nowhere/b.gpj", "a.jpg/b.gpj", "folder.gpj", "Q:\\b.gpj", "\\\\server\\share\\b.gpj"}) {
+  for (const char* target : {"nowhere/b.gpj", "a.jpg/b.gpj", "Q:\\b.gpj", "\\\\server\\share\\b.gpj"}) {
     const ProcessResult result = place.Run({"save", "a.gpj", target});
     EXPECT_TRUE(EndedWith(1, result)) << target;
     EXPECT_EQ(result.err, kSavingFailed) << target;
@@ -91,6 +90,22 @@ TEST(SaveCommand, SavingLeavesNoOtherFiles) {
   ASSERT_TRUE(Succeeded(place.Run({"save", "a.gpj", "out/b.gpj"})));
   ASSERT_TRUE(EndedWith(1, place.Run({"save", "a.gpj", "out/folder.gpj"})));
   EXPECT_EQ(ListingOf(place.Path("out")), "b.gpj\n");
+}
+
+TEST(SaveCommand, AnyOtherFileIsNeverReplaced) {
+  const Workplace place;
+  place.Project("a.gpj", {"a.jpg"});
+  place.Photograph("b.jpg");
+  place.Write("notes.gpj", "mine");
+  std::filesystem::create_symlink("b.jpg", place.Path("link.gpj"));
+  const auto before = FilesBelow(place.Path());
+  for (const char* target : {"a.jpg", "b.jpg", "notes.gpj", "link.gpj", "temp"}) {
+    const ProcessResult result = place.Run({"save", "a.gpj", target});
+    EXPECT_TRUE(EndedWith(1, result)) << target;
+    EXPECT_EQ(result.err,
+              "File Error: \"" + place.Path(target).string() + "\" exists and is no project, so it is not replaced.\n");
+  }
+  EXPECT_EQ(FilesBelow(place.Path()), before);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "env/FileDescriptor.h"
 #include "tests/fakes/TemporaryFolder.h"
 
+#include <array>
 #include <cerrno>
+#include <thread>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -28,6 +30,29 @@ TEST(FileDescriptor, AFailedWriteReportsTheSystemsReason) {
   EXPECT_EQ(errno, EBADF);
   const FileDescriptor closed(::open("/dev/null", O_RDONLY));
   EXPECT_FALSE(WriteAll(closed.Get(), "x"));
+}
+
+TEST(FileDescriptor, AStreamThatDoesNotBlockTakesAllBytesAsTheyAreRead) {
+  std::array<int, 2> ends = {};
+  ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+  const FileDescriptor reading(ends[0]);
+  FileDescriptor writing(ends[1]);
+  ASSERT_EQ(::fcntl(writing.Get(), F_SETFL, O_NONBLOCK), 0);
+  const std::string bytes(1'000'000, 'x');
+  EXPECT_FALSE(WriteAll(writing.Get(), bytes)) << "the pipe takes them all";
+  std::size_t read = 0;
+  std::thread reader([&] {
+    std::array<char, 4096> block = {};
+    for (ssize_t count = 1; count > 0; read += static_cast<std::size_t>(count)) {
+      count = ::read(reading.Get(), block.data(), block.size());
+    }
+  });
+  EXPECT_TRUE(WriteAllToStream(writing.Get(), bytes));
+  EXPECT_TRUE(writing.Close());
+  reader.join();
+  EXPECT_GT(read, bytes.size());
+  const FileDescriptor full(::open("/dev/full", O_WRONLY));
+  EXPECT_FALSE(WriteAllToStream(full.Get(), "x"));
 }
 
 }  // namespace

@@ -163,5 +163,23 @@ TEST(NeighbourFile, TheFailureNamesTheFileAndTheReason) {
   }
 }
 
+TEST(NeighbourFile, AFolderThatIsMissingBelowALockedOneFailsForTheReasonOfThatOne) {
+  const fakes::TemporaryFolder folder;
+  const auto reasonFor = [](const fs::path& target) {
+    try {
+      const NeighbourFile file(target);
+    } catch (const RuntimeFailure& failure) {
+      return failure.Description();
+    }
+    return std::string("none");
+  };
+  fs::create_directory(folder.Path() / "locked");
+  const fs::path free = folder.Path() / "missing/Images/a.jpg";
+  const fs::path below = folder.Path() / "locked/missing/Images/a.jpg";
+  EXPECT_EQ(reasonFor(free), free.string() + ": No such file or directory");
+  const fakes::LockedFolder locked(folder.Path() / "locked");
+  EXPECT_EQ(reasonFor(below), below.string() + ": Permission denied");
+}
+
 }  // namespace
 }  // namespace vantorium::env

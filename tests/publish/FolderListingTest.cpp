@@ -53,10 +53,15 @@ TEST_F(AListing, ALinkToAFileIsAFileAndALinkToAFolderIsALinkedFolder) {
             (Entries{{"a", EntryKind::File}, {"above", EntryKind::LinkedFolder}, {"link", EntryKind::File}}));
 }
 
-TEST_F(AListing, OnlyFilesAndFoldersAreListed) {
+TEST_F(AListing, ALinkToNothingAndALinkToItselfAreBroken) {
   fs::create_symlink(folder.Path() / "nowhere", folder.Path() / "dangling");
   fs::create_symlink("itself", folder.Path() / "itself");
+  EXPECT_EQ(List().entries, (Entries{{"dangling", EntryKind::BrokenLink}, {"itself", EntryKind::BrokenLink}}));
+}
+
+TEST_F(AListing, PipesAndDevicesAreNotListed) {
   ASSERT_EQ(::mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
+  fs::create_symlink("/dev/null", folder.Path() / "device");
   const FolderListing listing = List();
   EXPECT_EQ(listing.entries, Entries());
   EXPECT_TRUE(listing.complete);

@@ -240,6 +240,19 @@ TEST_F(UploadFolderTest, EachLinkToAFolderIsNamedInTheLogAndInAMessageBoxAtTheEn
                "C:\\site\\two\\nlines");
 }
 
+TEST_F(UploadFolderTest, EachBrokenLinkIsNamedInTheLogAndAtTheEnd) {
+  Write("a");
+  fs::create_symlink("/mnt/away/b.jpg", drive.Path() / "site/b.jpg");
+  fs::create_symlink("itself", drive.Path() / "site/itself");
+  EXPECT_EQ(Count(), 2);
+  EXPECT_TRUE(Send());
+  EXPECT_EQ(server.calls, (Lines{"make web", "copy C:\\site\\a to web/a"}));
+  EXPECT_EQ(record.log, "Leaving out symbolic link C:\\site\\b.jpg\r\nLeaving out symbolic link C:\\site\\itself\r\n");
+  upload.TellLeftOut();
+  ExpectOneBox(env::BoxKind::Exclamation, "Links left out",
+               "These symbolic Links are broken and were not uploaded:\r\rC:\\site\\b.jpg\rC:\\site\\itself");
+}
+
 TEST_F(UploadFolderTest, ManyLinksToFoldersAreCountedInTheMessageBox) {
   for (int i = 10; i < 23; ++i) fs::create_directory_symlink("/", drive.Path() / "site" / std::to_string(i));
   EXPECT_TRUE(Send());
@@ -284,6 +297,8 @@ TEST_F(UploadFolderTest, AnUnreadableFolderEndsSilentlyAfterItsRemoteDirectoryIs
   }
   EXPECT_TRUE(boxes.boxes.empty());
   EXPECT_EQ(loop.turns, 0);
+  EXPECT_TRUE(record.log.starts_with("The folder \"C:\\missing\" cannot be read\r\nThe folder \"C:\\file\" "))
+      << record.log;
 }
 
 TEST_F(UploadFolderTest, AnUnreadableSubfolderEndsTheWholeUploadSilently) {

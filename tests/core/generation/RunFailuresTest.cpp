@@ -65,5 +65,14 @@ TEST_F(RunFailuresTest, ASizeThatJPEGCannotStoreIsRefusedBeforeMemoryIsAllocated
   }
 }
 
+TEST_F(RunHindrancesTest, ASourceWhosePictureWouldHaveNoWidthIsNamed) {
+  AddPhotograph("a", 40, 40);
+  AddPhotograph("b", 1, 1000);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  const std::string refusal = project.images.Entry(2).SourcePath + ": A picture of 0 x 300 pixels cannot be made.";
+  EXPECT_NE(boxes.boxes[0].text.find("\r\r" + refusal + "\r\rError #5"), std::string::npos) << boxes.boxes[0].text;
+}
+
 }  // namespace
 }  // namespace vantorium::generation

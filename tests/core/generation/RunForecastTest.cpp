@@ -62,6 +62,17 @@ TEST_F(RunForecastTest, ANameThatNoFileCanHaveIsReported) {
   EXPECT_EQ(lines[0], "Image 1, \"a/b\": Links to \"a/b.htm\" would not work: no file can have it.");
 }
 
+TEST_F(RunForecastTest, ANameThatIsTooLongForAFileIsFound) {
+  folder.Write("photos/a.jpg", PlainJpeg(8, 8));
+  const std::string fits(255 - std::string("thumb_.jpg").size(), 'x');
+  for (const std::string& name : {fits, "y" + fits}) AddEntry(name, "T:\\photos\\a.jpg");
+  EXPECT_EQ(LinesToCreate(), Lines{"Image 2, \"y" + fits + "\": Links to \"thumb_y" + fits +
+                                   ".jpg\" would not work: no file can have such a long name."});
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
+  project.images.Remove(2);
+  EXPECT_EQ(Run(OrderToCreate()), RunEnd::Success);
+}
+
 TEST_F(RunForecastTest, LeadingBlanksAndColonsMatterOnlyForPages) {
   AddPhotograph(" a");
   AddPhotograph("Evening:1");
