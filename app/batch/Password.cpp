@@ -24,13 +24,15 @@ void NoteSignal(int signal) {
   endingSignal = signal;
 }
 
-/// Returns nullopt also if the file cannot be read at all, such as a closed standard input.
+/// Returns nullopt also if the file cannot be read at all, such as a closed standard input or a terminal on which the
+/// user typed the end of the file (Ctrl+D) instead of a password.
 std::optional<std::string> FirstLine(int file) {
   std::string line;
   for (char character = 0; character != '\n';) {
     const auto read = ::read(file, &character, 1);
     if (read < 0 && errno == EINTR) continue;
     if (read < 0 || line.size() > kLongest) return std::nullopt;
+    if (read == 0 && line.empty() && ::isatty(file) == 1) return std::nullopt;
     if (read == 0) break;
     if (character != '\n') line += character;
   }

@@ -66,6 +66,18 @@ TEST_F(Password, PromptInterruptedByCtrlCRestoresTheEchoOfTheTerminal) {
   EXPECT_NE(result.out.find(" echo "), std::string::npos) << result.out;
 }
 
+TEST_F(Password, PromptEndedByCtrlDIsNoEmptyPassword) {
+  StartOptions options = FromStandardInput();
+  options.standardError = StandardError::Terminal;
+  ChildProcess program(options);
+  program.WaitForError("Password: $");
+  program.Type("\x04");
+  const ProcessResult result = program.Finish();
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.err.find("The password file \"-\" cannot be read."), std::string::npos) << result.err;
+  EXPECT_FALSE(fs::exists(place.Path("program/ftplog.txt")));
+}
+
 TEST_F(Password, ThatIsEmptyOrWrongIsRefusedByTheServer) {
   StartOptions options = FromStandardInput();
   options.standardInput = "/dev/null";
