@@ -22,8 +22,14 @@ const std::string& TextOf(const ImageEntry& entry, SortColumn column) {
   return entry.DateKey;
 }
 
+std::string FoldForSearch(std::string_view text) {
+  std::string folded = FoldCase(text);
+  std::ranges::replace(folded, ' ', '_');
+  return folded;
+}
+
 bool BeginsWithWord(std::string_view name, const std::string& foldedWord) {
-  const std::string folded = FoldCase(name);
+  const std::string folded = FoldForSearch(name);
   if (!folded.starts_with(foldedWord)) return false;
   const std::string_view rest = std::string_view(folded).substr(foldedWord.size());
   return !BeginsWithLetterOrDigit(rest);
@@ -149,7 +155,7 @@ std::optional<std::size_t> ImageList::PositionOf(std::string_view name) const {
 }
 
 std::optional<std::size_t> ImageList::FindWord(std::string_view word) const {
-  const std::string wanted = FoldCase(word);
+  const std::string wanted = FoldForSearch(word);
   const auto found =
       std::ranges::find_if(rows_, [&](const RowOwner& row) { return BeginsWithWord(row->entry.ImageName, wanted); });
   if (found == rows_.end()) return std::nullopt;
