@@ -16,6 +16,8 @@
 #include "ui/model/dialogs/RunWarningsModel.h"
 #include "ui/model/main/MainModel.h"
 
+#include <QApplication>
+
 namespace vantorium::ui {
 namespace {
 
@@ -47,7 +49,10 @@ void QtHelperWindows::ShowDescriptions() {
 }
 
 bool QtHelperWindows::ShowThemes(ThemeModel& themes) {
-  return frmApplyTheme(themes, &mainWindow_).exec() == QDialog::Accepted;
+  const bool accepted = frmApplyTheme(themes, &mainWindow_).exec() == QDialog::Accepted;
+  // Some window managers focus no window of the program when a dialog closes together with the question above it.
+  mainWindow_.activateWindow();
+  return accepted;
 }
 
 void QtHelperWindows::ShowAbout() {
@@ -90,8 +95,9 @@ void QtHelperWindows::ShowInfoWindow(const std::string& text) {
 
 std::vector<core::MovedFolder> QtHelperWindows::AskForMovedFolders(const std::vector<std::string>& sources) {
   MovedFolders folders(sources, model_.Ports().files);
-  const bool accepted =
-      frmMovedFolders(folders, model_.Ports().folderBrowser, &mainWindow_).exec() == QDialog::Accepted;
+  // A project that the command line names is opened while only the splash window is visible.
+  QWidget* const owner = mainWindow_.isVisible() ? &mainWindow_ : QApplication::activeWindow();
+  const bool accepted = frmMovedFolders(folders, model_.Ports().folderBrowser, owner).exec() == QDialog::Accepted;
   return accepted ? folders.Moved() : std::vector<core::MovedFolder>();
 }
 
