@@ -15,6 +15,7 @@
 #include "ui/model/dialogs/MovedFolders.h"
 #include "ui/model/dialogs/RunWarningsModel.h"
 #include "ui/model/main/MainModel.h"
+#include "ui/widgets/ExecDialog.h"
 
 #include <QApplication>
 
@@ -49,10 +50,8 @@ void QtHelperWindows::ShowDescriptions() {
 }
 
 bool QtHelperWindows::ShowThemes(ThemeModel& themes) {
-  const bool accepted = frmApplyTheme(themes, &mainWindow_).exec() == QDialog::Accepted;
-  // Some window managers focus no window of the program when a dialog closes together with the question above it.
-  mainWindow_.activateWindow();
-  return accepted;
+  frmApplyTheme dialog(themes, &mainWindow_);
+  return ExecDialog(dialog) == QDialog::Accepted;
 }
 
 void QtHelperWindows::ShowAbout() {
