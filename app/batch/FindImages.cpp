@@ -5,6 +5,7 @@
 #include "env/PathText.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace fs = std::filesystem;
 
@@ -79,12 +80,6 @@ FoundImages FindImages(const std::string& typed, bool recursive, const env::Path
   if (!IsImage(*native))
     return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
   return {{path}, ProblemOf(path, paths)};
-}
-
-bool CanListFolder(const std::optional<fs::path>& folder) {
-  std::error_code error;
-  if (folder) const fs::directory_iterator entries(*folder, error);
-  return folder && !error;
 }
 
 }  // namespace vantorium::batch
