@@ -22,11 +22,16 @@ const std::string& TextOf(const ImageEntry& entry, SortColumn column) {
   return entry.DateKey;
 }
 
-bool BeginsWithWord(std::string_view name, const std::string& foldedWord) {
-  const std::string folded = FoldCase(name);
-  if (!folded.starts_with(foldedWord)) return false;
-  const std::string_view rest = std::string_view(folded).substr(foldedWord.size());
-  return !BeginsWithLetterOrDigit(rest);
+/// Both texts are folded by the same function.
+bool BeginsWithWord(std::string_view name, std::string_view word) {
+  return name.starts_with(word) && !BeginsWithLetterOrDigit(name.substr(word.size()));
+}
+
+/// A typed name has underscores in place of blanks, the name of an image may have blanks.
+std::string FoldWithBlanks(std::string_view text) {
+  std::string folded = FoldCase(text);
+  std::ranges::replace(folded, ' ', '_');
+  return folded;
 }
 
 void CheckPosition(std::size_t position, std::size_t last) {
@@ -149,11 +154,13 @@ std::optional<std::size_t> ImageList::PositionOf(std::string_view name) const {
 }
 
 std::optional<std::size_t> ImageList::FindWord(std::string_view word) const {
-  const std::string wanted = FoldCase(word);
-  const auto found =
-      std::ranges::find_if(rows_, [&](const RowOwner& row) { return BeginsWithWord(row->entry.ImageName, wanted); });
-  if (found == rows_.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - rows_.begin()) + 1;
+  for (const auto fold : {FoldCase, FoldWithBlanks}) {
+    const std::string wanted = fold(word);
+    const auto found = std::ranges::find_if(
+        rows_, [&](const RowOwner& row) { return BeginsWithWord(fold(row->entry.ImageName), wanted); });
+    if (found != rows_.end()) return static_cast<std::size_t>(found - rows_.begin()) + 1;
+  }
+  return std::nullopt;
 }
 
 ImageList::RowOwner ImageList::TakeOut(std::size_t position) {

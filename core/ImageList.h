@@ -69,7 +69,7 @@ class ImageList {
   /// Returns the position of the row with exactly this name.
   [[nodiscard]] std::optional<std::size_t> PositionOf(std::string_view name) const;
   /// Returns the position of the first row whose name begins with `word`, ignoring case, followed by the end of the
-  /// name or a character that is neither letter nor digit.
+  /// name or a character that is neither letter nor digit. If there is none, blanks count as underscores.
   [[nodiscard]] std::optional<std::size_t> FindWord(std::string_view word) const;
 
  private:

@@ -20,4 +20,10 @@ std::optional<std::string> OpenFolder::Next() {
   return std::nullopt;
 }
 
+bool CanListFolder(const std::optional<std::filesystem::path>& folder) {
+  std::error_code error;
+  if (folder) const std::filesystem::directory_iterator entries(*folder, error);
+  return folder && !error;
+}
+
 }  // namespace vantorium::env

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -29,5 +30,8 @@ class OpenFolder {
  private:
   DIR* listing_;
 };
+
+/// Returns whether `folder` is a folder whose entries can be read. nullopt is none.
+[[nodiscard]] bool CanListFolder(const std::optional<std::filesystem::path>& folder);
 
 }  // namespace vantorium::env

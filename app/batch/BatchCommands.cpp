@@ -11,6 +11,7 @@
 #include "core/Theme.h"
 #include "core/generation/CreateGallery.h"
 #include "env/DriveTable.h"
+#include "env/OpenFolder.h"
 #include "env/PathText.h"
 #include "env/ProgramFolder.h"
 #include "env/TempFolder.h"
@@ -184,7 +185,7 @@ ExitCode BatchProgram::Publish() {
 
 ExitCode BatchProgram::Upload() {
   const std::string folder = PathText(options_.folder);
-  if (!CanListFolder(paths_.ToNative(folder))) {
+  if (!env::CanListFolder(paths_.ToNative(folder))) {
     boxes_.Critical("File Error", "The folder \"" + paths_.Surface(options_.folder) + "\" cannot be read.");
     return ExitCode::Failure;
   }

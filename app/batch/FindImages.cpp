@@ -5,6 +5,7 @@
 #include "env/PathText.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace fs = std::filesystem;
 
@@ -84,12 +85,6 @@ FoundImages FindImages(const std::string& typed, bool recursive, const env::Path
     return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
   if (!fs::is_regular_file(status)) return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no file."};
   return {{path}, ProblemOf(path, paths)};
-}
-
-bool CanListFolder(const std::optional<fs::path>& folder) {
-  std::error_code error;
-  if (folder) const fs::directory_iterator entries(*folder, error);
-  return folder && !error;
 }
 
 }  // namespace vantorium::batch

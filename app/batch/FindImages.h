@@ -2,8 +2,6 @@
 
 #include "env/PathMap.h"
 
-#include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,8 +17,5 @@ struct FoundImages {
 /// and, if `recursive`, then those of its subfolders, also in the order of their names. Does not follow links to
 /// folders. Path text keeps the drive that was typed.
 [[nodiscard]] FoundImages FindImages(const std::string& typed, bool recursive, const env::PathMap& paths);
-
-/// Returns whether `folder` is a folder whose entries can be read. nullopt is none.
-[[nodiscard]] bool CanListFolder(const std::optional<std::filesystem::path>& folder);
 
 }  // namespace vantorium::batch

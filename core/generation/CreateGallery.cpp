@@ -3,6 +3,7 @@
 #include "core/ProjectEditor.h"
 #include "core/generation/RunForecast.h"
 #include "env/LaunchCommands.h"
+#include "env/OpenFolder.h"
 #include "env/RuntimeFailure.h"
 #include "env/TempFolder.h"
 
@@ -59,7 +60,7 @@ bool GalleryCreator::Prepare(RunOrder& order) {
       return !RefuseEmptyList("You cannot upload a Gallery without Images.");
     case GenerationMode::Upload:
       PrepareConnection(order.ServerOptions);
-      return true;
+      return !RefuseSource(order.OutputFolder);
   }
   return false;
 }
@@ -84,6 +85,13 @@ void GalleryCreator::PrepareConnection(const publish::FTPOptions& options) {
 bool GalleryCreator::RefuseEmptyList(const char* text) {
   if (!project_.images.Empty()) return false;
   environment_.boxes.Critical("No Images", text);
+  return true;
+}
+
+bool GalleryCreator::RefuseSource(const std::string& folder) {
+  const env::PathMap& paths = environment_.files.Paths();
+  if (env::CanListFolder(paths.ToNative(folder))) return false;
+  environment_.boxes.Critical("File Error", "The folder \"" + paths.Surface(folder) + "\" cannot be read.");
   return true;
 }
 

@@ -27,6 +27,8 @@ class GalleryCreator {
 
  private:
   [[nodiscard]] bool RefuseEmptyList(const char* text);
+  /// Returns true, after a message box, if the folder to upload cannot be read.
+  [[nodiscard]] bool RefuseSource(const std::string& folder);
   void Repair();
   [[nodiscard]] RunEnd Start(RunOrder order, std::int16_t browserIndex);
   /// Completes `order`. Returns false, after a message box, if there is nothing to make.

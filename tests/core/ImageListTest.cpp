@@ -369,6 +369,19 @@ TEST(ImageList, FindWordFindsTheFirstNameThatBeginsWithItInAnyCase) {
   }
 }
 
+TEST(ImageList, FindWordTakesABlankAndAnUnderscoreForTheSameIfNothingElseIsFound) {
+  const ImageList list = ListOf({"IMG 10.jpg", "IMG 1.jpg", "img_1.jpg", "sun  set"});
+  struct Case {
+    const char* word;
+    std::size_t position;
+  };
+  for (const auto& [word, position] : {Case{"img", 1}, Case{"IMG_10", 1}, Case{"img 1", 2}, Case{"IMG_1.jpg", 3},
+                                       Case{"sun__set", 4}, Case{"sun _set", 4}}) {
+    EXPECT_EQ(list.FindWord(word), position) << word;
+  }
+  EXPECT_FALSE(list.FindWord("sun_set"));
+}
+
 TEST(ImageList, FindWordSkipsNamesThatGoOnWithALetterOrDigitOfAnyScript) {
   const ImageList list = ListOf({"photo1", "seaside", "sea\u00E9", "sea\u0436", "sea\u0663", "a sea", "se"});
   for (const char* missing : {"photo", "sea", "s", "hoto1", "photo1.", "photo1 ", "", "\xFF"}) {

@@ -54,6 +54,8 @@ void frmMovedFolders::ShowRows() {
     ui_->lvFolders->setColumnWidth(column, ui_->lvFolders->minimumWidth() * 2 / 5);
   }
   ui_->OKButton->setEnabled(model_.CanAccept());
+  // Return must not discard what was typed.
+  (model_.HasNewFolder() ? ui_->OKButton : ui_->CancelButton)->setDefault(true);
 }
 
 void frmMovedFolders::ShowNewFolder() {

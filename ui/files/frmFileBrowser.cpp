@@ -3,6 +3,7 @@
 #include "ui/files/FileWindow.h"
 #include "ui/model/dialogs/DialogPlace.h"
 #include "ui/qt/QtText.h"
+#include "ui/widgets/ExecDialog.h"
 
 #include <QApplication>
 #include <QDir>
@@ -15,7 +16,7 @@ frmFileBrowser::frmFileBrowser(const env::PathMap& paths, env::MessageBoxPort& b
 FileDialogResult frmFileBrowser::DisplayFileDialog(const FileDialogRequest& request) {
   const std::filesystem::path home = NearestFolder(paths_, folder_, FromQt(QDir::homePath()));
   FileWindow window(request, files_, boxes_, home, QApplication::activeWindow());
-  if (window.exec() != QDialog::Accepted) return {};
+  if (ExecDialog(window) != QDialog::Accepted) return {};
   folder_ = window.Choice().folder;
   return window.Choice();
 }

@@ -15,6 +15,9 @@
 #include "ui/model/dialogs/MovedFolders.h"
 #include "ui/model/dialogs/RunWarningsModel.h"
 #include "ui/model/main/MainModel.h"
+#include "ui/widgets/ExecDialog.h"
+
+#include <QApplication>
 
 namespace vantorium::ui {
 namespace {
@@ -47,7 +50,8 @@ void QtHelperWindows::ShowDescriptions() {
 }
 
 bool QtHelperWindows::ShowThemes(ThemeModel& themes) {
-  return frmApplyTheme(themes, &mainWindow_).exec() == QDialog::Accepted;
+  frmApplyTheme dialog(themes, &mainWindow_);
+  return ExecDialog(dialog) == QDialog::Accepted;
 }
 
 void QtHelperWindows::ShowAbout() {
@@ -90,8 +94,9 @@ void QtHelperWindows::ShowInfoWindow(const std::string& text) {
 
 std::vector<core::MovedFolder> QtHelperWindows::AskForMovedFolders(const std::vector<std::string>& sources) {
   MovedFolders folders(sources, model_.Ports().files);
-  const bool accepted =
-      frmMovedFolders(folders, model_.Ports().folderBrowser, &mainWindow_).exec() == QDialog::Accepted;
+  // A project that the command line names is opened while only the splash window is visible.
+  QWidget* const owner = mainWindow_.isVisible() ? &mainWindow_ : QApplication::activeWindow();
+  const bool accepted = frmMovedFolders(folders, model_.Ports().folderBrowser, owner).exec() == QDialog::Accepted;
   return accepted ? folders.Moved() : std::vector<core::MovedFolder>();
 }
 

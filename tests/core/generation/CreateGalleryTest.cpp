@@ -78,6 +78,15 @@ TEST_F(CreateGalleryTest, TheSwitchesOfTheDialogReachTheRun) {
   EXPECT_EQ(FilesIn("web"), (std::set<std::string>{"start.htm", "thumbpage_1.htm", "a.htm"}));
 }
 
+TEST_F(CreateGalleryTest, AFolderThatCannotBeReadIsReportedBeforeItsUpload) {
+  host.order = RunOrder{.Mode = GenerationMode::Upload, .OutputFolder = "T:\\nowhere\\"};
+  EXPECT_EQ(Create(GenerationMode::Create), RunEnd::NotStarted);
+  EXPECT_EQ(journal, (fakes::Journal{"asked"}));
+  ASSERT_EQ(boxes.boxes.size(), 1U);
+  EXPECT_EQ(boxes.boxes[0].title, "File Error");
+  EXPECT_EQ(boxes.boxes[0].text, "The folder \"T:\\nowhere\\\" cannot be read.");
+}
+
 TEST_F(CreateGalleryTest, AfterWarningsTheUserDecidesWhetherTheRunStarts) {
   AddPhotograph("a#1");
   host.startsAnyway = false;

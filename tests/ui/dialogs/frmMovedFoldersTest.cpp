@@ -70,6 +70,21 @@ TEST_F(MovedFoldersForm, ImagesOfATypedFolderAreCountedAtOnceAndOKAcceptsIt) {
   EXPECT_EQ(model.Moved()[0].to, "C:\\new\\");
 }
 
+TEST_F(MovedFoldersForm, ReturnTakesWhatWasTypedAndNeverDiscardsIt) {
+  const int result = Ask([this](QWidget& form) {
+    auto& box = Find<QLineEdit>(form, "textNewFolder");
+    Type(box, "/nowhere");
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible()) << "no image is there";
+    EXPECT_EQ(Rows(form)[0], "D:\\Photos\\|/nowhere|0 of 1");
+    Type(box, QString::fromStdString(New()));
+    QTest::keyClick(&box, Qt::Key_Return);
+    if (form.isVisible()) Click(form, "CancelButton");
+  });
+  EXPECT_EQ(result, QDialog::Accepted);
+  EXPECT_EQ(model.Moved().size(), 1U);
+}
+
 TEST_F(MovedFoldersForm, ABrowsedFolderIsShownAsANativePath) {
   browser.answers = {"C:\\new"};
   std::ignore = Ask([this](QWidget& form) {

@@ -464,5 +464,13 @@ TEST_F(FileDialog, SavingProposesANameAndAsksBeforeAFileIsReplaced) {
   EXPECT_EQ(harness.boxes.boxes[0].text, "my.gpj already exists.\r\nDo you want to replace it?");
 }
 
+TEST_F(FileDialog, TheWindowThatOpenedItIsActiveAfterwards) {
+  QWidget owner;
+  owner.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&owner));
+  Show(Images(), [](QWidget& dialog) { Click(Cancel(dialog)); });
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&owner, 1000));
+}
+
 }  // namespace
 }  // namespace vantorium::ui

@@ -10,6 +10,13 @@
 namespace vantorium::ui {
 namespace {
 
+/// Whether `path` is a folder that exists. Its name may look as if it had an extension.
+bool IsFolder(const env::PathMap& paths, const std::string& path) {
+  const auto native = paths.ToNative(path);
+  std::error_code ignored;
+  return native && std::filesystem::is_directory(*native, ignored);
+}
+
 /// Returns the preferred profile, or nullopt if there is none.
 std::optional<publish::ServerProfile> PreferredServer(const std::filesystem::path& file) {
   try {
@@ -98,7 +105,7 @@ void CreateGalleryModel::LeaveFilePath() {
   if (path.find(':') == std::string::npos) path = preferences_.CreateFolder;
   if (path.ends_with(':')) path += "\\index.htm";
   if (path.ends_with('\\')) path += "index.htm";
-  if (env::GetFileExtension(path).empty()) path += "\\index.htm";
+  if (env::GetFileExtension(path).empty() || IsFolder(paths_, path)) path += "\\index.htm";
 }
 
 void CreateGalleryModel::BrowseFilePath(FileBrowser& browser) {

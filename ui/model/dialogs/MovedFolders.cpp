@@ -28,6 +28,10 @@ std::string MovedFolders::CountText(const Row& row) {
   return fmt::format("{} of {}", row.found, row.images);
 }
 
+bool MovedFolders::HasNewFolder() const {
+  return std::ranges::any_of(rows_, [](const Row& row) { return !row.to.empty(); });
+}
+
 bool MovedFolders::CanAccept() const {
   return std::ranges::any_of(rows_, [](const Row& row) { return row.found != 0; });
 }

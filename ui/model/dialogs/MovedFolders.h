@@ -35,6 +35,8 @@ class MovedFolders {
 
   /// Such as "3 of 14".
   [[nodiscard]] static std::string CountText(const Row& row);
+  /// Whether a new folder was given for any row.
+  [[nodiscard]] bool HasNewFolder() const;
   /// Whether any photograph was found.
   [[nodiscard]] bool CanAccept() const;
   /// The folders in which photographs were found.

@@ -583,6 +583,16 @@ TEST_F(CreateGalleryModelTest, ANativePathOfTheIndexFileIsCompletedLikePathText)
   for (const auto& [typed, shown] : cases) EXPECT_EQ(paths.Surface(LeftFilePath(typed)), shown) << typed;
 }
 
+TEST_F(CreateGalleryModelTest, AFolderThatExistsIsNoIndexFileWhateverItsName) {
+  paths = env::PathMap({}, program.Path());
+  std::filesystem::create_directory(program.Path() / "my.site");
+  program.Write("start.page", "");
+  const std::string home = program.Path().string();
+  EXPECT_EQ(paths.Surface(LeftFilePath(home + "/my.site")), home + "/my.site/index.htm");
+  EXPECT_EQ(paths.Surface(LeftFilePath(home + "/your.site")), home + "/your.site");
+  EXPECT_EQ(paths.Surface(LeftFilePath(home + "/start.page")), home + "/start.page");
+}
+
 TEST_F(CreateGalleryModelTest, ANativeSourceFolderMustBeAbsolute) {
   paths = env::PathMap({}, "/home/me");
   model.Choose(generation::GenerationMode::Upload);
