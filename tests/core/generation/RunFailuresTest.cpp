@@ -65,7 +65,7 @@ TEST_F(RunFailuresTest, ASizeThatJPEGCannotStoreIsRefusedBeforeMemoryIsAllocated
   }
 }
 
-TEST_F(RunHindrancesTest, ASourceWhosePictureWouldHaveNoWidthIsNamed) {
+TEST_F(RunFailuresTest, ASourceWhosePictureWouldHaveNoWidthIsNamed) {
   AddPhotograph("a", 40, 40);
   AddPhotograph("b", 1, 1000);
   EXPECT_EQ(Run(OrderToCreate()), RunEnd::Failure);
