@@ -139,11 +139,11 @@ void PutBack(const SortedBytes& sorted, std::size_t count, std::uint8_t* pixels)
     const std::uint8_t high = sorted.high[i];
     const bool falling = (sorted.place[i] & kFalling) != 0;
     const std::uint8_t before = falling ? sorted.middle[i] : sorted.low[i];  // the channel before the highest
-    const std::uint8_t behind = falling ? sorted.low[i] : sorted.middle[i];
+    const std::uint8_t after = falling ? sorted.low[i] : sorted.middle[i];
     const int third = sorted.place[i] & 6;
-    pixels[3 * i] = third == 0 ? before : third == 2 ? behind : high;
-    pixels[3 * i + 1] = third == 0 ? behind : third == 2 ? high : before;
-    pixels[3 * i + 2] = third == 0 ? high : third == 2 ? before : behind;
+    pixels[3 * i] = third == 0 ? before : third == 2 ? after : high;
+    pixels[3 * i + 1] = third == 0 ? after : third == 2 ? high : before;
+    pixels[3 * i + 2] = third == 0 ? high : third == 2 ? before : after;
   }
 }
 

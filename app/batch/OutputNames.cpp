@@ -13,8 +13,7 @@ namespace vantorium::batch {
 namespace {
 
 std::string Quoted(const std::string& path, const env::PathMap& paths) {
-  const auto native = paths.ToNative(path);
-  return "\"" + (native ? native->string() : path) + "\"";
+  return "\"" + paths.Surface(path) + "\"";
 }
 
 fs::file_status StatusOf(const std::string& path, const env::PathMap& paths) {

@@ -32,7 +32,7 @@ bool IsBlank(char c) {
 }
 
 /// Returns the length of the character reference that browsers would see at the start of `text`, which begins with "&";
-/// 0 if they see none. In attributes, a letter, a digit or "=" behind the short form makes it plain text. A name with a
+/// 0 if they see none. In attributes, a letter, a digit or "=" after the short form makes it plain text. A name with a
 /// semicolon counts even if no character has it.
 std::size_t LengthOfReference(std::string_view text) {
   const auto* const end = std::find_if_not(text.begin() + 1, text.end(), IsLetterOrDigit);

@@ -16,8 +16,8 @@ std::string SpacedCaption(const std::string& caption, core::Choice alignment) {
   constexpr std::string_view kBlank = "&nbsp;";
   const bool isStart = alignment == core::NumberOf(core::Alignment::Start);
   const std::string_view before = isStart ? "" : kBlank;
-  const std::string_view behind = isStart || alignment == core::NumberOf(core::Alignment::Center) ? kBlank : "";
-  return fmt::format("{}{}{}", before, caption, behind);
+  const std::string_view after = isStart || alignment == core::NumberOf(core::Alignment::Center) ? kBlank : "";
+  return fmt::format("{}{}{}", before, caption, after);
 }
 
 /// Builds the content of a cell. The caption's table is nested in that of the description.

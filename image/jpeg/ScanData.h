@@ -8,7 +8,7 @@
 
 namespace vantorium::image::jpeg {
 
-/// Reads the entropy-coded data of a scan from a file, a piece at a time, and removes the zero stuffed behind each byte
+/// Reads the entropy-coded data of a scan from a file, a piece at a time, and removes the zero stuffed after each byte
 /// FF. A marker ends a segment; restart markers separate the segments of a scan.
 class ScanData {
  public:

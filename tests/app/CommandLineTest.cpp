@@ -231,10 +231,10 @@ TEST(CommandLine, CommonOptionsMayPrecedeOrFollowTheCommand) {
   const Arguments options = {"--jobs", "2", "--quiet", "--creation-time", "2024-02-29 23:59:59"};
   Arguments before = options;
   before.insert(before.end(), {"show", "a.gpj"});
-  Arguments behind = {"show", "a.gpj"};
-  behind.insert(behind.end(), options.begin(), options.end());
+  Arguments after = {"show", "a.gpj"};
+  after.insert(after.end(), options.begin(), options.end());
   EXPECT_TRUE(Succeeded(place.Run(before)));
-  EXPECT_TRUE(Succeeded(place.Run(behind)));
+  EXPECT_TRUE(Succeeded(place.Run(after)));
 }
 
 TEST(CommandLine, AfterTwoDashesAPathMayBeginWithADash) {

@@ -43,7 +43,7 @@ def cancel_creation(harness):
         screen.press("Return")
         screen.wait_for_no_window("Creating Gallery")
     made = files_below(harness.path("gallery"))
-    expect(False, "index.htm" in made, "index behind a cancelled run")
+    expect(False, "index.htm" in made, "index after a cancelled run")
     for name in made:
         picture = harness.read("gallery", name)
         expect(True, name.endswith(".jpg") and picture.endswith(b"\xff\xd9"), f"{name} is a whole picture")

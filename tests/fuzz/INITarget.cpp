@@ -40,9 +40,9 @@ std::vector<std::string> LinesLost(std::string_view before, std::string_view aft
   const auto begin = std::ranges::mismatch(old, now).in1;
   const auto kept = begin - old.begin();
   const auto most = std::min(old.size(), now.size()) - static_cast<std::size_t>(kept);
-  std::size_t behind = 0;
-  while (behind < most && old[old.size() - 1 - behind] == now[now.size() - 1 - behind]) ++behind;
-  return {begin, old.end() - static_cast<std::ptrdiff_t>(behind)};
+  std::size_t same = 0;
+  while (same < most && old[old.size() - 1 - same] == now[now.size() - 1 - same]) ++same;
+  return {begin, old.end() - static_cast<std::ptrdiff_t>(same)};
 }
 
 void CheckWriting(const std::string& text, const std::string& value) {

@@ -213,7 +213,7 @@ TEST_F(JPEG, FilesWithHarmlessOdditiesAreLoaded) {
       fakes::WithBytesAt(jpeg, fakes::FrameHeaderOf(jpeg), std::string("\xFF\xE5\0\x05xyz", 7)),
       fakes::WithBytesAt(jpeg, fakes::FrameHeaderOf(jpeg), "\xFF\xFF\xFF"),
       fakes::WithBytesAt(jpeg, jpeg.size() - 2, std::string(5, '\0')),
-      jpeg + "data behind the end" + std::string(100000, '\xFF'),
+      jpeg + "data after the end" + std::string(100000, '\xFF'),
       jpeg + jpeg,
   };
   for (const auto& bytes : odd) {

@@ -81,9 +81,9 @@ TEST(Resample, HalfOfAHundredNeverReachesTheLastColumnAndRow) {
     for (int channel = 0; channel < 3; ++channel) source.Row(i)[3 * 99 + channel] ^= 0xFF;
   }
   for (std::int32_t i = 0; i < 300; ++i) source.Row(99)[i] ^= 0xFF;
-  const auto behind = Resample(source, 50, 50);
-  ASSERT_TRUE(before && behind);
-  EXPECT_EQ(PixelDifference(*before, *behind), "");
+  const auto after = Resample(source, 50, 50);
+  ASSERT_TRUE(before && after);
+  EXPECT_EQ(PixelDifference(*before, *after), "");
   // Column 98 is used.
   source.Row(0)[3 * 98] ^= 0xFF;
   EXPECT_NE(PixelDifference(*before, *Resample(source, 50, 50)), "");
