@@ -25,7 +25,7 @@ std::size_t Bytes(const image::cDIBSection& dib) {
 }
 
 // All routines share one random picture. Filters change it, but no filter's time depends on the colors.
-cDIBSection& Picture() {
+image::cDIBSection& Picture() {
   static image::cDIBSection picture = [] {
     image::cDIBSection made;
     if (!made.Create(kWidth, kHeight)) std::abort();

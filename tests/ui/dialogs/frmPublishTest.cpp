@@ -89,7 +89,7 @@ TEST_F(PublishForm, AServerChosenWithTheKeyboardBecomesThePreferredOne) {
 }
 
 TEST_F(PublishForm, TypedFieldsAreConvertedAndWritten) {
-  EXPECT_TRUE(Drive([this](QWidget& form) {
+  EXPECT_TRUE(Drive([](QWidget& form) {
     Type(Find<QLineEdit>(form, "textServerURL"), "host\\a");
     Type(Find<QLineEdit>(form, "textUserName"), "domain\\some body");
     Type(Find<QLineEdit>(form, "textJumpTo"), "web\\my site");
