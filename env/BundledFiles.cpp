@@ -27,6 +27,7 @@ std::vector<fs::path> BundledFiles::FindAll(std::string_view folder, std::string
     }
   }
   std::vector<fs::path> found;
+  found.reserve(files.size());
   for (auto& [name, file] : files) found.push_back(std::move(file));
   return found;
 }

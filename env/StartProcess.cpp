@@ -50,6 +50,7 @@ class SpawnSettings {
 pid_t Spawn(std::vector<std::string> words) {
   if (words.empty()) throw RuntimeFailure(FailureKind::FileNotFound);
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   const SpawnSettings settings;

@@ -53,6 +53,7 @@ void CheckFontSettings(bool read) {
 void CheckThreadsToSpare() try {
   std::mutex gate;
   std::vector<std::jthread> threads;
+  threads.reserve(kThreadsOfPango);
   const std::lock_guard closed(gate);  // keeps all threads running at once
   for (int i = 0; i < kThreadsOfPango; ++i) threads.emplace_back([&gate] { const std::lock_guard passed(gate); });
 } catch (const std::system_error&) {

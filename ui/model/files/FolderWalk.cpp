@@ -54,9 +54,10 @@ std::vector<std::string> FolderWalk::ImagesIn(const std::string& folder) {
       names.push_back(std::move(name));
     }
   }
-  if (error)
+  if (error) {
     problems_.push_back(
         fmt::format("\"{}\" cannot be read: {}.", core::ToXmlText(parts_.paths.Surface(folder)), error.message()));
+  }
   std::ranges::sort(names);
   return names;
 }
