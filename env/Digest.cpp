@@ -1,16 +1,14 @@
 #include "env/Digest.h"
 
-#include "env/FileDescriptor.h"
+#include "env/FileInput.h"
+#include "env/RuntimeFailure.h"
 
 #include <array>
-#include <cerrno>
+#include <limits>
 #include <new>
 
-#include <fcntl.h>
 #include <fmt/format.h>
 #include <openssl/evp.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace vantorium::env {
 namespace {
@@ -49,19 +47,12 @@ std::string DigestOf(std::string_view bytes) {
   return digest.Text();
 }
 
-std::optional<std::string> DigestOfFile(const std::filesystem::path& file) {
-  constexpr std::size_t kBlock = 65536;
-  const FileDescriptor source(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  struct stat status = {};
-  if (!source.IsOpen() || ::fstat(source.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+std::optional<std::string> DigestOfFile(const std::filesystem::path& file) try {
   Digest digest;
-  std::string block(kBlock, '\0');
-  for (;;) {
-    const auto count = ::read(source.Get(), block.data(), block.size());
-    if (count == 0) return digest.Text();
-    if (count < 0 && errno != EINTR) return std::nullopt;
-    if (count > 0) digest.Add(std::string_view(block).substr(0, static_cast<std::size_t>(count)));
-  }
+  ReadFileInPieces(file, std::numeric_limits<std::size_t>::max(), [&](std::string_view piece) { digest.Add(piece); });
+  return digest.Text();
+} catch (const RuntimeFailure&) {
+  return std::nullopt;
 }
 
 }  // namespace vantorium::env

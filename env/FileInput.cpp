@@ -25,22 +25,31 @@ int OpenToRead(const std::filesystem::path& file) {
 
 }  // namespace
 
-std::string ReadFileWhole(const std::filesystem::path& file, std::size_t most) {
+void ReadFileInPieces(const std::filesystem::path& file, std::size_t most,
+                      const std::function<void(std::string_view)>& take) {
   const FileDescriptor source(OpenToRead(file));
   struct stat status = {};
   if (::fstat(source.Get(), &status) != 0) ThrowFileAccess(file);
   if (!S_ISREG(status.st_mode)) ThrowFileAccess(file, EINVAL);
   if (static_cast<std::uintmax_t>(status.st_size) > most) ThrowFileAccess(file, EFBIG);
 
-  std::string bytes;
   std::array<char, 16384> block = {};
-  for (;;) {
+  for (std::size_t left = most;;) {
     const auto count = ::read(source.Get(), block.data(), block.size());
-    if (count == 0) return bytes;
-    if (count < 0 && errno != EINTR) ThrowFileAccess(file);
-    if (count > 0) bytes.append(block.data(), static_cast<std::size_t>(count));
-    if (bytes.size() > most) ThrowFileAccess(file, EFBIG);
+    if (count == 0) return;
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) ThrowFileAccess(file);
+    const std::string_view piece(block.data(), static_cast<std::size_t>(count));
+    if (piece.size() > left) ThrowFileAccess(file, EFBIG);
+    left -= piece.size();
+    take(piece);
   }
+}
+
+std::string ReadFileWhole(const std::filesystem::path& file, std::size_t most) {
+  std::string bytes;
+  ReadFileInPieces(file, most, [&bytes](std::string_view piece) { bytes += piece; });
+  return bytes;
 }
 
 }  // namespace vantorium::env

@@ -20,6 +20,11 @@ std::optional<std::string> OpenFolder::Next() {
   return std::nullopt;
 }
 
+bool IsFolder(const std::optional<std::filesystem::path>& path) {
+  std::error_code ignored;
+  return path && std::filesystem::is_directory(*path, ignored);
+}
+
 bool CanListFolder(const std::optional<std::filesystem::path>& folder) {
   std::error_code error;
   if (folder) const std::filesystem::directory_iterator entries(*folder, error);

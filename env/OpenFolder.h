@@ -31,6 +31,8 @@ class OpenFolder {
   DIR* listing_;
 };
 
+/// Returns whether there is a folder of that name. nullopt is none.
+[[nodiscard]] bool IsFolder(const std::optional<std::filesystem::path>& path);
 /// Returns whether `folder` is a folder whose entries can be read. nullopt is none.
 [[nodiscard]] bool CanListFolder(const std::optional<std::filesystem::path>& folder);
 

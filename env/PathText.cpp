@@ -29,8 +29,7 @@ std::string GetFileExtension(std::string_view path) {
 }
 
 bool HasDrive(std::string_view path) {
-  return path.size() >= 2 && path[1] == ':' &&
-         ((path[0] >= 'a' && path[0] <= 'z') || (path[0] >= 'A' && path[0] <= 'Z'));
+  return path.size() >= 2 && path[1] == ':' && IsAsciiLetter(path[0]);
 }
 
 std::string WithSlashes(std::string_view path) {

@@ -42,6 +42,10 @@ bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
                     [](char a, char b) { return Upper(a) == Upper(b); });
 }
 
+bool StartsWithIgnoringCase(std::string_view text, std::string_view start) {
+  return EqualsIgnoringCase(text.substr(0, start.size()), start);
+}
+
 std::size_t FindIgnoringCase(std::string_view text, std::string_view part, std::size_t start) {
   if (part.empty() || part.size() > text.size()) return std::string_view::npos;
   // Nearly all texts searched lack the first character ("<" of a tag): let the standard library's fast search find it.
@@ -79,7 +83,7 @@ std::string WithCrLf(std::string_view text) {
 
 std::string_view WithoutFilePrefix(std::string_view text) {
   constexpr std::string_view kPrefix = "FILE://";
-  if (EqualsIgnoringCase(text.substr(0, kPrefix.size()), kPrefix)) text.remove_prefix(kPrefix.size());
+  if (StartsWithIgnoringCase(text, kPrefix)) text.remove_prefix(kPrefix.size());
   return text;
 }
 

@@ -10,11 +10,19 @@ namespace vantorium::env {
 
 inline constexpr std::string_view kCrLf = "\r\n";
 
+[[nodiscard]] constexpr bool IsAsciiLetter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+[[nodiscard]] constexpr bool IsAsciiDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
 /// Returns `text` with the letters a to z in upper case; every other byte is unchanged.
 [[nodiscard]] std::string AsciiUpper(std::string_view text);
 [[nodiscard]] std::string AsciiLower(std::string_view text);
 
 [[nodiscard]] bool EqualsIgnoringCase(std::string_view left, std::string_view right);
+[[nodiscard]] bool StartsWithIgnoringCase(std::string_view text, std::string_view start);
 
 /// Returns the position of `part` in `text` from `start` on, or npos.
 [[nodiscard]] std::size_t FindIgnoringCase(std::string_view text, std::string_view part, std::size_t start = 0);
