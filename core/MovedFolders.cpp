@@ -8,10 +8,6 @@
 namespace vantorium::core {
 namespace {
 
-bool BeginsWith(std::string_view path, std::string_view folder) {
-  return path.size() >= folder.size() && env::EqualsIgnoringCase(path.substr(0, folder.size()), folder);
-}
-
 /// Returns the length of the folder in a path, with its separator; a drive alone is a folder too. `path` has
 /// backslashes.
 std::size_t FolderLength(std::string_view path) {
@@ -35,7 +31,7 @@ std::string_view TopFolder(std::string_view path) {
 
 /// Shortens `folder` to the deepest one that also has `path`.
 void Widen(std::string& folder, std::string_view path) {
-  while (!BeginsWith(path, folder)) {
+  while (!env::StartsWithIgnoringCase(path, folder)) {
     folder.pop_back();
     folder.resize(folder.rfind('\\') + 1);  // npos + 1 is 0
   }
@@ -67,7 +63,7 @@ std::string Moved(const std::string& source, std::span<const MovedFolder> folder
   const MovedFolder* deepest = nullptr;
   for (const MovedFolder& folder : folders) {
     const bool isDeeper = deepest == nullptr || folder.from.size() > deepest->from.size();
-    if (isDeeper && BeginsWith(path, env::WithBackslashes(folder.from))) deepest = &folder;
+    if (isDeeper && env::StartsWithIgnoringCase(path, env::WithBackslashes(folder.from))) deepest = &folder;
   }
   return deepest == nullptr ? source : env::WithSlashes(deepest->to + path.substr(deepest->from.size()));
 }

@@ -9,7 +9,7 @@ namespace vantorium::publish {
 namespace {
 
 bool BeginsWithNumber(std::string_view line) {
-  return line.size() >= 3 && std::ranges::all_of(line.substr(0, 3), [](char c) { return c >= '0' && c <= '9'; });
+  return line.size() >= 3 && std::ranges::all_of(line.substr(0, 3), env::IsAsciiDigit);
 }
 
 std::int16_t NumberOf(std::string_view line) {

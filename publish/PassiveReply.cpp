@@ -1,15 +1,13 @@
 #include "publish/PassiveReply.h"
 
+#include "env/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 
 namespace vantorium::publish {
 namespace {
-
-bool IsDigit(char letter) {
-  return letter >= '0' && letter <= '9';
-}
 
 /// Takes a decimal number from the front of `text`. Returns nullopt if there is none of at most `most`.
 std::optional<unsigned> TakeNumber(std::string_view& text, unsigned most) {
@@ -46,7 +44,7 @@ std::optional<std::uint16_t> PortOfEpsvReply(std::string_view text) {
   const auto open = text.find('(');
   if (open == std::string_view::npos || text.size() < open + 5) return std::nullopt;
   const char delimiter = text[open + 1];
-  const bool isDelimiter = delimiter >= '!' && delimiter <= '~' && !IsDigit(delimiter);
+  const bool isDelimiter = delimiter >= '!' && delimiter <= '~' && !env::IsAsciiDigit(delimiter);
   if (!isDelimiter || text[open + 2] != delimiter || text[open + 3] != delimiter) return std::nullopt;
   text.remove_prefix(open + 4);
   const auto port = TakeNumber(text, 65535);
@@ -55,13 +53,13 @@ std::optional<std::uint16_t> PortOfEpsvReply(std::string_view text) {
 }
 
 std::optional<std::uint16_t> PortOfPasvReply(std::string_view text) {
-  for (auto digit = std::ranges::find_if(text, IsDigit); digit != text.end();) {
+  for (auto digit = std::ranges::find_if(text, env::IsAsciiDigit); digit != text.end();) {
     const auto start = static_cast<std::size_t>(digit - text.begin());
     if (const auto numbers = TakeSixNumbers(text.substr(start))) return AsPort((*numbers)[4] * 256 + (*numbers)[5]);
     // Not inside the same number: the 99 of "999,..." begins no address.
     text.remove_prefix(start);
-    text.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(text, IsDigit) - text.begin()));
-    digit = std::ranges::find_if(text, IsDigit);
+    text.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(text, env::IsAsciiDigit) - text.begin()));
+    digit = std::ranges::find_if(text, env::IsAsciiDigit);
   }
   return std::nullopt;
 }

@@ -52,14 +52,12 @@ struct FolderUpload::Place {
 
 std::int32_t FolderUpload::CountSteps(const std::string& localFolder) {
   std::int32_t steps = 0;
-  isSending_ = false;
   if (!localFolder.empty()) std::ignore = Count(localFolder, steps);
   return steps;
 }
 
 bool FolderUpload::UploadFolder(const std::string& localFolder, const std::string& remotePath, bool overwrite) {
   if (localFolder.empty()) return false;
-  isSending_ = true;
   return Send({WithoutOneAtEnd(localFolder, '\\'), WithoutOneAtEnd(RelativeToSession(remotePath), '/'), overwrite});
 }
 
@@ -68,19 +66,28 @@ bool FolderUpload::Count(const std::string& folder, std::int32_t& steps) {
   const std::string local = WithoutOneAtEnd(folder, '\\');
   return Trapped([&] {
     ++steps;
-    return VisitEntries(local, [&](const FolderEntry& entry) {
+    const FolderListing listing = List(local);
+    const auto countEntry = [&](const FolderEntry& entry) {
       if (IsLeftOut(entry.kind)) return true;
       ++steps;
       return entry.kind != EntryKind::Folder || Count(local + "\\" + entry.name, steps);
-    });
+    };
+    return VisitEntries(listing, countEntry) && listing.complete;
   });
 }
 
 bool FolderUpload::Send(const Place& place) {
-  return Trapped([&] {
-    return MakeDirectory(place) &&
-           VisitEntries(place.local, [&](const FolderEntry& entry) { return SendEntry(place, entry); });
-  });
+  return Trapped([&] { return MakeDirectory(place) && SendEntries(place); });
+}
+
+bool FolderUpload::SendEntries(const Place& place) {
+  const FolderListing listing = List(place.local);
+  if (!VisitEntries(listing, [&](const FolderEntry& entry) { return SendEntry(place, entry); })) return false;
+  if (!listing.complete && !cancelReported_) {
+    environment_.progress.SetText3("The folder \"" + environment_.paths.Surface(place.local) + "\" cannot be read\r\n",
+                                   true);
+  }
+  return listing.complete;
 }
 
 bool FolderUpload::Trapped(const std::function<bool()>& pass) {
@@ -96,16 +103,11 @@ bool FolderUpload::Trapped(const std::function<bool()>& pass) {
   return !Cancelled() && passed;
 }
 
-bool FolderUpload::VisitEntries(const std::string& localFolder, const Visit& visit) {
-  const FolderListing listing = List(localFolder);
+bool FolderUpload::VisitEntries(const FolderListing& listing, const Visit& visit) {
   for (const FolderEntry& entry : listing.entries) {
     if (Cancelled() || !visit(entry)) return false;
   }
-  if (!listing.complete && isSending_ && !cancelReported_) {
-    environment_.progress.SetText3("The folder \"" + environment_.paths.Surface(localFolder) + "\" cannot be read\r\n",
-                                   true);
-  }
-  return listing.complete;
+  return true;
 }
 
 bool FolderUpload::MakeDirectory(const Place& place) {

@@ -55,6 +55,7 @@ class FolderUpload {
   [[nodiscard]] bool Count(const std::string& folder, std::int32_t& steps);
   [[nodiscard]] bool Send(const Place& place);
   [[nodiscard]] bool MakeDirectory(const Place& place);
+  [[nodiscard]] bool SendEntries(const Place& place);
   [[nodiscard]] bool SendEntry(const Place& place, const FolderEntry& entry);
   [[nodiscard]] bool SendSubfolder(const Place& place, const std::string& name);
   [[nodiscard]] bool SendFile(const Place& place, const std::string& name);
@@ -62,7 +63,8 @@ class FolderUpload {
   void TellLeftOut(const std::vector<std::string>& links, const char* title, std::string text) const;
 
   [[nodiscard]] bool Trapped(const std::function<bool()>& pass);
-  [[nodiscard]] bool VisitEntries(const std::string& localFolder, const Visit& visit);
+  /// Returns false if a visit does, or the user cancels.
+  [[nodiscard]] bool VisitEntries(const FolderListing& listing, const Visit& visit);
 
   [[nodiscard]] FolderListing List(const std::string& localFolder);
   [[nodiscard]] bool Cancelled();
@@ -70,7 +72,6 @@ class FolderUpload {
   void Step();
 
   UploadEnvironment environment_;
-  bool isSending_ = false;  ///< not only counting
   bool cancelReported_ = false;
   std::vector<std::string> linkedFolders_;
   std::vector<std::string> brokenLinks_;

@@ -2,6 +2,7 @@
 
 #include "env/FileDescriptor.h"
 #include "env/NeighbourFile.h"
+#include "env/OpenFolder.h"
 #include "env/RuntimeFailure.h"
 #include "env/Text.h"
 
@@ -50,8 +51,7 @@ void UploadLog::WriteLogFooter(std::string_view logBox) {
 }
 
 bool UploadLog::HasFolder() const {
-  std::error_code error;
-  return std::filesystem::is_directory(file_.parent_path(), error);
+  return env::IsFolder(file_.parent_path());
 }
 
 void UploadLog::Write(std::string_view bytes, Opening opening) {

@@ -10,6 +10,7 @@
 #include "core/ProjectSession.h"
 #include "core/Theme.h"
 #include "core/generation/CreateGallery.h"
+#include "core/generation/RunMessages.h"
 #include "env/DriveTable.h"
 #include "env/OpenFolder.h"
 #include "env/PathText.h"
@@ -186,7 +187,7 @@ ExitCode BatchProgram::Publish() {
 ExitCode BatchProgram::Upload() {
   const std::string folder = PathText(options_.folder);
   if (!env::CanListFolder(paths_.ToNative(folder))) {
-    boxes_.Critical("File Error", "The folder \"" + paths_.Surface(options_.folder) + "\" cannot be read.");
+    boxes_.Critical("File Error", generation::UnableToReadFolder(paths_.Surface(options_.folder)));
     return ExitCode::Failure;
   }
   generation::RunOrder order = OrderFor(generation::GenerationMode::Upload);

@@ -79,11 +79,13 @@ FoundImages FindImages(const std::string& typed, bool recursive, const env::Path
   const auto native = paths.ToNative(path);
   std::error_code error;
   const auto status = native ? fs::status(*native, error) : fs::file_status();
-  if (!fs::exists(status)) return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" does not exist."};
+  const auto refused = [&](const char* why) {
+    return FoundImages{{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" " + why};
+  };
+  if (!fs::exists(status)) return refused("does not exist.");
   if (fs::is_directory(status)) return FilesOfFolder(*native, path, recursive, paths);
-  if (!IsImage(*native))
-    return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no JPEG image (.jpg, .jpeg, .jfif)."};
-  if (!fs::is_regular_file(status)) return {{}, "\"" + core::ToXmlText(paths.Surface(typed)) + "\" is no file."};
+  if (!IsImage(*native)) return refused("is no JPEG image (.jpg, .jpeg, .jfif).");
+  if (!fs::is_regular_file(status)) return refused("is no file.");
   return {{path}, ProblemOf(path, paths)};
 }
 

@@ -4,6 +4,7 @@
 #include "core/file/XmlNode.h"
 #include "core/file/XmlSyntax.h"
 #include "env/FileInput.h"
+#include "env/OpenFolder.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 
@@ -49,7 +50,7 @@ std::string RefusalOfProject(const std::string& file, bool replace, const env::P
 }
 
 std::string IndexFileOf(const std::string& path, const env::PathMap& paths) {
-  const bool isFolder = path.ends_with('\\') || fs::is_directory(StatusOf(path, paths));
+  const bool isFolder = path.ends_with('\\') || env::IsFolder(paths.ToNative(path));
   return isFolder ? env::WithTrailingBackslash(path) + "index.htm" : path;
 }
 

@@ -1,6 +1,7 @@
 #include "core/file/XmlSyntax.h"
 
 #include "core/file/XmlText.h"
+#include "env/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -13,16 +14,12 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-bool IsLetter(char byte) {
-  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
 // All non-ASCII characters are accepted in names; which of them XML allows does not matter here.
 bool BeginsName(char byte) {
-  return IsLetter(byte) || byte == '_' || byte == ':' || static_cast<unsigned char>(byte) >= 0x80;
+  return env::IsAsciiLetter(byte) || byte == '_' || byte == ':' || static_cast<unsigned char>(byte) >= 0x80;
 }
 bool ContinuesName(char byte) {
-  return BeginsName(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.';
+  return BeginsName(byte) || env::IsAsciiDigit(byte) || byte == '-' || byte == '.';
 }
 
 /// Whether `name`, the text between "&" and ";", is a reference that needs no declaration.
@@ -65,7 +62,7 @@ bool IsVersion(std::string_view value) {
 }
 
 bool IsEncodingName(std::string_view value) {
-  return !value.empty() && IsLetter(value.front()) && std::ranges::all_of(value, [](char byte) {
+  return !value.empty() && env::IsAsciiLetter(value.front()) && std::ranges::all_of(value, [](char byte) {
     return ContinuesName(byte) && byte != ':' && static_cast<unsigned char>(byte) < 0x80;
   });
 }

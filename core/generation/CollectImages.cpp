@@ -21,7 +21,7 @@ void Ignoring(Statement statement) {
 
 bool ReadSourceSize(const RunState& run, const ImageRunInfo& image, std::int32_t& width, std::int32_t& height) {
   const auto native = run.files.Paths().ToNative(image.Path);
-  return native && image::ReadPhotographSize(*native, run.project.checkImagesUpright == 1, width, height);
+  return native && image::ReadPhotographSize(*native, core::IsOn(run.project.checkImagesUpright), width, height);
 }
 
 void GivenWidthSetsHeight(const core::GalleryProject& project, ImageRunInfo& image, double w, double h) {
@@ -76,10 +76,7 @@ void Raise(std::int32_t& maximum, std::int32_t value) {
 }
 
 ImageRunInfo Collect(RunState& run, std::size_t index) {
-  const core::ImageEntry& entry = run.images.Entry(index);
-  ImageRunInfo image{.Number = static_cast<std::int32_t>(index),
-                     .Path = entry.SourcePath,
-                     .FileName = BuildFileName(entry.ImageName, entry.SourcePath)};
+  ImageRunInfo image = InfoOfImage(run.images, index);
   Ignoring([&] { image.FileTime = run.files.GetFileWriteTime(image.Path); });
   FindImageSize(run, image);
   Raise(run.MaxImageWidth, image.Width);

@@ -2,6 +2,7 @@
 
 #include "core/ProjectEditor.h"
 #include "core/generation/RunForecast.h"
+#include "core/generation/RunMessages.h"
 #include "env/LaunchCommands.h"
 #include "env/OpenFolder.h"
 #include "env/RuntimeFailure.h"
@@ -91,7 +92,7 @@ bool GalleryCreator::RefuseEmptyList(const char* text) {
 bool GalleryCreator::RefuseSource(const std::string& folder) {
   const env::PathMap& paths = environment_.files.Paths();
   if (env::CanListFolder(paths.ToNative(folder))) return false;
-  environment_.boxes.Critical("File Error", "The folder \"" + paths.Surface(folder) + "\" cannot be read.");
+  environment_.boxes.Critical("File Error", UnableToReadFolder(paths.Surface(folder)));
   return true;
 }
 

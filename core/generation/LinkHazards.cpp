@@ -1,5 +1,7 @@
 #include "core/generation/LinkHazards.h"
 
+#include "env/Text.h"
+
 #include <algorithm>
 #include <array>
 
@@ -19,12 +21,8 @@ constexpr auto kShortReferences = std::to_array<std::string_view>(
      "raquo",  "reg",    "sect",   "shy",    "sup1",   "sup2",   "sup3",   "szlig",  "thorn",  "times",  "uacute",
      "ucirc",  "ugrave", "uml",    "uuml",   "yacute", "yen",    "yuml"});
 
-bool IsLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 bool IsLetterOrDigit(char c) {
-  return IsLetter(c) || (c >= '0' && c <= '9');
+  return env::IsAsciiLetter(c) || env::IsAsciiDigit(c);
 }
 
 bool IsBlank(char c) {
@@ -56,7 +54,7 @@ std::string_view CharacterReference(std::string_view name) {
 bool BeginsWithScheme(std::string_view name) {
   const auto isOfScheme = [](char c) { return IsLetterOrDigit(c) || c == '+' || c == '-' || c == '.'; };
   const auto* const end = std::ranges::find_if_not(name, isOfScheme);
-  return end != name.end() && *end == ':' && IsLetter(name.front());
+  return end != name.end() && *end == ':' && env::IsAsciiLetter(name.front());
 }
 
 std::string WhyCharactersFail(std::string_view name) {

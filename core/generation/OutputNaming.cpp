@@ -8,6 +8,13 @@ std::string BuildFileName(const std::string& listText, const std::string& source
   return listText + env::GetFileExtension(sourcePath);
 }
 
+ImageRunInfo InfoOfImage(const core::ImageList& images, std::size_t number) {
+  const core::ImageEntry& entry = images.Entry(number);
+  return {.Number = static_cast<std::int32_t>(number),
+          .Path = entry.SourcePath,
+          .FileName = BuildFileName(entry.ImageName, entry.SourcePath)};
+}
+
 std::string ThumbnailPageName(const core::GalleryProject& project, std::int32_t page) {
   return project.textThumbnailPageSettingsFilePrefix + std::to_string(page) +
          project.comboThumbnailPageSettingsFileExtension;

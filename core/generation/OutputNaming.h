@@ -10,6 +10,9 @@ namespace vantorium::generation {
 /// Name of an image's output file: the list text and the extension of the source.
 [[nodiscard]] std::string BuildFileName(const std::string& listText, const std::string& sourcePath);
 
+/// Returns what is known of image `number` from the list alone: its number, its path and the name of its file.
+[[nodiscard]] ImageRunInfo InfoOfImage(const core::ImageList& images, std::size_t number);
+
 /// Name of thumbnail page `page`.
 [[nodiscard]] std::string ThumbnailPageName(const core::GalleryProject& project, std::int32_t page);
 

@@ -28,8 +28,7 @@ PhaseResult Pause(const RunContext& context, std::int32_t number) {
 
 PhaseResult FindSources(const RunContext& context, FileSet& sources) {
   const RunState& run = context.run;
-  sources.Add(run.ProjectFile);
-  for (const AuxiliaryFile& file : AuxiliaryFilesOf(run)) sources.Add(file.source);
+  sources.AddSharedSources();
   for (std::int32_t number = 1; number <= run.ImageCount; ++number) {
     if (auto end = Pause(context, number)) return end;
     sources.Add(run.Info(number).Path);

@@ -48,13 +48,13 @@ class Forecaster {
     run_.ImageCount = static_cast<std::int32_t>(run_.images.Count());
     run_.ThumbnailPageCount = core::ThumbnailPageCount(run_.project, run_.ImageCount);
     for (std::size_t image = 1; image <= run_.images.Count(); ++image) {
-      const core::ImageEntry& entry = run_.images.Entry(image);
-      run_.RunInfo.push_back({.Path = entry.SourcePath, .FileName = BuildFileName(entry.ImageName, entry.SourcePath)});
+      run_.RunInfo.push_back(InfoOfImage(run_.images, image));
     }
   }
 
   Findings Look() {
-    FindSources();
+    sources_.AddSharedSources();
+    for (const ImageRunInfo& image : run_.RunInfo) sources_.Add(image.Path);
     LookAtPages();
     LookAtAuxiliaryFiles();
     for (std::int32_t image = 1; image <= run_.ImageCount; ++image) LookAtImage(image);
@@ -62,12 +62,6 @@ class Forecaster {
   }
 
  private:
-  void FindSources() {
-    sources_.Add(run_.ProjectFile);
-    for (const AuxiliaryFile& file : AuxiliaryFilesOf(run_)) sources_.Add(file.source);
-    for (const ImageRunInfo& image : run_.RunInfo) sources_.Add(image.Path);
-  }
-
   void LookAtPages() {
     if (!order_.CreateHTML) return;
     LookAtLinksOfAll();

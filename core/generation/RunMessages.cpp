@@ -18,4 +18,8 @@ std::string UnableToCreatePage(const std::string& page) {
   return "Unable to create the File \"" + page + "\".";
 }
 
+std::string UnableToReadFolder(const std::string& folder) {
+  return "The folder \"" + folder + "\" cannot be read.";
+}
+
 }  // namespace vantorium::generation

@@ -68,6 +68,11 @@ void FileSet::Add(const std::string& path) {
   if (const auto identity = IdentityOf(path)) known_.insert(*identity);
 }
 
+void FileSet::AddSharedSources() {
+  Add(run_.ProjectFile);
+  for (const AuxiliaryFile& file : AuxiliaryFilesOf(run_)) Add(file.source);
+}
+
 bool FileSet::WouldLoseOneTo(const Output& output) const {
   const auto identity = IdentityOf(output.path);
   if (!identity || !known_.contains(*identity)) return false;

@@ -44,6 +44,8 @@ class FileSet {
 
   /// Adds the file at `path` (path text), if there is one.
   void Add(const std::string& path);
+  /// Adds what the gallery is made from besides its images: the project file, the backdrops and the link graphics.
+  void AddSharedSources();
   [[nodiscard]] bool Has(const SourceStamp& file) const { return known_.contains({file.device, file.inode}); }
   /// Whether writing `output` would destroy one of the files. A copy onto itself changes nothing.
   [[nodiscard]] bool WouldLoseOneTo(const Output& output) const;

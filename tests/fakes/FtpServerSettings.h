@@ -17,8 +17,9 @@ struct FtpServerSettings {
   std::string name;              ///< its greeting contains this
   std::filesystem::path folder;  ///< has the server's own files, and the folder "root" with the clients' files
   std::uint16_t port = 0;        ///< on loopback
-                           /// If set, the server demands TLS, and (except Pure-FTPd) that data connections resume the
-                           /// control connection's session.
+
+  /// If set, the server demands TLS, and (except Pure-FTPd) that data connections resume the control connection's
+  /// session.
   std::optional<TestCertificate> certificate;
 };
 

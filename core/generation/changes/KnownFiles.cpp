@@ -96,10 +96,10 @@ Delivery KnownFiles::Copy(const std::string& name, const std::optional<std::file
   return {};
 }
 
-std::vector<std::string> KnownFiles::Untouched() const {
+std::vector<std::string> KnownFiles::Names(bool touched) const {
   std::vector<std::string> names;
   for (const auto& [name, file] : files_) {
-    if (!touched_.contains(name)) names.push_back(name);
+    if (touched_.contains(name) == touched) names.push_back(name);
   }
   return names;
 }

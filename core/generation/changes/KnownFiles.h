@@ -39,8 +39,9 @@ class KnownFiles {
 
   [[nodiscard]] const MadeFiles& Files() const { return files_; }
   [[nodiscard]] TargetFiles& There() { return there_; }
-  /// Returns the names that this run has not asked for.
-  [[nodiscard]] std::vector<std::string> Untouched() const;
+  /// Return the names of the known files that this run has asked for, and of the others.
+  [[nodiscard]] std::vector<std::string> Touched() const { return Names(/*touched=*/true); }
+  [[nodiscard]] std::vector<std::string> Untouched() const { return Names(/*touched=*/false); }
   /// Returns whether the file is as a run left it. Forgets it otherwise.
   [[nodiscard]] bool IsAsLeft(const std::string& name);
   /// Removes a file that is as a run left it. Returns false if it stays.
@@ -51,6 +52,7 @@ class KnownFiles {
   /// Returns the file if the target has these bytes, else null.
   [[nodiscard]] MadeFile* FindBytes(const std::string& name, const MadeFile& made);
   void Note(const std::string& name, MadeFile made);
+  [[nodiscard]] std::vector<std::string> Names(bool touched) const;
 
   MadeFiles files_;
   TargetFiles& there_;

@@ -109,7 +109,7 @@ std::string PictureOrigins::FindOrigin(const SourceStamp& source, const image::P
   std::string text = "picture " + StampText(source);
   text += recipe.size ? fmt::format("{} x {}\n", recipe.size->width, recipe.size->height) : "its own size\n";
   text += RecordText(recipe.filters, core::FilterFields()) + "\n";
-  if (recipe.filters.checkNoise == 1) text += fmt::format("noise {}\n", recipe.noiseNumber);
+  if (core::IsOn(recipe.filters.checkNoise)) text += fmt::format("noise {}\n", recipe.noiseNumber);
   text += fmt::format("corrections {} {}\n", corrections.upright, corrections.trueColors);
   if (!recipe.watermark) return env::DigestOf(text);
   try {

@@ -20,11 +20,10 @@ class FilesInUse {
   FilesInUse(const RunContext& context, KnownFiles& known)
       : run_(context.run), isServer_(known.There().IsServer()), files_(context.run) {
     const bool isUpload = context.order.Mode == GenerationMode::Upload;
-    for (const std::string& name : isUpload ? SentNames(known) : NamesOfGallery(run_, context.order)) Add(name);
+    for (const std::string& name : isUpload ? known.Touched() : NamesOfGallery(run_, context.order)) Add(name);
     if (isServer_) return;
-    files_.Add(run_.ProjectFile);
+    files_.AddSharedSources();
     for (const ImageRunInfo& image : run_.RunInfo) files_.Add(image.Path);
-    for (const AuxiliaryFile& file : AuxiliaryFilesOf(run_)) files_.Add(file.source);
   }
 
   [[nodiscard]] bool Has(const std::string& name, const std::optional<SourceStamp>& stamp) const {
@@ -33,15 +32,6 @@ class FilesInUse {
   }
 
  private:
-  [[nodiscard]] static Names SentNames(const KnownFiles& known) {
-    const Names untouched = known.Untouched();
-    const std::set<std::string> unused(untouched.begin(), untouched.end());
-    Names sent;
-    for (const auto& [name, file] : known.Files()) {
-      if (!unused.contains(name)) sent.push_back(name);
-    }
-    return sent;
-  }
   void Add(const std::string& name) {
     names_.insert(name);
     if (isServer_) {
@@ -67,12 +57,6 @@ Names UnusedNames(const RunContext& context, KnownFiles& known) {
   return unused;
 }
 
-std::string Lines(const Names& names) {
-  std::string lines;
-  for (const std::string& name : names) lines += (lines.empty() ? "" : "\r") + name;
-  return lines;
-}
-
 }  // namespace
 
 PhaseResult TellUnusedFiles(const RunContext& context, KnownFiles& known) {
@@ -86,7 +70,7 @@ PhaseResult TellUnusedFiles(const RunContext& context, KnownFiles& known) {
   if (found.empty()) return kGoOn;
   const char* const text = removes ? "These Files of earlier Runs were not used any more and have been removed."
                                    : "These Files of earlier Runs are not used any more.";
-  context.environment.boxes.ShowList("Unused Files", text, Lines(found));
+  context.environment.boxes.ShowList("Unused Files", text, fmt::format("{}", fmt::join(found, "\r")));
   return kGoOn;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/model/dialogs/CreateGalleryModel.h"
 
+#include "env/OpenFolder.h"
 #include "env/PathText.h"
 #include "env/RuntimeFailure.h"
 #include "env/Text.h"
@@ -9,13 +10,6 @@
 
 namespace vantorium::ui {
 namespace {
-
-/// Whether `path` is a folder that exists. Its name may look as if it had an extension.
-bool IsFolder(const env::PathMap& paths, const std::string& path) {
-  const auto native = paths.ToNative(path);
-  std::error_code ignored;
-  return native && std::filesystem::is_directory(*native, ignored);
-}
 
 /// Returns the preferred profile, or nullopt if there is none.
 std::optional<publish::ServerProfile> PreferredServer(const std::filesystem::path& file) {
@@ -105,7 +99,8 @@ void CreateGalleryModel::LeaveFilePath() {
   if (path.find(':') == std::string::npos) path = preferences_.CreateFolder;
   if (path.ends_with(':')) path += "\\index.htm";
   if (path.ends_with('\\')) path += "index.htm";
-  if (env::GetFileExtension(path).empty() || IsFolder(paths_, path)) path += "\\index.htm";
+  // The name of a folder may look as if it had an extension.
+  if (env::GetFileExtension(path).empty() || env::IsFolder(paths_.ToNative(path))) path += "\\index.htm";
 }
 
 void CreateGalleryModel::BrowseFilePath(FileBrowser& browser) {

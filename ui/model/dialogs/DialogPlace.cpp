@@ -1,17 +1,9 @@
 #include "ui/model/dialogs/DialogPlace.h"
 
+#include "env/OpenFolder.h"
 #include "env/PathText.h"
 
 namespace vantorium::ui {
-namespace {
-
-bool IsFolder(const std::filesystem::path& path) {
-  std::error_code error;
-  return std::filesystem::is_directory(path, error);
-}
-
-}  // namespace
-
 std::filesystem::path NearestFolder(const env::PathMap& paths, const std::string& text,
                                     const std::filesystem::path& home) {
   const auto native = paths.ToNative(text);
@@ -19,7 +11,7 @@ std::filesystem::path NearestFolder(const env::PathMap& paths, const std::string
   std::error_code error;
   std::filesystem::path folder = std::filesystem::absolute(*native, error).lexically_normal();
   if (!folder.has_filename()) folder = folder.parent_path();  // drops the trailing separator
-  while (!IsFolder(folder)) {
+  while (!env::IsFolder(folder)) {
     if (!folder.has_relative_path()) return home;
     folder = folder.parent_path();
   }
@@ -31,7 +23,7 @@ DialogPlace PlaceOf(const FileDialogRequest& request, const env::PathMap& paths,
   const std::size_t separator = name.rfind('\\');
   if (separator == std::string::npos) return {NearestFolder(paths, request.initialFolder, home), name};
   const auto folder = paths.ToNative(name.substr(0, separator + 1));
-  const bool exists = folder && IsFolder(*folder);
+  const bool exists = env::IsFolder(folder);
   return {exists ? NearestFolder(paths, name.substr(0, separator + 1), home)
                  : NearestFolder(paths, request.initialFolder, home),
           name.substr(separator + 1)};

@@ -11,8 +11,7 @@ namespace {
 
 /// Accepts letters beyond ASCII; the system that looks up the name decides on them.
 bool IsLetterOrDigit(char letter) {
-  return (letter >= '0' && letter <= '9') || (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') ||
-         static_cast<unsigned char>(letter) >= 0x80;
+  return env::IsAsciiLetter(letter) || env::IsAsciiDigit(letter) || static_cast<unsigned char>(letter) >= 0x80;
 }
 
 bool IsHost(std::string_view text) {
@@ -41,7 +40,7 @@ bool IsControl(char letter) {
 
 std::string_view WithoutScheme(std::string_view text) {
   constexpr std::string_view kScheme = "ftp://";
-  return env::EqualsIgnoringCase(text.substr(0, kScheme.size()), kScheme) ? text.substr(kScheme.size()) : text;
+  return env::StartsWithIgnoringCase(text, kScheme) ? text.substr(kScheme.size()) : text;
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "ui/model/files/Drives.h"
 
+#include "env/OpenFolder.h"
+
 namespace vantorium::ui {
 namespace {
 
@@ -14,8 +16,7 @@ std::vector<Drive> DriveFolders(const env::PathMap& paths) {
   std::vector<Drive> drives;
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
     const auto folder = paths.ToNative(std::string(1, letter) + ":\\");
-    std::error_code error;
-    if (!folder || !std::filesystem::is_directory(*folder, error)) continue;
+    if (!env::IsFolder(folder)) continue;
     drives.push_back({letter, WithoutSeparatorAtItsEnd(*folder)});
   }
   return drives;

@@ -1,6 +1,7 @@
 #include "ui/model/files/FileChoice.h"
 
 #include "core/file/XmlText.h"
+#include "env/OpenFolder.h"
 #include "env/PathText.h"
 #include "env/Text.h"
 #include "ui/model/files/FileNameBox.h"
@@ -44,6 +45,7 @@ FileChoice::Step FileChoice::Ok(const std::string& folder, const std::string& te
   if (names.empty() || names[0].empty()) return Step::Stay;
 
   std::vector<std::string> paths;
+  paths.reserve(names.size());
   for (const std::string& name : names) paths.push_back(PathOf(folder, name));
   if (paths.size() == 1 && IsFolder(paths[0])) {
     folder_ = env::WithTrailingBackslash(paths[0]);
@@ -65,9 +67,7 @@ std::string FileChoice::WithSurfaces(const std::string& text) const {
 }
 
 bool FileChoice::IsFolder(const std::string& path) const {
-  const auto native = files_.Paths().ToNative(path);
-  std::error_code error;
-  return native && std::filesystem::is_directory(*native, error);
+  return env::IsFolder(files_.Paths().ToNative(path));
 }
 
 std::string FileChoice::PathOf(const std::string& folder, const std::string& name) const {
