@@ -4,7 +4,7 @@
 #include "image/JPEGErrors.h"
 #include "image/JPEGFile.h"
 #include "image/JPEGInks.h"
-#include "image/jpeg/SequentialDecoder.h"
+#include "image/jpeg/WantedDecoder.h"
 
 #include <algorithm>
 #include <iterator>
@@ -20,8 +20,10 @@ namespace {
 // Each scan costs a pass over the whole picture, however few bytes it has. Encoders write about ten.
 constexpr int kMostScans = 500;
 
-// Memory for the coefficients of a multi-scan picture: enough for 350 megapixels with halved chroma.
+// Memory for the coefficients of a multi-scan picture: enough for 350 megapixels with halved chroma. libjpeg-turbo
+// refuses larger ones.
 constexpr long kMostMemory = 1L << 30;
+constexpr std::uint64_t kSurelyEnough = kMostMemory / 2;
 
 // Rows skipped between two checks for a stop.
 constexpr std::int32_t kMostRowsAtOnce = 256;
@@ -105,8 +107,8 @@ struct JPEGDecoder::State {
   std::vector<std::uint8_t> inks;      // one row, for CMYK and YCCK files
   std::vector<std::uint8_t> unwanted;  // a row that cannot be skipped
   std::optional<WantedPixels> wanted;
-  std::unique_ptr<jpeg::SequentialDecoder> usual;  // decodes instead of libjpeg-turbo while it is set
-  std::int32_t usualRows = 0;                      // rows that `usual` has read or skipped
+  std::unique_ptr<jpeg::WantedDecoder> usual;  // decodes instead of libjpeg-turbo while it is set
+  std::int32_t usualRows = 0;                  // rows that `usual` has read or skipped
 };
 
 void JPEGDecoder::State::Create() {
@@ -198,9 +200,9 @@ void JPEGDecoder::Want(WantedPixels wanted) {
 bool JPEGDecoder::Start() {
   State& state = *state_;
   if (!IsPlausible()) return false;
-  if (jpeg::SequentialDecoder::kIsFaster && state.wanted && !state.errors.Damaged()) {
+  if (jpeg::WantedDecoder::kIsFaster && state.wanted && !state.errors.Damaged() && HeldBytes() <= kSurelyEnough) {
     state.usual =
-        jpeg::SequentialDecoder::For(state.codec, ::fileno(state.file.get()), state.DataPlace(), *state.wanted);
+        jpeg::WantedDecoder::For(state.codec, ::fileno(state.file.get()), state.DataPlace(), *state.wanted, state.stop);
   }
   return state.usual != nullptr || StartLibrary();
 }
@@ -263,7 +265,7 @@ bool JPEGDecoder::SkipRows(std::int32_t count) {
   return done && rows == wanted && state.IsWhole();
 }
 
-// SequentialDecoder checks the end of the data before it returns the bottom row. jpeg_finish_decompress is not called:
+// WantedDecoder checks the end of the data before it returns the bottom row. jpeg_finish_decompress is not called:
 // it would free what IsWhole looks at.
 bool JPEGDecoder::Finish() {
   State& state = *state_;

@@ -46,7 +46,7 @@ class JPEGDecoder {
   [[nodiscard]] std::int32_t OutputHeight() const;
 
   /// Promises to use these pixels only: ReadRow may then write anything to the others, and the caller must skip all
-  /// other rows. This makes decoding of usual files much faster (jpeg/SequentialDecoder.h). Call between Open and
+  /// other rows. This makes decoding of usual files much faster (jpeg/WantedDecoder.h). Call between Open and
   /// Start. ReduceBy does not support it.
   void Want(WantedPixels wanted);
 

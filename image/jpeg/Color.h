@@ -24,6 +24,12 @@ struct ChromaAxis {
   }
 };
 
+struct ChromaLayout {
+  Chroma size;
+  ChromaAxis columns;
+  ChromaAxis rows;
+};
+
 /// The samples of a chroma component in the two rows from which a row of pixels gets its smooth chroma.
 struct ChromaRows {
   const std::uint8_t* own;

@@ -7,9 +7,13 @@ namespace {
 
 constexpr unsigned kSixteenZeros = 0xF0;
 
-// A symbol without value bits ends the block, whatever its run of zeros, unless it means sixteen zeros.
+// A symbol without value bits ends the block unless it means sixteen zeros.
+bool EndsBlock(unsigned symbol) {
+  return symbol % 16 == 0 && symbol != kSixteenZeros;
+}
+
 unsigned MoveOf(unsigned symbol) {
-  return symbol % 16 == 0 && symbol != kSixteenZeros ? kEndOfBlock : symbol / 16 + 1;
+  return EndsBlock(symbol) ? kEndOfBlock : symbol / 16 + 1;
 }
 
 // A value whose first bit is 0 is negative.
@@ -41,6 +45,15 @@ bool HuffmanCode::HasSymbolsAbove(unsigned symbol) const {
   return std::any_of(symbols_.begin(), symbols_.begin() + count_, [symbol](unsigned each) { return each > symbol; });
 }
 
+bool HuffmanCode::HasValuesAbove(unsigned bits) const {
+  return std::any_of(symbols_.begin(), symbols_.begin() + count_, [bits](unsigned each) { return each % 16 > bits; });
+}
+
+bool HuffmanCode::EndsBlocks() const {
+  return std::any_of(symbols_.begin(), symbols_.begin() + count_,
+                     [](unsigned each) { return each != 0 && EndsBlock(each); });
+}
+
 HuffmanCode::Code HuffmanCode::Find(std::uint64_t bits) const {
   const auto top = static_cast<std::uint32_t>(bits >> 48);
   for (unsigned length = 1; length <= 16; ++length) {
@@ -52,17 +65,24 @@ HuffmanCode::Code HuffmanCode::Find(std::uint64_t bits) const {
 Symbol HuffmanCode::Read(std::uint64_t bits) const {
   const Code code = Find(bits);
   if (code.length == 0) return {0, kBadCode, 0};
-  const unsigned size = code.symbol % 16;
+  const bool endsBlock = EndsBlock(code.symbol);
+  const unsigned size = endsBlock ? code.symbol / 16 : code.symbol % 16;
   const auto valueBits = static_cast<unsigned>(bits << code.length >> 32 >> (32 - size));
-  return {code.length + size, MoveOf(code.symbol), ValueOf(valueBits, size)};
+  const int value = endsBlock ? static_cast<int>((1U << size) - 1 + valueBits) : ValueOf(valueBits, size);
+  return {code.length + size, MoveOf(code.symbol), value};
 }
 
 ValueTable::ValueTable(const HuffmanCode& code) : code_(code), entries_(std::size_t{1} << kIndexBits) {
   for (std::size_t index = 0; index < entries_.size(); ++index) {
-    const Symbol symbol = code_.Read(std::uint64_t{index} << (64 - kIndexBits));
-    if (symbol.length == 0 || symbol.length > kIndexBits) continue;
-    entries_[index] = static_cast<std::uint32_t>(symbol.value) << 16 | symbol.move << 8 | symbol.length;
+    const std::uint32_t entry = EntryOf(std::uint64_t{index} << (64 - kIndexBits));
+    const unsigned length = SymbolOf(entry).length;
+    if (length != 0 && length <= kIndexBits) entries_[index] = entry;
   }
+}
+
+std::uint32_t ValueTable::EntryOf(std::uint64_t bits) const {
+  const Symbol symbol = code_.Read(bits);
+  return static_cast<std::uint32_t>(symbol.value) << 16 | symbol.move << 8 | symbol.length;
 }
 
 SkipTable::SkipTable(const HuffmanCode& code) : code_(code), entries_(std::size_t{1} << kIndexBits) {

@@ -13,7 +13,7 @@
 namespace vantorium::image::jpeg {
 
 // Within a block, `k` is the index of the last coefficient read, in zigzag order: 0 is the DC coefficient, 63 the last.
-// Each symbol advances it. The end-of-block symbol advances it to 128 or more, an invalid code to 192 or more.
+// Each symbol advances it. The end of a block advances it to 128 or more, an invalid code to 192 or more.
 inline constexpr unsigned kLastPlace = 63;
 inline constexpr unsigned kEndOfBlock = 128;
 inline constexpr unsigned kBadCode = 255;
@@ -27,7 +27,7 @@ inline constexpr unsigned kBadCode = 255;
 struct Symbol {
   unsigned length;  ///< bits of the code and the value
   unsigned move;    ///< how far it advances `k`
-  int value;        ///< the coefficient
+  int value;        ///< the coefficient; at the end of a block, the number of further blocks that end with it
 };
 
 /// The codes of one Huffman table.
@@ -36,6 +36,9 @@ class HuffmanCode {
   /// Returns false if the code lengths do not form a valid prefix code.
   [[nodiscard]] bool Set(const JHUFF_TBL& table);
   [[nodiscard]] bool HasSymbolsAbove(unsigned symbol) const;
+  [[nodiscard]] bool HasValuesAbove(unsigned bits) const;
+  /// Whether a symbol ends several blocks.
+  [[nodiscard]] bool EndsBlocks() const;
 
   /// Finds the code at the top of `bits`. Returns length 0 if there is none.
   struct Code {
@@ -59,17 +62,39 @@ class ValueTable {
   explicit ValueTable(const HuffmanCode& code);
   /// Returns the next symbol without consuming it. The window must hold at least 31 bits.
   [[nodiscard]] Symbol Read(const BitWindow& window) const {
-    const Symbol symbol = ReadShort(window);
-    return symbol.length != 0 ? symbol : code_.Read(window.Bits());
+    std::uint32_t entry = entries_[window.Peek(kIndexBits)];
+    if (entry == 0) [[unlikely]]
+      entry = EntryOf(window.Bits());
+    return SymbolOf(entry);
   }
   /// The same for a symbol of up to 11 bits; returns length 0 for longer ones. The window must hold at least 11 bits.
-  [[nodiscard]] Symbol ReadShort(const BitWindow& window) const {
-    const std::uint32_t entry = entries_[window.Peek(kIndexBits)];
-    return {entry & 0xFF, entry >> 8 & 0xFF, static_cast<std::int32_t>(entry) >> 16};
+  [[nodiscard]] Symbol ReadShort(const BitWindow& window) const { return SymbolOf(entries_[window.Peek(kIndexBits)]); }
+  /// Consumes symbols and calls `take` with each until it returns false.
+  template <typename Take>
+  [[gnu::always_inline]] void ReadWhile(BitWindow& window, Take take) const {
+    const auto pass = [&](const Symbol& symbol) {
+      window.Drop(symbol.length);
+      return take(symbol);
+    };
+    for (;;) {
+      window.Refill();
+      if (!pass(Read(window))) return;
+      // The window still holds enough bits for two short symbols.
+      for (int i = 0; i < 2; ++i) {
+        const Symbol symbol = ReadShort(window);
+        if (symbol.length == 0) break;
+        if (!pass(symbol)) return;
+      }
+    }
   }
 
  private:
   static constexpr unsigned kIndexBits = 11;
+
+  static Symbol SymbolOf(std::uint32_t entry) {
+    return {entry & 0xFF, entry >> 8 & 0xFF, static_cast<std::int32_t>(entry) >> 16};
+  }
+  [[nodiscard]] std::uint32_t EntryOf(std::uint64_t bits) const;
 
   HuffmanCode code_;
   std::vector<std::uint32_t> entries_;  // value, move, length; 0 for symbols longer than the index

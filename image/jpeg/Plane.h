@@ -32,6 +32,8 @@ class Plane {
   [[nodiscard]] std::size_t Across() const { return across_; }
   [[nodiscard]] std::size_t Down() const { return down_; }
   [[nodiscard]] std::size_t Stride() const { return stride_; }
+  [[nodiscard]] std::size_t BlocksPerRow() const { return wantedColumns_.size(); }
+  [[nodiscard]] std::size_t BlockRows() const { return wantedRows_.size(); }
   /// For each column of blocks, whether any of its samples is wanted.
   [[nodiscard]] const std::uint8_t* WantedColumns() const { return wantedColumns_.data(); }
   /// The wanted rows of samples in a row of blocks: a bit each, the top row in the lowest.

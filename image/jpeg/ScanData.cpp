@@ -15,9 +15,7 @@ constexpr std::uint8_t kMarkerBegin = 0xFF;
 }  // namespace
 
 ScanData::ScanData(int descriptor, off_t place)
-    : descriptor_(descriptor), place_(place), file_(kPiece), data_(2 * kPiece + 2 * kRoom) {
-  Fill();
-}
+    : descriptor_(descriptor), place_(place), file_(kPiece), data_(2 * kPiece + 2 * kRoom) {}
 
 bool ScanData::ReadFile() {
   ssize_t count = 0;
@@ -30,7 +28,7 @@ bool ScanData::ReadFile() {
   return read_ > 0;
 }
 
-int ScanData::NextFileByte() {
+int ScanData::NextByte() {
   if (taken_ == read_ && !ReadFile()) return -1;
   return file_[taken_++];
 }
@@ -38,7 +36,7 @@ int ScanData::NextFileByte() {
 // The next byte is FF.
 void ScanData::TakeMarkerOrByte() {
   ++taken_;
-  const int second = NextFileByte();
+  const int second = NextByte();
   if (second == 0) {
     data_[size_++] = kMarkerBegin;
   } else {
@@ -77,7 +75,7 @@ const std::uint8_t* ScanData::More(const std::uint8_t* unread) {
   return data_.data();
 }
 
-void ScanData::BeginNextSegment() {
+void ScanData::BeginSegment() {
   size_ = 0;
   whole_ = false;
   Fill();

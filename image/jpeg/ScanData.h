@@ -8,7 +8,7 @@
 
 namespace vantorium::image::jpeg {
 
-/// Reads the entropy-coded data of a scan from a file, a piece at a time, and removes the zero stuffed after each byte
+/// Reads the entropy-coded data of scans from a file, a piece at a time, and removes the zero stuffed after each byte
 /// FF. A marker ends a segment; restart markers separate the segments of a scan.
 class ScanData {
  public:
@@ -16,7 +16,7 @@ class ScanData {
   /// segment never reads beyond the buffer. Ask for more data before fewer than these are left of an unfinished one.
   static constexpr std::ptrdiff_t kRoom = 4096;
 
-  /// The data begin at offset `place` of the file `descriptor`, which must stay open.
+  /// The data begin at offset `place` of the file `descriptor`, which must stay open. Call BeginSegment first.
   ScanData(int descriptor, off_t place);
 
   [[nodiscard]] const std::uint8_t* Begin() const { return data_.data(); }
@@ -29,12 +29,13 @@ class ScanData {
 
   /// Discards the data before `unread` and reads more. Returns the new address of what `unread` pointed to.
   const std::uint8_t* More(const std::uint8_t* unread);
-  /// Reads the beginning of the segment that follows the marker.
-  void BeginNextSegment();
+  /// Reads the beginning of the next segment.
+  void BeginSegment();
+  /// Takes the next byte after the marker that ended a segment; -1 at the end of the file.
+  [[nodiscard]] int NextByte();
 
  private:
   [[nodiscard]] bool ReadFile();
-  [[nodiscard]] int NextFileByte();
   void TakeMarkerOrByte();
   void TakePiece();
   void Fill();

@@ -100,6 +100,12 @@ bool IsTame(const Block& block, unsigned rows) {
   return true;
 }
 
+bool TransformIfTame(const Block& block, int sum, unsigned rows, std::uint8_t* samples, std::size_t stride) {
+  if (sum > kMostSum || (sum > kTameSum && !IsTame(block, rows))) return false;
+  TransformRows(block, rows, samples, stride);
+  return true;
+}
+
 #ifdef __x86_64__
 
 namespace {

@@ -32,5 +32,8 @@ void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std
 void TransformRowsPlainly(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
 /// Whether all of libjpeg-turbo's routines agree about the samples of these rows.
 [[nodiscard]] bool IsTame(const Block& block, unsigned rows);
+/// Transforms the rows if all of libjpeg-turbo's routines agree about them. `sum` is that of the absolute coefficients.
+[[nodiscard]] bool TransformIfTame(const Block& block, int sum, unsigned rows, std::uint8_t* samples,
+                                   std::size_t stride);
 
 }  // namespace vantorium::image::jpeg

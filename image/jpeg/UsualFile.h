@@ -1,7 +1,7 @@
 #pragma once
 
 #include "image/jpeg/Color.h"
-#include "image/jpeg/ScanWalk.h"
+#include "image/jpeg/RowWalk.h"
 
 #include <cstdio>
 #include <optional>
@@ -13,16 +13,13 @@ namespace vantorium::image::jpeg {
 
 /// The parts of the header that decoding a usual file needs.
 struct UsualFile {
-  Chroma chroma;
-  ChromaAxis chromaColumns;
-  ChromaAxis chromaRows;
+  ChromaLayout chroma;
   MCUGrid grid;
-  unsigned restartInterval;
-  std::vector<ScanComponent> components;
+  std::vector<Component> components;
 };
 
-/// Copies them from a header that jpeg_read_header has read. Returns nothing if the file is not a usual one or its
-/// tables are missing or invalid.
+/// Copies them from a header that jpeg_read_header has read. Returns nothing if the colors or the quantization tables
+/// are not those of a usual file.
 [[nodiscard]] std::optional<UsualFile> TakeOver(const jpeg_decompress_struct& header);
 
 }  // namespace vantorium::image::jpeg

@@ -117,6 +117,7 @@ TEST_F(InterruptedCalls, AreRepeatedWhileAFileIsReadForItsUpload) {
 TEST_F(InterruptedCalls, AreRepeatedWhileAPhotographIsRead) {
   const FileDescriptor photograph(::open(file.c_str(), O_RDONLY));
   image::jpeg::ScanData data(photograph.Get(), 0);
+  data.BeginSegment();
   std::size_t read = 0;
   while (!data.IsWhole()) {
     read += static_cast<std::size_t>(data.End() - data.Begin());

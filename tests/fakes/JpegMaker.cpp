@@ -1,5 +1,6 @@
 #include "tests/fakes/JpegMaker.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -20,10 +21,23 @@ void ChooseColors(jpeg_compress_struct& codec, JpegColors colors) {
   jpeg_set_colorspace(&codec, kInFile[static_cast<int>(colors)]);
 }
 
-std::vector<jpeg_scan_info> ScanPerChannel(int channels) {
+// Empty: libjpeg-turbo chooses the scans.
+std::vector<jpeg_scan_info> ScansOf(const JpegRecipe& recipe, int channels) {
   std::vector<jpeg_scan_info> scans;
-  for (int i = 0; i < channels; ++i)
-    scans.push_back({.comps_in_scan = 1, .component_index = {i}, .Ss = 0, .Se = 63, .Ah = 0, .Al = 0});
+  if (recipe.scanPerChannel) {
+    for (int i = 0; i < channels; ++i)
+      scans.push_back({.comps_in_scan = 1, .component_index = {i}, .Ss = 0, .Se = 63, .Ah = 0, .Al = 0});
+  }
+  for (const JpegScan& each : recipe.scans) {
+    jpeg_scan_info scan = {.comps_in_scan = static_cast<int>(each.channels.size()),
+                           .component_index = {},
+                           .Ss = each.first,
+                           .Se = each.last,
+                           .Ah = each.knownFrom,
+                           .Al = each.lowest};
+    std::copy(each.channels.begin(), each.channels.end(), scan.component_index);
+    scans.push_back(scan);
+  }
   return scans;
 }
 
@@ -126,8 +140,8 @@ std::string MakeJpeg(const JpegRecipe& recipe, const JpegPixels& pixels) {
   unsigned long size = 0;
   jpeg_mem_dest(&codec, &bytes, &size);
   Configure(codec, recipe);
-  const auto scans = ScanPerChannel(codec.num_components);
-  if (recipe.scanPerChannel) {
+  const auto scans = ScansOf(recipe, codec.num_components);
+  if (!scans.empty()) {
     codec.scan_info = scans.data();
     codec.num_scans = static_cast<int>(scans.size());
   }

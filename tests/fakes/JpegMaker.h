@@ -12,6 +12,16 @@ namespace vantorium::fakes {
 
 enum class JpegColors { Grey, YCbCr, RGB, CMYK, YCCK };
 
+/// A scan of a progressive file. `knownFrom` and `lowest` are bits of the coefficients: the lowest one that earlier
+/// scans have told, or 0, and the lowest one that this scan tells.
+struct JpegScan {
+  std::vector<int> channels = {};
+  int first = 0;
+  int last = 63;
+  int knownFrom = 0;
+  int lowest = 0;
+};
+
 /// The properties of a JPEG file to be made.
 struct JpegRecipe {
   int width = 37;
@@ -20,7 +30,8 @@ struct JpegRecipe {
   int horizontal = 2;  ///< chroma subsampling factor
   int vertical = 2;
   bool progressive = false;
-  bool scanPerChannel = false;  ///< one scan for each channel
+  bool scanPerChannel = false;       ///< one scan for each channel
+  std::vector<JpegScan> scans = {};  ///< instead of the usual ones of a progressive file
   bool arithmetic = false;
   unsigned restartEvery = 0;  ///< number of MCUs between restart markers; 0: no markers
   int quality = 90;

@@ -1,4 +1,4 @@
-// Decodes JPEG files with jpeg::SequentialDecoder and with libjpeg-turbo: both must give the same pixels or refuse the
+// Decodes JPEG files with jpeg::WantedDecoder and with libjpeg-turbo: both must give the same pixels or refuse the
 // file.
 #include "image/JPEG.h"
 #include "tests/fakes/TemporaryFolder.h"
@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto wanted = fakes::SomePixels(width, height, number);
     const auto expected = fakes::ReadByLibrary(file, wanted);
     const auto alone = fakes::ReadAlone(file, wanted);
-    fuzz::Require(!alone || alone == expected, "SequentialDecoder equals libjpeg-turbo");
+    fuzz::Require(!alone || alone == expected, "WantedDecoder equals libjpeg-turbo");
     fuzz::Require(fakes::ReadAsWanted(file, wanted) == expected, "JPEGDecoder equals libjpeg-turbo");
   }
   return 0;

@@ -1,4 +1,4 @@
-// When SequentialDecoder gives up, libjpeg-turbo decides about the file and decodes the remaining rows.
+// When WantedDecoder gives up, libjpeg-turbo decides about the file and decodes the remaining rows.
 #include "tests/fakes/JpegMaker.h"
 #include "tests/fakes/TemporaryFolder.h"
 #include "tests/image/jpeg/WantedRows.h"
@@ -17,7 +17,7 @@ constexpr int kHeight = 90;
 
 class DecoderFallbackTest : public ::testing::Test {
  protected:
-  // SequentialDecoder must give up; libjpeg-turbo must find the file good or not, and JPEGDecoder must agree with it.
+  // WantedDecoder must give up; libjpeg-turbo must find the file good or not, and JPEGDecoder must agree with it.
   void ExpectLibjpegTurbosVerdict(const std::string& jpeg, bool good) {
     const auto file = folder.Write("picture.jpg", jpeg);
     for (const unsigned number : {0U, 3U, 30U}) {
@@ -30,9 +30,17 @@ class DecoderFallbackTest : public ::testing::Test {
   }
 
   const std::string jpeg = fakes::MakeJpeg({.width = kWidth, .height = kHeight});
+  const std::string progressive = fakes::MakeJpeg({.width = kWidth, .height = kHeight, .progressive = true});
   const std::string withRestarts = fakes::MakeJpeg({.width = kWidth, .height = kHeight, .restartEvery = 5});
+  const std::string progressiveWithRestarts =
+      fakes::MakeJpeg({.width = kWidth, .height = kHeight, .progressive = true, .restartEvery = 5});
   fakes::TemporaryFolder folder;
 };
+
+// The file with `bytes` before the first marker of this kind after the first scan.
+std::string WithBytesBetweenScans(const std::string& jpeg, std::string_view marker, std::string_view bytes) {
+  return fakes::WithBytesAt(jpeg, jpeg.find(marker, fakes::PictureDataOf(jpeg)), bytes);
+}
 
 TEST_F(DecoderFallbackTest, BytesBeforeTheEndMarkerDoNoHarm) {
   for (const std::string_view bytes : {"\x11"sv, "more than a few"sv, "\xFF"sv, "\xFF\xFE\x00\x03!"sv}) {
@@ -81,6 +89,48 @@ TEST_F(DecoderFallbackTest, TruncatedDataAreDamaged) {
   }
 }
 
+TEST_F(DecoderFallbackTest, ATruncatedProgressivePictureIsDamaged) {
+  for (std::size_t size = fakes::PictureDataOf(progressive); size + 200 < progressive.size(); size += 97) {
+    ExpectLibjpegTurbosVerdict(progressive.substr(0, size), false);
+  }
+}
+
+TEST_F(DecoderFallbackTest, CommentsBetweenScansAreNothingUnusual) {
+  const std::string commented = WithBytesBetweenScans(progressive, "\xFF\xC4"sv, "\xFF\xFE\x00\x03!\xFF\xE5\x00\x02"sv);
+  const auto file = folder.Write("picture.jpg", commented);
+  const auto wanted = fakes::SomePixels(kWidth, kHeight, 2);
+  const auto expected = fakes::ReadByLibrary(file, wanted);
+  EXPECT_TRUE(expected);
+  EXPECT_EQ(fakes::ReadAlone(file, wanted), expected);
+}
+
+TEST_F(DecoderFallbackTest, OtherChangesBetweenScansAreLeftToLibjpegTurbo) {
+  for (const std::string_view bytes : {"\xFF\xDD\x00\x04\x00\x00"sv, "more"sv, "\xFF"sv}) {
+    ExpectLibjpegTurbosVerdict(WithBytesBetweenScans(progressive, "\xFF\xC4"sv, bytes), true);
+  }
+  const std::size_t first = progressive.find("\xFF\xDA"sv);
+  const std::size_t end = progressive.find("\xFF\xC4"sv, first);
+  const std::string again = progressive.substr(first, end - first);
+  ExpectLibjpegTurbosVerdict(WithBytesBetweenScans(progressive, "\xFF\xC4"sv, again), true);
+}
+
+TEST_F(DecoderFallbackTest, ScansThatDoNotGoOnAreDamage) {
+  // A scan header ends with its first and last coefficient and the bits of both.
+  std::size_t scan = progressive.find("\xFF\xDA"sv);
+  for (int i = 0; scan != std::string::npos; ++i, scan = progressive.find("\xFF\xDA"sv, scan + 1)) {
+    const std::size_t bits = scan + 2 + static_cast<unsigned char>(progressive[scan + 3]) - 1;
+    for (const char value : {'\x03', '\x32', '\x31', '\x0E'}) {
+      std::string changed = progressive;
+      if (changed[bits] == value) continue;
+      changed[bits] = value;
+      const auto file = folder.Write("picture.jpg", changed);
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, 1);
+      EXPECT_FALSE(fakes::ReadAlone(file, wanted)) << "scan " << i;
+      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), fakes::ReadByLibrary(file, wanted)) << "scan " << i;
+    }
+  }
+}
+
 TEST_F(DecoderFallbackTest, AWrongRestartMarkerIsDamage) {
   const std::size_t restart = withRestarts.find("\xFF\xD2");
   ASSERT_NE(restart, std::string::npos);
@@ -125,7 +175,7 @@ TEST_F(DecoderFallbackTest, CoefficientsThatNoEncoderWritesAreDecodedLikeLibjpeg
 // A changed byte may leave a valid file with another picture.
 TEST_F(DecoderFallbackTest, AnyChangedByteHasTheSameOutcome) {
   std::mt19937 generator(4);
-  for (const std::string& whole : {jpeg, withRestarts}) {
+  for (const std::string& whole : {jpeg, withRestarts, progressive, progressiveWithRestarts}) {
     for (int i = 0; i < 300; ++i) {
       std::string changed = whole;
       const std::size_t data = fakes::PictureDataOf(whole);

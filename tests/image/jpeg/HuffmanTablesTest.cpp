@@ -70,6 +70,38 @@ TEST(HuffmanTables, ASymbolIsDecodedWithItsValue) {
   EXPECT_EQ(read("1111111"), (std::array{0, static_cast<int>(kBadCode), 0}));
 }
 
+TEST(HuffmanTables, TheEndOfABlockTellsHowManyMoreBlocksEnd) {
+  HuffmanCode code;
+  ASSERT_TRUE(code.Set(TableOf({1, 1, 1, 1}, {0x00, 0x10, 0x30, 0xE0})));
+  const ValueTable table(code);
+  const auto read = [&](const std::string& bits) {
+    const auto bytes = BytesOf(bits);
+    BitWindow window(bytes.data());
+    window.Refill();
+    const Symbol symbol = table.Read(window);
+    EXPECT_EQ(symbol.move, kEndOfBlock);
+    return std::pair(symbol.length, symbol.value);
+  };
+  EXPECT_EQ(read("0111"), std::pair(1U, 0));
+  EXPECT_EQ(read("100"), std::pair(3U, 1));
+  EXPECT_EQ(read("101"), std::pair(3U, 2));
+  EXPECT_EQ(read("110101"), std::pair(6U, 7 + 5));
+  EXPECT_EQ(read("1110" + Times(14, "1")), std::pair(18U, 32766));
+}
+
+TEST(HuffmanTables, SymbolsAreReadUntilTheReceiverHasEnoughOrACodeIsBad) {
+  HuffmanCode code;
+  ASSERT_TRUE(code.Set(SomeTable()));
+  const auto bytes = BytesOf(Times(9, "101") + "110101" + "1111000000000001000000001" + "100" + Times(99, "1"));
+  BitWindow window(bytes.data());
+  std::vector<int> values;
+  ValueTable(code).ReadWhile(window, [&](const Symbol& symbol) {
+    values.push_back(symbol.value);
+    return symbol.move != kBadCode;
+  });
+  EXPECT_EQ(values, (std::vector<int>{1, 1, 1, 1, 1, 1, 1, 1, 1, 5, 513, -1, 0}));
+}
+
 TEST(HuffmanTables, ABlockIsSkippedToItsEnd) {
   EXPECT_EQ(Skipped(SomeTable(), "0111"), std::pair(kEndOfBlock, std::ptrdiff_t{1}));
   EXPECT_EQ(Skipped(SomeTable(), Times(5, "101") + "0"), std::pair(kEndOfBlock + 5, std::ptrdiff_t{16}));
@@ -114,6 +146,16 @@ TEST(HuffmanTables, ATableReportsItsLargestSymbol) {
   ASSERT_TRUE(code.Set(TableOf({1, 1}, {3, 15})));
   EXPECT_FALSE(code.HasSymbolsAbove(15));
   EXPECT_TRUE(code.HasSymbolsAbove(14));
+}
+
+TEST(HuffmanTables, ATableReportsItsLongestValueAndWhetherItEndsSeveralBlocks) {
+  HuffmanCode code;
+  ASSERT_TRUE(code.Set(TableOf({1, 1, 1}, {0xF0, 0x75, 0x00})));
+  EXPECT_FALSE(code.HasValuesAbove(5));
+  EXPECT_TRUE(code.HasValuesAbove(4));
+  EXPECT_FALSE(code.EndsBlocks());
+  ASSERT_TRUE(code.Set(TableOf({1, 1}, {0x01, 0x10})));
+  EXPECT_TRUE(code.EndsBlocks());
 }
 
 }  // namespace

@@ -15,7 +15,9 @@ class ScanDataTest : public ::testing::Test {
  protected:
   ScanData Open(const std::string& bytes, off_t place = 0) {
     descriptor.emplace(::open(folder.Write("data", bytes).c_str(), O_RDONLY));
-    return {descriptor->Get(), place};
+    ScanData data(descriptor->Get(), place);
+    data.BeginSegment();
+    return data;
   }
 
   fakes::TemporaryFolder folder;
@@ -46,10 +48,10 @@ TEST_F(ScanDataTest, SegmentsFollowOneAnother) {
       "cd\xFF\xD1\xFF\xD9");
   EXPECT_EQ(Known(data), "ab");
   EXPECT_EQ(data.Marker(), 0xD0);
-  data.BeginNextSegment();
+  data.BeginSegment();
   EXPECT_EQ(Known(data), "cd");
   EXPECT_EQ(data.Marker(), 0xD1);
-  data.BeginNextSegment();
+  data.BeginSegment();
   EXPECT_EQ(Known(data), "");
   EXPECT_EQ(data.Marker(), 0xD9);
 }

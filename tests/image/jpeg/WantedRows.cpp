@@ -3,7 +3,7 @@
 #include "image/JPEGDecoder.h"
 #include "image/JPEGErrors.h"
 #include "image/JPEGFile.h"
-#include "image/jpeg/SequentialDecoder.h"
+#include "image/jpeg/WantedDecoder.h"
 
 #include <algorithm>
 #include <memory>
@@ -113,7 +113,7 @@ std::optional<WantedRows> ReadAlone(const std::filesystem::path& file, const ima
   const Header header(file);
   if (!header.isRead) return {};
   const auto decoder =
-      image::jpeg::SequentialDecoder::For(header.codec, ::fileno(header.file.get()), header.DataPlace(), wanted);
+      image::jpeg::WantedDecoder::For(header.codec, ::fileno(header.file.get()), header.DataPlace(), wanted, {});
   if (decoder == nullptr) return {};
   return ReadRows(wanted, [&](std::size_t y, std::uint8_t* row) { return decoder->ReadRow(y, row); });
 }

@@ -35,7 +35,7 @@ using WantedRows = std::map<std::size_t, std::vector<std::uint8_t>>;
 /// The rows as JPEGDecoder reads them after Want.
 [[nodiscard]] std::optional<WantedRows> ReadAsWanted(const std::filesystem::path& file,
                                                      const image::WantedPixels& wanted);
-/// The rows as SequentialDecoder alone reads them. Empty if it refuses the file or gives up.
+/// The rows as WantedDecoder alone reads them. Empty if it refuses the file or gives up.
 [[nodiscard]] std::optional<WantedRows> ReadAlone(const std::filesystem::path& file, const image::WantedPixels& wanted);
 
 }  // namespace vantorium::fakes

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "image/WantedPixels.h"
-#include "image/jpeg/UsualFile.h"
+#include "image/jpeg/Color.h"
+#include "image/jpeg/RowWalk.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <stop_token>
 #include <vector>
 
 #include <jpeglib.h>
@@ -14,14 +16,14 @@
 
 namespace vantorium::image::jpeg {
 
-/// Decodes the wanted pixels of usual JPEG files, much faster than libjpeg-turbo and to the same bytes. A usual file
-/// has one sequential Huffman-coded scan, 8 bits per sample, and gray or YCbCr colors with chroma of full size, half
-/// the width, or half the width and height. Blocks without wanted pixels are skipped; in the others only the wanted
-/// rows are transformed.
+/// Decodes the wanted pixels of usual JPEG files, much faster than libjpeg-turbo and to the same bytes. A usual file is
+/// Huffman-coded, in one sequential scan or progressive, and has 8 bits per sample and gray or YCbCr colors with chroma
+/// of full size, half the width, or half the width and height. Blocks without wanted pixels are not decoded farther
+/// than it takes to find the others; of those only the wanted rows are transformed.
 ///
 /// It gives up on the first unusual byte, without deciding whether the file is damaged: libjpeg-turbo must decode such
 /// a file.
-class SequentialDecoder {
+class WantedDecoder {
  public:
   /// Whether it is faster than libjpeg-turbo on this processor. Without vector instructions it is not.
 #ifdef __x86_64__
@@ -32,14 +34,15 @@ class SequentialDecoder {
 
   /// Returns a decoder for the file `descriptor`, which must stay open, or null if the file is not a usual one.
   /// `header` was read by jpeg_read_header; the data of the first scan begin at offset `place`.
-  [[nodiscard]] static std::unique_ptr<SequentialDecoder> For(const jpeg_decompress_struct& header, int descriptor,
-                                                              off_t place, const WantedPixels& wanted);
-  /// The planes of `file` must know the wanted samples.
-  SequentialDecoder(UsualFile file, ScanData data, const WantedPixels& wanted);
+  [[nodiscard]] static std::unique_ptr<WantedDecoder> For(const jpeg_decompress_struct& header, int descriptor,
+                                                          off_t place, const WantedPixels& wanted,
+                                                          const std::stop_token& stop);
+  /// `walk` decodes the wanted samples.
+  WantedDecoder(const ChromaLayout& chroma, std::unique_ptr<RowWalk> walk, const WantedPixels& wanted);
 
   /// Writes the wanted pixels of a wanted row to their places in `bgr`. Rows are counted from the top and must be read
-  /// in this order. Returns false if it gives up; all later calls then fail, too. Once the bottom row was read, the
-  /// whole file is known to be undamaged.
+  /// in this order. Returns false if it gives up, or if a stop is requested while it reads several scans; all later
+  /// calls then fail, too. Once the bottom row was read, the whole file is known to be undamaged.
   [[nodiscard]] bool ReadRow(std::size_t row, std::uint8_t* bgr);
 
  private:
@@ -52,12 +55,11 @@ class SequentialDecoder {
   [[nodiscard]] bool PassTo(std::size_t row);
   [[nodiscard]] ChromaRows ChromaRowsOf(std::size_t component, std::size_t row) const;
 
-  Chroma chroma_;
-  ChromaAxis chromaColumns_;
-  ChromaAxis chromaRows_;
+  ChromaLayout chroma_;
   std::vector<std::uint8_t> wanted_;
   std::vector<Span> spans_;  // of wanted columns
-  ScanWalk walk_;
+  std::unique_ptr<RowWalk> walk_;
+  std::size_t rowsPassed_ = 0;
 };
 
 }  // namespace vantorium::image::jpeg

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "image/jpeg/RowWalk.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace vantorium::image::jpeg {
+
+/// What the scans read so far tell of a component's coefficients: of each block, which ones are not 0; of blocks with
+/// wanted samples their values, too.
+class Coefficients {
+ public:
+  /// `component` knows its wanted samples.
+  explicit Coefficients(const Component& component);
+
+  /// A row of blocks.
+  struct Row {
+    std::uint64_t* notZero;      ///< a bit for each AC coefficient of a block in zigzag order, the first one lowest
+    const std::uint32_t* slots;  ///< where the values of a block are; kUnwanted if they are not kept
+    std::int16_t* values;        ///< null if no block of the row is wanted
+
+    /// Returns the values of a block in zigzag order, or null. A value is set once a scan has told that it is not 0;
+    /// that of the DC coefficient is set by its first scan.
+    [[nodiscard]] std::int16_t* ValuesOf(std::size_t column) const {
+      return values == nullptr || slots[column] == kUnwanted ? nullptr : values + std::size_t{64} * slots[column];
+    }
+  };
+  [[nodiscard]] Row RowOf(std::size_t blockRow);
+
+ private:
+  static constexpr std::uint32_t kUnwanted = 0xFFFFFFFF;
+
+  std::size_t blocksPerRow_;
+  std::size_t wantedPerRow_ = 0;
+  std::vector<std::uint64_t> notZero_;
+  std::vector<std::uint32_t> columnSlots_;
+  std::vector<std::uint32_t> rowSlots_;
+  std::unique_ptr<std::int16_t[]> values_;
+};
+
+}  // namespace vantorium::image::jpeg
