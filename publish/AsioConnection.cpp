@@ -8,7 +8,7 @@
 
 namespace vantorium::publish {
 
-using asio::ip::tcp;
+using tcp = asio::ip::tcp;
 
 namespace {
 

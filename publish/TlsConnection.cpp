@@ -87,7 +87,8 @@ ServerCertificate CertificateOf(const SSL* handle) {
 
 class TlsConnection::Session {
  public:
-  Session(asio::io_context& context, TlsCarrier& carrier, const std::string& host, std::shared_ptr<TlsTicket> resumed)
+  Session(asio::io_context& context, TlsCarrier& carrier, const std::string& host,
+          const std::shared_ptr<TlsTicket>& resumed)
       : settings(resumed ? resumed->settings : NewSettings()), stream(CarrierStream(context, carrier), *settings) {
     SetHost(Handle(), host);
     if (resumed && resumed->session) SSL_set_session(Handle(), resumed->session.get());
@@ -104,8 +105,8 @@ class TlsConnection::Session {
 };
 
 TlsConnection::TlsConnection(asio::io_context& context, TlsCarrier& carrier, const std::string& host,
-                             std::shared_ptr<TlsTicket> resumed)
-    : session_(std::make_unique<Session>(context, carrier, host, std::move(resumed))) {}
+                             const std::shared_ptr<TlsTicket>& resumed)
+    : session_(std::make_unique<Session>(context, carrier, host, resumed)) {}
 
 TlsConnection::~TlsConnection() = default;
 

@@ -48,7 +48,7 @@ class TlsConnection {
   /// `host`: a name, which is also sent (SNI), or an address. `resumed` may be null. Throws std::system_error if
   /// OpenSSL cannot be set up.
   TlsConnection(asio::io_context& context, TlsCarrier& carrier, const std::string& host,
-                std::shared_ptr<TlsTicket> resumed);
+                const std::shared_ptr<TlsTicket>& resumed);
   ~TlsConnection();
   TlsConnection(const TlsConnection&) = delete;
   TlsConnection& operator=(const TlsConnection&) = delete;

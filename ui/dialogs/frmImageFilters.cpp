@@ -52,10 +52,10 @@ void frmImageFilters::Bind(QSlider& control, QLabel& label, std::int16_t image::
 
 void frmImageFilters::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!event->spontaneous()) QMetaObject::invokeMethod(this, &frmImageFilters::Open, Qt::QueuedConnection);
+  if (!event->spontaneous()) QMetaObject::invokeMethod(this, &frmImageFilters::ShowSample, Qt::QueuedConnection);
 }
 
-void frmImageFilters::Open() {
+void frmImageFilters::ShowSample() {
   const WaitPointer wait(*this);
   model_->Open();
 }

@@ -34,7 +34,7 @@ class frmImageFilters : public QDialog {
  private:
   void Bind(QCheckBox& control, std::int16_t image::ImageFilterSettings::*field);
   void Bind(QSlider& control, QLabel& label, std::int16_t image::ImageFilterSettings::*field);
-  void Open();
+  void ShowSample();
   void Preview();
 
   std::unique_ptr<Ui::frmImageFilters> ui_;

@@ -79,7 +79,7 @@ void frmWatermark::Bind(QSlider& control, QLabel& label, int value, void (Waterm
 
 void frmWatermark::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!event->spontaneous()) QMetaObject::invokeMethod(this, &frmWatermark::Open, Qt::QueuedConnection);
+  if (!event->spontaneous()) QMetaObject::invokeMethod(this, &frmWatermark::ShowSample, Qt::QueuedConnection);
 }
 
 bool frmWatermark::eventFilter(QObject* watched, QEvent* event) {
@@ -87,7 +87,7 @@ bool frmWatermark::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-void frmWatermark::Open() {
+void frmWatermark::ShowSample() {
   const WaitPointer wait(*this);
   model_->Open();
 }

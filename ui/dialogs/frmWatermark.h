@@ -37,7 +37,7 @@ class frmWatermark : public QDialog {
   void ConnectCaption();
   void ConnectButtons();
   void Bind(QSlider& control, QLabel& label, int value, void (WatermarkModel::*set)(std::int16_t));
-  void Open();
+  void ShowSample();
   void BrowseFont();
 
   std::unique_ptr<Ui::frmWatermark> ui_;

@@ -128,7 +128,7 @@ void FileWindow::accept() {
       name_->clear();
       return;
     case FileChoice::Step::Accept:
-      QDialog::accept();
+      QDialog::accept();  // NOLINT(bugprone-parent-virtual-call): QFileDialog would judge the names itself
   }
 }
 

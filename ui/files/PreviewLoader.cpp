@@ -10,7 +10,7 @@ QImage Decode(const std::optional<std::filesystem::path>& file, image::PictureSi
               image::Corrections corrections) {
   image::cDIBSection dib;
   if (!file || !LoadReducedPicture(dib, *file, box, stop, corrections)) return {};
-  const QImage picture = ImageOf(dib);
+  QImage picture = ImageOf(dib);
   const QSize enough = 2 * QSize(box.width, box.height);  // a huge one is scaled down here, not where it is drawn
   if (picture.width() <= enough.width() && picture.height() <= enough.height()) return picture;
   return picture.scaled(enough, Qt::KeepAspectRatio, Qt::SmoothTransformation);

@@ -19,6 +19,7 @@
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
+#include <QToolButton>
 #include <QWindow>
 
 namespace vantorium::ui {

@@ -96,8 +96,9 @@ void MainModel::CreateGallery() {
 
 void MainModel::Run(generation::GenerationMode mode, std::int16_t browserIndex) {
   host_.Windows().StorePlacings();
-  generation::GalleryCreator creator(project_, preferences_, appPath_,
-                                     {ports_, host_, cancel_, &ftp_, ports_.cacheFolder});
+  generation::GalleryCreator creator(
+      project_, preferences_, appPath_,
+      {static_cast<const core::Ports&>(ports_), host_, cancel_, &ftp_, ports_.cacheFolder});
   creator.CreateGallery(mode, browserIndex);
   host_.View().ShowSettings();
 }
