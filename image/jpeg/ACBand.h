@@ -21,7 +21,7 @@ class ACBand {
   /// Reads a row of a scan that tells one more bit of each.
   [[nodiscard]] bool Refine(const Coefficients::Row& row, std::size_t blocks);
   /// Returns whether the scan ends after the rows read.
-  [[nodiscard]] bool EndsScan() { return endedBlocks_ == 0 && reader_.EndsScan(window_); }
+  [[nodiscard]] bool EndsScan() { return reader_.EndsScan(window_); }
 
  private:
   [[nodiscard]] bool Prepare(BitWindow& window);

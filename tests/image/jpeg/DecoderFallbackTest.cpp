@@ -4,19 +4,39 @@
 #include "tests/image/jpeg/WantedRows.h"
 
 #include <random>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 namespace vantorium {
 namespace {
 
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 constexpr int kWidth = 100;
 constexpr int kHeight = 90;
 
+// Calls `change` with each segment that has this marker.
+template <typename Change>
+void ForEachSegment(const std::string& jpeg, std::string_view marker, Change change) {
+  for (std::size_t at = jpeg.find(marker); at != std::string::npos; at = jpeg.find(marker, at + 1)) change(at);
+}
+
 class DecoderFallbackTest : public ::testing::Test {
  protected:
+  // Returns whether libjpeg-turbo can decode the file. JPEGDecoder must agree with it.
+  bool Decodes(const std::string& bytes) {
+    const auto file = folder.Write("picture.jpg", bytes);
+    bool decodes = false;
+    for (const unsigned number : {0U, 4U}) {
+      const auto wanted = fakes::SomePixels(kWidth, kHeight, number);
+      const auto expected = fakes::ReadByLibrary(file, wanted);
+      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), expected);
+      decodes = expected.has_value();
+    }
+    return decodes;
+  }
   // WantedDecoder must give up; libjpeg-turbo must find the file good or not, and JPEGDecoder must agree with it.
   void ExpectLibjpegTurbosVerdict(const std::string& jpeg, bool good) {
     const auto file = folder.Write("picture.jpg", jpeg);
@@ -114,20 +134,90 @@ TEST_F(DecoderFallbackTest, OtherChangesBetweenScansAreLeftToLibjpegTurbo) {
   ExpectLibjpegTurbosVerdict(WithBytesBetweenScans(progressive, "\xFF\xC4"sv, again), true);
 }
 
-TEST_F(DecoderFallbackTest, ScansThatDoNotGoOnAreDamage) {
-  // A scan header ends with its first and last coefficient and the bits of both.
-  std::size_t scan = progressive.find("\xFF\xDA"sv);
-  for (int i = 0; scan != std::string::npos; ++i, scan = progressive.find("\xFF\xDA"sv, scan + 1)) {
-    const std::size_t bits = scan + 2 + static_cast<unsigned char>(progressive[scan + 3]) - 1;
+// A scan header ends with its first and last coefficient, and a byte for the lowest bit known before and the lowest bit
+// that it tells.
+std::size_t PlaceOfBits(const std::string& jpeg, std::size_t scan) {
+  return scan + 2 + static_cast<unsigned char>(jpeg[scan + 3]) - 1;
+}
+
+TEST_F(DecoderFallbackTest, ScansThatDoNotGoOnAreLeftToLibjpegTurbo) {
+  ForEachSegment(progressive, "\xFF\xDA"sv, [&](std::size_t scan) {
+    const std::size_t bits = PlaceOfBits(progressive, scan);
     for (const char value : {'\x03', '\x32', '\x31', '\x0E'}) {
       std::string changed = progressive;
-      if (changed[bits] == value) continue;
       changed[bits] = value;
-      const auto file = folder.Write("picture.jpg", changed);
-      const auto wanted = fakes::SomePixels(kWidth, kHeight, 1);
-      EXPECT_FALSE(fakes::ReadAlone(file, wanted)) << "scan " << i;
-      EXPECT_EQ(fakes::ReadAsWanted(file, wanted), fakes::ReadByLibrary(file, wanted)) << "scan " << i;
+      if (changed == progressive) continue;
+      std::ignore = Decodes(changed);
+      EXPECT_FALSE(fakes::ReadAlone(folder.Path() / "picture.jpg", fakes::SomePixels(kWidth, kHeight, 1)));
     }
+  });
+}
+
+TEST_F(DecoderFallbackTest, ABitLeftOutBetweenTwoScansIsDamage) {
+  std::string jump = fakes::MakeJpeg({.width = kWidth,
+                                      .height = kHeight,
+                                      .colors = fakes::JpegColors::Grey,
+                                      .progressive = true,
+                                      .scans = {{{0}, 0, 0, 0, 0}, {{0}, 1, 63, 0, 2}, {{0}, 1, 63, 2, 1}}});
+  EXPECT_TRUE(Decodes(jump));
+  jump[PlaceOfBits(jump, jump.rfind("\xFF\xDA"sv))] = '\x20';
+  EXPECT_FALSE(Decodes(jump));
+}
+
+// Tables between scans, whose symbols follow the marker, the length, a byte for the number and 16 for the lengths.
+TEST_F(DecoderFallbackTest, AnyChangedSymbolBetweenScansHasTheSameOutcome) {
+  ForEachSegment(progressive, "\xFF\xC4"sv, [&](std::size_t tables) {
+    const std::size_t end = tables + 2 + static_cast<unsigned char>(progressive[tables + 3]);
+    for (std::size_t symbol = tables + 21; symbol < end; ++symbol) {
+      for (const int difference : {1, 15}) {
+        std::string changed = progressive;
+        changed[symbol] = static_cast<char>(changed[symbol] + difference);
+        std::ignore = Decodes(changed);
+      }
+    }
+  });
+}
+
+TEST_F(DecoderFallbackTest, MoreSymbolsThanThereAreAreDamage) {
+  const std::string tables =
+      "\xFF\xC4" + std::string("\x10\x03\x10", 3) + std::string(16, '\xFF') + std::string(4080, '\x01');
+  EXPECT_FALSE(Decodes(WithBytesBetweenScans(progressive, "\xFF\xDA"sv, tables)));
+}
+
+// In a sequential scan a run of zeros without a value ends the block; in a progressive one it ends several.
+TEST_F(DecoderFallbackTest, ARunWithoutAValueEndsABlockOfASequentialScan) {
+  const std::string fine = fakes::MakeJpeg(
+      {.width = kWidth, .height = kHeight, .colors = fakes::JpegColors::Grey, .quality = 60, .optimised = true});
+  const std::size_t tables = fine.rfind("\xFF\xC4"sv);
+  const std::size_t end = fine.find('\0', tables + 21);
+  ASSERT_LT(end, fakes::PictureDataOf(fine));
+  std::string odd = fine;
+  odd[end] = '\x30';
+  EXPECT_TRUE(Decodes(odd));
+  const auto wanted = fakes::SomePixels(kWidth, kHeight, 0);
+  const auto rows = fakes::ReadAsWanted(folder.Path() / "picture.jpg", wanted);
+  EXPECT_EQ(rows, fakes::ReadByLibrary(folder.Write("fine.jpg", fine), wanted));
+}
+
+// Two blocks with a restart marker between them. The scan of AC coefficients is made by hand: the code 0 ends two or
+// three blocks, 10 ends one.
+TEST_F(DecoderFallbackTest, ARunOfBlocksEndsAtARestartMarker) {
+  const fakes::JpegRecipe recipe = {.width = 16,
+                                    .height = 8,
+                                    .colors = fakes::JpegColors::Grey,
+                                    .progressive = true,
+                                    .scans = {{{0}, 0, 0, 0, 0}, {{0}, 1, 63, 0, 0}},
+                                    .restartEvery = 1};
+  const std::string jpeg = fakes::MakeJpeg(recipe);
+  const std::string before = jpeg.substr(0, jpeg.find("\xFF\xC4"sv, fakes::PictureDataOf(jpeg)));
+  const std::string tables = "\xFF\xC4"s + "\0\x15\x10\1\1\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x10\0"s;
+  const std::string scan = "\xFF\xDA"s + "\0\x08\1\1\0\1\x3F\0"s;
+  const auto wanted = fakes::SomePixels(recipe.width, recipe.height, 0);
+  for (const auto& [data, good] : {std::pair("\x3F\xFF\xD0\xBF\xFF\xD9"s, true), {"\x3F\xFF\xD0\xFF\xD9"s, false}}) {
+    const auto file = folder.Write("picture.jpg", before + tables + scan + data);
+    const auto expected = fakes::ReadByLibrary(file, wanted);
+    EXPECT_EQ(expected.has_value(), good);
+    EXPECT_EQ(fakes::ReadAsWanted(file, wanted), expected);
   }
 }
 
