@@ -235,7 +235,7 @@ bool JPEGDecoder::ReadRow(std::uint8_t* bgr) {
       ++state.usualRows;
       return true;
     }
-    if (!TurnToLibrary()) return false;
+    if (state.stop.stop_requested() || !TurnToLibrary()) return false;
   }
   JSAMPROW row = state.HasInks() ? state.inks.data() : bgr;
   JDIMENSION rows = 0;
