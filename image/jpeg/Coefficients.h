@@ -9,8 +9,8 @@
 
 namespace vantorium::image::jpeg {
 
-/// What the scans read so far tell of a component's coefficients: of each block, which ones are not 0; of blocks with
-/// wanted samples their values, too.
+/// The coefficients of a component as far as scans have been read: which ones of each block are not 0, and the values
+/// of blocks with wanted samples.
 class Coefficients {
  public:
   /// `component` knows its wanted samples.
@@ -22,8 +22,8 @@ class Coefficients {
     const std::uint32_t* slots;  ///< where the values of a block are; kUnwanted if they are not kept
     std::int16_t* values;        ///< null if no block of the row is wanted
 
-    /// Returns the values of a block in zigzag order, or null. A value is set once a scan has told that it is not 0;
-    /// that of the DC coefficient is set by its first scan.
+    /// Returns the values of a block in zigzag order, or null. Only values that are not 0 are set, and the
+    /// DC coefficient once its first scan was read.
     [[nodiscard]] std::int16_t* ValuesOf(std::size_t column) const {
       return values == nullptr || slots[column] == kUnwanted ? nullptr : values + std::size_t{64} * slots[column];
     }

@@ -127,7 +127,7 @@ bool ReadACScan(SegmentReader& reader, const ScanHeaders& headers, ProgressivePi
   const ScanHeader& header = *headers.Scan();
   const ScanHeader::Part& part = header.parts.front();
   const auto code = headers.Tables().AC(part.acTable);
-  // A refining scan tells one bit of a coefficient. Others may tell as many as fit a value of 16 bits.
+  // A refining scan has one bit of a coefficient, a first one up to what makes 16 bits with those still missing.
   if (!code || code->HasValuesAbove(header.Refines() ? 1 : 15 - header.lowest)) return false;
 
   const Component& component = picture.components[part.component];

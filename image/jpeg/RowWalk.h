@@ -8,7 +8,7 @@
 
 namespace vantorium::image::jpeg {
 
-/// What every scan needs to know of a component, and its samples.
+/// The properties of a component that its scans need, and its samples.
 struct Component {
   Plane plane;
   std::array<int, 64> steps;  ///< the quantization table in zigzag order; each step is at most 255
@@ -24,8 +24,8 @@ class RowWalk {
   RowWalk(const RowWalk&) = delete;
   RowWalk& operator=(const RowWalk&) = delete;
 
-  /// Decodes the next row of MCUs. Returns false if the data are unusual, which the last row tells at the latest; the
-  /// rows decoded until then are right nevertheless.
+  /// Decodes the next row of MCUs. Returns false if the data are unusual, at the last row at the latest; the rows
+  /// decoded until then are right nevertheless.
   [[nodiscard]] virtual bool PassRow() = 0;
   [[nodiscard]] virtual const Plane& PlaneOf(std::size_t component) const = 0;
 };

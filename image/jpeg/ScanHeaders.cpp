@@ -80,7 +80,7 @@ bool ScanHeaders::TakeScan(const std::vector<std::uint8_t>& segment) {
   return Accept(std::move(scan));
 }
 
-bool ScanHeaders::GoesOn(const ScanHeader& scan, const MissingBits& missing) const {
+bool ScanHeaders::Continues(const ScanHeader& scan, const MissingBits& missing) const {
   if (scan.first > 0 && missing[0] == kUnknown) return false;
   const int expected = scan.Refines() ? static_cast<int>(scan.knownFrom) : kUnknown;
   return std::all_of(missing.begin() + scan.first, missing.begin() + scan.last + 1,
@@ -95,7 +95,7 @@ bool ScanHeaders::Accept(ScanHeader scan) {
   for (std::size_t i = 0; i < scan.parts.size(); ++i) {
     if (i > 0 && scan.parts[i].component <= scan.parts[i - 1].component) return false;
     MissingBits& missing = missing_[scan.parts[i].component];
-    if (!GoesOn(scan, missing)) return false;
+    if (!Continues(scan, missing)) return false;
     std::fill(missing.begin() + scan.first, missing.begin() + scan.last + 1, static_cast<int>(scan.lowest));
   }
   scan_ = std::move(scan);

@@ -24,14 +24,14 @@ struct ScanHeader {
   std::vector<Part> parts;
   unsigned first;  ///< the first and the last coefficient in zigzag order
   unsigned last;
-  unsigned knownFrom;  ///< the lowest bit that an earlier scan has told; 0 if none has
-  unsigned lowest;     ///< the lowest bit that this scan tells
+  unsigned knownFrom;  ///< the lowest bit in the scan before (Ah); 0 in the first scan of these coefficients
+  unsigned lowest;     ///< the lowest bit in this scan (Al)
 
   [[nodiscard]] bool Refines() const { return knownFrom != 0; }
 };
 
 /// Reads the headers of the scans of a progressive picture with the Huffman tables between them, and checks that each
-/// scan goes on where the earlier ones have ended.
+/// scan continues where the earlier ones ended.
 class ScanHeaders {
  public:
   /// Takes over what jpeg_read_header has read, up to the header of the first scan.
@@ -43,7 +43,7 @@ class ScanHeaders {
   /// Reads from `marker`, which ended a scan and of which `data` hold what follows, up to the next scan or the end
   /// marker. Scan is empty then. Returns false if anything else is found.
   [[nodiscard]] bool ReadNext(unsigned marker, ScanData& data);
-  /// Returns whether the scans told every coefficient to its last bit.
+  /// Returns whether the scans had every bit of every coefficient.
   [[nodiscard]] bool AreComplete() const;
 
  private:
@@ -52,7 +52,7 @@ class ScanHeaders {
 
   [[nodiscard]] bool TakeScan(const std::vector<std::uint8_t>& segment);
   [[nodiscard]] bool Accept(ScanHeader scan);
-  [[nodiscard]] bool GoesOn(const ScanHeader& scan, const MissingBits& missing) const;
+  [[nodiscard]] bool Continues(const ScanHeader& scan, const MissingBits& missing) const;
 
   HuffmanSlots tables_;
   std::vector<int> identifiers_;

@@ -21,9 +21,9 @@ class SegmentReader {
   [[nodiscard]] bool PassRestart(BitWindow& window);
   /// Makes sure that all bits of the next MCU are there to be read. Returns false if the data ended before it.
   [[nodiscard]] bool HasMCU(BitWindow& window) { return window.Next() < limit_ || Extend(window); }
-  /// Returns whether no more bits were read than there are. HasMCU does not tell it of the MCU before.
+  /// Returns whether no more bits were read than there are. HasMCU does not check the end of the MCU before.
   [[nodiscard]] bool HoldsAllOf(const BitWindow& window) const { return window.BitsBefore(data_.End()) >= 0; }
-  /// Returns whether the data end here, but for the bits that fill the last byte. Marker tells how.
+  /// Returns whether the data end here, except for the bits that fill the last byte. Marker() then is what follows.
   [[nodiscard]] bool EndsScan(BitWindow window);
   [[nodiscard]] unsigned Marker() const { return data_.Marker(); }
 

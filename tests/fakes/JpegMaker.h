@@ -13,7 +13,7 @@ namespace vantorium::fakes {
 enum class JpegColors { Grey, YCbCr, RGB, CMYK, YCCK };
 
 /// A scan of a progressive file. `knownFrom` and `lowest` are bits of the coefficients: the lowest one that earlier
-/// scans have told, or 0, and the lowest one that this scan tells.
+/// scans had, or 0, and the lowest one in this scan.
 struct JpegScan {
   std::vector<int> channels = {};
   int first = 0;

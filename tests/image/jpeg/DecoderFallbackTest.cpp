@@ -134,8 +134,8 @@ TEST_F(DecoderFallbackTest, OtherChangesBetweenScansAreLeftToLibjpegTurbo) {
   ExpectLibjpegTurbosVerdict(WithBytesBetweenScans(progressive, "\xFF\xC4"sv, again), true);
 }
 
-// A scan header ends with its first and last coefficient, and a byte for the lowest bit known before and the lowest bit
-// that it tells.
+// A scan header ends with its first and last coefficient, and a byte for the lowest bit in the scan before and in this
+// one.
 std::size_t PlaceOfBits(const std::string& jpeg, std::size_t scan) {
   return scan + 2 + static_cast<unsigned char>(jpeg[scan + 3]) - 1;
 }

@@ -106,8 +106,8 @@ TEST_F(WantedDecoderTest, WantedPixelsEqualLibjpegTurbosWithRestartMarkers) {
   }
 }
 
-// The scans of a progressive picture: bands of AC coefficients that are told with a bit more in each scan, for each
-// channel the same.
+// The scans of a progressive picture: bands of AC coefficients, the same for each channel, with one more bit in each
+// round.
 std::vector<JpegScan> ScansOf(int channels, const std::vector<std::pair<int, int>>& bands, int missingBits) {
   std::vector<int> all(static_cast<std::size_t>(channels));
   std::iota(all.begin(), all.end(), 0);
