@@ -141,7 +141,7 @@ std::size_t AsioFTPSocket::Connection::Send(std::span<const char> bytes) {
   return sent;
 }
 
-TlsHandshake AsioFTPSocket::Connection::StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed) {
+TlsHandshake AsioFTPSocket::Connection::StartTls(const std::string& host, const std::shared_ptr<TlsTicket>& resumed) {
   try {
     tls = std::make_unique<TlsConnection>(context, *this, host, std::move(resumed));
     return tls->Handshake();

@@ -47,7 +47,7 @@ class AsioFTPSocket::Connection : public TlsCarrier {
   [[nodiscard]] std::size_t Receive(std::span<char> into);
   /// Returns the count sent, less than given after a failure.
   [[nodiscard]] std::size_t Send(std::span<const char> bytes);
-  [[nodiscard]] TlsHandshake StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed);
+  [[nodiscard]] TlsHandshake StartTls(const std::string& host, const std::shared_ptr<TlsTicket>& resumed);
   /// Returns true if the peer ended its side too, and not before this one.
   [[nodiscard]] bool EndTls();
 

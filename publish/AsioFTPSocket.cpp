@@ -121,7 +121,7 @@ void AsioFTPSocket::Accept(const FTPSocket& control) {
 
 TlsHandshake AsioFTPSocket::StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed) {
   const Connection::BlockingCall call(*connection_);
-  return connection_->StartTls(host, std::move(resumed));
+  return connection_->StartTls(host, resumed);
 }
 
 std::shared_ptr<TlsTicket> AsioFTPSocket::Ticket() const {
