@@ -1,12 +1,11 @@
 #include "image/JPEGSegments.h"
 
+#include "image/jpeg/Markers.h"
+
 namespace vantorium::image {
 namespace {
 
-constexpr int kMarkerPrefix = 0xFF;
-constexpr int kStartOfImage = 0xD8;
-constexpr int kEndOfImage = 0xD9;
-constexpr int kStartOfScan = 0xDA;
+using jpeg::kMarkerPrefix;
 
 // TEM and RST0 to RST7
 bool StandsAlone(int marker) {
@@ -21,7 +20,7 @@ JPEGSegments::JPEGSegments(const std::filesystem::path& path) {
   if (file_ == nullptr) return;
   const int first = std::getc(file_.get());
   const int second = std::getc(file_.get());
-  if (first != kMarkerPrefix || second != kStartOfImage) file_ = nullptr;
+  if (first != kMarkerPrefix || second != jpeg::kStartOfImage) file_ = nullptr;
 }
 
 // Like libjpeg-turbo, skips bytes that belong to no segment, fill bytes and the zero that tells data from markers.
@@ -39,7 +38,8 @@ std::optional<int> JPEGSegments::Next() {
   if (file_ == nullptr || (left_ > 0 && std::fseek(file_.get(), left_, SEEK_CUR) != 0)) return std::nullopt;
   left_ = 0;
   const int marker = NextMarker();
-  if (marker == EOF || marker == kStartOfScan || marker == kEndOfImage || marker == kStartOfImage) return std::nullopt;
+  const bool endsHeader = marker == jpeg::kStartOfScan || marker == jpeg::kEndOfImage || marker == jpeg::kStartOfImage;
+  if (marker == EOF || endsHeader) return std::nullopt;
   if (StandsAlone(marker)) return marker;
   const int high = std::getc(file_.get());
   const int low = std::getc(file_.get());

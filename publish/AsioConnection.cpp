@@ -143,7 +143,7 @@ std::size_t AsioFTPSocket::Connection::Send(std::span<const char> bytes) {
 
 TlsHandshake AsioFTPSocket::Connection::StartTls(const std::string& host, const std::shared_ptr<TlsTicket>& resumed) {
   try {
-    tls = std::make_unique<TlsConnection>(context, *this, host, std::move(resumed));
+    tls = std::make_unique<TlsConnection>(context, *this, host, resumed);
     return tls->Handshake();
   } catch (const std::system_error& error) {
     return {.done = false, .problem = error.what(), .certificate = {}};

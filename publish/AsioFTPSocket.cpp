@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <tuple>
-#include <utility>
 
 namespace vantorium::publish {
 
@@ -119,7 +118,7 @@ void AsioFTPSocket::Accept(const FTPSocket& control) {
   }
 }
 
-TlsHandshake AsioFTPSocket::StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed) {
+TlsHandshake AsioFTPSocket::StartTls(const std::string& host, const std::shared_ptr<TlsTicket>& resumed) {
   const Connection::BlockingCall call(*connection_);
   return connection_->StartTls(host, resumed);
 }

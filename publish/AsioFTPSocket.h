@@ -26,7 +26,7 @@ class AsioFTPSocket : public FTPSocket {
   [[nodiscard]] std::string PortArgument() const override;
   [[nodiscard]] std::string ExtendedPortArgument() const override;
   void Accept(const FTPSocket& control) override;
-  [[nodiscard]] TlsHandshake StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed) override;
+  [[nodiscard]] TlsHandshake StartTls(const std::string& host, const std::shared_ptr<TlsTicket>& resumed) override;
   [[nodiscard]] std::shared_ptr<TlsTicket> Ticket() const override;
   void BeginFile() override;
   [[nodiscard]] bool Finish() override;

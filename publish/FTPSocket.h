@@ -61,7 +61,7 @@ class FTPSocket {
 
   /// Encrypts the connection, as the client (see TlsConnection); it stays open on failure. With a ticket of another
   /// connection, takes up that one's session.
-  [[nodiscard]] virtual TlsHandshake StartTls(const std::string& host, std::shared_ptr<TlsTicket> resumed) = 0;
+  [[nodiscard]] virtual TlsHandshake StartTls(const std::string& host, const std::shared_ptr<TlsTicket>& resumed) = 0;
   /// Returns what another connection needs to take up this connection's TLS session; null without one.
   [[nodiscard]] virtual std::shared_ptr<TlsTicket> Ticket() const = 0;
 

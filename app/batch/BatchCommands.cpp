@@ -187,7 +187,8 @@ ExitCode BatchProgram::Publish() {
 ExitCode BatchProgram::Upload() {
   const std::string folder = PathText(options_.folder);
   const bool isReadable = env::CanListFolder(paths_.ToNative(folder));
-  if (!isReadable && Refuse(generation::UnableToReadFolder(paths_.Surface(options_.folder)))) return ExitCode::Failure;
+  if (Refuse(isReadable ? "" : generation::UnableToReadFolder(paths_.Surface(options_.folder))))
+    return ExitCode::Failure;
   generation::RunOrder order = OrderFor(generation::GenerationMode::Upload);
   order.OutputFolder = env::WithTrailingBackslash(folder);
   generation::SetRemoteFolder(order, options_.remote);
@@ -206,7 +207,7 @@ generation::RunOrder BatchProgram::OrderFor(generation::GenerationMode mode) con
 
 bool BatchProgram::SetServer(generation::RunOrder& order) {
   const auto password = ReadPassword(options_.passwordFile);
-  if (!password && Refuse("The password file \"" + options_.passwordFile + "\" cannot be read.")) return false;
+  if (Refuse(password ? "" : "The password file \"" + options_.passwordFile + "\" cannot be read.")) return false;
   order.ServerAddress = options_.server;
   order.Port = options_.port;
   order.UserName = options_.user;

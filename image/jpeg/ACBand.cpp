@@ -79,9 +79,8 @@ ACBand::ACBand(SegmentReader& reader, const ScanHeader& header, ValueTable table
       band_(BitsUpTo(header.last) & ~BitsUpTo(header.first - 1)),
       window_(reader.BeginScan()) {}
 
-bool ACBand::Prepare(BitWindow& window) {
-  if (reader_.RestartIsDue() && (endedBlocks_ != 0 || !reader_.PassRestart(window))) return false;
-  return reader_.HasMCU(window);
+bool ACBand::BeginBlock(BitWindow& window) {
+  return reader_.BeginMCU(window, [this] { return endedBlocks_ == 0; });
 }
 
 // Reads the coefficients after place `k`, where none is known. Local copies stay in registers.
@@ -102,7 +101,7 @@ bool ACBand::Prepare(BitWindow& window) {
   });
   shared = window;
   notZero = found;
-  return k == last || k / 64 == kEndOfBlock / 64;
+  return EndsWell(k, last);
 }
 
 // A run counts zeros only; the known coefficients that it passes are corrected. After the last known one the scan is
@@ -149,7 +148,7 @@ VANTORIUM_VECTOR_CLONES
 bool ACBand::ReadFirst(const Coefficients::Row& row, std::size_t blocks) {
   BitWindow window = window_;
   for (std::size_t i = 0; i < blocks; ++i) {
-    if (!Prepare(window)) return false;
+    if (!BeginBlock(window)) return false;
     if (endedBlocks_ != 0) {
       --endedBlocks_;
     } else if (!ReadNew(window, first_ - 1, row.notZero[i], row.ValuesOf(i))) {
@@ -164,7 +163,7 @@ VANTORIUM_VECTOR_CLONES
 bool ACBand::Refine(const Coefficients::Row& row, std::size_t blocks) {
   BitWindow window = window_;
   for (std::size_t i = 0; i < blocks; ++i) {
-    if (!Prepare(window) || !RefineBlock(window, row.notZero[i], row.ValuesOf(i))) return false;
+    if (!BeginBlock(window) || !RefineBlock(window, row.notZero[i], row.ValuesOf(i))) return false;
   }
   window_ = window;
   return true;

@@ -24,7 +24,7 @@ class ACBand {
   [[nodiscard]] bool EndsScan() { return reader_.EndsScan(window_); }
 
  private:
-  [[nodiscard]] bool Prepare(BitWindow& window);
+  [[nodiscard]] bool BeginBlock(BitWindow& window);
   [[nodiscard]] bool ReadNew(BitWindow& shared, unsigned k, std::uint64_t& notZero, std::int16_t* values);
   [[nodiscard]] bool RefineBlock(BitWindow& shared, std::uint64_t& notZero, std::int16_t* values);
 

@@ -18,9 +18,9 @@ inline constexpr unsigned kLastPlace = 63;
 inline constexpr unsigned kEndOfBlock = 128;
 inline constexpr unsigned kBadCode = 255;
 
-/// Whether a valid block may end at `k`.
-[[nodiscard]] inline bool EndsWell(unsigned k) {
-  return k == kLastPlace || k / 64 == kEndOfBlock / 64;
+/// Whether a valid block may end at `k` in a scan up to the coefficient `last`.
+[[nodiscard]] inline bool EndsWell(unsigned k, unsigned last = kLastPlace) {
+  return k == last || k / 64 == kEndOfBlock / 64;
 }
 
 /// A decoded Huffman code with the value bits that follow it.

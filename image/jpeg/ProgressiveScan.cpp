@@ -35,7 +35,6 @@ class DCScan {
 
   [[nodiscard]] std::vector<Lane> LanesOf(std::size_t row);
   [[nodiscard]] bool ReadRow(std::size_t row);
-  [[nodiscard]] bool PassRestart(BitWindow& window);
   [[nodiscard]] bool ReadBlock(BitWindow& window, DCPart& part, std::int16_t* value) const;
 
   const ScanHeader& header_;
@@ -95,17 +94,15 @@ std::vector<DCScan::Lane> DCScan::LanesOf(std::size_t row) {
   return lanes;
 }
 
-bool DCScan::PassRestart(BitWindow& window) {
-  for (DCPart& part : parts_) part.prediction = 0;
-  return reader_.PassRestart(window);
-}
-
 bool DCScan::ReadRow(std::size_t row) {
   const std::vector<Lane> lanes = LanesOf(row);
+  const auto restart = [this] {
+    for (DCPart& part : parts_) part.prediction = 0;
+    return true;
+  };
   BitWindow window = window_;
   for (std::size_t column = 0; column < grid_.perRow; ++column) {
-    if (reader_.RestartIsDue() && !PassRestart(window)) return false;
-    if (!reader_.HasMCU(window)) return false;
+    if (!reader_.BeginMCU(window, restart)) return false;
     for (const Lane& lane : lanes) {
       DCPart& part = *lane.part;
       if (!ReadBlock(window, part, lane.blocks.ValuesOf(column * part.across + lane.first))) return false;

@@ -1,22 +1,18 @@
 #include "image/jpeg/ProgressiveWalk.h"
 
 #include <bit>
-#include <cstdlib>
 #include <utility>
 
 namespace vantorium::image::jpeg {
 namespace {
 
-// Returns the sum of the absolute coefficients.
+// Returns the sum of the absolute coefficients. The value of the DC coefficient is always known.
 int Dequantize(const std::int16_t* values, std::uint64_t notZero, const std::array<int, 64>& steps, Block& block) {
   Clear(block);
   int sum = 0;
-  // The value of the DC coefficient is always known.
   for (std::uint64_t left = notZero | 1; left != 0; left &= left - 1) {
     const auto k = static_cast<std::size_t>(std::countr_zero(left));
-    const int coefficient = values[k] * steps[k];
-    sum += std::abs(coefficient);
-    block.values[kPlaceInBlock[k]] = static_cast<std::int16_t>(coefficient);
+    sum += Put(block, k, values[k] * steps[k]);
   }
   return sum;
 }
@@ -40,30 +36,30 @@ bool ProgressiveWalk::ReadScans() {
   return headers_.AreComplete();
 }
 
-bool ProgressiveWalk::PassBlocks(std::size_t component, std::size_t blockRow) {
-  auto& [plane, steps, blocksPerRow, blockRows] = picture_.components[component];
+bool ProgressiveWalk::PassBlocks(std::size_t number, std::size_t blockRow) {
+  Component& component = picture_.components[number];
+  Plane& plane = component.plane;
   const unsigned rows = plane.WantedRows(blockRow);
   if (rows == 0) return true;
-  const Coefficients::Row blocks = picture_.coefficients[component].RowOf(blockRow);
+  const Coefficients::Row blocks = picture_.coefficients[number].RowOf(blockRow);
   Block block;
-  for (std::size_t column = 0; column < blocksPerRow; ++column) {
+  for (std::size_t column = 0; column < component.blocksPerRow; ++column) {
     const std::int16_t* values = blocks.ValuesOf(column);
     if (values == nullptr) continue;
-    const int sum = Dequantize(values, blocks.notZero[column], steps, block);
+    const int sum = Dequantize(values, blocks.notZero[column], component.steps, block);
     if (!TransformIfTame(block, sum, rows, plane.Row(8 * blockRow) + 8 * column, plane.Stride())) return false;
   }
   return true;
 }
 
-bool ProgressiveWalk::PassRow() {
-  if (rowsPassed_ == 0 && !ReadScans()) return false;
+bool ProgressiveWalk::PassRow(std::size_t row) {
+  if (row == 0 && !ReadScans()) return false;
   for (std::size_t i = 0; i < picture_.components.size(); ++i) {
     const std::size_t down = picture_.components[i].plane.Down();
     for (std::size_t y = 0; y < down; ++y) {
-      if (!PassBlocks(i, rowsPassed_ * down + y)) return false;
+      if (!PassBlocks(i, row * down + y)) return false;
     }
   }
-  ++rowsPassed_;
   return true;
 }
 

@@ -20,20 +20,19 @@ class ProgressiveWalk : public RowWalk {
   /// `reader` is at the data of the first scan.
   ProgressiveWalk(const jpeg_decompress_struct& header, UsualFile file, SegmentReader reader, std::stop_token stop);
 
-  [[nodiscard]] bool PassRow() override;
+  [[nodiscard]] bool PassRow(std::size_t row) override;
   [[nodiscard]] const Plane& PlaneOf(std::size_t component) const override {
     return picture_.components[component].plane;
   }
 
  private:
   [[nodiscard]] bool ReadScans();
-  [[nodiscard]] bool PassBlocks(std::size_t component, std::size_t blockRow);
+  [[nodiscard]] bool PassBlocks(std::size_t number, std::size_t blockRow);
 
   SegmentReader reader_;
   ScanHeaders headers_;
   ProgressivePicture picture_;
   std::stop_token stop_;
-  std::size_t rowsPassed_ = 0;
 };
 
 }  // namespace vantorium::image::jpeg

@@ -24,9 +24,9 @@ class RowWalk {
   RowWalk(const RowWalk&) = delete;
   RowWalk& operator=(const RowWalk&) = delete;
 
-  /// Decodes the next row of MCUs. Returns false if the data are unusual, at the last row at the latest; the rows
-  /// decoded until then are right nevertheless.
-  [[nodiscard]] virtual bool PassRow() = 0;
+  /// Decodes the row `row` of MCUs, which must be the next one. Returns false if the data are unusual, at the last row
+  /// at the latest; the rows decoded until then are right nevertheless.
+  [[nodiscard]] virtual bool PassRow(std::size_t row) = 0;
   [[nodiscard]] virtual const Plane& PlaneOf(std::size_t component) const = 0;
 };
 

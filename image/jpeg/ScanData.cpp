@@ -1,5 +1,7 @@
 #include "image/jpeg/ScanData.h"
 
+#include "image/jpeg/Markers.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -10,7 +12,6 @@ namespace vantorium::image::jpeg {
 namespace {
 
 constexpr std::size_t kPiece = std::size_t{1} << 15;
-constexpr std::uint8_t kMarkerBegin = 0xFF;
 
 }  // namespace
 
@@ -38,7 +39,7 @@ void ScanData::TakeMarkerOrByte() {
   ++taken_;
   const int second = NextByte();
   if (second == 0) {
-    data_[size_++] = kMarkerBegin;
+    data_[size_++] = kMarkerPrefix;
   } else {
     whole_ = true;
     marker_ = static_cast<std::uint8_t>(std::max(second, 0));
@@ -52,7 +53,7 @@ void ScanData::TakePiece() {
     return;
   }
   const std::uint8_t* begin = file_.data() + taken_;
-  const void* found = std::memchr(begin, kMarkerBegin, read_ - taken_);
+  const void* found = std::memchr(begin, kMarkerPrefix, read_ - taken_);
   const auto count =
       found == nullptr ? read_ - taken_ : static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - begin);
   std::memcpy(data_.data() + size_, begin, count);

@@ -1,23 +1,18 @@
 #include "image/jpeg/ScanHeaders.h"
 
+#include "image/jpeg/Markers.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace vantorium::image::jpeg {
 namespace {
 
-constexpr unsigned kHuffmanTables = 0xC4;
-constexpr unsigned kEndOfImage = 0xD9;
-constexpr unsigned kStartOfScan = 0xDA;
-constexpr unsigned kFirstApplication = 0xE0;
-constexpr unsigned kLastApplication = 0xEF;
-constexpr unsigned kComment = 0xFE;
-
 // Encoders write about ten.
 constexpr int kMostScans = 100;
 constexpr unsigned kMostLowest = 13;
 
-bool IsForApplications(unsigned marker) {
+bool IsForApplications(int marker) {
   return (marker >= kFirstApplication && marker <= kLastApplication) || marker == kComment;
 }
 
@@ -55,15 +50,15 @@ ScanHeaders::ScanHeaders(const jpeg_decompress_struct& header) : tables_(header)
   if (!Accept(std::move(scan))) scan_.reset();
 }
 
-bool ScanHeaders::ReadNext(unsigned marker, ScanData& data) {
+bool ScanHeaders::ReadNext(int marker, ScanData& data) {
   scan_.reset();
   while (marker != kEndOfImage) {
     const auto segment = ReadSegment(data);
     if (!segment) return false;
     if (marker == kStartOfScan) return TakeScan(*segment);
     if (marker == kHuffmanTables ? !tables_.Take(*segment) : !IsForApplications(marker)) return false;
-    if (data.NextByte() != 0xFF) return false;
-    marker = static_cast<unsigned>(data.NextByte());
+    if (data.NextByte() != kMarkerPrefix) return false;
+    marker = data.NextByte();
   }
   return true;
 }

@@ -42,7 +42,7 @@ class ScanHeaders {
   [[nodiscard]] const HuffmanSlots& Tables() const { return tables_; }
   /// Reads from `marker`, which ended a scan and of which `data` hold what follows, up to the next scan or the end
   /// marker. Scan is empty then. Returns false if anything else is found.
-  [[nodiscard]] bool ReadNext(unsigned marker, ScanData& data);
+  [[nodiscard]] bool ReadNext(int marker, ScanData& data);
   /// Returns whether the scans had every bit of every coefficient.
   [[nodiscard]] bool AreComplete() const;
 

@@ -1,13 +1,10 @@
 #include "image/jpeg/SegmentReader.h"
 
+#include "image/jpeg/Markers.h"
+
 #include <utility>
 
 namespace vantorium::image::jpeg {
-namespace {
-
-constexpr unsigned kFirstRestart = 0xD0;
-
-}  // namespace
 
 SegmentReader::SegmentReader(ScanData data, unsigned restartInterval)
     : data_(std::move(data)), restartInterval_(restartInterval) {}
@@ -34,11 +31,11 @@ bool SegmentReader::EndsScan(BitWindow window) {
 }
 
 bool SegmentReader::PassRestart(BitWindow& window) {
-  if (!EndsScan(window) || Marker() != kFirstRestart + restarts_ % 8) return false;
+  if (!EndsScan(window) || Marker() != kFirstRestart + restarts_) return false;
   data_.BeginSegment();
   limit_ = data_.Begin();
   untilRestart_ = restartInterval_ - 1;
-  ++restarts_;
+  restarts_ = (restarts_ + 1) % 8;
   window = BitWindow(data_.Begin());
   return true;
 }

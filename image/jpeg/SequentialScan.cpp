@@ -1,15 +1,13 @@
 #include "image/jpeg/SequentialScan.h"
 
 #include "image/jpeg/HuffmanSlots.h"
+#include "image/jpeg/Markers.h"
 
-#include <cstdlib>
 #include <map>
 #include <utility>
 
 namespace vantorium::image::jpeg {
 namespace {
-
-constexpr unsigned kEndOfImage = 0xD9;
 
 bool IsOneSequentialScan(const jpeg_decompress_struct& header) {
   if (header.progressive_mode != FALSE) return false;
@@ -50,17 +48,11 @@ int ReadBlock(BitWindow& shared, SequentialComponent& component, Block& block) {
   BitWindow window = shared;
   if (!ReadDC(window, component)) return kMostSum + 1;
   Clear(block);
-  int sum = 0;
-  const auto put = [&](unsigned k, int value) {
-    const int coefficient = value * component.steps[k];
-    sum += std::abs(coefficient);
-    block.values[kPlaceInBlock[k]] = static_cast<std::int16_t>(coefficient);
-  };
-  put(0, static_cast<std::int16_t>(component.prediction));
+  int sum = Put(block, 0, static_cast<std::int16_t>(component.prediction) * component.steps[0]);
   unsigned k = 0;
   component.codes->ac.ReadWhile(window, [&](const Symbol& symbol) {
     k += symbol.move;
-    if (k <= kLastPlace) put(k, symbol.value);
+    if (k <= kLastPlace) sum += Put(block, k, symbol.value * component.steps[k]);
     return k < kLastPlace;
   });
   shared = window;
@@ -105,12 +97,12 @@ std::unique_ptr<SequentialScan> SequentialScan::For(const jpeg_decompress_struct
 SequentialScan::SequentialScan(SegmentReader reader, MCUGrid grid, std::vector<SequentialComponent> components)
     : reader_(std::move(reader)), grid_(grid), components_(std::move(components)), window_(reader_.BeginScan()) {}
 
-std::vector<SequentialScan::Lane> SequentialScan::LanesOfRow() {
+std::vector<SequentialScan::Lane> SequentialScan::LanesOf(std::size_t row) {
   std::vector<Lane> lanes;
   for (SequentialComponent& component : components_) {
     Plane& plane = component.plane;
     for (std::size_t y = 0; y < plane.Down(); ++y) {
-      const std::size_t blockRow = rowsPassed_ * plane.Down() + y;
+      const std::size_t blockRow = row * plane.Down() + y;
       for (std::size_t x = 0; x < plane.Across(); ++x) {
         lanes.push_back({&component, plane.WantedColumns() + x, plane.Row(8 * blockRow) + 8 * x, plane.Across(),
                          plane.Stride(), plane.WantedRows(blockRow)});
@@ -120,29 +112,27 @@ std::vector<SequentialScan::Lane> SequentialScan::LanesOfRow() {
   return lanes;
 }
 
-bool SequentialScan::PassRestart(BitWindow& window) {
-  for (SequentialComponent& component : components_) component.prediction = 0;
-  return reader_.PassRestart(window);
-}
-
 bool SequentialScan::PassMCU(BitWindow& window, const std::vector<Lane>& lanes, std::size_t mcu) {
-  if (reader_.RestartIsDue() && !PassRestart(window)) return false;
-  if (!reader_.HasMCU(window)) return false;
+  const auto restart = [this] {
+    for (SequentialComponent& component : components_) component.prediction = 0;
+    return true;
+  };
+  if (!reader_.BeginMCU(window, restart)) return false;
   for (const Lane& lane : lanes) {
     if (!lane.Pass(window, mcu)) return false;
   }
   return true;
 }
 
-bool SequentialScan::PassRow() {
-  const std::vector<Lane> lanes = LanesOfRow();
+bool SequentialScan::PassRow(std::size_t row) {
+  const std::vector<Lane> lanes = LanesOf(row);
   BitWindow window = window_;
   for (std::size_t mcu = 0; mcu < grid_.perRow; ++mcu) {
     if (!PassMCU(window, lanes, mcu)) return false;
   }
   window_ = window;
   if (!reader_.HoldsAllOf(window)) return false;
-  return ++rowsPassed_ < grid_.rows || (reader_.EndsScan(window) && reader_.Marker() == kEndOfImage);
+  return row + 1 < grid_.rows || (reader_.EndsScan(window) && reader_.Marker() == kEndOfImage);
 }
 
 }  // namespace vantorium::image::jpeg

@@ -36,21 +36,19 @@ class SequentialScan : public RowWalk {
                                                            SegmentReader reader);
   SequentialScan(SegmentReader reader, MCUGrid grid, std::vector<SequentialComponent> components);
 
-  [[nodiscard]] bool PassRow() override;
+  [[nodiscard]] bool PassRow(std::size_t row) override;
   [[nodiscard]] const Plane& PlaneOf(std::size_t component) const override { return components_[component].plane; }
 
  private:
   struct Lane;
 
-  [[nodiscard]] std::vector<Lane> LanesOfRow();
+  [[nodiscard]] std::vector<Lane> LanesOf(std::size_t row);
   [[nodiscard]] bool PassMCU(BitWindow& window, const std::vector<Lane>& lanes, std::size_t mcu);
-  [[nodiscard]] bool PassRestart(BitWindow& window);
 
   SegmentReader reader_;
   MCUGrid grid_;
   std::vector<SequentialComponent> components_;
   BitWindow window_;
-  std::size_t rowsPassed_ = 0;
 };
 
 }  // namespace vantorium::image::jpeg

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 
 namespace vantorium::image::jpeg {
 
@@ -25,6 +26,11 @@ inline constexpr int kMostSum = 5900;
 
 /// Sets all coefficients to 0.
 void Clear(Block& block);
+/// Sets coefficient `k` in zigzag order, dequantized, and returns its absolute value.
+[[nodiscard]] inline int Put(Block& block, std::size_t k, int coefficient) {
+  block.values[kPlaceInBlock[k]] = static_cast<std::int16_t>(coefficient);
+  return std::abs(coefficient);
+}
 /// Writes the 8 samples of each row whose bit is set in `rows`; the lowest bit is the top row. Equals libjpeg-turbo's
 /// accurate integer transform for sums up to kMostSum. The row i begins at `samples + i * stride`.
 void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);

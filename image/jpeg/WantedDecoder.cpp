@@ -78,7 +78,7 @@ bool WantedDecoder::PassTo(std::size_t row) {
   std::size_t mcuRow = walk_->PlaneOf(0).MCURowOf(row);
   if (chroma_.size != Chroma::None) mcuRow = std::max(mcuRow, walk_->PlaneOf(1).MCURowOf(chroma_.rows.Beside(row)));
   for (; rowsPassed_ <= mcuRow; ++rowsPassed_) {
-    if (!walk_->PassRow()) return false;
+    if (!walk_->PassRow(rowsPassed_)) return false;
   }
   return true;
 }

@@ -21,23 +21,22 @@ void ChooseColors(jpeg_compress_struct& codec, JpegColors colors) {
   jpeg_set_colorspace(&codec, kInFile[static_cast<int>(colors)]);
 }
 
+jpeg_scan_info ScanInfoOf(const JpegScan& scan) {
+  jpeg_scan_info info = {.comps_in_scan = static_cast<int>(scan.channels.size()),
+                         .component_index = {},
+                         .Ss = scan.first,
+                         .Se = scan.last,
+                         .Ah = scan.knownFrom,
+                         .Al = scan.lowest};
+  std::ranges::copy(scan.channels, info.component_index);
+  return info;
+}
+
 // Empty: libjpeg-turbo chooses the scans.
 std::vector<jpeg_scan_info> ScansOf(const JpegRecipe& recipe, int channels) {
   std::vector<jpeg_scan_info> scans;
-  if (recipe.scanPerChannel) {
-    for (int i = 0; i < channels; ++i)
-      scans.push_back({.comps_in_scan = 1, .component_index = {i}, .Ss = 0, .Se = 63, .Ah = 0, .Al = 0});
-  }
-  for (const JpegScan& each : recipe.scans) {
-    jpeg_scan_info scan = {.comps_in_scan = static_cast<int>(each.channels.size()),
-                           .component_index = {},
-                           .Ss = each.first,
-                           .Se = each.last,
-                           .Ah = each.knownFrom,
-                           .Al = each.lowest};
-    std::copy(each.channels.begin(), each.channels.end(), scan.component_index);
-    scans.push_back(scan);
-  }
+  for (int i = 0; recipe.scanPerChannel && i < channels; ++i) scans.push_back(ScanInfoOf({.channels = {i}}));
+  for (const JpegScan& scan : recipe.scans) scans.push_back(ScanInfoOf(scan));
   return scans;
 }
 

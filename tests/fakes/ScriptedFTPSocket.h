@@ -45,7 +45,7 @@ class ScriptedFTPSocket : public publish::FTPSocket {
     if (acceptFails) throw env::RuntimeFailure(env::FailureKind::FileAccess);
   }
   [[nodiscard]] publish::TlsHandshake StartTls(const std::string& host,
-                                               std::shared_ptr<publish::TlsTicket> /*resumed*/) override {
+                                               const std::shared_ptr<publish::TlsTicket>& /*resumed*/) override {
     Note("tls " + host);
     return handshake;
   }

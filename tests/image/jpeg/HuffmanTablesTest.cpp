@@ -31,6 +31,15 @@ std::vector<std::uint8_t> BytesOf(const std::string& bits) {
   return bytes;
 }
 
+Symbol FirstSymbol(const JHUFF_TBL& table, const std::string& bits) {
+  HuffmanCode code;
+  EXPECT_TRUE(code.Set(table));
+  const auto bytes = BytesOf(bits);
+  BitWindow window(bytes.data());
+  window.Refill();
+  return ValueTable(code).Read(window);
+}
+
 // Skips a block. Returns the `k` at its end and the number of bits consumed.
 std::pair<unsigned, std::ptrdiff_t> Skipped(const JHUFF_TBL& table, const std::string& bits) {
   HuffmanCode code;
@@ -49,14 +58,8 @@ std::string Times(int count, const std::string& text) {
 }
 
 TEST(HuffmanTables, ASymbolIsDecodedWithItsValue) {
-  HuffmanCode code;
-  ASSERT_TRUE(code.Set(SomeTable()));
-  const ValueTable table(code);
-  const auto read = [&](const std::string& bits) {
-    const auto bytes = BytesOf(bits);
-    BitWindow window(bytes.data());
-    window.Refill();
-    const Symbol symbol = table.Read(window);
+  const auto read = [](const std::string& bits) {
+    const Symbol symbol = FirstSymbol(SomeTable(), bits);
     return std::array{static_cast<int>(symbol.length), static_cast<int>(symbol.move), symbol.value};
   };
   EXPECT_EQ(read("0111"), (std::array{1, static_cast<int>(kEndOfBlock), 0}));
@@ -71,14 +74,8 @@ TEST(HuffmanTables, ASymbolIsDecodedWithItsValue) {
 }
 
 TEST(HuffmanTables, TheEndOfABlockTellsHowManyMoreBlocksEnd) {
-  HuffmanCode code;
-  ASSERT_TRUE(code.Set(TableOf({1, 1, 1, 1}, {0x00, 0x10, 0x30, 0xE0})));
-  const ValueTable table(code);
-  const auto read = [&](const std::string& bits) {
-    const auto bytes = BytesOf(bits);
-    BitWindow window(bytes.data());
-    window.Refill();
-    const Symbol symbol = table.Read(window);
+  const auto read = [](const std::string& bits) {
+    const Symbol symbol = FirstSymbol(TableOf({1, 1, 1, 1}, {0x00, 0x10, 0x30, 0xE0}), bits);
     EXPECT_EQ(symbol.move, kEndOfBlock);
     return std::pair(symbol.length, symbol.value);
   };

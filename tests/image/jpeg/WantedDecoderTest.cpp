@@ -3,6 +3,7 @@
 #include "tests/image/jpeg/WantedRows.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <random>
 
@@ -15,15 +16,25 @@ using fakes::JpegColors;
 using fakes::JpegRecipe;
 using fakes::JpegScan;
 
+std::vector<JpegRecipe> UsualKinds(bool progressive) {
+  return {{.colors = JpegColors::Grey, .horizontal = 1, .vertical = 1, .progressive = progressive},
+          {.horizontal = 1, .vertical = 1, .progressive = progressive},
+          {.horizontal = 2, .vertical = 1, .progressive = progressive},
+          {.horizontal = 2, .vertical = 2, .progressive = progressive}};
+}
+
+std::vector<JpegRecipe> ProgressiveKinds() {
+  return UsualKinds(/*progressive=*/true);
+}
+
 std::vector<JpegRecipe> UsualKinds() {
-  std::vector<JpegRecipe> kinds;
-  for (const bool progressive : {false, true}) {
-    kinds.push_back({.colors = JpegColors::Grey, .horizontal = 1, .vertical = 1, .progressive = progressive});
-    kinds.push_back({.horizontal = 1, .vertical = 1, .progressive = progressive});
-    kinds.push_back({.horizontal = 2, .vertical = 1, .progressive = progressive});
-    kinds.push_back({.horizontal = 2, .vertical = 2, .progressive = progressive});
-  }
+  std::vector<JpegRecipe> kinds = UsualKinds(/*progressive=*/false);
+  std::ranges::copy(ProgressiveKinds(), std::back_inserter(kinds));
   return kinds;
+}
+
+int ChannelsOf(const JpegRecipe& recipe) {
+  return recipe.colors == JpegColors::Grey ? 1 : 3;
 }
 
 // libjpeg-turbo does not smooth chroma of one or two columns.
@@ -133,14 +144,12 @@ std::array<std::uint8_t, 4> Rough(int x, int y) {
 TEST_F(WantedDecoderTest, WantedPixelsEqualLibjpegTurbosInEveryScriptOfScans) {
   const std::vector<std::vector<std::pair<int, int>>> bandings = {
       {{1, 63}}, {{1, 5}, {6, 63}}, {{40, 63}, {1, 1}, {2, 39}}};
-  for (JpegRecipe recipe : UsualKinds()) {
-    if (!recipe.progressive) continue;
+  for (JpegRecipe recipe : ProgressiveKinds()) {
     recipe.width = 90;
     recipe.height = 70;
-    const int channels = recipe.colors == JpegColors::Grey ? 1 : 3;
     for (const auto& bands : bandings) {
       for (const int missingBits : {0, 1, 3, 8}) {
-        recipe.scans = ScansOf(channels, bands, missingBits);
+        recipe.scans = ScansOf(ChannelsOf(recipe), bands, missingBits);
         for (const int quality : {20, 75, 95, 100}) {
           recipe.quality = quality;
           recipe.restartEvery = quality == 75 ? 13 : 0;
@@ -179,8 +188,7 @@ TEST_F(WantedDecoderTest, WantedPixelsEqualLibjpegTurbosInTheSharpestProgressive
     const auto value = static_cast<std::uint8_t>((x / 3 + y / 2) % 2 == 0 ? 0 : 255);
     return std::array<std::uint8_t, 4>{value, value, static_cast<std::uint8_t>(255 - value), 0};
   };
-  for (JpegRecipe recipe : UsualKinds()) {
-    if (!recipe.progressive) continue;
+  for (JpegRecipe recipe : ProgressiveKinds()) {
     recipe.width = recipe.height = 80;
     for (recipe.quality = 10; recipe.quality <= 100; recipe.quality += 15) {
       Expect(recipe, fakes::MakeJpeg(recipe, sharp), 1);
@@ -230,15 +238,13 @@ TEST_F(WantedDecoderTest, HalfHeightAndNarrowChromaAreLeftToLibjpegTurboInEveryS
 
 // libjpeg-turbo smooths a picture whose first coefficients are not complete.
 TEST_F(WantedDecoderTest, PicturesWithIncompleteScansAreLeftToLibjpegTurbo) {
-  for (JpegRecipe recipe : UsualKinds()) {
-    if (!recipe.progressive) continue;
-    const int channels = recipe.colors == JpegColors::Grey ? 1 : 3;
+  for (JpegRecipe recipe : ProgressiveKinds()) {
     for (std::size_t left = 1; left <= 4; ++left) {
-      recipe.scans = ScansOf(channels, {{1, 5}, {6, 63}}, 2);
+      recipe.scans = ScansOf(ChannelsOf(recipe), {{1, 5}, {6, 63}}, 2);
       recipe.scans.resize(recipe.scans.size() - left);
       ExpectOtherKind(recipe);
     }
-    recipe.scans = ScansOf(channels, {{1, 62}}, 0);
+    recipe.scans = ScansOf(ChannelsOf(recipe), {{1, 62}}, 0);
     ExpectOtherKind(recipe);
   }
 }
