@@ -26,7 +26,7 @@ bool IsLetterOrDigit(char c) {
 }
 
 bool IsBlank(char c) {
-  return c >= '\0' && c <= ' ';
+  return static_cast<unsigned char>(c) <= ' ';
 }
 
 /// Returns the length of the character reference that browsers would see at the start of `text`, which begins with "&";
