@@ -34,8 +34,8 @@ void Clear(Block& block);
 /// Writes the 8 samples of each row whose bit is set in `rows`; the lowest bit is the top row. Equals libjpeg-turbo's
 /// accurate integer transform for sums up to kMostSum. The row i begins at `samples + i * stride`.
 void TransformRows(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
-/// The same in plain C++, for processors without a special routine.
-void TransformRowsPlainly(const Block& block, unsigned rows, std::uint8_t* samples, std::size_t stride);
+/// Returns a row of samples from -128 to 127, not clamped to that range, without vectors.
+[[nodiscard]] std::array<int, 8> ExactRow(const Block& block, std::size_t row);
 /// Whether all of libjpeg-turbo's routines agree about the samples of these rows.
 [[nodiscard]] bool IsTame(const Block& block, unsigned rows);
 /// Transforms the rows if all of libjpeg-turbo's routines agree about them. `sum` is that of the absolute coefficients.

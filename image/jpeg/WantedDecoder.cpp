@@ -3,6 +3,7 @@
 #include "image/jpeg/ProgressiveWalk.h"
 #include "image/jpeg/SequentialScan.h"
 #include "image/jpeg/UsualFile.h"
+#include "image/jpeg/Vectors.h"
 
 #include <algorithm>
 #include <utility>
@@ -40,6 +41,8 @@ std::unique_ptr<RowWalk> WalkOf(const jpeg_decompress_struct& header, UsualFile 
 }
 
 }  // namespace
+
+const bool WantedDecoder::kIsFaster = kHasVectors;
 
 // Converting a few unwanted columns costs less than another span.
 std::vector<WantedDecoder::Span> WantedDecoder::SpansOf(const std::vector<std::uint8_t>& marks) {

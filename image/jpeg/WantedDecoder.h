@@ -25,12 +25,8 @@ namespace vantorium::image::jpeg {
 /// a file.
 class WantedDecoder {
  public:
-  /// Whether it is faster than libjpeg-turbo on this processor. Without vector instructions it is not.
-#ifdef __x86_64__
-  static constexpr bool kIsFaster = true;
-#else
-  static constexpr bool kIsFaster = false;
-#endif
+  /// Whether it is faster than libjpeg-turbo on this processor. Without vectors it is not.
+  static const bool kIsFaster;
 
   /// Returns a decoder for the file `descriptor`, which must stay open, or null if the file is not a usual one.
   /// `header` was read by jpeg_read_header; the data of the first scan begin at offset `place`.

@@ -25,7 +25,17 @@ Block RandomBlock(std::mt19937& generator, int count, int sum) {
   return block;
 }
 
-TEST(Transform, TheSIMDRoutineEqualsThePlainOneUpToTheLargestSum) {
+Samples ClampedExactRows(const Block& block, unsigned rows) {
+  Samples samples = {};
+  for (std::size_t row = 0; row < 8; ++row) {
+    if ((rows >> row & 1) == 0) continue;
+    std::ranges::transform(ExactRow(block, row), samples.data() + row * kStride,
+                           [](int sample) { return static_cast<std::uint8_t>(std::clamp(sample + 128, 0, 255)); });
+  }
+  return samples;
+}
+
+TEST(Transform, RowsEqualTheExactOnesUpToTheLargestSum) {
   std::mt19937 generator(1);
   for (const int sum : {8, 100, 1000, kTameSum, 4000, kMostSum}) {
     for (const int count : {1, 2, 5, 20, 64}) {
@@ -33,10 +43,8 @@ TEST(Transform, TheSIMDRoutineEqualsThePlainOneUpToTheLargestSum) {
         const Block block = RandomBlock(generator, count, sum);
         for (const unsigned rows : {kAllRows, static_cast<unsigned>(generator() & kAllRows)}) {
           Samples samples = {};
-          Samples plain = {};
           TransformRows(block, rows, samples.data(), kStride);
-          TransformRowsPlainly(block, rows, plain.data(), kStride);
-          ASSERT_EQ(samples, plain) << count << " coefficients of " << sum << ", rows " << rows;
+          ASSERT_EQ(samples, ClampedExactRows(block, rows)) << count << " coefficients of " << sum << ", rows " << rows;
         }
       }
     }

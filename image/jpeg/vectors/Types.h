@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vantorium::image::jpeg {
+
+/// Vectors of 128 bits. The compiler adds, subtracts and shifts them lane by lane.
+using Shorts [[gnu::vector_size(16)]] = std::int16_t;
+using Ints [[gnu::vector_size(16)]] = std::int32_t;
+
+[[nodiscard]] inline Shorts EightTimes(int value) {
+  const auto lane = static_cast<std::int16_t>(value);
+  return Shorts{lane, lane, lane, lane, lane, lane, lane, lane};
+}
+[[nodiscard]] inline Ints FourTimes(int value) {
+  return Ints{value, value, value, value};
+}
+
+}  // namespace vantorium::image::jpeg
