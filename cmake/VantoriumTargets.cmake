@@ -7,7 +7,8 @@ add_compile_options(-pthread)  # for all targets, or they could not share precom
 
 find_program(CCACHE ccache)
 if(CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+    CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
   # The cache sees through precompiled headers only with these; each compiler has its own.
   if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-fpch-preprocess)
@@ -95,10 +96,15 @@ function(vantorium_test_program name)
   target_precompile_headers(${name} REUSE_FROM ${TEST_HEADERS})
 endfunction()
 
-# vantorium_test(...): the same, and ctest runs each of its tests.
+# vantorium_test(...): the same, and ctest runs each of its test suites.
 function(vantorium_test name)
   vantorium_test_program(${name} ${ARGN})
-  include(GoogleTest)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-    PROPERTIES TIMEOUT 300 LABELS ${name} ENVIRONMENT "${VANTORIUM_TEST_ENVIRONMENT}")
+  set(suites ${CMAKE_CURRENT_BINARY_DIR}/${name}-suites.cmake)
+  file(GENERATE OUTPUT ${suites} CONTENT
+"set(program \"$<TARGET_FILE:${name}>\")
+set(name ${name})
+set(environment \"${VANTORIUM_TEST_ENVIRONMENT}\")
+include(\"${PROJECT_SOURCE_DIR}/cmake/ListSuites.cmake\")
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${suites})
 endfunction()
