@@ -1,5 +1,6 @@
 #include "core/generation/SourceStamp.h"
 
+#include <fmt/format.h>
 #include <sys/stat.h>
 
 namespace vantorium::generation {
@@ -16,6 +17,10 @@ std::optional<SourceStamp> StampOf(const std::filesystem::path& file) {
   if (::stat(file.c_str(), &status) != 0) return std::nullopt;
   return SourceStamp{status.st_dev, status.st_ino, status.st_size, Nanoseconds(status.st_mtim),
                      Nanoseconds(status.st_ctim)};
+}
+
+std::string StampText(const SourceStamp& stamp) {
+  return fmt::format("{}:{}:{}:{}:{}", stamp.device, stamp.inode, stamp.size, stamp.writeTime, stamp.changeTime);
 }
 
 }  // namespace vantorium::generation

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace vantorium::generation {
 
@@ -19,5 +20,7 @@ struct SourceStamp {
 
 /// Returns the current stamp of a file, or nullopt if the file cannot be found.
 [[nodiscard]] std::optional<SourceStamp> StampOf(const std::filesystem::path& file);
+/// Returns "device:inode:size:writeTime:changeTime".
+[[nodiscard]] std::string StampText(const SourceStamp& stamp);
 
 }  // namespace vantorium::generation

@@ -15,7 +15,7 @@ std::unique_ptr<TargetFiles> FilesAt(const RunState& run, const RunOrder& order,
 Changes::Changes(const RunState& run, const RunOrder& order, const RunEnvironment& environment)
     : file_(environment.cacheFolder, order, environment.paths),
       there_(FilesAt(run, order, environment)),
-      known_(file_.Read(), *there_) {
+      known_(file_.Read(), *there_, file_.Gallery()) {
   if (there_->IsServer()) file_.Remove();
 }
 

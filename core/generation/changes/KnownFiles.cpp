@@ -31,15 +31,23 @@ bool KnownFiles::IsAsLeft(const std::string& name) {
   return false;
 }
 
+// A file is forgotten before it is delivered again, so touched_ remembers what it belonged to.
+void KnownFiles::Touch(const std::string& name) {
+  const auto known = files_.find(name);
+  const bool isOther = known != files_.end() && known->second.gallery != gallery_;
+  const auto touched = touched_.try_emplace(name, isOther ? kSharedFile : gallery_).first;
+  if (known != files_.end()) known->second.gallery = touched->second;
+}
+
 const MadeFile* KnownFiles::FindCurrent(const std::string& name, const std::string& origin) {
-  touched_.insert(name);
+  Touch(name);
   const MadeFile* known = Find(name);
   const bool isKnown = known != nullptr && !origin.empty() && known->origin == origin;
   return isKnown && IsAsLeft(name) ? known : nullptr;
 }
 
 MadeFile* KnownFiles::FindBytes(const std::string& name, const MadeFile& made) {
-  touched_.insert(name);
+  Touch(name);
   const auto known = files_.find(name);
   if (known == files_.end() || made.bytes.empty()) return nullptr;
   if (known->second.bytes != made.bytes || known->second.size != made.size) return nullptr;
@@ -47,6 +55,7 @@ MadeFile* KnownFiles::FindBytes(const std::string& name, const MadeFile& made) {
 }
 
 void KnownFiles::Note(const std::string& name, MadeFile made) {
+  made.gallery = touched_.at(name);
   if (there_.Look(name, made)) files_.insert_or_assign(name, std::move(made));
 }
 
@@ -96,10 +105,18 @@ Delivery KnownFiles::Copy(const std::string& name, const std::optional<std::file
   return {};
 }
 
-std::vector<std::string> KnownFiles::Names(bool touched) const {
+std::vector<std::string> KnownFiles::Touched() const {
   std::vector<std::string> names;
   for (const auto& [name, file] : files_) {
-    if (touched_.contains(name) == touched) names.push_back(name);
+    if (touched_.contains(name)) names.push_back(name);
+  }
+  return names;
+}
+
+std::vector<std::string> KnownFiles::Untouched() const {
+  std::vector<std::string> names;
+  for (const auto& [name, file] : files_) {
+    if (!touched_.contains(name) && file.gallery == gallery_) names.push_back(name);
   }
   return names;
 }

@@ -6,8 +6,8 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,7 +20,9 @@ class KnownFiles {
  public:
   using Deliver = std::function<Delivery()>;
 
-  KnownFiles(MadeFiles files, TargetFiles& there) : files_(std::move(files)), there_(there) {}
+  /// `gallery`: digest that tells the run's gallery from others in the same folder.
+  KnownFiles(MadeFiles files, TargetFiles& there, std::string gallery)
+      : files_(std::move(files)), there_(there), gallery_(std::move(gallery)) {}
 
   /// Returns the file if the target has it and its bytes have that origin, else null. An empty origin is never known.
   /// Forgets a file that is not as it was left.
@@ -39,9 +41,10 @@ class KnownFiles {
 
   [[nodiscard]] const MadeFiles& Files() const { return files_; }
   [[nodiscard]] TargetFiles& There() { return there_; }
-  /// Return the names of the known files that this run has asked for, and of the others.
-  [[nodiscard]] std::vector<std::string> Touched() const { return Names(/*touched=*/true); }
-  [[nodiscard]] std::vector<std::string> Untouched() const { return Names(/*touched=*/false); }
+  /// Returns the names of the known files that this run has asked for.
+  [[nodiscard]] std::vector<std::string> Touched() const;
+  /// Returns the names of the known files that belong to this gallery alone and that the run has not asked for.
+  [[nodiscard]] std::vector<std::string> Untouched() const;
   /// Returns whether the file is as a run left it. Forgets it otherwise.
   [[nodiscard]] bool IsAsLeft(const std::string& name);
   /// Removes a file that is as a run left it. Returns false if it stays.
@@ -49,15 +52,17 @@ class KnownFiles {
 
  private:
   [[nodiscard]] const MadeFile* Find(const std::string& name) const;
+  /// Notes that this run's gallery uses the file, perhaps as another one did before.
+  void Touch(const std::string& name);
   /// Returns the file if the target has these bytes, else null.
   [[nodiscard]] MadeFile* FindBytes(const std::string& name, const MadeFile& made);
   void Note(const std::string& name, MadeFile made);
-  [[nodiscard]] std::vector<std::string> Names(bool touched) const;
 
   MadeFiles files_;
   TargetFiles& there_;
-  std::set<std::string> touched_;
-  bool isDoubtful_ = false;  // whether a file of the record was missing: then others may be, too
+  std::string gallery_;
+  std::map<std::string, std::string> touched_;  // the files that the run has asked for, with the gallery of each
+  bool isDoubtful_ = false;                     // whether a file of the record was missing: then others may be, too
 };
 
 }  // namespace vantorium::generation

@@ -15,10 +15,6 @@ namespace {
 
 using std::chrono::nanoseconds;
 
-std::string StampText(const SourceStamp& stamp) {
-  return fmt::format("{} {} {} {} {}\n", stamp.device, stamp.inode, stamp.size, stamp.writeTime, stamp.changeTime);
-}
-
 /// Returns all fields of a record, which are numbers and texts. The length goes before each value, so that no two
 /// records have the same text.
 template <typename Record, typename Fields>
@@ -106,7 +102,7 @@ std::string PictureOrigins::FindOrigin(const SourceStamp& source, const image::P
                                        image::PictureSize size, const image::WatermarkSettings& watermark,
                                        Masks& masks) const {
   const image::Corrections corrections = core::CorrectionsOf(run_.project);
-  std::string text = "picture " + StampText(source);
+  std::string text = "picture " + StampText(source) + "\n";
   text += recipe.size ? fmt::format("{} x {}\n", recipe.size->width, recipe.size->height) : "its own size\n";
   text += RecordText(recipe.filters, core::FilterFields()) + "\n";
   if (core::IsOn(recipe.filters.checkNoise)) text += fmt::format("noise {}\n", recipe.noiseNumber);

@@ -1,5 +1,6 @@
 #include "core/generation/changes/RecordFile.h"
 
+#include "core/generation/changes/GalleryNames.h"
 #include "env/Digest.h"
 #include "env/FileInput.h"
 #include "env/FileOutput.h"
@@ -36,10 +37,15 @@ std::string TargetText(const RunOrder& order, const env::PathMap& paths) {
   return SendsToServer(order.Mode) ? ServerTargetText(order) : LocalTargetText(order, paths);
 }
 
+std::string GalleryText(const RunOrder& order, const env::PathMap& paths) {
+  return order.Mode == GenerationMode::Upload ? LocalTargetText(order, paths) : NameOfIndexPage(order);
+}
+
 }  // namespace
 
 RecordFile::RecordFile(const fs::path& cacheFolder, const RunOrder& order, const env::PathMap& paths)
-    : subject_{TargetText(order, paths), "vantorium " VANTORIUM_VERSION " " + image::CodecVersions()} {
+    : subject_{TargetText(order, paths), "vantorium " VANTORIUM_VERSION " " + image::CodecVersions()},
+      gallery_(env::DigestOf(GalleryText(order, paths))) {
   if (!cacheFolder.empty() && !subject_.target.empty()) {
     file_ = cacheFolder / (env::DigestOf(subject_.target) + ".record");
   }

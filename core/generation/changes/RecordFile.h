@@ -17,11 +17,15 @@ class RecordFile {
 
   /// Returns the files of the record; none if there is no record, or one that cannot be believed.
   [[nodiscard]] MadeFiles Read() const;
+  /// Returns the digest that tells the order's gallery from others in the same folder: that of its index page's name
+  /// or, in Upload, of the folder that is sent.
+  [[nodiscard]] const std::string& Gallery() const { return gallery_; }
   void Write(const MadeFiles& files) const;
   void Remove() const;
 
  private:
   RecordSubject subject_;
+  std::string gallery_;
   std::filesystem::path file_;  ///< empty for none
 };
 

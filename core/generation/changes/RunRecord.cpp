@@ -10,7 +10,7 @@
 namespace vantorium::generation {
 namespace {
 
-constexpr std::string_view kFirstLine = "vantorium record 1";
+constexpr std::string_view kFirstLine = "vantorium record 2";
 constexpr std::string_view kNone = "-";
 
 std::string Escaped(const std::string& text) {
@@ -23,11 +23,6 @@ std::string Unescaped(std::string_view text) {
 
 std::string Heading(std::string_view program, const std::string& target) {
   return fmt::format("{}\nprogram {}\ntarget {}\n", kFirstLine, program, Escaped(target));
-}
-
-std::string StampText(const std::optional<SourceStamp>& stamp) {
-  if (!stamp) return std::string(kNone);
-  return fmt::format("{}:{}:{}:{}:{}", stamp->device, stamp->inode, stamp->size, stamp->writeTime, stamp->changeTime);
 }
 
 std::string_view OrNone(const std::string& digest) {
@@ -65,6 +60,7 @@ bool ReadFile(std::string_view line, MadeFiles& files) {
   if (!Read(Next(line, ' '), file.size) || !ReadStamp(Next(line, ' '), file.stamp)) return false;
   file.origin = ReadDigest(Next(line, ' '));
   file.bytes = ReadDigest(Next(line, ' '));
+  file.gallery = ReadDigest(Next(line, ' '));
   if (line.empty()) return false;
   files.insert_or_assign(Unescaped(line), std::move(file));
   return true;
@@ -100,8 +96,8 @@ std::optional<std::string> TakeHeading(std::string_view& text, const std::string
 std::string RunRecordText(const MadeFiles& files, const RecordSubject& subject) {
   std::string text = Heading(Escaped(subject.program), subject.target);
   for (const auto& [name, file] : files) {
-    text += fmt::format("{} {} {} {} {}\n", file.size, StampText(file.stamp), OrNone(file.origin), OrNone(file.bytes),
-                        Escaped(name));
+    text += fmt::format("{} {} {} {} {} {}\n", file.size, file.stamp ? StampText(*file.stamp) : kNone,
+                        OrNone(file.origin), OrNone(file.bytes), OrNone(file.gallery), Escaped(name));
   }
   return text + "end " + env::DigestOf(text) + "\n";
 }

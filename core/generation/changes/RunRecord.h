@@ -10,12 +10,16 @@
 
 namespace vantorium::generation {
 
+/// Instead of a gallery: several galleries in the same folder have used the file.
+inline constexpr std::string_view kSharedFile = "shared";
+
 /// What is known of a file that a run made at its target.
 struct MadeFile {
   std::uint64_t size = 0;              ///< in bytes
   std::optional<SourceStamp> stamp{};  ///< of the file as the run left it; nullopt on a server
   std::string origin{};                ///< digest of all that decides its bytes (PictureOrigins.h); may be empty
   std::string bytes{};                 ///< digest of its bytes; may be empty
+  std::string gallery{};               ///< digest that tells the gallery it belongs to, or kSharedFile
 
   bool operator==(const MadeFile&) const = default;
 };
@@ -31,15 +35,15 @@ struct RecordSubject {
 
 /// Returns the text of a record, which ReadRunRecord reads:
 ///
-///     vantorium record 1
+///     vantorium record 2
 ///     program PROGRAM
 ///     target TARGET
-///     SIZE STAMP ORIGIN BYTES NAME        for each file, in the order of their names
+///     SIZE STAMP ORIGIN BYTES GALLERY NAME        for each file, in the order of their names
 ///     end DIGEST
 ///
 /// SIZE is a decimal number. STAMP is "-" or device:inode:size:writeTime:changeTime. ORIGIN and BYTES are digests or
-/// "-". In PROGRAM, TARGET and NAME "%", CR and LF are "%25", "%0D" and "%0A". DIGEST is that of all lines before. Each
-/// line ends with LF.
+/// "-", GALLERY is a digest or "shared". In PROGRAM, TARGET and NAME "%", CR and LF are "%25", "%0D" and "%0A". DIGEST
+/// is that of all lines before. Each line ends with LF.
 [[nodiscard]] std::string RunRecordText(const MadeFiles& files, const RecordSubject& subject);
 
 /// Returns the files of a record. Those of another program are known by size and stamp alone, because it may have made

@@ -249,5 +249,17 @@ TEST_F(PublishedChangesTest, AnUploadRemovesOnlyFilesThatItSent) {
   EXPECT_EQ(NamesOn(server), (std::set<std::string>{"web/mine.txt", "web/one.txt", "web/sub/three.txt"}));
 }
 
+TEST_F(PublishedChangesTest, AnUploadRemovesNothingThatAnotherFolderSent) {
+  ScriptedFtpServer server;
+  Run(OnlyChanges(UploadTo(server)));
+  folder.Write("other/four.txt", "four");
+  RunOrder other = RemovingUnused(UploadTo(server));
+  other.OutputFolder = "T:\\other\\";
+  Run(other);
+  EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
+  EXPECT_EQ(NamesOn(server),
+            (std::set<std::string>{"web/four.txt", "web/one.txt", "web/sub/three.txt", "web/sub/two.txt"}));
+}
+
 }  // namespace
 }  // namespace vantorium::generation

@@ -10,9 +10,9 @@ const RecordSubject kSubject = {"folder\n/home/me/gallery", "vantorium 3.0.1 jpe
 
 MadeFiles SomeFiles() {
   const std::string digest(32, 'a');
-  return {{"Images/a.jpg", {100, SourceStamp{1, 2, 100, -4, 5}, digest, ""}},
-          {"a.htm", {7, SourceStamp{18446744073709551615U, 2, 7, 4, 5}, "", digest}},
-          {"with blanks, 100% and a\r\nbreak.htm", {0, std::nullopt, digest, digest}},
+  return {{"Images/a.jpg", {100, SourceStamp{1, 2, 100, -4, 5}, digest, "", digest}},
+          {"a.htm", {7, SourceStamp{18446744073709551615U, 2, 7, 4, 5}, "", digest, "shared"}},
+          {"with blanks, 100% and a\r\nbreak.htm", {0, std::nullopt, digest, digest, digest}},
           {"%0A", {3, std::nullopt, "", ""}},
           {"\xFFno text", {3, std::nullopt, "", ""}}};
 }
@@ -24,9 +24,9 @@ TEST(RunRecordTest, ARecordIsReadBackAsItWasWritten) {
 
 TEST(RunRecordTest, HasOneLineForEachFile) {
   const std::string lines =
-      "vantorium record 1\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n"
-      "7 1:2:7:4:5 - abc a.htm\n";
-  const MadeFiles files = {{"a.htm", {7, SourceStamp{1, 2, 7, 4, 5}, "", "abc"}}};
+      "vantorium record 2\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n"
+      "7 1:2:7:4:5 - abc def a.htm\n";
+  const MadeFiles files = {{"a.htm", {7, SourceStamp{1, 2, 7, 4, 5}, "", "abc", "def"}}};
   EXPECT_EQ(RunRecordText(files, kSubject), lines + "end " + env::DigestOf(lines) + "\n");
 }
 
@@ -55,17 +55,18 @@ std::string Ended(const std::string& lines) {
 }
 
 TEST(RunRecordTest, OtherTextsAreInvalid) {
-  const std::string heading = "vantorium record 1\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n";
-  ASSERT_EQ(ReadRunRecord(Ended(heading + "7 - - - a.htm\n"), kSubject).size(), 1U);
+  const std::string heading = "vantorium record 2\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n";
+  ASSERT_EQ(ReadRunRecord(Ended(heading + "7 - - - - a.htm\n"), kSubject).size(), 1U);
   for (const std::string& lines :
        {std::string(), std::string("\n"), std::string("[DRIVES]\nC=/home\n"),
-        "vantorium record 2\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n7 - - - a.htm\n" +
+        "vantorium record 1\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n7 - - - - a.htm\n" +
             heading,
-        std::string("vantorium record 2\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n"
-                    "7 - - - a.htm\n"),
-        heading + "\n", heading + "7\n", heading + "7 - - - \n", heading + "7 - - -\n", heading + "x - - - a.htm\n",
-        heading + "-7 - - - a.htm\n", heading + "99999999999999999999 - - - a.htm\n", heading + "7 1:2:3 - - a.htm\n",
-        heading + "7 1:2:3:4:5:6 - - a.htm\n", heading + "7 1:2:3:4:x - - a.htm\n", heading + "7 : - - a.htm\n"}) {
+        std::string("vantorium record 1\nprogram vantorium 3.0.1 jpeg 1\ntarget folder%0A/home/me/gallery\n"
+                    "7 - - - - a.htm\n"),
+        heading + "\n", heading + "7\n", heading + "7 - - - - \n", heading + "7 - - - -\n",
+        heading + "x - - - - a.htm\n", heading + "-7 - - - - a.htm\n", heading + "99999999999999999999 - - - - a.htm\n",
+        heading + "7 1:2:3 - - - a.htm\n", heading + "7 1:2:3:4:5:6 - - - a.htm\n",
+        heading + "7 1:2:3:4:x - - - a.htm\n", heading + "7 : - - - a.htm\n"}) {
     EXPECT_TRUE(ReadRunRecord(Ended(lines), kSubject).empty()) << lines;
   }
 }

@@ -8,6 +8,10 @@ class UnusedFilesTest : public ChangesFixture {
   UnusedFilesTest() {
     for (const char* name : {"a", "b", "c"}) AddPhotograph(name);
   }
+  [[nodiscard]] static RunOrder ForIndexPage(RunOrder order, const std::string& name) {
+    order.IndexFileName = name;
+    return order;
+  }
   void Rename(std::size_t position, const std::string& name) {
     core::ImageEntry entry = project.images.Entry(position);
     entry.ImageName = name;
@@ -57,6 +61,34 @@ TEST_F(UnusedFilesTest, FilesOfOthersAndChangedFilesAreNeitherRemovedNorListed) 
   const auto left = FilesIn("out");
   EXPECT_TRUE(left.contains("mine.htm") && left.contains("Images/mine.jpg") && left.contains("b.htm"));
   EXPECT_FALSE(left.contains("Images/b.jpg"));
+}
+
+TEST_F(UnusedFilesTest, AnotherGalleryInTheFolderLosesNothing) {
+  Run(OnlyChanges());
+  const auto before = Stamps();
+  for (std::size_t i = 1; i <= 3; ++i) Rename(i, "other" + std::to_string(i));
+  Run(ForIndexPage(RemovingUnused(), "other.htm"));
+  EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
+  const auto after = Stamps();
+  for (const auto& [name, stamp] : before) EXPECT_TRUE(after.contains(name)) << name;
+
+  Rename(1, "new");
+  Run(ForIndexPage(RemovingUnused(), "other.htm"));
+  EXPECT_EQ(LastBox(),
+            "Unused Files: These Files of earlier Runs were not used any more and have been removed.\r\r"
+            "Images/other1.jpg\rThumbs/thumb_other1.jpg\rother1.htm");
+}
+
+TEST_F(UnusedFilesTest, AFileThatTwoGalleriesInTheFolderHaveUsedStays) {
+  Run(OnlyChanges());
+  Run(ForIndexPage(OnlyChanges(), "other.htm"));
+  Rename(2, "new");
+  for (const char* index : {"index.htm", "other.htm"}) {
+    Run(ForIndexPage(RemovingUnused(), index));
+    EXPECT_TRUE(boxes.boxes.empty()) << LastBox();
+  }
+  EXPECT_TRUE(FilesIn("out").contains("Images/b.jpg"));
+  EXPECT_TRUE(FilesIn("out").contains("b.htm"));
 }
 
 TEST_F(UnusedFilesTest, FilesThatThisRunIsToldNotToMakeAreInUse) {
