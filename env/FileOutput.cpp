@@ -24,10 +24,12 @@ void WriteFileWhole(const std::filesystem::path& target, std::string_view bytes)
 }
 
 void WriteKeptFile(const std::filesystem::path& target, std::string_view bytes) {
-  NeighbourFile file(BehindLinks(target));
+  const std::filesystem::path end = BehindLinks(target);
+  NeighbourFile file(end);
   file.Write(bytes);
   file.Sync();
   file.TakeTargetName();
+  RemoveAbandonedNeighbours(end.parent_path());
 }
 
 }  // namespace vantorium::env

@@ -12,7 +12,8 @@ namespace vantorium::env {
 void WriteFileWhole(const std::filesystem::path& target, std::string_view bytes);
 
 /// Does the same for a file that the user keeps, such as a project: the bytes are synced to disk before the rename, and
-/// a symbolic link stays, so that the file it points to, which may not exist yet, is written.
+/// a symbolic link stays, so that the file it points to, which may not exist yet, is written. Removes what a program that
+/// was killed while it wrote to the folder left there.
 void WriteKeptFile(const std::filesystem::path& target, std::string_view bytes);
 
 }  // namespace vantorium::env

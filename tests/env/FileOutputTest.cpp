@@ -114,6 +114,14 @@ TEST(FileOutput, AKeptFileIsWrittenThroughItsLinks) {
   EXPECT_EQ(NamesIn(folder.Path() / "real"), (std::vector<std::string>{"a.ini", "new.ini"}));
 }
 
+TEST(FileOutput, AKeptFileRemovesWhatAKilledProgramLeftInItsFolder) {
+  const fakes::TemporaryFolder folder;
+  folder.Write(".vantorium-4194304-0", "half a project");  // no process has this ID
+  folder.Write("other.gpj", "kept");
+  WriteKeptFile(folder.Path() / "a.gpj", "new");
+  EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"a.gpj", "other.gpj"}));
+}
+
 TEST(FileOutput, OnlyRegularFilesAreReplaced) {
   const fakes::TemporaryFolder folder;
   const auto pipe = folder.Path() / "pipe";
