@@ -28,6 +28,10 @@ frmMovedFolders::frmMovedFolders(MovedFolders& model, FolderBrowser& browser, QW
     model_.Choose(static_cast<std::size_t>(ui_->lvFolders->indexOfTopLevelItem(item)));
     ShowNewFolder();
   });
+  // A click below the rows clears the selection, but the text box still shows the current row.
+  connect(ui_->lvFolders, &QTreeWidget::itemSelectionChanged, this, [this] {
+    if (ui_->lvFolders->selectedItems().empty()) ui_->lvFolders->currentItem()->setSelected(true);
+  });
   connect(ui_->textNewFolder, &QLineEdit::textEdited, this, [this](const QString& text) {
     model_.EditNewFolder(FromQt(text));
     ShowRows();

@@ -70,6 +70,18 @@ TEST_F(MovedFoldersForm, ImagesOfATypedFolderAreCountedAtOnceAndOKAcceptsIt) {
   EXPECT_EQ(model.Moved()[0].to, "C:\\new\\");
 }
 
+TEST_F(MovedFoldersForm, TheRowWhoseNewFolderIsTypedStaysHighlightedAfterAClickBelowTheRows) {
+  Ask([](QWidget& form) {
+    auto& view = Find<QTreeWidget>(form, "lvFolders");
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewport()->rect().bottomLeft() + QPoint(5, -5));
+    EXPECT_TRUE(view.topLevelItem(0)->isSelected());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(view.topLevelItem(1)).center());
+    EXPECT_TRUE(view.topLevelItem(1)->isSelected());
+    EXPECT_FALSE(view.topLevelItem(0)->isSelected());
+    Click(form, "CancelButton");
+  });
+}
+
 TEST_F(MovedFoldersForm, ReturnTakesWhatWasTypedAndNeverDiscardsIt) {
   const int result = Ask([this](QWidget& form) {
     auto& box = Find<QLineEdit>(form, "textNewFolder");
