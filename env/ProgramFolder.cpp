@@ -30,9 +30,9 @@ fs::path Cleaned(const fs::path& folder) {
 }
 
 /// Returns the folder in a variable, or the one in the home folder if the variable holds no absolute path.
-fs::path UserFolder(const std::string& variable, const ProcessEnvironment& around, const char* inHome) {
+fs::path UserFolder(const std::string& variable, const ProcessEnvironment& environment, const char* inHome) {
   const fs::path folder(variable);
-  return folder.is_absolute() ? folder : fs::path(around.home) / inHome;
+  return folder.is_absolute() ? folder : fs::path(environment.home) / inHome;
 }
 
 }  // namespace
@@ -43,16 +43,16 @@ ProcessEnvironment EnvironmentOfProcess() {
           Variable("XDG_CACHE_HOME")};
 }
 
-fs::path FindProgramFolder(const std::optional<fs::path>& given, const ProcessEnvironment& around) {
+fs::path FindProgramFolder(const std::optional<fs::path>& given, const ProcessEnvironment& environment) {
   if (given) return Cleaned(*given);
   std::error_code ignored;
-  const fs::path beside = around.executable.parent_path();
+  const fs::path beside = environment.executable.parent_path();
   if (!beside.empty() && fs::is_regular_file(GetINIFileName(beside), ignored)) return Cleaned(beside);
-  return Cleaned(UserFolder(around.xdgConfigHome, around, ".config") / "vantorium");
+  return Cleaned(UserFolder(environment.xdgConfigHome, environment, ".config") / "vantorium");
 }
 
-fs::path FindCacheFolder(const ProcessEnvironment& around) {
-  return Cleaned(UserFolder(around.xdgCacheHome, around, ".cache") / "vantorium");
+fs::path FindCacheFolder(const ProcessEnvironment& environment) {
+  return Cleaned(UserFolder(environment.xdgCacheHome, environment, ".cache") / "vantorium");
 }
 
 fs::path GetINIFileName(const fs::path& programFolder) {

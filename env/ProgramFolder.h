@@ -16,19 +16,19 @@ struct ProcessEnvironment {
   std::string xdgCacheHome{};        ///< XDG_CACHE_HOME
 };
 
-/// Returns the surroundings of this process.
+/// Returns the environment of this process.
 [[nodiscard]] ProcessEnvironment EnvironmentOfProcess();
 
 /// Returns the folder of the preferences, the server list and the upload log: a native path, absolute if the
-/// surroundings are. Creates nothing. It is `given` if that is set; else the executable's folder if it has a
+/// environment is. Creates nothing. It is `given` if that is set; else the executable's folder if it has a
 /// preferences file (a portable installation); else "vantorium" in the user's configuration folder (freedesktop.org,
 /// XDG base directories): XDG_CONFIG_HOME if that is absolute, else ".config" in the home folder.
 [[nodiscard]] std::filesystem::path FindProgramFolder(const std::optional<std::filesystem::path>& given,
-                                                      const ProcessEnvironment& around);
+                                                      const ProcessEnvironment& environment);
 
 /// Returns the folder of what the program may lose, such as the records of runs: a native path. Creates nothing. It is
 /// "vantorium" in the user's cache folder: XDG_CACHE_HOME if that is absolute, else ".cache" in the home folder.
-[[nodiscard]] std::filesystem::path FindCacheFolder(const ProcessEnvironment& around);
+[[nodiscard]] std::filesystem::path FindCacheFolder(const ProcessEnvironment& environment);
 
 /// The preferences file of a program folder.
 [[nodiscard]] std::filesystem::path GetINIFileName(const std::filesystem::path& programFolder);

@@ -91,11 +91,11 @@ class Scanner {
   Scanner(std::string_view text, const XmlLimits& limits) : rest_(text), limits_(limits) {}
 
   bool Document() {
-    if (!Declaration() || !Surroundings() || !DocumentType() || !Surroundings() || !StartTag()) return false;
+    if (!Declaration() || !Misc() || !DocumentType() || !Misc() || !StartTag()) return false;
     while (!open_.empty()) {
       if (!Content()) return false;
     }
-    return Surroundings() && rest_.empty();
+    return Misc() && rest_.empty();
   }
 
  private:
@@ -159,8 +159,8 @@ class Scanner {
     return TakeAttributes("?>", "?>") && Take("?>") && IsDeclaration(attributes_);
   }
 
-  /// Consumes the white space, comments and processing instructions that may surround the document element.
-  bool Surroundings() {
+  /// Consumes the white space, comments and processing instructions around the document element ("Misc" in XML 1.0).
+  bool Misc() {
     while (true) {
       TakeBlanks();
       if (rest_.starts_with("<!--")) {
