@@ -186,11 +186,21 @@ TEST_F(mFileFunctionsTest, MakePathCreatesTheWholeChain) {
 
 TEST_F(mFileFunctionsTest, MakePathSucceedsEvenIfNothingCanBeCreated) {
   folder.Write("file", "x");
-  for (const char* path : {"D:\\a\\b", "\\\\server\\share\\a\\b", "\\\\server", "C:\\file\\a", "", "C:", ":", "\\"}) {
+  for (const char* path : {"D:\\a\\b", "\\\\server\\share\\a\\b", "\\\\server", "C:\\file\\a", "", "C:", "\\"}) {
     EXPECT_TRUE(files.MakePath(path)) << path;
   }
   EXPECT_TRUE(files.MakePath("C:\\" + std::string(5000, 'x')));
   EXPECT_EQ(fakes::NamesIn(folder.Path()), std::vector<std::string>{"file"});
+}
+
+TEST_F(mFileFunctionsTest, MakePathOfATextWithoutADriveIsInTheWorkingFolder) {
+  const auto before = fs::current_path();
+  fs::current_path(folder.Path());
+  EXPECT_TRUE(files.MakePath("a\\b"));
+  EXPECT_TRUE(files.MakePath(":"));
+  fs::current_path(before);
+  EXPECT_TRUE(fs::is_directory(folder.Path() / "a/b"));
+  EXPECT_TRUE(fs::is_directory(folder.Path() / ":"));
 }
 
 TEST_F(mFileFunctionsTest, MakePathFailsIfTheTextIsNotAPath) {
