@@ -21,16 +21,12 @@ struct Bias {
   int odd;
 };
 
-std::uint8_t Byte(int value) {
-  return static_cast<std::uint8_t>(std::clamp(value, 0, 255));
-}
-
 void WriteColor(int luminance, int blue, int red, std::uint8_t* bgr) {
   blue -= kMiddle;
   red -= kMiddle;
-  bgr[0] = Byte(luminance + ((kBlueOfBlue * blue + kHalf) >> 16));
-  bgr[1] = Byte(luminance + ((kGreenOfBlue * blue + kGreenOfRed * red + kHalf) >> 16));
-  bgr[2] = Byte(luminance + ((kRedOfRed * red + kHalf) >> 16));
+  bgr[0] = ToSample(luminance + ((kBlueOfBlue * blue + kHalf) >> 16));
+  bgr[1] = ToSample(luminance + ((kGreenOfBlue * blue + kGreenOfRed * red + kHalf) >> 16));
+  bgr[2] = ToSample(luminance + ((kRedOfRed * red + kHalf) >> 16));
 }
 
 Bias BiasOf(Chroma chroma) {

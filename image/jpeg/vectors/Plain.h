@@ -24,13 +24,13 @@ inline void Store(Shorts vector, std::int16_t* values) {
 }
 /// Clamps the lanes to the range of a sample.
 inline void StoreSamples(Shorts vector, std::uint8_t* samples) {
-  for (int i = 0; i < 8; ++i) samples[i] = static_cast<std::uint8_t>(std::clamp<int>(vector[i], 0, 255));
+  for (int i = 0; i < 8; ++i) samples[i] = ToSample(vector[i]);
 }
 /// Stores eight pixels of three bytes. Clamps the lanes to the range of a sample. The byte that follows the pixels must
 /// be writable; what it holds then is undefined.
 inline void StorePixels(Shorts blue, Shorts green, Shorts red, std::uint8_t* bgr) {
   for (int i = 0; i < 8; ++i) {
-    for (const int value : {blue[i], green[i], red[i]}) *bgr++ = static_cast<std::uint8_t>(std::clamp(value, 0, 255));
+    for (const int value : {blue[i], green[i], red[i]}) *bgr++ = ToSample(value);
   }
 }
 

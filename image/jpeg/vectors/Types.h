@@ -1,8 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace vantorium::image::jpeg {
+
+/// Clamps to the range of a sample.
+[[nodiscard]] inline std::uint8_t ToSample(int value) {
+  return static_cast<std::uint8_t>(std::clamp(value, 0, 255));
+}
 
 /// Vectors of 128 bits. The compiler adds, subtracts and shifts them lane by lane.
 using Shorts [[gnu::vector_size(16)]] = std::int16_t;
