@@ -4,6 +4,7 @@
 #include "tests/fakes/FaultInjection.h"
 #include "tests/fakes/FolderNames.h"
 #include "tests/fakes/TemporaryFolder.h"
+#include "tests/fakes/WorkingFolder.h"
 
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -29,10 +30,8 @@ TEST(FileOutput, TheTargetHoldsTheBytes) {
 
 TEST(FileOutput, ATargetWithoutAFolderIsInTheWorkingFolder) {
   const fakes::TemporaryFolder folder;
-  const auto before = fs::current_path();
-  fs::current_path(folder.Path());
+  const fakes::WorkingFolder working(folder.Path());
   WriteFileWhole("a.htm", "x");
-  fs::current_path(before);
   EXPECT_EQ(folder.Read("a.htm"), "x");
 }
 

@@ -1,5 +1,6 @@
 #include "env/PathMap.h"
 #include "tests/fakes/TemporaryFolder.h"
+#include "tests/fakes/WorkingFolder.h"
 
 namespace vantorium::env {
 namespace {
@@ -155,13 +156,11 @@ TEST(PathMap, ATildeInASettingIsTheHomeFolder) {
 }
 
 TEST(PathMap, WithoutAWorkingFolderTypedTextIsKept) {
-  const auto before = std::filesystem::current_path();
   const fakes::TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() / "gone");
-  std::filesystem::current_path(folder.Path() / "gone");
+  const fakes::WorkingFolder working(folder.Path() / "gone");
   std::filesystem::remove(folder.Path() / "gone");
   EXPECT_EQ(PathMap(kDrives).ToTextFromUser("a/b"), "a\\b");
-  std::filesystem::current_path(before);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "tests/fakes/FailureOf.h"
 #include "tests/fakes/FolderNames.h"
 #include "tests/fakes/TemporaryFolder.h"
+#include "tests/fakes/WorkingFolder.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -194,11 +195,9 @@ TEST_F(mFileFunctionsTest, MakePathSucceedsEvenIfNothingCanBeCreated) {
 }
 
 TEST_F(mFileFunctionsTest, MakePathOfATextWithoutADriveIsInTheWorkingFolder) {
-  const auto before = fs::current_path();
-  fs::current_path(folder.Path());
+  const fakes::WorkingFolder working(folder.Path());
   EXPECT_TRUE(files.MakePath("a\\b"));
   EXPECT_TRUE(files.MakePath(":"));
-  fs::current_path(before);
   EXPECT_TRUE(fs::is_directory(folder.Path() / "a/b"));
   EXPECT_TRUE(fs::is_directory(folder.Path() / ":"));
 }
