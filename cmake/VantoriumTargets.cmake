@@ -7,6 +7,7 @@ add_compile_options(-pthread)  # for all targets, or they could not share precom
 
 find_program(CCACHE ccache)
 if(CCACHE)
+  # CCACHE_DEPEND: takes the headers from the compiler's own list, so that no file is preprocessed a second time.
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
     CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
   # The cache sees through precompiled headers only with these; each compiler has its own.
